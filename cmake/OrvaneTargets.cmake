@@ -1,0 +1,57 @@
+# How every target of the project is made: language level, warnings, include root, tests.
+include_guard(GLOBAL)
+
+option(ORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+
+# The settings that all of our own code is compiled with.
+add_library(orvane_compile_settings INTERFACE)
+target_compile_features(orvane_compile_settings INTERFACE cxx_std_20)
+target_include_directories(orvane_compile_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_compile_options(orvane_compile_settings INTERFACE
+  -Wall -Wextra -Wconversion -Wshadow
+  # Same input, same bits: a product and a sum are never fused behind our back.
+  -ffp-contract=off
+  $<$<BOOL:${ORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+
+function(orvane_apply_settings target)
+  target_link_libraries(${target} PRIVATE orvane_compile_settings)
+  set_target_properties(${target} PROPERTIES
+    CXX_EXTENSIONS OFF
+    CXX_STANDARD 20
+    CXX_VISIBILITY_PRESET hidden
+    VISIBILITY_INLINES_HIDDEN ON
+    POSITION_INDEPENDENT_CODE ON)
+endfunction()
+
+# orvane_library(name SOURCES file... [LINKS target...])
+# A static library of one folder; LINKS are the folders it may use, and pass on to its users.
+function(orvane_library name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_library(${name} STATIC ${ARG_SOURCES})
+  orvane_apply_settings(${name})
+  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_compile_features(${name} PUBLIC cxx_std_20)
+  target_link_libraries(${name} PUBLIC ${ARG_LINKS})
+endfunction()
+
+# orvane_headers(name [LINKS target...]): a folder that holds declarations only.
+function(orvane_headers name)
+  cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
+  add_library(${name} INTERFACE)
+  target_include_directories(${name} INTERFACE "${PROJECT_SOURCE_DIR}")
+  target_compile_features(${name} INTERFACE cxx_std_20)
+  target_link_libraries(${name} INTERFACE ${ARG_LINKS})
+endfunction()
+
+# orvane_test(name SOURCES file... [LINKS target...]): one test program per folder.
+function(orvane_test name)
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  add_executable(${name} ${ARG_SOURCES})
+  orvane_apply_settings(${name})
+  set_target_properties(${name} PROPERTIES
+    RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+  target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
+  target_compile_definitions(${name} PRIVATE
+    ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  gtest_discover_tests(${name} DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+endfunction()
