@@ -3,10 +3,18 @@ include_guard(GLOBAL)
 
 option(ORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 
+# A compiler cache is used where there is one.
+find_program(ORVANE_CCACHE ccache)
+if(ORVANE_CCACHE AND NOT DEFINED CMAKE_CXX_COMPILER_LAUNCHER)
+  set(CMAKE_CXX_COMPILER_LAUNCHER "${ORVANE_CCACHE}")
+endif()
+
+cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH ORVANE_ROOT)
+
 # The settings that all of our own code is compiled with.
 add_library(orvane_compile_settings INTERFACE)
 target_compile_features(orvane_compile_settings INTERFACE cxx_std_20)
-target_include_directories(orvane_compile_settings INTERFACE "${PROJECT_SOURCE_DIR}")
+target_include_directories(orvane_compile_settings INTERFACE "${ORVANE_ROOT}")
 target_compile_options(orvane_compile_settings INTERFACE
   -Wall -Wextra -Wconversion -Wshadow
   # Same input, same bits: a product and a sum are never fused behind our back.
@@ -29,7 +37,7 @@ function(orvane_library name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
   add_library(${name} STATIC ${ARG_SOURCES})
   orvane_apply_settings(${name})
-  target_include_directories(${name} PUBLIC "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${name} PUBLIC "${ORVANE_ROOT}")
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
@@ -38,7 +46,7 @@ endfunction()
 function(orvane_headers name)
   cmake_parse_arguments(ARG "" "" "LINKS" ${ARGN})
   add_library(${name} INTERFACE)
-  target_include_directories(${name} INTERFACE "${PROJECT_SOURCE_DIR}")
+  target_include_directories(${name} INTERFACE "${ORVANE_ROOT}")
   target_compile_features(${name} INTERFACE cxx_std_20)
   target_link_libraries(${name} INTERFACE ${ARG_LINKS})
 endfunction()
