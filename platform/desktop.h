@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstddef>
+
+#include "platform/dialog.h"
+#include "platform/export.h"
+#include "platform/handles.h"
+#include "platform/message_box.h"
+#include "platform/registry.h"
+
+// What a program without Windows gives the plug-in in place of the system: somebody who reads
+// message boxes and answers dialogs, and a registry. The portable bodies of the platform forward to
+// the desktop in use. Tests and the command line provide a scripted one.
+//
+// Only plain data and interface pointers cross here, because the plug-in and the program are
+// different modules.
+
+namespace platform {
+
+// A registry as the portable bodies use it; the operations mean what their namesakes in
+// platform/registry.h say.
+class Registry {
+ public:
+  virtual RegistryKey* CreateKey(RegistryKey* parent, const char* path) = 0;
+  virtual void CloseKey(RegistryKey* key) = 0;
+  virtual bool QueryValue(RegistryKey* key, const char* name, void* data, std::size_t& size) = 0;
+  virtual bool SetValue(RegistryKey* key, const char* name, RegistryType type, const void* data,
+                        std::size_t size) = 0;
+
+ protected:
+  ~Registry() = default;
+};
+
+class Desktop {
+ public:
+  // Shows a message box and returns the button that closed it (MessageBoxResult).
+  virtual int ShowMessage(const char* text, const char* caption, MessageBoxStyle style) = 0;
+
+  // Builds dialog `dialog_id` from the resources of `module`, lets `handler` run it and returns its
+  // result, or kDialogNotCreated.
+  virtual int RunDialog(HINSTANCE module, int dialog_id, HWND parent, DialogHandler& handler) = 0;
+
+  // The registry of the current user. Lives at least as long as any module that was loaded while
+  // this desktop was installed.
+  virtual Registry& CurrentUser() = 0;
+
+ protected:
+  ~Desktop() = default;
+};
+
+// Puts `desktop` in use for the whole process; null takes the one in use away. The caller keeps
+// owning it. Install it before the module is loaded: its option records open their keys during
+// loading. Provided by the host library, the one place of this state.
+SKELDER_API void InstallDesktop(Desktop* desktop);
+
+// The desktop in use, or null. The portable bodies then report failure: no key opens, no dialog is
+// created, a message box answers kMessageBoxFailed.
+SKELDER_API Desktop* CurrentDesktop();
+
+}  // namespace platform
