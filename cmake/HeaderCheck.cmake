@@ -1,15 +1,19 @@
 # A header is complete when a source file that holds nothing but its #include compiles.
 include_guard(GLOBAL)
 
-# orvane_check_headers(name DIRECTORIES directory...)
-# An object library, not part of the default build, that compiles every header below the
-# directories (relative to the repository's root) alone. Finding no header is an error.
+# orvane_check_headers(name DIRECTORIES directory... [EXCLUDE regex])
+# An object library, not part of the default build, that compiles alone every header below the
+# directories (relative to the repository's root) but those whose name matches the regular
+# expression. Finding no header is an error.
 function(orvane_check_headers name)
-  cmake_parse_arguments(ARG "" "" "DIRECTORIES" ${ARGN})
+  cmake_parse_arguments(ARG "" "EXCLUDE" "DIRECTORIES" ${ARGN})
   set(patterns ${ARG_DIRECTORIES})
   list(TRANSFORM patterns PREPEND "${ORVANE_ROOT}/")
   list(TRANSFORM patterns APPEND "/*.h")
   file(GLOB_RECURSE headers RELATIVE "${ORVANE_ROOT}" CONFIGURE_DEPENDS ${patterns})
+  if(ARG_EXCLUDE)
+    list(FILTER headers EXCLUDE REGEX "${ARG_EXCLUDE}")
+  endif()
   if(NOT headers)
     message(FATAL_ERROR "No header found below ${ARG_DIRECTORIES}")
   endif()

@@ -1,0 +1,61 @@
+"""./dev says what it can do, refuses what it cannot, and installs only what is missing."""
+
+import os
+import pathlib
+import subprocess
+import unittest
+
+ROOT = pathlib.Path(os.environ["ORVANE_SOURCE_DIR"])
+
+
+def run(*command):
+    return subprocess.run(command, cwd=ROOT, capture_output=True, text=True, check=False)
+
+
+def with_setup(script):
+    """Runs a script that has the functions of tools/setup.sh, with installing replaced."""
+    replaced = 'as_root() { echo "ran $*"; }'
+    return run("bash", "-euo", "pipefail", "-c", f"source tools/setup.sh; {replaced}; {script}")
+
+
+class CommandsTest(unittest.TestCase):
+    def test_help_lists_every_command(self):
+        listed = {line.split()[0] for line in run("./dev", "help").stdout.splitlines()
+                  if line.startswith("  ")}
+        self.assertEqual(listed,
+                         {"help", "build", "test", "check", "sanitize", "bench", "demo"})
+
+    def test_no_command_gives_the_help(self):
+        self.assertEqual(run("./dev").stdout, run("./dev", "help").stdout)
+
+    def test_an_unknown_command_is_wrong_usage(self):
+        result = run("./dev", "tset")
+        self.assertEqual(result.returncode, 2)
+        self.assertEqual(result.stdout, "")
+        self.assertIn("dev: unknown command 'tset'", result.stderr)
+
+
+class SetupTest(unittest.TestCase):
+    NEEDS = "$'command bash bash\\ncommand no-such-command one\\nheader no/such.h two\\npath /* x'"
+
+    def test_missing_packages_are_those_whose_command_header_or_path_is_absent(self):
+        self.assertEqual(with_setup(f"missing_packages {self.NEEDS}").stdout, "one\ntwo\n")
+
+    def test_nothing_is_done_when_nothing_is_missing(self):
+        result = with_setup("need $'command bash bash\\npath /* x'")
+        self.assertEqual((result.returncode, result.stdout, result.stderr), (0, "", ""))
+
+    def test_what_is_missing_is_named_then_installed_after_one_update(self):
+        result = with_setup(f"can_install() {{ true; }}; need {self.NEEDS}")
+        lines = result.stdout.splitlines()
+        self.assertEqual(lines[0], "dev: installing one two")
+        self.assertEqual([line.split()[-1] for line in lines[1:]], ["update", "two"])
+
+    def test_another_system_gets_the_names_and_a_stop(self):
+        result = with_setup(f"can_install() {{ false; }}; need {self.NEEDS}; echo went on")
+        self.assertEqual((result.returncode, result.stdout), (1, ""))
+        self.assertIn("one two", result.stderr)
+
+
+if __name__ == "__main__":
+    unittest.main()

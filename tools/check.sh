@@ -1,0 +1,64 @@
+# Sourced by ./dev: the steps of ./dev check. Each is a function whose status says whether all
+# is well; one that finds nothing to look at fails.
+# shellcheck shell=bash
+
+readonly check_steps='format scripts includes warnings headers portability analysis'
+
+# Files that git knows or would add, matching the patterns, one a line.
+our_files() {
+  git ls-files --cached --others --exclude-standard -- "$@" | grep . || {
+    echo "dev: no file matches $*" >&2
+    return 1
+  }
+}
+
+check_format() {
+  our_files '*.h' '*.cpp' | xargs --no-run-if-empty clang-format --dry-run -Werror
+}
+
+check_scripts() {
+  our_files dev .ci/run | xargs --no-run-if-empty shellcheck --external-sources --check-sourced
+}
+
+check_includes() {
+  our_files '*.h' '*.cpp' | tools/check_includes.py tools/include_rules.txt
+}
+
+check_warnings() {
+  cmake --build --preset default
+}
+
+check_headers() {
+  cmake --build --preset default --target check_headers
+}
+
+check_portability() {
+  cmake -S cmake/portability -B build-portability -G Ninja --log-level=WARNING \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" -DORVANE_WARNINGS_AS_ERRORS=ON &&
+    cmake --build build-portability --target portable_headers portable_sources
+}
+
+# The sources that the default build compiles, ours alone.
+built_sources() {
+  sed -n 's/^  "file": "\(.*\)",\{0,1\}$/\1/p' build/compile_commands.json |
+    grep '\.cpp$' | grep -v "^$PWD/build/"
+}
+
+# clang's own warnings are among the diagnostics, so this is the check for them too.
+check_analysis() {
+  built_sources | xargs --no-run-if-empty --max-args=1 --max-procs="$(nproc)" clang-tidy -p build --quiet \
+    2> >(grep -v ' warnings\? generated\.$' >&2)
+}
+
+run_checks() {
+  local step failed=()
+  for step in $check_steps; do
+    echo "== $step"
+    "check_$step" || failed+=("$step")
+  done
+  ((${#failed[@]} == 0)) || {
+    echo "dev: failed: ${failed[*]}" >&2
+    return 1
+  }
+  echo "dev: all checks passed"
+}

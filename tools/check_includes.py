@@ -1,0 +1,84 @@
+#!/usr/bin/env python3
+"""Checks the includes of source files against a table of who may include whom.
+
+Usage: check_includes.py RULES < LIST_OF_FILES
+
+Reads file names, relative to the current directory, one a line. Prints every include that the
+table does not allow and exits with 1 if there is one, or if nothing was there to check.
+The form of the table is described at its top.
+"""
+
+import re
+import sys
+
+# The headers of the C++20 standard library, C's in their C++ form alone.
+STANDARD_HEADERS = frozenset("""
+algorithm any array atomic barrier bit bitset cassert cctype cerrno cfenv cfloat charconv chrono
+cinttypes climits clocale cmath codecvt compare complex concepts condition_variable coroutine
+csetjmp csignal cstdarg cstddef cstdint cstdio cstdlib cstring ctime cuchar cwchar cwctype deque
+exception execution filesystem forward_list fstream functional future initializer_list iomanip
+ios iosfwd iostream istream iterator latch limits list locale map memory memory_resource mutex
+new numbers numeric optional ostream queue random ranges ratio regex scoped_allocator semaphore
+set shared_mutex span sstream stack stdexcept stop_token streambuf string string_view strstream
+syncstream system_error thread tuple type_traits typeindex typeinfo unordered_map unordered_set
+utility valarray variant vector version
+""".split())
+
+INCLUDE = re.compile(r'^\s*#\s*include\s*(["<])([^">]+)[">]', re.MULTILINE)
+
+
+def glob_to_regex(pattern):
+    """`*` stays within a folder, `**` does not."""
+    parts = (".*" if part == "**" else "[^/]*" if part == "*" else re.escape(part)
+             for part in re.split(r"(\*\*|\*)", pattern))
+    return re.compile("".join(parts) + r"\Z")
+
+
+def read_rules(text):
+    """The table as a list of (files, [allowed...]), all of them compiled patterns."""
+    rules = []
+    for line in text.splitlines():
+        line = line.split("#", 1)[0].strip()
+        if line:
+            files, allowed = line.split(":", 1)
+            rules.append((glob_to_regex(files), [glob_to_regex(a) for a in allowed.split()]))
+    return rules
+
+
+def is_allowed(file, quote, header, allowed):
+    if quote == "<":
+        return header in STANDARD_HEADERS or any(a.match(f"<{header}>") for a in allowed)
+    folder = file.rpartition("/")[0]
+    return header.rpartition("/")[0] == folder or any(a.match(header) for a in allowed)
+
+
+def findings(file, text, rules):
+    """One message for each include of the file that its rule does not allow."""
+    allowed = next((allowed for files, allowed in rules if files.match(file)), None)
+    if allowed is None:
+        return [f"{file}: no rule says what this file may include"]
+    return [f"{file}:{text.count(chr(10), 0, match.start(1)) + 1}: may not include {match[2]}"
+            for match in INCLUDE.finditer(text)
+            if not is_allowed(file, match[1], match[2], allowed)]
+
+
+def main(rules_name):
+    with open(rules_name, encoding="utf-8") as rules_file:
+        rules = read_rules(rules_file.read())
+    includes_seen = 0
+    messages = []
+    for file in sys.stdin.read().splitlines():
+        with open(file, encoding="utf-8") as source:
+            text = source.read()
+        includes_seen += len(INCLUDE.findall(text))
+        messages += findings(file, text, rules)
+    if includes_seen == 0:
+        messages.append("check_includes: there was no include to check")
+    print("\n".join(messages), end="\n" if messages else "")
+    return 1 if messages else 0
+
+
+if __name__ == "__main__":
+    if len(sys.argv) != 2:
+        sys.exit(__doc__)
+    sys.exit(main(sys.argv[1]))

@@ -1,0 +1,96 @@
+# Sourced by ./dev: finds out what a command needs and is not there, and installs it.
+#
+# A tool counts as present when its command or header is found, whoever installed it. On
+# Debian 12 what is missing is installed with apt-get; elsewhere the packages are named and
+# the command stops. When nothing is missing nothing is done.
+# shellcheck shell=bash
+
+# One line per need: kind, what to look for, Debian package that has it.
+readonly build_needs='
+command cmake                                     cmake
+command g++                                       g++
+command ninja                                     ninja-build
+command ccache                                    ccache
+command x86_64-w64-mingw32-windres                binutils-mingw-w64-x86-64
+header  CLI/CLI.hpp                               libcli11-dev
+header  nlohmann/json.hpp                         nlohmann-json3-dev
+header  tiny_gltf.h                               libtinygltf-dev
+header  sqlite3.h                                 libsqlite3-dev
+header  gtest/gtest.h                             libgtest-dev
+header  gmock/gmock.h                             libgmock-dev
+'
+readonly test_needs='
+command python3                                   python3
+command node                                      nodejs
+command npm                                       npm
+path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
+'
+readonly check_needs='
+command clang-format                              clang-format
+command clang-tidy                                clang-tidy
+command clang++                                   clang
+command git                                       git
+command shellcheck                                shellcheck
+command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
+'
+readonly sanitize_needs='
+command clang++                                   clang
+path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
+'
+readonly bench_needs='
+command python3                                   python3
+header  benchmark/benchmark.h                     libbenchmark-dev
+'
+
+has_command() { command -v "$1" >/dev/null; }
+
+has_path() { compgen -G "$1" >/dev/null; }
+
+has_header() {
+  has_path "/usr/include/$1" || has_path "/usr/local/include/$1" ||
+    has_path "/usr/include/*-linux-gnu/$1"
+}
+
+# The packages of the given needs whose command, header or path is absent, one a line.
+missing_packages() {
+  local kind what package
+  while read -r kind what package; do
+    [[ -z $kind ]] || "has_$kind" "$what" || echo "$package"
+  done <<<"$1" | sort -u
+}
+
+is_debian_12() {
+  has_command apt-get && grep -qx 'ID=debian' /etc/os-release &&
+    grep -qx 'VERSION_ID="12"' /etc/os-release
+}
+
+can_install() { is_debian_12 && { ((EUID == 0)) || has_command sudo; }; }
+
+as_root() {
+  if ((EUID == 0)); then "$@"; else sudo "$@"; fi
+}
+
+install_packages() {
+  if ! can_install; then
+    echo "dev: these packages of Debian 12, or what they are called here, are needed: $*" >&2
+    exit 1
+  fi
+  echo "dev: installing $*"
+  as_root apt-get -qq -o DPkg::Lock::Timeout=300 update
+  as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
+    -o Dpkg::Use-Pty=0 install -y --no-install-recommends "$@"
+}
+
+# need LIST...: makes sure that everything in the lists is there.
+need() {
+  local packages
+  mapfile -t packages < <(missing_packages "$(printf '%s\n' "$@")")
+  ((${#packages[@]} == 0)) || install_packages "${packages[@]}"
+}
+
+# The npm packages of package-lock.json, installed again only when that file has changed.
+need_node_modules() {
+  [[ node_modules/.package-lock.json -nt package-lock.json ]] && return
+  echo "dev: installing the packages of package-lock.json below node_modules/"
+  npm ci --ignore-scripts --no-audit --no-fund --loglevel=error
+}
