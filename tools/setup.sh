@@ -18,9 +18,12 @@ header  tiny_gltf.h                               libtinygltf-dev
 header  sqlite3.h                                 libsqlite3-dev
 header  gtest/gtest.h                             libgtest-dev
 header  gmock/gmock.h                             libgmock-dev
+header  benchmark/benchmark.h                     libbenchmark-dev
 '
-readonly test_needs='
+readonly python_needs='
 command python3                                   python3
+'
+readonly node_needs='
 command node                                      nodejs
 command npm                                       npm
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
@@ -37,11 +40,6 @@ readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
 '
-readonly bench_needs='
-command python3                                   python3
-header  benchmark/benchmark.h                     libbenchmark-dev
-'
-
 has_command() { command -v "$1" >/dev/null; }
 
 has_path() { compgen -G "$1" >/dev/null; }
