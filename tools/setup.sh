@@ -31,7 +31,6 @@ path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
 readonly check_needs='
 command clang-format                              clang-format
 command clang-tidy                                clang-tidy
-command clang++                                   clang
 command git                                       git
 command shellcheck                                shellcheck
 command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
@@ -40,6 +39,7 @@ readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
 '
+
 has_command() { command -v "$1" >/dev/null; }
 
 has_path() { compgen -G "$1" >/dev/null; }
@@ -76,7 +76,7 @@ install_packages() {
   echo "dev: installing $*"
   as_root apt-get -qq -o DPkg::Lock::Timeout=300 update
   as_root env DEBIAN_FRONTEND=noninteractive apt-get -qq -o DPkg::Lock::Timeout=300 \
-    -o Dpkg::Use-Pty=0 install -y --no-install-recommends "$@"
+    install -y --no-install-recommends "$@" >/dev/null
 }
 
 # need LIST...: makes sure that everything in the lists is there.
