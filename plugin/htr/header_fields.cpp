@@ -1,0 +1,123 @@
+#include "plugin/htr/header_fields.h"
+
+#include <algorithm>
+#include <array>
+
+#include "plugin/text/numbers.h"
+#include "plugin/units/units.h"
+
+namespace orvane {
+namespace {
+
+// One line of the header on its way into the document.
+struct Field {
+  std::string_view keyword;
+  std::string_view value;
+  HtrDocument& document;
+  std::int64_t& segments_awaited;
+  const HtrOddities& oddities;
+};
+
+std::string Incompatible(const Field& field) {
+  return "The file does not have a compatible \"" + std::string(field.keyword) + "\" header state";
+}
+
+// For keywords whose value is checked and not stored.
+template <typename... Words>
+std::string Require(const Field& field, Words... accepted) {
+  const bool matches = ((field.value == accepted) || ...);
+  return matches ? std::string() : Incompatible(field);
+}
+
+std::int32_t Int(const Field& field) {
+  field.oddities.CheckNumber(field.value);
+  return ParseInt(field.value);
+}
+
+std::string ReadFileType(const Field& field) { return Require(field, "HTR", "Htr", "htr"); }
+
+std::string ReadDataType(const Field& field) { return Require(field, "HTRS", "Htrs", "htrs"); }
+
+std::string ReadFileVersion(const Field& field) { return Require(field, "1"); }
+
+std::string ReadNumSegments(const Field& field) {
+  field.segments_awaited = Int(field);
+  return {};
+}
+
+std::string ReadNumFrames(const Field& field) {
+  field.document.SetNumFrames(static_cast<std::uint32_t>(std::max(Int(field), 0)));
+  return {};
+}
+
+std::string ReadDataFrameRate(const Field& field) {
+  field.document.SetDataFrameRate(Int(field));
+  return {};
+}
+
+std::string ReadEulerRotationOrder(const Field& field) { return Require(field, "ZYX"); }
+
+std::string ReadCalibrationUnits(const Field& field) {
+  field.oddities.ReportIf(!FindCalibrationUnits(field.value), HtrOddity::kUnknownCalibrationUnits,
+                          field.value);
+  field.document.SetCalibrationUnits(ParseCalibrationUnits(field.value));
+  return {};
+}
+
+std::string ReadRotationUnits(const Field& field) {
+  field.oddities.ReportIf(!FindRotationUnits(field.value), HtrOddity::kUnknownRotationUnits,
+                          field.value);
+  field.document.SetRotationUnits(ParseRotationUnits(field.value));
+  return {};
+}
+
+std::string ReadGlobalAxisofGravity(const Field& field) {
+  field.oddities.ReportIf(!FindAxis(field.value), HtrOddity::kUnknownAxis, field.value);
+  const std::uint32_t axis = ParseAxis(field.value);
+  field.document.SetGlobalAxisofGravity(axis);
+  return axis == kAxisX ? Incompatible(field) : std::string();
+}
+
+// Intended: checked and not stored, as the document's axis is Y already.
+std::string ReadBoneLengthAxis(const Field& field) { return Require(field, "Y"); }
+
+std::string ReadScaleFactor(const Field& field) {
+  field.oddities.CheckNumber(field.value);
+  field.document.SetScaleFactor(ParseDouble(field.value));
+  return {};
+}
+
+struct HeaderKeyword {
+  std::string_view name;
+  std::string (*read)(const Field&);
+};
+
+constexpr std::array<HeaderKeyword, 12> kHeaderKeywords = {{
+    {"FileType", ReadFileType},
+    {"DataType", ReadDataType},
+    {"FileVersion", ReadFileVersion},
+    {"NumSegments", ReadNumSegments},
+    {"NumFrames", ReadNumFrames},
+    {"DataFrameRate", ReadDataFrameRate},
+    {"EulerRotationOrder", ReadEulerRotationOrder},
+    {"CalibrationUnits", ReadCalibrationUnits},
+    {"RotationUnits", ReadRotationUnits},
+    {"GlobalAxisofGravity", ReadGlobalAxisofGravity},
+    {"BoneLengthAxis", ReadBoneLengthAxis},
+    {"ScaleFactor", ReadScaleFactor},
+}};
+
+}  // namespace
+
+std::string ReadHeaderField(std::string_view keyword, std::string_view value, HtrDocument& document,
+                            std::int64_t& segments_awaited, const HtrOddities& oddities) {
+  for (const HeaderKeyword& known : kHeaderKeywords) {
+    if (keyword == known.name) {
+      return known.read({keyword, value, document, segments_awaited, oddities});
+    }
+  }
+  oddities.Report(HtrOddity::kUnknownHeaderKeyword, keyword);
+  return {};
+}
+
+}  // namespace orvane

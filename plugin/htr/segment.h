@@ -1,0 +1,106 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "plugin/math/euler_rotation.h"
+#include "plugin/math/vector.h"
+
+// One bone of a motion file: its name, its place in the hierarchy, its base position and its
+// motion.
+//
+// Lengths are in the calibration units of the document, angles are radians, axes are the file's (Y
+// up; a bone's long axis is its local Y), all relative to the parent. Frame values are offsets from
+// the base position: a frame's translation is added to the base translation, and its rotation
+// stands to the right of the base rotation. Frames are counted from 0, whatever their number in the
+// file.
+namespace orvane {
+
+class HtrSegment {
+ public:
+  HtrSegment() = default;
+  explicit HtrSegment(std::string name) : name_(std::move(name)) {}
+
+  // True when the file names the global frame as this segment's parent.
+  bool GetIsRoot() const { return is_root_; }
+  void SetIsRoot(bool is_root) { is_root_ = is_root; }
+
+  std::string GetName() const { return name_; }
+  // Renames the segment, one stored in a document too: the document finds it by its new name.
+  void SetName(std::string name);
+
+  // Stores `parent`, which may be null, and lists this segment behind the parent's children. A
+  // segment that is set twice is listed twice. Neither pointer owns: both segments must keep their
+  // addresses, as the segments stored in one document do. Links may form a circle.
+  void SetParent(HtrSegment* parent);
+  HtrSegment* GetParent() const { return parent_; }
+  int GetNumChildren() const { return static_cast<int>(children_.size()); }
+  // Null when `index` is below 0 or not below the count.
+  HtrSegment* GetChild(int index) const;
+  // This segment or the first below it, depth first in the children's order, of that very name;
+  // null when there is none. Takes any depth, circles and segments that are listed more than once.
+  HtrSegment* FindDescendant(std::string_view name);
+
+  Vector3 GetBaseTranslation() const { return base_translation_; }
+  void SetBaseTranslation(double x, double y, double z) { base_translation_ = Vector3(x, y, z); }
+  EulerRotation GetBaseRotation() const { return base_rotation_; }
+  // Angles in the default Euler order.
+  void SetBaseRotation(double x, double y, double z) { base_rotation_ = EulerRotation(x, y, z); }
+  double GetBoneLength() const { return bone_length_; }
+  void SetBoneLength(double length) { bone_length_ = length; }
+  // The length by which a writer divides frame scales, when its document says so.
+  double GetScaleReferenceLength() const { return scale_reference_length_; }
+  void SetScaleReferenceLength(double length) { scale_reference_length_ = length; }
+
+  std::size_t GetNumFrames() const { return frame_scales_.size(); }
+  // Makes room for `count` frames in all.
+  void ReserveFrames(std::size_t count);
+  // Appends one frame; `angles` x, y, z in the default Euler order.
+  void AddFrame(const Vector3& translation, const Vector3& angles, double scale);
+  void AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale);
+
+  // The frame as stored. At or past the end: zero, and 1 for the scale.
+  Vector3 GetFrameTranslation(std::size_t index) const;
+  EulerRotation GetFrameRotation(std::size_t index) const;
+  double GetFrameScale(std::size_t index) const;
+  // Returns false, changing nothing, at or past the end.
+  bool SetFrameTranslation(std::size_t index, double x, double y, double z);
+
+  // The frame with its base: base translation plus frame translation. At or past the end: zero.
+  Vector3 GetFramePosition(std::size_t index) const;
+  // The frame with its base: angles of base rotation times frame rotation (the frame's is applied
+  // first) in the default Euler order. At or past the end: zero.
+  EulerRotation GetFrameOrientation(std::size_t index) const;
+
+  // Multiplies base translation, bone length and the translations of the first `frame_count`
+  // frames, as far as there are so many. Angles and scales stay.
+  void ScaleLengths(double factor, std::size_t frame_count);
+
+ private:
+  friend class HtrDocument;
+
+  // The owning document's flag that its names have changed. A copy of a segment is in no document.
+  struct NamesChangedFlag {
+    NamesChangedFlag() = default;
+    NamesChangedFlag(const NamesChangedFlag&) {}
+    NamesChangedFlag& operator=(const NamesChangedFlag&) { return *this; }
+    bool* flag = nullptr;
+  };
+
+  bool is_root_ = false;
+  std::string name_;
+  HtrSegment* parent_ = nullptr;
+  std::vector<HtrSegment*> children_;
+  Vector3 base_translation_;
+  EulerRotation base_rotation_;
+  double bone_length_ = 0.0;
+  double scale_reference_length_ = 1.0;
+  std::vector<Vector3> frame_translations_;
+  std::vector<EulerRotation> frame_rotations_;
+  std::vector<double> frame_scales_;
+  NamesChangedFlag names_changed_;
+};
+
+}  // namespace orvane

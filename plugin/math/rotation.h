@@ -1,0 +1,15 @@
+#pragma once
+
+// What the three representations of a rotation have in common. Angles are radians everywhere.
+namespace orvane {
+
+template <typename T>
+class OrvaneRotation {
+ public:
+  virtual ~OrvaneRotation() = 0;
+};
+
+template <typename T>
+inline OrvaneRotation<T>::~OrvaneRotation() = default;
+
+}  // namespace orvane

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// Files as a whole: the name under which one is opened, and its bytes. Names are UTF-8.
+namespace orvane {
+
+// Returns `name` itself when its fourth character from the end is a full stop, whatever the letters
+// behind it are; otherwise, and when it is shorter than four characters, `name` with `extension`
+// (such as ".htr") behind it.
+std::string WithExtension(std::string_view name, std::string_view extension);
+
+// Returns all bytes of the file, or nothing when it is missing, may not be read, is no file (a
+// directory or a device), cannot be read to its end, or does not fit into memory.
+std::optional<std::string> ReadFileBytes(const std::string& name);
+
+}  // namespace orvane

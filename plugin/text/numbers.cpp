@@ -1,0 +1,143 @@
+#include "plugin/text/numbers.h"
+
+#include <array>
+#include <charconv>
+#include <cstddef>
+#include <limits>
+#include <system_error>
+
+namespace orvane {
+namespace {
+
+constexpr bool IsDigit(char character) { return character >= '0' && character <= '9'; }
+
+constexpr bool IsBlank(char character) {
+  return character == ' ' || (character >= '\t' && character <= '\r');
+}
+
+std::string_view SkipBlanks(std::string_view text) {
+  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
+  return text;
+}
+
+// Moves `first` behind a sign, if one stands there; returns true when it was a minus.
+bool TakeSign(const char*& first, const char* last) {
+  if (first == last || (*first != '-' && *first != '+')) return false;
+  return *first++ == '-';
+}
+
+bool StartsNumber(const char* first, const char* last) {
+  if (first != last && *first == '.') ++first;
+  return first != last && IsDigit(*first);
+}
+
+// The powers of ten that a double holds exactly.
+constexpr std::array<double, 23> kPowersOfTen = {1e0,  1e1,  1e2,  1e3,  1e4,  1e5,  1e6,  1e7,
+                                                 1e8,  1e9,  1e10, 1e11, 1e12, 1e13, 1e14, 1e15,
+                                                 1e16, 1e17, 1e18, 1e19, 1e20, 1e21, 1e22};
+constexpr std::uint64_t kLargestExactInteger = std::uint64_t{1} << 53;
+constexpr std::ptrdiff_t kMostDigits = 19;  // of which any number fits 64 bits
+
+// The short way (Clinger, "How to read floating point numbers accurately", 1990): digits and power
+// of ten are both exact doubles, so that one division rounds correctly. Returns an end of null when
+// the number is not of that kind.
+LeadingDouble ReadPlainDecimal(const char* first, const char* last) {
+  std::uint64_t digits = 0;
+  const char* cursor = first;
+  for (; cursor != last && IsDigit(*cursor); ++cursor) {
+    digits = digits * 10 + static_cast<std::uint64_t>(*cursor - '0');
+  }
+  std::ptrdiff_t length = cursor - first;
+  std::size_t decimals = 0;
+  if (cursor != last && *cursor == '.') {
+    const char* fraction = ++cursor;
+    for (; cursor != last && IsDigit(*cursor); ++cursor) {
+      digits = digits * 10 + static_cast<std::uint64_t>(*cursor - '0');
+    }
+    decimals = static_cast<std::size_t>(cursor - fraction);
+    length += cursor - fraction;
+  }
+  const bool has_exponent = cursor != last && (*cursor == 'e' || *cursor == 'E');
+  if (length > kMostDigits || digits > kLargestExactInteger || has_exponent) return {};
+  return {static_cast<double>(digits) / kPowersOfTen[decimals], cursor};
+}
+
+// True when the number, known to be out of the range of double, is too large rather than too small.
+bool IsHuge(const char* first, const char* last) {
+  std::int64_t magnitude = 0;  // decimal position of the first digit that is not 0
+  bool in_fraction = false;
+  bool found = false;
+  const char* cursor = first;
+  for (; cursor != last && (IsDigit(*cursor) || *cursor == '.'); ++cursor) {
+    if (*cursor == '.') {
+      in_fraction = true;
+      continue;
+    }
+    found = found || *cursor != '0';
+    if (found && !in_fraction) ++magnitude;
+    if (!found && in_fraction) --magnitude;
+  }
+  if (cursor == last) return magnitude > 0;
+  ++cursor;  // the exponent's letter
+  const bool negative = TakeSign(cursor, last);
+  std::int64_t exponent = 0;
+  const std::errc error = std::from_chars(cursor, last, exponent).ec;
+  if (error == std::errc::result_out_of_range) return !negative;
+  return (negative ? -exponent : exponent) + magnitude > 0;
+}
+
+LeadingDouble ReadAnyDecimal(const char* first, const char* last) {
+  double value = 0.0;
+  const auto [end, error] = std::from_chars(first, last, value);
+  if (error == std::errc::result_out_of_range) {
+    value = IsHuge(first, end) ? std::numeric_limits<double>::infinity() : 0.0;
+  }
+  return {value, end};
+}
+
+}  // namespace
+
+std::int32_t ParseInt(std::string_view text) {
+  text = SkipBlanks(text);
+  const char* cursor = text.data();
+  const char* const last = cursor + text.size();
+  const bool negative = TakeSign(cursor, last);
+  constexpr std::int64_t kLimit = std::int64_t{std::numeric_limits<std::int32_t>::max()} + 1;
+  std::int64_t magnitude = 0;
+  for (; cursor != last && IsDigit(*cursor); ++cursor) {
+    magnitude = magnitude * 10 + (*cursor - '0');
+    if (magnitude > kLimit) magnitude = kLimit;
+  }
+  if (negative) return static_cast<std::int32_t>(-magnitude);
+  return static_cast<std::int32_t>(magnitude == kLimit ? kLimit - 1 : magnitude);
+}
+
+double ParseDouble(std::string_view text) {
+  text = SkipBlanks(text);
+  return ReadDouble(text.data(), text.data() + text.size()).value;
+}
+
+LeadingDouble ReadDouble(const char* first, const char* last) {
+  const char* cursor = first;
+  const bool negative = TakeSign(cursor, last);
+  if (!StartsNumber(cursor, last)) return {0.0, first};
+  LeadingDouble number = ReadPlainDecimal(cursor, last);
+  if (number.end == nullptr) number = ReadAnyDecimal(cursor, last);
+  if (negative) number.value = -number.value;
+  return number;
+}
+
+std::string FormatInt(std::int64_t value) {
+  std::array<char, 24> buffer;
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return std::string(buffer.data(), end);
+}
+
+std::string FormatDouble(double value, int decimals) {
+  std::array<char, 352> buffer;  // the longest double has 309 digits before the point
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
+                                          std::chars_format::fixed, decimals);
+  return std::string(buffer.data(), end);
+}
+
+}  // namespace orvane
