@@ -26,7 +26,6 @@ class Dialog {
   virtual void SetChecked(int control, bool checked) = 0;
   virtual bool IsChecked(int control) = 0;
   virtual void SetEnabled(int control, bool enabled) = 0;
-  virtual void SetFocus(int control) = 0;
 
   // Ends a modal dialog: RunModalDialog returns `result` once the handler has returned.
   virtual void End(int result) = 0;

@@ -1,0 +1,57 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "host/desktop/window.h"
+#include "platform/dialog.h"
+#include "platform/portable/dialog_template.h"
+
+// A dialog that is open on a desktop without screen: the state of its controls, built from the
+// template and changed by the dialog's handler. What the user does stands in scripted_dialog.h.
+
+namespace host {
+
+// A control and the state it is in.
+struct DialogControl {
+  int id = 0;
+  platform::ControlKind kind = platform::ControlKind::kOther;
+  std::string text;
+  bool read_only = false;
+  bool enabled = true;
+  bool checked = false;
+};
+
+class OpenDialog final : public platform::Dialog {
+ public:
+  // Builds the controls of `dialog`, unchecked and empty but for their texts. `parent` may be null.
+  OpenDialog(const platform::DialogTemplate& dialog, HWND parent);
+  OpenDialog(const OpenDialog&) = delete;
+  OpenDialog& operator=(const OpenDialog&) = delete;
+
+  HWND Window() override;
+  void SetText(int control, const char* text) override;
+  std::size_t GetText(int control, char* buffer, std::size_t size) override;
+  void SetChecked(int control, bool checked) override;
+  bool IsChecked(int control) override;
+  void SetEnabled(int control, bool enabled) override;
+  void End(int result) override;
+
+  [[nodiscard]] const std::string& Title() const { return title_; }
+  [[nodiscard]] const std::vector<DialogControl>& Controls() const { return controls_; }
+  [[nodiscard]] bool HasEnded() const { return ended_; }
+  [[nodiscard]] int Result() const { return result_; }  // of the last End
+
+  // The control `id`, or null. Valid as long as the dialog.
+  DialogControl* Find(int id);
+
+ private:
+  HWND__ window_;
+  std::string title_;
+  std::vector<DialogControl> controls_;
+  bool ended_ = false;
+  int result_ = platform::kDialogNotCreated;
+};
+
+}  // namespace host

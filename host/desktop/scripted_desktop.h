@@ -1,0 +1,76 @@
+#pragma once
+
+#include <functional>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "host/desktop/script_failure.h"
+#include "host/desktop/scripted_dialog.h"
+#include "platform/desktop.h"
+#include "platform/export.h"
+
+// A desktop whose user is a script: tests and the command line answer the plug-in's dialogs and
+// messages with functions of their own. It is never silent about a question that stays open: a
+// dialog or message that no function answers is a failure, and so is a dialog that its function
+// leaves open.
+
+namespace host {
+
+// A message box that was shown.
+struct MessageBox {
+  std::string text;
+  std::string caption;
+  platform::MessageBoxStyle style = platform::MessageBoxStyle::kOk;
+  int answer = platform::kMessageBoxFailed;  // a MessageBoxResult, once it has been answered
+};
+
+// What the user does. Either function may throw anything: the desktop catches it, lets the plug-in
+// see a dialog that could not be created or a message that failed, and hands it out by
+// RethrowFailure when the plug-in is done.
+struct ScriptedUser {
+  // Uses an open dialog until it has ended.
+  std::function<void(ScriptedDialog&)> answer_dialog;
+
+  // Returns the button pressed (a MessageBoxResult that the box has).
+  std::function<int(const MessageBox&)> answer_message;
+};
+
+class SKELDER_API ScriptedDesktop final : public platform::Desktop {
+ public:
+  // `registry` stays the caller's and must outlive the desktop and every module loaded meanwhile.
+  explicit ScriptedDesktop(platform::Registry& registry);
+  ScriptedDesktop(const ScriptedDesktop&) = delete;
+  ScriptedDesktop& operator=(const ScriptedDesktop&) = delete;
+  ~ScriptedDesktop();
+
+  // Who answers from now on. Nobody at first.
+  void SetUser(ScriptedUser user);
+
+  // From now on dialog `dialog_id` cannot be created, as if the system had run out of memory.
+  void RefuseDialog(int dialog_id);
+
+  // All message boxes so far, in the order in which they were shown.
+  [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
+
+  // Throws the first failure, if there was one. After it nobody was asked any more: dialogs
+  // were not created and messages failed. Call it when the plug-in has returned.
+  void RethrowFailure() const;
+
+  int ShowMessage(const char* text, const char* caption, platform::MessageBoxStyle style) override;
+  int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
+                platform::DialogHandler& handler) override;
+  platform::Registry& CurrentUser() override;
+
+ private:
+  int AnswerOf(const MessageBox& message);
+  void LetUserAnswer(int dialog_id, OpenDialog& dialog, platform::DialogHandler& handler);
+
+  platform::Registry& registry_;
+  ScriptedUser user_;
+  std::set<int> refused_dialogs_;
+  std::vector<MessageBox> messages_;
+  ScriptFailure failure_;
+};
+
+}  // namespace host

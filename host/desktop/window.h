@@ -1,0 +1,11 @@
+#pragma once
+
+#include "platform/handles.h"
+
+// What a window handle points at in the stand-in host. Nothing is drawn: a window is known by its
+// address, and remembers what tests ask about. Whoever creates a window owns it.
+
+struct HWND__ {
+  HWND parent = nullptr;
+  HWND centred_over = nullptr;  // the last window that CenterWindow put this one over
+};

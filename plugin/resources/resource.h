@@ -1,0 +1,53 @@
+/* The numbers of the resources in OrvaneFileIO.rc: strings, dialogs and their controls. The
+   resource compiler reads this file too, so it holds plain definitions only. A control that does
+   the same in several dialogs has the same number in all of them. */
+#pragma once
+
+/* String table. */
+#define IDS_LIBRARY_DESCRIPTION 1
+#define IDS_CATEGORY 2
+#define IDS_UTILITY_NAME 3
+#define IDS_UTILITY_OPTIONS 4
+#define IDS_SELECT_MAPPING_FILE 5
+#define IDS_CONVERT_TRC_TO_BVK 6
+#define IDS_HTR_FILES 11
+#define IDS_TRC_FILES 13
+#define IDS_IMPORT_HTR_OPTIONS 22
+#define IDS_EXPORT_HTR_OPTIONS 23
+#define IDS_IMPORT_TRC_OPTIONS 24
+#define IDS_IMPORT_HTR 29
+#define IDS_EXPORT_HTR 31
+#define IDS_IMPORT_TRC 32
+#define IDS_UTILITIES 33
+#define IDS_MNM_FILES 34
+#define IDS_BVK_FILES 35
+
+/* Dialogs and bitmaps. */
+#define IDD_IMPORT_HTR 107
+#define IDB_ABOUT 112
+#define IDD_ABOUT 114
+
+/* Controls of every dialog. */
+#define IDC_OK 1097
+#define IDC_CANCEL 1098
+
+/* Asks for the About dialog. No options dialog shows it, but they answer it. */
+#define IDC_ABOUT 1103
+
+/* Controls of the options of the HTR importer. */
+#define IDC_BASE_POSITION 1017
+#define IDC_END_EFFECTORS 1019
+#define IDC_SPARE 1023 /* in no dialog */
+#define IDC_EULER 1051
+#define IDC_TCB 1052
+#define IDC_ANIMATION 1063
+#define IDC_FROM 1065
+#define IDC_TO 1066
+#define IDC_ALL 1067
+#define IDC_RANGE 1068
+#define IDC_CREATE 1085
+#define IDC_APPLY 1086
+#define IDC_GLOBAL_SCALE 1088
+#define IDC_OFFSET 1089
+#define IDC_SEGMENT_SIZE 1104
+#define IDC_SET_FRAME_RATE 1140
