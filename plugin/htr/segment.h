@@ -85,6 +85,7 @@ class HtrSegment {
   struct NamesChangedFlag {
     NamesChangedFlag() = default;
     NamesChangedFlag(const NamesChangedFlag&) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
     NamesChangedFlag& operator=(const NamesChangedFlag&) { return *this; }
     bool* flag = nullptr;
   };

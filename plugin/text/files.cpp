@@ -10,7 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr std::size_t kExtensionLength = 4;
-constexpr std::size_t kChunk = 64 * 1024;
+constexpr std::size_t kChunk = std::size_t{64} * 1024;
 
 std::filesystem::path PathOf(const std::string& utf8_name) {
   return std::filesystem::path(std::u8string(utf8_name.begin(), utf8_name.end()));
