@@ -1,0 +1,18 @@
+#pragma once
+
+#include "host/animation/value_controller.h"
+#include "sdk/geom/quat.h"
+
+namespace host {
+
+// A rotation controller of any kind. The value at a key's tick is, bit for bit, the rotation that
+// was set there. A relative change is applied after the rotation, in the space of the parent.
+class SKELDER_API RotationController : public ValueController<Quat> {
+ public:
+  using ValueController::ValueController;
+
+ protected:
+  Quat Changed(const Quat& value, const Quat& change) const final;
+};
+
+}  // namespace host
