@@ -1,0 +1,21 @@
+#pragma once
+
+#include <array>
+
+#include "platform/handles.h"
+
+// The module's texts by number.
+namespace orvane {
+
+class StringTable {
+ public:
+  // The text of string `id` of `module`, cut to 255 characters; null when `module` is null or has
+  // no such string. It lies in the one buffer of this object: the next call overwrites it, so
+  // callers use or copy it before.
+  const char* GetString(HINSTANCE module, unsigned int id);
+
+ private:
+  std::array<char, 256> buffer_{};
+};
+
+}  // namespace orvane
