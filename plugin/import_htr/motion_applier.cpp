@@ -1,0 +1,53 @@
+#include "plugin/import_htr/motion_applier.h"
+
+#include <vector>
+
+#include "plugin/import_htr/bone_children.h"
+#include "plugin/import_htr/segment_keyer.h"
+
+namespace orvane {
+namespace {
+
+// A segment that is keyed, and whose children are being so.
+struct OpenSegment {
+  OpenSegment(INode& node, const HtrSegment& its_segment) : segment(its_segment), bones(node) {}
+
+  const HtrSegment& segment;
+  BoneChildren bones;
+  int next_child = 0;
+};
+
+}  // namespace
+
+bool MotionApplier::Apply(INode& node, const HtrSegment& segment) {
+  if (!KeySegment(node, segment)) return false;
+
+  std::vector<OpenSegment> open;
+  open.emplace_back(node, segment);
+  while (!open.empty()) {
+    OpenSegment& parent = open.back();
+    const HtrSegment* child = parent.segment.GetChild(parent.next_child++);
+    if (child == nullptr) {
+      CountProcessed();
+      open.pop_back();
+      continue;
+    }
+    INode* bone = parent.bones.Find(child->GetName());
+    if (bone == nullptr) continue;
+    if (!KeySegment(*bone, *child)) return false;
+    open.emplace_back(*bone, *child);
+  }
+  return true;
+}
+
+bool MotionApplier::KeySegment(INode& node, const HtrSegment& segment) {
+  if (++visits_ > segment_budget_) return false;
+  return SegmentKeyer(interface_, options_, times_, node, segment).Run();
+}
+
+void MotionApplier::CountProcessed() {
+  ++processed_;
+  interface_.ProgressUpdate(static_cast<int>(10 + 90 * processed_ / segment_count_));
+}
+
+}  // namespace orvane

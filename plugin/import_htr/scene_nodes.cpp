@@ -1,0 +1,71 @@
+#include "plugin/import_htr/scene_nodes.h"
+
+#include "sdk/core/object.h"
+#include "sdk/gfx/color.h"
+#include "sdk/paramblk2/parameter_block.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kNoBoneLinks = 0;
+constexpr int kBoneOn = 1;
+
+unsigned ColorByte(float part) { return static_cast<unsigned>(static_cast<int>(part * 255.0F)); }
+
+WireColor NewObjectColor() {
+  const Color color = GetUIColor(kNewObjectColorIndex);
+  return PackWireColor(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
+}
+
+// The object goes to the node, or away when there is no node for it.
+INode* CreateNodeFor(Interface& interface, Object& object) {
+  INode* node = interface.CreateObjectNode(&object);
+  if (node == nullptr) object.Delete();
+  return node;
+}
+
+void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {
+  ParameterBlock* parameters = bone.GetFirstParameterBlock();
+  if (parameters == nullptr) return;
+  parameters->SetValue(kBoneLengthParameter, time, static_cast<float>(size.length));
+  parameters->SetValue(kBoneWidthParameter, time, static_cast<float>(size.thickness));
+  parameters->SetValue(kBoneHeightParameter, time, static_cast<float>(size.thickness));
+}
+
+}  // namespace
+
+INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneSize& size) {
+  const TimeValue now = interface.GetTime();
+  auto* bone =
+      static_cast<Object*>(interface.CreateInstance(kGeometricObjectSuperClass, kBoneClass));
+  if (bone == nullptr) return nullptr;
+  SetBoneSize(*bone, size, now);
+
+  INode* node = CreateNodeFor(interface, *bone);
+  if (node == nullptr) return nullptr;
+  node->SetName(name.c_str());
+  node->SetBoneDisplay(kNoBoneLinks);
+  node->SetBoneEnabled(kBoneOn, now);
+  node->SetWireColor(NewObjectColor());
+  return node;
+}
+
+INode* CreateDummyNode(Interface& interface, const std::string& name, float half_extent) {
+  auto* dummy = static_cast<DummyObject*>(interface.CreateInstance(kHelperSuperClass, kDummyClass));
+  if (dummy == nullptr) return nullptr;
+  dummy->SetBox(Box3(Point3(-half_extent, -half_extent, -half_extent),
+                     Point3(half_extent, half_extent, half_extent)));
+
+  INode* node = CreateNodeFor(interface, *dummy);
+  if (node == nullptr) return nullptr;
+  node->SetName(name.c_str());
+  node->SetWireColor(NewObjectColor());
+  return node;
+}
+
+bool IsBone(INode& node) {
+  Object* object = node.GetObjectReference();
+  return object != nullptr && object->ClassID() == kBoneClass;
+}
+
+}  // namespace orvane

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <string>
+
+#include "sdk/core/interface.h"
+
+// Making and recognising the kinds of node that skeletons consist of. Nodes belong to the scene.
+namespace orvane {
+
+// The size of a bone, in system units.
+struct BoneSize {
+  double length = 0.0;
+  double thickness = 0.0;  // both sides of its cross-section
+};
+
+// Creates a bone of `size` under the scene root, named `name`, in the host's colour for new
+// objects. Returns null when the host cannot create it.
+INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneSize& size);
+
+// Creates a grouping helper under the scene root, a box from -half_extent to half_extent (system
+// units) on every axis, in the host's colour for new objects. Returns null when the host cannot
+// create it.
+INode* CreateDummyNode(Interface& interface, const std::string& name, float half_extent);
+
+// Whether the object of `node` is a bone.
+bool IsBone(INode& node);
+
+}  // namespace orvane

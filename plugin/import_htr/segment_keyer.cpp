@@ -1,0 +1,103 @@
+#include "plugin/import_htr/segment_keyer.h"
+
+#include "plugin/import_htr/controllers.h"
+#include "sdk/core/animation.h"
+
+namespace orvane {
+
+SegmentKeyer::SegmentKeyer(Interface& interface, const ImportHTROptions& options,
+                           const KeyTimes& times, INode& node, const HtrSegment& segment)
+    : interface_(interface),
+      options_(options),
+      times_(times),
+      node_(node),
+      segment_(segment),
+      axes_(segment.GetIsRoot()),
+      position_(PositionController(node)),
+      rotation_(RotationController(node)) {}
+
+bool SegmentKeyer::Run() {
+  ClearKeys();
+  if (options_.rotationController != 0 && !InstallTcbController()) return false;
+
+  SuspendAnimate();
+  AnimateOn();
+  if (options_.keyBasePosition && !KeyBasePosition()) return false;
+  if (options_.animate && !KeyFrames()) return false;
+  // Intended: not on failure, which leaves animation suspended.
+  ResumeAnimate();
+  return true;
+}
+
+// Intended: every tick, not only the frames', so that keys made at another frame rate go too.
+void SegmentKeyer::ClearKeys() {
+  for (std::int64_t tick = times_.BeginTick(); tick < times_.EndTick(); ++tick) {
+    const auto time = static_cast<TimeValue>(tick);
+    if (position_ != nullptr) position_->DeleteKeyAt(time);
+    if (rotation_ != nullptr) rotation_->DeleteKeyAt(time);
+  }
+}
+
+// Replaces the node's rotation controller, its keys kept. A host that refuses the new one keeps the
+// old one. Returns false when there is no new one.
+bool SegmentKeyer::InstallTcbController() {
+  Control* transform = node_.GetTMController();
+  if (transform == nullptr || rotation_ == nullptr) return true;
+  auto* tcb = static_cast<Control*>(
+      interface_.CreateInstance(kRotationControllerSuperClass, kTcbRotationClass));
+  if (tcb == nullptr) return false;
+  tcb->CopyFrom(rotation_);
+  if (!transform->SetRotationController(tcb)) tcb->Delete();
+  rotation_ = transform->GetRotationController();
+  return true;
+}
+
+bool SegmentKeyer::KeyBasePosition() {
+  const std::optional<TimeValue> time =
+      options_.animate ? times_.Tick(-1) : std::optional(interface_.GetTime());
+  if (!time) return true;
+  return KeyTranslation(*time, segment_.GetBaseTranslation(), TranslationFactor()) &&
+         KeyRotation(*time, RotationMatrix3(segment_.GetBaseRotation()));
+}
+
+bool SegmentKeyer::KeyFrames() {
+  const double factor = TranslationFactor();
+  EulerRotation previous;
+  for (std::int64_t frame = times_.BeginFrame(); frame < times_.EndFrame(); ++frame) {
+    const TimeValue time = *times_.Tick(frame);
+    const auto index = static_cast<std::size_t>(frame);
+    if (!KeyTranslation(time, segment_.GetFramePosition(index), factor)) return false;
+
+    EulerRotation current;
+    current.Set(segment_.GetFrameOrientation(index));
+    current = ContinueEulerRotation(current, previous);
+    if (!KeyRotation(time, RotationMatrix3(current))) return false;
+    previous = current;
+  }
+  return true;
+}
+
+// What a translation of the file is multiplied by, so that the scale of the parent (as it is at the
+// current time, which the keys of this node do not change) is undone.
+double SegmentKeyer::TranslationFactor() {
+  INode* parent = node_.GetParentNode();
+  if (parent == nullptr) return options_.scaleFactor;
+  Point3 position;
+  Quat rotation;
+  Point3 scale;
+  DecomposeMatrix(parent->NodeTransform(interface_.GetTime()), position, rotation, scale);
+  return scale.x == 0.0F ? options_.scaleFactor
+                         : options_.scaleFactor / static_cast<double>(scale.x);
+}
+
+bool SegmentKeyer::KeyTranslation(TimeValue time, const Vector3& translation, double factor) {
+  const Vector3 scaled(translation.x() * factor, translation.y() * factor,
+                       translation.z() * factor);
+  return SetPosition(position_, time, axes_.Position(scaled));
+}
+
+bool SegmentKeyer::KeyRotation(TimeValue time, const RotationMatrix3& rotation) {
+  return SetRotation(rotation_, time, Quaternion(axes_.Rotation(rotation)));
+}
+
+}  // namespace orvane

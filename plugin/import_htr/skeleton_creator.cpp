@@ -1,0 +1,100 @@
+#include "plugin/import_htr/skeleton_creator.h"
+
+#include <vector>
+
+#include "plugin/import_htr/axis_conversion.h"
+#include "plugin/import_htr/controllers.h"
+
+namespace orvane {
+namespace {
+
+constexpr double kThicknessOfLength = 0.2;
+
+// A bone whose children are being created.
+struct OpenBone {
+  const HtrSegment* segment;
+  INode* node;
+  int next_child;
+};
+
+bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
+  const AxisConversion axes(segment.GetIsRoot());
+
+  const Vector3 translation = segment.GetBaseTranslation();
+  node.SetUserPropertyFloat("HTRBaseTransX", static_cast<float>(translation.x()));
+  node.SetUserPropertyFloat("HTRBaseTransY", static_cast<float>(translation.y()));
+  node.SetUserPropertyFloat("HTRBaseTransZ", static_cast<float>(translation.z()));
+  if (!SetPosition(PositionController(node), time, axes.Position(translation))) return false;
+
+  EulerRotation rotation = segment.GetBaseRotation();
+  node.SetUserPropertyFloat("HTRBaseRotX", static_cast<float>(rotation[0]));
+  node.SetUserPropertyFloat("HTRBaseRotY", static_cast<float>(rotation[1]));
+  node.SetUserPropertyFloat("HTRBaseRotZ", static_cast<float>(rotation[2]));
+  rotation.Set(axes.Rotation(RotationMatrix3(rotation)));
+  if (!SetRotation(RotationController(node), time, Quaternion(rotation))) return false;
+
+  node.SetUserPropertyFloat("HTRBaseLength", static_cast<float>(segment.GetBoneLength()));
+  return true;
+}
+
+// Deletes the bones that wait for a child that failed, the innermost first.
+void DeleteAncestors(Interface& interface, std::vector<OpenBone>& open) {
+  for (; !open.empty(); open.pop_back()) interface.DeleteNode(open.back().node, true);
+}
+
+}  // namespace
+
+INode* SkeletonCreator::Create(const HtrSegment& root) {
+  INode* root_node = CreateSegmentNode(root, nullptr);
+  if (root_node == nullptr) return nullptr;
+
+  std::vector<OpenBone> open{{&root, root_node, 0}};
+  while (!open.empty()) {
+    OpenBone& bone = open.back();
+    const HtrSegment* child = bone.segment->GetChild(bone.next_child++);
+    if (child == nullptr) {
+      open.pop_back();
+      continue;
+    }
+    INode* child_node = CreateSegmentNode(*child, bone.node);
+    if (child_node == nullptr) {
+      DeleteAncestors(interface_, open);
+      return nullptr;
+    }
+    open.push_back({child, child_node, 0});
+  }
+  return root_node;
+}
+
+// The bone of `segment` alone, with its end effector when it is a leaf; null on failure.
+INode* SkeletonCreator::CreateSegmentNode(const HtrSegment& segment, INode* parent) {
+  const BoneSize size{segment.GetBoneLength() * options_.scaleFactor, Thickness(segment)};
+  INode* node = CreateBoneNode(interface_, segment.GetName(), size);
+  if (node == nullptr) return nullptr;
+  // Attached first, so that every value set below is relative to the parent.
+  if (parent != nullptr) parent->AttachChild(node, false);
+  if (!PlaceBone(*node, segment, interface_.GetTime())) return nullptr;
+
+  const bool is_leaf = segment.GetNumChildren() == 0;
+  if (is_leaf && options_.endEffectors && !CreateEndEffector(segment, *node)) return nullptr;
+  return node;
+}
+
+bool SkeletonCreator::CreateEndEffector(const HtrSegment& segment, INode& node) {
+  const BoneSize size{Thickness(segment), Thickness(segment)};
+  INode* effector = CreateBoneNode(interface_, segment.GetName() + "_Effector", size);
+  if (effector == nullptr) return false;
+  // Intended: the offset is the bone's length in the file; the global scale, which lengthens the
+  // drawn bone, does not enter it.
+  const Point3 tip(static_cast<float>(segment.GetBoneLength()), 0.0F, 0.0F);
+  effector->Move(0, Matrix3(), tip, true, false, kNoPivotMode, true);
+  node.AttachChild(effector, false);
+  return true;
+}
+
+double SkeletonCreator::Thickness(const HtrSegment& segment) const {
+  return segment.GetBoneLength() * kThicknessOfLength * static_cast<double>(options_.size) *
+         options_.scaleFactor;
+}
+
+}  // namespace orvane
