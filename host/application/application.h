@@ -1,0 +1,67 @@
+#pragma once
+
+#include <cstddef>
+
+#include "host/application/application_interface.h"
+#include "host/application/cancellation.h"
+#include "host/application/plugin_callbacks.h"
+#include "host/application/progress_bar.h"
+#include "host/desktop/window.h"
+#include "host/scene/scene.h"
+#include "platform/export.h"
+
+// The stand-in application: one scene, and around it what a plug-in meets besides: progress bar,
+// cancelling, playback, callbacks, main window. Each part tells by itself what was done to it;
+// calls against the rules of the SDK are noted in scene().Misuse(). Loading plug-ins is the job of
+// host/application/module.h.
+//
+// Faults that a test may ask for stand with what they befall: RefuseAllocation
+// (host/base/heap_control.h), scene().Faults() for controllers, cancellation(), StartPlayback, and
+// the desktop's own for dialogs.
+
+namespace host {
+
+class SKELDER_API Application {
+ public:
+  // A new application with a new scene. It is the current one until it is destroyed; then the one
+  // that was current before is again. Applications are destroyed in reverse order.
+  Application();
+  Application(const Application&) = delete;
+  Application& operator=(const Application&) = delete;
+  ~Application();
+
+  // The application that the SDK's global functions act on, or null. Without one they do nothing
+  // and answer as a new application would.
+  static Application* Current();
+
+  // What plug-ins are given. Valid as long as the application.
+  ::Interface& plugin_interface() { return interface_; }
+
+  Scene& scene() { return scene_; }
+  ProgressBar& progress() { return progress_; }
+  Cancellation& cancellation() { return cancellation_; }
+  PluginCallbacks& callbacks() { return callbacks_; }
+  HWND main_window() { return &main_window_; }
+
+  // Playback of the animation. It runs only as a state: time stands still.
+  bool IsPlaybackRunning() const { return playback_running_; }
+  void StartPlayback() { playback_running_ = true; }
+  void StopPlayback() { playback_running_ = false; }
+
+  // How often a plug-in let the application handle its pending messages. There are never any.
+  std::size_t PendingMessageCalls() const { return pending_message_calls_; }
+  void ProcessPendingMessages() { ++pending_message_calls_; }
+
+ private:
+  Application* previous_;
+  ApplicationInterface interface_{*this};
+  Scene scene_;
+  ProgressBar progress_{scene_.Misuse()};
+  Cancellation cancellation_;
+  PluginCallbacks callbacks_{scene_.Misuse()};
+  HWND__ main_window_;
+  bool playback_running_ = false;
+  std::size_t pending_message_calls_ = 0;
+};
+
+}  // namespace host

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <algorithm>
+#include <cstddef>
+#include <memory>
+#include <string_view>
+
+#include "host/application/module_entry.h"
+#include "sdk/core/class_id.h"
+#include "sdk/core/plugin.h"
+
+// Finding a module's importer or exporter for a file: only an instance knows its extensions.
+
+namespace host {
+
+// Whether both texts are the same but for the case of ASCII letters.
+inline bool SameButForCase(std::string_view left, std::string_view right) {
+  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
+                    [&lower](char a, char b) { return lower(a) == lower(b); });
+}
+
+// Whether `plugin` is for files of `extension`.
+template <typename Plugin>
+bool HasExtension(Plugin& plugin, std::string_view extension) {
+  for (int n = 0; n < plugin.ExtCount(); ++n) {
+    const char* offered = plugin.Ext(n);
+    if (offered != nullptr && SameButForCase(offered, extension)) return true;
+  }
+  return false;
+}
+
+// A new instance of the first class of `super_class` whose instances are for `extension`; null when
+// there is none. `Plugin` is the base class of the plug-ins of `super_class`.
+template <typename Plugin>
+std::unique_ptr<Plugin> CreateByExtension(const ModuleEntry& entry, SuperClassId super_class,
+                                          std::string_view extension) {
+  for (int i = 0; i < entry.number_of_classes(); ++i) {
+    ClassDesc2* descriptor = entry.class_descriptor(i);
+    if (descriptor == nullptr || descriptor->SuperClassID() != super_class) continue;
+    std::unique_ptr<Plugin> plugin(static_cast<Plugin*>(descriptor->Create(false)));
+    if (plugin != nullptr && HasExtension(*plugin, extension)) return plugin;
+  }
+  return nullptr;
+}
+
+}  // namespace host

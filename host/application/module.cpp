@@ -1,0 +1,76 @@
+#include "host/application/module.h"
+
+#include <filesystem>
+#include <utility>
+
+#include "host/application/application.h"
+#include "host/application/extension_match.h"
+
+// Offers nothing so far; plug-ins keep the pointer only.
+class ImpInterface {};
+
+namespace host {
+namespace {
+
+// The extension of the file name in `path`, without its dot.
+std::string ExtensionOf(const std::string& path) {
+  const std::string extension = std::filesystem::path(path).extension().string();
+  return extension.empty() ? extension : extension.substr(1);
+}
+
+}  // namespace
+
+std::unique_ptr<Module> Module::Load(const std::string& path, const ModuleHost& host,
+                                     std::string& refusal) {
+  const Holdings before(host.application, host.registry);
+  std::string failure;
+  std::unique_ptr<platform::SharedLibrary> library = platform::SharedLibrary::Open(path, failure);
+  if (library == nullptr) {
+    refusal = path + " cannot be loaded: " + failure;
+    return nullptr;
+  }
+  const auto entry = FindModuleEntry(*library, path, host.interface_number, refusal);
+  if (!entry) return nullptr;
+  return std::unique_ptr<Module>(new Module(path, host, before, std::move(library), *entry));
+}
+
+Module::Module(std::string path, const ModuleHost& host, const Holdings& before,
+               std::unique_ptr<platform::SharedLibrary> library, const ModuleEntry& entry)
+    : path_(std::move(path)),
+      host_(host),
+      before_(before),
+      library_(std::move(library)),
+      entry_(entry) {}
+
+Module::~Module() = default;
+
+std::unique_ptr<SceneImport> Module::CreateImporter(std::string_view extension) const {
+  return CreateByExtension<SceneImport>(entry_, kSceneImportSuperClass, extension);
+}
+
+std::unique_ptr<SceneExport> Module::CreateExporter(std::string_view extension) const {
+  return CreateByExtension<SceneExport>(entry_, kSceneExportSuperClass, extension);
+}
+
+std::optional<ImportResult> Module::Import(const std::string& path, bool suppress_prompts) {
+  const std::unique_ptr<SceneImport> importer = CreateImporter(ExtensionOf(path));
+  if (importer == nullptr) return std::nullopt;
+  const SuspendableMode& set_key_mode = host_.application.scene().Animation().SetKeyMode();
+  const std::size_t depth_before = set_key_mode.SuspendDepth();
+  ImpInterface import_interface;
+  ImportResult result;
+  result.returned =
+      importer->DoImport(path.c_str(), &import_interface, &host_.application.plugin_interface(),
+                         suppress_prompts ? 1 : 0);
+  result.completed = result.returned == 1 && set_key_mode.SuspendDepth() == depth_before;
+  return result;
+}
+
+ModuleLeftovers UnloadModule(std::unique_ptr<Module> module) {
+  const ModuleHost host = module->host_;
+  const Holdings before = module->before_;
+  module.reset();
+  return Holdings(host.application, host.registry).Since(before);
+}
+
+}  // namespace host
