@@ -33,8 +33,8 @@ check_headers() {
 }
 
 check_portability() {
-  cmake -S cmake/portability -B build-portability -G Ninja --log-level=WARNING \
-    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" -DORVANE_WARNINGS_AS_ERRORS=ON &&
+  cmake -S cmake/portability -B build-portability -G Ninja \
+    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" -DORVANE_WARNINGS_AS_ERRORS=ON >/dev/null &&
     cmake --build build-portability --target portable_headers portable_sources
 }
 
