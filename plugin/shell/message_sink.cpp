@@ -31,8 +31,7 @@ bool MessageSink::Ask(const char* message, const char* title) {
 void MessageSink::Log(const char* message, const char* title) {
   if (log_ == nullptr) log_ = platform::LogFile::Open(platform::LogFilePath());
   if (log_ == nullptr) return;
-  const std::string line = std::string(title) + '\t' + message;
-  log_->AppendLine(line.c_str());
+  log_->AppendLine(std::string(title) + '\t' + message);
 }
 
 }  // namespace orvane
