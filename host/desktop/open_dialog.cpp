@@ -1,0 +1,66 @@
+#include "host/desktop/open_dialog.h"
+
+#include <algorithm>
+#include <cstring>
+
+namespace host {
+namespace {
+
+DialogControl Build(const platform::ControlTemplate& control) {
+  const bool is_edit = control.kind == platform::ControlKind::kEdit;
+  DialogControl built;
+  built.id = control.id;
+  built.kind = control.kind;
+  built.text = control.text;
+  built.read_only = is_edit && (control.style & platform::kStyleReadOnly) != 0;
+  built.enabled = (control.style & platform::kStyleDisabled) == 0;
+  return built;
+}
+
+}  // namespace
+
+OpenDialog::OpenDialog(const platform::DialogTemplate& dialog, HWND parent) : title_(dialog.title) {
+  window_.parent = parent;
+  std::transform(dialog.controls.begin(), dialog.controls.end(), std::back_inserter(controls_),
+                 Build);
+}
+
+HWND OpenDialog::Window() { return &window_; }
+
+void OpenDialog::SetText(int control, const char* text) {
+  if (DialogControl* const found = Find(control)) found->text = text;
+}
+
+std::size_t OpenDialog::GetText(int control, char* buffer, std::size_t size) {
+  const DialogControl* const found = Find(control);
+  const std::size_t length = found == nullptr ? 0 : std::min(found->text.size(), size - 1);
+  if (length > 0) std::memcpy(buffer, found->text.data(), length);
+  buffer[length] = '\0';
+  return length;
+}
+
+void OpenDialog::SetChecked(int control, bool checked) {
+  if (DialogControl* const found = Find(control)) found->checked = checked;
+}
+
+bool OpenDialog::IsChecked(int control) {
+  const DialogControl* const found = Find(control);
+  return found != nullptr && found->checked;
+}
+
+void OpenDialog::SetEnabled(int control, bool enabled) {
+  if (DialogControl* const found = Find(control)) found->enabled = enabled;
+}
+
+void OpenDialog::End(int result) {
+  ended_ = true;
+  result_ = result;
+}
+
+DialogControl* OpenDialog::Find(int id) {
+  const auto found = std::find_if(controls_.begin(), controls_.end(),
+                                  [id](const DialogControl& control) { return control.id == id; });
+  return found == controls_.end() ? nullptr : &*found;
+}
+
+}  // namespace host

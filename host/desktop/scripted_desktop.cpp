@@ -1,0 +1,92 @@
+#include "host/desktop/scripted_desktop.h"
+
+#include <exception>
+#include <optional>
+#include <utility>
+
+#include "platform/portable/module_resources.h"
+#include "platform/portable/resource_file.h"
+
+namespace host {
+namespace {
+
+using platform::MessageBoxStyle;
+
+bool HasButton(MessageBoxStyle style, int answer) {
+  return style == MessageBoxStyle::kYesNo
+             ? answer == platform::kMessageBoxYes || answer == platform::kMessageBoxNo
+             : answer == platform::kMessageBoxOk;
+}
+
+std::string Quoted(const MessageBox& message) {
+  return "\"" + message.text + "\" (\"" + message.caption + "\")";
+}
+
+}  // namespace
+
+ScriptedDesktop::ScriptedDesktop(platform::Registry& registry) : registry_(registry) {}
+
+ScriptedDesktop::~ScriptedDesktop() = default;
+
+void ScriptedDesktop::SetUser(ScriptedUser user) { user_ = std::move(user); }
+
+void ScriptedDesktop::RefuseDialog(int dialog_id) { refused_dialogs_.insert(dialog_id); }
+
+void ScriptedDesktop::RethrowFailure() const { failure_.Rethrow(); }
+
+platform::Registry& ScriptedDesktop::CurrentUser() { return registry_; }
+
+int ScriptedDesktop::ShowMessage(const char* text, const char* caption, MessageBoxStyle style) {
+  MessageBox message{text, caption, style, platform::kMessageBoxFailed};
+  if (!failure_.HasHappened()) {
+    try {
+      message.answer = AnswerOf(message);
+    } catch (...) {
+      failure_.Keep(std::current_exception());
+    }
+  }
+  messages_.push_back(message);
+  return message.answer;
+}
+
+int ScriptedDesktop::AnswerOf(const MessageBox& message) {
+  if (!user_.answer_message) throw ScriptError("Nobody answers the message " + Quoted(message));
+  const int answer = user_.answer_message(message);
+  if (!HasButton(message.style, answer)) {
+    throw ScriptError("No button " + std::to_string(answer) + " has the message " +
+                      Quoted(message));
+  }
+  return answer;
+}
+
+int ScriptedDesktop::RunDialog(HINSTANCE module, int dialog_id, HWND parent,
+                               platform::DialogHandler& handler) {
+  if (failure_.HasHappened() || refused_dialogs_.count(dialog_id) > 0) {
+    return platform::kDialogNotCreated;
+  }
+  const std::optional<platform::DialogTemplate> dialog_template =
+      platform::FindDialog(platform::ResourceFileOf(module), static_cast<unsigned int>(dialog_id));
+  if (!dialog_template) return platform::kDialogNotCreated;
+
+  OpenDialog dialog(*dialog_template, parent);
+  handler.Initialize(dialog);
+  try {
+    LetUserAnswer(dialog_id, dialog, handler);
+  } catch (...) {
+    failure_.Keep(std::current_exception());
+  }
+  return failure_.HasHappened() ? platform::kDialogNotCreated : dialog.Result();
+}
+
+void ScriptedDesktop::LetUserAnswer(int dialog_id, OpenDialog& dialog,
+                                    platform::DialogHandler& handler) {
+  failure_.Rethrow();
+  if (dialog.HasEnded()) return;
+  const std::string name = "the dialog \"" + dialog.Title() + "\"";
+  if (!user_.answer_dialog) throw ScriptError("Nobody answers " + name);
+  ScriptedDialog user_side(dialog_id, dialog, handler, failure_);
+  user_.answer_dialog(user_side);
+  if (!dialog.HasEnded()) throw ScriptError("The script left " + name + " open");
+}
+
+}  // namespace host
