@@ -51,7 +51,8 @@ class SKELDER_API KeyedRegistry : public platform::Registry {
   // Makes the key with the full path `path`. Returns false when it cannot be kept.
   virtual bool MakeKey(const std::string& path) = 0;
 
-  // Keeps `value`, replacing what was there. Returns false when it cannot be kept.
+  // Keeps `value` of a key that is open, replacing what was there. Returns false when it cannot be
+  // kept.
   virtual bool StoreValue(const std::string& path, const std::string& name,
                           RegistryValue value) = 0;
 

@@ -45,8 +45,10 @@ class SKELDER_API ScriptedDialog {
   void PressEscape();
 
  private:
+  void RequireOpen() const;
   [[nodiscard]] DialogControl& Existing(int control) const;
   [[nodiscard]] DialogControl& Usable(int control) const;
+  [[noreturn]] void Refuse(int control, const char* reason) const;
   void Send(int control);
 
   int id_;

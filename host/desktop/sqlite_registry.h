@@ -23,7 +23,7 @@ class SKELDER_API SqliteRegistry final : public KeyedRegistry {
   std::optional<RegistryValue> FindValue(const std::string& path, const std::string& name) override;
 
  private:
-  class Database;
+  struct Database;
 
   bool MakeKey(const std::string& path) override;
   bool StoreValue(const std::string& path, const std::string& name, RegistryValue value) override;
