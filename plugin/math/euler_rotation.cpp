@@ -54,11 +54,14 @@ T WrapOnce(T angle) {
 // Moves `angle` by whole turns to within half a turn of `previous`.
 template <typename T>
 T Continue(T angle, T previous) {
-  if (!std::isfinite(angle) || !std::isfinite(previous)) return angle;
-  // Far apart, one division takes the place of so many subtractions, each of which rounds.
+  const T distance = angle - previous;
+  if (!std::isfinite(distance)) return angle;
+  // One division takes the place of very many subtractions, and of those that a large angle
+  // swallows.
   constexpr double kManyTurns = 64 * kTwoPi;
-  if (std::abs(angle - previous) > kManyTurns) {
-    angle = previous + std::remainder(angle - previous, kTwoPi);
+  constexpr double kLargeAngle = 1e9;
+  if (std::abs(distance) > kManyTurns || std::abs(angle) > kLargeAngle) {
+    angle = previous + std::remainder(distance, kTwoPi);
   }
   while (angle > previous + kPi) angle -= kTwoPi;
   while (angle < previous - kPi) angle += kTwoPi;
@@ -72,7 +75,7 @@ OrvaneEulerRotation<T>& OrvaneEulerRotation<T>::Set(const OrvaneRotationMatrix3<
   const OrvaneEulerOrder::Axes axes = order_.Decode();
   auto [a, b, c] =
       axes.repeats_first_axis ? RepeatedAxisAngles(matrix, axes) : DistinctAxesAngles(matrix, axes);
-  const T sign = axes.odd_parity ? T(-1) : T(1);
+  const T sign = axes.odd_parity ? -1 : 1;
   a = WrapOnce(sign * a);
   b = WrapOnce(sign * b);
   c = WrapOnce(sign * c);

@@ -11,9 +11,9 @@ OrvaneQuaternion<T>& OrvaneQuaternion<T>::SetMatrix(const OrvaneRotationMatrix3<
   const T trace = m.Element(0, 0) + m.Element(1, 1) + m.Element(2, 2);
   auto& q = components_;
   if (trace > 0) {
-    T s = std::sqrt(trace + T(1));
+    T s = std::sqrt(trace + 1);
     q[3] = s / 2;
-    s = T(0.5) / s;
+    s = 0.5 / s;
     q[0] = (m.Element(2, 1) - m.Element(1, 2)) * s;
     q[1] = (m.Element(0, 2) - m.Element(2, 0)) * s;
     q[2] = (m.Element(1, 0) - m.Element(0, 1)) * s;
@@ -23,9 +23,9 @@ OrvaneQuaternion<T>& OrvaneQuaternion<T>::SetMatrix(const OrvaneRotationMatrix3<
   if (!(m.Element(i, i) >= m.Element(2, 2))) i = 2;
   const unsigned int j = (i + 1) % 3;
   const unsigned int k = (j + 1) % 3;
-  T s = std::sqrt(m.Element(i, i) - (m.Element(j, j) + m.Element(k, k)) + T(1));
+  T s = std::sqrt(m.Element(i, i) - (m.Element(j, j) + m.Element(k, k)) + 1);
   q[i] = s / 2;
-  s = T(0.5) / s;
+  s = 0.5 / s;
   q[3] = (m.Element(k, j) - m.Element(j, k)) * s;
   q[j] = (m.Element(i, j) + m.Element(j, i)) * s;
   q[k] = (m.Element(i, k) + m.Element(k, i)) * s;
@@ -38,7 +38,7 @@ OrvaneQuaternion<T>& OrvaneQuaternion<T>::SetEuler(const OrvaneEulerRotation<T>&
   const auto [i, j, k, odd_parity, repeats_first_axis, rotating_frame] = rotation.order().Decode();
   T a = rotation[0], b = rotation[1], c = rotation[2];
   if (rotating_frame) std::swap(a, c);
-  a *= T(0.5), b *= T(0.5), c *= T(0.5);
+  a *= 0.5, b *= 0.5, c *= 0.5;
   if (odd_parity) b = -b;
 
   const T ci = std::cos(a), cj = std::cos(b), ch = std::cos(c);
@@ -58,7 +58,7 @@ OrvaneQuaternion<T>& OrvaneQuaternion<T>::SetEuler(const OrvaneEulerRotation<T>&
 template <typename T>
 OrvaneQuaternion<T>& OrvaneQuaternion<T>::SetAngleAxis(T angle_rad, const OrvaneVector3<T>& axis) {
   constexpr double kShortestAxis = 5e-8;
-  const T half = angle_rad * T(0.5);
+  const T half = angle_rad * 0.5;
   const T sine = std::sin(half);
   const T square = axis.x() * axis.x() + axis.y() * axis.y() + axis.z() * axis.z();
   const T length = std::sqrt(square);

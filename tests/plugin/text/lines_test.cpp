@@ -1,0 +1,122 @@
+#include "plugin/text/lines.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace orvane {
+namespace {
+
+using ::testing::ElementsAre;
+
+std::vector<std::string> TextsOf(std::string_view bytes) {
+  std::vector<std::string> texts;
+  LineReader reader(bytes);
+  for (Line line; reader.Next(line);) texts.emplace_back(line.text);
+  return texts;
+}
+
+TEST(Lines, EndAtLineFeeds) { EXPECT_THAT(TextsOf("a\nb\n\nc\n"), ElementsAre("a", "b", "", "c")); }
+
+TEST(Lines, LoseAllCarriageReturnsBeforeTheLineFeed) {
+  EXPECT_THAT(TextsOf("a\r\nb\r\r\r\n\r\n"), ElementsAre("a", "b", ""));
+}
+
+TEST(Lines, LoseAllCarriageReturnsAtTheEndOfTheFile) {
+  EXPECT_THAT(TextsOf("a\nb\r\r"), ElementsAre("a", "b"));
+  EXPECT_THAT(TextsOf("a\n\r"), ElementsAre("a"));
+}
+
+TEST(Lines, KeepCarriageReturnsElsewhere) {
+  EXPECT_THAT(TextsOf("a\rb\nc\r d"), ElementsAre("a\rb", "c\r d"));
+}
+
+TEST(Lines, OfAnEmptyFileAreNone) { EXPECT_THAT(TextsOf(""), ElementsAre()); }
+
+TEST(Lines, NeedNoBreakAtTheEnd) {
+  LineReader reader("a\nb");
+  Line line;
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_TRUE(line.ends_with_break);
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_EQ(line.text, "b");
+  EXPECT_FALSE(line.ends_with_break);
+  EXPECT_FALSE(reader.Next(line));
+}
+
+TEST(Lines, EndAtANul) {
+  const std::string_view bytes("ab\0cd\r\nef\n", 10);
+  LineReader reader(bytes);
+  Line line;
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_EQ(line.text, "ab");
+  EXPECT_FALSE(line.ends_with_break);
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_EQ(line.text, "ef");
+}
+
+TEST(Lines, AreNumberedAsInTheFileAndPiecesAlike) {
+  const std::string bytes = "first\n" + std::string(25000, 'x') + "\nlast\n";
+  std::vector<std::size_t> numbers;
+  LineReader reader(bytes);
+  for (Line line; reader.Next(line);) numbers.push_back(line.number);
+  EXPECT_THAT(numbers, ElementsAre(1u, 2u, 2u, 2u, 3u));
+}
+
+struct Pieces {
+  const char* name;
+  std::size_t length;
+  std::string line_break;
+  std::vector<std::size_t> piece_lengths;
+};
+
+class LongLines : public ::testing::TestWithParam<Pieces> {};
+
+TEST_P(LongLines, AreCutWithTheBreakCountedAsOneCharacter) {
+  const std::string bytes = std::string(GetParam().length, 'x') + GetParam().line_break;
+  std::vector<std::size_t> lengths;
+  bool ends_with_break = false;
+  LineReader reader(bytes);
+  for (Line line; reader.Next(line);) {
+    EXPECT_FALSE(ends_with_break) << "only the last piece may";
+    lengths.push_back(line.text.size());
+    ends_with_break = line.ends_with_break;
+  }
+  EXPECT_EQ(lengths, GetParam().piece_lengths);
+  EXPECT_EQ(ends_with_break, !GetParam().line_break.empty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Lengths, LongLines,
+    ::testing::Values(Pieces{"LineFeedFits", 10238, "\n", {10238}},
+                      Pieces{"CarriageReturnDoesNotCount", 10238, "\r\n", {10238}},
+                      Pieces{"ManyCarriageReturnsDoNotCount", 10238, "\r\r\r\n", {10238}},
+                      Pieces{"LineFeedAlone", 10239, "\n", {10239, 0}},
+                      Pieces{"LineFeedAloneAfterCarriageReturn", 10239, "\r\n", {10239, 0}},
+                      Pieces{"NoBreakFits", 10239, "", {10239}},
+                      Pieces{"NoBreakCut", 10240, "", {10239, 1}},
+                      Pieces{"Cut", 10240, "\n", {10239, 1}},
+                      Pieces{"TwiceTheSize", 20478, "", {10239, 10239}},
+                      Pieces{"TwiceTheSizeAndBreak", 20478, "\n", {10239, 10239, 0}}),
+    [](const auto& pieces) { return pieces.param.name; });
+
+TEST(Lines, LongerThanOnePieceContinueBehindANul) {
+  std::string bytes(10239, 'x');
+  bytes[3] = '\0';
+  bytes += "rest\n";
+  EXPECT_THAT(TextsOf(bytes), ElementsAre("xxx", "rest"));
+}
+
+TEST(Lines, OfOneHugeLineAreFoundInLinearTime) {
+  const std::string bytes(std::size_t{32} << 20, 'x');
+  std::size_t total = 0;
+  LineReader reader(bytes);
+  for (Line line; reader.Next(line);) total += line.text.size();
+  EXPECT_EQ(total, bytes.size());
+}
+
+}  // namespace
+}  // namespace orvane

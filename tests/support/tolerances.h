@@ -1,0 +1,18 @@
+#pragma once
+
+// How far numbers may be from their exact values in tests. Each bound is named for what it bounds.
+namespace test {
+
+// An element of a rotation matrix, or a component of a unit quaternion, after a few conversions.
+inline constexpr double kRotationElement = 1e-14;
+
+// An angle in radians that went through a matrix, well away from where the axes coincide.
+inline constexpr double kAngle_rad = 1e-12;
+
+// An angle in radians that was moved by whole turns.
+inline constexpr double kTurnedAngle_rad = 1e-12;
+
+// A length or a position in millimetres, computed through a chain of bones.
+inline constexpr double kPosition_mm = 1e-9;
+
+}  // namespace test
