@@ -5,6 +5,8 @@
 //
 // SKELDER_API marks what the host library offers. The host itself is compiled with
 // SKELDER_BUILDING_HOST defined; everybody else only calls it.
+//
+// SKELDER_ENTRY marks the entry points that a plug-in module exports to the host.
 
 #if defined(_WIN32)
 #if defined(SKELDER_BUILDING_HOST)
@@ -12,6 +14,8 @@
 #else
 #define SKELDER_API __declspec(dllimport)
 #endif
+#define SKELDER_ENTRY __declspec(dllexport)
 #else
 #define SKELDER_API __attribute__((visibility("default")))
+#define SKELDER_ENTRY __attribute__((visibility("default")))
 #endif

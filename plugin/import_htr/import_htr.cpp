@@ -12,7 +12,6 @@
 #include "plugin/import_htr/progress_bar.h"
 #include "plugin/import_htr/scene_nodes.h"
 #include "plugin/import_htr/skeleton_creator.h"
-#include "plugin/shell/about_dialog.h"
 #include "sdk/core/animation.h"
 #include "sdk/core/units.h"
 
@@ -33,14 +32,6 @@ std::string FileNamePart(std::string_view path) {
 }
 
 }  // namespace
-
-void ImportHTR::ShowAbout(HWND owner) {
-  try {
-    ShowAboutDialog(module_, owner);
-  } catch (...) {
-    // Nothing to tell: the box is only for show.
-  }
-}
 
 int ImportHTR::DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                         int suppress_prompts) {

@@ -4,6 +4,7 @@
 
 #include "plugin/htr/document.h"
 #include "plugin/import_htr/options.h"
+#include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/product.h"
 #include "sdk/core/cstr.h"
@@ -29,7 +30,7 @@ class ImportHTR final : public SceneImport {
   const char* OtherMessage1() override { return ""; }
   const char* OtherMessage2() override { return ""; }
   unsigned Version() override { return kClassVersion; }
-  void ShowAbout(HWND owner) override;
+  void ShowAbout(HWND owner) override { ShowAboutDialog(module_, owner); }
 
   // Imports the motion file `name` into the scene, with the options dialog unless
   // `suppress_prompts` is 1. Returns 1 when the import is done or the dialog was cancelled, 0 when

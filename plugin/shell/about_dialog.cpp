@@ -17,9 +17,13 @@ class AboutDialog final : public platform::DialogHandler {
 
 }  // namespace
 
-void ShowAboutDialog(HINSTANCE module, HWND owner) {
-  AboutDialog handler;
-  platform::RunModalDialog(module, IDD_ABOUT, owner, handler);
+void ShowAboutDialog(HINSTANCE module, HWND owner) noexcept {
+  try {
+    AboutDialog handler;
+    platform::RunModalDialog(module, IDD_ABOUT, owner, handler);
+  } catch (...) {
+    // There is no memory for the box, nor for saying so.
+  }
 }
 
 }  // namespace orvane

@@ -7,6 +7,6 @@ namespace orvane {
 
 // Shows the about dialog from the resources of `module` over `owner` and waits until the user
 // closes it. Does nothing when it cannot be created.
-void ShowAboutDialog(HINSTANCE module, HWND owner);
+void ShowAboutDialog(HINSTANCE module, HWND owner) noexcept;
 
 }  // namespace orvane

@@ -2,30 +2,38 @@
 
 #include <string>
 
-#include "platform/message_box.h"
 #include "sdk/core/cstr.h"
 
 namespace orvane {
 
-void MessageSink::Report(const char* message, const char* title) {
-  if (log_mode_) {
-    Log(message, title);
-    return;
+void MessageSink::Report(const char* message, const char* title) noexcept {
+  try {
+    if (log_mode_) {
+      Log(message, title);
+    } else {
+      Show(message, title, platform::MessageBoxStyle::kOk);
+    }
+  } catch (...) {
+    // Without memory the message is lost.
   }
-  const CStr text(message);
-  const CStr caption(title);
-  platform::ShowMessageBox(text, caption, platform::MessageBoxStyle::kOk);
 }
 
-bool MessageSink::Ask(const char* message, const char* title) {
-  if (log_mode_) {
+bool MessageSink::Ask(const char* message, const char* title) noexcept {
+  try {
+    if (!log_mode_) {
+      return Show(message, title, platform::MessageBoxStyle::kYesNo) == platform::kMessageBoxYes;
+    }
     Log(message, title);
     return true;
+  } catch (...) {
+    return log_mode_;
   }
+}
+
+int MessageSink::Show(const char* message, const char* title, platform::MessageBoxStyle style) {
   const CStr text(message);
   const CStr caption(title);
-  return platform::ShowMessageBox(text, caption, platform::MessageBoxStyle::kYesNo) ==
-         platform::kMessageBoxYes;
+  return platform::ShowMessageBox(text, caption, style);
 }
 
 void MessageSink::Log(const char* message, const char* title) {

@@ -3,6 +3,7 @@
 #include <memory>
 
 #include "platform/log_file.h"
+#include "platform/message_box.h"
 
 // The one way from the plug-in to its user: every error, warning and question passes through here,
 // to a message box over the host's active window or, in log mode, to the plug-in's log file. The
@@ -22,13 +23,14 @@ class MessageSink {
 
   // Shows `message` under `title` with an OK button and waits until it is closed; in log mode
   // appends one line, `title`, a tab and `message`. A log that cannot be opened loses the message.
-  void Report(const char* message, const char* title);
+  void Report(const char* message, const char* title) noexcept;
 
   // Asks the question `message` under `title`. Returns whether the answer was Yes; in log mode
   // appends the line and returns true.
-  bool Ask(const char* message, const char* title);
+  bool Ask(const char* message, const char* title) noexcept;
 
  private:
+  static int Show(const char* message, const char* title, platform::MessageBoxStyle style);
   void Log(const char* message, const char* title);
 
   bool log_mode_ = false;

@@ -4,11 +4,14 @@
 
 namespace orvane {
 
-const char* StringTable::GetString(HINSTANCE module, unsigned int id) {
-  if (module == nullptr) return nullptr;
-  const std::size_t length =
-      platform::LoadStringResource(module, id, buffer_.data(), buffer_.size());
-  return length == 0 ? nullptr : buffer_.data();
+const char* StringTable::GetString(HINSTANCE module, unsigned int id) noexcept {
+  try {
+    const std::size_t length =
+        platform::LoadStringResource(module, id, buffer_.data(), buffer_.size());
+    return length == 0 ? nullptr : buffer_.data();
+  } catch (...) {
+    return nullptr;
+  }
 }
 
 }  // namespace orvane

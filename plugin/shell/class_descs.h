@@ -1,0 +1,49 @@
+#pragma once
+
+#include "plugin/import_htr/options.h"
+#include "plugin/shell/class_desc.h"
+#include "plugin/shell/message_sink.h"
+
+// The descriptors of the four classes of the module. Each creates instances of its class on the
+// host's heap and hands them what they need; everything handed to a descriptor is the module's and
+// lives as long as it. Create returns null when there is no memory.
+namespace orvane {
+
+class ImportHTRClassDesc final : public FileClassDesc {
+ public:
+  ImportHTRClassDesc(StringTable& strings, MessageSink& messages, ImportHTROptions& options);
+  void* Create(bool loading) override;
+
+ private:
+  MessageSink& messages_;
+  ImportHTROptions& options_;
+};
+
+class ExportHTRClassDesc final : public FileClassDesc {
+ public:
+  ExportHTRClassDesc(StringTable& strings, MessageSink& messages);
+  void* Create(bool loading) override;
+
+ private:
+  MessageSink& messages_;
+};
+
+class ImportTRCClassDesc final : public FileClassDesc {
+ public:
+  ImportTRCClassDesc(StringTable& strings, MessageSink& messages);
+  void* Create(bool loading) override;
+
+ private:
+  MessageSink& messages_;
+};
+
+class OrvaneUtilitiesClassDesc final : public OrvaneClassDesc {
+ public:
+  OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages);
+  void* Create(bool loading) override;
+
+ private:
+  MessageSink& messages_;
+};
+
+}  // namespace orvane

@@ -1,0 +1,63 @@
+// The module: all its state, and the entry points that the host calls. No other file has statics.
+
+#include "platform/module.h"
+
+#include <array>
+#include <cstdint>
+
+#include "platform/export.h"
+#include "plugin/export_htr/options.h"
+#include "plugin/import_htr/options.h"
+#include "plugin/import_trc/options.h"
+#include "plugin/resources/resource.h"
+#include "plugin/shell/class_descs.h"
+#include "plugin/shell/message_sink.h"
+#include "plugin/shell/string_table.h"
+#include "sdk/core/library.h"
+
+namespace {
+
+extern orvane::ImportHTROptions import_htr_options;
+
+// Constructed in this order at load and destroyed in reverse at unload: first what everybody uses,
+// then class by class the descriptor and its option record. None of it needs a host.
+orvane::MessageSink message_sink;
+orvane::StringTable strings;
+orvane::StringTable library_description;
+
+orvane::ImportHTRClassDesc import_htr_class(strings, message_sink, import_htr_options);
+orvane::ImportHTROptions import_htr_options;
+
+orvane::ExportHTRClassDesc export_htr_class(strings, message_sink);
+orvane::ExportHTROptions export_htr_options;
+
+orvane::ImportTRCClassDesc import_trc_class(strings, message_sink);
+orvane::ImportTRCOptions import_trc_options;
+
+orvane::OrvaneUtilitiesClassDesc utilities_class(strings, message_sink);
+
+const std::array<ClassDesc2*, 4> classes = {&import_htr_class, &export_htr_class, &import_trc_class,
+                                            &utilities_class};
+
+}  // namespace
+
+extern "C" {
+
+// The module in one line, null when its resources cannot be read; valid until the module is
+// unloaded.
+SKELDER_ENTRY const char* LibDescription() {
+  return library_description.GetString(platform::ModuleHandle(), IDS_LIBRARY_DESCRIPTION);
+}
+
+SKELDER_ENTRY int LibNumberClasses() { return static_cast<int>(classes.size()); }
+
+// The descriptor of class `index`, null when there is none of that number. It is the module's.
+SKELDER_ENTRY ClassDesc2* LibClassDesc(int index) {
+  if (index < 0 || index >= LibNumberClasses()) return nullptr;
+  return classes[static_cast<std::size_t>(index)];
+}
+
+// What host this module is made for.
+SKELDER_ENTRY std::uint32_t LibVersion() { return kSkelderVersion; }
+
+}  // extern "C"
