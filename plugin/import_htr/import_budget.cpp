@@ -1,5 +1,6 @@
 #include "plugin/import_htr/import_budget.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace orvane {
@@ -15,7 +16,8 @@ std::int64_t SegmentBudget(const HtrDocument& document, std::int64_t frame_count
   for (const HtrSegment& segment : document.segments()) {
     held += 1 + static_cast<std::int64_t>(segment.GetNumFrames());
   }
-  return (kTimesHeld * held + kAlwaysAllowed) / (1 + frame_count);
+  const std::int64_t with_repetitions = (kTimesHeld * held + kAlwaysAllowed) / (1 + frame_count);
+  return std::max<std::int64_t>(document.GetNumSegments(), with_repetitions);
 }
 
 bool HierarchyFits(const HtrSegment& root, std::int64_t budget) {

@@ -4,13 +4,14 @@
 
 #include "plugin/htr/document.h"
 
-// How much work a file may ask for. A few bytes can announce billions of frames, and a hierarchy
-// that lists its segments twice doubles at every level; both are told from honest files by
-// comparing what is asked for with what the file holds.
+// How much work a hierarchy may ask for. A file that lists its hierarchy twice doubles it at every
+// level, so a few hundred bytes can ask for more bones than any memory holds. A hierarchy that
+// lists each segment once always fits, however many frames it announces.
 namespace orvane {
 
-// How many segments may be created or keyed when each takes `frame_count` frames of `document`:
-// several times what the document holds, and always enough for a small mistake.
+// How many segments may be created or keyed when each takes `frame_count` frames of `document`: all
+// of them once, and repetitions as long as their frames stay within several times what the document
+// holds, which is always enough for a small mistake.
 std::int64_t SegmentBudget(const HtrDocument& document, std::int64_t frame_count);
 
 // Whether the hierarchy from `root` down, with a segment counted as often as it is listed, has at
@@ -19,6 +20,6 @@ bool HierarchyFits(const HtrSegment& root, std::int64_t budget);
 
 // What the user is told when it does not fit.
 inline constexpr char kOverBudgetMessage[] =
-    "The file is damaged: it announces far more motion than it holds.";
+    "The file is damaged: it lists its hierarchy over and over.";
 
 }  // namespace orvane
