@@ -2,9 +2,11 @@
 
 #include "platform/portable/module_resources.h"
 
-// The ends of the resources, provided by the assembly file that embeds them.
-extern "C" const std::byte orvane_resources_begin[];  // NOLINT(modernize-avoid-c-arrays)
-extern "C" const std::byte orvane_resources_end[];    // NOLINT(modernize-avoid-c-arrays)
+// The ends of the resources, provided under these names by the assembly file that embeds them.
+// NOLINTBEGIN(readability-identifier-naming)
+extern "C" const std::byte orvane_resources_begin[];
+extern "C" const std::byte orvane_resources_end[];
+// NOLINTEND(readability-identifier-naming)
 
 namespace platform {
 
