@@ -4,6 +4,12 @@
 
 namespace host {
 
+// Where `time` lies between two ticks: 0 at `from`, 1 at `to`.
+inline double FractionBetween(TimeValue from, TimeValue to, TimeValue time) {
+  const double start = from;
+  return (time - start) / (to - start);
+}
+
 // A controller of one kind of value: how setting a value, copying and the animate mode play
 // together. The kinds below it say how values are kept and interpolated. Before the first key and
 // after the last one their values hold.

@@ -40,7 +40,7 @@ class SKELDER_API InstancePool {
   template <typename Kind, typename Interface>
   std::unique_ptr<Kind> Take(Interface* instance) {
     auto* wanted = dynamic_cast<Kind*>(instance);
-    if (wanted == nullptr || !Remove(wanted, "given to the scene")) return nullptr;
+    if (!Remove(wanted, "given to the scene")) return nullptr;
     return std::unique_ptr<Kind>(wanted);
   }
 
@@ -51,7 +51,7 @@ class SKELDER_API InstancePool {
   std::size_t Size() const { return instances_.size(); }
 
  private:
-  // Gives up the ownership of `instance`; false and a misuse when it is not here.
+  // Gives up the ownership of `instance`; false and a misuse when it is null or not here.
   bool Remove(Instance* instance, const char* purpose);
 
   MisuseLog& misuse_;

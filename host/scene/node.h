@@ -78,7 +78,7 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   // The transform within the parent, and in the world. The world transforms of a path through the
   // tree are kept until something on it changes or another time is asked for.
   Matrix3 LocalTransform(TimeValue time) const;
-  const Matrix3& WorldTransform(TimeValue time) const;
+  Matrix3 WorldTransform(TimeValue time) const;
 
   // Ends the life of this node: its children go to its parent with their world transforms kept, its
   // name becomes free, its contents are destroyed. Not for a root.
@@ -121,10 +121,17 @@ class SKELDER_API Node final : public INode, private ChangeListener {
  private:
   friend class ChildList;  // knows each child's place
 
-  void ControllerChanged() override;
+  void ControllerChanged() override { ForgetWorld(); }
+
+  // Forgets the world transforms of this node and of all nodes below.
+  void ForgetWorld();
 
   // Whether `operation` may go on; notes a misuse when the node was deleted.
   bool IsUsable(const char* operation) const;
+
+  // The same, and whether the node has a transform.
+  bool IsMovable(const char* operation) const;
+
   bool MayAttach(const Node* child) const;
   void AddChild(Node& child);
 

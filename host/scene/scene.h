@@ -11,6 +11,7 @@
 #include "host/base/misuse_log.h"
 #include "host/scene/name_table.h"
 #include "host/scene/node.h"
+#include "host/scene/node_selection.h"
 #include "platform/export.h"
 
 namespace host {
@@ -66,12 +67,13 @@ class SKELDER_API Scene {
 
   // --- Selection ---
 
-  // Appends `node`, of this scene and not the root, unless it is selected.
+  // Appends `node` unless it is selected. The root, a deleted node and a node of another scene are
+  // not selected and noted as misuse.
   void Select(Node& node);
-  void ClearSelection() { selection_.clear(); }
+  void ClearSelection() { selection_.Clear(); }
 
   // In the order of selection.
-  const std::vector<Node*>& Selection() const { return selection_; }
+  const std::vector<Node*>& Selection() const { return selection_.Nodes(); }
 
   // --- Units and views ---
 
@@ -96,7 +98,7 @@ class SKELDER_API Scene {
   // By handle, which is the index and 1. Deleted nodes stay as shells.
   std::vector<std::unique_ptr<Node>> nodes_;
   std::size_t node_count_ = 0;
-  std::vector<Node*> selection_;
+  NodeSelection selection_;
   double millimeters_per_unit_ = 1.0;
   std::size_t redraws_ = 0;
 };

@@ -6,9 +6,8 @@
 // The host's animation modes and its clock. Called by plug-ins on the user-interface thread.
 
 // Animate mode: while it is on, setting a controller's value makes a key. Suspending switches it
-// off and remembers its state; suspensions are counted, and the resume that matches the first
-// suspension restores what was remembered. AnimateOn and AnimateOff set the present state at any
-// time.
+// off and remembers its state; suspensions nest, and each resume restores the state that its
+// suspension remembered. AnimateOn and AnimateOff set the present state at any time.
 SKELDER_API void SuspendAnimate();
 SKELDER_API void ResumeAnimate();
 SKELDER_API void AnimateOn();

@@ -1,0 +1,24 @@
+#include "host/scene/bone_object.h"
+
+namespace host {
+namespace {
+
+bool IsParameter(int index) { return index >= 0 && index < BoneObject::kParameterCount; }
+
+}  // namespace
+
+BoneObject::BoneObject(InstancePool& pool)
+    : SceneObjectOf(pool, kGeometricObjectSuperClass, kBoneClass, "Bone"),
+      parameters_{10.0F, 10.0F, 90.0F, 100.0F} {}
+
+bool BoneObject::SetValue(int index, TimeValue /*time*/, float value) {
+  if (!IsParameter(index)) return false;
+  parameters_.at(static_cast<std::size_t>(index)) = value;
+  return true;
+}
+
+float BoneObject::GetFloat(int index, TimeValue /*time*/) {
+  return IsParameter(index) ? Parameter(index) : 0.0F;
+}
+
+}  // namespace host

@@ -1,0 +1,18 @@
+#pragma once
+
+#include <functional>
+
+#include "host/animation/transform_controller.h"
+#include "platform/export.h"
+#include "sdk/core/types.h"
+#include "sdk/geom/matrix3.h"
+
+namespace host {
+
+// Sets the controllers of `transform` so that its values become those of `wanted`, which is asked
+// for them before anything changes: a controller with keys is converted at each of its keys, one
+// without at `now`. Whether animate mode is on makes no difference.
+SKELDER_API void ConvertLocal(TransformController& transform, TimeValue now,
+                              const std::function<Matrix3(TimeValue)>& wanted);
+
+}  // namespace host
