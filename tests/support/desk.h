@@ -1,0 +1,67 @@
+#pragma once
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <utility>
+
+#include "host/desktop/memory_registry.h"
+#include "host/desktop/scripted_desktop.h"
+
+// A desktop for tests: fresh settings, and a user who closes every message box and answers dialogs
+// as the test says.
+namespace test {
+
+class Desk {
+ public:
+  using DialogAnswer = std::function<void(host::ScriptedDialog&)>;
+
+  // In use until it is destroyed.
+  Desk() {
+    host::ScriptedUser user;
+    user.answer_dialog = [this](host::ScriptedDialog& dialog) { AnswerNext(dialog); };
+    user.answer_message = [this](const host::MessageBox& message) {
+      return message.style == platform::MessageBoxStyle::kOk ? platform::kMessageBoxOk
+                                                             : next_choice_;
+    };
+    desktop_.SetUser(std::move(user));
+    platform::InstallDesktop(&desktop_);
+  }
+  Desk(const Desk&) = delete;
+  Desk& operator=(const Desk&) = delete;
+  ~Desk() { platform::InstallDesktop(nullptr); }
+
+  host::MemoryRegistry& registry() { return registry_; }
+  host::ScriptedDesktop& desktop() { return desktop_; }
+
+  // Answers the dialogs to come, one after the other.
+  void Expect(DialogAnswer answer) { answers_.push_back(std::move(answer)); }
+  bool AllAnswered() const { return answers_.empty(); }
+
+  // The button for questions.
+  void Choose(platform::MessageBoxResult choice) { next_choice_ = choice; }
+
+  // All messages so far, as "title: text", one a line.
+  std::string Messages() const {
+    std::string lines;
+    for (const host::MessageBox& message : desktop_.Messages()) {
+      lines += message.caption + ": " + message.text + "\n";
+    }
+    return lines;
+  }
+
+ private:
+  void AnswerNext(host::ScriptedDialog& dialog) {
+    if (answers_.empty()) throw host::ScriptError("Nobody expects \"" + dialog.Title() + "\"");
+    const DialogAnswer answer = std::move(answers_.front());
+    answers_.pop_front();
+    answer(dialog);
+  }
+
+  host::MemoryRegistry registry_;
+  host::ScriptedDesktop desktop_{registry_};
+  std::deque<DialogAnswer> answers_;
+  platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
+};
+
+}  // namespace test
