@@ -15,4 +15,7 @@ inline constexpr double kTurnedAngle_rad = 1e-12;
 // A length or a position in millimetres, computed through a chain of bones.
 inline constexpr double kPosition_mm = 1e-9;
 
+// A position told with one decimal, in millimetres.
+inline constexpr double kRecordedPosition_mm = 0.06;
+
 }  // namespace test
