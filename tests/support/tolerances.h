@@ -18,4 +18,13 @@ inline constexpr double kPosition_mm = 1e-9;
 // A position told with one decimal, in millimetres.
 inline constexpr double kRecordedPosition_mm = 0.06;
 
+// An element of a matrix or quaternion that was stored in single precision a few times.
+inline constexpr double kSingleElement = 1e-6;
+
+// An angle in radians that was stored in single precision, well away from where the axes coincide.
+inline constexpr double kSingleAngle_rad = 1e-5;
+
+// A position of some hundreds, stored in single precision at every node above it.
+inline constexpr double kSinglePosition = 1e-3;
+
 }  // namespace test
