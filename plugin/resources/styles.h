@@ -1,4 +1,5 @@
-/* The system's style bits that the dialogs use, for the resource compiler alone. */
+/* The system's style bits that the dialogs use, and its number for the window class of labels and
+   pictures, for the resource compiler alone. */
 #pragma once
 
 #define DS_MODALFRAME 0x80
@@ -10,3 +11,4 @@
 #define WS_TABSTOP 0x00010000
 #define ES_AUTOHSCROLL 0x0080
 #define SS_BITMAP 0x000E
+#define STATIC_CLASS 0x82

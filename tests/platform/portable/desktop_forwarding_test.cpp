@@ -1,0 +1,112 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <cstddef>
+#include <cstdint>
+
+#include "platform/desktop.h"
+#include "platform/dialog.h"
+#include "platform/message_box.h"
+#include "platform/registry.h"
+
+// The platform's functions, with and without a desktop in use.
+
+namespace platform {
+namespace {
+
+using testing::_;
+using testing::Return;
+using testing::ReturnRef;
+using testing::StrEq;
+
+class MockRegistry : public Registry {
+ public:
+  virtual ~MockRegistry() = default;
+  MOCK_METHOD(RegistryKey*, CreateKey, (RegistryKey*, const char*), (override));
+  MOCK_METHOD(void, CloseKey, (RegistryKey*), (override));
+  MOCK_METHOD(bool, QueryValue, (RegistryKey*, const char*, void*, std::size_t&), (override));
+  MOCK_METHOD(bool, SetValue, (RegistryKey*, const char*, RegistryType, const void*, std::size_t),
+              (override));
+};
+
+class MockDesktop : public Desktop {
+ public:
+  virtual ~MockDesktop() = default;
+  MOCK_METHOD(int, ShowMessage, (const char*, const char*, MessageBoxStyle), (override));
+  MOCK_METHOD(int, RunDialog, (HINSTANCE, int, HWND, DialogHandler&), (override));
+  MOCK_METHOD(Registry&, CurrentUser, (), (override));
+};
+
+class IdleHandler final : public DialogHandler {
+ public:
+  void Initialize(Dialog& /*dialog*/) override {}
+  void Command(Dialog& /*dialog*/, int /*control*/) override {}
+};
+
+class InstalledDesktopTest : public testing::Test {
+ protected:
+  InstalledDesktopTest() {
+    InstallDesktop(&desktop_);
+    ON_CALL(desktop_, CurrentUser()).WillByDefault(ReturnRef(registry_));
+  }
+  ~InstalledDesktopTest() override { InstallDesktop(nullptr); }
+
+  testing::NiceMock<MockDesktop> desktop_;
+  testing::StrictMock<MockRegistry> registry_;
+};
+
+// Handles are only passed on; any address will do.
+template <typename Handle>
+Handle Token(std::uintptr_t number) {
+  return reinterpret_cast<Handle>(number);  // NOLINT(google-readability-casting)
+}
+
+TEST_F(InstalledDesktopTest, IsTheCurrentOne) { EXPECT_EQ(CurrentDesktop(), &desktop_); }
+
+TEST_F(InstalledDesktopTest, ShowsMessages) {
+  EXPECT_CALL(desktop_, ShowMessage(StrEq("text"), StrEq("title"), MessageBoxStyle::kYesNo))
+      .WillOnce(Return(kMessageBoxYes));
+  EXPECT_EQ(ShowMessageBox("text", "title", MessageBoxStyle::kYesNo), kMessageBoxYes);
+}
+
+TEST_F(InstalledDesktopTest, RunsDialogs) {
+  IdleHandler handler;
+  EXPECT_CALL(desktop_, RunDialog(Token<HINSTANCE>(8), 107, Token<HWND>(16), testing::Ref(handler)))
+      .WillOnce(Return(5));
+  EXPECT_EQ(RunModalDialog(Token<HINSTANCE>(8), 107, Token<HWND>(16), handler), 5);
+}
+
+TEST_F(InstalledDesktopTest, LendsItsRegistry) {
+  auto* const key = Token<RegistryKey*>(8);
+  int value = 0;
+  std::size_t size = sizeof(value);
+  EXPECT_CALL(registry_, CreateKey(nullptr, StrEq("path"))).WillOnce(Return(key));
+  EXPECT_CALL(registry_, QueryValue(key, StrEq("name"), &value, testing::Ref(size)))
+      .WillOnce(Return(true));
+  EXPECT_CALL(registry_, SetValue(key, StrEq("name"), RegistryType::kBinary, &value, size))
+      .WillOnce(Return(true));
+  EXPECT_CALL(registry_, CloseKey(key));
+
+  EXPECT_EQ(CreateRegistryKey(nullptr, "path"), key);
+  EXPECT_TRUE(QueryRegistryValue(key, "name", &value, size));
+  EXPECT_TRUE(SetRegistryValue(key, "name", RegistryType::kBinary, &value, size));
+  CloseRegistryKey(key);
+}
+
+TEST(NoDesktopTest, EverythingReportsFailure) {
+  ASSERT_EQ(CurrentDesktop(), nullptr);
+  IdleHandler handler;
+  int value = 3;
+  std::size_t size = sizeof(value);
+  EXPECT_EQ(ShowMessageBox("text", "title", MessageBoxStyle::kOk), kMessageBoxFailed);
+  EXPECT_EQ(RunModalDialog(nullptr, 107, nullptr, handler), kDialogNotCreated);
+  EXPECT_EQ(CreateRegistryKey(nullptr, "path"), nullptr);
+  EXPECT_FALSE(QueryRegistryValue(nullptr, "name", &value, size));
+  EXPECT_FALSE(SetRegistryValue(nullptr, "name", RegistryType::kBinary, &value, size));
+  CloseRegistryKey(nullptr);
+  EXPECT_EQ(value, 3);
+  EXPECT_EQ(size, sizeof(value));
+}
+
+}  // namespace
+}  // namespace platform

@@ -1,0 +1,196 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+#include "platform/module.h"
+#include "platform/portable/module_resources.h"
+#include "platform/portable/resource_file.h"
+
+namespace {
+
+using platform::ControlKind;
+using platform::ControlTemplate;
+using platform::DialogRectangle;
+using platform::DialogTemplate;
+
+DialogTemplate Dialog(unsigned int id) {
+  const auto file = platform::ResourceFileOf(platform::ModuleHandle());
+  return platform::FindDialog(file, id).value_or(DialogTemplate());
+}
+
+bool Contains(const DialogRectangle& outer, const DialogRectangle& inner) {
+  return inner.x >= outer.x && inner.y >= outer.y &&
+         inner.x + inner.width <= outer.x + outer.width &&
+         inner.y + inner.height <= outer.y + outer.height;
+}
+
+bool Overlap(const DialogRectangle& a, const DialogRectangle& b) {
+  return a.x < b.x + b.width && b.x < a.x + a.width && a.y < b.y + b.height && b.y < a.y + a.height;
+}
+
+// The text of the group box around a control; empty when there is none.
+std::string GroupOf(const DialogTemplate& dialog, const ControlTemplate& control) {
+  for (const ControlTemplate& box : dialog.controls) {
+    if (box.kind == ControlKind::kGroupBox && Contains(box.area, control.area)) return box.text;
+  }
+  return "";
+}
+
+// What the user reads beside an edit control: the label to its left in the same row.
+std::string LabelOf(const DialogTemplate& dialog, const ControlTemplate& edit) {
+  for (const ControlTemplate& label : dialog.controls) {
+    if (label.kind == ControlKind::kLabel && label.area.x + label.area.width <= edit.area.x &&
+        label.area.y >= edit.area.y && label.area.y < edit.area.y + edit.area.height &&
+        GroupOf(dialog, label) == GroupOf(dialog, edit)) {
+      return label.text;
+    }
+  }
+  return "";
+}
+
+// A control as a list of the user's choices would describe it.
+struct Entry {
+  int id;
+  ControlKind kind;
+  std::string text;
+  std::string group;
+};
+
+bool operator==(const Entry& a, const Entry& b) {
+  return a.id == b.id && a.kind == b.kind && a.text == b.text && a.group == b.group;
+}
+
+void PrintTo(const Entry& entry, std::ostream* out) {
+  *out << entry.id << " \"" << entry.text << "\" in \"" << entry.group << "\", kind "
+       << static_cast<int>(entry.kind);
+}
+
+std::vector<Entry> NumberedControls(const DialogTemplate& dialog) {
+  std::vector<Entry> entries;
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.id == -1) continue;
+    const bool is_edit = control.kind == ControlKind::kEdit;
+    entries.push_back({control.id, control.kind, is_edit ? LabelOf(dialog, control) : control.text,
+                       GroupOf(dialog, control)});
+  }
+  return entries;
+}
+
+TEST(ImportHtrDialogTest, HasItsTitleAndSize) {
+  const DialogTemplate dialog = Dialog(107);
+  EXPECT_EQ(dialog.title, "ImportHTR");
+  EXPECT_EQ(dialog.area.width, 262);
+  EXPECT_EQ(dialog.area.height, 164);
+}
+
+TEST(ImportHtrDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
+  const ControlKind radio = ControlKind::kRadioButton;
+  const ControlKind check = ControlKind::kCheckBox;
+  const ControlKind edit = ControlKind::kEdit;
+  const ControlKind button = ControlKind::kPushButton;
+  EXPECT_THAT(
+      NumberedControls(Dialog(107)),
+      testing::ElementsAre(
+          Entry{1085, radio, "Create", "Skeleton"}, Entry{1086, radio, "Apply", "Skeleton"},
+          Entry{1104, edit, "Segment Size", "Skeleton"},
+          Entry{1019, check, "End Effectors", "Skeleton"},
+          Entry{1017, check, "Base Position", "Keyframe Options"},
+          Entry{1063, check, "Animation", "Keyframe Options"},
+          Entry{1051, radio, "Euler", "Rotation Controller"},
+          Entry{1052, radio, "TCB", "Rotation Controller"},
+          Entry{1067, radio, "All", "Time Options"}, Entry{1068, radio, "Range", "Time Options"},
+          Entry{1065, edit, "From", "Time Options"}, Entry{1066, edit, "To", "Time Options"},
+          Entry{1089, edit, "Offset", "Time Options"},
+          Entry{1140, check, "Set Frame Rate", "Time Options"},
+          Entry{1088, edit, "Global", "Scale"}, Entry{1097, button, "&OK", ""},
+          Entry{1098, button, "&Cancel", ""}));
+}
+
+TEST(ImportHtrDialogTest, NamesItsGroups) {
+  std::vector<std::string> groups;
+  for (const ControlTemplate& control : Dialog(107).controls) {
+    if (control.kind == ControlKind::kGroupBox) groups.push_back(control.text);
+  }
+  EXPECT_THAT(groups, testing::ElementsAre("Skeleton", "Keyframe Options", "Rotation Controller",
+                                           "Time Options", "Scale"));
+}
+
+TEST(ImportHtrDialogTest, LetsItsHandlerSelectRadioButtons) {
+  for (const ControlTemplate& control : Dialog(107).controls) {
+    if (control.kind == ControlKind::kRadioButton) {
+      EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
+    }
+  }
+}
+
+TEST(ImportHtrDialogTest, StopsTheTabKeyOnceInEachPairOfRadioButtons) {
+  std::map<int, bool> stops;
+  for (const ControlTemplate& control : Dialog(107).controls) {
+    if (control.kind != ControlKind::kRadioButton) continue;
+    stops[control.id] = (control.style & platform::kStyleTabStop) != 0;
+    EXPECT_EQ(stops[control.id], (control.style & platform::kStyleGroup) != 0) << control.text;
+  }
+  EXPECT_THAT(stops, testing::ElementsAre(std::pair(1051, true), std::pair(1052, false),
+                                          std::pair(1067, true), std::pair(1068, false),
+                                          std::pair(1085, true), std::pair(1086, false)));
+}
+
+TEST(AboutDialogTest, NamesTheProductAndItsVersion) {
+  const DialogTemplate dialog = Dialog(114);
+  EXPECT_EQ(dialog.title, "About...");
+  std::vector<std::string> lines;
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.kind == ControlKind::kLabel) lines.push_back(control.text);
+  }
+  EXPECT_THAT(lines, testing::IsSupersetOf({"OrvaneFileIO for Skelder", "Version 3.2.1",
+                                            "Copyright (c) 2026 The OrvaneFileIO authors"}));
+}
+
+TEST(AboutDialogTest, HasAPictureAndAButtonToCloseIt) {
+  const DialogTemplate dialog = Dialog(114);
+  EXPECT_THAT(NumberedControls(dialog),
+              testing::ElementsAre(Entry{1097, ControlKind::kPushButton, "OK", ""}));
+  EXPECT_EQ(std::count_if(
+                dialog.controls.begin(), dialog.controls.end(),
+                [](const ControlTemplate& control) { return control.kind == ControlKind::kImage; }),
+            1);
+}
+
+class DialogLayoutTest : public testing::TestWithParam<unsigned int> {};
+
+TEST_P(DialogLayoutTest, KeepsControlsInsideTheDialogAndApart) {
+  const DialogTemplate dialog = Dialog(GetParam());
+  ASSERT_FALSE(dialog.controls.empty());
+  const DialogRectangle inside{0, 0, dialog.area.width, dialog.area.height};
+  for (std::size_t i = 0; i < dialog.controls.size(); ++i) {
+    const ControlTemplate& control = dialog.controls[i];
+    EXPECT_TRUE(Contains(inside, control.area)) << control.text;
+    for (std::size_t j = 0; j < i; ++j) {
+      const ControlTemplate& other = dialog.controls[j];
+      EXPECT_TRUE(!Overlap(control.area, other.area) ||
+                  (other.kind == ControlKind::kGroupBox && Contains(other.area, control.area)))
+          << control.text << " over " << other.text;
+    }
+  }
+}
+
+TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
+  std::set<int> ids;
+  std::set<char> mnemonics;
+  for (const ControlTemplate& control : Dialog(GetParam()).controls) {
+    EXPECT_TRUE(control.id == -1 || ids.insert(control.id).second) << control.id;
+    const std::size_t ampersand = control.text.find('&');
+    EXPECT_TRUE(ampersand == std::string::npos ||
+                mnemonics.insert(control.text.at(ampersand + 1)).second)
+        << control.text;
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest, testing::Values(107U, 114U));
+
+}  // namespace
