@@ -132,8 +132,9 @@ class Descriptor final : public ClassDesc2 {
   const char* Category() override { return "Tests"; }
 };
 
-Descriptor<SceneImport, Importer, kSceneImportSuperClass> import_descriptor;
-Descriptor<SceneExport, Exporter, kSceneExportSuperClass> export_descriptor;
+// Unused where FIXTURE_OMIT_LibClassDesc is defined.
+[[maybe_unused]] Descriptor<SceneImport, Importer, kSceneImportSuperClass> import_descriptor;
+[[maybe_unused]] Descriptor<SceneExport, Exporter, kSceneExportSuperClass> export_descriptor;
 
 }  // namespace
 

@@ -32,15 +32,20 @@ TEST_F(ModuleLoadTest, ConstructsTheModulesStaticsAndDestroysThem) {
   EXPECT_THAT(registry_.OpenKeys(), ElementsAre());
 }
 
-TEST_F(ModuleLoadTest, RefusesAModuleThatLacksAnEntryPoint) {
-  for (const std::string entry :
-       {"LibDescription", "LibNumberClasses", "LibClassDesc", "LibVersion"}) {
-    const std::string path = Fixture("fixture_without_" + entry);
-    EXPECT_EQ(Load(path), nullptr);
-    EXPECT_EQ(refusal_, path + " is not a plug-in module: it has no entry point " + entry + ".");
-    EXPECT_THAT(registry_.OpenKeys(), ElementsAre()) << "still loaded: " << path;
-  }
+class ModuleWithoutEntryPointTest : public ModuleTest,
+                                    public testing::WithParamInterface<const char*> {};
+
+TEST_P(ModuleWithoutEntryPointTest, IsRefusedAndUnloaded) {
+  const std::string entry = GetParam();
+  const std::string path = Fixture("fixture_without_" + entry);
+  EXPECT_EQ(Load(path), nullptr);
+  EXPECT_EQ(refusal_, path + " is not a plug-in module: it has no entry point " + entry + ".");
+  EXPECT_THAT(registry_.OpenKeys(), ElementsAre());
 }
+
+INSTANTIATE_TEST_SUITE_P(EveryEntryPoint, ModuleWithoutEntryPointTest,
+                         testing::Values("LibDescription", "LibNumberClasses", "LibClassDesc",
+                                         "LibVersion"));
 
 TEST_F(ModuleLoadTest, RefusesAModuleMadeForAnotherInterface) {
   const std::string path = Fixture("fixture_for_interface_20");
