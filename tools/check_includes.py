@@ -34,32 +34,44 @@ def glob_to_regex(pattern):
     return re.compile("".join(parts) + r"\Z")
 
 
+class Rule:
+    """One line of the table."""
+
+    def __init__(self, line):
+        files, what = line.split(":", 1)
+        self.files = glob_to_regex(files)
+        self.allowed = [glob_to_regex(word) for word in what.split() if word[0] != "!"]
+        self.refused = [glob_to_regex(word[1:]) for word in what.split() if word[0] == "!"]
+
+    def allows(self, file, quote, header):
+        if quote == "<":
+            return header in STANDARD_HEADERS or matches(self.allowed, f"<{header}>")
+        if matches(self.refused, header):
+            return False
+        return folder_of(header) == folder_of(file) or matches(self.allowed, header)
+
+
+def matches(patterns, text):
+    return any(pattern.match(text) for pattern in patterns)
+
+
+def folder_of(name):
+    return name.rpartition("/")[0]
+
+
 def read_rules(text):
-    """The table as a list of (files, [allowed...]), all of them compiled patterns."""
-    rules = []
-    for line in text.splitlines():
-        line = line.split("#", 1)[0].strip()
-        if line:
-            files, allowed = line.split(":", 1)
-            rules.append((glob_to_regex(files), [glob_to_regex(a) for a in allowed.split()]))
-    return rules
-
-
-def is_allowed(file, quote, header, allowed):
-    if quote == "<":
-        return header in STANDARD_HEADERS or any(a.match(f"<{header}>") for a in allowed)
-    folder = file.rpartition("/")[0]
-    return header.rpartition("/")[0] == folder or any(a.match(header) for a in allowed)
+    lines = (line.split("#", 1)[0].strip() for line in text.splitlines())
+    return [Rule(line) for line in lines if line]
 
 
 def findings(file, text, rules):
     """One message for each include of the file that its rule does not allow."""
-    allowed = next((allowed for files, allowed in rules if files.match(file)), None)
-    if allowed is None:
+    rule = next((rule for rule in rules if rule.files.match(file)), None)
+    if rule is None:
         return [f"{file}: no rule says what this file may include"]
     return [f"{file}:{text.count(chr(10), 0, match.start(1)) + 1}: may not include {match[2]}"
             for match in INCLUDE.finditer(text)
-            if not is_allowed(file, match[1], match[2], allowed)]
+            if not rule.allows(file, match[1], match[2])]
 
 
 def main(rules_name):

@@ -36,8 +36,8 @@ orvane::ImportTRCOptions import_trc_options;
 
 orvane::OrvaneUtilitiesClassDesc utilities_class(strings, message_sink);
 
-const std::array<ClassDesc2*, 4> classes = {&import_htr_class, &export_htr_class, &import_trc_class,
-                                            &utilities_class};
+const std::array<ClassDesc2*, 4> kClasses = {&import_htr_class, &export_htr_class,
+                                             &import_trc_class, &utilities_class};
 
 }  // namespace
 
@@ -49,12 +49,12 @@ SKELDER_ENTRY const char* LibDescription() {
   return library_description.GetString(platform::ModuleHandle(), IDS_LIBRARY_DESCRIPTION);
 }
 
-SKELDER_ENTRY int LibNumberClasses() { return static_cast<int>(classes.size()); }
+SKELDER_ENTRY int LibNumberClasses() { return static_cast<int>(kClasses.size()); }
 
 // The descriptor of class `index`, null when there is none of that number. It is the module's.
 SKELDER_ENTRY ClassDesc2* LibClassDesc(int index) {
   if (index < 0 || index >= LibNumberClasses()) return nullptr;
-  return classes[static_cast<std::size_t>(index)];
+  return kClasses[static_cast<std::size_t>(index)];
 }
 
 // What host this module is made for.

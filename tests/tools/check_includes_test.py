@@ -12,7 +12,7 @@ RULES = """
 # a comment
 core/*:  base/*
 base/*:
-outer/**: core/* <library/*>
+outer/**: !outer/secret* core/* <library/*>
 """
 
 
@@ -60,6 +60,10 @@ class CheckIncludesTest(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertEqual(output, "core/a.h:1: may not include library/x.h\n"
                                  "outer/b.h:1: may not include library/x.h\n")
+
+    def test_a_rule_can_refuse_headers_even_of_the_own_folder(self):
+        status, output = self.check({"outer/a.h": '#include "outer/secret.h"\n'})
+        self.assertEqual((status, output), (1, "outer/a.h:1: may not include outer/secret.h\n"))
 
     def test_a_file_without_a_rule_is_an_error(self):
         status, output = self.check({"elsewhere/a.h": "#include <vector>\n"})

@@ -67,7 +67,8 @@ TEST(EulerOrder, IgnoresBitsBeyondItsFields) {
 
 TEST(EulerOrder, IsAValue) {
   const OrvaneEulerOrder original(20);
-  const OrvaneEulerOrder copy = original;
+  OrvaneEulerOrder copy(4);
+  copy = original;
   EXPECT_EQ(copy.code(), 20u);
 }
 
