@@ -31,7 +31,8 @@ bool SegmentKeyer::Run() {
 
 // Intended: every tick, not only the frames', so that keys made at another frame rate go too.
 void SegmentKeyer::ClearKeys() {
-  for (std::int64_t tick = times_.BeginTick(); tick < times_.EndTick(); ++tick) {
+  const std::int64_t end = times_.EndTick();
+  for (std::int64_t tick = times_.BeginTick(); tick < end; ++tick) {
     const auto time = static_cast<TimeValue>(tick);
     if (position_ != nullptr) position_->DeleteKeyAt(time);
     if (rotation_ != nullptr) rotation_->DeleteKeyAt(time);

@@ -4,6 +4,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <random>
 #include <string>
 
@@ -24,6 +25,12 @@ class TemporaryFolder {
 
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
   [[nodiscard]] std::string File(const std::string& name) const { return (path_ / name).string(); }
+
+  // Writes `bytes` to the file `name` and returns its path.
+  std::string Write(const std::string& name, const std::string& bytes) const {
+    std::ofstream(path_ / name, std::ios::binary) << bytes;
+    return File(name);
+  }
 
  private:
   // Tests run in processes of their own at the same time.

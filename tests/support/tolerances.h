@@ -27,4 +27,7 @@ inline constexpr double kSingleAngle_rad = 1e-5;
 // A position of some hundreds, stored in single precision at every node above it.
 inline constexpr double kSinglePosition = 1e-3;
 
+// A number of the size of 1 in the host's single precision, after a few operations.
+inline constexpr double kHostNumber = 1e-6;
+
 }  // namespace test

@@ -1,0 +1,469 @@
+#include "plugin/import_htr/options_dialog.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "platform/module.h"
+#include "tests/support/desk.h"
+#include "tests/support/fake_dialog.h"
+
+namespace orvane {
+namespace {
+
+constexpr int kBasePosition = 1017;
+constexpr int kEndEffectors = 1019;
+constexpr int kSpare = 1023;
+constexpr int kEuler = 1051;
+constexpr int kTcb = 1052;
+constexpr int kAnimation = 1063;
+constexpr int kFrom = 1065;
+constexpr int kTo = 1066;
+constexpr int kAll = 1067;
+constexpr int kRange = 1068;
+constexpr int kCreate = 1085;
+constexpr int kApply = 1086;
+constexpr int kGlobal = 1088;
+constexpr int kOffset = 1089;
+constexpr int kOk = 1097;
+constexpr int kCancel = 1098;
+constexpr int kAbout = 1103;
+constexpr int kSegmentSize = 1104;
+constexpr int kSetFrameRate = 1140;
+
+class ImportHTROptionsDialogTest : public testing::Test {
+ protected:
+  // The bounds that most tests start from.
+  void SetUp() override {
+    options_.startFrame = 1;
+    options_.endFrame = 100;
+  }
+
+  void TearDown() override {
+    desk_.desktop().RethrowFailure();
+    EXPECT_TRUE(desk_.AllAnswered());
+  }
+
+  ImportHTROptionsDialog Dialog() {
+    return ImportHTROptionsDialog(options_, sink_, &parent_, platform::ModuleHandle());
+  }
+
+  // Shows the dialog to `user`; a dialog that the user leaves open is cancelled.
+  bool Show(const test::Desk::DialogAnswer& user) {
+    desk_.Expect([&user](host::ScriptedDialog& dialog) {
+      user(dialog);
+      if (!dialog.HasEnded()) dialog.Click(kCancel);
+    });
+    return Dialog().Show();
+  }
+
+  bool IsSaved() {
+    return desk_.registry()
+        .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR", "Apply")
+        .has_value();
+  }
+
+  test::Desk desk_;
+  HWND__ parent_;
+  ImportHTROptions options_;
+  MessageSink sink_;
+};
+
+TEST_F(ImportHTROptionsDialogTest, IsCentredOverItsParentAndTitled) {
+  Show([this](host::ScriptedDialog& dialog) {
+    EXPECT_EQ(dialog.Id(), 107);
+    EXPECT_EQ(dialog.Title(), "ImportHTR");
+    EXPECT_EQ(dialog.CentredOver(), &parent_);
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, HasItsControlsAndGroups) {
+  Show([](host::ScriptedDialog& dialog) {
+    const struct {
+      int id;
+      const char* text;
+    } controls[] = {{kCreate, "Create"},
+                    {kApply, "Apply"},
+                    {kEndEffectors, "End Effectors"},
+                    {kBasePosition, "Base Position"},
+                    {kAnimation, "Animation"},
+                    {kEuler, "Euler"},
+                    {kTcb, "TCB"},
+                    {kAll, "All"},
+                    {kRange, "Range"},
+                    {kSetFrameRate, "Set Frame Rate"},
+                    {kOk, "&OK"},
+                    {kCancel, "&Cancel"}};
+    for (const auto& control : controls) {
+      EXPECT_TRUE(dialog.Has(control.id)) << control.text;
+      EXPECT_EQ(dialog.Text(control.id), control.text);
+    }
+    for (const int edit : {kSegmentSize, kFrom, kTo, kOffset, kGlobal}) {
+      EXPECT_TRUE(dialog.Has(edit)) << edit;
+    }
+    EXPECT_FALSE(dialog.Has(kSpare));
+    EXPECT_FALSE(dialog.Has(kAbout));
+    for (const char* group :
+         {"Skeleton", "Keyframe Options", "Rotation Controller", "Time Options", "Scale"}) {
+      bool found = false;
+      for (const host::DialogControl& control : dialog.Controls()) {
+        found =
+            found || (control.text == group && control.kind == platform::ControlKind::kGroupBox);
+      }
+      EXPECT_TRUE(found) << group;
+    }
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, ShowsTheDefaultsAtFirst) {
+  Show([](host::ScriptedDialog& dialog) {
+    EXPECT_TRUE(dialog.IsChecked(kCreate));
+    EXPECT_FALSE(dialog.IsChecked(kApply));
+    EXPECT_TRUE(dialog.IsChecked(kAll));
+    EXPECT_FALSE(dialog.IsChecked(kRange));
+    EXPECT_TRUE(dialog.IsChecked(kEuler));
+    EXPECT_FALSE(dialog.IsChecked(kTcb));
+    EXPECT_TRUE(dialog.IsChecked(kAnimation));
+    EXPECT_FALSE(dialog.IsChecked(kBasePosition));
+    EXPECT_FALSE(dialog.IsChecked(kEndEffectors));
+    EXPECT_FALSE(dialog.IsChecked(kSetFrameRate));
+    EXPECT_EQ(dialog.Text(kFrom), "1");
+    EXPECT_EQ(dialog.Text(kTo), "100");
+    EXPECT_EQ(dialog.Text(kOffset), "0");
+    EXPECT_EQ(dialog.Text(kSegmentSize), "1.000000");
+    EXPECT_EQ(dialog.Text(kGlobal), "1.000000");
+    EXPECT_FALSE(dialog.IsEnabled(kFrom));
+    EXPECT_FALSE(dialog.IsEnabled(kTo));
+    for (const int control : {kOffset, kSegmentSize, kEndEffectors, kGlobal, kAll, kRange}) {
+      EXPECT_TRUE(dialog.IsEnabled(control)) << control;
+    }
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, LoadsTheStoredOptionsBeforeItShowsThem) {
+  {
+    ImportHTROptions stored;
+    stored.apply = stored.range = stored.keyBasePosition = true;
+    stored.endEffectors = stored.setFrameRate = true;
+    stored.animate = false;
+    stored.rotationController = 2;
+    stored.size = 2.5F;
+    stored.scaleFactor = -0.25;
+    stored.Save();
+  }
+  options_.frameOffset = -7;
+  Show([](host::ScriptedDialog& dialog) {
+    EXPECT_TRUE(dialog.IsChecked(kApply));
+    EXPECT_FALSE(dialog.IsChecked(kCreate));
+    EXPECT_FALSE(dialog.IsEnabled(kEndEffectors));
+    EXPECT_FALSE(dialog.IsEnabled(kSegmentSize));
+    EXPECT_TRUE(dialog.IsChecked(kRange));
+    EXPECT_FALSE(dialog.IsChecked(kAll));
+    EXPECT_TRUE(dialog.IsEnabled(kFrom));
+    EXPECT_TRUE(dialog.IsEnabled(kTo));
+    EXPECT_TRUE(dialog.IsChecked(kTcb));
+    EXPECT_FALSE(dialog.IsChecked(kEuler));
+    EXPECT_FALSE(dialog.IsChecked(kAnimation));
+    EXPECT_TRUE(dialog.IsChecked(kBasePosition));
+    EXPECT_TRUE(dialog.IsChecked(kEndEffectors));
+    EXPECT_TRUE(dialog.IsChecked(kSetFrameRate));
+    EXPECT_EQ(dialog.Text(kOffset), "-7");
+    EXPECT_EQ(dialog.Text(kSegmentSize), "2.500000");
+    EXPECT_EQ(dialog.Text(kGlobal), "-0.250000");
+    // Opening leaves these alone whatever Animation says.
+    EXPECT_TRUE(dialog.IsEnabled(kAll));
+    EXPECT_TRUE(dialog.IsEnabled(kRange));
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, RadiosSelectTheClickedOneOfTheirPair) {
+  Show([](host::ScriptedDialog& dialog) {
+    const struct {
+      int radio;
+      int other;
+    } pairs[] = {{kEuler, kTcb}, {kCreate, kApply}, {kAll, kRange}};
+    for (const auto& pair : pairs) {
+      dialog.Click(pair.other);
+      EXPECT_TRUE(dialog.IsChecked(pair.other));
+      EXPECT_FALSE(dialog.IsChecked(pair.radio));
+      dialog.Click(pair.radio);
+      EXPECT_TRUE(dialog.IsChecked(pair.radio));
+      EXPECT_FALSE(dialog.IsChecked(pair.other));
+    }
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, AnimationEnablesAllAndRangeButNotTheirFrames) {
+  Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Click(kAnimation);
+    EXPECT_FALSE(dialog.IsEnabled(kAll));
+    EXPECT_FALSE(dialog.IsEnabled(kRange));
+    EXPECT_TRUE(dialog.IsEnabled(kFrom));
+    EXPECT_TRUE(dialog.IsEnabled(kTo));
+    dialog.Click(kAnimation);
+    EXPECT_TRUE(dialog.IsEnabled(kAll));
+    EXPECT_TRUE(dialog.IsEnabled(kRange));
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, RangeEnablesTheFramesAndAllDisablesThem) {
+  Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    EXPECT_TRUE(dialog.IsEnabled(kFrom));
+    EXPECT_TRUE(dialog.IsEnabled(kTo));
+    dialog.Click(kAll);
+    EXPECT_FALSE(dialog.IsEnabled(kFrom));
+    EXPECT_FALSE(dialog.IsEnabled(kTo));
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, ApplyDisablesWhatOnlyCreationNeeds) {
+  Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kApply);
+    EXPECT_FALSE(dialog.IsEnabled(kEndEffectors));
+    EXPECT_FALSE(dialog.IsEnabled(kSegmentSize));
+    dialog.Click(kCreate);
+    EXPECT_TRUE(dialog.IsEnabled(kEndEffectors));
+    EXPECT_TRUE(dialog.IsEnabled(kSegmentSize));
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, TheSpareControlGoesWithEndEffectors) {
+  test::FakeDialog dialog;
+  ImportHTROptionsDialog handler = Dialog();
+  handler.Initialize(dialog);
+  EXPECT_FALSE(dialog[kSpare].checked);
+  handler.Command(dialog, kApply);
+  EXPECT_FALSE(dialog[kSpare].enabled);
+  handler.Command(dialog, kCreate);
+  EXPECT_TRUE(dialog[kSpare].enabled);
+}
+
+TEST_F(ImportHTROptionsDialogTest, CancelEndsItAndSavesNothing) {
+  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kApply);
+    dialog.Click(kCancel);
+    EXPECT_TRUE(dialog.HasEnded());
+  }));
+  EXPECT_FALSE(IsSaved());
+  EXPECT_FALSE(options_.apply);
+}
+
+TEST_F(ImportHTROptionsDialogTest, EscAndCloseBoxDoNothing) {
+  Show([](host::ScriptedDialog& dialog) {
+    dialog.PressEscape();
+    EXPECT_FALSE(dialog.HasEnded());
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, IdsOutsideItsRangeAreIgnored) {
+  test::FakeDialog dialog;
+  ImportHTROptionsDialog handler = Dialog();
+  handler.Initialize(dialog);
+  for (const int id : {1, 2, kBasePosition, kEndEffectors, 1050, 1104, kSetFrameRate}) {
+    handler.Command(dialog, id);
+  }
+  EXPECT_FALSE(dialog.Result());
+  EXPECT_EQ(desk_.Messages(), "");
+}
+
+TEST_F(ImportHTROptionsDialogTest, TheAboutControlShowsTheAboutBox) {
+  desk_.Expect([](host::ScriptedDialog& about) {
+    EXPECT_EQ(about.Title(), "About...");
+    about.Click(kOk);
+  });
+  test::FakeDialog dialog;
+  Dialog().Command(dialog, kAbout);
+  EXPECT_FALSE(dialog.Result());
+}
+
+TEST_F(ImportHTROptionsDialogTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
+  desk_.desktop().RefuseDialog(107);
+  EXPECT_FALSE(Dialog().Show());
+}
+
+TEST_F(ImportHTROptionsDialogTest, OkTakesEverythingOverAndSavesIt) {
+  EXPECT_TRUE(Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Click(kTcb);
+    dialog.Click(kBasePosition);
+    dialog.Click(kEndEffectors);
+    dialog.Click(kSetFrameRate);
+    dialog.Type(kFrom, "10");
+    dialog.Type(kTo, "20");
+    dialog.Type(kOffset, "-5");
+    dialog.Type(kSegmentSize, "0.5");
+    dialog.Type(kGlobal, "2.25");
+    dialog.Click(kOk);
+    EXPECT_TRUE(dialog.HasEnded());
+  }));
+  EXPECT_FALSE(options_.apply);
+  EXPECT_TRUE(options_.range);
+  EXPECT_EQ(options_.rotationController, 1);
+  EXPECT_TRUE(options_.animate);
+  EXPECT_TRUE(options_.keyBasePosition);
+  EXPECT_TRUE(options_.endEffectors);
+  EXPECT_FALSE(options_.spare);
+  EXPECT_TRUE(options_.setFrameRate);
+  EXPECT_EQ(options_.startFrame, 10);
+  EXPECT_EQ(options_.endFrame, 20);
+  EXPECT_EQ(options_.frameOffset, -5);
+  EXPECT_EQ(options_.size, 0.5F);
+  EXPECT_EQ(options_.scaleFactor, 2.25);
+  EXPECT_EQ(desk_.Messages(), "");
+
+  ImportHTROptions stored;
+  stored.Load();
+  EXPECT_TRUE(stored.range);
+  EXPECT_TRUE(stored.keyBasePosition);
+  EXPECT_EQ(stored.size, 0.5F);
+  EXPECT_EQ(stored.scaleFactor, 2.25);
+}
+
+// What the user types and clicks, and what the dialog says to it.
+struct Attempt {
+  const char* name;
+  std::vector<std::pair<int, const char*>> typed;
+  std::vector<int> clicked;
+  const char* message;  // empty: accepted
+};
+
+class ValidationTest : public ImportHTROptionsDialogTest,
+                       public testing::WithParamInterface<Attempt> {};
+
+TEST_P(ValidationTest, SaysWhatIsWrongOrAccepts) {
+  const Attempt& attempt = GetParam();
+  const std::string expected =
+      *attempt.message == '\0' ? "" : std::string("ImportHTR Error: ") + attempt.message + "\n";
+  const bool confirmed = Show([&](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    for (const int control : attempt.clicked) dialog.Click(control);
+    for (const auto& [control, text] : attempt.typed) dialog.Type(control, text);
+    dialog.Click(kOk);
+    EXPECT_EQ(dialog.HasEnded(), expected.empty());
+  });
+  EXPECT_EQ(desk_.Messages(), expected);
+  EXPECT_EQ(confirmed, expected.empty());
+  EXPECT_EQ(IsSaved(), expected.empty());
+}
+
+constexpr char kStart1[] = "Please choose a start frame equal to or greater than 1.";
+constexpr char kEnd100[] = "Please choose an end frame less than or equal to 100.";
+constexpr char kSize[] = "Please choose a non-zero size.";
+constexpr char kScale[] = "Please choose a non-zero scale factor.";
+constexpr char kOrder[] = "Please choose a start frame that is less than the end frame.";
+constexpr char kNothing[] =
+    "Please choose either Base Position, Animation, or both when in apply mode.";
+
+INSTANTIATE_TEST_SUITE_P(
+    Rules, ValidationTest,
+    testing::Values(
+        Attempt{"UnchangedDefaults", {}, {}, ""},
+        Attempt{"StartBelowTheBound", {{kFrom, "0"}}, {}, kStart1},
+        Attempt{"StartThatIsNoNumberReadsAs0", {{kFrom, "abc"}}, {}, kStart1},
+        Attempt{"StartWithALeadingNumber", {{kFrom, " 2x"}}, {}, ""},
+        Attempt{"EndAboveTheBound", {{kTo, "101"}}, {}, kEnd100},
+        Attempt{"EndFarAboveTheBound", {{kTo, "99999999999"}}, {}, kEnd100},
+        Attempt{"SizeZero", {{kSegmentSize, "0"}}, {}, kSize},
+        Attempt{"SizeThatIsNoNumber", {{kSegmentSize, "nan"}}, {}, kSize},
+        Attempt{"SizeTooSmallForSinglePrecision", {{kSegmentSize, "1e-60"}}, {}, kSize},
+        Attempt{"SizeNegative", {{kSegmentSize, "-1"}}, {}, ""},
+        Attempt{"ScaleZero", {{kGlobal, "0.0"}}, {}, kScale},
+        Attempt{"ScaleThatIsNoNumber", {{kGlobal, "abc"}}, {}, kScale},
+        Attempt{"ScaleNegative", {{kGlobal, "-2"}}, {}, ""},
+        Attempt{"EndBelowStart", {{kFrom, "20"}, {kTo, "19"}}, {}, kOrder},
+        Attempt{"EndEqualToStart", {{kFrom, "20"}, {kTo, "20"}}, {}, ""},
+        Attempt{"ApplyWithNothingToKey", {}, {kApply, kAnimation}, kNothing},
+        Attempt{"CreateWithNothingToKey", {}, {kAnimation}, ""},
+        Attempt{"ApplyWithBasePosition", {}, {kApply, kAnimation, kBasePosition}, ""},
+        Attempt{"ApplyWithAnimation", {}, {kApply}, ""},
+        // Only the first refusal is told.
+        Attempt{"StartBeforeEnd", {{kFrom, "0"}, {kTo, "101"}}, {}, kStart1},
+        Attempt{"EndBeforeSize", {{kTo, "101"}, {kSegmentSize, "0"}}, {}, kEnd100},
+        Attempt{"SizeBeforeScale", {{kSegmentSize, "0"}, {kGlobal, "0"}}, {}, kSize},
+        Attempt{"ScaleBeforeOrder", {{kGlobal, "0"}, {kFrom, "20"}, {kTo, "19"}}, {}, kScale},
+        Attempt{"OrderBeforeApply", {{kFrom, "20"}, {kTo, "19"}}, {kApply, kAnimation}, kOrder}),
+    [](const auto& attempt) { return attempt.param.name; });
+
+TEST_F(ImportHTROptionsDialogTest, ARefusedFrameIsPutBack) {
+  Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Type(kFrom, "0");
+    dialog.Click(kOk);
+    EXPECT_EQ(dialog.Text(kFrom), "1");
+    dialog.Type(kTo, "500");
+    dialog.Click(kOk);
+    EXPECT_EQ(dialog.Text(kTo), "100");
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, AnAcceptedFrameNarrowsTheBoundForTheNextAttempt) {
+  Show([this](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Type(kFrom, "10");
+    dialog.Type(kTo, "90");
+    dialog.Type(kSegmentSize, "0");
+    dialog.Click(kOk);
+    dialog.Type(kFrom, "5");
+    dialog.Type(kSegmentSize, "1");
+    dialog.Click(kOk);
+    EXPECT_EQ(dialog.Text(kFrom), "10");
+    dialog.Type(kTo, "95");
+    dialog.Click(kOk);
+    EXPECT_EQ(dialog.Text(kTo), "90");
+    EXPECT_EQ(desk_.Messages(),
+              "ImportHTR Error: Please choose a non-zero size.\n"
+              "ImportHTR Error: Please choose a start frame equal to or greater than 10.\n"
+              "ImportHTR Error: Please choose an end frame less than or equal to 90.\n");
+  });
+}
+
+TEST_F(ImportHTROptionsDialogTest, FramesAreReadEvenWhenAllIsChosen) {
+  EXPECT_TRUE(Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Type(kFrom, "10");
+    dialog.Click(kAll);
+    dialog.Click(kOk);
+  }));
+  EXPECT_FALSE(options_.range);
+  EXPECT_EQ(options_.startFrame, 10);
+}
+
+TEST_F(ImportHTROptionsDialogTest, WhatAFailedOkTookOverStaysAfterCancel) {
+  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
+    dialog.Click(kApply);
+    dialog.Click(kTcb);
+    dialog.Type(kOffset, "4");
+    dialog.Type(kGlobal, "0");
+    dialog.Click(kOk);
+    dialog.Click(kCancel);
+  }));
+  EXPECT_TRUE(options_.apply);
+  EXPECT_EQ(options_.rotationController, 1);
+  EXPECT_EQ(options_.frameOffset, 4);
+  EXPECT_EQ(options_.scaleFactor, 0.0);
+  EXPECT_FALSE(IsSaved());
+}
+
+TEST_F(ImportHTROptionsDialogTest, TextsAreReadTo255Characters) {
+  EXPECT_TRUE(Show([](host::ScriptedDialog& dialog) {
+    dialog.Type(kOffset, std::string(254, '0') + "12");
+    dialog.Click(kOk);
+  }));
+  EXPECT_EQ(options_.frameOffset, 1);
+}
+
+TEST_F(ImportHTROptionsDialogTest, StoredNumbersThatAreNoneAreShownAndRefused) {
+  {
+    ImportHTROptions stored;
+    stored.size = std::numeric_limits<float>::quiet_NaN();
+    stored.scaleFactor = std::numeric_limits<double>::quiet_NaN();
+    stored.Save();
+  }
+  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) { dialog.Click(kOk); }));
+  EXPECT_EQ(desk_.Messages(), "ImportHTR Error: Please choose a non-zero size.\n");
+}
+
+}  // namespace
+}  // namespace orvane
