@@ -1,0 +1,250 @@
+#include "plugin/import_htr/skeleton_creator.h"
+
+#include <gtest/gtest.h>
+
+#include "host/application/application.h"
+#include "tests/plugin/import_htr/skeleton_fixture.h"
+#include "tests/support/forwarding_interface.h"
+
+namespace orvane {
+namespace {
+
+using test::ChildNames;
+using test::ExpectPoint;
+using test::ExpectRows;
+using test::Radians;
+
+class SkeletonCreatorTest : public test::SkeletonTest {
+ protected:
+  INode* Create(const HtrSegment& root) {
+    return SkeletonCreator(interface(), options_).Create(root);
+  }
+
+  static Point3 Position(const host::Node& node) { return node.Transform()->Position().Constant(); }
+
+  static float BoneParameter(const host::Node& node, int index) {
+    return dynamic_cast<const host::BoneObject&>(*node.ShownObject()).Parameter(index);
+  }
+};
+
+TEST_F(SkeletonCreatorTest, MakesOneBonePerSegmentInTheOrderOfTheFile) {
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& spine = Add("Spine", &hips);
+  Add("LeftLeg", &hips);
+  Add("Head", &spine);
+  Add("RightLeg", &hips);
+  INode* root = Create(hips);
+  ASSERT_EQ(root, Find("Hips"));
+  EXPECT_EQ(scene().NodeCount(), 5U);
+  EXPECT_EQ(ChildNames(scene().Root()), "Hips");
+  EXPECT_EQ(ChildNames(*Find("Hips")), "Spine LeftLeg RightLeg");
+  EXPECT_EQ(ChildNames(*Find("Spine")), "Head");
+}
+
+TEST_F(SkeletonCreatorTest, BasePositionsChangeTheirAxesAndPropertiesDoNot) {
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& leg = Add("Leg", &hips);
+  for (HtrSegment* segment : {&hips, &leg}) {
+    segment->SetBaseTranslation(1, 2, 3);
+    segment->SetBaseRotation(0.25, -0.5, 0.75);
+    segment->SetBoneLength(12.5);
+  }
+  Create(hips);
+  EXPECT_EQ(Position(*Find("Hips")), Point3(1, -3, 2));
+  EXPECT_EQ(Position(*Find("Leg")), Point3(2, 3, 1));
+  const host::UserProperties expected = {{"HTRBaseTransX", 1.0F}, {"HTRBaseTransY", 2.0F},
+                                         {"HTRBaseTransZ", 3.0F}, {"HTRBaseRotX", 0.25F},
+                                         {"HTRBaseRotY", -0.5F},  {"HTRBaseRotZ", 0.75F},
+                                         {"HTRBaseLength", 12.5F}};
+  EXPECT_EQ(Find("Hips")->Properties(), expected);
+  EXPECT_EQ(Find("Leg")->Properties(), expected);
+}
+
+TEST_F(SkeletonCreatorTest, PositionsDoNotFollowTheGlobalScale) {
+  options_.scaleFactor = 10;
+  HtrSegment& hips = Add("Hips");
+  hips.SetBaseTranslation(1, 2, 3);
+  Create(hips);
+  EXPECT_EQ(Position(*Find("Hips")), Point3(1, -3, 2));
+}
+
+TEST_F(SkeletonCreatorTest, ARootWithoutRotationStandsUprightAndABoneIsStraight) {
+  HtrSegment& hips = Add("Hips");
+  Add("Leg", &hips);
+  Create(hips);
+  // Ry(-90) Rx(180), whose columns are the host's rows.
+  ExpectRows(Find("Hips")->LocalTransform(0), {0, 0, 1}, {0, -1, 0}, {1, 0, 0});
+  ExpectRows(Find("Leg")->LocalTransform(0), {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+}
+
+TEST_F(SkeletonCreatorTest, BaseRotationsChangeTheirAxes) {
+  HtrSegment& hips = Add("Hips");
+  hips.SetBaseRotation(0, 0, Radians(90));
+  HtrSegment& leg = Add("Leg", &hips);
+  leg.SetBaseRotation(Radians(90), 0, 0);
+  Create(hips);
+  ExpectRows(Find("Hips")->LocalTransform(0), {-1, 0, 0}, {0, -1, 0}, {0, 0, 1});
+  // The file's X is the bone's Z.
+  ExpectRows(Find("Leg")->LocalTransform(0), {0, 1, 0}, {-1, 0, 0}, {0, 0, 1});
+}
+
+TEST_F(SkeletonCreatorTest, TheHostGetsTheQuaternionWithItsScalarNegated) {
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& leg = Add("Leg", &hips);
+  leg.SetBaseRotation(Radians(90), 0, 0);
+  Create(hips);
+  const Quat rotation = Find("Leg")->Transform()->Rotation().Constant();
+  EXPECT_NEAR(rotation.z, 0.70710678F, 1e-6F);
+  EXPECT_NEAR(rotation.w, -0.70710678F, 1e-6F);
+}
+
+TEST_F(SkeletonCreatorTest, TheDocumentIsNotChanged) {
+  HtrSegment& hips = Add("Hips");
+  hips.SetBaseTranslation(1, 2, 3);
+  hips.SetBaseRotation(0.25, -0.5, 0.75);
+  Create(hips);
+  EXPECT_EQ(hips.GetBaseTranslation().y(), 2);
+  EXPECT_EQ(hips.GetBaseRotation()[0], 0.25);
+  EXPECT_EQ(hips.GetBaseRotation()[1], -0.5);
+  EXPECT_EQ(hips.GetBaseRotation()[2], 0.75);
+}
+
+TEST_F(SkeletonCreatorTest, BonesAreSizedByLengthSegmentSizeAndScale) {
+  const struct {
+    float size;
+    double scale;
+    float thickness;
+    float length;
+  } cases[] = {{1, 1, 2, 10}, {3, 1, 6, 10}, {1, 5, 10, 50}, {3, 5, 30, 50}, {-1, 1, -2, 10}};
+  int number = 0;
+  for (const auto& its : cases) {
+    options_.size = its.size;
+    options_.scaleFactor = its.scale;
+    HtrSegment& bone = Add("Bone" + std::to_string(number++));
+    bone.SetBoneLength(10);
+    Create(bone);
+    const host::Node& node = *Find(bone.GetName());
+    EXPECT_EQ(BoneParameter(node, 0), its.thickness);
+    EXPECT_EQ(BoneParameter(node, 1), its.thickness);
+    EXPECT_EQ(BoneParameter(node, 3), its.length);
+  }
+}
+
+TEST_F(SkeletonCreatorTest, BonesAreShownAsBonesInTheHostsColour) {
+  scene().Animation().SetTime(640);
+  Create(Add("Hips"));
+  const host::Node& node = *Find("Hips");
+  EXPECT_EQ(node.ShownObject()->AsObject().ClassID(), kBoneClass);
+  EXPECT_EQ(node.BoneDisplay(), 0);
+  EXPECT_EQ(node.BoneSince(), 640);
+  // 0.8, 0.7 and 0.5 of 255: 204, 178 and 127.
+  EXPECT_EQ(node.WireColor(), 0x7FB2CCU);
+}
+
+TEST_F(SkeletonCreatorTest, CreationMakesNoKeys) {
+  Create(Add("Hips"));
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Find("Hips")->Transform()->Rotation().KeyCount(), 0U);
+}
+
+TEST_F(SkeletonCreatorTest, ALeafHasNoEffectorUnlessAskedFor) {
+  HtrSegment& hips = Add("Hips");
+  Add("Leg", &hips);
+  Create(hips);
+  EXPECT_EQ(ChildNames(*Find("Leg")), "");
+}
+
+TEST_F(SkeletonCreatorTest, ALeafGetsOneEffectorAtTheFilesLength) {
+  options_.endEffectors = true;
+  options_.size = 2;
+  options_.scaleFactor = 3;
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& leg = Add("Leg", &hips);
+  leg.SetBoneLength(10);
+  Create(hips);
+  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg");
+  EXPECT_EQ(ChildNames(*Find("Leg")), "Leg_Effector");
+  const host::Node& effector = *Find("Leg_Effector");
+  for (const int parameter : {0, 1, 3}) EXPECT_EQ(BoneParameter(effector, parameter), 12.0F);
+  // The global scale lengthens the drawn bone, not the offset.
+  EXPECT_EQ(Position(effector), Point3(10, 0, 0));
+  ExpectRows(effector.LocalTransform(0), {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+  EXPECT_EQ(effector.WireColor(), 0x7FB2CCU);
+  EXPECT_TRUE(effector.Properties().empty());
+}
+
+TEST_F(SkeletonCreatorTest, ARefusedPositionStopsAtThatBoneWhichStays) {
+  HtrSegment& hips = Add("Hips");
+  Add("Leg", &hips);
+  scene().Faults().RefuseQuery(1);
+  EXPECT_EQ(Create(hips), nullptr);
+  EXPECT_EQ(scene().NodeCount(), 1U);
+  ASSERT_NE(Find("Hips"), nullptr);
+  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseTransX"), 1U);
+  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseRotX"), 0U);
+}
+
+TEST_F(SkeletonCreatorTest, ARefusedRotationStopsAtThatBoneWhichStays) {
+  scene().Faults().RefuseQuery(2);
+  EXPECT_EQ(Create(Add("Hips")), nullptr);
+  ASSERT_NE(Find("Hips"), nullptr);
+  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseRotZ"), 1U);
+  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseLength"), 0U);
+}
+
+TEST_F(SkeletonCreatorTest, AFailureDeletesTheAncestorsAndCreatesNothingMore) {
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& spine = Add("Spine", &hips);
+  Add("Neck", &spine);
+  Add("LeftLeg", &hips);
+  scene().Faults().RefuseQuery(5);  // the position of the third bone
+  const std::size_t redraws = scene().RedrawCount();
+  EXPECT_EQ(Create(hips), nullptr);
+  EXPECT_EQ(ChildNames(scene().Root()), "Neck");
+  EXPECT_EQ(scene().NodeCount(), 1U);
+  EXPECT_EQ(scene().RedrawCount(), redraws + 2);
+}
+
+TEST_F(SkeletonCreatorTest, SiblingsThatWereFinishedStayWhenTheirParentGoes) {
+  HtrSegment& hips = Add("Hips");
+  Add("LeftLeg", &hips);
+  Add("RightLeg", &hips);
+  scene().Faults().RefuseQuery(5);
+  EXPECT_EQ(Create(hips), nullptr);
+  EXPECT_EQ(ChildNames(scene().Root()), "LeftLeg RightLeg");
+}
+
+TEST_F(SkeletonCreatorTest, WhatTheHostCannotCreateFailsTheSame) {
+  options_.endEffectors = true;
+  HtrSegment& hips = Add("Hips");
+  Add("Leg", &hips);
+  for (int n = 1; n <= 3; ++n) {
+    test::RefusingInterface no_instance(interface());
+    no_instance.RefuseInstance(n);
+    EXPECT_EQ(SkeletonCreator(no_instance, options_).Create(hips), nullptr) << n;
+    test::RefusingInterface no_node(interface());
+    no_node.RefuseNode(n);
+    EXPECT_EQ(SkeletonCreator(no_node, options_).Create(hips), nullptr) << n;
+    EXPECT_EQ(scene().LooseInstances(), 0U) << n;
+  }
+}
+
+TEST_F(SkeletonCreatorTest, SegmentsThatAreListedTwiceAreCreatedTwice) {
+  HtrSegment& hips = Add("Hips");
+  HtrSegment& leg = Add("Leg", &hips);
+  Add("Foot", &leg).SetParent(&leg);
+  Create(hips);
+  EXPECT_EQ(ChildNames(*Find("Leg")), "Foot Foot");
+}
+
+TEST_F(SkeletonCreatorTest, AChainOfAHundredThousandSegmentsIsNoDanger) {
+  constexpr int kLength = 100'000;
+  HtrSegment* segment = &Add("S0");
+  const HtrSegment& root = *segment;
+  for (int i = 1; i < kLength; ++i) segment = &Add("S" + std::to_string(i), segment);
+  ASSERT_NE(Create(root), nullptr);
+  EXPECT_EQ(scene().NodeCount(), std::size_t{kLength});
+}
+
+}  // namespace
+}  // namespace orvane
