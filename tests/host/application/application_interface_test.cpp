@@ -6,6 +6,7 @@
 #include <string>
 
 #include "host/application/application.h"
+#include "tests/host/application/idle_callbacks.h"
 
 namespace {
 
@@ -216,29 +217,17 @@ TEST_F(ApplicationInterfaceTest, FindsNothingToPick) {
   EXPECT_EQ(host_.PickNode(host_.GetSkelderHWnd(), {1, 2}, nullptr), nullptr);
 }
 
-class Callbacks final : public PickModeCallback, public ExitSkelderCallback {
- public:
-  bool HitTest(HWND, ViewportView*, const ViewportPoint&, int) override { return false; }
-  bool Pick(ViewportView*) override { return true; }
-  bool AllowAnimatablePick() override { return true; }
-  bool RightClick(ViewportView*) override { return true; }
-  void EnterMode() override {}
-  void ExitMode() override {}
-  void* DefaultCursor() override { return nullptr; }
-  void* HitCursor() override { return nullptr; }
-  PickNodeCallback* GetFilter() override { return nullptr; }
-  bool AllowMultipleSelection() override { return false; }
-  void HostExiting(HWND /*window*/) override {}
-};
+class PickMode final : public IdlePickMode {};
 
 TEST_F(ApplicationInterfaceTest, KeepsCallbacksUntilTheyAreWithdrawn) {
-  Callbacks callbacks;
-  host_.SetPickMode(&callbacks);
-  host_.RegisterExitSkelderCallback(&callbacks);
-  EXPECT_EQ(application_.callbacks().PickMode(), &callbacks);
-  EXPECT_THAT(application_.callbacks().ExitCallbacks(), ElementsAre(&callbacks));
+  PickMode pick_mode;
+  IdleExit exit;
+  host_.SetPickMode(&pick_mode);
+  host_.RegisterExitSkelderCallback(&exit);
+  EXPECT_EQ(application_.callbacks().PickMode(), &pick_mode);
+  EXPECT_THAT(application_.callbacks().ExitCallbacks(), ElementsAre(&exit));
   host_.ClearPickMode();
-  host_.UnRegisterExitSkelderCallback(&callbacks);
+  host_.UnRegisterExitSkelderCallback(&exit);
   EXPECT_EQ(application_.callbacks().PickMode(), nullptr);
   EXPECT_THAT(application_.callbacks().ExitCallbacks(), ElementsAre());
 }

@@ -10,6 +10,7 @@
 #include "sdk/core/interface.h"
 #include "sdk/core/library.h"
 #include "sdk/core/plugin.h"
+#include "tests/host/application/idle_callbacks.h"
 
 #define FIXTURE_ENTRY extern "C" __attribute__((visibility("default")))
 
@@ -33,26 +34,9 @@ class OptionRecord {
 
 OptionRecord option_record;
 
-class ExitCallback final : public ExitSkelderCallback {
- public:
-  void HostExiting(HWND /*window*/) override {}
-};
+class PickMode final : public IdlePickMode {};
 
-class PickMode final : public PickModeCallback {
- public:
-  bool HitTest(HWND, ViewportView*, const ViewportPoint&, int) override { return false; }
-  bool Pick(ViewportView*) override { return true; }
-  bool AllowAnimatablePick() override { return true; }
-  bool RightClick(ViewportView*) override { return true; }
-  void EnterMode() override {}
-  void ExitMode() override {}
-  void* DefaultCursor() override { return nullptr; }
-  void* HitCursor() override { return nullptr; }
-  PickNodeCallback* GetFilter() override { return nullptr; }
-  bool AllowMultipleSelection() override { return false; }
-};
-
-ExitCallback exit_callback;
+IdleExit exit_callback;
 PickMode pick_mode;
 
 std::uint32_t GoOn(void* /*argument*/) { return 0; }

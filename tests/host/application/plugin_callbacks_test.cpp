@@ -5,6 +5,8 @@
 
 #include <string>
 
+#include "tests/host/application/idle_callbacks.h"
+
 namespace {
 
 using host::MisuseLog;
@@ -12,26 +14,13 @@ using host::PluginCallbacks;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class ExitCallback final : public ExitSkelderCallback {
- public:
-  void HostExiting(HWND /*window*/) override {}
-};
-
 // Appends its number to `told` with a sign: + when entered, - when left.
-class PickMode final : public PickModeCallback {
+class PickMode final : public IdlePickMode {
  public:
   PickMode(std::string& told, char number) : told_(told), number_(number) {}
 
-  bool HitTest(HWND, ViewportView*, const ViewportPoint&, int) override { return false; }
-  bool Pick(ViewportView*) override { return true; }
-  bool AllowAnimatablePick() override { return true; }
-  bool RightClick(ViewportView*) override { return true; }
   void EnterMode() override { told_ += {'+', number_}; }
   void ExitMode() override { told_ += {'-', number_}; }
-  void* DefaultCursor() override { return nullptr; }
-  void* HitCursor() override { return nullptr; }
-  PickNodeCallback* GetFilter() override { return nullptr; }
-  bool AllowMultipleSelection() override { return false; }
 
  private:
   std::string& told_;
@@ -42,8 +31,8 @@ class PluginCallbacksTest : public testing::Test {
  protected:
   MisuseLog misuse_;
   PluginCallbacks callbacks_{misuse_};
-  ExitCallback first_;
-  ExitCallback second_;
+  IdleExit first_;
+  IdleExit second_;
 };
 
 TEST_F(PluginCallbacksTest, AreNoneAtFirst) {
