@@ -13,7 +13,7 @@ struct HtrText {
     std::string name;
     std::string parent = "GLOBAL";
     std::string base = "0 0 0 0 0 0 0";  // Tx Ty Tz Rx Ry Rz BoneLength
-    std::vector<std::string> frames;     // Tx Ty Tz Rx Ry Rz, offsets from the base
+    std::vector<std::string> frames{};   // Tx Ty Tz Rx Ry Rz, offsets from the base
   };
 
   std::vector<Segment> segments;
@@ -21,11 +21,10 @@ struct HtrText {
   int first_frame = 1;
   std::string units = "mm";
   std::string scale_factor = "1.0";
-  int frame_count = -1;         // as the header says; -1: as many as the first segment has
-  std::string more_sections{};  // at the end
+  int frame_count = -1;  // as the header says; -1: as many as the first segment has
 
   std::string Text() const {
-    return Header() + Hierarchy() + BasePosition() + Motion() + more_sections + "[EndOfFile]\n";
+    return Header() + Hierarchy() + BasePosition() + Motion() + "[EndOfFile]\n";
   }
 
   std::string Header() const {

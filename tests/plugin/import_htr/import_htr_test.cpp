@@ -1,0 +1,630 @@
+#include "plugin/import_htr/import_htr.h"
+
+#include <gtest/gtest.h>
+
+#include "host/scene/box_object.h"
+#include "platform/module.h"
+#include "tests/plugin/import_htr/skeleton_fixture.h"
+#include "tests/support/desk.h"
+#include "tests/support/forwarding_interface.h"
+#include "tests/support/htr_text.h"
+#include "tests/support/temporary_folder.h"
+
+namespace orvane {
+namespace {
+
+using host::ProgressEvent;
+using test::ChildNames;
+using test::HtrText;
+using test::KeyTicks;
+using Ticks = std::vector<TimeValue>;
+
+constexpr int kApply = 1086;
+constexpr int kGlobal = 1088;
+constexpr int kFrom = 1065;
+constexpr int kTo = 1066;
+constexpr int kRange = 1068;
+constexpr int kOk = 1097;
+constexpr int kCancel = 1098;
+
+// Two bones, three frames.
+HtrText TwoBones() {
+  HtrText file;
+  file.segments = {
+      {"Hips", "GLOBAL", "1 2 3 0 0 0 10", {"10 0 0 0 0 0", "20 0 0 0 0 0", "30 0 0 0 0 0"}},
+      {"Leg", "Hips", "0 4 0 0 0 0 20", {"0 0 0 0 0 0", "0 1 0 0 0 0", "0 2 0 0 0 0"}}};
+  return file;
+}
+
+class ImportHTRTest : public test::SkeletonTest {
+ protected:
+  void TearDown() override {
+    SkeletonTest::TearDown();
+    desk_.desktop().RethrowFailure();
+    EXPECT_TRUE(desk_.AllAnswered());
+    EXPECT_FALSE(application_.progress().IsOpen());
+  }
+
+  int Import(const std::string& path, int suppress_prompts = 1) {
+    return importer_.DoImport(path.c_str(), nullptr, &interface(), suppress_prompts);
+  }
+  int Import(const HtrText& file) { return Import(folder_.Write("walk.htr", file.Text())); }
+  int ImportWith(const test::Desk::DialogAnswer& user, const HtrText& file = TwoBones()) {
+    desk_.Expect(user);
+    return Import(folder_.Write("walk.htr", file.Text()), 0);
+  }
+
+  // Whether both modes are as a finished import leaves them.
+  bool ModesResumed() {
+    return scene().Animation().AnimateMode().SuspendDepth() == 0 &&
+           scene().Animation().SetKeyMode().SuspendDepth() == 0;
+  }
+  // Whether both are suspended once, as every other end leaves them.
+  bool ModesSuspended() {
+    return scene().Animation().AnimateMode().SuspendDepth() == 1 &&
+           scene().Animation().SetKeyMode().SuspendDepth() == 1;
+  }
+
+  std::vector<int> Percentages() {
+    std::vector<int> percentages;
+    for (const ProgressEvent& event : application_.progress().Events()) {
+      if (event.kind == ProgressEvent::Kind::kUpdate) percentages.push_back(event.percent);
+    }
+    return percentages;
+  }
+
+  test::Desk desk_;
+  test::TemporaryFolder folder_;
+  MessageSink sink_;
+  ImportHTR importer_{options_, sink_, platform::ModuleHandle()};
+};
+
+TEST_F(ImportHTRTest, CreatesASkeletonUnderADummyNamedAfterTheFile) {
+  options_.size = 2;
+  options_.scaleFactor = 3;
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(ChildNames(scene().Root()), "walk");
+  EXPECT_EQ(ChildNames(*Find("walk")), "Hips");
+  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg");
+  const auto& dummy = dynamic_cast<const host::BoxObject&>(*Find("walk")->ShownObject());
+  EXPECT_EQ(dummy.Box(), Box3(Point3(-6, -6, -6), Point3(6, 6, 6)));
+  EXPECT_EQ(Find("walk")->WireColor(), 0x7FB2CCU);
+  EXPECT_EQ(desk_.Messages(), "");
+}
+
+TEST_F(ImportHTRTest, KeysTheFramesOfTheFile) {
+  EXPECT_EQ(Import(TwoBones()), 1);
+  const host::PositionController& hips = Find("Hips")->Transform()->Position();
+  EXPECT_EQ(KeyTicks(hips), (Ticks{160, 320, 480}));
+  EXPECT_EQ(hips.KeyValue(0), Point3(11, -3, 2));
+  EXPECT_EQ(hips.KeyValue(2), Point3(31, -3, 2));
+  EXPECT_EQ(Find("Leg")->Transform()->Position().KeyValue(2), Point3(6, 0, 0));
+}
+
+struct FileName {
+  const char* file;
+  const char* node;
+};
+
+class DummyNameTest : public ImportHTRTest, public testing::WithParamInterface<FileName> {};
+
+TEST_P(DummyNameTest, IsTheNameWithoutFolderAndLastExtension) {
+  EXPECT_EQ(Import(folder_.Write(GetParam().file, TwoBones().Text())), 1);
+  EXPECT_EQ(ChildNames(scene().Root()), GetParam().node);
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, DummyNameTest,
+                         testing::Values(FileName{"walk.htr", "walk"},
+                                         FileName{"walk.slow.htr", "walk.slow"},
+                                         FileName{"C:\\takes.1\\walk.htr", "walk"},
+                                         FileName{"a b.htr", "a b"}, FileName{".htr", ""}));
+
+TEST_F(ImportHTRTest, AFolderWithADotDoesNotCutTheName) {
+  std::filesystem::create_directories(folder_.Path() / "day.1");
+  folder_.Write("day.1/walk.htr", TwoBones().Text());
+  EXPECT_EQ(Import(folder_.File("day.1/walk")), 1);
+  EXPECT_EQ(ChildNames(scene().Root()), "walk");
+}
+
+TEST_F(ImportHTRTest, AFinishedImportResumesTheModesAndSwitchesAnimationOff) {
+  host::AnimationState& animation = scene().Animation();
+  animation.SetKeyMode().Set(true);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_TRUE(ModesResumed());
+  EXPECT_TRUE(animation.SetKeyMode().IsOn());
+  EXPECT_FALSE(animation.AnimateMode().IsOn());
+  EXPECT_EQ(animation.AnimateMode().UnmatchedResumes(), 0U);
+  EXPECT_EQ(animation.SetKeyMode().UnmatchedResumes(), 0U);
+}
+
+TEST_F(ImportHTRTest, TheHostIsPreparedBeforeTheProgressBarOpens) {
+  host::AnimationState& animation = scene().Animation();
+  animation.AnimateMode().Set(true);
+  animation.SetKeyMode().Set(true);
+  application_.StartPlayback();
+  bool seen = false;
+  application_.progress().SetObserver([&](const ProgressEvent& event) {
+    if (event.kind != ProgressEvent::Kind::kStart) return;
+    seen = true;
+    EXPECT_FALSE(application_.IsPlaybackRunning());
+    EXPECT_TRUE(ModesSuspended());
+    EXPECT_FALSE(animation.AnimateMode().IsOn());
+    EXPECT_FALSE(animation.SetKeyMode().IsOn());
+  });
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_TRUE(seen);
+}
+
+TEST_F(ImportHTRTest, ShowsItsProgress) {
+  EXPECT_EQ(Import(TwoBones()), 1);
+  const std::vector<ProgressEvent>& events = application_.progress().Events();
+  ASSERT_FALSE(events.empty());
+  EXPECT_EQ(events.front().kind, ProgressEvent::Kind::kStart);
+  EXPECT_EQ(events.front().title, "Orvane ImportHTR");
+  EXPECT_TRUE(events.front().visible);
+  EXPECT_EQ(events.back().kind, ProgressEvent::Kind::kEnd);
+  EXPECT_EQ(events.back().title, "Orvane ImportHTR");
+  // Read, converted; the two segments; done.
+  EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 55, 100, 100}));
+}
+
+// --- Reading ---
+
+TEST_F(ImportHTRTest, AReadersMessageIsShownAsItStands) {
+  EXPECT_EQ(Import(folder_.File("missing.htr")), 0);
+  EXPECT_EQ(desk_.Messages(), "ImportHTR Error: The file could not be opened\n");
+  EXPECT_TRUE(ModesSuspended());
+  EXPECT_EQ(Percentages(), (std::vector<int>{0}));
+  EXPECT_EQ(scene().NodeCount(), 0U);
+}
+
+TEST_F(ImportHTRTest, ADuplicateNameIsTheReadersToTell) {
+  HtrText file = TwoBones();
+  file.segments[1].name = "Hips";
+  EXPECT_EQ(Import(file), 0);
+  EXPECT_EQ(desk_.Messages(), "ImportHTR Error: The file has duplicate segment names: Hips\n");
+}
+
+class ScaleFactorTest : public ImportHTRTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(ScaleFactorTest, AnotherFactorThan1IsWarnedOfAndIgnored) {
+  HtrText file = TwoBones();
+  file.scale_factor = GetParam();
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Warning: ScaleFactor is not 1.0, this plugin does not support the "
+            "ScaleFactor header variable.\n");
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(11, -3, 2));
+  EXPECT_TRUE(ModesResumed());
+}
+
+INSTANTIATE_TEST_SUITE_P(Factors, ScaleFactorTest, testing::Values("0.999", "1.001", "0", "-1"));
+
+TEST_F(ImportHTRTest, AFactorOf1IsNotWarnedOf) {
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(desk_.Messages(), "");
+}
+
+// --- Units ---
+
+struct Unit {
+  const char* file_unit;
+  double host_millimeters;  // in one system unit
+  float one;                // what a length of 1 in the file becomes
+};
+
+class UnitsTest : public ImportHTRTest, public testing::WithParamInterface<Unit> {};
+
+TEST_P(UnitsTest, LengthsAreInSystemUnits) {
+  scene().SetMillimetersPerUnit(GetParam().host_millimeters);
+  HtrText file;
+  file.units = GetParam().file_unit;
+  file.segments = {{"Hips", "GLOBAL", "1 0 0 0 0 0 1", {"1 0 0 0 0 0", "0 0 0 0 0 0"}}};
+  EXPECT_EQ(Import(file), 1);
+  const host::Node& hips = *Find("Hips");
+  EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseTransX"), GetParam().one);
+  EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseLength"), GetParam().one);
+  EXPECT_FLOAT_EQ(hips.Transform()->Position().KeyValue(0).x, 2 * GetParam().one);
+}
+
+INSTANTIATE_TEST_SUITE_P(Units, UnitsTest,
+                         testing::Values(Unit{"mm", 1, 1}, Unit{"cm", 1, 10}, Unit{"m", 1, 1000},
+                                         Unit{"in", 1, 25.4F}, Unit{"mm", 10, 0.1F},
+                                         Unit{"m", 1000, 1}, Unit{"in", 25.4, 1},
+                                         Unit{"ft", 1, 2.1166667F}));
+
+// --- Options and dialog ---
+
+TEST_F(ImportHTRTest, TheDialogStartsWithTheFramesOfTheFile) {
+  options_.startFrame = 500;
+  options_.endFrame = 600;
+  HtrText file = TwoBones();
+  file.first_frame = 7;
+  EXPECT_EQ(ImportWith(
+                [this](host::ScriptedDialog& dialog) {
+                  EXPECT_EQ(dialog.Text(kFrom), "7");
+                  EXPECT_EQ(dialog.Text(kTo), "9");
+                  EXPECT_EQ(dialog.CentredOver(), application_.main_window());
+                  EXPECT_EQ(application_.progress().Percent(), 10);
+                  dialog.Click(kOk);
+                },
+                file),
+            1);
+  EXPECT_TRUE(ModesResumed());
+}
+
+TEST_F(ImportHTRTest, CancellingTheDialogIsASuccessThatChangesNothing) {
+  EXPECT_EQ(ImportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); }), 1);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_TRUE(ModesSuspended());
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_EQ(Percentages(), (std::vector<int>{0, 10}));
+}
+
+TEST_F(ImportHTRTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
+  desk_.desktop().RefuseDialog(107);
+  EXPECT_EQ(Import(folder_.Write("walk.htr", TwoBones().Text()), 0), 1);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_TRUE(ModesSuspended());
+}
+
+TEST_F(ImportHTRTest, PromptsAreSuppressedByExactly1) {
+  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
+  desk_.Expect([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); });
+  EXPECT_EQ(Import(path, 2), 1);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_EQ(Import(path, 1), 1);
+  EXPECT_EQ(scene().NodeCount(), 3U);
+}
+
+TEST_F(ImportHTRTest, AQuietImportNeverLoadsTheRecord) {
+  ImportHTROptions options;  // opened while there is a registry
+  ImportHTROptions stored;
+  stored.endEffectors = true;
+  stored.Save();
+  ImportHTR importer(options, sink_, platform::ModuleHandle());
+  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
+  EXPECT_EQ(importer.DoImport(path.c_str(), nullptr, &interface(), 1), 1);
+  EXPECT_EQ(Find("Leg_Effector"), nullptr);
+  EXPECT_FALSE(options.endEffectors);
+}
+
+TEST_F(ImportHTRTest, AQuietImportUsesTheLastOptionsButTheFilesFrames) {
+  EXPECT_EQ(ImportWith([](host::ScriptedDialog& dialog) {
+              dialog.Click(kRange);
+              dialog.Type(kFrom, "2");
+              dialog.Type(kTo, "2");
+              dialog.Type(kGlobal, "2");
+              dialog.Click(kOk);
+            }),
+            1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{320}));
+  Find("Hips")->SetName("Old");
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(22, -6, 4));
+}
+
+TEST_F(ImportHTRTest, TheFrameRateIsTakenOverWhenAskedFor) {
+  HtrText file = TwoBones();
+  file.frame_rate = 120;
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(scene().Animation().FrameRate(), 30);
+  options_.setFrameRate = true;
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(scene().Animation().FrameRate(), 120);
+}
+
+TEST_F(ImportHTRTest, KeysStandAtTheNewFrameRate) {
+  options_.setFrameRate = true;
+  HtrText file = TwoBones();
+  file.frame_rate = 120;
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{40, 80, 120}));
+  EXPECT_EQ(scene().Animation().Range(), Interval(40, 120));
+}
+
+// --- Frames and animation range ---
+
+struct RangeCase {
+  const char* name;
+  int first_frame;
+  int frames;
+  bool base_position;
+  bool range;
+  int offset;
+  Ticks keys;  // of a position
+  Interval animation;
+};
+
+class AnimationRangeTest : public ImportHTRTest, public testing::WithParamInterface<RangeCase> {};
+
+TEST_P(AnimationRangeTest, FollowsTheFirstFrameCountAndOffset) {
+  const RangeCase& its = GetParam();
+  HtrText file;
+  file.first_frame = its.first_frame;
+  file.segments = {{"Hips"}};
+  for (int i = 0; i < its.frames; ++i) file.segments[0].frames.push_back("0 0 0 0 0 0");
+  const int result = ImportWith(
+      [&](host::ScriptedDialog& dialog) {
+        if (its.range) {
+          dialog.Click(kRange);
+          dialog.Type(kFrom, std::to_string(its.first_frame + 1));
+          dialog.Type(kTo, std::to_string(its.first_frame + 2));
+        }
+        if (its.base_position) dialog.Click(1017);
+        dialog.Type(1089, std::to_string(its.offset));
+        dialog.Click(kOk);
+      },
+      file);
+  EXPECT_EQ(result, 1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), its.keys);
+  EXPECT_EQ(scene().Animation().Range(), its.animation);
+}
+
+// At 30 frames a second a frame has 160 ticks; a new scene's range is 0 to 16000.
+INSTANTIATE_TEST_SUITE_P(
+    Cases, AnimationRangeTest,
+    testing::Values(RangeCase{"All", 1, 4, false, false, 0, {160, 320, 480, 640}, {160, 640}},
+                    RangeCase{"BasePosition", 1, 3, true, false, 0, {0, 160, 320, 480}, {0, 480}},
+                    RangeCase{"FromFrame0", 0, 3, true, false, 0, {-160, 0, 160, 320}, {-160, 320}},
+                    RangeCase{"Offset", 1, 3, false, false, 10, {1760, 1920, 2080}, {160, 2080}},
+                    RangeCase{"NegativeOffset", 1, 3, false, false, -3, {-320, -160, 0}, {160, 0}},
+                    // The range starts at the file's first frame even then.
+                    RangeCase{"Range", 1, 4, false, true, 0, {320, 480}, {160, 320}},
+                    RangeCase{"RangeWithBase", 1, 4, true, true, 5, {960, 1120, 1280}, {0, 1120}},
+                    RangeCase{"OneFrame", 5, 1, true, false, 0, {640, 800}, {0, 16000}}),
+    [](const auto& range_case) { return range_case.param.name; });
+
+TEST_F(ImportHTRTest, WithoutAnimationOneFrameCountsAndTheRangeStays) {
+  options_.animate = false;
+  options_.keyBasePosition = true;
+  scene().Animation().SetTime(960);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{960}));
+  EXPECT_EQ(scene().Animation().Range(), Interval(0, 16000));
+}
+
+TEST_F(ImportHTRTest, WithNothingToKeyOnlyTheSkeletonIsMade) {
+  options_.animate = false;
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 100}));
+  EXPECT_TRUE(ModesResumed());
+}
+
+TEST_F(ImportHTRTest, AFileWithoutFramesMakesASkeletonWithoutKeys) {
+  HtrText file = TwoBones();
+  for (HtrText::Segment& segment : file.segments) segment.frames.clear();
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(scene().Animation().Range(), Interval(0, 16000));
+}
+
+TEST_F(ImportHTRTest, FrameNumbersAtTheEndsOfTimeAreNoDanger) {
+  for (const int first : {2'147'483'646, -2'147'483'647}) {
+    HtrText file = TwoBones();
+    file.first_frame = first;
+    file.segments.pop_back();
+    file.segments[0].frames.resize(2);
+    EXPECT_EQ(Import(file), 1) << first;
+    EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+    Find("Hips")->SetName("Old");
+  }
+}
+
+// --- Create mode ---
+
+TEST_F(ImportHTRTest, AFileWithoutARootFailsSilently) {
+  HtrText file = TwoBones();
+  file.segments[0].parent = "Leg";  // in a circle
+  EXPECT_EQ(Import(file), 0);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_TRUE(ModesSuspended());
+}
+
+TEST_F(ImportHTRTest, ASkeletonThatCannotBeMadeFailsSilently) {
+  scene().Faults().RefuseQuery(4);
+  EXPECT_EQ(Import(TwoBones()), 0);
+  EXPECT_EQ(ChildNames(scene().Root()), "Leg");
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_TRUE(ModesSuspended());
+}
+
+TEST_F(ImportHTRTest, CancellingAfterCreationKeepsTheBonesAndKeysNothing) {
+  application_.cancellation().AtQuery(1);
+  EXPECT_EQ(Import(TwoBones()), 0);
+  EXPECT_EQ(ChildNames(scene().Root()), "Hips");
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_TRUE(ModesSuspended());
+  EXPECT_EQ(application_.PendingMessageCalls(), 1U);
+}
+
+TEST_F(ImportHTRTest, ADummyThatCannotBeMadeFails) {
+  options_.animate = false;
+  test::RefusingInterface refusing(interface());
+  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
+  refusing.RefuseInstance(3);
+  EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &refusing, 1), 0);
+  refusing.RefuseNode(3);
+  EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &refusing, 1), 0);
+}
+
+TEST_F(ImportHTRTest, AMotionThatIsRefusedFailsAndLeavesTheInnerSuspensionToo) {
+  scene().Faults().RefuseQuery(5);  // the first key, after the four values of two bones
+  EXPECT_EQ(Import(TwoBones()), 0);
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_EQ(scene().Animation().AnimateMode().SuspendDepth(), 2U);
+  EXPECT_EQ(scene().Animation().SetKeyMode().SuspendDepth(), 1U);
+  EXPECT_EQ(scene().Animation().Range(), Interval(0, 16000));
+}
+
+// --- Apply mode ---
+
+class ImportHTRApplyTest : public ImportHTRTest {
+ protected:
+  void SetUp() override { options_.apply = true; }
+};
+
+TEST_F(ImportHTRApplyTest, KeysTheSelectedSkeleton) {
+  host::Node& hips = AddBone("Hips");
+  host::Node& leg = AddBone("Leg", &hips);
+  scene().Select(hips);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(scene().NodeCount(), 2U);
+  EXPECT_EQ(KeyTicks(hips.Transform()->Position()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(leg.Transform()->Position().KeyValue(1), Point3(5, 0, 0));
+  EXPECT_EQ(scene().Animation().Range(), Interval(160, 480));
+  EXPECT_TRUE(ModesResumed());
+  // Cancelling is asked for after creation only.
+  EXPECT_EQ(application_.cancellation().Queries(), 0);
+}
+
+TEST_F(ImportHTRApplyTest, ABranchIsKeyedFromTheSelectedBoneDown) {
+  host::Node& hips = AddBone("Hips");
+  host::Node& leg = AddBone("Leg", &hips);
+  scene().Select(leg);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(hips.Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(leg.Transform()->Position().KeyCount(), 3U);
+  // One of two segments.
+  EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 55, 100}));
+}
+
+TEST_F(ImportHTRApplyTest, TheGroupOfAnEarlierImportCanBeSelected) {
+  options_.apply = false;
+  EXPECT_EQ(Import(TwoBones()), 1);
+  options_.apply = true;
+  options_.frameOffset = 100;
+  scene().Select(*Find("walk"));
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(KeyTicks(Find("Leg")->Transform()->Position()),
+            (Ticks{160, 320, 480, 16160, 16320, 16480}));
+}
+
+TEST_F(ImportHTRApplyTest, EverySelectionThatDoesNotDoIsTold) {
+  EXPECT_EQ(Import(TwoBones()), 0);
+  host::Node& unknown = AddBone("Unknown");
+  scene().Select(unknown);
+  EXPECT_EQ(Import(TwoBones()), 0);
+  unknown.Transform()->SetClassId({12305, 0});
+  EXPECT_EQ(Import(TwoBones()), 0);
+  EXPECT_EQ(desk_.Messages(),
+            "Import Error: Please select the root of a skeleton before applying animation.\n"
+            "Import Error: Please select a branch to apply to that exists in the source HTR "
+            "file.\n"
+            "Import Error: You can't import .htr directly onto a biped node.\n");
+  EXPECT_EQ(scene().Animation().SetKeyMode().SuspendDepth(), 3U);
+}
+
+TEST_F(ImportHTRApplyTest, WithoutARootThereIsNothingToApply) {
+  HtrText file = TwoBones();
+  file.segments[0].parent = "Leg";
+  host::Node& dummy = AddDummy("Group");
+  scene().Select(dummy);
+  EXPECT_EQ(Import(file), 0);
+  EXPECT_EQ(desk_.Messages(), "");
+  EXPECT_TRUE(ModesSuspended());
+}
+
+TEST_F(ImportHTRApplyTest, ABonesNameFindsItsSegmentEvenWithoutARoot) {
+  HtrText file = TwoBones();
+  file.segments[0].parent = "Leg";
+  host::Node& leg = AddBone("Leg");
+  scene().Select(leg);
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(leg.Transform()->Position().KeyCount(), 3U);
+}
+
+TEST_F(ImportHTRTest, ApplyingWithTheDialogWorksTheSame) {
+  host::Node& hips = AddBone("Hips");
+  scene().Select(hips);
+  EXPECT_EQ(ImportWith([](host::ScriptedDialog& dialog) {
+              dialog.Click(kApply);
+              dialog.Click(kOk);
+            }),
+            1);
+  EXPECT_EQ(hips.Transform()->Position().KeyCount(), 3U);
+}
+
+// --- Files that ask for too much ---
+
+TEST_F(ImportHTRTest, AHierarchyListedTwiceIsCreatedTwice) {
+  const HtrText twice = TwoBones();
+  // The count of base positions must still be the announced one.
+  std::string text = twice.Text();
+  const std::string announced = "NumSegments 2";
+  text.replace(text.find(announced), announced.size(), "NumSegments 4");
+  text.replace(text.find("[Hips]"), 0, twice.BasePosition());
+  EXPECT_EQ(Import(folder_.Write("twice.htr", text)), 1);
+  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg Leg");
+}
+
+// A chain of 60 segments, each listed twice. Its frames lie beyond the end of time, so that none of
+// them takes any.
+std::string DoubledChain() {
+  HtrText file;
+  file.first_frame = 2'147'483'647;
+  file.frame_count = 1000;
+  for (int i = 0; i < 60; ++i) {
+    file.segments.push_back({"S" + std::to_string(i),
+                             i == 0 ? "GLOBAL" : "S" + std::to_string(i - 1),
+                             "0 0 0 0 0 0 0",
+                             {"0 0 0 0 0 0"}});
+  }
+  std::string text = file.Text();
+  text.replace(text.find("NumSegments 60"), 14, "NumSegments 120");
+  text.replace(text.find("[S0]"), 0, file.BasePosition());
+  return text;
+}
+
+TEST_F(ImportHTRTest, AHierarchyThatDoublesAtEveryLevelIsRefused) {
+  EXPECT_EQ(Import(folder_.Write("doubled.htr", DoubledChain())), 0);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: The file is damaged: it lists its hierarchy over and over.\n");
+}
+
+TEST_F(ImportHTRApplyTest, AHierarchyThatDoublesAtEveryLevelIsRefused) {
+  host::Node* bone = &AddBone("S0");
+  scene().Select(*bone);
+  for (int i = 1; i < 60; ++i) bone = &AddBone("S" + std::to_string(i), bone);
+  EXPECT_EQ(Import(folder_.Write("doubled.htr", DoubledChain())), 0);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: The file is damaged: it lists its hierarchy over and over.\n");
+}
+
+// --- What the importer says of itself ---
+
+TEST_F(ImportHTRTest, AnswersForItself) {
+  for (const int n : {0, 5, -1}) EXPECT_STREQ(importer_.Ext(n), "HTR");
+  EXPECT_EQ(importer_.ExtCount(), 1);
+  EXPECT_EQ(importer_.ZoomExtents(), -1);
+}
+
+// An exception on the host's side of the border.
+class ThrowingInterface final : public test::ForwardingInterface {
+ public:
+  using ForwardingInterface::ForwardingInterface;
+  TimeValue GetTime() override { throw std::bad_alloc(); }
+};
+
+TEST_F(ImportHTRTest, AnExceptionIsAFailureAndClosesTheProgressBar) {
+  ThrowingInterface throwing(interface());
+  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
+  EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &throwing, 1), 0);
+  EXPECT_FALSE(application_.progress().IsOpen());
+  EXPECT_TRUE(ModesSuspended());
+}
+
+TEST_F(ImportHTRTest, OneImporterCanImportAgain) {
+  EXPECT_EQ(Import(folder_.File("missing.htr")), 0);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(scene().NodeCount(), 6U);
+}
+
+}  // namespace
+}  // namespace orvane
