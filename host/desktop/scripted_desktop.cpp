@@ -18,8 +18,8 @@ bool HasButton(MessageBoxStyle style, int answer) {
              : answer == platform::kMessageBoxOk;
 }
 
-std::string Quoted(const MessageBox& message) {
-  return "\"" + message.text + "\" (\"" + message.caption + "\")";
+std::string Described(const MessageBox& message) {
+  return "the message \"" + message.text + "\" (\"" + message.caption + "\")";
 }
 
 }  // namespace
@@ -50,11 +50,11 @@ int ScriptedDesktop::ShowMessage(const char* text, const char* caption, MessageB
 }
 
 int ScriptedDesktop::AnswerOf(const MessageBox& message) {
-  if (!user_.answer_message) throw ScriptError("Nobody answers the message " + Quoted(message));
+  if (!user_.answer_message) throw ScriptError("Nobody answers " + Described(message) + ".");
   const int answer = user_.answer_message(message);
   if (!HasButton(message.style, answer)) {
-    throw ScriptError("No button " + std::to_string(answer) + " has the message " +
-                      Quoted(message));
+    throw ScriptError("There is no button " + std::to_string(answer) + " on " + Described(message) +
+                      ".");
   }
   return answer;
 }
@@ -83,10 +83,10 @@ void ScriptedDesktop::LetUserAnswer(int dialog_id, OpenDialog& dialog,
   failure_.Rethrow();
   if (dialog.HasEnded()) return;
   const std::string name = "the dialog \"" + dialog.Title() + "\"";
-  if (!user_.answer_dialog) throw ScriptError("Nobody answers " + name);
+  if (!user_.answer_dialog) throw ScriptError("Nobody answers " + name + ".");
   ScriptedDialog user_side(dialog_id, dialog, handler, failure_);
   user_.answer_dialog(user_side);
-  if (!dialog.HasEnded()) throw ScriptError("The script left " + name + " open");
+  if (!dialog.HasEnded()) throw ScriptError("The script left " + name + " open.");
 }
 
 }  // namespace host
