@@ -9,7 +9,7 @@ namespace test {
 // Gives an environment variable another value, or none, until the end of the scope.
 class EnvironmentVariable {
  public:
-  EnvironmentVariable(const char* name, std::optional<std::string> value) : name_(name) {
+  EnvironmentVariable(const char* name, const std::optional<std::string>& value) : name_(name) {
     if (const char* const former = std::getenv(name)) former_ = former;
     Set(value);
   }

@@ -14,7 +14,6 @@ namespace host {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::IsEmpty;
 
 std::string TextOf(platform::Dialog& dialog, int control) {

@@ -14,7 +14,6 @@
 namespace platform {
 namespace {
 
-using testing::_;
 using testing::Return;
 using testing::ReturnRef;
 using testing::StrEq;

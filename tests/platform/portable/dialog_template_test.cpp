@@ -11,7 +11,6 @@ namespace platform {
 namespace {
 
 using test::ByteWriter;
-using test::ControlBytes;
 using test::DialogBytes;
 using test::ResourceBytes;
 
