@@ -23,10 +23,11 @@ header  benchmark/benchmark.h                     libbenchmark-dev
 readonly python_needs='
 command python3                                   python3
 '
-readonly node_needs='
+readonly test_needs='
 command node                                      nodejs
 command npm                                       npm
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
+path    /usr/share/i18n/locales/de_DE             locales
 '
 readonly check_needs='
 command clang-format                              clang-format
@@ -91,4 +92,12 @@ need_node_modules() {
   [[ node_modules/.package-lock.json -nt package-lock.json ]] && return
   echo "dev: installing the packages of package-lock.json below node_modules/"
   npm ci --ignore-scripts --no-audit --no-fund --loglevel=error
+}
+
+# A locale with a decimal comma, for the tests that no locale changes a number.
+need_comma_locale() {
+  local locale=build-locale/de_DE.UTF-8
+  [[ -e $locale ]] && return
+  mkdir -p build-locale
+  localedef --inputfile de_DE --charmap UTF-8 "$PWD/$locale"
 }
