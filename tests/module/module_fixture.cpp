@@ -1,22 +1,13 @@
 #include "tests/module/module_fixture.h"
 
-#include <filesystem>
-#include <fstream>
+#include <optional>
+#include <stdexcept>
 #include <utility>
 
 namespace test {
 namespace {
 
 constexpr int kOk = 1097;
-
-std::filesystem::path Folder() {
-  const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-  std::string name = std::string(info->test_suite_name()) + "." + info->name();
-  for (char& letter : name) {
-    if (letter == '/') letter = '_';
-  }
-  return std::filesystem::path(testing::TempDir()) / name;
-}
 
 }  // namespace
 
@@ -38,7 +29,6 @@ void ModuleTest::TearDown() {
     EXPECT_TRUE(leftovers.IsClean());
     EXPECT_TRUE(leftovers.open_keys.empty());
   }
-  std::filesystem::remove_all(Folder());
 }
 
 int ModuleTest::Import(const std::string& path, Desk::DialogAnswer answer) {
@@ -48,13 +38,6 @@ int ModuleTest::Import(const std::string& path, Desk::DialogAnswer answer) {
   EXPECT_TRUE(result.has_value());
   completed_ = result && result->completed;
   return result ? result->returned : -1;
-}
-
-std::string ModuleTest::Write(const std::string& name, const std::string& text) {
-  std::filesystem::create_directories(Folder());
-  const std::filesystem::path path = Folder() / name;
-  std::ofstream(path, std::ios::binary) << text;
-  return path;
 }
 
 host::Node& ModuleTest::Node(const std::string& name) {

@@ -8,6 +8,7 @@
 #include "host/application/application.h"
 #include "host/application/module.h"
 #include "tests/support/desk.h"
+#include "tests/support/temporary_folder.h"
 
 namespace test {
 
@@ -26,11 +27,14 @@ class ModuleTest : public testing::Test {
   int Import(const std::string& path, Desk::DialogAnswer answer = nullptr);
 
   // Writes `text` to a file of this test and returns its path.
-  std::string Write(const std::string& name, const std::string& text);
+  std::string Write(const std::string& name, const std::string& text) {
+    return folder_.Write(name, text);
+  }
 
-  // The node of that name; fails the test when there is none.
+  // The node of that name; throws, and so fails the test, when there is none.
   host::Node& Node(const std::string& name);
 
+  TemporaryFolder folder_;
   Desk desk_;
   host::Application application_;
   std::unique_ptr<host::Module> module_;

@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
-#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
 
 #include "tests/support/desk.h"
+#include "tests/support/environment_variable.h"
+#include "tests/support/temporary_folder.h"
 
 namespace orvane {
 namespace {
@@ -41,17 +42,6 @@ TEST(MessageSinkTest, AskIsFalseWhenNobodyCanAnswer) {
 // Log mode, with a user whose state folder is a fresh one.
 class MessageSinkLogTest : public testing::Test {
  protected:
-  void SetUp() override {
-    folder_ = std::filesystem::path(testing::TempDir()) /
-              testing::UnitTest::GetInstance()->current_test_info()->name();
-    std::filesystem::remove_all(folder_);
-    setenv("XDG_STATE_HOME", folder_.c_str(), 1);
-  }
-  void TearDown() override {
-    unsetenv("XDG_STATE_HOME");
-    std::filesystem::remove_all(folder_);
-  }
-
   static std::string Log() {
     std::ifstream file(platform::LogFilePath());
     std::ostringstream text;
@@ -59,7 +49,8 @@ class MessageSinkLogTest : public testing::Test {
     return text.str();
   }
 
-  std::filesystem::path folder_;
+  test::TemporaryFolder folder_;
+  test::EnvironmentVariable state_folder_{"XDG_STATE_HOME", folder_.Path()};
 };
 
 TEST_F(MessageSinkLogTest, LogModeIsOffAtFirst) {
@@ -114,7 +105,8 @@ TEST_F(MessageSinkLogTest, AnEmptyTitleLeavesALineThatBeginsWithTheTab) {
 }
 
 TEST_F(MessageSinkLogTest, ALogThatCannotBeOpenedLosesTheMessageSilently) {
-  std::ofstream(folder_) << "a file where the folder should be";
+  folder_.Write("file", "where the folder should be");
+  const test::EnvironmentVariable no_folder("XDG_STATE_HOME", folder_.File("file"));
   test::Desk desk;
   MessageSink sink;
   sink.SetLogMode(true);

@@ -1,0 +1,171 @@
+// Motion files imported through the loaded module, with a user at the dialog.
+
+#include <gtest/gtest.h>
+
+#include "host/base/heap_control.h"
+#include "tests/module/module_fixture.h"
+#include "tests/support/fake_dialog.h"
+#include "tests/support/htr_text.h"
+
+namespace test {
+namespace {
+
+constexpr int kEndEffectors = 1019;
+constexpr int kTcb = 1052;
+constexpr int kApply = 1086;
+constexpr int kGlobal = 1088;
+constexpr int kOffset = 1089;
+constexpr int kOk = 1097;
+constexpr int kCancel = 1098;
+constexpr int kAbout = 1103;
+
+HtrText TwoBones() {
+  HtrText file;
+  file.segments = {{"Hips", "GLOBAL", "1 2 3 0 0 0 10", {"0 0 0 0 0 0", "0 0 5 0 0 0"}},
+                   {"Leg", "Hips", "0 4 0 0 0 90 20", {"0 0 0 0 0 0", "0 0 0 0 0 0"}}};
+  return file;
+}
+
+class ImportTest : public ModuleTest {
+ protected:
+  std::string File() { return Write("walk.htr", TwoBones().Text()); }
+
+  void ExpectWorldPosition(const std::string& name, TimeValue time, const Point3& expected) {
+    const Point3 found = Node(name).WorldTransform(time).GetRow(3);
+    EXPECT_NEAR(found.x, expected.x, 1e-5) << name;
+    EXPECT_NEAR(found.y, expected.y, 1e-5) << name;
+    EXPECT_NEAR(found.z, expected.z, 1e-5) << name;
+  }
+};
+
+TEST_F(ImportTest, BonesStandAndMoveWhereTheFileSays) {
+  EXPECT_EQ(Import(File(), PressOk), 1);
+  EXPECT_TRUE(completed_);
+  // The file's (x, y, z) is the host's (x, -z, y); the leg stands 4 above the hips.
+  ExpectWorldPosition("Hips", 160, Point3(1, -3, 2));
+  ExpectWorldPosition("Leg", 160, Point3(1, -3, 6));
+  ExpectWorldPosition("Hips", 320, Point3(1, -8, 2));
+  ExpectWorldPosition("Leg", 320, Point3(1, -8, 6));
+  // A quarter turn about the file's Z lays the leg, which was upright, along -X.
+  const Point3 along = Node("Leg").WorldTransform(160).GetRow(0);
+  EXPECT_NEAR(along.x, -1, 1e-6);
+  EXPECT_EQ(desk_.Messages(), "");
+}
+
+TEST_F(ImportTest, ChoicesAreRememberedForTheNextImport) {
+  EXPECT_EQ(Import(File(),
+                   [](host::ScriptedDialog& dialog) {
+                     dialog.Click(kEndEffectors);
+                     dialog.Click(kTcb);
+                     dialog.Type(kGlobal, "2");
+                     dialog.Type(kOffset, "5");
+                     dialog.Click(kOk);
+                   }),
+            1);
+  EXPECT_EQ(Node("Leg").Transform()->Rotation().ClassID(), kTcbRotationClass);
+  EXPECT_EQ(Node("Leg_Effector").Parent(), &Node("Leg"));
+  EXPECT_EQ(Import(File(),
+                   [](host::ScriptedDialog& dialog) {
+                     EXPECT_TRUE(dialog.IsChecked(kEndEffectors));
+                     EXPECT_TRUE(dialog.IsChecked(kTcb));
+                     EXPECT_EQ(dialog.Text(kGlobal), "2.000000");
+                     EXPECT_EQ(dialog.Text(kOffset), "5");
+                     dialog.Click(kCancel);
+                   }),
+            1);
+  EXPECT_FALSE(completed_);
+}
+
+TEST_F(ImportTest, StoredChoicesOutliveTheModule) {
+  EXPECT_EQ(Import(File(),
+                   [](host::ScriptedDialog& dialog) {
+                     dialog.Type(kGlobal, "2");
+                     dialog.Type(kOffset, "5");
+                     dialog.Click(kOk);
+                   }),
+            1);
+  module_.reset();
+  SetUp();
+  EXPECT_EQ(Import(File(),
+                   [](host::ScriptedDialog& dialog) {
+                     EXPECT_EQ(dialog.Text(kGlobal), "2.000000");
+                     EXPECT_EQ(dialog.Text(kOffset), "0");
+                     dialog.Click(kCancel);
+                   }),
+            1);
+}
+
+TEST_F(ImportTest, AMotionIsAppliedToASkeletonOfTheScene) {
+  EXPECT_EQ(Import(File(), PressOk), 1);
+  HtrText other = TwoBones();
+  other.segments[0].frames = {"100 0 0 0 0 0", "100 0 0 0 0 0"};
+  application_.scene().Select(Node("Hips"));
+  EXPECT_EQ(Import(Write("other.htr", other.Text()),
+                   [](host::ScriptedDialog& dialog) {
+                     dialog.Click(kApply);
+                     dialog.Click(kOk);
+                   }),
+            1);
+  EXPECT_TRUE(completed_);
+  EXPECT_EQ(application_.scene().NodeCount(), 3U);
+  ExpectWorldPosition("Hips", 160, Point3(101, -3, 2));
+}
+
+TEST_F(ImportTest, FailuresAreToldAndReturn0) {
+  EXPECT_EQ(Import(Write("empty.htr", "[Header]\nFileType text\n")), 0);
+  EXPECT_FALSE(completed_);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: The file does not have a compatible \"FileType\" header state\n");
+}
+
+TEST_F(ImportTest, NoAllocationOfTheHostsIsIndispensable) {
+  const std::string path = File();
+  for (std::size_t n = 1; n <= 8; ++n) {
+    host::RefuseAllocation(n);
+    module_->Import(path, true);
+    host::RefuseAllocation(0);
+    EXPECT_FALSE(application_.progress().IsOpen()) << n;
+  }
+}
+
+// Hands the options dialog's handler a command that no control of the dialog sends.
+class AboutDesktop final : public platform::Desktop {
+ public:
+  explicit AboutDesktop(Desk& desk) : desk_(desk) { platform::InstallDesktop(this); }
+  AboutDesktop(const AboutDesktop&) = delete;
+  AboutDesktop& operator=(const AboutDesktop&) = delete;
+  ~AboutDesktop() { platform::InstallDesktop(&desk_.desktop()); }
+
+  int ShowMessage(const char* text, const char* caption, platform::MessageBoxStyle style) override {
+    return desk_.desktop().ShowMessage(text, caption, style);
+  }
+  int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
+                platform::DialogHandler& handler) override {
+    if (dialog_id != 107) return desk_.desktop().RunDialog(module, dialog_id, parent, handler);
+    FakeDialog dialog;
+    handler.Initialize(dialog);
+    handler.Command(dialog, kAbout);
+    EXPECT_FALSE(dialog.Result());
+    handler.Command(dialog, kCancel);
+    return dialog.Result().value_or(platform::kDialogNotCreated);
+  }
+  platform::Registry& CurrentUser() override { return desk_.registry(); }
+
+ private:
+  Desk& desk_;
+};
+
+TEST_F(ImportTest, TheOptionsDialogAnswersTheAboutCommand) {
+  const AboutDesktop about_desktop(desk_);
+  bool shown = false;
+  EXPECT_EQ(Import(File(),
+                   [&shown](host::ScriptedDialog& dialog) {
+                     shown = dialog.Title() == "About...";
+                     dialog.Click(kOk);
+                   }),
+            1);
+  EXPECT_TRUE(shown);
+}
+
+}  // namespace
+}  // namespace test
