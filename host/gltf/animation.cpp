@@ -1,0 +1,146 @@
+#include "host/gltf/animation.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <map>
+#include <utility>
+#include <vector>
+
+#include "host/gltf/refusal.h"
+
+namespace host::gltf {
+
+namespace {
+
+// The keys of a controller as a viewer has them.
+struct Track {
+  std::vector<float> seconds;
+  std::vector<float> values;  // all components of the first key, then those of the second, ...
+};
+
+constexpr TimeValue kNoKey = std::numeric_limits<TimeValue>::max();
+
+TimeValue FirstTick(const Controller& controller) {
+  return controller.KeyCount() == 0 ? kNoKey : controller.KeyTick(0);
+}
+
+// The tick of the earliest key of all, or kNoKey, at which there may be one as well.
+TimeValue EarliestTick(const NodeTree& tree) {
+  TimeValue earliest = kNoKey;
+  for (const PlacedNode& placed : tree) {
+    const TransformController& transform = *placed.node->Transform();
+    earliest = std::min({earliest, FirstTick(transform.Position()), FirstTick(transform.Rotation()),
+                         FirstTick(transform.Scale())});
+  }
+  return earliest;
+}
+
+float SecondsBetween(TimeValue start, TimeValue tick) {
+  const std::int64_t ticks = std::int64_t{tick} - start;
+  return static_cast<float>(static_cast<double>(ticks) / kTicksPerSecond);
+}
+
+// Of the two quaternions of each rotation takes the one nearer to the rotation before, so that
+// viewers turn the shorter way.
+void TakeNearerSigns(std::vector<float>& rotations) {
+  for (std::size_t i = 4; i < rotations.size(); i += 4) {
+    float* rotation = &rotations[i];
+    const float* previous = rotation - 4;
+    const float dot = previous[0] * rotation[0] + previous[1] * rotation[1] +
+                      previous[2] * rotation[2] + previous[3] * rotation[3];
+    if (dot >= 0.0F) continue;
+    for (int component = 0; component < 4; ++component) rotation[component] *= -1.0F;
+  }
+}
+
+class AnimationBuilder {
+ public:
+  AnimationBuilder(const ViewerSpace& space, TimeValue start, BinaryData& data)
+      : space_(space), start_(start), data_(data) {}
+
+  // Adds the keys of `node`, which has that index in the file.
+  void AddNode(const Node& node, int index);
+
+  tinygltf::Animation Finish() { return std::move(animation_); }
+
+ private:
+  // The keys of `controller`, the one of the node's `what`, as `convert` makes them the viewer's.
+  template <typename KeyedController, typename Convert>
+  Track TrackOf(const KeyedController& controller, const Node& node, const char* what,
+                const Convert& convert) const;
+
+  void AddChannel(const std::vector<float>& seconds, int output, int node, const char* path);
+
+  const ViewerSpace& space_;
+  TimeValue start_;
+  BinaryData& data_;
+  tinygltf::Animation animation_;
+  std::map<std::vector<float>, int> inputs_;  // accessors by the times in them
+};
+
+void AnimationBuilder::AddNode(const Node& node, int index) {
+  const TransformController& transform = *node.Transform();
+  const Track positions = TrackOf(transform.Position(), node, "position",
+                                  [&](const Point3& value) { return space_.Position(value); });
+  if (!positions.seconds.empty()) {
+    AddChannel(positions.seconds, data_.AddKeyVectors(positions.values), index, "translation");
+  }
+  Track rotations = TrackOf(transform.Rotation(), node, "rotation", ViewerSpace::Rotation);
+  if (!rotations.seconds.empty()) {
+    TakeNearerSigns(rotations.values);
+    AddChannel(rotations.seconds, data_.AddKeyRotations(rotations.values), index, "rotation");
+  }
+  const Track scales = TrackOf(transform.Scale(), node, "scale", ViewerSpace::Scale);
+  if (!scales.seconds.empty()) {
+    AddChannel(scales.seconds, data_.AddKeyVectors(scales.values), index, "scale");
+  }
+}
+
+template <typename KeyedController, typename Convert>
+Track AnimationBuilder::TrackOf(const KeyedController& controller, const Node& node,
+                                const char* what, const Convert& convert) const {
+  Track track;
+  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
+    const TimeValue tick = controller.KeyTick(key);
+    const auto value = Rounded(convert(controller.KeyValue(key)));
+    RequireFinite(value, node, what, tick);
+    const float second = SecondsBetween(start_, tick);
+    if (!track.seconds.empty() && track.seconds.back() == second) continue;
+    track.seconds.push_back(second);
+    track.values.insert(track.values.end(), value.begin(), value.end());
+  }
+  return track;
+}
+
+void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output, int node,
+                                  const char* path) {
+  const auto known = inputs_.find(seconds);
+  const int input = known != inputs_.end() ? known->second : data_.AddKeyTimes(seconds);
+  inputs_.try_emplace(seconds, input);
+
+  tinygltf::AnimationSampler& sampler = animation_.samplers.emplace_back();
+  sampler.input = input;
+  sampler.output = output;
+  tinygltf::AnimationChannel& channel = animation_.channels.emplace_back();
+  channel.sampler = static_cast<int>(animation_.samplers.size()) - 1;
+  channel.target_node = node;
+  channel.target_path = path;
+}
+
+}  // namespace
+
+void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const std::string& name,
+                  BinaryData& data, tinygltf::Model& model) {
+  AnimationBuilder builder(space, EarliestTick(tree), data);
+  for (std::size_t index = 0; index < tree.size(); ++index) {
+    builder.AddNode(*tree[index].node, static_cast<int>(index));
+  }
+  tinygltf::Animation animation = builder.Finish();
+  if (animation.channels.empty()) return;
+  animation.name = name;
+  model.animations.push_back(std::move(animation));
+}
+
+}  // namespace host::gltf

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <tiny_gltf.h>
+
+#include <cstdint>
+#include <vector>
+
+#include "host/gltf/binary_data.h"
+#include "host/gltf/shape.h"
+#include "host/gltf/viewer_space.h"
+#include "host/scene/node.h"
+
+namespace host::gltf {
+
+// Shapes on their way into a primitive, which is what glTF calls the part of a mesh that has one
+// material. Collects all with a joint or all without.
+class Geometry {
+ public:
+  // Appends `shape`, which stands for `node` at `time` (ticks). Throws a Refusal when it is not
+  // finite.
+  void Add(const Shape& shape, const ViewerSpace& space, const Node& node, TimeValue time);
+
+  // The same; the shape follows joint number `joint` of the skin.
+  void AddWithJoint(const Shape& shape, const ViewerSpace& space, const Node& node, TimeValue time,
+                    std::uint16_t joint);
+
+  // Stores what was collected, at least one shape, in `data`.
+  tinygltf::Primitive StoreIn(BinaryData& data, int material) const;
+
+ private:
+  std::vector<float> positions_;
+  std::vector<std::uint16_t> joints_;
+  std::vector<std::uint32_t> triangles_;
+};
+
+}  // namespace host::gltf

@@ -1,0 +1,38 @@
+#include "host/gltf/materials.h"
+
+#include <cmath>
+
+namespace host::gltf {
+
+namespace {
+
+constexpr WireColor kColorBits = 0xFFFFFF;
+constexpr double kRoughness = 0.6;
+
+// The light that a component of a colour on a screen stands for (the sRGB curve), which is what
+// glTF wants.
+double Linear(WireColor component) {
+  const double value = component / 255.0;
+  return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
+}
+
+tinygltf::Material Dull(WireColor color) {
+  tinygltf::Material material;
+  auto& surface = material.pbrMetallicRoughness;
+  surface.baseColorFactor = {Linear(color & 0xFFU), Linear(color >> 8U & 0xFFU),
+                             Linear(color >> 16U & 0xFFU), 1.0};
+  surface.metallicFactor = 0.0;
+  surface.roughnessFactor = kRoughness;
+  return material;
+}
+
+}  // namespace
+
+int Materials::Of(WireColor color) {
+  const int next = static_cast<int>(model_.materials.size());
+  const auto [entry, added] = indices_.try_emplace(color & kColorBits, next);
+  if (added) model_.materials.push_back(Dull(entry->first));
+  return entry->second;
+}
+
+}  // namespace host::gltf

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace host::gltf {
+
+// `bytes` as viewers can read it: every byte that is no part of a UTF-8 character becomes U+FFFD.
+// Valid text comes back as it is.
+std::string ViewerName(std::string_view bytes);
+
+}  // namespace host::gltf

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <tiny_gltf.h>
+
+#include <vector>
+
+#include "host/gltf/viewer_space.h"
+#include "host/scene/scene.h"
+
+namespace host::gltf {
+
+// A node and its place. Indices are those of the tree, and of the nodes in the file.
+struct PlacedNode {
+  const Node* node;
+  int parent;  // -1 under the scene's root
+  int top;     // the node under the scene's root that this one hangs below, or itself
+};
+
+// All nodes of a scene but its root: each before its children, siblings in their order.
+using NodeTree = std::vector<PlacedNode>;
+
+NodeTree NodeTreeOf(const Scene& scene);
+
+// Adds the nodes of `tree`, as they stand at `time` (ticks), to `model` and its first scene.
+// Throws a Refusal when a transform is not finite.
+void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
+              tinygltf::Model& model);
+
+}  // namespace host::gltf

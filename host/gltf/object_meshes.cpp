@@ -1,0 +1,90 @@
+#include "host/gltf/object_meshes.h"
+
+#include <cstddef>
+#include <map>
+#include <optional>
+#include <tuple>
+
+#include "host/gltf/geometry.h"
+#include "host/gltf/shape.h"
+#include "host/scene/point_helper.h"
+#include "host/scene/sphere_object.h"
+
+namespace host::gltf {
+
+namespace {
+
+constexpr float kPointRadius = 1.0F;
+
+// What a node shows.
+struct Look {
+  enum class Form { kBall, kMark };
+
+  Form form;
+  float radius;  // system units
+  int material;
+};
+
+bool operator<(const Look& left, const Look& right) {
+  return std::tie(left.form, left.radius, left.material) <
+         std::tie(right.form, right.radius, right.material);
+}
+
+std::optional<Look> LookOf(const Node& node, Materials& materials) {
+  const SceneObject* object = node.ShownObject();
+  if (const auto* sphere = dynamic_cast<const SphereObject*>(object)) {
+    return Look{Look::Form::kBall, sphere->Radius(), materials.Of(node.WireColor())};
+  }
+  if (dynamic_cast<const PointHelper*>(object) != nullptr) {
+    return Look{Look::Form::kMark, kPointRadius, materials.Of(node.WireColor())};
+  }
+  return std::nullopt;
+}
+
+Shape ShapeOf(const Look& look) {
+  return look.form == Look::Form::kBall ? BallShape(look.radius) : MarkShape(look.radius);
+}
+
+class MeshMaker {
+ public:
+  MeshMaker(const ViewerSpace& space, TimeValue time, BinaryData& data, tinygltf::Model& model)
+      : space_(space), time_(time), data_(data), model_(model) {}
+
+  // The index of the mesh that shows `node`. Nodes of one look share it, unless their objects stand
+  // off from them.
+  int MeshFor(const Node& node, const Look& look) {
+    const std::optional<Matrix3>& offset = node.ObjectOffset();
+    if (offset) return Add(Transformed(ShapeOf(look), *offset), node, look.material);
+    const auto known = shared_.find(look);
+    if (known != shared_.end()) return known->second;
+    return shared_[look] = Add(ShapeOf(look), node, look.material);
+  }
+
+ private:
+  int Add(const Shape& shape, const Node& node, int material) {
+    Geometry geometry;
+    geometry.Add(shape, space_, node, time_);
+    model_.meshes.emplace_back().primitives.push_back(geometry.StoreIn(data_, material));
+    return static_cast<int>(model_.meshes.size()) - 1;
+  }
+
+  const ViewerSpace& space_;
+  TimeValue time_;
+  BinaryData& data_;
+  tinygltf::Model& model_;
+  std::map<Look, int> shared_;
+};
+
+}  // namespace
+
+void AddObjectMeshes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
+                     Materials& materials, BinaryData& data, tinygltf::Model& model) {
+  MeshMaker maker(space, time, data, model);
+  for (std::size_t index = 0; index < tree.size(); ++index) {
+    const Node& node = *tree[index].node;
+    const std::optional<Look> look = LookOf(node, materials);
+    if (look) model.nodes[index].mesh = maker.MeshFor(node, *look);
+  }
+}
+
+}  // namespace host::gltf

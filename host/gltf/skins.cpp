@@ -1,0 +1,139 @@
+#include "host/gltf/skins.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <map>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/gltf/geometry.h"
+#include "host/gltf/shape.h"
+#include "host/scene/bone_object.h"
+#include "sdk/core/object.h"
+
+namespace host::gltf {
+
+namespace {
+
+constexpr double kMarkMeters = 0.005;
+
+// The bones of one skin: indices of nodes in one tree under the scene's root.
+using BoneGroup = std::vector<std::size_t>;
+
+const BoneObject* BoneOf(const Node& node) {
+  return dynamic_cast<const BoneObject*>(node.ShownObject());
+}
+
+std::vector<BoneGroup> BoneGroupsOf(const NodeTree& tree) {
+  std::vector<BoneGroup> groups;
+  for (std::size_t index = 0; index < tree.size(); ++index) {
+    if (BoneOf(*tree[index].node) == nullptr) continue;
+    const bool joins = !groups.empty() && groups.back().size() < kMostBonesInSkin &&
+                       tree[groups.back().front()].top == tree[index].top;
+    if (!joins) groups.emplace_back();
+    groups.back().push_back(index);
+  }
+  return groups;
+}
+
+// How a bone is tied to its joint: where the joint stands, and the way back from there.
+struct Binding {
+  Matrix3 joint;
+  Matrix3 inverse;
+};
+
+bool IsFinite(const Matrix3& matrix) {
+  for (int row = 0; row < 4; ++row) {
+    for (int column = 0; column < 3; ++column) {
+      if (!std::isfinite(matrix.GetRow(row)[column])) return false;
+    }
+  }
+  return true;
+}
+
+// A joint whose transform has no inverse is bound as if it stood at the origin, which draws the
+// same; Inverse gives the identity for it.
+Binding BindingOf(const Node& node, TimeValue time) {
+  const Matrix3& joint = node.WorldTransform(time);
+  const Matrix3 inverse = Inverse(joint);
+  if (inverse == Matrix3() || !IsFinite(inverse)) return {};
+  return {joint, inverse};
+}
+
+class SkinMaker {
+ public:
+  SkinMaker(const ViewerSpace& space, TimeValue time, Materials& materials)
+      : space_(space), time_(time), materials_(materials) {}
+
+  // Makes the node its skin's next joint.
+  void AddBone(const Node& node, int index);
+
+  // The index of the finished skin and of its mesh.
+  int StoreSkin(BinaryData& data, tinygltf::Model& model);
+  int StoreMesh(BinaryData& data, tinygltf::Model& model);
+
+ private:
+  Shape ShapeOf(const Node& node) const;
+
+  const ViewerSpace& space_;
+  TimeValue time_;
+  Materials& materials_;
+  std::vector<int> joints_;
+  std::vector<float> inverses_;
+  std::map<int, Geometry> parts_;  // by material
+};
+
+void SkinMaker::AddBone(const Node& node, int index) {
+  const auto joint = static_cast<std::uint16_t>(joints_.size());
+  const Binding binding = BindingOf(node, time_);
+  const auto inverse = Rounded(space_.Matrix(binding.inverse));
+  joints_.push_back(index);
+  inverses_.insert(inverses_.end(), inverse.begin(), inverse.end());
+  parts_[materials_.Of(node.WireColor())].AddWithJoint(Transformed(ShapeOf(node), binding.joint),
+                                                       space_, node, time_, joint);
+}
+
+Shape SkinMaker::ShapeOf(const Node& node) const {
+  const BoneObject& bone = *BoneOf(node);
+  Shape shape = BoneShape(bone.Parameter(kBoneWidthParameter), bone.Parameter(kBoneHeightParameter),
+                          bone.Parameter(kBoneLengthParameter), space_.HostLength(kMarkMeters));
+  return node.ObjectOffset() ? Transformed(std::move(shape), *node.ObjectOffset()) : shape;
+}
+
+int SkinMaker::StoreSkin(BinaryData& data, tinygltf::Model& model) {
+  tinygltf::Skin& skin = model.skins.emplace_back();
+  skin.joints = std::move(joints_);
+  skin.inverseBindMatrices = data.AddMatrices(inverses_);
+  return static_cast<int>(model.skins.size()) - 1;
+}
+
+int SkinMaker::StoreMesh(BinaryData& data, tinygltf::Model& model) {
+  tinygltf::Mesh& mesh = model.meshes.emplace_back();
+  for (const auto& [material, geometry] : parts_) {
+    mesh.primitives.push_back(geometry.StoreIn(data, material));
+  }
+  return static_cast<int>(model.meshes.size()) - 1;
+}
+
+}  // namespace
+
+void AddSkins(const NodeTree& tree, const ViewerSpace& space, TimeValue time, Materials& materials,
+              BinaryData& data, tinygltf::Model& model) {
+  for (const BoneGroup& group : BoneGroupsOf(tree)) {
+    SkinMaker maker(space, time, materials);
+    for (const std::size_t index : group) {
+      maker.AddBone(*tree[index].node, static_cast<int>(index));
+    }
+    const auto top = static_cast<std::size_t>(tree[group.front()].top);
+    model.scenes.front().nodes.push_back(static_cast<int>(model.nodes.size()));
+    tinygltf::Node skinned;
+    skinned.name = model.nodes[top].name + " bones";
+    skinned.skin = maker.StoreSkin(data, model);
+    skinned.mesh = maker.StoreMesh(data, model);
+    model.nodes.push_back(std::move(skinned));
+  }
+}
+
+}  // namespace host::gltf

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <tiny_gltf.h>
+
+#include "host/gltf/binary_data.h"
+#include "host/gltf/materials.h"
+#include "host/gltf/node_tree.h"
+#include "host/gltf/viewer_space.h"
+
+namespace host::gltf {
+
+// A joint's number is two bytes in the mesh, and viewers hold all of a skin's joints at once.
+inline constexpr std::size_t kMostBonesInSkin = 60'000;
+
+// Adds the bones of `tree` as skins, bound as they stand at `time` (ticks), each with a mesh whose
+// node hangs in the first scene of `model`. The first nodes of `model` are those of the tree.
+// Throws a Refusal when a shape is not finite.
+void AddSkins(const NodeTree& tree, const ViewerSpace& space, TimeValue time, Materials& materials,
+              BinaryData& data, tinygltf::Model& model);
+
+}  // namespace host::gltf

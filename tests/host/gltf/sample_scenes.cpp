@@ -1,0 +1,115 @@
+#include "tests/host/gltf/sample_scenes.h"
+
+#include "tests/host/gltf/test_scene.h"
+
+namespace test {
+
+namespace {
+
+void BuildNothing(host::Scene& /*scene*/) {}
+
+void BuildOneDummy(host::Scene& scene) { AddDummy(scene, nullptr, "Alone"); }
+
+void BuildOneBone(host::Scene& scene) { AddBone(scene, nullptr, "Alone"); }
+
+// A group over a chain of bones with two ends, all of it animated at every frame.
+void BuildSkeleton(host::Scene& scene) {
+  host::Node& group = AddDummy(scene, nullptr, "group");
+  host::Node& hips = AddBone(scene, &group, "Hips", {120.0F, 24.0F, 24.0F});
+  host::Node& chest = AddBone(scene, &hips, "Chest", {300.0F, 60.0F, 40.0F});
+  host::Node& arm = AddBone(scene, &chest, "Arm", {250.0F, 50.0F, 50.0F});
+  AddBone(scene, &arm, "Arm_Effector", {50.0F, 50.0F, 50.0F})
+      .Transform()
+      ->Position()
+      .SetConstant({250.0F, 0.0F, 0.0F});
+  hips.Transform()->Position().SetConstant({0.0F, 0.0F, 950.0F});
+  chest.Transform()->Position().SetConstant({120.0F, 0.0F, 0.0F});
+  arm.Transform()->Position().SetConstant({300.0F, 30.0F, -10.0F});
+  UseTcbRotation(scene, arm);
+  for (int frame = 0; frame < 30; ++frame) {
+    const TimeValue tick = frame * 160;
+    hips.Transform()->Position().SetKey(tick, {5.0F * static_cast<float>(frame), 1.0F, 950.0F});
+    hips.Transform()->Rotation().SetKey(tick, TurnAbout(2, 3.0 * frame));
+    chest.Transform()->Rotation().SetKey(tick, TurnAbout(1, 20.0 * frame));
+    arm.Transform()->Rotation().SetKey(tick, TurnAbout(0, -40.0 * frame));
+  }
+}
+
+// Every kind of object, in colours, units and places of their own.
+void BuildEveryKind(host::Scene& scene) {
+  scene.SetMillimetersPerUnit(25.4);
+  host::Node& dummy = AddDummy(scene, nullptr, "dummy");
+  host::Node& bone = AddBone(scene, &dummy, "bone", {4.0F, 1.0F, 1.0F});
+  host::Node& sphere = AddSphere(scene, &bone, "sphere", 0.5F);
+  host::Node& point = AddPoint(scene, &sphere, "point");
+  bone.SetWireColor(PackWireColor(204, 51, 51));
+  sphere.SetWireColor(PackWireColor(0, 255, 0));
+  point.SetWireColor(PackWireColor(255, 255, 255));
+  point.Transform()->Scale().SetConstant({0.25F, 0.25F, 0.25F});
+  sphere.Transform()->Position().SetConstant({1.0F, 2.0F, 3.0F});
+  dummy.Transform()->Rotation().SetConstant(TurnAbout(0, 30.0));
+}
+
+// Bones below parents that are scaled, mirrored and flattened; scale keys.
+void BuildScaled(host::Scene& scene) {
+  host::Node& group = AddDummy(scene, nullptr, "scaled");
+  group.Transform()->Scale().SetConstant({2.0F, 0.5F, 3.0F});
+  host::Node& turned = AddBone(scene, &group, "turned");
+  turned.Transform()->Rotation().SetConstant(TurnAbout(2, 30.0));
+  host::Node& mirrored = AddBone(scene, &turned, "mirrored");
+  mirrored.Transform()->Scale().SetConstant({-1.0F, -1.0F, -1.0F});
+  host::Node& flat = AddBone(scene, &turned, "flat");
+  flat.Transform()->Scale().SetConstant({1.0F, 0.0F, 1.0F});
+  AddBone(scene, &flat, "below flat");
+  host::Node& growing = AddBone(scene, &turned, "growing");
+  growing.Transform()->Scale().SetKey(0, {0.0F, 0.0F, 0.0F});
+  growing.Transform()->Scale().SetKey(4800, {1.0F, 2.0F, 1.0F});
+}
+
+// Skeletons side by side, bones of several colours, bones without length and without width.
+void BuildSeveralTrees(host::Scene& scene) {
+  for (const char* name : {"first", "second"}) {
+    host::Node& top = AddBone(scene, nullptr, name);
+    AddBone(scene, &top, "child", {0.0F, 0.0F, 0.0F}).SetWireColor(PackWireColor(255, 0, 0));
+    AddBone(scene, &top, "thin", {50.0F, 0.0F, 0.0F}).SetWireColor(PackWireColor(0, 0, 255));
+    AddBone(scene, &top, "backwards", {-50.0F, 5.0F, 5.0F});
+  }
+}
+
+// Keys before zero, past half an hour, and so late and so close that single precision cannot tell
+// their seconds apart.
+void BuildWideTimes(host::Scene& scene) {
+  host::Node& node = AddBone(scene, nullptr, "late");
+  for (const TimeValue tick : {-4800, 0, 8'640'001, 8'640'002, 30'000'000, 30'000'001, 30'000'002,
+                               2'147'483'646, 2'147'483'647}) {
+    node.Transform()->Position().SetKey(tick, {static_cast<float>(tick), 0.0F, 0.0F});
+    node.Transform()->Rotation().SetKey(tick, TurnAbout(0, tick % 360));
+  }
+  AddDummy(scene, nullptr, "one key").Transform()->Position().SetKey(0, {1.0F, 2.0F, 3.0F});
+}
+
+void BuildStrangeNames(host::Scene& scene) {
+  AddBone(scene, nullptr, "\xFF\xFE latin \xE4\xF6\xFC");
+  AddDummy(scene, nullptr, "");
+  AddDummy(scene, nullptr, "\x01\x1F \"quoted\" \\ /");
+  AddSphere(scene, nullptr, "\xE6\xAD\xA9\xE3\x81\x8F", 10.0F);
+}
+
+}  // namespace
+
+const std::vector<SampleScene>& SampleScenes() {
+  static const std::vector<SampleScene> scenes = {
+      {"nothing", BuildNothing},
+      {"one_dummy", BuildOneDummy},
+      {"one_bone", BuildOneBone},
+      {"skeleton", BuildSkeleton},
+      {"every_kind", BuildEveryKind},
+      {"scaled", BuildScaled},
+      {"several_trees", BuildSeveralTrees},
+      {"wide_times", BuildWideTimes},
+      {"strange_names", BuildStrangeNames},
+  };
+  return scenes;
+}
+
+}  // namespace test
