@@ -13,7 +13,6 @@ namespace host {
 namespace {
 
 using test::ExpectNear;
-using test::ExpectSameRotation;
 using test::Turn;
 
 const Point3 kOne(1.0F, 1.0F, 1.0F);

@@ -17,11 +17,20 @@ using test::Turn;
 class NodeTreeTest : public SceneFixture {
  protected:
   static std::vector<std::string> ChildNames(INode& node) {
-    std::vector<std::string> names;
+    std::vector<std::string> names(static_cast<std::size_t>(node.NumberOfChildren()));
     for (int i = 0; i < node.NumberOfChildren(); ++i) {
-      names.emplace_back(node.GetChildNode(i)->GetName());
+      names[static_cast<std::size_t>(i)] = node.GetChildNode(i)->GetName();
     }
     return names;
+  }
+
+  // The world transforms of `node` at ticks 0, 100, 200 and so on.
+  static std::vector<Matrix3> WorldsOf(Node* node, std::size_t count) {
+    std::vector<Matrix3> worlds(count);
+    for (std::size_t i = 0; i < count; ++i) {
+      worlds[i] = node->NodeTransform(static_cast<TimeValue>(100 * i));
+    }
+    return worlds;
   }
 
   // Hips, turned, moved and scaled evenly, with a chest, turned and moved.
@@ -68,8 +77,8 @@ TEST_F(NodeTreeTest, AttachingMakesTheLastChild) {
 
 TEST_F(NodeTreeTest, ChildrenKeepTheirOrderWhileOthersLeave) {
   Node* hips = NewBone("Hips");
-  std::vector<Node*> children;
-  for (int i = 0; i < 10; ++i) children.push_back(NewBone(std::to_string(i).c_str(), hips));
+  std::vector<Node*> children(10);
+  for (std::size_t i = 0; i < 10; ++i) children[i] = NewBone(std::to_string(i).c_str(), hips);
   scene_.Root().AttachChild(children[3], false);
   scene_.Root().AttachChild(children[0], false);
   scene_.Root().AttachChild(children[9], false);
@@ -123,13 +132,10 @@ TEST_F(NodeTreeTest, KeepsTheWorldTransformAtEveryKey) {
     chest_->Transform()->Position().SetKey(100 * i, Point3(static_cast<float>(i), 1, 2));
     chest_->Transform()->Rotation().SetKey(100 * i, Turn(1, 0, 0, 20.0 * i));
   }
-  std::vector<Matrix3> worlds;
-  for (int i = 0; i < 4; ++i) worlds.push_back(chest_->NodeTransform(100 * i));
+  const std::vector<Matrix3> worlds = WorldsOf(chest_, 4);
   scene_.Root().AttachChild(chest_, true);
   ASSERT_EQ(chest_->Transform()->Position().KeyCount(), 4U);
-  for (int i = 0; i < 4; ++i) {
-    ExpectNear(chest_->NodeTransform(100 * i), worlds[static_cast<std::size_t>(i)], 1e-5);
-  }
+  for (std::size_t i = 0; i < 4; ++i) ExpectNear(WorldsOf(chest_, 4)[i], worlds[i], 1e-5);
 }
 
 TEST_F(NodeTreeTest, DeletingHandsChildrenToTheParentInPlace) {
@@ -158,14 +164,10 @@ TEST_F(NodeTreeTest, DeletingKeepsKeyedChildrenInPlaceAtEveryKey) {
   MakeHipsAndChest();
   hips_->Transform()->Position().SetKey(0, Point3(0, 0, 0));
   hips_->Transform()->Position().SetKey(200, Point3(10, 0, 0));
-  std::vector<Matrix3> worlds;
   for (int i = 0; i < 3; ++i) chest_->Transform()->Position().SetKey(100 * i, Point3(1, 2, 3));
-  for (int i = 0; i < 3; ++i) worlds.push_back(chest_->NodeTransform(100 * i));
+  const std::vector<Matrix3> worlds = WorldsOf(chest_, 3);
   scene_.DeleteNode(hips_);
-  for (int i = 0; i < 3; ++i) {
-    ExpectNear(chest_->NodeTransform(100 * i).GetRow(3),
-               worlds[static_cast<std::size_t>(i)].GetRow(3), 1e-4);
-  }
+  for (std::size_t i = 0; i < 3; ++i) ExpectNear(WorldsOf(chest_, 3)[i], worlds[i], 1e-5);
 }
 
 TEST_F(NodeTreeTest, NoNodeGetsBelowItself) {
