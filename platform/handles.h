@@ -18,8 +18,8 @@ using HINSTANCE = HINSTANCE__*;
 namespace platform {
 
 // A dialog procedure as it is handed to the host together with a 64-bit parameter: on 64-bit
-// Windows this is exactly the system's own dialog procedure type. The plug-in never writes one: it
-// hands over `platform::HandleDialogMessage`, which turns messages into calls on a DialogHandler.
+// Windows this is exactly the system's own dialog procedure type. The plug-in never writes one: the
+// platform provides the one that turns messages into calls on a DialogHandler.
 using DialogProcedure = std::intptr_t (*)(HWND window, unsigned int message, std::uintptr_t word,
                                           std::intptr_t parameter);
 
