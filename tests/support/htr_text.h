@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <utility>
 #include <vector>
@@ -54,7 +55,7 @@ struct HtrText {
     std::string text;
     for (const Segment& segment : segments) {
       text += "[" + segment.name + "]\n";
-      int number = first_frame;
+      std::int64_t number = first_frame;
       for (const std::string& frame : segment.frames) {
         text += std::to_string(number++) + " " + frame + " 1\n";
       }
