@@ -299,6 +299,8 @@ TEST_F(ImportHTRTest, AQuietImportUsesTheLastOptionsButTheFilesFrames) {
             }),
             1);
   EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{320}));
+  // The data are the file's from its first frame on, whatever the range.
+  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(22, -6, 4));
   Find("Hips")->SetName("Old");
   EXPECT_EQ(Import(TwoBones()), 1);
   EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{160, 320, 480}));

@@ -10,7 +10,6 @@
 namespace orvane {
 namespace {
 
-using test::ExpectPoint;
 using test::ExpectRows;
 using test::KeyTicks;
 using test::Radians;

@@ -10,7 +10,6 @@ namespace orvane {
 namespace {
 
 using test::ChildNames;
-using test::ExpectPoint;
 using test::ExpectRows;
 using test::Radians;
 
