@@ -84,6 +84,7 @@ TEST(HtrDocument, RefusesANameWithABlank) {
 TEST(HtrDocument, KeepsTheAddressesOfItsSegments) {
   HtrDocument document;
   std::vector<HtrSegment*> stored;
+  stored.reserve(1000);
   for (int index = 0; index < 1000; ++index) {
     stored.push_back(document.AddSegment(HtrSegment("s" + std::to_string(index))));
   }

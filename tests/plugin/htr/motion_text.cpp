@@ -43,21 +43,6 @@ std::string Join(const Lines& lines) {
   return text;
 }
 
-Lines Header(int num_segments, int num_frames) {
-  return {"FileType htr",
-          "DataType HTRS",
-          "FileVersion 1",
-          "NumSegments " + std::to_string(num_segments),
-          "NumFrames " + std::to_string(num_frames),
-          "DataFrameRate 60",
-          "EulerRotationOrder ZYX",
-          "CalibrationUnits mm",
-          "RotationUnits Degrees",
-          "GlobalAxisofGravity Y",
-          "BoneLengthAxis Y",
-          "ScaleFactor 1.00"};
-}
-
 std::string TwoBones() { return Join(kTwoBones); }
 
 std::string TwoBonesWith(const std::string& keyword, const std::string& replacement) {

@@ -11,10 +11,6 @@ using Lines = std::vector<std::string>;
 // Lines are joined with CR LF, the line end of real files.
 std::string Join(const Lines& lines);
 
-// A good header for that many segments and frames, without the section line; degrees and
-// millimetres.
-Lines Header(int num_segments, int num_frames);
-
 // A whole file of two bones, Hips and Spine, with two frames each.
 std::string TwoBones();
 

@@ -59,7 +59,9 @@ TEST(HtrRobustness, SurvivesNoise) {
     std::string noise(4000, ' ');
     for (char& character : noise) character = static_cast<char>(byte(random));
     ReadBothWays(noise);
-    ReadBothWays("[SegmentNames&Hierarchy]\n" + noise + "\n[BasePosition]\n" + noise);
+    std::string sections = "[SegmentNames&Hierarchy]\n";
+    sections.append(noise).append("\n[BasePosition]\n").append(noise);
+    ReadBothWays(sections);
   }
 }
 
@@ -144,7 +146,8 @@ TEST(HtrRobustness, ReadsAHugeLineInLinearTime) {
 TEST(HtrRobustness, ReadsHugeNumbersInLinearTime) {
   const std::string digits(10000, '9');
   std::string bytes = "[SegmentNames&Hierarchy]\na GLOBAL\n[a]\n";
-  for (int line = 0; line < 200; ++line) bytes += digits + " " + "\n1 " + digits + "e-9999\n";
+  const std::string line = digits + "\n1 " + digits + "e-9999\n";
+  for (int count = 0; count < 200; ++count) bytes += line;
   EXPECT_EQ(ReadBothWays(bytes), "");
 }
 

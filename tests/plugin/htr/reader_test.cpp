@@ -16,7 +16,6 @@
 namespace orvane {
 namespace {
 
-using test_text::Header;
 using test_text::Join;
 using test_text::Lines;
 using test_text::TwoBones;

@@ -1,0 +1,73 @@
+#include "examples/skeleton.h"
+
+#include <cmath>
+
+namespace examples {
+namespace {
+
+constexpr double kHipHeight_mm = kAnkleHeight_mm + kShank_mm + kThigh_mm;
+constexpr double kPelvisHeight_mm = kHipHeight_mm + 40;
+constexpr double kHalfHipWidth_mm = 95;
+constexpr double kShoulderHeight_mm = 1420;
+constexpr double kBallDrop_mm = kAnkleHeight_mm - kBallHeight_mm;
+
+int Index(BoneId bone) { return static_cast<int>(bone); }
+
+// Four bones of one arm; `side` is 1 for the left and -1 for the right.
+void AddArm(std::vector<Bone>& bones, double side) {
+  const bool left = side > 0;
+  const RotationMatrix3 outwards = AboutZ(-90 * side);
+  const int first = static_cast<int>(bones.size());
+  const auto joint = [side](double x) { return Vector3(side * x, kShoulderHeight_mm, 0); };
+  bones.push_back(
+      {left ? "LeftShoulder" : "RightShoulder", Index(BoneId::kChest), joint(30), outwards, 150});
+  bones.push_back({left ? "LeftArm" : "RightArm", first, joint(180), outwards, 290});
+  bones.push_back({left ? "LeftForeArm" : "RightForeArm", first + 1, joint(470), outwards, 250});
+  bones.push_back({left ? "LeftHand" : "RightHand", first + 2, joint(720), outwards, 170});
+}
+
+// Four bones of one leg.
+void AddLeg(std::vector<Bone>& bones, double side) {
+  const bool left = side > 0;
+  const RotationMatrix3 down = AboutX(180);
+  const int first = static_cast<int>(bones.size());
+  const double x = side * kHalfHipWidth_mm;
+  bones.push_back({left ? "LeftUpLeg" : "RightUpLeg", Index(BoneId::kHips),
+                   Vector3(x, kHipHeight_mm, 0), down, kThigh_mm});
+  bones.push_back({left ? "LeftLeg" : "RightLeg", first, Vector3(x, kAnkleHeight_mm + kShank_mm, 0),
+                   down, kShank_mm});
+  bones.push_back({left ? "LeftFoot" : "RightFoot", first + 1, Vector3(x, kAnkleHeight_mm, 0),
+                   FootAtRest(), std::hypot(kBallDrop_mm, kBallAheadOfAnkle_mm)});
+  bones.push_back({left ? "LeftToe" : "RightToe", first + 2,
+                   Vector3(x, kBallHeight_mm, kBallAheadOfAnkle_mm), AboutX(90), kToe_mm});
+}
+
+std::vector<Bone> MakeSkeleton() {
+  const RotationMatrix3 up;
+  std::vector<Bone> bones = {
+      {"Hips", -1, Vector3(0, kPelvisHeight_mm, 0), up, 100},
+      {"Spine", Index(BoneId::kHips), Vector3(0, 1080, 0), up, 170},
+      {"Chest", Index(BoneId::kSpine), Vector3(0, 1250, 0), up, 220},
+      {"Neck", Index(BoneId::kChest), Vector3(0, 1470, 0), up, 90},
+      {"Head", Index(BoneId::kNeck), Vector3(0, 1560, 0), up, 200},
+  };
+  AddArm(bones, 1);
+  AddArm(bones, -1);
+  AddLeg(bones, 1);
+  AddLeg(bones, -1);
+  return bones;
+}
+
+}  // namespace
+
+const std::vector<Bone>& Skeleton() {
+  static const std::vector<Bone> bones = MakeSkeleton();
+  return bones;
+}
+
+RotationMatrix3 FootAtRest() {
+  const Vector3 to_ball(0, -kBallDrop_mm, kBallAheadOfAnkle_mm);
+  return FromAxes(Vector3(1, 0, 0), Normalised(to_ball));
+}
+
+}  // namespace examples
