@@ -164,8 +164,77 @@ TEST_F(ImportHTRTest, ShowsItsProgress) {
   EXPECT_TRUE(events.front().visible);
   EXPECT_EQ(events.back().kind, ProgressEvent::Kind::kEnd);
   EXPECT_EQ(events.back().title, "Orvane ImportHTR");
+  for (const ProgressEvent& event : events) {
+    EXPECT_EQ(event.title, "Orvane ImportHTR");
+    EXPECT_TRUE(event.visible || event.kind == ProgressEvent::Kind::kEnd) << event.percent;
+  }
   // Read, converted; the two segments; done.
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 55, 100, 100}));
+}
+
+TEST_F(ImportHTRTest, TheProgressBarClosesBeforeTheModesAreResumed) {
+  bool seen = false;
+  application_.progress().SetObserver([&](const ProgressEvent& event) {
+    if (event.kind != ProgressEvent::Kind::kEnd) return;
+    seen = true;
+    EXPECT_TRUE(ModesSuspended());
+  });
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_TRUE(seen);
+}
+
+// Writes down the steps of the work that the host sees.
+class JournalInterface final : public test::ForwardingInterface {
+ public:
+  using ForwardingInterface::ForwardingInterface;
+
+  bool ProgressStart(const char* title, bool show_bar, ProgressCallback callback,
+                     void* argument) override {
+    journal += "start ";
+    EXPECT_NE(callback, nullptr);
+    EXPECT_EQ(callback(argument), 0U);
+    return ForwardingInterface::ProgressStart(title, show_bar, callback, argument);
+  }
+  void ProgressUpdate(int percent, bool show_percent, const char* title) override {
+    journal += std::to_string(percent) + " ";
+    EXPECT_EQ(title, nullptr);
+    ForwardingInterface::ProgressUpdate(percent, show_percent, title);
+  }
+  void ProgressEnd() override {
+    journal += "end ";
+    ForwardingInterface::ProgressEnd();
+  }
+  bool IsPlaybackRunning() override {
+    journal += "playback? ";
+    return ForwardingInterface::IsPlaybackRunning();
+  }
+  INode* CreateObjectNode(Object* object) override {
+    INode* node = ForwardingInterface::CreateObjectNode(object);
+    journal += object->ClassID() == kBoneClass ? "bone " : "dummy ";
+    return node;
+  }
+  void ProcessPendingMessages() override {
+    journal += "messages ";
+    ForwardingInterface::ProcessPendingMessages();
+  }
+  bool GetCancel() override {
+    journal += "cancel? ";
+    return ForwardingInterface::GetCancel();
+  }
+  void SetAnimRange(const Interval& range) override {
+    journal += "range ";
+    ForwardingInterface::SetAnimRange(range);
+  }
+
+  std::string journal;
+};
+
+TEST_F(ImportHTRTest, TheWorkHasItsOrder) {
+  JournalInterface journal(interface());
+  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
+  EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &journal, 1), 1);
+  EXPECT_EQ(journal.journal,
+            "playback? start 0 10 bone bone messages cancel? dummy 55 100 range 100 end ");
 }
 
 // --- Reading ---
@@ -580,6 +649,51 @@ std::string DoubledChain() {
   text.replace(text.find("NumSegments 60"), 14, "NumSegments 120");
   text.replace(text.find("[S0]"), 0, file.BasePosition());
   return text;
+}
+
+// A few lines that announce more frames than there is time for.
+HtrText EndlessFrames() {
+  HtrText file = TwoBones();
+  file.frame_count = 2'147'483'647;
+  return file;
+}
+
+TEST_F(ImportHTRTest, FarMoreFramesThanTheFileHoldsAreRefused) {
+  EXPECT_EQ(Import(EndlessFrames()), 0);
+  EXPECT_EQ(scene().NodeCount(), 0U);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: The file is damaged: it announces far more frames than it holds.\n");
+}
+
+TEST_F(ImportHTRApplyTest, FarMoreFramesThanTheFileHoldsAreRefused) {
+  host::Node& hips = AddBone("Hips");
+  scene().Select(hips);
+  EXPECT_EQ(Import(EndlessFrames()), 0);
+  EXPECT_EQ(hips.Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: The file is damaged: it announces far more frames than it holds.\n");
+}
+
+TEST_F(ImportHTRTest, OfFarTooManyFramesARangeCanBeImported) {
+  EXPECT_EQ(ImportWith(
+                [](host::ScriptedDialog& dialog) {
+                  dialog.Click(kRange);
+                  dialog.Type(kTo, "3");
+                  dialog.Click(kOk);
+                },
+                EndlessFrames()),
+            1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{160, 320, 480}));
+}
+
+TEST_F(ImportHTRTest, SomeMoreFramesThanTheFileHoldsAreKeyedAsZero) {
+  HtrText file = TwoBones();
+  file.frame_count = 5;
+  EXPECT_EQ(Import(file), 1);
+  const host::PositionController& hips = Find("Hips")->Transform()->Position();
+  EXPECT_EQ(KeyTicks(hips), (Ticks{160, 320, 480, 640, 800}));
+  EXPECT_EQ(hips.KeyValue(4), Point3(0, 0, 0));
+  EXPECT_EQ(scene().Animation().Range(), Interval(160, 800));
 }
 
 TEST_F(ImportHTRTest, AHierarchyThatDoublesAtEveryLevelIsRefused) {
