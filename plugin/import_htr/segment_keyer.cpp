@@ -61,6 +61,8 @@ bool SegmentKeyer::KeyBasePosition() {
          KeyRotation(*time, RotationMatrix3(segment_.GetBaseRotation()));
 }
 
+// Intended: the file's frames are taken from its first one on, whatever frame the range starts at;
+// that says only when they are keyed.
 bool SegmentKeyer::KeyFrames() {
   const double factor = TranslationFactor();
   EulerRotation previous;

@@ -126,6 +126,16 @@ TEST_F(SegmentKeyerTest, WithoutAnimationTheBasePositionIsKeyedAtTheCurrentTime)
   EXPECT_EQ(KeyTicks(Rotation()), (Ticks{1234}));
 }
 
+TEST_F(SegmentKeyerTest, WithoutAnimationTheFramesTicksAreClearedAllTheSame) {
+  options_.animate = false;
+  options_.keyBasePosition = true;
+  for (const TimeValue tick : {159, 160, 319, 320}) Position().SetKey(tick, Point3(1, 1, 1));
+  Rotation().SetKey(200, Quat());
+  ASSERT_TRUE(Run(AddMoving("Bone"), KeyTimes(160, 1, 1)));
+  EXPECT_EQ(KeyTicks(Position()), (Ticks{0, 159, 320}));
+  EXPECT_EQ(KeyTicks(Rotation()), (Ticks{0}));
+}
+
 TEST_F(SegmentKeyerTest, EveryTickOfTheFramesIsClearedAndNoOther) {
   Position().SetKey(159, Point3(1, 1, 1));
   Position().SetKey(161, Point3(2, 2, 2));
@@ -219,6 +229,7 @@ TEST_F(SegmentKeyerTest, WithEulerTheControllerStays) {
 TEST_F(SegmentKeyerTest, WithTcbTheControllerIsReplacedAndItsKeysAreKept) {
   options_.rotationController = 1;
   Rotation().SetKey(-800, Quat(0, 0, 1, 0));
+  Rotation().SetKey(333, Quat(1, 0, 0, 0));  // among the frames: cleared before it is copied
   ASSERT_TRUE(Run(AddMoving("Bone")));
   EXPECT_EQ(Rotation().ClassID(), kTcbRotationClass);
   EXPECT_EQ(KeyTicks(Rotation()), (Ticks{-800, 160, 320, 480}));
