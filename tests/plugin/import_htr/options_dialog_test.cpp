@@ -7,6 +7,7 @@
 #include "platform/module.h"
 #include "tests/support/desk.h"
 #include "tests/support/fake_dialog.h"
+#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -75,6 +76,17 @@ TEST_F(ImportHTROptionsDialogTest, IsCentredOverItsParentAndTitled) {
     EXPECT_EQ(dialog.Title(), "ImportHTR");
     EXPECT_EQ(dialog.CentredOver(), &parent_);
   });
+}
+
+TEST(ImportHTROptionsDialogParentTest, IsShownOverItsParent) {
+  const test::RefusingDesktop desktop;
+  ImportHTROptions options;
+  MessageSink sink;
+  HWND__ parent;
+  EXPECT_FALSE(ImportHTROptionsDialog(options, sink, &parent, platform::ModuleHandle()).Show());
+  EXPECT_EQ(desktop.DialogId(), 107);
+  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
+  EXPECT_EQ(desktop.Parent(), &parent);
 }
 
 TEST_F(ImportHTROptionsDialogTest, HasItsControlsAndGroups) {
@@ -234,10 +246,15 @@ TEST_F(ImportHTROptionsDialogTest, TheSpareControlGoesWithEndEffectors) {
   ImportHTROptionsDialog handler = Dialog();
   handler.Initialize(dialog);
   EXPECT_FALSE(dialog[kSpare].checked);
+  EXPECT_TRUE(dialog[kSpare].enabled);
   handler.Command(dialog, kApply);
   EXPECT_FALSE(dialog[kSpare].enabled);
   handler.Command(dialog, kCreate);
   EXPECT_TRUE(dialog[kSpare].enabled);
+
+  options_.apply = true;
+  handler.Initialize(dialog);
+  EXPECT_FALSE(dialog[kSpare].enabled);
 }
 
 TEST_F(ImportHTROptionsDialogTest, CancelEndsItAndSavesNothing) {
@@ -428,6 +445,13 @@ TEST_F(ImportHTROptionsDialogTest, FramesAreReadEvenWhenAllIsChosen) {
   }));
   EXPECT_FALSE(options_.range);
   EXPECT_EQ(options_.startFrame, 10);
+}
+
+TEST_F(ImportHTROptionsDialogTest, AFileWithoutFramesIsRefused) {
+  options_.endFrame = 0;
+  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) { dialog.Click(kOk); }));
+  EXPECT_EQ(desk_.Messages(),
+            "ImportHTR Error: Please choose a start frame that is less than the end frame.\n");
 }
 
 TEST_F(ImportHTROptionsDialogTest, WhatAFailedOkTookOverStaysAfterCancel) {

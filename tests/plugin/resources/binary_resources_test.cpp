@@ -45,6 +45,12 @@ TEST(BitmapResourceTest, IsAPictureOfSixtyFourPixelsSquare) {
   EXPECT_EQ(bitmap.substr(4, 8), std::string("\x40\0\0\0\x40\0\0\0", 8));
 }
 
+TEST(BitmapResourceTest, IsThePictureOfTheAboutDialog) {
+  // A static control whose text is the number 112.
+  EXPECT_THAT(Resource(ResourceType::kDialog, 114),
+              HasSubstr(std::string("\xFF\xFF\x82\0\xFF\xFF\x70\0", 8)));
+}
+
 TEST(ManifestResourceTest, AsksForTheCommonControlsAndNothingElse) {
   const std::string manifest = Resource(ResourceType::kManifest, 2);
   EXPECT_THAT(manifest, HasSubstr("name=\"Orvane.OrvaneFileIO\" version=\"3.2.1.0\""));

@@ -2,8 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include "host/desktop/window.h"
 #include "platform/module.h"
 #include "tests/support/desk.h"
+#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -31,6 +33,15 @@ TEST(AboutDialogTest, TellsNameAndVersionAndEndsWithOk) {
   ShowAboutDialog(platform::ModuleHandle(), nullptr);
   EXPECT_TRUE(desk.AllAnswered());
   desk.desktop().RethrowFailure();
+}
+
+TEST(AboutDialogTest, IsShownOverItsOwner) {
+  const test::RefusingDesktop desktop;
+  HWND__ owner;
+  ShowAboutDialog(platform::ModuleHandle(), &owner);
+  EXPECT_EQ(desktop.DialogId(), kAboutDialog);
+  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
+  EXPECT_EQ(desktop.Parent(), &owner);
 }
 
 TEST(AboutDialogTest, EscClosesItToo) {

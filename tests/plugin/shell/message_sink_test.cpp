@@ -42,8 +42,9 @@ TEST(MessageSinkTest, AskIsFalseWhenNobodyCanAnswer) {
 // Log mode, with a user whose state folder is a fresh one.
 class MessageSinkLogTest : public testing::Test {
  protected:
-  static std::string Log() {
-    std::ifstream file(platform::LogFilePath());
+  static std::string Log() { return TextOf(platform::LogFilePath()); }
+  static std::string TextOf(const std::string& path) {
+    std::ifstream file(path);
     std::ostringstream text;
     text << file.rdbuf();
     return text.str();
@@ -95,6 +96,17 @@ TEST_F(MessageSinkLogTest, LinesAreAppendedToWhatTheFileHeld) {
   sink.Report("one", "A");
   sink.Report("two", "B");
   EXPECT_EQ(Log(), "an older line\nA\tone\nB\ttwo\n");
+}
+
+TEST_F(MessageSinkLogTest, TheFileStaysOpenOnceItIs) {
+  MessageSink sink;
+  sink.SetLogMode(true);
+  sink.Report("one", "A");
+  const std::string moved = folder_.File("moved");
+  std::filesystem::rename(platform::LogFilePath(), moved);
+  sink.Report("two", "B");
+  EXPECT_FALSE(std::filesystem::exists(platform::LogFilePath()));
+  EXPECT_EQ(TextOf(moved), "A\tone\nB\ttwo\n");
 }
 
 TEST_F(MessageSinkLogTest, AnEmptyTitleLeavesALineThatBeginsWithTheTab) {
