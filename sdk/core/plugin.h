@@ -69,7 +69,7 @@ class SceneImport : public SkelderHeapOperators {
   // Shows the about box over `owner`.
   virtual void ShowAbout(HWND owner) = 0;
 
-  // Imports the file `name`. Prompts are suppressed when `suppress_prompts` is not 0. Returns 1
+  // Imports the file `name`. Prompts are suppressed when `suppress_prompts` is 1. Returns 1
   // when done or cancelled, 0 on failure.
   virtual int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                        int suppress_prompts) = 0;
