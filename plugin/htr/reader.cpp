@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <new>
 #include <optional>
 #include <vector>
 
@@ -16,6 +17,8 @@
 
 namespace orvane {
 namespace {
+
+constexpr const char* kNotOpened = "The file could not be opened";
 
 constexpr std::string_view kHeaderSection = "Header";
 constexpr std::string_view kHierarchySection = "SegmentNames&Hierarchy";
@@ -308,13 +311,16 @@ std::string HtrReader::Finish() {
 std::string ReadHtrFile(HtrDocument& document, const std::string& file_name, bool read_motion,
                         HtrReadObserver* observer) {
   const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".htr"));
-  if (!bytes) return "The file could not be opened";
+  if (!bytes) return kNotOpened;
   return ReadHtrBytes(document, *bytes, read_motion, observer);
 }
 
 std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes, bool read_motion,
-                         HtrReadObserver* observer) {
+                         HtrReadObserver* observer) try {
   return HtrReader(document, bytes, read_motion, observer).Read();
+} catch (const std::bad_alloc&) {
+  document.Clear();
+  return kNotOpened;
 }
 
 }  // namespace orvane

@@ -197,5 +197,27 @@ TEST_F(HtrFixture, WithMissingFramesKeepsTheAnnouncedCount) {
   EXPECT_EQ(Read("frames_missing.htr").GetNumFrames(), 5u);
 }
 
+// The example of docs/formats/htr.md, and what is told about it there.
+TEST(HtrDocumentation, ShowsAnExampleThatReadsAsTold) {
+  std::ifstream page(std::string(ORVANE_SOURCE_DIR) + "/docs/formats/htr.md");
+  const std::string text((std::istreambuf_iterator<char>(page)), {});
+  const std::string fence = "```htr\n";
+  const std::size_t begin = text.find(fence);
+  ASSERT_NE(begin, std::string::npos);
+  const std::size_t first = begin + fence.size();
+  HtrDocument document;
+  ASSERT_EQ(ReadHtrBytes(document, text.substr(first, text.find("```", first) - first), true), "");
+  const HtrSegment& spine = *document.FindSegment("Spine");
+  const auto expect_at = [](const Vector3& point, double x, double y, double z) {
+    EXPECT_NEAR(point.x(), x, test::kPosition_mm);
+    EXPECT_NEAR(point.y(), y, test::kPosition_mm);
+    EXPECT_NEAR(point.z(), z, test::kPosition_mm);
+  };
+  expect_at(test::PositionOf(spine, 0), 0, 1070, 0);
+  expect_at(test::TipOf(spine, 0), 0, 1470, 0);
+  expect_at(test::PositionOf(spine, 1), 0, 1080, 0);
+  expect_at(test::TipOf(spine, 1), 0, 1080 + 400 * std::cos(30 * kRadians), -200);
+}
+
 }  // namespace
 }  // namespace orvane

@@ -3,7 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <ostream>
+#include <new>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -105,6 +105,21 @@ TEST(HtrReadObserver, HearsWhenTheHierarchyIsLinkedNoMore) {
   for (int section = 0; section < 1000; ++section) bytes += "[BasePosition]\n";
   EXPECT_THAT(OdditiesOfBytes(bytes),
               Contains(Oddity{HtrOddity::kHierarchyLeftUnlinked, 3001, "BasePosition"}));
+}
+
+// Stands in for a document that outgrows the memory.
+class OutOfMemory : public HtrReadObserver {
+ public:
+  void OnOddity(HtrOddity, std::size_t, std::string_view) override { throw std::bad_alloc(); }
+};
+
+TEST(HtrMemory, WhenExhaustedIsToldAsAFileThatCannotBeOpened) {
+  HtrDocument document;
+  OutOfMemory observer;
+  EXPECT_EQ(ReadHtrBytes(document, test_text::TwoBones() + "[Nobody]\n", true, &observer), "");
+  const std::string bytes = Join({"[SegmentNames&Hierarchy]", "a GLOBAL", "[Nobody]"});
+  EXPECT_EQ(ReadHtrBytes(document, bytes, true, &observer), "The file could not be opened");
+  EXPECT_EQ(document.GetNumSegments(), 0);
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include "plugin/htr/reader.h"
 #include "tests/support/htr_document_checker.h"
 #include "tests/support/htr_skeleton_pose.h"
+#include "tests/support/tolerances.h"
 
 // Real recordings are not ours to keep: they lie beside the repository, or where the environment
 // variable ORVANE_RECORDINGS says.
@@ -20,9 +21,9 @@ std::string Recording(const std::string& file) {
 }
 
 void ExpectAt(const Vector3& position, double x, double y, double z) {
-  EXPECT_NEAR(position.x(), x, 0.05);
-  EXPECT_NEAR(position.y(), y, 0.05);
-  EXPECT_NEAR(position.z(), z, 0.05);
+  EXPECT_NEAR(position.x(), x, test::kRecordedPosition_mm);
+  EXPECT_NEAR(position.y(), y, test::kRecordedPosition_mm);
+  EXPECT_NEAR(position.z(), z, test::kRecordedPosition_mm);
 }
 
 TEST(HtrRecording, OfAWalkPutsHandAndFootWhereTheyWere) {
