@@ -126,13 +126,16 @@ TEST_F(ImportHTRTest, AFolderWithADotDoesNotCutTheName) {
   EXPECT_EQ(ChildNames(scene().Root()), "walk");
 }
 
-TEST_F(ImportHTRTest, AFinishedImportResumesTheModesAndSwitchesAnimationOff) {
+TEST_F(ImportHTRTest, AFinishedImportLeavesTheModesAsTheyWere) {
   host::AnimationState& animation = scene().Animation();
-  animation.SetKeyMode().Set(true);
-  EXPECT_EQ(Import(TwoBones()), 1);
-  EXPECT_TRUE(ModesResumed());
-  EXPECT_TRUE(animation.SetKeyMode().IsOn());
-  EXPECT_FALSE(animation.AnimateMode().IsOn());
+  for (const bool on : {false, true}) {
+    animation.AnimateMode().Set(on);
+    animation.SetKeyMode().Set(on);
+    EXPECT_EQ(Import(TwoBones()), 1);
+    EXPECT_TRUE(ModesResumed());
+    EXPECT_EQ(animation.AnimateMode().IsOn(), on);
+    EXPECT_EQ(animation.SetKeyMode().IsOn(), on);
+  }
   EXPECT_EQ(animation.AnimateMode().UnmatchedResumes(), 0U);
   EXPECT_EQ(animation.SetKeyMode().UnmatchedResumes(), 0U);
 }
@@ -573,6 +576,18 @@ TEST_F(ImportHTRApplyTest, TheGroupOfAnEarlierImportCanBeSelected) {
   EXPECT_EQ(Import(TwoBones()), 1);
   EXPECT_EQ(KeyTicks(Find("Leg")->Transform()->Position()),
             (Ticks{160, 320, 480, 16160, 16320, 16480}));
+}
+
+TEST_F(ImportHTRApplyTest, WithoutAnimationOnlyTheFirstFramesKeysAreCleared) {
+  options_.animate = false;
+  options_.keyBasePosition = true;
+  host::Node& hips = AddBone("Hips");
+  for (const TimeValue time : {160, 319, 320, 480}) {
+    hips.Transform()->Position().SetKey(time, Point3(7, 7, 7));
+  }
+  scene().Select(hips);
+  EXPECT_EQ(Import(TwoBones()), 1);
+  EXPECT_EQ(KeyTicks(hips.Transform()->Position()), (Ticks{0, 320, 480}));
 }
 
 TEST_F(ImportHTRApplyTest, EverySelectionThatDoesNotDoIsTold) {
