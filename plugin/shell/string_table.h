@@ -10,8 +10,9 @@ namespace orvane {
 class StringTable {
  public:
   // The text of string `id` of `module`, cut to 255 characters; null when `module` is null, has
-  // no such string, or it cannot be read. It lies in the one buffer of this object: the next call
-  // overwrites it, so callers use or copy it before.
+  // no such string, or it cannot be read.
+  // Intended: it lies in the one buffer of this object, where the host finds it without owning it;
+  // the next call overwrites it, so callers use or copy it before.
   const char* GetString(HINSTANCE module, unsigned int id) noexcept;
 
  private:
