@@ -666,6 +666,34 @@ std::string DoubledChain() {
   return text;
 }
 
+TEST_F(ImportHTRTest, AFileCutAtAnyByteIsImportedOrNot) {
+  const std::string text = TwoBones().Text();
+  int imported = 0;
+  for (std::size_t length = 0; length < text.size(); ++length) {
+    const int result = Import(folder_.Write("walk.htr", text.substr(0, length)));
+    EXPECT_TRUE(result == 0 || result == 1) << length;
+    EXPECT_FALSE(application_.progress().IsOpen()) << length;
+    imported += result;
+  }
+  EXPECT_GT(imported, 0);
+}
+
+class OddNumberTest : public ImportHTRTest, public testing::WithParamInterface<const char*> {};
+
+TEST_P(OddNumberTest, IsKeyedAsItIsRead) {
+  const std::string odd = GetParam();
+  HtrText file = TwoBones();
+  file.segments[0].base = odd + " " + odd + " " + odd + " " + odd + " 0 0 " + odd;
+  file.segments[1].frames[1] = odd + " 0 0 0 " + odd + " 0";
+  EXPECT_EQ(Import(file), 1);
+  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Rotation()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(KeyTicks(Find("Leg")->Transform()->Position()), (Ticks{160, 320, 480}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Numbers, OddNumberTest,
+                         testing::Values("1e999", "-1e999", "1e300", "1e-999", "nan", "--5",
+                                         "abc"));
+
 // A few lines that announce more frames than there is time for.
 HtrText EndlessFrames() {
   HtrText file = TwoBones();
