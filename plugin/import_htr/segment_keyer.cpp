@@ -18,7 +18,7 @@ SegmentKeyer::SegmentKeyer(Interface& interface, const ImportHTROptions& options
 
 bool SegmentKeyer::Run() {
   ClearKeys();
-  if (options_.rotationController != 0 && !InstallTcbController()) return false;
+  if (options_.rotationController != 0) InstallTcbController();
 
   SuspendAnimate();
   AnimateOn();
@@ -39,18 +39,17 @@ void SegmentKeyer::ClearKeys() {
   }
 }
 
-// Replaces the node's rotation controller, its keys kept. A host that refuses the new one keeps the
-// old one. Returns false when there is no new one.
-bool SegmentKeyer::InstallTcbController() {
+// Replaces the node's rotation controller, its keys kept.
+// Intended: where the host cannot make the new one or refuses it, the old one is keyed.
+void SegmentKeyer::InstallTcbController() {
   Control* transform = node_.GetTMController();
-  if (transform == nullptr || rotation_ == nullptr) return true;
+  if (transform == nullptr || rotation_ == nullptr) return;
   auto* tcb = static_cast<Control*>(
       interface_.CreateInstance(kRotationControllerSuperClass, kTcbRotationClass));
-  if (tcb == nullptr) return false;
+  if (tcb == nullptr) return;
   tcb->CopyFrom(rotation_);
   if (!transform->SetRotationController(tcb)) tcb->Delete();
   rotation_ = transform->GetRotationController();
-  return true;
 }
 
 bool SegmentKeyer::KeyBasePosition() {

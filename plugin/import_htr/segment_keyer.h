@@ -16,14 +16,13 @@ class SegmentKeyer {
   SegmentKeyer(Interface& interface, const ImportHTROptions& options, const KeyTimes& times,
                INode& node, const HtrSegment& segment);
 
-  // Does all of it. Returns false when a controller does not accept a value, or the controller of
-  // the rotation type asked for cannot be created: the rest is not done, and animation stays
-  // suspended when it was already.
+  // Does all of it. Returns false when a controller does not accept a value: the rest is not done,
+  // and animation stays suspended.
   bool Run();
 
  private:
   void ClearKeys();
-  bool InstallTcbController();
+  void InstallTcbController();
   bool KeyBasePosition();
   bool KeyFrames();
   double TranslationFactor();

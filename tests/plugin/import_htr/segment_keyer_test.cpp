@@ -246,13 +246,15 @@ TEST_F(SegmentKeyerTest, AHostThatRefusesTheTcbControllerKeepsTheOldOne) {
   EXPECT_EQ(scene().LooseInstances(), 0U);
 }
 
-TEST_F(SegmentKeyerTest, AHostThatCannotMakeATcbControllerFailsTheStep) {
+TEST_F(SegmentKeyerTest, AHostThatCannotMakeATcbControllerKeepsTheOldOne) {
   options_.rotationController = 1;
   test::RefusingInterface refusing(interface());
   refusing.RefuseInstance(1);
+  host::RotationController* before = &Rotation();
   HtrSegment& segment = AddMoving("Bone");
-  EXPECT_FALSE(SegmentKeyer(refusing, options_, times_, bone_, segment).Run());
-  EXPECT_EQ(Position().KeyCount(), 0U);
+  EXPECT_TRUE(SegmentKeyer(refusing, options_, times_, bone_, segment).Run());
+  EXPECT_EQ(&Rotation(), before);
+  EXPECT_EQ(KeyTicks(Rotation()), (Ticks{160, 320, 480}));
 }
 
 TEST_F(SegmentKeyerTest, AnimateModeIsLeftAsItWas) {
