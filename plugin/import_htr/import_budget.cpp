@@ -1,5 +1,6 @@
 #include "plugin/import_htr/import_budget.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace orvane {
@@ -8,23 +9,15 @@ namespace {
 constexpr std::int64_t kTimesHeld = 4;
 constexpr std::int64_t kAlwaysAllowed = 2'000'000;
 
-// How many frames may be taken in all, the base positions counted as one more of each segment.
-std::int64_t FrameBudget(const HtrDocument& document) {
+}  // namespace
+
+std::int64_t SegmentBudget(const HtrDocument& document, std::int64_t frame_count) {
   std::int64_t held = 0;
   for (const HtrSegment& segment : document.segments()) {
     held += 1 + static_cast<std::int64_t>(segment.GetNumFrames());
   }
-  return kTimesHeld * held + kAlwaysAllowed;
-}
-
-}  // namespace
-
-bool FramesFit(const HtrDocument& document, std::int64_t frame_count) {
-  return document.GetNumSegments() * (1 + frame_count) <= FrameBudget(document);
-}
-
-std::int64_t SegmentBudget(const HtrDocument& document, std::int64_t frame_count) {
-  return FrameBudget(document) / (1 + frame_count);
+  const std::int64_t with_repetitions = (kTimesHeld * held + kAlwaysAllowed) / (1 + frame_count);
+  return std::max<std::int64_t>(document.GetNumSegments(), with_repetitions);
 }
 
 bool HierarchyFits(const HtrSegment& root, std::int64_t budget) {

@@ -126,10 +126,7 @@ std::int64_t ImportHTR::FrameCount() const {
   return std::int64_t{options_.endFrame} - options_.startFrame + 1;
 }
 
-bool ImportHTR::ImportMotion() {
-  if (!FramesFit(document_, frame_count_)) return Refuse(kTooManyFramesMessage, kImportHTRError);
-  return options_.apply ? ApplyToSelection() : CreateSkeleton();
-}
+bool ImportHTR::ImportMotion() { return options_.apply ? ApplyToSelection() : CreateSkeleton(); }
 
 bool ImportHTR::ApplyToSelection() {
   const ApplyTarget target = FindApplyTarget(*interface_, document_);

@@ -701,22 +701,6 @@ HtrText EndlessFrames() {
   return file;
 }
 
-TEST_F(ImportHTRTest, FarMoreFramesThanTheFileHoldsAreRefused) {
-  EXPECT_EQ(Import(EndlessFrames()), 0);
-  EXPECT_EQ(scene().NodeCount(), 0U);
-  EXPECT_EQ(desk_.Messages(),
-            "ImportHTR Error: The file is damaged: it announces far more frames than it holds.\n");
-}
-
-TEST_F(ImportHTRApplyTest, FarMoreFramesThanTheFileHoldsAreRefused) {
-  host::Node& hips = AddBone("Hips");
-  scene().Select(hips);
-  EXPECT_EQ(Import(EndlessFrames()), 0);
-  EXPECT_EQ(hips.Transform()->Position().KeyCount(), 0U);
-  EXPECT_EQ(desk_.Messages(),
-            "ImportHTR Error: The file is damaged: it announces far more frames than it holds.\n");
-}
-
 TEST_F(ImportHTRTest, OfFarTooManyFramesARangeCanBeImported) {
   EXPECT_EQ(ImportWith(
                 [](host::ScriptedDialog& dialog) {
