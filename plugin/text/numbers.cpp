@@ -140,4 +140,10 @@ std::string FormatDouble(double value, int decimals) {
   return std::string(buffer.data(), end);
 }
 
+std::string FormatShortest(double value) {
+  std::array<char, 32> buffer;
+  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return std::string(buffer.data(), end);
+}
+
 }  // namespace orvane

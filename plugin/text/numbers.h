@@ -38,4 +38,8 @@ std::string FormatInt(std::int64_t value);
 // "%.nf" prints it; the default is that of "%f".
 std::string FormatDouble(double value, int decimals = 6);
 
+// `value` in the shortest form that reads back as the same value, with an exponent where that is
+// shorter: "0.1", "1e+22".
+std::string FormatShortest(double value);
+
 }  // namespace orvane
