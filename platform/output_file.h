@@ -1,0 +1,48 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// A file that appears whole or not at all: its bytes are written beside it under another name, and
+// only when all of them are safe does it get its own. Neither a full disk nor a killed process
+// leaves half a file, and what stood there before is kept until then.
+
+namespace platform {
+
+// The making of one file. What was begun and not delivered is removed with the object.
+class OutputFile {
+ public:
+  // Nothing happens yet. `path` (UTF-8) is the file to make; a symbolic link that leads to a file
+  // stands for that file. `replace` allows it to take the place of an existing one, whose
+  // permissions it then gets.
+  OutputFile(const std::string& path, bool replace);
+  ~OutputFile();
+  OutputFile(const OutputFile&) = delete;
+  OutputFile& operator=(const OutputFile&) = delete;
+
+  // Whether something is there that may not be replaced.
+  bool IsTaken() const;
+
+  // Returns why the file cannot be made, as far as it can be told before trying, or an empty text.
+  std::string WhyImpossible() const;
+
+  // Writes `bytes` beside the file's place and waits until they are on the disk. Returns an empty
+  // text, or what went wrong in the system's words. Call it once.
+  std::string Write(std::string_view bytes);
+
+  // Gives what Write has written its name. An existing file is replaced in one step when that is
+  // allowed, and kept otherwise, even one that has appeared in the meantime. Returns an empty text,
+  // or what went wrong in the system's words; the file's place is then as it was.
+  std::string Deliver();
+
+ private:
+  std::string CreateAside();
+  std::string FillAside(std::string_view bytes);
+
+  std::string path_;
+  bool replace_;
+  std::string aside_;  // empty when nothing stands aside
+  int file_ = -1;
+};
+
+}  // namespace platform

@@ -1,0 +1,108 @@
+#include "platform/output_file.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <csignal>
+#include <filesystem>
+#include <system_error>
+
+namespace platform {
+namespace {
+
+std::string ErrorText(int error) { return std::generic_category().message(error); }
+
+std::string LastError() { return ErrorText(errno); }
+
+std::string FollowLink(const std::string& path) {
+  std::error_code error;
+  const std::filesystem::path target = std::filesystem::canonical(path, error);
+  return error ? path : target.string();
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::filesystem::path folder = std::filesystem::path(path).parent_path();
+  return folder.empty() ? "." : folder.string();
+}
+
+// Link and remove, because renaming would replace what has appeared at `to`.
+int MoveWithoutReplacing(const std::string& from, const std::string& to) {
+  if (link(from.c_str(), to.c_str()) != 0) return -1;
+  unlink(from.c_str());
+  return 0;
+}
+
+}  // namespace
+
+OutputFile::OutputFile(const std::string& path, bool replace)
+    : path_(FollowLink(path)), replace_(replace) {}
+
+OutputFile::~OutputFile() {
+  if (file_ >= 0) close(file_);
+  if (!aside_.empty()) unlink(aside_.c_str());
+}
+
+bool OutputFile::IsTaken() const {
+  struct stat status {};
+  return !replace_ && lstat(path_.c_str(), &status) == 0;
+}
+
+std::string OutputFile::WhyImpossible() const {
+  struct stat status {};
+  if (stat(path_.c_str(), &status) == 0) {
+    if (S_ISDIR(status.st_mode)) return ErrorText(EISDIR);
+    if (!S_ISREG(status.st_mode)) return "Not a regular file";
+    if (!replace_) return ErrorText(EEXIST);
+  }
+  const std::string folder = FolderOf(path_);
+  return access((folder + "/.").c_str(), W_OK | X_OK) == 0 ? "" : folder + ": " + LastError();
+}
+
+std::string OutputFile::Write(std::string_view bytes) {
+  // A limit on the size of files is to be an error like a full disk, and not to end the process.
+  std::signal(SIGXFSZ, SIG_IGN);
+  std::string error = CreateAside();
+  if (error.empty()) error = FillAside(bytes);
+  return error;
+}
+
+std::string OutputFile::CreateAside() {
+  const std::string stem = FolderOf(path_) + "/.orvane-" + std::to_string(getpid()) + "-";
+  for (int attempt = 0; file_ < 0; ++attempt) {
+    const std::string name = stem + std::to_string(attempt);
+    file_ = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    if (file_ >= 0) aside_ = name;
+    if (file_ < 0 && errno != EEXIST) return LastError();
+  }
+  struct stat existing {};
+  if (stat(path_.c_str(), &existing) == 0 && fchmod(file_, existing.st_mode & 07777) != 0) {
+    return LastError();
+  }
+  return "";
+}
+
+std::string OutputFile::FillAside(std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = write(file_, bytes.data(), bytes.size());
+    if (written < 0) return LastError();
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  const bool synced = fsync(file_) == 0;
+  const int sync_error = errno;
+  const int file = file_;
+  file_ = -1;
+  if (close(file) != 0) return LastError();
+  return synced ? "" : ErrorText(sync_error);
+}
+
+std::string OutputFile::Deliver() {
+  const int result =
+      replace_ ? rename(aside_.c_str(), path_.c_str()) : MoveWithoutReplacing(aside_, path_);
+  if (result != 0) return LastError();
+  aside_.clear();
+  return "";
+}
+
+}  // namespace platform
