@@ -1,0 +1,52 @@
+#include "cli/advice.h"
+
+#include <string_view>
+
+namespace cli {
+namespace {
+
+struct Advice {
+  std::string_view about;  // what a message holds that the advice is for
+  std::string_view text;
+};
+
+constexpr Advice kAdvice[] = {
+    {"\"FileType\"", "The header of an HTR file says \"FileType HTR\"."},
+    {"\"DataType\"", "Only files with \"DataType HTRS\" in the header can be read."},
+    {"\"FileVersion\"", "Only files with \"FileVersion 1\" in the header can be read."},
+    {"\"EulerRotationOrder\"",
+     "Only files with \"EulerRotationOrder ZYX\" in the header can be read."},
+    {"\"GlobalAxisofGravity\"", "The axis of gravity may be Y or Z."},
+    {"\"BoneLengthAxis\"", "Only files with \"BoneLengthAxis Y\" in the header can be read."},
+    {"duplicate segment names",
+     "Every line of [SegmentNames&Hierarchy] needs a name of its own, without blanks."},
+    {"Segment name not found",
+     "A line of [BasePosition] starts with a name that [SegmentNames&Hierarchy] does not list; the "
+     "message shows what follows that name."},
+    {"Incorrect number of segments",
+     "\"NumSegments\" in the header must be the number of lines in [BasePosition]. A file that was "
+     "cut short says this too."},
+    {"holds no segments", "Is it an HTR file? A file of 0 segments may also have been cut short."},
+    {"no root", "In [SegmentNames&Hierarchy] a root has the parent GLOBAL."},
+    {"start frame equal to or greater", "The range must lie within the frames of the file."},
+    {"end frame less than or equal", "The range must lie within the frames of the file."},
+    {"less than the end frame",
+     "Is --range in order, and does \"NumFrames\" in the header announce any frames?"},
+    {"non-zero size", "--segment-size takes a number that is not 0, such as 1.5."},
+    {"non-zero scale factor", "--scale takes a number that is not 0, such as 0.1."},
+    {"Base Position, Animation, or both", "--apply needs --animation or --base-position."},
+    {"select the root of a skeleton",
+     "A new scene holds nothing to select; --create builds the skeleton."},
+    {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
+};
+
+}  // namespace
+
+std::string AdviceFor(const std::string& message) {
+  for (const Advice& advice : kAdvice) {
+    if (message.find(advice.about) != std::string::npos) return std::string(advice.text);
+  }
+  return "";
+}
+
+}  // namespace cli

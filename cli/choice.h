@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace cli {
+
+// Adds an option to `verb` that takes one word of `choices`; `use` is called with it.
+void AddChoice(CLI::App& verb, const std::string& flag, const std::vector<std::string>& choices,
+               const std::string& help, const std::function<void(const std::string&)>& use);
+
+}  // namespace cli

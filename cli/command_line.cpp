@@ -1,0 +1,58 @@
+#include "cli/command_line.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <string>
+
+#include "cli/failure.h"
+#include "cli/import_command.h"
+#include "cli/info_command.h"
+
+namespace cli {
+namespace {
+
+Work Show(std::string text) {
+  return [text = std::move(text)] {
+    std::cout << text;
+    return ExitStatus::kDone;
+  };
+}
+
+// "orvane" or "orvane import": whose help tells what went wrong.
+std::string HelpCommand(const CLI::App& app) {
+  const std::vector<CLI::App*> verbs = app.get_subcommands();
+  return verbs.empty() ? "orvane --help" : "orvane " + verbs.front()->get_name() + " --help";
+}
+
+// CLI11 only says that a verb is missing when there is one that it does not know.
+std::string Explain(const CLI::App& app, const CLI::ParseError& error, int argument_count,
+                    const char* const* arguments) {
+  if (!app.get_subcommands().empty()) return error.what();
+  if (argument_count < 2) return "what is to be done? A verb is missing";
+  return "there is no verb or flag \"" + std::string(arguments[1]) + "\"";
+}
+
+}  // namespace
+
+Work ReadCommandLine(int argument_count, const char* const* arguments) {
+  Work work;
+  CLI::App app("Brings motion-capture files into scenes that any glTF viewer plays.", "orvane");
+  app.set_version_flag("--version", "orvane " ORVANE_VERSION);
+  app.require_subcommand(1);
+  AddImportCommand(app, work);
+  AddInfoCommand(app, work);
+  try {
+    app.parse(argument_count, arguments);
+  } catch (const CLI::CallForHelp&) {
+    return Show(app.help());
+  } catch (const CLI::CallForVersion& version) {
+    return Show(std::string(version.what()) + "\n");
+  } catch (const CLI::ParseError& error) {
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{"", Explain(app, error, argument_count, arguments),
+                    "\"" + HelpCommand(app) + "\" lists what there is."}}};
+  }
+  return work;
+}
+
+}  // namespace cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/desktop/scripted_dialog.h"
+
+// A user of the plug-in's dialogs whose wishes come from the command line. He does what a person in
+// front of the dialog can: a control is used only while it is enabled, and what the dialog shows in
+// the others stays.
+
+namespace cli {
+
+// One wish: how a flag wants one control to be.
+struct ControlWish {
+  // The order of the kinds is the order in which wishes are carried out: radio buttons decide which
+  // fields are enabled, check boxes which radio buttons are.
+  enum class Kind { kRadio, kText, kCheckBox };
+
+  Kind kind = Kind::kRadio;
+  int control = 0;
+  std::string flag;         // as the user knows it: "--segment-size"
+  std::string text;         // kText: what to type
+  bool checked = false;     // kCheckBox: the state to leave it in
+  std::string disabled_by;  // what disables the control, for the message; may be empty
+};
+
+// The two buttons that end a dialog.
+struct DialogButtons {
+  int ok = 0;
+  int cancel = 0;
+};
+
+// Carries out `wishes`, each kind in the given order, and presses OK; presses Cancel when the
+// dialog refuses and stays open. Throws a Failure for a wish whose control is disabled.
+void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes,
+               const DialogButtons& buttons);
+
+}  // namespace cli

@@ -1,0 +1,159 @@
+#include "cli/import_command.h"
+
+#include <iostream>
+#include <map>
+#include <memory>
+
+#include "cli/choice.h"
+#include "cli/import_htr_flags.h"
+#include "cli/import_summary.h"
+#include "cli/input.h"
+#include "cli/interruption.h"
+#include "cli/messages.h"
+#include "cli/plugin_session.h"
+#include "cli/scene_output.h"
+#include "platform/interrupt.h"
+#include "platform/terminal.h"
+
+namespace cli {
+namespace {
+
+struct ImportArguments {
+  std::string input;
+  std::string output;
+  std::string module = DefaultModulePath();
+  std::vector<std::string> selection;
+  std::vector<ControlWish> wishes;
+  double millimeters_per_unit = 1.0;
+  Settings settings = Settings::kFresh;
+  bool strict = false;
+  bool quiet = false;
+  bool force = false;
+};
+
+// The command line's defaults are the documented ones of the dialog but for this one.
+std::vector<ControlWish> AllWishes(const ImportArguments& arguments) {
+  std::vector<ControlWish> wishes = arguments.wishes;
+  if (arguments.settings == Settings::kFresh && !MentionFrameRate(wishes)) {
+    wishes.push_back(FrameRateFromFile());
+  }
+  return wishes;
+}
+
+std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>& names) {
+  std::vector<Complaint> complaints;
+  for (const std::string& name : names) {
+    host::Node* node = scene.FindByName(name);
+    if (node != nullptr) {
+      scene.Select(*node);
+    } else {
+      complaints.push_back({"--select", "nothing in the scene is named " + name, ""});
+    }
+  }
+  return complaints;
+}
+
+void AddMessages(const std::string& file, const PluginSession& session,
+                 std::vector<Complaint>& complaints) {
+  for (const std::string& text : session.Messages()) {
+    complaints.push_back(ComplainAbout(file, text));
+  }
+}
+
+Failure NotCarriedOut(const std::string& file, std::vector<Complaint> complaints) {
+  const Complaint flaw = FindFlaw(file);
+  if (!flaw.text.empty()) complaints.push_back(flaw);
+  if (complaints.empty()) {
+    complaints.push_back(ComplainAbout(file, "The plug-in gave up without a message"));
+  }
+  return {ExitStatus::kRefused, complaints};
+}
+
+// What was told during an import that was carried out is no reason against it, unless the user
+// wants it to be.
+void Warn(std::vector<Complaint> complaints, bool strict) {
+  if (complaints.empty()) return;
+  if (strict) {
+    complaints.push_back({"--strict", "nothing was written because of this", ""});
+    throw Failure{ExitStatus::kRefused, complaints};
+  }
+  for (const Complaint& complaint : complaints) Print(Severity::kWarning, complaint);
+}
+
+ExitStatus Import(const ImportArguments& arguments) {
+  platform::CatchInterrupts();
+  const std::string input = ReadableHtrFile(arguments.input);
+  SceneOutput output(arguments.output, arguments.force);
+  PluginSession session(arguments.module, arguments.settings);
+  session.scene().SetMillimetersPerUnit(arguments.millimeters_per_unit);
+  std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
+  const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
+  const bool carried_out = session.ImportHtr(input, AllWishes(arguments), show_progress);
+  StopIfInterrupted();
+  AddMessages(input, session, complaints);
+  if (!carried_out) throw NotCarriedOut(input, std::move(complaints));
+  Warn(std::move(complaints), arguments.strict);
+  const std::size_t size = output.Deliver(session.scene(), input);
+  if (!arguments.quiet) {
+    PrintImportSummary({input, arguments.output, size}, session.scene(), std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+double MillimetersPer(const std::string& unit) {
+  static const std::map<std::string, double> millimeters = {
+      {"mm", 1.0}, {"cm", 10.0}, {"m", 1000.0}, {"in", 25.4}, {"ft", 304.8}};
+  return millimeters.at(unit);
+}
+
+void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
+  verb.add_option("FILE", arguments.input, "The HTR file")->required()->type_name("");
+  verb.add_option("-o,--output", arguments.output, "The scene to write: .glb or .gltf")
+      ->required()
+      ->check(
+          [](const std::string& path) {
+            return IsSceneFileName(path) ? "" : path + " does not end in .glb or .gltf";
+          },
+          "")
+      ->type_name("SCENE");
+  verb.add_flag("--force", arguments.force, "Replace the scene file if it exists");
+}
+
+void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
+  verb.add_option("--select", arguments.selection,
+                  "Select the node of that name before the import; may be repeated")
+      ->expected(1)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->type_name("NAME");
+  AddChoice(verb, "--system-unit", {"mm", "cm", "m", "in", "ft"},
+            "The length that 1 means in the scene (mm)", [&arguments](const std::string& unit) {
+              arguments.millimeters_per_unit = MillimetersPer(unit);
+            });
+  verb.add_option("--module", arguments.module, "The plug-in to load (the one beside orvane)")
+      ->type_name("PATH");
+}
+
+void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--settings", {"fresh", "user"},
+            "Start from the documented defaults, or from what the user chose last (fresh)",
+            [&arguments](const std::string& choice) {
+              arguments.settings = choice == "user" ? Settings::kUser : Settings::kFresh;
+            });
+  verb.add_flag("--strict", arguments.strict, "Take every warning as a refusal");
+  verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
+}
+
+}  // namespace
+
+void AddImportCommand(CLI::App& app, Work& work) {
+  auto arguments = std::make_shared<ImportArguments>();
+  CLI::App* verb = app.add_subcommand("import", "Import a motion file into a scene");
+  AddFileArguments(*verb, *arguments);
+  AddImportHtrFlags(*verb, arguments->wishes);
+  AddHostFlags(*verb, *arguments);
+  AddRunFlags(*verb, *arguments);
+  verb->callback([arguments, &work] { work = [arguments] { return Import(*arguments); }; });
+}
+
+}  // namespace cli

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+// `orvane import`: lets the plug-in import a motion file into a scene and writes the scene as glTF.
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddImportCommand(CLI::App& app, Work& work);
+
+}  // namespace cli

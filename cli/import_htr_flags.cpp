@@ -1,0 +1,134 @@
+#include "cli/import_htr_flags.h"
+
+#include <algorithm>
+
+#include "cli/choice.h"
+
+namespace cli {
+namespace {
+
+using Kind = ControlWish::Kind;
+
+// The controls of the dialog, by their ids.
+enum Control : int {
+  kBasePosition = 1017,
+  kEndEffectors = 1019,
+  kEuler = 1051,
+  kTcb = 1052,
+  kAnimation = 1063,
+  kFrom = 1065,
+  kTo = 1066,
+  kAll = 1067,
+  kRange = 1068,
+  kCreate = 1085,
+  kApply = 1086,
+  kGlobalScale = 1088,
+  kOffset = 1089,
+  kSegmentSize = 1104,
+  kSetFrameRate = 1140
+};
+
+constexpr char kWhileApplying[] = "\"Apply\" is chosen";
+
+using Wishes = std::vector<ControlWish>;
+
+CLI::Option* AddFlag(CLI::App& verb, Wishes& wishes, const ControlWish& wish,
+                     const std::string& help) {
+  return verb.add_flag_callback(
+      wish.flag, [&wishes, wish] { wishes.push_back(wish); }, help);
+}
+
+// The radio button `control` as `flag`.
+CLI::Option* AddRadio(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                      const std::string& help) {
+  return AddFlag(verb, wishes, {Kind::kRadio, control, flag, "", false, ""}, help);
+}
+
+// The check box `control` as "--NAME" and "--no-NAME".
+void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int control,
+                 const std::string& help, const std::string& disabled_by = "") {
+  CLI::Option* on =
+      AddFlag(verb, wishes, {Kind::kCheckBox, control, "--" + name, "", true, disabled_by}, help);
+  AddFlag(verb, wishes, {Kind::kCheckBox, control, "--no-" + name, "", false, disabled_by},
+          "The opposite of --" + name)
+      ->excludes(on);
+}
+
+// The text field `control` as an option.
+void AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+             const std::string& help, const std::string& disabled_by = "") {
+  const ControlWish wish{Kind::kText, control, flag, "", false, disabled_by};
+  verb.add_option_function<std::string>(
+          flag,
+          [&wishes, wish](const std::string& text) {
+            wishes.push_back(wish);
+            wishes.back().text = text;
+          },
+          help)
+      ->type_name("NUMBER");
+}
+
+void WishForRange(Wishes& wishes, const std::string& range) {
+  const std::size_t colon = range.find(':');
+  if (colon == std::string::npos) {
+    throw CLI::ValidationError("--range", "FROM:TO is expected, not " + range);
+  }
+  wishes.push_back({Kind::kRadio, kRange, "--range", "", false, ""});
+  wishes.push_back({Kind::kText, kFrom, "--range", range.substr(0, colon), false, ""});
+  wishes.push_back({Kind::kText, kTo, "--range", range.substr(colon + 1), false, ""});
+}
+
+ControlWish FrameRate(const std::string& choice) {
+  return {Kind::kCheckBox, kSetFrameRate, "--frame-rate", "", choice == "file", ""};
+}
+
+void AddSkeletonFlags(CLI::App& verb, Wishes& wishes) {
+  CLI::Option* create =
+      AddRadio(verb, wishes, "--create", kCreate, "Create a new skeleton (the default)");
+  AddRadio(verb, wishes, "--apply", kApply, "Apply the motion to a skeleton of the scene")
+      ->excludes(create);
+  AddText(verb, wishes, "--segment-size", kSegmentSize,
+          "Thickness of the bones, 1 being a fifth of their length (1)", kWhileApplying);
+  AddCheckBox(verb, wishes, "end-effectors", kEndEffectors,
+              "Create end effectors at the ends of the skeleton (no)", kWhileApplying);
+}
+
+void AddKeyFlags(CLI::App& verb, Wishes& wishes) {
+  AddCheckBox(verb, wishes, "animation", kAnimation, "Set keys for the frames of the file (yes)");
+  AddCheckBox(verb, wishes, "base-position", kBasePosition,
+              "Set keys for the base position, one frame before the motion (no)");
+  CLI::Option* euler =
+      AddRadio(verb, wishes, "--euler", kEuler, "Rotate by Euler controllers (the default)");
+  AddRadio(verb, wishes, "--tcb", kTcb, "Rotate by TCB controllers")->excludes(euler);
+}
+
+void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
+  CLI::Option* all = AddRadio(verb, wishes, "--all", kAll, "Import all frames (the default)");
+  verb.add_option_function<std::string>(
+          "--range", [&wishes](const std::string& range) { WishForRange(wishes, range); },
+          "Import the frames FROM to TO")
+      ->type_name("FROM:TO")
+      ->excludes(all);
+  AddText(verb, wishes, "--offset", kOffset, "Number of frames to move the keys by (0)");
+  AddChoice(verb, "--frame-rate", {"file", "keep"},
+            "Set the scene's frame rate from the file, or keep the scene's (file)",
+            [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
+}
+
+}  // namespace
+
+void AddImportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
+  AddSkeletonFlags(verb, wishes);
+  AddKeyFlags(verb, wishes);
+  AddTimeFlags(verb, wishes);
+  AddText(verb, wishes, "--scale", kGlobalScale, "Multiply all lengths by this (1)");
+}
+
+ControlWish FrameRateFromFile() { return FrameRate("file"); }
+
+bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
+  return std::any_of(wishes.begin(), wishes.end(),
+                     [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
+}
+
+}  // namespace cli

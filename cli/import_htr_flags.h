@@ -1,0 +1,24 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <vector>
+
+#include "cli/dialog_user.h"
+
+// The flags of `orvane import` that are controls of the options dialog "ImportHTR".
+
+namespace cli {
+
+inline constexpr DialogButtons kImportHtrButtons{1097, 1098};
+
+// Adds the flags to `verb`. Parsing the arguments adds a wish for each that is given to `wishes`,
+// which must outlive the parsing.
+void AddImportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
+
+// The wish of "--frame-rate file".
+ControlWish FrameRateFromFile();
+
+// Whether `wishes` say anything of the scene's frame rate.
+bool MentionFrameRate(const std::vector<ControlWish>& wishes);
+
+}  // namespace cli

@@ -1,0 +1,59 @@
+#include "cli/info_command.h"
+
+#include <iostream>
+#include <memory>
+
+#include "cli/info_report.h"
+#include "cli/input.h"
+#include "plugin/htr/reader.h"
+
+namespace cli {
+namespace {
+
+struct InfoArguments {
+  std::string input;
+  bool hierarchy_only = false;
+  bool json = false;
+  bool frames = false;
+};
+
+Failure Refused(const std::string& file, const std::string& text) {
+  return {ExitStatus::kRefused, {ComplainAbout(file, text)}};
+}
+
+void Read(const std::string& file, bool read_motion, InfoReport& report) {
+  report.file = file;
+  const std::string error = orvane::ReadHtrFile(report.document, file, read_motion);
+  if (!error.empty()) throw Refused(file, error);
+  report.hierarchy = ListHierarchy(report.document);
+  if (report.document.segments().empty()) throw Refused(file, kNoSegments);
+  if (read_motion) report.motion = SummarizeMotion(report.document, report.hierarchy);
+}
+
+ExitStatus ShowInfo(const InfoArguments& arguments) {
+  InfoReport report;
+  Read(ReadableHtrFile(arguments.input), !arguments.hierarchy_only, report);
+  if (arguments.json) {
+    PrintInfoJson(report, arguments.frames, std::cout);
+  } else {
+    PrintInfoPage(report, std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& app, Work& work) {
+  auto arguments = std::make_shared<InfoArguments>();
+  CLI::App* verb = app.add_subcommand("info", "Tell what a motion file holds");
+  verb->add_option("FILE", arguments->input, "The HTR file")->required()->type_name("");
+  CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
+                                          "Read the header and the hierarchy, not the motion");
+  CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");
+  verb->add_flag("--frames", arguments->frames, "With --json: every value of every frame")
+      ->needs(json)
+      ->excludes(hierarchy);
+  verb->callback([arguments, &work] { work = [arguments] { return ShowInfo(*arguments); }; });
+}
+
+}  // namespace cli

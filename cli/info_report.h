@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <ostream>
+#include <string>
+
+#include "cli/motion_summary.h"
+#include "plugin/htr/document.h"
+
+// What `orvane info` tells of a motion file: as a page for a person, or as JSON for a program.
+// docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
+// goes.
+
+namespace cli {
+
+struct InfoReport {
+  std::string file;
+  orvane::HtrDocument document;
+  std::vector<HierarchyEntry> hierarchy;  // of `document`
+  std::optional<MotionSummary> motion;    // nothing when the motion was not read
+};
+
+void PrintInfoPage(const InfoReport& report, std::ostream& out);
+
+// `with_frames` adds every value of every frame.
+void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out);
+
+}  // namespace cli

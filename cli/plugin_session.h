@@ -1,0 +1,55 @@
+#pragma once
+
+#include <memory>
+#include <string>
+#include <variant>
+#include <vector>
+
+#include "cli/dialog_user.h"
+#include "cli/failure.h"
+#include "host/application/application.h"
+#include "host/application/module.h"
+#include "host/desktop/memory_registry.h"
+#include "host/desktop/scripted_desktop.h"
+#include "host/desktop/sqlite_registry.h"
+
+// A host with the plug-in loaded, used by somebody who knows only the command line.
+
+namespace cli {
+
+// Whose settings the plug-in finds: its documented defaults, or what the user chose last.
+enum class Settings { kFresh, kUser };
+
+class PluginSession {
+ public:
+  // Starts the host with a new scene and loads the module in the file `module_path`. Throws a
+  // Failure when that cannot be done. There is one session at a time.
+  PluginSession(const std::string& module_path, Settings settings);
+  ~PluginSession();
+  PluginSession(const PluginSession&) = delete;
+  PluginSession& operator=(const PluginSession&) = delete;
+
+  host::Scene& scene() { return application_->scene(); }
+
+  // Lets the plug-in import `file`, answering its dialog by `wishes`; every message is closed by
+  // its OK button. A progress line is printed when `show_progress` is set. When the user interrupts
+  // the program, the import is cancelled. Returns whether the import was carried out to its end.
+  // Throws a Failure when a wish cannot be fulfilled, or when the plug-in has no importer for such
+  // files.
+  bool ImportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
+                 bool show_progress);
+
+  // What the plug-in told its user, in its own words.
+  [[nodiscard]] std::vector<std::string> Messages() const;
+
+ private:
+  std::variant<host::MemoryRegistry, host::SqliteRegistry> registry_;
+  std::unique_ptr<host::ScriptedDesktop> desktop_;
+  std::unique_ptr<host::Application> application_;
+  std::unique_ptr<host::Module> module_;
+};
+
+// The file of the module: it lies beside the program.
+std::string DefaultModulePath();
+
+}  // namespace cli

@@ -1,0 +1,60 @@
+#include "cli/scene_output.h"
+
+#include <algorithm>
+#include <filesystem>
+
+#include "cli/interruption.h"
+#include "host/gltf/writer.h"
+#include "platform/interrupt.h"
+
+namespace cli {
+namespace {
+
+using host::gltf::Container;
+
+// In lower case, with its full stop.
+std::string Extension(const std::string& path) {
+  std::string extension = std::filesystem::path(path).extension().string();
+  std::transform(extension.begin(), extension.end(), extension.begin(), [](char letter) {
+    return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
+  });
+  return extension;
+}
+
+host::gltf::WriteOptions OptionsFor(const std::string& path) {
+  const Container container = Extension(path) == ".gltf" ? Container::kText : Container::kBinary;
+  return {container, std::filesystem::path(path).stem().string()};
+}
+
+}  // namespace
+
+SceneOutput::SceneOutput(std::string path, bool replace)
+    : path_(std::move(path)), file_(path_, replace) {
+  const std::string reason = file_.WhyImpossible();
+  if (!reason.empty()) throw CannotWrite(reason);
+}
+
+std::size_t SceneOutput::Deliver(const host::Scene& scene, const std::string& source) {
+  const host::gltf::WrittenScene written = host::gltf::WriteScene(scene, OptionsFor(path_));
+  if (!written.refusal.empty()) {
+    throw Failure{ExitStatus::kRefused, {{source, written.refusal, ""}}};
+  }
+  platform::HoldInterrupts();
+  std::string error = file_.Write(written.bytes);
+  StopIfInterrupted();
+  if (error.empty()) error = file_.Deliver();
+  if (!error.empty()) throw CannotWrite(error);
+  return written.bytes.size();
+}
+
+Failure SceneOutput::CannotWrite(const std::string& reason) const {
+  const std::string advice = file_.IsTaken() ? "It is kept; --force replaces it." : "";
+  return {ExitStatus::kInputOutput, {{path_, reason, advice}}};
+}
+
+bool IsSceneFileName(const std::string& path) {
+  const std::string extension = Extension(path);
+  return extension == ".glb" || extension == ".gltf";
+}
+
+}  // namespace cli
