@@ -1,0 +1,211 @@
+#include <sys/stat.h>
+
+#include <filesystem>
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::Replaced;
+using test::SmallMotion;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// Both verbs, which say the same of a file that cannot be read or is refused.
+class BadInputTest : public test::OrvaneTest {
+ protected:
+  void ExpectRefusal(const std::string& file, int status, const std::string& complaint) const {
+    const std::string expected = "orvane: " + file + ": " + complaint;
+    for (const auto& arguments : {std::vector<std::string>{"info", file},
+                                  std::vector<std::string>{"import", file, "-o", "scene.glb"}}) {
+      const ProgramResult result = Orvane(arguments);
+      EXPECT_EQ(result.status, status) << arguments.front();
+      EXPECT_THAT(result.output, IsEmpty());
+      EXPECT_EQ(result.error, expected) << arguments.front();
+      EXPECT_FALSE(Exists("scene.glb"));
+    }
+  }
+};
+
+TEST_F(BadInputTest, MissingFile) { ExpectRefusal("walk.htr", 3, "No such file or directory\n"); }
+
+TEST_F(BadInputTest, MissingFileWhoseNameHasNoExtension) {
+  const ProgramResult result = Orvane({"info", "walk"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: No such file or directory\n"
+            "  A name without an extension of three letters gets \".htr\".\n");
+}
+
+TEST_F(BadInputTest, Directory) {
+  std::filesystem::create_directory(folder_.File("walk.htr"));
+  ExpectRefusal("walk.htr", 3, "Is a directory\n");
+}
+
+TEST_F(BadInputTest, NoPermission) {
+  Write("walk.htr", SmallMotion());
+  std::filesystem::permissions(folder_.File("walk.htr"), std::filesystem::perms::none);
+  for (const auto& arguments : {std::vector<std::string>{"info", "walk.htr"},
+                                std::vector<std::string>{"import", "walk.htr", "-o", "w.glb"}}) {
+    test::ProgramRun run = Command(arguments);
+    run.unprivileged = true;
+    const ProgramResult result = RunProgram(run);
+    if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
+    EXPECT_EQ(result.status, 3);
+    EXPECT_EQ(result.error, "orvane: walk.htr: Permission denied\n");
+  }
+}
+
+TEST_F(BadInputTest, Device) {
+  std::filesystem::create_symlink("/dev/zero", folder_.File("zero.htr"));
+  ExpectRefusal("zero.htr", 3, "Not a regular file\n");
+}
+
+TEST_F(BadInputTest, PipeThatNobodyWritesTo) {
+  ASSERT_EQ(mkfifo(folder_.File("pipe.htr").c_str(), 0600), 0);
+  ExpectRefusal("pipe.htr", 3, "Not a regular file\n");
+}
+
+constexpr char kNoSegments[] =
+    "orvane: walk.htr: The file holds no segments\n"
+    "  Is it an HTR file? A file of 0 segments may also have been cut short.\n";
+
+class FileWithoutSegmentsTest : public test::OrvaneTest,
+                                public testing::WithParamInterface<std::string> {};
+
+// Without frames either, the importer's dialog is the first to refuse.
+TEST_P(FileWithoutSegmentsTest, IsNoMotion) {
+  Write("walk.htr", GetParam());
+  const ProgramResult info = Orvane({"info", "walk.htr"});
+  EXPECT_EQ(info.status, 1);
+  EXPECT_EQ(info.error, kNoSegments);
+  const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
+  EXPECT_EQ(import.status, 1);
+  EXPECT_EQ(import.error,
+            std::string("orvane: walk.htr: Please choose a start frame that is less than the end "
+                        "frame.\n"
+                        "  Is --range in order, and does \"NumFrames\" in the header announce any "
+                        "frames?\n") +
+                kNoSegments);
+  EXPECT_THAT(Names(), ElementsAre("walk.htr"));
+}
+
+std::string Noise() {
+  std::string bytes(10000, '\0');
+  for (std::size_t i = 0; i < bytes.size(); ++i) bytes[i] = static_cast<char>(i * i % 251);
+  return bytes;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FileWithoutSegmentsTest,
+                         testing::Values("", Noise(), "[Header]\nFileType HTR\n"));
+
+struct Damage {
+  std::string name;
+  std::string from;
+  std::string to;
+  std::string complaint;
+};
+
+class DamagedFileTest : public BadInputTest, public testing::WithParamInterface<Damage> {};
+
+TEST_P(DamagedFileTest, IsRefusedInTheReadersWordsWithAdvice) {
+  Write("walk.htr", Replaced(SmallMotion(), GetParam().from, GetParam().to));
+  ExpectRefusal("walk.htr", 1, GetParam().complaint);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, DamagedFileTest,
+    testing::Values(
+        Damage{"FileType", "FileType HTR", "FileType TRC",
+               "The file does not have a compatible \"FileType\" header state\n"
+               "  The header of an HTR file says \"FileType HTR\".\n"},
+        Damage{"DataType", "HTRS", "ABS",
+               "The file does not have a compatible \"DataType\" header state\n"
+               "  Only files with \"DataType HTRS\" in the header can be read.\n"},
+        Damage{"FileVersion", "FileVersion 1", "FileVersion 2",
+               "The file does not have a compatible \"FileVersion\" header state\n"
+               "  Only files with \"FileVersion 1\" in the header can be read.\n"},
+        Damage{"EulerRotationOrder", "ZYX", "XYZ",
+               "The file does not have a compatible \"EulerRotationOrder\" header state\n"
+               "  Only files with \"EulerRotationOrder ZYX\" in the header can be read.\n"},
+        Damage{"GlobalAxisofGravity", "GlobalAxisofGravity Y", "GlobalAxisofGravity X",
+               "The file does not have a compatible \"GlobalAxisofGravity\" header state\n"
+               "  The axis of gravity may be Y or Z.\n"},
+        Damage{"BoneLengthAxis", "BoneLengthAxis Y", "BoneLengthAxis Z",
+               "The file does not have a compatible \"BoneLengthAxis\" header state\n"
+               "  Only files with \"BoneLengthAxis Y\" in the header can be read.\n"},
+        Damage{"DuplicateName", "Spine Hips", "Hips Hips",
+               "The file has duplicate segment names: Hips\n"
+               "  Every line of [SegmentNames&Hierarchy] needs a name of its own, without "
+               "blanks.\n"},
+        Damage{"UnknownName", "Spine 0 100", "Spin 1.5 100",
+               "Segment name not found: 1.5\n"
+               "  A line of [BasePosition] starts with a name that [SegmentNames&Hierarchy] does "
+               "not list; the message shows what follows that name.\n"},
+        Damage{"SegmentCount", "NumSegments 2", "NumSegments 3",
+               "Incorrect number of segments defined in file\n"
+               "  \"NumSegments\" in the header must be the number of lines in [BasePosition]. A "
+               "file that was cut short says this too.\n"}),
+    [](const auto& test_case) { return test_case.param.name; });
+
+TEST_F(BadInputTest, ControlCharactersOfTheFileDoNotReachTheTerminal) {
+  Write("walk.htr", Replaced(SmallMotion(), "Spine 0 100", "Spin \033[2J\007 100"));
+  const ProgramResult result = Orvane({"info", "walk.htr"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              testing::StartsWith("orvane: walk.htr: Segment name not found: \\x1b[2J\\x07\n"));
+}
+
+// Parents in a circle leave no segment to start from, which the importer does not say.
+TEST_F(BadInputTest, ParentsInACircleAreNoSkeleton) {
+  Write("walk.htr", Replaced(SmallMotion(), "Hips GLOBAL", "Hips Spine"));
+  const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
+  EXPECT_EQ(import.status, 1);
+  EXPECT_EQ(import.error,
+            "orvane: walk.htr: The file has no root segment\n"
+            "  In [SegmentNames&Hierarchy] a root has the parent GLOBAL.\n");
+  EXPECT_FALSE(Exists("scene.glb"));
+  const ProgramResult info = Orvane({"info", "walk.htr"});
+  EXPECT_EQ(info.status, 0);
+  EXPECT_THAT(info.output, testing::HasSubstr("Segments that hang from no root\n  Hips"));
+}
+
+TEST_F(BadInputTest, EveryTruncationEndsWithAMessageOrAScene) {
+  const std::string whole = SmallMotion();
+  for (std::size_t size = 0; size < whole.size(); size += 7) {
+    Write("walk.htr", whole.substr(0, size));
+    const ProgramResult result = Orvane({"import", "walk.htr", "-o", "scene.glb", "--force"});
+    if (result.status == 0) {
+      EXPECT_THAT(result.error, IsEmpty()) << size;
+    } else {
+      EXPECT_EQ(result.status, 1) << size;
+      EXPECT_THAT(result.error, testing::StartsWith("orvane: walk.htr: ")) << size;
+    }
+  }
+}
+
+TEST_F(BadInputTest, NumbersThatAreNoneAreZero) {
+  Write("walk.htr",
+        Replaced(SmallMotion(), "1 0 0 0 0 0 0 1\n2 10 0", "1 nan --5 inf 0 0 0 1\n2 10 0"));
+  const ProgramResult result = Orvane({"info", "walk.htr", "--json", "--frames"});
+  EXPECT_EQ(result.status, 0);
+  const auto frame = nlohmann::json::parse(result.output)["segments"][0]["frames"][0];
+  EXPECT_EQ(frame, nlohmann::json::parse("[0, 0, 0, 0, 0, 0, 1]"));
+}
+
+TEST_F(BadInputTest, ANumberTooLargeIsShownAsNullAndCannotBeSaved) {
+  Write("walk.htr", Replaced(SmallMotion(), "2 10 0 0", "2 1e999 0 0"));
+  const ProgramResult info = Orvane({"info", "walk.htr", "--json", "--frames"});
+  EXPECT_EQ(info.status, 0);
+  const auto frame = nlohmann::json::parse(info.output)["segments"][0]["frames"][1];
+  EXPECT_TRUE(frame[0].is_null());
+  const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
+  EXPECT_EQ(import.status, 1);
+  EXPECT_THAT(import.error,
+              testing::StartsWith("orvane: walk.htr: Node \"Hips\" cannot be saved: "));
+  EXPECT_THAT(Names(), ElementsAre("walk.htr"));
+}
+
+}  // namespace

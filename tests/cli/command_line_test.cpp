@@ -1,0 +1,102 @@
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+using CommandLineTest = test::OrvaneTest;
+
+TEST_F(CommandLineTest, VersionIsPrintedOnStandardOutput) {
+  const ProgramResult result = Orvane({"--version"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.output, "orvane 3.2.1\n");
+  EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(CommandLineTest, HelpNamesEveryVerb) {
+  const ProgramResult result = Orvane({"--help"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.output, HasSubstr("import"));
+  EXPECT_THAT(result.output, HasSubstr("info"));
+  EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(CommandLineTest, HelpOfAVerbNamesItsFlags) {
+  const ProgramResult result = Orvane({"import", "--help"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.output, HasSubstr("--segment-size NUMBER"));
+  EXPECT_THAT(result.output, HasSubstr("--range FROM:TO"));
+  EXPECT_THAT(result.output, HasSubstr("--system-unit mm|cm|m|in|ft"));
+}
+
+struct WrongUsage {
+  std::string name;
+  std::vector<std::string> arguments;
+  std::string complaint;
+};
+
+class WrongUsageTest : public test::OrvaneTest, public testing::WithParamInterface<WrongUsage> {};
+
+TEST_P(WrongUsageTest, EndsWithStatusTwoAndSaysWhatIsWrong) {
+  Write("walk.htr", test::SmallMotion());
+  const ProgramResult result = Orvane(GetParam().arguments);
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_THAT(result.error, StartsWith("orvane: " + GetParam().complaint + "\n  \"orvane"));
+  EXPECT_THAT(Names(), testing::ElementsAre("walk.htr"));
+}
+
+std::vector<std::string> Import(const std::vector<std::string>& flags) {
+  std::vector<std::string> arguments = {"import", "walk.htr", "-o", "walk.glb"};
+  arguments.insert(arguments.end(), flags.begin(), flags.end());
+  return arguments;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, WrongUsageTest,
+    testing::Values(
+        WrongUsage{"Nothing", {}, "what is to be done? A verb is missing"},
+        WrongUsage{"UnknownVerb", {"imprt", "walk.htr"}, "there is no verb or flag \"imprt\""},
+        WrongUsage{"UnknownFlagOfTheProgram", {"--loud"}, "there is no verb or flag \"--loud\""},
+        WrongUsage{"NoInput", {"import", "-o", "walk.glb"}, "FILE is required"},
+        WrongUsage{"NoOutput", {"import", "walk.htr"}, "--output is required"},
+        WrongUsage{"OutputOfAnotherKind",
+                   {"import", "walk.htr", "-o", "walk.fbx"},
+                   "--output: walk.fbx does not end in .glb or .gltf"},
+        WrongUsage{"OutputWithoutName",
+                   {"import", "walk.htr", "-o", ".glb"},
+                   "--output: .glb does not end in .glb or .gltf"},
+        WrongUsage{"TwoInputs", Import({"run.htr"}),
+                   "The following argument was not expected: run.htr"},
+        WrongUsage{"UnknownFlag", Import({"--loop"}),
+                   "The following argument was not expected: --loop"},
+        WrongUsage{"CreateAndApply", Import({"--create", "--apply"}), "--create excludes --apply"},
+        WrongUsage{"EulerAndTcb", Import({"--euler", "--tcb"}), "--euler excludes --tcb"},
+        WrongUsage{"AllAndRange", Import({"--all", "--range", "1:2"}), "--all excludes --range"},
+        WrongUsage{"BothSidesOfACheckBox", Import({"--animation", "--no-animation"}),
+                   "--animation excludes --no-animation"},
+        WrongUsage{"RangeWithoutColon", Import({"--range", "5"}),
+                   "--range: FROM:TO is expected, not 5"},
+        WrongUsage{"RangeWithoutValue", Import({"--range"}), "--range: 1 required FROM:TO missing"},
+        WrongUsage{"ScaleTwice", Import({"--scale", "1", "--scale", "2"}),
+                   "--scale: At Most 1 required but received 2"},
+        WrongUsage{"FrameRateAsNumber", Import({"--frame-rate", "30"}),
+                   "--frame-rate: 30 not in {file,keep}"},
+        WrongUsage{"UnknownSystemUnit", Import({"--system-unit", "yd"}),
+                   "--system-unit: yd not in {mm,cm,m,in,ft}"},
+        WrongUsage{"UnknownSettings", Import({"--settings", "mine"}),
+                   "--settings: mine not in {fresh,user}"},
+        WrongUsage{"SelectTakesOneName", Import({"--select", "Hips", "Spine"}),
+                   "The following argument was not expected: Spine"},
+        WrongUsage{
+            "FramesWithoutJson", {"info", "walk.htr", "--frames"}, "--frames requires --json"},
+        WrongUsage{"FramesOfTheHierarchyAlone",
+                   {"info", "walk.htr", "--json", "--frames", "--hierarchy"},
+                   "--hierarchy excludes --frames"},
+        WrongUsage{"InfoWithoutInput", {"info"}, "FILE is required"}),
+    [](const auto& test_case) { return test_case.param.name; });
+
+}  // namespace

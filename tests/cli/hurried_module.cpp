@@ -1,0 +1,75 @@
+// A plug-in module for the tests of the program: its importer does what the file's name asks for,
+// at the very moment that the test needs. It reads no file.
+
+#include <chrono>
+#include <csignal>
+#include <filesystem>
+#include <string>
+#include <thread>
+
+#include "sdk/core/animation.h"
+#include "sdk/core/interface.h"
+#include "sdk/core/library.h"
+#include "sdk/core/plugin.h"
+
+#define MODULE_ENTRY extern "C" __attribute__((visibility("default")))
+
+namespace {
+
+std::uint32_t GoOn(void* /*argument*/) { return 0; }
+
+void Wait() { std::this_thread::sleep_for(std::chrono::milliseconds(120)); }
+
+class Importer final : public SceneImport {
+ public:
+  int ExtCount() override { return 1; }
+  const char* Ext(int /*n*/) override { return "HTR"; }
+  const char* LongDesc() override { return ""; }
+  const char* ShortDesc() override { return ""; }
+  const char* AuthorName() override { return ""; }
+  const char* CopyrightMessage() override { return ""; }
+  const char* OtherMessage1() override { return ""; }
+  const char* OtherMessage2() override { return ""; }
+  unsigned Version() override { return 100; }
+  void ShowAbout(HWND /*owner*/) override {}
+
+  int DoImport(const char* name, ImpInterface* /*import_interface*/, Interface* host,
+               int /*suppress_prompts*/) override {
+    const std::string wish = std::filesystem::path(name).stem().string();
+    SuspendSetKeyMode();
+    host->ProgressStart("Hurried", true, GoOn, nullptr);
+    if (wish.find("interrupt") == 0) std::raise(SIGINT);
+    if (wish == "terminate") std::raise(SIGTERM);
+    if (wish == "interrupt-twice") std::raise(SIGINT);
+    if (wish == "slow") Wait();
+    host->ProgressUpdate(50);
+    const bool cancelled = host->GetCancel();
+    if (wish == "slow") Wait();
+    host->ProgressUpdate(100);
+    host->ProgressEnd();
+    if (wish == "silent" || (cancelled && wish != "interrupt-unheard")) return 0;
+    ResumeSetKeyMode();
+    return 1;
+  }
+};
+
+class ImportDescriptor final : public ClassDesc2 {
+ public:
+  int IsPublic() override { return 1; }
+  void* Create(bool /*loading*/) override {
+    return static_cast<SceneImport*>(new (std::nothrow) Importer());
+  }
+  const char* ClassName() override { return "Hurried"; }
+  SuperClassId SuperClassID() override { return kSceneImportSuperClass; }
+  ClassId ClassID() override { return {0xF2, 0}; }
+  const char* Category() override { return "Tests"; }
+};
+
+ImportDescriptor descriptor;
+
+}  // namespace
+
+MODULE_ENTRY const char* LibDescription() { return "Hurried module"; }
+MODULE_ENTRY int LibNumberClasses() { return 1; }
+MODULE_ENTRY ClassDesc2* LibClassDesc(int i) { return i == 0 ? &descriptor : nullptr; }
+MODULE_ENTRY std::uint32_t LibVersion() { return kSkelderVersion; }

@@ -1,0 +1,72 @@
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+// A module of the tests stands in for the plug-in, because it can interrupt the program at a known
+// moment.
+class InterruptTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Import(const std::string& wish, const std::vector<std::string>& flags = {}) const {
+    Write(wish + ".htr", "");
+    std::vector<std::string> arguments = {"import",    wish + ".htr", "-o",
+                                          "scene.glb", "--module",    test::HurriedModule()};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  void ExpectInterrupted(const std::string& wish) const {
+    const ProgramResult result = Import(wish);
+    EXPECT_EQ(result.status, 130);
+    EXPECT_THAT(result.output, IsEmpty());
+    EXPECT_EQ(result.error, "orvane: interrupted; nothing was written\n");
+    EXPECT_THAT(Names(), ElementsAre(wish + ".htr"));
+  }
+};
+
+TEST_F(InterruptTest, TheModuleOfTheTestsMakesAScene) {
+  EXPECT_EQ(Import("nothing").status, 0);
+  EXPECT_THAT(Names(), ElementsAre("nothing.htr", "scene.glb"));
+}
+
+TEST_F(InterruptTest, CancelsTheImportThroughTheHost) { ExpectInterrupted("interrupt"); }
+
+TEST_F(InterruptTest, LeavesNothingBehindWhenThePluginDoesNotAsk) {
+  ExpectInterrupted("interrupt-unheard");
+}
+
+TEST_F(InterruptTest, BeingAskedToTerminateIsTheSame) { ExpectInterrupted("terminate"); }
+
+TEST_F(InterruptTest, ASecondOneEndsTheProgramAtOnce) {
+  const ProgramResult result = Import("interrupt-twice");
+  EXPECT_EQ(result.status, 130);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(Names(), ElementsAre("interrupt-twice.htr"));
+}
+
+TEST_F(InterruptTest, KeepsTheExistingOutput) {
+  Write("scene.glb", "the old scene");
+  EXPECT_EQ(Import("interrupt", {"--force"}).status, 130);
+  EXPECT_EQ(Read("scene.glb"), "the old scene");
+}
+
+TEST_F(InterruptTest, IsNotMixedUpWithARefusalWithoutAMessage) {
+  const ProgramResult result = Import("silent");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: silent.htr: The file holds no segments\n"
+            "  Is it an HTR file? A file of 0 segments may also have been cut short.\n");
+}
+
+TEST_F(InterruptTest, ARefusalWithoutAnyReasonIsSaidToBeOne) {
+  Write("silent.htr", test::SmallMotion());
+  const ProgramResult result =
+      Orvane({"import", "silent.htr", "-o", "scene.glb", "--module", test::HurriedModule()});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, "orvane: silent.htr: The plug-in gave up without a message\n");
+}
+
+}  // namespace

@@ -1,0 +1,32 @@
+#include "tests/cli/orvane_test.h"
+
+namespace test {
+
+ProgramRun OrvaneTest::Command(const std::vector<std::string>& arguments) const {
+  ProgramRun run;
+  run.command = {ORVANE_BINARY_DIR "/bin/orvane"};
+  run.command.insert(run.command.end(), arguments.begin(), arguments.end());
+  run.folder = folder_.Path().string();
+  run.environment = {"XDG_CONFIG_HOME=" + folder_.File("config")};
+  return run;
+}
+
+std::string SmallMotion() {
+  return "[Header]\n"
+         "FileType HTR\nDataType HTRS\nFileVersion 1\nNumSegments 2\nNumFrames 3\n"
+         "DataFrameRate 60\nEulerRotationOrder ZYX\nCalibrationUnits mm\nRotationUnits Degrees\n"
+         "GlobalAxisofGravity Y\nBoneLengthAxis Y\nScaleFactor 1.0\n"
+         "[SegmentNames&Hierarchy]\nHips GLOBAL\nSpine Hips\n"
+         "[BasePosition]\nHips 0 900 0 0 0 0 100\nSpine 0 100 0 0 0 0 250.5\n"
+         "[Hips]\n1 0 0 0 0 0 0 1\n2 10 0 0 0 0 90 1\n3 20 0 0 0 0 0 1\n"
+         "[Spine]\n1 0 0 0 0 0 0 1\n2 0 0 0 0 0 0 1\n3 0 0 0 10 0 0 1\n"
+         "[EndOfFile]\n";
+}
+
+std::string HurriedModule() { return ORVANE_BINARY_DIR "/tests/hurried_module.so"; }
+
+std::string Replaced(std::string text, const std::string& from, const std::string& to) {
+  return text.replace(text.find(from), from.size(), to);
+}
+
+}  // namespace test

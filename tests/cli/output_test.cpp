@@ -1,0 +1,149 @@
+#include <sys/stat.h>
+
+#include <filesystem>
+
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::ProgramRun;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class OutputTest : public test::OrvaneTest {
+ protected:
+  OutputTest() { Write("walk.htr", test::SmallMotion()); }
+
+  ProgramResult Import(const std::string& output,
+                       const std::vector<std::string>& flags = {}) const {
+    std::vector<std::string> arguments = {"import", "walk.htr", "-o", output};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  void ExpectCannotWrite(const ProgramResult& result, const std::string& complaint) const {
+    EXPECT_EQ(result.status, 3);
+    EXPECT_THAT(result.output, IsEmpty());
+    EXPECT_EQ(result.error, "orvane: " + complaint);
+  }
+};
+
+TEST_F(OutputTest, SummaryOnStandardOutputSaysWhatWasMade) {
+  const ProgramResult result = Import("walk.glb");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.output,
+            "Imported walk.htr\n"
+            "  Nodes   3\n"
+            "  Keys    12\n"
+            "  Frames  1 to 3 at 60 frames per second\n"
+            "  Scene   walk.glb (" +
+                std::to_string(Read("walk.glb").size()) + " bytes)\n");
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(Names(), ElementsAre("walk.glb", "walk.htr"));
+}
+
+TEST_F(OutputTest, TheExtensionChoosesTheContainer) {
+  EXPECT_EQ(Import("walk.glb").status, 0);
+  EXPECT_THAT(Read("walk.glb"), StartsWith("glTF"));
+  EXPECT_EQ(Import("walk.gltf").status, 0);
+  EXPECT_THAT(Read("walk.gltf"), StartsWith("{"));
+  EXPECT_EQ(Import("WALK.GLB").status, 0);
+  EXPECT_THAT(Read("WALK.GLB"), StartsWith("glTF"));
+}
+
+TEST_F(OutputTest, SameInputGivesTheSameBytes) {
+  EXPECT_EQ(Import("walk.glb").status, 0);
+  const std::string first = Read("walk.glb");
+  EXPECT_EQ(Import("walk.glb", {"--force"}).status, 0);
+  EXPECT_EQ(Read("walk.glb"), first);
+}
+
+TEST_F(OutputTest, AnExistingFileIsKept) {
+  Write("walk.glb", "the old scene");
+  ExpectCannotWrite(Import("walk.glb"),
+                    "walk.glb: File exists\n  It is kept; --force replaces it.\n");
+  EXPECT_EQ(Read("walk.glb"), "the old scene");
+}
+
+TEST_F(OutputTest, ForceReplacesItAndKeepsItsPermissions) {
+  Write("walk.glb", "the old scene");
+  chmod(folder_.File("walk.glb").c_str(), 0604);
+  EXPECT_EQ(Import("walk.glb", {"--force"}).status, 0);
+  EXPECT_THAT(Read("walk.glb"), StartsWith("glTF"));
+  struct stat status {};
+  stat(folder_.File("walk.glb").c_str(), &status);
+  EXPECT_EQ(status.st_mode & 0777U, 0604U);
+  EXPECT_THAT(Names(), ElementsAre("walk.glb", "walk.htr"));
+}
+
+TEST_F(OutputTest, ForceKeepsTheOldFileWhenTheImportIsRefused) {
+  Write("walk.glb", "the old scene");
+  EXPECT_EQ(Import("walk.glb", {"--force", "--scale", "0"}).status, 1);
+  EXPECT_EQ(Read("walk.glb"), "the old scene");
+}
+
+TEST_F(OutputTest, ForceWritesThroughASymbolicLink) {
+  Write("target.glb", "the old scene");
+  std::filesystem::create_symlink("target.glb", folder_.File("walk.glb"));
+  EXPECT_EQ(Import("walk.glb", {"--force"}).status, 0);
+  EXPECT_TRUE(std::filesystem::is_symlink(folder_.File("walk.glb")));
+  EXPECT_THAT(Read("target.glb"), StartsWith("glTF"));
+}
+
+TEST_F(OutputTest, ALinkThatLeadsNowhereIsKept) {
+  std::filesystem::create_symlink("nowhere", folder_.File("walk.glb"));
+  ExpectCannotWrite(Import("walk.glb"),
+                    "walk.glb: File exists\n  It is kept; --force replaces it.\n");
+}
+
+TEST_F(OutputTest, ADirectoryIsNeverReplaced) {
+  std::filesystem::create_directory(folder_.File("walk.glb"));
+  ExpectCannotWrite(Import("walk.glb", {"--force"}), "walk.glb: Is a directory\n");
+}
+
+TEST_F(OutputTest, ADeviceIsNeverReplaced) {
+  std::filesystem::create_symlink("/dev/full", folder_.File("walk.glb"));
+  ExpectCannotWrite(Import("walk.glb", {"--force"}), "walk.glb: Not a regular file\n");
+}
+
+TEST_F(OutputTest, AMissingFolderIsNamed) {
+  ExpectCannotWrite(Import("nowhere/walk.glb"),
+                    "nowhere/walk.glb: nowhere: No such file or directory\n");
+}
+
+TEST_F(OutputTest, AFileIsNoFolder) {
+  ExpectCannotWrite(Import("walk.htr/walk.glb"), "walk.htr/walk.glb: walk.htr: Not a directory\n");
+}
+
+TEST_F(OutputTest, AReadOnlyFolderTakesNothing) {
+  std::filesystem::create_directory(folder_.File("scenes"));
+  chmod(folder_.File("scenes").c_str(), 0555);
+  ProgramRun run = Command({"import", "walk.htr", "-o", "scenes/walk.glb"});
+  run.unprivileged = true;
+  const ProgramResult result = RunProgram(run);
+  if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
+  ExpectCannotWrite(result, "scenes/walk.glb: scenes: Permission denied\n");
+}
+
+TEST_F(OutputTest, ADiskThatFillsUpLeavesTheOldFileAndNoHalfOne) {
+  Write("walk.glb", "the old scene");
+  ProgramRun run = Command({"import", "walk.htr", "-o", "walk.glb", "--force"});
+  run.largest_file = 1000;
+  ExpectCannotWrite(RunProgram(run), "walk.glb: File too large\n");
+  EXPECT_EQ(Read("walk.glb"), "the old scene");
+  EXPECT_THAT(Names(), ElementsAre("walk.glb", "walk.htr"));
+}
+
+TEST_F(OutputTest, StandardOutputThatTakesNothingIsAnError) {
+  for (const auto& arguments : {std::vector<std::string>{"info", "walk.htr"},
+                                std::vector<std::string>{"info", "walk.htr", "--json"},
+                                std::vector<std::string>{"--help"}}) {
+    ProgramRun run = Command(arguments);
+    run.output_file = "/dev/full";
+    ExpectCannotWrite(RunProgram(run), "standard output: could not be written\n");
+  }
+}
+
+}  // namespace

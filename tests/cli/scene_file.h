@@ -1,0 +1,41 @@
+#pragma once
+
+#include <array>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+// A scene file as the tests look at it: independent of the code that wrote it.
+
+namespace test {
+
+class SceneFile {
+ public:
+  // Reads a .glb file. Throws when it is none.
+  explicit SceneFile(const std::string& path);
+
+  // The names of all nodes, in the file's order.
+  std::vector<std::string> NodeNames() const;
+
+  // When the node `name` has rotation keys, in seconds; empty when it has none.
+  std::vector<double> KeyTimes(const std::string& name) const;
+
+  // Where the origin of the node `name` stands, in metres, Y up, at key number `key` of every
+  // animated node on the way.
+  std::array<double, 3> Position(const std::string& name, std::size_t key) const;
+
+ private:
+  using Vector = std::array<double, 4>;
+
+  std::size_t Find(const std::string& name) const;
+  std::size_t ParentOf(std::size_t node) const;
+  const nlohmann::json* SamplerOf(std::size_t node, const std::string& path) const;
+  Vector Element(std::size_t accessor, std::size_t index) const;
+  Vector Property(std::size_t node, const std::string& path, Vector otherwise,
+                  std::size_t key) const;
+
+  nlohmann::json json_;
+  std::string binary_;
+};
+
+}  // namespace test

@@ -1,0 +1,63 @@
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::ProgramRun;
+using testing::AllOf;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::StartsWith;
+
+class TerminalTest : public test::OrvaneTest {
+ protected:
+  // An import that takes some tenths of a second.
+  ProgramRun SlowImport() const {
+    Write("slow.htr", "");
+    return Command({"import", "slow.htr", "-o", "scene.glb", "--module", test::HurriedModule()});
+  }
+};
+
+constexpr char kWipe[] = "\r\033[K";
+
+TEST_F(TerminalTest, ProgressIsALineWithPercentAndTimeLeftThatIsWipedAtTheEnd) {
+  ProgramRun run = SlowImport();
+  run.error_is_terminal = true;
+  const ProgramResult result = RunProgram(run);
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error,
+              AllOf(StartsWith(std::string(kWipe) + "Importing slow.htr  "),
+                    HasSubstr("Importing slow.htr  50 %, 0:01 left"), EndsWith(kWipe)));
+}
+
+TEST_F(TerminalTest, QuietShowsNoProgressAndNoSummary) {
+  ProgramRun run = SlowImport();
+  run.command.push_back("--quiet");
+  run.error_is_terminal = true;
+  const ProgramResult result = RunProgram(run);
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, IsEmpty());
+}
+
+TEST_F(TerminalTest, APipeGetsNoProgress) {
+  const ProgramResult result = RunProgram(SlowImport());
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, Not(IsEmpty()));
+}
+
+TEST_F(TerminalTest, MessagesAreColouredUnlessTheUserWantsNoColour) {
+  ProgramRun run = Command({"info", "walk.htr"});
+  run.error_is_terminal = true;
+  EXPECT_EQ(RunProgram(run).error,
+            "\033[1;31morvane:\033[0m walk.htr: No such file or directory\r\n");
+  run.environment.push_back("NO_COLOR=1");
+  EXPECT_EQ(RunProgram(run).error, "orvane: walk.htr: No such file or directory\r\n");
+  run.environment.back() = "NO_COLOR=";
+  EXPECT_THAT(RunProgram(run).error, StartsWith("\033[1;31m"));
+}
+
+}  // namespace
