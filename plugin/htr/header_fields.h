@@ -7,7 +7,7 @@
 #include "plugin/htr/document.h"
 #include "plugin/htr/oddities.h"
 
-// The keyword lines of a motion file's header. Part of the reader.
+// The keyword lines of a motion file's header. Belongs to the reader.
 namespace orvane {
 
 // Stores one header value: in `document`, or in `segments_awaited` for the announced segment count.

@@ -8,10 +8,10 @@
 #include <vector>
 
 #include "plugin/htr/header_fields.h"
+#include "plugin/htr/number_cells.h"
 #include "plugin/htr/oddities.h"
 #include "plugin/text/files.h"
 #include "plugin/text/lines.h"
-#include "plugin/text/numbers.h"
 #include "plugin/text/tokens.h"
 #include "plugin/units/units.h"
 
@@ -48,46 +48,6 @@ std::string_view SectionName(std::string_view line) {
   line.remove_prefix(1);
   return line.substr(0, line.find(']'));
 }
-
-// The number columns of a data line, taken from left to right.
-class NumberCells {
- public:
-  NumberCells(std::string_view line, const HtrOddities& oddities)
-      : rest_(line), oddities_(oddities) {}
-
-  // A missing or malformed cell is 0.
-  double Take() {
-    rest_ = SkipSeparators(rest_);
-    const char* const first = rest_.data();
-    const char* const last = first + rest_.size();
-    const LeadingDouble number = ReadDouble(first, last);
-    const bool fills_cell = number.end != first && (number.end == last || IsSeparator(*number.end));
-    if (!fills_cell) return TakeOdd();
-    rest_.remove_prefix(static_cast<std::size_t>(number.end - first));
-    return number.value;
-  }
-
-  std::int32_t TakeInt() { return ParseInt(TakeCell()); }
-
-  Vector3 TakeVector(double factor) {
-    const double x = Take() * factor;
-    const double y = Take() * factor;
-    const double z = Take() * factor;
-    return Vector3(x, y, z);
-  }
-
- private:
-  double TakeOdd() { return ParseDouble(TakeCell()); }
-
-  std::string_view TakeCell() {
-    const std::string_view cell = TakeFirstToken(rest_);
-    oddities_.CheckNumber(cell);
-    return cell;
-  }
-
-  std::string_view rest_;
-  const HtrOddities& oddities_;
-};
 
 // One pass over the bytes. Every function that reads returns an empty text or the message that ends
 // the reading.

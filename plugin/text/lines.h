@@ -27,9 +27,6 @@ class LineReader {
   // Puts the next line or piece into `line` and returns true, or returns false at the end.
   [[nodiscard]] bool Next(Line& line);
 
-  // The bytes not yet handed out.
-  std::size_t remaining() const { return rest_.size() + content_.size(); }
-
  private:
   bool StartLine();
 

@@ -1,0 +1,58 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+
+#include "plugin/htr/oddities.h"
+#include "plugin/math/vector.h"
+#include "plugin/text/numbers.h"
+#include "plugin/text/tokens.h"
+
+// The number columns of a data line, taken from left to right. Belongs to the reader, which spends
+// most of its time here: a cell that is one number and nothing else is read without being looked
+// for first.
+namespace orvane {
+
+class NumberCells {
+ public:
+  NumberCells(std::string_view line, const HtrOddities& oddities)
+      : rest_(line), oddities_(oddities) {}
+
+  // The number that the next cell starts with; 0 for a missing or malformed cell.
+  double Take() {
+    rest_ = SkipSeparators(rest_);
+    const char* const first = rest_.data();
+    const char* const last = first + rest_.size();
+    const LeadingDouble number = ReadDouble(first, last);
+    const bool fills_cell = number.end != first && (number.end == last || IsSeparator(*number.end));
+    if (!fills_cell) return TakeOdd();
+    rest_.remove_prefix(static_cast<std::size_t>(number.end - first));
+    return number.value;
+  }
+
+  // As Take, whole.
+  std::int32_t TakeInt() { return ParseInt(TakeCell()); }
+
+  // The next three cells, each times `factor`.
+  Vector3 TakeVector(double factor) {
+    const double x = Take() * factor;
+    const double y = Take() * factor;
+    const double z = Take() * factor;
+    return Vector3(x, y, z);
+  }
+
+ private:
+  double TakeOdd() { return ParseDouble(TakeCell()); }
+
+  std::string_view TakeCell() {
+    const std::string_view cell = TakeFirstToken(rest_);
+    oddities_.CheckNumber(cell);
+    return cell;
+  }
+
+  std::string_view rest_;
+  const HtrOddities& oddities_;
+};
+
+}  // namespace orvane
