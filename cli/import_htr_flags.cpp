@@ -28,7 +28,7 @@ enum Control : int {
   kSetFrameRate = 1140
 };
 
-constexpr char kWhileApplying[] = "\"Apply\" is chosen";
+constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
 
 using Wishes = std::vector<ControlWish>;
 

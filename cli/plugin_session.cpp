@@ -1,5 +1,6 @@
 #include "cli/plugin_session.h"
 
+#include <filesystem>
 #include <optional>
 
 #include "cli/import_htr_flags.h"
@@ -49,7 +50,7 @@ bool PluginSession::ImportHtr(const std::string& file, const std::vector<Control
   desktop_->SetUser(
       {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kImportHtrButtons); },
        PressOk});
-  ProgressLine line("Importing " + file, show_progress);
+  ProgressLine line("Importing " + std::filesystem::path(file).filename().string(), show_progress);
   application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {
     line.Show(event.percent);
     if (platform::Interrupted()) application_->cancellation().Request();

@@ -7,6 +7,8 @@ using test::ProgramResult;
 using test::Replaced;
 using test::SceneFile;
 using test::SmallMotion;
+using testing::DoubleNear;
+using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
@@ -176,7 +178,7 @@ TEST_F(ImportFlagsTest, FlagsOfDisabledControlsAreWrongUsage) {
     EXPECT_EQ(result.status, 2);
     EXPECT_EQ(result.error, "orvane: " + flag.front() +
                                 ": the dialog has this control disabled while \"Apply\" is "
-                                "chosen\n");
+                                "chosen; --create enables it\n");
     EXPECT_FALSE(Exists("walk.glb"));
   }
 }
@@ -225,6 +227,29 @@ TEST_F(ImportFlagsTest, StrictTakesWarningsAsRefusals) {
 TEST_F(ImportFlagsTest, StrictDoesNotMindACleanFile) {
   EXPECT_EQ(Import({"--strict"}).status, 0);
   EXPECT_TRUE(Exists("walk.glb"));
+}
+
+// --- Real files ---
+
+TEST_F(ImportFlagsTest, TheExampleIsImported) {
+  const ProgramResult result =
+      Orvane({"import", ORVANE_SOURCE_DIR "/examples/walk.htr", "-o", "walk.glb", "--strict"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(SceneFile(folder_.File("walk.glb")).KeyTimes("LeftFoot"), SizeIs(120));
+}
+
+// The recording's own documentation tells where two joints stand at frame 301.
+TEST_F(ImportFlagsTest, ARecordingComesOutWhereItsMakersSay) {
+  const std::string file = ORVANE_SOURCE_DIR "/../shared/data/walk-31-segments.htr";
+  if (!std::filesystem::exists(file)) GTEST_SKIP() << "no recording beside the sources";
+  EXPECT_EQ(Orvane({"import", file, "-o", "walk.glb"}).status, 0);
+  const SceneFile scene(folder_.File("walk.glb"));
+  EXPECT_THAT(
+      scene.Position("LeftFoot", 300),
+      ElementsAre(DoubleNear(0.0602, 6e-5), DoubleNear(0.0699, 6e-5), DoubleNear(0.7801, 6e-5)));
+  EXPECT_THAT(
+      scene.Position("RightHand", 300),
+      ElementsAre(DoubleNear(-0.1953, 6e-5), DoubleNear(0.7120, 6e-5), DoubleNear(0.7291, 6e-5)));
 }
 
 // --- The module ---

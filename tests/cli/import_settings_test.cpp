@@ -95,7 +95,7 @@ TEST_F(ImportSettingsTest, ApplyIsStoredAndDisablesTheControlsOfTheNextRun) {
   EXPECT_EQ(result.status, 2);
   EXPECT_EQ(result.error,
             "orvane: --segment-size: the dialog has this control disabled while \"Apply\" is "
-            "chosen\n");
+            "chosen; --create enables it\n");
   EXPECT_EQ(ImportAsUser({"--create", "--segment-size", "2"}).status, 0);
   EXPECT_EQ(Stored("Apply"), std::string(1, '\0'));
 }

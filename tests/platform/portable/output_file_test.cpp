@@ -1,0 +1,87 @@
+#include "platform/output_file.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "tests/support/files.h"
+#include "tests/support/temporary_folder.h"
+
+namespace {
+
+using platform::OutputFile;
+using test::NamesIn;
+using test::ReadFile;
+using test::WriteFile;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::SizeIs;
+
+class OutputFileTest : public testing::Test {
+ protected:
+  test::TemporaryFolder folder_;
+  const std::string path_ = folder_.File("scene.glb");
+};
+
+TEST_F(OutputFileTest, AppearsOnDelivery) {
+  OutputFile file(path_, false);
+  EXPECT_EQ(file.WhyImpossible(), "");
+  EXPECT_EQ(file.Write("bytes"), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), SizeIs(1));
+  EXPECT_FALSE(std::filesystem::exists(path_));
+  EXPECT_EQ(file.Deliver(), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+  EXPECT_EQ(ReadFile(path_), "bytes");
+}
+
+TEST_F(OutputFileTest, LeavesNothingWhenItIsNotDelivered) {
+  {
+    OutputFile file(path_, false);
+    EXPECT_EQ(file.Write("bytes"), "");
+  }
+  EXPECT_THAT(NamesIn(folder_.Path()), IsEmpty());
+}
+
+TEST_F(OutputFileTest, KeepsAFileThatAppearsBeforeDelivery) {
+  {
+    OutputFile file(path_, false);
+    EXPECT_FALSE(file.IsTaken());
+    EXPECT_EQ(file.Write("bytes"), "");
+    WriteFile(path_, "somebody else's");
+    EXPECT_EQ(file.Deliver(), "File exists");
+    EXPECT_TRUE(file.IsTaken());
+  }
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+  EXPECT_EQ(ReadFile(path_), "somebody else's");
+}
+
+TEST_F(OutputFileTest, ReplacesAnExistingFileOnlyOnDelivery) {
+  WriteFile(path_, "old");
+  OutputFile file(path_, true);
+  EXPECT_FALSE(file.IsTaken());
+  EXPECT_EQ(file.WhyImpossible(), "");
+  EXPECT_EQ(file.Write("new"), "");
+  EXPECT_EQ(ReadFile(path_), "old");
+  EXPECT_EQ(file.Deliver(), "");
+  EXPECT_EQ(ReadFile(path_), "new");
+}
+
+TEST_F(OutputFileTest, TwoAtATimeDoNotMeet) {
+  OutputFile first(path_, true);
+  OutputFile second(path_, true);
+  EXPECT_EQ(first.Write("first"), "");
+  EXPECT_EQ(second.Write("second"), "");
+  EXPECT_EQ(second.Deliver(), "");
+  EXPECT_EQ(first.Deliver(), "");
+  EXPECT_EQ(ReadFile(path_), "first");
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+}
+
+TEST_F(OutputFileTest, AFolderThatGoesMeanwhileIsAnError) {
+  const std::string inner = folder_.File("inner");
+  std::filesystem::create_directory(inner);
+  OutputFile file(inner + "/scene.glb", false);
+  std::filesystem::remove(inner);
+  EXPECT_EQ(file.Write("bytes"), "No such file or directory");
+}
+
+}  // namespace
