@@ -5,8 +5,10 @@
 #include <string_view>
 #include <vector>
 
-// Writes JSON as it comes, so that a document of any size needs no memory. The caller opens and
-// closes what it writes in the right order; commas and line breaks come by themselves.
+// Writes JSON as it comes, so that a document of any size needs no memory, with every number in its
+// shortest form; the JSON library builds a tree first and does not always find that form. The
+// caller opens and closes what it writes in the right order; commas and line breaks come by
+// themselves.
 
 namespace cli {
 
