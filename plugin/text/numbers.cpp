@@ -83,7 +83,7 @@ bool IsHuge(const char* first, const char* last) {
   std::int64_t exponent = 0;
   const std::errc error = std::from_chars(cursor, last, exponent).ec;
   if (error == std::errc::result_out_of_range) return !negative;
-  return (negative ? -exponent : exponent) + magnitude > 0;
+  return negative ? magnitude > exponent : exponent > -magnitude;  // a sum could overflow
 }
 
 LeadingDouble ReadAnyDecimal(const char* first, const char* last) {

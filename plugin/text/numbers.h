@@ -33,9 +33,8 @@ LeadingDouble ReadDouble(const char* first, const char* last);
 // `value` as "%d" prints it.
 std::string FormatInt(std::int64_t value);
 
-// `value` in fixed notation with `decimals` (0 to 20) digits behind the point, correctly rounded,
-// as
-// "%.nf" prints it; the default is that of "%f".
+// `value` as "%.nf" prints it: in fixed notation with `decimals` (0 to 20) digits behind the point,
+// correctly rounded. The default is that of "%f".
 std::string FormatDouble(double value, int decimals = 6);
 
 // `value` in the shortest form that reads back as the same value, with an exponent where that is

@@ -107,7 +107,8 @@ TEST(ParseDouble, OverflowsToInfinity) {
   for (const std::string& text :
        {std::string("1e999"), std::string("1e309"), std::string("1.7976931348623159e308"), many,
         many + ".5", "0." + std::string(400, '0') + "1e800", many + "e-50",
-        std::string("1e99999999999999999999"), std::string("0.001e99999999999999999999")}) {
+        std::string("1e99999999999999999999"), std::string("0.001e99999999999999999999"),
+        std::string("1e9223372036854775807"), std::string("0.01e9223372036854775807")}) {
     EXPECT_EQ(ParseDouble(text), kInfinity) << text;
     EXPECT_EQ(ParseDouble("-" + text), -kInfinity) << text;
   }
@@ -118,7 +119,8 @@ TEST(ParseDouble, UnderflowsToZeroWithTheSignWritten) {
   for (const std::string& text :
        {std::string("1e-999"), "0." + zeros + "1", "1" + zeros + "e-800",
         std::string("2.4703282292062327e-324"), std::string("1e-99999999999999999999"),
-        std::string("100e-99999999999999999999")}) {
+        std::string("100e-99999999999999999999"), std::string("100e-9223372036854775807"),
+        std::string("0.01e-9223372036854775807")}) {
     EXPECT_EQ(ParseDouble(text), 0.0) << text;
     EXPECT_TRUE(std::signbit(ParseDouble("-" + text))) << text;
   }
@@ -207,6 +209,17 @@ TEST(ParseDouble, AgreesWithTheStandardLibraryOnHugeMantissas) {
   }
 }
 
+// Texts that nobody would write, most of them torn: signs, points and exponents anywhere.
+TEST(ParseDouble, AgreesWithTheStandardLibraryOnTornNumbers) {
+  std::mt19937_64 random(20240605);
+  const std::string_view characters = "012345678901234567890123456789..eE+-";
+  for (int round = 0; round < 50000; ++round) {
+    std::string text(1 + random() % 24, ' ');
+    for (char& character : text) character = characters[random() % characters.size()];
+    ExpectLikeTheStandardLibrary(text);
+  }
+}
+
 struct EndCase {
   std::string_view text;
   double value;
@@ -276,6 +289,42 @@ TEST(FormatDouble, AgreesWithTheStandardLibrary) {
     char text[400];
     std::snprintf(text, sizeof text, "%.*f", count, value);
     ASSERT_EQ(FormatDouble(value, count), text);
+  }
+}
+
+struct ShortestCase {
+  double value;
+  std::string_view text;
+};
+
+TEST(FormatShortest, TakesTheFewestCharacters) {
+  const std::vector<ShortestCase> cases = {
+      {0.0, "0"},
+      {-0.0, "-0"},
+      {1.0, "1"},
+      {-1.5, "-1.5"},
+      {0.1, "0.1"},
+      {1e22, "1e+22"},
+      {1e-7, "1e-07"},
+      {1.0 / 3.0, "0.3333333333333333"},
+      {100.0, "100"},
+      {123456.0, "123456"},
+      {kInfinity, "inf"},
+      {-kInfinity, "-inf"},
+      {-std::numeric_limits<double>::min(), "-2.2250738585072014e-308"},
+      {std::numeric_limits<double>::denorm_min(), "5e-324"},
+  };
+  for (const ShortestCase& c : cases) EXPECT_EQ(FormatShortest(c.value), c.text);
+}
+
+TEST(FormatShortest, ReadsBackAsTheSameValue) {
+  std::mt19937_64 random(20240606);
+  for (int round = 0; round < 20000; ++round) {
+    const double value = std::bit_cast<double>(random());
+    if (!std::isfinite(value)) continue;
+    const std::string text = FormatShortest(value);
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(ParseDouble(text)), std::bit_cast<std::uint64_t>(value))
+        << text;
   }
 }
 
