@@ -33,6 +33,8 @@ std::optional<std::string> ReadAll(std::ifstream& stream, std::size_t expected_s
 
 }  // namespace
 
+// Intended: only the place of the full stop counts, so that "walk.txt" is opened as it is and
+// "walk.html" is not.
 std::string WithExtension(std::string_view name, std::string_view extension) {
   std::string result(name);
   const bool has_extension =
