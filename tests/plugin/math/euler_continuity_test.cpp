@@ -46,6 +46,14 @@ TEST(EulerContinuity, TreatsEachAngleOnItsOwn) {
   EXPECT_EQ(result.order().code(), 0u);
 }
 
+TEST(EulerContinuity, ComparesEachAngleWithThePreviousOneOfTheSameAxis) {
+  const EulerRotation result =
+      ContinueEulerRotation(EulerRotation(0.1, 0.5, -0.5), EulerRotation(0, 7, -13));
+  EXPECT_EQ(result[0], 0.1);
+  EXPECT_EQ(result[1], 0.5 + kTwoPi);
+  EXPECT_EQ(result[2], -0.5 - kTwoPi - kTwoPi);
+}
+
 TEST(EulerContinuity, LeavesItsArgumentsAlone) {
   const EulerRotation current(3.5, 0, 0);
   const EulerRotation previous;

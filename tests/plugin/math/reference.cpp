@@ -66,6 +66,32 @@ Matrix FromAngles(const Convention& convention, double x, double y, double z) {
   return Product(Product(third, second), first);
 }
 
+namespace {
+
+Components TurnAbout(char axis, double angle_rad) {
+  Components turn = {0, 0, 0, std::cos(angle_rad / 2)};
+  turn[static_cast<std::size_t>(axis - 'X')] = std::sin(angle_rad / 2);
+  return turn;
+}
+
+// Hamilton's product: `right` is applied first.
+Components Product(const Components& left, const Components& right) {
+  const auto& [a, b, c, d] = left;
+  const auto& [x, y, z, w] = right;
+  return {d * x + a * w + b * z - c * y, d * y - a * z + b * w + c * x,
+          d * z + a * y - b * x + c * w, d * w - a * x - b * y - c * z};
+}
+
+}  // namespace
+
+Components QuaternionFromAngles(const Convention& convention, double x, double y, double z) {
+  const Components first = TurnAbout(convention.axes[0], x);
+  const Components second = TurnAbout(convention.axes[1], y);
+  const Components third = TurnAbout(convention.axes[2], z);
+  if (convention.rotating) return Product(Product(first, second), third);
+  return Product(Product(third, second), first);
+}
+
 void ExpectNear(const Matrix& actual, const Matrix& expected) {
   for (std::size_t row = 0; row < 3; ++row) {
     for (std::size_t column = 0; column < 3; ++column) {
@@ -73,6 +99,13 @@ void ExpectNear(const Matrix& actual, const Matrix& expected) {
           << "row " << row << ", column " << column;
     }
   }
+}
+
+void ExpectNear(const Quaternion& actual, const Components& expected) {
+  EXPECT_NEAR(actual.x(), expected[0], test::kRotationElement);
+  EXPECT_NEAR(actual.y(), expected[1], test::kRotationElement);
+  EXPECT_NEAR(actual.z(), expected[2], test::kRotationElement);
+  EXPECT_NEAR(actual.w(), expected[3], test::kRotationElement);
 }
 
 }  // namespace orvane::reference

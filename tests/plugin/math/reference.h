@@ -30,7 +30,12 @@ extern const std::array<Convention, 24> kConventions;
 // The rotation that the convention gives three angles.
 Matrix FromAngles(const Convention& convention, double x, double y, double z);
 
+// The same as a quaternion, with the sign that the product of its three turns has: x, y, z, w.
+using Components = std::array<double, 4>;
+Components QuaternionFromAngles(const Convention& convention, double x, double y, double z);
+
 // Fails the test when an element differs by more than rounding.
 void ExpectNear(const Matrix& actual, const Matrix& expected);
+void ExpectNear(const Quaternion& actual, const Components& expected);
 
 }  // namespace orvane::reference

@@ -64,6 +64,19 @@ TEST(RotationMatrix3, ProductMultipliesRowsByColumns) {
   ExpectRows(Counting() * doubled, {{{2, 12, 28}, {4, 15, 32}, {6, 18, 36}}});
 }
 
+// Every sum runs from the first term to the last: in any other order these lose the 1.
+TEST(RotationMatrix3, ProductAddsItsTermsInTheirOrder) {
+  RotationMatrix3 left, right;
+  for (unsigned int index = 0; index < 3; ++index) {
+    left[0][index] = left[1][index] = left[2][index] = 1;
+    right[index] = Vector3(1e16, -1e16, 1);
+  }
+  const RotationMatrix3 product = left * right;
+  for (unsigned int vector = 0; vector < 3; ++vector) {
+    for (unsigned int index = 0; index < 3; ++index) EXPECT_EQ(product[vector][index], 1.0);
+  }
+}
+
 TEST(RotationMatrix3, ProductWithTheIdentityIsTheOtherOperand) {
   const RotationMatrix3 matrix(EulerRotation(0.3, -0.7, 2.1));
   for (const RotationMatrix3& product : {matrix * RotationMatrix3(), RotationMatrix3() * matrix}) {

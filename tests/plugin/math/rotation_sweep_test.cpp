@@ -26,19 +26,33 @@ class Rotations : public ::testing::TestWithParam<Convention> {
     const RotationMatrix3 matrix(euler);
     reference::ExpectNear(reference::Of(matrix), expected);
     reference::ExpectNear(reference::Of(Quaternion(euler)), expected);
+    reference::ExpectNear(Quaternion(euler), reference::QuaternionFromAngles(GetParam(), x, y, z));
     reference::ExpectNear(reference::Of(Quaternion(matrix)), expected);
 
     EulerRotation back(0, 0, 0, order);
     back.Set(matrix);
     reference::ExpectNear(reference::Of(RotationMatrix3(back)), expected);
     for (unsigned int index = 0; index < 3; ++index) EXPECT_LE(std::abs(back[index]), kPi);
+    ExpectPrincipalAngles(back);
 
     const EulerRotation reordered = EulerRotation().Set(euler);
     reference::ExpectNear(reference::Of(RotationMatrix3(reordered)), expected);
     ++checked_;
   }
 
+  // Of the two triples that give a rotation, the one with the middle angle in its own half; where
+  // the outer axes coincide, the whole rotation about them in one angle.
+  void ExpectPrincipalAngles(const EulerRotation& angles) {
+    const OrvaneEulerOrder::Axes axes = angles.order().Decode();
+    const double middle = axes.odd_parity ? -angles[1] : angles[1];
+    const double leaning = axes.repeats_first_axis ? std::sin(middle) : std::cos(middle);
+    EXPECT_GE(leaning, 0.0);
+    if (leaning > kDegenerate) return;
+    EXPECT_EQ(angles[axes.rotating_frame ? 0 : 2], 0.0);
+  }
+
   static constexpr double kPi = 3.141592653589793;
+  static constexpr double kDegenerate = 1e-6;  // well below where the axes count as one
   int checked_ = 0;
 };
 
