@@ -17,7 +17,7 @@ void Scale(Vector3& vector, double factor) {
 
 void HtrSegment::SetName(std::string name) {
   name_ = std::move(name);
-  if (names_changed_.flag != nullptr) *names_changed_.flag = true;
+  names_changed_.Raise();
 }
 
 void HtrSegment::SetParent(HtrSegment* parent) {

@@ -82,12 +82,19 @@ class HtrSegment {
  private:
   friend class HtrDocument;
 
-  // The owning document's flag that its names have changed. A copy of a segment is in no document.
+  // The owning document's flag that its names have changed. A copy of a segment is in no document;
+  // one that is overwritten stays in its own, with another name.
   struct NamesChangedFlag {
     NamesChangedFlag() = default;
     NamesChangedFlag(const NamesChangedFlag&) {}
     // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
-    NamesChangedFlag& operator=(const NamesChangedFlag&) { return *this; }
+    NamesChangedFlag& operator=(const NamesChangedFlag&) {
+      Raise();
+      return *this;
+    }
+    void Raise() {
+      if (flag != nullptr) *flag = true;
+    }
     bool* flag = nullptr;
   };
 

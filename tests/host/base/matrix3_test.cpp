@@ -72,6 +72,9 @@ TEST(Matrix3, ProductsAreRoundedOnce) {
   const Matrix3 first({16777216.0F, 1.0F, -16777216.0F}, {0, 1, 0}, {0, 0, 1}, {0, 0, 0});
   const Matrix3 second({1, 0, 0}, {1, 0, 0}, {1, 0, 0}, {0, 0, 0});
   EXPECT_EQ((first * second).GetRow(0).x, 1.0F);
+  const Matrix3 moved({1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {16777216.0F, 1.0F, 0});
+  const Matrix3 back({1, 0, 0}, {1, 0, 0}, {0, 0, 1}, {-16777216.0F, 0, 0});
+  EXPECT_EQ((moved * back).GetRow(3).x, 1.0F);
 }
 
 TEST(Inverse, UndoesATransform) {
@@ -91,6 +94,26 @@ TEST(Inverse, IsExactWhereNumbersAre) {
   EXPECT_EQ(Inverse(Translation(1, 2, 3)), Translation(-1, -2, -3));
   EXPECT_EQ(Inverse(Matrix3({2, 0, 0}, {0, 4, 0}, {0, 0, 0.5F}, {2, 4, 8})),
             Matrix3({0.5F, 0, 0}, {0, 0.25F, 0}, {0, 0, 2}, {-1, -1, -16}));
+}
+
+TEST(Inverse, IsRoundedOnce) {
+  std::mt19937 random(7);
+  std::uniform_real_distribution<float> number(-1.0F, 1.0F);
+  for (int i = 0; i < 200; ++i) {
+    const double a = 2.0F + number(random);
+    const double b = 3.0F + number(random);
+    const double c = number(random);
+    const double x = number(random);
+    // Rows (a, c, 0), (0, b, 0), (0, 0, 1): few enough numbers to invert by hand.
+    const Matrix3 matrix({static_cast<float>(a), static_cast<float>(c), 0},
+                         {0, static_cast<float>(b), 0}, {0, 0, 1}, {static_cast<float>(x), 0, 0});
+    const Matrix3 inverse = Inverse(matrix);
+    EXPECT_EQ(inverse.GetRow(0).x, static_cast<float>(1.0 / a));
+    EXPECT_EQ(inverse.GetRow(0).y, static_cast<float>(-c / (a * b)));
+    EXPECT_EQ(inverse.GetRow(1).y, static_cast<float>(1.0 / b));
+    EXPECT_EQ(inverse.GetRow(3).x, static_cast<float>(-x / a));
+    EXPECT_EQ(inverse.GetRow(3).y, static_cast<float>(x * c / (a * b)));
+  }
 }
 
 TEST(Inverse, InvertsTheVerySmallAndTheVeryLarge) {
@@ -139,6 +162,15 @@ TEST(DecomposeMatrix, NegatesAllOfAMirroredScale) {
   ExpectSameRotation(parts.rotation, Turn(1, 0, 0, 180));
   ExpectNear(host::ComposeMatrix(parts.position, parts.rotation, parts.scale), mirrored,
              test::kSingleElement);
+}
+
+// In single precision the squares of these lengths would be 0 or infinite.
+TEST(DecomposeMatrix, TakesTheVerySmallAndTheVeryLargeApart) {
+  for (const float size : {1e-30F, 1e30F}) {
+    const Parts parts = Decomposed(Matrix3({0, size, 0}, {-size, 0, 0}, {0, 0, size}, {0, 0, 0}));
+    EXPECT_EQ(parts.scale, Point3(size, size, size));
+    ExpectSameRotation(parts.rotation, Turn(0, 0, 1, 90));
+  }
 }
 
 TEST(DecomposeMatrix, ReplacesAZeroRowByTheIdentitys) {

@@ -79,6 +79,7 @@ TEST(HtrDocument, RefusesANameWithABlank) {
   EXPECT_EQ(document.AddSegment(HtrSegment("Left Leg")), nullptr);
   EXPECT_EQ(document.AddSegment(HtrSegment(" ")), nullptr);
   EXPECT_EQ(document.GetNumSegments(), 0);
+  EXPECT_NE(document.AddSegment(HtrSegment("Left\tLeg")), nullptr) << "a tab is no blank";
 }
 
 TEST(HtrDocument, KeepsTheAddressesOfItsSegments) {
@@ -120,6 +121,14 @@ TEST(HtrDocument, FindsTheFirstOfSegmentsThatWereRenamedAlike) {
   second->SetName("c");
   first->SetName("c");
   EXPECT_EQ(document.FindSegment("c"), first);
+}
+
+TEST(HtrDocument, FindsASegmentThatWasOverwrittenByItsNewName) {
+  HtrDocument document;
+  HtrSegment* hips = document.AddSegment(HtrSegment("Hips"));
+  *hips = HtrSegment("A name that is too long to be kept in place");
+  EXPECT_EQ(document.FindSegment("A name that is too long to be kept in place"), hips);
+  EXPECT_EQ(document.FindSegment("Hips"), nullptr);
 }
 
 TEST(HtrDocument, IsNotBotheredByTheNamesOfCopies) {

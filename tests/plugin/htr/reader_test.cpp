@@ -414,6 +414,13 @@ TEST_F(HtrReader, TakesTheFirstFrameNumberOfTheFileAsTheStart) {
   EXPECT_EQ(document_.GetStartFrame(), -5);
 }
 
+TEST_F(HtrReader, TakesTheStartFromTheFirstSegmentAlone) {
+  ASSERT_EQ(Read(Lines{"[SegmentNames&Hierarchy]", "a GLOBAL", "b a", "[a]", "4 0 0 0 0 0 0 1",
+                       "[b]", "9 0 0 0 0 0 0 1"}),
+            "");
+  EXPECT_EQ(document_.GetStartFrame(), 4);
+}
+
 TEST_F(HtrReader, StoresFramesInTheOrderOfTheirLines) {
   ASSERT_EQ(Read(OneBoneAnd({"[Hips]", "3 1 0 0 0 0 0 1", "1 2 0 0 0 0 0 1", "[Other]", "[Hips]",
                              "2 3 0 0 0 0 0 1"})),

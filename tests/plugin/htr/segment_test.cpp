@@ -196,6 +196,22 @@ TEST(HtrFrameOrientation, AppliesTheFramesRotationBeforeTheBases) {
   EXPECT_NEAR(matrix.Element(1, 0), 1.0, test::kRotationElement);
 }
 
+TEST(HtrFrameOrientation, ReadsTheFramesOwnOrderAndAnswersInTheDefaultOne) {
+  HtrSegment segment;
+  const EulerRotation rotation(0.1, 0.2, 0.3, OrvaneEulerOrder(20));
+  segment.AddFrame(Vector3(), rotation, 1);
+  const EulerRotation orientation = segment.GetFrameOrientation(0);
+  EXPECT_EQ(orientation.order().code(), 0u);
+  const RotationMatrix3 actual(orientation);
+  const RotationMatrix3 expected(rotation);
+  for (unsigned int column = 0; column < 3; ++column) {
+    for (unsigned int row = 0; row < 3; ++row) {
+      EXPECT_NEAR(actual.Element(row, column), expected.Element(row, column),
+                  test::kRotationElement);
+    }
+  }
+}
+
 TEST(HtrFrameOrientation, IsTheFramesRotationOnAZeroBase) {
   HtrSegment segment;
   segment.AddFrame(Vector3(), Vector3(0.1, -0.2, 3.0), 1);
