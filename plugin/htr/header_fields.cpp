@@ -71,6 +71,7 @@ std::string ReadRotationUnits(const Field& field) {
   return {};
 }
 
+// Intended: only X is refused; an unknown word passes as Y.
 std::string ReadGlobalAxisofGravity(const Field& field) {
   field.oddities.ReportIf(!FindAxis(field.value), HtrOddity::kUnknownAxis, field.value);
   const std::uint32_t axis = ParseAxis(field.value);

@@ -32,6 +32,7 @@ constexpr std::size_t kMostFramesReserved = 1 << 16;
 // byte of the file, no more are made: a file of such sections alone would fill the memory.
 constexpr std::size_t kLinksAlwaysMade = 1 << 20;
 
+// Intended: these four spellings only; any other is the name of a segment.
 bool IsEndOfFile(std::string_view name) {
   return name == "EndOfFile" || name == "EndofFile" || name == "ENDOFFILE" || name == "endoffile";
 }
@@ -149,6 +150,7 @@ void HtrReader::EnterBasePosition() {
   oddities_.ReportIf(links_made_ == 0 && document_.GetNumSegments() != segments_awaited_,
                      HtrOddity::kSegmentCountMismatch, kBasePositionSection);
   LinkHierarchy();
+  // Intended: never set back, not even by a header in between that says radians.
   if (document_.GetRotationUnits() == kDegrees) angle_factor_ = kRadiansPerDegree;
 }
 
@@ -165,6 +167,7 @@ void HtrReader::LinkHierarchy() {
       segment.SetIsRoot(true);
       continue;
     }
+    // Intended: an unknown parent counts as none, without a message.
     HtrSegment* parent = document_.FindSegment(name);
     oddities_.ReportIf(parent == nullptr, HtrOddity::kParentNotFound, name);
     segment.SetParent(parent);
@@ -235,6 +238,7 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
   segment->SetBaseTranslation(translation.x(), translation.y(), translation.z());
   segment->SetBaseRotation(angles.x(), angles.y(), angles.z());
   segment->SetBoneLength(cells.Take());
+  // Intended: base positions are what is counted, not the lines of the hierarchy.
   --segments_awaited_;
   return {};
 }
@@ -252,6 +256,7 @@ void HtrReader::ReadMotionLine(std::string_view line) {
 // held, so that room grows with the file and not with what it announces.
 void HtrReader::ReserveFor(std::int32_t frame_number) {
   if (!first_frame_read_) {
+    // Intended: of all frame numbers in a file only this one counts.
     first_frame_read_ = true;
     document_.SetStartFrame(frame_number);
     segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
