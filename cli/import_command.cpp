@@ -3,8 +3,10 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "cli/choice.h"
+#include "cli/frame_counts.h"
 #include "cli/import_htr_flags.h"
 #include "cli/import_summary.h"
 #include "cli/input.h"
@@ -53,6 +55,16 @@ std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>
   return complaints;
 }
 
+// Before the plug-in starts on what the header announces.
+void AddFrameCounts(const std::string& file, const std::vector<ControlWish>& wishes,
+                    std::vector<Complaint>& complaints) {
+  const std::optional<FrameCounts> counts = CountFrames(file);
+  StopIfInterrupted();
+  if (!counts) return;
+  const std::optional<Complaint> difference = CompareFrameCounts(file, *counts, wishes);
+  if (difference) complaints.push_back(*difference);
+}
+
 void AddMessages(const std::string& file, const PluginSession& session,
                  std::vector<Complaint>& complaints) {
   for (const std::string& text : session.Messages()) {
@@ -87,6 +99,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   session.scene().SetMillimetersPerUnit(arguments.millimeters_per_unit);
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
+  AddFrameCounts(input, arguments.wishes, complaints);
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
   const bool carried_out = session.ImportHtr(input, AllWishes(arguments), show_progress);
   StopIfInterrupted();

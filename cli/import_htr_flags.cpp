@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/choice.h"
+#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {
@@ -115,6 +116,14 @@ void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
             [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
 }
 
+// What `wishes` type into `control`; null when they do not.
+const std::string* TypedText(const Wishes& wishes, int control) {
+  const auto wish = std::find_if(wishes.begin(), wishes.end(), [control](const ControlWish& each) {
+    return each.control == control;
+  });
+  return wish == wishes.end() ? nullptr : &wish->text;
+}
+
 }  // namespace
 
 void AddImportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
@@ -129,6 +138,13 @@ ControlWish FrameRateFromFile() { return FrameRate("file"); }
 bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
   return std::any_of(wishes.begin(), wishes.end(),
                      [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
+}
+
+std::optional<std::int64_t> FramesInRange(const std::vector<ControlWish>& wishes) {
+  const std::string* from = TypedText(wishes, kFrom);
+  const std::string* to = TypedText(wishes, kTo);
+  if (from == nullptr || to == nullptr) return std::nullopt;
+  return std::int64_t{orvane::ParseInt(*to)} - orvane::ParseInt(*from) + 1;
 }
 
 }  // namespace cli

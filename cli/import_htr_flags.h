@@ -1,6 +1,8 @@
 #pragma once
 
 #include <CLI/CLI.hpp>
+#include <cstdint>
+#include <optional>
 #include <vector>
 
 #include "cli/dialog_user.h"
@@ -20,5 +22,8 @@ ControlWish FrameRateFromFile();
 
 // Whether `wishes` say anything of the scene's frame rate.
 bool MentionFrameRate(const std::vector<ControlWish>& wishes);
+
+// How many frames "--range" takes, as the dialog will read its numbers; nothing without it.
+std::optional<std::int64_t> FramesInRange(const std::vector<ControlWish>& wishes);
 
 }  // namespace cli

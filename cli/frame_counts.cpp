@@ -1,0 +1,71 @@
+#include "cli/frame_counts.h"
+
+#include <algorithm>
+
+#include "cli/import_htr_flags.h"
+#include "plugin/htr/reader.h"
+#include "plugin/text/numbers.h"
+
+namespace cli {
+namespace {
+
+using orvane::FormatInt;
+
+// A header may promise this many frames, and this many times what the file holds: the work stays
+// small, or in proportion.
+constexpr std::int64_t kAlwaysAllowed = 100'000;
+constexpr std::int64_t kTimesHeld = 10;
+
+bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
+  return frames > kAlwaysAllowed && frames > kTimesHeld * counts.most_held;
+}
+
+std::string Frames(std::int64_t count) {
+  return FormatInt(count) + (count == 1 ? " frame" : " frames");
+}
+
+std::string Held(const FrameCounts& counts) {
+  if (counts.most_held == 0) return "the file holds none";
+  if (counts.fewest_held == counts.most_held)
+    return "the file holds " + FormatInt(counts.most_held);
+  return "its segments hold " + FormatInt(counts.fewest_held) + " to " +
+         FormatInt(counts.most_held);
+}
+
+std::string Difference(const FrameCounts& counts) {
+  return "The header announces " + Frames(counts.announced) + ", but " + Held(counts);
+}
+
+}  // namespace
+
+std::optional<FrameCounts> CountFrames(const std::string& file) {
+  orvane::HtrDocument document;
+  if (!orvane::ReadHtrFile(document, file, true).empty()) return std::nullopt;
+  const auto& segments = document.segments();
+  if (segments.empty()) return std::nullopt;
+  const auto [fewest, most] =
+      std::minmax_element(segments.begin(), segments.end(),
+                          [](const orvane::HtrSegment& left, const orvane::HtrSegment& right) {
+                            return left.GetNumFrames() < right.GetNumFrames();
+                          });
+  return FrameCounts{document.GetNumFrames(), static_cast<std::int64_t>(fewest->GetNumFrames()),
+                     static_cast<std::int64_t>(most->GetNumFrames())};
+}
+
+std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
+                                            const std::vector<ControlWish>& wishes) {
+  if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
+    throw Failure{ExitStatus::kRefused,
+                  {{file, Difference(counts), "--range FROM:TO imports a part of them."}}};
+  }
+  if (counts.announced > counts.fewest_held) {
+    return Complaint{file, Difference(counts),
+                     "Missing frames are set to zero; --range FROM:TO leaves them out."};
+  }
+  if (counts.announced < counts.most_held) {
+    return Complaint{file, Difference(counts), "Only the announced frames are imported."};
+  }
+  return std::nullopt;
+}
+
+}  // namespace cli

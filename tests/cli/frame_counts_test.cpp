@@ -1,0 +1,124 @@
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::Replaced;
+using test::SmallMotion;
+using testing::ElementsAre;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class FrameCountsTest : public test::OrvaneTest {
+ protected:
+  // Imports a file that holds 3 frames and announces `count`.
+  ProgramResult Import(const std::string& count, const std::vector<std::string>& flags = {}) const {
+    Write("walk.htr", Replaced(SmallMotion(), "NumFrames 3", "NumFrames " + count));
+    return ImportFile(flags);
+  }
+
+  ProgramResult ImportFile(const std::vector<std::string>& flags = {}) const {
+    std::vector<std::string> arguments = {"import", "walk.htr", "-o", "walk.glb", "--quiet"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+};
+
+constexpr char kMissing[] = "  Missing frames are set to zero; --range FROM:TO leaves them out.\n";
+
+TEST_F(FrameCountsTest, NothingIsSaidWhenTheyAgree) {
+  const ProgramResult result = Import("3");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(FrameCountsTest, MoreAnnouncedThanHeldIsAWarning) {
+  const ProgramResult result = Import("4");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            std::string("orvane: walk.htr: The header announces 4 frames, but the file holds 3\n") +
+                kMissing);
+  EXPECT_TRUE(Exists("walk.glb"));
+}
+
+TEST_F(FrameCountsTest, FewerAnnouncedThanHeldIsAWarning) {
+  const ProgramResult result = Import("2");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: The header announces 2 frames, but the file holds 3\n"
+            "  Only the announced frames are imported.\n");
+}
+
+TEST_F(FrameCountsTest, SegmentsThatDifferAreAWarning) {
+  Write("walk.htr", Replaced(SmallMotion(), "3 0 0 0 10 0 0 1\n", ""));
+  const ProgramResult result = ImportFile();
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            std::string(
+                "orvane: walk.htr: The header announces 3 frames, but its segments hold 2 to 3\n") +
+                kMissing);
+}
+
+TEST_F(FrameCountsTest, WithStrictTheWarningIsARefusal) {
+  const ProgramResult result = Import("4", {"--strict"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, testing::EndsWith("nothing was written because of this\n"));
+  EXPECT_THAT(Names(), ElementsAre("walk.htr"));
+}
+
+TEST_F(FrameCountsTest, WhenThePlugInRefusesTheyAreToldFirst) {
+  const ProgramResult result = Import("4", {"--segment-size", "0"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(
+      result.error,
+      StartsWith("orvane: walk.htr: The header announces 4 frames, but the file holds 3\n"));
+  EXPECT_THAT(result.error, testing::HasSubstr("non-zero size"));
+}
+
+// The hurried module would end the run in its own way if it were asked.
+TEST_F(FrameCountsTest, FarMoreAnnouncedThanHeldIsRefusedBeforeThePlugInIsAsked) {
+  for (const char* count : {"100001", "2147483647"}) {
+    const ProgramResult result = Import(count, {"--module", test::HurriedModule()});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.output, IsEmpty());
+    EXPECT_EQ(result.error, "orvane: walk.htr: The header announces " + std::string(count) +
+                                " frames, but the file holds 3\n"
+                                "  --range FROM:TO imports a part of them.\n");
+    EXPECT_THAT(Names(), ElementsAre("walk.htr"));
+  }
+}
+
+TEST_F(FrameCountsTest, AHundredThousandMayAlwaysBeAnnounced) {
+  const ProgramResult result = Import("100000");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, testing::EndsWith(kMissing));
+}
+
+TEST_F(FrameCountsTest, ARangeBoundsTheWork) {
+  const ProgramResult result = Import("2147483647", {"--range", "1:3"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            std::string("orvane: walk.htr: The header announces 2147483647 frames, but the file "
+                        "holds 3\n") +
+                kMissing);
+}
+
+TEST_F(FrameCountsTest, ARangeThatIsAsWideBoundsNothing) {
+  EXPECT_EQ(Import("2147483647", {"--range", "1:2147483646"}).status, 1);
+}
+
+TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {
+  std::string frames;
+  for (int i = 0; i < 10'001; ++i) frames += "1 0 0 0 0 0 0 1\n";
+  const std::string file = Replaced(SmallMotion(), "[Hips]\n", "[Hips]\n" + frames);
+  Write("walk.htr", Replaced(file, "NumFrames 3", "NumFrames 100040"));
+  EXPECT_EQ(ImportFile().status, 0);
+  Write("walk.htr", Replaced(file, "NumFrames 3", "NumFrames 100041"));
+  const ProgramResult result = ImportFile({"--force"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              StartsWith("orvane: walk.htr: The header announces 100041 frames, but its segments "
+                         "hold 3 to 10004\n"));
+}
+
+}  // namespace
