@@ -90,6 +90,10 @@ class Keys {
 
   // Moves the gap, which may be closed, to before key number `i`.
   void MoveGapTo(std::size_t i) {
+    if (gap_begin_ == gap_end_) {
+      gap_begin_ = gap_end_ = i;
+      return;
+    }
     const auto slot = [this](std::size_t n) {
       return buffer_.begin() + static_cast<std::ptrdiff_t>(n);
     };
