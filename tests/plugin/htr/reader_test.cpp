@@ -218,6 +218,14 @@ TEST_F(HtrReader, TakesASectionLineWithoutItsClosingBracket) {
             "The file does not have a compatible \"FileVersion\" header state");
 }
 
+// Only a comment or a line end takes the blanks before it along.
+TEST_F(HtrReader, KeepsTheBlanksBeforeANulInASectionsName) {
+  const std::string nul(1, '\0');
+  EXPECT_EQ(Read("[Header" + nul + "\nFileVersion 9\n"),
+            "The file does not have a compatible \"FileVersion\" header state");
+  EXPECT_EQ(Read("[Header " + nul + "\nFileVersion 9\n"), "");
+}
+
 TEST_F(HtrReader, SeesASectionOnlyAtTheStartOfALine) {
   ASSERT_EQ(Read(Lines{"[SegmentNames&Hierarchy]", " [Header] GLOBAL"}), "");
   EXPECT_NE(document_.FindSegment("[Header]"), nullptr);
