@@ -232,8 +232,8 @@ TEST_F(ImportFlagsTest, StrictDoesNotMindACleanFile) {
 // --- Real files ---
 
 TEST_F(ImportFlagsTest, TheExampleIsImported) {
-  const ProgramResult result =
-      Orvane({"import", ORVANE_SOURCE_DIR "/examples/walk.htr", "-o", "walk.glb", "--strict"});
+  const std::string file = ORVANE_SOURCE_DIR "/examples/walk.htr";
+  const ProgramResult result = Orvane({"import", file, "-o", "walk.glb", "--strict"});
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(SceneFile(folder_.File("walk.glb")).KeyTimes("LeftFoot"), SizeIs(120));
 }

@@ -6,7 +6,6 @@ using test::ProgramResult;
 using test::ProgramRun;
 using testing::AllOf;
 using testing::EndsWith;
-using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::StartsWith;
@@ -29,7 +28,8 @@ TEST_F(TerminalTest, ProgressIsALineWithPercentAndTimeLeftThatIsWipedAtTheEnd) {
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.error,
               AllOf(StartsWith(std::string(kWipe) + "Importing slow.htr  "),
-                    HasSubstr("Importing slow.htr  50 %, 0:01 left"), EndsWith(kWipe)));
+                    testing::ContainsRegex("Importing slow.htr  50 %, 0:[0-9][0-9] left"),
+                    EndsWith(kWipe)));
 }
 
 TEST_F(TerminalTest, QuietShowsNoProgressAndNoSummary) {
