@@ -21,6 +21,14 @@ std::string SettingsPath() {
   return path;
 }
 
+// The plug-in would go on with its defaults, and the user would not know.
+void RequireOpen(const host::SqliteRegistry& registry, const std::string& path) {
+  if (registry.IsOpen()) return;
+  throw Failure{ExitStatus::kInputOutput,
+                {{path, "the settings cannot be read, or are in use",
+                  "--settings fresh does without them."}}};
+}
+
 host::KeyedRegistry& Any(std::variant<host::MemoryRegistry, host::SqliteRegistry>& registry) {
   return std::visit([](auto& one) -> host::KeyedRegistry& { return one; }, registry);
 }
@@ -30,7 +38,10 @@ int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
 }  // namespace
 
 PluginSession::PluginSession(const std::string& module_path, Settings settings) {
-  if (settings == Settings::kUser) registry_.emplace<host::SqliteRegistry>(SettingsPath());
+  if (settings == Settings::kUser) {
+    const std::string path = SettingsPath();
+    RequireOpen(registry_.emplace<host::SqliteRegistry>(path), path);
+  }
   desktop_ = std::make_unique<host::ScriptedDesktop>(Any(registry_));
   platform::InstallDesktop(desktop_.get());
   application_ = std::make_unique<host::Application>();

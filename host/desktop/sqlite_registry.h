@@ -20,6 +20,9 @@ class SKELDER_API SqliteRegistry final : public KeyedRegistry {
   explicit SqliteRegistry(const std::string& path);
   ~SqliteRegistry();
 
+  // Whether the database can be used; false for a registry without keys.
+  bool IsOpen() const { return database_ != nullptr; }
+
   std::optional<RegistryValue> FindValue(const std::string& path, const std::string& name) override;
 
  private:

@@ -119,4 +119,19 @@ TEST_F(ImportSettingsTest, AUserWithoutAnyFolderIsTold) {
   EXPECT_EQ(result.error, "orvane: --settings user: this user has no folder for settings\n");
 }
 
+TEST_F(ImportSettingsTest, SettingsThatCannotBeReadAreNotPassedOver) {
+  const std::string path = folder_.File("config/orvane/settings.sqlite");
+  std::filesystem::create_directories(folder_.File("config/orvane"));
+  test::WriteFile(path, "no settings");
+  const ProgramResult result = ImportAsUser({});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_EQ(result.error, "orvane: " + path +
+                              ": the settings cannot be read, or are in use\n"
+                              "  --settings fresh does without them.\n");
+  EXPECT_EQ(test::ReadFile(path), "no settings");
+  EXPECT_FALSE(Exists("walk.glb"));
+  EXPECT_EQ(Import({"--settings", "fresh"}).status, 0);
+}
+
 }  // namespace
