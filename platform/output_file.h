@@ -20,7 +20,7 @@ class OutputFile {
   OutputFile(const OutputFile&) = delete;
   OutputFile& operator=(const OutputFile&) = delete;
 
-  // Whether something is there that may not be replaced.
+  // Whether a file is there that would be replaced if that were allowed.
   bool IsTaken() const;
 
   // Returns why the file cannot be made, as far as it can be told before trying, or an empty text.

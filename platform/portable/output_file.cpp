@@ -46,7 +46,8 @@ OutputFile::~OutputFile() {
 
 bool OutputFile::IsTaken() const {
   struct stat status {};
-  return !replace_ && lstat(path_.c_str(), &status) == 0;
+  if (replace_ || lstat(path_.c_str(), &status) != 0) return false;
+  return S_ISREG(status.st_mode) || S_ISLNK(status.st_mode);
 }
 
 std::string OutputFile::WhyImpossible() const {

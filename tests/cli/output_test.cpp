@@ -100,11 +100,13 @@ TEST_F(OutputTest, ALinkThatLeadsNowhereIsKept) {
 
 TEST_F(OutputTest, ADirectoryIsNeverReplaced) {
   std::filesystem::create_directory(folder_.File("walk.glb"));
+  ExpectCannotWrite(Import("walk.glb"), "walk.glb: Is a directory\n");
   ExpectCannotWrite(Import("walk.glb", {"--force"}), "walk.glb: Is a directory\n");
 }
 
 TEST_F(OutputTest, ADeviceIsNeverReplaced) {
   std::filesystem::create_symlink("/dev/full", folder_.File("walk.glb"));
+  ExpectCannotWrite(Import("walk.glb"), "walk.glb: Not a regular file\n");
   ExpectCannotWrite(Import("walk.glb", {"--force"}), "walk.glb: Not a regular file\n");
 }
 
