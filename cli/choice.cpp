@@ -1,15 +1,26 @@
 #include "cli/choice.h"
 
+#include <algorithm>
+
 namespace cli {
+namespace {
+
+CLI::Validator OneOf(const std::vector<std::string>& choices) {
+  const auto complaint = [choices](const std::string& word) {
+    const bool is_choice = std::find(choices.begin(), choices.end(), word) != choices.end();
+    return is_choice ? "" : word + " is not one of " + CLI::detail::join(choices, ", ");
+  };
+  return {complaint, ""};
+}
+
+}  // namespace
 
 void AddChoice(CLI::App& verb, const std::string& flag, const std::vector<std::string>& choices,
                const std::string& help, const std::function<void(const std::string&)>& use) {
   // The choices stand in the help once, as the option's type.
-  CLI::IsMember is_choice(choices);
-  is_choice.description("");
   verb.add_option_function(flag, use, help)
       ->type_name(CLI::detail::join(choices, "|"))
-      ->check(is_choice);
+      ->check(OneOf(choices));
 }
 
 }  // namespace cli

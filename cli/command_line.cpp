@@ -24,9 +24,17 @@ std::string HelpCommand(const CLI::App& app) {
   return verbs.empty() ? "orvane --help" : "orvane " + verbs.front()->get_name() + " --help";
 }
 
+// CLI11 counts values; a user knows flags.
+std::string ExplainMismatch(const std::string& text) {
+  const std::string flag = text.substr(0, text.find(':'));
+  const bool too_many = text.find("At Most") != std::string::npos;
+  return flag + (too_many ? " is given more than once" : " needs a value");
+}
+
 // CLI11 only says that a verb is missing when there is one that it does not know.
 std::string Explain(const CLI::App& app, const CLI::ParseError& error, int argument_count,
                     const char* const* arguments) {
+  if (error.get_name() == "ArgumentMismatch") return ExplainMismatch(error.what());
   if (!app.get_subcommands().empty()) return error.what();
   if (argument_count < 2) return "what is to be done? A verb is missing";
   return "there is no verb or flag \"" + std::string(arguments[1]) + "\"";
