@@ -37,6 +37,7 @@ constexpr Advice kAdvice[] = {
     {"Base Position, Animation, or both", "--apply needs --animation or --base-position."},
     {"select the root of a skeleton",
      "A new scene holds nothing to select; --create builds the skeleton."},
+    {"is not finite", "A number of the file, or that of --scale or --segment-size, is too large."},
     {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
 };
 

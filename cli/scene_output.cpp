@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 
+#include "cli/input.h"
 #include "cli/interruption.h"
 #include "host/gltf/writer.h"
 #include "platform/interrupt.h"
@@ -37,7 +38,7 @@ SceneOutput::SceneOutput(std::string path, bool replace)
 std::size_t SceneOutput::Deliver(const host::Scene& scene, const std::string& source) {
   const host::gltf::WrittenScene written = host::gltf::WriteScene(scene, OptionsFor(path_));
   if (!written.refusal.empty()) {
-    throw Failure{ExitStatus::kRefused, {{source, written.refusal, ""}}};
+    throw Failure{ExitStatus::kRefused, {ComplainAbout(source, written.refusal)}};
   }
   platform::HoldInterrupts();
   std::string error = file_.Write(written.bytes);
