@@ -56,7 +56,8 @@ std::optional<Complaint> CompareFrameCounts(const std::string& file, const Frame
                                             const std::vector<ControlWish>& wishes) {
   if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
     throw Failure{ExitStatus::kRefused,
-                  {{file, Difference(counts), "--range FROM:TO imports a part of them."}}};
+                  {{file, Difference(counts),
+                    "Is \"NumFrames\" right? --range FROM:TO imports a part of them."}}};
   }
   if (counts.announced > counts.fewest_held) {
     return Complaint{file, Difference(counts),

@@ -81,9 +81,10 @@ TEST_F(FrameCountsTest, FarMoreAnnouncedThanHeldIsRefusedBeforeThePlugInIsAsked)
     const ProgramResult result = Import(count, {"--module", test::HurriedModule()});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.output, IsEmpty());
-    EXPECT_EQ(result.error, "orvane: walk.htr: The header announces " + std::string(count) +
-                                " frames, but the file holds 3\n"
-                                "  --range FROM:TO imports a part of them.\n");
+    EXPECT_EQ(result.error,
+              "orvane: walk.htr: The header announces " + std::string(count) +
+                  " frames, but the file holds 3\n"
+                  "  Is \"NumFrames\" right? --range FROM:TO imports a part of them.\n");
     EXPECT_THAT(Names(), ElementsAre("walk.htr"));
   }
 }
