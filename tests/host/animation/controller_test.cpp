@@ -104,6 +104,17 @@ TYPED_TEST(ControllerTest, ShiftsAllKeysWhileAnimateIsOff) {
   EXPECT_NE(this->controller_.ValueAt(0), this->Example(0));
 }
 
+TYPED_TEST(ControllerTest, ShiftsItsOnlyKeyToo) {
+  this->Set(0, this->Example(3));
+  this->animate_.Set(true);
+  this->Set(160, this->Example(0));
+  this->animate_.Set(false);
+  this->Set(50, this->Example(2));
+  ASSERT_EQ(this->controller_.KeyCount(), 1U);
+  ExpectNearValue(this->controller_.KeyValue(0), this->Example(2));
+  EXPECT_EQ(this->controller_.Constant(), this->Example(3));
+}
+
 TYPED_TEST(ControllerTest, AShiftBetweenKeysGivesTheValueThere) {
   this->animate_.Set(true);
   for (int i = 0; i < 4; ++i) this->Set(160 * i, this->Example(3 - i));

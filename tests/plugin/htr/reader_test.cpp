@@ -209,6 +209,8 @@ TEST_F(HtrReader, KnowsSectionsByTheirExactNamesOnly) {
 TEST_F(HtrReader, IgnoresWhatFollowsASectionsName) {
   EXPECT_EQ(Read(Lines{"[Header] of sorts", "FileVersion 9"}),
             "The file does not have a compatible \"FileVersion\" header state");
+  EXPECT_EQ(Read(Lines{"[Header] of [sorts]", "FileVersion 9"}),
+            "The file does not have a compatible \"FileVersion\" header state");
 }
 
 TEST_F(HtrReader, TakesASectionLineWithoutItsClosingBracket) {
