@@ -3,13 +3,18 @@
 #include <algorithm>
 
 #include "cli/import_htr_flags.h"
-#include "plugin/htr/reader.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {
 
 using orvane::FormatInt;
+
+struct FrameCounts {
+  std::int64_t announced = 0;
+  std::int64_t fewest_held = 0;  // by a segment
+  std::int64_t most_held = 0;
+};
 
 // A header may promise this many frames, and this many times what the file holds: the work stays
 // small, or in proportion.
@@ -36,24 +41,23 @@ std::string Difference(const FrameCounts& counts) {
   return "The header announces " + Frames(counts.announced) + ", but " + Held(counts);
 }
 
-}  // namespace
-
-std::optional<FrameCounts> CountFrames(const std::string& file) {
-  orvane::HtrDocument document;
-  if (!orvane::ReadHtrFile(document, file, true).empty()) return std::nullopt;
+FrameCounts CountFrames(const orvane::HtrDocument& document) {
   const auto& segments = document.segments();
-  if (segments.empty()) return std::nullopt;
   const auto [fewest, most] =
       std::minmax_element(segments.begin(), segments.end(),
                           [](const orvane::HtrSegment& left, const orvane::HtrSegment& right) {
                             return left.GetNumFrames() < right.GetNumFrames();
                           });
-  return FrameCounts{document.GetNumFrames(), static_cast<std::int64_t>(fewest->GetNumFrames()),
-                     static_cast<std::int64_t>(most->GetNumFrames())};
+  return {document.GetNumFrames(), static_cast<std::int64_t>(fewest->GetNumFrames()),
+          static_cast<std::int64_t>(most->GetNumFrames())};
 }
 
-std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
+}  // namespace
+
+std::optional<Complaint> CompareFrameCounts(const std::string& file,
+                                            const orvane::HtrDocument& document,
                                             const std::vector<ControlWish>& wishes) {
+  const FrameCounts counts = CountFrames(document);
   if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
     throw Failure{ExitStatus::kRefused,
                   {{file, Difference(counts),

@@ -3,13 +3,12 @@
 #include <iostream>
 #include <map>
 #include <memory>
-#include <optional>
 
 #include "cli/choice.h"
-#include "cli/frame_counts.h"
 #include "cli/import_htr_flags.h"
 #include "cli/import_summary.h"
 #include "cli/input.h"
+#include "cli/inspection.h"
 #include "cli/interruption.h"
 #include "cli/messages.h"
 #include "cli/plugin_session.h"
@@ -55,14 +54,8 @@ std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>
   return complaints;
 }
 
-// Before the plug-in starts on what the header announces.
-void AddFrameCounts(const std::string& file, const std::vector<ControlWish>& wishes,
-                    std::vector<Complaint>& complaints) {
-  const std::optional<FrameCounts> counts = CountFrames(file);
-  StopIfInterrupted();
-  if (!counts) return;
-  const std::optional<Complaint> difference = CompareFrameCounts(file, *counts, wishes);
-  if (difference) complaints.push_back(*difference);
+void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complaints) {
+  complaints.insert(complaints.end(), more.begin(), more.end());
 }
 
 void AddMessages(const std::string& file, const PluginSession& session,
@@ -99,7 +92,8 @@ ExitStatus Import(const ImportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   session.scene().SetMillimetersPerUnit(arguments.millimeters_per_unit);
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  AddFrameCounts(input, arguments.wishes, complaints);
+  Append(Inspect(input, arguments.wishes), complaints);
+  StopIfInterrupted();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
   const bool carried_out = session.ImportHtr(input, AllWishes(arguments), show_progress);
   StopIfInterrupted();

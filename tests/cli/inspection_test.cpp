@@ -1,0 +1,39 @@
+#include "tests/cli/orvane_test.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::Replaced;
+using test::SmallMotion;
+
+// Files whose import leaves out segments without a word of the plug-in's.
+class LeftOutSegmentsTest : public test::OrvaneTest,
+                            public testing::WithParamInterface<std::string> {
+ protected:
+  LeftOutSegmentsTest() {
+    Write("walk.htr", Replaced(SmallMotion(), "Spine Hips", "Spine " + GetParam()));
+  }
+};
+
+constexpr char kWarning[] =
+    "orvane: walk.htr: 1 of 2 segments do not hang from the first root, Hips\n"
+    "  A new skeleton goes without them; \"orvane info\" lists them all.\n";
+
+TEST_P(LeftOutSegmentsTest, AreAWarning) {
+  const ProgramResult result = Orvane({"import", "walk.htr", "-o", "walk.glb"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.output, testing::HasSubstr("  Nodes   2\n"));
+  EXPECT_EQ(result.error, kWarning);
+}
+
+TEST_P(LeftOutSegmentsTest, AreARefusalWithStrict) {
+  const ProgramResult result = Orvane({"import", "walk.htr", "-o", "walk.glb", "--strict"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, testing::StartsWith(kWarning));
+  EXPECT_FALSE(Exists("walk.glb"));
+}
+
+// A second root, a parent that is missing, and a circle.
+INSTANTIATE_TEST_SUITE_P(All, LeftOutSegmentsTest, testing::Values("GLOBAL", "Hip", "Spine"));
+
+}  // namespace
