@@ -33,6 +33,10 @@ class ProgressLine {
   Clock::time_point last_print_;
 };
 
+// `title` as it fits before percent and time on a line of `columns`, without its start if need be:
+// a line that wraps could not be wiped. All of it when `columns` is 0, which means unknown.
+std::string FittingTitle(const std::string& title, int columns);
+
 // "0:07" for seven seconds, "1:02:03" for more than an hour.
 std::string ClockTime(std::chrono::seconds time);
 
