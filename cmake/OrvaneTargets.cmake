@@ -2,6 +2,7 @@
 include_guard(GLOBAL)
 
 option(ORVANE_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(ORVANE_TEST_CASES_APART "Run each test case as a test of its own, in its own process" ON)
 
 # A compiler cache is used where there is one.
 find_program(ORVANE_CCACHE ccache)
@@ -63,5 +64,10 @@ function(orvane_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
   target_compile_definitions(${name} PRIVATE
     ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
-  gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+  if(ORVANE_TEST_CASES_APART)
+    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+  else()
+    add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900)
+  endif()
 endfunction()
