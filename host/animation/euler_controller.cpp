@@ -70,7 +70,11 @@ Vector EulerController::AnglesForKey(TimeValue time, const Quat& value) const {
 }
 
 void EulerController::SetKey(TimeValue time, const Quat& value) {
-  keys_.Set(time, {value, AnglesForKey(time, value)});
+  SetKey(time, value, AnglesForKey(time, value));
+}
+
+void EulerController::SetKey(TimeValue time, const Quat& value, const Vector& angles) {
+  keys_.Set(time, {value, angles});
   NotifyChange();
 }
 

@@ -16,12 +16,20 @@ class SKELDER_API EulerController final : public RotationController {
   std::size_t KeyCount() const override { return keys_.Size(); }
   TimeValue KeyTick(std::size_t key) const override { return keys_[key].tick; }
   Quat KeyValue(std::size_t key) const override { return keys_[key].value.rotation; }
+  const char* KindName() const override { return "euler"; }
   Quat ValueAt(TimeValue time) const override;
   Quat Constant() const override { return constant_; }
   void SetConstant(const Quat& value) override;
   void SetKey(TimeValue time, const Quat& value) override;
   void DeleteAllKeys() override;
   void DeleteKeyAt(TimeValue time) override;
+
+  // The point on the tracks that stands for key number `key`, in radians. It depends on the keys
+  // that were there when the key was made.
+  const Vector& KeyAngles(std::size_t key) const { return keys_[key].value.angles; }
+
+  // Makes or replaces the key at `time` with both.
+  void SetKey(TimeValue time, const Quat& value, const Vector& angles);
 
  protected:
   // Shifts the three tracks.

@@ -11,6 +11,9 @@ class SKELDER_API RotationController : public ValueController<Quat> {
  public:
   using ValueController::ValueController;
 
+  // How the keys are joined: "euler" or "tcb".
+  virtual const char* KindName() const = 0;
+
  protected:
   Quat Changed(const Quat& value, const Quat& change) const final;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <utility>
 #include <vector>
 
 #include "platform/export.h"
@@ -12,6 +13,10 @@ namespace host {
 class SKELDER_API SuspendableMode {
  public:
   explicit SuspendableMode(bool on) : on_(on) {}
+
+  // A mode as the functions below tell it.
+  SuspendableMode(bool on, std::vector<bool> remembered, std::size_t unmatched_resumes)
+      : on_(on), remembered_(std::move(remembered)), unmatched_resumes_(unmatched_resumes) {}
 
   bool IsOn() const { return on_; }
 
@@ -28,6 +33,9 @@ class SKELDER_API SuspendableMode {
   // Suspensions that were not resumed yet, and resumes that had no suspension.
   std::size_t SuspendDepth() const { return remembered_.size(); }
   std::size_t UnmatchedResumes() const { return unmatched_resumes_; }
+
+  // The states that the suspensions found, the first suspension's first.
+  const std::vector<bool>& Remembered() const { return remembered_; }
 
  private:
   bool on_;

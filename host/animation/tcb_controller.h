@@ -17,6 +17,7 @@ class SKELDER_API TcbController final : public RotationController {
   std::size_t KeyCount() const override { return keys_.Size(); }
   TimeValue KeyTick(std::size_t key) const override { return keys_[key].tick; }
   Quat KeyValue(std::size_t key) const override { return keys_[key].value; }
+  const char* KindName() const override { return "tcb"; }
   Quat ValueAt(TimeValue time) const override;
   Quat Constant() const override { return constant_; }
   void SetConstant(const Quat& value) override;

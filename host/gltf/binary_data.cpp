@@ -78,6 +78,18 @@ int BinaryData::AddKeyRotations(const std::vector<float>& rotations) {
   return Add(rotations, TINYGLTF_TYPE_VEC4, KeyView(rotations.size() * sizeof(float)));
 }
 
+int BinaryData::AddWords(const std::vector<std::uint32_t>& words) {
+  return Add(words, TINYGLTF_TYPE_SCALAR, KeyView(words.size() * sizeof(std::uint32_t)));
+}
+
+int BinaryData::AddText(std::string_view text) {
+  const int view = OwnView(kNoTarget);
+  std::vector<unsigned char>& buffer = model_.buffers.front().data;
+  buffer.insert(buffer.end(), text.begin(), text.end());
+  model_.bufferViews.back().byteLength = text.size();
+  return view;
+}
+
 int BinaryData::OwnView(int target) {
   if (model_.buffers.empty()) model_.buffers.emplace_back();
   tinygltf::BufferView& view = model_.bufferViews.emplace_back();

@@ -4,12 +4,14 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string_view>
 #include <vector>
 
 namespace host::gltf {
 
 // The numbers of a glTF file: appends them to the model's one buffer and describes them by an
-// accessor each. Every function returns the accessor's index; none may be given an empty list.
+// accessor each. Every function returns the accessor's index, but where it says so; none may be
+// given an empty list.
 class BinaryData {
  public:
   // `model` has no buffer yet, and outlives this.
@@ -31,6 +33,12 @@ class BinaryData {
   int AddKeyTimes(const std::vector<float>& seconds);
   int AddKeyVectors(const std::vector<float>& vectors);
   int AddKeyRotations(const std::vector<float>& rotations);
+
+  // Numbers of 32 bits of whatever meaning, which viewers have no use for.
+  int AddWords(const std::vector<std::uint32_t>& words);
+
+  // A view with `text` in it; the index is the view's.
+  int AddText(std::string_view text);
 
  private:
   // Where numbers come to lie: in a view of their own for what graphics cards read, or in one that

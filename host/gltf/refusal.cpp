@@ -6,9 +6,13 @@
 
 namespace host::gltf {
 
-void RefuseNotFinite(const Node& node, const char* what, TimeValue time) {
+void RefuseNotFinite(const Node& node, const std::string& what) {
   throw Refusal("Node \"" + ViewerName(node.Name()) + "\" cannot be saved: its " + what +
-                " at tick " + std::to_string(time) + " is not finite.");
+                " is not finite.");
+}
+
+void RefuseNotFinite(const Node& node, const char* what, TimeValue time) {
+  RefuseNotFinite(node, std::string(what) + " at tick " + std::to_string(time));
 }
 
 }  // namespace host::gltf

@@ -5,6 +5,7 @@
 #include "host/gltf/animation.h"
 #include "host/gltf/binary_data.h"
 #include "host/gltf/container.h"
+#include "host/gltf/kept_scene.h"
 #include "host/gltf/materials.h"
 #include "host/gltf/names.h"
 #include "host/gltf/node_tree.h"
@@ -40,6 +41,7 @@ tinygltf::Model ModelOf(const Scene& scene, const std::string& name) {
   AddNodes(tree, space, time, model);
   AddObjectMeshes(tree, space, time, materials, data, model);
   AddSkins(tree, space, time, materials, data, model);
+  KeepScene(scene, tree, data, model);
   return model;
 }
 

@@ -1,5 +1,9 @@
 #include "host/scene/bone_object.h"
 
+#include <algorithm>
+
+#include "host/base/number_range.h"
+
 namespace host {
 namespace {
 
@@ -19,6 +23,14 @@ bool BoneObject::SetValue(int index, TimeValue /*time*/, float value) {
 
 float BoneObject::GetFloat(int index, TimeValue /*time*/) {
   return IsParameter(index) ? Parameter(index) : 0.0F;
+}
+
+bool BoneObject::SetParameters(const std::vector<double>& values) {
+  if (values.size() != parameters_.size()) return false;
+  if (!std::all_of(values.begin(), values.end(), FitsFloat)) return false;
+  std::transform(values.begin(), values.end(), parameters_.begin(),
+                 [](double value) { return static_cast<float>(value); });
+  return true;
 }
 
 }  // namespace host

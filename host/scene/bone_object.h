@@ -17,6 +17,11 @@ class SKELDER_API BoneObject final : public SceneObjectOf<::Object>, private Par
 
   float Parameter(int index) const { return parameters_.at(static_cast<std::size_t>(index)); }
 
+  std::vector<double> Parameters() const override {
+    return {parameters_.begin(), parameters_.end()};
+  }
+  bool SetParameters(const std::vector<double>& values) override;
+
   ParameterBlock* GetFirstParameterBlock() override { return this; }
 
  private:

@@ -13,6 +13,9 @@ class SKELDER_API BoxObject final : public SceneObjectOf<DummyObject> {
   // In the node's own space and in system units.
   const Box3& Box() const { return box_; }
 
+  std::vector<double> Parameters() const override;
+  bool SetParameters(const std::vector<double>& values) override;
+
   void SetBox(const Box3& box) override { box_ = box; }
 
  private:

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <vector>
+
 #include "host/base/instance_pool.h"
 #include "platform/export.h"
 #include "sdk/core/object.h"
@@ -16,6 +18,14 @@ class SKELDER_API SceneObject : public Instance {
 
   // What nodes showing this kind of object are called at first, as in "Bone001".
   virtual const char* KindName() const = 0;
+
+  // All that makes this object differ from others of its kind: parameters by their numbers, or a
+  // box's least and largest corner. None unless the kind says so.
+  virtual std::vector<double> Parameters() const { return {}; }
+
+  // Takes on what Parameters returned. Returns false, and changes nothing, when there are more or
+  // fewer of them or when one cannot be held.
+  virtual bool SetParameters(const std::vector<double>& values) { return values.empty(); }
 };
 
 // An object of class `class_id`; `Base` is Object or the SDK's class for this kind of object. It

@@ -1,5 +1,9 @@
 #include "host/scene/sphere_object.h"
 
+#include <algorithm>
+
+#include "host/base/number_range.h"
+
 namespace host {
 namespace {
 
@@ -34,6 +38,19 @@ bool SphereObject::SetValue(int index, TimeValue /*time*/, float value) {
 bool SphereObject::SetValue(int index, TimeValue /*time*/, int value) {
   if (!HasType(index, ParameterType::kInteger)) return false;
   parameters_.at(static_cast<std::size_t>(index)) = value;
+  return true;
+}
+
+bool SphereObject::SetParameters(const std::vector<double>& values) {
+  if (values.size() != parameters_.size()) return false;
+  const auto fits = [](ParameterType type, double value) {
+    return type == ParameterType::kFloat ? FitsFloat(value) : FitsInt(value);
+  };
+  if (!std::equal(kTypes.begin(), kTypes.end(), values.begin(), fits)) return false;
+  for (std::size_t i = 0; i < values.size(); ++i) {
+    const bool is_float = kTypes[i] == ParameterType::kFloat;
+    parameters_[i] = is_float ? static_cast<float>(values[i]) : values[i];
+  }
   return true;
 }
 

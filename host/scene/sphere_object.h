@@ -19,6 +19,11 @@ class SKELDER_API SphereObject final : public SceneObjectOf<::Object>, private I
   double Parameter(int index) const { return parameters_.at(static_cast<std::size_t>(index)); }
   float Radius() const { return static_cast<float>(Parameter(kSphereRadiusParameter)); }
 
+  std::vector<double> Parameters() const override {
+    return {parameters_.begin(), parameters_.end()};
+  }
+  bool SetParameters(const std::vector<double>& values) override;
+
   IParamBlock* GetParamBlock() override { return this; }
 
   // The parameters have the numbers of the block.

@@ -60,5 +60,21 @@ TEST(SuspendableMode, CountsResumesWithoutASuspension) {
   EXPECT_EQ(mode.SuspendDepth(), 0U);
 }
 
+TEST(SuspendableMode, CanBeMadeAnewAsItIs) {
+  SuspendableMode mode(true);
+  mode.Resume();
+  mode.Suspend();
+  mode.Suspend();
+  mode.Set(true);
+  SuspendableMode again(mode.IsOn(), mode.Remembered(), mode.UnmatchedResumes());
+  EXPECT_TRUE(again.IsOn());
+  EXPECT_EQ(again.UnmatchedResumes(), 1U);
+  again.Resume();
+  EXPECT_FALSE(again.IsOn());
+  again.Resume();
+  EXPECT_TRUE(again.IsOn());
+  EXPECT_EQ(again.SuspendDepth(), 0U);
+}
+
 }  // namespace
 }  // namespace host

@@ -2,7 +2,10 @@
 
 #include <limits>
 #include <string>
+#include <utility>
 
+#include "sdk/core/object.h"
+#include "sdk/paramblk2/parameter_block.h"
 #include "tests/host/gltf/test_scene.h"
 #include "tests/host/gltf/viewer.h"
 
@@ -83,6 +86,35 @@ TEST(GltfRefusals, OfABoneWhoseParentsTakeItTooFar) {
   parent.Transform()->Scale().SetConstant({1e30F, 1e30F, 1e30F});
   AddBone(scene, &parent, "bone", {1e30F, 1.0F, 1.0F});
   EXPECT_EQ(Refusal(scene), "Node \"bone\" cannot be saved: its shape at tick 0 is not finite.");
+}
+
+TEST(GltfRefusals, OfWhatOnlyTheFileKeeps) {
+  using Spoil = void (*)(host::Node & node);
+  const std::pair<Spoil, const char*> spoilt[] = {
+      {[](host::Node& node) { node.SetUserPropertyFloat("width \xFF", kNotANumber); },
+       "user property \"width \xEF\xBF\xBD\""},
+      {[](host::Node& node) {
+         node.GetObjectReference()->GetFirstParameterBlock()->SetValue(2, 0, kNotANumber);
+       },
+       "object"},
+      {[](host::Node& node) {
+         node.Transform()->Scale().SetConstant({kInfinity, 1.0F, 1.0F});
+         node.Transform()->Scale().SetKey(0, {1.0F, 1.0F, 1.0F});
+       },
+       "scale without keys"},
+  };
+  for (const auto& [spoil, what] : spoilt) {
+    host::Scene scene;
+    spoil(AddBone(scene, nullptr, "bone"));
+    EXPECT_EQ(Refusal(scene),
+              std::string("Node \"bone\" cannot be saved: its ") + what + " is not finite.");
+  }
+}
+
+TEST(GltfRefusals, OfAnObjectOffset) {
+  host::Scene scene;
+  AddDummy(scene, nullptr, "node").SetObjectOffset(Matrix3({}, {}, {}, {kInfinity, 0.0F, 0.0F}));
+  EXPECT_EQ(Refusal(scene), "Node \"node\" cannot be saved: its object offset is not finite.");
 }
 
 TEST(GltfRefusals, OfANumberThatIsTooLargeInMeters) {

@@ -1,5 +1,7 @@
 #include "tests/host/gltf/sample_scenes.h"
 
+#include "sdk/core/object.h"
+#include "sdk/paramblk2/parameter_block.h"
 #include "tests/host/gltf/test_scene.h"
 
 namespace test {
@@ -95,6 +97,50 @@ void BuildStrangeNames(host::Scene& scene) {
   AddSphere(scene, nullptr, "\xE6\xAD\xA9\xE3\x81\x8F", 10.0F);
 }
 
+// Everything about a scene that is not as it was at first.
+void BuildEverything(host::Scene& scene) {
+  scene.SetMillimetersPerUnit(25.4);
+  host::AnimationState& animation = scene.Animation();
+  animation.SetFrameRate(59);
+  animation.SetRange({-81, 30'000'001});
+  animation.SetTime(-7);
+  for (const bool on : {true, false, true}) {
+    animation.AnimateMode().Set(on);
+    animation.AnimateMode().Suspend();
+  }
+  animation.SetKeyMode().Resume();
+  animation.SetKeyMode().Set(true);
+  scene.Root().SetUserPropertyFloat("of the root", 0.1F);
+
+  host::Node& dummy = AddDummy(scene, nullptr, "same");
+  static_cast<DummyObject*>(dummy.GetObjectReference())->SetBox({{-1, -2, -3}, {4, 5, 0.1F}});
+  host::Node& bone = AddBone(scene, &dummy, "same", {4.0F, 1.0F, 0.1F});
+  host::Node& sphere = AddSphere(scene, &bone, "sphere \xFF", 0.5F);
+  host::Node& point = AddPoint(scene, &bone, "point");
+  bone.GetObjectReference()->GetFirstParameterBlock()->SetValue(2, 0, 33.3F);
+  sphere.GetObjectReference()->GetParamBlock()->SetValue(1, 0, -2'147'483'647);
+  bone.SetUserPropertyFloat("length", 0.3F);
+  bone.SetUserPropertyFloat("\xC3(", -1e-40F);
+  bone.SetBoneDisplay(0);
+  bone.SetBoneEnabled(1, -9);
+  bone.SetWireColor(0xFFFFFFFF);
+  sphere.SetObjectOffset(Matrix3({0.1F, 0, 0}, {0, 1, 0}, {0, 0, 1}, {7, 8, 9}));
+  UseTcbRotation(scene, bone);
+  bone.Transform()->SetClassId(kCharacterTransformClasses[0]);
+  bone.Transform()->Rotation().SetConstant({0.1F, 0.2F, 0.3F, -0.9F});
+  point.Transform()->Position().SetConstant({-0.0F, 1e-40F, 0.1F});
+  for (const TimeValue tick : {-2'147'483'647, -5, 8'640'001, 30'000'000, 30'000'001}) {
+    const auto value = static_cast<float>(tick) / 3.0F;
+    for (host::Node* node : {&bone, &sphere}) {
+      node->Transform()->Position().SetKey(tick, {value, 0.1F, -0.0F});
+      node->Transform()->Rotation().SetKey(tick, TurnAbout(tick & 1, tick % 360));
+      node->Transform()->Scale().SetKey(tick, {0.5F, value, 2.0F});
+    }
+  }
+  scene.Select(point);
+  scene.Select(dummy);
+}
+
 }  // namespace
 
 const std::vector<SampleScene>& SampleScenes() {
@@ -108,6 +154,7 @@ const std::vector<SampleScene>& SampleScenes() {
       {"several_trees", BuildSeveralTrees},
       {"wide_times", BuildWideTimes},
       {"strange_names", BuildStrangeNames},
+      {"everything", BuildEverything},
   };
   return scenes;
 }

@@ -26,7 +26,7 @@ TEST_P(GltfSample, HasEveryNodeWhereTheHostHasIt) {
   const Viewer viewer(Written(scene));
   ASSERT_GE(viewer.File().nodes.size(), nodes.size());
   for (std::size_t i = 0; i < nodes.size(); ++i) {
-    ExpectSameTransform(viewer.WorldAtRest(i), nodes[i]->WorldTransform(0),
+    ExpectSameTransform(viewer.WorldAtRest(i), nodes[i]->WorldTransform(scene.Animation().Time()),
                         scene.MillimetersPerUnit(), 1e-5);
   }
 }

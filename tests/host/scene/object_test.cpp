@@ -110,5 +110,37 @@ TEST_F(ObjectTest, APointHasNoParameters) {
   EXPECT_EQ(object->GetFirstParameterBlock(), nullptr);
 }
 
+TEST_F(ObjectTest, ParametersMakeAnotherObjectOfTheKindTheSame) {
+  struct Case {
+    SuperClassId super_class;
+    ClassId class_id;
+    std::vector<double> parameters;
+  };
+  const Case cases[] = {{16, kBoneClass, {1, 2, 3.5, 4}},
+                        {16, kSphereClass, {0.5, 2, -2147483648.0, 0.25, 5, 6, 2147483647}},
+                        {80, kDummyClass, {-1, -2, -3, 4, 5, 6.5}},
+                        {80, kPointHelperClass, {}}};
+  for (const Case& test_case : cases) {
+    auto* object = dynamic_cast<SceneObject*>(NewObject(test_case.super_class, test_case.class_id));
+    EXPECT_TRUE(object->SetParameters(test_case.parameters));
+    EXPECT_EQ(object->Parameters(), test_case.parameters);
+    std::vector<double> too_many = test_case.parameters;
+    too_many.push_back(1.0);
+    EXPECT_FALSE(object->SetParameters(too_many));
+    for (std::size_t i = 0; i < test_case.parameters.size(); ++i) {
+      std::vector<double> too_large = test_case.parameters;
+      too_large[i] = 1e39;
+      EXPECT_FALSE(object->SetParameters(too_large)) << i;
+    }
+    EXPECT_EQ(object->Parameters(), test_case.parameters);
+  }
+}
+
+TEST_F(ObjectTest, WholeNumbersOfASphereStayWhole) {
+  auto* sphere = dynamic_cast<SceneObject*>(NewObject(16, kSphereClass));
+  EXPECT_FALSE(sphere->SetParameters({1, 2.5, 1, 0, 0, 0, 1}));
+  EXPECT_TRUE(sphere->SetParameters({1.5, 2, 1, 0, 0, 0, 1}));
+}
+
 }  // namespace
 }  // namespace host

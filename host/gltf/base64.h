@@ -1,0 +1,12 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace host::gltf {
+
+// The bytes that `text` stands for (RFC 4648, with padding), or nothing when it is no base64.
+std::optional<std::string> DecodedBase64(std::string_view text);
+
+}  // namespace host::gltf

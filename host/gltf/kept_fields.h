@@ -1,0 +1,60 @@
+#pragma once
+
+// The names of the members in the record of a kept scene, for who writes it and who reads it.
+
+namespace host::gltf::field {
+
+// Of the extension.
+inline constexpr char kVersion[] = "version";
+inline constexpr char kScene[] = "scene";
+
+// Of the scene.
+inline constexpr char kFrameRate[] = "frameRate";
+inline constexpr char kRange[] = "range";
+inline constexpr char kTime[] = "time";
+inline constexpr char kMillimetersPerUnit[] = "millimetersPerUnit";
+inline constexpr char kAnimateMode[] = "animateMode";
+inline constexpr char kSetKeyMode[] = "setKeyMode";
+inline constexpr char kSelection[] = "selection";
+inline constexpr char kRoot[] = "root";
+inline constexpr char kNodes[] = "nodes";
+
+// Of a mode.
+inline constexpr char kOn[] = "on";
+inline constexpr char kRemembered[] = "remembered";
+inline constexpr char kUnmatchedResumes[] = "unmatchedResumes";
+
+// Of every node, the root included.
+inline constexpr char kName[] = "name";
+inline constexpr char kColor[] = "color";
+inline constexpr char kBoneDisplay[] = "boneDisplay";
+inline constexpr char kBoneSince[] = "boneSince";
+inline constexpr char kObjectOffset[] = "objectOffset";
+inline constexpr char kProperties[] = "properties";
+
+// Of a property.
+inline constexpr char kKey[] = "key";
+inline constexpr char kValue[] = "value";
+
+// Of every node but the root.
+inline constexpr char kParent[] = "parent";
+inline constexpr char kObject[] = "object";
+inline constexpr char kTransformClass[] = "transformClass";
+inline constexpr char kPosition[] = "position";
+inline constexpr char kRotation[] = "rotation";
+inline constexpr char kScale[] = "scale";
+
+// Of an object or a controller.
+inline constexpr char kSuperClass[] = "superClass";
+inline constexpr char kClass[] = "class";
+inline constexpr char kParameters[] = "parameters";
+inline constexpr char kKind[] = "kind";
+inline constexpr char kConstant[] = "constant";
+inline constexpr char kTicks[] = "ticks";
+inline constexpr char kValues[] = "values";
+inline constexpr char kAngles[] = "angles";
+
+// Behind the name of a text's member when the text is bytes in hexadecimal.
+inline constexpr char kBytes[] = "Bytes";
+
+}  // namespace host::gltf::field

@@ -1,0 +1,18 @@
+#include "host/gltf/reader.h"
+
+#include "host/gltf/file_parts.h"
+#include "host/gltf/kept_scene.h"
+#include "host/gltf/refusal.h"
+
+namespace host::gltf {
+
+std::string ReadScene(std::string_view bytes, Scene& scene) {
+  try {
+    RestoreScene(TakeApart(bytes), scene);
+    return "";
+  } catch (const Refusal& refusal) {
+    return refusal.what();
+  }
+}
+
+}  // namespace host::gltf

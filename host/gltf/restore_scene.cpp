@@ -1,0 +1,189 @@
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "host/gltf/json_field.h"
+#include "host/gltf/kept_fields.h"
+#include "host/gltf/kept_scene.h"
+#include "host/gltf/kept_values.h"
+#include "host/gltf/refusal.h"
+#include "host/gltf/restore_transform.h"
+#include "host/gltf/stored_numbers.h"
+
+namespace host::gltf {
+
+namespace {
+
+// --- Texts ---
+
+int DigitValue(char digit) {
+  if ('0' <= digit && digit <= '9') return digit - '0';
+  if ('a' <= digit && digit <= 'f') return digit - 'a' + 10;
+  return -1;
+}
+
+std::string BytesIn(const JsonField& field) {
+  const std::string& digits = field.Text();
+  if (digits.size() % 2 != 0) field.Refuse("no bytes in hexadecimal");
+  std::string bytes;
+  for (std::size_t i = 0; i < digits.size(); i += 2) {
+    const int high = DigitValue(digits[i]);
+    const int low = DigitValue(digits[i + 1]);
+    if (high < 0 || low < 0) field.Refuse("no bytes in hexadecimal");
+    bytes += static_cast<char>(high * 16 + low);
+  }
+  return bytes;
+}
+
+// The text that a record has under `name`, in either form. Texts of the host end at a zero byte.
+std::string TextOf(const JsonField& record, const std::string& name) {
+  const auto bytes = record.FindMember(name + field::kBytes);
+  std::string text = bytes ? BytesIn(*bytes) : record.Member(name).Text();
+  if (text.find('\0') != std::string::npos) {
+    (bytes ? *bytes : record.Member(name)).Refuse("a text with a zero byte in it");
+  }
+  return text;
+}
+
+// --- Time ---
+
+SuspendableMode Mode(const JsonField& record) {
+  constexpr std::int64_t kMostResumes = std::int64_t{1} << 53U;
+  const JsonField states = record.Member(field::kRemembered);
+  std::vector<bool> remembered;
+  for (std::size_t i = 0; i < states.Size(); ++i) remembered.push_back(states.Element(i).Bool());
+  const auto resumes = record.Member(field::kUnmatchedResumes).Whole(0, kMostResumes);
+  return {record.Member(field::kOn).Bool(), std::move(remembered),
+          static_cast<std::size_t>(resumes)};
+}
+
+void RestoreTime(const JsonField& record, AnimationState& animation) {
+  const auto rate = record.Member(field::kFrameRate).Whole(kMinimumFrameRate, kMaximumFrameRate);
+  const JsonField range = record.Member(field::kRange);
+  if (range.Size() != 2) range.Refuse("no pair of numbers");
+  animation.SetFrameRate(static_cast<int>(rate));
+  animation.SetRange({range.Element(0).Int(), range.Element(1).Int()});
+  animation.SetTime(record.Member(field::kTime).Int());
+  animation.AnimateMode() = Mode(record.Member(field::kAnimateMode));
+  animation.SetKeyMode() = Mode(record.Member(field::kSetKeyMode));
+}
+
+// --- Nodes ---
+
+void RestoreProperties(const JsonField& records, Node& node) {
+  for (std::size_t i = 0; i < records.Size(); ++i) {
+    const JsonField record = records.Element(i);
+    const std::string key = TextOf(record, field::kKey);
+    node.SetUserPropertyFloat(key.c_str(), record.Member(field::kValue).Float());
+  }
+}
+
+Matrix3 MatrixIn(const JsonField& field) {
+  const auto numbers = FloatsIn<12>(field);
+  Matrix3 matrix;
+  for (int row = 0; row < 4; ++row) {
+    Point3 components;
+    Compose(&numbers[static_cast<std::size_t>(row) * 3], components);
+    matrix.SetRow(row, components);
+  }
+  return matrix;
+}
+
+void RestoreCommon(const JsonField& record, Node& node) {
+  node.SetName(TextOf(record, field::kName).c_str());
+  node.SetWireColor(record.Member(field::kColor).Word());
+  node.SetBoneDisplay(record.Member(field::kBoneDisplay).Int());
+  if (const auto since = record.FindMember(field::kBoneSince)) {
+    node.SetBoneEnabled(1, since->Int());
+  }
+  if (const auto offset = record.FindMember(field::kObjectOffset)) {
+    node.SetObjectOffset(MatrixIn(*offset));
+  }
+  if (const auto properties = record.FindMember(field::kProperties)) {
+    RestoreProperties(*properties, node);
+  }
+}
+
+std::vector<double> NumbersIn(const JsonField& list) {
+  std::vector<double> numbers;
+  for (std::size_t i = 0; i < list.Size(); ++i) numbers.push_back(list.Element(i).Number());
+  return numbers;
+}
+
+// A node under the root that shows the object in `record`.
+Node& NodeWithObject(const JsonField& record, Scene& scene) {
+  const SuperClassId super_class = record.Member(field::kSuperClass).Word();
+  const bool is_object =
+      super_class == kGeometricObjectSuperClass || super_class == kHelperSuperClass;
+  ClassInstance* instance =
+      is_object ? scene.CreateInstance(super_class, ClassIn(record.Member(field::kClass)))
+                : nullptr;
+  if (instance == nullptr) record.Refuse("of no class that nodes can show");
+  Node& node = *scene.CreateNode(static_cast<::Object*>(instance));
+  const JsonField parameters = record.Member(field::kParameters);
+  if (!node.ShownObject()->SetParameters(NumbersIn(parameters))) {
+    parameters.Refuse("not what objects of this class have");
+  }
+  return node;
+}
+
+// Parents stand before their children, so that there are no circles.
+Node& ParentIn(const JsonField& record, const std::vector<Node*>& nodes, Scene& scene) {
+  const auto count = static_cast<std::int64_t>(nodes.size());
+  const auto parent = record.Member(field::kParent).Whole(-1, count - 1);
+  return parent == -1 ? scene.Root() : *nodes[static_cast<std::size_t>(parent)];
+}
+
+Node& RestoreNode(const JsonField& record, const std::vector<Node*>& nodes, StoredNumbers& numbers,
+                  Scene& scene) {
+  Node& node = NodeWithObject(record.Member(field::kObject), scene);
+  ParentIn(record, nodes, scene).AttachChild(&node, false);
+  RestoreCommon(record, node);
+  RestoreTransform(record, numbers, scene, *node.Transform());
+  return node;
+}
+
+void RestoreSelection(const JsonField& record, const std::vector<Node*>& nodes, Scene& scene) {
+  const auto last = static_cast<std::int64_t>(nodes.size()) - 1;
+  for (std::size_t i = 0; i < record.Size(); ++i) {
+    scene.Select(*nodes[static_cast<std::size_t>(record.Element(i).Whole(0, last))]);
+  }
+}
+
+void RestoreUnit(const JsonField& millimeters, Scene& scene) {
+  if (millimeters.Number() <= 0.0) millimeters.Refuse("not positive");
+  scene.SetMillimetersPerUnit(millimeters.Number());
+}
+
+// The part of the file that is ours.
+JsonField Extension(const JsonField& document) {
+  const auto extensions = document.FindMember("extensions");
+  const auto own = extensions ? extensions->FindMember(kExtensionName) : std::nullopt;
+  if (!own) {
+    throw Refusal(
+        "The file was not saved by this program, or another has saved it since: the extension "
+        "ORVANE_scene is missing.");
+  }
+  return *own;
+}
+
+}  // namespace
+
+void RestoreScene(const FileParts& file, Scene& scene) {
+  StoredNumbers numbers(file);
+  const JsonField extension = Extension(JsonField(file.document, ""));
+  extension.Member(field::kVersion).Whole(kExtensionVersion, kExtensionVersion);
+  const nlohmann::json kept = ParsedJson(numbers.View(extension.Member(field::kScene)));
+  const JsonField record(kept, "");
+  RestoreTime(record, scene.Animation());
+  RestoreUnit(record.Member(field::kMillimetersPerUnit), scene);
+  RestoreCommon(record.Member(field::kRoot), scene.Root());
+  const JsonField records = record.Member(field::kNodes);
+  std::vector<Node*> nodes;
+  for (std::size_t i = 0; i < records.Size(); ++i) {
+    nodes.push_back(&RestoreNode(records.Element(i), nodes, numbers, scene));
+  }
+  RestoreSelection(record.Member(field::kSelection), nodes, scene);
+}
+
+}  // namespace host::gltf
