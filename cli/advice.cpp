@@ -36,7 +36,7 @@ constexpr Advice kAdvice[] = {
     {"non-zero scale factor", "--scale takes a number that is not 0, such as 0.1."},
     {"Base Position, Animation, or both", "--apply needs --animation or --base-position."},
     {"select the root of a skeleton",
-     "A new scene holds nothing to select; --create builds the skeleton."},
+     "--into SCENE --select NAME selects in a scene of yours; --create builds a new skeleton."},
     {"is not finite", "A number of the file, or that of --scale or --segment-size, is too large."},
     {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
 };

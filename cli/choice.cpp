@@ -15,10 +15,11 @@ CLI::Validator OneOf(const std::vector<std::string>& choices) {
 
 }  // namespace
 
-void AddChoice(CLI::App& verb, const std::string& flag, const std::vector<std::string>& choices,
-               const std::string& help, const std::function<void(const std::string&)>& use) {
+CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,
+                       const std::vector<std::string>& choices, const std::string& help,
+                       const std::function<void(const std::string&)>& use) {
   // The choices stand in the help once, as the option's type.
-  verb.add_option_function(flag, use, help)
+  return verb.add_option_function(flag, use, help)
       ->type_name(CLI::detail::join(choices, "|"))
       ->check(OneOf(choices));
 }

@@ -8,7 +8,9 @@
 namespace cli {
 
 // Adds an option to `verb` that takes one word of `choices`; `use` is called with it.
-void AddChoice(CLI::App& verb, const std::string& flag, const std::vector<std::string>& choices,
-               const std::string& help, const std::function<void(const std::string&)>& use);
+// Returns the option.
+CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,
+                       const std::vector<std::string>& choices, const std::string& help,
+                       const std::function<void(const std::string&)>& use);
 
 }  // namespace cli

@@ -7,6 +7,7 @@
 #include "cli/failure.h"
 #include "cli/import_command.h"
 #include "cli/info_command.h"
+#include "cli/scene_command.h"
 
 namespace cli {
 namespace {
@@ -49,6 +50,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   app.require_subcommand(1);
   AddImportCommand(app, work);
   AddInfoCommand(app, work);
+  AddSceneCommand(app, work);
   try {
     app.parse(argument_count, arguments);
   } catch (const CLI::CallForHelp&) {

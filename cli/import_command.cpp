@@ -12,6 +12,7 @@
 #include "cli/interruption.h"
 #include "cli/messages.h"
 #include "cli/plugin_session.h"
+#include "cli/scene_input.h"
 #include "cli/scene_output.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
@@ -22,6 +23,7 @@ namespace {
 struct ImportArguments {
   std::string input;
   std::string output;
+  std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
@@ -32,17 +34,29 @@ struct ImportArguments {
   bool force = false;
 };
 
-// The command line's defaults are the documented ones of the dialog but for this one.
+// The command line's defaults are the documented ones of the dialog but for this one, which is for
+// scenes that have no keys yet.
 std::vector<ControlWish> AllWishes(const ImportArguments& arguments) {
   std::vector<ControlWish> wishes = arguments.wishes;
-  if (arguments.settings == Settings::kFresh && !MentionFrameRate(wishes)) {
+  const bool is_new = arguments.into.empty();
+  if (is_new && arguments.settings == Settings::kFresh && !MentionFrameRate(wishes)) {
     wishes.push_back(FrameRateFromFile());
   }
   return wishes;
 }
 
+void PrepareScene(const ImportArguments& arguments, host::Scene& scene) {
+  if (arguments.into.empty()) {
+    scene.SetMillimetersPerUnit(arguments.millimeters_per_unit);
+  } else {
+    ReadSceneFile(arguments.into, scene);
+  }
+}
+
+// What was selected in the scene stays so unless there are names.
 std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>& names) {
   std::vector<Complaint> complaints;
+  if (!names.empty()) scene.ClearSelection();
   for (const std::string& name : names) {
     host::Node* node = scene.FindByName(name);
     if (node != nullptr) {
@@ -90,7 +104,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   const std::string input = ReadableHtrFile(arguments.input);
   SceneOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
-  session.scene().SetMillimetersPerUnit(arguments.millimeters_per_unit);
+  PrepareScene(arguments, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
   Append(Inspect(input, arguments.wishes), complaints);
   StopIfInterrupted();
@@ -127,6 +141,9 @@ void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
 }
 
 void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
+  CLI::Option* into =
+      verb.add_option("--into", arguments.into, "Start from the scene in this file (a new scene)")
+          ->type_name("SCENE");
   verb.add_option("--select", arguments.selection,
                   "Select the node of that name before the import; may be repeated")
       ->expected(1)
@@ -134,9 +151,11 @@ void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->type_name("NAME");
   AddChoice(verb, "--system-unit", {"mm", "cm", "m", "in", "ft"},
-            "The length that 1 means in the scene (mm)", [&arguments](const std::string& unit) {
+            "The length that 1 means in the scene (mm)",
+            [&arguments](const std::string& unit) {
               arguments.millimeters_per_unit = MillimetersPer(unit);
-            });
+            })
+      ->excludes(into);
   verb.add_option("--module", arguments.module, "The plug-in to load (the one beside orvane)")
       ->type_name("PATH");
 }

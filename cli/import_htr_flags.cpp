@@ -111,9 +111,10 @@ void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
       ->type_name("FROM:TO")
       ->excludes(all);
   AddText(verb, wishes, "--offset", kOffset, "Number of frames to move the keys by (0)");
-  AddChoice(verb, "--frame-rate", {"file", "keep"},
-            "Set the scene's frame rate from the file, or keep the scene's (file)",
-            [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
+  AddChoice(
+      verb, "--frame-rate", {"file", "keep"},
+      "Set the scene's frame rate from the file, or keep the scene's (file; keep with --into)",
+      [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
 }
 
 // What `wishes` type into `control`; null when they do not.

@@ -116,7 +116,8 @@ TEST_F(ImportFlagsTest, QuietLeavesOutTheSummaryOnly) {
 TEST_F(ImportFlagsTest, ApplyNeedsASelection) {
   ExpectRefusal({"--apply"},
                 "Please select the root of a skeleton before applying animation.\n"
-                "  A new scene holds nothing to select; --create builds the skeleton.\n");
+                "  --into SCENE --select NAME selects in a scene of yours; --create builds a new "
+                "skeleton.\n");
 }
 
 TEST_F(ImportFlagsTest, ApplyNeedsSomethingToKey) {
@@ -191,7 +192,8 @@ TEST_F(ImportFlagsTest, ANewSceneHasNothingToSelect) {
   EXPECT_EQ(result.error,
             "orvane: --select: nothing in the scene is named Hips\n"
             "orvane: walk.htr: Please select the root of a skeleton before applying animation.\n"
-            "  A new scene holds nothing to select; --create builds the skeleton.\n");
+            "  --into SCENE --select NAME selects in a scene of yours; --create builds a new "
+            "skeleton.\n");
 }
 
 TEST_F(ImportFlagsTest, SelectMayBeRepeatedAndTakesNamesAsTheyAre) {

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+// `orvane scene`: tells what a scene file holds.
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddSceneCommand(CLI::App& app, Work& work);
+
+}  // namespace cli
