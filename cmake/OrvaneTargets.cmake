@@ -52,6 +52,12 @@ function(orvane_headers name)
   target_link_libraries(${name} INTERFACE ${ARG_LINKS})
 endfunction()
 
+# Tells tests where the repository and the build are.
+function(orvane_define_folders target)
+  target_compile_definitions(${target} PRIVATE
+    ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+endfunction()
+
 # orvane_test(name SOURCES file... [LINKS target...]): one test program per folder.
 function(orvane_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
@@ -62,8 +68,7 @@ function(orvane_test name)
   set_target_properties(${name} PROPERTIES
     RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
-  target_compile_definitions(${name} PRIVATE
-    ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+  orvane_define_folders(${name})
   if(ORVANE_TEST_CASES_APART)
     gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
   else()
