@@ -6,9 +6,9 @@
 
 #include "examples/geometry.h"
 #include "examples/walk_text.h"
+#include "plugin/htr/document_checker.h"
 #include "plugin/htr/reader.h"
 #include "plugin/text/files.h"
-#include "tests/support/htr_document_checker.h"
 #include "tests/support/htr_skeleton_pose.h"
 
 // What makes the example a walk: seen in the joints' positions, Y up, Z forward, X to the left.
@@ -42,7 +42,7 @@ TEST_F(Walk, IsWhatItsGeneratorMakes) {
 }
 
 TEST_F(Walk, IsAWholeBodyForTwoSeconds) {
-  EXPECT_EQ(test::FindFault(document_), "");
+  EXPECT_EQ(orvane::FindFault(document_), "");
   EXPECT_EQ(document_.GetNumSegments(), 21);
   EXPECT_EQ(document_.GetNumFrames(), kFrames);
   EXPECT_EQ(document_.GetDataFrameRate(), 60);

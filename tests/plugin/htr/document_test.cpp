@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "tests/support/htr_document_checker.h"
+#include "plugin/htr/document_checker.h"
 
 namespace orvane {
 namespace {
@@ -62,7 +62,7 @@ TEST(HtrDocument, StoresACopyOfASegment) {
   EXPECT_NE(stored, &segment);
   EXPECT_EQ(stored->GetBoneLength(), 120.0);
   EXPECT_EQ(document.GetNumSegments(), 1);
-  EXPECT_EQ(test::FindFault(document), "");
+  EXPECT_EQ(FindFault(document), "");
 }
 
 TEST(HtrDocument, RefusesANameThatIsTaken) {

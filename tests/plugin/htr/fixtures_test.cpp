@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
+#include "plugin/htr/document_checker.h"
 #include "plugin/htr/reader.h"
-#include "tests/support/htr_document_checker.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"
 
@@ -62,7 +62,7 @@ TEST(HtrFixtures, ReadAsTold) {
     SCOPED_TRACE(expected.file);
     HtrDocument document;
     EXPECT_EQ(ReadHtrFile(document, Fixture(expected.file), true), expected.message);
-    EXPECT_EQ(test::FindFault(document), "");
+    EXPECT_EQ(FindFault(document), "");
     EXPECT_EQ(document.GetNumSegments(), expected.segments);
     const HtrSegment* hips = document.FindSegment("Hips");
     EXPECT_EQ(hips == nullptr ? 0 : hips->GetNumFrames(), expected.frames);

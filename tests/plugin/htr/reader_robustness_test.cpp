@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "plugin/htr/document_checker.h"
 #include "plugin/htr/reader.h"
 #include "tests/plugin/htr/motion_text.h"
-#include "tests/support/htr_document_checker.h"
 
 // Whatever the bytes, reading ends, stays inside them, and leaves a sound document.
 namespace orvane {
@@ -22,7 +22,7 @@ std::string ReadBothWays(const std::string& bytes) {
   std::string message;
   for (const bool read_motion : {false, true}) {
     message = ReadHtrBytes(document, exact, read_motion);
-    EXPECT_EQ(test::FindFault(document), "");
+    EXPECT_EQ(FindFault(document), "");
   }
   return message;
 }

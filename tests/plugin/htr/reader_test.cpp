@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
+#include "plugin/htr/document_checker.h"
 #include "tests/plugin/htr/motion_text.h"
-#include "tests/support/htr_document_checker.h"
 
 namespace orvane {
 namespace {
@@ -27,7 +27,7 @@ class HtrReader : public ::testing::Test {
  protected:
   std::string Read(const std::string& bytes, bool read_motion = true) {
     const std::string message = ReadHtrBytes(document_, bytes, read_motion);
-    EXPECT_EQ(test::FindFault(document_), "");
+    EXPECT_EQ(FindFault(document_), "");
     return message;
   }
 

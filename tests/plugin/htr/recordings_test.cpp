@@ -4,8 +4,8 @@
 #include <filesystem>
 #include <string>
 
+#include "plugin/htr/document_checker.h"
 #include "plugin/htr/reader.h"
-#include "tests/support/htr_document_checker.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"
 
@@ -31,7 +31,7 @@ TEST(HtrRecording, OfAWalkPutsHandAndFootWhereTheyWere) {
   if (!std::filesystem::exists(name)) GTEST_SKIP() << "no recording at " << name;
   HtrDocument document;
   ASSERT_EQ(ReadHtrFile(document, name, true), "");
-  EXPECT_EQ(test::FindFault(document), "");
+  EXPECT_EQ(FindFault(document), "");
   EXPECT_EQ(document.GetNumSegments(), 31);
   EXPECT_EQ(document.GetNumFrames(), 524u);
   EXPECT_EQ(document.GetDataFrameRate(), 120);

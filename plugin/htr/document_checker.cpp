@@ -1,14 +1,12 @@
-#include "tests/support/htr_document_checker.h"
+#include "plugin/htr/document_checker.h"
 
 #include <string_view>
 #include <unordered_set>
 #include <vector>
 
-namespace test {
+namespace orvane {
 namespace {
 
-using orvane::HtrDocument;
-using orvane::HtrSegment;
 using Segments = std::unordered_set<const HtrSegment*>;
 
 std::string FaultOfName(HtrDocument& document, const HtrSegment& segment) {
@@ -59,4 +57,4 @@ std::string FindFault(HtrDocument& document) {
   return {};
 }
 
-}  // namespace test
+}  // namespace orvane
