@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
-#include "plugin/import_htr/scene_nodes.h"
+#include "plugin/skeleton/bone.h"
 
 namespace orvane {
 namespace {

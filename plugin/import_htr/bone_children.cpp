@@ -1,6 +1,6 @@
 #include "plugin/import_htr/bone_children.h"
 
-#include "plugin/import_htr/scene_nodes.h"
+#include "plugin/skeleton/bone.h"
 
 namespace orvane {
 

@@ -1,6 +1,6 @@
 #include "plugin/import_htr/controllers.h"
 
-#include "plugin/import_htr/axis_conversion.h"
+#include "plugin/skeleton/axis_conversion.h"
 
 namespace orvane {
 namespace {

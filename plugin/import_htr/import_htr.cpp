@@ -4,12 +4,13 @@
 #include <limits>
 #include <string_view>
 
+#include "plugin/exchange/host_modes.h"
+#include "plugin/exchange/progress_bar.h"
 #include "plugin/htr/reader.h"
 #include "plugin/import_htr/apply_target.h"
 #include "plugin/import_htr/import_budget.h"
 #include "plugin/import_htr/motion_applier.h"
 #include "plugin/import_htr/options_dialog.h"
-#include "plugin/import_htr/progress_bar.h"
 #include "plugin/import_htr/scene_nodes.h"
 #include "plugin/import_htr/skeleton_creator.h"
 #include "sdk/core/animation.h"
@@ -49,7 +50,7 @@ int ImportHTR::DoImport(const char* name, ImpInterface* import_interface, Interf
 // Intended: a failure keeps the document and leaves the host's modes suspended, and cancelling
 // leaves them suspended too.
 int ImportHTR::Import() {
-  PrepareHost();
+  SuspendHostModes(*interface_);
   Outcome outcome = Outcome::kFailed;
   {
     const ProgressBar progress(*interface_, "Orvane ImportHTR");
@@ -57,18 +58,8 @@ int ImportHTR::Import() {
   }
   if (outcome == Outcome::kFailed) return 0;
   document_.Clear();
-  if (outcome == Outcome::kDone) {
-    ResumeSetKeyMode();
-    ResumeAnimate();
-  }
+  if (outcome == Outcome::kDone) ResumeHostModes();
   return 1;
-}
-
-void ImportHTR::PrepareHost() {
-  SuspendAnimate();
-  SuspendSetKeyMode();
-  AnimateOff();
-  if (interface_->IsPlaybackRunning()) interface_->StopPlayback();
 }
 
 ImportHTR::Outcome ImportHTR::Work() {

@@ -43,7 +43,6 @@ class ImportHTR final : public SceneImport {
   enum class Outcome { kDone, kCancelled, kFailed };
 
   int Import();
-  void PrepareHost();
   Outcome Work();
   bool ReadFile();
   void ConvertUnits();

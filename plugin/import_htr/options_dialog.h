@@ -4,6 +4,7 @@
 #include <string>
 
 #include "platform/dialog.h"
+#include "plugin/exchange/frame_range_controls.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/shell/message_sink.h"
 
@@ -32,6 +33,9 @@ class ImportHTROptionsDialog final : public platform::DialogHandler {
   void Command(platform::Dialog& dialog, int control) override;
 
  private:
+  FrameRange Range() const {
+    return {options_.startFrame, options_.endFrame, options_.frameOffset};
+  }
   void Answer(platform::Dialog& dialog, int control);
   void FillSwitches(platform::Dialog& dialog) const;
   void FillNumbers(platform::Dialog& dialog) const;
@@ -39,7 +43,6 @@ class ImportHTROptionsDialog final : public platform::DialogHandler {
 
   // The checks of Confirm, each of which takes over what it accepts. An empty text is success.
   void ReadSwitches(platform::Dialog& dialog);
-  std::string ReadRange(platform::Dialog& dialog);
   std::string ReadScales(platform::Dialog& dialog);
   std::string CheckCombination() const;
 

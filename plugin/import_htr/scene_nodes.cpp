@@ -63,9 +63,4 @@ INode* CreateDummyNode(Interface& interface, const std::string& name, float half
   return node;
 }
 
-bool IsBone(INode& node) {
-  Object* object = node.GetObjectReference();
-  return object != nullptr && object->ClassID() == kBoneClass;
-}
-
 }  // namespace orvane

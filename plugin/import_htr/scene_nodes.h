@@ -4,7 +4,7 @@
 
 #include "sdk/core/interface.h"
 
-// Making and recognising the kinds of node that skeletons consist of. Nodes belong to the scene.
+// Making the kinds of node that skeletons consist of. Nodes belong to the scene.
 namespace orvane {
 
 // The size of a bone, in system units.
@@ -21,8 +21,5 @@ INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneS
 // units) on every axis, in the host's colour for new objects. Returns null when the host cannot
 // create it.
 INode* CreateDummyNode(Interface& interface, const std::string& name, float half_extent);
-
-// Whether the object of `node` is a bone.
-bool IsBone(INode& node);
 
 }  // namespace orvane

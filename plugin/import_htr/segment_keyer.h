@@ -1,9 +1,9 @@
 #pragma once
 
 #include "plugin/htr/segment.h"
-#include "plugin/import_htr/axis_conversion.h"
 #include "plugin/import_htr/key_times.h"
 #include "plugin/import_htr/options.h"
+#include "plugin/skeleton/axis_conversion.h"
 #include "sdk/core/interface.h"
 
 // The keys of one bone: clears the ticks of the motion, then keys the base position and the frames

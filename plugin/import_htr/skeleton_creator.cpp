@@ -2,8 +2,9 @@
 
 #include <vector>
 
-#include "plugin/import_htr/axis_conversion.h"
 #include "plugin/import_htr/controllers.h"
+#include "plugin/skeleton/axis_conversion.h"
+#include "plugin/skeleton/bone.h"
 
 namespace orvane {
 namespace {
@@ -21,20 +22,20 @@ bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   const AxisConversion axes(segment.GetIsRoot());
 
   const Vector3 translation = segment.GetBaseTranslation();
-  node.SetUserPropertyFloat("HTRBaseTransX", static_cast<float>(translation.x()));
-  node.SetUserPropertyFloat("HTRBaseTransY", static_cast<float>(translation.y()));
-  node.SetUserPropertyFloat("HTRBaseTransZ", static_cast<float>(translation.z()));
+  node.SetUserPropertyFloat(kBaseTranslationX, static_cast<float>(translation.x()));
+  node.SetUserPropertyFloat(kBaseTranslationY, static_cast<float>(translation.y()));
+  node.SetUserPropertyFloat(kBaseTranslationZ, static_cast<float>(translation.z()));
   // Intended: the global scale, which sizes bones and keyed translations, does not enter here.
   if (!SetPosition(PositionController(node), time, axes.Position(translation))) return false;
 
   EulerRotation rotation = segment.GetBaseRotation();
-  node.SetUserPropertyFloat("HTRBaseRotX", static_cast<float>(rotation[0]));
-  node.SetUserPropertyFloat("HTRBaseRotY", static_cast<float>(rotation[1]));
-  node.SetUserPropertyFloat("HTRBaseRotZ", static_cast<float>(rotation[2]));
+  node.SetUserPropertyFloat(kBaseRotationX, static_cast<float>(rotation[0]));
+  node.SetUserPropertyFloat(kBaseRotationY, static_cast<float>(rotation[1]));
+  node.SetUserPropertyFloat(kBaseRotationZ, static_cast<float>(rotation[2]));
   rotation.Set(axes.Rotation(RotationMatrix3(rotation)));
   if (!SetRotation(RotationController(node), time, Quaternion(rotation))) return false;
 
-  node.SetUserPropertyFloat("HTRBaseLength", static_cast<float>(segment.GetBoneLength()));
+  node.SetUserPropertyFloat(kBaseLength, static_cast<float>(segment.GetBoneLength()));
   return true;
 }
 

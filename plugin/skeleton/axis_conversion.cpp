@@ -1,4 +1,4 @@
-#include "plugin/import_htr/axis_conversion.h"
+#include "plugin/skeleton/axis_conversion.h"
 
 #include <numbers>
 

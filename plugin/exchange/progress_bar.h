@@ -2,7 +2,7 @@
 
 #include "sdk/core/interface.h"
 
-// The host's progress bar for the time of one import.
+// The host's progress bar for the time of one import or export.
 namespace orvane {
 
 class ProgressBar {
@@ -13,7 +13,7 @@ class ProgressBar {
   }
   ProgressBar(const ProgressBar&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
-  // Closes the bar, however the import ended.
+  // Closes the bar, however the work ended.
   ~ProgressBar() { interface_.ProgressEnd(); }
 
  private:

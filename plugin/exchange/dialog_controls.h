@@ -1,0 +1,19 @@
+#pragma once
+
+#include <initializer_list>
+#include <string>
+
+#include "platform/dialog.h"
+
+// What the option dialogs do with their controls.
+namespace orvane {
+
+void EnableControls(platform::Dialog& dialog, std::initializer_list<int> controls, bool enabled);
+
+// Selects `radio` of a pair of radio buttons that do not do so by themselves.
+void SelectRadio(platform::Dialog& dialog, int radio, int other_radio);
+
+// The first 255 characters of the text of `control`.
+std::string ControlText(platform::Dialog& dialog, int control);
+
+}  // namespace orvane
