@@ -58,9 +58,10 @@ function(orvane_define_folders target)
     ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
 endfunction()
 
-# orvane_test(name SOURCES file... [LINKS target...]): one test program per folder.
+# orvane_test(name SOURCES file... [LINKS target...] [LABELS label...]): one test program per folder.
+# The label "large" is for those that take seconds; ctest --label-exclude large leaves them out.
 function(orvane_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS" ${ARGN})
+  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
   orvane_apply_settings(${name})
   # Compiling a test takes far longer than running it; this halves the former.
@@ -69,10 +70,15 @@ function(orvane_test name)
     RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
   target_link_libraries(${name} PRIVATE ${ARG_LINKS} GTest::gmock GTest::gtest_main)
   orvane_define_folders(${name})
+  set(labels "")
+  if(ARG_LABELS)
+    set(labels LABELS "${ARG_LABELS}")
+  endif()
   if(ORVANE_TEST_CASES_APART)
-    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
+    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+      PROPERTIES TIMEOUT 120 ${labels})
   else()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
-    set_tests_properties(${name} PROPERTIES TIMEOUT 900)
+    set_tests_properties(${name} PROPERTIES TIMEOUT 900 ${labels})
   endif()
 endfunction()

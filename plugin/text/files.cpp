@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <exception>
 #include <filesystem>
-#include <fstream>
 #include <ios>
 
 namespace orvane {
@@ -53,6 +52,12 @@ std::optional<std::string> ReadFileBytes(const std::string& name) try {
   return ReadAll(stream, is_regular ? std::filesystem::file_size(path) : 0);
 } catch (const std::exception&) {
   return std::nullopt;  // a name that is no UTF-8, an error of the file system, no memory
+}
+
+std::ofstream CreateFileForBytes(const std::string& name) try {
+  return std::ofstream(PathOf(name), std::ios::binary | std::ios::trunc);
+} catch (const std::exception&) {
+  return {};  // a name that is no UTF-8
 }
 
 }  // namespace orvane

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <fstream>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -15,5 +16,9 @@ std::string WithExtension(std::string_view name, std::string_view extension);
 // Returns all bytes of the file, or nothing when it is missing, may not be read, is no file (a
 // directory or a device), cannot be read to its end, or does not fit into memory.
 std::optional<std::string> ReadFileBytes(const std::string& name);
+
+// Makes the file, or empties the one that is there, and returns a stream that writes bytes to it as
+// they are. The stream is not open when that fails.
+std::ofstream CreateFileForBytes(const std::string& name);
 
 }  // namespace orvane

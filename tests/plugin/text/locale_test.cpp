@@ -1,10 +1,12 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <clocale>
 #include <locale>
 #include <string>
 
 #include "plugin/text/numbers.h"
+#include "plugin/text/six_decimals.h"
 
 namespace orvane {
 namespace {
@@ -25,6 +27,12 @@ void ExpectPointsNotCommas() {
   EXPECT_EQ(ParseInt("1234567"), 1234567);
   EXPECT_EQ(FormatDouble(1234567.25, 2), "1234567.25");
   EXPECT_EQ(FormatInt(1234567), "1234567");
+  std::array<char, kLongestSixDecimals> text{};
+  for (const double value : {1234.25, 1234567.25}) {
+    const std::string written(text.data(), WriteSixDecimals(value, text.data()));
+    EXPECT_EQ(written, FormatDouble(value));
+    EXPECT_NE(written.find(".250000"), std::string::npos);
+  }
 }
 
 TEST(Locale, OfTheStreamsChangesNoNumber) {
