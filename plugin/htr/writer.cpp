@@ -1,0 +1,194 @@
+#include "plugin/htr/writer.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <exception>
+#include <fstream>
+#include <unordered_map>
+#include <vector>
+
+#include "plugin/htr/text_buffer.h"
+#include "plugin/text/files.h"
+#include "plugin/text/numbers.h"
+#include "plugin/units/units.h"
+
+namespace orvane {
+namespace {
+
+constexpr const char* kNoSegments = "No segments to write";
+constexpr const char* kDuplicateName = "The scene hierarchy has duplicate segment names: ";
+constexpr const char* kNotOpened = "The file could not be opened";
+
+constexpr double kLibraryVersion = 1.1;
+constexpr int kHeaderDecimals = 2;
+
+// The name of the first segment that shares it with another one, before or behind it; null when
+// each has its own.
+const std::string* FindDuplicate(const std::vector<std::string>& names) {
+  std::unordered_map<std::string_view, int> uses;
+  for (const std::string& name : names) ++uses[name];
+  const auto found = std::find_if(names.begin(), names.end(),
+                                  [&uses](const std::string& name) { return uses[name] > 1; });
+  return found == names.end() ? nullptr : &*found;
+}
+
+std::string WhyNotWritable(const HtrDocument& document) {
+  const std::vector<std::string> names = document.GetSegmentNames();
+  if (names.empty()) return kNoSegments;
+  const std::string* duplicate = FindDuplicate(names);
+  return duplicate == nullptr ? std::string() : kDuplicateName + *duplicate;
+}
+
+// One printing of one document. Each function appends its lines, in the order of the file.
+class HtrPrinter {
+ public:
+  HtrPrinter(const HtrDocument& document, const HtrBytesTaker& take)
+      : document_(document),
+        text_(take),
+        angle_factor_(document.GetRotationUnits() == kDegrees ? kDegreesPerRadian : 1.0) {}
+
+  void Print();
+
+ private:
+  void PrintHeader();
+  void PrintHierarchy();
+  void PrintBasePositions();
+  void PrintMotion(const HtrSegment& segment);
+  void PrintFrame(const HtrSegment& segment, std::uint32_t index);
+  void PrintOnlyFrame();
+  double ScaleOf(const HtrSegment& segment, std::uint32_t index) const;
+
+  void PutField(std::string_view keyword, std::string_view value);
+  void PutVector(const Vector3& vector);
+  void PutAngles(const EulerRotation& rotation);
+
+  const HtrDocument& document_;
+  HtrTextBuffer text_;
+  const double angle_factor_;
+};
+
+void HtrPrinter::Print() {
+  PrintHeader();
+  PrintHierarchy();
+  PrintBasePositions();
+  for (const HtrSegment& segment : document_.segments()) PrintMotion(segment);
+  text_.PutLine("[EndOfFile]");
+  text_.HandOver();
+}
+
+void HtrPrinter::PrintHeader() {
+  text_.PutLine("# Orvane HTR (source:OrvaneFileLib v" +
+                FormatDouble(kLibraryVersion, kHeaderDecimals) + ")");
+  text_.PutLine("[Header]");
+  text_.PutLine("# KeyWord<space>Value<CR>");
+  PutField("FileType", "htr");
+  PutField("DataType", "HTRS");
+  PutField("FileVersion", "1");
+  PutField("NumSegments", FormatInt(document_.GetNumSegments()));
+  PutField("NumFrames", FormatInt(std::max(document_.GetNumFrames(), std::uint32_t{1})));
+  PutField("DataFrameRate", FormatInt(document_.GetDataFrameRate()));
+  PutField("EulerRotationOrder", "ZYX");
+  PutField("CalibrationUnits", CalibrationUnitsName(document_.GetCalibrationUnits()));
+  PutField("RotationUnits", RotationUnitsName(document_.GetRotationUnits()));
+  // Intended: the axis of gravity is Y whatever the document says, the bones' axis is what the
+  // document says, although no reader of ours takes another than Y.
+  PutField("GlobalAxisofGravity", AxisName(kAxisY));
+  PutField("BoneLengthAxis", AxisName(document_.GetBoneLengthAxis()));
+  PutField("ScaleFactor", FormatDouble(document_.GetScaleFactor(), kHeaderDecimals));
+}
+
+void HtrPrinter::PrintHierarchy() {
+  text_.PutLine("[SegmentNames&Hierarchy]");
+  text_.PutLine("# ObjectName<tab>ParentObjectName<CR>");
+  for (const HtrSegment& segment : document_.segments()) {
+    const HtrSegment* parent = segment.GetParent();
+    text_.Put(segment.GetName());
+    text_.Put("\t");
+    text_.PutLine(parent == nullptr ? "GLOBAL" : parent->GetName());
+  }
+}
+
+void HtrPrinter::PrintBasePositions() {
+  text_.PutLine("[BasePosition]");
+  text_.PutLine("# ObjectName<tab>Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneLength<CR>");
+  for (const HtrSegment& segment : document_.segments()) {
+    text_.Put(segment.GetName());
+    PutVector(segment.GetBaseTranslation());
+    PutAngles(segment.GetBaseRotation());
+    text_.PutColumn(segment.GetBoneLength());
+    text_.EndLine();
+  }
+}
+
+void HtrPrinter::PrintMotion(const HtrSegment& segment) {
+  text_.PutLine("[" + segment.GetName() + "]");
+  text_.PutLine("# Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneScaleFactor<CR>");
+  const std::uint32_t count = document_.GetNumFrames();
+  if (count == 0) PrintOnlyFrame();
+  for (std::uint32_t index = 0; index < count; ++index) PrintFrame(segment, index);
+}
+
+// Intended: the frame's values as they are stored, which are offsets from the base position.
+void HtrPrinter::PrintFrame(const HtrSegment& segment, std::uint32_t index) {
+  text_.PutInteger(std::int64_t{document_.GetStartFrame()} + index);
+  PutVector(segment.GetFrameTranslation(index));
+  PutAngles(segment.GetFrameRotation(index));
+  text_.PutColumn(ScaleOf(segment, index));
+  text_.EndLine();
+}
+
+// Intended: a document without frames becomes a file of one frame, numbered 1 and at rest.
+void HtrPrinter::PrintOnlyFrame() {
+  text_.PutInteger(1);
+  PutVector(Vector3());
+  PutAngles(EulerRotation());
+  text_.PutColumn(1.0);
+  text_.EndLine();
+}
+
+double HtrPrinter::ScaleOf(const HtrSegment& segment, std::uint32_t index) const {
+  if (!document_.GetWriteBoneScale()) return 1.0;
+  const double scale = segment.GetFrameScale(index);
+  return document_.GetNormalizeBoneScale() ? scale / segment.GetScaleReferenceLength() : scale;
+}
+
+void HtrPrinter::PutField(std::string_view keyword, std::string_view value) {
+  text_.Put(keyword);
+  text_.Put(" ");
+  text_.PutLine(value);
+}
+
+void HtrPrinter::PutVector(const Vector3& vector) {
+  text_.PutColumn(vector.x());
+  text_.PutColumn(vector.y());
+  text_.PutColumn(vector.z());
+}
+
+void HtrPrinter::PutAngles(const EulerRotation& rotation) {
+  for (unsigned int index = 0; index < 3; ++index) {
+    text_.PutColumn(rotation[index] * angle_factor_);
+  }
+}
+
+}  // namespace
+
+std::string WriteHtrFile(const HtrDocument& document, const std::string& file_name) try {
+  std::string message = WhyNotWritable(document);
+  if (!message.empty()) return message;
+  std::ofstream file = CreateFileForBytes(WithExtension(file_name, ".htr"));
+  if (!file.is_open()) return kNotOpened;
+  PrintHtr(document, [&file](std::string_view bytes) {
+    file.write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  });
+  return {};
+} catch (const std::exception&) {
+  return kNotOpened;  // no memory
+}
+
+void PrintHtr(const HtrDocument& document, const HtrBytesTaker& take) {
+  HtrPrinter(document, take).Print();
+}
+
+}  // namespace orvane
