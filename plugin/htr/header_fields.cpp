@@ -18,7 +18,8 @@ struct Field {
   const HtrOddities& oddities;
 };
 
-std::string Incompatible(const Field& field) {
+std::string Refuse(const Field& field) {
+  field.oddities.Report(HtrOddity::kRefusedHeaderValue, field.value, field.keyword);
   return "The file does not have a compatible \"" + std::string(field.keyword) + "\" header state";
 }
 
@@ -26,11 +27,11 @@ std::string Incompatible(const Field& field) {
 template <typename... Words>
 std::string Require(const Field& field, Words... accepted) {
   const bool matches = ((field.value == accepted) || ...);
-  return matches ? std::string() : Incompatible(field);
+  return matches ? std::string() : Refuse(field);
 }
 
 std::int32_t Int(const Field& field) {
-  field.oddities.CheckNumber(field.value);
+  field.oddities.CheckWholeNumber(field.value, field.keyword);
   return ParseInt(field.value);
 }
 
@@ -59,31 +60,32 @@ std::string ReadEulerRotationOrder(const Field& field) { return Require(field, "
 
 std::string ReadCalibrationUnits(const Field& field) {
   field.oddities.ReportIf(!FindCalibrationUnits(field.value), HtrOddity::kUnknownCalibrationUnits,
-                          field.value);
+                          field.value, field.keyword);
   field.document.SetCalibrationUnits(ParseCalibrationUnits(field.value));
   return {};
 }
 
 std::string ReadRotationUnits(const Field& field) {
   field.oddities.ReportIf(!FindRotationUnits(field.value), HtrOddity::kUnknownRotationUnits,
-                          field.value);
+                          field.value, field.keyword);
   field.document.SetRotationUnits(ParseRotationUnits(field.value));
   return {};
 }
 
 // Intended: only X is refused; an unknown word passes as Y.
 std::string ReadGlobalAxisofGravity(const Field& field) {
-  field.oddities.ReportIf(!FindAxis(field.value), HtrOddity::kUnknownAxis, field.value);
+  field.oddities.ReportIf(!FindAxis(field.value), HtrOddity::kUnknownAxis, field.value,
+                          field.keyword);
   const std::uint32_t axis = ParseAxis(field.value);
   field.document.SetGlobalAxisofGravity(axis);
-  return axis == kAxisX ? Incompatible(field) : std::string();
+  return axis == kAxisX ? Refuse(field) : std::string();
 }
 
 // Intended: checked and not stored, as the document's axis is Y already.
 std::string ReadBoneLengthAxis(const Field& field) { return Require(field, "Y"); }
 
 std::string ReadScaleFactor(const Field& field) {
-  field.oddities.CheckNumber(field.value);
+  field.oddities.CheckNumber(field.value, field.keyword);
   field.document.SetScaleFactor(ParseDouble(field.value));
   return {};
 }

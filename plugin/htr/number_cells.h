@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "plugin/htr/oddities.h"
 #include "plugin/math/vector.h"
 #include "plugin/text/numbers.h"
 #include "plugin/text/tokens.h"
@@ -16,8 +15,7 @@ namespace orvane {
 
 class NumberCells {
  public:
-  NumberCells(std::string_view line, const HtrOddities& oddities)
-      : rest_(line), oddities_(oddities) {}
+  explicit NumberCells(std::string_view line) : rest_(line) {}
 
   // The number that the next cell starts with; 0 for a missing or malformed cell.
   double Take() {
@@ -26,13 +24,13 @@ class NumberCells {
     const char* const last = first + rest_.size();
     const LeadingDouble number = ReadDouble(first, last);
     const bool fills_cell = number.end != first && (number.end == last || IsSeparator(*number.end));
-    if (!fills_cell) return TakeOdd();
+    if (!fills_cell) return ParseDouble(TakeFirstToken(rest_));
     rest_.remove_prefix(static_cast<std::size_t>(number.end - first));
     return number.value;
   }
 
   // As Take, whole.
-  std::int32_t TakeInt() { return ParseInt(TakeCell()); }
+  std::int32_t TakeInt() { return ParseInt(TakeFirstToken(rest_)); }
 
   // The next three cells, each times `factor`.
   Vector3 TakeVector(double factor) {
@@ -43,16 +41,7 @@ class NumberCells {
   }
 
  private:
-  double TakeOdd() { return ParseDouble(TakeCell()); }
-
-  std::string_view TakeCell() {
-    const std::string_view cell = TakeFirstToken(rest_);
-    oddities_.CheckNumber(cell);
-    return cell;
-  }
-
   std::string_view rest_;
-  const HtrOddities& oddities_;
 };
 
 }  // namespace orvane

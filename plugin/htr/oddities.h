@@ -1,40 +1,70 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 #include "plugin/htr/read_observer.h"
-#include "plugin/text/numbers.h"
+#include "plugin/text/lines.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.
 namespace orvane {
 
 class HtrOddities {
  public:
-  explicit HtrOddities(HtrReadObserver* observer) : observer_(observer) {}
+  // `bytes` is what is read.
+  HtrOddities(HtrReadObserver* observer, std::string_view bytes)
+      : observer_(observer), end_of_bytes_(bytes.data() + bytes.size()) {}
 
-  void SetLine(std::size_t line) { line_ = line; }
+  // Null when nobody watches.
+  HtrReadObserver* Observer() const { return observer_; }
 
-  void Report(HtrOddity oddity, std::string_view text) const {
-    if (observer_ != nullptr) observer_->OnOddity(oddity, line_, text);
+  // `line` is the one that all texts below are part of.
+  void StartLine(const Line& line) {
+    if (observer_ != nullptr) LookAtLine(line);
+  }
+
+  // `text` with its place; without one when nobody watches.
+  HtrCell CellOf(std::string_view text) const;
+
+  void Report(HtrOddity oddity, std::string_view text, std::string_view field = {}) const {
+    if (observer_ != nullptr) observer_->OnOddity(oddity, CellOf(text), field);
+  }
+
+  // As above, of a line that was read before.
+  void Report(HtrOddity oddity, const HtrCell& cell) const {
+    if (observer_ != nullptr) observer_->OnOddity(oddity, cell, {});
   }
 
   // Reports `oddity` with `text` when `is_odd`.
-  void ReportIf(bool is_odd, HtrOddity oddity, std::string_view text) const {
-    if (is_odd) Report(oddity, text);
+  void ReportIf(bool is_odd, HtrOddity oddity, std::string_view text,
+                std::string_view field = {}) const {
+    if (is_odd) Report(oddity, text, field);
   }
+
+  // The end of the current line.
+  std::string_view EndOfLine() const { return text_.substr(text_.size()); }
+
+  // Reports what `text` holds besides separators, if anything.
+  void ReportWords(HtrOddity oddity, std::string_view text) const;
 
   // Reports a cell that is missing, or that is more or other than one number.
-  void CheckNumber(std::string_view cell) const {
-    if (observer_ == nullptr) return;
-    if (cell.empty()) return Report(HtrOddity::kMissingNumber, cell);
-    const char* const end = cell.data() + cell.size();
-    ReportIf(ReadDouble(cell.data(), end).end != end, HtrOddity::kUnreadableNumber, cell);
-  }
+  void CheckNumber(std::string_view cell, std::string_view field) const;
+  // The same for one that is to be a whole number.
+  void CheckWholeNumber(std::string_view cell, std::string_view field) const;
+  // Takes the cells of `fields` off `line`, each a number, and reports what is left.
+  void CheckNumbers(std::string_view line, std::span<const std::string_view> fields) const;
 
  private:
+  void LookAtLine(const Line& line);
+  void LookAtBytes(const Line& line) const;
+
   HtrReadObserver* observer_;
-  std::size_t line_ = 0;
+  const char* end_of_bytes_;
+  std::string_view text_;   // the current piece of the line
+  std::size_t line_ = 0;    // counted from 1
+  std::size_t column_ = 1;  // of the piece, counted from 1
+  bool long_line_told_ = false;
 };
 
 }  // namespace orvane

@@ -3,34 +3,88 @@
 #include <cstddef>
 #include <string_view>
 
-// What the reader lets pass without a message, told to whoever wants to know. Watching changes
+// What the reader meets on its way through a file, told to whoever wants to know: what it lets pass
+// without a message, what it refuses, and where the parts of the file stand. Watching changes
 // nothing in what is read.
 namespace orvane {
 
+// A piece of a line and its place in the file.
+struct HtrCell {
+  std::string_view text;   // empty where something is missing
+  std::size_t line = 0;    // counted from 1
+  std::size_t column = 0;  // of its first byte in that line, counted from 1
+};
+
 enum class HtrOddity {
-  kLineBeforeFirstSection,   // ignored; the text is the line
+  // Lines
+  kByteOrderMark,           // belongs to the first line as any other text; the mark
+  kHiddenByNul,             // ignored; the rest of the line from the NUL on
+  kLongLine,                // read as several lines; the second of them
+  kCarriageReturn,          // part of a word; the rest of the line from there on
+  kCommentInWord,           // ends the line; the rest of the line from the '#' on
+  kLineBeforeFirstSection,  // ignored; the line
+  kLineAfterEnd,            // ignored with all that follow; the first such line
+  kExtraCells,              // ignored; the rest of the line
+
+  // Section lines
+  kIndentedSection,         // is none, but a line of the current section; the line
+  kUnclosedSection,         // its name ends with the line; the name
+  kTextAfterSection,        // ignored; the rest of the line
+  kUnknownSegmentSection,   // its motion is skipped; the section's name
+  kMotionOfUnknownSegment,  // a skipped line of such a section; the line
+
+  // Header
   kUnknownHeaderKeyword,     // ignored; the keyword
+  kExtraHeaderWords,         // ignored, as the last word counts; what stands before it
   kUnknownCalibrationUnits,  // taken as millimetres; the value
   kUnknownRotationUnits,     // taken as degrees; the value
   kUnknownAxis,              // taken as Y; the value
-  kMissingNumber,            // taken as 0; empty
-  kUnreadableNumber,         // the number it starts with is taken, or 0; the whole cell
-  kParentNotFound,           // the segment has no parent; the parent's name
-  kHierarchyLinkedAgain,     // a second base-position section: every child is listed once more
-  kHierarchyLeftUnlinked,    // so many such sections that no more links are made
-  kSegmentCountMismatch,     // hierarchy lines differ from NumSegments; the section
-  kUnknownSegmentSection,    // its motion is skipped; the section's name
-  kMotionOfUnknownSegment,   // a skipped line of such a section; the line
-  kFrameCountMismatch,       // a motion section differs from NumFrames; the segment's name
-  kLongLine,                 // read as several lines; the first piece
+
+  // Numbers
+  kMissingNumber,      // taken as 0; empty
+  kUnreadableNumber,   // the number it starts with is taken, or 0; the whole cell
+  kCutNumber,          // a whole number is wanted and the fraction left out; the whole cell
+  kNumberOutOfBounds,  // taken as infinity, or as the nearest whole number of 32 bits; the cell
+
+  // Hierarchy
+  kExtraHierarchyWords,    // ignored between a name and its parent; what stands there
+  kParentNotFound,         // the segment has no parent; the parent's name in the hierarchy
+  kHierarchyLinkedAgain,   // a second base-position section: every child is listed once more
+  kHierarchyLeftUnlinked,  // so many such sections that no more links are made
+
+  // Counts
+  kSegmentCountMismatch,  // hierarchy lines differ from NumSegments; the base-position section
+  kFrameCountMismatch,    // a motion section differs from NumFrames; the section's name
+
+  // Refusals: reading ends here
+  kRefusedHeaderValue,        // the value
+  kRefusedSegmentName,        // one that is taken; the name
+  kRefusedBasePosition,       // of an unknown segment; the name
+  kRefusedBasePositionCount,  // differs from NumSegments; empty, behind the last line
 };
 
+enum class HtrSection { kHeader, kHierarchy, kBasePosition, kMotion, kEndOfFile };
+
+// All calls come in file order while reading; texts live until the call returns. Those of the
+// hierarchy live as long as the bytes.
 class HtrReadObserver {
  public:
   virtual ~HtrReadObserver() = default;
 
-  // Called in file order while reading. `line` counts from 1; `text` lives until the call returns.
-  virtual void OnOddity(HtrOddity oddity, std::size_t line, std::string_view text) = 0;
+  // `field` is the keyword of a header line or the name of a column, where it is one of these that
+  // is odd; otherwise it is empty.
+  virtual void OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) = 0;
+
+  // A section starts. Any unknown name is that of a motion section.
+  virtual void OnSection(HtrSection /*section*/, const HtrCell& /*name*/) {}
+  // A line of the header, before it is looked at.
+  virtual void OnHeaderField(const HtrCell& /*keyword*/, const HtrCell& /*value*/) {}
+  // A segment was added to the document; `parent` may be empty.
+  virtual void OnSegment(const HtrCell& /*name*/, const HtrCell& /*parent*/) {}
+  // A segment was given its base position.
+  virtual void OnBasePosition(const HtrCell& /*name*/) {}
+  // A frame is about to be added to the segment of the current section.
+  virtual void OnFrame(const HtrCell& /*number*/) {}
 };
 
 }  // namespace orvane

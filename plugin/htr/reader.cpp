@@ -1,6 +1,7 @@
 #include "plugin/htr/reader.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <new>
@@ -25,6 +26,12 @@ constexpr std::string_view kHierarchySection = "SegmentNames&Hierarchy";
 constexpr std::string_view kBasePositionSection = "BasePosition";
 constexpr std::string_view kGlobalParent = "GLOBAL";
 
+constexpr std::array<std::string_view, 7> kBasePositionColumns = {"Tx", "Ty", "Tz",        "Rx",
+                                                                  "Ry", "Rz", "BoneLength"};
+constexpr std::string_view kFrameColumn = "Frame";
+constexpr std::array<std::string_view, 7> kMotionColumns = {
+    "Tx", "Ty", "Tz", "Rx", "Ry", "Rz", "BoneScaleFactor"};
+
 // A count that a file merely announces reserves no more frames than this.
 constexpr std::size_t kMostFramesReserved = 1 << 16;
 
@@ -45,6 +52,13 @@ std::string_view ContentOf(const Line& line) {
   return has_comment || line.ends_with_break ? TrimTrailingSeparators(content) : content;
 }
 
+HtrSection SectionOf(std::string_view name) {
+  if (name == kHeaderSection) return HtrSection::kHeader;
+  if (name == kHierarchySection) return HtrSection::kHierarchy;
+  if (name == kBasePositionSection) return HtrSection::kBasePosition;
+  return IsEndOfFile(name) ? HtrSection::kEndOfFile : HtrSection::kMotion;
+}
+
 std::string_view SectionName(std::string_view line) {
   line.remove_prefix(1);
   return line.substr(0, line.find(']'));
@@ -60,7 +74,7 @@ class HtrReader {
         lines_(bytes),
         most_links_(std::max(kLinksAlwaysMade, bytes.size())),
         read_motion_(read_motion),
-        oddities_(observer) {}
+        oddities_(observer, bytes) {}
 
   std::string Read();
 
@@ -78,17 +92,22 @@ class HtrReader {
   bool HasEnded() const { return state_ == State::kStoppedBeforeMotion || state_ == State::kEnded; }
   std::string ReadLine(const Line& line);
   void EnterSection(std::string_view name);
-  void EnterBasePosition();
+  void TellSection(std::string_view name);
+  void CheckSectionLine(std::string_view line);
+  void EnterBasePosition(std::string_view section);
   void EnterMotion(std::string_view name);
   void LeaveMotion();
-  void LinkHierarchy();
+  void LinkHierarchy(std::string_view section);
+  void CheckIndentation(std::string_view line);
   std::string ReadDataLine(std::string_view line);
   std::string ReadHeaderLine(std::string_view line);
   std::string ReadHierarchyLine(std::string_view line);
   std::string ReadBasePositionLine(std::string_view line);
   void ReadMotionLine(std::string_view line);
+  void TellFrame(std::string_view line);
   void ReserveFor(std::int32_t frame_number);
   std::string Finish();
+  void LookBehindTheEnd();
 
   HtrDocument& document_;
   LineReader lines_;
@@ -97,12 +116,13 @@ class HtrReader {
   HtrOddities oddities_;
 
   State state_ = State::kBeforeFirstSection;
-  std::vector<std::string_view> parent_names_;  // one for each segment
+  std::vector<HtrCell> parent_names_;  // one for each segment
   std::size_t links_made_ = 0;
   std::int64_t segments_awaited_ = 0;  // announced by the header, less the base positions read
   double angle_factor_ = 1.0;
 
   HtrSegment* segment_ = nullptr;  // of the current motion section; null for an unknown name
+  HtrCell motion_section_;         // that section's name
   std::size_t frames_before_section_ = 0;
   std::size_t frames_in_last_section_ = 0;
   bool first_frame_read_ = false;
@@ -115,69 +135,103 @@ std::string HtrReader::Read() {
     std::string message = ReadLine(line);
     if (!message.empty()) return message;
   }
-  return Finish();
+  std::string message = Finish();
+  if (oddities_.Observer() != nullptr) LookBehindTheEnd();
+  return message;
+}
+
+void HtrReader::LookBehindTheEnd() {
+  Line line;
+  while (lines_.Next(line)) {
+    const std::string_view content = SkipSeparators(ContentOf(line));
+    if (content.empty()) continue;
+    oddities_.StartLine(line);
+    return oddities_.Report(HtrOddity::kLineAfterEnd, content);
+  }
 }
 
 std::string HtrReader::ReadLine(const Line& line) {
-  oddities_.SetLine(line.number);
-  oddities_.ReportIf(line.text.size() == kLongestPiece, HtrOddity::kLongLine, line.text);
+  oddities_.StartLine(line);
   const std::string_view content = ContentOf(line);
   if (SkipSeparators(content).empty()) return {};
   if (content.front() != '[') return ReadDataLine(content);
   EnterSection(SectionName(content));
+  CheckSectionLine(content);
   return {};
 }
 
 void HtrReader::EnterSection(std::string_view name) {
   LeaveMotion();
-  if (name == kHeaderSection) {
-    state_ = State::kHeader;
-  } else if (name == kHierarchySection) {
-    state_ = State::kHierarchy;
-  } else if (name == kBasePositionSection) {
-    EnterBasePosition();
-  } else if (!read_motion_) {
-    state_ = State::kStoppedBeforeMotion;
-  } else if (IsEndOfFile(name)) {
-    state_ = State::kEnded;
-  } else {
-    EnterMotion(name);
+  TellSection(name);
+  switch (SectionOf(name)) {
+    case HtrSection::kHeader:
+      state_ = State::kHeader;
+      break;
+    case HtrSection::kHierarchy:
+      state_ = State::kHierarchy;
+      break;
+    case HtrSection::kBasePosition:
+      EnterBasePosition(name);
+      break;
+    case HtrSection::kEndOfFile:
+      state_ = read_motion_ ? State::kEnded : State::kStoppedBeforeMotion;
+      break;
+    case HtrSection::kMotion:
+      EnterMotion(name);
+      break;
   }
 }
 
-void HtrReader::EnterBasePosition() {
+void HtrReader::TellSection(std::string_view name) {
+  HtrReadObserver* const observer = oddities_.Observer();
+  if (observer != nullptr) observer->OnSection(SectionOf(name), oddities_.CellOf(name));
+}
+
+void HtrReader::CheckSectionLine(std::string_view line) {
+  const std::string_view name = SectionName(line);
+  const std::string_view rest = line.substr(1 + name.size());
+  if (rest.empty()) return oddities_.Report(HtrOddity::kUnclosedSection, name);
+  oddities_.ReportWords(HtrOddity::kTextAfterSection, rest.substr(1));
+}
+
+void HtrReader::EnterBasePosition(std::string_view section) {
   state_ = State::kBasePosition;
   oddities_.ReportIf(links_made_ == 0 && document_.GetNumSegments() != segments_awaited_,
-                     HtrOddity::kSegmentCountMismatch, kBasePositionSection);
-  LinkHierarchy();
+                     HtrOddity::kSegmentCountMismatch, section);
+  LinkHierarchy(section);
   // Intended: never set back, not even by a header in between that says radians.
   if (document_.GetRotationUnits() == kDegrees) angle_factor_ = kRadiansPerDegree;
 }
 
-void HtrReader::LinkHierarchy() {
-  oddities_.ReportIf(links_made_ > 0, HtrOddity::kHierarchyLinkedAgain, kBasePositionSection);
+void HtrReader::LinkHierarchy(std::string_view section) {
+  oddities_.ReportIf(links_made_ > 0, HtrOddity::kHierarchyLinkedAgain, section);
   if (links_made_ + parent_names_.size() > most_links_) {
-    return oddities_.Report(HtrOddity::kHierarchyLeftUnlinked, kBasePositionSection);
+    return oddities_.Report(HtrOddity::kHierarchyLeftUnlinked, section);
   }
   links_made_ += parent_names_.size();
   auto parent_name = parent_names_.begin();
   for (HtrSegment& segment : document_.segments()) {
-    const std::string_view name = *parent_name++;
-    if (name == kGlobalParent) {
+    const HtrCell& name = *parent_name++;
+    if (name.text == kGlobalParent) {
       segment.SetIsRoot(true);
       continue;
     }
     // Intended: an unknown parent counts as none, without a message.
-    HtrSegment* parent = document_.FindSegment(name);
-    oddities_.ReportIf(parent == nullptr, HtrOddity::kParentNotFound, name);
+    HtrSegment* parent = document_.FindSegment(name.text);
+    if (parent == nullptr) oddities_.Report(HtrOddity::kParentNotFound, name);
     segment.SetParent(parent);
   }
 }
 
 void HtrReader::EnterMotion(std::string_view name) {
+  if (!read_motion_) {
+    state_ = State::kStoppedBeforeMotion;
+    return;
+  }
   state_ = State::kMotion;
   segment_ = document_.FindSegment(name);
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kUnknownSegmentSection, name);
+  motion_section_ = oddities_.CellOf(name);
   frames_before_section_ = segment_->GetNumFrames();
 }
 
@@ -185,12 +239,18 @@ void HtrReader::LeaveMotion() {
   if (segment_ == nullptr) return;
   frames_in_last_section_ = segment_->GetNumFrames() - frames_before_section_;
   if (frames_in_last_section_ != document_.GetNumFrames()) {
-    oddities_.Report(HtrOddity::kFrameCountMismatch, segment_->GetName());
+    oddities_.Report(HtrOddity::kFrameCountMismatch, motion_section_);
   }
   segment_ = nullptr;
 }
 
+void HtrReader::CheckIndentation(std::string_view line) {
+  const std::string_view words = SkipSeparators(line);
+  oddities_.ReportIf(words.front() == '[', HtrOddity::kIndentedSection, words);
+}
+
 std::string HtrReader::ReadDataLine(std::string_view line) {
+  if (oddities_.Observer() != nullptr) CheckIndentation(line);
   switch (state_) {
     case State::kBeforeFirstSection:
       oddities_.Report(HtrOddity::kLineBeforeFirstSection, line);
@@ -214,25 +274,40 @@ std::string HtrReader::ReadDataLine(std::string_view line) {
 std::string HtrReader::ReadHeaderLine(std::string_view line) {
   const std::string_view keyword = TakeFirstToken(line);
   const std::string_view value = TakeLastToken(line);
+  if (HtrReadObserver* const observer = oddities_.Observer()) {
+    observer->OnHeaderField(oddities_.CellOf(keyword), oddities_.CellOf(value));
+  }
+  oddities_.ReportWords(HtrOddity::kExtraHeaderWords, TrimTrailingSeparators(line));
   return ReadHeaderField(keyword, value, document_, segments_awaited_, oddities_);
 }
 
 std::string HtrReader::ReadHierarchyLine(std::string_view line) {
-  const std::string name(TakeFirstToken(line));
-  if (document_.AddSegment(HtrSegment(name)) == nullptr) {
-    return "The file has duplicate segment names: " + name;
+  const std::string_view name = TakeFirstToken(line);
+  if (document_.AddSegment(HtrSegment(std::string(name))) == nullptr) {
+    oddities_.Report(HtrOddity::kRefusedSegmentName, name);
+    return "The file has duplicate segment names: " + std::string(name);
   }
-  parent_names_.push_back(TakeLastToken(line));
+  parent_names_.push_back(oddities_.CellOf(TakeLastToken(line)));
+  oddities_.ReportWords(HtrOddity::kExtraHierarchyWords, TrimTrailingSeparators(line));
+  if (HtrReadObserver* const observer = oddities_.Observer()) {
+    observer->OnSegment(oddities_.CellOf(name), parent_names_.back());
+  }
   return {};
 }
 
 std::string HtrReader::ReadBasePositionLine(std::string_view line) {
-  HtrSegment* segment = document_.FindSegment(TakeFirstToken(line));
+  const std::string_view name = TakeFirstToken(line);
+  HtrSegment* segment = document_.FindSegment(name);
   if (segment == nullptr) {
+    oddities_.Report(HtrOddity::kRefusedBasePosition, name);
     // Intended: the text names the cell behind the unknown name, not the name.
     return "Segment name not found: " + std::string(TakeFirstToken(line));
   }
-  NumberCells cells(line, oddities_);
+  if (HtrReadObserver* const observer = oddities_.Observer()) {
+    observer->OnBasePosition(oddities_.CellOf(name));
+    oddities_.CheckNumbers(line, kBasePositionColumns);
+  }
+  NumberCells cells(line);
   const Vector3 translation = cells.TakeVector(1.0);
   const Vector3 angles = cells.TakeVector(angle_factor_);
   segment->SetBaseTranslation(translation.x(), translation.y(), translation.z());
@@ -245,11 +320,19 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
 
 void HtrReader::ReadMotionLine(std::string_view line) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
-  NumberCells cells(line, oddities_);
+  if (oddities_.Observer() != nullptr) TellFrame(line);
+  NumberCells cells(line);
   ReserveFor(cells.TakeInt());
   const Vector3 translation = cells.TakeVector(1.0);
   const Vector3 angles = cells.TakeVector(angle_factor_);
   segment_->AddFrame(translation, angles, cells.Take());
+}
+
+void HtrReader::TellFrame(std::string_view line) {
+  const std::string_view number = TakeFirstToken(line);
+  oddities_.Observer()->OnFrame(oddities_.CellOf(number));
+  oddities_.CheckWholeNumber(number, kFrameColumn);
+  oddities_.CheckNumbers(line, kMotionColumns);
 }
 
 // Makes room before the first line of a segment. Later segments follow what the last section really
@@ -268,6 +351,7 @@ void HtrReader::ReserveFor(std::int32_t frame_number) {
 std::string HtrReader::Finish() {
   LeaveMotion();
   if (state_ == State::kStoppedBeforeMotion || segments_awaited_ == 0) return {};
+  oddities_.Report(HtrOddity::kRefusedBasePositionCount, oddities_.EndOfLine());
   return "Incorrect number of segments defined in file";
 }
 
