@@ -17,11 +17,12 @@ void HtrDocument::Clear() {
 }
 
 HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
-  if (segment.name_.find(' ') != std::string::npos) return nullptr;
-  if (FindSegment(segment.name_) != nullptr) return nullptr;
+  const std::string& name = segment.name_.Get();
+  if (name.find(' ') != std::string::npos) return nullptr;
+  if (FindSegment(name) != nullptr) return nullptr;
   HtrSegment& stored = segments_.emplace_back(segment);
-  stored.names_changed_.flag = &names_changed_;
-  by_name_.emplace(stored.name_, &stored);
+  stored.name_.Watch(names_changed_);
+  by_name_.emplace(stored.name_.Get(), &stored);
   return &stored;
 }
 
@@ -41,7 +42,7 @@ HtrSegment* HtrDocument::FindRootSegment() {
 std::vector<std::string> HtrDocument::GetSegmentNames() const {
   std::vector<std::string> names;
   names.reserve(segments_.size());
-  for (const HtrSegment& segment : segments_) names.push_back(segment.name_);
+  for (const HtrSegment& segment : segments_) names.push_back(segment.name_.Get());
   return names;
 }
 
@@ -56,7 +57,7 @@ void HtrDocument::ConvertCalibrationUnits(std::uint32_t code) {
 
 void HtrDocument::RefreshNames() {
   by_name_.clear();
-  for (HtrSegment& segment : segments_) by_name_.emplace(segment.name_, &segment);
+  for (HtrSegment& segment : segments_) by_name_.emplace(segment.name_.Get(), &segment);
   names_changed_ = false;
 }
 

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <unordered_set>
-#include <utility>
 
 #include "plugin/math/rotation_matrix3.h"
 
@@ -14,11 +13,6 @@ void Scale(Vector3& vector, double factor) {
 }
 
 }  // namespace
-
-void HtrSegment::SetName(std::string name) {
-  name_ = std::move(name);
-  names_changed_.Raise();
-}
 
 void HtrSegment::SetParent(HtrSegment* parent) {
   parent_ = parent;
@@ -38,7 +32,7 @@ HtrSegment* HtrSegment::FindDescendant(std::string_view name) {
     HtrSegment* segment = pending.back();
     pending.pop_back();
     if (!seen.insert(segment).second) continue;
-    if (segment->name_ == name) return segment;
+    if (segment->name_.Get() == name) return segment;
     pending.insert(pending.end(), segment->children_.rbegin(), segment->children_.rend());
   }
   return nullptr;

@@ -8,6 +8,7 @@
 
 #include "plugin/math/euler_rotation.h"
 #include "plugin/math/vector.h"
+#include "plugin/text/watched_name.h"
 
 // One bone of a motion file: its name, its place in the hierarchy, its base position and its
 // motion.
@@ -28,9 +29,9 @@ class HtrSegment {
   bool GetIsRoot() const { return is_root_; }
   void SetIsRoot(bool is_root) { is_root_ = is_root; }
 
-  std::string GetName() const { return name_; }
+  std::string GetName() const { return name_.Get(); }
   // Renames the segment, one stored in a document too: the document finds it by its new name.
-  void SetName(std::string name);
+  void SetName(std::string name) { name_.Set(std::move(name)); }
 
   // Stores `parent`, which may be null, and lists this segment behind the parent's children. A
   // segment that is set twice is listed twice. Neither pointer owns: both segments must keep their
@@ -82,24 +83,8 @@ class HtrSegment {
  private:
   friend class HtrDocument;
 
-  // The owning document's flag that its names have changed. A copy of a segment is in no document;
-  // one that is overwritten stays in its own, with another name.
-  struct NamesChangedFlag {
-    NamesChangedFlag() = default;
-    NamesChangedFlag(const NamesChangedFlag&) {}
-    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
-    NamesChangedFlag& operator=(const NamesChangedFlag&) {
-      Raise();
-      return *this;
-    }
-    void Raise() {
-      if (flag != nullptr) *flag = true;
-    }
-    bool* flag = nullptr;
-  };
-
   bool is_root_ = false;
-  std::string name_;
+  WatchedName name_;  // the owning document watches it
   HtrSegment* parent_ = nullptr;
   std::vector<HtrSegment*> children_;
   Vector3 base_translation_;
@@ -109,7 +94,6 @@ class HtrSegment {
   std::vector<Vector3> frame_translations_;
   std::vector<EulerRotation> frame_rotations_;
   std::vector<double> frame_scales_;
-  NamesChangedFlag names_changed_;
 };
 
 }  // namespace orvane
