@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+#include "plugin/text/lines.h"
+#include "plugin/trc/fields.h"
+#include "plugin/trc/oddities.h"
+
+// Looks a frame's line over for what the reader lets pass. A second look at the line, made only for
+// an observer, so that reading need not wonder about any of it.
+namespace orvane {
+
+class TRCDataLineInspector {
+ public:
+  // `oddities` knows the line and must outlive this object.
+  explicit TRCDataLineInspector(const TRCOddities& oddities) : oddities_(oddities) {}
+
+  // Reports what is odd about a line that holds one frame of `marker_count` markers.
+  void Inspect(const Line& line, std::size_t marker_count);
+
+ private:
+  void InspectFrameNumber(std::string_view field);
+  void InspectSample(TRCFields& fields);
+  void InspectRest(TRCFields& fields);
+
+  const TRCOddities& oddities_;
+  std::optional<std::int64_t> previous_number_;
+};
+
+}  // namespace orvane

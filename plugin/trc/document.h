@@ -1,0 +1,90 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <string_view>
+#include <unordered_set>
+
+#include "plugin/trc/marker.h"
+#include "plugin/trc/read_observer.h"
+
+// A marker file in memory: the values of its header, and its markers in the order of their columns.
+// Unit codes are the length codes of plugin/units.
+namespace orvane {
+
+// Owns its markers. Their addresses stay until Reset, the next reading or the end of the document.
+class TRCDocument {
+ public:
+  TRCDocument() = default;
+  TRCDocument(const TRCDocument&) = delete;
+  TRCDocument& operator=(const TRCDocument&) = delete;
+
+  // Deletes all markers and sets the header back to its defaults.
+  // Intended: the camera rate stays as it is.
+  void Reset();
+
+  // Reads a marker file, in the place of what the document held. docs/formats/trc.md describes the
+  // files, and what is let pass. Returns an empty text on success; otherwise the message to show as
+  // it stands, with the document holding what was read up to that point. Columns whose name begins
+  // with "Unnamed" get no marker unless `include_unnamed`. `observer` may be null and is not kept.
+  //
+  // Opens `file_name` (UTF-8), with ".TRC" added unless its fourth character from the end is a full
+  // stop. When that fails, the message says so and the document is left untouched.
+  [[nodiscard]] std::string Read(const std::string& file_name, bool include_unnamed,
+                                 TRCReadObserver* observer = nullptr);
+  // As Read, on the bytes of a file. Nothing in the document refers to them afterwards.
+  [[nodiscard]] std::string ReadBytes(std::string_view bytes, bool include_unnamed,
+                                      TRCReadObserver* observer = nullptr);
+
+  // The unit of all coordinates.
+  std::int32_t Units() const { return units_; }
+  void SetUnits(std::int32_t code) { units_ = code; }
+  // Frames per second.
+  // Intended: a whole number; the file's 59.94 is 59.
+  std::int32_t DataRate() const { return data_rate_; }
+  void SetDataRate(std::int32_t rate) { data_rate_ = rate; }
+  // Frames per second of the cameras, which nothing here depends on.
+  std::int32_t CameraRate() const { return camera_rate_; }
+  void SetCameraRate(std::int32_t rate) { camera_rate_ = rate; }
+  // Frames as the header announces them, which may be any number; the markers may hold more or
+  // fewer samples.
+  std::int32_t NumFrames() const { return num_frames_; }
+  void SetNumFrames(std::int32_t count) { num_frames_ = count; }
+  // The number of the first frame.
+  std::int32_t FirstFrame() const { return first_frame_; }
+  void SetFirstFrame(std::int32_t number) { first_frame_ = number; }
+
+  unsigned MarkerCount() const { return static_cast<unsigned>(markers_.size()); }
+  // Null when `index` is not below the count.
+  TRCMarker* MarkerAt(std::size_t index);
+  const TRCMarker* MarkerAt(std::size_t index) const;
+  std::deque<TRCMarker>& markers() { return markers_; }
+  const std::deque<TRCMarker>& markers() const { return markers_; }
+
+  // Copies `marker` behind the others and returns the stored copy, which the document owns. Returns
+  // null, adding nothing, when its name is taken (case counts). Takes constant time.
+  TRCMarker* AddMarker(const TRCMarker& marker);
+
+  // Rescales everything from the current unit to `code` and stores that as the unit. When the two
+  // are the same nothing else happens; otherwise dropouts become present, as TRCMarker::Scale says.
+  void ConvertUnits(std::int32_t code);
+  // Multiplies all coordinates, as TRCMarker::Scale does.
+  void Scale(double factor);
+
+ private:
+  void RefreshNames();
+
+  std::deque<TRCMarker> markers_;
+  std::int32_t units_ = 0;
+  std::int32_t data_rate_ = 60;
+  std::int32_t camera_rate_ = 0;
+  std::int32_t num_frames_ = 0;
+  std::int32_t first_frame_ = 1;
+
+  std::unordered_set<std::string_view> names_;  // the markers' own
+  bool names_changed_ = false;
+};
+
+}  // namespace orvane

@@ -1,0 +1,194 @@
+#include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <new>
+#include <optional>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+
+#include "plugin/text/files.h"
+#include "plugin/text/lines.h"
+#include "plugin/text/numbers.h"
+#include "plugin/trc/coordinate_cells.h"
+#include "plugin/trc/data_line_inspector.h"
+#include "plugin/trc/document.h"
+#include "plugin/trc/fields.h"
+#include "plugin/trc/header_lines.h"
+#include "plugin/trc/oddities.h"
+
+// Reading of marker files.
+namespace orvane {
+namespace {
+
+constexpr const char* kNotOpened = "The file could not be opened";
+constexpr const char* kTooLong = "vector<T> too long";
+
+// The lines of a file, counted from 0. All behind these are frames.
+constexpr std::size_t kFileTypeLine = 0;
+constexpr std::size_t kHeaderNamesLine = 1;
+constexpr std::size_t kHeaderValuesLine = 2;
+constexpr std::size_t kMarkerNamesLine = 3;
+constexpr std::size_t kSubHeaderLine = 4;
+constexpr std::size_t kPerhapsBlankLine = 5;
+
+// The text of the shortest sample, three digits and three tabs. The room that is made beforehand
+// keeps in proportion to the file thereby, whatever its header announces.
+constexpr std::size_t kShortestSample = 6;
+
+// A comment, or a line without any character, not even a line break, as a NUL leaves it.
+bool ReplacesNextLine(const Line& line) {
+  return line.text.starts_with('#') || (line.text.empty() && !line.ends_with_break);
+}
+
+bool IsBreakAlone(const Line& line) { return line.text.empty() && line.ends_with_break; }
+
+// One pass over the bytes. Functions that return a text return an empty one, or the message that
+// ends the reading.
+class TRCReader {
+ public:
+  TRCReader(TRCDocument& document, std::string_view bytes, bool include_unnamed,
+            TRCReadObserver* observer)
+      : document_(document),
+        lines_(bytes),
+        size_(bytes.size()),
+        include_unnamed_(include_unnamed),
+        oddities_(observer),
+        inspector_(oddities_) {}
+
+  std::string Read();
+
+ private:
+  std::string ReadLine(const Line& line, std::size_t number);
+  std::string ReadColumns(const Line& line);
+  void ReadFrame(const Line& line);
+  void ReadFirstFrameNumber(const Line& line);
+  void ReserveFrames();
+  void Finish();
+
+  TRCDocument& document_;
+  LineReader lines_;
+  const std::size_t size_;
+  const bool include_unnamed_;
+  TRCOddities oddities_;
+  TRCDataLineInspector inspector_;
+
+  TRCHeader header_;
+  std::size_t frames_read_ = 0;
+};
+
+std::string TRCReader::Read() {
+  document_.Reset();
+  Line line;
+  for (std::size_t number = 0; lines_.Next(line); ++number) {
+    oddities_.SetLine(line.number);
+    oddities_.ReportIf(line.text.size() == kLongestPiece, TRCOddity::kLongLine, 0, line.text);
+    // Intended: a comment is no comment, but takes the place of the line behind it.
+    if (ReplacesNextLine(line)) {
+      oddities_.Report(TRCOddity::kCommentReplacesLine, 0, line.text);
+      Line thrown_away;
+      (void)lines_.Next(thrown_away);
+    }
+    std::string message = ReadLine(line, number);
+    if (!message.empty()) return message;
+  }
+  Finish();
+  return {};
+}
+
+std::string TRCReader::ReadLine(const Line& line, std::size_t number) {
+  switch (number) {
+    case kFileTypeLine:
+      return ReadFileTypeLine(line, header_, oddities_);
+    case kHeaderNamesLine:
+      return {};
+    case kHeaderValuesLine:
+      ReadHeaderValues(line, header_, document_, oddities_);
+      return {};
+    case kMarkerNamesLine:
+      return ReadColumns(line);
+    case kSubHeaderLine:
+      InspectSubHeader(line, oddities_);
+      return {};
+    case kPerhapsBlankLine:
+      if (!IsBreakAlone(line)) ReadFrame(line);
+      return {};
+    default:
+      ReadFrame(line);
+      return {};
+  }
+}
+
+std::string TRCReader::ReadColumns(const Line& line) {
+  std::string message = ReadMarkerNames(line, header_, include_unnamed_, document_, oddities_);
+  if (message.empty()) ReserveFrames();
+  return message;
+}
+
+void TRCReader::ReserveFrames() {
+  const std::size_t announced = static_cast<std::size_t>(std::max(document_.NumFrames(), 0));
+  const std::size_t shortest_frame = kShortestSample * document_.markers().size();
+  for (TRCMarker& marker : document_.markers()) {
+    marker.ReserveFrames(std::min(announced, size_ / shortest_frame));
+  }
+}
+
+// A marker gets its dropouts only before its next position, or at the end. So the time for a line
+// goes with what stands on it, not with the number of markers.
+// Intended: columns are given to the markers as they come, so that a column whose name made no
+// marker shifts those behind it.
+void TRCReader::ReadFrame(const Line& line) {
+  if (frames_read_ == 0) ReadFirstFrameNumber(line);
+  if (oddities_.IsObserved()) inspector_.Inspect(line, document_.markers().size());
+
+  TRCCoordinateCells cells(line.text);
+  cells.Drop();  // the frame number
+  cells.Drop();  // the time
+  for (TRCMarker& marker : document_.markers()) {
+    if (cells.AtEnd()) break;
+    if (cells.IsEmpty()) {
+      for (int coordinate = 0; coordinate < 3; ++coordinate) cells.Drop();
+      continue;
+    }
+    const double x = cells.Take();
+    const double y = cells.Take();
+    const double z = cells.Take();
+    marker.AppendDropouts(frames_read_ - marker.SampleCount());
+    marker.AppendPosition(x, y, z);
+  }
+  ++frames_read_;
+}
+
+void TRCReader::ReadFirstFrameNumber(const Line& line) {
+  if (header_.path_type != kFirstFrameInData) return;
+  document_.SetFirstFrame(ParseInt(TRCFields(line).Get()));
+}
+
+void TRCReader::Finish() {
+  for (TRCMarker& marker : document_.markers()) {
+    marker.AppendDropouts(frames_read_ - marker.SampleCount());
+  }
+  const bool as_announced = static_cast<std::int64_t>(frames_read_) == document_.NumFrames();
+  oddities_.ReportIf(!as_announced, TRCOddity::kFrameCountMismatch, 0,
+                     FormatInt(static_cast<std::int64_t>(frames_read_)));
+}
+
+}  // namespace
+
+std::string TRCDocument::Read(const std::string& file_name, bool include_unnamed,
+                              TRCReadObserver* observer) {
+  const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".TRC"));
+  if (!bytes) return kNotOpened;
+  return ReadBytes(*bytes, include_unnamed, observer);
+}
+
+std::string TRCDocument::ReadBytes(std::string_view bytes, bool include_unnamed,
+                                   TRCReadObserver* observer) try {
+  return TRCReader(*this, bytes, include_unnamed, observer).Read();
+} catch (const std::length_error&) {
+  return kTooLong;
+} catch (const std::bad_alloc&) {
+  return kTooLong;
+}
+
+}  // namespace orvane
