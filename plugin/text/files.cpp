@@ -30,6 +30,12 @@ std::optional<std::string> ReadAll(std::ifstream& stream, std::size_t expected_s
   return bytes;
 }
 
+std::ofstream Create(const std::string& name, std::ios::openmode mode) try {
+  return std::ofstream(PathOf(name), mode | std::ios::out | std::ios::trunc);
+} catch (const std::exception&) {
+  return {};  // a name that is no UTF-8
+}
+
 }  // namespace
 
 // Intended: only the place of the full stop counts, so that "walk.txt" is opened as it is and
@@ -54,10 +60,8 @@ std::optional<std::string> ReadFileBytes(const std::string& name) try {
   return std::nullopt;  // a name that is no UTF-8, an error of the file system, no memory
 }
 
-std::ofstream CreateFileForBytes(const std::string& name) try {
-  return std::ofstream(PathOf(name), std::ios::binary | std::ios::trunc);
-} catch (const std::exception&) {
-  return {};  // a name that is no UTF-8
-}
+std::ofstream CreateFileForBytes(const std::string& name) { return Create(name, std::ios::binary); }
+
+std::ofstream CreateFileForText(const std::string& name) { return Create(name, {}); }
 
 }  // namespace orvane

@@ -21,4 +21,7 @@ std::optional<std::string> ReadFileBytes(const std::string& name);
 // they are. The stream is not open when that fails.
 std::ofstream CreateFileForBytes(const std::string& name);
 
+// The same for text: every line feed becomes the system's line end.
+std::ofstream CreateFileForText(const std::string& name);
+
 }  // namespace orvane

@@ -7,8 +7,8 @@ bool LineReader::Next(Line& line) {
   // The break takes the place of one character, so a line of exactly the longest size is followed
   // by a piece that holds the break alone.
   const std::size_t taken = content_.size() + (has_break_ ? 1 : 0);
-  const bool whole = taken <= kLongestPiece;
-  line.text = whole ? content_ : content_.substr(0, kLongestPiece);
+  const bool whole = taken <= longest_piece_;
+  line.text = whole ? content_ : content_.substr(0, longest_piece_);
   line.ends_with_break = whole && has_break_;
   line.number = number_;
   content_.remove_prefix(line.text.size());

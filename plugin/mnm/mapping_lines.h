@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "plugin/text/lines.h"
+
+// The lines of a marker name mapping file: which two names each of them pairs. Every line pairs two
+// names, whatever it holds; who wants to know what it really held asks for the number of words.
+namespace orvane {
+
+struct MappingLine {
+  std::string standard_name;
+  std::string trc_name;
+  std::size_t number = 0;  // of the line in the file, counted from 1
+  int words = 0;           // how many of the two names the line itself gives: 0, 1 or 2
+  std::string_view text;   // the line as it is, without its break; a view into the bytes
+};
+
+// Hands out the lines of `bytes`, which must outlive the reader.
+class MappingLineReader {
+ public:
+  explicit MappingLineReader(std::string_view bytes) : lines_(bytes, kLongestMappingPiece) {}
+
+  // Puts the next line into `line` and returns true, or returns false at the end. The names are the
+  // first two words of the line; words end at white space. A name that the line does not give is
+  // that of the line before: files rely on it, so a blank line repeats the entry before it, and a
+  // line of one word pairs that with the marker of the line before. Before the first line both
+  // names are empty.
+  [[nodiscard]] bool Next(MappingLine& line);
+
+  // A line with its break has room for 1,023 characters; what is longer counts as several lines.
+  static constexpr std::size_t kLongestMappingPiece = 1023;
+
+ private:
+  LineReader lines_;
+};
+
+}  // namespace orvane
