@@ -12,8 +12,9 @@ namespace host {
 
 // The keys of a controller, in rising order of their ticks, in contiguous memory but for one gap.
 // The gap stays where keys were last made or deleted, so that making and deleting keys in order is
-// cheap wherever they are. Deleting at a tick without a key remembers the stretch without keys
-// around it: importers clear a range tick by tick, and nearly all of those calls end there.
+// cheap wherever they are: the next one belongs in the gap. Deleting at a tick without a key
+// remembers the stretch without keys around it: importers clear a range tick by tick, and nearly
+// all of those calls end there.
 template <typename Value>
 class Keys {
  public:
@@ -30,6 +31,7 @@ class Keys {
 
   // The number of the first key at or after `tick`; Size() when there is none.
   std::size_t LowerBound(TimeValue tick) const {
+    if (BelongsInGap(tick)) return gap_begin_;
     std::size_t first = 0;
     std::size_t count = Size();
     while (count > 0) {
@@ -88,8 +90,15 @@ class Keys {
     return i < Size() && (*this)[i].tick == tick;
   }
 
+  // Whether a key at `tick` stands, or would stand, directly behind the gap.
+  bool BelongsInGap(TimeValue tick) const {
+    return (gap_begin_ == 0 || buffer_[gap_begin_ - 1].tick < tick) &&
+           (gap_end_ == buffer_.size() || tick <= buffer_[gap_end_].tick);
+  }
+
   // Moves the gap, which may be closed, to before key number `i`.
   void MoveGapTo(std::size_t i) {
+    if (gap_begin_ == i) return;
     if (gap_begin_ == gap_end_) {
       gap_begin_ = gap_end_ = i;
       return;
