@@ -1,0 +1,54 @@
+#pragma once
+
+#include <string>
+
+#include "plugin/mnm/marker_name_map.h"
+#include "plugin/shell/settings_store.h"
+#include "plugin/trc/document.h"
+
+// Turns marker files (TRC) into the marker files of the host's character animation (BVK). The
+// utility panel owns one of these, shows and changes its settings, and starts it.
+namespace orvane {
+
+class ConvertBVK {
+ public:
+  // Opens the key Software\Orvane\OrvaneFileIO\Skelder\ConvertBVK and takes over the settings that
+  // are stored there. When it cannot be opened the settings live in memory only.
+  ConvertBVK();
+  ConvertBVK(const ConvertBVK&) = delete;
+  ConvertBVK& operator=(const ConvertBVK&) = delete;
+  // Saves the settings.
+  ~ConvertBVK();
+
+  // Writes the settings to the registry. Failures are silent.
+  void SaveSettings();
+
+  // The settings; a new user's to begin with. Paths are UTF-8, and what no file or folder has been
+  // chosen for is "<none>".
+  std::string mnmPath = "<none>";     // the mapping file
+  std::string inputPath = "C:\\";     // the folder in which marker files are looked for
+  std::string outputPath = "<none>";  // the folder of the files and the log of a batch
+  bool filter = true;                 // rename markers by the mapping and keep only those it knows
+  bool batch = false;                 // convert several files
+  bool trcName = true;                // name each output after its input instead of asking
+  bool trcSpace = true;               // the offset is in the axes of the input, or in the output's
+  bool offset = false;                // add the offset
+  float offsetX = 0.0F;               // in the unit of the marker file
+  float offsetY = 0.0F;
+  float offsetZ = 0.0F;
+
+  // The marker names to use instead of those of the files.
+  // Intended: nothing empties it between two conversions, and the mapping creator works on it too,
+  // so that entries which were there first go first.
+  MarkerNameMap mapping;
+
+  // The marker file that is being converted.
+  TRCDocument document;
+
+ private:
+  void LoadSettings();
+
+  SettingsStore store_;
+};
+
+}  // namespace orvane
