@@ -4,13 +4,14 @@
 
 #include "platform/dialog.h"
 #include "platform/export.h"
+#include "platform/file_dialog.h"
 #include "platform/handles.h"
 #include "platform/message_box.h"
 #include "platform/registry.h"
 
 // What a program without Windows gives the plug-in in place of the system: somebody who reads
-// message boxes and answers dialogs, and a registry. The portable bodies of the platform forward to
-// the desktop in use. Tests and the command line provide a scripted one.
+// message boxes, answers dialogs and chooses files, and a registry. The portable bodies of the
+// platform forward to the desktop in use. Tests and the command line provide a scripted one.
 //
 // Only plain data and interface pointers cross here, because the plug-in and the program are
 // different modules.
@@ -40,6 +41,11 @@ class Desktop {
   // result, or kDialogNotCreated.
   virtual int RunDialog(HINSTANCE module, int dialog_id, HWND parent, DialogHandler& handler) = 0;
 
+  // As their namesakes in platform/file_dialog.h.
+  virtual bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
+                           std::size_t& name_offset) = 0;
+  virtual bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) = 0;
+
   // The registry of the current user. Lives at least as long as any module that was loaded while
   // this desktop was installed.
   virtual Registry& CurrentUser() = 0;
@@ -54,7 +60,7 @@ class Desktop {
 SKELDER_API void InstallDesktop(Desktop* desktop);
 
 // The desktop in use, or null. The portable bodies then report failure: no key opens, no dialog is
-// created, a message box answers kMessageBoxFailed.
+// created, nothing is chosen, a message box answers kMessageBoxFailed.
 SKELDER_API Desktop* CurrentDesktop();
 
 }  // namespace platform

@@ -18,6 +18,8 @@ bool HasButton(MessageBoxStyle style, int answer) {
              : answer == platform::kMessageBoxOk;
 }
 
+std::string Named(const std::string& dialog_title) { return "the dialog \"" + dialog_title + "\""; }
+
 std::string Described(const MessageBox& message) {
   return "the message \"" + message.text + "\" (\"" + message.caption + "\")";
 }
@@ -36,15 +38,20 @@ void ScriptedDesktop::RethrowFailure() const { failure_.Rethrow(); }
 
 platform::Registry& ScriptedDesktop::CurrentUser() { return registry_; }
 
+template <typename Answer, typename Ask>
+Answer ScriptedDesktop::AnswerOr(Answer none, const Ask& ask) {
+  if (failure_.HasHappened()) return none;
+  try {
+    return ask();
+  } catch (...) {
+    failure_.Keep(std::current_exception());
+    return none;
+  }
+}
+
 int ScriptedDesktop::ShowMessage(const char* text, const char* caption, MessageBoxStyle style) {
   MessageBox message{text, caption, style, platform::kMessageBoxFailed};
-  if (!failure_.HasHappened()) {
-    try {
-      message.answer = AnswerOf(message);
-    } catch (...) {
-      failure_.Keep(std::current_exception());
-    }
-  }
+  message.answer = AnswerOr<int>(platform::kMessageBoxFailed, [&] { return AnswerOf(message); });
   messages_.push_back(message);
   return message.answer;
 }
@@ -57,6 +64,24 @@ int ScriptedDesktop::AnswerOf(const MessageBox& message) {
                       ".");
   }
   return answer;
+}
+
+bool ScriptedDesktop::ChooseFiles(const platform::FileDialog& dialog, char* buffer,
+                                  std::size_t size, std::size_t& name_offset) {
+  return AnswerOr(false, [&] {
+    if (!user_.choose_files) throw ScriptError("Nobody answers " + Named(dialog.title) + ".");
+    const ChosenFiles chosen = ResolveChoice(dialog, user_.choose_files(dialog));
+    return !chosen.names.empty() && chosen.Write(buffer, size, name_offset);
+  });
+}
+
+bool ScriptedDesktop::ChooseFolder(HWND /*owner*/, const char* title, char* buffer,
+                                   std::size_t size) {
+  return AnswerOr(false, [&] {
+    if (!user_.choose_folder) throw ScriptError("Nobody answers " + Named(title) + ".");
+    const std::string folder = user_.choose_folder(title);
+    return !folder.empty() && WriteFolder(title, folder, buffer, size);
+  });
 }
 
 int ScriptedDesktop::RunDialog(HINSTANCE module, int dialog_id, HWND parent,
@@ -82,7 +107,7 @@ void ScriptedDesktop::LetUserAnswer(int dialog_id, OpenDialog& dialog,
                                     platform::DialogHandler& handler) {
   failure_.Rethrow();
   if (dialog.HasEnded()) return;
-  const std::string name = "the dialog \"" + dialog.Title() + "\"";
+  const std::string name = Named(dialog.Title());
   if (!user_.answer_dialog) throw ScriptError("Nobody answers " + name + ".");
   ScriptedDialog user_side(dialog_id, dialog, handler, failure_);
   user_.answer_dialog(user_side);

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <cstddef>
 #include <functional>
 #include <set>
 #include <string>
 #include <vector>
 
+#include "host/desktop/file_choice.h"
 #include "host/desktop/script_failure.h"
 #include "host/desktop/scripted_dialog.h"
 #include "platform/desktop.h"
@@ -13,7 +15,7 @@
 // A desktop whose user is a script: tests and the command line answer the plug-in's dialogs and
 // messages with functions of their own. It is never silent about a question that stays open: a
 // dialog or message that no function answers is a failure, and so is a dialog that its function
-// leaves open.
+// leaves open or a choice that the system's dialogs do not allow.
 
 namespace host {
 
@@ -25,15 +27,21 @@ struct MessageBox {
   int answer = platform::kMessageBoxFailed;  // a MessageBoxResult, once it has been answered
 };
 
-// What the user does. Either function may throw anything: the desktop catches it, lets the plug-in
-// see a dialog that could not be created or a message that failed, and hands it out by
-// RethrowFailure when the plug-in is done.
+// What the user does. Any function may throw anything: the desktop catches it, lets the plug-in
+// see a dialog that could not be created or was cancelled, or a message that failed, and hands it
+// out by RethrowFailure when the plug-in is done.
 struct ScriptedUser {
   // Uses an open dialog until it has ended.
-  std::function<void(ScriptedDialog&)> answer_dialog;
+  std::function<void(ScriptedDialog&)> answer_dialog{};
 
   // Returns the button pressed (a MessageBoxResult that the box has).
-  std::function<int(const MessageBox&)> answer_message;
+  std::function<int(const MessageBox&)> answer_message{};
+
+  // Chooses files, or none to cancel.
+  std::function<FileChoice(const platform::FileDialog&)> choose_files{};
+
+  // Chooses a folder in the dialog of that title; the empty path cancels.
+  std::function<std::string(const std::string& title)> choose_folder{};
 };
 
 class SKELDER_API ScriptedDesktop final : public platform::Desktop {
@@ -54,15 +62,23 @@ class SKELDER_API ScriptedDesktop final : public platform::Desktop {
   [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
 
   // Throws the first failure, if there was one. After it nobody was asked any more: dialogs
-  // were not created and messages failed. Call it when the plug-in has returned.
+  // were not created, nothing was chosen and messages failed. Call it when the plug-in has
+  // returned.
   void RethrowFailure() const;
 
   int ShowMessage(const char* text, const char* caption, platform::MessageBoxStyle style) override;
   int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
                 platform::DialogHandler& handler) override;
+  bool ChooseFiles(const platform::FileDialog& dialog, char* buffer, std::size_t size,
+                   std::size_t& name_offset) override;
+  bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) override;
   platform::Registry& CurrentUser() override;
 
  private:
+  // The answer that `ask` gives, or `none` once there was a failure, which may be its own.
+  template <typename Answer, typename Ask>
+  Answer AnswerOr(Answer none, const Ask& ask);
+
   int AnswerOf(const MessageBox& message);
   void LetUserAnswer(int dialog_id, OpenDialog& dialog, platform::DialogHandler& handler);
 

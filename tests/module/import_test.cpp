@@ -5,6 +5,7 @@
 #include "host/base/heap_control.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/fake_dialog.h"
+#include "tests/support/forwarding_desktop.h"
 #include "tests/support/htr_text.h"
 
 namespace test {
@@ -129,19 +130,15 @@ TEST_F(ImportTest, NoAllocationOfTheHostsIsIndispensable) {
 }
 
 // Hands the options dialog's handler a command that no control of the dialog sends.
-class AboutDesktop final : public platform::Desktop {
+class AboutDesktop final : public ForwardingDesktop {
  public:
-  explicit AboutDesktop(Desk& desk) : desk_(desk) { platform::InstallDesktop(this); }
-  AboutDesktop(const AboutDesktop&) = delete;
-  AboutDesktop& operator=(const AboutDesktop&) = delete;
-  ~AboutDesktop() { platform::InstallDesktop(&desk_.desktop()); }
+  using ForwardingDesktop::ForwardingDesktop;
 
-  int ShowMessage(const char* text, const char* caption, platform::MessageBoxStyle style) override {
-    return desk_.desktop().ShowMessage(text, caption, style);
-  }
   int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
                 platform::DialogHandler& handler) override {
-    if (dialog_id != 107) return desk_.desktop().RunDialog(module, dialog_id, parent, handler);
+    if (dialog_id != 107) {
+      return ForwardingDesktop::RunDialog(module, dialog_id, parent, handler);
+    }
     FakeDialog dialog;
     handler.Initialize(dialog);
     handler.Command(dialog, kAbout);
@@ -149,14 +146,10 @@ class AboutDesktop final : public platform::Desktop {
     handler.Command(dialog, kCancel);
     return dialog.Result().value_or(platform::kDialogNotCreated);
   }
-  platform::Registry& CurrentUser() override { return desk_.registry(); }
-
- private:
-  Desk& desk_;
 };
 
 TEST_F(ImportTest, TheOptionsDialogAnswersTheAboutCommand) {
-  const AboutDesktop about_desktop(desk_);
+  const AboutDesktop about_desktop(desk_.desktop());
   bool shown = false;
   EXPECT_EQ(Import(File(),
                    [&shown](host::ScriptedDialog& dialog) {

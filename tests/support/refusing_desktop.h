@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstddef>
+
 #include "host/desktop/memory_registry.h"
 #include "platform/desktop.h"
 
@@ -28,6 +30,14 @@ class RefusingDesktop final : public platform::Desktop {
     dialog_id_ = dialog_id;
     parent_ = parent;
     return platform::kDialogNotCreated;
+  }
+  bool ChooseFiles(const platform::FileDialog& /*dialog*/, char* /*buffer*/, std::size_t /*size*/,
+                   std::size_t& /*name_offset*/) override {
+    return false;
+  }
+  bool ChooseFolder(HWND /*owner*/, const char* /*title*/, char* /*buffer*/,
+                    std::size_t /*size*/) override {
+    return false;
   }
   platform::Registry& CurrentUser() override { return registry_; }
 

@@ -1,11 +1,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 
 #include "platform/desktop.h"
 #include "platform/dialog.h"
+#include "platform/file_dialog.h"
 #include "platform/message_box.h"
 #include "platform/registry.h"
 
@@ -33,6 +35,8 @@ class MockDesktop : public Desktop {
   virtual ~MockDesktop() = default;
   MOCK_METHOD(int, ShowMessage, (const char*, const char*, MessageBoxStyle), (override));
   MOCK_METHOD(int, RunDialog, (HINSTANCE, int, HWND, DialogHandler&), (override));
+  MOCK_METHOD(bool, ChooseFiles, (const FileDialog&, char*, std::size_t, std::size_t&), (override));
+  MOCK_METHOD(bool, ChooseFolder, (HWND, const char*, char*, std::size_t), (override));
   MOCK_METHOD(Registry&, CurrentUser, (), (override));
 };
 
@@ -75,6 +79,19 @@ TEST_F(InstalledDesktopTest, RunsDialogs) {
   EXPECT_EQ(RunModalDialog(Token<HINSTANCE>(8), 107, Token<HWND>(16), handler), 5);
 }
 
+TEST_F(InstalledDesktopTest, ChoosesFilesAndFolders) {
+  const FileDialog dialog;
+  std::array<char, 8> buffer{};
+  std::size_t name_offset = 0;
+  EXPECT_CALL(desktop_, ChooseFiles(testing::Ref(dialog), buffer.data(), 8U, testing::_))
+      .WillOnce(testing::DoAll(testing::SetArgReferee<3>(5), Return(true)));
+  EXPECT_TRUE(ChooseFiles(dialog, buffer.data(), buffer.size(), name_offset));
+  EXPECT_EQ(name_offset, 5U);
+  EXPECT_CALL(desktop_, ChooseFolder(Token<HWND>(16), StrEq("title"), buffer.data(), 8U))
+      .WillOnce(Return(true));
+  EXPECT_TRUE(ChooseFolder(Token<HWND>(16), "title", buffer.data(), buffer.size()));
+}
+
 TEST_F(InstalledDesktopTest, LendsItsRegistry) {
   auto* const key = Token<RegistryKey*>(8);
   int value = 0;
@@ -99,6 +116,10 @@ TEST(NoDesktopTest, EverythingReportsFailure) {
   std::size_t size = sizeof(value);
   EXPECT_EQ(ShowMessageBox("text", "title", MessageBoxStyle::kOk), kMessageBoxFailed);
   EXPECT_EQ(RunModalDialog(nullptr, 107, nullptr, handler), kDialogNotCreated);
+  std::array<char, 8> buffer{};
+  std::size_t name_offset = 0;
+  EXPECT_FALSE(ChooseFiles({}, buffer.data(), buffer.size(), name_offset));
+  EXPECT_FALSE(ChooseFolder(nullptr, "title", buffer.data(), buffer.size()));
   EXPECT_EQ(CreateRegistryKey(nullptr, "path"), nullptr);
   EXPECT_FALSE(QueryRegistryValue(nullptr, "name", &value, size));
   EXPECT_FALSE(SetRegistryValue(nullptr, "name", RegistryType::kBinary, &value, size));
