@@ -3,14 +3,9 @@
 #include "plugin/math/quaternion.h"
 #include "plugin/math/vector.h"
 #include "sdk/core/control.h"
-#include "sdk/core/node.h"
 
-// Writing to the position and rotation controllers of nodes. The controllers belong to the scene.
+// Writing positions and rotations to controllers, which belong to the scene.
 namespace orvane {
-
-// The controllers of `node`'s transform; null where it has none.
-Control* PositionController(INode& node);
-Control* RotationController(INode& node);
 
 // Sets the value of `controller` at `time` (ticks), in host axes and system units, local to the
 // parent. Returns false, setting nothing, when the controller does not accept a value now or there

@@ -145,7 +145,7 @@ INode* ImportHTR::CreateGroupedSkeleton(const HtrSegment& root) {
 
   const auto half_extent =
       static_cast<float>(static_cast<double>(options_.size) * options_.scaleFactor);
-  INode* dummy = CreateDummyNode(*interface_, FileNamePart(file_name_.data()), half_extent);
+  INode* dummy = CreateGroupNode(*interface_, FileNamePart(file_name_.data()), half_extent);
   if (dummy == nullptr) return nullptr;
   dummy->AttachChild(root_node, false);
   return root_node;

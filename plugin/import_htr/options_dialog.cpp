@@ -3,7 +3,6 @@
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
 #include "plugin/shell/about_dialog.h"
-#include "plugin/text/numbers.h"
 #include "sdk/skelderutil/window.h"
 
 namespace orvane {
@@ -14,7 +13,7 @@ constexpr int kFirstCommand = IDC_EULER;
 constexpr int kLastCommand = IDC_ABOUT;
 
 void EnableCreation(platform::Dialog& dialog, bool enabled) {
-  EnableControls(dialog, {IDC_END_EFFECTORS, IDC_SPARE, IDC_SEGMENT_SIZE}, enabled);
+  EnableControls(dialog, {IDC_END_EFFECTORS, IDC_SPARE, IDC_SIZE}, enabled);
 }
 
 }  // namespace
@@ -59,8 +58,7 @@ void ImportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
 
 void ImportHTROptionsDialog::FillNumbers(platform::Dialog& dialog) const {
   FillFrameRange(dialog, Range());
-  dialog.SetText(IDC_SEGMENT_SIZE, FormatDouble(static_cast<double>(options_.size)).c_str());
-  dialog.SetText(IDC_GLOBAL_SCALE, FormatDouble(options_.scaleFactor).c_str());
+  FillScales(dialog, Scales());
 }
 
 void ImportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
@@ -98,7 +96,7 @@ void ImportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
 void ImportHTROptionsDialog::Confirm(platform::Dialog& dialog) {
   ReadSwitches(dialog);
   std::string refusal = ReadFrameRange(dialog, Range());
-  if (refusal.empty()) refusal = ReadScales(dialog);
+  if (refusal.empty()) refusal = ReadScales(dialog, Scales());
   if (refusal.empty()) refusal = CheckCombination();
   if (!refusal.empty()) return messages_.Report(refusal.c_str(), "ImportHTR Error");
   options_.Save();
@@ -114,14 +112,6 @@ void ImportHTROptionsDialog::ReadSwitches(platform::Dialog& dialog) {
   options_.endEffectors = dialog.IsChecked(IDC_END_EFFECTORS);
   options_.spare = dialog.IsChecked(IDC_SPARE);
   options_.setFrameRate = dialog.IsChecked(IDC_SET_FRAME_RATE);
-}
-
-std::string ImportHTROptionsDialog::ReadScales(platform::Dialog& dialog) {
-  options_.size = static_cast<float>(ParseDouble(ControlText(dialog, IDC_SEGMENT_SIZE)));
-  if (options_.size == 0.0F) return "Please choose a non-zero size.";
-  options_.scaleFactor = ParseDouble(ControlText(dialog, IDC_GLOBAL_SCALE));
-  if (options_.scaleFactor == 0.0) return "Please choose a non-zero scale factor.";
-  return {};
 }
 
 std::string ImportHTROptionsDialog::CheckCombination() const {

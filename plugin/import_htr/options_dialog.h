@@ -5,6 +5,7 @@
 
 #include "platform/dialog.h"
 #include "plugin/exchange/frame_range_controls.h"
+#include "plugin/exchange/scale_controls.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/shell/message_sink.h"
 
@@ -36,6 +37,7 @@ class ImportHTROptionsDialog final : public platform::DialogHandler {
   FrameRange Range() const {
     return {options_.startFrame, options_.endFrame, options_.frameOffset};
   }
+  ImportScales Scales() const { return {options_.size, options_.scaleFactor}; }
   void Answer(platform::Dialog& dialog, int control);
   void FillSwitches(platform::Dialog& dialog) const;
   void FillNumbers(platform::Dialog& dialog) const;
@@ -43,7 +45,6 @@ class ImportHTROptionsDialog final : public platform::DialogHandler {
 
   // The checks of Confirm, each of which takes over what it accepts. An empty text is success.
   void ReadSwitches(platform::Dialog& dialog);
-  std::string ReadScales(platform::Dialog& dialog);
   std::string CheckCombination() const;
 
   ImportHTROptions& options_;

@@ -1,5 +1,6 @@
 #include "plugin/import_htr/scene_nodes.h"
 
+#include "plugin/exchange/object_nodes.h"
 #include "sdk/core/object.h"
 #include "sdk/gfx/color.h"
 #include "sdk/paramblk2/parameter_block.h"
@@ -15,13 +16,6 @@ unsigned ColorByte(float part) { return static_cast<unsigned>(static_cast<int>(p
 WireColor NewObjectColor() {
   const Color color = GetUIColor(kNewObjectColorIndex);
   return PackWireColor(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
-}
-
-// The object goes to the node, or away when there is no node for it.
-INode* CreateNodeFor(Interface& interface, Object& object) {
-  INode* node = interface.CreateObjectNode(&object);
-  if (node == nullptr) object.Delete();
-  return node;
 }
 
 void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {
@@ -50,13 +44,8 @@ INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneS
   return node;
 }
 
-INode* CreateDummyNode(Interface& interface, const std::string& name, float half_extent) {
-  auto* dummy = static_cast<DummyObject*>(interface.CreateInstance(kHelperSuperClass, kDummyClass));
-  if (dummy == nullptr) return nullptr;
-  dummy->SetBox(Box3(Point3(-half_extent, -half_extent, -half_extent),
-                     Point3(half_extent, half_extent, half_extent)));
-
-  INode* node = CreateNodeFor(interface, *dummy);
+INode* CreateGroupNode(Interface& interface, const std::string& name, float half_extent) {
+  INode* node = CreateDummyNode(interface, half_extent);
   if (node == nullptr) return nullptr;
   node->SetName(name.c_str());
   node->SetWireColor(NewObjectColor());

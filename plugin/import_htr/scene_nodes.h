@@ -20,6 +20,6 @@ INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneS
 // Creates a grouping helper under the scene root, a box from -half_extent to half_extent (system
 // units) on every axis, in the host's colour for new objects. Returns null when the host cannot
 // create it.
-INode* CreateDummyNode(Interface& interface, const std::string& name, float half_extent);
+INode* CreateGroupNode(Interface& interface, const std::string& name, float half_extent);
 
 }  // namespace orvane

@@ -1,5 +1,6 @@
 #include "plugin/import_htr/segment_keyer.h"
 
+#include "plugin/exchange/node_controllers.h"
 #include "plugin/import_htr/controllers.h"
 #include "sdk/core/animation.h"
 
@@ -17,7 +18,8 @@ SegmentKeyer::SegmentKeyer(Interface& interface, const ImportHTROptions& options
       rotation_(RotationController(node)) {}
 
 bool SegmentKeyer::Run() {
-  ClearKeys();
+  ClearKeys(position_, times_);
+  ClearKeys(rotation_, times_);
   if (options_.rotationController != 0) InstallTcbController();
 
   SuspendAnimate();
@@ -27,16 +29,6 @@ bool SegmentKeyer::Run() {
   // Intended: not on failure, which leaves animation suspended.
   ResumeAnimate();
   return true;
-}
-
-// Intended: every tick, not only the frames', so that keys made at another frame rate go too.
-void SegmentKeyer::ClearKeys() {
-  const std::int64_t end = times_.EndTick();
-  for (std::int64_t tick = times_.BeginTick(); tick < end; ++tick) {
-    const auto time = static_cast<TimeValue>(tick);
-    if (position_ != nullptr) position_->DeleteKeyAt(time);
-    if (rotation_ != nullptr) rotation_->DeleteKeyAt(time);
-  }
 }
 
 // Replaces the node's rotation controller, its keys kept.

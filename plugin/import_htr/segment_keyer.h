@@ -1,7 +1,7 @@
 #pragma once
 
+#include "plugin/exchange/key_times.h"
 #include "plugin/htr/segment.h"
-#include "plugin/import_htr/key_times.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/skeleton/axis_conversion.h"
 #include "sdk/core/interface.h"
@@ -21,7 +21,6 @@ class SegmentKeyer {
   bool Run();
 
  private:
-  void ClearKeys();
   void InstallTcbController();
   bool KeyBasePosition();
   bool KeyFrames();

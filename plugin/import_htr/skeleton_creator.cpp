@@ -2,6 +2,7 @@
 
 #include <vector>
 
+#include "plugin/exchange/node_controllers.h"
 #include "plugin/import_htr/controllers.h"
 #include "plugin/skeleton/axis_conversion.h"
 #include "plugin/skeleton/bone.h"

@@ -24,6 +24,7 @@
 
 /* Dialogs and bitmaps. */
 #define IDD_IMPORT_HTR 107
+#define IDD_IMPORT_TRC 108
 #define IDB_ABOUT 112
 #define IDD_ABOUT 114
 
@@ -34,7 +35,7 @@
 /* Asks for the About dialog. No options dialog shows it, but they answer it. */
 #define IDC_ABOUT 1103
 
-/* Controls of the options of the HTR importer. */
+/* Controls of the options of the importers. */
 #define IDC_BASE_POSITION 1017
 #define IDC_END_EFFECTORS 1019
 #define IDC_SPARE 1023 /* in no dialog */
@@ -49,5 +50,9 @@
 #define IDC_APPLY 1086
 #define IDC_GLOBAL_SCALE 1088
 #define IDC_OFFSET 1089
-#define IDC_SEGMENT_SIZE 1104
+#define IDC_SIZE 1104
 #define IDC_SET_FRAME_RATE 1140
+#define IDC_SPHERE 1141
+#define IDC_POINT 1142
+#define IDC_SELECTED_ONLY 1143
+#define IDC_ROOT_NODE 1144

@@ -3,6 +3,7 @@
 #include <numbers>
 
 #include "plugin/math/euler_rotation.h"
+#include "plugin/math/z_up.h"
 
 namespace orvane {
 namespace {
@@ -36,7 +37,7 @@ AxisConversion::AxisConversion(bool is_root) : is_root_(is_root), right_(BoneToS
 }
 
 Vector3 AxisConversion::Position(const Vector3& position) const {
-  if (is_root_) return Vector3(position.x(), -position.z(), position.y());
+  if (is_root_) return ZUpFromYUp(position);
   return Vector3(position.y(), position.z(), position.x());
 }
 

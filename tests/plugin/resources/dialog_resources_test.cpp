@@ -140,6 +140,35 @@ TEST(ImportHtrDialogTest, StopsTheTabKeyOnceInEachPairOfRadioButtons) {
                                           std::pair(1085, true), std::pair(1086, false)));
 }
 
+TEST(ImportTrcDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
+  const ControlKind radio = ControlKind::kRadioButton;
+  const ControlKind check = ControlKind::kCheckBox;
+  const ControlKind edit = ControlKind::kEdit;
+  const ControlKind button = ControlKind::kPushButton;
+  EXPECT_EQ(Dialog(108).title, "ImportTRC");
+  EXPECT_THAT(
+      NumberedControls(Dialog(108)),
+      testing::ElementsAre(
+          Entry{1085, radio, "Create", "Cloud"}, Entry{1086, radio, "Apply", "Cloud"},
+          Entry{1143, check, "Selected Items Only", "Cloud"},
+          Entry{1144, check, "Root Node", "Cloud"}, Entry{1141, radio, "Sphere", "Geometry"},
+          Entry{1142, radio, "Point", "Geometry"}, Entry{1104, edit, "Size", "Geometry"},
+          Entry{1067, radio, "All", "Time Options"}, Entry{1068, radio, "Range", "Time Options"},
+          Entry{1065, edit, "From", "Time Options"}, Entry{1066, edit, "To", "Time Options"},
+          Entry{1089, edit, "Offset", "Time Options"},
+          Entry{1140, check, "Set Frame Rate", "Time Options"},
+          Entry{1088, edit, "Global", "Scale"}, Entry{1097, button, "&OK", ""},
+          Entry{1098, button, "&Cancel", ""}));
+}
+
+TEST(ImportTrcDialogTest, LetsItsHandlerSelectRadioButtons) {
+  for (const ControlTemplate& control : Dialog(108).controls) {
+    if (control.kind == ControlKind::kRadioButton) {
+      EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
+    }
+  }
+}
+
 TEST(AboutDialogTest, NamesTheProductAndItsVersion) {
   const DialogTemplate dialog = Dialog(114);
   EXPECT_EQ(dialog.title, "About...");
@@ -191,6 +220,6 @@ TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest, testing::Values(107U, 114U));
+INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest, testing::Values(107U, 108U, 114U));
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "plugin/import_htr/key_times.h"
+#include "plugin/exchange/key_times.h"
 
 #include <gtest/gtest.h>
 

@@ -1,0 +1,36 @@
+#include "plugin/exchange/node_controllers.h"
+
+#include <cstdint>
+
+namespace orvane {
+namespace {
+
+constexpr int kCommit = 1;
+
+}  // namespace
+
+Control* PositionController(INode& node) {
+  Control* transform = node.GetTMController();
+  return transform == nullptr ? nullptr : transform->GetPositionController();
+}
+
+Control* RotationController(INode& node) {
+  Control* transform = node.GetTMController();
+  return transform == nullptr ? nullptr : transform->GetRotationController();
+}
+
+bool SetControllerValue(Control* controller, TimeValue time, const void* value) {
+  if (controller == nullptr || controller->CanAcceptValue() == 0) return false;
+  controller->SetValue(time, value, kCommit, CTRL_ABSOLUTE);
+  return true;
+}
+
+void ClearKeys(Control* controller, const KeyTimes& times) {
+  if (controller == nullptr) return;
+  const std::int64_t end = times.EndTick();
+  for (std::int64_t tick = times.BeginTick(); tick < end; ++tick) {
+    controller->DeleteKeyAt(static_cast<TimeValue>(tick));
+  }
+}
+
+}  // namespace orvane

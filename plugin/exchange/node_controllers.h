@@ -1,0 +1,22 @@
+#pragma once
+
+#include "plugin/exchange/key_times.h"
+#include "sdk/core/control.h"
+#include "sdk/core/node.h"
+
+// The controllers of nodes, and what all classes do with them. They belong to the scene.
+namespace orvane {
+
+// The controllers of `node`'s transform; null where it has none.
+Control* PositionController(INode& node);
+Control* RotationController(INode& node);
+
+// Sets the value of `controller` at `time` (ticks): a Point3 for a position, a Quat for a rotation.
+// Returns false, setting nothing, when the controller does not accept a value now or is null.
+bool SetControllerValue(Control* controller, TimeValue time, const void* value);
+
+// Deletes the keys of `controller`, which may be null, from the first tick of `times` to the last.
+// Intended: at every tick, not only the frames', so that keys made at another frame rate go too.
+void ClearKeys(Control* controller, const KeyTimes& times);
+
+}  // namespace orvane
