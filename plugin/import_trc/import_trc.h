@@ -1,18 +1,23 @@
 #pragma once
 
+#include "plugin/import_trc/options.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/product.h"
+#include "plugin/trc/document.h"
+#include "sdk/core/cstr.h"
+#include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"
 
-// The importer of marker files as the host sees it. So far it only says what it is: importing is
-// refused with a message.
+// The importer of marker files as the host sees it: what it says about itself, and the order of
+// work of one import. Building the scene is done elsewhere in this folder.
 namespace orvane {
 
 class ImportTRC final : public SceneImport {
  public:
-  // `messages` is the module's and outlives this object. `module` owns the dialogs.
-  ImportTRC(MessageSink& messages, HINSTANCE module) : messages_(messages), module_(module) {}
+  // `options` and `messages` are the module's and outlive this object. `module` owns the dialogs.
+  ImportTRC(ImportTRCOptions& options, MessageSink& messages, HINSTANCE module)
+      : options_(options), messages_(messages), module_(module) {}
 
   int ExtCount() override { return 1; }
   const char* Ext(int /*n*/) override { return "TRC"; }
@@ -25,14 +30,31 @@ class ImportTRC final : public SceneImport {
   unsigned Version() override { return kClassVersion; }
   void ShowAbout(HWND owner) override { ShowAboutDialog(module_, owner); }
 
-  // Tells the user that there is no importer yet.
-  // Intended: returns 1 all the same, so that the host adds no failure message of its own.
+  // Imports the marker file `name` into the scene, with the options dialog unless
+  // `suppress_prompts` is 1. Refusals are reported.
+  // Intended: returns 1 whatever happens, so that the host adds no failure message of its own.
+  // Animation and set-key mode are suspended, and resumed only when the import is done.
   int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                int suppress_prompts) override;
 
  private:
+  void Import();
+  bool Work();
+  bool ReadFile();
+  void ConvertUnits();
+  void SetFrameBounds();
+  bool ConfirmOptions();
+
+  ImportTRCOptions& options_;
   MessageSink& messages_;
   HINSTANCE module_;
+
+  // Of the import that runs.
+  CStr file_name_;
+  ImpInterface* import_interface_ = nullptr;
+  Interface* interface_ = nullptr;
+  bool quiet_ = false;
+  TRCDocument document_;
 };
 
 }  // namespace orvane

@@ -49,11 +49,12 @@ void* ExportHTRClassDesc::Create(bool /*loading*/) {
   return CreateAs<SceneExport, ExportHTR>(messages_, platform::ModuleHandle());
 }
 
-ImportTRCClassDesc::ImportTRCClassDesc(StringTable& strings, MessageSink& messages)
-    : FileClassDesc(strings, kImportTRC), messages_(messages) {}
+ImportTRCClassDesc::ImportTRCClassDesc(StringTable& strings, MessageSink& messages,
+                                       ImportTRCOptions& options)
+    : FileClassDesc(strings, kImportTRC), messages_(messages), options_(options) {}
 
 void* ImportTRCClassDesc::Create(bool /*loading*/) {
-  return CreateAs<SceneImport, ImportTRC>(messages_, platform::ModuleHandle());
+  return CreateAs<SceneImport, ImportTRC>(options_, messages_, platform::ModuleHandle());
 }
 
 OrvaneUtilitiesClassDesc::OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "plugin/import_htr/options.h"
+#include "plugin/import_trc/options.h"
 #include "plugin/shell/class_desc.h"
 #include "plugin/shell/message_sink.h"
 
@@ -30,11 +31,12 @@ class ExportHTRClassDesc final : public FileClassDesc {
 
 class ImportTRCClassDesc final : public FileClassDesc {
  public:
-  ImportTRCClassDesc(StringTable& strings, MessageSink& messages);
+  ImportTRCClassDesc(StringTable& strings, MessageSink& messages, ImportTRCOptions& options);
   void* Create(bool loading) override;
 
  private:
   MessageSink& messages_;
+  ImportTRCOptions& options_;
 };
 
 class OrvaneUtilitiesClassDesc final : public OrvaneClassDesc {

@@ -18,6 +18,7 @@
 namespace {
 
 extern orvane::ImportHTROptions import_htr_options;
+extern orvane::ImportTRCOptions import_trc_options;
 
 // Constructed in this order at load and destroyed in reverse at unload: first what everybody uses,
 // then class by class the descriptor and its option record. None of it needs a host.
@@ -31,7 +32,7 @@ orvane::ImportHTROptions import_htr_options;
 orvane::ExportHTRClassDesc export_htr_class(strings, message_sink);
 orvane::ExportHTROptions export_htr_options;
 
-orvane::ImportTRCClassDesc import_trc_class(strings, message_sink);
+orvane::ImportTRCClassDesc import_trc_class(strings, message_sink, import_trc_options);
 orvane::ImportTRCOptions import_trc_options;
 
 orvane::OrvaneUtilitiesClassDesc utilities_class(strings, message_sink);

@@ -70,15 +70,11 @@ TEST_F(FileClassesTest, WhatIsNotThereYetSaysSo) {
   EXPECT_EQ(
       Create<SceneExport>(1)->DoExport("walk.htr", nullptr, &application_.plugin_interface(), 1, 0),
       0);
-  EXPECT_EQ(
-      Create<SceneImport>(2)->DoImport("walk.trc", nullptr, &application_.plugin_interface(), 1),
-      1);
   const auto utilities = Create<UtilityObj>(3);
   utilities->BeginEditParams(&application_.plugin_interface(), nullptr);
   utilities->EndEditParams(&application_.plugin_interface(), nullptr);
   EXPECT_EQ(desk_.Messages(),
             "ExportHTR Error: ExportHTR is not part of this build.\n"
-            "ImportTRC Error: ImportTRC is not part of this build.\n"
             "OrvaneUtilities Error: OrvaneUtilities is not part of this build.\n");
 }
 

@@ -1,0 +1,79 @@
+#include "plugin/import_trc/marker_nodes.h"
+
+#include "plugin/exchange/object_nodes.h"
+#include "sdk/core/cstr.h"
+#include "sdk/core/object.h"
+#include "sdk/paramblk2/parameter_block.h"
+
+namespace orvane {
+namespace {
+
+constexpr char kCloudName[] = "TRCCloud";
+constexpr WireColor kMarkerColor = PackWireColor(204, 51, 51);
+
+constexpr double kSphereRadiusOfSize = 0.5;
+constexpr double kPointScaleOfSize = 0.25;
+
+// What is set of a sphere besides its radius: the parameter's number and its value.
+constexpr struct {
+  int parameter;
+  int value;
+} kSphereSettings[] = {{1, 10}, {2, 1}, {6, 1}};
+constexpr int kSphereFloatParameter = 3;
+
+float Size(const ImportTRCOptions& options, double factor) {
+  return static_cast<float>(static_cast<double>(options.size) * factor * options.scaleFactor);
+}
+
+void SetSphere(Object& sphere, float radius, TimeValue time) {
+  IParamBlock* parameters = sphere.GetParamBlock();
+  if (parameters == nullptr) return;
+  const auto index = [&sphere](int parameter) { return sphere.GetParamBlockIndex(parameter); };
+  parameters->SetValue(index(kSphereRadiusParameter), time, radius);
+  for (const auto& setting : kSphereSettings) {
+    parameters->SetValue(index(setting.parameter), time, setting.value);
+  }
+  parameters->SetValue(index(kSphereFloatParameter), time, 0.0F);
+}
+
+INode* CreateSphereNode(Interface& interface, float radius) {
+  auto* sphere =
+      static_cast<Object*>(interface.CreateInstance(kGeometricObjectSuperClass, kSphereClass));
+  if (sphere == nullptr) return nullptr;
+  SetSphere(*sphere, radius, interface.GetTime());
+  return CreateNodeFor(interface, *sphere);
+}
+
+INode* CreatePointNode(Interface& interface, float scale) {
+  auto* point =
+      static_cast<Object*>(interface.CreateInstance(kHelperSuperClass, kPointHelperClass));
+  INode* node = point == nullptr ? nullptr : CreateNodeFor(interface, *point);
+  if (node == nullptr) return nullptr;
+  Matrix3 axes;
+  axes.IdentityMatrix();
+  node->Scale(interface.GetTime(), axes, Point3(scale, scale, scale), true);
+  return node;
+}
+
+}  // namespace
+
+INode* CreateMarkerNode(Interface& interface, const ImportTRCOptions& options,
+                        const std::string& name) {
+  INode* node = options.geometry ? CreateSphereNode(interface, Size(options, kSphereRadiusOfSize))
+                                 : CreatePointNode(interface, Size(options, kPointScaleOfSize));
+  if (node == nullptr) return nullptr;
+  node->SetName(name.c_str());
+  node->SetWireColor(kMarkerColor);
+  return node;
+}
+
+INode* CreateCloudRoot(Interface& interface, const ImportTRCOptions& options) {
+  INode* node = CreateDummyNode(interface, Size(options, 1.0));
+  if (node == nullptr) return nullptr;
+  CStr name(kCloudName);
+  interface.MakeNameUnique(name);
+  node->SetName(name.data());
+  return node;
+}
+
+}  // namespace orvane
