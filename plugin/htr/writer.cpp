@@ -9,9 +9,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "plugin/htr/text_buffer.h"
 #include "plugin/text/files.h"
 #include "plugin/text/numbers.h"
+#include "plugin/text/text_buffer.h"
 #include "plugin/units/units.h"
 
 namespace orvane {
@@ -44,7 +44,7 @@ std::string WhyNotWritable(const HtrDocument& document) {
 // One printing of one document. Each function appends its lines, in the order of the file.
 class HtrPrinter {
  public:
-  HtrPrinter(const HtrDocument& document, const HtrBytesTaker& take)
+  HtrPrinter(const HtrDocument& document, const TextTaker& take)
       : document_(document),
         text_(take),
         angle_factor_(document.GetRotationUnits() == kDegrees ? kDegreesPerRadian : 1.0) {}
@@ -60,12 +60,16 @@ class HtrPrinter {
   void PrintOnlyFrame();
   double ScaleOf(const HtrSegment& segment, std::uint32_t index) const;
 
+  // Lines end with CR LF on every system.
+  void EndLine() { text_.Put("\r\n"); }
+  void PutLine(std::string_view line);
+  void PutColumn(double number);
   void PutField(std::string_view keyword, std::string_view value);
   void PutVector(const Vector3& vector);
   void PutAngles(const EulerRotation& rotation);
 
   const HtrDocument& document_;
-  HtrTextBuffer text_;
+  TextBuffer text_;
   const double angle_factor_;
 };
 
@@ -74,15 +78,15 @@ void HtrPrinter::Print() {
   PrintHierarchy();
   PrintBasePositions();
   for (const HtrSegment& segment : document_.segments()) PrintMotion(segment);
-  text_.PutLine("[EndOfFile]");
+  PutLine("[EndOfFile]");
   text_.HandOver();
 }
 
 void HtrPrinter::PrintHeader() {
-  text_.PutLine("# Orvane HTR (source:OrvaneFileLib v" +
-                FormatDouble(kLibraryVersion, kHeaderDecimals) + ")");
-  text_.PutLine("[Header]");
-  text_.PutLine("# KeyWord<space>Value<CR>");
+  PutLine("# Orvane HTR (source:OrvaneFileLib v" + FormatDouble(kLibraryVersion, kHeaderDecimals) +
+          ")");
+  PutLine("[Header]");
+  PutLine("# KeyWord<space>Value<CR>");
   PutField("FileType", "htr");
   PutField("DataType", "HTRS");
   PutField("FileVersion", "1");
@@ -100,31 +104,31 @@ void HtrPrinter::PrintHeader() {
 }
 
 void HtrPrinter::PrintHierarchy() {
-  text_.PutLine("[SegmentNames&Hierarchy]");
-  text_.PutLine("# ObjectName<tab>ParentObjectName<CR>");
+  PutLine("[SegmentNames&Hierarchy]");
+  PutLine("# ObjectName<tab>ParentObjectName<CR>");
   for (const HtrSegment& segment : document_.segments()) {
     const HtrSegment* parent = segment.GetParent();
     text_.Put(segment.GetName());
-    text_.Put("\t");
-    text_.PutLine(parent == nullptr ? "GLOBAL" : parent->GetName());
+    text_.Put('\t');
+    PutLine(parent == nullptr ? "GLOBAL" : parent->GetName());
   }
 }
 
 void HtrPrinter::PrintBasePositions() {
-  text_.PutLine("[BasePosition]");
-  text_.PutLine("# ObjectName<tab>Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneLength<CR>");
+  PutLine("[BasePosition]");
+  PutLine("# ObjectName<tab>Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneLength<CR>");
   for (const HtrSegment& segment : document_.segments()) {
     text_.Put(segment.GetName());
     PutVector(segment.GetBaseTranslation());
     PutAngles(segment.GetBaseRotation());
-    text_.PutColumn(segment.GetBoneLength());
-    text_.EndLine();
+    PutColumn(segment.GetBoneLength());
+    EndLine();
   }
 }
 
 void HtrPrinter::PrintMotion(const HtrSegment& segment) {
-  text_.PutLine("[" + segment.GetName() + "]");
-  text_.PutLine("# Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneScaleFactor<CR>");
+  PutLine("[" + segment.GetName() + "]");
+  PutLine("# Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneScaleFactor<CR>");
   const std::uint32_t count = document_.GetNumFrames();
   if (count == 0) PrintOnlyFrame();
   for (std::uint32_t index = 0; index < count; ++index) PrintFrame(segment, index);
@@ -135,8 +139,8 @@ void HtrPrinter::PrintFrame(const HtrSegment& segment, std::uint32_t index) {
   text_.PutInteger(std::int64_t{document_.GetStartFrame()} + index);
   PutVector(segment.GetFrameTranslation(index));
   PutAngles(segment.GetFrameRotation(index));
-  text_.PutColumn(ScaleOf(segment, index));
-  text_.EndLine();
+  PutColumn(ScaleOf(segment, index));
+  EndLine();
 }
 
 // Intended: a document without frames becomes a file of one frame, numbered 1 and at rest.
@@ -144,8 +148,8 @@ void HtrPrinter::PrintOnlyFrame() {
   text_.PutInteger(1);
   PutVector(Vector3());
   PutAngles(EulerRotation());
-  text_.PutColumn(1.0);
-  text_.EndLine();
+  PutColumn(1.0);
+  EndLine();
 }
 
 double HtrPrinter::ScaleOf(const HtrSegment& segment, std::uint32_t index) const {
@@ -154,21 +158,31 @@ double HtrPrinter::ScaleOf(const HtrSegment& segment, std::uint32_t index) const
   return document_.GetNormalizeBoneScale() ? scale / segment.GetScaleReferenceLength() : scale;
 }
 
+void HtrPrinter::PutLine(std::string_view line) {
+  text_.Put(line);
+  EndLine();
+}
+
+void HtrPrinter::PutColumn(double number) {
+  text_.Put('\t');
+  text_.PutSixDecimals(number);
+}
+
 void HtrPrinter::PutField(std::string_view keyword, std::string_view value) {
   text_.Put(keyword);
-  text_.Put(" ");
-  text_.PutLine(value);
+  text_.Put(' ');
+  PutLine(value);
 }
 
 void HtrPrinter::PutVector(const Vector3& vector) {
-  text_.PutColumn(vector.x());
-  text_.PutColumn(vector.y());
-  text_.PutColumn(vector.z());
+  PutColumn(vector.x());
+  PutColumn(vector.y());
+  PutColumn(vector.z());
 }
 
 void HtrPrinter::PutAngles(const EulerRotation& rotation) {
   for (unsigned int index = 0; index < 3; ++index) {
-    text_.PutColumn(rotation[index] * angle_factor_);
+    PutColumn(rotation[index] * angle_factor_);
   }
 }
 
@@ -187,7 +201,7 @@ std::string WriteHtrFile(const HtrDocument& document, const std::string& file_na
   return kNotOpened;  // no memory
 }
 
-void PrintHtr(const HtrDocument& document, const HtrBytesTaker& take) {
+void PrintHtr(const HtrDocument& document, const TextTaker& take) {
   HtrPrinter(document, take).Print();
 }
 

@@ -1,10 +1,9 @@
 #pragma once
 
-#include <functional>
 #include <string>
-#include <string_view>
 
 #include "plugin/htr/document.h"
+#include "plugin/text/text_buffer.h"
 
 // Writes a document as a motion file. docs/formats/htr.md describes what is written, and where it
 // differs from what is read.
@@ -18,11 +17,8 @@ namespace orvane {
 // opened. A disk that is full later on is not noticed.
 [[nodiscard]] std::string WriteHtrFile(const HtrDocument& document, const std::string& file_name);
 
-// Takes a piece of a file's bytes, which live until it returns.
-using HtrBytesTaker = std::function<void(std::string_view bytes)>;
-
 // Hands the bytes of the file to `take`, in order and in pieces of limited size, whatever the
 // document holds and however many frames its header announces. Nothing is checked.
-void PrintHtr(const HtrDocument& document, const HtrBytesTaker& take);
+void PrintHtr(const HtrDocument& document, const TextTaker& take);
 
 }  // namespace orvane

@@ -8,34 +8,31 @@
 
 #include "plugin/text/six_decimals.h"
 
-// Collects the text of a motion file and hands it on in pieces. Belongs to the writer, which spends
-// most of its time here.
+// Collects the text of a long file and hands it on in pieces, for writers that spend most of their
+// time on the numbers in it.
 namespace orvane {
 
-class HtrTextBuffer {
+// Takes a piece of a text, which lives until it returns; the pieces come in order.
+using TextTaker = std::function<void(std::string_view text)>;
+
+class TextBuffer {
  public:
   // Nothing is handed to `take`, which must outlive the buffer, before a piece is full or HandOver
   // is called.
-  explicit HtrTextBuffer(const std::function<void(std::string_view bytes)>& take)
-      : take_(take), bytes_(kSize), end_(bytes_.data()) {}
-  HtrTextBuffer(const HtrTextBuffer&) = delete;
-  HtrTextBuffer& operator=(const HtrTextBuffer&) = delete;
+  explicit TextBuffer(const TextTaker& take) : take_(take), bytes_(kSize), end_(bytes_.data()) {}
+  TextBuffer(const TextBuffer&) = delete;
+  TextBuffer& operator=(const TextBuffer&) = delete;
 
   void Put(std::string_view text);
-  void PutInteger(std::int64_t number);
-
-  // A tab and a number with six decimals.
-  void PutColumn(double number) {
-    MakeRoom(kLongestColumn);
-    *end_++ = '\t';
-    end_ = WriteSixDecimals(number, end_);
+  void Put(char character) {
+    MakeRoom(1);
+    *end_++ = character;
   }
-
-  // Lines end with CR LF on every system.
-  void EndLine() { Put("\r\n"); }
-  void PutLine(std::string_view text) {
-    Put(text);
-    EndLine();
+  void PutInteger(std::int64_t number);
+  // As "%f" prints it.
+  void PutSixDecimals(double number) {
+    MakeRoom(kLongestSixDecimals);
+    end_ = WriteSixDecimals(number, end_);
   }
 
   // Hands over what has been put since the last time.
@@ -44,7 +41,6 @@ class HtrTextBuffer {
  private:
   static constexpr std::size_t kSize = std::size_t{64} * 1024;
   static constexpr std::size_t kLongestInteger = 20;
-  static constexpr std::size_t kLongestColumn = 1 + kLongestSixDecimals;
 
   std::size_t Room() const {
     return static_cast<std::size_t>(bytes_.data() + bytes_.size() - end_);
@@ -53,7 +49,7 @@ class HtrTextBuffer {
     if (Room() < size) HandOver();
   }
 
-  const std::function<void(std::string_view bytes)>& take_;
+  const TextTaker& take_;
   std::vector<char> bytes_;
   char* end_;  // behind the last byte that was put
 };

@@ -1,11 +1,11 @@
-#include "plugin/htr/text_buffer.h"
+#include "plugin/text/text_buffer.h"
 
 #include <algorithm>
 #include <charconv>
 
 namespace orvane {
 
-void HtrTextBuffer::Put(std::string_view text) {
+void TextBuffer::Put(std::string_view text) {
   while (text.size() > Room()) {
     const std::size_t fitting = Room();
     end_ = std::copy_n(text.data(), fitting, end_);
@@ -15,12 +15,12 @@ void HtrTextBuffer::Put(std::string_view text) {
   end_ = std::copy(text.begin(), text.end(), end_);
 }
 
-void HtrTextBuffer::PutInteger(std::int64_t number) {
+void TextBuffer::PutInteger(std::int64_t number) {
   MakeRoom(kLongestInteger);
   end_ = std::to_chars(end_, end_ + kLongestInteger, number).ptr;
 }
 
-void HtrTextBuffer::HandOver() {
+void TextBuffer::HandOver() {
   take_(std::string_view(bytes_.data(), static_cast<std::size_t>(end_ - bytes_.data())));
   end_ = bytes_.data();
 }
