@@ -69,6 +69,8 @@ class TRCMarker {
   std::span<const TRCPosition> Positions() const { return positions_; }
   // The samples that are none of those, in order; no two gaps touch. Scaling does not close them.
   std::span<const Gap> Gaps() const { return gaps_; }
+  // How many samples there were when Scale was last called; all of those are present.
+  std::size_t ScaledCount() const { return scaled_count_; }
 
  private:
   friend class TRCDocument;
@@ -82,7 +84,7 @@ class TRCMarker {
   std::vector<TRCPosition> positions_;
   std::vector<Gap> gaps_;
   std::size_t sample_count_ = 0;
-  std::size_t scaled_count_ = 0;  // so many samples have been scaled, and are thereby present
+  std::size_t scaled_count_ = 0;
 };
 
 }  // namespace orvane
