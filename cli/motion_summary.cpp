@@ -4,36 +4,16 @@
 #include <cmath>
 #include <limits>
 
-#include "plugin/math/euler_rotation.h"
-#include "plugin/math/rotation_matrix3.h"
-
 namespace cli {
 namespace {
 
 using orvane::HtrSegment;
-using orvane::RotationMatrix3;
-using orvane::Vector3;
-
-struct Frame {
-  RotationMatrix3 rotation;
-  Point position{};
-};
-
-// A point of `parent`'s space in the world.
-Point ToWorld(const Frame& parent, const Vector3& local) {
-  Point world = parent.position;
-  for (unsigned row = 0; row < 3; ++row) {
-    for (unsigned column = 0; column < 3; ++column) {
-      world[row] += parent.rotation.Element(row, column) * local[column];
-    }
-  }
-  return world;
-}
 
 void Include(const Point& point, Bounds& bounds) {
+  if (std::isnan(point[0]) || std::isnan(point[1]) || std::isnan(point[2])) return;
   for (std::size_t axis = 0; axis < 3; ++axis) {
-    bounds.least[axis] = std::fmin(bounds.least[axis], point[axis]);
-    bounds.most[axis] = std::fmax(bounds.most[axis], point[axis]);
+    bounds.least[axis] = std::min(bounds.least[axis], point[axis]);
+    bounds.most[axis] = std::max(bounds.most[axis], point[axis]);
   }
 }
 
@@ -41,8 +21,10 @@ std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
                                    std::size_t frame_count) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Bounds bounds{{kInfinity, kInfinity, kInfinity}, {-kInfinity, -kInfinity, -kInfinity}};
+  PoseWalk walk(hierarchy);
   for (std::size_t frame = 0; frame < frame_count; ++frame) {
-    for (const Point& joint : JointPositions(hierarchy, frame)) Include(joint, bounds);
+    walk.MoveTo(frame);
+    for (const std::size_t entry : walk.Holding()) Include(walk.PositionOf(entry), bounds);
   }
   const bool found_any = bounds.least[0] <= bounds.most[0] && bounds.least[1] <= bounds.most[1] &&
                          bounds.least[2] <= bounds.most[2];
@@ -50,19 +32,6 @@ std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
 }
 
 }  // namespace
-
-std::vector<Point> JointPositions(const std::vector<HierarchyEntry>& hierarchy, std::size_t frame) {
-  std::vector<RotationMatrix3> rotations(hierarchy.size());
-  std::vector<Point> positions(hierarchy.size());
-  for (std::size_t i = 0; i < hierarchy.size(); ++i) {
-    const HtrSegment& segment = *hierarchy[i].segment;
-    const std::size_t parent = hierarchy[i].parent;
-    const Frame parent_frame = parent == i ? Frame{} : Frame{rotations[parent], positions[parent]};
-    positions[i] = ToWorld(parent_frame, segment.GetFramePosition(frame));
-    rotations[i] = parent_frame.rotation * RotationMatrix3(segment.GetFrameOrientation(frame));
-  }
-  return positions;
-}
 
 MotionSummary SummarizeMotion(const orvane::HtrDocument& document,
                               const std::vector<HierarchyEntry>& hierarchy) {
