@@ -3,6 +3,7 @@
 
 #include "cli/info_report.h"
 #include "cli/messages.h"
+#include "cli/page_text.h"
 #include "plugin/text/numbers.h"
 #include "plugin/units/units.h"
 
@@ -21,25 +22,7 @@ constexpr std::size_t kDeepestIndent = 30;
 
 constexpr std::size_t kLabelWidth = 16;
 constexpr std::size_t kNarrowestNames = 16;
-constexpr std::size_t kWidestNames = 60;
 constexpr std::size_t kNumberWidth = 12;
-
-// Characters of a UTF-8 text.
-std::size_t Width(std::string_view text) {
-  return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
-    return (static_cast<unsigned char>(character) & 0xC0U) != 0x80U;
-  }));
-}
-
-std::string PadRight(std::string text, std::size_t width) {
-  const std::size_t used = Width(text);
-  if (used < width) text.append(width - used, ' ');
-  return text;
-}
-
-std::string PadLeft(const std::string& text, std::size_t width) {
-  return text.size() < width ? std::string(width - text.size(), ' ') + text : text;
-}
 
 std::string UnitName(const HtrDocument& document) {
   return std::string(orvane::CalibrationUnitsName(document.GetCalibrationUnits()));

@@ -21,6 +21,7 @@ TEST_F(CommandLineTest, HelpNamesEveryVerb) {
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.output, HasSubstr("import"));
   EXPECT_THAT(result.output, HasSubstr("info"));
+  EXPECT_THAT(result.output, HasSubstr("compare"));
   EXPECT_THAT(result.error, IsEmpty());
 }
 
@@ -51,6 +52,12 @@ TEST_P(WrongUsageTest, EndsWithStatusTwoAndSaysWhatIsWrong) {
 
 std::vector<std::string> Import(const std::vector<std::string>& flags) {
   std::vector<std::string> arguments = {"import", "walk.htr", "-o", "walk.glb"};
+  arguments.insert(arguments.end(), flags.begin(), flags.end());
+  return arguments;
+}
+
+std::vector<std::string> Compare(const std::vector<std::string>& flags) {
+  std::vector<std::string> arguments = {"compare", "walk.htr", "walk.htr"};
   arguments.insert(arguments.end(), flags.begin(), flags.end());
   return arguments;
 }
@@ -96,7 +103,30 @@ INSTANTIATE_TEST_SUITE_P(
         WrongUsage{"FramesOfTheHierarchyAlone",
                    {"info", "walk.htr", "--json", "--frames", "--hierarchy"},
                    "--hierarchy excludes --frames"},
-        WrongUsage{"InfoWithoutInput", {"info"}, "FILE is required"}),
+        WrongUsage{"InfoWithoutInput", {"info"}, "FILE is required"},
+        WrongUsage{"CompareWithoutInput", {"compare"}, "A is required"},
+        WrongUsage{"CompareWithOneFile", {"compare", "walk.htr"}, "B is required"},
+        WrongUsage{"CompareThreeFiles",
+                   {"compare", "walk.htr", "walk.htr", "run.htr"},
+                   "The following argument was not expected: run.htr"},
+        WrongUsage{"NegativeTolerance", Compare({"--tolerance-mm", "-1"}),
+                   "--tolerance-mm: a number that is not negative is expected, not \"-1\""},
+        WrongUsage{"ToleranceWithUnit", Compare({"--tolerance-deg", "1deg"}),
+                   "--tolerance-deg: a number that is not negative is expected, not \"1deg\""},
+        WrongUsage{"ToleranceWithComma", Compare({"--tolerance-mm=0,1"}),
+                   "--tolerance-mm: a number that is not negative is expected, not \"0,1\""},
+        WrongUsage{"ToleranceThatIsNoNumber", Compare({"--tolerance-mm", "nan"}),
+                   "--tolerance-mm: a number that is not negative is expected, not \"nan\""},
+        WrongUsage{"InfiniteTolerance", Compare({"--tolerance-mm", "1e999"}),
+                   "--tolerance-mm: a number that is not negative is expected, not \"1e999\""},
+        WrongUsage{"EmptyTolerance", Compare({"--tolerance-mm", ""}),
+                   "--tolerance-mm: a number that is not negative is expected, not \"\""},
+        WrongUsage{"ToleranceWithoutValue", Compare({"--tolerance-deg"}),
+                   "--tolerance-deg needs a value"},
+        WrongUsage{"ToleranceTwice", Compare({"--tolerance-mm", "1", "--tolerance-mm", "2"}),
+                   "--tolerance-mm is given more than once"},
+        WrongUsage{"UnknownFlagOfCompare", Compare({"--strict"}),
+                   "The following argument was not expected: --strict"}),
     [](const auto& test_case) { return test_case.param.name; });
 
 }  // namespace

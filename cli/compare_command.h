@@ -1,0 +1,15 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+// `orvane compare`: tells how far two motion files are from each other. It reads the files alone
+// and needs no host.
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddCompareCommand(CLI::App& app, Work& work);
+
+}  // namespace cli

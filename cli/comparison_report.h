@@ -1,0 +1,41 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "cli/motion_comparison.h"
+#include "cli/structure_comparison.h"
+#include "plugin/htr/document.h"
+
+// What `orvane compare` tells of two motion files: as a page for a person, or as JSON for a
+// program. docs/command-line.md documents the JSON; its version changes when a field changes its
+// meaning or goes.
+
+namespace cli {
+
+struct ComparisonReport {
+  std::string file_a;
+  std::string file_b;
+  orvane::HtrDocument a;
+  orvane::HtrDocument b;
+  Tolerance tolerance;
+  StructureComparison structure;  // of `a` and `b`
+  MotionComparison motion;        // of `structure`
+
+  // Nothing is beyond the tolerance, and the structure is the same.
+  bool SaysTheSame() const {
+    return !structure.differences.Any() && !motion.overall.first_beyond.has_value();
+  }
+
+  std::string NameOf(std::size_t pair) const {
+    return structure.hierarchy_a[structure.pairs[pair].in_a].segment->GetName();
+  }
+  const std::string& FileName(WhichFile file) const {
+    return file == WhichFile::kA ? file_a : file_b;
+  }
+};
+
+void PrintComparisonPage(const ComparisonReport& report, std::ostream& out);
+void PrintComparisonJson(const ComparisonReport& report, std::ostream& out);
+
+}  // namespace cli

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+// Columns of the pages that the program shows.
+
+namespace cli {
+
+// The widest column of names; longer names push their lines out.
+inline constexpr std::size_t kWidestNames = 60;
+
+// Characters of a UTF-8 text.
+std::size_t Width(std::string_view text);
+
+// `text` with blanks behind or before it, so that it is at least `width` characters wide.
+std::string PadRight(std::string text, std::size_t width);
+std::string PadLeft(const std::string& text, std::size_t width);
+
+}  // namespace cli
