@@ -4,6 +4,7 @@
 #include <iostream>
 #include <string>
 
+#include "cli/check_command.h"
 #include "cli/compare_command.h"
 #include "cli/failure.h"
 #include "cli/import_command.h"
@@ -51,6 +52,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   app.require_subcommand(1);
   AddImportCommand(app, work);
   AddInfoCommand(app, work);
+  AddCheckCommand(app, work);
   AddCompareCommand(app, work);
   AddSceneCommand(app, work);
   try {

@@ -10,20 +10,10 @@ namespace {
 
 using orvane::FormatInt;
 
-struct FrameCounts {
-  std::int64_t announced = 0;
-  std::int64_t fewest_held = 0;  // by a segment
-  std::int64_t most_held = 0;
-};
-
 // A header may promise this many frames, and this many times what the file holds: the work stays
 // small, or in proportion.
 constexpr std::int64_t kAlwaysAllowed = 100'000;
 constexpr std::int64_t kTimesHeld = 10;
-
-bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
-  return frames > kAlwaysAllowed && frames > kTimesHeld * counts.most_held;
-}
 
 std::string Frames(std::int64_t count) {
   return FormatInt(count) + (count == 1 ? " frame" : " frames");
@@ -41,6 +31,12 @@ std::string Difference(const FrameCounts& counts) {
   return "The header announces " + Frames(counts.announced) + ", but " + Held(counts);
 }
 
+}  // namespace
+
+bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
+  return frames > kAlwaysAllowed && frames > kTimesHeld * counts.most_held;
+}
+
 FrameCounts CountFrames(const orvane::HtrDocument& document) {
   const auto& segments = document.segments();
   const auto [fewest, most] =
@@ -51,8 +47,6 @@ FrameCounts CountFrames(const orvane::HtrDocument& document) {
   return {document.GetNumFrames(), static_cast<std::int64_t>(fewest->GetNumFrames()),
           static_cast<std::int64_t>(most->GetNumFrames())};
 }
-
-}  // namespace
 
 std::optional<Complaint> CompareFrameCounts(const std::string& file,
                                             const orvane::HtrDocument& document,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
@@ -12,6 +13,18 @@
 // is announced, so a header that is wrong can ask for any amount of work.
 
 namespace cli {
+
+struct FrameCounts {
+  std::int64_t announced = 0;
+  std::int64_t fewest_held = 0;  // by a segment
+  std::int64_t most_held = 0;
+};
+
+// Requires that `document` has segments.
+FrameCounts CountFrames(const orvane::HtrDocument& document);
+
+// Whether importing `frames` is far more work than the file is worth.
+bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts);
 
 // What is to be said when the counts of `file`, which holds `document` and has segments, differ;
 // nothing when they agree. Throws a Failure when importing by `wishes` takes far more frames than

@@ -47,7 +47,9 @@ std::string ReadNumSegments(const Field& field) {
 }
 
 std::string ReadNumFrames(const Field& field) {
-  field.document.SetNumFrames(static_cast<std::uint32_t>(std::max(Int(field), 0)));
+  const std::int32_t count = Int(field);
+  field.oddities.ReportIf(count < 0, HtrOddity::kNumberOutOfBounds, field.value, field.keyword);
+  field.document.SetNumFrames(static_cast<std::uint32_t>(std::max(count, 0)));
   return {};
 }
 

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
+#include "plugin/htr/sections.h"
+
 // What the reader meets on its way through a file, told to whoever wants to know: what it lets pass
 // without a message, what it refuses, and where the parts of the file stand. Watching changes
 // nothing in what is read.
@@ -44,7 +46,7 @@ enum class HtrOddity {
   kMissingNumber,      // taken as 0; empty
   kUnreadableNumber,   // the number it starts with is taken, or 0; the whole cell
   kCutNumber,          // a whole number is wanted and the fraction left out; the whole cell
-  kNumberOutOfBounds,  // taken as infinity, or as the nearest whole number of 32 bits; the cell
+  kNumberOutOfBounds,  // taken as infinity, or as the nearest whole number that fits; the cell
 
   // Hierarchy
   kExtraHierarchyWords,    // ignored between a name and its parent; what stands there
@@ -63,10 +65,8 @@ enum class HtrOddity {
   kRefusedBasePositionCount,  // differs from NumSegments; empty, behind the last line
 };
 
-enum class HtrSection { kHeader, kHierarchy, kBasePosition, kMotion, kEndOfFile };
-
-// All calls come in file order while reading; texts live until the call returns. Those of the
-// hierarchy live as long as the bytes.
+// All calls come while reading, most of them in file order; texts live as long as the bytes that
+// are read.
 class HtrReadObserver {
  public:
   virtual ~HtrReadObserver() = default;

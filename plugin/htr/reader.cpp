@@ -11,6 +11,7 @@
 #include "plugin/htr/header_fields.h"
 #include "plugin/htr/number_cells.h"
 #include "plugin/htr/oddities.h"
+#include "plugin/htr/sections.h"
 #include "plugin/text/files.h"
 #include "plugin/text/lines.h"
 #include "plugin/text/tokens.h"
@@ -20,11 +21,6 @@ namespace orvane {
 namespace {
 
 constexpr const char* kNotOpened = "The file could not be opened";
-
-constexpr std::string_view kHeaderSection = "Header";
-constexpr std::string_view kHierarchySection = "SegmentNames&Hierarchy";
-constexpr std::string_view kBasePositionSection = "BasePosition";
-constexpr std::string_view kGlobalParent = "GLOBAL";
 
 constexpr std::array<std::string_view, 7> kBasePositionColumns = {"Tx", "Ty", "Tz",        "Rx",
                                                                   "Ry", "Rz", "BoneLength"};
@@ -39,24 +35,12 @@ constexpr std::size_t kMostFramesReserved = 1 << 16;
 // byte of the file, no more are made: a file of such sections alone would fill the memory.
 constexpr std::size_t kLinksAlwaysMade = 1 << 20;
 
-// Intended: these four spellings only; any other is the name of a segment.
-bool IsEndOfFile(std::string_view name) {
-  return name == "EndOfFile" || name == "EndofFile" || name == "ENDOFFILE" || name == "endoffile";
-}
-
 // What a line holds besides a comment and the blanks before it or before the line break.
 std::string_view ContentOf(const Line& line) {
   const std::size_t comment = line.text.find('#');
   const bool has_comment = comment != std::string_view::npos;
   const std::string_view content = line.text.substr(0, comment);
   return has_comment || line.ends_with_break ? TrimTrailingSeparators(content) : content;
-}
-
-HtrSection SectionOf(std::string_view name) {
-  if (name == kHeaderSection) return HtrSection::kHeader;
-  if (name == kHierarchySection) return HtrSection::kHierarchy;
-  if (name == kBasePositionSection) return HtrSection::kBasePosition;
-  return IsEndOfFile(name) ? HtrSection::kEndOfFile : HtrSection::kMotion;
 }
 
 std::string_view SectionName(std::string_view line) {

@@ -21,6 +21,7 @@ TEST_F(CommandLineTest, HelpNamesEveryVerb) {
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.output, HasSubstr("import"));
   EXPECT_THAT(result.output, HasSubstr("info"));
+  EXPECT_THAT(result.output, HasSubstr("check"));
   EXPECT_THAT(result.output, HasSubstr("compare"));
   EXPECT_THAT(result.error, IsEmpty());
 }
@@ -104,6 +105,10 @@ INSTANTIATE_TEST_SUITE_P(
                    {"info", "walk.htr", "--json", "--frames", "--hierarchy"},
                    "--hierarchy excludes --frames"},
         WrongUsage{"InfoWithoutInput", {"info"}, "FILE is required"},
+        WrongUsage{"CheckWithoutInput", {"check"}, "FILE is required"},
+        WrongUsage{"UnknownSeverity",
+                   {"check", "walk.htr", "--max-severity", "fatal"},
+                   "--max-severity: fatal is not one of note, warning, error"},
         WrongUsage{"CompareWithoutInput", {"compare"}, "A is required"},
         WrongUsage{"CompareWithOneFile", {"compare", "walk.htr"}, "B is required"},
         WrongUsage{"CompareThreeFiles",

@@ -94,21 +94,22 @@ TEST(HtrReadObserver, HearsOfUnknownWordsInTheHeader) {
 }
 
 TEST(HtrReadObserver, HearsOfOddNumbers) {
-  EXPECT_THAT(OdditiesOf({"[Header]", "NumFrames many", "ScaleFactor", "NumSegments 1e0",
-                          "DataFrameRate 59.94", "DataFrameRate 3000000000",
+  EXPECT_THAT(OdditiesOf({"[Header]", "NumFrames many", "NumFrames -1", "ScaleFactor",
+                          "NumSegments 1e0", "DataFrameRate 59.94", "DataFrameRate 3000000000",
                           "[SegmentNames&Hierarchy]", "a GLOBAL", "[BasePosition]",
                           "a 1 2mm nan 4 5 6 7 8 9", "[a]", "x 1e999 2 3 4 5 6", "[EndOfFile]"}),
               ElementsAre(At(2, 11, HtrOddity::kUnreadableNumber, "many", "NumFrames"),
-                          At(3, 12, HtrOddity::kMissingNumber, "", "ScaleFactor"),
-                          At(5, 15, HtrOddity::kCutNumber, "59.94", "DataFrameRate"),
-                          At(6, 15, HtrOddity::kNumberOutOfBounds, "3000000000", "DataFrameRate"),
-                          At(10, 5, HtrOddity::kUnreadableNumber, "2mm", "Ty"),
-                          At(10, 9, HtrOddity::kUnreadableNumber, "nan", "Tz"),
-                          At(10, 21, HtrOddity::kExtraCells, "8 9"),
-                          At(12, 1, HtrOddity::kUnreadableNumber, "x", "Frame"),
-                          At(12, 3, HtrOddity::kNumberOutOfBounds, "1e999", "Tx"),
-                          At(12, 18, HtrOddity::kMissingNumber, "", "BoneScaleFactor"),
-                          At(11, 2, HtrOddity::kFrameCountMismatch, "a")));
+                          At(3, 11, HtrOddity::kNumberOutOfBounds, "-1", "NumFrames"),
+                          At(4, 12, HtrOddity::kMissingNumber, "", "ScaleFactor"),
+                          At(6, 15, HtrOddity::kCutNumber, "59.94", "DataFrameRate"),
+                          At(7, 15, HtrOddity::kNumberOutOfBounds, "3000000000", "DataFrameRate"),
+                          At(11, 5, HtrOddity::kUnreadableNumber, "2mm", "Ty"),
+                          At(11, 9, HtrOddity::kUnreadableNumber, "nan", "Tz"),
+                          At(11, 21, HtrOddity::kExtraCells, "8 9"),
+                          At(13, 1, HtrOddity::kUnreadableNumber, "x", "Frame"),
+                          At(13, 3, HtrOddity::kNumberOutOfBounds, "1e999", "Tx"),
+                          At(13, 18, HtrOddity::kMissingNumber, "", "BoneScaleFactor"),
+                          At(12, 2, HtrOddity::kFrameCountMismatch, "a")));
 }
 
 TEST(HtrReadObserver, HearsOfTroubleInTheHierarchy) {

@@ -1,0 +1,15 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+// `orvane check`: names everything in a file that the reader lets pass or refuses. It reads the
+// files alone and needs no host.
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddCheckCommand(CLI::App& app, Work& work);
+
+}  // namespace cli

@@ -1,0 +1,94 @@
+#include "cli/htr_values.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+#include "cli/htr_keywords.h"
+#include "cli/htr_rules.h"
+#include "cli/similar_words.h"
+#include "host/animation/animation_state.h"
+#include "plugin/htr/sections.h"
+#include "plugin/text/numbers.h"
+
+namespace cli::htr {
+namespace {
+
+using orvane::FormatInt;
+using orvane::HtrOddity;
+
+constexpr std::string_view kFrameColumn = "Frame";
+
+bool IsWhole(std::string_view field) {
+  return field == kFrameColumn || field == "NumSegments" || field == "NumFrames" ||
+         field == "DataFrameRate";
+}
+
+std::string TakenWhole(std::string_view cell, std::string_view field) {
+  const std::int32_t value = orvane::ParseInt(cell);
+  return FormatInt(field == "NumFrames" ? std::max(value, 0) : value) + " is taken";
+}
+
+}  // namespace
+
+const FindingRule& NumberRule(HtrOddity oddity) {
+  if (oddity == HtrOddity::kMissingNumber) return kNumberMissing;
+  if (oddity == HtrOddity::kUnreadableNumber) return kNumberUnreadable;
+  return oddity == HtrOddity::kCutNumber ? kNumberCut : kNumberOutOfRange;
+}
+
+std::string ExpectedNumber(std::string_view field) {
+  return std::string(IsWhole(field) ? "a whole number for " : "a number for ") + std::string(field);
+}
+
+std::string EffectOfNumber(std::string_view cell, std::string_view field) {
+  if (field == kFrameColumn) {
+    return TakenWhole(cell, field) + "; only the first frame number of a file is used.";
+  }
+  if (IsWhole(field)) return TakenWhole(cell, field) + ".";
+  const double value = orvane::ParseDouble(cell);
+  if (!std::isfinite(value)) return "It is taken as infinite, and the scene cannot be saved.";
+  return orvane::FormatShortest(value) + " is taken.";
+}
+
+bool IsRate(std::int32_t frames_per_second) {
+  return frames_per_second >= host::kMinimumFrameRate &&
+         frames_per_second <= host::kMaximumFrameRate;
+}
+
+std::string ExpectedRate() {
+  return FormatInt(host::kMinimumFrameRate) + " to " + FormatInt(host::kMaximumFrameRate) +
+         " frames per second";
+}
+
+std::string EffectOfCutRate(std::string_view cell) {
+  const std::int32_t taken = orvane::ParseInt(cell);
+  const std::string effect = FormatInt(taken) + " is taken";
+  if (taken <= 0) return effect + ".";
+  const double seconds = 60.0 * orvane::ParseDouble(cell) / taken;
+  return effect + ": a minute lasts " + orvane::FormatDouble(seconds, 2) + " s.";
+}
+
+std::string WhyUnusable(std::string_view name) {
+  if (name == orvane::kGlobalParent) return "Segments that name it as their parent become roots.";
+  if (orvane::SectionOf(name) != orvane::HtrSection::kMotion) {
+    return "Its motion section would be another section of the file.";
+  }
+  if (name.find(']') != std::string_view::npos) {
+    return "The name of its motion section ends at the ].";
+  }
+  if (name.front() == '[') return "A line that starts with it is a section line.";
+  return {};
+}
+
+std::string_view SectionLikelyMeant(std::string_view name) {
+  constexpr std::array<std::string_view, 4> kSections = {
+      orvane::kHeaderSection, orvane::kHierarchySection, orvane::kBasePositionSection,
+      orvane::kEndOfFileSection};
+  const auto meant =
+      std::find_if(kSections.begin(), kSections.end(),
+                   [name](std::string_view section) { return LooksLike(name, section); });
+  return meant == kSections.end() ? std::string_view() : *meant;
+}
+
+}  // namespace cli::htr

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+#include "cli/findings.h"
+#include "plugin/htr/read_observer.h"
+
+// What is said of single numbers and words of an HTR file.
+
+namespace cli::htr {
+
+// The rule of one of the oddities of numbers.
+const FindingRule& NumberRule(orvane::HtrOddity oddity);
+
+// `field` is a keyword of the header or the name of a column.
+std::string ExpectedNumber(std::string_view field);
+// What the reader takes for `cell`.
+std::string EffectOfNumber(std::string_view cell, std::string_view field);
+
+// Whether there is such a frame rate in a scene.
+bool IsRate(std::int32_t frames_per_second);
+std::string ExpectedRate();
+// How long a minute lasts when the fraction of the rate is left out.
+std::string EffectOfCutRate(std::string_view cell);
+
+// Why no motion section, or no child, can name a segment that is called `name`; empty when they
+// can.
+std::string WhyUnusable(std::string_view name);
+
+// The special section that `name` looks like; empty when there is none.
+std::string_view SectionLikelyMeant(std::string_view name);
+
+}  // namespace cli::htr

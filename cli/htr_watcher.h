@@ -1,0 +1,74 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "cli/findings.h"
+#include "cli/htr_parts.h"
+#include "plugin/htr/document.h"
+#include "plugin/htr/read_observer.h"
+
+// Watches the reader of HTR files: turns its oddities into findings, and keeps where the parts of
+// the file stand.
+
+namespace cli::htr {
+
+class Watcher : public orvane::HtrReadObserver {
+ public:
+  // `document` is what is read into. All three must outlive the watcher.
+  Watcher(const orvane::HtrDocument& document, Parts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
+
+  void OnOddity(orvane::HtrOddity oddity, const HtrCell& cell, std::string_view field) override;
+  void OnSection(orvane::HtrSection section, const HtrCell& name) override;
+  void OnHeaderField(const HtrCell& keyword, const HtrCell& value) override;
+  void OnSegment(const HtrCell& name, const HtrCell& parent) override;
+  void OnBasePosition(const HtrCell& name) override;
+  void OnFrame(const HtrCell& number) override;
+
+  // Ends the last section, when reading has ended.
+  void LeaveSection();
+
+  // Whether the reader has refused the file, and whether it did so before the end.
+  bool HasRefused() const { return has_refused_; }
+  bool WasStopped() const { return was_stopped_; }
+
+ private:
+  Finding* Add(const FindingRule& rule, const HtrCell& cell) {
+    return findings_.Add(rule, cell.line, cell.column);
+  }
+
+  bool AddPlain(orvane::HtrOddity oddity, const HtrCell& cell);
+  void AddNumber(orvane::HtrOddity oddity, const HtrCell& cell, std::string_view field);
+  void AddKeyword(const HtrCell& keyword);
+  void AddParentUnknown(const HtrCell& parent);
+  void AddNameTaken(const HtrCell& name);
+  void AddRefusedValue(const HtrCell& value, std::string_view keyword);
+  void AddBaseNameUnknown(const HtrCell& name);
+  void AddHierarchyCount(const HtrCell& section);
+  void AddSegmentCount(const HtrCell& end);
+  void AddFrameCount(const HtrCell& section);
+  void AddSkippedSection(const HtrCell& name);
+  std::string AnnouncedSegments() const;
+  void CheckHeaderPlace(const HtrCell& name);
+  void EnterMotion(const HtrCell& name);
+  void CheckRate(const HtrCell& value);
+  void CheckName(const HtrCell& name);
+  std::string KnownSegments(std::string_view name) const;
+
+  const orvane::HtrDocument& document_;
+  Parts& parts_;
+  FindingList& findings_;
+
+  bool has_refused_ = false;
+  bool was_stopped_ = false;
+  bool linked_again_ = false;
+  std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
+  std::size_t skipped_lines_ = 0;
+  std::size_t frames_in_section_ = 0;
+  std::optional<std::int64_t> next_frame_number_;
+  std::optional<std::int64_t> start_frame_;
+};
+
+}  // namespace cli::htr

@@ -1,0 +1,56 @@
+#include "cli/findings.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace {
+
+using cli::FindingList;
+using cli::FindingRule;
+using cli::FindingSeverity;
+using testing::ElementsAre;
+
+constexpr FindingRule kRule = {"a-rule", FindingSeverity::kWarning};
+constexpr FindingRule kOther = {"another-rule", FindingSeverity::kNote};
+
+TEST(FindingList, IsSortedByPlaceAndKeepsTheOrderOfEquals) {
+  FindingList findings;
+  findings.Add(kRule, 2, 1)->found = "third";
+  findings.Add(kOther, 1, 5)->found = "second";
+  findings.Add(kRule, 1, 2)->found = "first";
+  findings.Add(kOther, 2, 1)->found = "fourth";
+  std::vector<std::string> order;
+  for (const cli::Finding& finding : findings.Sorted()) order.push_back(finding.found);
+  EXPECT_THAT(order, ElementsAre("first", "second", "third", "fourth"));
+}
+
+TEST(FindingList, KeepsTwentyOfARuleAndCountsThemAll) {
+  FindingList findings;
+  EXPECT_TRUE(findings.IsEmpty());
+  for (std::size_t line = 1; line <= 20; ++line) EXPECT_NE(findings.Add(kRule, line, 1), nullptr);
+  EXPECT_EQ(findings.Totals().at("a-rule").LeftOut(), 0U);
+  EXPECT_EQ(findings.Add(kRule, 21, 1), nullptr);
+  EXPECT_NE(findings.Add(kOther, 21, 1), nullptr);
+  EXPECT_EQ(findings.Totals().at("a-rule").count, 21U);
+  EXPECT_EQ(findings.Totals().at("a-rule").LeftOut(), 1U);
+  EXPECT_EQ(findings.Sorted().size(), 21U);
+  EXPECT_EQ(findings.Count(FindingSeverity::kWarning), 21U);
+  EXPECT_EQ(findings.Count(FindingSeverity::kNote), 1U);
+  EXPECT_EQ(findings.Count(FindingSeverity::kError), 0U);
+}
+
+TEST(Quote, CutsLongTextBetweenCharacters) {
+  EXPECT_EQ(cli::Quote(""), "nothing");
+  EXPECT_EQ(cli::Quote("59.94"), "\"59.94\"");
+  EXPECT_EQ(cli::Quote(std::string(60, 'x')), '"' + std::string(60, 'x') + '"');
+  EXPECT_EQ(cli::Quote(std::string(61, 'x')), '"' + std::string(60, 'x') + "...\"");
+  EXPECT_EQ(cli::Quote(std::string(59, 'x') + "\xC3\xBC!"), '"' + std::string(59, 'x') + "...\"");
+}
+
+TEST(CountOf, KnowsThePlural) {
+  EXPECT_EQ(cli::CountOf(0, "frame"), "0 frames");
+  EXPECT_EQ(cli::CountOf(1, "frame"), "1 frame");
+  EXPECT_EQ(cli::CountOf(2, "frame"), "2 frames");
+}
+
+}  // namespace
