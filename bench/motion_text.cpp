@@ -12,6 +12,19 @@ constexpr std::size_t kBytesPerLine = 80;
 
 std::string SegmentName(int index) { return "Segment" + std::to_string(index); }
 
+// Of any segment but the first, which is the root.
+int ParentOf(int segment, MotionShape shape) {
+  switch (shape) {
+    case MotionShape::kChain:
+      return segment - 1;
+    case MotionShape::kFan:
+      return 0;
+    case MotionShape::kTree:
+      break;
+  }
+  return (segment - 1) / 2;
+}
+
 void AppendNumber(std::string& text, double value) {
   std::array<char, 32> digits;
   char* const first = digits.data();
@@ -34,7 +47,7 @@ void AppendHierarchy(std::string& text, MotionSize size) {
   text += "[SegmentNames&Hierarchy]\n";
   for (int segment = 0; segment < size.segments; ++segment) {
     text += SegmentName(segment) + '\t';
-    text += segment == 0 ? "GLOBAL" : SegmentName((segment - 1) / 2);
+    text += segment == 0 ? "GLOBAL" : SegmentName(ParentOf(segment, size.shape));
     text += '\n';
   }
 }
