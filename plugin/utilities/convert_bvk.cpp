@@ -1,13 +1,48 @@
 #include "plugin/utilities/convert_bvk.h"
 
+#include <exception>
+#include <fstream>
+#include <ios>
+#include <string_view>
+
+#include "platform/local_time.h"
+#include "plugin/bvk/writer.h"
+#include "plugin/text/files.h"
+#include "plugin/utilities/conversion_run.h"
+#include "sdk/skelderutil/filename.h"
+
 namespace orvane {
 
-ConvertBVK::ConvertBVK() {
+ConvertBVK::ConvertBVK(MessageSink& messages, StringTable& strings, HINSTANCE module)
+    : messages_(messages), strings_(strings), module_(module) {
   store_.Open("OrvaneFileIO", "Skelder", "ConvertBVK");
   LoadSettings();
 }
 
 ConvertBVK::~ConvertBVK() { SaveSettings(); }
+
+bool ConvertBVK::Convert(Interface* host) {
+  try {
+    interface = host;
+    return ConversionRun(*this, messages_, strings_, module_).Run();
+  } catch (const std::exception&) {
+    return false;  // no memory
+  }
+}
+
+bool ConvertBVK::WriteMarkerFile(const std::string& path) {
+  std::ofstream file = CreateFileForText(path);
+  if (!file.is_open()) return false;
+  CStr name;
+  SplitFilename(path.c_str(), nullptr, &name, nullptr);
+  const std::string date_time = platform::LocalTimeText();
+  BvkDetails details{name.data(), date_time, {}};
+  if (offset) details.offset = BvkOffset{offsetX, offsetY, offsetZ, trcSpace};
+  PrintBvk(document, details, [&file](std::string_view text) {
+    file.write(text.data(), static_cast<std::streamsize>(text.size()));
+  });
+  return true;
+}
 
 void ConvertBVK::LoadSettings() {
   store_.ReadString("MNMPath", mnmPath);

@@ -2,9 +2,13 @@
 
 #include <string>
 
+#include "platform/handles.h"
 #include "plugin/mnm/marker_name_map.h"
+#include "plugin/shell/message_sink.h"
 #include "plugin/shell/settings_store.h"
+#include "plugin/shell/string_table.h"
 #include "plugin/trc/document.h"
+#include "sdk/core/interface.h"
 
 // Turns marker files (TRC) into the marker files of the host's character animation (BVK). The
 // utility panel owns one of these, shows and changes its settings, and starts it.
@@ -13,12 +17,24 @@ namespace orvane {
 class ConvertBVK {
  public:
   // Opens the key Software\Orvane\OrvaneFileIO\Skelder\ConvertBVK and takes over the settings that
-  // are stored there. When it cannot be opened the settings live in memory only.
-  ConvertBVK();
+  // are stored there. When it cannot be opened the settings live in memory only. `messages` and
+  // `strings` outlive this object; `module` owns the texts of the dialogs.
+  ConvertBVK(MessageSink& messages, StringTable& strings, HINSTANCE module);
   ConvertBVK(const ConvertBVK&) = delete;
   ConvertBVK& operator=(const ConvertBVK&) = delete;
   // Saves the settings.
   ~ConvertBVK();
+
+  // Lets the user choose a file, or several when `batch` is set, and converts them by the settings.
+  // Returns true when all chosen files were handled, even those that the reader refused, and false
+  // when that was abandoned: the mapping file cannot be opened, the user cancelled, the log or an
+  // output cannot be created. Only refusals and the log are reported, the former in the log of a
+  // batch. docs/formats/bvk.md tells the details.
+  bool Convert(Interface* host);
+
+  // Writes `document` as a marker file to `path`, with an offset if the settings say so. An
+  // existing file is emptied first. Returns false when it cannot be created.
+  bool WriteMarkerFile(const std::string& path);
 
   // Writes the settings to the registry. Failures are silent.
   void SaveSettings();
@@ -45,9 +61,15 @@ class ConvertBVK {
   // The marker file that is being converted.
   TRCDocument document;
 
+  // The host, from the first conversion on.
+  Interface* interface = nullptr;
+
  private:
   void LoadSettings();
 
+  MessageSink& messages_;
+  StringTable& strings_;
+  HINSTANCE module_;
   SettingsStore store_;
 };
 

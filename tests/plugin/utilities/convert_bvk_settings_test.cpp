@@ -10,6 +10,12 @@ using platform::RegistryType;
 
 constexpr char kKey[] = "Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK";
 
+class ConvertBVKSettingsTest : public testing::Test {
+ protected:
+  MessageSink messages_;
+  StringTable strings_;
+};
+
 void Change(ConvertBVK& converter) {
   converter.mnmPath = "maps/standard.mnm";
   converter.inputPath = "takes";
@@ -21,9 +27,9 @@ void Change(ConvertBVK& converter) {
   converter.offsetZ = 0.1F;
 }
 
-TEST(ConvertBVKSettingsTest, HasItsDefaults) {
+TEST_F(ConvertBVKSettingsTest, HasItsDefaults) {
   test::Desk desk;
-  const ConvertBVK converter;
+  const ConvertBVK converter(messages_, strings_, nullptr);
   EXPECT_EQ(converter.mnmPath, "<none>");
   EXPECT_EQ(converter.inputPath, "C:\\");
   EXPECT_EQ(converter.outputPath, "<none>");
@@ -37,16 +43,16 @@ TEST(ConvertBVKSettingsTest, HasItsDefaults) {
   EXPECT_EQ(converter.offsetZ, 0.0F);
 }
 
-TEST(ConvertBVKSettingsTest, OpensItsKeyAndWritesNothingAtFirst) {
+TEST_F(ConvertBVKSettingsTest, OpensItsKeyAndWritesNothingAtFirst) {
   test::Desk desk;
-  const ConvertBVK converter;
+  const ConvertBVK converter(messages_, strings_, nullptr);
   EXPECT_EQ(desk.registry().OpenKeys(), std::vector<std::string>{kKey});
   EXPECT_FALSE(desk.registry().FindValue(kKey, "Filter"));
 }
 
-TEST(ConvertBVKSettingsTest, SavesElevenValuesInTheirForms) {
+TEST_F(ConvertBVKSettingsTest, SavesElevenValuesInTheirForms) {
   test::Desk desk;
-  ConvertBVK converter;
+  ConvertBVK converter(messages_, strings_, nullptr);
   Change(converter);
   converter.SaveSettings();
 
@@ -75,13 +81,13 @@ TEST(ConvertBVKSettingsTest, SavesElevenValuesInTheirForms) {
   }
 }
 
-TEST(ConvertBVKSettingsTest, SavesThemAtItsEndAndLoadsThemAtItsStart) {
+TEST_F(ConvertBVKSettingsTest, SavesThemAtItsEndAndLoadsThemAtItsStart) {
   test::Desk desk;
   {
-    ConvertBVK converter;
+    ConvertBVK converter(messages_, strings_, nullptr);
     Change(converter);
   }
-  const ConvertBVK converter;
+  const ConvertBVK converter(messages_, strings_, nullptr);
   EXPECT_EQ(converter.mnmPath, "maps/standard.mnm");
   EXPECT_EQ(converter.inputPath, "takes");
   EXPECT_EQ(converter.outputPath, "made");
@@ -95,8 +101,8 @@ TEST(ConvertBVKSettingsTest, SavesThemAtItsEndAndLoadsThemAtItsStart) {
   EXPECT_EQ(converter.offsetZ, 0.1F);
 }
 
-TEST(ConvertBVKSettingsTest, WorksWithoutARegistry) {
-  ConvertBVK converter;
+TEST_F(ConvertBVKSettingsTest, WorksWithoutARegistry) {
+  ConvertBVK converter(messages_, strings_, nullptr);
   converter.SaveSettings();
   EXPECT_TRUE(converter.filter);
 }

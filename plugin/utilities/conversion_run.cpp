@@ -1,0 +1,179 @@
+#include "plugin/utilities/conversion_run.h"
+
+#include "platform/local_time.h"
+#include "plugin/resources/resource.h"
+#include "plugin/utilities/chosen_files.h"
+#include "sdk/skelderutil/filename.h"
+
+namespace orvane {
+namespace {
+
+constexpr char kConvertBVKError[] = "ConvertBVK Error";
+constexpr char kProgressTitle[] = "Orvane ConvertBVK";
+constexpr char kLogName[] = "ConvertBVKLog.txt";
+
+// Room for a thousand long names.
+constexpr std::size_t kBufferSize = 260'000;
+
+// What "trc" at the end of a path becomes.
+constexpr std::string_view kBvkLetters = "bvk";
+
+std::uint32_t GoOn(void* /*argument*/) { return 0; }
+
+// Intended: the share that was done before file `index` began, in single precision.
+int PercentBefore(std::size_t index, std::size_t count) {
+  return static_cast<int>(static_cast<float>(index) / static_cast<float>(count) * 100.0F);
+}
+
+std::string FileNamePart(const std::string& path) {
+  CStr name;
+  SplitFilename(path.c_str(), nullptr, &name, nullptr);
+  return name.data();
+}
+
+// Intended: the last three characters change, whatever they are, so that "walk.trc" becomes
+// "walk.bvk" and "walking" becomes "walkbvk". Nothing when there are fewer.
+std::optional<std::string> WithBvkLetters(std::string path) {
+  if (path.size() < kBvkLetters.size()) return std::nullopt;
+  path.replace(path.size() - kBvkLetters.size(), kBvkLetters.size(), kBvkLetters);
+  return path;
+}
+
+}  // namespace
+
+// Intended: a mapping file is needed even when the mapping is not used, and its absence is not
+// reported.
+bool ConversionRun::Run() {
+  if (!converter_.mapping.Load(converter_.mnmPath)) return false;
+  if (!ChooseSources()) return false;
+  if (converter_.batch && !OpenLog()) return false;
+  converter_.interface->ProgressStart(kProgressTitle, true, &GoOn, nullptr);
+  converter_.interface->ProgressUpdate(0);
+  return ConvertFiles();
+}
+
+bool ConversionRun::ChooseSources() {
+  platform::FileDialog dialog;
+  dialog.kind = platform::FileDialog::Kind::kOpen;
+  dialog.title = "Select Source TRC Files...";
+  dialog.filter_pattern = "*.trc";
+  dialog.default_extension = "trc";
+  const std::string folder = converter_.inputPath;
+  dialog.initial_folder = folder.c_str();
+  dialog.several = converter_.batch;
+  dialog.file_must_exist = true;
+  dialog.folder_must_exist = true;
+  std::string buffer(kBufferSize, '\0');
+  std::size_t name_offset = 0;
+  if (!ShowFileDialog(dialog, IDS_TRC_FILES, buffer, name_offset)) return false;
+  if (!dialog.several) {
+    sources_ = {buffer.substr(0, buffer.find('\0'))};
+    return true;
+  }
+  ChosenFiles chosen = ReadChosenFiles(buffer, name_offset, platform::PathSeparator());
+  converter_.inputPath = chosen.folder;
+  sources_ = std::move(chosen.paths);
+  return true;
+}
+
+bool ConversionRun::OpenLog() {
+  log_.emplace();
+  if (!log_->Open(InOutputFolder(kLogName))) {
+    messages_.Report("Cannot Open Batch Log File.", kConvertBVKError);
+    return false;
+  }
+  log_->WriteHeader(platform::LocalTimeText(), sources_.size());
+  return true;
+}
+
+// Intended: a user who cancels finds the progress bar still open.
+bool ConversionRun::ConvertFiles() {
+  for (std::size_t index = 0; index < sources_.size(); ++index) {
+    converter_.interface->ProcessPendingMessages();
+    if (converter_.interface->GetCancel()) return false;
+    const Outcome outcome = ConvertFile(sources_[index]);
+    if (outcome != Outcome::kDone) EndProgress();
+    if (outcome == Outcome::kAbandoned) return false;
+    // Intended: the progress bar ends a second time below.
+    if (outcome == Outcome::kRefused) break;
+    converter_.document.Reset();
+    converter_.interface->ProgressUpdate(PercentBefore(index, sources_.size()));
+  }
+  EndProgress();
+  return true;
+}
+
+// Intended: in a batch, what was read of a file that the reader refused is written all the same.
+ConversionRun::Outcome ConversionRun::ConvertFile(const std::string& source) {
+  if (!ReadSource(source)) return Outcome::kRefused;
+  if (converter_.filter) ApplyMapping();
+  const std::optional<std::string> output = OutputFor(source);
+  if (!output || !converter_.WriteMarkerFile(*output)) return Outcome::kAbandoned;
+  if (log_) log_->WriteDone(source);
+  return Outcome::kDone;
+}
+
+bool ConversionRun::ReadSource(const std::string& source) {
+  const std::string message = converter_.document.Read(source, false);
+  if (message.empty()) return true;
+  const std::string report = source + ": " + message + "\n";
+  if (log_) {
+    log_->WriteFormat(report);
+  } else {
+    messages_.Report(report.c_str(), kConvertBVKError);
+  }
+  return log_.has_value();
+}
+
+void ConversionRun::ApplyMapping() {
+  for (TRCMarker& marker : converter_.document.markers()) {
+    std::string name = marker.Name();
+    const bool is_known = converter_.mapping.Lookup(name);
+    if (is_known) marker.SetName(name);
+    marker.SetEnabled(is_known);
+  }
+}
+
+// Nothing when the user cancels, or when there is no such name.
+std::optional<std::string> ConversionRun::OutputFor(const std::string& source) {
+  if (!converter_.trcName) return ChooseOutput();
+  if (!log_) return WithBvkLetters(source);
+  return InOutputFolder(FileNamePart(source) + ".bvk");
+}
+
+std::optional<std::string> ConversionRun::ChooseOutput() {
+  platform::FileDialog dialog;
+  dialog.kind = platform::FileDialog::Kind::kSave;
+  dialog.title = "Select Target BVK File...";
+  dialog.filter_pattern = "*.bvk";
+  dialog.default_extension = "bvk";
+  const std::string folder = converter_.outputPath;
+  dialog.initial_folder = folder.c_str();
+  dialog.ask_before_replacing = true;
+  std::string buffer(kBufferSize, '\0');
+  std::size_t name_offset = 0;
+  if (!ShowFileDialog(dialog, IDS_BVK_FILES, buffer, name_offset)) return std::nullopt;
+  return buffer.c_str();
+}
+
+std::string ConversionRun::InOutputFolder(const std::string& name) const {
+  return converter_.outputPath + platform::PathSeparator() + name;
+}
+
+// Shows `dialog`, to which what all dialogs of a conversion have in common is added.
+bool ConversionRun::ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name,
+                                   std::string& buffer, std::size_t& name_offset) {
+  const char* const text = strings_.GetString(module_, filter_name);
+  const std::string filter = text == nullptr ? "" : text;
+  dialog.owner = converter_.interface->GetSkelderHWnd();
+  dialog.filter_name = filter.c_str();
+  dialog.hide_read_only_box = true;
+  return platform::ChooseFiles(dialog, buffer.data(), buffer.size(), name_offset);
+}
+
+void ConversionRun::EndProgress() {
+  converter_.interface->ProgressUpdate(100);
+  converter_.interface->ProgressEnd();
+}
+
+}  // namespace orvane

@@ -1,0 +1,143 @@
+#pragma once
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <deque>
+#include <functional>
+#include <string>
+#include <vector>
+
+#include "host/application/application.h"
+#include "host/desktop/memory_registry.h"
+#include "host/desktop/scripted_desktop.h"
+#include "platform/module.h"
+#include "plugin/utilities/convert_bvk.h"
+#include "tests/support/environment_variable.h"
+#include "tests/support/files.h"
+#include "tests/support/forwarding_interface.h"
+#include "tests/support/temporary_folder.h"
+
+namespace test {
+
+// Notes what a conversion does to the host, and lets a test do something whenever the host handles
+// its pending messages.
+class WatchedInterface final : public ForwardingInterface {
+ public:
+  using ForwardingInterface::ForwardingInterface;
+
+  bool ProgressStart(const char* title, bool show_bar, ProgressCallback callback,
+                     void* argument) override {
+    steps.push_back(std::string("start ") + title);
+    return ForwardingInterface::ProgressStart(title, show_bar, callback, argument);
+  }
+  void ProgressUpdate(int percent, bool show_percent, const char* title) override {
+    steps.push_back(std::to_string(percent));
+    ForwardingInterface::ProgressUpdate(percent, show_percent, title);
+  }
+  void ProgressEnd() override {
+    steps.emplace_back("end");
+    ForwardingInterface::ProgressEnd();
+  }
+  bool GetCancel() override {
+    steps.emplace_back("cancel?");
+    return ForwardingInterface::GetCancel();
+  }
+  void ProcessPendingMessages() override {
+    steps.emplace_back("pending");
+    if (on_pending_messages) on_pending_messages();
+    ForwardingInterface::ProcessPendingMessages();
+  }
+
+  std::vector<std::string> steps;
+  std::function<void()> on_pending_messages;
+};
+
+// A converter with a folder of takes, a mapping file of one entry (Head1 plays HEAD), a folder for
+// outputs, a clock that stands still, and a user who chooses files as the test says.
+class ConversionTest : public testing::Test {
+ protected:
+  ConversionTest() {
+    host::ScriptedUser user;
+    user.answer_message = [](const host::MessageBox&) { return platform::kMessageBoxOk; };
+    user.choose_files = [this](const platform::FileDialog& dialog) { return Choose(dialog); };
+    desktop_.SetUser(std::move(user));
+    platform::InstallDesktop(&desktop_);
+    std::filesystem::create_directory(folder_.Path() / "out");
+    converter_.emplace(messages_, strings_, platform::ModuleHandle());
+    converter_->mnmPath = folder_.Write("map.mnm", "HEAD\tHead1\t\n");
+    converter_->outputPath = folder_.File("out");
+    converter_->inputPath = folder_.Path().string();
+  }
+  ~ConversionTest() override {
+    desktop_.RethrowFailure();
+    EXPECT_TRUE(choices_.empty()) << "the user was not asked for every file";
+    converter_.reset();
+    platform::InstallDesktop(nullptr);
+  }
+
+  // The user's answer to the next file dialog; no paths: he cancels.
+  void UserChooses(std::vector<std::string> paths) { choices_.push_back({std::move(paths), true}); }
+  bool Convert() { return converter_->Convert(&host_); }
+  // In a batch, which is set from now on.
+  bool ConvertBatch(std::vector<std::string> paths) {
+    converter_->batch = true;
+    UserChooses(std::move(paths));
+    return Convert();
+  }
+
+  // Makes the file `name` in the test's folder.
+  std::string Write(const std::string& name, const std::string& bytes) const {
+    return folder_.Write(name, bytes);
+  }
+  std::string Read(const std::string& name) const { return ReadFile(folder_.File(name)); }
+  std::string Log() const { return Read("out/ConvertBVKLog.txt"); }
+  // The log behind its first three lines.
+  std::string LoggedFiles() const {
+    const std::string log = Log();
+    const std::string header_end = " files...\n";
+    return log.substr(log.find(header_end) + header_end.size());
+  }
+  std::vector<std::string> Messages() const {
+    std::vector<std::string> lines;
+    for (const host::MessageBox& message : desktop_.Messages()) {
+      lines.push_back(message.caption + ": " + message.text);
+    }
+    return lines;
+  }
+
+  // What a file dialog asked for.
+  struct ShownDialog {
+    platform::FileDialog dialog;
+    std::string title;
+    std::string filter;
+    std::string pattern;
+    std::string extension;
+    std::string folder;
+  };
+
+  EnvironmentVariable clock_{"SOURCE_DATE_EPOCH", "741476948"};
+  TemporaryFolder folder_;
+  host::MemoryRegistry registry_;
+  host::ScriptedDesktop desktop_{registry_};
+  host::Application application_;
+  WatchedInterface host_{application_.plugin_interface()};
+  orvane::MessageSink messages_;
+  orvane::StringTable strings_;
+  std::optional<orvane::ConvertBVK> converter_;
+  std::vector<ShownDialog> dialogs_;
+
+ private:
+  host::FileChoice Choose(const platform::FileDialog& dialog) {
+    dialogs_.push_back({dialog, dialog.title, dialog.filter_name, dialog.filter_pattern,
+                        dialog.default_extension, dialog.initial_folder});
+    if (choices_.empty()) throw host::ScriptError("Nobody expects a file dialog");
+    host::FileChoice choice = choices_.front();
+    choices_.pop_front();
+    return choice;
+  }
+
+  std::deque<host::FileChoice> choices_;
+};
+
+}  // namespace test
