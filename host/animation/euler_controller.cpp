@@ -10,8 +10,12 @@ namespace {
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kTurn = 2.0 * kPi;
 
-// The way from `from` to `to`, the shorter way round.
-double TurnBetween(double from, double to) { return std::remainder(to - from, kTurn); }
+// The way from `from` to `to`, the shorter way round. Most are no longer already, and then the
+// remainder would be the same.
+double TurnBetween(double from, double to) {
+  const double turn = to - from;
+  return std::abs(turn) <= kPi ? turn : std::remainder(turn, kTurn);
+}
 
 Vector TurnBetween(const Vector& from, const Vector& to) {
   return {TurnBetween(from.x, to.x), TurnBetween(from.y, to.y), TurnBetween(from.z, to.z)};
