@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-// Numbers as text: the one place where a number is read or printed, for files and dialogs alike.
-// Nothing here depends on the locale.
+// Numbers as text: the one place where a number is read or printed, for files and dialogs alike,
+// apart from the columns of long files (six_decimals.h). Nothing here depends on the locale.
 //
 // Reading converts the number that the text starts with and ignores what follows it; text that
 // starts with no number is 0. Accepted, in this order: blanks, one sign, decimal digits with an

@@ -15,10 +15,6 @@ constexpr std::uint32_t kMillion = 1'000'000;
 // up too.
 constexpr double kMostMillionths = 1e12 - 1.0;
 
-// The product with a million is off by at most its half unit in the last place, 2^-14 here. Further
-// than this from a tie, rounding the product is rounding the exact number.
-constexpr double kDoubt = 1.0 / 4096;
-
 constexpr auto kDigitPairs = [] {
   std::array<char, 200> pairs{};
   for (std::size_t number = 0; number < 100; ++number) {
@@ -60,7 +56,9 @@ char* WriteSixDecimals(double value, char* first) {
   if (!(product < kMostMillionths)) return WriteAnyValue(value, first);
   const auto whole = static_cast<std::int64_t>(product);
   const double rest = product - static_cast<double>(whole);
-  if (std::abs(rest - 0.5) < kDoubt) return WriteAnyValue(value, first);
+  // Rounded to a double, the product never gets past a tie, which is a double itself. On a tie it
+  // may have come from either side.
+  if (rest == 0.5) return WriteAnyValue(value, first);
 
   const auto millionths = static_cast<std::uint64_t>(whole) + (rest > 0.5 ? 1 : 0);
   if (std::signbit(value)) *first++ = '-';

@@ -14,7 +14,7 @@ inline constexpr std::size_t kLongestSixDecimals = 317;
 // characters go to `first` and behind, where there must be room for kLongestSixDecimals, and are
 // not ended by a NUL. Returns the place behind the last one.
 //
-// Below a million, all but the numbers next to a tie take a short way.
+// Below a million, all but the numbers on or next to a tie take a short way.
 char* WriteSixDecimals(double value, char* first);
 
 }  // namespace orvane
