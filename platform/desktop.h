@@ -41,6 +41,20 @@ class Desktop {
   // result, or kDialogNotCreated.
   virtual int RunDialog(HINSTANCE module, int dialog_id, HWND parent, DialogHandler& handler) = 0;
 
+  // As CreateModelessDialog, ShowModelessDialog and DestroyModelessDialog.
+  virtual Dialog* CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
+                                 DialogHandler& handler) = 0;
+  virtual void ShowModeless(Dialog& dialog) = 0;
+  virtual void DestroyModeless(Dialog& dialog) = 0;
+
+  // The modeless dialog whose window `window` is, or null.
+  virtual Dialog* FindModeless(HWND window) = 0;
+
+  // Lets the user do what he has been waiting to do. `awaited` tells that the application waits for
+  // him. Returns false when nobody is there any more who could do anything: the application ends
+  // then.
+  virtual bool ProcessPendingMessages(bool awaited) = 0;
+
   // As their namesakes in platform/file_dialog.h.
   virtual bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
                            std::size_t& name_offset) = 0;
@@ -53,6 +67,11 @@ class Desktop {
  protected:
   ~Desktop() = default;
 };
+
+// What a dialog procedure is called with off Windows: `message` is one of these, `word` the control
+// of a command, `parameter` always the one that came with the procedure.
+inline constexpr unsigned int kInitializeDialog = 0x0110;
+inline constexpr unsigned int kDialogCommand = 0x0111;
 
 // Puts `desktop` in use for the whole process; null takes the one in use away. The caller keeps
 // owning it. Install it before the module is loaded: its option records open their keys during

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <memory>
 
 #include "platform/handles.h"
 
@@ -17,6 +19,10 @@ class Dialog {
   // The dialog's window, for use as an owner or to be centred. Valid until the dialog ends.
   virtual HWND Window() = 0;
 
+  // The window of a control, for the host's own kinds of control; null when the dialog has no such
+  // control. Valid until the dialog ends.
+  virtual HWND ControlWindow(int control) = 0;
+
   virtual void SetText(int control, const char* text) = 0;
 
   // Copies the control's text to `buffer`, which holds `size` (1 or more) characters, cut to
@@ -27,7 +33,8 @@ class Dialog {
   virtual bool IsChecked(int control) = 0;
   virtual void SetEnabled(int control, bool enabled) = 0;
 
-  // Ends a modal dialog: RunModalDialog returns `result` once the handler has returned.
+  // Ends a modal dialog: RunModalDialog returns `result` once the handler has returned. Does
+  // nothing to a dialog that is not modal.
   virtual void End(int result) = 0;
 
  protected:
@@ -61,5 +68,27 @@ inline constexpr int kDialogNotCreated = -1;
 // Returns the handler's result, or kDialogNotCreated. `handler` stays the caller's and must live
 // until the call returns.
 int RunModalDialog(HINSTANCE module, int dialog_id, HWND parent, DialogHandler& handler);
+
+// Destroys a modeless dialog, which must not be used after; its handler is not called any more.
+void DestroyModelessDialog(Dialog* dialog);
+
+struct ModelessDialogDeleter {
+  void operator()(Dialog* dialog) const { DestroyModelessDialog(dialog); }
+};
+
+// A dialog that stays open while the program goes on, until its owner lets go of it.
+using ModelessDialog = std::unique_ptr<Dialog, ModelessDialogDeleter>;
+
+// Creates dialog `dialog_id` of `module` over `parent`, not shown yet, and lets `handler` fill it.
+// Returns null when it cannot be created. `handler` stays the caller's and must outlive the dialog.
+ModelessDialog CreateModelessDialog(HINSTANCE module, int dialog_id, HWND parent,
+                                    DialogHandler& handler);
+
+void ShowModelessDialog(Dialog& dialog);
+
+// For a dialog that the host creates and destroys: what the host is given to run it, procedure and
+// parameter together. `handler` stays the caller's and must outlive the dialog.
+DialogProcedure HandlerProcedure();
+std::intptr_t HandlerParameter(DialogHandler& handler);
 
 }  // namespace platform

@@ -1,5 +1,7 @@
 #include "host/application/application.h"
 
+#include "platform/desktop.h"
+
 namespace host {
 namespace {
 
@@ -12,5 +14,27 @@ Application::Application() : previous_(current_application) { current_applicatio
 Application::~Application() { current_application = previous_; }
 
 Application* Application::Current() { return current_application; }
+
+void Application::CustomEditReleased() {
+  if (held_custom_edits_ == 0) {
+    scene_.Misuse().Report("ReleaseICustEdit of a control that is not held");
+  } else {
+    --held_custom_edits_;
+  }
+}
+
+void Application::ProcessPendingMessages() {
+  ++pending_message_calls_;
+  const bool awaited = picking_.IsActive();
+  platform::Desktop* const desktop = platform::CurrentDesktop();
+  const bool goes_on = desktop == nullptr ? !awaited : desktop->ProcessPendingMessages(awaited);
+  if (!goes_on) Exit();
+}
+
+void Application::Exit() {
+  exited_ = true;
+  callbacks_.TellExit(main_window());
+  picking_.Leave();
+}
 
 }  // namespace host

@@ -4,16 +4,18 @@
 
 #include "host/application/application_interface.h"
 #include "host/application/cancellation.h"
+#include "host/application/picking.h"
 #include "host/application/plugin_callbacks.h"
 #include "host/application/progress_bar.h"
+#include "host/application/rollup_pages.h"
 #include "host/desktop/window.h"
 #include "host/scene/scene.h"
 #include "platform/export.h"
 
 // The stand-in application: one scene, and around it what a plug-in meets besides: progress bar,
-// cancelling, playback, callbacks, main window. Each part tells by itself what was done to it;
-// calls against the rules of the SDK are noted in scene().Misuse(). Loading plug-ins is the job of
-// host/application/module.h.
+// cancelling, playback, callbacks, pick mode, rollup pages, main window. Each part tells by itself
+// what was done to it; calls against the rules of the SDK are noted in scene().Misuse(). Loading
+// plug-ins is the job of host/application/module.h.
 //
 // Faults that a test may ask for stand with what they befall: RefuseAllocation
 // (host/base/heap_control.h), scene().Faults() for controllers, cancellation(), StartPlayback, and
@@ -41,16 +43,34 @@ class SKELDER_API Application {
   ProgressBar& progress() { return progress_; }
   Cancellation& cancellation() { return cancellation_; }
   PluginCallbacks& callbacks() { return callbacks_; }
+  Picking& picking() { return picking_; }
+  RollupPages& rollup_pages() { return rollup_pages_; }
   HWND main_window() { return &main_window_; }
+
+  // The host's own edit controls that plug-ins have obtained and not released.
+  int HeldCustomEdits() const { return held_custom_edits_; }
+  void CustomEditObtained() { ++held_custom_edits_; }
+
+  // Releasing what nobody holds is a misuse.
+  void CustomEditReleased();
 
   // Playback of the animation. It runs only as a state: time stands still.
   bool IsPlaybackRunning() const { return playback_running_; }
   void StartPlayback() { playback_running_ = true; }
   void StopPlayback() { playback_running_ = false; }
 
-  // How often a plug-in let the application handle its pending messages. There are never any.
+  // A plug-in lets the application handle its pending messages: the user of the desktop in use may
+  // act. When he is awaited, because a pick mode is on, and there is nobody who could act, the
+  // application exits.
+  void ProcessPendingMessages();
+
+  // How often that happened.
   std::size_t PendingMessageCalls() const { return pending_message_calls_; }
-  void ProcessPendingMessages() { ++pending_message_calls_; }
+
+  // The application is about to exit: the exit callbacks are told, and the pick mode is left. Its
+  // parts can be looked at afterwards.
+  void Exit();
+  bool HasExited() const { return exited_; }
 
  private:
   Application* previous_;
@@ -59,9 +79,13 @@ class SKELDER_API Application {
   ProgressBar progress_{scene_.Misuse()};
   Cancellation cancellation_;
   PluginCallbacks callbacks_{scene_.Misuse()};
+  Picking picking_{callbacks_};
+  RollupPages rollup_pages_{scene_.Misuse()};
   HWND__ main_window_;
   bool playback_running_ = false;
   std::size_t pending_message_calls_ = 0;
+  bool exited_ = false;
+  int held_custom_edits_ = 0;
 };
 
 }  // namespace host

@@ -83,16 +83,15 @@ HWND ApplicationInterface::GetSkelderHWnd() { return application_.main_window();
 
 void ApplicationInterface::ProcessPendingMessages() { application_.ProcessPendingMessages(); }
 
-HWND ApplicationInterface::AddRollupPage(HINSTANCE /*module*/, int /*dialog_id*/,
-                                         platform::DialogProcedure /*procedure*/,
-                                         const char* /*title*/, std::intptr_t /*parameter*/,
-                                         unsigned /*flags*/, int /*category*/) {
-  return nullptr;
+HWND ApplicationInterface::AddRollupPage(HINSTANCE module, int dialog_id,
+                                         platform::DialogProcedure procedure, const char* title,
+                                         std::intptr_t parameter, unsigned flags, int category) {
+  return application_.rollup_pages().Add(module, dialog_id, application_.main_window(), procedure,
+                                         parameter,
+                                         {nullptr, title == nullptr ? "" : title, flags, category});
 }
 
-void ApplicationInterface::DeleteRollupPage(HWND /*page*/) {
-  application_.scene().Misuse().Report("DeleteRollupPage of a page that is not open");
-}
+void ApplicationInterface::DeleteRollupPage(HWND page) { application_.rollup_pages().Delete(page); }
 
 void ApplicationInterface::SetPickMode(PickModeCallback* callback) {
   application_.callbacks().SetPickMode(callback);
@@ -101,8 +100,8 @@ void ApplicationInterface::SetPickMode(PickModeCallback* callback) {
 void ApplicationInterface::ClearPickMode() { application_.callbacks().SetPickMode(nullptr); }
 
 INode* ApplicationInterface::PickNode(HWND /*window*/, const ViewportPoint& /*point*/,
-                                      PickNodeCallback* /*filter*/) {
-  return nullptr;
+                                      PickNodeCallback* filter) {
+  return application_.picking().NodeUnderCursor(filter);
 }
 
 void ApplicationInterface::RegisterExitSkelderCallback(ExitSkelderCallback* callback) {

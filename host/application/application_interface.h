@@ -8,8 +8,6 @@ class Application;
 
 // What plug-ins see of an application: every operation of sdk/core/interface.h, forwarded to the
 // part of the application that it is about. No state of its own.
-//
-// Not supported yet: rollup pages, which are never created, and picking, which finds nothing.
 class ApplicationInterface final : public ::Interface {
  public:
   // `application` owns this object.

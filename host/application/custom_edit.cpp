@@ -1,6 +1,15 @@
 #include "sdk/skelderutil/custom_edit.h"
 
-// No window of the stand-in has custom edit controls yet.
-ICustEdit* GetICustEdit(HWND /*window*/) { return nullptr; }
+#include "host/application/application.h"
+#include "host/desktop/custom_edit.h"
 
-void ReleaseICustEdit(ICustEdit* /*edit*/) {}
+ICustEdit* GetICustEdit(HWND window) {
+  if (window == nullptr || window->custom_edit == nullptr) return nullptr;
+  if (auto* application = host::Application::Current()) application->CustomEditObtained();
+  return window->custom_edit;
+}
+
+void ReleaseICustEdit(ICustEdit* edit) {
+  if (edit == nullptr) return;
+  if (auto* application = host::Application::Current()) application->CustomEditReleased();
+}

@@ -52,6 +52,17 @@ std::unique_ptr<SceneExport> Module::CreateExporter(std::string_view extension) 
   return CreateByExtension<SceneExport>(entry_, kSceneExportSuperClass, extension);
 }
 
+std::unique_ptr<UtilityObj> Module::CreateUtility(std::string_view class_name) const {
+  for (int i = 0; i < NumberOfClasses(); ++i) {
+    ClassDesc2* const descriptor = ClassDescriptor(i);
+    if (descriptor == nullptr || descriptor->SuperClassID() != kUtilitySuperClass) continue;
+    const char* const name = descriptor->ClassName();
+    if (name == nullptr || name != class_name) continue;
+    return std::unique_ptr<UtilityObj>(static_cast<UtilityObj*>(descriptor->Create(false)));
+  }
+  return nullptr;
+}
+
 std::optional<ImportResult> Module::Import(const std::string& path, bool suppress_prompts) {
   const std::unique_ptr<SceneImport> importer = CreateImporter(ExtensionOf(path));
   if (importer == nullptr) return std::nullopt;

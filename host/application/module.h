@@ -71,6 +71,10 @@ class SKELDER_API Module {
   std::unique_ptr<SceneImport> CreateImporter(std::string_view extension) const;
   std::unique_ptr<SceneExport> CreateExporter(std::string_view extension) const;
 
+  // A new utility of the class named `class_name`; null when there is none, or it gave no instance.
+  // To be destroyed before the module is unloaded.
+  std::unique_ptr<UtilityObj> CreateUtility(std::string_view class_name) const;
+
   // Imports the file `path` into the application's scene with the importer for its extension.
   // Returns nothing when there is no such importer.
   std::optional<ImportResult> Import(const std::string& path, bool suppress_prompts);

@@ -13,6 +13,7 @@ namespace {
 std::size_t RegisteredCallbacks(Application& application) {
   const PluginCallbacks& callbacks = application.callbacks();
   return callbacks.ExitCallbacks().size() + (callbacks.PickMode() == nullptr ? 0U : 1U) +
+         application.rollup_pages().Open().size() +
          (application.progress().HoldsCallback() ? 1U : 0U);
 }
 

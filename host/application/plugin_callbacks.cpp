@@ -1,13 +1,16 @@
 #include "host/application/plugin_callbacks.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace host {
 
 void PluginCallbacks::SetPickMode(PickModeCallback* callback) {
-  if (pick_mode_ != nullptr) pick_mode_->ExitMode();
+  PickModeCallback* const left = std::exchange(pick_mode_, nullptr);
+  if (left != nullptr) left->ExitMode();
+  if (callback == nullptr || pick_modes_refused_) return;
   pick_mode_ = callback;
-  if (pick_mode_ != nullptr) pick_mode_->EnterMode();
+  callback->EnterMode();
 }
 
 void PluginCallbacks::RegisterExit(ExitSkelderCallback* callback) {
@@ -21,6 +24,15 @@ void PluginCallbacks::UnregisterExit(ExitSkelderCallback* callback) {
     return;
   }
   exit_callbacks_.erase(registered);
+}
+
+void PluginCallbacks::TellExit(HWND window) {
+  const std::vector<ExitSkelderCallback*> registered = exit_callbacks_;
+  for (ExitSkelderCallback* const callback : registered) {
+    const bool still = std::find(exit_callbacks_.begin(), exit_callbacks_.end(), callback) !=
+                       exit_callbacks_.end();
+    if (still) callback->HostExiting(window);
+  }
 }
 
 }  // namespace host

@@ -19,13 +19,25 @@ DialogControl Build(const platform::ControlTemplate& control) {
 
 }  // namespace
 
-OpenDialog::OpenDialog(const platform::DialogTemplate& dialog, HWND parent) : title_(dialog.title) {
+OpenDialog::OpenDialog(const platform::DialogTemplate& dialog, HWND parent, bool modal)
+    : title_(dialog.title), modal_(modal) {
   window_.parent = parent;
   std::transform(dialog.controls.begin(), dialog.controls.end(), std::back_inserter(controls_),
                  Build);
+  for (std::size_t i = 0; i < controls_.size(); ++i) {
+    DialogControl& control = controls_[i];
+    control.window.parent = &window_;
+    if (dialog.controls[i].window_class != kCustomEditClass) continue;
+    control.window.custom_edit = &custom_edits_.emplace_back(control.text);
+  }
 }
 
 HWND OpenDialog::Window() { return &window_; }
+
+HWND OpenDialog::ControlWindow(int control) {
+  DialogControl* const found = Find(control);
+  return found == nullptr ? nullptr : &found->window;
+}
 
 void OpenDialog::SetText(int control, const char* text) {
   if (DialogControl* const found = Find(control)) found->text = text;
@@ -53,6 +65,7 @@ void OpenDialog::SetEnabled(int control, bool enabled) {
 }
 
 void OpenDialog::End(int result) {
+  if (!modal_) return;
   ended_ = true;
   result_ = result;
 }

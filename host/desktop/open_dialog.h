@@ -1,9 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <deque>
 #include <string>
 #include <vector>
 
+#include "host/desktop/custom_edit.h"
 #include "host/desktop/window.h"
 #include "platform/dialog.h"
 #include "platform/portable/dialog_template.h"
@@ -21,16 +23,24 @@ struct DialogControl {
   bool read_only = false;
   bool enabled = true;
   bool checked = false;
+  HWND__ window{};
+
+  // Whether the user can type into it, if it is neither disabled nor read-only.
+  bool IsTypable() const {
+    return kind == platform::ControlKind::kEdit || window.custom_edit != nullptr;
+  }
 };
 
 class OpenDialog final : public platform::Dialog {
  public:
   // Builds the controls of `dialog`, unchecked and empty but for their texts. `parent` may be null.
-  OpenDialog(const platform::DialogTemplate& dialog, HWND parent);
+  // A `modal` dialog ends when its handler says so, another one when it is closed.
+  OpenDialog(const platform::DialogTemplate& dialog, HWND parent, bool modal);
   OpenDialog(const OpenDialog&) = delete;
   OpenDialog& operator=(const OpenDialog&) = delete;
 
   HWND Window() override;
+  HWND ControlWindow(int control) override;
   void SetText(int control, const char* text) override;
   std::size_t GetText(int control, char* buffer, std::size_t size) override;
   void SetChecked(int control, bool checked) override;
@@ -40,6 +50,9 @@ class OpenDialog final : public platform::Dialog {
 
   [[nodiscard]] const std::string& Title() const { return title_; }
   [[nodiscard]] const std::vector<DialogControl>& Controls() const { return controls_; }
+  // Ends the dialog, whatever its kind.
+  void Close() { ended_ = true; }
+
   [[nodiscard]] bool HasEnded() const { return ended_; }
   [[nodiscard]] int Result() const { return result_; }  // of the last End
 
@@ -50,6 +63,8 @@ class OpenDialog final : public platform::Dialog {
   HWND__ window_;
   std::string title_;
   std::vector<DialogControl> controls_;
+  std::deque<CustomEdit> custom_edits_;
+  bool modal_;
   bool ended_ = false;
   int result_ = platform::kDialogNotCreated;
 };

@@ -84,16 +84,50 @@ bool ScriptedDesktop::ChooseFolder(HWND /*owner*/, const char* title, char* buff
   });
 }
 
+std::optional<platform::DialogTemplate> ScriptedDesktop::TemplateOf(HINSTANCE module,
+                                                                    int dialog_id) const {
+  if (failure_.HasHappened() || refused_dialogs_.count(dialog_id) > 0) return {};
+  return platform::FindDialog(platform::ResourceFileOf(module),
+                              static_cast<unsigned int>(dialog_id));
+}
+
+platform::Dialog* ScriptedDesktop::CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
+                                                  platform::DialogHandler& handler) {
+  const std::optional<platform::DialogTemplate> dialog_template = TemplateOf(module, dialog_id);
+  if (!dialog_template) return nullptr;
+  return &modeless_.Create(dialog_id, *dialog_template, parent, handler);
+}
+
+ScriptedDialog* ScriptedDesktop::ShownDialog(int dialog_id) {
+  return modeless_.FindShown(dialog_id);
+}
+
+void ScriptedDesktop::ShowModeless(platform::Dialog& dialog) { modeless_.Show(dialog); }
+
+void ScriptedDesktop::DestroyModeless(platform::Dialog& dialog) { modeless_.Destroy(dialog); }
+
+platform::Dialog* ScriptedDesktop::FindModeless(HWND window) {
+  return modeless_.FindByWindow(window);
+}
+
+bool ScriptedDesktop::ProcessPendingMessages(bool awaited) {
+  return AnswerOr(false, [&] {
+    if (!awaited && !modeless_.AnyWaiting()) return true;
+    const std::function<bool()> act = user_.act;  // which may change who the user is
+    if (!act || !act()) {
+      throw ScriptError("The plug-in waits, and its user has nothing left to do.");
+    }
+    failure_.Rethrow();
+    return true;
+  });
+}
+
 int ScriptedDesktop::RunDialog(HINSTANCE module, int dialog_id, HWND parent,
                                platform::DialogHandler& handler) {
-  if (failure_.HasHappened() || refused_dialogs_.count(dialog_id) > 0) {
-    return platform::kDialogNotCreated;
-  }
-  const std::optional<platform::DialogTemplate> dialog_template =
-      platform::FindDialog(platform::ResourceFileOf(module), static_cast<unsigned int>(dialog_id));
+  const std::optional<platform::DialogTemplate> dialog_template = TemplateOf(module, dialog_id);
   if (!dialog_template) return platform::kDialogNotCreated;
 
-  OpenDialog dialog(*dialog_template, parent);
+  OpenDialog dialog(*dialog_template, parent, true);
   handler.Initialize(dialog);
   try {
     LetUserAnswer(dialog_id, dialog, handler);

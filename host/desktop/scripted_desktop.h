@@ -2,11 +2,13 @@
 
 #include <cstddef>
 #include <functional>
+#include <optional>
 #include <set>
 #include <string>
 #include <vector>
 
 #include "host/desktop/file_choice.h"
+#include "host/desktop/modeless_dialogs.h"
 #include "host/desktop/script_failure.h"
 #include "host/desktop/scripted_dialog.h"
 #include "platform/desktop.h"
@@ -15,7 +17,8 @@
 // A desktop whose user is a script: tests and the command line answer the plug-in's dialogs and
 // messages with functions of their own. It is never silent about a question that stays open: a
 // dialog or message that no function answers is a failure, and so is a dialog that its function
-// leaves open or a choice that the system's dialogs do not allow.
+// leaves open, a choice that the system's dialogs do not allow, or a plug-in that waits for a user
+// who has nothing left to do.
 
 namespace host {
 
@@ -42,6 +45,10 @@ struct ScriptedUser {
 
   // Chooses a folder in the dialog of that title; the empty path cancels.
   std::function<std::string(const std::string& title)> choose_folder{};
+
+  // Does the next thing while the plug-in waits for him: uses a modeless dialog, picks in a
+  // viewport. Returns false when he has nothing left to do.
+  std::function<bool()> act{};
 };
 
 class SKELDER_API ScriptedDesktop final : public platform::Desktop {
@@ -58,6 +65,10 @@ class SKELDER_API ScriptedDesktop final : public platform::Desktop {
   // From now on dialog `dialog_id` cannot be created, as if the system had run out of memory.
   void RefuseDialog(int dialog_id);
 
+  // The modeless dialog `dialog_id` that is shown, or null. To the end of the desktop it may be
+  // asked whether it has ended.
+  ScriptedDialog* ShownDialog(int dialog_id);
+
   // All message boxes so far, in the order in which they were shown.
   [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
 
@@ -69,6 +80,15 @@ class SKELDER_API ScriptedDesktop final : public platform::Desktop {
   int ShowMessage(const char* text, const char* caption, platform::MessageBoxStyle style) override;
   int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
                 platform::DialogHandler& handler) override;
+  platform::Dialog* CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
+                                   platform::DialogHandler& handler) override;
+  void ShowModeless(platform::Dialog& dialog) override;
+  void DestroyModeless(platform::Dialog& dialog) override;
+  platform::Dialog* FindModeless(HWND window) override;
+
+  // The user is let to act when he is awaited, or when a modeless dialog stands open.
+  bool ProcessPendingMessages(bool awaited) override;
+
   bool ChooseFiles(const platform::FileDialog& dialog, char* buffer, std::size_t size,
                    std::size_t& name_offset) override;
   bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) override;
@@ -79,6 +99,9 @@ class SKELDER_API ScriptedDesktop final : public platform::Desktop {
   template <typename Answer, typename Ask>
   Answer AnswerOr(Answer none, const Ask& ask);
 
+  // What the resources of `module` say of dialog `dialog_id`; nothing when it is not to be created.
+  std::optional<platform::DialogTemplate> TemplateOf(HINSTANCE module, int dialog_id) const;
+
   int AnswerOf(const MessageBox& message);
   void LetUserAnswer(int dialog_id, OpenDialog& dialog, platform::DialogHandler& handler);
 
@@ -87,6 +110,7 @@ class SKELDER_API ScriptedDesktop final : public platform::Desktop {
   std::set<int> refused_dialogs_;
   std::vector<MessageBox> messages_;
   ScriptFailure failure_;
+  ModelessDialogs modeless_{failure_};
 };
 
 }  // namespace host

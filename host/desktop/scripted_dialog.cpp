@@ -34,7 +34,7 @@ HWND ScriptedDialog::CentredOver() const { return dialog_.Window()->centred_over
 
 void ScriptedDialog::Type(int control, std::string_view text) {
   DialogControl& edit = Usable(control);
-  if (edit.kind != ControlKind::kEdit) Refuse(control, "is nothing to type into");
+  if (!edit.IsTypable()) Refuse(control, "is nothing to type into");
   if (edit.read_only) Refuse(control, "is read-only");
   edit.text = text;
 }
@@ -50,6 +50,8 @@ void ScriptedDialog::PressEscape() {
   RequireOpen();
   Send(platform::kCloseControl);
 }
+
+HWND ScriptedDialog::Window() const { return dialog_.Window(); }
 
 void ScriptedDialog::RequireOpen() const {
   if (HasEnded()) throw ScriptError("The dialog \"" + Title() + "\" has ended.");

@@ -18,7 +18,8 @@ namespace host {
 
 class SKELDER_API ScriptedDialog {
  public:
-  // Made by the desktop, which keeps all four until the dialog has ended.
+  // Made by the desktop, which keeps `dialog` and `failure` as long as this object, and `handler`
+  // until the dialog has ended.
   ScriptedDialog(int id, OpenDialog& dialog, platform::DialogHandler& handler,
                  const ScriptFailure& failure);
 
@@ -34,7 +35,10 @@ class SKELDER_API ScriptedDialog {
   // The window that the dialog was centred over, or null.
   [[nodiscard]] HWND CentredOver() const;
 
-  // Replaces the text of an edit control.
+  // Where it is: the window of the dialog itself.
+  [[nodiscard]] HWND Window() const;
+
+  // Replaces the text of an edit control, or of one of the host's own.
   void Type(int control, std::string_view text);
 
   // Clicks a push button, a check box (which changes its state) or a radio button (which the

@@ -5,7 +5,12 @@
 // What a window handle points at in the stand-in host. Nothing is drawn: a window is known by its
 // address, and remembers what tests ask about. Whoever creates a window owns it.
 
+namespace host {
+class CustomEdit;
+}  // namespace host
+
 struct HWND__ {
   HWND parent = nullptr;
-  HWND centred_over = nullptr;  // the last window that CenterWindow put this one over
+  HWND centred_over = nullptr;              // the last window that CenterWindow put this one over
+  host::CustomEdit* custom_edit = nullptr;  // what the window is, if it is such a control
 };

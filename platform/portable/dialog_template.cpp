@@ -81,7 +81,9 @@ ControlTemplate ReadControl(ByteReader& reader) {
   control.style = reader.Read32();
   control.area = ReadRectangle(reader);
   control.id = static_cast<int>(reader.Read32());
-  control.kind = KindOf(ReadName(reader), control.style);
+  ResourceName window_class = ReadName(reader);
+  control.kind = KindOf(window_class, control.style);
+  control.window_class = std::move(window_class.text);
   control.text = ReadName(reader).text;
   reader.Take(reader.Read16());  // creation data
   return control;
@@ -96,13 +98,13 @@ std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::byte> byt
   DialogTemplate dialog;
   reader.Read32();  // help
   reader.Read32();  // extended style
-  const std::uint32_t style = reader.Read32();
+  dialog.style = reader.Read32();
   const std::uint16_t control_count = reader.Read16();
   dialog.area = ReadRectangle(reader);
   ReadName(reader);  // menu
   ReadName(reader);  // window class
   dialog.title = ReadText(reader);
-  if ((style & kStyleHasFont) != 0) SkipFont(reader);
+  if ((dialog.style & kStyleHasFont) != 0) SkipFont(reader);
 
   for (std::uint16_t i = 0; i < control_count && !reader.Failed(); ++i) {
     dialog.controls.push_back(ReadControl(reader));

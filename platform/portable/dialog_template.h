@@ -36,14 +36,16 @@ struct DialogRectangle {
 struct ControlTemplate {
   int id = 0;  // -1 for controls that nobody asks for
   ControlKind kind = ControlKind::kOther;
-  std::uint32_t style = 0;  // the system's own style bits
-  std::string text;         // UTF-8; an ampersand stands before the mnemonic
+  std::uint32_t style = 0;   // the system's own style bits
+  std::string text;          // UTF-8; an ampersand stands before the mnemonic
+  std::string window_class;  // kOther: the name of the window class, empty for a numbered one
   DialogRectangle area;
 };
 
 struct DialogTemplate {
   std::string title;  // UTF-8
   DialogRectangle area;
+  std::uint32_t style = 0;                // the system's own style bits
   std::vector<ControlTemplate> controls;  // in tab order
 };
 
@@ -51,7 +53,8 @@ struct DialogTemplate {
 inline constexpr std::uint32_t kStyleDisabled = 0x08000000;
 inline constexpr std::uint32_t kStyleGroup = 0x00020000;
 inline constexpr std::uint32_t kStyleTabStop = 0x00010000;
-inline constexpr std::uint32_t kStyleReadOnly = 0x0800;  // of an edit control
+inline constexpr std::uint32_t kStyleChild = 0x40000000;  // part of another window
+inline constexpr std::uint32_t kStyleReadOnly = 0x0800;   // of an edit control
 
 // Reads the bytes of an extended dialog resource (DIALOGEX).
 // Returns nothing when they are cut short or another kind of resource.

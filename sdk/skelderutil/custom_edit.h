@@ -3,6 +3,9 @@
 #include "platform/export.h"
 #include "platform/handles.h"
 
+// The window class of the host's own edit control, by which dialog resources name it.
+inline constexpr char kCustomEditClass[] = "SkelderEdit";
+
 // The host's own edit control.
 class ICustEdit {
  public:

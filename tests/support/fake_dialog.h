@@ -25,6 +25,7 @@ class FakeDialog final : public platform::Dialog {
   const std::optional<int>& Result() const { return result_; }
 
   HWND Window() override { return &window_; }
+  HWND ControlWindow(int /*control*/) override { return nullptr; }
   void SetText(int control, const char* text) override { controls_[control].text = text; }
   std::size_t GetText(int control, char* buffer, std::size_t size) override {
     const std::string& text = controls_[control].text;

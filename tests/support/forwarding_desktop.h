@@ -22,6 +22,16 @@ class ForwardingDesktop : public platform::Desktop {
                 platform::DialogHandler& handler) override {
     return target_.RunDialog(module, dialog_id, parent, handler);
   }
+  platform::Dialog* CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
+                                   platform::DialogHandler& handler) override {
+    return target_.CreateModeless(module, dialog_id, parent, handler);
+  }
+  void ShowModeless(platform::Dialog& dialog) override { target_.ShowModeless(dialog); }
+  void DestroyModeless(platform::Dialog& dialog) override { target_.DestroyModeless(dialog); }
+  platform::Dialog* FindModeless(HWND window) override { return target_.FindModeless(window); }
+  bool ProcessPendingMessages(bool awaited) override {
+    return target_.ProcessPendingMessages(awaited);
+  }
   bool ChooseFiles(const platform::FileDialog& dialog, char* buffer, std::size_t size,
                    std::size_t& name_offset) override {
     return target_.ChooseFiles(dialog, buffer, size, name_offset);

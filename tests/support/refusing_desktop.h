@@ -31,6 +31,14 @@ class RefusingDesktop final : public platform::Desktop {
     parent_ = parent;
     return platform::kDialogNotCreated;
   }
+  platform::Dialog* CreateModeless(HINSTANCE /*module*/, int /*dialog_id*/, HWND /*parent*/,
+                                   platform::DialogHandler& /*handler*/) override {
+    return nullptr;
+  }
+  void ShowModeless(platform::Dialog& /*dialog*/) override {}
+  void DestroyModeless(platform::Dialog& /*dialog*/) override {}
+  platform::Dialog* FindModeless(HWND /*window*/) override { return nullptr; }
+  bool ProcessPendingMessages(bool /*awaited*/) override { return false; }
   bool ChooseFiles(const platform::FileDialog& /*dialog*/, char* /*buffer*/, std::size_t /*size*/,
                    std::size_t& /*name_offset*/) override {
     return false;

@@ -90,14 +90,20 @@ struct ControlBytes {
   unsigned window_class = kButton;
   std::uint32_t style = 0;
   std::u16string text;
+  std::u16string class_name{};  // in place of the number when not empty
 };
+
+// The style of a dialog that stands for itself, and of one that is a part of another window.
+inline constexpr std::uint32_t kPopupDialog = 0x80C80048;
+inline constexpr std::uint32_t kChildDialog = 0x50000048;
 
 // An extended dialog template of 200 by 100 units. Control number i lies at (i, 10 i) and measures
 // 40 by 12.
 inline ResourceBytes DialogBytes(std::u16string_view title,
-                                 const std::vector<ControlBytes>& controls) {
+                                 const std::vector<ControlBytes>& controls,
+                                 std::uint32_t style = kPopupDialog) {
   ByteWriter dialog;
-  dialog.U16(1).U16(0xFFFF).U32(0).U32(0).U32(0x80C80048);
+  dialog.U16(1).U16(0xFFFF).U32(0).U32(0).U32(style);
   dialog.U16(static_cast<unsigned>(controls.size()));
   dialog.U16(0).U16(0).U16(200).U16(100);
   dialog.U16(0).U16(0).Text(title);
@@ -107,7 +113,12 @@ inline ResourceBytes DialogBytes(std::u16string_view title,
     dialog.Align4().U32(0).U32(0).U32(control.style);
     dialog.U16(i).U16(10 * i).U16(40).U16(12);
     dialog.U32(static_cast<std::uint32_t>(control.id));
-    dialog.Number(control.window_class).Text(control.text).U16(0);
+    if (control.class_name.empty()) {
+      dialog.Number(control.window_class);
+    } else {
+      dialog.Text(control.class_name);
+    }
+    dialog.Text(control.text).U16(0);
     ++i;
   }
   return dialog.Bytes();

@@ -206,14 +206,14 @@ TEST_F(ApplicationInterfaceTest, CountsHowOftenPendingMessagesWereLetIn) {
   EXPECT_EQ(application_.PendingMessageCalls(), 2U);
 }
 
-TEST_F(ApplicationInterfaceTest, HasNoRollupPages) {
+TEST_F(ApplicationInterfaceTest, HasNoRollupPagesWithoutADesktop) {
   EXPECT_EQ(host_.AddRollupPage(nullptr, 116, nullptr, "Page", 0, 0, 4000), nullptr);
   host_.DeleteRollupPage(nullptr);
   EXPECT_THAT(scene_.Misuse().Messages(),
               ElementsAre("DeleteRollupPage of a page that is not open"));
 }
 
-TEST_F(ApplicationInterfaceTest, FindsNothingToPick) {
+TEST_F(ApplicationInterfaceTest, FindsNothingToPickWhenNobodyClicks) {
   EXPECT_EQ(host_.PickNode(host_.GetSkelderHWnd(), {1, 2}, nullptr), nullptr);
 }
 

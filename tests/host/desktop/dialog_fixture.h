@@ -26,10 +26,12 @@ enum Control : int {
   kDisabledEdit = 16,
   kLabel = 17,
   kGroup = 18,
+  kCustomEdit = 19,
   kAbsent = 99
 };
 
 inline constexpr int kDialog = 107;
+inline constexpr int kPage = 116;  // with the check box alone
 
 // What a dialog does, told by functions; notes the commands that it got.
 class RecordingHandler final : public platform::DialogHandler {
@@ -50,7 +52,7 @@ class RecordingHandler final : public platform::DialogHandler {
   }
 };
 
-// A scripted desktop, and a module whose one dialog has a control of each kind.
+// A scripted desktop, and a module with a dialog that has a control of each kind, and a page.
 class DialogFixture : public testing::Test {
  protected:
   // Runs the dialog with `script` for a user; returns its result.
@@ -67,21 +69,27 @@ class DialogFixture : public testing::Test {
   ScriptedDesktop desktop{registry};
   RecordingHandler handler;
   std::function<int(const MessageBox&)> answer_message;
-  const test::ResourceBytes resources = test::FileBytes({test::EntryBytes(
-      test::kDialogType, kDialog,
-      test::DialogBytes(u"Options", {
-                                        {kCheck, test::kButton, 3, u"Check"},
-                                        {kFirstRadio, test::kButton, 4, u"One"},
-                                        {kSecondRadio, test::kButton, 4, u"Two"},
-                                        {kEdit, test::kEdit, 0, u"text"},
-                                        {kReadOnlyEdit, test::kEdit, 0x800, u""},
-                                        {kDisabledCheck, test::kButton, 0x08000003, u"Disabled"},
-                                        {kDisabledEdit, test::kEdit, 0x08000000, u""},
-                                        {kLabel, test::kStatic, 0, u"Label"},
-                                        {kGroup, test::kButton, 7, u"Group"},
-                                        {kOk, test::kButton, 1, u"&OK"},
-                                        {kCancel, test::kButton, 0, u"&Cancel"},
-                                    }))});
+  const test::ResourceBytes resources = test::FileBytes(
+      {test::EntryBytes(
+           test::kDialogType, kDialog,
+           test::DialogBytes(u"Options",
+                             {
+                                 {kCheck, test::kButton, 3, u"Check"},
+                                 {kFirstRadio, test::kButton, 4, u"One"},
+                                 {kSecondRadio, test::kButton, 4, u"Two"},
+                                 {kEdit, test::kEdit, 0, u"text"},
+                                 {kReadOnlyEdit, test::kEdit, 0x800, u""},
+                                 {kDisabledCheck, test::kButton, 0x08000003, u"Disabled"},
+                                 {kDisabledEdit, test::kEdit, 0x08000000, u""},
+                                 {kLabel, test::kStatic, 0, u"Label"},
+                                 {kGroup, test::kButton, 7, u"Group"},
+                                 {kCustomEdit, 0, 0, u"", u"SkelderEdit"},
+                                 {kOk, test::kButton, 1, u"&OK"},
+                                 {kCancel, test::kButton, 0, u"&Cancel"},
+                             })),
+       test::EntryBytes(test::kDialogType, kPage,
+                        test::DialogBytes(u"Page", {{kCheck, test::kButton, 3, u"Check"}},
+                                          test::kChildDialog))});
   HINSTANCE__ module{resources};
 };
 

@@ -7,6 +7,7 @@
 #include <functional>
 #include <string>
 
+#include "sdk/skelderutil/custom_edit.h"
 #include "sdk/skelderutil/window.h"
 #include "tests/host/desktop/dialog_fixture.h"
 
@@ -28,7 +29,7 @@ TEST_F(ScriptedDialogTest, ShowsTheTemplate) {
   Run([](ScriptedDialog& dialog) {
     EXPECT_EQ(dialog.Id(), kDialog);
     EXPECT_EQ(dialog.Title(), "Options");
-    EXPECT_EQ(dialog.Controls().size(), 11U);
+    EXPECT_EQ(dialog.Controls().size(), 12U);
     EXPECT_EQ(dialog.Controls()[0].id, kCheck);
     EXPECT_EQ(dialog.Controls()[0].kind, platform::ControlKind::kCheckBox);
     EXPECT_EQ(dialog.Text(kEdit), "text");
@@ -125,6 +126,61 @@ TEST_F(ScriptedDialogTest, HandlerMayAskForControlsThatAreAbsent) {
     EXPECT_EQ(TextOf(dialog, kAbsent), "");
   };
   EXPECT_EQ(Run([](ScriptedDialog& dialog) { dialog.Click(kOk); }), 1);
+}
+
+TEST_F(ScriptedDialogTest, GivesEveryControlAWindowOfItsOwn) {
+  handler.on_initialize = [](platform::Dialog& dialog) {
+    ASSERT_NE(dialog.ControlWindow(kEdit), nullptr);
+    EXPECT_NE(dialog.ControlWindow(kEdit), dialog.ControlWindow(kCheck));
+    EXPECT_EQ(dialog.ControlWindow(kEdit)->parent, dialog.Window());
+    EXPECT_EQ(dialog.ControlWindow(kAbsent), nullptr);
+    EXPECT_EQ(GetICustEdit(dialog.ControlWindow(kEdit)), nullptr);
+    EXPECT_EQ(GetICustEdit(dialog.Window()), nullptr);
+  };
+  EXPECT_EQ(Run([](ScriptedDialog& dialog) { dialog.Click(kOk); }), 1);
+}
+
+struct NumberCase {
+  std::string typed;
+  float number;
+  bool valid;
+};
+
+TEST_F(ScriptedDialogTest, ReadsNumbersFromTheHostsOwnEditControl) {
+  const std::vector<NumberCase> cases = {
+      {"1.5", 1.5F, true},        {"-0.25", -0.25F, true}, {"+2", 2.0F, true},
+      {" 3.000000 ", 3.0F, true}, {"1e3", 1000.0F, true},  {"", 0.0F, false},
+      {" ", 0.0F, false},         {"x", 0.0F, false},      {"1.5 mm", 0.0F, false},
+      {"1,5", 0.0F, false},       {"+-2", 0.0F, false},    {"nan", 0.0F, false},
+      {"inf", 0.0F, false},       {"1e99", 0.0F, false},
+  };
+  for (const NumberCase& c : cases) {
+    handler.on_command = [&c](platform::Dialog& dialog, int) {
+      ICustEdit* const edit = GetICustEdit(dialog.ControlWindow(kCustomEdit));
+      ASSERT_NE(edit, nullptr);
+      bool valid = !c.valid;
+      EXPECT_EQ(edit->GetFloat(&valid), c.number) << c.typed;
+      EXPECT_EQ(valid, c.valid) << c.typed;
+      EXPECT_EQ(edit->GetFloat(), c.number) << c.typed;
+      ReleaseICustEdit(edit);
+    };
+    Run([&c](ScriptedDialog& dialog) {
+      dialog.Type(kCustomEdit, c.typed);
+      dialog.Click(kOk);
+    });
+  }
+  desktop.RethrowFailure();
+}
+
+TEST_F(ScriptedDialogTest, ShowsTheTextOfTheHostsOwnEditControl) {
+  handler.on_initialize = [](platform::Dialog& dialog) {
+    GetICustEdit(dialog.ControlWindow(kCustomEdit))->SetText("0.500000");
+  };
+  EXPECT_EQ(Run([](ScriptedDialog& dialog) {
+              EXPECT_EQ(dialog.Text(kCustomEdit), "0.500000");
+              dialog.Click(kOk);
+            }),
+            1);
 }
 
 TEST_F(ScriptedDialogTest, CutsTextsToTheBufferOfTheHandler) {

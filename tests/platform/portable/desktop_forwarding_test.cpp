@@ -10,6 +10,7 @@
 #include "platform/file_dialog.h"
 #include "platform/message_box.h"
 #include "platform/registry.h"
+#include "tests/support/fake_dialog.h"
 
 // The platform's functions, with and without a desktop in use.
 
@@ -35,15 +36,21 @@ class MockDesktop : public Desktop {
   virtual ~MockDesktop() = default;
   MOCK_METHOD(int, ShowMessage, (const char*, const char*, MessageBoxStyle), (override));
   MOCK_METHOD(int, RunDialog, (HINSTANCE, int, HWND, DialogHandler&), (override));
+  MOCK_METHOD(Dialog*, CreateModeless, (HINSTANCE, int, HWND, DialogHandler&), (override));
+  MOCK_METHOD(void, ShowModeless, (Dialog&), (override));
+  MOCK_METHOD(void, DestroyModeless, (Dialog&), (override));
+  MOCK_METHOD(Dialog*, FindModeless, (HWND), (override));
+  MOCK_METHOD(bool, ProcessPendingMessages, (bool), (override));
   MOCK_METHOD(bool, ChooseFiles, (const FileDialog&, char*, std::size_t, std::size_t&), (override));
   MOCK_METHOD(bool, ChooseFolder, (HWND, const char*, char*, std::size_t), (override));
   MOCK_METHOD(Registry&, CurrentUser, (), (override));
 };
 
-class IdleHandler final : public DialogHandler {
+class MockHandler : public DialogHandler {
  public:
-  void Initialize(Dialog& /*dialog*/) override {}
-  void Command(Dialog& /*dialog*/, int /*control*/) override {}
+  virtual ~MockHandler() = default;
+  MOCK_METHOD(void, Initialize, (Dialog&), (override));
+  MOCK_METHOD(void, Command, (Dialog&, int), (override));
 };
 
 class InstalledDesktopTest : public testing::Test {
@@ -73,10 +80,44 @@ TEST_F(InstalledDesktopTest, ShowsMessages) {
 }
 
 TEST_F(InstalledDesktopTest, RunsDialogs) {
-  IdleHandler handler;
+  testing::StrictMock<MockHandler> handler;
   EXPECT_CALL(desktop_, RunDialog(Token<HINSTANCE>(8), 107, Token<HWND>(16), testing::Ref(handler)))
       .WillOnce(Return(5));
   EXPECT_EQ(RunModalDialog(Token<HINSTANCE>(8), 107, Token<HWND>(16), handler), 5);
+}
+
+TEST_F(InstalledDesktopTest, KeepsModelessDialogsUntilTheyAreLetGo) {
+  testing::StrictMock<MockHandler> handler;
+  test::FakeDialog dialog;
+  EXPECT_CALL(desktop_,
+              CreateModeless(Token<HINSTANCE>(8), 117, Token<HWND>(16), testing::Ref(handler)))
+      .WillOnce(Return(&dialog));
+  EXPECT_CALL(desktop_, ShowModeless(testing::Ref(dialog)));
+  const ModelessDialog owner =
+      CreateModelessDialog(Token<HINSTANCE>(8), 117, Token<HWND>(16), handler);
+  EXPECT_EQ(owner.get(), &dialog);
+  ShowModelessDialog(*owner);
+  EXPECT_CALL(desktop_, DestroyModeless(testing::Ref(dialog)));
+}
+
+TEST_F(InstalledDesktopTest, AModelessDialogThatIsNotCreatedIsNull) {
+  testing::StrictMock<MockHandler> handler;
+  EXPECT_CALL(desktop_, CreateModeless).WillOnce(Return(nullptr));
+  EXPECT_EQ(CreateModelessDialog(nullptr, 117, nullptr, handler), nullptr);
+}
+
+TEST_F(InstalledDesktopTest, TurnsMessagesIntoCallsOnAHandler) {
+  testing::StrictMock<MockHandler> handler;
+  test::FakeDialog dialog;
+  const auto window = Token<HWND>(16);
+  const std::intptr_t parameter = HandlerParameter(handler);
+  ON_CALL(desktop_, FindModeless(window)).WillByDefault(Return(&dialog));
+  EXPECT_CALL(handler, Initialize(testing::Ref(dialog)));
+  EXPECT_NE(HandlerProcedure()(window, kInitializeDialog, 0, parameter), 0);
+  EXPECT_CALL(handler, Command(testing::Ref(dialog), 1203));
+  EXPECT_NE(HandlerProcedure()(window, kDialogCommand, 1203, parameter), 0);
+  EXPECT_EQ(HandlerProcedure()(Token<HWND>(24), kDialogCommand, 1203, parameter), 0)
+      << "another window";
 }
 
 TEST_F(InstalledDesktopTest, ChoosesFilesAndFolders) {
@@ -111,11 +152,17 @@ TEST_F(InstalledDesktopTest, LendsItsRegistry) {
 
 TEST(NoDesktopTest, EverythingReportsFailure) {
   ASSERT_EQ(CurrentDesktop(), nullptr);
-  IdleHandler handler;
+  testing::StrictMock<MockHandler> handler;
   int value = 3;
   std::size_t size = sizeof(value);
   EXPECT_EQ(ShowMessageBox("text", "title", MessageBoxStyle::kOk), kMessageBoxFailed);
   EXPECT_EQ(RunModalDialog(nullptr, 107, nullptr, handler), kDialogNotCreated);
+  EXPECT_EQ(CreateModelessDialog(nullptr, 117, nullptr, handler), nullptr);
+  test::FakeDialog dialog;
+  ShowModelessDialog(dialog);
+  DestroyModelessDialog(&dialog);
+  DestroyModelessDialog(nullptr);
+  EXPECT_EQ(HandlerProcedure()(nullptr, kDialogCommand, 3, HandlerParameter(handler)), 0);
   std::array<char, 8> buffer{};
   std::size_t name_offset = 0;
   EXPECT_FALSE(ChooseFiles({}, buffer.data(), buffer.size(), name_offset));
