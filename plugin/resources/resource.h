@@ -27,6 +27,8 @@
 #define IDD_IMPORT_TRC 108
 #define IDB_ABOUT 112
 #define IDD_ABOUT 114
+#define IDD_UTILITIES 116
+#define IDD_MAPPING_CREATOR 117
 
 /* Controls of every dialog. */
 #define IDC_OK 1097
@@ -56,3 +58,26 @@
 #define IDC_POINT 1142
 #define IDC_SELECTED_ONLY 1143
 #define IDC_ROOT_NODE 1144
+
+/* Controls of the utility panel. */
+#define IDC_TRC_SPACE 1124
+#define IDC_SKELDER_SPACE 1125
+#define IDC_BROWSE_MAPPING 1132
+#define IDC_BROWSE_OUTPUT 1134
+#define IDC_MAPPING_FILE 1137
+#define IDC_OUTPUT_FOLDER 1138
+#define IDC_CONVERT 1200
+#define IDC_BATCH 1201
+#define IDC_TRC_NAME 1202
+#define IDC_CREATE_MAPPING 1203
+#define IDC_FILTER 1204
+#define IDC_ENABLE_OFFSET 1205
+#define IDC_OFFSET_X 1206
+#define IDC_OFFSET_Y 1207
+#define IDC_OFFSET_Z 1208
+
+/* Controls of the mapping creator. */
+#define IDC_MARKER_DESCRIPTION 1151
+#define IDC_BACK 1152
+#define IDC_SKIP 1153
+#define IDC_ABORT 1154

@@ -169,6 +169,69 @@ TEST(ImportTrcDialogTest, LetsItsHandlerSelectRadioButtons) {
   }
 }
 
+TEST(UtilityPanelTest, HoldsEveryControlInItsGroupInReadingOrder) {
+  const ControlKind radio = ControlKind::kRadioButton;
+  const ControlKind check = ControlKind::kCheckBox;
+  const ControlKind edit = ControlKind::kEdit;
+  const ControlKind button = ControlKind::kPushButton;
+  const ControlKind host_edit = ControlKind::kOther;
+  EXPECT_THAT(NumberedControls(Dialog(116)),
+              testing::ElementsAre(Entry{1137, edit, "", ""}, Entry{1203, button, "Create", ""},
+                                   Entry{1132, button, "Browse...", ""}, Entry{1138, edit, "", ""},
+                                   Entry{1134, button, "Browse...", ""},
+                                   Entry{1200, button, "Convert TRC to BVK", ""},
+                                   Entry{1204, check, "Use MNM Filter File", "Options"},
+                                   Entry{1201, check, "Batch File Conversion", "Options"},
+                                   Entry{1202, check, "Use TRC Filename", "Options"},
+                                   Entry{1205, check, "Enable", "Translation Offset"},
+                                   Entry{1124, radio, "TRC Space", "Translation Offset"},
+                                   Entry{1125, radio, "Skelder Space", "Translation Offset"},
+                                   Entry{1206, host_edit, "", "Translation Offset"},
+                                   Entry{1207, host_edit, "", "Translation Offset"},
+                                   Entry{1208, host_edit, "", "Translation Offset"}));
+}
+
+std::vector<std::string> Labels(const DialogTemplate& dialog) {
+  std::vector<std::string> labels;
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.kind == ControlKind::kLabel) labels.push_back(control.text);
+  }
+  return labels;
+}
+
+TEST(UtilityPanelTest, LabelsItsEditControls) {
+  const DialogTemplate dialog = Dialog(116);
+  EXPECT_THAT(Labels(dialog),
+              testing::ElementsAre("MNM Mapping File", "BVK Output Folder", "X", "Y", "Z"));
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.kind == ControlKind::kOther) {
+      EXPECT_EQ(control.window_class, "SkelderEdit");
+      EXPECT_NE(LabelOf(dialog, control), "") << control.id;
+    }
+    if (control.kind == ControlKind::kEdit) {
+      EXPECT_NE(control.style & platform::kStyleReadOnly, 0U) << control.id;
+    }
+  }
+}
+
+TEST(UtilityPanelTest, IsAPageOfTheHost) {
+  EXPECT_NE(Dialog(116).style & platform::kStyleChild, 0U);
+  EXPECT_EQ(Dialog(116).title, "");
+}
+
+TEST(MappingCreatorDialogTest, ShowsTheMarkerAndThreeButtons) {
+  const DialogTemplate dialog = Dialog(117);
+  EXPECT_EQ(dialog.title, "MNM Creator / Marker Selection");
+  EXPECT_THAT(Labels(dialog), testing::ElementsAre("BVK Marker Name"));
+  EXPECT_THAT(NumberedControls(dialog),
+              testing::ElementsAre(Entry{1151, ControlKind::kEdit, "", ""},
+                                   Entry{1152, ControlKind::kPushButton, "Back", ""},
+                                   Entry{1153, ControlKind::kPushButton, "Skip", ""},
+                                   Entry{1154, ControlKind::kPushButton, "Abort", ""}));
+  EXPECT_EQ(dialog.style & platform::kStyleChild, 0U);
+  EXPECT_NE(dialog.controls.at(1).style & platform::kStyleReadOnly, 0U);
+}
+
 TEST(AboutDialogTest, NamesTheProductAndItsVersion) {
   const DialogTemplate dialog = Dialog(114);
   EXPECT_EQ(dialog.title, "About...");
@@ -220,6 +283,7 @@ TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest, testing::Values(107U, 108U, 114U));
+INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest,
+                         testing::Values(107U, 108U, 114U, 116U, 117U));
 
 }  // namespace
