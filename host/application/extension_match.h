@@ -1,24 +1,17 @@
 #pragma once
 
-#include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <string_view>
 
 #include "host/application/module_entry.h"
+#include "host/base/letter_case.h"
 #include "sdk/core/class_id.h"
 #include "sdk/core/plugin.h"
 
 // Finding a module's importer or exporter for a file: only an instance knows its extensions.
 
 namespace host {
-
-// Whether both texts are the same but for the case of ASCII letters.
-inline bool SameButForCase(std::string_view left, std::string_view right) {
-  const auto lower = [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c; };
-  return std::equal(left.begin(), left.end(), right.begin(), right.end(),
-                    [&lower](char a, char b) { return lower(a) == lower(b); });
-}
 
 // Whether `plugin` is for files of `extension`.
 template <typename Plugin>

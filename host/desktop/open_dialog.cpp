@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cstring>
 
+#include "host/base/letter_case.h"
+
 namespace host {
 namespace {
 
@@ -27,7 +29,8 @@ OpenDialog::OpenDialog(const platform::DialogTemplate& dialog, HWND parent, bool
   for (std::size_t i = 0; i < controls_.size(); ++i) {
     DialogControl& control = controls_[i];
     control.window.parent = &window_;
-    if (dialog.controls[i].window_class != kCustomEditClass) continue;
+    // Names of window classes have no case, and the resource compiler uses that.
+    if (!SameButForCase(dialog.controls[i].window_class, kCustomEditClass)) continue;
     control.window.custom_edit = &custom_edits_.emplace_back(control.text);
   }
 }

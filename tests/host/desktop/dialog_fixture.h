@@ -83,7 +83,7 @@ class DialogFixture : public testing::Test {
                                  {kDisabledEdit, test::kEdit, 0x08000000, u""},
                                  {kLabel, test::kStatic, 0, u"Label"},
                                  {kGroup, test::kButton, 7, u"Group"},
-                                 {kCustomEdit, 0, 0, u"", u"SkelderEdit"},
+                                 {kCustomEdit, 0, 0, u"", u"SKELDEREDIT"},
                                  {kOk, test::kButton, 1, u"&OK"},
                                  {kCancel, test::kButton, 0, u"&Cancel"},
                              })),

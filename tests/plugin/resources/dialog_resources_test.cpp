@@ -205,7 +205,7 @@ TEST(UtilityPanelTest, LabelsItsEditControls) {
               testing::ElementsAre("MNM Mapping File", "BVK Output Folder", "X", "Y", "Z"));
   for (const ControlTemplate& control : dialog.controls) {
     if (control.kind == ControlKind::kOther) {
-      EXPECT_EQ(control.window_class, "SkelderEdit");
+      EXPECT_EQ(control.window_class, "SKELDEREDIT") << "as the resource compiler writes it";
       EXPECT_NE(LabelOf(dialog, control), "") << control.id;
     }
     if (control.kind == ControlKind::kEdit) {
