@@ -40,6 +40,9 @@ readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
 '
+readonly fuzz_needs='
+path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a  libclang-rt-14-dev
+'
 
 has_command() { command -v "$1" >/dev/null; }
 

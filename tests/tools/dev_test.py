@@ -23,7 +23,7 @@ class CommandsTest(unittest.TestCase):
         listed = {line.split()[0] for line in run("./dev", "help").stdout.splitlines()
                   if line.startswith("  ")}
         self.assertEqual(listed,
-                         {"help", "build", "test", "check", "sanitize", "bench", "demo"})
+                         {"help", "build", "test", "check", "sanitize", "bench", "demo", "fuzz"})
 
     def test_no_command_gives_the_help(self):
         self.assertEqual(run("./dev").stdout, run("./dev", "help").stdout)
@@ -33,6 +33,12 @@ class CommandsTest(unittest.TestCase):
         self.assertEqual(result.returncode, 2)
         self.assertEqual(result.stdout, "")
         self.assertIn("dev: unknown command 'tset'", result.stderr)
+
+    def test_fuzzing_without_a_number_of_seconds_is_wrong_usage(self):
+        for arguments in ([], ["0"], ["-5"], ["a"], ["1.5"]):
+            result = run("./dev", "fuzz", *arguments)
+            self.assertEqual((result.returncode, result.stdout), (2, ""))
+            self.assertIn("dev: fuzz needs a number of seconds", result.stderr)
 
 
 class SetupTest(unittest.TestCase):

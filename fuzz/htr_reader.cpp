@@ -1,0 +1,61 @@
+// Bytes as a motion file: whatever they are, what is read is a sound document.
+#include <string>
+#include <string_view>
+
+#include "fuzz/expect.h"
+#include "fuzz/target.h"
+#include "plugin/htr/document_checker.h"
+#include "plugin/htr/reader.h"
+
+namespace {
+
+// Every byte that an observer is shown is one of the file's.
+class Watcher : public orvane::HtrReadObserver {
+ public:
+  explicit Watcher(std::string_view bytes) : bytes_(bytes) {}
+
+  void OnOddity(orvane::HtrOddity /*oddity*/, const orvane::HtrCell& cell,
+                std::string_view /*field*/) override {
+    Look(cell);
+  }
+  void OnSection(orvane::HtrSection /*section*/, const orvane::HtrCell& name) override {
+    Look(name);
+  }
+  void OnHeaderField(const orvane::HtrCell& keyword, const orvane::HtrCell& value) override {
+    Look(keyword);
+    Look(value);
+  }
+  void OnSegment(const orvane::HtrCell& name, const orvane::HtrCell& parent) override {
+    Look(name);
+    Look(parent);
+  }
+  void OnBasePosition(const orvane::HtrCell& name) override { Look(name); }
+  void OnFrame(const orvane::HtrCell& number) override { Look(number); }
+
+ private:
+  void Look(const orvane::HtrCell& cell) const {
+    fuzz::Expect(cell.line >= 1 && cell.column >= 1, "lines and columns count from 1");
+    if (cell.text.empty()) return;
+    const char* const last = bytes_.data() + bytes_.size();
+    fuzz::Expect(cell.text.data() >= bytes_.data() && cell.text.data() + cell.text.size() <= last,
+                 "a cell is a piece of the file");
+  }
+
+  std::string_view bytes_;
+};
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  for (const bool read_motion : {false, true}) {
+    orvane::HtrDocument document;
+    const std::string message = ReadHtrBytes(document, bytes, read_motion);
+    fuzz::Expect(FindFault(document).empty(), "the document is sound");
+    Watcher watcher(bytes);
+    fuzz::Expect(ReadHtrBytes(document, bytes, read_motion, &watcher) == message,
+                 "watching changes nothing");
+    fuzz::Expect(FindFault(document).empty(), "a document that is used again is sound");
+  }
+  return 0;
+}
