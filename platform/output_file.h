@@ -3,9 +3,11 @@
 #include <string>
 #include <string_view>
 
-// A file that appears whole or not at all: its bytes are written beside it under another name, and
-// only when all of them are safe does it get its own. Neither a full disk nor a killed process
-// leaves half a file, and what stood there before is kept until then.
+// A file that appears whole or not at all: its bytes are written beside it under another name,
+// ".orvane-" with two numbers behind, and only when all of them are safe does it get its own.
+// Neither a full disk nor a killed process leaves half a file, and what stood there before is kept
+// until then. What a killed process leaves under that other name is removed by the next one that
+// writes into the folder.
 
 namespace platform {
 
@@ -38,6 +40,7 @@ class OutputFile {
  private:
   std::string CreateAside();
   std::string FillAside(std::string_view bytes);
+  void Close();
 
   std::string path_;
   bool replace_;

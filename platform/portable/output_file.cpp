@@ -1,12 +1,15 @@
 #include "platform/output_file.h"
 
 #include <fcntl.h>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
 #include <cerrno>
 #include <csignal>
 #include <filesystem>
+#include <string>
+#include <string_view>
 #include <system_error>
 
 namespace platform {
@@ -27,6 +30,48 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder.string();
 }
 
+// What is written beside a file's place is named ".orvane-PROCESS-NUMBER".
+constexpr std::string_view kAsidePrefix = ".orvane-";
+
+bool IsNumber(std::string_view text) {
+  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
+}
+
+bool IsAsideName(std::string_view name) {
+  if (name.substr(0, kAsidePrefix.size()) != kAsidePrefix) return false;
+  name.remove_prefix(kAsidePrefix.size());
+  const std::size_t dash = name.find('-');
+  return dash != std::string_view::npos && IsNumber(name.substr(0, dash)) &&
+         IsNumber(name.substr(dash + 1));
+}
+
+// Who writes holds a lock until the end: what nobody has locked belongs to a process that was
+// killed.
+bool Lock(int file) { return flock(file, LOCK_EX | LOCK_NB) == 0; }
+
+void RemoveUnlocked(const std::string& path) {
+  const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  if (file < 0) return;
+  if (Lock(file)) unlink(path.c_str());
+  close(file);
+}
+
+void RemoveAbandonedFiles(const std::string& folder) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(folder, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    if (IsAsideName(entry->path().filename().string())) RemoveUnlocked(entry->path().string());
+  }
+}
+
+// Locks a file just made. Returns false when somebody took it for an abandoned one before that. On
+// file systems without locks nobody does.
+bool KeepFromRemoval(int file) {
+  if (!Lock(file) && errno == EWOULDBLOCK) return false;
+  struct stat status {};
+  return fstat(file, &status) == 0 && status.st_nlink > 0;
+}
+
 // Link and remove, because renaming would replace what has appeared at `to`.
 int MoveWithoutReplacing(const std::string& from, const std::string& to) {
   if (link(from.c_str(), to.c_str()) != 0) return -1;
@@ -40,8 +85,8 @@ OutputFile::OutputFile(const std::string& path, bool replace)
     : path_(FollowLink(path)), replace_(replace) {}
 
 OutputFile::~OutputFile() {
-  if (file_ >= 0) close(file_);
   if (!aside_.empty()) unlink(aside_.c_str());
+  Close();
 }
 
 bool OutputFile::IsTaken() const {
@@ -70,12 +115,20 @@ std::string OutputFile::Write(std::string_view bytes) {
 }
 
 std::string OutputFile::CreateAside() {
-  const std::string stem = FolderOf(path_) + "/.orvane-" + std::to_string(getpid()) + "-";
-  for (int attempt = 0; file_ < 0; ++attempt) {
+  const std::string folder = FolderOf(path_);
+  RemoveAbandonedFiles(folder);
+  const std::string stem =
+      folder + "/" + std::string(kAsidePrefix) + std::to_string(getpid()) + "-";
+  for (int attempt = 0; aside_.empty(); ++attempt) {
     const std::string name = stem + std::to_string(attempt);
     file_ = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
-    if (file_ >= 0) aside_ = name;
     if (file_ < 0 && errno != EEXIST) return LastError();
+    if (file_ < 0) continue;
+    if (KeepFromRemoval(file_)) {
+      aside_ = name;
+    } else {
+      Close();
+    }
   }
   struct stat existing {};
   if (stat(path_.c_str(), &existing) == 0 && fchmod(file_, existing.st_mode & 07777) != 0) {
@@ -90,12 +143,7 @@ std::string OutputFile::FillAside(std::string_view bytes) {
     if (written < 0) return LastError();
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  const bool synced = fsync(file_) == 0;
-  const int sync_error = errno;
-  const int file = file_;
-  file_ = -1;
-  if (close(file) != 0) return LastError();
-  return synced ? "" : ErrorText(sync_error);
+  return fsync(file_) == 0 ? "" : LastError();
 }
 
 std::string OutputFile::Deliver() {
@@ -103,7 +151,14 @@ std::string OutputFile::Deliver() {
       replace_ ? rename(aside_.c_str(), path_.c_str()) : MoveWithoutReplacing(aside_, path_);
   if (result != 0) return LastError();
   aside_.clear();
+  Close();
   return "";
+}
+
+// What was written is on the disk by then, so that nothing is lost with a failure to close.
+void OutputFile::Close() {
+  if (file_ >= 0) close(file_);
+  file_ = -1;
 }
 
 }  // namespace platform

@@ -14,6 +14,7 @@ using test::ReadFile;
 using test::WriteFile;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::IsSupersetOf;
 using testing::SizeIs;
 
 class OutputFileTest : public testing::Test {
@@ -74,6 +75,41 @@ TEST_F(OutputFileTest, TwoAtATimeDoNotMeet) {
   EXPECT_EQ(first.Deliver(), "");
   EXPECT_EQ(ReadFile(path_), "first");
   EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+}
+
+// As a process leaves it that is killed while it writes.
+TEST_F(OutputFileTest, RemovesWhatAnEndedProcessHasLeft) {
+  WriteFile(folder_.File(".orvane-4194305-0"), "half a scene");
+  WriteFile(folder_.File(".orvane-4194305-17"), "");
+  OutputFile file(path_, false);
+  EXPECT_EQ(file.Write("bytes"), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), SizeIs(1));
+  EXPECT_EQ(file.Deliver(), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+}
+
+TEST_F(OutputFileTest, RemovesNothingThatSomebodyIsWriting) {
+  OutputFile first(path_, false);
+  EXPECT_EQ(first.Write("first"), "");
+  const std::vector<std::string> names = NamesIn(folder_.Path());
+  OutputFile second(folder_.File("other.glb"), false);
+  EXPECT_EQ(second.Write("second"), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), IsSupersetOf(names));
+  EXPECT_EQ(first.Deliver(), "");
+  EXPECT_EQ(ReadFile(path_), "first");
+}
+
+TEST_F(OutputFileTest, RemovesNothingOfAnotherName) {
+  const std::vector<std::string> names = {".orvane",   ".orvane-",      ".orvane-1",
+                                          ".orvane-a", ".orvane-1-2.x", "orvane-1-2"};
+  for (const std::string& name : names) WriteFile(folder_.File(name), "mine");
+  std::filesystem::create_directory(folder_.File(".orvane-1-1"));
+  std::filesystem::create_symlink("orvane-1-2", folder_.File(".orvane-1-3"));
+  {
+    OutputFile file(path_, false);
+    EXPECT_EQ(file.Write("bytes"), "");
+  }
+  EXPECT_THAT(NamesIn(folder_.Path()), SizeIs(names.size() + 2));
 }
 
 TEST_F(OutputFileTest, AFolderThatGoesMeanwhileIsAnError) {
