@@ -97,10 +97,26 @@ void BuildStrangeNames(host::Scene& scene) {
   AddSphere(scene, nullptr, "\xE6\xAD\xA9\xE3\x81\x8F", 10.0F);
 }
 
-// Everything about a scene that is not as it was at first.
-void BuildEverything(host::Scene& scene) {
-  scene.SetMillimetersPerUnit(25.4);
-  host::AnimationState& animation = scene.Animation();
+// Every byte that a text of the host may have.
+std::string EveryByte() {
+  std::string text;
+  for (int byte = 1; byte < 256; ++byte) text += static_cast<char>(byte);
+  return text;
+}
+
+// Keys of every controller of `node`, which stands about `place` and stays within a few units of
+// it: before zero, past half an hour, and closer than single precision can tell.
+void MoveAbout(host::Node& node, const Point3& place) {
+  float shift = 0.0F;
+  for (const TimeValue tick : {-2'147'483'647, -4800, -5, 8'640'001, 30'000'000, 30'000'001}) {
+    shift += 0.1F;
+    node.Transform()->Position().SetKey(tick, {place.x + shift, place.y, place.z - shift});
+    node.Transform()->Rotation().SetKey(tick, TurnAbout(tick & 1, tick % 60));
+    node.Transform()->Scale().SetKey(tick, {1.0F, 1.0F + shift, 1.0F});
+  }
+}
+
+void SetUpTime(host::AnimationState& animation) {
   animation.SetFrameRate(59);
   animation.SetRange({-81, 30'000'001});
   animation.SetTime(-7);
@@ -110,35 +126,50 @@ void BuildEverything(host::Scene& scene) {
   }
   animation.SetKeyMode().Resume();
   animation.SetKeyMode().Set(true);
+}
+
+// A bone, a sphere, a dummy and a point, moving, below `parent`. Returns the bone.
+host::Node& AddEveryKind(host::Scene& scene, host::Node* parent, const char* name, bool tcb) {
+  host::Node& bone = AddBone(scene, parent, name, {4.0F, 1.0F, 0.7F});
+  host::Node& sphere = AddSphere(scene, &bone, name, 0.5F);
+  host::Node& dummy = AddDummy(scene, &bone, name);
+  host::Node& point = AddPoint(scene, &dummy, name);
+  Point3 place(0.0F, tcb ? -5.0F : 0.0F, 0.0F);
+  for (host::Node* node : {&bone, &sphere, &dummy, &point}) {
+    if (tcb) UseTcbRotation(scene, *node);
+    MoveAbout(*node, place);
+    place = {2.0F, 1.0F, 2.0F};
+  }
+  return bone;
+}
+
+// Everything about a scene that is not as it was at first: every object with every controller.
+void BuildEverything(host::Scene& scene) {
+  scene.SetMillimetersPerUnit(25.4);
+  SetUpTime(scene.Animation());
+  scene.Root().SetName(EveryByte().c_str());
   scene.Root().SetUserPropertyFloat("of the root", 0.1F);
 
-  host::Node& dummy = AddDummy(scene, nullptr, "same");
-  static_cast<DummyObject*>(dummy.GetObjectReference())->SetBox({{-1, -2, -3}, {4, 5, 0.1F}});
-  host::Node& bone = AddBone(scene, &dummy, "same", {4.0F, 1.0F, 0.1F});
-  host::Node& sphere = AddSphere(scene, &bone, "sphere \xFF", 0.5F);
-  host::Node& point = AddPoint(scene, &bone, "point");
-  bone.GetObjectReference()->GetFirstParameterBlock()->SetValue(2, 0, 33.3F);
-  sphere.GetObjectReference()->GetParamBlock()->SetValue(1, 0, -2'147'483'647);
-  bone.SetUserPropertyFloat("length", 0.3F);
-  bone.SetUserPropertyFloat("\xC3(", -1e-40F);
-  bone.SetBoneDisplay(0);
-  bone.SetBoneEnabled(1, -9);
-  bone.SetWireColor(0xFFFFFFFF);
-  sphere.SetObjectOffset(Matrix3({0.1F, 0, 0}, {0, 1, 0}, {0, 0, 1}, {7, 8, 9}));
-  UseTcbRotation(scene, bone);
-  bone.Transform()->SetClassId(kCharacterTransformClasses[0]);
-  bone.Transform()->Rotation().SetConstant({0.1F, 0.2F, 0.3F, -0.9F});
-  point.Transform()->Position().SetConstant({-0.0F, 1e-40F, 0.1F});
-  for (const TimeValue tick : {-2'147'483'647, -5, 8'640'001, 30'000'000, 30'000'001}) {
-    const auto value = static_cast<float>(tick) / 3.0F;
-    for (host::Node* node : {&bone, &sphere}) {
-      node->Transform()->Position().SetKey(tick, {value, 0.1F, -0.0F});
-      node->Transform()->Rotation().SetKey(tick, TurnAbout(tick & 1, tick % 360));
-      node->Transform()->Scale().SetKey(tick, {0.5F, value, 2.0F});
-    }
-  }
-  scene.Select(point);
-  scene.Select(dummy);
+  host::Node& top = AddDummy(scene, nullptr, EveryByte());
+  static_cast<DummyObject*>(top.GetObjectReference())->SetBox({{-1, -2, -3}, {4, 5, 0.1F}});
+  host::Node& euler = AddEveryKind(scene, &top, "same", false);
+  host::Node& tcb = AddEveryKind(scene, &top, "same", true);
+  euler.SetWireColor(PackWireColor(204, 51, 51));
+  tcb.GetObjectReference()->GetFirstParameterBlock()->SetValue(2, 0, 33.3F);
+  tcb.SetUserPropertyFloat("length", 0.3F);
+  tcb.SetUserPropertyFloat(EveryByte().c_str(), -1e-40F);
+  tcb.SetBoneDisplay(0);
+  tcb.SetBoneEnabled(1, -9);
+  tcb.Transform()->SetClassId(kCharacterTransformClasses[0]);
+  tcb.Transform()->Rotation().SetConstant({0.1F, 0.2F, 0.3F, -0.9F});
+  top.Transform()->Position().SetConstant({-0.0F, 1e-40F, 0.1F});
+
+  host::Node& ball = AddSphere(scene, &tcb, "ball", 0.5F);
+  ball.GetObjectReference()->GetParamBlock()->SetValue(1, 0, -2'147'483'647);
+  ball.SetObjectOffset(Matrix3({0.1F, 0, 0}, {0, 1, 0}, {0, 0, 1}, {2, 3, 0}));
+  ball.SetWireColor(0xFFFFFFFF);
+  scene.Select(ball);
+  scene.Select(top);
 }
 
 }  // namespace
