@@ -3,7 +3,9 @@
 #
 #   tools/render_scene.sh SCENE.glb PICTURE.png [SECOND...]
 #
-# With seconds, the picture shows the animated scene at all of these times at once.
+# With seconds, the picture shows the animated scene at all of these times at once. The environment
+# variable VIEW_ANGLE, in degrees, is how much comes into the picture; the default shows any scene
+# whole.
 set -euo pipefail
 
 if (($# < 2)); then
@@ -28,4 +30,4 @@ if (($# > 0)); then
 fi
 xvfb-run --auto-servernum f3d --dry-run --quiet --output="$picture" --resolution=1200,560 \
   --bg-color=0.96,0.97,0.98 --grid --fxaa --camera-azimuth-angle=65 --camera-elevation-angle=9 \
-  --camera-view-angle=19 "$scene"
+  --camera-view-angle="${VIEW_ANGLE:-30}" "$scene"
