@@ -21,6 +21,7 @@ std::string LastError() { return ErrorText(errno); }
 
 std::string FollowLink(const std::string& path) {
   std::error_code error;
+  if (!std::filesystem::is_symlink(path, error)) return path;
   const std::filesystem::path target = std::filesystem::canonical(path, error);
   return error ? path : target.string();
 }

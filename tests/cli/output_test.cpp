@@ -121,12 +121,16 @@ TEST_F(OutputTest, AFileIsNoFolder) {
 
 TEST_F(OutputTest, AReadOnlyFolderTakesNothing) {
   std::filesystem::create_directory(folder_.File("scenes"));
+  Write("scenes/old.glb", "the old scene");
   chmod(folder_.File("scenes").c_str(), 0555);
-  ProgramRun run = Command({"import", "walk.htr", "-o", "scenes/walk.glb"});
-  run.unprivileged = true;
-  const ProgramResult result = RunProgram(run);
-  if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
-  ExpectCannotWrite(result, "scenes/walk.glb: scenes: Permission denied\n");
+  for (const std::string output : {"scenes/new.glb", "scenes/old.glb"}) {
+    ProgramRun run = Command({"import", "walk.htr", "-o", output, "--force"});
+    run.unprivileged = true;
+    const ProgramResult result = RunProgram(run);
+    if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
+    ExpectCannotWrite(result, output + ": scenes: Permission denied\n");
+  }
+  EXPECT_EQ(Read("scenes/old.glb"), "the old scene");
 }
 
 TEST_F(OutputTest, ADiskThatFillsUpLeavesTheOldFileAndNoHalfOne) {
