@@ -1,8 +1,10 @@
 #include "tests/support/program.h"
 
 #include <fcntl.h>
+#include <linux/capability.h>
 #include <poll.h>
 #include <pty.h>
+#include <sys/prctl.h>
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>
@@ -46,6 +48,16 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts) {
   return pointers;
 }
 
+// Permissions hold for the superuser too, in the program that this process becomes. Where that
+// cannot be had, the program is somebody else's, who may have no access to it.
+bool GiveUpPrivileges() {
+  constexpr uid_t kNobody = 65534;
+  if (geteuid() != 0) return true;
+  const bool given_up = prctl(PR_CAPBSET_DROP, CAP_DAC_OVERRIDE) == 0 &&
+                        prctl(PR_CAPBSET_DROP, CAP_DAC_READ_SEARCH) == 0;
+  return given_up || setuid(kNobody) == 0;
+}
+
 [[noreturn]] void Become(const ProgramRun& run, const Stream& output, const Stream& error) {
   if (!run.folder.empty() && chdir(run.folder.c_str()) != 0) _exit(126);
   for (const std::string& variable : run.environment) putenv(const_cast<char*>(variable.c_str()));
@@ -58,8 +70,7 @@ std::vector<char*> Pointers(const std::vector<std::string>& texts) {
                              : open(run.output_file.c_str(), O_WRONLY | O_CLOEXEC);
   dup2(output_end, STDOUT_FILENO);
   dup2(error.write_end, STDERR_FILENO);
-  constexpr uid_t kNobody = 65534;
-  if (run.unprivileged && geteuid() == 0 && setuid(kNobody) != 0) _exit(126);
+  if (run.unprivileged && !GiveUpPrivileges()) _exit(126);
   std::vector<char*> arguments = Pointers(run.command);
   execv(arguments.front(), arguments.data());
   _exit(kNotStarted);
@@ -95,11 +106,14 @@ ProgramResult RunProgram(const ProgramRun& run) {
   if (child == 0) Become(run, output, error);
   close(output.write_end);
   close(error.write_end);
+  if (run.meanwhile) run.meanwhile(child);
   ProgramResult result;
   ReadBoth(output, error, result);
   int status = 0;
-  while (waitpid(child, &status, 0) < 0 && errno == EINTR) {
+  rusage usage{};
+  while (wait4(child, &status, 0, &usage) < 0 && errno == EINTR) {
   }
+  result.peak_memory = static_cast<std::size_t>(usage.ru_maxrss) * 1024;
   result.status = WIFSIGNALED(status) ? 128 + WTERMSIG(status) : WEXITSTATUS(status);
   if (result.status == kNotStarted && !run.unprivileged)
     throw std::runtime_error(run.command.front() + " does not start");

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
@@ -14,6 +15,10 @@ struct ProgramResult {
   int status = -1;     // the exit status; 128 and the signal's number when a signal ended it
   std::string output;  // what went to standard output
   std::string error;   // what went to standard error
+
+  // The most bytes that the program had in memory at once. Its first ones are this process's own,
+  // so that tests that look at this hold little themselves.
+  std::size_t peak_memory = 0;
 };
 
 struct ProgramRun {
@@ -35,6 +40,10 @@ struct ProgramRun {
   // Tests that run as the superuser, who may do everything, give that up for the run. The program
   // may then lie where it cannot be started: the status is kNotStarted.
   bool unprivileged = false;
+
+  // Called with the program's process as soon as that exists. What the program writes is only read
+  // afterwards.
+  std::function<void(int process)> meanwhile;
 };
 
 // Runs the program to its end. Throws std::runtime_error when it cannot be started.
