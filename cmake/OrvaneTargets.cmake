@@ -59,7 +59,8 @@ function(orvane_define_folders target)
 endfunction()
 
 # orvane_test(name SOURCES file... [LINKS target...] [LABELS label...]): one test program per folder.
-# The label "large" is for those that take seconds; ctest --label-exclude large leaves them out.
+# The label "large" is for those that take seconds, which have a program of their own; ctest
+# --label-exclude large leaves them out.
 function(orvane_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
   add_executable(${name} ${ARG_SOURCES})
@@ -74,9 +75,13 @@ function(orvane_test name)
   if(ARG_LABELS)
     set(labels LABELS "${ARG_LABELS}")
   endif()
+  set(timeout 120)
+  if("large" IN_LIST ARG_LABELS)
+    set(timeout 600)
+  endif()
   if(ORVANE_TEST_CASES_APART)
     gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
-      PROPERTIES TIMEOUT 120 ${labels})
+      PROPERTIES TIMEOUT ${timeout} ${labels})
   else()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 ${labels})

@@ -65,19 +65,5 @@ TEST(GltfReaderOfKeys, KeepsTheWayBetweenEulerKeys) {
   }
 }
 
-TEST(GltfReaderOfSize, TakesChainsAndFansOfAHundredThousandNodes) {
-  for (const bool chain : {true, false}) {
-    host::Scene scene;
-    host::Node* last = nullptr;
-    for (int i = 0; i < 100'000; ++i) {
-      host::Node& node = AddDummy(scene, last, "n");
-      if (chain || last == nullptr) last = &node;
-    }
-    host::Scene again;
-    EXPECT_EQ(ReadScene(Written(scene), again), "");
-    EXPECT_EQ(again.NodeCount(), 100'000U);
-  }
-}
-
 }  // namespace
 }  // namespace test

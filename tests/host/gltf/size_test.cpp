@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "host/gltf/reader.h"
 #include "tests/host/gltf/test_scene.h"
 #include "tests/host/gltf/viewer.h"
 
@@ -33,6 +34,20 @@ TEST(GltfSize, AFanOfAHundredThousandNodesIsWritten) {
   const Viewer viewer(Written(scene));
   EXPECT_THAT(viewer.File().nodes[0].children, SizeIs(100'000));
   EXPECT_THAT(viewer.File().meshes, SizeIs(1));
+}
+
+TEST(GltfSize, ChainsAndFansOfAHundredThousandNodesAreRead) {
+  for (const bool chain : {true, false}) {
+    host::Scene scene;
+    host::Node* last = nullptr;
+    for (int i = 0; i < 100'000; ++i) {
+      host::Node& node = AddDummy(scene, last, "n");
+      if (chain || last == nullptr) last = &node;
+    }
+    host::Scene again;
+    EXPECT_EQ(host::gltf::ReadScene(Written(scene), again), "");
+    EXPECT_EQ(again.NodeCount(), 100'000U);
+  }
 }
 
 }  // namespace
