@@ -8,8 +8,14 @@
 namespace orvane {
 namespace {
 
-void Scale(Vector3& vector, double factor) {
-  for (unsigned int index = 0; index < 3; ++index) vector[index] *= factor;
+template <typename Three>
+std::array<double, 3> Components(const Three& three) {
+  return {three[0], three[1], three[2]};
+}
+
+template <typename Three>
+void Scale(Three& three, double factor) {
+  for (unsigned int index = 0; index < 3; ++index) three[index] *= factor;
 }
 
 }  // namespace
@@ -38,57 +44,57 @@ HtrSegment* HtrSegment::FindDescendant(std::string_view name) {
   return nullptr;
 }
 
-void HtrSegment::ReserveFrames(std::size_t count) {
-  frame_translations_.reserve(count);
-  frame_rotations_.reserve(count);
-  frame_scales_.reserve(count);
-}
-
 void HtrSegment::AddFrame(const Vector3& translation, const Vector3& angles, double scale) {
   AddFrame(translation, EulerRotation(angles.x(), angles.y(), angles.z()), scale);
 }
 
 void HtrSegment::AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale) {
-  frame_translations_.push_back(translation);
-  frame_rotations_.push_back(rotation);
-  frame_scales_.push_back(scale);
+  frames_.push_back({.translation = Components(translation),
+                     .angles = Components(rotation),
+                     .scale = scale,
+                     .order_code = rotation.order().code()});
 }
 
 Vector3 HtrSegment::GetFrameTranslation(std::size_t index) const {
-  return index < GetNumFrames() ? frame_translations_[index] : Vector3();
+  if (index >= GetNumFrames()) return Vector3();
+  const auto& [x, y, z] = frames_[index].translation;
+  return Vector3(x, y, z);
 }
 
 EulerRotation HtrSegment::GetFrameRotation(std::size_t index) const {
-  return index < GetNumFrames() ? frame_rotations_[index] : EulerRotation();
+  if (index >= GetNumFrames()) return EulerRotation();
+  const Frame& frame = frames_[index];
+  const auto& [x, y, z] = frame.angles;
+  return EulerRotation(x, y, z, OrvaneEulerOrder(frame.order_code));
 }
 
 double HtrSegment::GetFrameScale(std::size_t index) const {
-  return index < GetNumFrames() ? frame_scales_[index] : 1.0;
+  return index < GetNumFrames() ? frames_[index].scale : 1.0;
 }
 
 bool HtrSegment::SetFrameTranslation(std::size_t index, double x, double y, double z) {
   if (index >= GetNumFrames()) return false;
-  frame_translations_[index] = Vector3(x, y, z);
+  frames_[index].translation = {x, y, z};
   return true;
 }
 
 Vector3 HtrSegment::GetFramePosition(std::size_t index) const {
   if (index >= GetNumFrames()) return Vector3();
-  const Vector3& offset = frame_translations_[index];
+  const Vector3 offset = GetFrameTranslation(index);
   return Vector3(offset.x() + base_translation_.x(), offset.y() + base_translation_.y(),
                  offset.z() + base_translation_.z());
 }
 
 EulerRotation HtrSegment::GetFrameOrientation(std::size_t index) const {
   if (index >= GetNumFrames()) return EulerRotation();
-  return EulerRotation(RotationMatrix3(base_rotation_) * RotationMatrix3(frame_rotations_[index]));
+  return EulerRotation(RotationMatrix3(base_rotation_) * RotationMatrix3(GetFrameRotation(index)));
 }
 
 void HtrSegment::ScaleLengths(double factor, std::size_t frame_count) {
   Scale(base_translation_, factor);
   bone_length_ *= factor;
   const std::size_t count = std::min(frame_count, GetNumFrames());
-  for (std::size_t index = 0; index < count; ++index) Scale(frame_translations_[index], factor);
+  for (std::size_t index = 0; index < count; ++index) Scale(frames_[index].translation, factor);
 }
 
 }  // namespace orvane

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -56,9 +58,9 @@ class HtrSegment {
   double GetScaleReferenceLength() const { return scale_reference_length_; }
   void SetScaleReferenceLength(double length) { scale_reference_length_ = length; }
 
-  std::size_t GetNumFrames() const { return frame_scales_.size(); }
+  std::size_t GetNumFrames() const { return frames_.size(); }
   // Makes room for `count` frames in all.
-  void ReserveFrames(std::size_t count);
+  void ReserveFrames(std::size_t count) { frames_.reserve(count); }
   // Appends one frame; `angles` x, y, z in the default Euler order.
   void AddFrame(const Vector3& translation, const Vector3& angles, double scale);
   void AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale);
@@ -83,6 +85,15 @@ class HtrSegment {
  private:
   friend class HtrDocument;
 
+  // Plain numbers, since a document holds millions of them: as the objects that they are handed out
+  // as they would take half as much memory again.
+  struct Frame {
+    std::array<double, 3> translation;
+    std::array<double, 3> angles;
+    double scale;
+    std::uint32_t order_code;
+  };
+
   bool is_root_ = false;
   WatchedName name_;  // the owning document watches it
   HtrSegment* parent_ = nullptr;
@@ -91,9 +102,7 @@ class HtrSegment {
   EulerRotation base_rotation_;
   double bone_length_ = 0.0;
   double scale_reference_length_ = 1.0;
-  std::vector<Vector3> frame_translations_;
-  std::vector<EulerRotation> frame_rotations_;
-  std::vector<double> frame_scales_;
+  std::vector<Frame> frames_;
 };
 
 }  // namespace orvane
