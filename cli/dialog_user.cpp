@@ -13,7 +13,13 @@ Failure Disabled(const ControlWish& wish) {
   return {ExitStatus::kWrongUsage, {{wish.flag, text, ""}}};
 }
 
+Failure Missing(const ControlWish& wish, const host::ScriptedDialog& dialog) {
+  return {ExitStatus::kWrongUsage,
+          {{wish.flag, "the dialog \"" + dialog.Title() + "\" has no such control", ""}}};
+}
+
 void CarryOut(const ControlWish& wish, host::ScriptedDialog& dialog) {
+  if (!dialog.Has(wish.control)) throw Missing(wish, dialog);
   if (!dialog.IsEnabled(wish.control)) throw Disabled(wish);
   switch (wish.kind) {
     case ControlWish::Kind::kRadio:

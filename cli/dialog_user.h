@@ -32,7 +32,8 @@ struct DialogButtons {
 };
 
 // Carries out `wishes`, each kind in the given order, and presses OK; presses Cancel when the
-// dialog refuses and stays open. Throws a Failure for a wish whose control is disabled.
+// dialog refuses and stays open. Throws a Failure for a wish whose control is disabled
+// or missing.
 void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes,
                const DialogButtons& buttons);
 

@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-#include "cli/import_htr_flags.h"
+#include "cli/import_flags.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
@@ -48,10 +48,8 @@ FrameCounts CountFrames(const orvane::HtrDocument& document) {
           static_cast<std::int64_t>(most->GetNumFrames())};
 }
 
-std::optional<Complaint> CompareFrameCounts(const std::string& file,
-                                            const orvane::HtrDocument& document,
+std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
                                             const std::vector<ControlWish>& wishes) {
-  const FrameCounts counts = CountFrames(document);
   if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
     throw Failure{ExitStatus::kRefused,
                   {{file, Difference(counts),

@@ -26,11 +26,9 @@ FrameCounts CountFrames(const orvane::HtrDocument& document);
 // Whether importing `frames` is far more work than the file is worth.
 bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts);
 
-// What is to be said when the counts of `file`, which holds `document` and has segments, differ;
-// nothing when they agree. Throws a Failure when importing by `wishes` takes far more frames than
-// are held.
-std::optional<Complaint> CompareFrameCounts(const std::string& file,
-                                            const orvane::HtrDocument& document,
+// What is to be said when the `counts` of `file` differ; nothing when they agree. Throws a Failure
+// when importing by `wishes` takes far more frames than are held.
+std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
                                             const std::vector<ControlWish>& wishes);
 
 }  // namespace cli

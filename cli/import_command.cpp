@@ -3,9 +3,11 @@
 #include <iostream>
 #include <map>
 #include <memory>
+#include <optional>
 
 #include "cli/choice.h"
-#include "cli/import_htr_flags.h"
+#include "cli/file_kind.h"
+#include "cli/import_flags.h"
 #include "cli/import_summary.h"
 #include "cli/input.h"
 #include "cli/inspection.h"
@@ -22,6 +24,7 @@ namespace {
 
 struct ImportArguments {
   std::string input;
+  std::optional<FileKind> kind;  // nothing: by its name
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
@@ -79,8 +82,8 @@ void AddMessages(const std::string& file, const PluginSession& session,
   }
 }
 
-Failure NotCarriedOut(const std::string& file, std::vector<Complaint> complaints) {
-  const Complaint flaw = FindFlaw(file);
+Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Complaint> complaints) {
+  const Complaint flaw = FindFlaw(file, kind);
   if (!flaw.text.empty()) complaints.push_back(flaw);
   if (complaints.empty()) {
     complaints.push_back(ComplainAbout(file, "The plug-in gave up without a message"));
@@ -101,18 +104,21 @@ void Warn(std::vector<Complaint> complaints, bool strict) {
 
 ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
-  const std::string input = ReadableHtrFile(arguments.input);
+  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  const std::string input = ReadableFile(arguments.input, kind);
   SceneOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
   PrepareScene(arguments, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  Append(Inspect(input, arguments.wishes), complaints);
+  Append(Inspect(input, kind, arguments.wishes), complaints);
   StopIfInterrupted();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
-  const bool carried_out = session.ImportHtr(input, AllWishes(arguments), show_progress);
+  // Without a word from the user, the host goes by the name.
+  const std::string extension = arguments.kind ? ExtensionOf(*arguments.kind) : "";
+  const bool carried_out = session.Import(input, extension, AllWishes(arguments), show_progress);
   StopIfInterrupted();
   AddMessages(input, session, complaints);
-  if (!carried_out) throw NotCarriedOut(input, std::move(complaints));
+  if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
   Warn(std::move(complaints), arguments.strict);
   const std::size_t size = output.Deliver(session.scene(), input);
   if (!arguments.quiet) {
@@ -128,7 +134,8 @@ double MillimetersPer(const std::string& unit) {
 }
 
 void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
-  verb.add_option("FILE", arguments.input, "The HTR file")->required()->type_name("");
+  verb.add_option("FILE", arguments.input, "The HTR or TRC file")->required()->type_name("");
+  AddKindChoice(verb, arguments.kind);
   verb.add_option("-o,--output", arguments.output, "The scene to write: .glb or .gltf")
       ->required()
       ->check(
@@ -174,9 +181,9 @@ void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
 
 void AddImportCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<ImportArguments>();
-  CLI::App* verb = app.add_subcommand("import", "Import a motion file into a scene");
+  CLI::App* verb = app.add_subcommand("import", "Import a motion or marker file into a scene");
   AddFileArguments(*verb, *arguments);
-  AddImportHtrFlags(*verb, arguments->wishes);
+  AddImportFlags(*verb, arguments->wishes);
   AddHostFlags(*verb, *arguments);
   AddRunFlags(*verb, *arguments);
   verb->callback([arguments, &work] { work = [arguments] { return Import(*arguments); }; });

@@ -4,7 +4,8 @@
 
 #include "cli/command_line.h"
 
-// `orvane import`: lets the plug-in import a motion file into a scene and writes the scene as glTF.
+// `orvane import`: lets the plug-in import a motion or marker file into a scene and writes the
+// scene as glTF.
 
 namespace cli {
 

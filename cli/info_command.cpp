@@ -5,6 +5,7 @@
 
 #include "cli/info_report.h"
 #include "cli/input.h"
+#include "cli/trc_info.h"
 #include "plugin/htr/reader.h"
 
 namespace cli {
@@ -12,6 +13,7 @@ namespace {
 
 struct InfoArguments {
   std::string input;
+  std::optional<FileKind> kind;  // nothing: by its name
   bool hierarchy_only = false;
   bool json = false;
   bool frames = false;
@@ -30,9 +32,23 @@ void Read(const std::string& file, bool read_motion, InfoReport& report) {
   if (read_motion) report.motion = SummarizeMotion(report.document, report.hierarchy);
 }
 
-ExitStatus ShowInfo(const InfoArguments& arguments) {
+ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
+  if (arguments.hierarchy_only) {
+    throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
+  }
+  TrcInfoReport report;
+  ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), report);
+  if (arguments.json) {
+    PrintTrcInfoJson(report, arguments.frames, std::cout);
+  } else {
+    PrintTrcInfoPage(report, std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+ExitStatus ShowHtrInfo(const InfoArguments& arguments) {
   InfoReport report;
-  Read(ReadableHtrFile(arguments.input), !arguments.hierarchy_only, report);
+  Read(ReadableFile(arguments.input, FileKind::kHtr), !arguments.hierarchy_only, report);
   if (arguments.json) {
     PrintInfoJson(report, arguments.frames, std::cout);
   } else {
@@ -41,14 +57,20 @@ ExitStatus ShowInfo(const InfoArguments& arguments) {
   return ExitStatus::kDone;
 }
 
+ExitStatus ShowInfo(const InfoArguments& arguments) {
+  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  return kind == FileKind::kTrc ? ShowTrcInfo(arguments) : ShowHtrInfo(arguments);
+}
+
 }  // namespace
 
 void AddInfoCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<InfoArguments>();
-  CLI::App* verb = app.add_subcommand("info", "Tell what a motion file holds");
-  verb->add_option("FILE", arguments->input, "The HTR file")->required()->type_name("");
+  CLI::App* verb = app.add_subcommand("info", "Tell what a motion or marker file holds");
+  verb->add_option("FILE", arguments->input, "The HTR or TRC file")->required()->type_name("");
+  AddKindChoice(*verb, arguments->kind);
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
-                                          "Read the header and the hierarchy, not the motion");
+                                          "HTR: read the header and the hierarchy, not the motion");
   CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");
   verb->add_flag("--frames", arguments->frames, "With --json: every value of every frame")
       ->needs(json)

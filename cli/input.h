@@ -3,14 +3,16 @@
 #include <string>
 
 #include "cli/failure.h"
+#include "cli/file_kind.h"
 
-// The motion file that a verb reads, and how it is refused.
+// The file that a verb reads, and how it is refused.
 
 namespace cli {
 
 // What is said of a file that can be read and holds nothing, or nothing to start from.
 inline constexpr char kNoSegments[] = "The file holds no segments";
 inline constexpr char kNoRoot[] = "The file has no root segment";
+inline constexpr char kNoMarkers[] = "The file holds no markers";
 
 // The file that the user means by `name`, as the reader takes it: with ".htr" behind it unless it
 // has an extension of three letters. Throws a Failure that says why when it cannot be read.
@@ -21,6 +23,6 @@ Complaint ComplainAbout(const std::string& file, const std::string& text);
 
 // Looks in `file` for a reason why the plug-in made nothing of it, beside what it said itself.
 // Returns a complaint without text when there is none to see.
-Complaint FindFlaw(const std::string& file);
+Complaint FindFlaw(const std::string& file, FileKind kind);
 
 }  // namespace cli

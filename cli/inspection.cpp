@@ -5,6 +5,7 @@
 
 #include "cli/frame_counts.h"
 #include "cli/hierarchy.h"
+#include "cli/trc_inspection.h"
 #include "plugin/htr/reader.h"
 #include "plugin/text/numbers.h"
 
@@ -34,18 +35,23 @@ std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrD
   return Complaint{file, text, "A new skeleton goes without them; \"orvane info\" lists them all."};
 }
 
-}  // namespace
-
-std::vector<Complaint> Inspect(const std::string& file, const std::vector<ControlWish>& wishes) {
+std::vector<Complaint> InspectHtr(const std::string& file, const std::vector<ControlWish>& wishes) {
   orvane::HtrDocument document;
   if (!orvane::ReadHtrFile(document, file, true).empty()) return {};
   if (document.segments().empty()) return {};
   std::vector<Complaint> complaints;
-  const auto counts = CompareFrameCounts(file, document, wishes);
+  const auto counts = CompareFrameCounts(file, CountFrames(document), wishes);
   if (counts) complaints.push_back(*counts);
   const auto left_out = FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);
   return complaints;
+}
+
+}  // namespace
+
+std::vector<Complaint> Inspect(const std::string& file, FileKind kind,
+                               const std::vector<ControlWish>& wishes) {
+  return kind == FileKind::kTrc ? InspectTrc(file, wishes) : InspectHtr(file, wishes);
 }
 
 }  // namespace cli

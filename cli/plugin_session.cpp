@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "cli/import_htr_flags.h"
+#include "cli/import_flags.h"
 #include "cli/progress_line.h"
 #include "platform/desktop.h"
 #include "platform/interrupt.h"
@@ -56,22 +56,24 @@ PluginSession::~PluginSession() {
   platform::InstallDesktop(nullptr);
 }
 
-bool PluginSession::ImportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
-                              bool show_progress) {
+bool PluginSession::Import(const std::string& file, const std::string& extension,
+                           const std::vector<ControlWish>& wishes, bool show_progress) {
   desktop_->SetUser(
-      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kImportHtrButtons); },
+      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kImportButtons); },
        PressOk});
   ProgressLine line("Importing " + std::filesystem::path(file).filename().string(), show_progress);
   application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {
     line.Show(event.percent);
     if (platform::Interrupted()) application_->cancellation().Request();
   });
-  const std::optional<host::ImportResult> result = module_->Import(file, false);
+  const std::optional<host::ImportResult> result =
+      extension.empty() ? module_->Import(file, false) : module_->Import(file, extension, false);
   application_->progress().SetObserver({});
   desktop_->RethrowFailure();
   if (!result) {
     throw Failure{ExitStatus::kWrongUsage,
-                  {{file, "the plug-in has no importer for files of this kind", ""}}};
+                  {{file, "the plug-in has no importer for files of this kind",
+                    "--as htr or --as trc tells what it is."}}};
   }
   return result->returned == 1 && result->completed;
 }

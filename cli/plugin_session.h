@@ -31,13 +31,14 @@ class PluginSession {
 
   host::Scene& scene() { return application_->scene(); }
 
-  // Lets the plug-in import `file`, answering its dialog by `wishes`; every message is closed by
+  // Lets the importer for `extension` (without its dot; empty: that of the name) import `file`,
+  // answering its dialog by `wishes`; every message is closed by
   // its OK button. A progress line is printed when `show_progress` is set. When the user interrupts
   // the program, the import is cancelled. Returns whether the import was carried out to its end.
   // Throws a Failure when a wish cannot be fulfilled, or when the plug-in has no importer for such
   // files.
-  bool ImportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
-                 bool show_progress);
+  bool Import(const std::string& file, const std::string& extension,
+              const std::vector<ControlWish>& wishes, bool show_progress);
 
   // What the plug-in told its user, in its own words.
   [[nodiscard]] std::vector<std::string> Messages() const;

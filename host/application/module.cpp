@@ -64,7 +64,12 @@ std::unique_ptr<UtilityObj> Module::CreateUtility(std::string_view class_name) c
 }
 
 std::optional<ImportResult> Module::Import(const std::string& path, bool suppress_prompts) {
-  const std::unique_ptr<SceneImport> importer = CreateImporter(ExtensionOf(path));
+  return Import(path, ExtensionOf(path), suppress_prompts);
+}
+
+std::optional<ImportResult> Module::Import(const std::string& path, std::string_view extension,
+                                           bool suppress_prompts) {
+  const std::unique_ptr<SceneImport> importer = CreateImporter(extension);
   if (importer == nullptr) return std::nullopt;
   const SuspendableMode& set_key_mode = host_.application.scene().Animation().SetKeyMode();
   const std::size_t depth_before = set_key_mode.SuspendDepth();

@@ -75,9 +75,11 @@ class SKELDER_API Module {
   // To be destroyed before the module is unloaded.
   std::unique_ptr<UtilityObj> CreateUtility(std::string_view class_name) const;
 
-  // Imports the file `path` into the application's scene with the importer for its extension.
-  // Returns nothing when there is no such importer.
+  // Imports the file `path` into the application's scene with the importer for its extension, or
+  // for another `extension`, without its dot. Returns nothing when there is no such importer.
   std::optional<ImportResult> Import(const std::string& path, bool suppress_prompts);
+  std::optional<ImportResult> Import(const std::string& path, std::string_view extension,
+                                     bool suppress_prompts);
 
  private:
   friend SKELDER_API ModuleLeftovers UnloadModule(std::unique_ptr<Module> module);

@@ -15,8 +15,8 @@ class TRCOddities {
  public:
   explicit TRCOddities(TRCReadObserver* observer) : observer_(observer) {}
 
-  // Whether anybody listens.
-  bool IsObserved() const { return observer_ != nullptr; }
+  // Whether anybody wants to know of frames.
+  bool AreOfFramesWanted() const { return observer_ != nullptr && observer_->WatchesFrames(); }
 
   void SetLine(std::size_t line) { line_ = line; }
 

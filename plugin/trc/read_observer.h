@@ -51,6 +51,9 @@ class TRCReadObserver {
 
   // Called in file order while reading. `text` lives until the call returns.
   virtual void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) = 0;
+
+  // Whether the lines of frames are looked over too, which takes longer than reading them.
+  virtual bool WatchesFrames() const { return true; }
 };
 
 }  // namespace orvane

@@ -54,7 +54,8 @@ class TRCReader {
         size_(bytes.size()),
         include_unnamed_(include_unnamed),
         oddities_(observer),
-        inspector_(oddities_) {}
+        inspector_(oddities_),
+        watches_frames_(oddities_.AreOfFramesWanted()) {}
 
   std::string Read();
 
@@ -72,6 +73,7 @@ class TRCReader {
   const bool include_unnamed_;
   TRCOddities oddities_;
   TRCDataLineInspector inspector_;
+  const bool watches_frames_;
 
   TRCHeader header_;
   std::size_t frames_read_ = 0;
@@ -139,7 +141,7 @@ void TRCReader::ReserveFrames() {
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
-  if (oddities_.IsObserved()) inspector_.Inspect(line, document_.markers().size());
+  if (watches_frames_) inspector_.Inspect(line, document_.markers().size());
 
   TRCCoordinateCells cells(line.text);
   cells.Drop();  // the frame number

@@ -147,9 +147,11 @@ TEST_F(ImportFlagsTest, RangeInTheWrongOrder) {
 
 TEST_F(ImportFlagsTest, SizesThatAreZeroOrNoNumber) {
   for (const std::string size : {"0", "abc", "nan", "--5", "", "1e-999"}) {
-    ExpectRefusal({"--segment-size", size},
-                  "Please choose a non-zero size.\n"
-                  "  --segment-size takes a number that is not 0, such as 1.5.\n");
+    ExpectRefusal(
+        {"--segment-size", size},
+        "Please choose a non-zero size.\n"
+        "  --size takes a number that is not 0, such as 1.5; for an HTR file, --segment-size "
+        "does.\n");
   }
 }
 
@@ -266,7 +268,9 @@ TEST_F(ImportFlagsTest, FilesOfAnotherKindHaveNoImporter) {
   Write("walk.txt", SmallMotion());
   const ProgramResult result = Orvane({"import", "walk.txt", "-o", "walk.glb"});
   EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.error, "orvane: walk.txt: the plug-in has no importer for files of this kind\n");
+  EXPECT_EQ(result.error,
+            "orvane: walk.txt: the plug-in has no importer for files of this kind\n"
+            "  --as htr or --as trc tells what it is.\n");
 }
 
 TEST_F(ImportFlagsTest, AnExtensionIsAddedToANameWithoutOne) {

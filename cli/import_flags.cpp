@@ -1,4 +1,4 @@
-#include "cli/import_htr_flags.h"
+#include "cli/import_flags.h"
 
 #include <algorithm>
 
@@ -10,7 +10,7 @@ namespace {
 
 using Kind = ControlWish::Kind;
 
-// The controls of the dialog, by their ids.
+// The controls of the dialogs, by their ids.
 enum Control : int {
   kBasePosition = 1017,
   kEndEffectors = 1019,
@@ -25,11 +25,16 @@ enum Control : int {
   kApply = 1086,
   kGlobalScale = 1088,
   kOffset = 1089,
-  kSegmentSize = 1104,
-  kSetFrameRate = 1140
+  kSize = 1104,
+  kSetFrameRate = 1140,
+  kSphere = 1141,
+  kPoint = 1142,
+  kSelectedOnly = 1143,
+  kRootNode = 1144
 };
 
 constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
+constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
 
 using Wishes = std::vector<ControlWish>;
 
@@ -55,11 +60,12 @@ void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int co
       ->excludes(on);
 }
 
-// The text field `control` as an option.
-void AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
-             const std::string& help, const std::string& disabled_by = "") {
+// The text field `control` as an option, which is returned.
+CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                     const std::string& help, const std::string& disabled_by = "") {
   const ControlWish wish{Kind::kText, control, flag, "", false, disabled_by};
-  verb.add_option_function<std::string>(
+  return verb
+      .add_option_function<std::string>(
           flag,
           [&wishes, wish](const std::string& text) {
             wishes.push_back(wish);
@@ -83,24 +89,39 @@ ControlWish FrameRate(const std::string& choice) {
   return {Kind::kCheckBox, kSetFrameRate, "--frame-rate", "", choice == "file", ""};
 }
 
-void AddSkeletonFlags(CLI::App& verb, Wishes& wishes) {
+void AddTargetFlags(CLI::App& verb, Wishes& wishes) {
   CLI::Option* create =
-      AddRadio(verb, wishes, "--create", kCreate, "Create a new skeleton (the default)");
-  AddRadio(verb, wishes, "--apply", kApply, "Apply the motion to a skeleton of the scene")
+      AddRadio(verb, wishes, "--create", kCreate, "Create a new skeleton or cloud (the default)");
+  AddRadio(verb, wishes, "--apply", kApply, "Apply the motion to objects of the scene")
       ->excludes(create);
-  AddText(verb, wishes, "--segment-size", kSegmentSize,
-          "Thickness of the bones, 1 being a fifth of their length (1)", kWhileApplying);
-  AddCheckBox(verb, wishes, "end-effectors", kEndEffectors,
-              "Create end effectors at the ends of the skeleton (no)", kWhileApplying);
 }
 
-void AddKeyFlags(CLI::App& verb, Wishes& wishes) {
-  AddCheckBox(verb, wishes, "animation", kAnimation, "Set keys for the frames of the file (yes)");
+void AddSkeletonFlags(CLI::App& verb, Wishes& wishes, CLI::Option* size) {
+  AddText(verb, wishes, "--segment-size", kSize,
+          "HTR: thickness of the bones, 1 being a fifth of their length (1)", kWhileApplying)
+      ->excludes(size);
+  AddCheckBox(verb, wishes, "end-effectors", kEndEffectors,
+              "HTR: create end effectors at the ends of the skeleton (no)", kWhileApplying);
+  AddCheckBox(verb, wishes, "animation", kAnimation,
+              "HTR: set keys for the frames of the file (yes)");
   AddCheckBox(verb, wishes, "base-position", kBasePosition,
-              "Set keys for the base position, one frame before the motion (no)");
+              "HTR: set keys for the base position, one frame before the motion (no)");
   CLI::Option* euler =
-      AddRadio(verb, wishes, "--euler", kEuler, "Rotate by Euler controllers (the default)");
-  AddRadio(verb, wishes, "--tcb", kTcb, "Rotate by TCB controllers")->excludes(euler);
+      AddRadio(verb, wishes, "--euler", kEuler, "HTR: rotate by Euler controllers (the default)");
+  AddRadio(verb, wishes, "--tcb", kTcb, "HTR: rotate by TCB controllers")->excludes(euler);
+}
+
+void AddCloudFlags(CLI::App& verb, Wishes& wishes) {
+  CLI::Option* sphere =
+      AddFlag(verb, wishes, {Kind::kRadio, kSphere, "--sphere", "", false, kWhileApplying},
+              "TRC: make markers spheres (the default)");
+  AddFlag(verb, wishes, {Kind::kRadio, kPoint, "--point", "", false, kWhileApplying},
+          "TRC: make markers points")
+      ->excludes(sphere);
+  AddCheckBox(verb, wishes, "selected-only", kSelectedOnly,
+              "TRC: apply to selected objects only (no)", kWhileCreating);
+  AddCheckBox(verb, wishes, "root-node", kRootNode, "TRC: group the markers under a node (no)",
+              kWhileApplying);
 }
 
 void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
@@ -127,9 +148,13 @@ const std::string* TypedText(const Wishes& wishes, int control) {
 
 }  // namespace
 
-void AddImportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
-  AddSkeletonFlags(verb, wishes);
-  AddKeyFlags(verb, wishes);
+void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
+  AddTargetFlags(verb, wishes);
+  CLI::Option* size =
+      AddText(verb, wishes, "--size", kSize,
+              "Size of new objects, twice the radius of a marker (1)", kWhileApplying);
+  AddSkeletonFlags(verb, wishes, size);
+  AddCloudFlags(verb, wishes);
   AddTimeFlags(verb, wishes);
   AddText(verb, wishes, "--scale", kGlobalScale, "Multiply all lengths by this (1)");
 }

@@ -7,15 +7,16 @@
 
 #include "cli/dialog_user.h"
 
-// The flags of `orvane import` that are controls of the options dialog "ImportHTR".
+// The flags of `orvane import` that are controls of the options dialogs "ImportHTR" and
+// "ImportTRC". What does the same in both has the same id, and the same flag.
 
 namespace cli {
 
-inline constexpr DialogButtons kImportHtrButtons{1097, 1098};
+inline constexpr DialogButtons kImportButtons{1097, 1098};
 
 // Adds the flags to `verb`. Parsing the arguments adds a wish for each that is given to `wishes`,
 // which must outlive the parsing.
-void AddImportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
+void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
 
 // The wish of "--frame-rate file".
 ControlWish FrameRateFromFile();

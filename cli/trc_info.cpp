@@ -1,0 +1,42 @@
+#include "cli/trc_info.h"
+
+#include "cli/input.h"
+
+namespace cli {
+namespace {
+
+constexpr std::size_t kDataRateColumn = 1;
+constexpr std::size_t kCameraRateColumn = 2;
+
+// Keeps rates that lost something in reading.
+class RateListener final : public orvane::TRCReadObserver {
+ public:
+  explicit RateListener(TrcInfoReport& report) : report_(report) {}
+
+  void OnOddity(orvane::TRCOddity oddity, orvane::TRCPlace place, std::string_view text) override {
+    if (oddity != orvane::TRCOddity::kRateTruncated) return;
+    if (place.column == kDataRateColumn) report_.data_rate_text = text;
+    if (place.column == kCameraRateColumn) report_.camera_rate_text = text;
+  }
+  bool WatchesFrames() const override { return false; }
+
+ private:
+  TrcInfoReport& report_;
+};
+
+Failure Refused(const std::string& file, const std::string& text) {
+  return {ExitStatus::kRefused, {ComplainAbout(file, text)}};
+}
+
+}  // namespace
+
+void ReadTrcInfo(const std::string& file, TrcInfoReport& report) {
+  report.file = file;
+  RateListener listener(report);
+  const std::string error = report.document.Read(file, false, &listener);
+  if (!error.empty()) throw Refused(file, error);
+  if (report.document.MarkerCount() == 0) throw Refused(file, kNoMarkers);
+  report.summary = SummarizeTrc(report.document);
+}
+
+}  // namespace cli

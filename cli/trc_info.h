@@ -1,0 +1,33 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+
+#include "cli/trc_summary.h"
+#include "plugin/trc/document.h"
+
+// What `orvane info` tells of a marker file: as a page for a person, or as JSON for a program.
+// docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
+// goes.
+
+namespace cli {
+
+struct TrcInfoReport {
+  std::string file;
+  orvane::TRCDocument document;
+  TrcSummary summary;
+
+  // Rates as the file has them, when reading took something off; else empty.
+  std::string data_rate_text;
+  std::string camera_rate_text;
+};
+
+// Reads `file` into `report`. Throws a Failure when it is refused or holds no markers.
+void ReadTrcInfo(const std::string& file, TrcInfoReport& report);
+
+void PrintTrcInfoPage(const TrcInfoReport& report, std::ostream& out);
+
+// `with_frames` adds every sample.
+void PrintTrcInfoJson(const TrcInfoReport& report, bool with_frames, std::ostream& out);
+
+}  // namespace cli

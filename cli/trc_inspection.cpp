@@ -1,0 +1,136 @@
+#include "cli/trc_inspection.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+
+#include "cli/frame_counts.h"
+#include "cli/import_flags.h"
+#include "cli/input.h"
+#include "plugin/text/numbers.h"
+#include "plugin/trc/document.h"
+
+namespace cli {
+namespace {
+
+using orvane::FormatInt;
+using orvane::TRCOddity;
+
+// What an import makes of an oddity, and what to do about it.
+struct Note {
+  TRCOddity oddity;
+  const char* text;
+  const char* advice;
+};
+
+constexpr char kUseCheckedColumns[] = "Rename the column, or move it behind those with good names.";
+
+constexpr Note kNotes[] = {
+    {TRCOddity::kCommentReplacesLine,
+     "A line that starts with \"#\" is taken as data, and the next line is thrown away",
+     "A marker file has no comments."},
+    {TRCOddity::kLongLine, "A line of more than 10,239 characters is read as several",
+     "Shorter marker names, or fewer markers in one file, keep it whole."},
+    {TRCOddity::kUnknownPathType, "The path type is neither 3 nor 4, so the first frame is 1", ""},
+    {TRCOddity::kRateNotPositive, "A rate is not positive", "--frame-rate keep goes without it."},
+    {TRCOddity::kUnknownUnits, "The unit is unknown and taken as millimetres",
+     "It may be mm, cm, m, in, ft or yd, with nothing but a tab behind it."},
+    {TRCOddity::kUnitsEndTheLine, "The unit ends its line and is taken as millimetres",
+     "A tab behind the unit makes it count."},
+    {TRCOddity::kMarkerNameLost, "The last name has no tab behind it and makes no marker",
+     "A tab behind the name makes it count."},
+    {TRCOddity::kUnnamedColumnDropped,
+     "An unnamed column makes no marker, and its values go to the next one", kUseCheckedColumns},
+    {TRCOddity::kMarkerNameRepeated,
+     "A repeated name makes no marker, and the values of its column go to the next one",
+     kUseCheckedColumns},
+    {TRCOddity::kMarkerNameEmpty, "A marker has no name", ""},
+    {TRCOddity::kMarkerCountMismatch,
+     "The header announces another number of markers, which does not count", ""},
+    {TRCOddity::kSubHeaderIsData,
+     "The line of coordinate headings is missing; the frame in its place is lost",
+     "The sixth line of the file, at the latest, is the first frame."},
+};
+
+// Counts the oddities of the header and the columns, and keeps the first of each kind.
+class Listener final : public orvane::TRCReadObserver {
+ public:
+  void OnOddity(TRCOddity oddity, orvane::TRCPlace place, std::string_view text) override {
+    const auto [found, is_new] = heard_.try_emplace(oddity, Heard{place, "", 0});
+    if (is_new) found->second.text = text.substr(0, kLongestText);
+    ++found->second.count;
+  }
+  bool WatchesFrames() const override { return false; }
+
+  std::vector<Complaint> Complaints(const std::string& file) const {
+    std::vector<Complaint> complaints;
+    for (const Note& note : kNotes) {
+      const auto found = heard_.find(note.oddity);
+      if (found == heard_.end()) continue;
+      complaints.push_back({file, note.text + Details(found->second), note.advice});
+    }
+    return complaints;
+  }
+
+ private:
+  struct Heard {
+    orvane::TRCPlace place;
+    std::string text;
+    std::int64_t count = 0;
+  };
+
+  static constexpr std::size_t kLongestText = 40;
+
+  static std::string Details(const Heard& heard) {
+    std::string details = heard.text.empty() ? "" : ": \"" + heard.text + "\"";
+    details += " (line " + FormatInt(static_cast<std::int64_t>(heard.place.line));
+    if (heard.place.column > 0) {
+      details += ", column " + FormatInt(static_cast<std::int64_t>(heard.place.column));
+    }
+    if (heard.count > 1) details += ", the first of " + FormatInt(heard.count);
+    return details + ")";
+  }
+
+  std::map<TRCOddity, Heard> heard_;
+};
+
+FrameCounts CountFrames(const orvane::TRCDocument& document) {
+  const auto held = static_cast<std::int64_t>(document.MarkerAt(0)->SampleCount());
+  return {document.NumFrames(), held, held};
+}
+
+// So many keys are always made. Beyond them, a file that is shorter than a byte for each key has
+// lines that lack most of its columns.
+constexpr std::int64_t kKeysAlwaysMade = 5'000'000;
+
+void RequireProportion(const std::string& file, const orvane::TRCDocument& document,
+                       const std::vector<ControlWish>& wishes) {
+  const std::int64_t frames = FramesInRange(wishes).value_or(document.NumFrames());
+  const std::int64_t most_keys =
+      std::max(kKeysAlwaysMade, static_cast<std::int64_t>(std::filesystem::file_size(file)));
+  if (frames <= most_keys / std::int64_t{document.MarkerCount()}) return;
+  throw Failure{ExitStatus::kRefused,
+                {{file,
+                  "The file is far too short for " + FormatInt(frames) + " frames of " +
+                      FormatInt(document.MarkerCount()) + " markers",
+                  "Do its lines hold all columns? --range FROM:TO imports a part of them."}}};
+}
+
+}  // namespace
+
+std::vector<Complaint> InspectTrc(const std::string& file, const std::vector<ControlWish>& wishes) {
+  orvane::TRCDocument document;
+  Listener listener;
+  if (!document.Read(file, false, &listener).empty()) return {};
+  if (document.MarkerCount() == 0) {
+    throw Failure{ExitStatus::kRefused, {ComplainAbout(file, kNoMarkers)}};
+  }
+  std::vector<Complaint> complaints = listener.Complaints(file);
+  const auto counts = CompareFrameCounts(file, CountFrames(document), wishes);
+  RequireProportion(file, document, wishes);
+  if (counts) complaints.push_back(*counts);
+  return complaints;
+}
+
+}  // namespace cli

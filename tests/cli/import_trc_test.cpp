@@ -1,0 +1,219 @@
+#include "tests/cli/orvane_test.h"
+#include "tests/cli/scene_file.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::Replaced;
+using test::SceneFile;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TrcText TwoMarkers() {
+  TrcText text{.markers = {"LFHD", "RFHD"},
+               .frames = {{"1000\t2000\t3000", "0\t0\t0"}, {"", "1\t1\t1"}, {"1\t2\t3", ""}}};
+  text.data_rate = "120";
+  return text;
+}
+
+class ImportTrcTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Import(const std::vector<std::string>& flags = {},
+                       const std::string& file = "walk.trc") const {
+    std::vector<std::string> arguments = {"import", file, "-o", "walk.glb"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  ProgramResult ImportText(const std::string& bytes,
+                           const std::vector<std::string>& flags = {}) const {
+    Write("walk.trc", bytes);
+    return Import(flags);
+  }
+
+  SceneFile Scene() const { return SceneFile(folder_.File("walk.glb")); }
+};
+
+TEST_F(ImportTrcTest, MakesANodeForEachMarker) {
+  const ProgramResult result = ImportText(TwoMarkers().Text());
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, HasSubstr("Imported walk.trc\n  Nodes   2\n  Keys    6\n"));
+  EXPECT_THAT(result.output, HasSubstr("Frames  1 to 4 at 120 frames per second"));
+  EXPECT_THAT(Scene().NodeNames(), testing::IsSupersetOf({"LFHD", "RFHD"}));
+  EXPECT_THAT(Scene().Position("LFHD", 0), ElementsAre(1.0, 2.0, 3.0));
+  EXPECT_THAT(Scene().Position("LFHD", 1), ElementsAre(0.0, 0.0, 0.0));
+}
+
+TEST_F(ImportTrcTest, EveryFlagIsAControlOfTheDialog) {
+  ASSERT_EQ(ImportText(TwoMarkers().Text(), {"--create", "--point", "--root-node", "--size", "2",
+                                             "--range", "1:2", "--offset", "3", "--scale", "2",
+                                             "--frame-rate", "keep", "--no-selected-only"})
+                .status,
+            2);  // a cloud that is created has no selected items
+  ASSERT_EQ(Import({"--create", "--point", "--root-node", "--size", "2", "--range", "1:2",
+                    "--offset", "3", "--scale", "2", "--frame-rate", "keep"})
+                .status,
+            0);
+  const std::string scene = Orvane({"scene", "walk.glb"}).output;
+  EXPECT_THAT(scene, HasSubstr("TRCCloud"));
+  EXPECT_THAT(Scene().Position("LFHD", 0), ElementsAre(2.0, 4.0, 6.0));
+  EXPECT_THAT(Import({"--sphere", "--all", "--force"}).output, HasSubstr("Keys    6\n"));
+}
+
+TEST_F(ImportTrcTest, AppliesToObjectsOfAScene) {
+  ASSERT_EQ(ImportText(TwoMarkers().Text()).status, 0);
+  const ProgramResult result =
+      Orvane({"import", "walk.trc", "--into", "walk.glb", "--select", "LFHD", "--apply",
+              "--selected-only", "--offset", "10", "-o", "more.glb", "--quiet"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(SceneFile(folder_.File("more.glb")).NodeNames(),
+              testing::Not(testing::Contains("LFHD001")));
+}
+
+TEST_F(ImportTrcTest, AFlagOfTheOtherDialogIsWrongUsage) {
+  EXPECT_EQ(ImportText(TwoMarkers().Text(), {"--tcb"}).error,
+            "orvane: --tcb: the dialog \"ImportTRC\" has no such control\n");
+  Write("walk.htr", test::SmallMotion());
+  const ProgramResult result = Import({"--point"}, "walk.htr");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: --point: the dialog \"ImportHTR\" has no such control\n");
+}
+
+TEST_F(ImportTrcTest, ADisabledControlIsWrongUsage) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--apply", "--root-node"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error,
+            "orvane: --root-node: the dialog has this control disabled while \"Apply\" is chosen; "
+            "--create enables it\n");
+  EXPECT_EQ(Import({"--selected-only"}).error,
+            "orvane: --selected-only: the dialog has this control disabled while \"Create\" is "
+            "chosen; --apply enables it\n");
+}
+
+TEST_F(ImportTrcTest, TheUserMaySayWhatAFileIs) {
+  Write("walk.txt", TwoMarkers().Text());
+  EXPECT_EQ(Import({}, "walk.txt").status, 2);
+  EXPECT_EQ(Import({"--as", "trc"}, "walk.txt").status, 0);
+  Write("walk.TRC", TwoMarkers().Text());
+  EXPECT_EQ(Import({"--as", "trc", "--force"}, "walk").status, 0);
+  EXPECT_EQ(Import({"--as", "htr", "--force"}, "walk.TRC").status, 1);
+}
+
+// --- What is said of a file ---
+
+TEST_F(ImportTrcTest, MoreAnnouncedThanHeldIsAWarning) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 900;
+  const ProgramResult result = ImportText(text.Text());
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 900 frames, but the file holds 3\n"
+            "  Missing frames are set to zero; --range FROM:TO leaves them out.\n");
+  EXPECT_EQ(Import({"--strict", "--force"}).status, 1);
+}
+
+TEST_F(ImportTrcTest, FarMoreAnnouncedThanHeldIsRefused) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 2'147'483'647;
+  const ProgramResult result = ImportText(text.Text());
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 2147483647 frames, but the file holds 3\n"
+            "  Is \"NumFrames\" right? --range FROM:TO imports a part of them.\n");
+  EXPECT_FALSE(Exists("walk.glb"));
+  EXPECT_EQ(Import({"--range", "1:3"}).status, 0);
+}
+
+TEST_F(ImportTrcTest, BlankLinesForManyMarkersAreRefused) {
+  TrcText text;
+  for (int index = 0; index < 1000; ++index) text.markers.push_back("m" + std::to_string(index));
+  text.frame_count = 90'000;
+  const ProgramResult result = ImportText(text.Text() + std::string(90'000, '\n'));
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The file is far too short for 90000 frames of 1000 markers\n"
+            "  Do its lines hold all columns? --range FROM:TO imports a part of them.\n");
+}
+
+struct Warning {
+  const char* name;
+  std::string from;
+  std::string to;
+  std::string text;
+};
+
+class TrcWarningTest : public ImportTrcTest, public testing::WithParamInterface<Warning> {};
+
+TEST_P(TrcWarningTest, TellsWhatTheImportMakesOfIt) {
+  const ProgramResult result =
+      ImportText(Replaced(TwoMarkers().Text(), GetParam().from, GetParam().to));
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, HasSubstr("orvane: walk.trc: " + GetParam().text + "\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Oddities, TrcWarningTest,
+    testing::Values(
+        Warning{"UnknownUnit", "\tmm\t", "\tMm\t",
+                "The unit is unknown and taken as millimetres: \"Mm\" (line 3, column 5)"},
+        Warning{"RateOf0", "120\t60\t", "120\t0\t",
+                "A rate is not positive: \"0\" (line 3, column 2)"},
+        Warning{"LastNameLost", "RFHD\t\t\t\n", "RFHD\n",
+                "The last name has no tab behind it and makes no marker: \"RFHD\" (line 4, column "
+                "6)"},
+        Warning{"UnnamedColumn", "LFHD", "Unnamed 1",
+                "An unnamed column makes no marker, and its values go to the next one: \"Unnamed "
+                "1\" (line 4, column 3)"},
+        Warning{"RepeatedName", "RFHD", "LFHD",
+                "A repeated name makes no marker, and the values of its column go to the next one: "
+                "\"LFHD\" (line 4, column 6)"},
+        Warning{"NoSubHeader", "\t\tX1\tY1\tZ1\tX2\tY2\tZ2\n\n", "",
+                "The line of coordinate headings is missing; the frame in its place is lost: \"1\" "
+                "(line 5, column 1)"},
+        Warning{"MarkerCount", "3\t2\tmm", "3\t7\tmm",
+                "The header announces another number of markers, which does not count: \"7\" (line "
+                "4)"}),
+    [](const auto& warning) { return warning.param.name; });
+
+TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {
+  const ProgramResult commas = ImportText("PathFileType,4,(X/Y/Z),walk.trc\n");
+  EXPECT_EQ(commas.status, 1);
+  EXPECT_EQ(
+      commas.error,
+      "orvane: walk.trc: The file is does not have a compatible \"(X/Y/Z)\" header state\n"
+      "  The first line of a TRC file is PathFileType, a number, (X/Y/Z) and a file name, with "
+      "tabs between them.\n");
+  const ProgramResult empty = ImportText("");
+  EXPECT_EQ(empty.status, 1);
+  EXPECT_EQ(
+      empty.error,
+      "orvane: walk.trc: The file holds no markers\n"
+      "  Is it a TRC file? The fourth line names the markers, with three tabs behind each.\n");
+  EXPECT_EQ(Import({}, "missing.trc").status, 3);
+  EXPECT_FALSE(Exists("walk.glb"));
+}
+
+TEST_F(ImportTrcTest, OddRatesDoNotStopIt) {
+  for (const char* rate : {"0", "-5", "59.94", "abc", "99999999999"}) {
+    TrcText text = TwoMarkers();
+    text.data_rate = rate;
+    EXPECT_EQ(ImportText(text.Text(), {"--force"}).status, 0) << rate;
+  }
+}
+
+TEST_F(ImportTrcTest, EveryLineEndWorks) {
+  for (const char* line_end : {"\n", "\r\n", "\r\r\n"}) {
+    TrcText text = TwoMarkers();
+    text.line_end = line_end;
+    const ProgramResult result = ImportText(text.Text(), {"--force"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.error, IsEmpty());
+    EXPECT_THAT(result.output, HasSubstr("Keys    6\n"));
+  }
+}
+
+}  // namespace
