@@ -1,10 +1,10 @@
 #!/usr/bin/env python3
-"""Measures the program as a whole: seconds, time for each frame of a segment, and peak memory,
+"""Measures the program as a whole: seconds, time for each frame of a segment or marker, and peak memory,
 also in times of the file's size.
 
 Usage: measure_program.py BUILD_FOLDER
 
-First on a long motion; then on files of rising size, where the time for each frame of a segment
+First on a long motion and on a marker file; then on files of rising size, where the time for each frame of a segment
 should not rise. Of several runs the fastest is shown, with the seconds of the processor that it
 took beside those of the clock, because other work on the machine makes a run slower, never faster.
 """
@@ -18,6 +18,7 @@ import time
 
 RUNS = 3
 LONG = (60, 10_000, "tree")
+MARKERS = (60, 36_000, "trc")
 BY_SEGMENTS = [(count, 2, shape) for shape in ("chain", "fan") for count in (1000, 10_000, 100_000)]
 BY_FRAMES = [(10, count, "tree") for count in (1000, 10_000, 100_000)]
 
@@ -40,12 +41,18 @@ class Bench:
     def __init__(self, build, folder):
         self.build = build
         self.program = str(build / "bin" / "orvane")
+        self.folder = folder
         self.motion = os.path.join(folder, "motion.htr")
         self.scene = os.path.join(folder, "scene.glb")
 
     def write_motion(self, size):
         writer = str(self.build / "bench" / "write_motion")
+        self.motion = os.path.join(self.folder, "motion.htr")
         subprocess.run([writer, self.motion, *map(str, size)], check=True)
+
+    def write_markers(self):
+        self.motion = os.path.join(self.folder, "markers.trc")
+        subprocess.run([str(self.build / "bench" / "write_markers"), self.motion], check=True)
 
     def measure(self, name, size, command):
         """Prints one row."""
@@ -75,6 +82,9 @@ def main(build):
         bench.info(LONG)
         bench.make_import("import", LONG)
         bench.make_import("at 30 fps", LONG, "--frame-rate", "keep")  # 160 ticks are cleared a frame
+        bench.write_markers()
+        bench.info(MARKERS)
+        bench.make_import("import", MARKERS)
         for size in BY_SEGMENTS + BY_FRAMES:
             bench.write_motion(size)
             bench.make_import("import", size)
