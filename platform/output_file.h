@@ -32,6 +32,10 @@ class OutputFile {
   // text, or what went wrong in the system's words. Call it once.
   std::string Write(std::string_view bytes);
 
+  // As Write, but with the bytes of the finished file `path`, which lies on the same disk and is
+  // this object's from now on.
+  std::string TakeOver(const std::string& path);
+
   // Gives what Write has written its name. An existing file is replaced in one step when that is
   // allowed, and kept otherwise, even one that has appeared in the meantime. Returns an empty text,
   // or what went wrong in the system's words; the file's place is then as it was.
@@ -40,6 +44,8 @@ class OutputFile {
  private:
   std::string CreateAside();
   std::string FillAside(std::string_view bytes);
+  std::string TakePermissions() const;
+  std::string Finish() const;
   void Close();
 
   std::string path_;

@@ -115,6 +115,15 @@ std::string OutputFile::Write(std::string_view bytes) {
   return error;
 }
 
+std::string OutputFile::TakeOver(const std::string& path) {
+  file_ = open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
+  if (file_ < 0) return LastError();
+  aside_ = path;
+  std::string error = TakePermissions();
+  if (error.empty()) error = Finish();
+  return error;
+}
+
 std::string OutputFile::CreateAside() {
   const std::string folder = FolderOf(path_);
   RemoveAbandonedFiles(folder);
@@ -131,11 +140,14 @@ std::string OutputFile::CreateAside() {
       Close();
     }
   }
+  return TakePermissions();
+}
+
+// Those of the file that is replaced.
+std::string OutputFile::TakePermissions() const {
   struct stat existing {};
-  if (stat(path_.c_str(), &existing) == 0 && fchmod(file_, existing.st_mode & 07777) != 0) {
-    return LastError();
-  }
-  return "";
+  const bool exists = stat(path_.c_str(), &existing) == 0;
+  return exists && fchmod(file_, existing.st_mode & 07777) != 0 ? LastError() : "";
 }
 
 std::string OutputFile::FillAside(std::string_view bytes) {
@@ -144,8 +156,10 @@ std::string OutputFile::FillAside(std::string_view bytes) {
     if (written < 0) return LastError();
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  return fsync(file_) == 0 ? "" : LastError();
+  return Finish();
 }
+
+std::string OutputFile::Finish() const { return fsync(file_) == 0 ? "" : LastError(); }
 
 std::string OutputFile::Deliver() {
   const int result =

@@ -66,6 +66,29 @@ TEST_F(OutputFileTest, ReplacesAnExistingFileOnlyOnDelivery) {
   EXPECT_EQ(ReadFile(path_), "new");
 }
 
+TEST_F(OutputFileTest, DeliversAFileThatSomebodyElseHasWritten) {
+  const std::string made = folder_.Write("made", "bytes");
+  OutputFile file(path_, false);
+  EXPECT_EQ(file.TakeOver(made), "");
+  EXPECT_FALSE(std::filesystem::exists(path_));
+  EXPECT_EQ(file.Deliver(), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+  EXPECT_EQ(ReadFile(path_), "bytes");
+}
+
+TEST_F(OutputFileTest, RemovesWhatItHasTakenOverAndNotDelivered) {
+  {
+    OutputFile file(path_, false);
+    EXPECT_EQ(file.TakeOver(folder_.Write("made", "bytes")), "");
+  }
+  EXPECT_THAT(NamesIn(folder_.Path()), IsEmpty());
+}
+
+TEST_F(OutputFileTest, CannotTakeOverWhatIsNotThere) {
+  OutputFile file(path_, false);
+  EXPECT_EQ(file.TakeOver(folder_.File("made")), "No such file or directory");
+}
+
 TEST_F(OutputFileTest, TwoAtATimeDoNotMeet) {
   OutputFile first(path_, true);
   OutputFile second(path_, true);

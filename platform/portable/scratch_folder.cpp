@@ -1,0 +1,80 @@
+#include "platform/scratch_folder.h"
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <system_error>
+
+namespace platform {
+namespace {
+
+constexpr char kPrefix[] = ".orvane-folder-";
+
+int OpenFolder(const std::string& path) {
+  return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+}
+
+bool Lock(int folder) { return flock(folder, LOCK_EX | LOCK_NB) == 0; }
+
+// Removes the folder unless somebody holds its lock.
+void RemoveUnlocked(const std::string& path) {
+  const int folder = OpenFolder(path);
+  if (folder < 0) return;
+  std::error_code ignored;
+  if (Lock(folder)) std::filesystem::remove_all(path, ignored);
+  close(folder);
+}
+
+void RemoveAbandonedFolders(const std::string& parent) {
+  std::error_code error;
+  std::filesystem::directory_iterator entry(parent, error);
+  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
+    const std::string name = entry->path().filename().string();
+    if (name.rfind(kPrefix, 0) == 0) RemoveUnlocked(entry->path().string());
+  }
+}
+
+}  // namespace
+
+ScratchFolder::ScratchFolder(const std::string& parent) {
+  std::error_code error;
+  const std::string folder = std::filesystem::canonical(parent, error).string();
+  if (error) {
+    error_ = error.message();
+    return;
+  }
+  RemoveAbandonedFolders(folder);
+  const std::string stem = folder + "/" + kPrefix + std::to_string(getpid()) + "-";
+  for (int attempt = 0; path_.empty() && error_.empty(); ++attempt) {
+    const std::string path = stem + std::to_string(attempt);
+    if (Make(path)) path_ = path;
+  }
+}
+
+ScratchFolder::~ScratchFolder() {
+  std::error_code ignored;  // nobody is there to be told
+  if (!path_.empty()) std::filesystem::remove_all(path_, ignored);
+  if (lock_ >= 0) close(lock_);
+}
+
+// Returns false, perhaps with an error, when the folder was not made, or when somebody took it for
+// an abandoned one before it was locked. On file systems without locks nobody does.
+bool ScratchFolder::Make(const std::string& path) {
+  if (mkdir(path.c_str(), 0700) != 0) {
+    if (errno != EEXIST) error_ = std::generic_category().message(errno);
+    return false;
+  }
+  lock_ = OpenFolder(path);
+  struct stat status {};
+  const bool is_taken = lock_ >= 0 && !Lock(lock_) && errno == EWOULDBLOCK;
+  if (lock_ >= 0 && !is_taken && fstat(lock_, &status) == 0 && status.st_nlink > 0) return true;
+  if (lock_ >= 0) close(lock_);
+  lock_ = -1;
+  return false;
+}
+
+}  // namespace platform

@@ -1,0 +1,35 @@
+#pragma once
+
+#include <cstddef>
+#include <functional>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Pieces of work that run at the same time, each in a process of its own.
+
+namespace platform {
+
+// How many processors there are to work on; at least 1.
+std::size_t ProcessorCount();
+
+struct SideBySide {
+  // Does piece number `index`, counted from 0, and returns its result as bytes. Runs in a new
+  // process, which has a copy of everything and shares nothing; an exception ends it without a
+  // result.
+  std::function<std::string(std::size_t index)> work;
+
+  // Called in this process when a piece has ended.
+  std::function<void(std::size_t index)> ended = [](std::size_t) {};
+};
+
+// Runs `count` pieces, no more than `processes` (1 or more) at the same time, and returns their
+// results in the order of the pieces, nothing for one that ended without. A piece for which there
+// is no process to be had is done in this one, while it waits for the others.
+//
+// The user's wish to stop (platform/interrupt.h) is passed on: running pieces find it with
+// Interrupted, and no others are begun.
+std::vector<std::optional<std::string>> RunSideBySide(std::size_t count, std::size_t processes,
+                                                      const SideBySide& pieces);
+
+}  // namespace platform
