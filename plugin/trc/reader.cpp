@@ -15,6 +15,7 @@
 #include "plugin/trc/document.h"
 #include "plugin/trc/fields.h"
 #include "plugin/trc/header_lines.h"
+#include "plugin/trc/line_rules.h"
 #include "plugin/trc/oddities.h"
 
 // Reading of marker files.
@@ -24,24 +25,9 @@ namespace {
 constexpr const char* kNotOpened = "The file could not be opened";
 constexpr const char* kTooLong = "vector<T> too long";
 
-// The lines of a file, counted from 0. All behind these are frames.
-constexpr std::size_t kFileTypeLine = 0;
-constexpr std::size_t kHeaderNamesLine = 1;
-constexpr std::size_t kHeaderValuesLine = 2;
-constexpr std::size_t kMarkerNamesLine = 3;
-constexpr std::size_t kSubHeaderLine = 4;
-constexpr std::size_t kPerhapsBlankLine = 5;
-
 // The text of the shortest sample, three digits and three tabs. The room that is made beforehand
 // keeps in proportion to the file thereby, whatever its header announces.
 constexpr std::size_t kShortestSample = 6;
-
-// A comment, or a line without any character, not even a line break, as a NUL leaves it.
-bool ReplacesNextLine(const Line& line) {
-  return line.text.starts_with('#') || (line.text.empty() && !line.ends_with_break);
-}
-
-bool IsBreakAlone(const Line& line) { return line.text.empty() && line.ends_with_break; }
 
 // One pass over the bytes. Functions that return a text return an empty one, or the message that
 // ends the reading.
@@ -85,7 +71,6 @@ std::string TRCReader::Read() {
   for (std::size_t number = 0; lines_.Next(line); ++number) {
     oddities_.SetLine(line.number);
     oddities_.ReportIf(line.text.size() == kLongestPiece, TRCOddity::kLongLine, 0, line.text);
-    // Intended: a comment is no comment, but takes the place of the line behind it.
     if (ReplacesNextLine(line)) {
       oddities_.Report(TRCOddity::kCommentReplacesLine, 0, line.text);
       Line thrown_away;
@@ -112,11 +97,8 @@ std::string TRCReader::ReadLine(const Line& line, std::size_t number) {
     case kSubHeaderLine:
       InspectSubHeader(line, oddities_);
       return {};
-    case kPerhapsBlankLine:
-      if (!IsBreakAlone(line)) ReadFrame(line);
-      return {};
     default:
-      ReadFrame(line);
+      if (IsFrame(line, number)) ReadFrame(line);
       return {};
   }
 }

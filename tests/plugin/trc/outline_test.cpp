@@ -1,0 +1,74 @@
+#include "plugin/trc/outline.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "plugin/trc/document.h"
+#include "tests/support/trc_text.h"
+
+namespace orvane {
+namespace {
+
+std::string Repeated(const std::string& text, int count) {
+  std::string repeated;
+  for (int number = 0; number < count; ++number) repeated += text;
+  return repeated;
+}
+
+// The frames that the reader itself finds, seen by a marker whose every sample counts.
+std::size_t FramesRead(const std::string& bytes) {
+  TRCDocument document;
+  EXPECT_EQ(document.ReadBytes(bytes, false), "");
+  return document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
+}
+
+const std::string kHeader = test::TrcText{.markers = {"Head", "Toe"}, .frame_count = 7}.Header() +
+                            test::TrcText{.markers = {"Head", "Toe"}}.MarkerNames() +
+                            test::TrcText{.markers = {"Head", "Toe"}}.SubHeader();
+
+TEST(OutlineTRCTest, CountsTheFramesThatTheReaderFinds) {
+  const struct {
+    std::string frames;
+    std::size_t expected;
+  } cases[] = {
+      {"", 0},
+      {"\n", 0},
+      {"\n\n", 1},
+      {"\n1\t0\t1\t2\t3\n", 1},
+      {"1\t0\t1\t2\t3\n", 1},
+      {"1\t0\t1\t2\t3", 1},
+      {"\r\n1\t0\r\n2\t0\r\n", 2},
+      {"\n1\n2\n#\n3\n4\n", 4},
+      {"#\n1\n2\n", 2},
+      {"\n1\n#", 2},
+      {"\n" + std::string(20'000, '5') + "\n", 2},
+      {"\n1\n" + std::string(1, '\0') + "\n3\n", 2},
+      {Repeated("1\t0\t1\t2\t3\n", 1000), 1000},
+  };
+  for (const auto& example : cases) {
+    const std::string bytes = kHeader + example.frames;
+    EXPECT_EQ(OutlineTRC(bytes).frames, example.expected) << example.frames.substr(0, 40);
+    EXPECT_EQ(FramesRead(bytes), example.expected) << example.frames.substr(0, 40);
+  }
+}
+
+TEST(OutlineTRCTest, HandsOutTheHeader) {
+  EXPECT_EQ(OutlineTRC(kHeader + "\n1\t0\n").header, kHeader);
+  EXPECT_EQ(OutlineTRC(kHeader + "1\t0\n").header, kHeader);
+  EXPECT_EQ(OutlineTRC(kHeader).header, kHeader);
+  EXPECT_EQ(OutlineTRC("a poem\n").header, "a poem\n");
+  EXPECT_EQ(OutlineTRC("").header, "");
+  EXPECT_EQ(OutlineTRC("").frames, 0u);
+}
+
+TEST(OutlineTRCTest, HeaderMakesADocumentWithMarkersAndWithoutFrames) {
+  const std::string bytes = kHeader + "\n1\t0\t1\t2\t3\n";
+  TRCDocument document;
+  EXPECT_EQ(document.ReadBytes(OutlineTRC(bytes).header, false), "");
+  EXPECT_EQ(document.MarkerCount(), 2u);
+  EXPECT_EQ(document.NumFrames(), 7);
+}
+
+}  // namespace
+}  // namespace orvane
