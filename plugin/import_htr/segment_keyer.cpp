@@ -87,11 +87,11 @@ double SegmentKeyer::TranslationFactor() {
 bool SegmentKeyer::KeyTranslation(TimeValue time, const Vector3& translation, double factor) {
   const Vector3 scaled(translation.x() * factor, translation.y() * factor,
                        translation.z() * factor);
-  return SetPosition(position_, time, axes_.Position(scaled));
+  return SetPosition(position_, time, axes_.HostPosition(scaled));
 }
 
 bool SegmentKeyer::KeyRotation(TimeValue time, const RotationMatrix3& rotation) {
-  return SetRotation(rotation_, time, Quaternion(axes_.Rotation(rotation)));
+  return SetRotation(rotation_, time, Quaternion(axes_.HostRotation(rotation)));
 }
 
 }  // namespace orvane

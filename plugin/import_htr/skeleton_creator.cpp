@@ -27,13 +27,13 @@ bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   node.SetUserPropertyFloat(kBaseTranslationY, static_cast<float>(translation.y()));
   node.SetUserPropertyFloat(kBaseTranslationZ, static_cast<float>(translation.z()));
   // Intended: the global scale, which sizes bones and keyed translations, does not enter here.
-  if (!SetPosition(PositionController(node), time, axes.Position(translation))) return false;
+  if (!SetPosition(PositionController(node), time, axes.HostPosition(translation))) return false;
 
   EulerRotation rotation = segment.GetBaseRotation();
   node.SetUserPropertyFloat(kBaseRotationX, static_cast<float>(rotation[0]));
   node.SetUserPropertyFloat(kBaseRotationY, static_cast<float>(rotation[1]));
   node.SetUserPropertyFloat(kBaseRotationZ, static_cast<float>(rotation[2]));
-  rotation.Set(axes.Rotation(RotationMatrix3(rotation)));
+  rotation.Set(axes.HostRotation(RotationMatrix3(rotation)));
   if (!SetRotation(RotationController(node), time, Quaternion(rotation))) return false;
 
   node.SetUserPropertyFloat(kBaseLength, static_cast<float>(segment.GetBoneLength()));
