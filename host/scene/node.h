@@ -13,6 +13,7 @@
 #include "host/scene/child_list.h"
 #include "host/scene/name_table.h"
 #include "host/scene/scene_object.h"
+#include "host/scene/world_memory.h"
 #include "platform/export.h"
 #include "sdk/core/node.h"
 
@@ -25,6 +26,7 @@ using UserProperties = std::map<std::string, float>;
 struct NodeEnvironment {
   const AnimationState& animation;
   NameTable& names;
+  WorldMemory& worlds;
   MisuseLog& misuse;
 };
 
@@ -76,7 +78,7 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   const std::optional<TimeValue>& BoneSince() const { return bone_since_; }
 
   // The transform within the parent, and in the world. The world transforms of a path through the
-  // tree are kept until something on it changes or another time is asked for.
+  // tree are kept until something on it changes.
   Matrix3 LocalTransform(TimeValue time) const;
   Matrix3 WorldTransform(TimeValue time) const;
 
@@ -123,6 +125,10 @@ class SKELDER_API Node final : public INode, private ChangeListener {
 
   void ControllerChanged() override { ForgetWorld(); }
 
+  // The world transform at `time` if it is kept, null otherwise. Valid until the next is kept.
+  const Matrix3* KeptWorld(TimeValue time) const;
+  void KeepWorld(TimeValue time, const Matrix3& transform) const;
+
   // Forgets the world transforms of this node and of all nodes below.
   void ForgetWorld();
 
@@ -150,8 +156,8 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   int bone_display_ = 1;
   std::optional<TimeValue> bone_since_;
 
-  // The world transform at one time. While it is known, so are those of all nodes above, though
-  // perhaps for other times.
+  // The world transform at the time that was asked for last; those before it are in the memory of
+  // the scene. While it is known, so are those of all nodes above, though perhaps for other times.
   struct KnownWorld {
     TimeValue time;
     Matrix3 transform;

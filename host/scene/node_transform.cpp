@@ -23,19 +23,29 @@ Matrix3 Node::LocalTransform(TimeValue time) const {
 }
 
 Matrix3 Node::WorldTransform(TimeValue time) const {
-  const auto is_known = [time](const Node& node) {
-    return node.world_.has_value() && node.world_->time == time;
-  };
   std::vector<const Node*> unknown;
-  const Node* node = this;
-  for (; node != nullptr && !is_known(*node); node = node->parent_) unknown.push_back(node);
-
-  Matrix3 world = node == nullptr ? Matrix3() : node->world_->transform;
+  const Matrix3* kept = nullptr;
+  for (const Node* node = this; node != nullptr; node = node->parent_) {
+    kept = node->KeptWorld(time);
+    if (kept != nullptr) break;
+    unknown.push_back(node);
+  }
+  Matrix3 world = kept == nullptr ? Matrix3() : *kept;
   for (auto next = unknown.rbegin(); next != unknown.rend(); ++next) {
     world = (*next)->LocalTransform(time) * world;
-    (*next)->world_ = KnownWorld{time, world};
+    (*next)->KeepWorld(time, world);
   }
-  return world_->transform;
+  return world;
+}
+
+const Matrix3* Node::KeptWorld(TimeValue time) const {
+  if (!world_.has_value()) return nullptr;
+  return world_->time == time ? &world_->transform : environment_.worlds.Find(*this, time);
+}
+
+void Node::KeepWorld(TimeValue time, const Matrix3& transform) const {
+  if (world_.has_value()) environment_.worlds.Keep(*this, world_->time, world_->transform);
+  world_ = KnownWorld{time, transform};
 }
 
 // Where a world transform is not known, none below it is: forgetting stops there.
@@ -47,6 +57,7 @@ void Node::ForgetWorld() {
     pending.pop_back();
     if (!node->world_.has_value()) continue;
     node->world_.reset();
+    environment_.worlds.Forget(*node);
     pending.insert(pending.end(), node->Children().begin(), node->Children().end());
   }
 }
@@ -58,7 +69,7 @@ Matrix3 Node::NodeTransform(TimeValue time) {
 Matrix3 Node::ObjectTransform(TimeValue time) {
   if (!IsUsable("ObjectTransform")) return {};
   const Matrix3 world = WorldTransform(time);
-  return object_offset_.has_value() ? *object_offset_ * world : world;
+  return object_offset_.has_value() && !IsRoot() ? *object_offset_ * world : world;
 }
 
 void Node::Move(TimeValue time, const Matrix3& axes, const Point3& offset, bool local_origin,

@@ -55,6 +55,7 @@ void Node::AddChild(Node& child) {
 }
 
 void Node::Retire() {
+  ForgetWorld();
   const std::vector<Node*> orphans = Children();
   for (Node* child : orphans) {
     ConvertLocal(*child->transform_, environment_.animation.Time(), [&](TimeValue time) {

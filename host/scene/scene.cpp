@@ -12,7 +12,7 @@ Scene::~Scene() = default;
 
 ControllerEnvironment Scene::Controllers() { return {animation_.AnimateMode(), faults_, pool_}; }
 
-NodeEnvironment Scene::Nodes() { return {animation_, names_, misuse_}; }
+NodeEnvironment Scene::Nodes() { return {animation_, names_, worlds_, misuse_}; }
 
 ClassInstance* Scene::CreateInstance(SuperClassId super_class, ClassId class_id) {
   return host::CreateInstance(Controllers(), super_class, class_id);

@@ -12,6 +12,7 @@
 #include "host/scene/name_table.h"
 #include "host/scene/node.h"
 #include "host/scene/node_selection.h"
+#include "host/scene/world_memory.h"
 #include "platform/export.h"
 
 namespace host {
@@ -94,6 +95,7 @@ class SKELDER_API Scene {
   AnimationState animation_;
   ControllerFaults faults_;
   NameTable names_;
+  WorldMemory worlds_;
 
   // By handle, which is the index and 1. Deleted nodes stay as shells.
   std::vector<std::unique_ptr<Node>> nodes_;

@@ -49,6 +49,21 @@ TEST_F(LargeSceneTest, EvaluatesEachParentWhileAChainIsKeyed) {
   EXPECT_EQ(depth, kMany);
 }
 
+// As an export does: each node is followed through time, and then the next is.
+TEST_F(LargeSceneTest, FollowsEachNodeOfAChainThroughTime) {
+  NewChain();
+  float depth = 0;
+  for (Node* node = scene_.Root().Children().front();; node = node->Children().front()) {
+    ++depth;
+    for (const TimeValue time : {0, 160, 320}) {
+      ASSERT_EQ(node->NodeTransform(time).GetRow(3).x, depth);
+      ASSERT_EQ(node->GetParentNode()->NodeTransform(time).GetRow(3).x, depth - 1);
+    }
+    if (node->Children().empty()) break;
+  }
+  EXPECT_EQ(depth, static_cast<float>(kMany));
+}
+
 // As a failing import does: from the end of the chain up, each node is deleted and what is left
 // below goes to the next.
 TEST_F(LargeSceneTest, DeletesAChainFromItsEnd) {

@@ -143,6 +143,21 @@ TEST_F(NodeTransformTest, AMoveMakesAKeyWhileAnimateIsOn) {
   EXPECT_EQ(node->Transform()->Position().KeyValue(0), Point3(2, 0, 0));
 }
 
+TEST_F(NodeTransformTest, FollowsAChangeAboveItAtEveryTimeThatItWasAskedFor) {
+  Node* hips = NewBone("Hips");
+  Node* chest = NewBone("Chest", hips);
+  for (const TimeValue time : {0, 1, 2}) EXPECT_EQ(WorldPosition(chest, time), Point3());
+  Place(hips, Point3(1, 0, 0));
+  for (const TimeValue time : {2, 1, 0}) EXPECT_EQ(WorldPosition(chest, time), Point3(1, 0, 0));
+  NewBone("Group")->AttachChild(chest, false);
+  for (const TimeValue time : {0, 1, 2}) EXPECT_EQ(WorldPosition(chest, time), Point3());
+}
+
+TEST_F(NodeTransformTest, NoObjectOfTheRootIsOffset) {
+  scene_.Root().SetObjectOffset(Matrix3({1, 0, 0}, {0, 1, 0}, {0, 0, 1}, {5, 0, 0}));
+  EXPECT_EQ(scene_.Root().ObjectTransform(0), Matrix3());
+}
+
 TEST_F(NodeTransformTest, ChildrenFollowAMove) {
   Node* hips = NewBone("Hips");
   Node* chest = NewBone("Chest", hips);
