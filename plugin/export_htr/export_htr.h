@@ -1,18 +1,23 @@
 #pragma once
 
+#include "plugin/export_htr/options.h"
+#include "plugin/htr/document.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/product.h"
+#include "sdk/core/cstr.h"
+#include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"
 
-// The exporter of motion files as the host sees it. So far it only says what it is: exporting is
-// refused with a message.
+// The exporter of motion files as the host sees it: what it says about itself, and the order of
+// work of one export. Choosing and sampling the skeleton is done elsewhere in this folder.
 namespace orvane {
 
 class ExportHTR final : public SceneExport {
  public:
-  // `messages` is the module's and outlives this object. `module` owns the dialogs.
-  ExportHTR(MessageSink& messages, HINSTANCE module) : messages_(messages), module_(module) {}
+  // `options` and `messages` are the module's and outlive this object. `module` owns the dialogs.
+  ExportHTR(ExportHTROptions& options, MessageSink& messages, HINSTANCE module)
+      : options_(options), messages_(messages), module_(module) {}
 
   int ExtCount() override { return 1; }
   const char* Ext(int /*n*/) override { return "HTR"; }
@@ -25,13 +30,32 @@ class ExportHTR final : public SceneExport {
   unsigned Version() override { return kClassVersion; }
   void ShowAbout(HWND owner) override { ShowAboutDialog(module_, owner); }
 
-  // Tells the user that there is no exporter yet and returns 0.
+  // Exports the selected skeleton to the motion file `name`, with the options dialog unless
+  // `suppress_prompts` is not 0. Returns 1 when the export is done or the dialog was cancelled, 0
+  // when it was refused or failed; refusals have been reported.
+  // Animation and set-key mode are suspended, and resumed only when the export is done.
   int DoExport(const char* name, ExpInterface* export_interface, Interface* interface,
                int suppress_prompts, std::uint32_t options) override;
 
  private:
+  enum class Outcome { kDone, kCancelled, kFailed };
+
+  int Export(bool suppress_prompts);
+  Outcome Work(bool suppress_prompts);
+  void SetFrameBounds();
+  bool ConfirmOptions();
+  bool BuildDocument();
+  std::uint32_t FrameCount() const;
+  bool WriteFile();
+
+  ExportHTROptions& options_;
   MessageSink& messages_;
   HINSTANCE module_;
+
+  // Of the export that runs.
+  CStr file_name_;
+  Interface* interface_ = nullptr;
+  HtrDocument document_;
 };
 
 }  // namespace orvane

@@ -29,6 +29,7 @@
 #define IDD_ABOUT 114
 #define IDD_UTILITIES 116
 #define IDD_MAPPING_CREATOR 117
+#define IDD_EXPORT_HTR 126
 
 /* Controls of every dialog. */
 #define IDC_OK 1097
@@ -37,7 +38,7 @@
 /* Asks for the About dialog. No options dialog shows it, but they answer it. */
 #define IDC_ABOUT 1103
 
-/* Controls of the options of the importers. */
+/* Controls of the options of the importers, some of them the exporter's too. */
 #define IDC_BASE_POSITION 1017
 #define IDC_END_EFFECTORS 1019
 #define IDC_SPARE 1023 /* in no dialog */
@@ -81,3 +82,10 @@
 #define IDC_BACK 1152
 #define IDC_SKIP 1153
 #define IDC_ABORT 1154
+
+/* Controls of the options of the HTR exporter. */
+#define IDC_SLIDER 1067
+#define IDC_EXPORT_ANIMATION 1105
+#define IDC_SAVED_POSE 1106
+#define IDC_CURRENT_POSE 1107
+#define IDC_PARENT_TRANSFORMS 1109

@@ -42,11 +42,12 @@ void* ImportHTRClassDesc::Create(bool /*loading*/) {
   return CreateAs<SceneImport, ImportHTR>(options_, messages_, platform::ModuleHandle());
 }
 
-ExportHTRClassDesc::ExportHTRClassDesc(StringTable& strings, MessageSink& messages)
-    : FileClassDesc(strings, kExportHTR), messages_(messages) {}
+ExportHTRClassDesc::ExportHTRClassDesc(StringTable& strings, MessageSink& messages,
+                                       ExportHTROptions& options)
+    : FileClassDesc(strings, kExportHTR), messages_(messages), options_(options) {}
 
 void* ExportHTRClassDesc::Create(bool /*loading*/) {
-  return CreateAs<SceneExport, ExportHTR>(messages_, platform::ModuleHandle());
+  return CreateAs<SceneExport, ExportHTR>(options_, messages_, platform::ModuleHandle());
 }
 
 ImportTRCClassDesc::ImportTRCClassDesc(StringTable& strings, MessageSink& messages,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugin/export_htr/options.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/import_trc/options.h"
 #include "plugin/shell/class_desc.h"
@@ -22,11 +23,12 @@ class ImportHTRClassDesc final : public FileClassDesc {
 
 class ExportHTRClassDesc final : public FileClassDesc {
  public:
-  ExportHTRClassDesc(StringTable& strings, MessageSink& messages);
+  ExportHTRClassDesc(StringTable& strings, MessageSink& messages, ExportHTROptions& options);
   void* Create(bool loading) override;
 
  private:
   MessageSink& messages_;
+  ExportHTROptions& options_;
 };
 
 class ImportTRCClassDesc final : public FileClassDesc {

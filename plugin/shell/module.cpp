@@ -19,6 +19,7 @@ namespace {
 
 extern orvane::ImportHTROptions import_htr_options;
 extern orvane::ImportTRCOptions import_trc_options;
+extern orvane::ExportHTROptions export_htr_options;
 
 // Constructed in this order at load and destroyed in reverse at unload: first what everybody uses,
 // then class by class the descriptor and its option record. None of it needs a host.
@@ -29,7 +30,7 @@ orvane::StringTable library_description;
 orvane::ImportHTRClassDesc import_htr_class(strings, message_sink, import_htr_options);
 orvane::ImportHTROptions import_htr_options;
 
-orvane::ExportHTRClassDesc export_htr_class(strings, message_sink);
+orvane::ExportHTRClassDesc export_htr_class(strings, message_sink, export_htr_options);
 orvane::ExportHTROptions export_htr_options;
 
 orvane::ImportTRCClassDesc import_trc_class(strings, message_sink, import_trc_options);

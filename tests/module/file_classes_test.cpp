@@ -67,14 +67,10 @@ TEST_F(FileClassesTest, ImportTRCAnswersForItself) {
 }
 
 TEST_F(FileClassesTest, WhatIsNotThereYetSaysSo) {
-  EXPECT_EQ(
-      Create<SceneExport>(1)->DoExport("walk.htr", nullptr, &application_.plugin_interface(), 1, 0),
-      0);
   const auto utilities = Create<UtilityObj>(3);
   utilities->BeginEditParams(&application_.plugin_interface(), nullptr);
   utilities->EndEditParams(&application_.plugin_interface(), nullptr);
   EXPECT_EQ(desk_.Messages(),
-            "ExportHTR Error: ExportHTR is not part of this build.\n"
             "OrvaneUtilities Error: OrvaneUtilities is not part of this build.\n");
 }
 

@@ -18,23 +18,6 @@ orvane::HtrSegment& SkeletonTest::Add(const std::string& name, orvane::HtrSegmen
   return *segment;
 }
 
-host::Node& SkeletonTest::AddBone(const std::string& name, host::Node* parent) {
-  auto* object =
-      static_cast<Object*>(scene().CreateInstance(kGeometricObjectSuperClass, kBoneClass));
-  host::Node* node = scene().CreateNode(object);
-  node->SetName(name.c_str());
-  if (parent != nullptr) parent->AttachChild(node, false);
-  return *node;
-}
-
-host::Node& SkeletonTest::AddDummy(const std::string& name, host::Node* parent) {
-  auto* object = static_cast<Object*>(scene().CreateInstance(kHelperSuperClass, kDummyClass));
-  host::Node* node = scene().CreateNode(object);
-  node->SetName(name.c_str());
-  if (parent != nullptr) parent->AttachChild(node, false);
-  return *node;
-}
-
 double Radians(double degrees) { return degrees * std::numbers::pi / 180; }
 
 std::string ChildNames(const host::Node& node) {

@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "host/application/application.h"
-#include "host/scene/bone_object.h"
 #include "plugin/htr/document.h"
 #include "plugin/import_htr/options.h"
+#include "tests/support/bone_nodes.h"
 
 namespace test {
 
@@ -21,9 +21,13 @@ class SkeletonTest : public testing::Test {
   // Adds a segment; without a parent it is a root. Lengths in system units, angles in degrees.
   orvane::HtrSegment& Add(const std::string& name, orvane::HtrSegment* parent = nullptr);
 
-  // A bone in the scene, under `parent` or the scene root.
-  host::Node& AddBone(const std::string& name, host::Node* parent = nullptr);
-  host::Node& AddDummy(const std::string& name, host::Node* parent = nullptr);
+  // A bone or a dummy in the scene, under `parent` or the scene root.
+  host::Node& AddBone(const std::string& name, host::Node* parent = nullptr) {
+    return test::AddBone(scene(), name, parent);
+  }
+  host::Node& AddDummy(const std::string& name, host::Node* parent = nullptr) {
+    return test::AddDummy(scene(), name, parent);
+  }
 
   // The node of that name, or null.
   host::Node* Find(const std::string& name) { return scene().FindByName(name); }

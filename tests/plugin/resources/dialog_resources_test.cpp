@@ -81,6 +81,25 @@ std::vector<Entry> NumberedControls(const DialogTemplate& dialog) {
   return entries;
 }
 
+std::vector<std::string> Groups(const DialogTemplate& dialog) {
+  std::vector<std::string> groups;
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.kind == ControlKind::kGroupBox) groups.push_back(control.text);
+  }
+  return groups;
+}
+
+// At which radio buttons the tab key stops; that is where a group of them begins.
+std::map<int, bool> RadioTabStops(const DialogTemplate& dialog) {
+  std::map<int, bool> stops;
+  for (const ControlTemplate& control : dialog.controls) {
+    if (control.kind != ControlKind::kRadioButton) continue;
+    stops[control.id] = (control.style & platform::kStyleTabStop) != 0;
+    EXPECT_EQ(stops[control.id], (control.style & platform::kStyleGroup) != 0) << control.text;
+  }
+  return stops;
+}
+
 TEST(ImportHtrDialogTest, HasItsTitleAndSize) {
   const DialogTemplate dialog = Dialog(107);
   EXPECT_EQ(dialog.title, "ImportHTR");
@@ -112,32 +131,47 @@ TEST(ImportHtrDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
 }
 
 TEST(ImportHtrDialogTest, NamesItsGroups) {
-  std::vector<std::string> groups;
-  for (const ControlTemplate& control : Dialog(107).controls) {
-    if (control.kind == ControlKind::kGroupBox) groups.push_back(control.text);
-  }
-  EXPECT_THAT(groups, testing::ElementsAre("Skeleton", "Keyframe Options", "Rotation Controller",
-                                           "Time Options", "Scale"));
-}
-
-TEST(ImportHtrDialogTest, LetsItsHandlerSelectRadioButtons) {
-  for (const ControlTemplate& control : Dialog(107).controls) {
-    if (control.kind == ControlKind::kRadioButton) {
-      EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
-    }
-  }
+  EXPECT_THAT(Groups(Dialog(107)),
+              testing::ElementsAre("Skeleton", "Keyframe Options", "Rotation Controller",
+                                   "Time Options", "Scale"));
 }
 
 TEST(ImportHtrDialogTest, StopsTheTabKeyOnceInEachPairOfRadioButtons) {
-  std::map<int, bool> stops;
-  for (const ControlTemplate& control : Dialog(107).controls) {
-    if (control.kind != ControlKind::kRadioButton) continue;
-    stops[control.id] = (control.style & platform::kStyleTabStop) != 0;
-    EXPECT_EQ(stops[control.id], (control.style & platform::kStyleGroup) != 0) << control.text;
-  }
-  EXPECT_THAT(stops, testing::ElementsAre(std::pair(1051, true), std::pair(1052, false),
-                                          std::pair(1067, true), std::pair(1068, false),
-                                          std::pair(1085, true), std::pair(1086, false)));
+  EXPECT_THAT(
+      RadioTabStops(Dialog(107)),
+      testing::ElementsAre(std::pair(1051, true), std::pair(1052, false), std::pair(1067, true),
+                           std::pair(1068, false), std::pair(1085, true), std::pair(1086, false)));
+}
+
+TEST(ExportHtrDialogTest, HasItsTitle) { EXPECT_EQ(Dialog(126).title, "ExportHTR"); }
+
+TEST(ExportHtrDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
+  const ControlKind radio = ControlKind::kRadioButton;
+  const ControlKind check = ControlKind::kCheckBox;
+  const ControlKind edit = ControlKind::kEdit;
+  const ControlKind button = ControlKind::kPushButton;
+  EXPECT_THAT(
+      NumberedControls(Dialog(126)),
+      testing::ElementsAre(
+          Entry{1106, radio, "Saved Pose", "Base Position"},
+          Entry{1107, radio, "Current Pose", "Base Position"},
+          Entry{1105, check, "Export Animation", "Options"},
+          Entry{1109, check, "Parent Transforms", "Options"},
+          Entry{1067, radio, "Slider", "Time Options"}, Entry{1068, radio, "Range", "Time Options"},
+          Entry{1065, edit, "From", "Time Options"}, Entry{1066, edit, "To", "Time Options"},
+          Entry{1089, edit, "Offset", "Time Options"}, Entry{1088, edit, "Global", "Scale"},
+          Entry{1097, button, "&OK", ""}, Entry{1098, button, "&Cancel", ""}));
+}
+
+TEST(ExportHtrDialogTest, NamesItsGroups) {
+  EXPECT_THAT(Groups(Dialog(126)),
+              testing::ElementsAre("Base Position", "Options", "Time Options", "Scale"));
+}
+
+TEST(ExportHtrDialogTest, StopsTheTabKeyOnceInEachPairOfRadioButtons) {
+  EXPECT_THAT(RadioTabStops(Dialog(126)),
+              testing::ElementsAre(std::pair(1067, true), std::pair(1068, false),
+                                   std::pair(1106, true), std::pair(1107, false)));
 }
 
 TEST(ImportTrcDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
@@ -159,14 +193,6 @@ TEST(ImportTrcDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
           Entry{1140, check, "Set Frame Rate", "Time Options"},
           Entry{1088, edit, "Global", "Scale"}, Entry{1097, button, "&OK", ""},
           Entry{1098, button, "&Cancel", ""}));
-}
-
-TEST(ImportTrcDialogTest, LetsItsHandlerSelectRadioButtons) {
-  for (const ControlTemplate& control : Dialog(108).controls) {
-    if (control.kind == ControlKind::kRadioButton) {
-      EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
-    }
-  }
 }
 
 TEST(UtilityPanelTest, HoldsEveryControlInItsGroupInReadingOrder) {
@@ -271,6 +297,14 @@ TEST_P(DialogLayoutTest, KeepsControlsInsideTheDialogAndApart) {
   }
 }
 
+TEST_P(DialogLayoutTest, LetsItsHandlerSelectRadioButtons) {
+  for (const ControlTemplate& control : Dialog(GetParam()).controls) {
+    if (control.kind == ControlKind::kRadioButton) {
+      EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
+    }
+  }
+}
+
 TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
   std::set<int> ids;
   std::set<char> mnemonics;
@@ -284,6 +318,6 @@ TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
 }
 
 INSTANTIATE_TEST_SUITE_P(AllDialogs, DialogLayoutTest,
-                         testing::Values(107U, 108U, 114U, 116U, 117U));
+                         testing::Values(107U, 108U, 114U, 116U, 117U, 126U));
 
 }  // namespace

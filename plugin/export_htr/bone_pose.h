@@ -1,0 +1,47 @@
+#pragma once
+
+#include "plugin/math/rotation_matrix3.h"
+#include "plugin/math/vector.h"
+#include "plugin/skeleton/axis_conversion.h"
+#include "sdk/core/node.h"
+
+// How a bone of the scene stands at one time, in the axes of the file. Lengths are in system units.
+namespace orvane {
+
+struct BonePose {
+  Vector3 translation;
+  RotationMatrix3 rotation;
+  double scale = 1.0;  // along the bone, the host's local X
+};
+
+// Reads the poses of one bone.
+class BonePoseReader {
+ public:
+  // `node` must outlive this object. The poses of a bone that is not the root of the export are
+  // relative to its parent in the scene; those of a root are in the world when `root_in_world` is
+  // set, and relative to its parent otherwise.
+  BonePoseReader(INode& node, bool is_root, bool root_in_world)
+      : node_(node),
+        parent_(node.GetParentNode()),
+        axes_(is_root),
+        relative_(!is_root || !root_in_world) {}
+
+  // At `time`, in ticks.
+  BonePose Read(TimeValue time) const;
+
+  // The scale of the parent in the world along its local X.
+  double ParentScale(TimeValue time) const;
+
+  // Whether the object of the node, or that of its parent, does not stand where its node does.
+  bool HasObjectOffset(TimeValue time) const;
+
+ private:
+  Matrix3 ParentTransform(TimeValue time) const;
+
+  INode& node_;
+  INode* parent_;  // null only for the scene root
+  AxisConversion axes_;
+  bool relative_;
+};
+
+}  // namespace orvane

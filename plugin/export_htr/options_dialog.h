@@ -1,0 +1,52 @@
+#pragma once
+
+#include <string>
+
+#include "platform/dialog.h"
+#include "plugin/exchange/frame_range_controls.h"
+#include "plugin/export_htr/options.h"
+#include "plugin/shell/message_sink.h"
+
+// The dialog in which the user chooses how a skeleton is exported: fills and enables its controls,
+// checks what was typed, and keeps the options.
+namespace orvane {
+
+class ExportHTROptionsDialog final : public platform::DialogHandler {
+ public:
+  // How the dialog ends.
+  static constexpr int kCancelled = 0;
+  static constexpr int kConfirmed = 1;
+
+  // Edits `options`, whose startFrame and endFrame are the bounds of the range; shows refusals
+  // through `messages`, centres the dialog over `parent`, and takes the about box from `module`.
+  // References must outlive this object.
+  ExportHTROptionsDialog(ExportHTROptions& options, MessageSink& messages, HWND parent,
+                         HINSTANCE module)
+      : options_(options), messages_(messages), parent_(parent), module_(module) {}
+
+  // Shows the dialog and waits for the user. Returns whether the options were confirmed; they are
+  // stored then. A dialog that cannot be created counts as cancelled.
+  bool Show();
+
+  void Initialize(platform::Dialog& dialog) override;
+  void Command(platform::Dialog& dialog, int control) override;
+
+ private:
+  FrameRange Range() const {
+    return {options_.startFrame, options_.endFrame, options_.frameOffset};
+  }
+  void Answer(platform::Dialog& dialog, int control);
+  void FillSwitches(platform::Dialog& dialog) const;
+  void Confirm(platform::Dialog& dialog);
+
+  // The checks of Confirm, each of which takes over what it accepts. An empty text is success.
+  void ReadSwitches(platform::Dialog& dialog);
+  std::string ReadScale(platform::Dialog& dialog);
+
+  ExportHTROptions& options_;
+  MessageSink& messages_;
+  HWND parent_;
+  HINSTANCE module_;
+};
+
+}  // namespace orvane
