@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "plugin/trc/document.h"
-#include "tests/support/trc_document_checker.h"
+#include "plugin/trc/document_checker.h"
 #include "tests/support/trc_text.h"
 
 // Whatever the bytes, reading ends, stays inside them, and leaves a sound document.
@@ -37,7 +37,7 @@ std::string ReadBothWays(const std::string& bytes) {
   for (const bool include_unnamed : {true, false}) {
     message = document.ReadBytes({exact.data(), exact.size()}, include_unnamed, &listener);
     if (message.empty()) {
-      EXPECT_EQ(test::FindFault(document), "");
+      EXPECT_EQ(FindFault(document), "");
     }
   }
   return message;
@@ -133,7 +133,7 @@ TEST(TRCRobustness, ReadsManyAlternatingDropoutsInLinearTime) {
   for (int frame = 0; frame < 200000; ++frame) bytes += "1\t0\t\n1\t0\t1\n";
   TRCDocument document;
   ASSERT_EQ(document.ReadBytes(bytes, false), "");
-  EXPECT_EQ(test::FindFault(document), "");
+  EXPECT_EQ(FindFault(document), "");
   double x = 0;
   double y = 0;
   double z = 0;

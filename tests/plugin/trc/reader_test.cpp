@@ -9,9 +9,9 @@
 #include <vector>
 
 #include "plugin/trc/document.h"
+#include "plugin/trc/document_checker.h"
 #include "tests/plugin/trc/samples.h"
 #include "tests/support/temporary_folder.h"
-#include "tests/support/trc_document_checker.h"
 #include "tests/support/trc_text.h"
 
 namespace orvane {
@@ -32,7 +32,7 @@ class TRCReader : public ::testing::Test {
  protected:
   void Read(const std::string& bytes, bool include_unnamed = false) {
     ASSERT_EQ(document_.ReadBytes(bytes, include_unnamed), "");
-    EXPECT_EQ(test::FindFault(document_), "");
+    EXPECT_EQ(FindFault(document_), "");
   }
 
   std::vector<std::string> Names() const {

@@ -6,7 +6,7 @@
 #include <string>
 
 #include "plugin/trc/document.h"
-#include "tests/support/trc_document_checker.h"
+#include "plugin/trc/document_checker.h"
 
 // Real recordings are not ours to keep: they lie beside the repository, or where the environment
 // variable ORVANE_RECORDINGS says.
@@ -39,7 +39,7 @@ TEST_P(TRCRecording, IsReadAsItStands) {
   if (!std::filesystem::exists(name)) GTEST_SKIP() << "no recording at " << name;
   TRCDocument document;
   ASSERT_EQ(document.Read(name, false), "");
-  EXPECT_EQ(test::FindFault(document), "");
+  EXPECT_EQ(FindFault(document), "");
   EXPECT_EQ(document.MarkerCount(), recording.markers);
   EXPECT_EQ(document.NumFrames(), recording.announced_frames);
   EXPECT_EQ(document.MarkerAt(0)->SampleCount(), recording.frames);

@@ -1,13 +1,10 @@
-#include "tests/support/trc_document_checker.h"
+#include "plugin/trc/document_checker.h"
 
 #include <cstddef>
 #include <unordered_set>
 
-namespace test {
+namespace orvane {
 namespace {
-
-using orvane::TRCDocument;
-using orvane::TRCMarker;
 
 std::string FaultOfGaps(const TRCMarker& marker) {
   std::size_t end = 0;
@@ -54,4 +51,4 @@ std::string FindFault(const TRCDocument& document) {
   return {};
 }
 
-}  // namespace test
+}  // namespace orvane

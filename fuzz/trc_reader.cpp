@@ -1,0 +1,41 @@
+// Bytes as a marker file: whatever they are, what is read is a sound document.
+#include <string>
+#include <string_view>
+
+#include "fuzz/expect.h"
+#include "fuzz/target.h"
+#include "plugin/trc/document.h"
+#include "plugin/trc/document_checker.h"
+
+namespace {
+
+class Watcher : public orvane::TRCReadObserver {
+ public:
+  void OnOddity(orvane::TRCOddity /*oddity*/, orvane::TRCPlace place,
+                std::string_view text) override {
+    fuzz::Expect(place.line >= line_ && place.line >= 1, "lines are told in order");
+    fuzz::Expect(text.empty() || text.data() != nullptr, "a text is there");
+    line_ = place.line;
+  }
+
+ private:
+  std::size_t line_ = 0;
+};
+
+}  // namespace
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+  const std::string_view bytes(reinterpret_cast<const char*>(data), size);
+  for (const bool include_unnamed : {false, true}) {
+    orvane::TRCDocument document;
+    const std::string message = document.ReadBytes(bytes, include_unnamed);
+    fuzz::Expect(FindFault(document).empty(), "the document is sound");
+    Watcher watcher;
+    fuzz::Expect(document.ReadBytes(bytes, include_unnamed, &watcher) == message,
+                 "watching changes nothing");
+    fuzz::Expect(FindFault(document).empty(), "a document that is used again is sound");
+    document.ConvertUnits(3);
+    fuzz::Expect(FindFault(document).empty(), "a document in inches is sound");
+  }
+  return 0;
+}

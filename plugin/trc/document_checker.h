@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "plugin/trc/document.h"
+
+namespace orvane {
+
+// Walks everything that holds for a marker document that was read, whatever the bytes. Returns an
+// empty text, or what is wrong with it.
+std::string FindFault(const TRCDocument& document);
+
+}  // namespace orvane
