@@ -58,11 +58,13 @@ void* ImportTRCClassDesc::Create(bool /*loading*/) {
   return CreateAs<SceneImport, ImportTRC>(options_, messages_, platform::ModuleHandle());
 }
 
-OrvaneUtilitiesClassDesc::OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages)
-    : OrvaneClassDesc(strings, kUtilities), messages_(messages) {}
+OrvaneUtilitiesClassDesc::OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages,
+                                                   PickControlNode& pick)
+    : OrvaneClassDesc(strings, kUtilities), strings_(strings), messages_(messages), pick_(pick) {}
 
 void* OrvaneUtilitiesClassDesc::Create(bool /*loading*/) {
-  return CreateAs<UtilityObj, OrvaneUtilities>(messages_);
+  return CreateAs<UtilityObj, OrvaneUtilities>(messages_, strings_, pick_,
+                                               platform::ModuleHandle());
 }
 
 }  // namespace orvane

@@ -5,6 +5,7 @@
 #include "plugin/import_trc/options.h"
 #include "plugin/shell/class_desc.h"
 #include "plugin/shell/message_sink.h"
+#include "plugin/utilities/pick_control_node.h"
 
 // The descriptors of the four classes of the module. Each creates instances of its class on the
 // host's heap and hands them what they need; everything handed to a descriptor is the module's and
@@ -43,11 +44,13 @@ class ImportTRCClassDesc final : public FileClassDesc {
 
 class OrvaneUtilitiesClassDesc final : public OrvaneClassDesc {
  public:
-  OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages);
+  OrvaneUtilitiesClassDesc(StringTable& strings, MessageSink& messages, PickControlNode& pick);
   void* Create(bool loading) override;
 
  private:
+  StringTable& strings_;
   MessageSink& messages_;
+  PickControlNode& pick_;
 };
 
 }  // namespace orvane

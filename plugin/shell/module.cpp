@@ -13,6 +13,7 @@
 #include "plugin/shell/class_descs.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/string_table.h"
+#include "plugin/utilities/pick_control_node.h"
 #include "sdk/core/library.h"
 
 namespace {
@@ -36,7 +37,8 @@ orvane::ExportHTROptions export_htr_options;
 orvane::ImportTRCClassDesc import_trc_class(strings, message_sink, import_trc_options);
 orvane::ImportTRCOptions import_trc_options;
 
-orvane::OrvaneUtilitiesClassDesc utilities_class(strings, message_sink);
+orvane::PickControlNode pick_control_node;
+orvane::OrvaneUtilitiesClassDesc utilities_class(strings, message_sink, pick_control_node);
 
 const std::array<ClassDesc2*, 4> kClasses = {&import_htr_class, &export_htr_class,
                                              &import_trc_class, &utilities_class};

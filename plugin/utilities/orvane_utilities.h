@@ -1,23 +1,63 @@
 #pragma once
 
+#include <memory>
+
+#include "platform/dialog.h"
 #include "plugin/shell/message_sink.h"
+#include "plugin/shell/string_table.h"
+#include "plugin/utilities/pick_control_node.h"
+#include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"
 
-// The motion-capture panel in the host's utility tab. So far opening it is refused with a message.
+// The motion-capture panel in the host's utility tab: shows the settings of the converter and
+// starts conversions and the mapping creator.
 namespace orvane {
 
-class OrvaneUtilities final : public UtilityObj {
+class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler {
  public:
-  // `messages` is the module's and outlives this object.
-  explicit OrvaneUtilities(MessageSink& messages) : messages_(messages) {}
+  // `messages`, `strings` and `pick` are the module's and outlive this object; `module` owns the
+  // panel and the texts. The settings of the last time are taken over.
+  OrvaneUtilities(MessageSink& messages, StringTable& strings, PickControlNode& pick,
+                  HINSTANCE module);
+  OrvaneUtilities(const OrvaneUtilities&) = delete;
+  OrvaneUtilities& operator=(const OrvaneUtilities&) = delete;
 
-  // Tells the user that there is no panel yet.
+  // Closes the panel if it is open, and saves the settings. May happen while a command of the panel
+  // is at work, as EndEditParams may: the command ends then and does not touch this object.
+  ~OrvaneUtilities() override;
+
+  // Shows the panel, unless it is shown already.
   void BeginEditParams(Interface* interface, IUtil* utility) override;
 
-  void EndEditParams(Interface* /*interface*/, IUtil* /*utility*/) override {}
+  // Ends a pick that waits for the user, saves the settings and closes the panel.
+  void EndEditParams(Interface* interface, IUtil* utility) override;
 
  private:
+  struct Work;
+  class WorkInProgress;
+
+  void Initialize(platform::Dialog& dialog) override;
+  void Command(platform::Dialog& dialog, int control) override;
+
+  void Answer(platform::Dialog& dialog, int control);
+  void FillOffset(platform::Dialog& dialog);
+  void ShowBatch(platform::Dialog& dialog);
+  void BrowseMapping(platform::Dialog& dialog);
+  void BrowseOutput(platform::Dialog& dialog);
+  void CreateMapping(platform::Dialog& dialog);
+  void Convert(platform::Dialog& dialog);
+  void Close();
+
   MessageSink& messages_;
+  StringTable& strings_;
+  PickControlNode& pick_;
+  HINSTANCE module_;
+  std::shared_ptr<Work> work_;
+
+  // While the panel is open.
+  Interface* interface_ = nullptr;
+  IUtil* utility_ = nullptr;
+  HWND page_ = nullptr;
 };
 
 }  // namespace orvane

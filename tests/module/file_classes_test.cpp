@@ -66,13 +66,5 @@ TEST_F(FileClassesTest, ImportTRCAnswersForItself) {
   ExpectAboutBox(*plugin);
 }
 
-TEST_F(FileClassesTest, WhatIsNotThereYetSaysSo) {
-  const auto utilities = Create<UtilityObj>(3);
-  utilities->BeginEditParams(&application_.plugin_interface(), nullptr);
-  utilities->EndEditParams(&application_.plugin_interface(), nullptr);
-  EXPECT_EQ(desk_.Messages(),
-            "OrvaneUtilities Error: OrvaneUtilities is not part of this build.\n");
-}
-
 }  // namespace
 }  // namespace test

@@ -38,7 +38,8 @@ class ModuleTest : public testing::Test {
   Desk desk_;
   host::Application application_;
   std::unique_ptr<host::Module> module_;
-  bool completed_ = false;  // whether the last import was carried out
+  bool script_fails_ = false;  // whether the user's script has failed as it should
+  bool completed_ = false;     // whether the last import was carried out
 };
 
 // Leaves the options as the dialog shows them.

@@ -24,6 +24,15 @@ class Desk {
       return message.style == platform::MessageBoxStyle::kOk ? platform::kMessageBoxOk
                                                              : next_choice_;
     };
+    user.choose_files = [this](const platform::FileDialog& dialog) {
+      if (!choose_files_) throw host::ScriptError(std::string("Nobody expects ") + dialog.title);
+      return choose_files_(dialog);
+    };
+    user.choose_folder = [this](const std::string& title) {
+      if (!choose_folder_) throw host::ScriptError("Nobody expects " + title);
+      return choose_folder_(title);
+    };
+    user.act = [this] { return act_ && act_(); };
     desktop_.SetUser(std::move(user));
     platform::InstallDesktop(&desktop_);
   }
@@ -40,6 +49,17 @@ class Desk {
 
   // The button for questions.
   void Choose(platform::MessageBoxResult choice) { next_choice_ = choice; }
+
+  // What the user does in the dialogs for files and folders from now on.
+  void ChooseFiles(std::function<host::FileChoice(const platform::FileDialog&)> choose) {
+    choose_files_ = std::move(choose);
+  }
+  void ChooseFolder(std::function<std::string(const std::string&)> choose) {
+    choose_folder_ = std::move(choose);
+  }
+
+  // What he does whenever the plug-in waits for him; false when there is nothing left to do.
+  void Act(std::function<bool()> act) { act_ = std::move(act); }
 
   // All messages so far, as "title: text", one a line.
   std::string Messages() const {
@@ -62,6 +82,9 @@ class Desk {
   host::ScriptedDesktop desktop_{registry_};
   std::deque<DialogAnswer> answers_;
   platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
+  std::function<host::FileChoice(const platform::FileDialog&)> choose_files_;
+  std::function<std::string(const std::string&)> choose_folder_;
+  std::function<bool()> act_;
 };
 
 }  // namespace test

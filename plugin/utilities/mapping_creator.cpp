@@ -1,0 +1,160 @@
+#include "plugin/utilities/mapping_creator.h"
+
+#include <exception>
+
+#include "platform/file_dialog.h"
+#include "plugin/utilities/mapping_file_dialog.h"
+
+namespace orvane {
+namespace {
+
+using Button = MarkerSelectionDialog::Button;
+
+constexpr WireColor kMarkerColor = PackWireColor(204, 51, 51);
+constexpr WireColor kPickedColor = PackWireColor(25, 25, 204);
+
+constexpr char kStatus[] = "MNM File Creation Status";
+
+// The step after `index`. Intended: every time the user goes back moves by two before the usual
+// step forward, so that in a step of two picks he may go back further; but not beyond the first
+// step.
+std::size_t StepAfter(std::size_t index, std::size_t backs, bool again) {
+  if (backs == 0) return again ? index : index + 1;
+  const std::size_t by = 2 * backs;
+  return index + 1 > by ? index + 1 - by : 0;
+}
+
+}  // namespace
+
+bool MappingCreator::CreateMNM(Interface* interface) {
+  interface_ = interface;
+  try {
+    return Create();
+  } catch (const std::exception&) {
+    End();  // no memory
+    return false;
+  }
+}
+
+void MappingCreator::End() {
+  if (ended_) return;
+  ended_ = true;
+  if (pending_) pending_->End();
+  RestoreAll();
+  dialog_.Close();
+}
+
+bool MappingCreator::Create() {
+  const WristSticks sticks = AskForSticks();
+  if (ended_ || !dialog_.Open(services_.module, interface_->GetSkelderHWnd())) return false;
+  if (!PickMarkers(sticks)) {
+    End();
+    return false;
+  }
+  dialog_.Close();
+  return Save();
+}
+
+WristSticks MappingCreator::AskForSticks() {
+  constexpr char kTitle[] = "Pick optional markers?";
+  WristSticks sticks;
+  sticks.left = services_.messages.Ask("Are you using a left wrist stick?", kTitle);
+  sticks.right = services_.messages.Ask("Are you using a right wrist stick?", kTitle);
+  return sticks;
+}
+
+// Returns false when the creation is to be aborted.
+bool MappingCreator::PickMarkers(const WristSticks& sticks) {
+  std::size_t index = 0;
+  while (index < kMarkerSteps) {
+    const std::optional<StepAnswer> answer = PickStep(MarkerStepAt(index, sticks), index > 0);
+    if (!answer) return false;
+    index = StepAfter(index, answer->backs, answer->again);
+  }
+  return true;
+}
+
+// Intended: the second marker of a step is asked for whatever the user did about the first. Returns
+// nothing when the creation is to be aborted.
+std::optional<MappingCreator::StepAnswer> MappingCreator::PickStep(const MarkerStep& step,
+                                                                   bool may_go_back) {
+  StepAnswer answer;
+  for (std::size_t i = 0; i < step.Count(); ++i) {
+    const StandardMarker& marker = step.markers.at(i);
+    dialog_.Ask(marker.description.data(), may_go_back, step.may_be_skipped);
+    if (!PickMarker(marker)) return std::nullopt;
+    if (dialog_.Pressed() == Button::kBack) ++answer.backs;
+    if (services_.pick.WasRightClicked()) answer.again = true;
+  }
+  return answer;
+}
+
+// Returns false when the creation is to be aborted.
+bool MappingCreator::PickMarker(const StandardMarker& marker) {
+  if (!WaitForPick()) return false;
+  if (INode* const node = services_.pick.PickedNode()) AddPicked(marker, *node);
+  if (dialog_.Pressed() == Button::kBack) GoBack();
+  return true;
+}
+
+// Lets the user pick. Returns false when he aborts, and when there is nobody who could pick.
+bool MappingCreator::WaitForPick() {
+  pending_.emplace(*interface_, services_.pick);
+  const bool could_pick = services_.pick.IsActive();
+  while (!ended_ && pending_->IsWaiting() && dialog_.Pressed() == Button::kNone) {
+    interface_->ProcessPendingMessages();
+  }
+  const bool host_exits = pending_->HostIsExiting();
+  pending_.reset();
+  return could_pick && !ended_ && !host_exits && dialog_.Pressed() != Button::kAbort;
+}
+
+void MappingCreator::AddPicked(const StandardMarker& marker, INode& node) {
+  converter_.mapping.Add(marker.name, node.GetName(), node.GetHandle());
+  node.SetWireColor(kPickedColor);
+  Redraw();
+}
+
+// Intended: the last entry goes, even if it is not of the step before.
+void MappingCreator::GoBack() {
+  RestoreLast();
+  Redraw();
+}
+
+// Intended: after a failure the entries and the colours stay as they are.
+bool MappingCreator::Save() {
+  const std::optional<std::string> path = ChooseFile();
+  if (ended_ || !path) return false;
+  if (!converter_.mapping.Save(*path)) {
+    services_.messages.Report("MNM File Creation Failed: Unable to open output file.", kStatus);
+    return false;
+  }
+  converter_.mnmPath = *path;
+  services_.messages.Report("MNM File Creation Successful", kStatus);
+  if (ended_) return false;
+  RestoreAll();
+  return true;
+}
+
+std::optional<std::string> MappingCreator::ChooseFile() {
+  platform::FileDialog dialog;
+  dialog.kind = platform::FileDialog::Kind::kSave;
+  dialog.owner = interface_->GetSkelderHWnd();
+  dialog.ask_before_replacing = true;
+  return ChooseMappingFile(dialog, services_.strings, services_.module);
+}
+
+// Removes the last entry; its node, if it is still in the scene, gets its own colour.
+void MappingCreator::RestoreLast() {
+  INode* const node = interface_->GetINodeByHandle(converter_.mapping.RemoveLast());
+  if (node != nullptr) node->SetWireColor(kMarkerColor);
+}
+
+void MappingCreator::RestoreAll() {
+  while (converter_.mapping.Count() > 0) RestoreLast();
+  Redraw();
+}
+
+void MappingCreator::Redraw() { interface_->RedrawViews(interface_->GetTime()); }
+
+}  // namespace orvane

@@ -1,0 +1,80 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <string>
+
+#include "platform/handles.h"
+#include "plugin/mnm/standard_markers.h"
+#include "plugin/shell/message_sink.h"
+#include "plugin/shell/string_table.h"
+#include "plugin/utilities/convert_bvk.h"
+#include "plugin/utilities/marker_selection_dialog.h"
+#include "plugin/utilities/pending_pick.h"
+#include "plugin/utilities/pick_control_node.h"
+#include "sdk/core/interface.h"
+
+// Makes a marker name mapping with the user: for one standard marker after the other, he picks the
+// object of the scene that plays its role.
+namespace orvane {
+
+// What a creator works with. All of it outlives the creator.
+struct MappingCreatorServices {
+  MessageSink& messages;
+  StringTable& strings;
+  PickControlNode& pick;
+  HINSTANCE module;  // owner of the dialog and the texts
+};
+
+class MappingCreator {
+ public:
+  // The entries go to the mapping of `converter`, behind those that are there.
+  MappingCreator(ConvertBVK& converter, const MappingCreatorServices& services)
+      : converter_(converter), services_(services) {}
+  MappingCreator(const MappingCreator&) = delete;
+  MappingCreator& operator=(const MappingCreator&) = delete;
+
+  // Asks for all markers and saves the mapping to a file that the user chooses, which becomes the
+  // converter's. Returns true when that was done, with the mapping empty and the picked objects in
+  // their own colour again. Returns false when the user aborted, the host exits or does not let
+  // anything be picked, or End was called; mapping and colours are the same then. Returns false
+  // too when the dialog cannot be created, the user chooses no file or it cannot be written; the
+  // mapping and the colours then stay as they are.
+  bool CreateMNM(Interface* interface);
+
+  // Ends the creation in the middle of a wait for the user: leaves the pick mode, restores the
+  // colours, empties the mapping and closes the dialog. After it the creation touches the host no
+  // more.
+  void End();
+
+ private:
+  // How the picks of one step ended.
+  struct StepAnswer {
+    std::size_t backs = 0;  // how often the user wanted to go back
+    bool again = false;     // whether he wants to be asked again
+  };
+
+  bool Create();
+  WristSticks AskForSticks();
+  bool PickMarkers(const WristSticks& sticks);
+  std::optional<StepAnswer> PickStep(const MarkerStep& step, bool may_go_back);
+  bool PickMarker(const StandardMarker& marker);
+  bool WaitForPick();
+  void AddPicked(const StandardMarker& marker, INode& node);
+  void GoBack();
+  bool Save();
+  std::optional<std::string> ChooseFile();
+  void RestoreLast();
+  void RestoreAll();
+  void Redraw();
+
+  ConvertBVK& converter_;
+  MappingCreatorServices services_;
+  Interface* interface_ = nullptr;
+  MarkerSelectionDialog dialog_;
+  std::optional<PendingPick> pending_;
+  bool ended_ = false;
+};
+
+}  // namespace orvane
