@@ -1,5 +1,6 @@
 #include "cli/advice.h"
 
+#include <cstddef>
 #include <string_view>
 
 namespace cli {
@@ -48,13 +49,39 @@ constexpr Advice kAdvice[] = {
     {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
 };
 
-}  // namespace
+// Where these differ from the ones above.
+constexpr Advice kExportAdvice[] = {
+    {"start frame equal to or greater",
+     "The range must lie within the animation range of the scene."},
+    {"end frame less than or equal", "The range must lie within the animation range of the scene."},
+    {"less than the end frame",
+     "Is --range in order, and does the animation range of the scene end after it starts?"},
+    {"select the root bone",
+     "--select NAME selects a bone; \"orvane scene SCENE\" lists the names."},
+    {"bone object to export", "--select NAME takes a bone, or a node that is the parent of one."},
+    {"object offset", "The file says where the node is, and not where its object is drawn."},
+    {"multiple identical names",
+     "Every bone needs a name of its own, without blanks; without one it is left out, with all "
+     "below "
+     "it."},
+    {"No segments to write", "Bones with \"Effector\" in their names are left out."},
+};
 
-std::string AdviceFor(const std::string& message) {
-  for (const Advice& advice : kAdvice) {
+template <std::size_t kCount>
+std::string FindAdvice(const Advice (&table)[kCount], const std::string& message) {
+  for (const Advice& advice : table) {
     if (message.find(advice.about) != std::string::npos) return std::string(advice.text);
   }
   return "";
+}
+
+}  // namespace
+
+std::string AdviceFor(const std::string& message) { return FindAdvice(kAdvice, message); }
+
+std::string AdviceForExport(const std::string& message) {
+  const std::string advice = FindAdvice(kExportAdvice, message);
+  return advice.empty() ? AdviceFor(message) : advice;
 }
 
 }  // namespace cli

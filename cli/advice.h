@@ -10,4 +10,7 @@ namespace cli {
 // Returns an empty text when there is nothing to add to `message`.
 std::string AdviceFor(const std::string& message);
 
+// The same, for a message that an export met.
+std::string AdviceForExport(const std::string& message);
+
 }  // namespace cli

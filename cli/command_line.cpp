@@ -6,6 +6,7 @@
 
 #include "cli/check_command.h"
 #include "cli/compare_command.h"
+#include "cli/export_command.h"
 #include "cli/failure.h"
 #include "cli/import_command.h"
 #include "cli/info_command.h"
@@ -47,10 +48,13 @@ std::string Explain(const CLI::App& app, const CLI::ParseError& error, int argum
 
 Work ReadCommandLine(int argument_count, const char* const* arguments) {
   Work work;
-  CLI::App app("Brings motion-capture files into scenes that any glTF viewer plays.", "orvane");
+  CLI::App app(
+      "Brings motion-capture files into scenes that any glTF viewer plays, and skeletons out.",
+      "orvane");
   app.set_version_flag("--version", "orvane " ORVANE_VERSION);
   app.require_subcommand(1);
   AddImportCommand(app, work);
+  AddExportCommand(app, work);
   AddInfoCommand(app, work);
   AddCheckCommand(app, work);
   AddCompareCommand(app, work);

@@ -12,10 +12,11 @@
 #include "cli/input.h"
 #include "cli/inspection.h"
 #include "cli/interruption.h"
-#include "cli/messages.h"
 #include "cli/plugin_session.h"
 #include "cli/scene_input.h"
 #include "cli/scene_output.h"
+#include "cli/selection.h"
+#include "cli/warnings.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
 
@@ -56,21 +57,6 @@ void PrepareScene(const ImportArguments& arguments, host::Scene& scene) {
   }
 }
 
-// What was selected in the scene stays so unless there are names.
-std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>& names) {
-  std::vector<Complaint> complaints;
-  if (!names.empty()) scene.ClearSelection();
-  for (const std::string& name : names) {
-    host::Node* node = scene.FindByName(name);
-    if (node != nullptr) {
-      scene.Select(*node);
-    } else {
-      complaints.push_back({"--select", "nothing in the scene is named " + name, ""});
-    }
-  }
-  return complaints;
-}
-
 void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complaints) {
   complaints.insert(complaints.end(), more.begin(), more.end());
 }
@@ -89,17 +75,6 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
     complaints.push_back(ComplainAbout(file, "The plug-in gave up without a message"));
   }
   return {ExitStatus::kRefused, complaints};
-}
-
-// What was told during an import that was carried out is no reason against it, unless the user
-// wants it to be.
-void Warn(std::vector<Complaint> complaints, bool strict) {
-  if (complaints.empty()) return;
-  if (strict) {
-    complaints.push_back({"--strict", "nothing was written because of this", ""});
-    throw Failure{ExitStatus::kRefused, complaints};
-  }
-  for (const Complaint& complaint : complaints) Print(Severity::kWarning, complaint);
 }
 
 ExitStatus Import(const ImportArguments& arguments) {

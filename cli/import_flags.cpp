@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/choice.h"
+#include "cli/dialog_flags.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
@@ -35,55 +36,6 @@ enum Control : int {
 
 constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
 constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
-
-using Wishes = std::vector<ControlWish>;
-
-CLI::Option* AddFlag(CLI::App& verb, Wishes& wishes, const ControlWish& wish,
-                     const std::string& help) {
-  return verb.add_flag_callback(
-      wish.flag, [&wishes, wish] { wishes.push_back(wish); }, help);
-}
-
-// The radio button `control` as `flag`.
-CLI::Option* AddRadio(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
-                      const std::string& help) {
-  return AddFlag(verb, wishes, {Kind::kRadio, control, flag, "", false, ""}, help);
-}
-
-// The check box `control` as "--NAME" and "--no-NAME".
-void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int control,
-                 const std::string& help, const std::string& disabled_by = "") {
-  CLI::Option* on =
-      AddFlag(verb, wishes, {Kind::kCheckBox, control, "--" + name, "", true, disabled_by}, help);
-  AddFlag(verb, wishes, {Kind::kCheckBox, control, "--no-" + name, "", false, disabled_by},
-          "The opposite of --" + name)
-      ->excludes(on);
-}
-
-// The text field `control` as an option, which is returned.
-CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
-                     const std::string& help, const std::string& disabled_by = "") {
-  const ControlWish wish{Kind::kText, control, flag, "", false, disabled_by};
-  return verb
-      .add_option_function<std::string>(
-          flag,
-          [&wishes, wish](const std::string& text) {
-            wishes.push_back(wish);
-            wishes.back().text = text;
-          },
-          help)
-      ->type_name("NUMBER");
-}
-
-void WishForRange(Wishes& wishes, const std::string& range) {
-  const std::size_t colon = range.find(':');
-  if (colon == std::string::npos) {
-    throw CLI::ValidationError("--range", "FROM:TO is expected, not " + range);
-  }
-  wishes.push_back({Kind::kRadio, kRange, "--range", "", false, ""});
-  wishes.push_back({Kind::kText, kFrom, "--range", range.substr(0, colon), false, ""});
-  wishes.push_back({Kind::kText, kTo, "--range", range.substr(colon + 1), false, ""});
-}
 
 ControlWish FrameRate(const std::string& choice) {
   return {Kind::kCheckBox, kSetFrameRate, "--frame-rate", "", choice == "file", ""};
@@ -125,25 +77,13 @@ void AddCloudFlags(CLI::App& verb, Wishes& wishes) {
 }
 
 void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
-  CLI::Option* all = AddRadio(verb, wishes, "--all", kAll, "Import all frames (the default)");
-  verb.add_option_function<std::string>(
-          "--range", [&wishes](const std::string& range) { WishForRange(wishes, range); },
-          "Import the frames FROM to TO")
-      ->type_name("FROM:TO")
-      ->excludes(all);
+  AddRange(verb, wishes, {kAll, kRange, kFrom, kTo}, "--all", "Import all frames (the default)",
+           "Import the frames FROM to TO");
   AddText(verb, wishes, "--offset", kOffset, "Number of frames to move the keys by (0)");
   AddChoice(
       verb, "--frame-rate", {"file", "keep"},
       "Set the scene's frame rate from the file, or keep the scene's (file; keep with --into)",
       [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
-}
-
-// What `wishes` type into `control`; null when they do not.
-const std::string* TypedText(const Wishes& wishes, int control) {
-  const auto wish = std::find_if(wishes.begin(), wishes.end(), [control](const ControlWish& each) {
-    return each.control == control;
-  });
-  return wish == wishes.end() ? nullptr : &wish->text;
 }
 
 }  // namespace

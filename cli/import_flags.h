@@ -12,8 +12,6 @@
 
 namespace cli {
 
-inline constexpr DialogButtons kImportButtons{1097, 1098};
-
 // Adds the flags to `verb`. Parsing the arguments adds a wish for each that is given to `wishes`,
 // which must outlive the parsing.
 void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes);

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <optional>
 
-#include "cli/import_flags.h"
+#include "cli/dialog_flags.h"
 #include "cli/progress_line.h"
 #include "platform/desktop.h"
 #include "platform/interrupt.h"
@@ -58,22 +58,37 @@ PluginSession::~PluginSession() {
 
 bool PluginSession::Import(const std::string& file, const std::string& extension,
                            const std::vector<ControlWish>& wishes, bool show_progress) {
+  const Task task{"Importing ", "importer", file, "--as htr or --as trc tells what it is."};
+  return Run(task, wishes, show_progress, [&] {
+    return extension.empty() ? module_->Import(file, false)
+                             : module_->Import(file, extension, false);
+  });
+}
+
+bool PluginSession::ExportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
+                              bool show_progress) {
+  return Run({"Exporting ", "exporter", file, ""}, wishes, show_progress,
+             [this, &file] { return module_->Export(file, false); });
+}
+
+bool PluginSession::Run(const Task& task, const std::vector<ControlWish>& wishes,
+                        bool show_progress, const Entry& entry) {
   desktop_->SetUser(
-      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kImportButtons); },
+      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kOptionsButtons); },
        PressOk});
-  ProgressLine line("Importing " + std::filesystem::path(file).filename().string(), show_progress);
+  ProgressLine line(task.title + std::filesystem::path(task.file).filename().string(),
+                    show_progress);
   application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {
     line.Show(event.percent);
     if (platform::Interrupted()) application_->cancellation().Request();
   });
-  const std::optional<host::ImportResult> result =
-      extension.empty() ? module_->Import(file, false) : module_->Import(file, extension, false);
+  const std::optional<host::FileResult> result = entry();
   application_->progress().SetObserver({});
   desktop_->RethrowFailure();
   if (!result) {
+    const std::string text = std::string("the plug-in has no ") + task.role;
     throw Failure{ExitStatus::kWrongUsage,
-                  {{file, "the plug-in has no importer for files of this kind",
-                    "--as htr or --as trc tells what it is."}}};
+                  {{task.file, text + " for files of this kind", task.advice}}};
   }
   return result->returned == 1 && result->completed;
 }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -40,10 +42,27 @@ class PluginSession {
   bool Import(const std::string& file, const std::string& extension,
               const std::vector<ControlWish>& wishes, bool show_progress);
 
+  // Lets the plug-in export to `file`, in the same way. An export cannot be cancelled.
+  bool ExportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
+                 bool show_progress);
+
   // What the plug-in told its user, in its own words.
   [[nodiscard]] std::vector<std::string> Messages() const;
 
  private:
+  using Entry = std::function<std::optional<host::FileResult>()>;
+
+  struct Task {
+    const char* title;  // "Importing"
+    const char* role;   // of the plug-in: "importer"
+    std::string file;
+    const char* advice;  // when the plug-in has nobody for it
+  };
+
+  // Calls `entry`, which lets the plug-in do it.
+  bool Run(const Task& task, const std::vector<ControlWish>& wishes, bool show_progress,
+           const Entry& entry);
+
   std::variant<host::MemoryRegistry, host::SqliteRegistry> registry_;
   std::unique_ptr<host::ScriptedDesktop> desktop_;
   std::unique_ptr<host::Application> application_;

@@ -6,8 +6,9 @@
 #include "host/application/application.h"
 #include "host/application/extension_match.h"
 
-// Offers nothing so far; plug-ins keep the pointer only.
+// They offer nothing so far; plug-ins keep the pointers only.
 class ImpInterface {};
+class ExpInterface {};
 
 namespace host {
 namespace {
@@ -16,6 +17,17 @@ namespace {
 std::string ExtensionOf(const std::string& path) {
   const std::string extension = std::filesystem::path(path).extension().string();
   return extension.empty() ? extension : extension.substr(1);
+}
+
+// Calls the entry of an importer or exporter and tells how it ended.
+template <typename Entry>
+FileResult Watch(Application& application, const Entry& entry) {
+  const SuspendableMode& set_key_mode = application.scene().Animation().SetKeyMode();
+  const std::size_t depth_before = set_key_mode.SuspendDepth();
+  FileResult result;
+  result.returned = entry();
+  result.completed = result.returned == 1 && set_key_mode.SuspendDepth() == depth_before;
+  return result;
 }
 
 }  // namespace
@@ -63,23 +75,29 @@ std::unique_ptr<UtilityObj> Module::CreateUtility(std::string_view class_name) c
   return nullptr;
 }
 
-std::optional<ImportResult> Module::Import(const std::string& path, bool suppress_prompts) {
+std::optional<FileResult> Module::Import(const std::string& path, bool suppress_prompts) {
   return Import(path, ExtensionOf(path), suppress_prompts);
 }
 
-std::optional<ImportResult> Module::Import(const std::string& path, std::string_view extension,
-                                           bool suppress_prompts) {
+std::optional<FileResult> Module::Import(const std::string& path, std::string_view extension,
+                                         bool suppress_prompts) {
   const std::unique_ptr<SceneImport> importer = CreateImporter(extension);
   if (importer == nullptr) return std::nullopt;
-  const SuspendableMode& set_key_mode = host_.application.scene().Animation().SetKeyMode();
-  const std::size_t depth_before = set_key_mode.SuspendDepth();
   ImpInterface import_interface;
-  ImportResult result;
-  result.returned =
-      importer->DoImport(path.c_str(), &import_interface, &host_.application.plugin_interface(),
-                         suppress_prompts ? 1 : 0);
-  result.completed = result.returned == 1 && set_key_mode.SuspendDepth() == depth_before;
-  return result;
+  return Watch(host_.application, [&] {
+    return importer->DoImport(path.c_str(), &import_interface,
+                              &host_.application.plugin_interface(), suppress_prompts ? 1 : 0);
+  });
+}
+
+std::optional<FileResult> Module::Export(const std::string& path, bool suppress_prompts) {
+  const std::unique_ptr<SceneExport> exporter = CreateExporter(ExtensionOf(path));
+  if (exporter == nullptr) return std::nullopt;
+  ExpInterface export_interface;
+  return Watch(host_.application, [&] {
+    return exporter->DoExport(path.c_str(), &export_interface,
+                              &host_.application.plugin_interface(), suppress_prompts ? 1 : 0, 0);
+  });
 }
 
 ModuleLeftovers UnloadModule(std::unique_ptr<Module> module) {

@@ -32,13 +32,13 @@ struct ModuleHost {
   std::uint32_t interface_number = kSkelderInterface;
 };
 
-// How an import ended.
-struct ImportResult {
+// How an import or an export ended.
+struct FileResult {
   // What the plug-in's entry returned: 1 for done or cancelled, 0 for failure.
   int returned = 0;
 
-  // Whether the import was carried out: the entry returned 1 and had resumed set-key mode as often
-  // as it suspended it, which it does only when its work is done.
+  // Whether it was carried out: the entry returned 1 and had resumed set-key mode as often as it
+  // suspended it, which it does only when its work is done.
   bool completed = false;
 };
 
@@ -77,9 +77,13 @@ class SKELDER_API Module {
 
   // Imports the file `path` into the application's scene with the importer for its extension, or
   // for another `extension`, without its dot. Returns nothing when there is no such importer.
-  std::optional<ImportResult> Import(const std::string& path, bool suppress_prompts);
-  std::optional<ImportResult> Import(const std::string& path, std::string_view extension,
-                                     bool suppress_prompts);
+  std::optional<FileResult> Import(const std::string& path, bool suppress_prompts);
+  std::optional<FileResult> Import(const std::string& path, std::string_view extension,
+                                   bool suppress_prompts);
+
+  // Exports from the application's scene to the file `path` with the exporter for its extension.
+  // Returns nothing when there is no such exporter.
+  std::optional<FileResult> Export(const std::string& path, bool suppress_prompts);
 
  private:
   friend SKELDER_API ModuleLeftovers UnloadModule(std::unique_ptr<Module> module);

@@ -6,6 +6,7 @@
 #include <unistd.h>
 
 #include <cerrno>
+#include <csignal>
 #include <filesystem>
 #include <system_error>
 
@@ -48,6 +49,8 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
     return;
   }
   RemoveAbandonedFolders(folder);
+  // Who writes here meets a limit on the size of files as an error, and is not ended by it.
+  std::signal(SIGXFSZ, SIG_IGN);
   const std::string stem = folder + "/" + kPrefix + std::to_string(getpid()) + "-";
   for (int attempt = 0; path_.empty() && error_.empty(); ++attempt) {
     const std::string path = stem + std::to_string(attempt);

@@ -68,6 +68,7 @@ TEST_P(DocumentationTest, EveryExamplePrintsWhatTheDocumentSays) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, DocumentationTest,
-                         testing::Values("README.md", "docs/command-line.md"));
+                         testing::Values("README.md", "docs/command-line.md",
+                                         "docs/round-trip.md"));
 
 }  // namespace

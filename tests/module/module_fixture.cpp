@@ -32,9 +32,17 @@ void ModuleTest::TearDown() {
 }
 
 int ModuleTest::Import(const std::string& path, Desk::DialogAnswer answer) {
+  return Run(&host::Module::Import, path, std::move(answer));
+}
+
+int ModuleTest::Export(const std::string& path, Desk::DialogAnswer answer) {
+  return Run(&host::Module::Export, path, std::move(answer));
+}
+
+int ModuleTest::Run(Entry entry, const std::string& path, Desk::DialogAnswer answer) {
   const bool suppress_prompts = answer == nullptr;
   if (!suppress_prompts) desk_.Expect(std::move(answer));
-  const std::optional<host::ImportResult> result = module_->Import(path, suppress_prompts);
+  const std::optional<host::FileResult> result = (*module_.*entry)(path, suppress_prompts);
   EXPECT_TRUE(result.has_value());
   completed_ = result && result->completed;
   return result ? result->returned : -1;

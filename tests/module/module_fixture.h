@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <memory>
+#include <optional>
 #include <string>
 
 #include "host/application/application.h"
@@ -26,6 +27,9 @@ class ModuleTest : public testing::Test {
   // suppressed without one. Returns what the plug-in's entry returned.
   int Import(const std::string& path, Desk::DialogAnswer answer = nullptr);
 
+  // Exports to `path` likewise.
+  int Export(const std::string& path, Desk::DialogAnswer answer = nullptr);
+
   // Writes `text` to a file of this test and returns its path.
   std::string Write(const std::string& name, const std::string& text) {
     return folder_.Write(name, text);
@@ -34,12 +38,16 @@ class ModuleTest : public testing::Test {
   // The node of that name; throws, and so fails the test, when there is none.
   host::Node& Node(const std::string& name);
 
+  // Calls the module with `answer` at hand, and keeps how it ended.
+  using Entry = std::optional<host::FileResult> (host::Module::*)(const std::string&, bool);
+  int Run(Entry entry, const std::string& path, Desk::DialogAnswer answer);
+
   TemporaryFolder folder_;
   Desk desk_;
   host::Application application_;
   std::unique_ptr<host::Module> module_;
   bool script_fails_ = false;  // whether the user's script has failed as it should
-  bool completed_ = false;     // whether the last import was carried out
+  bool completed_ = false;     // whether the last import or export was carried out
 };
 
 // Leaves the options as the dialog shows them.

@@ -30,4 +30,10 @@ inline constexpr double kSinglePosition = 1e-3;
 // A number of the size of 1 in the host's single precision, after a few operations.
 inline constexpr double kHostNumber = 1e-6;
 
+// Positions and angles that went from a file through the host's single precision and back: so many
+// millimetres, or such a share of the farthest distance from the origin, and so many degrees.
+inline constexpr double kRoundTrip_mm = 1e-3;
+inline constexpr double kRoundTripOfFarthest = 5e-7;
+inline constexpr double kRoundTrip_deg = 1e-3;
+
 }  // namespace test

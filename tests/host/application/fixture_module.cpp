@@ -99,7 +99,16 @@ class Exporter final : public SceneExport {
   const char* OtherMessage2() override { return ""; }
   unsigned Version() override { return 100; }
   void ShowAbout(HWND /*owner*/) override {}
-  int DoExport(const char*, ExpInterface*, Interface*, int, std::uint32_t) override { return 0; }
+  int DoExport(const char* name, ExpInterface* export_interface, Interface* host,
+               int suppress_prompts, std::uint32_t options) override {
+    if (export_interface == nullptr || host == nullptr || options != 0) return -1;
+    SuspendSetKeyMode();
+    if (std::strcmp(name, "refused.fix") == 0) return 0;
+    if (std::strcmp(name, "cancelled.fix") == 0) return 1;
+    if (std::strcmp(name, "asked.fix") == 0 && suppress_prompts != 0) return 0;
+    ResumeSetKeyMode();
+    return 1;
+  }
 };
 
 // `Plugin` as an instance of its base class `Base`.

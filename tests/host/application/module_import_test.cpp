@@ -42,6 +42,29 @@ TEST_F(ModuleImportTest, TellsHowAnImportEnded) {
   }
 }
 
+TEST_F(ModuleImportTest, TellsHowAnExportEnded) {
+  struct Case {
+    const char* file;
+    bool suppress_prompts;
+    int returned;
+    bool completed;
+  };
+  for (const Case& c : {Case{"done.fix", true, 1, true}, Case{"cancelled.fix", true, 1, false},
+                        Case{"refused.fix", true, 0, false}, Case{"done.FIX", false, 1, true},
+                        Case{"asked.fix", true, 0, false}, Case{"asked.fix", false, 1, true}}) {
+    const auto result = module_->Export(c.file, c.suppress_prompts);
+    ASSERT_TRUE(result.has_value()) << c.file;
+    EXPECT_EQ(result->returned, c.returned) << c.file;
+    EXPECT_EQ(result->completed, c.completed) << c.file;
+  }
+}
+
+TEST_F(ModuleImportTest, ExportsNothingWithoutAnExporterForTheExtension) {
+  for (const char* file : {"walk.htr", "fix", "walk.", "", ".fix", "walk.fix.txt"}) {
+    EXPECT_FALSE(module_->Export(file, true).has_value()) << file;
+  }
+}
+
 TEST_F(ModuleImportTest, WorksOnTheApplicationsScene) {
   ASSERT_TRUE(module_->Import("done.fix", true).has_value());
   ASSERT_TRUE(module_->Import("done.fix", false).has_value());

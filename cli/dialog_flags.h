@@ -1,0 +1,50 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+#include "cli/dialog_user.h"
+
+// Flags that are controls of an options dialog. Parsing the arguments adds a wish for each that is
+// given to a list, which must outlive the parsing.
+
+namespace cli {
+
+// The buttons of every options dialog.
+inline constexpr DialogButtons kOptionsButtons{1097, 1098};
+
+using Wishes = std::vector<ControlWish>;
+
+// A flag that makes `wish`, by the name that it has there.
+CLI::Option* AddFlag(CLI::App& verb, Wishes& wishes, const ControlWish& wish,
+                     const std::string& help);
+
+// The radio button `control` as `flag`.
+CLI::Option* AddRadio(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                      const std::string& help);
+
+// The check box `control` as "--NAME" and "--no-NAME".
+void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int control,
+                 const std::string& help, const std::string& disabled_by = "");
+
+// The text field `control` as an option, which is returned.
+CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                     const std::string& help, const std::string& disabled_by = "");
+
+// The radio buttons of all frames, as `all_flag`, and of a range of them, with its two text fields,
+// as "--range FROM:TO".
+struct RangeControls {
+  int all = 0;
+  int range = 0;
+  int from = 0;
+  int to = 0;
+};
+void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
+              const std::string& all_flag, const std::string& all_help,
+              const std::string& range_help);
+
+// What `wishes` type into `control`; null when they do not.
+const std::string* TypedText(const Wishes& wishes, int control);
+
+}  // namespace cli

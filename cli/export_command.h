@@ -1,0 +1,12 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+namespace cli {
+
+// Adds the verb `export` to `app`. When the arguments ask for it, `work` is set to it.
+void AddExportCommand(CLI::App& app, Work& work);
+
+}  // namespace cli
