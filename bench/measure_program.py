@@ -44,6 +44,7 @@ class Bench:
         self.folder = folder
         self.motion = os.path.join(folder, "motion.htr")
         self.scene = os.path.join(folder, "scene.glb")
+        self.back = os.path.join(folder, "back.htr")
 
     def write_motion(self, size):
         writer = str(self.build / "bench" / "write_motion")
@@ -72,6 +73,11 @@ class Bench:
         self.measure(name, size, [self.program, "import", self.motion, "-o", self.scene,
                                   "--force", "--quiet", *flags])
 
+    def export(self, size):
+        """Exports the scene that was imported last."""
+        self.measure("export", size, [self.program, "export", self.scene, "--select", "Segment0",
+                                      "-o", self.back, "--force", "--quiet"])
+
 
 def main(build):
     with tempfile.TemporaryDirectory() as folder:
@@ -81,6 +87,7 @@ def main(build):
         bench.write_motion(LONG)
         bench.info(LONG)
         bench.make_import("import", LONG)
+        bench.export(LONG)
         bench.make_import("at 30 fps", LONG, "--frame-rate", "keep")  # 160 ticks are cleared a frame
         bench.write_markers()
         bench.info(MARKERS)
@@ -88,6 +95,7 @@ def main(build):
         for size in BY_SEGMENTS + BY_FRAMES:
             bench.write_motion(size)
             bench.make_import("import", size)
+            bench.export(size)
 
 
 if __name__ == "__main__":
