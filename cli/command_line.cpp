@@ -6,6 +6,7 @@
 
 #include "cli/check_command.h"
 #include "cli/compare_command.h"
+#include "cli/convert_command.h"
 #include "cli/export_command.h"
 #include "cli/failure.h"
 #include "cli/import_command.h"
@@ -56,6 +57,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   AddImportCommand(app, work);
   AddExportCommand(app, work);
   AddInfoCommand(app, work);
+  AddConvertCommand(app, work);
   AddCheckCommand(app, work);
   AddCompareCommand(app, work);
   AddSceneCommand(app, work);

@@ -27,11 +27,11 @@ std::string Held(const FrameCounts& counts) {
          FormatInt(counts.most_held);
 }
 
-std::string Difference(const FrameCounts& counts) {
+}  // namespace
+
+std::string DescribeDifference(const FrameCounts& counts) {
   return "The header announces " + Frames(counts.announced) + ", but " + Held(counts);
 }
-
-}  // namespace
 
 bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
   return frames > kAlwaysAllowed && frames > kTimesHeld * counts.most_held;
@@ -52,15 +52,15 @@ std::optional<Complaint> CompareFrameCounts(const std::string& file, const Frame
                                             const std::vector<ControlWish>& wishes) {
   if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
     throw Failure{ExitStatus::kRefused,
-                  {{file, Difference(counts),
+                  {{file, DescribeDifference(counts),
                     "Is \"NumFrames\" right? --range FROM:TO imports a part of them."}}};
   }
   if (counts.announced > counts.fewest_held) {
-    return Complaint{file, Difference(counts),
+    return Complaint{file, DescribeDifference(counts),
                      "Missing frames are set to zero; --range FROM:TO leaves them out."};
   }
   if (counts.announced < counts.most_held) {
-    return Complaint{file, Difference(counts), "Only the announced frames are imported."};
+    return Complaint{file, DescribeDifference(counts), "Only the announced frames are imported."};
   }
   return std::nullopt;
 }

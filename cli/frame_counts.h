@@ -23,6 +23,9 @@ struct FrameCounts {
 // Requires that `document` has segments.
 FrameCounts CountFrames(const orvane::HtrDocument& document);
 
+// Tells that `counts` differ, and how.
+std::string DescribeDifference(const FrameCounts& counts);
+
 // Whether importing `frames` is far more work than the file is worth.
 bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts);
 

@@ -32,6 +32,9 @@ class PluginSession {
   PluginSession& operator=(const PluginSession&) = delete;
 
   host::Scene& scene() { return application_->scene(); }
+  host::Application& application() { return *application_; }
+  host::ScriptedDesktop& desktop() { return *desktop_; }
+  const host::Module& module() const { return *module_; }
 
   // Lets the importer for `extension` (without its dot; empty: that of the name) import `file`,
   // answering its dialog by `wishes`; every message is closed by

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+// What the plug-in has written to a BVK file.
+
+namespace cli {
+
+struct BvkSummary {
+  std::int64_t frames = 0;
+  std::int64_t markers = 0;
+  std::int64_t dropouts = 0;
+};
+
+// Reads the file `path` a piece at a time. Returns nothing when it cannot be read, or is not whole:
+// the plug-in does not notice a disk that is full.
+std::optional<BvkSummary> SummarizeBvk(const std::string& path);
+
+}  // namespace cli

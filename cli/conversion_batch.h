@@ -1,0 +1,31 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/conversion.h"
+#include "cli/converter_panel.h"
+
+// The conversion of some files by one run of the plug-in, or several where one gives up, from the
+// look at the inputs to the delivery of the outputs.
+
+namespace cli {
+
+struct ConversionOrder {
+  std::string module;
+  std::string mapping;  // the mapping file; empty: every marker is kept under its name
+  std::optional<OffsetWish> offset;
+  bool replace = false;      // outputs that exist
+  bool keep_broken = false;  // deliver what the plug-in makes of files that the reader refuses
+  bool single = false;       // one file, which the panel converts without a batch
+};
+
+struct ConvertedBatch {
+  std::vector<Conversion> conversions;
+  std::string log;  // that of the plug-in; empty when it has not kept one
+};
+
+// Carries `conversions` out, which are planned and make a batch.
+ConvertedBatch ConvertBatch(const ConversionOrder& order, std::vector<Conversion> conversions);
+
+}  // namespace cli

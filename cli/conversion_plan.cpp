@@ -1,0 +1,190 @@
+#include "cli/conversion_plan.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <map>
+#include <system_error>
+#include <unordered_map>
+#include <utility>
+
+#include "platform/input_file.h"
+#include "platform/output_file.h"
+#include "plugin/text/files.h"
+
+namespace cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+// What the plug-in's dialog takes at once, and its buffer with some room to spare.
+constexpr std::size_t kMostFiles = 1000;
+constexpr std::size_t kMostBytes = 250'000;
+
+// So many batches for each process, so that none waits long for the last; but none so small that
+// starting the plug-in is most of its time.
+constexpr std::uintmax_t kBatchesPerJob = 4;
+constexpr std::uintmax_t kLeastWork = std::uintmax_t{4} << 20U;
+
+// Where `path` really is, whatever of it exists.
+std::string Resolved(const fs::path& path) {
+  std::error_code error;
+  const fs::path resolved = fs::weakly_canonical(path, error);
+  return error ? fs::absolute(path).lexically_normal().string() : resolved.string();
+}
+
+// The name of the file as the plug-in sees it, which takes both kinds of slash, with ".bvk" for its
+// extension.
+std::string BvkNameFor(const std::string& input) {
+  const std::size_t slash = input.find_last_of("/\\");
+  const std::string name = slash == std::string::npos ? input : input.substr(slash + 1);
+  return name.substr(0, name.rfind('.')) + ".bvk";
+}
+
+// Empty for a name alone.
+std::string FolderPartOf(const std::string& path) { return fs::path(path).parent_path().string(); }
+
+// As the dialog that asks for the output makes it.
+std::string WithBvkExtension(const std::string& file) {
+  return fs::path(file).has_extension() ? file : file + ".bvk";
+}
+
+std::string OutputFor(const std::string& input, const OutputWishes& wishes) {
+  if (!wishes.file.empty()) return WithBvkExtension(wishes.file);
+  const fs::path folder = wishes.folder.empty() ? FolderPartOf(input) : wishes.folder;
+  return (folder / BvkNameFor(input)).string();
+}
+
+void Settle(Conversion& conversion, ConversionStatus status, Complaint complaint) {
+  conversion.status = status;
+  conversion.errors.push_back(std::move(complaint));
+}
+
+void CheckInput(Conversion& conversion, const std::string& name) {
+  const std::string reason = platform::WhyUnreadable(conversion.input);
+  if (reason.empty()) return;
+  const std::string advice =
+      conversion.input == name ? "" : "A name without an extension of three letters gets \".TRC\".";
+  Settle(conversion, ConversionStatus::kUnreadable, {conversion.input, reason, advice});
+}
+
+void CheckOutput(Conversion& conversion, bool replace) {
+  if (conversion.status != ConversionStatus::kPlanned) return;
+  const platform::OutputFile file(conversion.output, replace);
+  const std::string reason = file.WhyImpossible();
+  if (reason.empty()) return;
+  if (file.IsTaken()) {
+    Settle(conversion, ConversionStatus::kExists,
+           {conversion.output, reason, "It is kept; --force replaces it."});
+  } else {
+    Settle(conversion, ConversionStatus::kFailed, {conversion.output, reason, ""});
+  }
+}
+
+Conversion Plan(const std::string& name, const OutputWishes& wishes) {
+  Conversion conversion;
+  conversion.input = orvane::WithExtension(name, ".TRC");
+  conversion.source = fs::absolute(conversion.input).lexically_normal().string();
+  conversion.output = OutputFor(conversion.input, wishes);
+  CheckInput(conversion, name);
+  CheckOutput(conversion, wishes.replace);
+  return conversion;
+}
+
+// Refuses what would make one output of two inputs, or replace an input.
+void RequireOutputsApart(const std::vector<Conversion>& conversions) {
+  std::vector<Complaint> complaints;
+  std::unordered_map<std::string, const Conversion*> inputs;
+  for (const Conversion& conversion : conversions) {
+    inputs.emplace(Resolved(conversion.input), &conversion);
+  }
+  std::unordered_map<std::string, const Conversion*> outputs;
+  for (const Conversion& conversion : conversions) {
+    const std::string output = Resolved(conversion.output);
+    const auto [other, is_new] = outputs.emplace(output, &conversion);
+    if (!is_new) {
+      complaints.push_back({conversion.output,
+                            "the output of " + other->second->input + " and of " + conversion.input,
+                            ""});
+    }
+    if (inputs.count(output) != 0) {
+      complaints.push_back({conversion.output, "is an input, and would be an output too", ""});
+    }
+  }
+  if (!complaints.empty()) throw Failure{ExitStatus::kWrongUsage, complaints};
+}
+
+// The bytes to read.
+std::uintmax_t WorkOf(const Conversion& conversion) {
+  std::error_code error;
+  const std::uintmax_t size = fs::file_size(conversion.source, error);
+  return error ? 0 : size;
+}
+
+// Files of one folder, in order, cut into batches of about `work` bytes to read.
+class BatchMaker {
+ public:
+  explicit BatchMaker(std::uintmax_t work) : wanted_work_(work) {}
+
+  void Add(const Conversion& conversion, std::size_t index, std::vector<Batch>& batches) {
+    const std::size_t name_bytes = conversion.source.size() + 1;
+    const bool is_full = batch_.size() == kMostFiles || name_bytes_ + name_bytes > kMostBytes ||
+                         work_ >= wanted_work_;
+    if (is_full) Finish(batches);
+    batch_.push_back(index);
+    name_bytes_ += name_bytes;
+    work_ += WorkOf(conversion);
+  }
+
+  void Finish(std::vector<Batch>& batches) {
+    if (!batch_.empty()) batches.push_back(std::exchange(batch_, {}));
+    name_bytes_ = 0;
+    work_ = 0;
+  }
+
+ private:
+  const std::uintmax_t wanted_work_;
+  Batch batch_;
+  std::size_t name_bytes_ = 0;
+  std::uintmax_t work_ = 0;
+};
+
+}  // namespace
+
+std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
+                                        const OutputWishes& wishes) {
+  std::vector<Conversion> conversions;
+  conversions.reserve(inputs.size());
+  for (const std::string& input : inputs) conversions.push_back(Plan(input, wishes));
+  RequireOutputsApart(conversions);
+  return conversions;
+}
+
+std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs) {
+  std::vector<std::string> folders;  // in the order in which they are met
+  std::map<std::string, std::vector<std::size_t>> files;
+  std::uintmax_t work = 0;
+  for (std::size_t index = 0; index < conversions.size(); ++index) {
+    if (conversions[index].status != ConversionStatus::kPlanned) continue;
+    work += WorkOf(conversions[index]);
+    std::vector<std::size_t>& indices = files[FolderOf(conversions[index].source)];
+    if (indices.empty()) folders.push_back(FolderOf(conversions[index].source));
+    indices.push_back(index);
+  }
+  const std::uintmax_t part =
+      jobs > 1 ? std::max(work / (jobs * kBatchesPerJob), kLeastWork) : work + 1;
+  std::vector<Batch> batches;
+  for (const std::string& folder : folders) {
+    BatchMaker maker(part);
+    for (const std::size_t index : files[folder]) maker.Add(conversions[index], index, batches);
+    maker.Finish(batches);
+  }
+  return batches;
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::string folder = FolderPartOf(path);
+  return folder.empty() ? "." : folder;
+}
+
+}  // namespace cli

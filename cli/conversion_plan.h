@@ -1,0 +1,36 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <vector>
+
+#include "cli/conversion.h"
+
+// Which files `orvane convert` makes of which, and which of them the plug-in converts together.
+
+namespace cli {
+
+struct OutputWishes {
+  std::string file;    // the one to make; empty: named after the input
+  std::string folder;  // for all outputs; empty: each beside its input
+  bool replace = false;
+};
+
+// The conversions that `inputs` ask for, in their order. Those that cannot be begun, because the
+// input is missing or the output exists, have their status and complaint already. Throws a Failure
+// for wrong usage: two inputs with one output, an output that is an input.
+std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
+                                        const OutputWishes& wishes);
+
+// Indices of conversions that the plug-in carries out in one run, in order: their inputs lie in one
+// folder, and so do their outputs.
+using Batch = std::vector<std::size_t>;
+
+// The planned ones of `conversions` as batches, small enough for the file dialog and to keep `jobs`
+// processes busy.
+std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs);
+
+// The folder that `path` lies in; "." for a name alone.
+std::string FolderOf(const std::string& path);
+
+}  // namespace cli

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+
+#include "cli/command_line.h"
+
+// `orvane convert`: lets the plug-in turn marker files into BVK files.
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddConvertCommand(CLI::App& app, Work& work);
+
+}  // namespace cli

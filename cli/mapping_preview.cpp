@@ -1,0 +1,131 @@
+#include "cli/mapping_preview.h"
+
+#include "cli/json_writer.h"
+#include "cli/messages.h"
+#include "cli/trc_worth.h"
+#include "plugin/mnm/marker_name_map.h"
+#include "plugin/text/files.h"
+#include "plugin/trc/document.h"
+#include "plugin/trc/outline.h"
+
+namespace cli {
+namespace {
+
+using Layout = JsonWriter::Layout;
+
+constexpr int kVersion = 1;
+
+// An output that exists keeps nothing from being shown.
+bool IsReadable(const Conversion& conversion) {
+  return conversion.status == ConversionStatus::kPlanned ||
+         conversion.status == ConversionStatus::kExists;
+}
+
+class Previewer {
+ public:
+  explicit Previewer(const std::string& mapping) : use_mapping_(!mapping.empty()) {
+    if (use_mapping_ && !mapping_.Load(mapping)) {
+      throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
+    }
+  }
+
+  ConversionPreview Preview(Conversion& conversion) const {
+    ConversionPreview preview{&conversion, {}};
+    if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion);
+    if (!IsReadable(conversion)) return preview;
+    const std::string bytes = orvane::ReadFileBytes(conversion.input).value_or("");
+    orvane::TRCDocument document;
+    const std::string message = document.ReadBytes(orvane::OutlineTRC(bytes).header, false);
+    if (!message.empty()) {
+      conversion.status = ConversionStatus::kBroken;
+      conversion.errors.push_back({conversion.input, message, ""});
+      return preview;
+    }
+    for (const orvane::TRCMarker& marker : document.markers()) {
+      preview.markers.push_back(FateOf(marker.Name()));
+    }
+    return preview;
+  }
+
+ private:
+  MarkerFate FateOf(const std::string& name) const {
+    std::string written_as = name;
+    if (use_mapping_ && !mapping_.Lookup(written_as)) return {name, std::nullopt};
+    return {name, written_as};
+  }
+
+  orvane::MarkerNameMap mapping_;
+  const bool use_mapping_;
+};
+
+void PrintMarker(const MarkerFate& marker, std::ostream& out) {
+  if (!marker.written_as) {
+    out << "  drop    " << Printable(marker.name) << '\n';
+  } else if (*marker.written_as == marker.name) {
+    out << "  keep    " << Printable(marker.name) << '\n';
+  } else {
+    out << "  rename  " << Printable(marker.name) << " to " << Printable(*marker.written_as)
+        << '\n';
+  }
+}
+
+void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
+  json.Key(key);
+  json.String(text);
+}
+
+void WriteMarker(JsonWriter& json, const MarkerFate& marker) {
+  json.BeginObject();
+  WriteText(json, "name", marker.name);
+  json.Key("written_as");
+  if (marker.written_as) {
+    json.String(*marker.written_as);
+  } else {
+    json.Null();
+  }
+  json.EndObject();
+}
+
+void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
+  json.BeginObject();
+  WriteText(json, "file", preview.conversion->input);
+  WriteText(json, "output", preview.conversion->output);
+  WriteText(json, "status", NameOf(preview.conversion->status));
+  json.Key("markers");
+  json.BeginArray(Layout::kLines);
+  for (const MarkerFate& marker : preview.markers) WriteMarker(json, marker);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace
+
+std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
+                                                  const std::string& mapping) {
+  const Previewer previewer(mapping);
+  std::vector<ConversionPreview> previews;
+  for (Conversion& conversion : conversions) previews.push_back(previewer.Preview(conversion));
+  return previews;
+}
+
+void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out) {
+  for (const ConversionPreview& preview : previews) {
+    out << Printable(preview.conversion->input) << " -> " << Printable(preview.conversion->output)
+        << " (" << NameOf(preview.conversion->status) << ")\n";
+    for (const MarkerFate& marker : preview.markers) PrintMarker(marker, out);
+  }
+}
+
+void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out) {
+  JsonWriter json(out);
+  json.BeginObject();
+  json.Key("version");
+  json.Integer(kVersion);
+  json.Key("files");
+  json.BeginArray(Layout::kLines);
+  for (const ConversionPreview& preview : previews) WritePreview(json, preview);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace cli

@@ -1,0 +1,411 @@
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using nlohmann::json;
+using test::ProgramResult;
+using test::ProgramRun;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+constexpr char kRefused[] = "The file is does not have a compatible \"(X/Y/Z)\" header state";
+
+// Two markers, the second of which drops out once; `x` tells files apart.
+std::string Take(const std::string& x = "1") {
+  return TrcText{.markers = {"Head1", "Toe"},
+                 .frames = {{x + "\t2\t3", "4\t5\t6"}, {x + "\t2\t3", ""}}}
+      .Text();
+}
+
+std::string BrokenTake() { return "a poem\n"; }
+
+class ConvertTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Convert(std::vector<std::string> arguments) const {
+    arguments.insert(arguments.begin(), "convert");
+    ProgramRun run = Command(arguments);
+    run.environment.emplace_back("SOURCE_DATE_EPOCH=741476948");
+    return RunProgram(run);
+  }
+
+  void MakeFolder(const std::string& name) const {
+    std::filesystem::create_directory(folder_.Path() / name);
+  }
+  std::vector<std::string> NamesOf(const std::string& folder) const {
+    return test::NamesIn(folder_.Path() / folder);
+  }
+  std::string Absolute(const std::string& name) const {
+    return std::filesystem::canonical(folder_.File(name)).string();
+  }
+};
+
+TEST_F(ConvertTest, ConvertsOneFileBesideItself) {
+  Write("walk.trc", Take());
+  const ProgramResult result = Convert({"walk.trc"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(result.error, "");
+  EXPECT_EQ(result.output,
+            "File      Frames  Kept  Dropped  Dropouts  Output    Status\n"
+            "walk.trc       2     2        0         1  walk.bvk  converted\n"
+            "1 of 1 converted\n");
+  EXPECT_THAT(Names(), ElementsAre("walk.bvk", "walk.trc"));
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Filename   walk\n"
+                                          "$DateTime   Wed Jun 30 21:49:08 1993\n\n"));
+  EXPECT_THAT(Read("walk.bvk"), EndsWith("$Order\nHead1 Toe \n\n$Points\n"
+                                         "1\t1.000000\t-3.000000\t2.000000"
+                                         "\t4.000000\t-6.000000\t5.000000\t\n\n"
+                                         "2\t1.000000\t-3.000000\t2.000000\tDROPOUT\t\n\n"));
+}
+
+TEST_F(ConvertTest, NamesTheOutputAsItIsTold) {
+  Write("walk.trc", Take());
+  MakeFolder("out");
+  EXPECT_EQ(Convert({"walk.trc", "-o", "step.bvk"}).status, 0);
+  EXPECT_EQ(Convert({"walk.trc", "-o", "out/bare"}).status, 0);
+  EXPECT_EQ(Convert({"walk.trc", "--output-dir", "out"}).status, 0);
+  EXPECT_THAT(Read("step.bvk"), HasSubstr("$Filename   step\n"));
+  EXPECT_THAT(Read("out/bare.bvk"), HasSubstr("$Filename   bare\n"));
+  EXPECT_THAT(Read("out/walk.bvk"), HasSubstr("$Filename   walk\n"));
+}
+
+TEST_F(ConvertTest, RenamesAndDropsMarkersByTheMapping) {
+  Write("walk.trc", Take());
+  Write("map.mnm", "HEAD\tHead1\t\n");
+  const ProgramResult result = Convert({"walk.trc", "--mapping", "map.mnm"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(result.output, HasSubstr("walk.trc       2     1        1         0  walk.bvk"));
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n"));
+}
+
+TEST_F(ConvertTest, AddsTheOffsetInEitherSpace) {
+  Write("walk.trc", Take());
+  EXPECT_EQ(Convert({"walk.trc", "--offset", "10,20,40"}).status, 0);
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t11.000000\t-43.000000\t22.000000\t"));
+  EXPECT_EQ(
+      Convert({"walk.trc", "--offset", "10,20,40", "--offset-space", "skelder", "--force"}).status,
+      0);
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t11.000000\t17.000000\t42.000000\t"));
+  EXPECT_EQ(Convert({"walk.trc", "--offset", "-10,-0.5,1e1", "--force"}).status, 0);
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t-9.000000\t-13.000000\t1.500000\t"));
+}
+
+TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
+  Write("a.trc", Take("1"));
+  Write("50%done.trc", BrokenTake());
+  Write("c.trc", Take("3"));
+  MakeFolder("out");
+  const ProgramResult result =
+      Convert({"a.trc", "50%done.trc", "nowhere.trc", "c.trc", "--output-dir", "out"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.output,
+            "File         Frames  Kept  Dropped  Dropouts  Output           Status\n"
+            "a.trc             2     2        0         1  out/a.bvk        converted\n"
+            "50%done.trc       -     -        -         -  out/50%done.bvk  broken\n"
+            "nowhere.trc       -     -        -         -  out/nowhere.bvk  unreadable\n"
+            "c.trc             2     2        0         1  out/c.bvk        converted\n"
+            "2 of 4 converted\n");
+  EXPECT_EQ(result.error, std::string("orvane: 50%done.trc: ") + kRefused +
+                              "\norvane: nowhere.trc: No such file or directory\n");
+  EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "c.bvk"));
+  const std::string folder = Absolute(".") + "/";
+  EXPECT_EQ(Read("out/ConvertBVKLog.txt"),
+            "Orvane OrvaneFileIO TRC to BVK Batch Conversion Log\n"
+            "Wed Jun 30 21:49:08 1993\n"
+            "Processing 3 files...\n"
+            "file: " +
+                folder + "a.trc done.\n" + folder + "500one.trc: " + kRefused + "\n" +
+                "file: " + folder + "50%done.trc done.\n" + "file: " + folder + "c.trc done.\n");
+}
+
+TEST_F(ConvertTest, DeliversBrokenFilesOnlyWhenAsked) {
+  Write("poem.trc", BrokenTake());
+  ProgramResult result = Convert({"poem.trc"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, std::string("orvane: poem.trc: ") + kRefused + "\n");
+  EXPECT_FALSE(Exists("poem.bvk"));
+  result = Convert({"poem.trc", "--keep-broken"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.output, HasSubstr("poem.bvk  broken\n0 of 1 converted\n"));
+  EXPECT_THAT(Read("poem.bvk"), EndsWith("$Order\n"));
+}
+
+TEST_F(ConvertTest, KeepsOutputsThatExist) {
+  Write("walk.trc", Take());
+  Write("walk.bvk", "mine");
+  ProgramResult result = Convert({"walk.trc"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.error, "orvane: walk.bvk: File exists\n  It is kept; --force replaces it.\n");
+  EXPECT_THAT(result.output, HasSubstr("walk.bvk  exists\n"));
+  EXPECT_EQ(Read("walk.bvk"), "mine");
+  EXPECT_EQ(Convert({"walk.trc", "--force"}).status, 0);
+  EXPECT_THAT(Read("walk.bvk"), StartsWith("$Comments"));
+}
+
+TEST_F(ConvertTest, KeepsALogThatExists) {
+  Write("a.trc", Take());
+  Write("b.trc", Take());
+  Write("ConvertBVKLog.txt", "mine");
+  const ProgramResult result = Convert({"a.trc", "b.trc"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: ConvertBVKLog.txt: File exists\n  It is kept; --force replaces it.\n");
+  EXPECT_EQ(Read("ConvertBVKLog.txt"), "mine");
+}
+
+TEST_F(ConvertTest, RefusesOutputsThatMeetBeforeAnythingRuns) {
+  MakeFolder("one");
+  MakeFolder("two");
+  MakeFolder("out");
+  Write("one/walk.trc", Take());
+  Write("two/walk.trc", Take());
+  const ProgramResult result = Convert({"one/walk.trc", "two/walk.trc", "--output-dir", "out"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: out/walk.bvk: the output of one/walk.trc and of two/walk.trc\n");
+  EXPECT_THAT(NamesOf("out"), testing::IsEmpty());
+  EXPECT_EQ(Convert({"one/walk.trc", "one/../one/walk.trc"}).status, 2);
+  EXPECT_EQ(Convert({"one/walk.trc", "one/walk.trc", "--dry-run"}).status, 2);
+}
+
+TEST_F(ConvertTest, RefusesToReplaceAnInput) {
+  Write("walk.bvk", Take());
+  const ProgramResult result = Convert({"walk.bvk", "--force"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: walk.bvk: is an input, and would be an output too\n");
+  EXPECT_EQ(Read("walk.bvk"), Take());
+}
+
+TEST_F(ConvertTest, GroupsFilesByTheirFolders) {
+  MakeFolder("one");
+  MakeFolder("two");
+  MakeFolder("out");
+  for (const char* name : {"one/a.trc", "two/b.trc", "one/c.trc"}) Write(name, Take());
+  EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc", "--output-dir", "out"}).status, 0);
+  EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "b.bvk", "c.bvk"));
+  const std::string log = Read("out/ConvertBVKLog.txt");
+  EXPECT_LT(log.find("a.trc done"), log.find("c.trc done"));
+  EXPECT_LT(log.find("c.trc done"), log.find("b.trc done"));
+  EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc"}).status, 0);
+  EXPECT_THAT(NamesOf("one"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "a.trc", "c.bvk", "c.trc"));
+  EXPECT_THAT(NamesOf("two"), ElementsAre("ConvertBVKLog.txt", "b.bvk", "b.trc"));
+}
+
+TEST_F(ConvertTest, TakesNamesOfAnyBytes) {
+  MakeFolder("o u't");
+  const std::vector<std::string> stems = {"50%done",    "%s%s%n",      "%999999999d", "a b",
+                                          "it's \"x\"", "caf\xC3\xA9", "\xE9\xFF",    "tab\there"};
+  std::vector<std::string> arguments = {"--output-dir", "o u't"};
+  for (const std::string& stem : stems) {
+    Write(stem + ".trc", Take());
+    arguments.push_back(stem + ".trc");
+  }
+  const ProgramResult result = Convert(arguments);
+  EXPECT_EQ(result.status, 0) << result.error;
+  for (const std::string& stem : stems) {
+    EXPECT_THAT(Read("o u't/" + stem + ".bvk"), HasSubstr("$Filename   " + stem + "\n")) << stem;
+  }
+}
+
+TEST_F(ConvertTest, TellsTheReadersWordsWhateverTheLogMakesOfTheName) {
+  std::vector<std::string> arguments = {"--jobs", "1"};
+  for (const char* name : {"%s%s%n.trc", "%999999999d.trc", "50%done.trc"}) {
+    Write(name, BrokenTake());
+    arguments.emplace_back(name);
+  }
+  const ProgramResult result = Convert(arguments);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, std::string("orvane: %s%s%n.trc: ") + kRefused +
+                              "\norvane: %999999999d.trc: " + kRefused +
+                              "\norvane: 50%done.trc: " + kRefused + "\n");
+}
+
+TEST_F(ConvertTest, RefusesHeadersThatPromiseFarTooMuch) {
+  TrcText take{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}};
+  take.frame_count = 2'000'000'000;
+  Write("wrong.trc", take.Text());
+  Write("walk.trc", Take());
+  const ProgramResult result = Convert({"wrong.trc", "walk.trc"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: wrong.trc: The header announces 2000000000 frames, but the file holds 1\n"
+            "  Is \"NumFrames\" right?\n");
+  EXPECT_THAT(result.output, HasSubstr("wrong.bvk  refused\n"));
+  EXPECT_TRUE(Exists("walk.bvk"));
+  EXPECT_FALSE(Exists("wrong.bvk"));
+}
+
+TEST_F(ConvertTest, WarnsOfFramesThatAreMissing) {
+  TrcText take{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}};
+  take.frame_count = 3;
+  Write("walk.trc", take.Text());
+  ProgramResult result = Convert({"walk.trc"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 3 frames, but the file holds 1\n"
+            "  Missing frames are written as dropouts.\n");
+  EXPECT_THAT(result.output, HasSubstr("walk.trc       3     1        0         2  walk.bvk"));
+  take.frame_count = 0;
+  Write("walk.trc", take.Text());
+  result = Convert({"walk.trc", "--force"});
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 0 frames, but the file holds 1\n"
+            "  Only the announced frames are written.\n");
+}
+
+TEST_F(ConvertTest, ShowsWhatItWouldDo) {
+  Write("walk.trc", Take());
+  Write("poem.trc", BrokenTake());
+  Write("map.mnm", "HEAD\tHead1\t\nToe\tToe\t\n");
+  Write("less.mnm", "HEAD\tHead1\t\n");
+  ProgramResult result = Convert({"walk.trc", "poem.trc", "--mapping", "map.mnm", "--dry-run"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.output,
+            "walk.trc -> walk.bvk (planned)\n"
+            "  rename  Head1 to HEAD\n"
+            "  keep    Toe\n"
+            "poem.trc -> poem.bvk (broken)\n");
+  EXPECT_EQ(result.error, std::string("orvane: poem.trc: ") + kRefused + "\n");
+  result = Convert({"walk.trc", "--mapping", "less.mnm", "--dry-run"});
+  EXPECT_THAT(result.output, HasSubstr("  drop    Toe\n"));
+  result = Convert({"walk.trc", "--dry-run", "--json"});
+  const json preview = json::parse(result.output);
+  EXPECT_EQ(preview["files"][0]["markers"][1]["written_as"], "Toe");
+  EXPECT_EQ(preview["files"][0]["status"], "planned");
+  EXPECT_THAT(Names(), ElementsAre("less.mnm", "map.mnm", "poem.trc", "walk.trc"));
+}
+
+TEST_F(ConvertTest, WritesJson) {
+  Write("walk.trc", Take());
+  Write("poem.trc", BrokenTake());
+  const ProgramResult result = Convert({"walk.trc", "poem.trc", "--json"});
+  EXPECT_EQ(result.status, 1);
+  const json report = json::parse(result.output);
+  EXPECT_EQ(report["version"], 1);
+  EXPECT_EQ(report["files"][0]["status"], "converted");
+  EXPECT_EQ(report["files"][0]["output"], "walk.bvk");
+  EXPECT_EQ(report["files"][0]["dropouts"], 1);
+  EXPECT_EQ(report["files"][1]["delivered"], false);
+  EXPECT_TRUE(report["files"][1]["frames"].is_null());
+  EXPECT_EQ(report["files"][1]["errors"][0], kRefused);
+  EXPECT_EQ(report["logs"][0], "ConvertBVKLog.txt");
+}
+
+TEST_F(ConvertTest, RefusesWrongArguments) {
+  Write("walk.trc", Take());
+  MakeFolder("out");
+  const std::vector<std::vector<std::string>> cases = {
+      {},
+      {"walk.trc", "run.trc", "-o", "step.bvk"},
+      {"walk.trc", "-o", "step.bvk", "--output-dir", "out"},
+      {"walk.trc", "--offset", "1,2"},
+      {"walk.trc", "--offset", "1,2,three"},
+      {"walk.trc", "--offset", "1,2,3,4"},
+      {"walk.trc", "--offset-space", "trc"},
+      {"walk.trc", "--offset", "1,2,3", "--offset-space", "room"},
+      {"walk.trc", "--jobs", "0"},
+  };
+  for (const auto& arguments : cases) {
+    EXPECT_EQ(Convert(arguments).status, 2) << testing::PrintToString(arguments);
+  }
+  EXPECT_THAT(Names(), ElementsAre("out", "walk.trc"));
+}
+
+TEST_F(ConvertTest, TellsWhatItCannotReadOrWrite) {
+  Write("walk.trc", Take());
+  ProgramResult result = Convert({"walk.trc", "--mapping", "missing.mnm"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.error, "orvane: missing.mnm: No such file or directory\n");
+  result = Convert({"walk.trc", "--output-dir", "missing"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("missing"));
+  result = Convert({"walk"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("walk.TRC: No such file or directory\n"));
+  EXPECT_THAT(Names(), ElementsAre("walk.trc"));
+}
+
+TEST_F(ConvertTest, CannotWriteToAFolderThatIsNotItsOwn) {
+  MakeFolder("out");
+  Write("walk.trc", Take());
+  std::filesystem::permissions(folder_.Path() / "out", std::filesystem::perms{0555});
+  ProgramRun run = Command({"convert", "walk.trc", "--output-dir", "out"});
+  run.unprivileged = true;
+  const ProgramResult result = RunProgram(run);
+  if (result.status == test::kNotStarted) GTEST_SKIP() << "the program may not be started";
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("Permission denied"));
+  EXPECT_THAT(NamesOf("out"), testing::IsEmpty());
+}
+
+// The plug-in does not notice that its file was cut short.
+TEST_F(ConvertTest, DeliversNoFileThatTheDiskDidNotTake) {
+  TrcText take{.markers = {"Head1"}};
+  take.frames.assign(5000, {"1\t2\t3"});
+  Write("walk.trc", take.Text());
+  ProgramRun run = Command({"convert", "walk.trc"});
+  run.largest_file = 100'000;
+  const ProgramResult result = RunProgram(run);
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("The plug-in could not write all of the file"));
+  EXPECT_THAT(Names(), ElementsAre("walk.trc"));
+}
+
+TEST_F(ConvertTest, ConvertsTwelveHundredFilesOfWhichThirtyAreBroken) {
+  MakeFolder("in");
+  MakeFolder("out");
+  std::vector<std::string> arguments = {"--output-dir", "out", "--jobs", "2"};
+  std::string expected_errors;
+  for (int number = 0; number < 1200; ++number) {
+    const std::string name = "in/" + std::to_string(10'000 + number) + ".trc";
+    const bool is_broken = number % 40 == 7;
+    Write(name, is_broken ? BrokenTake() : Take(std::to_string(number)));
+    if (is_broken) expected_errors += "orvane: " + name + ": " + kRefused + "\n";
+    arguments.push_back(name);
+  }
+  ProgramResult result = Convert(arguments);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, expected_errors);
+  EXPECT_THAT(result.output, EndsWith("1170 of 1200 converted\n"));
+  EXPECT_EQ(NamesOf("out").size(), 1171u);
+  for (int number = 0; number < 1200; ++number) {
+    if (number % 40 == 7) continue;
+    const std::string output = Read("out/" + std::to_string(10'000 + number) + ".bvk");
+    EXPECT_THAT(output, HasSubstr("\n1\t" + std::to_string(number) + ".000000\t-3.000000\t"));
+  }
+
+  // Outputs, order and log are the same whatever the number of processes.
+  const std::string table = result.output;
+  std::filesystem::last_write_time(folder_.Path() / "out/10000.bvk", {});
+  result = Convert(arguments);
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.output, EndsWith("0 of 1200 converted\n"));
+  EXPECT_EQ(NamesOf("out").size(), 1171u);
+  EXPECT_EQ(std::filesystem::last_write_time(folder_.Path() / "out/10000.bvk"),
+            std::filesystem::file_time_type());
+  std::filesystem::remove_all(folder_.Path() / "out");
+  MakeFolder("out");
+  arguments[3] = "1";
+  EXPECT_EQ(Convert(arguments).output, table);
+}
+
+TEST_F(ConvertTest, MoreThanAThousandFilesAreSeveralBatches) {
+  MakeFolder("in");
+  std::vector<std::string> arguments = {"--jobs", "1", "--quiet"};
+  for (int number = 10'000; number < 11'001; ++number) {
+    const std::string name = "in/" + std::to_string(number) + ".trc";
+    Write(name, Take());
+    arguments.push_back(name);
+  }
+  EXPECT_EQ(Convert(arguments).status, 0);
+  const std::string log = Read("in/ConvertBVKLog.txt");
+  EXPECT_THAT(log, HasSubstr("Processing 1000 files...\n"));
+  EXPECT_THAT(log, HasSubstr("Processing 1 files...\n"));
+}
+
+}  // namespace
