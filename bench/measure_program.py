@@ -19,6 +19,7 @@ import time
 RUNS = 3
 LONG = (60, 10_000, "tree")
 MARKERS = (60, 36_000, "trc")
+BATCH = 8  # marker files
 BY_SEGMENTS = [(count, 2, shape) for shape in ("chain", "fan") for count in (1000, 10_000, 100_000)]
 BY_FRAMES = [(10, count, "tree") for count in (1000, 10_000, 100_000)]
 
@@ -69,6 +70,16 @@ class Bench:
     def info(self, size):
         self.measure("info", size, [self.program, "info", self.motion])
 
+    def convert(self, name, size, inputs, *flags):
+        self.measure(name, size, [self.program, "convert", *inputs, "--output-dir", self.folder,
+                                  "--force", "--quiet", *flags])
+
+    def copies_of_motion(self, count):
+        copies = [os.path.join(self.folder, f"copy{number}.trc") for number in range(count)]
+        for copy in copies:
+            os.link(self.motion, copy)
+        return copies
+
     def make_import(self, name, size, *flags):
         self.measure(name, size, [self.program, "import", self.motion, "-o", self.scene,
                                   "--force", "--quiet", *flags])
@@ -92,6 +103,10 @@ def main(build):
         bench.write_markers()
         bench.info(MARKERS)
         bench.make_import("import", MARKERS)
+        bench.convert("convert", MARKERS, [bench.motion])
+        copies = bench.copies_of_motion(BATCH)
+        for jobs in ("1", "2"):
+            bench.convert(f"{BATCH} by {jobs}", (60 * BATCH, 36_000, "trc"), copies, "--jobs", jobs)
         for size in BY_SEGMENTS + BY_FRAMES:
             bench.write_motion(size)
             bench.make_import("import", size)
