@@ -11,6 +11,7 @@
 #include "cli/failure.h"
 #include "cli/import_command.h"
 #include "cli/info_command.h"
+#include "cli/map_command.h"
 #include "cli/scene_command.h"
 
 namespace cli {
@@ -23,10 +24,15 @@ Work Show(std::string text) {
   };
 }
 
-// "orvane" or "orvane import": whose help tells what went wrong.
+// "orvane", "orvane import" or "orvane map lint": whose help tells what went wrong.
 std::string HelpCommand(const CLI::App& app) {
-  const std::vector<CLI::App*> verbs = app.get_subcommands();
-  return verbs.empty() ? "orvane --help" : "orvane " + verbs.front()->get_name() + " --help";
+  std::string command = "orvane";
+  const CLI::App* verb = &app;
+  while (!verb->get_subcommands().empty()) {
+    verb = verb->get_subcommands().front();
+    command += " " + verb->get_name();
+  }
+  return command + " --help";
 }
 
 // CLI11 counts values; a user knows flags.
@@ -40,7 +46,10 @@ std::string ExplainMismatch(const std::string& text) {
 std::string Explain(const CLI::App& app, const CLI::ParseError& error, int argument_count,
                     const char* const* arguments) {
   if (error.get_name() == "ArgumentMismatch") return ExplainMismatch(error.what());
-  if (!app.get_subcommands().empty()) return error.what();
+  if (!app.get_subcommands().empty()) {
+    const std::string text = error.what();
+    return text == "A subcommand is required" ? "a verb is missing behind this one" : text;
+  }
   if (argument_count < 2) return "what is to be done? A verb is missing";
   return "there is no verb or flag \"" + std::string(arguments[1]) + "\"";
 }
@@ -60,6 +69,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   AddConvertCommand(app, work);
   AddCheckCommand(app, work);
   AddCompareCommand(app, work);
+  AddMapCommand(app, work);
   AddSceneCommand(app, work);
   try {
     app.parse(argument_count, arguments);

@@ -1,0 +1,69 @@
+#include "cli/map_command.h"
+
+#include <iostream>
+#include <memory>
+
+#include "cli/map_create.h"
+#include "cli/mnm_lint.h"
+
+namespace cli {
+namespace {
+
+struct LintArguments {
+  std::string mapping;
+  std::string marker_file;
+  bool json = false;
+};
+
+// A mapping without worse than notes does what it seems to do.
+ExitStatus Lint(const LintArguments& arguments) {
+  const CheckedFile file = LintMappingFile(arguments.mapping, arguments.marker_file);
+  if (arguments.json) {
+    PrintCheckJson({file}, std::cout);
+  } else {
+    PrintCheckedFile(file, std::cout);
+  }
+  const FindingList& findings = file.findings;
+  const bool is_fine = findings.Count(FindingSeverity::kWarning) == 0 &&
+                       findings.Count(FindingSeverity::kError) == 0;
+  return is_fine ? ExitStatus::kDone : ExitStatus::kRefused;
+}
+
+void AddLint(CLI::App& map, Work& work) {
+  auto arguments = std::make_shared<LintArguments>();
+  CLI::App* verb = map.add_subcommand("lint", "Name what is odd in a mapping file");
+  verb->add_option("MAPPING", arguments->mapping, "The mapping file")->required()->type_name("");
+  verb->add_option("FILE", arguments->marker_file, "The TRC file that it is to fit")->type_name("");
+  verb->add_flag("--json", arguments->json, "Write JSON");
+  verb->callback([arguments, &work] { work = [arguments] { return Lint(*arguments); }; });
+}
+
+void AddCreate(CLI::App& map, Work& work) {
+  auto arguments = std::make_shared<MapCreateArguments>();
+  CLI::App* verb = map.add_subcommand("create", "Make a mapping file by the plug-in's creator");
+  verb->add_option("FILE", arguments->marker_file, "The TRC file")->required()->type_name("");
+  verb->add_option("-o,--output", arguments->output, "The mapping file to write")
+      ->required()
+      ->type_name("MAPPING");
+  verb->add_option("--picks", arguments->picks, "Which marker plays which standard marker's role")
+      ->required()
+      ->type_name("TABLE");
+  verb->add_flag("--left-stick", arguments->sticks.left, "The left wrist carries a stick");
+  verb->add_flag("--right-stick", arguments->sticks.right, "The right wrist carries a stick");
+  verb->add_flag("--force", arguments->force, "Replace the mapping file if it exists");
+  verb->add_option("--module", arguments->module, "The plug-in to load (the one beside orvane)")
+      ->type_name("PATH");
+  verb->add_flag("--quiet", arguments->quiet, "No summary");
+  verb->callback([arguments, &work] { work = [arguments] { return CreateMapping(*arguments); }; });
+}
+
+}  // namespace
+
+void AddMapCommand(CLI::App& app, Work& work) {
+  CLI::App* map = app.add_subcommand("map", "Make and check marker name mappings");
+  map->require_subcommand(1);
+  AddCreate(*map, work);
+  AddLint(*map, work);
+}
+
+}  // namespace cli

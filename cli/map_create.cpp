@@ -1,0 +1,100 @@
+#include "cli/map_create.h"
+
+#include <filesystem>
+#include <iostream>
+#include <optional>
+#include <vector>
+
+#include "cli/failure.h"
+#include "cli/file_kind.h"
+#include "cli/findings.h"
+#include "cli/input.h"
+#include "cli/inspection.h"
+#include "cli/interruption.h"
+#include "cli/mapping_user.h"
+#include "cli/messages.h"
+#include "cli/picks_table.h"
+#include "platform/interrupt.h"
+#include "platform/output_file.h"
+#include "platform/scratch_folder.h"
+#include "plugin/text/files.h"
+
+namespace cli {
+namespace {
+
+constexpr char kMappingName[] = "/mapping.mnm";
+
+Failure CannotWrite(const std::string& path, const platform::OutputFile& file,
+                    const std::string& reason) {
+  const std::string advice = file.IsTaken() ? "It is kept; --force replaces it." : "";
+  return {ExitStatus::kInputOutput, {{path, reason, advice}}};
+}
+
+// The last of what the plug-in has told, as the reason why `file` came to nothing.
+Failure Refused(const std::string& file, const PluginSession& session) {
+  const std::vector<std::string> messages = session.Messages();
+  return {ExitStatus::kRefused,
+          {ComplainAbout(
+              file, messages.empty() ? "The plug-in gave up without a message" : messages.back())}};
+}
+
+// The cloud that the creator picks from.
+void ImportCloud(PluginSession& session, const std::string& input) {
+  if (!session.Import(input, ExtensionOf(FileKind::kTrc), {}, false)) {
+    throw Refused(input, session);
+  }
+  StopIfInterrupted();
+  if (!session.Messages().empty()) throw Refused(input, session);
+}
+
+std::vector<std::string> NamesIn(host::Scene& scene) {
+  std::vector<std::string> names;
+  for (const host::Node* node : scene.Root().Children()) names.push_back(node->Name());
+  return names;
+}
+
+void Deliver(const std::string& path, platform::OutputFile& file, const std::string& bytes) {
+  platform::HoldInterrupts();
+  std::string error = file.Write(bytes);
+  StopIfInterrupted();
+  if (error.empty()) error = file.Deliver();
+  if (!error.empty()) throw CannotWrite(path, file, error);
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::string folder = std::filesystem::path(path).parent_path().string();
+  return folder.empty() ? "." : folder;
+}
+
+}  // namespace
+
+ExitStatus CreateMapping(const MapCreateArguments& arguments) {
+  platform::CatchInterrupts();
+  const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
+  platform::OutputFile output(arguments.output, arguments.force);
+  if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
+    throw CannotWrite(arguments.output, output, reason);
+  }
+  PluginSession session(arguments.module, Settings::kFresh);
+  Inspect(input, FileKind::kTrc, {});
+  ImportCloud(session, input);
+  const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
+
+  const platform::ScratchFolder scratch(FolderOf(arguments.output));
+  if (!scratch.Error().empty()) {
+    throw Failure{ExitStatus::kInputOutput, {{FolderOf(arguments.output), scratch.Error(), ""}}};
+  }
+  const std::string made = scratch.Path() + kMappingName;
+  MappingUser(session, picks, arguments.sticks).Create(made);
+  StopIfInterrupted();
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(made);
+  if (!bytes) throw Refused(arguments.output, session);
+  Deliver(arguments.output, output, *bytes);
+  if (!arguments.quiet) {
+    std::cout << Printable(arguments.output) << ": " << CountOf(picks.Count(), "marker")
+              << " mapped\n";
+  }
+  return ExitStatus::kDone;
+}
+
+}  // namespace cli

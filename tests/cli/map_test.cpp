@@ -1,0 +1,232 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using nlohmann::json;
+using test::ProgramResult;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+// The standard markers that have to be picked, without sticks, and those that may be skipped.
+const std::vector<std::string> kNeeded = {
+    "LFHD", "LBHD", "RBHD", "RFHD", "C7",   "CLAV", "STRN", "LSHO", "LELB", "LWRA",
+    "LWRB", "LFIN", "RSHO", "RELB", "RWRA", "RWRB", "RFIN", "T10",  "LFWT", "LBWT",
+    "RBWT", "RFWT", "LKNE", "LANK", "LMT5", "LTOE", "RKNE", "RANK", "RMT5", "RTOE"};
+
+// A marker file with a marker "m-CODE" for every code.
+std::string MarkerFile(const std::vector<std::string>& codes) {
+  test::TrcText text;
+  for (const std::string& code : codes) text.markers.push_back("m-" + code);
+  text.frames = {test::TrcText::Frame(codes.size(), "1\t2\t3")};
+  return text.Text();
+}
+
+// The table that picks "m-CODE" for every code.
+std::string Table(const std::vector<std::string>& codes) {
+  std::string table;
+  for (const std::string& code : codes) table += code + "\tm-" + code + "\n";
+  return table;
+}
+
+std::vector<std::string> WithSticks() {
+  std::vector<std::string> codes = kNeeded;
+  std::replace(codes.begin(), codes.end(), std::string("LWRA"), std::string("LWRE"));
+  std::replace(codes.begin(), codes.end(), std::string("LWRB"), std::string("LWRI"));
+  std::replace(codes.begin(), codes.end(), std::string("RWRA"), std::string("RWRE"));
+  std::replace(codes.begin(), codes.end(), std::string("RWRB"), std::string("RWRI"));
+  return codes;
+}
+
+std::string MappingOf(const std::vector<std::string>& codes) {
+  std::string mapping;
+  for (const std::string& code : codes) mapping += code + "\tm-" + code + "\t\n";
+  return mapping;
+}
+
+class MapCreateTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Create(const std::vector<std::string>& more = {}) const {
+    std::vector<std::string> arguments = {"map",     "create",  "walk.trc", "-o",
+                                          "set.mnm", "--picks", "picks"};
+    arguments.insert(arguments.end(), more.begin(), more.end());
+    return Orvane(arguments);
+  }
+
+  // Nothing is left but what the test wrote.
+  void ExpectNothingWritten() const { EXPECT_THAT(Names(), ElementsAre("picks", "walk.trc")); }
+};
+
+TEST_F(MapCreateTest, WritesTheMappingThatTheTableAsksFor) {
+  Write("walk.trc", MarkerFile(kNeeded));
+  Write("picks", "# a comment\n\n" + Table(kNeeded) + "LILB -\n");
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(result.output, "set.mnm: 30 markers mapped\n");
+  EXPECT_EQ(Read("set.mnm"), MappingOf(kNeeded));
+  EXPECT_THAT(Names(), ElementsAre("picks", "set.mnm", "walk.trc"));
+}
+
+TEST_F(MapCreateTest, TakesOptionalMarkersAndSticks) {
+  std::vector<std::string> codes = WithSticks();
+  codes.insert(std::find(codes.begin(), codes.end(), "LWRE"), "LILB");
+  Write("walk.trc", MarkerFile(codes));
+  Write("picks", Table(codes));
+  const ProgramResult result = Create({"--left-stick", "--right-stick", "--quiet"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(result.output, "");
+  EXPECT_EQ(Read("set.mnm"), MappingOf(codes));
+}
+
+TEST_F(MapCreateTest, NamesAllThatIsWrongWithTheTableAtOnce) {
+  std::vector<std::string> codes = kNeeded;
+  Write("walk.trc", MarkerFile(codes));
+  codes.erase(codes.begin());  // LFHD
+  Write("picks", Table(codes) +
+                     "FOO m-C7\nC7 m-C7\nLILB m-none\nSACR m-C7\nRILB two words\nLKNI\n"
+                     "LWRE m-LFHD\nRBWT -\n");
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 1);
+  for (const char* complaint : {
+           "picks: line 30: FOO is no standard marker",
+           "picks: line 31: C7 is there already, on line 4",
+           "picks: line 32: there is no marker m-none",
+           "is to be picked for C7 too",
+           "picks: line 34: a name with blanks cannot be mapped: two words",
+           "picks: line 35: LKNI has no marker; - skips it",
+           "picks: line 36: LWRE is not asked for; --left-stick and --right-stick decide that",
+           "picks: LFHD cannot be skipped, and there is no marker for it",
+       }) {
+    EXPECT_THAT(result.error, HasSubstr(complaint));
+  }
+  ExpectNothingWritten();
+}
+
+TEST_F(MapCreateTest, KeepsAFileThatExists) {
+  Write("walk.trc", MarkerFile(kNeeded));
+  Write("picks", Table(kNeeded));
+  Write("set.mnm", "mine");
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("--force"));
+  EXPECT_EQ(Read("set.mnm"), "mine");
+  EXPECT_EQ(Create({"--force"}).status, 0);
+  EXPECT_EQ(Read("set.mnm"), MappingOf(kNeeded));
+}
+
+TEST_F(MapCreateTest, SaysWhyTheMarkerFileIsRefused) {
+  Write("walk.trc", "PathFileType\t4\t(X/Y/W)\twalk.trc\n");
+  Write("picks", Table(kNeeded));
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, HasSubstr("(X/Y/Z)"));
+  ExpectNothingWritten();
+}
+
+TEST_F(MapCreateTest, SaysWhichFileCannotBeRead) {
+  Write("picks", Table(kNeeded));
+  EXPECT_EQ(Create().status, 3);
+  Write("walk.trc", MarkerFile(kNeeded));
+  std::filesystem::remove(folder_.File("picks"));
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("picks: No such file"));
+}
+
+TEST_F(MapCreateTest, WantsItsArguments) {
+  EXPECT_EQ(Orvane({"map"}).status, 2);
+  const ProgramResult result = Orvane({"map", "create", "walk.trc"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.error, HasSubstr("orvane map create --help"));
+}
+
+// What is found, as "line:column severity code".
+class MapLintTest : public test::OrvaneTest {
+ protected:
+  std::vector<std::string> Findings(const std::string& mapping, bool with_markers = false) {
+    Write("set.mnm", mapping);
+    std::vector<std::string> arguments = {"map", "lint", "set.mnm", "--json"};
+    if (with_markers) arguments.insert(arguments.begin() + 3, "walk.trc");
+    result_ = Orvane(arguments);
+    std::vector<std::string> findings;
+    const json report = json::parse(result_.output);
+    for (const json& finding : report["files"][0]["findings"]) {
+      findings.push_back(std::to_string(finding["line"].get<int>()) + ":" +
+                         std::to_string(finding["column"].get<int>()) + " " +
+                         finding["severity"].get<std::string>() + " " +
+                         finding["code"].get<std::string>());
+    }
+    return findings;
+  }
+
+  ProgramResult result_;
+};
+
+TEST_F(MapLintTest, FindsNothingInAGoodMapping) {
+  EXPECT_THAT(Findings(MappingOf(kNeeded)), ElementsAre());
+  EXPECT_EQ(result_.status, 0);
+  const ProgramResult page = Orvane({"map", "lint", "set.mnm"});
+  EXPECT_EQ(page.status, 0);
+  EXPECT_EQ(page.output, "set.mnm: clean: 30 entries\n");
+}
+
+struct LintCase {
+  std::string mapping;
+  std::vector<std::string> findings;
+  int status;
+};
+
+TEST_F(MapLintTest, NamesWhatIsOddByPlaceAndCode) {
+  const std::vector<LintCase> cases = {
+      {"C7 a\nC7 a\n", {"2:1 note mnm-entry-doubled"}, 0},
+      {"C7 a\nT10 a\n", {"2:1 warning mnm-entry-shadowed"}, 1},
+      {"C7 a\nC7 b\n", {"2:1 warning mnm-standard-twice"}, 1},
+      {"c7 a\n", {"1:1 warning mnm-standard-unknown"}, 1},
+      {"C7 a b\t\n", {"1:6 warning mnm-rest-ignored"}, 1},
+      {"C7 a\n\n", {"2:1 warning mnm-name-missing", "2:1 note mnm-entry-doubled"}, 1},
+      {"C7 a\nT10\n", {"2:1 warning mnm-name-missing", "2:1 warning mnm-entry-shadowed"}, 1},
+      {"C7 " + std::string(1021, 'x') + "\n",
+       {"1:1 warning mnm-standard-unknown", "1:1 warning mnm-entry-shadowed",
+        "1:1024 warning mnm-line-cut", "1:1024 warning mnm-name-missing"},
+       1},
+      {"", {}, 0},
+  };
+  for (const LintCase& c : cases) {
+    EXPECT_THAT(Findings(c.mapping), testing::UnorderedElementsAreArray(c.findings)) << c.mapping;
+    EXPECT_EQ(result_.status, c.status) << c.mapping;
+  }
+}
+
+TEST_F(MapLintTest, ComparesWithTheMarkersOfAFile) {
+  test::TrcText text;
+  text.markers = {"Head1", "Toe", "Left hand"};
+  text.frames = {{"1\t2\t3", "1\t2\t3", "1\t2\t3"}};
+  Write("walk.trc", text.Text());
+  EXPECT_THAT(Findings("C7 head1\nLTOE Toe\n", true),
+              ElementsAre("1:1 warning mnm-entry-unused", "3:1 warning mnm-marker-unmapped",
+                          "3:1 warning mnm-marker-with-blanks"));
+  EXPECT_EQ(result_.status, 1);
+  EXPECT_THAT(result_.output, HasSubstr("perhaps \\\"Head1\\\""));
+}
+
+TEST_F(MapLintTest, SaysWhichFileCannotBeRead) {
+  const ProgramResult result = Orvane({"map", "lint", "none.mnm"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr("none.mnm: No such file"));
+  Write("set.mnm", "C7 a\n");
+  EXPECT_EQ(Orvane({"map", "lint", "set.mnm", "none.trc"}).status, 3);
+  Write("walk.trc", "nothing");
+  EXPECT_EQ(Orvane({"map", "lint", "set.mnm", "walk.trc"}).status, 1);
+  EXPECT_EQ(Orvane({"map", "lint"}).status, 2);
+}
+
+}  // namespace
