@@ -6,8 +6,7 @@
 
 #include "cli/check_report.h"
 #include "cli/choice.h"
-#include "cli/htr_check.h"
-#include "cli/input.h"
+#include "cli/file_checks.h"
 #include "cli/messages.h"
 
 namespace cli {
@@ -18,9 +17,6 @@ struct CheckArguments {
   FindingSeverity tolerated = FindingSeverity::kNote;
   bool json = false;
 };
-
-// Throws a Failure when the file cannot be read. Every kind of file has one such function.
-CheckedFile Check(const std::string& name) { return CheckHtrFile(ReadableHtrFile(name)); }
 
 FindingSeverity SeverityOf(const std::string& name) {
   if (name == "error") return FindingSeverity::kError;
@@ -38,23 +34,35 @@ class Checking {
   explicit Checking(const CheckArguments& arguments) : arguments_(arguments) {}
 
   ExitStatus Run() {
-    for (const std::string& input : arguments_.inputs) CheckOne(input);
+    for (const std::string& input : arguments_.inputs) CheckAll(input);
     if (arguments_.json) PrintCheckJson(files_, std::cout);
     return status_;
   }
 
  private:
-  // One file that cannot be read does not keep the others from being checked.
-  void CheckOne(const std::string& input) {
+  void CheckAll(const std::string& input) {
     try {
-      CheckedFile file = Check(input);
+      for (const std::string& file : FilesToCheck(input)) CheckOne(file);
+    } catch (const Failure& failure) {
+      Tell(failure);
+    }
+  }
+
+  // One file that cannot be read does not keep the others from being checked.
+  void CheckOne(const std::string& name) {
+    try {
+      CheckedFile file = CheckFile(name);
       if (!IsTolerable(file.findings, arguments_.tolerated)) Raise(ExitStatus::kRefused);
       if (!arguments_.json) return PrintCheckedFile(file, std::cout);
       files_.push_back(std::move(file));
     } catch (const Failure& failure) {
-      for (const Complaint& complaint : failure.complaints) Print(Severity::kError, complaint);
-      Raise(failure.status);
+      Tell(failure);
     }
+  }
+
+  void Tell(const Failure& failure) {
+    for (const Complaint& complaint : failure.complaints) Print(Severity::kError, complaint);
+    Raise(failure.status);
   }
 
   void Raise(ExitStatus status) { status_ = std::max(status_, status); }
@@ -69,9 +77,11 @@ class Checking {
 void AddCheckCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<CheckArguments>();
   CLI::App* verb = app.add_subcommand("check", "Name everything that is odd in motion files");
-  verb->add_option("FILE", arguments->inputs, "The HTR files")->required()->type_name("");
+  verb->add_option("FILE", arguments->inputs, "HTR files, and folders of them")
+      ->required()
+      ->type_name("");
   AddChoice(*verb, "--max-severity", {"note", "warning", "error"},
-            "The worst that still ends with status 0; note",
+            "The worst finding that still ends with status 0 (note)",
             [arguments](const std::string& name) { arguments->tolerated = SeverityOf(name); });
   verb->add_flag("--json", arguments->json, "Write JSON");
   verb->callback([arguments, &work] { work = [arguments] { return Checking(*arguments).Run(); }; });

@@ -10,6 +10,7 @@ using test::ProgramResult;
 using test::Replaced;
 using test::SmallMotion;
 using testing::ElementsAreArray;
+using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;
@@ -334,6 +335,47 @@ TEST_F(CheckTest, AFileThatCannotBeReadKeepsNoOtherFromBeingChecked) {
   EXPECT_EQ(result.status, 3);
   EXPECT_THAT(result.output, HasSubstr("warning.htr: 1 warning\n"));
   EXPECT_EQ(result.error, "orvane: nowhere.htr: No such file or directory\n");
+}
+
+TEST_F(CheckTest, AFolderStandsForTheFilesInItInTheOrderOfTheirNames) {
+  std::filesystem::create_directories(folder_.Path() / "take" / "deeper.htr");
+  for (const char* name : {"b.htr", "a.HTR", "notes.txt", "deeper.htr/c.htr", ".htr"}) {
+    Write(std::string("take/") + name, SmallMotion());
+  }
+  Write("take.htr", "");
+  const ProgramResult result = Orvane({"check", "warning.htr", "take", "walk.htr"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, EndsWith("warning.htr: 1 warning\n"
+                                      "take/a.HTR: clean: 2 segments, 3 frames\n"
+                                      "take/b.htr: clean: 2 segments, 3 frames\n"
+                                      "walk.htr: clean: 2 segments, 3 frames\n"));
+  EXPECT_EQ(Orvane({"check", "take/"}).output,
+            "take/a.HTR: clean: 2 segments, 3 frames\n"
+            "take/b.htr: clean: 2 segments, 3 frames\n");
+}
+
+TEST_F(CheckTest, AFolderWithNothingToCheckIsSaidToBeOne) {
+  std::filesystem::create_directories(folder_.Path() / "take");
+  Write("take/notes.txt", SmallMotion());
+  const ProgramResult result = Orvane({"check", "take", "walk.htr"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.output, "walk.htr: clean: 2 segments, 3 frames\n");
+  EXPECT_EQ(result.error,
+            "orvane: take: The folder holds no file to check\n"
+            "  Of a folder, files are checked whose names end in .htr.\n");
+}
+
+TEST_F(CheckTest, AFolderThatCannotBeReadIsSaidToBeOne) {
+  std::filesystem::create_directories(folder_.Path() / "take");
+  std::filesystem::permissions(folder_.Path() / "take", std::filesystem::perms::none);
+  test::ProgramRun run = Command({"check", "take"});
+  run.unprivileged = true;
+  const ProgramResult result = RunProgram(run);
+  std::filesystem::permissions(folder_.Path() / "take", std::filesystem::perms::owner_all);
+  if (result.status == test::kNotStarted) GTEST_SKIP() << "only the superuser may start it";
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.error, "orvane: take: Permission denied\n");
 }
 
 TEST_F(CheckTest, JsonHasTheDocumentedFields) {

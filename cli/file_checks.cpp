@@ -1,0 +1,80 @@
+#include "cli/file_checks.h"
+
+#include <algorithm>
+#include <array>
+#include <filesystem>
+#include <string_view>
+#include <system_error>
+
+#include "cli/failure.h"
+#include "cli/htr_check.h"
+#include "cli/input.h"
+#include "host/base/letter_case.h"
+
+namespace cli {
+namespace {
+
+namespace fs = std::filesystem;
+
+CheckedFile CheckHtr(const std::string& name) { return CheckHtrFile(ReadableHtrFile(name)); }
+
+struct FileCheck {
+  std::string_view extension;
+  CheckedFile (*check)(const std::string& name);
+};
+
+// The first is that of files with any other extension.
+constexpr std::array<FileCheck, 1> kFileChecks = {{
+    {".htr", CheckHtr},
+}};
+
+// Null for an unknown extension.
+const FileCheck* FindFileCheck(const fs::path& name) {
+  const std::string extension = name.extension().string();
+  const auto check = std::find_if(
+      kFileChecks.begin(), kFileChecks.end(),
+      [&](const FileCheck& each) { return host::SameButForCase(each.extension, extension); });
+  return check == kFileChecks.end() ? nullptr : &*check;
+}
+
+std::string KnownExtensions() {
+  std::string extensions;
+  for (const FileCheck& check : kFileChecks) {
+    if (!extensions.empty()) extensions += " or ";
+    extensions += check.extension;
+  }
+  return extensions;
+}
+
+bool IsToBeChecked(const fs::directory_entry& entry) {
+  std::error_code ignored;
+  return FindFileCheck(entry.path()) != nullptr && !entry.is_directory(ignored);
+}
+
+}  // namespace
+
+std::vector<std::string> FilesToCheck(const std::string& input) {
+  std::error_code error;
+  if (!fs::is_directory(input, error)) return {input};
+  std::vector<std::string> files;
+  fs::directory_iterator entry(input, error);
+  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
+    if (IsToBeChecked(*entry)) files.push_back(entry->path().string());
+  }
+  if (error) throw Failure{ExitStatus::kInputOutput, {{input, error.message(), ""}}};
+  if (files.empty()) {
+    throw Failure{
+        ExitStatus::kInputOutput,
+        {{input, "The folder holds no file to check",
+          "Of a folder, files are checked whose names end in " + KnownExtensions() + "."}}};
+  }
+  std::sort(files.begin(), files.end());
+  return files;
+}
+
+CheckedFile CheckFile(const std::string& name) {
+  const FileCheck* check = FindFileCheck(name);
+  return (check == nullptr ? kFileChecks.front() : *check).check(name);
+}
+
+}  // namespace cli

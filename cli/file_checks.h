@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/check_report.h"
+
+// The kinds of files that `orvane check` knows, and which files its user means.
+
+namespace cli {
+
+// The files that `input` stands for: of a folder those directly in it that have an extension of a
+// known kind, in the order of their names; otherwise `input` itself. Throws a Failure when there
+// are none.
+std::vector<std::string> FilesToCheck(const std::string& input);
+
+// Checks the file `name` by its extension, as an HTR file when that is unknown. Throws a Failure
+// when it cannot be read.
+CheckedFile CheckFile(const std::string& name);
+
+}  // namespace cli
