@@ -42,6 +42,7 @@ inline constexpr FindingRule kValueRefused = Error("htr-value-refused");
 inline constexpr FindingRule kLengthUnitUnknown = Warning("htr-length-unit-unknown");
 inline constexpr FindingRule kAngleUnitUnknown = Warning("htr-angle-unit-unknown");
 inline constexpr FindingRule kAxisUnknown = Warning("htr-axis-unknown");
+inline constexpr FindingRule kAxisIgnored = Warning("htr-axis-ignored");
 inline constexpr FindingRule kRateCut = Warning("htr-rate-cut");
 inline constexpr FindingRule kRateOutOfRange = Warning("htr-rate-out-of-range");
 inline constexpr FindingRule kScaleFactor = Warning("htr-scale-factor");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <limits>
 
 #include "cli/htr_keywords.h"
 #include "cli/htr_rules.h"
@@ -24,6 +25,12 @@ bool IsWhole(std::string_view field) {
          field == "DataFrameRate";
 }
 
+std::string WholeNumberInRange(std::string_view field) {
+  using Limits = std::numeric_limits<std::int32_t>;
+  return "a whole number from " + FormatInt(field == "NumFrames" ? 0 : Limits::min()) + " to " +
+         FormatInt(Limits::max());
+}
+
 std::string TakenWhole(std::string_view cell, std::string_view field) {
   const std::int32_t value = orvane::ParseInt(cell);
   return FormatInt(field == "NumFrames" ? std::max(value, 0) : value) + " is taken";
@@ -37,8 +44,11 @@ const FindingRule& NumberRule(HtrOddity oddity) {
   return oddity == HtrOddity::kCutNumber ? kNumberCut : kNumberOutOfRange;
 }
 
-std::string ExpectedNumber(std::string_view field) {
-  return std::string(IsWhole(field) ? "a whole number for " : "a number for ") + std::string(field);
+std::string ExpectedNumber(HtrOddity oddity, std::string_view field) {
+  const bool is_out_of_bounds = oddity == HtrOddity::kNumberOutOfBounds;
+  std::string expected = IsWhole(field) ? "a whole number" : "a number";
+  if (is_out_of_bounds) expected = IsWhole(field) ? WholeNumberInRange(field) : "a finite number";
+  return expected + " for " + std::string(field);
 }
 
 std::string EffectOfNumber(std::string_view cell, std::string_view field) {

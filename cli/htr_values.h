@@ -14,8 +14,9 @@ namespace cli::htr {
 // The rule of one of the oddities of numbers.
 const FindingRule& NumberRule(orvane::HtrOddity oddity);
 
-// `field` is a keyword of the header or the name of a column.
-std::string ExpectedNumber(std::string_view field);
+// What should have stood where `oddity` was met. `field` is a keyword of the header or the name of
+// a column.
+std::string ExpectedNumber(orvane::HtrOddity oddity, std::string_view field);
 // What the reader takes for `cell`.
 std::string EffectOfNumber(std::string_view cell, std::string_view field);
 

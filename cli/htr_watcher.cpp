@@ -7,6 +7,7 @@
 #include "cli/htr_values.h"
 #include "cli/similar_words.h"
 #include "plugin/text/numbers.h"
+#include "plugin/units/units.h"
 
 namespace cli::htr {
 namespace {
@@ -119,7 +120,7 @@ void Watcher::AddNumber(HtrOddity oddity, const HtrCell& cell, std::string_view 
   const bool is_rate = field == "DataFrameRate" && oddity == HtrOddity::kCutNumber;
   if (Finding* finding = Add(is_rate ? kRateCut : NumberRule(oddity), cell)) {
     finding->found = Quote(cell.text);
-    finding->expected = ExpectedNumber(field);
+    finding->expected = ExpectedNumber(oddity, field);
     finding->effect = is_rate ? EffectOfCutRate(cell.text) : EffectOfNumber(cell.text, field);
   }
 }
@@ -304,6 +305,17 @@ void Watcher::OnHeaderField(const HtrCell& keyword, const HtrCell& value) {
   }
   last = value;
   if (keyword.text == "DataFrameRate") CheckRate(value);
+  if (keyword.text == "GlobalAxisofGravity") CheckGravity(value);
+}
+
+// The reader takes Z and stores it, and no importer asks for it.
+void Watcher::CheckGravity(const HtrCell& value) {
+  if (orvane::FindAxis(value.text) != orvane::kAxisZ) return;
+  if (Finding* finding = Add(kAxisIgnored, value)) {
+    finding->found = Quote(value.text);
+    finding->expected = "Y";
+    finding->effect = "The import takes Y for up all the same: the skeleton will lie down.";
+  }
 }
 
 void Watcher::CheckRate(const HtrCell& value) {

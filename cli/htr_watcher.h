@@ -54,6 +54,7 @@ class Watcher : public orvane::HtrReadObserver {
   void CheckHeaderPlace(const HtrCell& name);
   void EnterMotion(const HtrCell& name);
   void CheckRate(const HtrCell& value);
+  void CheckGravity(const HtrCell& value);
   void CheckName(const HtrCell& name);
   std::string KnownSegments(std::string_view name) const;
 

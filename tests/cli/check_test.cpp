@@ -148,6 +148,10 @@ INSTANTIATE_TEST_SUITE_P(
                "CalibrationUnits mm",
                "CalibrationUnits Mm",
                {"9:18 warning htr-length-unit-unknown"}},
+        Damage{"GravityAlongZ",
+               "GlobalAxisofGravity Y",
+               "GlobalAxisofGravity z",
+               {"11:21 warning htr-axis-ignored"}},
         Damage{"AngleUnit",
                "RotationUnits Degrees",
                "RotationUnits RADIAN",
@@ -296,6 +300,36 @@ TEST_F(CheckTest, AFindingTellsWhatTheImportMakesOfIt) {
             "[htr-rate-cut]\n"
             "  59 is taken: a minute lasts 60.96 s.\n"
             "warning.htr: 1 warning\n");
+}
+
+struct Range {
+  const char* from;
+  const char* to;
+  const char* told;
+};
+
+TEST_F(CheckTest, ANumberOutOfItsRangeIsToldTheRange) {
+  for (const Range& range :
+       {Range{"NumFrames 3", "NumFrames -3",
+              "found \"-3\", expected a whole number from 0 to 2147483647 for NumFrames "
+              "[htr-number-out-of-range]\n  0 is taken."},
+        Range{"NumSegments 2", "NumSegments 3000000000",
+              "found \"3000000000\", expected a whole number from -2147483648 to 2147483647 for "
+              "NumSegments [htr-number-out-of-range]\n  2147483647 is taken."},
+        Range{"2 10 0", "2 -1e999 0",
+              "found \"-1e999\", expected a finite number for Tx [htr-number-out-of-range]\n  It "
+              "is taken as infinite, and the scene cannot be saved."}}) {
+    Write("range.htr", Replaced(SmallMotion(), range.from, range.to));
+    EXPECT_THAT(Orvane({"check", "range.htr"}).output, HasSubstr(range.told));
+  }
+}
+
+TEST_F(CheckTest, AnAxisOfGravityThatNobodyLooksAtIsNotKeptSilent) {
+  Write("z.htr", Replaced(SmallMotion(), "GlobalAxisofGravity Y", "GlobalAxisofGravity Z"));
+  EXPECT_EQ(Orvane({"check", "z.htr"}).output,
+            "z.htr:11:21: warning: found \"Z\", expected Y [htr-axis-ignored]\n"
+            "  The import takes Y for up all the same: the skeleton will lie down.\n"
+            "z.htr: 1 warning\n");
 }
 
 TEST_F(CheckTest, ARefusalSaysThatTheRestIsNotRead) {
