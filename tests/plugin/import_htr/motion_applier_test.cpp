@@ -156,33 +156,5 @@ TEST_F(MotionApplierTest, SegmentsInACircleEndWhereTheBonesEnd) {
   EXPECT_TRUE(IsKeyed(inner));
 }
 
-TEST_F(MotionApplierTest, AChainOfAHundredThousandBonesIsNoDanger) {
-  constexpr int kLength = 100'000;
-  HtrSegment* segment = &AddMoving("S0");
-  host::Node* bone = &AddBone("S0");
-  const HtrSegment& root = *segment;
-  host::Node& root_bone = *bone;
-  for (int i = 1; i < kLength; ++i) {
-    const std::string name = "S" + std::to_string(i);
-    segment = &AddMoving(name, segment);
-    bone = &AddBone(name, bone);
-  }
-  EXPECT_TRUE(Apply(root_bone, root));
-  EXPECT_TRUE(IsKeyed(*bone));
-}
-
-TEST_F(MotionApplierTest, AHundredThousandSiblingsAreNoDanger) {
-  constexpr int kCount = 100'000;
-  HtrSegment& root = AddMoving("Root");
-  host::Node& root_bone = AddBone("Root");
-  host::Node* last = nullptr;
-  for (int i = 0; i < kCount; ++i) {
-    AddMoving("S" + std::to_string(i), &root);
-    last = &AddBone("S" + std::to_string(i), &root_bone);
-  }
-  EXPECT_TRUE(Apply(root_bone, root));
-  EXPECT_TRUE(IsKeyed(*last));
-}
-
 }  // namespace
 }  // namespace orvane

@@ -236,14 +236,5 @@ TEST_F(SkeletonCreatorTest, SegmentsThatAreListedTwiceAreCreatedTwice) {
   EXPECT_EQ(ChildNames(*Find("Leg")), "Foot Foot");
 }
 
-TEST_F(SkeletonCreatorTest, AChainOfAHundredThousandSegmentsIsNoDanger) {
-  constexpr int kLength = 100'000;
-  HtrSegment* segment = &Add("S0");
-  const HtrSegment& root = *segment;
-  for (int i = 1; i < kLength; ++i) segment = &Add("S" + std::to_string(i), segment);
-  ASSERT_NE(Create(root), nullptr);
-  EXPECT_EQ(scene().NodeCount(), std::size_t{kLength});
-}
-
 }  // namespace
 }  // namespace orvane
