@@ -106,6 +106,7 @@ class BatchConversion {
   void ConvertTogether(ConverterPanel& panel, std::vector<Conversion*> waiting) {
     while (!waiting.empty() && !platform::Interrupted()) {
       std::vector<std::string> sources;
+      sources.reserve(waiting.size());
       for (const Conversion* conversion : waiting) sources.push_back(conversion->source);
       panel.ConvertBatch(sources, scratch_.Path());
       const std::string log = orvane::ReadFileBytes(scratch_.Path() + kLogName).value_or("");

@@ -2,11 +2,10 @@
 
 #include "cli/json_writer.h"
 #include "cli/messages.h"
+#include "cli/trc_outline.h"
 #include "cli/trc_worth.h"
 #include "plugin/mnm/marker_name_map.h"
-#include "plugin/text/files.h"
 #include "plugin/trc/document.h"
-#include "plugin/trc/outline.h"
 
 namespace cli {
 namespace {
@@ -33,9 +32,9 @@ class Previewer {
     ConversionPreview preview{&conversion, {}};
     if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion);
     if (!IsReadable(conversion)) return preview;
-    const std::string bytes = orvane::ReadFileBytes(conversion.input).value_or("");
+    const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
     orvane::TRCDocument document;
-    const std::string message = document.ReadBytes(orvane::OutlineTRC(bytes).header, false);
+    const std::string message = document.ReadBytes(outline ? outline->Header() : "", false);
     if (!message.empty()) {
       conversion.status = ConversionStatus::kBroken;
       conversion.errors.push_back({conversion.input, message, ""});
@@ -104,6 +103,7 @@ std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conve
                                                   const std::string& mapping) {
   const Previewer previewer(mapping);
   std::vector<ConversionPreview> previews;
+  previews.reserve(conversions.size());
   for (Conversion& conversion : conversions) previews.push_back(previewer.Preview(conversion));
   return previews;
 }

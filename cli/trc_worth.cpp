@@ -4,10 +4,9 @@
 #include <optional>
 
 #include "cli/frame_counts.h"
+#include "cli/trc_outline.h"
 #include "platform/input_file.h"
-#include "plugin/text/files.h"
 #include "plugin/trc/document.h"
-#include "plugin/trc/outline.h"
 
 namespace cli {
 
@@ -21,13 +20,12 @@ void RequireInput(Conversion& conversion) {
 
 void JudgeInput(Conversion& conversion) {
   RequireInput(conversion);
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
-  if (!bytes) return;
-  const orvane::TRCOutline outline = orvane::OutlineTRC(*bytes);
+  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
+  if (!outline) return;
   orvane::TRCDocument document;
-  const std::string message = document.ReadBytes(outline.header, false);
+  const std::string message = document.ReadBytes(outline->Header(), false);
   conversion.markers_dropped = document.MarkerCount();
-  const auto held = static_cast<std::int64_t>(outline.frames);
+  const auto held = static_cast<std::int64_t>(outline->Frames());
   const FrameCounts counts{std::max(document.NumFrames(), 0), held, held};
   if (IsOutOfProportion(counts.announced, counts)) {
     conversion.status = ConversionStatus::kRefused;

@@ -1,23 +1,31 @@
 #include "plugin/trc/outline.h"
 
-#include "plugin/text/lines.h"
 #include "plugin/trc/line_rules.h"
 
 namespace orvane {
 
-TRCOutline OutlineTRC(std::string_view bytes) {
-  TRCOutline outline{bytes, 0};
-  LineReader lines(bytes);
+void TRCOutliner::Take(std::string_view lines) {
+  LineReader reader(lines);
   Line line;
-  for (std::size_t number = 0; lines.Next(line); ++number) {
-    if (number == kPerhapsBlankLine) {
-      outline.header = bytes.substr(0, static_cast<std::size_t>(line.text.data() - bytes.data()));
+  bool in_header = number_ < kPerhapsBlankLine;
+  while (reader.Next(line)) {
+    if (in_header && number_ == kPerhapsBlankLine && !throws_away_) {
+      header_ += lines.substr(0, static_cast<std::size_t>(line.text.data() - lines.data()));
+      in_header = false;
     }
-    if (IsFrame(line, number)) ++outline.frames;
-    Line thrown_away;
-    if (ReplacesNextLine(line)) (void)lines.Next(thrown_away);
+    TakeLine(line);
   }
-  return outline;
+  if (in_header) header_ += lines;
+}
+
+void TRCOutliner::TakeLine(const Line& line) {
+  if (throws_away_) {
+    throws_away_ = false;
+    return;
+  }
+  if (IsFrame(line, number_)) ++frames_;
+  throws_away_ = ReplacesNextLine(line);
+  ++number_;
 }
 
 }  // namespace orvane

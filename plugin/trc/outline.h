@@ -1,17 +1,33 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
+
+#include "plugin/text/lines.h"
 
 // What a marker file holds, without reading its numbers.
 namespace orvane {
 
-struct TRCOutline {
-  std::string_view header;  // the lines before the frames; for TRCDocument::ReadBytes
-  std::size_t frames = 0;   // lines that the reader takes for frames
-};
+// Takes the text of a file piece by piece, so that a file of any size needs little memory.
+class TRCOutliner {
+ public:
+  // Takes the next lines of the file. A line is not divided between two calls.
+  void Take(std::string_view lines);
 
-// The header is a part of `bytes`.
-TRCOutline OutlineTRC(std::string_view bytes);
+  // The lines before the frames; for TRCDocument::ReadBytes.
+  const std::string& Header() const { return header_; }
+
+  // How many lines the reader takes for frames.
+  std::size_t Frames() const { return frames_; }
+
+ private:
+  void TakeLine(const Line& line);
+
+  std::string header_;
+  std::size_t frames_ = 0;
+  std::size_t number_ = 0;    // of the next line, counted from 0
+  bool throws_away_ = false;  // the next line
+};
 
 }  // namespace orvane

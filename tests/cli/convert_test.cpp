@@ -12,7 +12,6 @@ using test::TrcText;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::Not;
 using testing::StartsWith;
 
 constexpr char kRefused[] = "The file is does not have a compatible \"(X/Y/Z)\" header state";

@@ -2,7 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
 
 #include "plugin/trc/document.h"
 #include "tests/support/trc_text.h"
@@ -16,6 +18,24 @@ std::string Repeated(const std::string& text, int count) {
   return repeated;
 }
 
+// Of `bytes` in one piece.
+TRCOutliner OutlineOf(const std::string& bytes) {
+  TRCOutliner outliner;
+  outliner.Take(bytes);
+  return outliner;
+}
+
+// Of `bytes` line by line.
+TRCOutliner OutlineByLines(std::string_view bytes) {
+  TRCOutliner outliner;
+  while (!bytes.empty()) {
+    const std::size_t size = std::min(bytes.find('\n'), bytes.size() - 1) + 1;
+    outliner.Take(bytes.substr(0, size));
+    bytes.remove_prefix(size);
+  }
+  return outliner;
+}
+
 // The frames that the reader itself finds, seen by a marker whose every sample counts.
 std::size_t FramesRead(const std::string& bytes) {
   TRCDocument document;
@@ -27,7 +47,7 @@ const std::string kHeader = test::TrcText{.markers = {"Head", "Toe"}, .frame_cou
                             test::TrcText{.markers = {"Head", "Toe"}}.MarkerNames() +
                             test::TrcText{.markers = {"Head", "Toe"}}.SubHeader();
 
-TEST(OutlineTRCTest, CountsTheFramesThatTheReaderFinds) {
+TEST(TRCOutlinerTest, CountsTheFramesThatTheReaderFinds) {
   const struct {
     std::string frames;
     std::size_t expected;
@@ -48,24 +68,28 @@ TEST(OutlineTRCTest, CountsTheFramesThatTheReaderFinds) {
   };
   for (const auto& example : cases) {
     const std::string bytes = kHeader + example.frames;
-    EXPECT_EQ(OutlineTRC(bytes).frames, example.expected) << example.frames.substr(0, 40);
+    EXPECT_EQ(OutlineOf(bytes).Frames(), example.expected) << example.frames.substr(0, 40);
+    EXPECT_EQ(OutlineByLines(bytes).Frames(), example.expected) << example.frames.substr(0, 40);
     EXPECT_EQ(FramesRead(bytes), example.expected) << example.frames.substr(0, 40);
   }
 }
 
-TEST(OutlineTRCTest, HandsOutTheHeader) {
-  EXPECT_EQ(OutlineTRC(kHeader + "\n1\t0\n").header, kHeader);
-  EXPECT_EQ(OutlineTRC(kHeader + "1\t0\n").header, kHeader);
-  EXPECT_EQ(OutlineTRC(kHeader).header, kHeader);
-  EXPECT_EQ(OutlineTRC("a poem\n").header, "a poem\n");
-  EXPECT_EQ(OutlineTRC("").header, "");
-  EXPECT_EQ(OutlineTRC("").frames, 0u);
+TEST(TRCOutlinerTest, KeepsTheHeader) {
+  const struct {
+    std::string bytes;
+    std::string expected;
+  } cases[] = {{kHeader + "\n1\t0\n", kHeader}, {kHeader + "1\t0\n", kHeader}, {kHeader, kHeader},
+               {"a poem\n", "a poem\n"},        {"a poem", "a poem"},          {"", ""}};
+  for (const auto& example : cases) {
+    EXPECT_EQ(OutlineOf(example.bytes).Header(), example.expected);
+    EXPECT_EQ(OutlineByLines(example.bytes).Header(), example.expected);
+  }
 }
 
-TEST(OutlineTRCTest, HeaderMakesADocumentWithMarkersAndWithoutFrames) {
+TEST(TRCOutlinerTest, HeaderMakesADocumentWithMarkersAndWithoutFrames) {
   const std::string bytes = kHeader + "\n1\t0\t1\t2\t3\n";
   TRCDocument document;
-  EXPECT_EQ(document.ReadBytes(OutlineTRC(bytes).header, false), "");
+  EXPECT_EQ(document.ReadBytes(OutlineOf(bytes).Header(), false), "");
   EXPECT_EQ(document.MarkerCount(), 2u);
   EXPECT_EQ(document.NumFrames(), 7);
 }

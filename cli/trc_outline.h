@@ -1,0 +1,13 @@
+#pragma once
+
+#include <optional>
+#include <string>
+
+#include "plugin/trc/outline.h"
+
+namespace cli {
+
+// What the marker file `path` holds, read a piece at a time; nothing when it cannot be read.
+std::optional<orvane::TRCOutliner> OutlineTrcFile(const std::string& path);
+
+}  // namespace cli
