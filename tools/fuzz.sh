@@ -1,4 +1,4 @@
-# Sourced by ./dev: runs the fuzz targets, one after the other.
+# Sourced by ./dev: runs the fuzz targets, as many at a time as there are processors.
 # shellcheck shell=bash
 
 # What one input may use before that counts as a find: seconds, and megabytes in all and at once.
@@ -23,9 +23,9 @@ fuzz_target() {
 }
 
 run_fuzzers() {
-  local target failed=()
-  for target in $(fuzz_targets); do
-    fuzz_target "$target" "$1" || failed+=("$target")
-  done
-  ((${#failed[@]} == 0))
+  export -f fuzz_target
+  export fuzz_limits
+  # shellcheck disable=SC2016  # expanded by the shell that runs one target
+  fuzz_targets | xargs --max-args=1 --max-procs="$(nproc)" \
+    bash -c 'set -euo pipefail; fuzz_target "$2" "$1"' fuzz "$1"
 }
