@@ -28,6 +28,7 @@ int ExportHTR::DoExport(const char* name, ExpInterface* /*export_interface*/, In
     interface_ = interface;
     return Export(suppress_prompts != 0);
   } catch (...) {
+    messages_.Report("There is not enough memory to export the skeleton.", "ExportHTR Error");
     return 0;
   }
 }

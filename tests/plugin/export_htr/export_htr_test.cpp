@@ -1,5 +1,7 @@
 #include "plugin/export_htr/export_htr.h"
 
+#include <new>
+
 #include "platform/module.h"
 #include "plugin/htr/reader.h"
 #include "tests/plugin/export_htr/sampling_fixture.h"
@@ -410,6 +412,24 @@ TEST_F(ExportHTRTest, TheWritersMessageIsShownAsItStands) {
   EXPECT_EQ(desk_.Messages(), "ExportHTR Error: The file could not be opened\n");
   EXPECT_TRUE(ModesSuspended());
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 90, 90, 90}));
+}
+
+// Without memory for the whole of it.
+class FullInterface final : public test::ForwardingInterface {
+ public:
+  using ForwardingInterface::ForwardingInterface;
+  Interval GetAnimRange() override { throw std::bad_alloc(); }
+};
+
+TEST_F(ExportHTRTest, RunningOutOfMemoryIsToldAndClosesTheProgressBar) {
+  MakeSkeleton();
+  FullInterface full(interface());
+  EXPECT_EQ(exporter_.DoExport(Path().c_str(), nullptr, &full, 1, 0), 0);
+  EXPECT_EQ(desk_.Messages(),
+            "ExportHTR Error: There is not enough memory to export the skeleton.\n");
+  EXPECT_FALSE(IsWritten());
+  EXPECT_FALSE(application_.progress().IsOpen());
+  EXPECT_TRUE(ModesSuspended());
 }
 
 // A failed export keeps its document; the next one starts from an empty one.

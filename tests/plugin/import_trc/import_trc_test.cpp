@@ -469,8 +469,7 @@ TEST_F(ImportTRCTest, ShowsItsProgressInSinglePrecision) {
   for (int index = 0; index < 10; ++index) file.markers.push_back("m" + std::to_string(index));
   Import(file);
   // In double precision, 7 of 10 markers would be 72.
-  EXPECT_EQ(Percentages(),
-            (std::vector<int>{0, 10, 19, 28, 37, 46, 55, 64, 73, 82, 91, 100, 100}));
+  EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 19, 28, 37, 46, 55, 64, 73, 82, 91, 100, 100}));
 }
 
 // Writes down the steps of the work that the host sees.
