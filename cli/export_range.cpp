@@ -62,8 +62,9 @@ std::int64_t FramesInAnimationRange(const host::AnimationState& animation) {
 
 void RequireSensibleRange(const host::Scene& scene, const std::vector<ControlWish>& wishes) {
   if (LeaveAnimationOut(wishes)) return;
-  const std::int64_t wanted =
-      FramesToExport(wishes).value_or(FramesInAnimationRange(scene.Animation()));
+  // What lies outside the animation range is refused by the plug-in.
+  const std::int64_t most = FramesInAnimationRange(scene.Animation());
+  const std::int64_t wanted = std::min(FramesToExport(wishes).value_or(most), most);
   if (wanted <= kAlwaysAllowed) return;
   const std::int64_t keyed = KeyedFrames(scene);
   if (wanted <= kTimesKeyed * keyed) return;

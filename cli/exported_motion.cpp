@@ -78,9 +78,10 @@ ExportedMotion CheckExport(const std::string& path, const std::string& name,
   orvane::HtrDocument document;
   const std::string message = orvane::ReadHtrBytes(document, *bytes, true);
   if (!message.empty() || !IsOneSkeletonOf(document, scene)) {
-    throw Refusal(name, "The file would not read back: a name cannot stand in it",
-                  "A tab, # or ] in the name of a bone, and the names GLOBAL and EndOfFile, mean "
-                  "something else there.");
+    throw Refusal(
+        name, "The file would not read back: a name cannot stand in it",
+        "A tab, #, ] or a [ at its start in the name of a bone, and names that the file has "
+        "a use for, such as GLOBAL and EndOfFile, mean something else there.");
   }
   return {bytes->size(), document.GetNumSegments(), document.GetStartFrame(),
           document.GetNumFrames(), document.GetDataFrameRate()};
