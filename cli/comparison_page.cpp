@@ -33,6 +33,7 @@ void PrintFiles(const ComparisonReport& report, std::ostream& out) {
 
 std::string WhatIsCompared(const ComparisonReport& report) {
   const StructureComparison& structure = report.structure;
+  if (structure.pairs.empty()) return "nothing, as no segment is in both files under one parent";
   const std::string segments = Count(structure.pairs.size(), "segment");
   if (structure.at_rest) return segments + " in the base position, as there are no frames";
   if (!structure.common_frames) return "nothing, as no frame is in both files";
@@ -113,6 +114,7 @@ std::string Verdict(const ComparisonReport& report) {
 void PrintOverall(const ComparisonReport& report, std::ostream& out) {
   const MotionComparison& motion = report.motion;
   out << "\nDifference of " << WhatIsCompared(report) << '\n';
+  if (motion.overall.position_mm.count == 0) return;
   PrintLargest(report, "Positions", motion.overall.position_mm, motion.position_pair, "mm", out);
   PrintLargest(report, "Orientations", motion.overall.orientation_deg, motion.orientation_pair,
                "degrees", out);

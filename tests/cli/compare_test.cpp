@@ -130,14 +130,30 @@ TEST_F(CompareTest, FilesWithoutACommonFrameAreDifferent) {
   std::string other = SmallMotion();
   other = Replaced(other, "[Hips]\n1 ", "[Hips]\n9 ");
   Write("b.htr", other);
-  EXPECT_THAT(Page(1), HasSubstr("  frames 1 to 3 only in A\n  frames 9 to 11 only in B\n"
-                                 "\n"
-                                 "Difference of nothing, as no frame is in both files\n"));
+  EXPECT_THAT(Page(1), EndsWith("  frames 1 to 3 only in A\n  frames 9 to 11 only in B\n"
+                                "\n"
+                                "Difference of nothing, as no frame is in both files\n"));
   const json result = Json(1);
   EXPECT_FALSE(result["same"]);
   EXPECT_TRUE(result["frames"].is_null());
   EXPECT_TRUE(result["position_mm"].is_null());
   EXPECT_TRUE(result["segments"][0]["position_mm"].is_null());
+}
+
+TEST_F(CompareTest, FilesWithoutACommonSegmentAreDifferent) {
+  std::string other = SmallMotion();
+  for (std::size_t at = 0; (at = other.find("Hips", at)) != std::string::npos;) {
+    other.replace(at, 4, "Body");
+  }
+  Write("b.htr", other);
+  EXPECT_THAT(Page(1),
+              EndsWith("\nDifferent structure\n"
+                       "  Hips: only in A\n"
+                       "  Body: only in B\n"
+                       "  Spine: parent Hips in A, parent Body in B\n"
+                       "\n"
+                       "Difference of nothing, as no segment is in both files under one parent\n"));
+  EXPECT_TRUE(Json(1)["position_mm"].is_null());
 }
 
 TEST_F(CompareTest, FilesWithoutFramesAreComparedInTheirBasePosition) {
