@@ -151,6 +151,17 @@ TEST_F(ExportHTROptionsDialogTest, RadiosSelectTheClickedOneOfTheirPair) {
   });
 }
 
+TEST_F(ExportHTROptionsDialogTest, WithoutAnyRadioItIsTheRangeAndTheCurrentPose) {
+  test::FakeDialog dialog;
+  dialog[kFrom].text = "1";
+  dialog[kTo].text = "2";
+  dialog[kGlobal].text = "1";
+  Dialog().Command(dialog, kOk);
+  EXPECT_EQ(dialog.Result(), 1);
+  EXPECT_TRUE(options_.range);
+  EXPECT_FALSE(options_.savedPose);
+}
+
 TEST_F(ExportHTROptionsDialogTest, RangeEnablesTheFramesAndSliderDisablesThem) {
   Show([](host::ScriptedDialog& dialog) {
     dialog.Click(kRange);
