@@ -14,22 +14,25 @@ std::string Word(std::size_t number) {
   return bytes;
 }
 
-// Two keys: accessor 0 has their ticks, 1 positions, 2 rotations, 3 the angles of these, in 6
-// words each.
+// Two ticks; four values of each kind, all zero but for the first component; angles for two keys.
 constexpr char kNumbers[] =
     R"("accessors": [
          {"bufferView": 0, "componentType": 5125, "type": "SCALAR", "count": 2},
-         {"bufferView": 1, "componentType": 5126, "type": "VEC3", "count": 2},
-         {"bufferView": 1, "componentType": 5126, "type": "VEC4", "count": 2},
+         {"bufferView": 1, "componentType": 5126, "type": "VEC3", "count": 4},
+         {"bufferView": 1, "componentType": 5126, "type": "VEC4", "count": 4},
          {"bufferView": 1, "componentType": 5125, "type": "SCALAR", "count": 12}],
        "bufferViews": [
-         {"buffer": 0, "byteLength": 8}, {"buffer": 0, "byteOffset": 8, "byteLength": 48})";
+         {"buffer": 0, "byteLength": 8}, {"buffer": 0, "byteOffset": 8, "byteLength": 64})";
+
+constexpr char kExtension[] =
+    R"({"extensions": {"ORVANE_scene": {
+          "version": 2, "scene": 2, "ticks": 0, "vectors": 1, "rotations": 2, "angles": 3}}, )";
 
 std::string FileAround(std::string_view record) {
   const std::string numbers =
-      Word(0xFFFFFFFF) + Word(1) + std::string("\0\0\x80\x3F", 4) + std::string(44, '\0');
-  const std::string document = R"({"extensions": {"ORVANE_scene": {"version": 1, "scene": 2}}, )" +
-                               std::string(kNumbers) + R"(, {"buffer": 0, "byteOffset": )" +
+      Word(0xFFFFFFFF) + Word(1) + std::string("\0\0\x80\x3F", 4) + std::string(60, '\0');
+  const std::string document = kExtension + std::string(kNumbers) +
+                               R"(, {"buffer": 0, "byteOffset": )" +
                                std::to_string(numbers.size()) + R"(, "byteLength": )" +
                                std::to_string(record.size()) + "}]}";
   const std::string chunks = Word(document.size()) + "JSON" + document +

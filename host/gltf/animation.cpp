@@ -5,7 +5,6 @@
 #include <cstdint>
 #include <limits>
 #include <map>
-#include <utility>
 #include <vector>
 
 #include "host/gltf/refusal.h"
@@ -57,13 +56,11 @@ void TakeNearerSigns(std::vector<float>& rotations) {
 
 class AnimationBuilder {
  public:
-  AnimationBuilder(const ViewerSpace& space, TimeValue start, BinaryData& data)
-      : space_(space), start_(start), data_(data) {}
+  AnimationBuilder(const ViewerSpace& space, TimeValue start, Document& document)
+      : space_(space), start_(start), document_(document), data_(document.data) {}
 
   // Adds the keys of `node`, which has that index in the file.
   void AddNode(const Node& node, int index);
-
-  tinygltf::Animation Finish() { return std::move(animation_); }
 
  private:
   // The keys of `controller`, the one of the node's `what`, as `convert` makes them the viewer's.
@@ -75,8 +72,8 @@ class AnimationBuilder {
 
   const ViewerSpace& space_;
   TimeValue start_;
+  Document& document_;
   BinaryData& data_;
-  tinygltf::Animation animation_;
   std::map<std::vector<float>, int> inputs_;  // accessors by the times in them
 };
 
@@ -120,27 +117,17 @@ void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output,
   const int input = known != inputs_.end() ? known->second : data_.AddKeyTimes(seconds);
   inputs_.try_emplace(seconds, input);
 
-  tinygltf::AnimationSampler& sampler = animation_.samplers.emplace_back();
-  sampler.input = input;
-  sampler.output = output;
-  tinygltf::AnimationChannel& channel = animation_.channels.emplace_back();
-  channel.sampler = static_cast<int>(animation_.samplers.size()) - 1;
-  channel.target_node = node;
-  channel.target_path = path;
+  const int sampler = document_.samplers.Add({{"input", input}, {"output", output}});
+  document_.channels.Add({{"sampler", sampler}, {"target", {{"node", node}, {"path", path}}}});
 }
 
 }  // namespace
 
-void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const std::string& name,
-                  BinaryData& data, tinygltf::Model& model) {
-  AnimationBuilder builder(space, EarliestTick(tree), data);
+void AddAnimation(const NodeTree& tree, const ViewerSpace& space, Document& document) {
+  AnimationBuilder builder(space, EarliestTick(tree), document);
   for (std::size_t index = 0; index < tree.size(); ++index) {
     builder.AddNode(*tree[index].node, static_cast<int>(index));
   }
-  tinygltf::Animation animation = builder.Finish();
-  if (animation.channels.empty()) return;
-  animation.name = name;
-  model.animations.push_back(std::move(animation));
 }
 
 }  // namespace host::gltf

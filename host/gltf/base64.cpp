@@ -29,6 +29,20 @@ std::size_t PaddingOf(std::string_view text) {
 
 }  // namespace
 
+std::string EncodedBase64(std::string_view bytes) {
+  std::string text;
+  text.reserve((bytes.size() + 2) / 3 * 4);
+  std::uint32_t bits = 0;
+  unsigned count = 0;
+  for (const char byte : bytes) {
+    bits = bits << 8U | static_cast<unsigned char>(byte);
+    for (count += 8; count >= 6; count -= 6) text += kDigits[bits >> (count - 6) & 63U];
+  }
+  if (count > 0) text += kDigits[bits << (6 - count) & 63U];
+  while (text.size() % 4 != 0) text += '=';
+  return text;
+}
+
 std::optional<std::string> DecodedBase64(std::string_view text) {
   if (text.size() % 4 != 0) return std::nullopt;
   text.remove_suffix(PaddingOf(text));

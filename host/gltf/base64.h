@@ -6,6 +6,12 @@
 
 namespace host::gltf {
 
+// Stands before data that a glTF file holds as base64.
+inline constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
+
+// `bytes` as base64 (RFC 4648, with padding).
+std::string EncodedBase64(std::string_view bytes);
+
 // The bytes that `text` stands for (RFC 4648, with padding), or nothing when it is no base64.
 std::optional<std::string> DecodedBase64(std::string_view text);
 

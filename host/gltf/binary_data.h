@@ -1,22 +1,30 @@
 #pragma once
 
-#include <tiny_gltf.h>
-
 #include <cstddef>
 #include <cstdint>
+#include <optional>
+#include <string>
 #include <string_view>
 #include <vector>
 
+#include "host/gltf/element_form.h"
+#include "host/gltf/json_list.h"
+
 namespace host::gltf {
 
-// The numbers of a glTF file: appends them to the model's one buffer and describes them by an
-// accessor each. Every function returns the accessor's index, but where it says so; none may be
-// given an empty list.
+// A part of the data.
+struct BufferView {
+  std::size_t offset = 0;  // bytes from the start
+  std::size_t size = 0;    // bytes
+  int target = 0;          // what graphics cards read it as; 0 for nothing
+};
+
+// The numbers of a glTF file: appends them to its one buffer and describes them by an accessor
+// each.
 class BinaryData {
  public:
-  // `model` has no buffer yet, and outlives this.
-  explicit BinaryData(tinygltf::Model& model) : model_(model) {}
-
+  // Every one of these returns the accessor's index, and none may be given an empty list.
+  //
   // Of vertices: x, y and z each; four joints each; four weights each.
   int AddPositions(const std::vector<float>& positions);
   int AddJoints(const std::vector<std::uint16_t>& joints);
@@ -34,23 +42,41 @@ class BinaryData {
   int AddKeyVectors(const std::vector<float>& vectors);
   int AddKeyRotations(const std::vector<float>& rotations);
 
-  // Numbers of 32 bits of whatever meaning, which viewers have no use for.
-  int AddWords(const std::vector<std::uint32_t>& words);
+  // What viewers have no use for: begins a view, whose index is returned, and appends to the view
+  // that was begun last.
+  int BeginView() { return OwnView(0); }
+  void Append(std::string_view bytes);
+  template <typename Numbers>
+  void AppendNumbers(const Numbers& numbers) {
+    Append({reinterpret_cast<const char*>(numbers.data()), numbers.size() * sizeof numbers[0]});
+  }
 
-  // A view with `text` in it; the index is the view's.
-  int AddText(std::string_view text);
+  // An accessor for all elements of that form in the view that was begun last. Without any there is
+  // no accessor, and no view either.
+  std::optional<int> AddViewAccessor(const ElementForm& form);
+
+  const std::string& Bytes() const { return bytes_; }
+  const std::vector<BufferView>& Views() const { return views_; }
+  const JsonList& Accessors() const { return accessors_; }
+  JsonList& Accessors() { return accessors_; }
 
  private:
   // Where numbers come to lie: in a view of their own for what graphics cards read, or in one that
   // all keys share.
   int OwnView(int target);
-  int KeyView(std::size_t bytes);
+  void KeyView();
 
+  // Appends `numbers` to the last view.
   template <typename Number>
-  int Add(const std::vector<Number>& numbers, int type, int view);
+  int Add(const std::vector<Number>& numbers, const ElementForm& form);
+  int AddWithBounds(const std::vector<float>& numbers, const ElementForm& form);
 
-  tinygltf::Model& model_;
-  int key_view_ = -1;
+  std::string bytes_;
+  std::vector<BufferView> views_;
+  JsonList accessors_;
+
+  // How many views there were when keys were last added: then theirs is the last one.
+  std::size_t key_views_ = 0;
 };
 
 }  // namespace host::gltf

@@ -4,18 +4,13 @@
 #include <cstring>
 
 #include "host/gltf/base64.h"
+#include "host/gltf/glb_format.h"
 #include "host/gltf/json_field.h"
 #include "host/gltf/refusal.h"
 
 namespace host::gltf {
 
 namespace {
-
-constexpr std::string_view kMagic = "glTF";
-constexpr std::uint32_t kContainerVersion = 2;
-constexpr std::uint32_t kJsonChunk = 0x4E4F534A;
-constexpr std::uint32_t kBinaryChunk = 0x004E4942;
-constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
 
 [[noreturn]] void RefuseCutShort() { throw Refusal("The file is damaged or cut short."); }
 
@@ -38,14 +33,18 @@ std::string_view TakeChunk(std::string_view& bytes, std::uint32_t type) {
   return TakeBytes(bytes, size);
 }
 
+nlohmann::json ParsedDocument(std::string_view text) {
+  return ParsedMembers(text, {"accessors", "buffers", "bufferViews", "extensions"});
+}
+
 FileParts TakeBinaryApart(std::string_view bytes) {
   const std::size_t size = bytes.size();
-  TakeBytes(bytes, kMagic.size());
-  if (TakeWord(bytes) != kContainerVersion) throw Refusal("The file is no glTF 2.0 file.");
+  TakeBytes(bytes, kGlbMagic.size());
+  if (TakeWord(bytes) != kGlbVersion) throw Refusal("The file is no glTF 2.0 file.");
   if (TakeWord(bytes) != size) RefuseCutShort();
   FileParts parts;
-  parts.document = ParsedJson(TakeChunk(bytes, kJsonChunk));
-  if (!bytes.empty()) parts.binary = TakeChunk(bytes, kBinaryChunk);
+  parts.document = ParsedDocument(TakeChunk(bytes, kJsonChunk));
+  if (!bytes.empty()) parts.chunk = TakeChunk(bytes, kBinaryChunk);
   return parts;
 }
 
@@ -64,10 +63,10 @@ std::string EmbeddedData(const JsonField& document) {
 }  // namespace
 
 FileParts TakeApart(std::string_view bytes) {
-  if (bytes.substr(0, kMagic.size()) == kMagic) return TakeBinaryApart(bytes);
+  if (bytes.substr(0, kGlbMagic.size()) == kGlbMagic) return TakeBinaryApart(bytes);
   FileParts parts;
-  parts.document = ParsedJson(bytes);
-  parts.binary = EmbeddedData(JsonField(parts.document, ""));
+  parts.document = ParsedDocument(bytes);
+  parts.embedded = EmbeddedData(JsonField(parts.document, ""));
   return parts;
 }
 

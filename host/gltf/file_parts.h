@@ -6,14 +6,22 @@
 
 namespace host::gltf {
 
-// A glTF file taken apart.
+// A glTF file taken apart: what the reader looks at.
 struct FileParts {
+  // Of the document the members that lead to our own part of the file; those that are for viewers
+  // are large and left out.
   nlohmann::json document;
-  std::string binary;  // the bytes of its first buffer; none when it has no buffer
+
+  // The bytes of its first buffer; none when it has no buffer. Valid as long as the file's.
+  std::string_view Binary() const { return embedded.empty() ? chunk : embedded; }
+
+  std::string_view chunk;  // of a binary file
+  std::string embedded;    // what a file of text has in base64
 };
 
 // Takes a .glb or .gltf file with embedded data apart, in memory of a few times its size. Throws a
-// Refusal when it is neither, cut short, or nested more than 100 deep.
+// Refusal when it is neither, cut short, or nested more than 100 deep. `bytes` must outlive the
+// parts.
 FileParts TakeApart(std::string_view bytes);
 
 }  // namespace host::gltf

@@ -1,6 +1,7 @@
 #include "host/gltf/geometry.h"
 
 #include <cstddef>
+#include <utility>
 
 #include "host/gltf/refusal.h"
 
@@ -40,18 +41,15 @@ void Geometry::AddWithJoint(const Shape& shape, const ViewerSpace& space, const 
   }
 }
 
-tinygltf::Primitive Geometry::StoreIn(BinaryData& data, int material) const {
-  tinygltf::Primitive primitive;
-  primitive.mode = TINYGLTF_MODE_TRIANGLES;
-  primitive.material = material;
-  primitive.attributes["POSITION"] = data.AddPositions(positions_);
+nlohmann::json Geometry::StoreIn(BinaryData& data, int material) const {
+  nlohmann::json attributes = {{"POSITION", data.AddPositions(positions_)}};
   if (!joints_.empty()) {
-    primitive.attributes["JOINTS_0"] = data.AddJoints(joints_);
-    primitive.attributes["WEIGHTS_0"] =
-        data.AddWeights(FirstJointWeights(joints_.size() / kJointsOfVertex));
+    attributes["JOINTS_0"] = data.AddJoints(joints_);
+    attributes["WEIGHTS_0"] = data.AddWeights(FirstJointWeights(joints_.size() / kJointsOfVertex));
   }
-  primitive.indices = data.AddTriangles(triangles_);
-  return primitive;
+  return {{"attributes", std::move(attributes)},
+          {"indices", data.AddTriangles(triangles_)},
+          {"material", material}};
 }
 
 }  // namespace host::gltf

@@ -1,8 +1,7 @@
 #pragma once
 
-#include <tiny_gltf.h>
-
 #include <cstdint>
+#include <nlohmann/json.hpp>
 #include <vector>
 
 #include "host/gltf/binary_data.h"
@@ -24,8 +23,8 @@ class Geometry {
   void AddWithJoint(const Shape& shape, const ViewerSpace& space, const Node& node, TimeValue time,
                     std::uint16_t joint);
 
-  // Stores what was collected, at least one shape, in `data`.
-  tinygltf::Primitive StoreIn(BinaryData& data, int material) const;
+  // Stores what was collected, at least one shape, in `data`, and returns the primitive.
+  nlohmann::json StoreIn(BinaryData& data, int material) const;
 
  private:
   std::vector<float> positions_;

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "host/base/number_range.h"
+#include "host/gltf/member_parser.h"
 #include "host/gltf/refusal.h"
 
 namespace host::gltf {
@@ -34,16 +35,29 @@ bool IsNestedTooDeep(std::string_view text) {
   return false;
 }
 
+void RequireShallow(std::string_view text) {
+  if (IsNestedTooDeep(text)) throw Refusal("The file is nested more than 100 deep.");
+}
+
+[[noreturn]] void RefuseText() {
+  throw Refusal("The file is no glTF file, or it is damaged or cut short.");
+}
+
 }  // namespace
 
 json ParsedJson(std::string_view text) {
-  if (IsNestedTooDeep(text)) throw Refusal("The file is nested more than 100 deep.");
+  RequireShallow(text);
   constexpr bool kThrow = false;
   json document = json::parse(text.begin(), text.end(), nullptr, kThrow);
-  if (document.is_discarded()) {
-    throw Refusal("The file is no glTF file, or it is damaged or cut short.");
-  }
+  if (document.is_discarded()) RefuseText();
   return document;
+}
+
+json ParsedMembers(std::string_view text, const std::set<std::string>& names) {
+  RequireShallow(text);
+  MemberParser parser(names);
+  if (!json::sax_parse(text.begin(), text.end(), &parser)) RefuseText();
+  return parser.Take();
 }
 
 void JsonField::Refuse(const std::string& fault) const {

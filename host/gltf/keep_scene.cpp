@@ -1,5 +1,6 @@
 #include <array>
-#include <bit>
+#include <cstddef>
+#include <cstdint>
 #include <map>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -97,92 +98,52 @@ json ObjectRecord(const Node& node) {
           {field::kParameters, parameters}};
 }
 
-// Puts keys into the file's binary data.
-class KeyStore {
+// The ticks of all controllers; controllers that have the same share them.
+class TickLists {
  public:
-  explicit KeyStore(BinaryData& data) : data_(data) {}
+  // Where those of `controller` begin.
+  std::size_t FirstOf(const Controller& controller);
 
-  template <typename KeyedController>
-  json Record(KeyedController& controller, const Node& node, const std::string& what);
-
-  // The same, and how it turns.
-  json RotationRecord(RotationController& controller, const Node& node);
+  const std::vector<std::uint32_t>& All() const { return all_; }
 
  private:
-  int TicksOf(const Controller& controller);
-  int AnglesOf(const EulerController& controller);
-
-  int Add(const std::array<float, 3>&, const std::vector<float>& values) {
-    return data_.AddKeyVectors(values);
-  }
-  int Add(const std::array<float, 4>&, const std::vector<float>& values) {
-    return data_.AddKeyRotations(values);
-  }
-
-  BinaryData& data_;
-  std::map<std::vector<std::uint32_t>, int> ticks_;  // accessors by the ticks in them
+  std::vector<std::uint32_t> all_;
+  std::map<std::vector<std::uint32_t>, std::size_t> firsts_;
 };
 
-// That keys are finite has been seen to for the viewers.
+std::size_t TickLists::FirstOf(const Controller& controller) {
+  std::vector<std::uint32_t> ticks;
+  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
+    ticks.push_back(static_cast<std::uint32_t>(controller.KeyTick(key)));
+  }
+  const auto [entry, added] = firsts_.try_emplace(std::move(ticks), all_.size());
+  if (added) all_.insert(all_.end(), entry->first.begin(), entry->first.end());
+  return entry->second;
+}
+
 template <typename KeyedController>
-json KeyStore::Record(KeyedController& controller, const Node& node, const std::string& what) {
+json ControllerRecord(KeyedController& controller, const Node& node, const std::string& what,
+                      TickLists& ticks) {
   const auto constant = Components(controller.Constant());
   if (!AreFinite(constant)) RefuseNotFinite(node, what + " without keys");
   json record = {{field::kClass, ClassRecord(controller.ClassID())}, {field::kConstant, constant}};
   if (controller.KeyCount() == 0) return record;
-  std::vector<float> values;
-  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
-    const auto value = Components(controller.KeyValue(key));
-    values.insert(values.end(), value.begin(), value.end());
-  }
-  record[field::kTicks] = TicksOf(controller);
-  record[field::kValues] = Add(constant, values);
+  record[field::kKeys] = controller.KeyCount();
+  record[field::kTicks] = ticks.FirstOf(controller);
   return record;
 }
 
-json KeyStore::RotationRecord(RotationController& controller, const Node& node) {
-  json record = Record(controller, node, "rotation");
-  record[field::kKind] = controller.KindName();
-  const auto* euler = dynamic_cast<const EulerController*>(&controller);
-  if (euler != nullptr && euler->KeyCount() > 0) record[field::kAngles] = AnglesOf(*euler);
-  return record;
-}
-
-int KeyStore::TicksOf(const Controller& controller) {
-  std::vector<std::uint32_t> words;
-  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
-    words.push_back(static_cast<std::uint32_t>(controller.KeyTick(key)));
-  }
-  const auto known = ticks_.find(words);
-  if (known != ticks_.end()) return known->second;
-  const int accessor = data_.AddWords(words);
-  ticks_.emplace(std::move(words), accessor);
-  return accessor;
-}
-
-int KeyStore::AnglesOf(const EulerController& controller) {
-  std::vector<std::uint32_t> words;
-  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
-    const Vector& angles = controller.KeyAngles(key);
-    for (const double angle : {angles.x, angles.y, angles.z}) {
-      const auto bits = std::bit_cast<std::uint64_t>(angle);
-      words.push_back(static_cast<std::uint32_t>(bits));
-      words.push_back(static_cast<std::uint32_t>(bits >> 32U));
-    }
-  }
-  return data_.AddWords(words);
-}
-
-json NodeRecord(const PlacedNode& placed, KeyStore& keys) {
+json NodeRecord(const PlacedNode& placed, TickLists& ticks) {
   const Node& node = *placed.node;
   TransformController& transform = *node.Transform();
   json record = CommonRecord(node);
   record[field::kParent] = placed.parent;
   record[field::kObject] = ObjectRecord(node);
   record[field::kTransformClass] = ClassRecord(transform.ClassID());
-  record[field::kPosition] = keys.Record(transform.Position(), node, "position");
-  record[field::kRotation] = keys.RotationRecord(transform.Rotation(), node);
-  record[field::kScale] = keys.Record(transform.Scale(), node, "scale");
+  record[field::kPosition] = ControllerRecord(transform.Position(), node, "position", ticks);
+  record[field::kRotation] = ControllerRecord(transform.Rotation(), node, "rotation", ticks);
+  record[field::kRotation][field::kKind] = transform.Rotation().KindName();
+  record[field::kScale] = ControllerRecord(transform.Scale(), node, "scale", ticks);
   return record;
 }
 
@@ -194,11 +155,8 @@ json SelectionRecord(const Scene& scene, const NodeTree& tree) {
   return record;
 }
 
-json SceneRecord(const Scene& scene, const NodeTree& tree, BinaryData& data) {
+json SceneRecord(const Scene& scene, const NodeTree& tree) {
   const AnimationState& animation = scene.Animation();
-  KeyStore keys(data);
-  json nodes = json::array();
-  for (const PlacedNode& placed : tree) nodes.push_back(NodeRecord(placed, keys));
   return {{field::kFrameRate, animation.FrameRate()},
           {field::kRange, {animation.Range().Start(), animation.Range().End()}},
           {field::kTime, animation.Time()},
@@ -206,19 +164,93 @@ json SceneRecord(const Scene& scene, const NodeTree& tree, BinaryData& data) {
           {field::kAnimateMode, ModeRecord(animation.AnimateMode())},
           {field::kSetKeyMode, ModeRecord(animation.SetKeyMode())},
           {field::kSelection, SelectionRecord(scene, tree)},
-          {field::kRoot, CommonRecord(scene.Root())},
-          {field::kNodes, std::move(nodes)}};
+          {field::kRoot, CommonRecord(scene.Root())}};
+}
+
+// --- Keys, controller by controller. That they are finite has been seen to for the viewers. ---
+
+template <typename KeyedController>
+void AppendValues(const KeyedController& controller, BinaryData& data) {
+  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
+    data.AppendNumbers(Components(controller.KeyValue(key)));
+  }
+}
+
+void AppendVectors(const TransformController& transform, BinaryData& data) {
+  AppendValues(transform.Position(), data);
+  AppendValues(transform.Scale(), data);
+}
+
+void AppendRotations(const TransformController& transform, BinaryData& data) {
+  AppendValues(transform.Rotation(), data);
+}
+
+void AppendAngles(const TransformController& transform, BinaryData& data) {
+  const auto* euler = dynamic_cast<const EulerController*>(&transform.Rotation());
+  if (euler == nullptr) return;
+  for (std::size_t key = 0; key < euler->KeyCount(); ++key) {
+    const Vector& angles = euler->KeyAngles(key);
+    data.AppendNumbers(std::array<double, 3>{angles.x, angles.y, angles.z});
+  }
+}
+
+// Keeps the extension of a file, and what belongs to it in the file's data.
+class Keeper {
+ public:
+  Keeper(const NodeTree& tree, BinaryData& data) : tree_(tree), data_(data) {}
+
+  json Extension(const Scene& scene);
+
+ private:
+  using Append = void (*)(const TransformController& transform, BinaryData& data);
+
+  // Keeps what `append` has of every node.
+  void AddKeys(const char* name, const ElementForm& form, Append append);
+
+  // Adds an accessor for all numbers of the view that was begun last.
+  void AddAccessor(const char* name, const ElementForm& form);
+
+  // A line for the scene, and one for each node.
+  void AddRecord(const Scene& scene);
+
+  const NodeTree& tree_;
+  BinaryData& data_;
+  TickLists ticks_;
+  json extension_;
+};
+
+json Keeper::Extension(const Scene& scene) {
+  extension_ = {{field::kVersion, kExtensionVersion}};
+  AddRecord(scene);
+  data_.BeginView();
+  data_.AppendNumbers(ticks_.All());
+  AddAccessor(field::kTicks, kWordForm);
+  AddKeys(field::kVectors, kThreeNumbersForm, AppendVectors);
+  AddKeys(field::kRotations, kFourNumbersForm, AppendRotations);
+  AddKeys(field::kAngles, kWordForm, AppendAngles);
+  return std::move(extension_);
+}
+
+void Keeper::AddKeys(const char* name, const ElementForm& form, Append append) {
+  data_.BeginView();
+  for (const PlacedNode& placed : tree_) append(*placed.node->Transform(), data_);
+  AddAccessor(name, form);
+}
+
+void Keeper::AddAccessor(const char* name, const ElementForm& form) {
+  if (const auto accessor = data_.AddViewAccessor(form)) extension_[name] = *accessor;
+}
+
+void Keeper::AddRecord(const Scene& scene) {
+  extension_[field::kScene] = data_.BeginView();
+  data_.Append(SceneRecord(scene, tree_).dump() + '\n');
+  for (const PlacedNode& placed : tree_) data_.Append(NodeRecord(placed, ticks_).dump() + '\n');
 }
 
 }  // namespace
 
-void KeepScene(const Scene& scene, const NodeTree& tree, BinaryData& data, tinygltf::Model& model) {
-  const int view = data.AddText(SceneRecord(scene, tree, data).dump());
-  tinygltf::Value::Object extension;
-  extension.emplace(field::kVersion, tinygltf::Value(kExtensionVersion));
-  extension.emplace(field::kScene, tinygltf::Value(view));
-  model.extensions.emplace(kExtensionName, tinygltf::Value(std::move(extension)));
-  model.extensionsUsed.emplace_back(kExtensionName);
+void KeepScene(const Scene& scene, const NodeTree& tree, Document& document) {
+  document.extensions[kExtensionName] = Keeper(tree, document.data).Extension(scene);
 }
 
 }  // namespace host::gltf

@@ -7,6 +7,10 @@ namespace host::gltf::field {
 // Of the extension.
 inline constexpr char kVersion[] = "version";
 inline constexpr char kScene[] = "scene";
+inline constexpr char kTicks[] = "ticks";  // of a controller too
+inline constexpr char kVectors[] = "vectors";
+inline constexpr char kRotations[] = "rotations";
+inline constexpr char kAngles[] = "angles";
 
 // Of the scene.
 inline constexpr char kFrameRate[] = "frameRate";
@@ -17,7 +21,6 @@ inline constexpr char kAnimateMode[] = "animateMode";
 inline constexpr char kSetKeyMode[] = "setKeyMode";
 inline constexpr char kSelection[] = "selection";
 inline constexpr char kRoot[] = "root";
-inline constexpr char kNodes[] = "nodes";
 
 // Of a mode.
 inline constexpr char kOn[] = "on";
@@ -50,9 +53,7 @@ inline constexpr char kClass[] = "class";
 inline constexpr char kParameters[] = "parameters";
 inline constexpr char kKind[] = "kind";
 inline constexpr char kConstant[] = "constant";
-inline constexpr char kTicks[] = "ticks";
-inline constexpr char kValues[] = "values";
-inline constexpr char kAngles[] = "angles";
+inline constexpr char kKeys[] = "keys";
 
 // Behind the name of a text's member when the text is bytes in hexadecimal.
 inline constexpr char kBytes[] = "Bytes";

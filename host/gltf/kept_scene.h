@@ -1,10 +1,8 @@
 #pragma once
 
-#include <tiny_gltf.h>
-
-#include "host/gltf/binary_data.h"
+#include "host/gltf/document.h"
+#include "host/gltf/file_parts.h"
 #include "host/gltf/node_tree.h"
-#include "host/gltf/stored_numbers.h"
 #include "host/scene/scene.h"
 
 // What a file holds for ourselves: all of the scene, exactly, whatever viewers are shown.
@@ -14,10 +12,11 @@ namespace host::gltf {
 
 // The extension that it is known by.
 inline constexpr char kExtensionName[] = "ORVANE_scene";
-inline constexpr int kExtensionVersion = 1;
+inline constexpr int kExtensionVersion = 2;
 
-// Adds `scene`, whose nodes are `tree`, to `model`. Throws a Refusal when a number is not finite.
-void KeepScene(const Scene& scene, const NodeTree& tree, BinaryData& data, tinygltf::Model& model);
+// Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
+// finite.
+void KeepScene(const Scene& scene, const NodeTree& tree, Document& document);
 
 // Builds the scene that `file` keeps in `scene`, a new one. Throws a Refusal when there is none or
 // it is damaged; `scene` then holds a part of it.

@@ -16,22 +16,20 @@ double Linear(WireColor component) {
   return value <= 0.04045 ? value / 12.92 : std::pow((value + 0.055) / 1.055, 2.4);
 }
 
-tinygltf::Material Dull(WireColor color) {
-  tinygltf::Material material;
-  auto& surface = material.pbrMetallicRoughness;
-  surface.baseColorFactor = {Linear(color & 0xFFU), Linear(color >> 8U & 0xFFU),
-                             Linear(color >> 16U & 0xFFU), 1.0};
-  surface.metallicFactor = 0.0;
-  surface.roughnessFactor = kRoughness;
-  return material;
+nlohmann::json Dull(WireColor color) {
+  return {
+      {"pbrMetallicRoughness",
+       {{"baseColorFactor",
+         {Linear(color & 0xFFU), Linear(color >> 8U & 0xFFU), Linear(color >> 16U & 0xFFU), 1.0}},
+        {"metallicFactor", 0.0},
+        {"roughnessFactor", kRoughness}}}};
 }
 
 }  // namespace
 
 int Materials::Of(WireColor color) {
-  const int next = static_cast<int>(model_.materials.size());
-  const auto [entry, added] = indices_.try_emplace(color & kColorBits, next);
-  if (added) model_.materials.push_back(Dull(entry->first));
+  const auto [entry, added] = indices_.try_emplace(color & kColorBits, 0);
+  if (added) entry->second = list_.Add(Dull(entry->first));
   return entry->second;
 }
 

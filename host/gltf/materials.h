@@ -1,9 +1,8 @@
 #pragma once
 
-#include <tiny_gltf.h>
-
 #include <map>
 
+#include "host/gltf/json_list.h"
 #include "sdk/core/types.h"
 
 namespace host::gltf {
@@ -11,14 +10,14 @@ namespace host::gltf {
 // The materials of a glTF file: one for each wire colour, dull and in that colour.
 class Materials {
  public:
-  // `model` outlives this.
-  explicit Materials(tinygltf::Model& model) : model_(model) {}
+  // `list`, the file's materials, is empty and outlives this.
+  explicit Materials(JsonList& list) : list_(list) {}
 
   // The index of the material in `color`.
   int Of(WireColor color);
 
  private:
-  tinygltf::Model& model_;
+  JsonList& list_;
   std::map<WireColor, int> indices_;
 };
 

@@ -1,6 +1,5 @@
 #include "host/gltf/node_tree.h"
 
-#include <array>
 #include <cstddef>
 
 #include "host/gltf/names.h"
@@ -18,24 +17,28 @@ void PushChildren(const Node& parent, int parent_index, int top, NodeTree& stack
   }
 }
 
-template <std::size_t kSize>
-std::vector<double> Finite(const std::array<double, kSize>& numbers, const Node& node,
-                           const char* what, TimeValue time) {
-  RequireFinite(numbers, node, what, time);
-  return {numbers.begin(), numbers.end()};
-}
-
-tinygltf::Node ViewerNode(const Node& node, const ViewerSpace& space, TimeValue time) {
+nlohmann::json ViewerNode(const Node& node, const ViewerSpace& space, TimeValue time) {
   const TransformController& transform = *node.Transform();
   const auto position = space.Position(transform.Position().ValueAt(time));
   const auto rotation = ViewerSpace::Rotation(transform.Rotation().ValueAt(time));
   const auto scale = ViewerSpace::Scale(transform.Scale().ValueAt(time));
-  tinygltf::Node viewer_node;
-  viewer_node.name = ViewerName(node.Name());
-  viewer_node.translation = Finite(position, node, "position", time);
-  viewer_node.rotation = Finite(rotation, node, "rotation", time);
-  viewer_node.scale = Finite(scale, node, "scale", time);
-  return viewer_node;
+  RequireFinite(position, node, "position", time);
+  RequireFinite(rotation, node, "rotation", time);
+  RequireFinite(scale, node, "scale", time);
+  return {{"name", ViewerName(node.Name())},
+          {"translation", position},
+          {"rotation", rotation},
+          {"scale", scale}};
+}
+
+// The indices of the nodes below each node of `tree`.
+std::vector<std::vector<int>> ChildrenIn(const NodeTree& tree) {
+  std::vector<std::vector<int>> children(tree.size());
+  for (std::size_t index = 0; index < tree.size(); ++index) {
+    if (tree[index].parent == -1) continue;
+    children[static_cast<std::size_t>(tree[index].parent)].push_back(static_cast<int>(index));
+  }
+  return children;
 }
 
 }  // namespace
@@ -56,15 +59,14 @@ NodeTree NodeTreeOf(const Scene& scene) {
 }
 
 void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-              tinygltf::Model& model) {
-  model.nodes.reserve(tree.size());
-  for (const PlacedNode& placed : tree) {
-    const int index = static_cast<int>(model.nodes.size());
-    model.nodes.push_back(ViewerNode(*placed.node, space, time));
-    std::vector<int>& siblings =
-        placed.parent == -1 ? model.scenes.front().nodes
-                            : model.nodes[static_cast<std::size_t>(placed.parent)].children;
-    siblings.push_back(index);
+              const std::vector<int>& meshes, Document& document) {
+  const std::vector<std::vector<int>> children = ChildrenIn(tree);
+  for (std::size_t index = 0; index < tree.size(); ++index) {
+    nlohmann::json node = ViewerNode(*tree[index].node, space, time);
+    if (meshes[index] != -1) node["mesh"] = meshes[index];
+    if (!children[index].empty()) node["children"] = children[index];
+    const int added = document.nodes.Add(node);
+    if (tree[index].parent == -1) document.roots.push_back(added);
   }
 }
 

@@ -1,9 +1,8 @@
 #pragma once
 
-#include <tiny_gltf.h>
-
 #include <vector>
 
+#include "host/gltf/document.h"
 #include "host/gltf/viewer_space.h"
 #include "host/scene/scene.h"
 
@@ -21,9 +20,9 @@ using NodeTree = std::vector<PlacedNode>;
 
 NodeTree NodeTreeOf(const Scene& scene);
 
-// Adds the nodes of `tree`, as they stand at `time` (ticks), to `model` and its first scene.
-// Throws a Refusal when a transform is not finite.
+// Adds the nodes of `tree`, as they stand at `time` (ticks), to `document`; `meshes` are the
+// indices of their meshes, -1 for none. Throws a Refusal when a transform is not finite.
 void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-              tinygltf::Model& model);
+              const std::vector<int>& meshes, Document& document);
 
 }  // namespace host::gltf

@@ -47,8 +47,8 @@ Shape ShapeOf(const Look& look) {
 
 class MeshMaker {
  public:
-  MeshMaker(const ViewerSpace& space, TimeValue time, BinaryData& data, tinygltf::Model& model)
-      : space_(space), time_(time), data_(data), model_(model) {}
+  MeshMaker(const ViewerSpace& space, TimeValue time, Document& document)
+      : space_(space), time_(time), document_(document) {}
 
   // The index of the mesh that shows `node`. Nodes of one look share it, unless their objects stand
   // off from them.
@@ -64,27 +64,28 @@ class MeshMaker {
   int Add(const Shape& shape, const Node& node, int material) {
     Geometry geometry;
     geometry.Add(shape, space_, node, time_);
-    model_.meshes.emplace_back().primitives.push_back(geometry.StoreIn(data_, material));
-    return static_cast<int>(model_.meshes.size()) - 1;
+    const auto primitives = nlohmann::json::array({geometry.StoreIn(document_.data, material)});
+    return document_.meshes.Add({{"primitives", primitives}});
   }
 
   const ViewerSpace& space_;
   TimeValue time_;
-  BinaryData& data_;
-  tinygltf::Model& model_;
+  Document& document_;
   std::map<Look, int> shared_;
 };
 
 }  // namespace
 
-void AddObjectMeshes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-                     Materials& materials, BinaryData& data, tinygltf::Model& model) {
-  MeshMaker maker(space, time, data, model);
-  for (std::size_t index = 0; index < tree.size(); ++index) {
-    const Node& node = *tree[index].node;
-    const std::optional<Look> look = LookOf(node, materials);
-    if (look) model.nodes[index].mesh = maker.MeshFor(node, *look);
+std::vector<int> AddObjectMeshes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
+                                 Materials& materials, Document& document) {
+  MeshMaker maker(space, time, document);
+  std::vector<int> meshes;
+  meshes.reserve(tree.size());
+  for (const PlacedNode& placed : tree) {
+    const std::optional<Look> look = LookOf(*placed.node, materials);
+    meshes.push_back(look ? maker.MeshFor(*placed.node, *look) : -1);
   }
+  return meshes;
 }
 
 }  // namespace host::gltf

@@ -1,8 +1,8 @@
 #pragma once
 
-#include <tiny_gltf.h>
+#include <vector>
 
-#include "host/gltf/binary_data.h"
+#include "host/gltf/document.h"
 #include "host/gltf/materials.h"
 #include "host/gltf/node_tree.h"
 #include "host/gltf/viewer_space.h"
@@ -10,9 +10,9 @@
 namespace host::gltf {
 
 // Adds what the nodes of `tree` show beside bones: spheres, and point helpers as marks of one unit
-// to each side. Equal ones share a mesh. Dummies stay without. The nodes of `model` are those of
-// the tree. Throws a Refusal when a shape is not finite.
-void AddObjectMeshes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-                     Materials& materials, BinaryData& data, tinygltf::Model& model);
+// to each side. Equal ones share a mesh. Dummies stay without. Returns the index of each node's
+// mesh, -1 for none. Throws a Refusal when a shape is not finite.
+std::vector<int> AddObjectMeshes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
+                                 Materials& materials, Document& document);
 
 }  // namespace host::gltf

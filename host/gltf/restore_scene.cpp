@@ -1,4 +1,6 @@
+#include <algorithm>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -8,7 +10,7 @@
 #include "host/gltf/kept_values.h"
 #include "host/gltf/refusal.h"
 #include "host/gltf/restore_transform.h"
-#include "host/gltf/stored_numbers.h"
+#include "host/gltf/stored_keys.h"
 
 namespace host::gltf {
 
@@ -134,13 +136,31 @@ Node& ParentIn(const JsonField& record, const std::vector<Node*>& nodes, Scene& 
   return parent == -1 ? scene.Root() : *nodes[static_cast<std::size_t>(parent)];
 }
 
-Node& RestoreNode(const JsonField& record, const std::vector<Node*>& nodes, StoredNumbers& numbers,
+Node& RestoreNode(const JsonField& record, const std::vector<Node*>& nodes, StoredKeys& keys,
                   Scene& scene) {
   Node& node = NodeWithObject(record.Member(field::kObject), scene);
   ParentIn(record, nodes, scene).AttachChild(&node, false);
   RestoreCommon(record, node);
-  RestoreTransform(record, numbers, scene, *node.Transform());
+  RestoreTransform(record, keys, scene, *node.Transform());
   return node;
+}
+
+// What stands before the next line break of `text`, which is taken away.
+std::string_view TakeLine(std::string_view& text) {
+  const std::string_view line = text.substr(0, text.find('\n'));
+  text.remove_prefix(std::min(line.size() + 1, text.size()));
+  return line;
+}
+
+// One line after the other: all nodes at once take many times the memory.
+std::vector<Node*> RestoreNodes(std::string_view lines, StoredKeys keys, Scene& scene) {
+  std::vector<Node*> nodes;
+  while (!lines.empty()) {
+    const nlohmann::json node = ParsedJson(TakeLine(lines));
+    const JsonField record(node, "nodes[" + std::to_string(nodes.size()) + "]");
+    nodes.push_back(&RestoreNode(record, nodes, keys, scene));
+  }
+  return nodes;
 }
 
 void RestoreSelection(const JsonField& record, const std::vector<Node*>& nodes, Scene& scene) {
@@ -170,19 +190,15 @@ JsonField Extension(const JsonField& document) {
 }  // namespace
 
 void RestoreScene(const FileParts& file, Scene& scene) {
-  StoredNumbers numbers(file);
   const JsonField extension = Extension(JsonField(file.document, ""));
   extension.Member(field::kVersion).Whole(kExtensionVersion, kExtensionVersion);
-  const nlohmann::json kept = ParsedJson(numbers.View(extension.Member(field::kScene)));
+  std::string_view lines = StoredView(file, extension.Member(field::kScene));
+  const nlohmann::json kept = ParsedJson(TakeLine(lines));
   const JsonField record(kept, "");
   RestoreTime(record, scene.Animation());
   RestoreUnit(record.Member(field::kMillimetersPerUnit), scene);
   RestoreCommon(record.Member(field::kRoot), scene.Root());
-  const JsonField records = record.Member(field::kNodes);
-  std::vector<Node*> nodes;
-  for (std::size_t i = 0; i < records.Size(); ++i) {
-    nodes.push_back(&RestoreNode(records.Element(i), nodes, numbers, scene));
-  }
+  const std::vector<Node*> nodes = RestoreNodes(lines, StoredKeys(file, extension), scene);
   RestoreSelection(record.Member(field::kSelection), nodes, scene);
 }
 

@@ -1,62 +1,31 @@
 #include "host/gltf/restore_transform.h"
 
-#include <bit>
 #include <cstddef>
-#include <cstdint>
 #include <vector>
 
 #include "host/animation/euler_controller.h"
 #include "host/gltf/kept_fields.h"
 #include "host/gltf/kept_values.h"
-#include "host/gltf/refusal.h"
 
 namespace host::gltf {
 
 namespace {
 
-constexpr std::size_t kWordsPerAngle = 2;
 constexpr std::size_t kAnglesPerKey = 3;
 
-std::vector<TimeValue> TicksIn(const JsonField& reference, std::size_t count,
-                               const StoredNumbers& numbers) {
-  std::vector<TimeValue> ticks;
-  ticks.reserve(count);
-  for (const std::uint32_t word : numbers.Words(reference, count)) {
-    const auto tick = static_cast<TimeValue>(word);
-    if (!ticks.empty() && tick <= ticks.back()) {
-      reference.Refuse("the index of ticks that do not rise");
-    }
-    ticks.push_back(tick);
-  }
-  return ticks;
-}
-
-std::vector<double> AnglesIn(const JsonField& reference, std::size_t count,
-                             const StoredNumbers& numbers) {
-  const auto words = numbers.Words(reference, count * kAnglesPerKey * kWordsPerAngle);
-  std::vector<double> angles;
-  angles.reserve(count * kAnglesPerKey);
-  for (std::size_t i = 0; i < words.size(); i += kWordsPerAngle) {
-    angles.push_back(std::bit_cast<double>(std::uint64_t{words[i + 1]} << 32U | words[i]));
-  }
-  if (!AreFinite(angles)) reference.Refuse("the index of numbers that are not finite");
-  return angles;
-}
-
-// Calls `set_key` with tick and value of every key in `record`.
+// Calls `set_key` with number, tick and value of every key in `record`.
 template <typename Value, typename SetKey>
-void RestoreKeys(const JsonField& record, StoredNumbers& numbers, const SetKey& set_key) {
+void RestoreKeys(const JsonField& record, StoredKeys& keys, const SetKey& set_key) {
   constexpr std::size_t kWidth = sizeof(Value) / sizeof(float);
-  const auto reference = record.FindMember(field::kValues);
-  if (!reference) return;
-  const std::vector<float> values = numbers.Floats(*reference, kWidth);
-  if (!AreFinite(values)) reference->Refuse("the index of numbers that are not finite");
-  const std::size_t count = values.size() / kWidth;
-  const std::vector<TimeValue> ticks = TicksIn(record.Member(field::kTicks), count, numbers);
-  for (std::size_t key = 0; key < count; ++key) {
+  const auto count = record.FindMember(field::kKeys);
+  if (!count) return;
+  const std::vector<float> values = keys.TakeValues(*count, kWidth);
+  const std::vector<TimeValue> ticks =
+      keys.Ticks(record.Member(field::kTicks), values.size() / kWidth);
+  for (std::size_t key = 0; key < ticks.size(); ++key) {
     Value value;
     Compose(&values[key * kWidth], value);
-    set_key(ticks[key], value);
+    set_key(key, ticks[key], value);
   }
 }
 
@@ -70,38 +39,34 @@ void RestoreConstant(const JsonField& record, ValueController<Value>& controller
 }
 
 template <typename Value>
-void RestoreController(const JsonField& record, StoredNumbers& numbers,
+void RestoreController(const JsonField& record, StoredKeys& keys,
                        ValueController<Value>& controller) {
   RestoreConstant(record, controller);
-  RestoreKeys<Value>(record, numbers,
-                     [&](TimeValue tick, const Value& value) { controller.SetKey(tick, value); });
-}
-
-void RestoreEuler(const JsonField& record, StoredNumbers& numbers, EulerController& controller) {
-  RestoreConstant(record, controller);
-  std::vector<TimeValue> ticks;
-  std::vector<Quat> values;
-  RestoreKeys<Quat>(record, numbers, [&](TimeValue tick, const Quat& value) {
-    ticks.push_back(tick);
-    values.push_back(value);
+  RestoreKeys<Value>(record, keys, [&](std::size_t /*key*/, TimeValue tick, const Value& value) {
+    controller.SetKey(tick, value);
   });
-  if (ticks.empty()) return;
-  const auto angles = AnglesIn(record.Member(field::kAngles), ticks.size(), numbers);
-  for (std::size_t key = 0; key < ticks.size(); ++key) {
-    const double* own = &angles[key * kAnglesPerKey];
-    controller.SetKey(ticks[key], values[key], {own[0], own[1], own[2]});
-  }
 }
 
-void RestoreRotation(const JsonField& record, StoredNumbers& numbers, Scene& scene,
+void RestoreEuler(const JsonField& record, StoredKeys& keys, EulerController& controller) {
+  RestoreConstant(record, controller);
+  const auto count = record.FindMember(field::kKeys);
+  if (!count) return;
+  const std::vector<double> angles = keys.TakeAngles(*count);
+  RestoreKeys<Quat>(record, keys, [&](std::size_t key, TimeValue tick, const Quat& value) {
+    const double* own = &angles[key * kAnglesPerKey];
+    controller.SetKey(tick, value, {own[0], own[1], own[2]});
+  });
+}
+
+void RestoreRotation(const JsonField& record, StoredKeys& keys, Scene& scene,
                      TransformController& transform) {
   const JsonField kind = record.Member(field::kKind);
   if (kind.Text() == "tcb") {
     transform.SetRotationController(static_cast<Control*>(
         scene.CreateInstance(kRotationControllerSuperClass, kTcbRotationClass)));
-    RestoreController(record, numbers, transform.Rotation());
+    RestoreController(record, keys, transform.Rotation());
   } else if (kind.Text() == "euler") {
-    RestoreEuler(record, numbers, dynamic_cast<EulerController&>(transform.Rotation()));
+    RestoreEuler(record, keys, dynamic_cast<EulerController&>(transform.Rotation()));
   } else {
     kind.Refuse("neither euler nor tcb");
   }
@@ -109,12 +74,12 @@ void RestoreRotation(const JsonField& record, StoredNumbers& numbers, Scene& sce
 
 }  // namespace
 
-void RestoreTransform(const JsonField& record, StoredNumbers& numbers, Scene& scene,
+void RestoreTransform(const JsonField& record, StoredKeys& keys, Scene& scene,
                       TransformController& transform) {
   transform.SetClassId(ClassIn(record.Member(field::kTransformClass)));
-  RestoreController(record.Member(field::kPosition), numbers, transform.Position());
-  RestoreRotation(record.Member(field::kRotation), numbers, scene, transform);
-  RestoreController(record.Member(field::kScale), numbers, transform.Scale());
+  RestoreController(record.Member(field::kPosition), keys, transform.Position());
+  RestoreRotation(record.Member(field::kRotation), keys, scene, transform);
+  RestoreController(record.Member(field::kScale), keys, transform.Scale());
 }
 
 }  // namespace host::gltf

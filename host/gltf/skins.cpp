@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "host/gltf/geometry.h"
+#include "host/gltf/names.h"
 #include "host/gltf/shape.h"
 #include "host/scene/bone_object.h"
 #include "sdk/core/object.h"
@@ -71,8 +72,8 @@ class SkinMaker {
   void AddBone(const Node& node, int index);
 
   // The index of the finished skin and of its mesh.
-  int StoreSkin(BinaryData& data, tinygltf::Model& model);
-  int StoreMesh(BinaryData& data, tinygltf::Model& model);
+  int StoreSkin(Document& document) const;
+  int StoreMesh(Document& document) const;
 
  private:
   Shape ShapeOf(const Node& node) const;
@@ -102,37 +103,34 @@ Shape SkinMaker::ShapeOf(const Node& node) const {
   return node.ObjectOffset() ? Transformed(std::move(shape), *node.ObjectOffset()) : shape;
 }
 
-int SkinMaker::StoreSkin(BinaryData& data, tinygltf::Model& model) {
-  tinygltf::Skin& skin = model.skins.emplace_back();
-  skin.joints = std::move(joints_);
-  skin.inverseBindMatrices = data.AddMatrices(inverses_);
-  return static_cast<int>(model.skins.size()) - 1;
+int SkinMaker::StoreSkin(Document& document) const {
+  return document.skins.Add(
+      {{"joints", joints_}, {"inverseBindMatrices", document.data.AddMatrices(inverses_)}});
 }
 
-int SkinMaker::StoreMesh(BinaryData& data, tinygltf::Model& model) {
-  tinygltf::Mesh& mesh = model.meshes.emplace_back();
+int SkinMaker::StoreMesh(Document& document) const {
+  auto primitives = nlohmann::json::array();
   for (const auto& [material, geometry] : parts_) {
-    mesh.primitives.push_back(geometry.StoreIn(data, material));
+    primitives.push_back(geometry.StoreIn(document.data, material));
   }
-  return static_cast<int>(model.meshes.size()) - 1;
+  return document.meshes.Add({{"primitives", std::move(primitives)}});
 }
 
 }  // namespace
 
 void AddSkins(const NodeTree& tree, const ViewerSpace& space, TimeValue time, Materials& materials,
-              BinaryData& data, tinygltf::Model& model) {
+              Document& document) {
   for (const BoneGroup& group : BoneGroupsOf(tree)) {
     SkinMaker maker(space, time, materials);
     for (const std::size_t index : group) {
       maker.AddBone(*tree[index].node, static_cast<int>(index));
     }
     const auto top = static_cast<std::size_t>(tree[group.front()].top);
-    model.scenes.front().nodes.push_back(static_cast<int>(model.nodes.size()));
-    tinygltf::Node skinned;
-    skinned.name = model.nodes[top].name + " bones";
-    skinned.skin = maker.StoreSkin(data, model);
-    skinned.mesh = maker.StoreMesh(data, model);
-    model.nodes.push_back(std::move(skinned));
+    const int skin = maker.StoreSkin(document);
+    document.roots.push_back(
+        document.nodes.Add({{"name", ViewerName(tree[top].node->Name()) + " bones"},
+                            {"skin", skin},
+                            {"mesh", maker.StoreMesh(document)}}));
   }
 }
 

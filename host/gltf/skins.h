@@ -1,8 +1,8 @@
 #pragma once
 
-#include <tiny_gltf.h>
+#include <cstddef>
 
-#include "host/gltf/binary_data.h"
+#include "host/gltf/document.h"
 #include "host/gltf/materials.h"
 #include "host/gltf/node_tree.h"
 #include "host/gltf/viewer_space.h"
@@ -13,9 +13,9 @@ namespace host::gltf {
 inline constexpr std::size_t kMostBonesInSkin = 60'000;
 
 // Adds the bones of `tree` as skins, bound as they stand at `time` (ticks), each with a mesh whose
-// node hangs in the first scene of `model`. The first nodes of `model` are those of the tree.
-// Throws a Refusal when a shape is not finite.
+// node is one of the scene's roots. The nodes of `document` are those of the tree. Throws a Refusal
+// when a shape is not finite.
 void AddSkins(const NodeTree& tree, const ViewerSpace& space, TimeValue time, Materials& materials,
-              BinaryData& data, tinygltf::Model& model);
+              Document& document);
 
 }  // namespace host::gltf

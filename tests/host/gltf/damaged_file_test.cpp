@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <cstring>
 #include <nlohmann/json.hpp>
+#include <sstream>
 
 #include "host/gltf/reader.h"
 #include "tests/host/gltf/sample_scenes.h"
@@ -40,10 +41,23 @@ class OpenFile {
     document = json::parse(bytes.substr(20, json_size));
     binary = bytes.substr(28 + json_size);
     const json& view = document["bufferViews"][SceneView()];
-    kept = json::parse(binary.substr(view.value("byteOffset", 0U), view["byteLength"]));
+    std::istringstream lines(binary.substr(view.value("byteOffset", 0U), view["byteLength"]));
+    std::string line;
+    std::getline(lines, line);
+    kept = json::parse(line);
+    kept["nodes"] = json::array();
+    while (std::getline(lines, line)) kept["nodes"].push_back(json::parse(line));
   }
 
-  std::string Bytes() const { return BytesWithKept(kept.dump()); }
+  std::string Bytes() const {
+    json scene = kept;
+    scene.erase("nodes");
+    std::string lines = scene.dump();
+    for (const json& node : kept["nodes"]) lines += '\n' + node.dump();
+    return BytesWithKept(lines);
+  }
+
+  json& Extension() { return document["extensions"]["ORVANE_scene"]; }
 
   // With `text` for what is kept; it stands behind all other data.
   std::string BytesWithKept(const std::string& text) const {
@@ -62,7 +76,7 @@ class OpenFile {
   }
 
   json document;
-  json kept;
+  json kept;  // the scene, with the nodes, which have lines of their own in the file
   std::string binary;
 
  private:
@@ -110,10 +124,10 @@ TEST(DamagedFile, WithoutOurExtensionIsRefused) {
 
 TEST(DamagedFile, OfALaterFormIsRefused) {
   OpenFile file(SmallFile());
-  file.document["extensions"]["ORVANE_scene"]["version"] = 2;
+  file.document["extensions"]["ORVANE_scene"]["version"] = 3;
   EXPECT_EQ(Refusal(file.Bytes()),
             "The scene in the file is damaged: extensions.ORVANE_scene.version is no whole number "
-            "from 1 to 1.");
+            "from 2 to 2.");
 }
 
 TEST(DamagedFile, CutAtAnyByteIsRefused) {
@@ -196,7 +210,7 @@ INSTANTIATE_TEST_SUITE_P(
                "setKeyMode.unmatchedResumes is no whole number from 0 to 9007199254740992"},
         Damage{"/selection/0", 2, "selection[0] is no whole number from 0 to 1"},
         Damage{"/selection/0", -1, "selection[0] is no whole number from 0 to 1"},
-        Damage{"/root", 1, "root is no object"}, Damage{"/nodes", 1, "nodes is no array"},
+        Damage{"/root", 1, "root is no object"}, Damage{"/nodes/0", 1, "nodes[0] is no object"},
         Damage{"/nodes/0/parent", 0, "nodes[0].parent is no whole number from -1 to -1"},
         Damage{"/nodes/0/parent", 1, "nodes[0].parent is no whole number from -1 to -1"},
         Damage{"/nodes/1/parent", 1, "nodes[1].parent is no whole number from -1 to 0"},
@@ -227,8 +241,20 @@ INSTANTIATE_TEST_SUITE_P(
                "nodes[0].transformClass[1] is no whole number from 0 to 4294967295"},
         Damage{"/nodes/0/rotation/kind", "bezier",
                "nodes[0].rotation.kind is neither euler nor tcb"},
-        Damage{"/nodes/0/rotation/angles", nullptr, "nodes[0].rotation.angles is missing"},
         Damage{"/nodes/0/position/ticks", nullptr, "nodes[0].position.ticks is missing"},
+        Damage{"/nodes/0/position/ticks", 3,
+               "nodes[0].position.ticks is no whole number from 0 to 2"},
+        Damage{"/nodes/0/position/ticks", -1,
+               "nodes[0].position.ticks is no whole number from 0 to 2"},
+        Damage{"/nodes/0/position/ticks", 1,
+               "nodes[0].position.ticks is the index of fewer ticks than there are keys"},
+        Damage{"/nodes/0/position/keys", 3, "nodes[0].position.keys is more than the file holds"},
+        Damage{"/nodes/0/rotation/keys", 3, "nodes[0].rotation.keys is more than the file holds"},
+        Damage{"/nodes/0/scale/keys", 1, "nodes[0].scale.keys is more than the file holds"},
+        Damage{"/nodes/0/position/keys", -1,
+               "nodes[0].position.keys is no whole number from 0 to 2147483647"},
+        Damage{"/nodes/0/position/keys", 0.5,
+               "nodes[0].position.keys is no whole number from 0 to 2147483647"},
         Damage{"/nodes/0/scale/constant", json::array({1, 1}),
                "nodes[0].scale.constant is no list of 3 numbers"}),
     [](const auto& damage) { return "Number" + std::to_string(damage.index); });
@@ -237,13 +263,21 @@ INSTANTIATE_TEST_SUITE_P(
 
 class DamagedNumbers : public testing::Test {
  protected:
-  json& AccessorOf(const char* controller, const char* member) {
-    return file_
-        .document["accessors"][file_.kept["nodes"][0][controller][member].get<std::size_t>()];
+  // One of "ticks", "vectors", "rotations" and "angles".
+  json& AccessorOf(const char* numbers) {
+    return file_.document["accessors"][file_.Extension()[numbers].get<std::size_t>()];
   }
 
   json& ViewOf(const json& accessor) {
     return file_.document["bufferViews"][accessor["bufferView"].get<std::size_t>()];
+  }
+
+  // Puts `bytes` in the place of the first numbers.
+  void Overwrite(const char* numbers, const std::string& bytes) {
+    const json& accessor = AccessorOf(numbers);
+    const std::size_t offset =
+        ViewOf(accessor).value("byteOffset", 0U) + accessor.value("byteOffset", 0U);
+    file_.binary.replace(offset, bytes.size(), bytes);
   }
 
   std::string Fault() const {
@@ -258,13 +292,15 @@ class DamagedNumbers : public testing::Test {
 
 TEST_F(DamagedNumbers, IndicesOutOfRangeAreRefused) {
   for (const json& index : {json(-1), json(1'000'000), json(0.5), json("1"), json(1e300)}) {
-    OpenFile file(SmallFile());
-    file.kept["nodes"][0]["position"]["values"] = index;
-    EXPECT_THAT(Refusal(file.Bytes()), HasSubstr("nodes[0].position.values is no "));
-    file = OpenFile(SmallFile());
-    file.document["accessors"][file.kept["nodes"][0]["position"]["ticks"].get<std::size_t>()]
-                 ["bufferView"] = index;
-    EXPECT_THAT(Refusal(file.Bytes()), HasSubstr(".bufferView is no "));
+    for (const char* numbers : {"ticks", "vectors", "rotations", "angles"}) {
+      file_ = OpenFile(SmallFile());
+      file_.Extension()[numbers] = index;
+      EXPECT_THAT(Fault(),
+                  HasSubstr(std::string("extensions.ORVANE_scene.") + numbers + " is no "));
+    }
+    file_ = OpenFile(SmallFile());
+    AccessorOf("ticks")["bufferView"] = index;
+    EXPECT_THAT(Fault(), HasSubstr(".bufferView is no "));
   }
 }
 
@@ -272,51 +308,55 @@ TEST_F(DamagedNumbers, CountsAndPlacesOutsideTheDataAreRefused) {
   for (const json& extent : {json(-1), json(1'000'000), json(4294967296), json(1e300)}) {
     for (const char* member : {"count", "byteOffset"}) {
       file_ = OpenFile(SmallFile());
-      AccessorOf("position", "values")[member] = extent;
+      AccessorOf("vectors")[member] = extent;
       EXPECT_THAT(Fault(), HasSubstr(std::string(member) + " is no whole number from 0 to "));
     }
     for (const char* member : {"byteLength", "byteOffset"}) {
       file_ = OpenFile(SmallFile());
-      ViewOf(AccessorOf("position", "values"))[member] = extent;
+      ViewOf(AccessorOf("vectors"))[member] = extent;
       EXPECT_THAT(Fault(), HasSubstr(std::string(member) + " is no whole number from 0 to "));
     }
   }
 }
 
 TEST_F(DamagedNumbers, OfAnotherKindAreRefused) {
-  AccessorOf("position", "values")["componentType"] = 5125;
+  AccessorOf("vectors")["componentType"] = 5125;
   EXPECT_THAT(Fault(), HasSubstr("componentType is no whole number from 5126 to 5126"));
   file_ = OpenFile(SmallFile());
-  AccessorOf("rotation", "values")["type"] = "VEC3";
+  AccessorOf("rotations")["type"] = "VEC3";
   EXPECT_THAT(Fault(), HasSubstr("type is not VEC4"));
 }
 
-TEST_F(DamagedNumbers, FewerTicksOrAnglesThanValuesAreRefused) {
-  AccessorOf("position", "ticks")["count"] = 1;
-  EXPECT_EQ(Fault(), "nodes[0].position.ticks is the index of more or fewer than 2 numbers.");
-  file_ = OpenFile(SmallFile());
-  AccessorOf("rotation", "angles")["count"] = 11;
-  EXPECT_EQ(Fault(), "nodes[0].rotation.angles is the index of more or fewer than 12 numbers.");
+TEST_F(DamagedNumbers, FewerThanKeysAreRefused) {
+  AccessorOf("ticks")["count"] = 1;
+  EXPECT_EQ(Fault(), "nodes[0].position.ticks is the index of fewer ticks than there are keys.");
+  for (const char* numbers : {"rotations", "angles"}) {
+    file_ = OpenFile(SmallFile());
+    AccessorOf(numbers)["count"] = 1;
+    EXPECT_EQ(Fault(), "nodes[0].rotation.keys is more than the file holds.") << numbers;
+    file_ = OpenFile(SmallFile());
+    file_.Extension().erase(numbers);
+    EXPECT_EQ(Fault(), "nodes[0].rotation.keys is more than the file holds.") << numbers;
+  }
 }
 
 TEST_F(DamagedNumbers, TicksThatDoNotRiseAreRefused) {
-  const json& ticks = AccessorOf("position", "ticks");
-  const std::size_t offset = ViewOf(ticks).value("byteOffset", 0U) + ticks.value("byteOffset", 0U);
-  file_.binary.replace(offset, 8, Word(80) + Word(80));
-  EXPECT_EQ(Fault(), "nodes[0].position.ticks is the index of ticks that do not rise.");
+  for (const std::string& ticks : {Word(80) + Word(80), Word(80) + Word(0)}) {
+    Overwrite("ticks", ticks);
+    EXPECT_EQ(Fault(), "nodes[0].position.ticks is the index of ticks that do not rise.");
+  }
 }
 
 TEST_F(DamagedNumbers, ThatAreNotFiniteAreRefused) {
-  for (const char* member : {"values", "angles"}) {
-    file_ = OpenFile(SmallFile());
-    const json& numbers = AccessorOf("rotation", member);
-    const std::size_t offset =
-        ViewOf(numbers).value("byteOffset", 0U) + numbers.value("byteOffset", 0U);
-    file_.binary.replace(offset, 8, Word(0x7FF00000) + Word(0x7FF00000));
-    file_.binary.replace(offset, 4, member == std::string("values") ? Word(0x7F800000) : Word(0));
-    EXPECT_EQ(Fault(), std::string("nodes[0].rotation.") + member +
-                           " is the index of numbers that are not finite.");
-  }
+  constexpr char kFault[] = " is the number of keys that are not all finite.";
+  Overwrite("vectors", Word(0x7F800000));
+  EXPECT_EQ(Fault(), std::string("nodes[0].position.keys") + kFault);
+  file_ = OpenFile(SmallFile());
+  Overwrite("rotations", Word(0x7F800000));
+  EXPECT_EQ(Fault(), std::string("nodes[0].rotation.keys") + kFault);
+  file_ = OpenFile(SmallFile());
+  Overwrite("angles", Word(0) + Word(0x7FF00000));
+  EXPECT_EQ(Fault(), std::string("nodes[0].rotation.keys") + kFault);
 }
 
 // A small file could ask for any amount of memory if the same keys could be used by every node.
@@ -326,7 +366,7 @@ TEST_F(DamagedNumbers, MoreThanTheFileHoldsAreRefused) {
   for (int tick = 0; tick < 10'000; ++tick) node.Transform()->Scale().SetKey(tick, {});
   file_ = OpenFile(Written(scene));
   for (int i = 0; i < 100; ++i) file_.kept["nodes"].push_back(file_.kept["nodes"][0]);
-  EXPECT_THAT(Fault(), HasSubstr("is the index of more numbers than the file holds."));
+  EXPECT_EQ(Fault(), "nodes[1].scale.keys is more than the file holds.");
 }
 
 TEST_F(DamagedNumbers, TextThatIsNoBase64IsRefused) {

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <cstddef>
+#include <nlohmann/json.hpp>
+#include <string>
+#include <vector>
+
+#include "host/gltf/binary_data.h"
+#include "host/gltf/json_list.h"
+
+namespace host::gltf {
+
+// The parts of a glTF file that is being made.
+struct Document {
+  // Of all lists and the data, in bytes.
+  std::size_t Size() const;
+
+  std::string scene_name;
+  std::string animation_name;
+  std::vector<int> roots;  // nodes of the scene that have no parent
+  JsonList nodes;
+  JsonList meshes;
+  JsonList materials;
+  JsonList skins;
+  JsonList samplers;  // of the one animation, as are the channels
+  JsonList channels;
+  BinaryData data;
+  nlohmann::json extensions;  // an object, by name
+};
+
+}  // namespace host::gltf

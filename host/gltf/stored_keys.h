@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <vector>
+
+#include "host/gltf/element_form.h"
+#include "host/gltf/file_parts.h"
+#include "host/gltf/json_field.h"
+#include "sdk/core/types.h"
+
+namespace host::gltf {
+
+// The bytes of the view of `file` that `reference` is the index of, valid as long as the file's.
+// Throws a Refusal when it refers to nothing, or to more than the file holds.
+std::string_view StoredView(const FileParts& file, const JsonField& reference);
+
+// The keys that a file keeps. All values are taken one after the other, and all angles; ticks may
+// be used again. Everything throws a Refusal when it is not there.
+class StoredKeys {
+ public:
+  // Looks up the accessors that `extension`, the one of `file`, names. `file` outlives this.
+  StoredKeys(const FileParts& file, const JsonField& extension);
+
+  // The components of the next values, `width` (3 or 4) for each key. `count` is the field with the
+  // number of keys.
+  std::vector<float> TakeValues(const JsonField& count, std::size_t width);
+
+  // The same of angles, three for each key, in radians.
+  std::vector<double> TakeAngles(const JsonField& count);
+
+  // `count` ticks, which rise, from the one on that `first` is the index of.
+  std::vector<TimeValue> Ticks(const JsonField& first, std::size_t count) const;
+
+ private:
+  std::string_view ticks_;
+  std::string_view vectors_;
+  std::string_view rotations_;
+  std::string_view angles_;
+};
+
+}  // namespace host::gltf
