@@ -7,6 +7,7 @@ namespace orvane {
 void HtrDocument::Clear() {
   by_name_.clear();
   segments_.clear();
+  expected_ = 0;
   calibration_units_ = kMillimetres;
   rotation_units_ = kDegrees;
   bone_length_axis_ = kAxisY;
@@ -19,17 +20,28 @@ void HtrDocument::Clear() {
 HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
   const std::string& name = segment.name_.Get();
   if (name.find(' ') != std::string::npos) return nullptr;
-  if (FindSegment(name) != nullptr) return nullptr;
+  if (names_changed_) RefreshNames();
   HtrSegment& stored = segments_.emplace_back(segment);
+  if (!by_name_.emplace(stored.name_.Get(), segments_.size() - 1).second) {
+    segments_.pop_back();
+    return nullptr;
+  }
   stored.name_.Watch(names_changed_);
-  by_name_.emplace(stored.name_.Get(), &stored);
   return &stored;
 }
 
 HtrSegment* HtrDocument::FindSegment(std::string_view name) {
   if (names_changed_) RefreshNames();
+  if (IsExpected(name)) return &segments_[expected_++];
   const auto found = by_name_.find(name);
-  return found == by_name_.end() ? nullptr : found->second;
+  if (found == by_name_.end()) return nullptr;
+  expected_ = found->second + 1;
+  return &segments_[found->second];
+}
+
+bool HtrDocument::IsExpected(std::string_view name) const {
+  const bool names_differ = by_name_.size() == segments_.size();
+  return names_differ && expected_ < segments_.size() && segments_[expected_].name_.Get() == name;
 }
 
 HtrSegment* HtrDocument::FindRootSegment() {
@@ -57,7 +69,9 @@ void HtrDocument::ConvertCalibrationUnits(std::uint32_t code) {
 
 void HtrDocument::RefreshNames() {
   by_name_.clear();
-  for (HtrSegment& segment : segments_) by_name_.emplace(segment.name_.Get(), &segment);
+  for (std::size_t i = 0; i < segments_.size(); ++i) {
+    by_name_.emplace(segments_[i].name_.Get(), i);
+  }
   names_changed_ = false;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <deque>
 #include <string>
@@ -75,6 +76,7 @@ class HtrDocument {
 
  private:
   void RefreshNames();
+  bool IsExpected(std::string_view name) const;
 
   std::deque<HtrSegment> segments_;
   std::uint32_t calibration_units_ = 0;
@@ -88,8 +90,12 @@ class HtrDocument {
   bool normalize_bone_scale_ = false;
   double scale_factor_ = 1.0;
 
-  // First segment of each name; the keys are the segments' own names.
-  std::unordered_map<std::string_view, HtrSegment*> by_name_;
+  // The index of the first segment of each name; the keys are the segments' own names.
+  std::unordered_map<std::string_view, std::size_t> by_name_;
+
+  // The index behind the segment found last. Files mostly name segments in their order, and of many
+  // segments the next one is nearer at hand than the table.
+  std::size_t expected_ = 0;
   bool names_changed_ = false;
 };
 

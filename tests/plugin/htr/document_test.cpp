@@ -120,7 +120,19 @@ TEST(HtrDocument, FindsTheFirstOfSegmentsThatWereRenamedAlike) {
   HtrSegment* second = document.AddSegment(HtrSegment("b"));
   second->SetName("c");
   first->SetName("c");
-  EXPECT_EQ(document.FindSegment("c"), first);
+  for (int i = 0; i < 3; ++i) EXPECT_EQ(document.FindSegment("c"), first);
+}
+
+TEST(HtrDocument, FindsSegmentsInAnyOrder) {
+  HtrDocument document;
+  HtrSegment* const segments[] = {document.AddSegment(HtrSegment("a")),
+                                  document.AddSegment(HtrSegment("b")),
+                                  document.AddSegment(HtrSegment("c"))};
+  const char* const names[] = {"a", "b", "c"};
+  for (const std::size_t i : {0, 1, 2, 0, 2, 1, 1, 2, 2, 0}) {
+    EXPECT_EQ(document.FindSegment(names[i]), segments[i]);
+    EXPECT_EQ(document.FindSegment("d"), nullptr);
+  }
 }
 
 TEST(HtrDocument, FindsASegmentThatWasOverwrittenByItsNewName) {
