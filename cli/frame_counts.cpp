@@ -1,6 +1,8 @@
 #include "cli/frame_counts.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <limits>
 
 #include "cli/import_flags.h"
 #include "plugin/text/numbers.h"
@@ -27,6 +29,20 @@ std::string Held(const FrameCounts& counts) {
          FormatInt(counts.most_held);
 }
 
+// `frames_of` tells how many frames a segment holds.
+template <typename FramesOf>
+FrameCounts CountFramesWith(const orvane::HtrDocument& document, const FramesOf& frames_of) {
+  std::size_t fewest = std::numeric_limits<std::size_t>::max();
+  std::size_t most = 0;
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    const std::size_t frames = frames_of(segment);
+    fewest = std::min(fewest, frames);
+    most = std::max(most, frames);
+  }
+  return {document.GetNumFrames(), static_cast<std::int64_t>(fewest),
+          static_cast<std::int64_t>(most)};
+}
+
 }  // namespace
 
 std::string DescribeDifference(const FrameCounts& counts) {
@@ -38,14 +54,15 @@ bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
 }
 
 FrameCounts CountFrames(const orvane::HtrDocument& document) {
-  const auto& segments = document.segments();
-  const auto [fewest, most] =
-      std::minmax_element(segments.begin(), segments.end(),
-                          [](const orvane::HtrSegment& left, const orvane::HtrSegment& right) {
-                            return left.GetNumFrames() < right.GetNumFrames();
-                          });
-  return {document.GetNumFrames(), static_cast<std::int64_t>(fewest->GetNumFrames()),
-          static_cast<std::int64_t>(most->GetNumFrames())};
+  return CountFramesWith(document,
+                         [](const orvane::HtrSegment& segment) { return segment.GetNumFrames(); });
+}
+
+FrameCounts CountFrames(const orvane::HtrDocument& document, const orvane::HtrFrameCounts& held) {
+  return CountFramesWith(document, [&held](const orvane::HtrSegment& segment) {
+    const auto found = held.find(&segment);
+    return found == held.end() ? 0 : found->second;
+  });
 }
 
 std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,

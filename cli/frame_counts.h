@@ -8,6 +8,7 @@
 #include "cli/dialog_user.h"
 #include "cli/failure.h"
 #include "plugin/htr/document.h"
+#include "plugin/htr/reader.h"
 
 // Whether a motion file holds the frames that its header announces. The plug-in sets keys for what
 // is announced, so a header that is wrong can ask for any amount of work.
@@ -22,6 +23,9 @@ struct FrameCounts {
 
 // Requires that `document` has segments.
 FrameCounts CountFrames(const orvane::HtrDocument& document);
+
+// The same of one whose frames are only counted, in `held`.
+FrameCounts CountFrames(const orvane::HtrDocument& document, const orvane::HtrFrameCounts& held);
 
 // Tells that `counts` differ, and how.
 std::string DescribeDifference(const FrameCounts& counts);

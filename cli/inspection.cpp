@@ -37,10 +37,11 @@ std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrD
 
 std::vector<Complaint> InspectHtr(const std::string& file, const std::vector<ControlWish>& wishes) {
   orvane::HtrDocument document;
-  if (!orvane::ReadHtrFile(document, file, true).empty()) return {};
+  orvane::HtrFrameCounts held;
+  if (!orvane::CountHtrFrames(document, file, held).empty()) return {};
   if (document.segments().empty()) return {};
   std::vector<Complaint> complaints;
-  const auto counts = CompareFrameCounts(file, CountFrames(document), wishes);
+  const auto counts = CompareFrameCounts(file, CountFrames(document, held), wishes);
   if (counts) complaints.push_back(*counts);
   const auto left_out = FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);

@@ -52,13 +52,15 @@ std::string_view SectionName(std::string_view line) {
 // the reading.
 class HtrReader {
  public:
+  // With `counts`, frames are counted there and not read.
   HtrReader(HtrDocument& document, std::string_view bytes, bool read_motion,
-            HtrReadObserver* observer)
+            HtrReadObserver* observer, HtrFrameCounts* counts = nullptr)
       : document_(document),
         lines_(bytes),
         most_links_(std::max(kLinksAlwaysMade, bytes.size())),
         read_motion_(read_motion),
-        oddities_(observer, bytes) {}
+        oddities_(observer, bytes),
+        counts_(counts) {}
 
   std::string Read();
 
@@ -98,6 +100,7 @@ class HtrReader {
   const std::size_t most_links_;
   const bool read_motion_;
   HtrOddities oddities_;
+  HtrFrameCounts* const counts_;  // null unless frames are only counted
 
   State state_ = State::kBeforeFirstSection;
   std::vector<HtrCell> parent_names_;  // one for each segment
@@ -107,6 +110,7 @@ class HtrReader {
 
   HtrSegment* segment_ = nullptr;  // of the current motion section; null for an unknown name
   HtrCell motion_section_;         // that section's name
+  std::size_t* frames_counted_ = nullptr;  // of that segment, when frames are only counted
   std::size_t frames_before_section_ = 0;
   std::size_t frames_in_last_section_ = 0;
   bool first_frame_read_ = false;
@@ -217,6 +221,7 @@ void HtrReader::EnterMotion(std::string_view name) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kUnknownSegmentSection, name);
   motion_section_ = oddities_.CellOf(name);
   frames_before_section_ = segment_->GetNumFrames();
+  if (counts_ != nullptr) frames_counted_ = &(*counts_)[segment_];
 }
 
 void HtrReader::LeaveMotion() {
@@ -304,6 +309,10 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
 
 void HtrReader::ReadMotionLine(std::string_view line) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
+  if (frames_counted_ != nullptr) {
+    ++*frames_counted_;
+    return;
+  }
   if (oddities_.Observer() != nullptr) TellFrame(line);
   NumberCells cells(line);
   ReserveFor(cells.TakeInt());
@@ -351,6 +360,16 @@ std::string ReadHtrFile(HtrDocument& document, const std::string& file_name, boo
 std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes, bool read_motion,
                          HtrReadObserver* observer) try {
   return HtrReader(document, bytes, read_motion, observer).Read();
+} catch (const std::bad_alloc&) {
+  document.Clear();
+  return kNotOpened;
+}
+
+std::string CountHtrFrames(HtrDocument& document, const std::string& file_name,
+                           HtrFrameCounts& counts) try {
+  const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".htr"));
+  if (!bytes) return kNotOpened;
+  return HtrReader(document, *bytes, true, nullptr, &counts).Read();
 } catch (const std::bad_alloc&) {
   document.Clear();
   return kNotOpened;

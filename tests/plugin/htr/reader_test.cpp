@@ -506,8 +506,8 @@ class HtrFile : public ::testing::Test {
   ~HtrFile() override { std::filesystem::remove_all(folder_); }
 
   std::string Name(const std::string& file) const { return (folder_ / file).string(); }
-  void Write(const std::string& file) const {
-    std::ofstream(folder_ / file, std::ios::binary) << TwoBones();
+  void Write(const std::string& file, const std::string& bytes = TwoBones()) const {
+    std::ofstream(folder_ / file, std::ios::binary) << bytes;
   }
 
   std::filesystem::path folder_;
@@ -531,6 +531,38 @@ TEST_F(HtrFile, IsReadWithoutMotionWhenAsked) {
   Write("walk.htr");
   EXPECT_EQ(ReadHtrFile(document_, Name("walk"), false), "");
   EXPECT_EQ(document_.FindSegment("Hips")->GetNumFrames(), 0u);
+}
+
+// Sections that come again or belong to nobody, blank lines, comments, what stands behind the end,
+// and files that are refused before and behind the motion.
+TEST_F(HtrFile, CountsTheFramesThatItWouldRead) {
+  const std::string files[] = {
+      TwoBones(),
+      Join(OneBoneAnd({})),
+      Join(OneBoneAnd({"[Hips]", "1 0", "", "# none", "x", "[Nobody]", "1 0", "[Hips]", "1 0",
+                       "[EndOfFile]", "[Hips]", "2 0"})),
+      Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Nobody 0 0"})),
+      Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Hips 0 0"})),
+      TwoBonesWith("NumSegments", "NumSegments 3"),
+  };
+  for (const std::string& bytes : files) {
+    Write("walk.htr", bytes);
+    HtrDocument counted;
+    HtrFrameCounts counts;
+    EXPECT_EQ(CountHtrFrames(counted, Name("walk"), counts),
+              ReadHtrFile(document_, Name("walk"), true));
+    ASSERT_EQ(counted.GetSegmentNames(), document_.GetSegmentNames());
+    for (const HtrSegment& segment : counted.segments()) {
+      EXPECT_EQ(segment.GetNumFrames(), 0U);
+      EXPECT_EQ(counts[&segment], document_.FindSegment(segment.GetName())->GetNumFrames());
+    }
+  }
+}
+
+TEST_F(HtrFile, IsNotCountedWhenItCannotBeOpened) {
+  HtrFrameCounts counts;
+  EXPECT_EQ(CountHtrFrames(document_, Name("missing"), counts), "The file could not be opened");
+  EXPECT_TRUE(counts.empty());
 }
 
 TEST_F(HtrFile, LeavesTheDocumentUntouchedWhenItCannotBeOpened) {
