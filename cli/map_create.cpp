@@ -17,6 +17,7 @@
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/scratch_folder.h"
+#include "plugin/mnm/marker_name_map.h"
 #include "plugin/text/files.h"
 
 namespace cli {
@@ -51,6 +52,16 @@ std::vector<std::string> NamesIn(host::Scene& scene) {
   std::vector<std::string> names;
   for (const host::Node* node : scene.Root().Children()) names.push_back(node->Name());
   return names;
+}
+
+// The plug-in does not notice that a file was cut short.
+void RequirePicks(const std::string& made, const std::string& bytes, const PicksTable& picks,
+                  const std::string& output) {
+  orvane::MarkerNameMap mapping;
+  const bool is_whole = bytes.ends_with('\n') && mapping.Load(made);
+  if (is_whole && mapping.Count() == picks.Count() && picks.AreIn(mapping)) return;
+  throw Failure{ExitStatus::kInputOutput,
+                {{output, "The plug-in could not write all of the file", "Is the disk full?"}}};
 }
 
 void Deliver(const std::string& path, platform::OutputFile& file, const std::string& bytes) {
@@ -89,6 +100,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   StopIfInterrupted();
   const std::optional<std::string> bytes = orvane::ReadFileBytes(made);
   if (!bytes) throw Refused(arguments.output, session);
+  RequirePicks(made, *bytes, picks, arguments.output);
   Deliver(arguments.output, output, *bytes);
   if (!arguments.quiet) {
     std::cout << Printable(arguments.output) << ": " << CountOf(picks.Count(), "marker")

@@ -1,5 +1,6 @@
 #include "cli/picks_table.h"
 
+#include <algorithm>
 #include <set>
 #include <string_view>
 
@@ -11,6 +12,9 @@
 
 namespace cli {
 namespace {
+
+// What fits into one line of a mapping, whose tabs and break count, too; a bit less.
+constexpr std::size_t kMostLetters = 1000;
 
 std::string LineName(std::size_t number) {
   return "line " + orvane::FormatInt(static_cast<std::int64_t>(number));
@@ -30,6 +34,13 @@ PicksTable::PicksTable(const std::string& path, const std::vector<std::string>& 
 std::optional<std::string> PicksTable::PickFor(const std::string& standard_name) const {
   const auto pick = picks_.find(standard_name);
   return pick == picks_.end() ? std::nullopt : std::optional<std::string>(pick->second);
+}
+
+bool PicksTable::AreIn(const orvane::MarkerNameMap& mapping) const {
+  return std::all_of(picks_.begin(), picks_.end(), [&mapping](const auto& pick) {
+    std::string name = pick.second;
+    return mapping.Lookup(name) && name == pick.first;
+  });
 }
 
 void PicksTable::Read(const std::string& path) {
@@ -55,8 +66,11 @@ void PicksTable::ReadLine(std::string_view line, std::size_t number) {
     return Complain(place + standard + " is there already, on " + LineName(lines_[standard]));
   }
   if (marker.empty()) return Complain(place + standard + " has no marker; - skips it");
-  if (marker.find_first_of(" \t") != std::string::npos) {
+  if (marker.find_first_of(" \t\v\f\r") != std::string::npos) {
     return Complain(place + "a name with blanks cannot be mapped: " + marker);
+  }
+  if (standard.size() + marker.size() > kMostLetters) {
+    return Complain(place + "a name of more than a thousand letters cannot be mapped");
   }
   if (marker != "-") picks_[standard] = marker;
 }

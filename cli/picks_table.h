@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/failure.h"
+#include "plugin/mnm/marker_name_map.h"
 #include "plugin/mnm/standard_markers.h"
 
 // The table of picks for `orvane map create`: which marker plays the role of which standard marker.
@@ -28,6 +29,9 @@ class PicksTable {
   std::optional<std::string> PickFor(const std::string& standard_name) const;
 
   std::size_t Count() const { return picks_.size(); }
+
+  // Whether `mapping` has an entry for each pick.
+  bool AreIn(const orvane::MarkerNameMap& mapping) const;
 
  private:
   void Read(const std::string& path);
