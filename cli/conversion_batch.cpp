@@ -35,7 +35,8 @@ class BatchConversion {
       return std::move(result_);
     }
     platform::HoldInterrupts();  // the folder has to be put away
-    for (Conversion& conversion : result_.conversions) JudgeInput(conversion);
+    const MarkerNaming naming(order_.mapping);
+    for (Conversion& conversion : result_.conversions) JudgeInput(conversion, naming);
     while (!Waiting().empty() && !platform::Interrupted()) Convert(Waiting());
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
     return std::move(result_);

@@ -234,8 +234,10 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
       ->type_name("DIR")
       ->excludes(output);
   verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
+  // What is kept is made by a batch, which names its outputs after its inputs.
   verb.add_flag("--keep-broken", arguments.order.keep_broken,
-                "Deliver what the plug-in makes of files that its reader refuses");
+                "Deliver what the plug-in makes of files that its reader refuses")
+      ->excludes(output);
   verb.add_flag("--dry-run", arguments.dry_run,
                 "Show what would become of the files and their markers; write nothing");
 }

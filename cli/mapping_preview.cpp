@@ -1,10 +1,10 @@
 #include "cli/mapping_preview.h"
 
 #include "cli/json_writer.h"
+#include "cli/marker_naming.h"
 #include "cli/messages.h"
 #include "cli/trc_outline.h"
 #include "cli/trc_worth.h"
-#include "plugin/mnm/marker_name_map.h"
 #include "plugin/trc/document.h"
 
 namespace cli {
@@ -22,15 +22,11 @@ bool IsReadable(const Conversion& conversion) {
 
 class Previewer {
  public:
-  explicit Previewer(const std::string& mapping) : use_mapping_(!mapping.empty()) {
-    if (use_mapping_ && !mapping_.Load(mapping)) {
-      throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
-    }
-  }
+  explicit Previewer(const std::string& mapping) : naming_(mapping) {}
 
   ConversionPreview Preview(Conversion& conversion) const {
     ConversionPreview preview{&conversion, {}};
-    if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion);
+    if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion, naming_);
     if (!IsReadable(conversion)) return preview;
     const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
     orvane::TRCDocument document;
@@ -41,20 +37,13 @@ class Previewer {
       return preview;
     }
     for (const orvane::TRCMarker& marker : document.markers()) {
-      preview.markers.push_back(FateOf(marker.Name()));
+      preview.markers.push_back({marker.Name(), naming_.NameFor(marker.Name())});
     }
     return preview;
   }
 
  private:
-  MarkerFate FateOf(const std::string& name) const {
-    std::string written_as = name;
-    if (use_mapping_ && !mapping_.Lookup(written_as)) return {name, std::nullopt};
-    return {name, written_as};
-  }
-
-  orvane::MarkerNameMap mapping_;
-  const bool use_mapping_;
+  MarkerNaming naming_;
 };
 
 void PrintMarker(const MarkerFate& marker, std::ostream& out) {

@@ -18,7 +18,7 @@ void RequireInput(Conversion& conversion) {
   conversion.errors.push_back({conversion.input, reason, ""});
 }
 
-void JudgeInput(Conversion& conversion) {
+void JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
   RequireInput(conversion);
   const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
   if (!outline) return;
@@ -31,11 +31,18 @@ void JudgeInput(Conversion& conversion) {
     conversion.status = ConversionStatus::kRefused;
     conversion.errors.push_back(
         {conversion.input, DescribeDifference(counts), "Is \"NumFrames\" right?"});
-  } else if (message.empty() && counts.announced != held) {
+    return;
+  }
+  if (!message.empty()) return;
+  if (counts.announced != held) {
     const bool are_missing = counts.announced > held;
     conversion.warnings.push_back({conversion.input, DescribeDifference(counts),
                                    are_missing ? "Missing frames are written as dropouts."
                                                : "Only the announced frames are written."});
+  }
+  for (const std::string& clash : naming.DescribeClashes(document)) {
+    conversion.warnings.push_back(
+        {conversion.input, clash, "Who reads the output cannot tell them apart."});
   }
 }
 

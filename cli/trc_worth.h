@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/conversion.h"
+#include "cli/marker_naming.h"
 
 // Whether a marker file is worth converting: the plug-in writes a block for every frame that the
 // header announces, so a header that is wrong can ask for any amount of work.
@@ -12,8 +13,8 @@ void RequireInput(Conversion& conversion);
 
 // Looks at the input of `conversion` and notes in it how many markers it has, as dropped ones. When
 // frames are missing or left out it gets a warning, and when that is out of proportion it is
-// refused. A file that cannot be read is settled; one that the reader refuses is left to
-// the plug-in, which tells that.
-void JudgeInput(Conversion& conversion);
+// refused. It gets a warning too when `naming` makes one name of several markers. A file that
+// cannot be read is settled; one that the reader refuses is left to the plug-in, which tells that.
+void JudgeInput(Conversion& conversion, const MarkerNaming& naming);
 
 }  // namespace cli

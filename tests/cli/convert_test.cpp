@@ -83,6 +83,32 @@ TEST_F(ConvertTest, RenamesAndDropsMarkersByTheMapping) {
   EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n"));
 }
 
+TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
+  const auto take = [](const std::vector<std::string>& markers) {
+    return TrcText{.markers = markers, .frames = {TrcText::Frame(markers.size(), "1\t2\t3")}}
+        .Text();
+  };
+  Write("walk.trc", take({"Head1", "Toe", "Head2"}));
+  Write("map.mnm", "HEAD\tHead1\t\nLTOE\tToe\t\nHEAD\tHead2\t\n");
+  const std::string warning =
+      "orvane: walk.trc: 2 markers are written as HEAD: Head1, Head2\n"
+      "  Who reads the output cannot tell them apart.\n";
+  ProgramResult result = Convert({"walk.trc", "--mapping", "map.mnm", "--dry-run"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error, warning);
+  result = Convert({"walk.trc", "--mapping", "map.mnm"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error, warning);
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Order\nHEAD LTOE HEAD \n"));
+  EXPECT_EQ(Convert({"walk.trc", "--force"}).error, "");
+
+  Write("walk.trc", take({"a", "Toe", "b", "c", "Head", "d", "e"}));
+  Write("map.mnm", "C7 a\nC7 b\nC7 c\nLTOE Toe\nC7 d\nT10 Head\nC7 e\n");
+  result = Convert({"walk.trc", "--mapping", "map.mnm", "--json", "--force"});
+  EXPECT_EQ(json::parse(result.output)["files"][0]["warnings"],
+            json::array({"5 markers are written as C7: a, b, c, ..."}));
+}
+
 TEST_F(ConvertTest, AddsTheOffsetInEitherSpace) {
   Write("walk.trc", Take());
   EXPECT_EQ(Convert({"walk.trc", "--offset", "10,20,40"}).status, 0);
@@ -302,6 +328,7 @@ TEST_F(ConvertTest, RefusesWrongArguments) {
       {},
       {"walk.trc", "run.trc", "-o", "step.bvk"},
       {"walk.trc", "-o", "step.bvk", "--output-dir", "out"},
+      {"walk.trc", "-o", "step.bvk", "--keep-broken"},
       {"walk.trc", "--offset", "1,2"},
       {"walk.trc", "--offset", "1,2,three"},
       {"walk.trc", "--offset", "1,2,3,4"},

@@ -1,0 +1,64 @@
+#include "cli/marker_naming.h"
+
+#include <cstddef>
+#include <unordered_map>
+
+#include "cli/failure.h"
+#include "plugin/text/numbers.h"
+
+namespace cli {
+namespace {
+
+constexpr std::size_t kMostListed = 3;
+
+// The markers that are written under one name.
+struct Namesakes {
+  std::string name;
+  std::size_t count = 0;
+  std::string markers{};  // the first of them
+
+  void Add(const std::string& marker) {
+    ++count;
+    if (count > kMostListed + 1) return;
+    if (count > 1) markers += ", ";
+    markers += count > kMostListed ? "..." : marker;
+  }
+
+  std::string Describe() const {
+    return orvane::FormatInt(static_cast<std::int64_t>(count)) + " markers are written as " + name +
+           ": " + markers;
+  }
+};
+
+}  // namespace
+
+MarkerNaming::MarkerNaming(const std::string& mapping) : use_mapping_(!mapping.empty()) {
+  if (use_mapping_ && !mapping_.Load(mapping)) {
+    throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
+  }
+}
+
+std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) const {
+  std::string name = marker;
+  if (use_mapping_ && !mapping_.Lookup(name)) return std::nullopt;
+  return name;
+}
+
+std::vector<std::string> MarkerNaming::DescribeClashes(const orvane::TRCDocument& document) const {
+  std::vector<Namesakes> all;
+  std::unordered_map<std::string, std::size_t> places;
+  for (const orvane::TRCMarker& marker : document.markers()) {
+    const std::optional<std::string> name = NameFor(marker.Name());
+    if (!name) continue;
+    const auto [place, is_new] = places.emplace(*name, all.size());
+    if (is_new) all.push_back({*name});
+    all[place->second].Add(marker.Name());
+  }
+  std::vector<std::string> texts;
+  for (const Namesakes& namesakes : all) {
+    if (namesakes.count > 1) texts.push_back(namesakes.Describe());
+  }
+  return texts;
+}
+
+}  // namespace cli
