@@ -170,6 +170,8 @@ class Converting {
 
   // A batch that was not begun, or whose process has died.
   void Abandon(const Batch& batch) {
+    // A new folder puts away what the process has left.
+    const platform::ScratchFolder attempt(FolderOf(conversions_[batch.front()].output));
     for (const std::size_t index : batch) {
       Conversion& conversion = conversions_[index];
       conversion.status = ConversionStatus::kInterrupted;

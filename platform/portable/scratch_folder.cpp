@@ -48,8 +48,6 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
     error_ = error.message();
     return;
   }
-  // A limit on the size of files is to be an error like a full disk, and not to end the process.
-  std::signal(SIGXFSZ, SIG_IGN);
   RemoveAbandonedFolders(folder);
   // Who writes here meets a limit on the size of files as an error, and is not ended by it.
   std::signal(SIGXFSZ, SIG_IGN);
