@@ -2,7 +2,9 @@
 
 #include <filesystem>
 
+#include "host/gltf/writer.h"
 #include "tests/cli/orvane_test.h"
+#include "tests/support/bone_nodes.h"
 
 namespace {
 
@@ -228,6 +230,24 @@ TEST_F(ExportTest, ABoneWhoseNameMeansSomethingInTheFileIsRefused) {
                 "orvane: out.htr: The file would not read back: a name cannot stand in it\n"
                 "  A tab, #, ] or a [ at its start in the name of a bone, and names that the file "
                 "has a use for, such as GLOBAL and EndOfFile, mean something else there.\n");
+}
+
+// What no import makes: scenes with such names.
+TEST_F(ExportTest, NoNameGoesThroughThatTheFileReadsOtherwise) {
+  const std::vector<std::string> names = {"Arm\tx", "Other\tArm", "#Arm",   "Arm#2",    "[Arm",
+                                          "Arm]2",  "GLOBAL",     "Header", "EndOfFile"};
+  for (const std::string& name : names) {
+    SCOPED_TRACE(name);
+    host::Scene scene;
+    host::Node& hips = test::AddBone(scene, "Hips");
+    host::Node& arm = test::AddBone(scene, name, &hips);
+    test::AddBone(scene, "Hand", &arm);
+    Write("scene.glb", host::gltf::WriteScene(scene, {}).bytes);
+    const ProgramResult result = Export({"--range", "0:2"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error, StartsWith("orvane: out.htr: The file would not read back: "));
+    EXPECT_THAT(Names(), ElementsAre("scene.glb"));
+  }
 }
 
 // --- Numbers ---

@@ -137,6 +137,23 @@ TEST_F(MotionComparisonTest, NamesTheSegmentThatIsBeyondFirst) {
   EXPECT_EQ(result.position_pair, 0U);
 }
 
+TEST_F(MotionComparisonTest, OfEqualDifferencesTheFirstFrameCounts) {
+  for (HtrDocument* document : {&a_, &b_}) {
+    const double moved = document == &a_ ? 0 : 3;
+    HtrSegment* hips = Add(*document, "Hips", nullptr);
+    HtrSegment* prop = Add(*document, "Prop", nullptr);
+    AddFrame(hips, Vector3(0, 0, 0));
+    AddFrame(hips, Vector3(moved, 0, 0));
+    AddFrame(prop, Vector3(moved, 0, 0));
+    AddFrame(prop, Vector3(0, 0, 0));
+  }
+  const MotionComparison comparison = Compare();
+  EXPECT_EQ(comparison.overall.position_mm.largest_frame, 1);
+  EXPECT_EQ(
+      structure_.hierarchy_a[structure_.pairs[comparison.position_pair].in_a].segment->GetName(),
+      "Prop");
+}
+
 TEST_F(MotionComparisonTest, AnotherSplitOfBaseAndFrameIsNoDifference) {
   std::mt19937_64 random(20240802);
   std::uniform_real_distribution<double> angle(-3.0, 3.0);
