@@ -34,6 +34,13 @@ constexpr Note kNotes[] = {
      "Shorter marker names, or fewer markers in one file, keep it whole."},
     {TRCOddity::kUnknownPathType, "The path type is neither 3 nor 4, so the first frame is 1", ""},
     {TRCOddity::kRateNotPositive, "A rate is not positive", "--frame-rate keep goes without it."},
+    {TRCOddity::kRateTruncated, "A rate loses its fraction",
+     "The plug-in plays whole frames per second; --frame-rate keep goes without the rate."},
+    {TRCOddity::kMissingNumber, "A value is missing and taken as 0",
+     "A dropout has nothing at all, not even a blank, in its first column."},
+    {TRCOddity::kUnreadableNumber, "A value is not one number; what it starts with is taken, or 0",
+     ""},
+    {TRCOddity::kSampleWithoutX, "A sample that does not begin with X is a dropout", ""},
     {TRCOddity::kUnknownUnits, "The unit is unknown and taken as millimetres",
      "It may be mm, cm, m, in, ft or yd, with nothing but a tab behind it."},
     {TRCOddity::kUnitsEndTheLine, "The unit ends its line and is taken as millimetres",
@@ -53,7 +60,7 @@ constexpr Note kNotes[] = {
      "The sixth line of the file, at the latest, is the first frame."},
 };
 
-// Counts the oddities of the header and the columns, and keeps the first of each kind.
+// Counts the oddities, and keeps the first of each kind.
 class Listener final : public orvane::TRCReadObserver {
  public:
   void OnOddity(TRCOddity oddity, orvane::TRCPlace place, std::string_view text) override {
@@ -61,7 +68,6 @@ class Listener final : public orvane::TRCReadObserver {
     if (is_new) found->second.text = text.substr(0, kLongestText);
     ++found->second.count;
   }
-  bool WatchesFrames() const override { return false; }
 
   std::vector<Complaint> Complaints(const std::string& file) const {
     std::vector<Complaint> complaints;

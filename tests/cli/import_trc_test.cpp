@@ -162,6 +162,18 @@ INSTANTIATE_TEST_SUITE_P(
                 "The unit is unknown and taken as millimetres: \"Mm\" (line 3, column 5)"},
         Warning{"RateOf0", "120\t60\t", "120\t0\t",
                 "A rate is not positive: \"0\" (line 3, column 2)"},
+        Warning{"FractionOfARate", "120\t60\t", "119.88\t60\t",
+                "A rate loses its fraction: \"119.88\" (line 3, column 1)"},
+        Warning{"NoStartFrame", "mm\t120\t1\t3", "mm",
+                "A value is missing and taken as 0 (line 3, column 7)"},
+        Warning{"NoNumber", "2000", "NaN",
+                "A value is not one number; what it starts with is taken, or 0: \"NaN\" (line 7, "
+                "column 4)"},
+        Warning{"BlankValue", "1000\t2000", " \t2000",
+                "A value is missing and taken as 0 (line 7, column 3)"},
+        Warning{"NoX", "1000\t2000", "\t2000",
+                "A sample that does not begin with X is a dropout: \"2000\" (line 7, column 4, "
+                "the first of 2)"},
         Warning{"LastNameLost", "RFHD\t\t\t\n", "RFHD\n",
                 "The last name has no tab behind it and makes no marker: \"RFHD\" (line 4, column "
                 "6)"},
