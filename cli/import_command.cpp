@@ -12,6 +12,7 @@
 #include "cli/input.h"
 #include "cli/inspection.h"
 #include "cli/interruption.h"
+#include "cli/marker_targets.h"
 #include "cli/plugin_session.h"
 #include "cli/scene_input.h"
 #include "cli/scene_output.h"
@@ -86,6 +87,9 @@ ExitStatus Import(const ImportArguments& arguments) {
   PrepareScene(arguments, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
   Append(Inspect(input, kind, arguments.wishes), complaints);
+  if (kind == FileKind::kTrc) {
+    Append(InspectMarkerTargets(input, arguments.wishes, session.scene()), complaints);
+  }
   StopIfInterrupted();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
   // Without a word from the user, the host goes by the name.

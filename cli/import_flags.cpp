@@ -106,6 +106,17 @@ bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
                      [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
 }
 
+bool WishesToApply(const std::vector<ControlWish>& wishes) {
+  return std::any_of(wishes.begin(), wishes.end(),
+                     [](const ControlWish& wish) { return wish.control == kApply; });
+}
+
+bool WishesSelectedOnly(const std::vector<ControlWish>& wishes) {
+  return std::any_of(wishes.begin(), wishes.end(), [](const ControlWish& wish) {
+    return wish.control == kSelectedOnly && wish.checked;
+  });
+}
+
 std::optional<std::int64_t> FramesInRange(const std::vector<ControlWish>& wishes) {
   const std::string* from = TypedText(wishes, kFrom);
   const std::string* to = TypedText(wishes, kTo);
