@@ -45,7 +45,8 @@ constexpr Advice kAdvice[] = {
     {"Base Position, Animation, or both", "--apply needs --animation or --base-position."},
     {"select the root of a skeleton",
      "--into SCENE --select NAME selects in a scene of yours; --create builds a new skeleton."},
-    {"is not finite", "A number of the file, or that of --scale or --segment-size, is too large."},
+    {"is not finite",
+     "A number of the file, or that of --scale, --size or --segment-size, is too large."},
     {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
 };
 

@@ -207,8 +207,8 @@ TEST_F(BadInputTest, ANumberTooLargeIsShownAsNullAndCannotBeSaved) {
   EXPECT_THAT(import.error,
               testing::StartsWith("orvane: walk.htr: Node \"Hips\" cannot be saved: "));
   EXPECT_THAT(import.error,
-              testing::EndsWith("\n  A number of the file, or that of --scale or --segment-size, "
-                                "is too large.\n"));
+              testing::EndsWith("\n  A number of the file, or that of --scale, --size or "
+                                "--segment-size, is too large.\n"));
   EXPECT_THAT(Names(), ElementsAre("walk.htr"));
 }
 

@@ -264,6 +264,22 @@ TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {
   EXPECT_FALSE(Exists("walk.glb"));
 }
 
+TEST_F(ImportTrcTest, ASizeThatIsTooLargeIsNamed) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--size", "1e40"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, HasSubstr("\n  A number of the file, or that of --scale, --size or "
+                                      "--segment-size, is too large.\n"));
+}
+
+TEST_F(ImportTrcTest, TellsWhereKeysAreThatTheRangeLeavesOut) {
+  TrcText text = TwoMarkers();
+  EXPECT_THAT(ImportText(text.Text()).output, HasSubstr("  Keys    6\n"));
+  text.first_frame = 228;
+  EXPECT_THAT(ImportText(text.Text(), {"--force"}).output,
+              HasSubstr("  Keys    6, in frames 228 to 230\n"
+                        "  Frames  1 to 4 at 120 frames per second\n"));
+}
+
 TEST_F(ImportTrcTest, OddRatesDoNotStopIt) {
   for (const char* rate : {"0", "-5", "59.94", "abc", "99999999999"}) {
     TrcText text = TwoMarkers();
