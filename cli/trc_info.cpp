@@ -5,8 +5,8 @@
 namespace cli {
 namespace {
 
-constexpr std::size_t kDataRateColumn = 1;
-constexpr std::size_t kCameraRateColumn = 2;
+constexpr std::size_t kDataRateField = 1;
+constexpr std::size_t kCameraRateField = 2;
 
 // Keeps rates that lost something in reading.
 class RateListener final : public orvane::TRCReadObserver {
@@ -15,8 +15,8 @@ class RateListener final : public orvane::TRCReadObserver {
 
   void OnOddity(orvane::TRCOddity oddity, orvane::TRCPlace place, std::string_view text) override {
     if (oddity != orvane::TRCOddity::kRateTruncated) return;
-    if (place.column == kDataRateColumn) report_.data_rate_text = text;
-    if (place.column == kCameraRateColumn) report_.camera_rate_text = text;
+    if (place.field == kDataRateField) report_.data_rate_text = text;
+    if (place.field == kCameraRateField) report_.camera_rate_text = text;
   }
   bool WatchesFrames() const override { return false; }
 

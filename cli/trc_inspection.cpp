@@ -91,7 +91,7 @@ class Listener final : public orvane::TRCReadObserver {
   static std::string Details(const Heard& heard) {
     std::string details = heard.text.empty() ? "" : ": \"" + heard.text + "\"";
     details += " (line " + FormatInt(static_cast<std::int64_t>(heard.place.line));
-    if (heard.place.column > 0) {
+    if (heard.place.field > 0) {
       details += ", column " + FormatInt(static_cast<std::int64_t>(heard.place.column));
     }
     if (heard.count > 1) details += ", the first of " + FormatInt(heard.count);

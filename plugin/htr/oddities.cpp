@@ -1,27 +1,11 @@
 #include "plugin/htr/oddities.h"
 
-#include <cmath>
-#include <cstdint>
-#include <limits>
-
-#include "plugin/text/numbers.h"
 #include "plugin/text/tokens.h"
 
 namespace orvane {
-namespace {
-
-constexpr std::string_view kByteOrderMarks[] = {"\xEF\xBB\xBF", "\xFF\xFE", "\xFE\xFF"};
-
-bool FitsInt(double value) {
-  return value >= std::numeric_limits<std::int32_t>::min() &&
-         value <= std::numeric_limits<std::int32_t>::max();
-}
-
-}  // namespace
-
 HtrCell HtrOddities::CellOf(std::string_view text) const {
   if (observer_ == nullptr) return {text};
-  return {text, line_, column_ + static_cast<std::size_t>(text.data() - text_.data())};
+  return {text, line_.Number(), line_.ColumnOf(text)};
 }
 
 void HtrOddities::ReportWords(HtrOddity oddity, std::string_view text) const {
@@ -30,21 +14,27 @@ void HtrOddities::ReportWords(HtrOddity oddity, std::string_view text) const {
 }
 
 void HtrOddities::CheckNumber(std::string_view cell, std::string_view field) const {
-  if (observer_ == nullptr) return;
-  if (cell.empty()) return Report(HtrOddity::kMissingNumber, cell, field);
-  const char* const end = cell.data() + cell.size();
-  const LeadingDouble number = ReadDouble(cell.data(), end);
-  if (number.end != end) return Report(HtrOddity::kUnreadableNumber, cell, field);
-  ReportIf(!std::isfinite(number.value), HtrOddity::kNumberOutOfBounds, cell, field);
+  if (observer_ != nullptr) ReportFault(FaultOfNumber(cell), cell, field);
 }
 
 void HtrOddities::CheckWholeNumber(std::string_view cell, std::string_view field) const {
-  if (observer_ == nullptr) return;
-  const char* const end = cell.data() + cell.size();
-  const LeadingDouble number = ReadDouble(cell.data(), end);
-  if (number.end != end || cell.empty()) return CheckNumber(cell, field);
-  if (!FitsInt(number.value)) return Report(HtrOddity::kNumberOutOfBounds, cell, field);
-  ReportIf(number.value != ParseInt(cell), HtrOddity::kCutNumber, cell, field);
+  if (observer_ != nullptr) ReportFault(FaultOfWholeNumber(cell), cell, field);
+}
+
+void HtrOddities::ReportFault(NumberFault fault, std::string_view cell,
+                              std::string_view field) const {
+  switch (fault) {
+    case NumberFault::kNone:
+      return;
+    case NumberFault::kMissing:
+      return Report(HtrOddity::kMissingNumber, cell, field);
+    case NumberFault::kUnreadable:
+      return Report(HtrOddity::kUnreadableNumber, cell, field);
+    case NumberFault::kOutOfBounds:
+      return Report(HtrOddity::kNumberOutOfBounds, cell, field);
+    case NumberFault::kCut:
+      return Report(HtrOddity::kCutNumber, cell, field);
+  }
 }
 
 void HtrOddities::CheckNumbers(std::string_view line,
@@ -54,37 +44,28 @@ void HtrOddities::CheckNumbers(std::string_view line,
 }
 
 void HtrOddities::LookAtLine(const Line& line) {
-  const bool continues = line.number == line_;
-  column_ = continues ? column_ + kLongestPiece : 1;
-  line_ = line.number;
-  text_ = line.text;
-  if (!continues) long_line_told_ = false;
-  if (continues && !long_line_told_ && !SkipSeparators(text_).empty()) {
+  line_.Set(line);
+  if (!line_.Continues()) long_line_told_ = false;
+  if (line_.Continues() && !long_line_told_ && !SkipSeparators(line.text).empty()) {
     long_line_told_ = true;
-    Report(HtrOddity::kLongLine, text_);
+    Report(HtrOddity::kLongLine, line.text);
   }
-  LookAtBytes(line);
+  LookAtBytes();
 }
 
-void HtrOddities::LookAtBytes(const Line& line) const {
-  if (line_ == 1 && column_ == 1) {
-    for (const std::string_view mark : kByteOrderMarks) {
-      ReportIf(text_.starts_with(mark), HtrOddity::kByteOrderMark, text_.substr(0, mark.size()));
-    }
-  }
-  // The reader gives out a text that ends where a NUL stands.
-  const char* const end = text_.data() + text_.size();
-  const bool hidden = !line.ends_with_break && end != end_of_bytes_ && *end == '\0';
-  ReportIf(hidden, HtrOddity::kHiddenByNul, text_.substr(text_.size()));
-  const std::size_t comment = text_.find('#');
-  const std::string_view data = text_.substr(0, comment);
+void HtrOddities::LookAtBytes() const {
+  const std::string_view mark = line_.ByteOrderMark();
+  ReportIf(!mark.empty(), HtrOddity::kByteOrderMark, mark);
+  ReportIf(line_.IsCutByNul(), HtrOddity::kHiddenByNul, EndOfLine());
+  const std::string_view text = line_.Text();
+  const std::string_view data = text.substr(0, text.find('#'));
   const std::size_t carriage_return = data.find('\r');
   if (carriage_return != std::string_view::npos) {
     Report(HtrOddity::kCarriageReturn, data.substr(carriage_return));
   }
-  const bool in_word = !data.empty() && data.size() != text_.size() && data.back() != ']' &&
+  const bool in_word = !data.empty() && data.size() != text.size() && data.back() != ']' &&
                        !IsSeparator(data.back());
-  ReportIf(in_word, HtrOddity::kCommentInWord, text_.substr(data.size()));
+  ReportIf(in_word, HtrOddity::kCommentInWord, text.substr(data.size()));
 }
 
 }  // namespace orvane

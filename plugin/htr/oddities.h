@@ -6,6 +6,8 @@
 
 #include "plugin/htr/read_observer.h"
 #include "plugin/text/lines.h"
+#include "plugin/text/number_faults.h"
+#include "plugin/text/watched_line.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.
 namespace orvane {
@@ -14,7 +16,7 @@ class HtrOddities {
  public:
   // `bytes` is what is read.
   HtrOddities(HtrReadObserver* observer, std::string_view bytes)
-      : observer_(observer), end_of_bytes_(bytes.data() + bytes.size()) {}
+      : observer_(observer), line_(bytes) {}
 
   // Null when nobody watches.
   HtrReadObserver* Observer() const { return observer_; }
@@ -43,7 +45,7 @@ class HtrOddities {
   }
 
   // The end of the current line.
-  std::string_view EndOfLine() const { return text_.substr(text_.size()); }
+  std::string_view EndOfLine() const { return line_.Text().substr(line_.Text().size()); }
 
   // Reports what `text` holds besides separators, if anything.
   void ReportWords(HtrOddity oddity, std::string_view text) const;
@@ -57,13 +59,11 @@ class HtrOddities {
 
  private:
   void LookAtLine(const Line& line);
-  void LookAtBytes(const Line& line) const;
+  void LookAtBytes() const;
+  void ReportFault(NumberFault fault, std::string_view cell, std::string_view field) const;
 
   HtrReadObserver* observer_;
-  const char* end_of_bytes_;
-  std::string_view text_;   // the current piece of the line
-  std::size_t line_ = 0;    // counted from 1
-  std::size_t column_ = 1;  // of the piece, counted from 1
+  WatchedLine line_;
   bool long_line_told_ = false;
 };
 

@@ -16,10 +16,9 @@ bool IsBlank(std::string_view field) { return SkipSeparators(field).empty(); }
 }  // namespace
 
 void TRCDataLineInspector::Inspect(const Line& line, std::size_t marker_count) {
-  if (line.text.empty()) return oddities_.Report(TRCOddity::kBlankFrame, 0, line.text);
+  if (line.text.empty()) return oddities_.ReportLine(TRCOddity::kBlankFrame, line.text);
   TRCFields fields(line);
-  const std::string_view frame_number = fields.Take();
-  InspectFrameNumber(frame_number);
+  InspectFrameNumber(fields.Take());
   fields.Drop();  // the time
   for (std::size_t marker = 0; marker < marker_count && !fields.AtEnd(); ++marker) {
     InspectSample(fields);
@@ -29,11 +28,12 @@ void TRCDataLineInspector::Inspect(const Line& line, std::size_t marker_count) {
   const std::size_t columns =
       1 + static_cast<std::size_t>(std::count(line.text.begin(), line.text.end(), '\t'));
   const bool is_short = columns < kColumnsBeforeMarkers + kColumnsPerMarker * marker_count;
-  oddities_.ReportIf(is_short, TRCOddity::kShortFrame, columns + 1, frame_number);
+  oddities_.ReportIf(is_short, TRCOddity::kShortFrame, columns + 1,
+                     line.text.substr(line.text.size()));
 }
 
 void TRCDataLineInspector::InspectFrameNumber(std::string_view field) {
-  oddities_.CheckNumber(1, field);
+  oddities_.CheckWholeNumber(1, field);
   const std::int64_t number = ParseInt(field);
   const bool skips = previous_number_ && number != *previous_number_ + 1;
   oddities_.ReportIf(skips, TRCOddity::kFrameNumberSkips, 1, field);
@@ -43,12 +43,12 @@ void TRCDataLineInspector::InspectFrameNumber(std::string_view field) {
 void TRCDataLineInspector::InspectSample(TRCFields& fields) {
   const bool is_dropout = fields.Get().empty();
   for (std::size_t coordinate = 0; coordinate < kColumnsPerMarker; ++coordinate) {
-    const std::size_t column = fields.Column();
+    const std::size_t number = fields.Number();
     const std::string_view field = fields.Take();
     if (!is_dropout) {
-      oddities_.CheckNumber(column, field);
+      oddities_.CheckNumber(number, field);
     } else {
-      oddities_.ReportIf(!IsBlank(field), TRCOddity::kSampleWithoutX, column, field);
+      oddities_.ReportIf(!IsBlank(field), TRCOddity::kSampleWithoutX, number, field);
     }
   }
 }
@@ -56,7 +56,7 @@ void TRCDataLineInspector::InspectSample(TRCFields& fields) {
 void TRCDataLineInspector::InspectRest(TRCFields& fields) {
   for (; !fields.AtEnd(); fields.Drop()) {
     if (IsBlank(fields.Get())) continue;
-    return oddities_.Report(TRCOddity::kSurplusValue, fields.Column(), fields.Get());
+    return oddities_.Report(TRCOddity::kSurplusValue, fields.Number(), fields.Get());
   }
 }
 

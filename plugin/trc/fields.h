@@ -22,7 +22,7 @@ class TRCFields {
     const bool is_last = tab == std::string_view::npos;
     has_break_ = has_break_ && !is_last;
     rest_.remove_prefix(is_last ? rest_.size() : tab + 1);
-    ++column_;
+    ++number_;
   }
 
   void Drop(int count) {
@@ -43,12 +43,12 @@ class TRCFields {
   // Whether nothing is left, a line break aside.
   bool AtEnd() const { return rest_.empty(); }
   // The number of the current field, counted from 1.
-  std::size_t Column() const { return column_; }
+  std::size_t Number() const { return number_; }
 
  private:
   std::string_view rest_;
   bool has_break_;
-  std::size_t column_ = 1;
+  std::size_t number_ = 1;
 };
 
 }  // namespace orvane

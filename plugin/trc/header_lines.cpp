@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "plugin/text/numbers.h"
+#include "plugin/text/tokens.h"
 #include "plugin/trc/fields.h"
 #include "plugin/units/units.h"
 
@@ -15,41 +16,43 @@ constexpr std::string_view kCoordinates = "(X/Y/Z)";
 constexpr std::string_view kUnnamed = "Unnamed";
 constexpr int kColumnsPerMarker = 3;
 
-std::int32_t TakeInt(TRCFields& fields, const TRCOddities& oddities) {
-  const std::size_t column = fields.Column();
+std::int32_t TakeInt(TRCFields& fields, TRCHeaderValue value, const TRCOddities& oddities) {
+  const std::size_t number = fields.Number();
   const std::string_view field = fields.Take();
-  oddities.CheckNumber(column, field);
+  oddities.TellHeaderValue(value, number, field);
+  oddities.CheckWholeNumber(number, field);
   return ParseInt(field);
 }
 
 // Intended: a rate is a whole number; scenes made so far rely on 59.94 being 59.
-std::int32_t TakeRate(TRCFields& fields, const TRCOddities& oddities) {
-  const std::size_t column = fields.Column();
-  const std::string_view field = fields.Get();
-  const std::int32_t rate = TakeInt(fields, oddities);
-  oddities.ReportIf(ParseDouble(field) != rate, TRCOddity::kRateTruncated, column, field);
-  oddities.ReportIf(rate <= 0, TRCOddity::kRateNotPositive, column, field);
-  return rate;
+std::int32_t TakeRate(TRCFields& fields, TRCHeaderValue value, const TRCOddities& oddities) {
+  const std::size_t number = fields.Number();
+  const std::string_view field = fields.Take();
+  oddities.TellHeaderValue(value, number, field);
+  oddities.CheckRate(number, field);
+  return ParseInt(field);
 }
 
 // Intended: where no tab follows, the line break belongs to the word, which is thereby unknown;
 // unknown words are millimetres.
 std::int32_t TakeUnits(TRCFields& fields, const TRCOddities& oddities) {
-  const std::size_t column = fields.Column();
+  const std::size_t number = fields.Number();
   const bool carries_break = fields.CarriesBreak();
   const std::string_view field = fields.Take();
+  oddities.TellHeaderValue(TRCHeaderValue::kUnits, number, field);
   const std::optional<std::uint32_t> code = FindCalibrationUnits(field);
   if (code && !carries_break) return static_cast<std::int32_t>(*code);
-  oddities.Report(code ? TRCOddity::kUnitsEndTheLine : TRCOddity::kUnknownUnits, column, field);
+  oddities.Report(code ? TRCOddity::kUnitsEndTheLine : TRCOddity::kUnknownUnits, number, field);
   return static_cast<std::int32_t>(kMillimetres);
 }
 
-void AddNamedMarker(std::string_view name, std::size_t column, TRCDocument& document,
+void AddNamedMarker(std::string_view name, std::size_t field, TRCDocument& document,
                     const TRCOddities& oddities) {
-  oddities.ReportIf(name.empty(), TRCOddity::kMarkerNameEmpty, column, name);
+  oddities.ReportIf(name.empty(), TRCOddity::kMarkerNameEmpty, field, name);
   // Intended: a repeated name makes no marker, and the values of its column go to the next one.
   const TRCMarker* marker = document.AddMarker(TRCMarker(std::string(name)));
-  oddities.ReportIf(marker == nullptr, TRCOddity::kMarkerNameRepeated, column, name);
+  if (marker == nullptr) return oddities.Report(TRCOddity::kMarkerNameRepeated, field, name);
+  oddities.TellMarker(field, name);
 }
 
 }  // namespace
@@ -59,29 +62,29 @@ std::string ReadFileTypeLine(const Line& line, TRCHeader& header, const TRCOddit
   const std::string_view file_type = fields.Take();
   oddities.ReportIf(file_type != kFileType, TRCOddity::kUnknownFileType, 1, file_type);
 
-  const std::size_t path_type_column = fields.Column();
+  const std::size_t path_type_number = fields.Number();
   const std::string_view path_type = fields.Get();
-  header.path_type = TakeInt(fields, oddities);
+  header.path_type = TakeInt(fields, TRCHeaderValue::kPathType, oddities);
   const bool is_known =
       header.path_type == kFirstFrameInData || header.path_type == kFirstFrameInHeader;
-  oddities.ReportIf(!is_known, TRCOddity::kUnknownPathType, path_type_column, path_type);
+  oddities.ReportIf(!is_known, TRCOddity::kUnknownPathType, path_type_number, path_type);
 
   if (fields.Get() == kCoordinates && !fields.CarriesBreak()) return {};
-  oddities.Report(TRCOddity::kCoordinatesRefused, fields.Column(), fields.Get());
+  oddities.Report(TRCOddity::kCoordinatesRefused, fields.Number(), fields.Get());
   return "The file is does not have a compatible \"(X/Y/Z)\" header state";
 }
 
 void ReadHeaderValues(const Line& line, TRCHeader& header, TRCDocument& document,
                       const TRCOddities& oddities) {
   TRCFields fields(line);
-  document.SetDataRate(TakeRate(fields, oddities));
-  document.SetCameraRate(TakeRate(fields, oddities));
-  document.SetNumFrames(TakeInt(fields, oddities));
-  header.announced_markers = TakeInt(fields, oddities);
+  document.SetDataRate(TakeRate(fields, TRCHeaderValue::kDataRate, oddities));
+  document.SetCameraRate(TakeRate(fields, TRCHeaderValue::kCameraRate, oddities));
+  document.SetNumFrames(TakeInt(fields, TRCHeaderValue::kNumFrames, oddities));
+  header.announced_markers = TakeInt(fields, TRCHeaderValue::kNumMarkers, oddities);
   document.SetUnits(TakeUnits(fields, oddities));
   if (header.path_type != kFirstFrameInHeader) return;
   fields.Drop();  // the data rate of the source recording
-  document.SetFirstFrame(TakeInt(fields, oddities));
+  document.SetFirstFrame(TakeInt(fields, TRCHeaderValue::kFirstFrame, oddities));
 }
 
 std::string ReadMarkerNames(const Line& line, const TRCHeader& header, bool include_unnamed,
@@ -90,21 +93,21 @@ std::string ReadMarkerNames(const Line& line, const TRCHeader& header, bool incl
   fields.Drop(2);  // the headings of frame number and time
   // Intended: a last name that ends the line is lost, since a name is one only before a tab.
   while (fields.HasTab()) {
-    const std::size_t column = fields.Column();
+    const std::size_t number = fields.Number();
     const std::string_view name = fields.Get();
     if (include_unnamed || !name.starts_with(kUnnamed)) {
-      AddNamedMarker(name, column, document, oddities);
+      AddNamedMarker(name, number, document, oddities);
     } else {
-      oddities.Report(TRCOddity::kUnnamedColumnDropped, column, name);
+      oddities.Report(TRCOddity::kUnnamedColumnDropped, number, name);
     }
     fields.Drop(kColumnsPerMarker);
   }
-  oddities.ReportIf(!fields.AtEnd(), TRCOddity::kMarkerNameLost, fields.Column(), fields.Get());
+  oddities.ReportIf(!fields.AtEnd(), TRCOddity::kMarkerNameLost, fields.Number(), fields.Get());
 
   if (std::int64_t{document.MarkerCount()} == header.announced_markers) return {};
   const std::string announced = FormatInt(header.announced_markers);
-  oddities.Report(
-      include_unnamed ? TRCOddity::kMarkerCountRefused : TRCOddity::kMarkerCountMismatch, 0,
+  oddities.ReportLine(
+      include_unnamed ? TRCOddity::kMarkerCountRefused : TRCOddity::kMarkerCountMismatch,
       announced);
   if (!include_unnamed) return {};
   return "Incorrect number of markers defined in file";

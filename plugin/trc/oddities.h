@@ -1,11 +1,10 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
+#include "plugin/text/number_faults.h"
+#include "plugin/text/watched_line.h"
 #include "plugin/trc/read_observer.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.
@@ -13,35 +12,73 @@ namespace orvane {
 
 class TRCOddities {
  public:
-  explicit TRCOddities(TRCReadObserver* observer) : observer_(observer) {}
+  // `bytes` is what is read.
+  TRCOddities(TRCReadObserver* observer, std::string_view bytes)
+      : observer_(observer), line_(bytes) {}
 
   // Whether anybody wants to know of frames.
   bool AreOfFramesWanted() const { return observer_ != nullptr && observer_->WatchesFrames(); }
 
-  void SetLine(std::size_t line) { line_ = line; }
-
-  // `column` counts from 1; 0 stands for the whole line.
-  void Report(TRCOddity oddity, std::size_t column, std::string_view text) const {
-    if (observer_ != nullptr) observer_->OnOddity(oddity, {line_, column}, text);
+  // `line` is the one that all texts below are part of, unless another is named.
+  void StartLine(const Line& line) {
+    if (observer_ != nullptr) line_.Set(line);
   }
 
-  // Reports `oddity` when `is_odd`.
-  void ReportIf(bool is_odd, TRCOddity oddity, std::size_t column, std::string_view text) const {
-    if (is_odd) Report(oddity, column, text);
+  // Reports what is odd about the bytes of the line.
+  void LookAtLine() {
+    if (observer_ != nullptr) LookAtBytes();
+  }
+
+  // Reports `oddity` with `text`, which is field `field` of the line, counted from 1, or no field
+  // for 0.
+  void Report(TRCOddity oddity, std::size_t field, std::string_view text) const {
+    if (observer_ != nullptr) observer_->OnOddity(oddity, PlaceOf(field, text), text);
+  }
+  // The same, when `is_odd`.
+  void ReportIf(bool is_odd, TRCOddity oddity, std::size_t field, std::string_view text) const {
+    if (is_odd) Report(oddity, field, text);
+  }
+  // Reports `oddity` of the line as a whole, with any text.
+  void ReportLine(TRCOddity oddity, std::string_view text) const {
+    if (observer_ != nullptr) observer_->OnOddity(oddity, {line_.Number(), 1, 0}, text);
   }
 
   // Reports a field that is missing, or that is more or other than one number and blanks.
-  void CheckNumber(std::size_t column, std::string_view field) const {
-    if (observer_ == nullptr) return;
-    const std::string_view cell = TrimTrailingSeparators(SkipSeparators(field));
-    if (cell.empty()) return Report(TRCOddity::kMissingNumber, column, cell);
-    const char* const end = cell.data() + cell.size();
-    ReportIf(ReadDouble(cell.data(), end).end != end, TRCOddity::kUnreadableNumber, column, field);
+  void CheckNumber(std::size_t field, std::string_view text) const {
+    if (observer_ != nullptr) ReportFault(FaultOfNumber, field, text);
+  }
+  // The same for one that is to be a whole number.
+  void CheckWholeNumber(std::size_t field, std::string_view text) const {
+    if (observer_ != nullptr) ReportFault(FaultOfWholeNumber, field, text);
+  }
+  // The same for a rate, which is to be above 0 as well.
+  void CheckRate(std::size_t field, std::string_view text) const {
+    if (observer_ != nullptr) ReportFaultsOfRate(field, text);
+  }
+
+  void TellHeaderValue(TRCHeaderValue value, std::size_t field, std::string_view text) const {
+    if (observer_ != nullptr) observer_->OnHeaderValue(value, PlaceOf(field, text), text);
+  }
+  void TellMarker(std::size_t field, std::string_view name) const {
+    if (observer_ != nullptr) observer_->OnMarker(PlaceOf(field, name), name);
+  }
+  void TellFrame(std::string_view number) const {
+    if (observer_ != nullptr) observer_->OnFrame(PlaceOf(1, number), number);
   }
 
  private:
+  TRCPlace PlaceOf(std::size_t field, std::string_view text) const {
+    return {line_.Number(), line_.ColumnOf(text), field};
+  }
+
+  void LookAtBytes();
+  void ReportFault(NumberFault (*fault_of)(std::string_view), std::size_t field,
+                   std::string_view text) const;
+  void ReportFaultsOfRate(std::size_t field, std::string_view text) const;
+
   TRCReadObserver* observer_;
-  std::size_t line_ = 0;
+  WatchedLine line_;
+  bool long_line_told_ = false;
 };
 
 }  // namespace orvane

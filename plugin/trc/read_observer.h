@@ -9,14 +9,17 @@ namespace orvane {
 
 enum class TRCOddity {
   // Any line.
-  kLongLine,             // read as several lines; the first piece
-  kCommentReplacesLine,  // the line behind a "#" line is thrown away; the line that stays
+  kByteOrderMark,         // belongs to the first line as any other text; the mark
+  kHiddenByNul,           // ignored; the rest of the line from the NUL on
+  kLongLine,              // read as several lines; the second of them
+  kCarriageReturn,        // part of a field; the rest of the line from there on
+  kSpareCarriageReturns,  // more than one before a line feed, ignored; empty
+  kUnfinishedEnd,         // the file ends without a line feed; empty
+  kCommentReplacesLine,   // the line behind a "#" line is thrown away; the line that stays
   // The header.
   kUnknownFileType,     // ignored; the first word of the file
   kUnknownPathType,     // neither 3 nor 4: the first frame is 1; the value
   kCoordinatesRefused,  // the file is refused; the value that is no "(X/Y/Z)"
-  kMissingNumber,       // taken as 0; empty
-  kUnreadableNumber,    // the number it starts with is taken, or 0; the whole cell
   kRateTruncated,       // the fraction of a rate is dropped; the value
   kRateNotPositive,     // a rate of 0 or less; the value
   kUnknownUnits,        // taken as millimetres; the value
@@ -29,30 +32,55 @@ enum class TRCOddity {
   kMarkerCountMismatch,   // markers differ from the announced count, which is ignored; the count
   kMarkerCountRefused,    // the same, for which the file is refused; the count
   kSubHeaderIsData,       // the line of coordinate headings starts with a number; that number
+  // Numbers, of the header and of the frames.
+  kMissingNumber,      // taken as 0; empty
+  kUnreadableNumber,   // the number it starts with is taken, or 0; the whole cell
+  kNumberOutOfBounds,  // the greatest or the least there is, or infinity; the whole cell
+  kNumberCut,          // a whole number is taken; the whole cell
   // The frames.
   kBlankFrame,          // a line without anything: a dropout of every marker; empty
-  kShortFrame,          // fewer columns than markers: dropouts of the rest; the frame number
+  kShortFrame,          // fewer columns than markers: dropouts of the rest; empty
   kSurplusValue,        // a value behind the last marker's, ignored; the value
   kSampleWithoutX,      // y or z without x: a dropout; the value that is ignored
   kFrameNumberSkips,    // does not follow the frame before, ignored; the frame number
-  kFrameCountMismatch,  // frames held differ from those announced; empty
+  kFrameCountMismatch,  // frames held differ from those announced; how many are held
 };
 
-// Where in the file. Both count from 1; a column is what stands between two tabs, and 0 where the
-// whole line is meant.
+// The values of the header that mean something.
+enum class TRCHeaderValue {
+  kPathType,
+  kDataRate,
+  kCameraRate,
+  kNumFrames,
+  kNumMarkers,
+  kUnits,
+  kFirstFrame,
+};
+
+// Where in the file. All count from 1.
 struct TRCPlace {
   std::size_t line = 0;
-  std::size_t column = 0;
+  std::size_t column = 0;  // in bytes
+  std::size_t field = 0;   // what stands between two tabs; 0 where no field is meant
 };
 
 class TRCReadObserver {
  public:
   virtual ~TRCReadObserver() = default;
 
-  // Called in file order while reading. `text` lives until the call returns.
+  // All are called in file order while reading. Texts lie in the bytes that are read, but for the
+  // counts of oddities, which live until the call returns.
   virtual void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) = 0;
+  // A value of the header, whatever it is worth.
+  virtual void OnHeaderValue(TRCHeaderValue /*value*/, TRCPlace /*place*/,
+                             std::string_view /*text*/) {}
+  // A marker of the document, in its order.
+  virtual void OnMarker(TRCPlace /*place*/, std::string_view /*name*/) {}
+  // A frame, by what its line starts with, which should be its number.
+  virtual void OnFrame(TRCPlace /*place*/, std::string_view /*number*/) {}
 
-  // Whether the lines of frames are looked over too, which takes longer than reading them.
+  // Whether the lines of frames are looked over too, which takes longer than reading them. When
+  // not, nothing is told of them but their count.
   virtual bool WatchesFrames() const { return true; }
 };
 

@@ -39,7 +39,7 @@ class TRCReader {
         lines_(bytes),
         size_(bytes.size()),
         include_unnamed_(include_unnamed),
-        oddities_(observer),
+        oddities_(observer, bytes),
         inspector_(oddities_),
         watches_frames_(oddities_.AreOfFramesWanted()) {}
 
@@ -69,10 +69,10 @@ std::string TRCReader::Read() {
   document_.Reset();
   Line line;
   for (std::size_t number = 0; lines_.Next(line); ++number) {
-    oddities_.SetLine(line.number);
-    oddities_.ReportIf(line.text.size() == kLongestPiece, TRCOddity::kLongLine, 0, line.text);
+    oddities_.StartLine(line);
+    if (watches_frames_ || !IsFrame(line, number)) oddities_.LookAtLine();
     if (ReplacesNextLine(line)) {
-      oddities_.Report(TRCOddity::kCommentReplacesLine, 0, line.text);
+      oddities_.ReportLine(TRCOddity::kCommentReplacesLine, line.text);
       Line thrown_away;
       (void)lines_.Next(thrown_away);
     }
@@ -123,7 +123,10 @@ void TRCReader::ReserveFrames() {
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
-  if (watches_frames_) inspector_.Inspect(line, document_.markers().size());
+  if (watches_frames_) {
+    oddities_.TellFrame(TRCFields(line).Get());
+    inspector_.Inspect(line, document_.markers().size());
+  }
 
   TRCCoordinateCells cells(line.text);
   cells.Drop();  // the frame number
@@ -153,8 +156,9 @@ void TRCReader::Finish() {
     marker.AppendDropouts(frames_read_ - marker.SampleCount());
   }
   const bool as_announced = static_cast<std::int64_t>(frames_read_) == document_.NumFrames();
-  oddities_.ReportIf(!as_announced, TRCOddity::kFrameCountMismatch, 0,
-                     FormatInt(static_cast<std::int64_t>(frames_read_)));
+  if (as_announced) return;
+  oddities_.ReportLine(TRCOddity::kFrameCountMismatch,
+                       FormatInt(static_cast<std::int64_t>(frames_read_)));
 }
 
 }  // namespace

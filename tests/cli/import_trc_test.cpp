@@ -214,30 +214,30 @@ INSTANTIATE_TEST_SUITE_P(
     Oddities, TrcWarningTest,
     testing::Values(
         Warning{"UnknownUnit", "\tmm\t", "\tMm\t",
-                "The unit is unknown and taken as millimetres: \"Mm\" (line 3, column 5)"},
+                "The unit is unknown and taken as millimetres: \"Mm\" (line 3, column 12)"},
         Warning{"RateOf0", "120\t60\t", "120\t0\t",
-                "A rate is not positive: \"0\" (line 3, column 2)"},
+                "A rate is not positive: \"0\" (line 3, column 5)"},
         Warning{"FractionOfARate", "120\t60\t", "119.88\t60\t",
                 "A rate loses its fraction: \"119.88\" (line 3, column 1)"},
         Warning{"NoStartFrame", "mm\t120\t1\t3", "mm",
-                "A value is missing and taken as 0 (line 3, column 7)"},
+                "A value is missing and taken as 0 (line 3, column 14)"},
         Warning{"NoNumber", "2000", "NaN",
                 "A value is not one number; what it starts with is taken, or 0: \"NaN\" (line 7, "
-                "column 4)"},
+                "column 14)"},
         Warning{"BlankValue", "1000\t2000", " \t2000",
-                "A value is missing and taken as 0 (line 7, column 3)"},
+                "A value is missing and taken as 0 (line 7, column 9)"},
         Warning{"NoX", "1000\t2000", "\t2000",
-                "A sample that does not begin with X is a dropout: \"2000\" (line 7, column 4, "
+                "A sample that does not begin with X is a dropout: \"2000\" (line 7, column 10, "
                 "the first of 2)"},
         Warning{"LastNameLost", "RFHD\t\t\t\n", "RFHD\n",
                 "The last name has no tab behind it and makes no marker: \"RFHD\" (line 4, column "
-                "6)"},
+                "20)"},
         Warning{"UnnamedColumn", "LFHD", "Unnamed 1",
                 "An unnamed column makes no marker, and its values go to the next one: \"Unnamed "
-                "1\" (line 4, column 3)"},
+                "1\" (line 4, column 13)"},
         Warning{"RepeatedName", "RFHD", "LFHD",
                 "A repeated name makes no marker, and the values of its column go to the next one: "
-                "\"LFHD\" (line 4, column 6)"},
+                "\"LFHD\" (line 4, column 20)"},
         Warning{"NoSubHeader", "\t\tX1\tY1\tZ1\tX2\tY2\tZ2\n\n", "",
                 "The line of coordinate headings is missing; the frame in its place is lost: \"1\" "
                 "(line 5, column 1)"},

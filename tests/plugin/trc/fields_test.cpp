@@ -14,9 +14,9 @@ Line LineOf(std::string_view text, bool ends_with_break) {
 
 TEST(TRCFields, AreSeparatedBySingleTabs) {
   TRCFields fields(LineOf("a b\t\t c", true));
-  EXPECT_EQ(fields.Column(), 1u);
+  EXPECT_EQ(fields.Number(), 1u);
   EXPECT_EQ(fields.Take(), "a b");
-  EXPECT_EQ(fields.Column(), 2u);
+  EXPECT_EQ(fields.Number(), 2u);
   EXPECT_EQ(fields.Take(), "");
   EXPECT_EQ(fields.Get(), " c");
   EXPECT_EQ(fields.Take(), " c");

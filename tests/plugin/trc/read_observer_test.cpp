@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -17,15 +18,17 @@ using test::TrcText;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
 
-// What, line, column, text.
+// What, line, field, text.
 using Oddity = std::tuple<TRCOddity, std::size_t, std::size_t, std::string>;
 
 class Recorder : public TRCReadObserver {
  public:
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override {
-    oddities.emplace_back(oddity, place.line, place.column, std::string(text));
+    oddities.emplace_back(oddity, place.line, place.field, std::string(text));
+    columns.push_back(place.column);
   }
   std::vector<Oddity> oddities;
+  std::vector<std::size_t> columns;
 };
 
 std::vector<Oddity> OdditiesOf(const std::string& bytes, bool include_unnamed = false) {
@@ -128,7 +131,7 @@ TEST(TRCReadObserver, HearsOfCellsThatAreNoNumbers) {
 
 TEST(TRCReadObserver, HearsOfLinesOfTheWrongLength) {
   EXPECT_THAT(OdditiesOfFrames({"1\t0", "2\t0\t1\t2\t3\t\t\t4\t5", "", "3\t0\t\t\t\t \t"}),
-              ElementsAre(Oddity{TRCOddity::kShortFrame, 7, 3, "1"},
+              ElementsAre(Oddity{TRCOddity::kShortFrame, 7, 3, ""},
                           Oddity{TRCOddity::kSurplusValue, 8, 8, "4"},
                           Oddity{TRCOddity::kBlankFrame, 9, 0, ""}));
 }
@@ -147,12 +150,110 @@ TEST(TRCReadObserver, HearsOfAFrameCountThatIsNotTheAnnouncedOne) {
               ElementsAre(Oddity{TRCOddity::kFrameCountMismatch, 8, 0, "2"}));
 }
 
+auto CountOf(TRCOddity oddity, const std::string& bytes) {
+  const std::vector<Oddity> oddities = OdditiesOf(bytes);
+  return std::count_if(oddities.begin(), oddities.end(),
+                       [oddity](const Oddity& each) { return std::get<0>(each) == oddity; });
+}
+
 TEST(TRCReadObserver, HearsOfCommentsAndLongLines) {
-  const std::string piece = std::string(10239, '1');
-  EXPECT_THAT(OdditiesOf("# by hand\nPathFileType\t4\t(X/Y/Z)\tx\n"),
-              ::testing::Contains(Oddity{TRCOddity::kCommentReplacesLine, 1, 0, "# by hand"}));
-  EXPECT_THAT(OdditiesOf(piece + "\n"),
-              ::testing::Contains(Oddity{TRCOddity::kLongLine, 1, 0, piece}));
+  const std::string names(10239, 'x');
+  const std::string header = "PathFileType\t4\t(X/Y/Z)\tx\n";
+  EXPECT_EQ(CountOf(TRCOddity::kLongLine, header + names + names + "x\n"), 1);
+  EXPECT_EQ(CountOf(TRCOddity::kLongLine, header + names + "\n"), 1) << "no room for the line end";
+  EXPECT_EQ(CountOf(TRCOddity::kLongLine, header + names), 0);
+}
+
+TEST(TRCReadObserver, HearsOfOddBytes) {
+  using namespace std::string_literals;
+  TrcText text = TwoFrames();
+  const std::string good = text.Text();
+  EXPECT_THAT(OdditiesOf("\xEF\xBB\xBF" + good),
+              ElementsAre(Oddity{TRCOddity::kByteOrderMark, 1, 1, "\xEF\xBB\xBF"},
+                          Oddity{TRCOddity::kUnknownFileType, 1, 1, "\xEF\xBB\xBFPathFileType"}));
+  EXPECT_THAT(OdditiesOf(good.substr(0, good.size() - 1)),
+              ElementsAre(Oddity{TRCOddity::kUnfinishedEnd, 8, 0, ""}));
+  EXPECT_THAT(OdditiesOfFrames({"1\t0\t1\t2\t3\r\r"}),
+              ElementsAre(Oddity{TRCOddity::kSpareCarriageReturns, 7, 0, ""}));
+  EXPECT_THAT(OdditiesOfFrames({"1\t0\t1\t2\t3\r2"}),
+              ElementsAre(Oddity{TRCOddity::kCarriageReturn, 7, 0, "\r2"},
+                          Oddity{TRCOddity::kUnreadableNumber, 7, 5, "3\r2"}));
+  EXPECT_THAT(OdditiesOfFrames({"1\t0\t1\t2\t3\0\t4"s}),
+              ElementsAre(Oddity{TRCOddity::kHiddenByNul, 7, 0, ""}));
+}
+
+TEST(TRCReadObserver, HearsOfNumbersThatDoNotFit) {
+  EXPECT_THAT(OdditiesOfFrames({"1\t0\t1e999\t2\t3", "2.5\t0\t1\t2\t3"}),
+              ElementsAre(Oddity{TRCOddity::kNumberOutOfBounds, 7, 3, "1e999"},
+                          Oddity{TRCOddity::kNumberCut, 8, 1, "2.5"}));
+  const std::string start = "PathFileType\t4\t(X/Y/Z)\tx\nnames\n";
+  EXPECT_THAT(OdditiesOf(start + "6e9\t60\t0.5\t0\tcm\t60\t1\t\n"),
+              ElementsAre(Oddity{TRCOddity::kNumberOutOfBounds, 3, 1, "6e9"},
+                          Oddity{TRCOddity::kNumberCut, 3, 3, "0.5"}));
+}
+
+// Where each of the oddities of `bytes` stands, in bytes.
+std::vector<std::size_t> ColumnsOf(const std::string& bytes) {
+  TRCDocument document;
+  Recorder recorder;
+  (void)document.ReadBytes(bytes, false, &recorder);
+  return recorder.columns;
+}
+
+TEST(TRCReadObserver, TellsColumnsInBytes) {
+  TrcText text = TwoFrames();
+  text.frames[1] = {"", "7\t8 mm\t9"};
+  EXPECT_THAT(ColumnsOf(text.Text()), ElementsAre(14U));
+  text.frames[1] = {"", "7"};
+  EXPECT_THAT(ColumnsOf(text.Text()), ElementsAre(13U, 13U, 13U)) << "behind the line's last byte";
+  text.frames.pop_back();
+  text.frame_count = 3;
+  EXPECT_THAT(ColumnsOf(text.Text()), ElementsAre(1U)) << "the line as a whole";
+  const std::string long_frame = "1\t0\t1\t2\t3" + std::string(10232, '\t') + "4\t5\n";
+  EXPECT_THAT(ColumnsOf(TrcText{.markers = {"a"}, .frame_count = 2}.Text() + long_frame),
+              ElementsAre(10240U, 10240U, 10240U, 10245U, 10245U))
+      << "in the line, not in its second piece";
+}
+
+struct Heard final : TRCReadObserver {
+  explicit Heard(bool watches) : watches_frames(watches) {}
+  void OnOddity(TRCOddity, TRCPlace place, std::string_view text) override { Keep(place, text); }
+  void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override {
+    Keep(place, std::to_string(static_cast<int>(value)) + "=" + std::string(text));
+  }
+  void OnMarker(TRCPlace place, std::string_view name) override { Keep(place, name); }
+  void OnFrame(TRCPlace place, std::string_view number) override {
+    Keep(place, "frame " + std::string(number));
+  }
+  bool WatchesFrames() const override { return watches_frames; }
+
+  void Keep(TRCPlace place, std::string_view text) {
+    heard.push_back(std::to_string(place.line) + ":" + std::to_string(place.column) + " " +
+                    std::string(text));
+  }
+
+  bool watches_frames;
+  std::vector<std::string> heard;
+};
+
+TEST(TRCReadObserver, HearsOfHeaderValuesMarkersAndFrames) {
+  TRCDocument document;
+  Heard heard(true);
+  (void)document.ReadBytes(TwoFrames().Text(), false, &heard);
+  EXPECT_THAT(heard.heard,
+              ElementsAre("1:14 0=4", "3:1 1=60", "3:4 2=60", "3:7 3=2", "3:9 4=2", "3:11 5=mm",
+                          "3:17 6=1", "4:13 a", "4:17 b", "7:1 frame 1", "8:1 frame 2"));
+}
+
+TEST(TRCReadObserver, NeedNotHearOfFrames) {
+  TRCDocument document;
+  Heard heard(false);
+  TrcText text = TwoFrames();
+  text.frame_count = 3;
+  text.frames[1] = {"\r\0", "x"};
+  (void)document.ReadBytes(text.Text(), false, &heard);
+  EXPECT_EQ(heard.heard.back(), "8:1 2");
+  EXPECT_EQ(heard.heard.size(), 10U);
 }
 
 }  // namespace

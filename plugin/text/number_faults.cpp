@@ -1,0 +1,35 @@
+#include "plugin/text/number_faults.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+#include "plugin/text/numbers.h"
+
+namespace orvane {
+namespace {
+
+bool FitsInt(double value) {
+  return value >= std::numeric_limits<std::int32_t>::min() &&
+         value <= std::numeric_limits<std::int32_t>::max();
+}
+
+}  // namespace
+
+NumberFault FaultOfNumber(std::string_view cell) {
+  if (cell.empty()) return NumberFault::kMissing;
+  const char* const end = cell.data() + cell.size();
+  const LeadingDouble number = ReadDouble(cell.data(), end);
+  if (number.end != end) return NumberFault::kUnreadable;
+  return std::isfinite(number.value) ? NumberFault::kNone : NumberFault::kOutOfBounds;
+}
+
+NumberFault FaultOfWholeNumber(std::string_view cell) {
+  const NumberFault fault = FaultOfNumber(cell);
+  if (fault != NumberFault::kNone) return fault;
+  const double value = ReadDouble(cell.data(), cell.data() + cell.size()).value;
+  if (!FitsInt(value)) return NumberFault::kOutOfBounds;
+  return value == ParseInt(cell) ? NumberFault::kNone : NumberFault::kCut;
+}
+
+}  // namespace orvane

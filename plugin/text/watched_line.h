@@ -1,0 +1,47 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+#include "plugin/text/lines.h"
+
+// Where a piece of a line stands in its file, and what is odd about its bytes. Readers have one
+// when they are watched.
+namespace orvane {
+
+class WatchedLine {
+ public:
+  // `bytes` is the whole file, which the lines below are views into.
+  explicit WatchedLine(std::string_view bytes) : end_of_bytes_(bytes.data() + bytes.size()) {}
+
+  // Goes on to `line`, the next one or the next piece of one.
+  void Set(const Line& line);
+
+  std::size_t Number() const { return line_.number; }
+  std::string_view Text() const { return line_.text; }
+  // The column, in bytes from 1, at which `text` starts in its line. `text` is a part of the piece.
+  std::size_t ColumnOf(std::string_view text) const {
+    return 1 + static_cast<std::size_t>(text.data() - line_begin_);
+  }
+
+  // Whether the line began in a piece before this one.
+  bool Continues() const { return continues_; }
+  // The mark that the file starts with, in UTF-8 or UTF-16; empty in any other line than the first.
+  std::string_view ByteOrderMark() const;
+  // Whether a NUL hides what follows in the piece.
+  bool IsCutByNul() const;
+  // Whether the file ends with this line, and the line without a line feed.
+  bool EndsUnfinished() const;
+  // How many carriage returns stand between the text and its line feed.
+  std::size_t CarriageReturns() const;
+
+ private:
+  const char* End() const { return line_.text.data() + line_.text.size(); }
+
+  const char* end_of_bytes_;
+  Line line_;
+  const char* line_begin_ = nullptr;
+  bool continues_ = false;
+};
+
+}  // namespace orvane
