@@ -9,12 +9,18 @@
 #include "cli/failure.h"
 #include "cli/htr_check.h"
 #include "cli/input.h"
+#include "cli/mnm_check.h"
+#include "cli/trc_check.h"
 #include "host/base/letter_case.h"
 
 namespace cli {
 namespace {
 
 namespace fs = std::filesystem;
+
+CheckedFile CheckTrc(const std::string& name) {
+  return CheckTrcFile(ReadableFile(name, FileKind::kTrc));
+}
 
 CheckedFile CheckHtr(const std::string& name) { return CheckHtrFile(ReadableHtrFile(name)); }
 
@@ -24,13 +30,14 @@ struct FileCheck {
 };
 
 // The first is that of files with any other extension.
-constexpr std::array<FileCheck, 1> kFileChecks = {{
+constexpr std::array<FileCheck, 3> kFileChecks = {{
     {".htr", CheckHtr},
+    {".trc", CheckTrc},
+    {".mnm", CheckMnmFile},
 }};
 
 // Null for an unknown extension.
-const FileCheck* FindFileCheck(const fs::path& name) {
-  const std::string extension = name.extension().string();
+const FileCheck* FindFileCheck(std::string_view extension) {
   const auto check = std::find_if(
       kFileChecks.begin(), kFileChecks.end(),
       [&](const FileCheck& each) { return host::SameButForCase(each.extension, extension); });
@@ -40,7 +47,8 @@ const FileCheck* FindFileCheck(const fs::path& name) {
 std::string KnownExtensions() {
   std::string extensions;
   for (const FileCheck& check : kFileChecks) {
-    if (!extensions.empty()) extensions += " or ";
+    const bool is_last = check.extension == kFileChecks.back().extension;
+    if (!extensions.empty()) extensions += is_last ? " or " : ", ";
     extensions += check.extension;
   }
   return extensions;
@@ -48,7 +56,8 @@ std::string KnownExtensions() {
 
 bool IsToBeChecked(const fs::directory_entry& entry) {
   std::error_code ignored;
-  return FindFileCheck(entry.path()) != nullptr && !entry.is_directory(ignored);
+  return FindFileCheck(entry.path().extension().string()) != nullptr &&
+         !entry.is_directory(ignored);
 }
 
 }  // namespace
@@ -72,8 +81,9 @@ std::vector<std::string> FilesToCheck(const std::string& input) {
   return files;
 }
 
-CheckedFile CheckFile(const std::string& name) {
-  const FileCheck* check = FindFileCheck(name);
+CheckedFile CheckFile(const std::string& name, const std::string& kind) {
+  const std::string extension = kind.empty() ? fs::path(name).extension().string() : "." + kind;
+  const FileCheck* check = FindFileCheck(extension);
   return (check == nullptr ? kFileChecks.front() : *check).check(name);
 }
 

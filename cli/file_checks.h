@@ -14,8 +14,9 @@ namespace cli {
 // are none.
 std::vector<std::string> FilesToCheck(const std::string& input);
 
-// Checks the file `name` by its extension, as an HTR file when that is unknown. Throws a Failure
-// when it cannot be read.
-CheckedFile CheckFile(const std::string& name);
+// Checks the file `name` as one of `kind`, which is an extension without its point; when that is
+// empty, by its own extension, as an HTR file when that is unknown. Throws a Failure when it cannot
+// be read.
+CheckedFile CheckFile(const std::string& name, const std::string& kind);
 
 }  // namespace cli

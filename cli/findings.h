@@ -28,6 +28,10 @@ struct FindingRule {
   FindingSeverity severity;
 };
 
+constexpr FindingRule Note(std::string_view code) { return {code, FindingSeverity::kNote}; }
+constexpr FindingRule Warning(std::string_view code) { return {code, FindingSeverity::kWarning}; }
+constexpr FindingRule Error(std::string_view code) { return {code, FindingSeverity::kError}; }
+
 struct Finding {
   FindingRule rule;
   std::size_t line = 0;    // counted from 1

@@ -7,10 +7,6 @@
 
 namespace cli::htr {
 
-constexpr FindingRule Note(std::string_view code) { return {code, FindingSeverity::kNote}; }
-constexpr FindingRule Warning(std::string_view code) { return {code, FindingSeverity::kWarning}; }
-constexpr FindingRule Error(std::string_view code) { return {code, FindingSeverity::kError}; }
-
 // Lines
 inline constexpr FindingRule kByteOrderMark = Warning("htr-byte-order-mark");
 inline constexpr FindingRule kNul = Warning("htr-nul");

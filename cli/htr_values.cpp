@@ -8,7 +8,6 @@
 #include "cli/htr_keywords.h"
 #include "cli/htr_rules.h"
 #include "cli/similar_words.h"
-#include "host/animation/animation_state.h"
 #include "plugin/htr/sections.h"
 #include "plugin/text/numbers.h"
 
@@ -59,24 +58,6 @@ std::string EffectOfNumber(std::string_view cell, std::string_view field) {
   const double value = orvane::ParseDouble(cell);
   if (!std::isfinite(value)) return "It is taken as infinite, and the scene cannot be saved.";
   return orvane::FormatShortest(value) + " is taken.";
-}
-
-bool IsRate(std::int32_t frames_per_second) {
-  return frames_per_second >= host::kMinimumFrameRate &&
-         frames_per_second <= host::kMaximumFrameRate;
-}
-
-std::string ExpectedRate() {
-  return FormatInt(host::kMinimumFrameRate) + " to " + FormatInt(host::kMaximumFrameRate) +
-         " frames per second";
-}
-
-std::string EffectOfCutRate(std::string_view cell) {
-  const std::int32_t taken = orvane::ParseInt(cell);
-  const std::string effect = FormatInt(taken) + " is taken";
-  if (taken <= 0) return effect + ".";
-  const double seconds = 60.0 * orvane::ParseDouble(cell) / taken;
-  return effect + ": a minute lasts " + orvane::FormatDouble(seconds, 2) + " s.";
 }
 
 std::string WhyUnusable(std::string_view name) {

@@ -20,12 +20,6 @@ std::string ExpectedNumber(orvane::HtrOddity oddity, std::string_view field);
 // What the reader takes for `cell`.
 std::string EffectOfNumber(std::string_view cell, std::string_view field);
 
-// Whether there is such a frame rate in a scene.
-bool IsRate(std::int32_t frames_per_second);
-std::string ExpectedRate();
-// How long a minute lasts when the fraction of the rate is left out.
-std::string EffectOfCutRate(std::string_view cell);
-
 // Why no motion section, or no child, can name a segment that is called `name`; empty when they
 // can.
 std::string WhyUnusable(std::string_view name);

@@ -5,6 +5,7 @@
 
 #include "cli/htr_rules.h"
 #include "cli/htr_values.h"
+#include "cli/rates.h"
 #include "cli/similar_words.h"
 #include "plugin/text/numbers.h"
 #include "plugin/units/units.h"

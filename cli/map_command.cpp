@@ -1,42 +1,12 @@
 #include "cli/map_command.h"
 
-#include <iostream>
 #include <memory>
 
 #include "cli/map_create.h"
-#include "cli/mnm_lint.h"
+#include "cli/map_lint.h"
 
 namespace cli {
 namespace {
-
-struct LintArguments {
-  std::string mapping;
-  std::string marker_file;
-  bool json = false;
-};
-
-// A mapping without worse than notes does what it seems to do.
-ExitStatus Lint(const LintArguments& arguments) {
-  const CheckedFile file = LintMappingFile(arguments.mapping, arguments.marker_file);
-  if (arguments.json) {
-    PrintCheckJson({file}, std::cout);
-  } else {
-    PrintCheckedFile(file, std::cout);
-  }
-  const FindingList& findings = file.findings;
-  const bool is_fine = findings.Count(FindingSeverity::kWarning) == 0 &&
-                       findings.Count(FindingSeverity::kError) == 0;
-  return is_fine ? ExitStatus::kDone : ExitStatus::kRefused;
-}
-
-void AddLint(CLI::App& map, Work& work) {
-  auto arguments = std::make_shared<LintArguments>();
-  CLI::App* verb = map.add_subcommand("lint", "Name what is odd in a mapping file");
-  verb->add_option("MAPPING", arguments->mapping, "The mapping file")->required()->type_name("");
-  verb->add_option("FILE", arguments->marker_file, "The TRC file that it is to fit")->type_name("");
-  verb->add_flag("--json", arguments->json, "Write JSON");
-  verb->callback([arguments, &work] { work = [arguments] { return Lint(*arguments); }; });
-}
 
 void AddCreate(CLI::App& map, Work& work) {
   auto arguments = std::make_shared<MapCreateArguments>();
@@ -63,7 +33,7 @@ void AddMapCommand(CLI::App& app, Work& work) {
   CLI::App* map = app.add_subcommand("map", "Make and check marker name mappings");
   map->require_subcommand(1);
   AddCreate(*map, work);
-  AddLint(*map, work);
+  AddMapLint(*map, work);
 }
 
 }  // namespace cli

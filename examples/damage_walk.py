@@ -8,56 +8,12 @@ Every file has one damage. FOLDER/damages.tsv lists them: the file, the line, an
 """
 
 import pathlib
-import sys
+
+import damages
+from damages import add_at_end, both, change, find, insert_before, remove
 
 WALK = pathlib.Path(__file__).with_name("walk.htr")
 SEGMENTS = 21
-
-# An edit takes the lines of the walk, without their ends, changes them, and returns the index of
-# the line in which the damage shows.
-
-
-def find(lines, start):
-    return next(index for index, line in enumerate(lines) if line.startswith(start))
-
-
-def change(start, line):
-    """The line that starts with `start` becomes `line`."""
-
-    def edit(lines):
-        index = find(lines, start)
-        lines[index] = line
-        return index
-
-    return edit
-
-
-def insert_before(start, *new):
-    def edit(lines):
-        index = find(lines, start)
-        lines[index:index] = new
-        return index
-
-    return edit
-
-
-def remove(start, shows_at, count=1):
-    """Takes out `count` lines; what is missing shows at the line that starts with `shows_at`."""
-
-    def edit(lines):
-        index = find(lines, start)
-        del lines[index:index + count]
-        return find(lines, shows_at)
-
-    return edit
-
-
-def add_at_end(*new):
-    def edit(lines):
-        lines.extend(new)
-        return len(lines) - 1
-
-    return edit
 
 
 def remove_end(lines):
@@ -71,16 +27,6 @@ def cut_behind(start, count, shows_at):
     def edit(lines):
         del lines[find(lines, start) + count + 1:]
         return find(lines, shows_at)
-
-    return edit
-
-
-def both(first, second):
-    """Two edits that make one damage, which shows where the second does."""
-
-    def edit(lines):
-        first(lines)
-        return second(lines)
 
     return edit
 
@@ -245,19 +191,5 @@ DAMAGES = [
 ]
 
 
-def main(folder):
-    folder.mkdir(parents=True, exist_ok=True)
-    walk = WALK.read_bytes().split(b"\r\n")[:-1]
-    listed = []
-    for name, code, edit in DAMAGES:
-        lines = list(walk)
-        index = edit(lines)
-        (folder / f"{name}.htr").write_bytes(b"".join(line + b"\r\n" for line in lines))
-        listed.append(f"{name}.htr\t{index + 1}\t{code}\n")
-    (folder / "damages.tsv").write_text("".join(listed))
-
-
 if __name__ == "__main__":
-    if len(sys.argv) != 2:
-        sys.exit(__doc__)
-    main(pathlib.Path(sys.argv[1]))
+    damages.write(damages.folder_argument(__doc__), WALK, ".htr", DAMAGES, "damages.tsv")

@@ -5,13 +5,16 @@ namespace {
 
 constexpr std::string_view kWhiteSpace = " \t\n\v\f\r";
 
-// Takes the first word off `text`; empty when there is none.
-std::string_view TakeWord(std::string_view& text) {
+std::string_view SkipWhiteSpace(std::string_view text) {
   const std::size_t begin = text.find_first_not_of(kWhiteSpace);
-  if (begin == std::string_view::npos) return {};
-  text.remove_prefix(begin);
+  return begin == std::string_view::npos ? std::string_view() : text.substr(begin);
+}
+
+// Takes the first word off `text`, and the white space around it; empty when there is none.
+std::string_view TakeWord(std::string_view& text) {
+  text = SkipWhiteSpace(text);
   const std::string_view word = text.substr(0, text.find_first_of(kWhiteSpace));
-  text.remove_prefix(word.size());
+  text = SkipWhiteSpace(text.substr(word.size()));
   return word;
 }
 
@@ -20,19 +23,21 @@ std::string_view TakeWord(std::string_view& text) {
 // Intended: what the line does not give stays in `line` from the one before, which files written by
 // hand rely on.
 bool MappingLineReader::Next(MappingLine& line) {
-  Line piece;
-  if (!lines_.Next(piece)) return false;
-  line.number = piece.number;
-  line.text = piece.text;
-  line.words = 0;
-  std::string_view rest = piece.text;
-  for (std::string* name : {&line.standard_name, &line.trc_name}) {
-    const std::string_view word = TakeWord(rest);
-    if (word.empty()) break;
-    *name = word;
-    ++line.words;
-  }
+  if (!lines_.Next(line.line)) return false;
+  line.rest = line.line.text;
+  line.given_standard_name = TakeWord(line.rest);
+  line.given_trc_name = TakeWord(line.rest);
+  if (!line.given_standard_name.empty()) line.standard_name = line.given_standard_name;
+  if (!line.given_trc_name.empty()) line.trc_name = line.given_trc_name;
   return true;
+}
+
+bool CannotBeMapped(std::string_view name) {
+  // In front of it stand a standard name of at least one letter and a tab.
+  constexpr std::size_t kLongestName = MappingLineReader::kLongestMappingPiece - 2;
+  return name.empty() || name.size() > kLongestName ||
+         name.find_first_of(kWhiteSpace) != std::string_view::npos ||
+         name.find('\0') != std::string_view::npos;
 }
 
 }  // namespace orvane

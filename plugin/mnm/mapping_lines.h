@@ -1,21 +1,23 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
 
 #include "plugin/text/lines.h"
 
 // The lines of a marker name mapping file: which two names each of them pairs. Every line pairs two
-// names, whatever it holds; who wants to know what it really held asks for the number of words.
+// names, whatever it holds; who wants to know what it really held looks at what was given.
 namespace orvane {
 
 struct MappingLine {
   std::string standard_name;
   std::string trc_name;
-  std::size_t number = 0;  // of the line in the file, counted from 1
-  int words = 0;           // how many of the two names the line itself gives: 0, 1 or 2
-  std::string_view text;   // the line as it is, without its break; a view into the bytes
+
+  // What the line itself gives: views into the bytes. A name that it does not give is empty.
+  Line line;
+  std::string_view given_standard_name;
+  std::string_view given_trc_name;
+  std::string_view rest;  // from the third word on, which is ignored
 };
 
 // Hands out the lines of `bytes`, which must outlive the reader.
@@ -36,5 +38,9 @@ class MappingLineReader {
  private:
   LineReader lines_;
 };
+
+// Whether no mapping can name the marker `name`: a word is not empty, holds no white space and no
+// NUL, and fits into a line.
+bool CannotBeMapped(std::string_view name);
 
 }  // namespace orvane

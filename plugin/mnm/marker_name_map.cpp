@@ -39,7 +39,9 @@ bool MarkerNameMap::Load(const std::string& path) {
   MappingLine line;
   Entry entry{NumberOf(""), NumberOf(""), 0};
   while (reader.Next(line)) {
-    if (line.words > 0) entry = {NumberOf(line.standard_name), NumberOf(line.trc_name), 0};
+    if (!line.given_standard_name.empty()) {
+      entry = {NumberOf(line.standard_name), NumberOf(line.trc_name), 0};
+    }
     AddNumbered(entry);
   }
   return true;

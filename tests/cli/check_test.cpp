@@ -397,7 +397,7 @@ TEST_F(CheckTest, AFolderWithNothingToCheckIsSaidToBeOne) {
   EXPECT_EQ(result.output, "walk.htr: clean: 2 segments, 3 frames\n");
   EXPECT_EQ(result.error,
             "orvane: take: The folder holds no file to check\n"
-            "  Of a folder, files are checked whose names end in .htr.\n");
+            "  Of a folder, files are checked whose names end in .htr, .trc or .mnm.\n");
 }
 
 TEST_F(CheckTest, AFolderThatCannotBeReadIsSaidToBeOne) {

@@ -76,20 +76,39 @@ TEST(MappingLines, EndAtANul) {
   EXPECT_EQ(Read("LFHD\0 Head1\nC7 Back\n"s), (Pairs{{"LFHD", ""}, {"C7", "Back"}}));
 }
 
-TEST(MappingLines, TellNumberTextAndWords) {
-  MappingLineReader reader("LFHD Head1\n\nC7\n");
+TEST(MappingLines, TellWhatALineItselfGives) {
+  MappingLineReader reader(" LFHD  Head1\t of take 2 \n\nC7\n");
   MappingLine line;
   ASSERT_TRUE(reader.Next(line));
-  EXPECT_EQ(line.number, 1U);
-  EXPECT_EQ(line.words, 2);
-  EXPECT_EQ(line.text, "LFHD Head1");
+  EXPECT_EQ(line.line.number, 1U);
+  EXPECT_EQ(line.line.text, " LFHD  Head1\t of take 2 ");
+  EXPECT_EQ(line.given_standard_name, "LFHD");
+  EXPECT_EQ(line.given_trc_name, "Head1");
+  EXPECT_EQ(line.rest, "of take 2 ");
   ASSERT_TRUE(reader.Next(line));
-  EXPECT_EQ(line.number, 2U);
-  EXPECT_EQ(line.words, 0);
+  EXPECT_EQ(line.line.number, 2U);
+  EXPECT_EQ(line.given_standard_name, "");
+  EXPECT_EQ(line.given_trc_name, "");
+  EXPECT_EQ(line.rest, "");
   ASSERT_TRUE(reader.Next(line));
-  EXPECT_EQ(line.number, 3U);
-  EXPECT_EQ(line.words, 1);
+  EXPECT_EQ(line.line.number, 3U);
+  EXPECT_EQ(line.given_standard_name, "C7");
+  EXPECT_EQ(line.given_trc_name, "");
   EXPECT_FALSE(reader.Next(line));
+}
+
+TEST(MappingLines, CannotNameEveryMarker) {
+  using namespace std::string_literals;
+  for (const std::string& name :
+       {""s, "Head 1"s, " Head"s, "Head\t1"s, "a\0b"s, std::string(1022, 'x')}) {
+    EXPECT_TRUE(CannotBeMapped(name)) << name;
+  }
+  const std::string longest(1021, 'x');
+  for (const std::string& name : {"Head1"s, "%s"s, "\xFF"s, "a\xC2\xA0z"s, longest}) {
+    EXPECT_FALSE(CannotBeMapped(name)) << name;
+    EXPECT_EQ(Read("a\t" + name).back(), std::make_pair("a"s, name));
+  }
+  EXPECT_EQ(Read("a\t" + longest + "x").size(), 2U);
 }
 
 }  // namespace

@@ -1,0 +1,43 @@
+#pragma once
+
+#include <CLI/CLI.hpp>
+#include <string>
+#include <vector>
+
+#include "cli/check_report.h"
+#include "cli/exit_status.h"
+#include "cli/failure.h"
+
+// What verbs do with the findings that they make: flags, output and exit status.
+
+namespace cli {
+
+struct CheckManner {
+  FindingSeverity tolerated = FindingSeverity::kNote;
+  bool json = false;
+};
+
+// Adds the flags to `verb` that set `manner`, which must outlive the parsing.
+void AddCheckManner(CLI::App& verb, CheckManner& manner);
+
+// Tells of files as they come, or of all at the end when that is JSON.
+class CheckResults {
+ public:
+  explicit CheckResults(const CheckManner& manner) : manner_(manner) {}
+
+  void Add(CheckedFile file);
+  // A file that could not be checked.
+  void Add(const Failure& failure);
+
+  // Called once, when all files are told of. Returns the status to end with.
+  ExitStatus Finish();
+
+ private:
+  void Raise(ExitStatus status) { status_ = std::max(status_, status); }
+
+  const CheckManner& manner_;
+  std::vector<CheckedFile> files_;
+  ExitStatus status_ = ExitStatus::kDone;
+};
+
+}  // namespace cli

@@ -1,0 +1,45 @@
+#include "cli/map_lint.h"
+
+#include <memory>
+
+#include "cli/check_results.h"
+#include "cli/file_kind.h"
+#include "cli/mnm_check.h"
+
+namespace cli {
+namespace {
+
+struct LintArguments {
+  std::string mapping;
+  std::string capture;  // empty for none
+  CheckManner manner;
+};
+
+std::vector<CheckedFile> Lint(const LintArguments& arguments) {
+  if (arguments.capture.empty()) return {CheckMnmFile(arguments.mapping)};
+  return CheckMapping(arguments.mapping, ReadableFile(arguments.capture, FileKind::kTrc));
+}
+
+ExitStatus Run(const LintArguments& arguments) {
+  CheckResults results(arguments.manner);
+  try {
+    for (CheckedFile& file : Lint(arguments)) results.Add(std::move(file));
+  } catch (const Failure& failure) {
+    results.Add(failure);
+  }
+  return results.Finish();
+}
+
+}  // namespace
+
+void AddMapLint(CLI::App& map, Work& work) {
+  auto arguments = std::make_shared<LintArguments>();
+  CLI::App* verb = map.add_subcommand("lint", "Name everything that is odd in a mapping");
+  verb->add_option("MAPPING", arguments->mapping, "The MNM file")->required()->type_name("");
+  verb->add_option("FILE", arguments->capture, "A TRC file whose markers are to be mapped")
+      ->type_name("");
+  AddCheckManner(*verb, arguments->manner);
+  verb->callback([arguments, &work] { work = [arguments] { return Run(*arguments); }; });
+}
+
+}  // namespace cli

@@ -1,0 +1,113 @@
+#include "cli/mnm_check.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "cli/file_bytes.h"
+#include "cli/mnm_entries.h"
+#include "cli/mnm_rules.h"
+#include "cli/similar_words.h"
+#include "cli/trc_markers.h"
+#include "plugin/mnm/mapping_lines.h"
+
+namespace cli {
+namespace {
+
+using mnm::Entries;
+using mnm::Entry;
+
+CheckedFile NewReport(const std::string& file, const Entries& entries) {
+  return {file, "MNM", CountOf(entries.InForce().size(), "marker") + " mapped", {}};
+}
+
+// What a mapping and the markers of a capture are to each other.
+class Comparison {
+ public:
+  Comparison(const std::string& mapping, const Entries& entries,
+             const std::vector<TrcMarkerName>& markers)
+      : mapping_(mapping), entries_(entries), markers_(markers) {
+    for (const TrcMarkerName& marker : markers) names_.insert(marker.name);
+  }
+
+  void CheckEntries(FindingList& findings) const {
+    for (const Entry& entry : entries_.InForce()) {
+      if (!IsUsed(entry)) AddUnused(entry, findings);
+    }
+  }
+
+  void CheckMarkers(FindingList& findings) const {
+    for (const TrcMarkerName& marker : markers_) {
+      if (!IsMapped(marker)) AddUnmapped(marker, findings);
+    }
+  }
+
+ private:
+  bool IsUsed(const Entry& entry) const { return names_.count(entry.trc_name) > 0; }
+  bool IsMapped(const TrcMarkerName& marker) const { return entries_.Find(marker.name) != nullptr; }
+
+  void AddUnused(const Entry& entry, FindingList& findings) const {
+    Finding* finding = findings.Add(mnm::kEntryUnused, entry.line, entry.column);
+    if (finding == nullptr) return;
+    const auto meant =
+        std::find_if(markers_.begin(), markers_.end(), [this, &entry](const TrcMarkerName& marker) {
+          return !IsMapped(marker) && LooksLike(entry.trc_name, marker.name);
+        });
+    finding->found = Quote(entry.trc_name);
+    finding->expected = meant == markers_.end() ? "a marker of the capture" : Quote(meant->name);
+    finding->effect = "The capture has no such marker: the line changes nothing.";
+  }
+
+  void AddUnmapped(const TrcMarkerName& marker, FindingList& findings) const {
+    const bool cannot = orvane::CannotBeMapped(marker.name);
+    Finding* finding = findings.Add(cannot ? mnm::kMarkerUnmappable : mnm::kMarkerUnmapped,
+                                    marker.place.line, marker.place.column);
+    if (finding == nullptr) return;
+    finding->found = Quote(marker.name);
+    finding->expected =
+        cannot ? "a name of one word, which a mapping can name" : ExpectedFor(marker);
+    finding->effect = "The marker is dropped.";
+  }
+
+  std::string ExpectedFor(const TrcMarkerName& marker) const {
+    const auto& entries = entries_.InForce();
+    const auto meant =
+        std::find_if(entries.begin(), entries.end(), [this, &marker](const Entry& entry) {
+          return !IsUsed(entry) && LooksLike(marker.name, entry.trc_name);
+        });
+    if (meant == entries.end()) return "an entry for it in " + mapping_;
+    return Quote(meant->trc_name) + ", as in " + mapping_;
+  }
+
+  const std::string& mapping_;
+  const Entries& entries_;
+  const std::vector<TrcMarkerName>& markers_;
+  std::unordered_set<std::string_view> names_;  // of the markers
+};
+
+}  // namespace
+
+CheckedFile CheckMnmFile(const std::string& file) {
+  const std::string bytes = FileBytes(file);
+  FindingList findings;
+  const Entries entries(bytes, findings);
+  CheckedFile checked = NewReport(file, entries);
+  checked.findings = std::move(findings);
+  return checked;
+}
+
+std::vector<CheckedFile> CheckMapping(const std::string& file, const std::string& capture) {
+  const std::string bytes = FileBytes(file);
+  const std::vector<TrcMarkerName> markers = ReadTrcMarkers(capture);
+  FindingList findings;
+  const Entries entries(bytes, findings);
+  const Comparison comparison(file, entries, markers);
+  comparison.CheckEntries(findings);
+
+  CheckedFile mapping = NewReport(file, entries);
+  mapping.findings = std::move(findings);
+  CheckedFile captured{capture, "TRC", CountOf(markers.size(), "marker"), {}};
+  comparison.CheckMarkers(captured.findings);
+  return {std::move(mapping), std::move(captured)};
+}
+
+}  // namespace cli

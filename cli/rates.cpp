@@ -1,0 +1,28 @@
+#include "cli/rates.h"
+
+#include "host/animation/animation_state.h"
+#include "plugin/text/numbers.h"
+
+namespace cli {
+
+using orvane::FormatInt;
+
+bool IsRate(std::int32_t frames_per_second) {
+  return frames_per_second >= host::kMinimumFrameRate &&
+         frames_per_second <= host::kMaximumFrameRate;
+}
+
+std::string ExpectedRate() {
+  return FormatInt(host::kMinimumFrameRate) + " to " + FormatInt(host::kMaximumFrameRate) +
+         " frames per second";
+}
+
+std::string EffectOfCutRate(std::string_view cell) {
+  const std::int32_t taken = orvane::ParseInt(cell);
+  const std::string effect = FormatInt(taken) + " is taken";
+  if (taken <= 0) return effect + ".";
+  const double seconds = 60.0 * orvane::ParseDouble(cell) / taken;
+  return effect + ": a minute lasts " + orvane::FormatDouble(seconds, 2) + " s.";
+}
+
+}  // namespace cli

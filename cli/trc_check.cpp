@@ -1,0 +1,133 @@
+#include "cli/trc_check.h"
+
+#include <algorithm>
+
+#include "cli/failure.h"
+#include "cli/file_bytes.h"
+#include "cli/frame_counts.h"
+#include "cli/soundness.h"
+#include "cli/trc_parts.h"
+#include "cli/trc_rules.h"
+#include "cli/trc_watcher.h"
+#include "plugin/text/numbers.h"
+#include "plugin/trc/document_checker.h"
+
+namespace cli {
+namespace {
+
+using orvane::FormatInt;
+using orvane::TRCDocument;
+using orvane::TRCHeaderValue;
+using orvane::TRCMarker;
+using orvane::TRCPlace;
+
+TRCPlace EndOf(std::string_view bytes) {
+  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+  const std::size_t last_break = bytes.rfind('\n');
+  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
+  return {breaks + 1, bytes.size() - last_line + 1, 0};
+}
+
+// What can be said of a file only when all of it has been read.
+class WholeFile {
+ public:
+  WholeFile(const TRCDocument& document, const trc::Parts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
+
+  void Check() {
+    if (document_.MarkerCount() == 0) return AddMarkersMissing();
+    CheckFrameCount();
+    for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
+      CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
+    }
+  }
+
+ private:
+  void Add(const FindingRule& rule, TRCPlace place, std::string found, std::string expected,
+           std::string effect) {
+    Finding* const finding = findings_.Add(rule, place.line, place.column);
+    if (finding == nullptr) return;
+    finding->found = std::move(found);
+    finding->expected = std::move(expected);
+    finding->effect = std::move(effect);
+  }
+
+  void AddMarkersMissing() {
+    Add(trc::kMarkersMissing, parts_.end, "no marker",
+        "names in the fourth line, a tab behind each", "The import makes nothing of the file.");
+  }
+
+  void CheckFrameCount() {
+    const auto held = static_cast<std::int64_t>(document_.MarkerAt(0)->SampleCount());
+    const std::int64_t announced = document_.NumFrames();
+    if (held == announced) return;
+    const TRCPlace place = parts_.Value(TRCHeaderValue::kNumFrames).value_or(parts_.end);
+    if (IsOutOfProportion(announced, {announced, held, held})) {
+      return Add(trc::kFramesTooMany, place, FormatInt(announced),
+                 "about " + FormatInt(held) + ", as many as there are",
+                 "The import is refused, unless --range FROM:TO takes a part of them.");
+    }
+    Add(trc::kFrameCount, place, FormatInt(announced) + ", as NumFrames says",
+        FormatInt(held) + ", as many as there are", EffectOfCount(announced, held));
+  }
+
+  static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
+    if (announced > held) {
+      return "The import sets the missing frames to the origin; a converted file has dropouts.";
+    }
+    if (announced <= 0) return "No frame is imported.";
+    return "Only the announced frames are imported.";
+  }
+
+  // One finding for a marker, however often it drops out.
+  void CheckGaps(const TRCMarker& marker, TRCPlace name) {
+    const auto gaps = marker.Gaps();
+    if (gaps.empty()) return;
+    if (marker.Positions().empty()) {
+      return Add(trc::kMarkerNeverSeen, name, "no position of " + Quote(marker.Name()),
+                 "one in every frame", "The import makes an object that stays at the origin.");
+    }
+    const auto longest =
+        std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
+          return left.end - left.begin < right.end - right.begin;
+        });
+    Add(trc::kMarkerGaps, {parts_.LineOfFrame(longest->begin), 1, 0},
+        DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
+        "The import sets those frames to the origin; a converted file has dropouts.");
+  }
+
+  static std::string DescribeGaps(const TRCMarker& marker, std::size_t longest) {
+    const std::size_t missing = marker.SampleCount() - marker.Positions().size();
+    std::string text =
+        "no position of " + Quote(marker.Name()) + " in " + CountOf(missing, "frame");
+    if (marker.Gaps().size() == 1) return text + " from here on";
+    return text + ": " + CountOf(marker.Gaps().size(), "gap") + ", the longest of " +
+           CountOf(longest, "frame") + " from here on";
+  }
+
+  const TRCDocument& document_;
+  const trc::Parts& parts_;
+  FindingList& findings_;
+};
+
+}  // namespace
+
+CheckedFile CheckTrcFile(const std::string& file) {
+  const std::string bytes = FileBytes(file);
+  CheckedFile checked{file, "TRC", {}, {}};
+  TRCDocument document;
+  trc::Parts parts;
+  parts.end = EndOf(bytes);
+  trc::Watcher watcher(document, parts, checked.findings);
+  const std::string message = document.ReadBytes(bytes, false, &watcher);
+  if (!message.empty() && !watcher.HasRefused()) {
+    throw Failure{ExitStatus::kInputOutput, {{file, message, "There may be too little memory."}}};
+  }
+  RequireSound(file, orvane::FindFault(document));
+  if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
+  const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
+  checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
+  return checked;
+}
+
+}  // namespace cli
