@@ -226,6 +226,11 @@ INSTANTIATE_TEST_SUITE_P(
                 "column 14)"},
         Warning{"BlankValue", "1000\t2000", " \t2000",
                 "A value is missing and taken as 0 (line 7, column 9)"},
+        Warning{"CountOutOfRange", "60\t3\t2\tmm", "60\t3\t6e9\tmm",
+                "A value is out of range; the nearest, or infinity, is taken: \"6e9\" (line 3, "
+                "column 10)"},
+        Warning{"CountWithFraction", "60\t3\t2\tmm", "60\t3\t2.5\tmm",
+                "A whole number loses its fraction: \"2.5\" (line 3, column 10)"},
         Warning{"NoX", "1000\t2000", "\t2000",
                 "A sample that does not begin with X is a dropout: \"2000\" (line 7, column 10, "
                 "the first of 2)"},
