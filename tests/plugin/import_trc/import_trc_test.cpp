@@ -293,6 +293,17 @@ TEST_F(ImportTRCTest, OneFrameIsKeyedAndLeavesTheRange) {
   EXPECT_EQ(scene().Animation().Range(), before);
 }
 
+TEST_F(ImportTRCTest, OneFrameOfAFileOfSeveralSetsTheRange) {
+  ImportWith([](host::ScriptedDialog& dialog) {
+    dialog.Click(kRange);
+    dialog.Type(kFrom, "2");
+    dialog.Type(kTo, "2");
+    dialog.Click(kOk);
+  });
+  EXPECT_EQ(KeyTicks("LFHD"), (Ticks{2 * 160}));
+  EXPECT_EQ(scene().Animation().Range(), Interval(160, 2 * 160));
+}
+
 TEST_F(ImportTRCTest, TheRangeGoesFromFrame1ToOneBehindTheLast) {
   Import(TwoMarkers());
   EXPECT_EQ(scene().Animation().Range(), Interval(160, 4 * 160));
@@ -420,6 +431,8 @@ TEST_F(ImportTRCTest, SelectedItemsOnlyMeansNothingWhenCreating) {
 TEST_F(ImportTRCApplyTest, ARootNodeTakesFoundNodesWithTheirLocalValues) {
   host::Node& group = AddNode("Group");
   AddNode("LFHD", &group);
+  const Point3 aside(100, 0, 0);
+  group.GetTMController()->GetPositionController()->SetValue(0, &aside, 1, CTRL_ABSOLUTE);
   scene().Select(group);
   options_.rootNode = true;
   Import(TwoMarkers());
