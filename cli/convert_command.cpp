@@ -1,7 +1,9 @@
 #include "cli/convert_command.h"
 
 #include <algorithm>
+#include <cmath>
 #include <iostream>
+#include <limits>
 #include <map>
 #include <memory>
 
@@ -35,6 +37,14 @@ struct ConvertArguments {
   bool quiet = false;
 };
 
+// Whether the panel takes `text` for a number; it passes over what is none without a word.
+bool IsOffset(const std::string& text) {
+  const char* const last = text.data() + text.size();
+  const orvane::LeadingDouble number = orvane::ReadDouble(text.data(), last);
+  return !text.empty() && number.end == last &&
+         std::abs(number.value) <= double{std::numeric_limits<float>::max()};
+}
+
 // The texts between the commas of `text`, if they are three numbers.
 std::optional<OffsetWish> ReadOffset(const std::string& text) {
   std::vector<std::string> numbers(1);
@@ -45,12 +55,9 @@ std::optional<OffsetWish> ReadOffset(const std::string& text) {
       numbers.back() += character;
     }
   }
-  const bool are_numbers =
-      std::all_of(numbers.begin(), numbers.end(), [](const std::string& number) {
-        const char* const last = number.data() + number.size();
-        return !number.empty() && orvane::ReadDouble(number.data(), last).end == last;
-      });
-  if (numbers.size() != 3 || !are_numbers) return std::nullopt;
+  if (numbers.size() != 3 || !std::all_of(numbers.begin(), numbers.end(), IsOffset)) {
+    return std::nullopt;
+  }
   return OffsetWish{numbers[0], numbers[1], numbers[2], true};
 }
 
