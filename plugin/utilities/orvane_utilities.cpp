@@ -75,6 +75,7 @@ struct OrvaneUtilities::Work {
   ConvertBVK converter;
   MappingCreator* creator = nullptr;  // the one that is at work
   bool busy = false;                  // a conversion or a creator is at work
+  bool shown = false;                 // the panel is open
 };
 
 // Marks the time of a command, during which no other one is taken up.
@@ -109,6 +110,7 @@ OrvaneUtilities::~OrvaneUtilities() { Close(); }
 void OrvaneUtilities::BeginEditParams(Interface* interface, IUtil* utility) {
   interface_ = interface;
   utility_ = utility;
+  work_->shown = true;
   if (page_ != nullptr) return;
   page_ = interface->AddRollupPage(module_, IDD_UTILITIES, platform::HandlerProcedure(),
                                    strings_.GetString(module_, IDS_CONVERT_TRC_TO_BVK),
@@ -122,6 +124,7 @@ void OrvaneUtilities::Close() {
   interface_->ClearPickMode();
   if (work_->creator != nullptr) work_->creator->End();
   work_->converter.SaveSettings();
+  work_->shown = false;
   if (page_ != nullptr) interface_->DeleteRollupPage(page_);
   page_ = nullptr;
   interface_ = nullptr;
@@ -205,20 +208,24 @@ void OrvaneUtilities::Answer(platform::Dialog& dialog, int control) {
   }
 }
 
+// While the user chooses, the panel may be closed and this object deleted. Then nothing was chosen.
 void OrvaneUtilities::BrowseMapping(platform::Dialog& dialog) {
+  const std::shared_ptr<Work> work = work_;
   platform::FileDialog file_dialog;
   file_dialog.owner = interface_->GetSkelderHWnd();
   file_dialog.file_must_exist = true;
   const std::optional<std::string> path = ChooseMappingFile(file_dialog, strings_, module_);
-  if (!path) return;
-  work_->converter.mnmPath = *path;
+  if (!path || !work->shown) return;
+  work->converter.mnmPath = *path;
   dialog.SetText(IDC_MAPPING_FILE, Shown(*path));
 }
 
+// As BrowseMapping.
 void OrvaneUtilities::BrowseOutput(platform::Dialog& dialog) {
+  const std::shared_ptr<Work> work = work_;
   const std::optional<std::string> folder = ChooseOutputFolder(interface_->GetSkelderHWnd());
-  if (!folder) return;
-  work_->converter.outputPath = *folder;
+  if (!folder || !work->shown) return;
+  work->converter.outputPath = *folder;
   dialog.SetText(IDC_OUTPUT_FOLDER, Shown(*folder));
 }
 

@@ -202,6 +202,28 @@ TEST_F(UtilityPanelTest, AsksForAMappingFile) {
   EXPECT_EQ(Stored("MNMPath"), path);
 }
 
+TEST_F(UtilityPanelTest, MayBeClosedOrDeletedWhileTheUserChooses) {
+  const std::string path = Write("set.mnm", "");
+  for (const int button : {kBrowseMapping, kBrowseOutput}) {
+    for (const bool is_deleted : {false, true}) {
+      const auto close = [&] { is_deleted ? panel_->Delete() : panel_->Close(); };
+      desk_.ChooseFiles([&](const platform::FileDialog&) {
+        close();
+        return host::FileChoice{{path}};
+      });
+      desk_.ChooseFolder([&](const std::string&) {
+        close();
+        return folder_.Path().string();
+      });
+      Open();
+      Page().Click(button);
+      panel_->Delete();
+      EXPECT_EQ(Stored("MNMPath"), "<none>");
+      EXPECT_EQ(Stored("OutputPath"), "<none>");
+    }
+  }
+}
+
 TEST_F(UtilityPanelTest, AsksForAnOutputFolder) {
   const std::string folder = folder_.Path().string();
   desk_.ChooseFolder([&folder](const std::string& title) {
