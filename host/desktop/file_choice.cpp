@@ -1,7 +1,6 @@
 #include "host/desktop/file_choice.h"
 
 #include <algorithm>
-#include <cstring>
 #include <filesystem>
 #include <system_error>
 
@@ -64,7 +63,7 @@ bool WriteTexts(const std::vector<std::string>& texts, char* buffer, std::size_t
   for (const std::string& text : texts) bytes += text + '\0';
   if (bytes.size() > size) return false;
   if (bytes.size() < size) bytes += '\0';
-  std::memcpy(buffer, bytes.data(), bytes.size());
+  std::copy(bytes.begin(), bytes.end(), buffer);
   return true;
 }
 
