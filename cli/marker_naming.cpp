@@ -1,5 +1,6 @@
 #include "cli/marker_naming.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <unordered_map>
 
@@ -42,6 +43,12 @@ std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) cons
   std::string name = marker;
   if (use_mapping_ && !mapping_.Lookup(name)) return std::nullopt;
   return name;
+}
+
+bool MarkerNaming::KeepsAny(const orvane::TRCDocument& document) const {
+  return std::any_of(
+      document.markers().begin(), document.markers().end(),
+      [this](const orvane::TRCMarker& marker) { return NameFor(marker.Name()).has_value(); });
 }
 
 std::vector<std::string> MarkerNaming::DescribeClashes(const orvane::TRCDocument& document) const {

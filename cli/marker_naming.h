@@ -20,6 +20,9 @@ class MarkerNaming {
   // The name that `marker` is written under; nothing when it is dropped.
   std::optional<std::string> NameFor(const std::string& marker) const;
 
+  // Whether any marker of `document` is written.
+  bool KeepsAny(const orvane::TRCDocument& document) const;
+
   // What is to be said of the markers of `document` that are written under one name: a text for
   // each such name, in the order of the first markers.
   std::vector<std::string> DescribeClashes(const orvane::TRCDocument& document) const;

@@ -4,11 +4,29 @@
 #include <optional>
 
 #include "cli/frame_counts.h"
+#include "cli/input.h"
 #include "cli/trc_outline.h"
 #include "platform/input_file.h"
 #include "plugin/trc/document.h"
 
 namespace cli {
+namespace {
+
+void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
+                   const MarkerNaming& naming) {
+  if (document.MarkerCount() == 0) {
+    conversion.warnings.push_back(ComplainAbout(conversion.input, "The file holds no markers"));
+  } else if (!naming.KeepsAny(document)) {
+    conversion.warnings.push_back({conversion.input, "The mapping has none of the file's markers",
+                                   "\"orvane map lint\" compares the two."});
+  }
+  for (const std::string& clash : naming.DescribeClashes(document)) {
+    conversion.warnings.push_back(
+        {conversion.input, clash, "Who reads the output cannot tell them apart."});
+  }
+}
+
+}  // namespace
 
 void RequireInput(Conversion& conversion) {
   if (conversion.status != ConversionStatus::kPlanned) return;
@@ -40,10 +58,7 @@ void JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
                                    are_missing ? "Missing frames are written as dropouts."
                                                : "Only the announced frames are written."});
   }
-  for (const std::string& clash : naming.DescribeClashes(document)) {
-    conversion.warnings.push_back(
-        {conversion.input, clash, "Who reads the output cannot tell them apart."});
-  }
+  WarnOfMarkers(conversion, document, naming);
 }
 
 }  // namespace cli

@@ -13,8 +13,9 @@ void RequireInput(Conversion& conversion);
 
 // Looks at the input of `conversion` and notes in it how many markers it has, as dropped ones. When
 // frames are missing or left out it gets a warning, and when that is out of proportion it is
-// refused. It gets a warning too when `naming` makes one name of several markers. A file that
-// cannot be read is settled; one that the reader refuses is left to the plug-in, which tells that.
+// refused. It gets a warning too when there is no marker to write, or `naming` makes one name of
+// several. A file that cannot be read is settled; one that the reader refuses is left to the
+// plug-in, which tells that.
 void JudgeInput(Conversion& conversion, const MarkerNaming& naming);
 
 }  // namespace cli

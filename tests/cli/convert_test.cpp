@@ -109,6 +109,20 @@ TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
             json::array({"5 markers are written as C7: a, b, c, ..."}));
 }
 
+TEST_F(ConvertTest, WarnsOfOutputsWithoutMarkers) {
+  Write("empty.trc", "");
+  Write("walk.trc", Take());
+  Write("map.mnm", "HEAD\thead1\t\n");
+  const ProgramResult result = Convert({"empty.trc", "walk.trc", "--mapping", "map.mnm"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: empty.trc: The file holds no markers\n"
+            "  Is it a TRC file? The fourth line names the markers, with three tabs behind each.\n"
+            "orvane: walk.trc: The mapping has none of the file's markers\n"
+            "  \"orvane map lint\" compares the two.\n");
+  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$NumMarkers 0\n"));
+}
+
 TEST_F(ConvertTest, AddsTheOffsetInEitherSpace) {
   Write("walk.trc", Take());
   EXPECT_EQ(Convert({"walk.trc", "--offset", "10,20,40"}).status, 0);
