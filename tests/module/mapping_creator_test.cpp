@@ -480,6 +480,18 @@ TEST_F(MappingCreatorTest, ClosingThePanelWhileAFileIsChosenWritesNothing) {
   EXPECT_FALSE(std::filesystem::exists(folder_.File("made.mnm")));
 }
 
+TEST_F(MappingCreatorTest, ThePanelMayBeDeletedWhileItTellsItsSuccess) {
+  std::size_t redraws = 0;
+  desk_.WhenTold([&] {
+    panel_->Delete();
+    redraws = application_.scene().RedrawCount();
+  });
+  Create();
+  ExpectNothingLeft();
+  EXPECT_EQ(Made(), FileOf(kCodes));
+  EXPECT_EQ(application_.scene().RedrawCount(), redraws) << "the host is touched no more";
+}
+
 class OtherPickMode final : public IdlePickMode {};
 
 TEST_F(MappingCreatorTest, ClosingThePanelLeavesAnyPickMode) {
@@ -490,6 +502,7 @@ TEST_F(MappingCreatorTest, ClosingThePanelLeavesAnyPickMode) {
 }
 
 TEST_F(MappingCreatorTest, OneCommandIsAtWorkAtATime) {
+  LoadMapping("");
   Plan("LBHD", [this] {
     Page().Click(kCreateMapping);
     Page().Click(kConvert);

@@ -21,8 +21,9 @@ class Desk {
     host::ScriptedUser user;
     user.answer_dialog = [this](host::ScriptedDialog& dialog) { AnswerNext(dialog); };
     user.answer_message = [this](const host::MessageBox& message) {
-      return message.style == platform::MessageBoxStyle::kOk ? platform::kMessageBoxOk
-                                                             : next_choice_;
+      if (message.style != platform::MessageBoxStyle::kOk) return next_choice_;
+      if (when_told_) when_told_();
+      return platform::kMessageBoxOk;
     };
     user.choose_files = [this](const platform::FileDialog& dialog) {
       if (!choose_files_) throw host::ScriptError(std::string("Nobody expects ") + dialog.title);
@@ -49,6 +50,9 @@ class Desk {
 
   // The button for questions.
   void Choose(platform::MessageBoxResult choice) { next_choice_ = choice; }
+
+  // What happens while a message that asks nothing is shown.
+  void WhenTold(std::function<void()> happen) { when_told_ = std::move(happen); }
 
   // What the user does in the dialogs for files and folders from now on.
   void ChooseFiles(std::function<host::FileChoice(const platform::FileDialog&)> choose) {
@@ -82,6 +86,7 @@ class Desk {
   host::ScriptedDesktop desktop_{registry_};
   std::deque<DialogAnswer> answers_;
   platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
+  std::function<void()> when_told_;
   std::function<host::FileChoice(const platform::FileDialog&)> choose_files_;
   std::function<std::string(const std::string&)> choose_folder_;
   std::function<bool()> act_;
