@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+
 #include "host/gltf/document.h"
 #include "host/gltf/file_parts.h"
 #include "host/gltf/node_tree.h"
@@ -12,7 +14,7 @@ namespace host::gltf {
 
 // The extension that it is known by.
 inline constexpr char kExtensionName[] = "ORVANE_scene";
-inline constexpr int kExtensionVersion = 2;
+inline constexpr std::uint32_t kExtensionVersion = 2;
 
 // Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
 // finite.

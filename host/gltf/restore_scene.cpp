@@ -187,11 +187,18 @@ JsonField Extension(const JsonField& document) {
   return *own;
 }
 
+void RequireOurVersion(std::uint32_t version) {
+  if (version == kExtensionVersion) return;
+  throw Refusal("The scene in the file is kept in form " + std::to_string(version) +
+                ", and this program reads form " + std::to_string(kExtensionVersion) +
+                ": read the file with the program that wrote it, or make it again.");
+}
+
 }  // namespace
 
 void RestoreScene(const FileParts& file, Scene& scene) {
   const JsonField extension = Extension(JsonField(file.document, ""));
-  extension.Member(field::kVersion).Whole(kExtensionVersion, kExtensionVersion);
+  RequireOurVersion(extension.Member(field::kVersion).Word());
   std::string_view lines = StoredView(file, extension.Member(field::kScene));
   const nlohmann::json kept = ParsedJson(TakeLine(lines));
   const JsonField record(kept, "");

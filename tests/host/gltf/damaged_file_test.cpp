@@ -122,12 +122,15 @@ TEST(DamagedFile, WithoutOurExtensionIsRefused) {
   EXPECT_EQ(Refusal("{\"asset\": {\"version\": \"2.0\"}}"), kRefusal);
 }
 
-TEST(DamagedFile, OfALaterFormIsRefused) {
-  OpenFile file(SmallFile());
-  file.document["extensions"]["ORVANE_scene"]["version"] = 3;
-  EXPECT_EQ(Refusal(file.Bytes()),
-            "The scene in the file is damaged: extensions.ORVANE_scene.version is no whole number "
-            "from 2 to 2.");
+TEST(DamagedFile, OfAnotherFormIsRefused) {
+  for (const int version : {1, 3}) {
+    OpenFile file(SmallFile());
+    file.document["extensions"]["ORVANE_scene"]["version"] = version;
+    EXPECT_EQ(Refusal(file.Bytes()),
+              "The scene in the file is kept in form " + std::to_string(version) +
+                  ", and this program reads form 2: read the file with the program that wrote it, "
+                  "or make it again.");
+  }
 }
 
 TEST(DamagedFile, CutAtAnyByteIsRefused) {
