@@ -147,7 +147,7 @@ TEST_F(MapCreateTest, SaysWhichFileCannotBeRead) {
 TEST_F(MapCreateTest, DeliversNoFileThatTheDiskDidNotTake) {
   Write("walk.trc", MarkerFile(kNeeded));
   Write("picks", Table(kNeeded));
-  for (const unsigned long size : {0, 200, 349, 383}) {
+  for (const unsigned long size : {0UL, 200UL, 349UL, 383UL}) {
     ASSERT_LT(size, MappingOf(kNeeded).size());
     ProgramRun run = Command({"map", "create", "walk.trc", "-o", "set.mnm", "--picks", "picks"});
     run.largest_file = size;
