@@ -129,7 +129,7 @@ TEST(HtrDocument, FindsSegmentsInAnyOrder) {
                                   document.AddSegment(HtrSegment("b")),
                                   document.AddSegment(HtrSegment("c"))};
   const char* const names[] = {"a", "b", "c"};
-  for (const std::size_t i : {0, 1, 2, 0, 2, 1, 1, 2, 2, 0}) {
+  for (const std::size_t i : {0U, 1U, 2U, 0U, 2U, 1U, 1U, 2U, 2U, 0U}) {
     EXPECT_EQ(document.FindSegment(names[i]), segments[i]);
     EXPECT_EQ(document.FindSegment("d"), nullptr);
   }
