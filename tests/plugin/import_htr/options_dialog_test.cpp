@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "platform/module.h"
-#include "tests/support/desk.h"
 #include "tests/support/fake_dialog.h"
+#include "tests/support/options_dialog_fixture.h"
 #include "tests/support/refusing_desktop.h"
 
 namespace orvane {
@@ -32,42 +32,14 @@ constexpr int kAbout = 1103;
 constexpr int kSegmentSize = 1104;
 constexpr int kSetFrameRate = 1140;
 
-class ImportHTROptionsDialogTest : public testing::Test {
+class ImportHTROptionsDialogTest
+    : public test::OptionsDialogFixture<ImportHTROptionsDialog, ImportHTROptions> {
  protected:
-  // The bounds that most tests start from.
-  void SetUp() override {
-    options_.startFrame = 1;
-    options_.endFrame = 100;
-  }
-
-  void TearDown() override {
-    desk_.desktop().RethrowFailure();
-    EXPECT_TRUE(desk_.AllAnswered());
-  }
-
-  ImportHTROptionsDialog Dialog() {
-    return ImportHTROptionsDialog(options_, sink_, &parent_, platform::ModuleHandle());
-  }
-
-  // Shows the dialog to `user`; a dialog that the user leaves open is cancelled.
-  bool Show(const test::Desk::DialogAnswer& user) {
-    desk_.Expect([&user](host::ScriptedDialog& dialog) {
-      user(dialog);
-      if (!dialog.HasEnded()) dialog.Click(kCancel);
-    });
-    return Dialog().Show();
-  }
-
   bool IsSaved() {
     return desk_.registry()
         .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR", "Apply")
         .has_value();
   }
-
-  test::Desk desk_;
-  HWND__ parent_;
-  ImportHTROptions options_;
-  MessageSink sink_;
 };
 
 TEST_F(ImportHTROptionsDialogTest, IsCentredOverItsParentAndTitled) {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "platform/module.h"
-#include "tests/support/desk.h"
 #include "tests/support/fake_dialog.h"
+#include "tests/support/options_dialog_fixture.h"
 #include "tests/support/refusing_desktop.h"
 
 namespace orvane {
@@ -31,42 +31,14 @@ constexpr int kPoint = 1142;
 constexpr int kSelectedOnly = 1143;
 constexpr int kRootNode = 1144;
 
-class ImportTRCOptionsDialogTest : public testing::Test {
+class ImportTRCOptionsDialogTest
+    : public test::OptionsDialogFixture<ImportTRCOptionsDialog, ImportTRCOptions> {
  protected:
-  // The bounds that most tests start from.
-  void SetUp() override {
-    options_.startFrame = 1;
-    options_.endFrame = 100;
-  }
-
-  void TearDown() override {
-    desk_.desktop().RethrowFailure();
-    EXPECT_TRUE(desk_.AllAnswered());
-  }
-
-  ImportTRCOptionsDialog Dialog() {
-    return ImportTRCOptionsDialog(options_, sink_, &parent_, platform::ModuleHandle());
-  }
-
-  // Shows the dialog to `user`; a dialog that the user leaves open is cancelled.
-  bool Show(const test::Desk::DialogAnswer& user) {
-    desk_.Expect([&user](host::ScriptedDialog& dialog) {
-      user(dialog);
-      if (!dialog.HasEnded()) dialog.Click(kCancel);
-    });
-    return Dialog().Show();
-  }
-
   bool IsSaved() {
     return desk_.registry()
         .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportTRC", "Apply")
         .has_value();
   }
-
-  test::Desk desk_;
-  HWND__ parent_;
-  ImportTRCOptions options_;
-  MessageSink sink_;
 };
 
 TEST_F(ImportTRCOptionsDialogTest, IsCentredOverItsParentAndTitled) {
