@@ -56,8 +56,21 @@ endfunction()
 
 # Tells tests where the repository and the build are.
 function(orvane_define_folders target)
+  set(root "")
+  if(WIN32 AND CMAKE_CROSSCOMPILING)
+    set(root "Z:")  # where Wine shows the folders of this system
+  endif()
   target_compile_definitions(${target} PRIVATE
-    ORVANE_SOURCE_DIR="${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${CMAKE_BINARY_DIR}")
+    ORVANE_SOURCE_DIR="${root}${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${root}${CMAKE_BINARY_DIR}")
+endfunction()
+
+# orvane_put_programs(folder target...): where programs come to lie that are for the developers of
+# this project; `folder` is within the build folder. On Windows a program finds the host's library
+# only beside itself, so they all lie there.
+function(orvane_put_programs folder)
+  if(NOT WIN32)
+    set_target_properties(${ARGN} PROPERTIES RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/${folder}")
+  endif()
 endfunction()
 
 # The settings of a test program. The test framework's headers are read once for all of them: half
@@ -82,8 +95,7 @@ function(orvane_test name)
   target_link_libraries(${name} PRIVATE ${ARG_LINKS})
   orvane_apply_test_settings(${name})
   target_precompile_headers(${name} REUSE_FROM orvane_test_framework)
-  set_target_properties(${name} PROPERTIES
-    RUNTIME_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")
+  orvane_put_programs(tests ${name})
   set(labels "")
   if(ARG_LABELS)
     set(labels LABELS "${ARG_LABELS}")

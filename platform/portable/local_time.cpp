@@ -1,11 +1,12 @@
 #include "platform/local_time.h"
 
-#include <array>
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
 #include <ctime>
 #include <optional>
+
+#include "platform/calendar_text.h"
 
 namespace platform {
 namespace {
@@ -31,24 +32,8 @@ std::optional<std::tm> Moment() {
   return moment;
 }
 
-std::string TwoColumns(int number, char filler) {
-  return number < 10 ? filler + std::to_string(number) : std::to_string(number);
-}
-
 }  // namespace
 
-// By hand, because asctime overruns its buffer for years of five digits and strftime follows the
-// locale.
-std::string LocalTimeText() {
-  constexpr std::array<const char*, 7> kDays = {"Sun", "Mon", "Tue", "Wed", "Thu", "Fri", "Sat"};
-  constexpr std::array<const char*, 12> kMonths = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
-                                                   "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
-  const std::tm moment = Moment().value_or(std::tm{});
-  return std::string(kDays.at(static_cast<std::size_t>(moment.tm_wday))) + ' ' +
-         kMonths.at(static_cast<std::size_t>(moment.tm_mon)) + ' ' +
-         TwoColumns(moment.tm_mday, ' ') + ' ' + TwoColumns(moment.tm_hour, '0') + ':' +
-         TwoColumns(moment.tm_min, '0') + ':' + TwoColumns(moment.tm_sec, '0') + ' ' +
-         std::to_string(1900L + moment.tm_year) + '\n';
-}
+std::string LocalTimeText() { return CalendarText(Moment().value_or(std::tm{})); }
 
 }  // namespace platform

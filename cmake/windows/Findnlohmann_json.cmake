@@ -1,0 +1,3 @@
+include(HeadersOnly)
+orvane_headers_only(nlohmann_json::nlohmann_json nlohmann)
+set(nlohmann_json_FOUND TRUE)

@@ -1,0 +1,37 @@
+#include "platform/log_file.h"
+
+#include <windows.h>
+
+namespace platform {
+namespace {
+
+class AppendedFile final : public LogFile {
+ public:
+  explicit AppendedFile(HANDLE file) : file_(file) {}
+  AppendedFile(const AppendedFile&) = delete;
+  AppendedFile& operator=(const AppendedFile&) = delete;
+  ~AppendedFile() override { CloseHandle(file_); }
+
+  void AppendLine(const std::string& line) override {
+    const std::string bytes = line + "\r\n";
+    DWORD written = 0;
+    WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
+  }
+
+ private:
+  HANDLE file_;
+};
+
+}  // namespace
+
+std::string LogFilePath() { return "C:\\Program Files\\Orvane\\OrvaneFileIO_Skelder.log"; }
+
+std::unique_ptr<LogFile> LogFile::Open(const std::string& path) {
+  const HANDLE file =
+      CreateFileA(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                  OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+  if (file == INVALID_HANDLE_VALUE) return nullptr;
+  return std::make_unique<AppendedFile>(file);
+}
+
+}  // namespace platform

@@ -1,0 +1,40 @@
+#include "platform/registry.h"
+
+#include <windows.h>
+
+namespace platform {
+namespace {
+
+HKEY HandleOf(RegistryKey* key) { return reinterpret_cast<HKEY>(key); }
+
+}  // namespace
+
+RegistryKey* CreateRegistryKey(RegistryKey* parent, const char* path) {
+  char no_class[] = "";
+  HKEY key = nullptr;
+  const LSTATUS status =
+      RegCreateKeyExA(parent == nullptr ? HKEY_CURRENT_USER : HandleOf(parent), path, 0, no_class,
+                      0, KEY_ALL_ACCESS, nullptr, &key, nullptr);
+  return status == ERROR_SUCCESS ? reinterpret_cast<RegistryKey*>(key) : nullptr;
+}
+
+void CloseRegistryKey(RegistryKey* key) {
+  if (key != nullptr) RegCloseKey(HandleOf(key));
+}
+
+bool QueryRegistryValue(RegistryKey* key, const char* name, void* data, std::size_t& size) {
+  auto count = static_cast<DWORD>(size);
+  const LSTATUS status =
+      RegQueryValueExA(HandleOf(key), name, nullptr, nullptr, static_cast<BYTE*>(data), &count);
+  if (status != ERROR_SUCCESS) return false;
+  size = count;
+  return true;
+}
+
+bool SetRegistryValue(RegistryKey* key, const char* name, RegistryType type, const void* data,
+                      std::size_t size) {
+  return RegSetValueExA(HandleOf(key), name, 0, static_cast<DWORD>(type),
+                        static_cast<const BYTE*>(data), static_cast<DWORD>(size)) == ERROR_SUCCESS;
+}
+
+}  // namespace platform
