@@ -41,8 +41,8 @@ void ExportHTROptionsDialog::Command(platform::Dialog& dialog, int control) {
 }
 
 void ExportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
-  dialog.SetChecked(options_.savedPose ? IDC_SAVED_POSE : IDC_CURRENT_POSE, true);
-  dialog.SetChecked(options_.range ? IDC_RANGE : IDC_SLIDER, true);
+  ShowChoice(dialog, options_.savedPose, IDC_SAVED_POSE, IDC_CURRENT_POSE);
+  ShowChoice(dialog, options_.range, IDC_RANGE, IDC_SLIDER);
   if (!options_.range) EnableFrameRange(dialog, false);
   dialog.SetChecked(IDC_EXPORT_ANIMATION, options_.animate);
   dialog.SetChecked(IDC_PARENT_TRANSFORMS, options_.parentTransforms);

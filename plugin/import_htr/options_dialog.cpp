@@ -43,11 +43,11 @@ void ImportHTROptionsDialog::Command(platform::Dialog& dialog, int control) {
 }
 
 void ImportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
-  dialog.SetChecked(options_.apply ? IDC_APPLY : IDC_CREATE, true);
+  ShowChoice(dialog, options_.apply, IDC_APPLY, IDC_CREATE);
   EnableCreation(dialog, !options_.apply);
-  dialog.SetChecked(options_.range ? IDC_RANGE : IDC_ALL, true);
+  ShowChoice(dialog, options_.range, IDC_RANGE, IDC_ALL);
   if (!options_.range) EnableFrameRange(dialog, false);
-  dialog.SetChecked(options_.rotationController != 0 ? IDC_TCB : IDC_EULER, true);
+  ShowChoice(dialog, options_.rotationController != 0, IDC_TCB, IDC_EULER);
 
   dialog.SetChecked(IDC_ANIMATION, options_.animate);
   dialog.SetChecked(IDC_BASE_POSITION, options_.keyBasePosition);

@@ -44,11 +44,11 @@ void ImportTRCOptionsDialog::Command(platform::Dialog& dialog, int control) {
 }
 
 void ImportTRCOptionsDialog::FillSwitches(platform::Dialog& dialog) const {
-  dialog.SetChecked(options_.apply ? IDC_APPLY : IDC_CREATE, true);
+  ShowChoice(dialog, options_.apply, IDC_APPLY, IDC_CREATE);
   EnableCreation(dialog, !options_.apply);
-  dialog.SetChecked(options_.range ? IDC_RANGE : IDC_ALL, true);
+  ShowChoice(dialog, options_.range, IDC_RANGE, IDC_ALL);
   if (!options_.range) EnableFrameRange(dialog, false);
-  dialog.SetChecked(options_.geometry ? IDC_SPHERE : IDC_POINT, true);
+  ShowChoice(dialog, options_.geometry, IDC_SPHERE, IDC_POINT);
 
   dialog.SetChecked(IDC_SELECTED_ONLY, options_.selectedOnly);
   dialog.SetChecked(IDC_ROOT_NODE, options_.rootNode);

@@ -156,7 +156,7 @@ void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
 
 void OrvaneUtilities::FillOffset(platform::Dialog& dialog) {
   const ConvertBVK& settings = work_->converter;
-  dialog.SetChecked(settings.trcSpace ? IDC_TRC_SPACE : IDC_SKELDER_SPACE, true);
+  ShowChoice(dialog, settings.trcSpace, IDC_TRC_SPACE, IDC_SKELDER_SPACE);
   dialog.SetChecked(IDC_ENABLE_OFFSET, settings.offset);
   EnableOffset(dialog, settings.offset);
   HeldEdit(dialog, IDC_OFFSET_X).Show(settings.offsetX);

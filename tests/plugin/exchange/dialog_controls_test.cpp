@@ -25,6 +25,17 @@ TEST(DialogControlsTest, OneRadioOfAPairIsSelected) {
   EXPECT_FALSE(dialog[2].checked);
 }
 
+TEST(DialogControlsTest, AChoiceOfTwoRadiosSelectsTheOneAndNotTheOther) {
+  test::FakeDialog dialog;
+  dialog[2].checked = true;
+  ShowChoice(dialog, true, 1, 2);
+  EXPECT_TRUE(dialog[1].checked);
+  EXPECT_FALSE(dialog[2].checked);
+  ShowChoice(dialog, false, 1, 2);
+  EXPECT_FALSE(dialog[1].checked);
+  EXPECT_TRUE(dialog[2].checked);
+}
+
 TEST(DialogControlsTest, TextsAreCutAt255Characters) {
   test::FakeDialog dialog;
   dialog[1].text = std::string(300, 'x');

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "platform/module.h"
@@ -121,6 +122,18 @@ TEST_F(ExportHTROptionsDialogTest, RadiosSelectTheClickedOneOfTheirPair) {
       EXPECT_FALSE(dialog.IsChecked(pair.other));
     }
   });
+}
+
+TEST_F(ExportHTROptionsDialogTest, OfEachPairOfRadiosOneIsSelectedWhenItOpens) {
+  test::FakeDialog dialog;
+  for (const int radio : {kCurrentPose, kRange}) dialog[radio].checked = true;
+  ExportHTROptionsDialog handler = Dialog();
+  handler.Initialize(dialog);
+  for (const auto& [chosen, other] :
+       {std::pair(kSavedPose, kCurrentPose), std::pair(kSlider, kRange)}) {
+    EXPECT_TRUE(dialog[chosen].checked) << chosen;
+    EXPECT_FALSE(dialog[other].checked) << other;
+  }
 }
 
 TEST_F(ExportHTROptionsDialogTest, WithoutAnyRadioItIsTheRangeAndTheCurrentPose) {

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
 #include <vector>
 
 #include "platform/module.h"
@@ -122,6 +123,18 @@ TEST_F(ImportHTROptionsDialogTest, ShowsTheDefaultsAtFirst) {
       EXPECT_TRUE(dialog.IsEnabled(control)) << control;
     }
   });
+}
+
+TEST_F(ImportHTROptionsDialogTest, OfEachPairOfRadiosOneIsSelectedWhenItOpens) {
+  test::FakeDialog dialog;
+  for (const int radio : {kApply, kRange, kTcb}) dialog[radio].checked = true;
+  ImportHTROptionsDialog handler = Dialog();
+  handler.Initialize(dialog);
+  for (const auto& [chosen, other] :
+       {std::pair(kCreate, kApply), std::pair(kAll, kRange), std::pair(kEuler, kTcb)}) {
+    EXPECT_TRUE(dialog[chosen].checked) << chosen;
+    EXPECT_FALSE(dialog[other].checked) << other;
+  }
 }
 
 TEST_F(ImportHTROptionsDialogTest, LoadsTheStoredOptionsBeforeItShowsThem) {

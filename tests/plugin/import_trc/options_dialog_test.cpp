@@ -156,6 +156,18 @@ TEST_F(ImportTRCOptionsDialogTest, CancelEndsItAndSavesNothing) {
   EXPECT_FALSE(options_.apply);
 }
 
+TEST_F(ImportTRCOptionsDialogTest, OfEachPairOfRadiosOneIsSelectedWhenItOpens) {
+  test::FakeDialog dialog;
+  for (const int radio : {kApply, kRange, kPoint}) dialog[radio].checked = true;
+  ImportTRCOptionsDialog handler = Dialog();
+  handler.Initialize(dialog);
+  for (const auto& [chosen, other] :
+       {std::pair(kCreate, kApply), std::pair(kAll, kRange), std::pair(kSphere, kPoint)}) {
+    EXPECT_TRUE(dialog[chosen].checked) << chosen;
+    EXPECT_FALSE(dialog[other].checked) << other;
+  }
+}
+
 TEST_F(ImportTRCOptionsDialogTest, EscAndCloseBoxDoNothing) {
   Show([](host::ScriptedDialog& dialog) {
     dialog.PressEscape();
