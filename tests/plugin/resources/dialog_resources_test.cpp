@@ -2,6 +2,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <set>
 #include <string>
@@ -195,6 +196,15 @@ TEST(ImportTrcDialogTest, HoldsEveryControlInItsGroupInReadingOrder) {
           Entry{1098, button, "&Cancel", ""}));
 }
 
+// Closing one does nothing, so it must not look as if it did.
+TEST(OptionsDialogTest, HasNoCloseBox) {
+  constexpr std::uint32_t kSystemMenu = 0x00080000;
+  for (const unsigned int id : {107U, 108U, 126U}) {
+    EXPECT_EQ(Dialog(id).style & kSystemMenu, 0U) << id;
+  }
+  for (const unsigned int id : {114U, 117U}) EXPECT_NE(Dialog(id).style & kSystemMenu, 0U) << id;
+}
+
 TEST(UtilityPanelTest, HoldsEveryControlInItsGroupInReadingOrder) {
   const ControlKind radio = ControlKind::kRadioButton;
   const ControlKind check = ControlKind::kCheckBox;
@@ -303,6 +313,39 @@ TEST_P(DialogLayoutTest, LetsItsHandlerSelectRadioButtons) {
       EXPECT_EQ(control.style & 0x0FU, 4U) << control.text;
     }
   }
+}
+
+TEST_P(DialogLayoutTest, EndsAGroupOfRadioButtonsWithItsLastOne) {
+  bool after_radio = false;
+  for (const ControlTemplate& control : Dialog(GetParam()).controls) {
+    const bool is_radio = control.kind == ControlKind::kRadioButton;
+    if (after_radio && !is_radio) {
+      EXPECT_NE(control.style & platform::kStyleGroup, 0U)
+          << "the arrow keys leave the radio buttons for " << control.text;
+    }
+    after_radio = is_radio;
+  }
+}
+
+TEST_P(DialogLayoutTest, KeepsItsMargins) {
+  const DialogTemplate dialog = Dialog(GetParam());
+  const int margin = (dialog.style & platform::kStyleChild) != 0 ? 4 : 7;
+  const DialogRectangle inside{margin, margin, dialog.area.width - 2 * margin,
+                               dialog.area.height - 2 * margin};
+  for (const ControlTemplate& control : dialog.controls) {
+    EXPECT_TRUE(Contains(inside, control.area)) << control.id << " " << control.text;
+  }
+}
+
+TEST_P(DialogLayoutTest, HasOneDefaultButtonAtMost) {
+  int defaults = 0;
+  for (const ControlTemplate& control : Dialog(GetParam()).controls) {
+    if (control.kind != ControlKind::kPushButton) continue;
+    const bool is_default = (control.style & 0x0FU) == 1;
+    EXPECT_EQ(is_default, control.id == 1097) << control.text;
+    defaults += is_default ? 1 : 0;
+  }
+  EXPECT_LE(defaults, 1);
 }
 
 TEST_P(DialogLayoutTest, UsesEveryNumberAndMnemonicOnce) {
