@@ -1,5 +1,3 @@
-#include <sys/stat.h>
-
 #include <filesystem>
 #include <nlohmann/json.hpp>
 
@@ -42,30 +40,6 @@ TEST_F(BadInputTest, MissingFileWhoseNameHasNoExtension) {
 TEST_F(BadInputTest, Directory) {
   std::filesystem::create_directory(folder_.File("walk.htr"));
   ExpectRefusal("walk.htr", 3, "Is a directory\n");
-}
-
-TEST_F(BadInputTest, NoPermission) {
-  Write("walk.htr", SmallMotion());
-  std::filesystem::permissions(folder_.File("walk.htr"), std::filesystem::perms::none);
-  for (const auto& arguments : {std::vector<std::string>{"info", "walk.htr"},
-                                std::vector<std::string>{"import", "walk.htr", "-o", "w.glb"}}) {
-    test::ProgramRun run = Command(arguments);
-    run.unprivileged = true;
-    const ProgramResult result = RunProgram(run);
-    if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
-    EXPECT_EQ(result.status, 3);
-    EXPECT_EQ(result.error, "orvane: walk.htr: Permission denied\n");
-  }
-}
-
-TEST_F(BadInputTest, Device) {
-  std::filesystem::create_symlink("/dev/zero", folder_.File("zero.htr"));
-  ExpectRefusal("zero.htr", 3, "Not a regular file\n");
-}
-
-TEST_F(BadInputTest, PipeThatNobodyWritesTo) {
-  ASSERT_EQ(mkfifo(folder_.File("pipe.htr").c_str(), 0600), 0);
-  ExpectRefusal("pipe.htr", 3, "Not a regular file\n");
 }
 
 constexpr char kNoSegments[] =

@@ -400,18 +400,6 @@ TEST_F(CheckTest, AFolderWithNothingToCheckIsSaidToBeOne) {
             "  Of a folder, files are checked whose names end in .htr, .trc or .mnm.\n");
 }
 
-TEST_F(CheckTest, AFolderThatCannotBeReadIsSaidToBeOne) {
-  std::filesystem::create_directories(folder_.Path() / "take");
-  std::filesystem::permissions(folder_.Path() / "take", std::filesystem::perms::none);
-  test::ProgramRun run = Command({"check", "take"});
-  run.unprivileged = true;
-  const ProgramResult result = RunProgram(run);
-  std::filesystem::permissions(folder_.Path() / "take", std::filesystem::perms::owner_all);
-  if (result.status == test::kNotStarted) GTEST_SKIP() << "only the superuser may start it";
-  EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.error, "orvane: take: Permission denied\n");
-}
-
 TEST_F(CheckTest, JsonHasTheDocumentedFields) {
   const ProgramResult result = Orvane({"check", "--json", "warning.htr", "walk.htr"});
   EXPECT_EQ(result.status, 1);

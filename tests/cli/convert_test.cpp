@@ -373,32 +373,6 @@ TEST_F(ConvertTest, TellsWhatItCannotReadOrWrite) {
   EXPECT_THAT(Names(), ElementsAre("walk.trc"));
 }
 
-TEST_F(ConvertTest, CannotWriteToAFolderThatIsNotItsOwn) {
-  MakeFolder("out");
-  Write("walk.trc", Take());
-  std::filesystem::permissions(folder_.Path() / "out", std::filesystem::perms{0555});
-  ProgramRun run = Command({"convert", "walk.trc", "--output-dir", "out"});
-  run.unprivileged = true;
-  const ProgramResult result = RunProgram(run);
-  if (result.status == test::kNotStarted) GTEST_SKIP() << "the program may not be started";
-  EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.error, HasSubstr("Permission denied"));
-  EXPECT_THAT(NamesOf("out"), testing::IsEmpty());
-}
-
-// The plug-in does not notice that its file was cut short.
-TEST_F(ConvertTest, DeliversNoFileThatTheDiskDidNotTake) {
-  TrcText take{.markers = {"Head1"}};
-  take.frames.assign(5000, {"1\t2\t3"});
-  Write("walk.trc", take.Text());
-  ProgramRun run = Command({"convert", "walk.trc"});
-  run.largest_file = 100'000;
-  const ProgramResult result = RunProgram(run);
-  EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.error, HasSubstr("The plug-in could not write all of the file"));
-  EXPECT_THAT(Names(), ElementsAre("walk.trc"));
-}
-
 TEST_F(ConvertTest, ConvertsTwelveHundredFilesOfWhichThirtyAreBroken) {
   MakeFolder("in");
   MakeFolder("out");

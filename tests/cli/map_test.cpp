@@ -13,7 +13,6 @@ namespace {
 
 using nlohmann::json;
 using test::ProgramResult;
-using test::ProgramRun;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
@@ -141,23 +140,6 @@ TEST_F(MapCreateTest, SaysWhichFileCannotBeRead) {
   const ProgramResult result = Create();
   EXPECT_EQ(result.status, 3);
   EXPECT_THAT(result.error, HasSubstr("picks: No such file"));
-}
-
-// The plug-in does not notice that its file was cut short.
-TEST_F(MapCreateTest, DeliversNoFileThatTheDiskDidNotTake) {
-  Write("walk.trc", MarkerFile(kNeeded));
-  Write("picks", Table(kNeeded));
-  for (const unsigned long size : {0UL, 200UL, 349UL, 383UL}) {
-    ASSERT_LT(size, MappingOf(kNeeded).size());
-    ProgramRun run = Command({"map", "create", "walk.trc", "-o", "set.mnm", "--picks", "picks"});
-    run.largest_file = size;
-    const ProgramResult result = RunProgram(run);
-    EXPECT_EQ(result.status, 3) << size;
-    EXPECT_EQ(result.error,
-              "orvane: set.mnm: The plug-in could not write all of the file\n"
-              "  Is the disk full?\n");
-    ExpectNothingWritten();
-  }
 }
 
 TEST_F(MapCreateTest, RefusesNamesThatNoLineOfAMappingHolds) {

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -9,41 +7,19 @@
 
 namespace test {
 
-inline constexpr int kNotStarted = 127;
-
 struct ProgramResult {
   int status = -1;     // the exit status; 128 and the signal's number when a signal ended it
   std::string output;  // what went to standard output
   std::string error;   // what went to standard error
-
-  // The most bytes that the program had in memory at once. Its first ones are this process's own,
-  // so that tests that look at this hold little themselves.
-  std::size_t peak_memory = 0;
 };
 
+// Texts are UTF-8.
 struct ProgramRun {
-  std::vector<std::string> command;  // the program's path, and its arguments
-  std::string folder;                // to run in; empty: the test's own
+  std::vector<std::string> command{};  // the program's path, and its arguments
+  std::string folder{};                // to run in; empty: the test's own
 
   // Variables set besides those of the test's environment, as "NAME=value".
-  std::vector<std::string> environment;
-
-  // A file that standard output goes to, such as /dev/full; it is then not returned.
-  std::string output_file;
-
-  // No file of the run may grow beyond so many bytes.
-  std::optional<unsigned long> largest_file;
-
-  // Standard error is a terminal.
-  bool error_is_terminal = false;
-
-  // Tests that run as the superuser, who may do everything, give that up for the run. The program
-  // may then lie where it cannot be started: the status is kNotStarted.
-  bool unprivileged = false;
-
-  // Called with the program's process as soon as that exists. What the program writes is only read
-  // afterwards.
-  std::function<void(int process)> meanwhile;
+  std::vector<std::string> environment{};
 };
 
 // Runs the program to its end. Throws std::runtime_error when it cannot be started.

@@ -3,14 +3,15 @@
 #include <thread>
 
 #include "tests/cli/orvane_test.h"
+#include "tests/support/posix/program.h"
 #include "tests/support/trc_text.h"
 
 // What becomes of a batch that something happens to while the plug-in is at work.
 
 namespace {
 
+using test::PosixRun;
 using test::ProgramResult;
-using test::ProgramRun;
 using test::TrcText;
 using testing::EndsWith;
 using testing::Not;
@@ -64,7 +65,7 @@ class DisturbedBatchTest : public test::OrvaneTest {
   ProgramResult Convert(const std::vector<std::string>& arguments, Happen happen) const {
     for (int attempt = 0; attempt < 10; ++attempt) {
       MakeTakes();
-      ProgramRun run = Command(arguments);
+      PosixRun run{Command(arguments)};
       run.command.insert(run.command.begin() + 1, "convert");
       run.meanwhile = [&](int process) { happen(process, WaitForWork()); };
       const ProgramResult result = RunProgram(run);

@@ -12,6 +12,7 @@
 #include <thread>
 
 #include "tests/cli/orvane_test.h"
+#include "tests/support/posix/program.h"
 
 // The program killed at any moment, which it cannot do anything about.
 
@@ -63,11 +64,11 @@ class KillTest : public test::OrvaneTest {
     Microseconds writing;  // from the first byte of the file until it has its name
   };
 
-  test::ProgramRun Import(const std::vector<std::string>& flags = {}) const {
+  test::PosixRun Import(const std::vector<std::string>& flags = {}) const {
     std::vector<std::string> arguments = {"import", ORVANE_SOURCE_DIR "/examples/walk.htr", "-o",
                                           "scene.glb", "--force"};
     arguments.insert(arguments.end(), flags.begin(), flags.end());
-    return Command(arguments);
+    return {Command(arguments)};
   }
 
   std::string SceneOf(const std::vector<std::string>& flags) const {
@@ -80,7 +81,7 @@ class KillTest : public test::OrvaneTest {
     const FolderWatch watch(folder_.Path().string());
     Clock::time_point created;
     Clock::time_point moved;
-    test::ProgramRun run = Import();
+    test::PosixRun run = Import();
     run.meanwhile = [&](int /*process*/) {
       EXPECT_TRUE(watch.WaitFor(IN_CREATE));
       created = Clock::now();
@@ -105,7 +106,7 @@ class KillTest : public test::OrvaneTest {
   // Kills an import so long after `start`. Returns false when it has ended before.
   bool Kill(Start start, Microseconds delay) const {
     const FolderWatch watch(folder_.Path().string());
-    test::ProgramRun run = Import();
+    test::PosixRun run = Import();
     run.meanwhile = [&](int process) {
       if (start == Start::kOfTheWriting) watch.WaitFor(IN_CREATE);
       if (start == Start::kOfTheNewFile) watch.WaitFor(IN_MOVED_TO);

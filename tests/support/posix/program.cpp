@@ -1,4 +1,4 @@
-#include "tests/support/program.h"
+#include "tests/support/posix/program.h"
 
 #include <fcntl.h>
 #include <linux/capability.h>
@@ -58,7 +58,7 @@ bool GiveUpPrivileges() {
   return given_up || setuid(kNobody) == 0;
 }
 
-[[noreturn]] void Become(const ProgramRun& run, const Stream& output, const Stream& error) {
+[[noreturn]] void Become(const PosixRun& run, const Stream& output, const Stream& error) {
   if (!run.folder.empty() && chdir(run.folder.c_str()) != 0) _exit(126);
   for (const std::string& variable : run.environment) putenv(const_cast<char*>(variable.c_str()));
   if (run.largest_file) {
@@ -98,7 +98,9 @@ void ReadBoth(Stream output, Stream error, ProgramResult& result) {
 
 }  // namespace
 
-ProgramResult RunProgram(const ProgramRun& run) {
+ProgramResult RunProgram(const ProgramRun& run) { return RunProgram(PosixRun{run}); }
+
+PosixResult RunProgram(const PosixRun& run) {
   const Stream output = MakePipe();
   const Stream error = run.error_is_terminal ? MakeTerminal() : MakePipe();
   const pid_t child = fork();
@@ -107,7 +109,7 @@ ProgramResult RunProgram(const ProgramRun& run) {
   close(output.write_end);
   close(error.write_end);
   if (run.meanwhile) run.meanwhile(child);
-  ProgramResult result;
+  PosixResult result;
   ReadBoth(output, error, result);
   int status = 0;
   rusage usage{};

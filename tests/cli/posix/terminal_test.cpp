@@ -1,9 +1,10 @@
 #include "tests/cli/orvane_test.h"
+#include "tests/support/posix/program.h"
 
 namespace {
 
+using test::PosixRun;
 using test::ProgramResult;
-using test::ProgramRun;
 using testing::AllOf;
 using testing::EndsWith;
 using testing::IsEmpty;
@@ -13,16 +14,16 @@ using testing::StartsWith;
 class TerminalTest : public test::OrvaneTest {
  protected:
   // An import that takes some tenths of a second.
-  ProgramRun SlowImport() const {
+  PosixRun SlowImport() const {
     Write("slow.htr", "");
-    return Command({"import", "slow.htr", "-o", "scene.glb", "--module", test::HurriedModule()});
+    return {Command({"import", "slow.htr", "-o", "scene.glb", "--module", test::HurriedModule()})};
   }
 };
 
 constexpr char kWipe[] = "\r\033[K";
 
 TEST_F(TerminalTest, ProgressIsALineWithPercentAndTimeLeftThatIsWipedAtTheEnd) {
-  ProgramRun run = SlowImport();
+  PosixRun run = SlowImport();
   run.error_is_terminal = true;
   const ProgramResult result = RunProgram(run);
   EXPECT_EQ(result.status, 0);
@@ -33,7 +34,7 @@ TEST_F(TerminalTest, ProgressIsALineWithPercentAndTimeLeftThatIsWipedAtTheEnd) {
 }
 
 TEST_F(TerminalTest, QuietShowsNoProgressAndNoSummary) {
-  ProgramRun run = SlowImport();
+  PosixRun run = SlowImport();
   run.command.push_back("--quiet");
   run.error_is_terminal = true;
   const ProgramResult result = RunProgram(run);
@@ -50,7 +51,7 @@ TEST_F(TerminalTest, APipeGetsNoProgress) {
 }
 
 TEST_F(TerminalTest, MessagesAreColouredUnlessTheUserWantsNoColour) {
-  ProgramRun run = Command({"info", "walk.htr"});
+  PosixRun run{Command({"info", "walk.htr"})};
   run.error_is_terminal = true;
   EXPECT_EQ(RunProgram(run).error,
             "\033[1;31morvane:\033[0m walk.htr: No such file or directory\r\n");

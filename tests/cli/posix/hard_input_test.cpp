@@ -3,14 +3,16 @@
 #include <random>
 
 #include "tests/cli/orvane_test.h"
+#include "tests/support/posix/program.h"
 
 // Files as large as they come, and files that ask for more than they hold. The program ends with a
 // scene or a message, and in memory that the file answers for.
 
 namespace {
 
+using test::PosixResult;
+using test::PosixRun;
 using test::ProgramResult;
-using test::ProgramRun;
 using test::Replaced;
 using test::SmallMotion;
 using testing::HasSubstr;
@@ -44,7 +46,7 @@ class HardInputTest : public test::OrvaneTest {
 
   // Runs the program, which may use so much memory.
   ProgramResult Orvane(const std::vector<std::string>& arguments, std::size_t most_memory) const {
-    ProgramResult result = RunProgram(Command(arguments));
+    PosixResult result = RunProgram(PosixRun{Command(arguments)});
     EXPECT_LT(result.peak_memory / kMegabyte, most_memory / kMegabyte)
         << "megabytes of memory for orvane " << arguments.front();
     return result;
@@ -139,8 +141,8 @@ TEST_P(HierarchyTest, GoesIntoASceneFileAndBack) {
   EXPECT_EQ(info.status, 0) << info.error;
   EXPECT_THAT(info.output, HasSubstr("  Segments        100000\n"));
 
-  const ProgramRun run = Command({"import", "walk.htr", "-o", "scene.glb"});
-  const ProgramResult import = RunProgram(run);
+  const PosixRun run{Command({"import", "walk.htr", "-o", "scene.glb"})};
+  const PosixResult import = RunProgram(run);
   EXPECT_EQ(import.status, 0) << import.error;
   EXPECT_THAT(import.output, HasSubstr("  Nodes   100001\n"));
   constexpr std::size_t kMemoryPerSceneByte = 5;
@@ -260,7 +262,7 @@ class DiskTest : public HardInputTest {
         " disk || exit 99; "
         "\"$0\" import walk.htr -o disk/scene.glb --force; echo status $?; "
         "ls -A disk; cmp old.glb disk/scene.glb && echo kept";
-    ProgramRun run = Command({});
+    test::ProgramRun run = Command({});
     run.command = {
         "/usr/bin/unshare", "--user", "--map-root-user", "--mount", "/bin/sh", "-c", script,
         run.command.front()};

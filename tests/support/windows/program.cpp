@@ -1,0 +1,124 @@
+#include "tests/support/program.h"
+
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <list>
+#include <stdexcept>
+#include <thread>
+
+#include "tests/support/environment_variable.h"
+
+namespace test {
+namespace {
+
+std::wstring Wide(const std::string& text) {
+  const int size = static_cast<int>(text.size());
+  std::wstring wide(text.size(), L'\0');
+  wide.resize(static_cast<std::size_t>(
+      MultiByteToWideChar(CP_UTF8, 0, text.data(), size, wide.data(), size)));
+  return wide;
+}
+
+// As programs take it apart again: blanks are within quotes, and backslashes before a quote count
+// twice.
+std::string Quoted(const std::string& argument) {
+  std::string quoted = "\"";
+  std::size_t backslashes = 0;
+  for (const char letter : argument) {
+    if (letter == '"') quoted.append(backslashes + 1, '\\');
+    backslashes = letter == '\\' ? backslashes + 1 : 0;
+    quoted += letter;
+  }
+  return quoted.append(backslashes, '\\') + "\"";
+}
+
+std::wstring CommandLine(const std::vector<std::string>& command) {
+  std::string line;
+  for (const std::string& argument : command) line += (line.empty() ? "" : " ") + Quoted(argument);
+  return Wide(line);
+}
+
+// Where one of the program's streams goes: we read one end, the program writes to the other.
+class Stream {
+ public:
+  Stream() {
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    if (!CreatePipe(&read_end_, &write_end_, &inherited, 0)) throw std::runtime_error("no pipe");
+    SetHandleInformation(read_end_, HANDLE_FLAG_INHERIT, 0);
+  }
+  Stream(const Stream&) = delete;
+  Stream& operator=(const Stream&) = delete;
+  ~Stream() {
+    CloseWriteEnd();
+    CloseHandle(read_end_);
+  }
+
+  HANDLE WriteEnd() const { return write_end_; }
+  void CloseWriteEnd() {
+    if (write_end_ != nullptr) CloseHandle(write_end_);
+    write_end_ = nullptr;
+  }
+
+  // To its end, with line ends as everywhere else.
+  std::string Read() const {
+    std::string text;
+    std::array<char, 65536> buffer;
+    DWORD count = 0;
+    while (ReadFile(read_end_, buffer.data(), buffer.size(), &count, nullptr) && count > 0) {
+      text.append(buffer.data(), count);
+    }
+    std::erase(text, '\r');
+    return text;
+  }
+
+ private:
+  HANDLE read_end_ = nullptr;
+  HANDLE write_end_ = nullptr;
+};
+
+HANDLE Start(const ProgramRun& run, const Stream& output, const Stream& error) {
+  std::list<EnvironmentVariable> environment;
+  for (const std::string& variable : run.environment) {
+    const std::size_t equals = variable.find('=');
+    environment.emplace_back(variable.substr(0, equals).c_str(), variable.substr(equals + 1));
+  }
+  std::wstring line = CommandLine(run.command);
+  const std::wstring folder = Wide(run.folder);
+  STARTUPINFOW startup{};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+  startup.hStdOutput = output.WriteEnd();
+  startup.hStdError = error.WriteEnd();
+  PROCESS_INFORMATION process{};
+  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+                      folder.empty() ? nullptr : folder.c_str(), &startup, &process)) {
+    throw std::runtime_error(run.command.front() + " does not start");
+  }
+  CloseHandle(process.hThread);
+  return process.hProcess;
+}
+
+}  // namespace
+
+ProgramResult RunProgram(const ProgramRun& run) {
+  Stream output;
+  Stream error;
+  const HANDLE process = Start(run, output, error);
+  output.CloseWriteEnd();
+  error.CloseWriteEnd();
+  ProgramResult result;
+  std::thread reader([&] { result.error = error.Read(); });
+  result.output = output.Read();
+  reader.join();
+  WaitForSingleObject(process, INFINITE);
+  DWORD status = 0;
+  GetExitCodeProcess(process, &status);
+  result.status = static_cast<int>(status);
+  CloseHandle(process);
+  return result;
+}
+
+}  // namespace test
