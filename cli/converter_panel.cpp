@@ -42,7 +42,7 @@ ConverterPanel::ConverterPanel(PluginSession& session, const PanelWishes& wishes
     : session_(session), mapping_(wishes.mapping) {
   host::ScriptedUser user;
   user.answer_message = PressOk;
-  user.choose_files = [this](const platform::FileDialog& dialog) { return ChooseFiles(dialog); };
+  user.choose_files = [this](const host::ShownFileDialog& dialog) { return ChooseFiles(dialog); };
   user.choose_folder = [this](const std::string&) { return target_folder_; };
   session_.desktop().SetUser(std::move(user));
   session_.application().progress().SetObserver([this](const host::ProgressEvent&) {
@@ -83,10 +83,12 @@ std::vector<std::string> ConverterPanel::TakeMessages() {
 }
 
 // The dialogs are known by what they let choose.
-host::FileChoice ConverterPanel::ChooseFiles(const platform::FileDialog& dialog) const {
-  const std::string extension = dialog.default_extension;
-  if (extension == "mnm") return {{mapping_}, false};
-  if (extension == "bvk") return {{target_file_}, false};
+host::FileChoice ConverterPanel::ChooseFiles(const host::ShownFileDialog& dialog) const {
+  const auto lets_choose = [&dialog](const char* pattern) {
+    return dialog.filter.find(pattern) != std::string::npos;
+  };
+  if (lets_choose("(*.MNM)")) return {{mapping_}, false};
+  if (lets_choose("(*.BVK)")) return {{target_file_}, false};
   return {sources_, false};
 }
 

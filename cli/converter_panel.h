@@ -48,7 +48,7 @@ class ConverterPanel {
   std::vector<std::string> TakeMessages();
 
  private:
-  host::FileChoice ChooseFiles(const platform::FileDialog& dialog) const;
+  host::FileChoice ChooseFiles(const host::ShownFileDialog& dialog) const;
   void SetControls(const PanelWishes& wishes);
   void SetOffset(const OffsetWish& offset);
   void SetCheckBox(int control, bool checked);

@@ -39,7 +39,7 @@ host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
 void MappingUser::Create(const std::string& path) {
   host::ScriptedUser user;
   user.answer_message = [this](const host::MessageBox& message) { return Answer(message); };
-  user.choose_files = [&path](const platform::FileDialog&) { return host::FileChoice{{path}}; };
+  user.choose_files = [&path](const host::ShownFileDialog&) { return host::FileChoice{{path}}; };
   user.act = [this] {
     Act();
     return true;

@@ -5,32 +5,24 @@
 
 #include "cli/dialog_flags.h"
 #include "cli/progress_line.h"
-#include "platform/desktop.h"
 #include "platform/interrupt.h"
 #include "platform/program.h"
 
 namespace cli {
 namespace {
 
-std::string SettingsPath() {
-  std::string path = host::UserSettingsPath();
-  if (path.empty()) {
+std::unique_ptr<host::UserSettings> OpenUserSettings() {
+  const std::string place = host::UserSettings::Place();
+  if (place.empty()) {
     throw Failure{ExitStatus::kInputOutput,
                   {{"--settings user", "this user has no folder for settings", ""}}};
   }
-  return path;
-}
-
-// The plug-in would go on with its defaults, and the user would not know.
-void RequireOpen(const host::SqliteRegistry& registry, const std::string& path) {
-  if (registry.IsOpen()) return;
+  auto settings = std::make_unique<host::UserSettings>();
+  if (settings->IsOpen()) return settings;
+  // The plug-in would go on with its defaults, and the user would not know.
   throw Failure{ExitStatus::kInputOutput,
-                {{path, "the settings cannot be read, or are in use",
+                {{place, "the settings cannot be read, or are in use",
                   "--settings fresh does without them."}}};
-}
-
-host::KeyedRegistry& Any(std::variant<host::MemoryRegistry, host::SqliteRegistry>& registry) {
-  return std::visit([](auto& one) -> host::KeyedRegistry& { return one; }, registry);
 }
 
 int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
@@ -39,22 +31,18 @@ int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
 
 PluginSession::PluginSession(const std::string& module_path, Settings settings) {
   if (settings == Settings::kUser) {
-    const std::string path = SettingsPath();
-    RequireOpen(registry_.emplace<host::SqliteRegistry>(path), path);
+    user_settings_ = OpenUserSettings();
+  } else {
+    fresh_settings_.emplace();
   }
-  desktop_ = std::make_unique<host::ScriptedDesktop>(Any(registry_));
-  platform::InstallDesktop(desktop_.get());
+  desktop_.emplace();
   application_ = std::make_unique<host::Application>();
   std::string refusal;
-  module_ = host::Module::Load(module_path, {*application_, &Any(registry_)}, refusal);
+  module_ = host::Module::Load(module_path, {*application_}, refusal);
   if (module_ == nullptr) throw Failure{ExitStatus::kInputOutput, {{"", refusal, ""}}};
 }
 
-PluginSession::~PluginSession() {
-  module_.reset();
-  application_.reset();
-  platform::InstallDesktop(nullptr);
-}
+PluginSession::~PluginSession() = default;
 
 bool PluginSession::Import(const std::string& file, const std::string& extension,
                            const std::vector<ControlWish>& wishes, bool show_progress) {

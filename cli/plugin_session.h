@@ -4,16 +4,14 @@
 #include <memory>
 #include <optional>
 #include <string>
-#include <variant>
 #include <vector>
 
 #include "cli/dialog_user.h"
 #include "cli/failure.h"
 #include "host/application/application.h"
 #include "host/application/module.h"
-#include "host/desktop/memory_registry.h"
 #include "host/desktop/scripted_desktop.h"
-#include "host/desktop/sqlite_registry.h"
+#include "host/desktop/settings.h"
 
 // A host with the plug-in loaded, used by somebody who knows only the command line.
 
@@ -66,8 +64,10 @@ class PluginSession {
   bool Run(const Task& task, const std::vector<ControlWish>& wishes, bool show_progress,
            const Entry& entry);
 
-  std::variant<host::MemoryRegistry, host::SqliteRegistry> registry_;
-  std::unique_ptr<host::ScriptedDesktop> desktop_;
+  // One of them. What stands below is destroyed before.
+  std::optional<host::FreshSettings> fresh_settings_;
+  std::unique_ptr<host::UserSettings> user_settings_;
+  std::optional<host::ScriptedDesktop> desktop_;
   std::unique_ptr<host::Application> application_;
   std::unique_ptr<host::Module> module_;
 };

@@ -1,6 +1,6 @@
 #include "host/application/application.h"
 
-#include "platform/desktop.h"
+#include "host/desktop/pending_messages.h"
 
 namespace host {
 namespace {
@@ -25,10 +25,7 @@ void Application::CustomEditReleased() {
 
 void Application::ProcessPendingMessages() {
   ++pending_message_calls_;
-  const bool awaited = picking_.IsActive();
-  platform::Desktop* const desktop = platform::CurrentDesktop();
-  const bool goes_on = desktop == nullptr ? !awaited : desktop->ProcessPendingMessages(awaited);
-  if (!goes_on) Exit();
+  if (!HandlePendingMessages(picking_.IsActive())) Exit();
 }
 
 void Application::Exit() {

@@ -8,7 +8,7 @@
 #include "host/application/plugin_callbacks.h"
 #include "host/application/progress_bar.h"
 #include "host/application/rollup_pages.h"
-#include "host/desktop/window.h"
+#include "host/desktop/top_level_window.h"
 #include "host/scene/scene.h"
 #include "platform/export.h"
 
@@ -45,7 +45,7 @@ class SKELDER_API Application {
   PluginCallbacks& callbacks() { return callbacks_; }
   Picking& picking() { return picking_; }
   RollupPages& rollup_pages() { return rollup_pages_; }
-  HWND main_window() { return &main_window_; }
+  HWND main_window() const { return main_window_.Handle(); }
 
   // The host's own edit controls that plug-ins have obtained and not released.
   int HeldCustomEdits() const { return held_custom_edits_; }
@@ -81,7 +81,7 @@ class SKELDER_API Application {
   PluginCallbacks callbacks_{scene_.Misuse()};
   Picking picking_{callbacks_};
   RollupPages rollup_pages_{scene_.Misuse()};
-  HWND__ main_window_;
+  TopLevelWindow main_window_;
   bool playback_running_ = false;
   std::size_t pending_message_calls_ = 0;
   bool exited_ = false;

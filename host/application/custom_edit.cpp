@@ -4,9 +4,10 @@
 #include "host/desktop/custom_edit.h"
 
 ICustEdit* GetICustEdit(HWND window) {
-  if (window == nullptr || window->custom_edit == nullptr) return nullptr;
+  ICustEdit* const edit = host::CustomEditOf(window);
+  if (edit == nullptr) return nullptr;
   if (auto* application = host::Application::Current()) application->CustomEditObtained();
-  return window->custom_edit;
+  return edit;
 }
 
 void ReleaseICustEdit(ICustEdit* edit) {

@@ -34,7 +34,7 @@ FileResult Watch(Application& application, const Entry& entry) {
 
 std::unique_ptr<Module> Module::Load(const std::string& path, const ModuleHost& host,
                                      std::string& refusal) {
-  const Holdings before(host.application, host.registry);
+  const Holdings before(host.application, host.settings);
   std::string failure;
   std::unique_ptr<platform::SharedLibrary> library = platform::SharedLibrary::Open(path, failure);
   if (library == nullptr) {
@@ -104,7 +104,7 @@ ModuleLeftovers UnloadModule(std::unique_ptr<Module> module) {
   const ModuleHost host = module->host_;
   const Holdings before = module->before_;
   module.reset();
-  return Holdings(host.application, host.registry).Since(before);
+  return Holdings(host.application, host.settings).Since(before);
 }
 
 }  // namespace host

@@ -19,14 +19,14 @@
 namespace host {
 
 class Application;
-class KeyedRegistry;
+class Settings;
 
 // Where a module runs. All of it outlives the module.
 struct ModuleHost {
   Application& application;
 
-  // The registry of the desktop in use, asked which keys the module leaves open; null: nobody asks.
-  const KeyedRegistry* registry = nullptr;
+  // The settings in use, asked which keys the module leaves open; null: nobody asks.
+  const Settings* settings = nullptr;
 
   // The interface that the host has: only modules made for it are loaded.
   std::uint32_t interface_number = kSkelderInterface;
@@ -44,8 +44,8 @@ struct FileResult {
 
 class SKELDER_API Module {
  public:
-  // Loads the module in the file `path`. A desktop must have been installed, and stays in use as
-  // long as the module, because its option records open their registry keys meanwhile.
+  // Loads the module in the file `path`. Its settings must be in use, and stay so as long as the
+  // module, because its option records open their registry keys meanwhile.
   // Returns null when it cannot be loaded or is refused, with a sentence naming the file and the
   // reason in `refusal`.
   static std::unique_ptr<Module> Load(const std::string& path, const ModuleHost& host,

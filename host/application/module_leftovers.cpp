@@ -5,7 +5,7 @@
 
 #include "host/application/application.h"
 #include "host/base/heap_control.h"
-#include "host/desktop/keyed_registry.h"
+#include "host/desktop/settings.h"
 
 namespace host {
 namespace {
@@ -25,8 +25,8 @@ bool ModuleLeftovers::IsClean() const {
   return open_keys.empty() && live_allocations == 0 && loose_instances == 0 && callbacks == 0;
 }
 
-Holdings::Holdings(Application& application, const KeyedRegistry* registry) {
-  if (registry != nullptr) held_.open_keys = registry->OpenKeys();
+Holdings::Holdings(Application& application, const Settings* settings) {
+  if (settings != nullptr) held_.open_keys = settings->OpenKeys();
   held_.live_allocations = LiveAllocations();
   held_.loose_instances = application.scene().LooseInstances();
   held_.callbacks = RegisteredCallbacks(application);

@@ -11,7 +11,7 @@
 namespace host {
 
 class Application;
-class KeyedRegistry;
+class Settings;
 
 // What a module left behind; empty and zero when it left nothing.
 struct SKELDER_API ModuleLeftovers {
@@ -26,8 +26,8 @@ struct SKELDER_API ModuleLeftovers {
 // What is taken from the host at one moment, by whomever.
 class Holdings {
  public:
-  // Counts now. The open keys of `registry` count; without one (null) none do.
-  Holdings(Application& application, const KeyedRegistry* registry);
+  // Counts now. The open keys of `settings` count; without them (null) none do.
+  Holdings(Application& application, const Settings* settings);
 
   // What is held here and was not held `before`.
   ModuleLeftovers Since(const Holdings& before) const;

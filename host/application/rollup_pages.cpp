@@ -3,28 +3,9 @@
 #include <algorithm>
 #include <utility>
 
-#include "platform/desktop.h"
+#include "host/desktop/page.h"
 
 namespace host {
-
-// Turns what happens to a dialog into the messages that a plug-in's procedure understands.
-class RollupPages::Procedure final : public platform::DialogHandler {
- public:
-  Procedure(platform::DialogProcedure procedure, std::intptr_t parameter)
-      : procedure_(procedure), parameter_(parameter) {}
-
-  void Initialize(platform::Dialog& dialog) override {
-    procedure_(dialog.Window(), platform::kInitializeDialog, 0, parameter_);
-  }
-  void Command(platform::Dialog& dialog, int control) override {
-    procedure_(dialog.Window(), platform::kDialogCommand, static_cast<std::uintptr_t>(control),
-               parameter_);
-  }
-
- private:
-  platform::DialogProcedure procedure_;
-  std::intptr_t parameter_;
-};
 
 RollupPages::RollupPages(MisuseLog& misuse) : misuse_(misuse) {}
 
@@ -33,14 +14,10 @@ RollupPages::~RollupPages() = default;
 HWND RollupPages::Add(HINSTANCE module, int dialog_id, HWND parent,
                       platform::DialogProcedure procedure, std::intptr_t parameter,
                       RollupPage page) {
-  platform::Desktop* const desktop = platform::CurrentDesktop();
-  if (desktop == nullptr) return nullptr;
-  procedures_.push_back(std::make_unique<Procedure>(procedure, parameter));
-  platform::Dialog* const dialog =
-      desktop->CreateModeless(module, dialog_id, parent, *procedures_.back());
-  if (dialog == nullptr) return nullptr;
-  desktop->ShowModeless(*dialog);
-  page.window = dialog->Window();
+  std::unique_ptr<Page> opened = Page::Open(module, dialog_id, parent, procedure, parameter);
+  if (opened == nullptr) return nullptr;
+  page.window = opened->Window();
+  pages_.push_back(std::move(opened));
   open_.push_back(std::move(page));
   return open_.back().window;
 }
@@ -54,9 +31,11 @@ void RollupPages::Delete(HWND window) {
     return;
   }
   open_.erase(page);
-  platform::Desktop* const desktop = platform::CurrentDesktop();
-  platform::Dialog* const dialog = desktop == nullptr ? nullptr : desktop->FindModeless(window);
-  if (dialog != nullptr) desktop->DestroyModeless(*dialog);
+  // The latest with that window: the system may use the window of a closed one again.
+  const auto closing =
+      std::find_if(pages_.rbegin(), pages_.rend(),
+                   [window](const auto& candidate) { return candidate->Window() == window; });
+  (*closing)->Close();
 }
 
 }  // namespace host

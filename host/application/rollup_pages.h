@@ -13,6 +13,8 @@
 
 namespace host {
 
+class Page;
+
 struct RollupPage {
   HWND window = nullptr;
   std::string title;
@@ -41,13 +43,11 @@ class SKELDER_API RollupPages {
   const std::vector<RollupPage>& Open() const { return open_; }
 
  private:
-  class Procedure;
-
   MisuseLog& misuse_;
   std::vector<RollupPage> open_;
 
-  // Of all pages so far: one may be on the call stack while its page is deleted.
-  std::vector<std::unique_ptr<Procedure>> procedures_;
+  // All pages so far: one may be on the call stack while it is deleted.
+  std::vector<std::unique_ptr<Page>> pages_;
 };
 
 }  // namespace host

@@ -4,10 +4,9 @@
 #include <string_view>
 #include <vector>
 
-#include "host/desktop/open_dialog.h"
-#include "host/desktop/script_failure.h"
-#include "platform/dialog.h"
 #include "platform/export.h"
+#include "platform/handles.h"
+#include "platform/portable/dialog_template.h"
 
 // An open dialog as its scripted user meets it. A script can do what a person can and no more: it
 // reads the controls, types, clicks and presses Esc. Whatever else it asks for (a control that the
@@ -16,49 +15,53 @@
 
 namespace host {
 
+// A control and the state it is in.
+struct DialogControl {
+  int id = 0;
+  platform::ControlKind kind = platform::ControlKind::kOther;
+  std::string text;
+  bool read_only = false;  // of an edit control
+  bool enabled = true;
+  bool checked = false;
+};
+
 class SKELDER_API ScriptedDialog {
  public:
-  // Made by the desktop, which keeps `dialog` and `failure` as long as this object, and `handler`
-  // until the dialog has ended.
-  ScriptedDialog(int id, OpenDialog& dialog, platform::DialogHandler& handler,
-                 const ScriptFailure& failure);
+  ScriptedDialog(const ScriptedDialog&) = delete;
+  ScriptedDialog& operator=(const ScriptedDialog&) = delete;
 
-  [[nodiscard]] int Id() const { return id_; }  // the resource that the dialog was built from
-  [[nodiscard]] const std::string& Title() const;
-  [[nodiscard]] const std::vector<DialogControl>& Controls() const;  // in tab order
-  [[nodiscard]] bool Has(int control) const;
-  [[nodiscard]] const std::string& Text(int control) const;
-  [[nodiscard]] bool IsChecked(int control) const;
-  [[nodiscard]] bool IsEnabled(int control) const;
-  [[nodiscard]] bool HasEnded() const;
+  [[nodiscard]] virtual int Id() const = 0;  // the resource that the dialog was built from
+  [[nodiscard]] virtual std::string Title() const = 0;
+  [[nodiscard]] virtual std::vector<DialogControl> Controls() const = 0;  // in tab order
+  [[nodiscard]] virtual bool Has(int control) const = 0;
+  [[nodiscard]] virtual std::string Text(int control) const = 0;
+  [[nodiscard]] virtual bool IsChecked(int control) const = 0;
+  [[nodiscard]] virtual bool IsEnabled(int control) const = 0;
+  [[nodiscard]] virtual bool HasEnded() const = 0;
+
+  // Where it is: the window of the dialog itself, and the one that it stands over, or null.
+  [[nodiscard]] virtual HWND Window() const = 0;
+  [[nodiscard]] virtual HWND Owner() const = 0;
+
+  // The window of a control; null when the dialog has no such control.
+  [[nodiscard]] virtual HWND ControlWindow(int control) const = 0;
 
   // The window that the dialog was centred over, or null.
-  [[nodiscard]] HWND CentredOver() const;
-
-  // Where it is: the window of the dialog itself.
-  [[nodiscard]] HWND Window() const;
+  [[nodiscard]] virtual HWND CentredOver() const = 0;
 
   // Replaces the text of an edit control, or of one of the host's own.
-  void Type(int control, std::string_view text);
+  virtual void Type(int control, std::string_view text) = 0;
 
   // Clicks a push button, a check box (which changes its state) or a radio button (which the
   // handler selects).
-  void Click(int control);
+  virtual void Click(int control) = 0;
 
   // Presses Esc, or closes the dialog by its frame: both are the same to it.
-  void PressEscape();
+  virtual void PressEscape() = 0;
 
- private:
-  void RequireOpen() const;
-  [[nodiscard]] DialogControl& Existing(int control) const;
-  [[nodiscard]] DialogControl& Usable(int control) const;
-  [[noreturn]] void Refuse(int control, const char* reason) const;
-  void Send(int control);
-
-  int id_;
-  OpenDialog& dialog_;
-  platform::DialogHandler& handler_;
-  const ScriptFailure& failure_;
+ protected:
+  ScriptedDialog();
+  ~ScriptedDialog();
 };
 
 }  // namespace host

@@ -1,6 +1,6 @@
 #include <cstring>
 
-#include "host/desktop/sqlite_registry.h"
+#include "host/desktop/portable/sqlite_registry.h"
 #include "tests/cli/orvane_test.h"
 
 namespace {

@@ -38,7 +38,7 @@ TEST_F(EntryPointsTest, ThereIsNoClassOfAnotherIndex) {
 TEST_F(EntryPointsTest, AHostOfAnotherInterfaceRefusesTheModule) {
   for (const std::uint32_t interface_number : {20U, 22U, 0U}) {
     std::string refusal;
-    EXPECT_EQ(host::Module::Load(ModulePath(), {application_, &desk_.registry(), interface_number},
+    EXPECT_EQ(host::Module::Load(ModulePath(), {application_, &desk_.settings(), interface_number},
                                  refusal),
               nullptr);
     EXPECT_NE(refusal.find("interface 21"), std::string::npos) << refusal;
@@ -47,27 +47,20 @@ TEST_F(EntryPointsTest, AHostOfAnotherInterfaceRefusesTheModule) {
 
 TEST_F(EntryPointsTest, LoadingOpensTheKeysOfTheThreeRecordsAndWritesNothing) {
   const std::string root = "Software\\Orvane\\OrvaneFileIO\\Skelder\\";
-  EXPECT_EQ(desk_.registry().OpenKeys(),
+  EXPECT_EQ(desk_.settings().OpenKeys(),
             (std::vector<std::string>{root + "ExportHTR", root + "ImportHTR", root + "ImportTRC"}));
   for (const char* name : {"ExportHTR", "ImportHTR", "ImportTRC"}) {
     for (const char* value : {"Apply", "Animate", "Range", "FPS", "Size", "ScaleFactor", "Pose"}) {
-      EXPECT_FALSE(desk_.registry().FindValue(root + name, value)) << name << " " << value;
+      EXPECT_FALSE(desk_.settings().FindValue(root + name, value)) << name << " " << value;
     }
   }
 }
 
 TEST_F(EntryPointsTest, WithoutARegistryTheModuleLoadsAllTheSame) {
   module_.reset();
-  desk_.registry().RefuseKey("Software\\Orvane");
+  desk_.settings().RefuseKey("Software\\Orvane");
   SetUp();
-  EXPECT_TRUE(desk_.registry().OpenKeys().empty());
-  EXPECT_EQ(module_->NumberOfClasses(), 4);
-}
-
-TEST_F(EntryPointsTest, WithoutADesktopTheModuleLoadsAllTheSame) {
-  module_.reset();
-  platform::InstallDesktop(nullptr);
-  SetUp();
+  EXPECT_TRUE(desk_.settings().OpenKeys().empty());
   EXPECT_EQ(module_->NumberOfClasses(), 4);
 }
 

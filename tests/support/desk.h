@@ -5,8 +5,8 @@
 #include <string>
 #include <utility>
 
-#include "host/desktop/memory_registry.h"
 #include "host/desktop/scripted_desktop.h"
+#include "host/desktop/settings.h"
 
 // A desktop for tests: fresh settings, and a user who closes every message box and answers dialogs
 // as the test says.
@@ -25,8 +25,8 @@ class Desk {
       if (when_told_) when_told_();
       return platform::kMessageBoxOk;
     };
-    user.choose_files = [this](const platform::FileDialog& dialog) {
-      if (!choose_files_) throw host::ScriptError(std::string("Nobody expects ") + dialog.title);
+    user.choose_files = [this](const host::ShownFileDialog& dialog) {
+      if (!choose_files_) throw host::ScriptError("Nobody expects " + dialog.title);
       return choose_files_(dialog);
     };
     user.choose_folder = [this](const std::string& title) {
@@ -35,13 +35,11 @@ class Desk {
     };
     user.act = [this] { return act_ && act_(); };
     desktop_.SetUser(std::move(user));
-    platform::InstallDesktop(&desktop_);
   }
   Desk(const Desk&) = delete;
   Desk& operator=(const Desk&) = delete;
-  ~Desk() { platform::InstallDesktop(nullptr); }
 
-  host::MemoryRegistry& registry() { return registry_; }
+  host::FreshSettings& settings() { return settings_; }
   host::ScriptedDesktop& desktop() { return desktop_; }
 
   // Answers the dialogs to come, one after the other.
@@ -55,7 +53,7 @@ class Desk {
   void WhenTold(std::function<void()> happen) { when_told_ = std::move(happen); }
 
   // What the user does in the dialogs for files and folders from now on.
-  void ChooseFiles(std::function<host::FileChoice(const platform::FileDialog&)> choose) {
+  void ChooseFiles(std::function<host::FileChoice(const host::ShownFileDialog&)> choose) {
     choose_files_ = std::move(choose);
   }
   void ChooseFolder(std::function<std::string(const std::string&)> choose) {
@@ -82,12 +80,12 @@ class Desk {
     answer(dialog);
   }
 
-  host::MemoryRegistry registry_;
-  host::ScriptedDesktop desktop_{registry_};
+  host::FreshSettings settings_;
+  host::ScriptedDesktop desktop_;
   std::deque<DialogAnswer> answers_;
   platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
   std::function<void()> when_told_;
-  std::function<host::FileChoice(const platform::FileDialog&)> choose_files_;
+  std::function<host::FileChoice(const host::ShownFileDialog&)> choose_files_;
   std::function<std::string(const std::string&)> choose_folder_;
   std::function<bool()> act_;
 };

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string>
 
-#include "host/desktop/window.h"
+#include "host/desktop/top_level_window.h"
 #include "platform/dialog.h"
 
 namespace test {
@@ -24,7 +24,7 @@ class FakeDialog final : public platform::Dialog {
   Control& operator[](int id) { return controls_[id]; }
   const std::optional<int>& Result() const { return result_; }
 
-  HWND Window() override { return &window_; }
+  HWND Window() override { return window_.Handle(); }
   HWND ControlWindow(int /*control*/) override { return nullptr; }
   void SetText(int control, const char* text) override { controls_[control].text = text; }
   std::size_t GetText(int control, char* buffer, std::size_t size) override {
@@ -40,7 +40,7 @@ class FakeDialog final : public platform::Dialog {
   void End(int result) override { result_ = result; }
 
  private:
-  HWND__ window_;
+  host::TopLevelWindow window_;
   std::map<int, Control> controls_;
   std::optional<int> result_;
 };

@@ -4,13 +4,11 @@
 
 namespace test {
 
-// Passes every call on to another desktop; tests override what they want to see or do themselves.
-// In use until it is destroyed; then the other one is again.
+// Passes every call on to the desktop that was in use before; tests override what they want to see
+// or do themselves. In use until it is destroyed; then the other one is again.
 class ForwardingDesktop : public platform::Desktop {
  public:
-  explicit ForwardingDesktop(platform::Desktop& target) : target_(target) {
-    platform::InstallDesktop(this);
-  }
+  ForwardingDesktop() { platform::InstallDesktop(this); }
   ForwardingDesktop(const ForwardingDesktop&) = delete;
   ForwardingDesktop& operator=(const ForwardingDesktop&) = delete;
   ~ForwardingDesktop() { platform::InstallDesktop(&target_); }
@@ -39,10 +37,9 @@ class ForwardingDesktop : public platform::Desktop {
   bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) override {
     return target_.ChooseFolder(owner, title, buffer, size);
   }
-  platform::Registry& CurrentUser() override { return target_.CurrentUser(); }
 
  private:
-  platform::Desktop& target_;
+  platform::Desktop& target_ = *platform::CurrentDesktop();
 };
 
 }  // namespace test

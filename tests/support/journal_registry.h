@@ -2,11 +2,12 @@
 
 #include <string>
 
-#include "host/desktop/memory_registry.h"
+#include "host/desktop/portable/installed_registry.h"
+#include "host/desktop/portable/memory_registry.h"
 
 namespace test {
 
-// Notes which values are asked for and written.
+// A registry that notes which values are asked for and written. In use until it is destroyed.
 class JournalRegistry final : public platform::Registry {
  public:
   platform::RegistryKey* CreateKey(platform::RegistryKey* parent, const char* path) override {
@@ -28,6 +29,7 @@ class JournalRegistry final : public platform::Registry {
 
  private:
   host::MemoryRegistry target_;
+  host::InstalledRegistry installed_{*this};
 };
 
 }  // namespace test

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "host/desktop/top_level_window.h"
 #include "platform/module.h"
 #include "plugin/shell/message_sink.h"
 #include "tests/support/desk.h"
@@ -25,7 +26,7 @@ class OptionsDialogFixture : public testing::Test {
   }
 
   OptionsDialog Dialog() {
-    return OptionsDialog(options_, sink_, &parent_, platform::ModuleHandle());
+    return OptionsDialog(options_, sink_, parent_.Handle(), platform::ModuleHandle());
   }
 
   // Shows the dialog to `user`; a dialog that the user leaves open is cancelled.
@@ -39,7 +40,7 @@ class OptionsDialogFixture : public testing::Test {
   }
 
   Desk desk_;
-  HWND__ parent_;
+  host::TopLevelWindow parent_;
   Options options_;
   orvane::MessageSink sink_;
 };

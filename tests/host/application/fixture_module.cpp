@@ -5,19 +5,20 @@
 #include <cstring>
 #include <string>
 
-#include "platform/desktop.h"
+#include "platform/export.h"
+#include "platform/registry.h"
 #include "sdk/core/animation.h"
 #include "sdk/core/interface.h"
 #include "sdk/core/library.h"
 #include "sdk/core/plugin.h"
 #include "tests/host/application/idle_callbacks.h"
 
-#define FIXTURE_ENTRY extern "C" __attribute__((visibility("default")))
+#define FIXTURE_ENTRY extern "C" SKELDER_ENTRY
 
 namespace {
 
 platform::RegistryKey* OpenKey(const char* path) {
-  return platform::CurrentDesktop()->CurrentUser().CreateKey(nullptr, path);
+  return platform::CreateRegistryKey(nullptr, path);
 }
 
 // As an option record does: its key is open as long as the module is loaded.
@@ -26,7 +27,7 @@ class OptionRecord {
   OptionRecord() : key_(OpenKey("Fixture\\Options")) {}
   OptionRecord(const OptionRecord&) = delete;
   OptionRecord& operator=(const OptionRecord&) = delete;
-  ~OptionRecord() { platform::CurrentDesktop()->CurrentUser().CloseKey(key_); }
+  ~OptionRecord() { platform::CloseRegistryKey(key_); }
 
  private:
   platform::RegistryKey* key_;
@@ -44,10 +45,10 @@ std::uint32_t GoOn(void* /*argument*/) { return 0; }
 // An allocation that only the test frees: it finds its address in the registry.
 void ForgetAllocation() {
   void* memory = SkelderAllocate(1);
-  platform::Registry& registry = platform::CurrentDesktop()->CurrentUser();
   platform::RegistryKey* key = OpenKey("Fixture\\Options");
-  registry.SetValue(key, "Forgotten", platform::RegistryType::kBinary, &memory, sizeof memory);
-  registry.CloseKey(key);
+  platform::SetRegistryValue(key, "Forgotten", platform::RegistryType::kBinary, &memory,
+                             sizeof memory);
+  platform::CloseRegistryKey(key);
 }
 
 // The one thing that `name` asks to leave behind.

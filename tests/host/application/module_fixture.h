@@ -7,17 +7,12 @@
 
 #include "host/application/application.h"
 #include "host/application/module.h"
-#include "host/desktop/memory_registry.h"
-#include "host/desktop/scripted_desktop.h"
-#include "platform/desktop.h"
+#include "host/desktop/settings.h"
 
-// A desktop and an application for modules to be loaded into.
+// Settings and an application for modules to be loaded into.
 
 class ModuleTest : public testing::Test {
  protected:
-  ModuleTest() { platform::InstallDesktop(&desktop_); }
-  ~ModuleTest() override { platform::InstallDesktop(nullptr); }
-
   // The path of one of the fixture modules.
   static std::string Fixture(const std::string& name) {
     return std::string(ORVANE_BINARY_DIR) + "/tests/" + name + ".so";
@@ -26,11 +21,10 @@ class ModuleTest : public testing::Test {
   // Loads `path`; a refusal is kept in `refusal_`.
   std::unique_ptr<host::Module> Load(const std::string& path,
                                      std::uint32_t interface_number = kSkelderInterface) {
-    return host::Module::Load(path, {application_, &registry_, interface_number}, refusal_);
+    return host::Module::Load(path, {application_, &settings_, interface_number}, refusal_);
   }
 
-  host::MemoryRegistry registry_;
-  host::ScriptedDesktop desktop_{registry_};
+  host::FreshSettings settings_;
   host::Application application_;
   std::string refusal_;
 };

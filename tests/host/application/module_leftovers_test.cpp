@@ -3,6 +3,7 @@
 #include <cstring>
 
 #include "host/base/heap_control.h"
+#include "platform/registry.h"
 #include "sdk/core/heap.h"
 #include "tests/host/application/module_fixture.h"
 
@@ -26,9 +27,9 @@ TEST_F(ModuleLeftoversTest, AreNoneWhenTheModuleGaveEverythingBack) {
 
 TEST_F(ModuleLeftoversTest, AreNoneOfWhatOthersHoldAlready) {
   void* block = SkelderAllocate(8);
-  platform::RegistryKey* key = registry_.CreateKey(nullptr, "Fixture\\Options");
+  platform::RegistryKey* key = platform::CreateRegistryKey(nullptr, "Fixture\\Options");
   EXPECT_TRUE(LeftAfter("done.fix").IsClean());
-  registry_.CloseKey(key);
+  platform::CloseRegistryKey(key);
   SkelderFree(block);
 }
 
@@ -48,7 +49,7 @@ TEST_F(ModuleLeftoversTest, CountAllocationsThatWereNotFreed) {
   const host::ModuleLeftovers left = LeftAfter("allocation.fix");
   EXPECT_EQ(left.live_allocations, 1U);
   EXPECT_FALSE(left.IsClean());
-  const auto address = registry_.FindValue("Fixture\\Options", "Forgotten");
+  const auto address = settings_.FindValue("Fixture\\Options", "Forgotten");
   ASSERT_TRUE(address.has_value());
   void* memory = nullptr;
   ASSERT_EQ(address->bytes.size(), sizeof memory);

@@ -27,9 +27,9 @@ TEST_F(ModuleLoadTest, OffersWhatTheEntryPointsAnswer) {
 
 TEST_F(ModuleLoadTest, ConstructsTheModulesStaticsAndDestroysThem) {
   auto module = Load(Fixture("fixture_module"));
-  EXPECT_THAT(registry_.OpenKeys(), ElementsAre("Fixture\\Options"));
+  EXPECT_THAT(settings_.OpenKeys(), ElementsAre("Fixture\\Options"));
   module.reset();
-  EXPECT_THAT(registry_.OpenKeys(), ElementsAre());
+  EXPECT_THAT(settings_.OpenKeys(), ElementsAre());
 }
 
 class ModuleWithoutEntryPointTest : public ModuleTest,
@@ -40,7 +40,7 @@ TEST_P(ModuleWithoutEntryPointTest, IsRefusedAndUnloaded) {
   const std::string path = Fixture("fixture_without_" + entry);
   EXPECT_EQ(Load(path), nullptr);
   EXPECT_EQ(refusal_, path + " is not a plug-in module: it has no entry point " + entry + ".");
-  EXPECT_THAT(registry_.OpenKeys(), ElementsAre());
+  EXPECT_THAT(settings_.OpenKeys(), ElementsAre());
 }
 
 INSTANTIATE_TEST_SUITE_P(EveryEntryPoint, ModuleWithoutEntryPointTest,
@@ -52,7 +52,7 @@ TEST_F(ModuleLoadTest, RefusesAModuleMadeForAnotherInterface) {
   EXPECT_EQ(Load(path), nullptr);
   EXPECT_EQ(refusal_,
             path + " was made for interface 20 of the host, but this host has interface 21.");
-  EXPECT_THAT(registry_.OpenKeys(), ElementsAre());
+  EXPECT_THAT(settings_.OpenKeys(), ElementsAre());
 }
 
 TEST_F(ModuleLoadTest, ComparesTheInterfaceWithTheHostsOwn) {

@@ -18,7 +18,7 @@ TEST_F(RealModuleTest, IsLoadedAndLeavesNothingBehind) {
     auto module = Load(path_);
     ASSERT_NE(module, nullptr) << refusal_;
     EXPECT_EQ(module->NumberOfClasses(), 4);
-    EXPECT_THAT(registry_.OpenKeys(), SizeIs(3));
+    EXPECT_THAT(settings_.OpenKeys(), SizeIs(3));
     EXPECT_TRUE(host::UnloadModule(std::move(module)).IsClean());
   }
 }
@@ -28,7 +28,7 @@ TEST_F(RealModuleTest, IsRefusedByAHostWithAnotherInterface) {
     EXPECT_EQ(Load(path_, other), nullptr);
     EXPECT_EQ(refusal_, path_ + " was made for interface 21 of the host, but this host has " +
                             "interface " + std::to_string(other) + ".");
-    EXPECT_THAT(registry_.OpenKeys(), SizeIs(0));
+    EXPECT_THAT(settings_.OpenKeys(), SizeIs(0));
   }
 }
 

@@ -6,7 +6,6 @@
 #include <functional>
 
 #include "host/application/application.h"
-#include "platform/desktop.h"
 #include "sdk/skelderutil/custom_edit.h"
 #include "tests/host/desktop/dialog_fixture.h"
 
@@ -17,7 +16,11 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
-// What the procedure below was called with.
+// The system's messages.
+constexpr unsigned int kInitialize = 0x110;
+constexpr unsigned int kCommand = 0x111;
+
+// What the procedure below was called with, of these.
 struct Call {
   HWND window;
   unsigned int message;
@@ -29,22 +32,23 @@ struct Record {
   std::function<void()> on_command;
 };
 
+Record* current_record = nullptr;
+
 std::intptr_t Procedure(HWND window, unsigned int message, std::uintptr_t word,
                         std::intptr_t parameter) {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): made from the record's address
-  auto& record = *reinterpret_cast<Record*>(parameter);
+  if (message == kInitialize) current_record = reinterpret_cast<Record*>(parameter);
+  Record& record = *current_record;
+  if (message != kInitialize && message != kCommand) return 0;
   record.calls.push_back({window, message, word});
-  if (message == platform::kDialogCommand && record.on_command) record.on_command();
+  if (message == kCommand && record.on_command) record.on_command();
   return 1;
 }
 
 class RollupPagesTest : public DialogFixture {
  protected:
-  RollupPagesTest() { platform::InstallDesktop(&desktop); }
-  ~RollupPagesTest() override { platform::InstallDesktop(nullptr); }
-
   HWND Add(int dialog_id = kPage) {
-    return host_.AddRollupPage(&module, dialog_id, Procedure, "My Page",
+    return host_.AddRollupPage(module, dialog_id, Procedure, "My Page",
                                reinterpret_cast<std::intptr_t>(&record_), 2, 4000);
   }
 
@@ -65,9 +69,9 @@ TEST_F(RollupPagesTest, AreShownAndRunByTheirProcedure) {
   desktop.ShownDialog(kPage)->Click(kCheck);
   ASSERT_THAT(record_.calls, SizeIs(2));
   EXPECT_EQ(record_.calls[0].window, window);
-  EXPECT_EQ(record_.calls[0].message, 0x110U);
+  EXPECT_EQ(record_.calls[0].message, kInitialize);
   EXPECT_EQ(record_.calls[1].window, window);
-  EXPECT_EQ(record_.calls[1].message, 0x111U);
+  EXPECT_EQ(record_.calls[1].message, kCommand);
   EXPECT_EQ(record_.calls[1].word, std::uintptr_t{kCheck});
 }
 
@@ -95,8 +99,8 @@ TEST_F(RollupPagesTest, AreNotAddedWithoutTheirDialog) {
 }
 
 TEST_F(RollupPagesTest, CustomEditControlsAreReleasedAsOftenAsTheyWereObtained) {
-  const HWND window = Add(kDialog);
-  const HWND control = desktop.FindModeless(window)->ControlWindow(kCustomEdit);
+  Add(kDialog);
+  const HWND control = desktop.ShownDialog(kDialog)->ControlWindow(kCustomEdit);
   ICustEdit* const first = GetICustEdit(control);
   ASSERT_NE(first, nullptr);
   ICustEdit* const second = GetICustEdit(control);

@@ -6,32 +6,12 @@
 #include <utility>
 #include <vector>
 
-#include "host/desktop/memory_registry.h"
 #include "host/desktop/scripted_desktop.h"
-#include "platform/portable/module_resources.h"
-#include "tests/support/resource_builder.h"
+#include "host/desktop/top_level_window.h"
+#include "platform/dialog.h"
+#include "tests/host/desktop/fixture_module.h"
 
 namespace host {
-
-// The controls of the dialog in the fixture.
-enum Control : int {
-  kOk = 1097,
-  kCancel = 1098,
-  kCheck = 10,
-  kFirstRadio = 11,
-  kSecondRadio = 12,
-  kEdit = 13,
-  kReadOnlyEdit = 14,
-  kDisabledCheck = 15,
-  kDisabledEdit = 16,
-  kLabel = 17,
-  kGroup = 18,
-  kCustomEdit = 19,
-  kAbsent = 99
-};
-
-inline constexpr int kDialog = 107;
-inline constexpr int kPage = 116;  // with the check box alone
 
 // What a dialog does, told by functions; notes the commands that it got.
 class RecordingHandler final : public platform::DialogHandler {
@@ -61,36 +41,14 @@ class DialogFixture : public testing::Test {
     user.answer_dialog = std::move(script);
     user.answer_message = answer_message;
     desktop.SetUser(std::move(user));
-    return desktop.RunDialog(&module, kDialog, &parent, handler);
+    return platform::RunModalDialog(module, kDialog, parent.Handle(), handler);
   }
 
-  HWND__ parent;
-  MemoryRegistry registry;
-  ScriptedDesktop desktop{registry};
+  const TopLevelWindow parent;
+  ScriptedDesktop desktop;
   RecordingHandler handler;
   std::function<int(const MessageBox&)> answer_message;
-  const test::ResourceBytes resources = test::FileBytes(
-      {test::EntryBytes(
-           test::kDialogType, kDialog,
-           test::DialogBytes(u"Options",
-                             {
-                                 {kCheck, test::kButton, 3, u"Check"},
-                                 {kFirstRadio, test::kButton, 4, u"One"},
-                                 {kSecondRadio, test::kButton, 4, u"Two"},
-                                 {kEdit, test::kEdit, 0, u"text"},
-                                 {kReadOnlyEdit, test::kEdit, 0x800, u""},
-                                 {kDisabledCheck, test::kButton, 0x08000003, u"Disabled"},
-                                 {kDisabledEdit, test::kEdit, 0x08000000, u""},
-                                 {kLabel, test::kStatic, 0, u"Label"},
-                                 {kGroup, test::kButton, 7, u"Group"},
-                                 {kCustomEdit, 0, 0, u"", u"SKELDEREDIT"},
-                                 {kOk, test::kButton, 1, u"&OK"},
-                                 {kCancel, test::kButton, 0, u"&Cancel"},
-                             })),
-       test::EntryBytes(test::kDialogType, kPage,
-                        test::DialogBytes(u"Page", {{kCheck, test::kButton, 3, u"Check"}},
-                                          test::kChildDialog))});
-  HINSTANCE__ module{resources};
+  HINSTANCE module = FixtureModule();
 };
 
 }  // namespace host

@@ -1,11 +1,11 @@
-#include "host/desktop/modeless_dialogs.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <string>
 #include <utility>
 
+#include "host/desktop/pending_messages.h"
+#include "platform/message_box.h"
 #include "tests/host/desktop/dialog_fixture.h"
 
 namespace host {
@@ -15,11 +15,15 @@ using testing::ElementsAre;
 
 class ModelessDialogTest : public DialogFixture {
  protected:
+  platform::ModelessDialog Create(int dialog_id = kDialog) {
+    return platform::CreateModelessDialog(module, dialog_id, parent.Handle(), handler);
+  }
+
   // A dialog that is open, and shown.
-  platform::Dialog& Open(int dialog_id = kDialog) {
-    platform::Dialog* const dialog = desktop.CreateModeless(&module, dialog_id, &parent, handler);
-    desktop.ShowModeless(*dialog);
-    return *dialog;
+  platform::ModelessDialog Open(int dialog_id = kDialog) {
+    platform::ModelessDialog dialog = Create(dialog_id);
+    platform::ShowModelessDialog(*dialog);
+    return dialog;
   }
 
   // Lets `act` be what the user does next.
@@ -43,118 +47,108 @@ class ModelessDialogTest : public DialogFixture {
 
 TEST_F(ModelessDialogTest, IsFilledByItsHandlerAndUsedByItsUser) {
   handler.on_initialize = [](platform::Dialog& dialog) { dialog.SetText(kEdit, "filled"); };
-  platform::Dialog& dialog = Open();
+  platform::ModelessDialog dialog = Open();
   ScriptedDialog* const shown = desktop.ShownDialog(kDialog);
   ASSERT_NE(shown, nullptr);
   EXPECT_EQ(shown->Text(kEdit), "filled");
-  EXPECT_EQ(shown->Window(), dialog.Window());
-  EXPECT_EQ(shown->Window()->parent, &parent);
+  EXPECT_EQ(shown->Window(), dialog->Window());
+  EXPECT_EQ(shown->Owner(), parent.Handle());
   shown->Click(kCheck);
   EXPECT_THAT(handler.commands, ElementsAre(kCheck));
 }
 
 TEST_F(ModelessDialogTest, IsNotThereBeforeItIsShown) {
-  platform::Dialog* const dialog = desktop.CreateModeless(&module, kDialog, &parent, handler);
+  const platform::ModelessDialog dialog = Create();
   EXPECT_EQ(desktop.ShownDialog(kDialog), nullptr);
-  desktop.ShowModeless(*dialog);
+  platform::ShowModelessDialog(*dialog);
   EXPECT_NE(desktop.ShownDialog(kDialog), nullptr);
   EXPECT_EQ(desktop.ShownDialog(kPage), nullptr);
 }
 
 TEST_F(ModelessDialogTest, StaysOpenWhenItsHandlerEndsIt) {
-  Open();
+  const platform::ModelessDialog dialog = Open();
   desktop.ShownDialog(kDialog)->Click(kOk);
   EXPECT_NE(desktop.ShownDialog(kDialog), nullptr);
 }
 
 TEST_F(ModelessDialogTest, MayBeDestroyedWhileItIsUsed) {
-  platform::Dialog& dialog = Open();
+  platform::ModelessDialog dialog = Open();
   ScriptedDialog* const shown = desktop.ShownDialog(kDialog);
-  handler.on_command = [&](platform::Dialog&, int) { desktop.DestroyModeless(dialog); };
+  ASSERT_NE(shown, nullptr);
+  handler.on_command = [&](platform::Dialog&, int) { dialog.reset(); };
   shown->Click(kCheck);
   EXPECT_TRUE(shown->HasEnded());
   EXPECT_EQ(desktop.ShownDialog(kDialog), nullptr);
-  EXPECT_EQ(desktop.FindModeless(dialog.Window()), nullptr);
   EXPECT_THROW(shown->Click(kCheck), ScriptError);
-  desktop.DestroyModeless(dialog);
-}
-
-TEST_F(ModelessDialogTest, IsFoundByItsWindow) {
-  platform::Dialog& first = Open();
-  platform::Dialog& second = Open(kPage);
-  EXPECT_EQ(desktop.FindModeless(first.Window()), &first);
-  EXPECT_EQ(desktop.FindModeless(second.Window()), &second);
-  EXPECT_EQ(desktop.FindModeless(&parent), nullptr);
 }
 
 TEST_F(ModelessDialogTest, LatestOfTwoIsInFront) {
-  platform::Dialog& first = Open();
-  platform::Dialog& second = Open();
-  EXPECT_EQ(desktop.ShownDialog(kDialog)->Window(), second.Window());
-  desktop.DestroyModeless(second);
-  EXPECT_EQ(desktop.ShownDialog(kDialog)->Window(), first.Window());
+  const platform::ModelessDialog first = Open();
+  platform::ModelessDialog second = Open();
+  EXPECT_EQ(desktop.ShownDialog(kDialog)->Window(), second->Window());
+  second.reset();
+  EXPECT_EQ(desktop.ShownDialog(kDialog)->Window(), first->Window());
 }
 
 TEST_F(ModelessDialogTest, IsNotCreatedWhenItIsRefusedOrUnknown) {
   desktop.RefuseDialog(kDialog);
-  EXPECT_EQ(desktop.CreateModeless(&module, kDialog, &parent, handler), nullptr);
-  EXPECT_EQ(desktop.CreateModeless(&module, 200, &parent, handler), nullptr);
-  EXPECT_EQ(desktop.CreateModeless(nullptr, kPage, &parent, handler), nullptr);
+  EXPECT_EQ(Create(), nullptr);
+  EXPECT_EQ(Create(200), nullptr);
+  EXPECT_EQ(platform::CreateModelessDialog(nullptr, kPage, parent.Handle(), handler), nullptr);
 }
 
 TEST_F(ModelessDialogTest, LetsTheUserActWhileItStandsOpen) {
-  Open();
+  const platform::ModelessDialog dialog = Open();
   int acts = 0;
   Plan([&acts] { return ++acts < 3; });
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false));
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false));
-  EXPECT_FALSE(desktop.ProcessPendingMessages(false));
+  EXPECT_TRUE(HandlePendingMessages(false));
+  EXPECT_TRUE(HandlePendingMessages(false));
+  EXPECT_FALSE(HandlePendingMessages(false));
   EXPECT_EQ(Failure(), kIdle);
-  EXPECT_FALSE(desktop.ProcessPendingMessages(false)) << "nobody is asked any more";
+  EXPECT_FALSE(HandlePendingMessages(false)) << "nobody is asked any more";
   EXPECT_EQ(acts, 3);
 }
 
 TEST_F(ModelessDialogTest, WaitingForAUserWhoDoesNothingIsAFailure) {
-  Open();
-  EXPECT_FALSE(desktop.ProcessPendingMessages(false));
+  const platform::ModelessDialog dialog = Open();
+  EXPECT_FALSE(HandlePendingMessages(false));
   EXPECT_EQ(Failure(), kIdle);
 }
 
 TEST_F(ModelessDialogTest, NobodyIsAwaitedWithoutADialog) {
   Plan([]() -> bool { throw ScriptError("asked"); });
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false));
-  desktop.CreateModeless(&module, kDialog, &parent, handler);
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false)) << "it is not shown";
-  platform::Dialog& dialog = Open();
-  desktop.DestroyModeless(dialog);
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false)) << "it is gone";
-  Open(kPage);
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false)) << "it is a part of another window";
+  EXPECT_TRUE(HandlePendingMessages(false));
+  const platform::ModelessDialog hidden = Create();
+  EXPECT_TRUE(HandlePendingMessages(false)) << "it is not shown";
+  Open().reset();
+  EXPECT_TRUE(HandlePendingMessages(false)) << "it is gone";
+  const platform::ModelessDialog page = Open(kPage);
+  EXPECT_TRUE(HandlePendingMessages(false)) << "it is a part of another window";
   EXPECT_EQ(Failure(), "");
-  EXPECT_FALSE(desktop.ProcessPendingMessages(true));
+  EXPECT_FALSE(HandlePendingMessages(true));
   EXPECT_EQ(Failure(), "asked");
 }
 
 TEST_F(ModelessDialogTest, AnActMayPutAnotherUserInItsPlace) {
-  Open();
+  const platform::ModelessDialog dialog = Open();
   Plan([this] {
     Plan([] { return false; });
     return true;
   });
-  EXPECT_TRUE(desktop.ProcessPendingMessages(false));
-  EXPECT_FALSE(desktop.ProcessPendingMessages(false));
+  EXPECT_TRUE(HandlePendingMessages(false));
+  EXPECT_FALSE(HandlePendingMessages(false));
 }
 
 TEST_F(ModelessDialogTest, FailedMessageOfAnActIsNoticed) {
-  Open();
+  const platform::ModelessDialog dialog = Open();
   handler.on_command = [this](platform::Dialog&, int) {
-    desktop.ShowMessage("No.", "Error", platform::MessageBoxStyle::kOk);
+    platform::ShowMessageBox("No.", "Error", platform::MessageBoxStyle::kOk);
   };
   Plan([this] {
     desktop.ShownDialog(kDialog)->Click(kCheck);
     return true;
   });
-  EXPECT_FALSE(desktop.ProcessPendingMessages(false));
+  EXPECT_FALSE(HandlePendingMessages(false));
   EXPECT_EQ(Failure(), "Nobody answers the message \"No.\" (\"Error\").");
 }
 

@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "platform/message_box.h"
 #include "tests/host/desktop/dialog_fixture.h"
 
 namespace host {
@@ -32,7 +33,7 @@ class ScriptedDesktopTest : public DialogFixture {
     ScriptedUser user;
     user.answer_message = [answer](const MessageBox&) { return answer; };
     desktop.SetUser(std::move(user));
-    return desktop.ShowMessage("Sure?", "Title", MessageBoxStyle::kYesNo);
+    return platform::ShowMessageBox("Sure?", "Title", MessageBoxStyle::kYesNo);
   }
 };
 
@@ -49,8 +50,8 @@ TEST_F(ScriptedDesktopTest, AsksNobodyWhenTheHandlerEndsAtOnce) {
 }
 
 TEST_F(ScriptedDesktopTest, DialogThatTheModuleLacksIsNotCreated) {
-  EXPECT_EQ(desktop.RunDialog(&module, 108, nullptr, handler), kDialogNotCreated);
-  EXPECT_EQ(desktop.RunDialog(nullptr, kDialog, nullptr, handler), kDialogNotCreated);
+  EXPECT_EQ(platform::RunModalDialog(module, 108, nullptr, handler), kDialogNotCreated);
+  EXPECT_EQ(platform::RunModalDialog(nullptr, kDialog, nullptr, handler), kDialogNotCreated);
   EXPECT_EQ(Failure(), "");
 }
 
@@ -125,11 +126,12 @@ TEST_F(ScriptedDesktopTest, ShowsTheUserTheMessage) {
     return platform::kMessageBoxOk;
   };
   desktop.SetUser(std::move(user));
-  EXPECT_EQ(desktop.ShowMessage("Text", "Title", MessageBoxStyle::kOk), platform::kMessageBoxOk);
+  EXPECT_EQ(platform::ShowMessageBox("Text", "Title", MessageBoxStyle::kOk),
+            platform::kMessageBoxOk);
 }
 
 TEST_F(ScriptedDesktopTest, MessageThatNobodyAnswersIsAFailure) {
-  EXPECT_EQ(desktop.ShowMessage("Text", "Title", MessageBoxStyle::kOk),
+  EXPECT_EQ(platform::ShowMessageBox("Text", "Title", MessageBoxStyle::kOk),
             platform::kMessageBoxFailed);
   EXPECT_EQ(Failure(), "Nobody answers the message \"Text\" (\"Title\").");
   ASSERT_THAT(desktop.Messages(), SizeIs(1));
@@ -144,7 +146,7 @@ TEST_F(ScriptedDesktopTest, ButtonThatTheMessageLacksIsAFailure) {
 TEST_F(ScriptedDesktopTest, MessageFromWithinADialogIsAnswered) {
   answer_message = [](const MessageBox&) { return platform::kMessageBoxOk; };
   handler.on_command = [this](platform::Dialog&, int control) {
-    if (control == kCheck) desktop.ShowMessage("No.", "Error", MessageBoxStyle::kOk);
+    if (control == kCheck) platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog& dialog) {
               dialog.Click(kCheck);
@@ -156,7 +158,7 @@ TEST_F(ScriptedDesktopTest, MessageFromWithinADialogIsAnswered) {
 
 TEST_F(ScriptedDesktopTest, FailedMessageFromWithinADialogEndsItsScript) {
   handler.on_command = [this](platform::Dialog&, int) {
-    desktop.ShowMessage("No.", "Error", MessageBoxStyle::kOk);
+    platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog& dialog) {
               dialog.Click(kCheck);
@@ -168,7 +170,7 @@ TEST_F(ScriptedDesktopTest, FailedMessageFromWithinADialogEndsItsScript) {
 
 TEST_F(ScriptedDesktopTest, FailedMessageWhileADialogOpensLeavesTheScriptOut) {
   handler.on_initialize = [this](platform::Dialog&) {
-    desktop.ShowMessage("No.", "Error", MessageBoxStyle::kOk);
+    platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog&) { ADD_FAILURE() << "asked"; }), kDialogNotCreated);
 }
@@ -177,7 +179,7 @@ TEST_F(ScriptedDesktopTest, DialogOverADialogIsAnsweredByTheSameUser) {
   RecordingHandler inner;
   handler.on_command = [&](platform::Dialog& dialog, int control) {
     if (control == kCheck) {
-      EXPECT_EQ(desktop.RunDialog(&module, kDialog, dialog.Window(), inner), 0);
+      EXPECT_EQ(platform::RunModalDialog(module, kDialog, dialog.Window(), inner), 0);
     }
   };
   int depth = 0;
@@ -189,10 +191,6 @@ TEST_F(ScriptedDesktopTest, DialogOverADialogIsAnsweredByTheSameUser) {
             1);
   EXPECT_EQ(Failure(), "");
   EXPECT_EQ(depth, 2);
-}
-
-TEST_F(ScriptedDesktopTest, LendsTheRegistryThatItWasGiven) {
-  EXPECT_EQ(&desktop.CurrentUser(), &registry);
 }
 
 }  // namespace

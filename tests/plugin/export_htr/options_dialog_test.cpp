@@ -8,7 +8,6 @@
 #include "platform/module.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
-#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -31,30 +30,20 @@ class ExportHTROptionsDialogTest
     : public test::OptionsDialogFixture<ExportHTROptionsDialog, ExportHTROptions> {
  protected:
   bool IsSaved() {
-    return desk_.registry()
+    return desk_.settings()
         .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ExportHTR", "Pose")
         .has_value();
   }
 };
 
-TEST_F(ExportHTROptionsDialogTest, IsCentredOverItsParentAndTitled) {
+TEST_F(ExportHTROptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
   Show([this](host::ScriptedDialog& dialog) {
     EXPECT_EQ(dialog.Id(), 126);
     EXPECT_EQ(dialog.Title(), "ExportHTR");
-    EXPECT_EQ(dialog.CentredOver(), &parent_);
+    EXPECT_EQ(dialog.Owner(), parent_.Handle());
+    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
     EXPECT_FALSE(dialog.Has(kAbout));
   });
-}
-
-TEST(ExportHTROptionsDialogParentTest, IsShownOverItsParent) {
-  const test::RefusingDesktop desktop;
-  ExportHTROptions options;
-  MessageSink sink;
-  HWND__ parent;
-  EXPECT_FALSE(ExportHTROptionsDialog(options, sink, &parent, platform::ModuleHandle()).Show());
-  EXPECT_EQ(desktop.DialogId(), 126);
-  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
-  EXPECT_EQ(desktop.Parent(), &parent);
 }
 
 TEST_F(ExportHTROptionsDialogTest, ShowsTheDefaultsAtFirst) {

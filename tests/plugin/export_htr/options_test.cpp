@@ -5,7 +5,6 @@
 #include <bit>
 
 #include "tests/support/desk.h"
-#include "tests/support/journal_registry.h"
 
 namespace orvane {
 namespace {
@@ -29,8 +28,8 @@ TEST(ExportHTROptionsTest, HasItsDefaults) {
 TEST(ExportHTROptionsTest, OpensItsKeyAndReadsOrWritesNothing) {
   test::Desk desk;
   const ExportHTROptions options;
-  EXPECT_EQ(desk.registry().OpenKeys(), std::vector<std::string>{kKey});
-  EXPECT_FALSE(desk.registry().FindValue(kKey, "Pose"));
+  EXPECT_EQ(desk.settings().OpenKeys(), std::vector<std::string>{kKey});
+  EXPECT_FALSE(desk.settings().FindValue(kKey, "Pose"));
 }
 
 TEST(ExportHTROptionsTest, SavesSixValuesInTheirForms) {
@@ -55,13 +54,13 @@ TEST(ExportHTROptionsTest, SavesSixValuesInTheirForms) {
       {"ScaleFactor", RegistryType::kDoubleWord, std::string("\0\0\x20\x40", 4)},
   };
   for (const auto& value : expected) {
-    const auto stored = desk.registry().FindValue(kKey, value.name);
+    const auto stored = desk.settings().FindValue(kKey, value.name);
     ASSERT_TRUE(stored) << value.name;
     EXPECT_EQ(stored->type, value.type) << value.name;
     EXPECT_EQ(stored->bytes, value.bytes) << value.name;
   }
   for (const char* name : {"From", "To", "StartFrame", "EndFrame"}) {
-    EXPECT_FALSE(desk.registry().FindValue(kKey, name)) << name;
+    EXPECT_FALSE(desk.settings().FindValue(kKey, name)) << name;
   }
 }
 
@@ -113,28 +112,9 @@ TEST(ExportHTROptionsTest, MissingValuesKeepTheFields) {
   EXPECT_TRUE(options.savedPose);
 }
 
-TEST(ExportHTROptionsTest, LoadsAndSavesInAFixedOrder) {
-  test::JournalRegistry registry;
-  host::ScriptedDesktop desktop(registry);
-  platform::InstallDesktop(&desktop);
-  {
-    ExportHTROptions options;
-    options.Load();
-    EXPECT_EQ(registry.journal,
-              "read Pose 4\nread Animate 4\nread ParentTransforms 4\nread Range 4\nread Offset 4\n"
-              "read ScaleFactor 8\n");
-    registry.journal.clear();
-    options.Save();
-    EXPECT_EQ(registry.journal,
-              "write Pose 1\nwrite Animate 1\nwrite ParentTransforms 1\nwrite Range 1\n"
-              "write Offset 4\nwrite ScaleFactor 4\n");
-  }
-  platform::InstallDesktop(nullptr);
-}
-
 TEST(ExportHTROptionsTest, WithoutItsKeyItWorksInMemoryOnly) {
   test::Desk desk;
-  desk.registry().RefuseKey(kKey);
+  desk.settings().RefuseKey(kKey);
   ExportHTROptions options;
   options.scaleFactor = 3.0;
   options.Save();

@@ -8,7 +8,6 @@
 #include "platform/module.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
-#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -37,29 +36,19 @@ class ImportHTROptionsDialogTest
     : public test::OptionsDialogFixture<ImportHTROptionsDialog, ImportHTROptions> {
  protected:
   bool IsSaved() {
-    return desk_.registry()
+    return desk_.settings()
         .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR", "Apply")
         .has_value();
   }
 };
 
-TEST_F(ImportHTROptionsDialogTest, IsCentredOverItsParentAndTitled) {
+TEST_F(ImportHTROptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
   Show([this](host::ScriptedDialog& dialog) {
     EXPECT_EQ(dialog.Id(), 107);
     EXPECT_EQ(dialog.Title(), "ImportHTR");
-    EXPECT_EQ(dialog.CentredOver(), &parent_);
+    EXPECT_EQ(dialog.Owner(), parent_.Handle());
+    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
   });
-}
-
-TEST(ImportHTROptionsDialogParentTest, IsShownOverItsParent) {
-  const test::RefusingDesktop desktop;
-  ImportHTROptions options;
-  MessageSink sink;
-  HWND__ parent;
-  EXPECT_FALSE(ImportHTROptionsDialog(options, sink, &parent, platform::ModuleHandle()).Show());
-  EXPECT_EQ(desktop.DialogId(), 107);
-  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
-  EXPECT_EQ(desktop.Parent(), &parent);
 }
 
 TEST_F(ImportHTROptionsDialogTest, HasItsControlsAndGroups) {

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include "tests/support/desk.h"
-#include "tests/support/journal_registry.h"
 
 namespace orvane {
 namespace {
@@ -32,8 +31,8 @@ TEST(ImportHTROptionsTest, HasItsDefaults) {
 TEST(ImportHTROptionsTest, OpensItsKeyAndReadsOrWritesNothing) {
   test::Desk desk;
   const ImportHTROptions options;
-  EXPECT_EQ(desk.registry().OpenKeys(), std::vector<std::string>{kKey});
-  EXPECT_FALSE(desk.registry().FindValue(kKey, "Apply"));
+  EXPECT_EQ(desk.settings().OpenKeys(), std::vector<std::string>{kKey});
+  EXPECT_FALSE(desk.settings().FindValue(kKey, "Apply"));
 }
 
 TEST(ImportHTROptionsTest, SavesNineValuesInTheirForms) {
@@ -61,13 +60,13 @@ TEST(ImportHTROptionsTest, SavesNineValuesInTheirForms) {
       {"ScaleFactor", RegistryType::kQuadWord, std::string("\0\0\0\0\0\0\0\x40", 8)},
   };
   for (const auto& value : expected) {
-    const auto stored = desk.registry().FindValue(kKey, value.name);
+    const auto stored = desk.settings().FindValue(kKey, value.name);
     ASSERT_TRUE(stored) << value.name;
     EXPECT_EQ(stored->type, value.type) << value.name;
     EXPECT_EQ(stored->bytes, value.bytes) << value.name;
   }
   for (const char* name : {"From", "To", "Offset", "StartFrame", "EndFrame", "FrameOffset"}) {
-    EXPECT_FALSE(desk.registry().FindValue(kKey, name)) << name;
+    EXPECT_FALSE(desk.settings().FindValue(kKey, name)) << name;
   }
 }
 
@@ -108,30 +107,9 @@ TEST(ImportHTROptionsTest, MissingValuesKeepTheFields) {
   EXPECT_TRUE(options.animate);
 }
 
-TEST(ImportHTROptionsTest, LoadsAndSavesInAFixedOrder) {
-  test::JournalRegistry registry;
-  host::ScriptedDesktop desktop(registry);
-  platform::InstallDesktop(&desktop);
-  {
-    ImportHTROptions options;
-    options.Load();
-    EXPECT_EQ(registry.journal,
-              "read Apply 4\nread Animate 4\nread KeyBasePosition 4\nread EndEffectors 4\n"
-              "read Range 4\nread FPS 4\nread RotationController 4\nread Size 4\n"
-              "read ScaleFactor 8\n");
-    registry.journal.clear();
-    options.Save();
-    EXPECT_EQ(registry.journal,
-              "write Apply 1\nwrite Animate 1\nwrite KeyBasePosition 1\nwrite EndEffectors 1\n"
-              "write Range 1\nwrite FPS 1\nwrite RotationController 4\nwrite Size 4\n"
-              "write ScaleFactor 8\n");
-  }
-  platform::InstallDesktop(nullptr);
-}
-
 TEST(ImportHTROptionsTest, WithoutItsKeyItWorksInMemoryOnly) {
   test::Desk desk;
-  desk.registry().RefuseKey(kKey);
+  desk.settings().RefuseKey(kKey);
   ImportHTROptions options;
   options.size = 3.0F;
   options.Save();

@@ -8,7 +8,6 @@
 #include "platform/module.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
-#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -35,29 +34,19 @@ class ImportTRCOptionsDialogTest
     : public test::OptionsDialogFixture<ImportTRCOptionsDialog, ImportTRCOptions> {
  protected:
   bool IsSaved() {
-    return desk_.registry()
+    return desk_.settings()
         .FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportTRC", "Apply")
         .has_value();
   }
 };
 
-TEST_F(ImportTRCOptionsDialogTest, IsCentredOverItsParentAndTitled) {
+TEST_F(ImportTRCOptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
   Show([this](host::ScriptedDialog& dialog) {
     EXPECT_EQ(dialog.Id(), 108);
     EXPECT_EQ(dialog.Title(), "ImportTRC");
-    EXPECT_EQ(dialog.CentredOver(), &parent_);
+    EXPECT_EQ(dialog.Owner(), parent_.Handle());
+    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
   });
-}
-
-TEST(ImportTRCOptionsDialogParentTest, IsShownOverItsParent) {
-  const test::RefusingDesktop desktop;
-  ImportTRCOptions options;
-  MessageSink sink;
-  HWND__ parent;
-  EXPECT_FALSE(ImportTRCOptionsDialog(options, sink, &parent, platform::ModuleHandle()).Show());
-  EXPECT_EQ(desktop.DialogId(), 108);
-  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
-  EXPECT_EQ(desktop.Parent(), &parent);
 }
 
 // The controls that each of "Create" and "Apply" enables.

@@ -29,8 +29,8 @@ TEST(ImportTRCOptionsTest, HasItsDefaults) {
 TEST(ImportTRCOptionsTest, OpensItsKeyAndReadsOrWritesNothing) {
   test::Desk desk;
   const ImportTRCOptions options;
-  EXPECT_EQ(desk.registry().OpenKeys(), std::vector<std::string>{kKey});
-  EXPECT_FALSE(desk.registry().FindValue(kKey, "Apply"));
+  EXPECT_EQ(desk.settings().OpenKeys(), std::vector<std::string>{kKey});
+  EXPECT_FALSE(desk.settings().FindValue(kKey, "Apply"));
 }
 
 TEST(ImportTRCOptionsTest, SavesEightValuesInTheirForms) {
@@ -56,13 +56,13 @@ TEST(ImportTRCOptionsTest, SavesEightValuesInTheirForms) {
       {"ScaleFactor", RegistryType::kQuadWord, std::string("\0\0\0\0\0\0\0\x40", 8)},
   };
   for (const auto& value : expected) {
-    const auto stored = desk.registry().FindValue(kKey, value.name);
+    const auto stored = desk.settings().FindValue(kKey, value.name);
     ASSERT_TRUE(stored) << value.name;
     EXPECT_EQ(stored->type, value.type) << value.name;
     EXPECT_EQ(stored->bytes, value.bytes) << value.name;
   }
   for (const char* name : {"From", "To", "Offset", "StartFrame", "EndFrame", "FrameOffset"}) {
-    EXPECT_FALSE(desk.registry().FindValue(kKey, name)) << name;
+    EXPECT_FALSE(desk.settings().FindValue(kKey, name)) << name;
   }
 }
 
@@ -106,7 +106,7 @@ TEST(ImportTRCOptionsTest, EachValueHasItsOwnName) {
     options.Save();
     for (const auto& [other_name, other] : flags) {
       const std::string expected(1, other == flag ? '\1' : '\0');
-      EXPECT_EQ(desk.registry().FindValue(kKey, other_name)->bytes, expected) << other_name;
+      EXPECT_EQ(desk.settings().FindValue(kKey, other_name)->bytes, expected) << other_name;
     }
     ImportTRCOptions loaded;
     loaded.Load();

@@ -2,10 +2,9 @@
 
 #include <gtest/gtest.h>
 
-#include "host/desktop/window.h"
+#include "host/desktop/top_level_window.h"
 #include "platform/module.h"
 #include "tests/support/desk.h"
-#include "tests/support/refusing_desktop.h"
 
 namespace orvane {
 namespace {
@@ -36,12 +35,14 @@ TEST(AboutDialogTest, TellsNameAndVersionAndEndsWithOk) {
 }
 
 TEST(AboutDialogTest, IsShownOverItsOwner) {
-  const test::RefusingDesktop desktop;
-  HWND__ owner;
-  ShowAboutDialog(platform::ModuleHandle(), &owner);
-  EXPECT_EQ(desktop.DialogId(), kAboutDialog);
-  EXPECT_EQ(desktop.Module(), platform::ModuleHandle());
-  EXPECT_EQ(desktop.Parent(), &owner);
+  test::Desk desk;
+  const host::TopLevelWindow owner;
+  desk.Expect([&owner](host::ScriptedDialog& dialog) {
+    EXPECT_EQ(dialog.Owner(), owner.Handle());
+    dialog.Click(kOk);
+  });
+  ShowAboutDialog(platform::ModuleHandle(), owner.Handle());
+  desk.desktop().RethrowFailure();
 }
 
 TEST(AboutDialogTest, EscClosesItToo) {

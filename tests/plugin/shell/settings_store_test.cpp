@@ -23,14 +23,12 @@ class SettingsStoreTest : public testing::Test {
 
   // What lies in the registry under `name`.
   host::RegistryValue Stored(const char* name) {
-    return desk_.registry().FindValue(kKey, name).value_or(host::RegistryValue{});
+    return desk_.settings().FindValue(kKey, name).value_or(host::RegistryValue{});
   }
 
   // Stores bytes from outside, as another tool would.
   void Put(const char* name, RegistryType type, const std::string& bytes) {
-    platform::RegistryKey* key = desk_.registry().CreateKey(nullptr, kKey);
-    desk_.registry().SetValue(key, name, type, bytes.data(), bytes.size());
-    desk_.registry().CloseKey(key);
+    desk_.settings().StoreValue(kKey, name, {type, bytes});
   }
 
   test::Desk desk_;
@@ -39,18 +37,18 @@ class SettingsStoreTest : public testing::Test {
 
 TEST_F(SettingsStoreTest, OpenCreatesAllThreeLevels) {
   EXPECT_TRUE(Open());
-  EXPECT_TRUE(desk_.registry().HasKey("Software\\Orvane\\OrvaneFileIO"));
-  EXPECT_TRUE(desk_.registry().HasKey("Software\\Orvane\\OrvaneFileIO\\Skelder"));
-  EXPECT_TRUE(desk_.registry().HasKey(kKey));
+  EXPECT_TRUE(desk_.settings().HasKey("Software\\Orvane\\OrvaneFileIO"));
+  EXPECT_TRUE(desk_.settings().HasKey("Software\\Orvane\\OrvaneFileIO\\Skelder"));
+  EXPECT_TRUE(desk_.settings().HasKey(kKey));
 }
 
 TEST_F(SettingsStoreTest, OnlyTheDeepestKeyStaysOpenUntilTheEnd) {
   {
     SettingsStore store;
     ASSERT_TRUE(store.Open("OrvaneFileIO", "Skelder", "Test"));
-    EXPECT_EQ(desk_.registry().OpenKeys(), std::vector<std::string>{kKey});
+    EXPECT_EQ(desk_.settings().OpenKeys(), std::vector<std::string>{kKey});
   }
-  EXPECT_TRUE(desk_.registry().OpenKeys().empty());
+  EXPECT_TRUE(desk_.settings().OpenKeys().empty());
 }
 
 TEST_F(SettingsStoreTest, FirstReadsFailAndChangeNothing) {
@@ -201,7 +199,7 @@ class SettingsStoreRefusalTest : public SettingsStoreTest,
                                  public testing::WithParamInterface<const char*> {};
 
 TEST_P(SettingsStoreRefusalTest, AFailureAtAnyLevelLeavesItInvalid) {
-  desk_.registry().RefuseKey(GetParam());
+  desk_.settings().RefuseKey(GetParam());
   EXPECT_FALSE(Open());
   ExpectNothingWorks(store_);
 }

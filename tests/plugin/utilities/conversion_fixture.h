@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "host/application/application.h"
-#include "host/desktop/memory_registry.h"
 #include "host/desktop/scripted_desktop.h"
+#include "host/desktop/settings.h"
 #include "platform/module.h"
 #include "plugin/utilities/convert_bvk.h"
 #include "tests/support/environment_variable.h"
@@ -60,9 +60,8 @@ class ConversionTest : public testing::Test {
   ConversionTest() {
     host::ScriptedUser user;
     user.answer_message = [](const host::MessageBox&) { return platform::kMessageBoxOk; };
-    user.choose_files = [this](const platform::FileDialog& dialog) { return Choose(dialog); };
+    user.choose_files = [this](const host::ShownFileDialog& dialog) { return Choose(dialog); };
     desktop_.SetUser(std::move(user));
-    platform::InstallDesktop(&desktop_);
     std::filesystem::create_directory(folder_.Path() / "out");
     converter_.emplace(messages_, strings_, platform::ModuleHandle());
     converter_->mnmPath = folder_.Write("map.mnm", "HEAD\tHead1\t\n");
@@ -73,7 +72,6 @@ class ConversionTest : public testing::Test {
     desktop_.RethrowFailure();
     EXPECT_TRUE(choices_.empty()) << "the user was not asked for every file";
     converter_.reset();
-    platform::InstallDesktop(nullptr);
   }
 
   // The user's answer to the next file dialog; no paths: he cancels.
@@ -106,31 +104,20 @@ class ConversionTest : public testing::Test {
     return lines;
   }
 
-  // What a file dialog asked for.
-  struct ShownDialog {
-    platform::FileDialog dialog;
-    std::string title;
-    std::string filter;
-    std::string pattern;
-    std::string extension;
-    std::string folder;
-  };
-
   EnvironmentVariable clock_{"SOURCE_DATE_EPOCH", "741476948"};
   TemporaryFolder folder_;
-  host::MemoryRegistry registry_;
-  host::ScriptedDesktop desktop_{registry_};
+  host::FreshSettings settings_;
+  host::ScriptedDesktop desktop_;
   host::Application application_;
   WatchedInterface host_{application_.plugin_interface()};
   orvane::MessageSink messages_;
   orvane::StringTable strings_;
   std::optional<orvane::ConvertBVK> converter_;
-  std::vector<ShownDialog> dialogs_;
+  std::vector<host::ShownFileDialog> dialogs_;
 
  private:
-  host::FileChoice Choose(const platform::FileDialog& dialog) {
-    dialogs_.push_back({dialog, dialog.title, dialog.filter_name, dialog.filter_pattern,
-                        dialog.default_extension, dialog.initial_folder});
+  host::FileChoice Choose(const host::ShownFileDialog& dialog) {
+    dialogs_.push_back(dialog);
     if (choices_.empty()) throw host::ScriptError("Nobody expects a file dialog");
     host::FileChoice choice = choices_.front();
     choices_.pop_front();

