@@ -2,7 +2,7 @@
 # is well; one that finds nothing to look at fails.
 # shellcheck shell=bash
 
-readonly check_steps='format scripts includes warnings headers portability analysis'
+readonly check_steps='format scripts includes warnings headers portability resources analysis'
 
 # Files that git knows or would add, matching the patterns, one a line.
 our_files() {
@@ -36,6 +36,13 @@ check_portability() {
   cmake -S cmake/portability -B build-portability -G Ninja \
     -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" -DORVANE_WARNINGS_AS_ERRORS=ON >/dev/null &&
     cmake --build build-portability --target portable_headers portable_sources
+}
+
+# Windows' own resource compiler is not here; this one reads the same language as strictly.
+check_resources() {
+  local made=build/plugin/resources
+  gcc -E -xc -DRC_INVOKED -Iplugin/resources -I"$made" plugin/resources/OrvaneFileIO.rc >"$made/whole.rc" &&
+    llvm-rc /no-preprocess /I plugin/resources /I "$made" /fo "$made/whole.res" "$made/whole.rc"
 }
 
 # The sources that the default build compiles, ours alone, without the tests: they are as many

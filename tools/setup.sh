@@ -33,6 +33,7 @@ readonly check_needs='
 command clang-format                              clang-format
 command clang-tidy                                clang-tidy
 command git                                       git
+command llvm-rc                                   llvm
 command shellcheck                                shellcheck
 command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
 '
