@@ -16,7 +16,7 @@ class OutputFile {
  public:
   // Nothing happens yet. `path` (UTF-8) is the file to make; a symbolic link that leads to a file
   // stands for that file. `replace` allows it to take the place of an existing one, whose
-  // permissions it then gets.
+  // permissions it then gets; on Windows it has those that its folder gives to files.
   OutputFile(const std::string& path, bool replace);
   ~OutputFile();
   OutputFile(const OutputFile&) = delete;
@@ -44,7 +44,6 @@ class OutputFile {
  private:
   std::string CreateAside();
   std::string FillAside(std::string_view bytes);
-  std::string TakePermissions() const;
   std::string Finish() const;
   void Close();
 

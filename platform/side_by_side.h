@@ -14,7 +14,7 @@ namespace platform {
 std::size_t ProcessorCount();
 
 struct SideBySide {
-  // Does piece number `index`, counted from 0, and returns its result as bytes. Runs in a new
+  // Does piece number `index`, counted from 0, and returns its result as bytes. Runs in another
   // process, which has a copy of everything and shares nothing; an exception ends it without a
   // result.
   std::function<std::string(std::size_t index)> work;
@@ -23,6 +23,12 @@ struct SideBySide {
   std::function<void(std::size_t index)> ended = [](std::size_t) {};
 };
 
+// Where a process cannot be copied, as on Windows, the other processes are this program, started
+// again with its command line: a program may call this once, and what it does before has to bring
+// it to the same call with the same pieces each time. None of them begins before all have come
+// there. Such a process has no standard output or error, and does several pieces, one after the
+// other.
+//
 // Runs `count` pieces, no more than `processes` (1 or more) at the same time, and returns their
 // results in the order of the pieces, nothing for one that ended without. A piece for which there
 // is no process to be had is done in this one, while it waits for the others.

@@ -7,10 +7,13 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <system_error>
+
+#include "platform/aside_name.h"
 
 namespace platform {
 namespace {
@@ -29,21 +32,6 @@ std::string FollowLink(const std::string& path) {
 std::string FolderOf(const std::string& path) {
   const std::filesystem::path folder = std::filesystem::path(path).parent_path();
   return folder.empty() ? "." : folder.string();
-}
-
-// What is written beside a file's place is named ".orvane-PROCESS-NUMBER".
-constexpr std::string_view kAsidePrefix = ".orvane-";
-
-bool IsNumber(std::string_view text) {
-  return !text.empty() && text.find_first_not_of("0123456789") == std::string_view::npos;
-}
-
-bool IsAsideName(std::string_view name) {
-  if (name.substr(0, kAsidePrefix.size()) != kAsidePrefix) return false;
-  name.remove_prefix(kAsidePrefix.size());
-  const std::size_t dash = name.find('-');
-  return dash != std::string_view::npos && IsNumber(name.substr(0, dash)) &&
-         IsNumber(name.substr(dash + 1));
 }
 
 // Who writes holds a lock until the end: what nobody has locked belongs to a process that was
@@ -71,6 +59,13 @@ bool KeepFromRemoval(int file) {
   if (!Lock(file) && errno == EWOULDBLOCK) return false;
   struct stat status {};
   return fstat(file, &status) == 0 && status.st_nlink > 0;
+}
+
+// Gives the open `file` those of `replaced`, if that exists.
+std::string TakePermissions(int file, const std::string& replaced) {
+  struct stat existing {};
+  const bool exists = stat(replaced.c_str(), &existing) == 0;
+  return exists && fchmod(file, existing.st_mode & 07777) != 0 ? LastError() : "";
 }
 
 // Link and remove, because renaming would replace what has appeared at `to`.
@@ -119,7 +114,7 @@ std::string OutputFile::TakeOver(const std::string& path) {
   file_ = open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
   if (file_ < 0) return LastError();
   aside_ = path;
-  std::string error = TakePermissions();
+  std::string error = TakePermissions(file_, path_);
   if (error.empty()) error = Finish();
   return error;
 }
@@ -127,10 +122,9 @@ std::string OutputFile::TakeOver(const std::string& path) {
 std::string OutputFile::CreateAside() {
   const std::string folder = FolderOf(path_);
   RemoveAbandonedFiles(folder);
-  const std::string stem =
-      folder + "/" + std::string(kAsidePrefix) + std::to_string(getpid()) + "-";
+  const auto process = static_cast<std::uint64_t>(getpid());
   for (int attempt = 0; aside_.empty(); ++attempt) {
-    const std::string name = stem + std::to_string(attempt);
+    const std::string name = folder + "/" + AsideName(process, attempt);
     file_ = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
     if (file_ < 0 && errno != EEXIST) return LastError();
     if (file_ < 0) continue;
@@ -140,14 +134,7 @@ std::string OutputFile::CreateAside() {
       Close();
     }
   }
-  return TakePermissions();
-}
-
-// Those of the file that is replaced.
-std::string OutputFile::TakePermissions() const {
-  struct stat existing {};
-  const bool exists = stat(path_.c_str(), &existing) == 0;
-  return exists && fchmod(file_, existing.st_mode & 07777) != 0 ? LastError() : "";
+  return TakePermissions(file_, path_);
 }
 
 std::string OutputFile::FillAside(std::string_view bytes) {

@@ -7,13 +7,14 @@
 
 #include <cerrno>
 #include <csignal>
+#include <cstdint>
 #include <filesystem>
 #include <system_error>
 
+#include "platform/aside_name.h"
+
 namespace platform {
 namespace {
-
-constexpr char kPrefix[] = ".orvane-folder-";
 
 int OpenFolder(const std::string& path) {
   return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
@@ -35,7 +36,7 @@ void RemoveAbandonedFolders(const std::string& parent) {
   std::filesystem::directory_iterator entry(parent, error);
   for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
     const std::string name = entry->path().filename().string();
-    if (name.rfind(kPrefix, 0) == 0) RemoveUnlocked(entry->path().string());
+    if (name.rfind(kScratchFolderPrefix, 0) == 0) RemoveUnlocked(entry->path().string());
   }
 }
 
@@ -51,9 +52,9 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
   RemoveAbandonedFolders(folder);
   // Who writes here meets a limit on the size of files as an error, and is not ended by it.
   std::signal(SIGXFSZ, SIG_IGN);
-  const std::string stem = folder + "/" + kPrefix + std::to_string(getpid()) + "-";
+  const auto process = static_cast<std::uint64_t>(getpid());
   for (int attempt = 0; path_.empty() && error_.empty(); ++attempt) {
-    const std::string path = stem + std::to_string(attempt);
+    const std::string path = folder + "/" + ScratchFolderName(process, attempt);
     if (Make(path)) path_ = path;
   }
 }
