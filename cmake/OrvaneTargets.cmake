@@ -18,11 +18,15 @@ cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH ORVANE_ROOT)
 add_library(orvane_compile_settings INTERFACE)
 target_compile_features(orvane_compile_settings INTERFACE cxx_std_20)
 target_include_directories(orvane_compile_settings INTERFACE "${ORVANE_ROOT}")
-target_compile_options(orvane_compile_settings INTERFACE
-  -Wall -Wextra -Wconversion -Wshadow
-  # Same input, same bits: a product and a sum are never fused behind our back.
-  -ffp-contract=off
-  $<$<BOOL:${ORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+# Same input, same bits: a product and a sum are never fused behind our back.
+if(MSVC)
+  target_compile_options(orvane_compile_settings INTERFACE
+    /W4 /utf-8 /permissive- /fp:precise $<$<BOOL:${ORVANE_WARNINGS_AS_ERRORS}>:/WX>)
+else()
+  target_compile_options(orvane_compile_settings INTERFACE
+    -Wall -Wextra -Wconversion -Wshadow -ffp-contract=off
+    $<$<BOOL:${ORVANE_WARNINGS_AS_ERRORS}>:-Werror>)
+endif()
 
 function(orvane_apply_settings target)
   target_link_libraries(${target} PRIVATE orvane_compile_settings)

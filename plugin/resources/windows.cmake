@@ -1,6 +1,4 @@
 # They are linked into whatever links the plug-in's parts.
-enable_language(RC)
-
 add_library(orvane_resource_object OBJECT OrvaneFileIO.rc)
 target_include_directories(orvane_resource_object PRIVATE
   "${CMAKE_CURRENT_SOURCE_DIR}" "${CMAKE_CURRENT_BINARY_DIR}")
