@@ -11,7 +11,7 @@
 
 // What a program without Windows gives the plug-in in place of the system: somebody who reads
 // message boxes, answers dialogs and chooses files, and a registry. The portable bodies of the
-// platform forward to the desktop in use. Tests and the command line provide a scripted one.
+// platform forward to those in use. Tests and the command line provide a scripted desktop.
 //
 // Only plain data and interface pointers cross here, because the plug-in and the program are
 // different modules.
@@ -60,10 +60,6 @@ class Desktop {
                            std::size_t& name_offset) = 0;
   virtual bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) = 0;
 
-  // The registry of the current user. Lives at least as long as any module that was loaded while
-  // this desktop was installed.
-  virtual Registry& CurrentUser() = 0;
-
  protected:
   ~Desktop() = default;
 };
@@ -73,13 +69,16 @@ class Desktop {
 inline constexpr unsigned int kInitializeDialog = 0x0110;
 inline constexpr unsigned int kDialogCommand = 0x0111;
 
-// Puts `desktop` in use for the whole process; null takes the one in use away. The caller keeps
-// owning it. Install it before the module is loaded: its option records open their keys during
-// loading. Provided by the host library, the one place of this state.
+// Puts `desktop` or `registry` in use for the whole process; null takes the one in use away. The
+// caller keeps owning it. Have a registry in use before a module is loaded, because option records
+// open their keys during loading, and keep it until the module is unloaded. Provided by the host
+// library, the one place of this state.
 SKELDER_API void InstallDesktop(Desktop* desktop);
+SKELDER_API void InstallRegistry(Registry* registry);
 
-// The desktop in use, or null. The portable bodies then report failure: no key opens, no dialog is
+// What is in use, or null. The portable bodies then report failure: no key opens, no dialog is
 // created, nothing is chosen, a message box answers kMessageBoxFailed.
 SKELDER_API Desktop* CurrentDesktop();
+SKELDER_API Registry* CurrentRegistry();
 
 }  // namespace platform

@@ -3,14 +3,6 @@
 #include "platform/desktop.h"
 
 namespace platform {
-namespace {
-
-Registry* CurrentRegistry() {
-  Desktop* const desktop = CurrentDesktop();
-  return desktop == nullptr ? nullptr : &desktop->CurrentUser();
-}
-
-}  // namespace
 
 RegistryKey* CreateRegistryKey(RegistryKey* parent, const char* path) {
   Registry* const registry = CurrentRegistry();

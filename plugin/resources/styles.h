@@ -1,5 +1,5 @@
-/* The system's style bits that the dialogs use, its number for the window class of labels and
-   pictures, and the host's own window class, for the resource compiler alone. */
+/* The system's style bits that the dialogs use, and the host's own window class, for the resource
+   compiler alone. */
 #pragma once
 
 #define DS_MODALFRAME 0x80
@@ -15,7 +15,6 @@
 #define ES_AUTOHSCROLL 0x0080
 #define ES_READONLY 0x0800
 #define SS_BITMAP 0x000E
-#define STATIC_CLASS 0x82
 
 /* The window class of the host's own edit control. */
 #define HOST_EDIT_CLASS "SkelderEdit"

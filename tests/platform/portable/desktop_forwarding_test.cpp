@@ -18,7 +18,6 @@ namespace platform {
 namespace {
 
 using testing::Return;
-using testing::ReturnRef;
 using testing::StrEq;
 
 class MockRegistry : public Registry {
@@ -43,7 +42,6 @@ class MockDesktop : public Desktop {
   MOCK_METHOD(bool, ProcessPendingMessages, (bool), (override));
   MOCK_METHOD(bool, ChooseFiles, (const FileDialog&, char*, std::size_t, std::size_t&), (override));
   MOCK_METHOD(bool, ChooseFolder, (HWND, const char*, char*, std::size_t), (override));
-  MOCK_METHOD(Registry&, CurrentUser, (), (override));
 };
 
 class MockHandler : public DialogHandler {
@@ -57,9 +55,12 @@ class InstalledDesktopTest : public testing::Test {
  protected:
   InstalledDesktopTest() {
     InstallDesktop(&desktop_);
-    ON_CALL(desktop_, CurrentUser()).WillByDefault(ReturnRef(registry_));
+    InstallRegistry(&registry_);
   }
-  ~InstalledDesktopTest() override { InstallDesktop(nullptr); }
+  ~InstalledDesktopTest() override {
+    InstallRegistry(nullptr);
+    InstallDesktop(nullptr);
+  }
 
   testing::NiceMock<MockDesktop> desktop_;
   testing::StrictMock<MockRegistry> registry_;
@@ -71,7 +72,10 @@ Handle Token(std::uintptr_t number) {
   return reinterpret_cast<Handle>(number);  // NOLINT(google-readability-casting)
 }
 
-TEST_F(InstalledDesktopTest, IsTheCurrentOne) { EXPECT_EQ(CurrentDesktop(), &desktop_); }
+TEST_F(InstalledDesktopTest, IsTheCurrentOne) {
+  EXPECT_EQ(CurrentDesktop(), &desktop_);
+  EXPECT_EQ(CurrentRegistry(), &registry_);
+}
 
 TEST_F(InstalledDesktopTest, ShowsMessages) {
   EXPECT_CALL(desktop_, ShowMessage(StrEq("text"), StrEq("title"), MessageBoxStyle::kYesNo))
@@ -133,7 +137,7 @@ TEST_F(InstalledDesktopTest, ChoosesFilesAndFolders) {
   EXPECT_TRUE(ChooseFolder(Token<HWND>(16), "title", buffer.data(), buffer.size()));
 }
 
-TEST_F(InstalledDesktopTest, LendsItsRegistry) {
+TEST_F(InstalledDesktopTest, IsJoinedByARegistry) {
   auto* const key = Token<RegistryKey*>(8);
   int value = 0;
   std::size_t size = sizeof(value);
@@ -152,6 +156,7 @@ TEST_F(InstalledDesktopTest, LendsItsRegistry) {
 
 TEST(NoDesktopTest, EverythingReportsFailure) {
   ASSERT_EQ(CurrentDesktop(), nullptr);
+  ASSERT_EQ(CurrentRegistry(), nullptr);
   testing::StrictMock<MockHandler> handler;
   int value = 3;
   std::size_t size = sizeof(value);
