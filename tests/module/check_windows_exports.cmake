@@ -8,8 +8,8 @@ execute_process(COMMAND "${OBJDUMP}" --private-headers "${MODULE}"
                 OUTPUT_VARIABLE headers COMMAND_ERROR_IS_FATAL ANY)
 
 string(REGEX MATCH "\\[Ordinal/Name Pointer\\] Table.*" names "${headers}")
-string(REGEX MATCHALL "\\[ *[0-9]+\\] [^\n]+" names "${names}")
-list(TRANSFORM names REPLACE "^\\[ *[0-9]+\\] " "")
+string(REGEX MATCHALL "\n\t\\[ *[0-9]+\\] [^\n]+" names "${names}")
+list(TRANSFORM names REPLACE "^\n\t\\[ *[0-9]+\\] " "")
 list(SORT names)
 if(NOT names STREQUAL entry_points)
   message(FATAL_ERROR "The module exports ${names}, not ${entry_points}")
