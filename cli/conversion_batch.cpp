@@ -11,6 +11,7 @@
 #include "cli/trc_worth.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
+#include "platform/path_text.h"
 #include "platform/scratch_folder.h"
 #include "plugin/text/files.h"
 
@@ -85,7 +86,9 @@ class BatchConversion {
 
   // The panel needs a mapping file even when it is not to use one.
   std::string MappingFile() const {
-    if (!order_.mapping.empty()) return fs::absolute(order_.mapping).string();
+    if (!order_.mapping.empty()) {
+      return platform::TextOf(fs::absolute(platform::PathOf(order_.mapping)));
+    }
     const std::string path = scratch_.Path() + kEmptyMapping;
     orvane::CreateFileForBytes(path);
     return path;
@@ -128,7 +131,8 @@ class BatchConversion {
 
   // Where the plug-in writes the output.
   std::string MadeFile(const Conversion& conversion) const {
-    return (fs::path(scratch_.Path()) / fs::path(conversion.output).filename()).string();
+    return platform::TextOf(platform::PathOf(scratch_.Path()) /
+                            platform::PathOf(conversion.output).filename());
   }
 
   // Settles and delivers a file that the plug-in has handled; `message` is the reader's.

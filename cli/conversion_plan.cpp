@@ -10,6 +10,7 @@
 
 #include "platform/input_file.h"
 #include "platform/output_file.h"
+#include "platform/path_text.h"
 #include "plugin/text/files.h"
 
 namespace cli {
@@ -30,7 +31,7 @@ constexpr std::uintmax_t kLeastWork = std::uintmax_t{4} << 20U;
 std::string Resolved(const fs::path& path) {
   std::error_code error;
   const fs::path resolved = fs::weakly_canonical(path, error);
-  return error ? fs::absolute(path).lexically_normal().string() : resolved.string();
+  return platform::TextOf(error ? fs::absolute(path).lexically_normal() : resolved);
 }
 
 // The name of the file as the plug-in sees it, which takes both kinds of slash, with ".bvk" for its
@@ -42,17 +43,19 @@ std::string BvkNameFor(const std::string& input) {
 }
 
 // Empty for a name alone.
-std::string FolderPartOf(const std::string& path) { return fs::path(path).parent_path().string(); }
+std::string FolderPartOf(const std::string& path) {
+  return platform::TextOf(platform::PathOf(path).parent_path());
+}
 
 // As the dialog that asks for the output makes it.
 std::string WithBvkExtension(const std::string& file) {
-  return fs::path(file).has_extension() ? file : file + ".bvk";
+  return platform::PathOf(file).has_extension() ? file : file + ".bvk";
 }
 
 std::string OutputFor(const std::string& input, const OutputWishes& wishes) {
   if (!wishes.file.empty()) return WithBvkExtension(wishes.file);
-  const fs::path folder = wishes.folder.empty() ? FolderPartOf(input) : wishes.folder;
-  return (folder / BvkNameFor(input)).string();
+  const std::string folder = wishes.folder.empty() ? FolderPartOf(input) : wishes.folder;
+  return platform::TextOf(platform::PathOf(folder) / platform::PathOf(BvkNameFor(input)));
 }
 
 void Settle(Conversion& conversion, ConversionStatus status, Complaint complaint) {
@@ -84,7 +87,8 @@ void CheckOutput(Conversion& conversion, bool replace) {
 Conversion Plan(const std::string& name, const OutputWishes& wishes) {
   Conversion conversion;
   conversion.input = orvane::WithExtension(name, ".TRC");
-  conversion.source = fs::absolute(conversion.input).lexically_normal().string();
+  conversion.source =
+      platform::TextOf(fs::absolute(platform::PathOf(conversion.input)).lexically_normal());
   conversion.output = OutputFor(conversion.input, wishes);
   CheckInput(conversion, name);
   CheckOutput(conversion, wishes.replace);
@@ -96,11 +100,11 @@ void RequireOutputsApart(const std::vector<Conversion>& conversions) {
   std::vector<Complaint> complaints;
   std::unordered_map<std::string, const Conversion*> inputs;
   for (const Conversion& conversion : conversions) {
-    inputs.emplace(Resolved(conversion.input), &conversion);
+    inputs.emplace(Resolved(platform::PathOf(conversion.input)), &conversion);
   }
   std::unordered_map<std::string, const Conversion*> outputs;
   for (const Conversion& conversion : conversions) {
-    const std::string output = Resolved(conversion.output);
+    const std::string output = Resolved(platform::PathOf(conversion.output));
     const auto [other, is_new] = outputs.emplace(output, &conversion);
     if (!is_new) {
       complaints.push_back({conversion.output,
@@ -117,7 +121,7 @@ void RequireOutputsApart(const std::vector<Conversion>& conversions) {
 // The bytes to read.
 std::uintmax_t WorkOf(const Conversion& conversion) {
   std::error_code error;
-  const std::uintmax_t size = fs::file_size(conversion.source, error);
+  const std::uintmax_t size = fs::file_size(platform::PathOf(conversion.source), error);
   return error ? 0 : size;
 }
 

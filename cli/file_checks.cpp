@@ -12,6 +12,7 @@
 #include "cli/mnm_check.h"
 #include "cli/trc_check.h"
 #include "host/base/letter_case.h"
+#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -56,7 +57,7 @@ std::string KnownExtensions() {
 
 bool IsToBeChecked(const fs::directory_entry& entry) {
   std::error_code ignored;
-  return FindFileCheck(entry.path().extension().string()) != nullptr &&
+  return FindFileCheck(platform::TextOf(entry.path().extension())) != nullptr &&
          !entry.is_directory(ignored);
 }
 
@@ -64,11 +65,12 @@ bool IsToBeChecked(const fs::directory_entry& entry) {
 
 std::vector<std::string> FilesToCheck(const std::string& input) {
   std::error_code error;
-  if (!fs::is_directory(input, error)) return {input};
+  const fs::path path = platform::PathOf(input);
+  if (!fs::is_directory(path, error)) return {input};
   std::vector<std::string> files;
-  fs::directory_iterator entry(input, error);
+  fs::directory_iterator entry(path, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    if (IsToBeChecked(*entry)) files.push_back(entry->path().string());
+    if (IsToBeChecked(*entry)) files.push_back(platform::TextOf(entry->path()));
   }
   if (error) throw Failure{ExitStatus::kInputOutput, {{input, error.message(), ""}}};
   if (files.empty()) {
@@ -82,7 +84,8 @@ std::vector<std::string> FilesToCheck(const std::string& input) {
 }
 
 CheckedFile CheckFile(const std::string& name, const std::string& kind) {
-  const std::string extension = kind.empty() ? fs::path(name).extension().string() : "." + kind;
+  const std::string extension =
+      kind.empty() ? platform::TextOf(platform::PathOf(name).extension()) : "." + kind;
   const FileCheck* check = FindFileCheck(extension);
   return (check == nullptr ? kFileChecks.front() : *check).check(name);
 }

@@ -1,6 +1,5 @@
 #include "cli/map_create.h"
 
-#include <filesystem>
 #include <iostream>
 #include <optional>
 #include <vector>
@@ -16,6 +15,7 @@
 #include "cli/picks_table.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
+#include "platform/path_text.h"
 #include "platform/scratch_folder.h"
 #include "plugin/mnm/marker_name_map.h"
 #include "plugin/text/files.h"
@@ -73,7 +73,7 @@ void Deliver(const std::string& path, platform::OutputFile& file, const std::str
 }
 
 std::string FolderOf(const std::string& path) {
-  const std::string folder = std::filesystem::path(path).parent_path().string();
+  const std::string folder = platform::TextOf(platform::PathOf(path).parent_path());
   return folder.empty() ? "." : folder;
 }
 

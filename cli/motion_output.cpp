@@ -5,16 +5,20 @@
 
 #include "cli/interruption.h"
 #include "platform/interrupt.h"
+#include "platform/path_text.h"
 #include "plugin/text/files.h"
 
 namespace cli {
 namespace {
 
+using platform::PathOf;
+using platform::TextOf;
+
 // Only the last part counts: it is all that the plug-in is told of the user's path.
 std::string CompletePath(const std::string& name) {
-  std::filesystem::path path(name);
-  path.replace_filename(orvane::WithExtension(path.filename().string(), ".htr"));
-  return path.string();
+  std::filesystem::path path = PathOf(name);
+  path.replace_filename(PathOf(orvane::WithExtension(TextOf(path.filename()), ".htr")));
+  return TextOf(path);
 }
 
 }  // namespace
@@ -27,10 +31,10 @@ MotionOutput::MotionOutput(const std::string& name, bool replace)
 
 std::string MotionOutput::MakeRoom() {
   platform::HoldInterrupts();
-  const std::filesystem::path path(path_);
-  room_.emplace(path.has_parent_path() ? path.parent_path().string() : ".");
+  const std::filesystem::path path = PathOf(path_);
+  room_.emplace(path.has_parent_path() ? TextOf(path.parent_path()) : ".");
   if (!room_->Error().empty()) throw CannotWrite(room_->Error());
-  written_ = room_->Path() + "/" + path.filename().string();
+  written_ = room_->Path() + "/" + TextOf(path.filename());
   return written_;
 }
 
@@ -47,7 +51,7 @@ Failure MotionOutput::CannotWrite(const std::string& reason) const {
 }
 
 bool IsMotionFileName(const std::string& name) {
-  std::string extension = std::filesystem::path(CompletePath(name)).extension().string();
+  std::string extension = TextOf(PathOf(CompletePath(name)).extension());
   std::transform(extension.begin(), extension.end(), extension.begin(), [](char letter) {
     return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
   });

@@ -1,11 +1,11 @@
 #include "cli/plugin_session.h"
 
-#include <filesystem>
 #include <optional>
 
 #include "cli/dialog_flags.h"
 #include "cli/progress_line.h"
 #include "platform/interrupt.h"
+#include "platform/path_text.h"
 #include "platform/program.h"
 
 namespace cli {
@@ -64,7 +64,7 @@ bool PluginSession::Run(const Task& task, const std::vector<ControlWish>& wishes
   desktop_->SetUser(
       {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kOptionsButtons); },
        PressOk});
-  ProgressLine line(task.title + std::filesystem::path(task.file).filename().string(),
+  ProgressLine line(task.title + platform::TextOf(platform::PathOf(task.file).filename()),
                     show_progress);
   application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {
     line.Show(event.percent);

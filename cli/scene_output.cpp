@@ -1,12 +1,12 @@
 #include "cli/scene_output.h"
 
 #include <algorithm>
-#include <filesystem>
 
 #include "cli/input.h"
 #include "cli/interruption.h"
 #include "host/gltf/writer.h"
 #include "platform/interrupt.h"
+#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -15,7 +15,7 @@ using host::gltf::Container;
 
 // In lower case, with its full stop.
 std::string Extension(const std::string& path) {
-  std::string extension = std::filesystem::path(path).extension().string();
+  std::string extension = platform::TextOf(platform::PathOf(path).extension());
   std::transform(extension.begin(), extension.end(), extension.begin(), [](char letter) {
     return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
   });
@@ -24,7 +24,7 @@ std::string Extension(const std::string& path) {
 
 host::gltf::WriteOptions OptionsFor(const std::string& path) {
   const Container container = Extension(path) == ".gltf" ? Container::kText : Container::kBinary;
-  return {container, std::filesystem::path(path).stem().string()};
+  return {container, platform::TextOf(platform::PathOf(path).stem())};
 }
 
 }  // namespace

@@ -8,6 +8,7 @@
 #include "cli/frame_counts.h"
 #include "cli/import_flags.h"
 #include "cli/input.h"
+#include "platform/path_text.h"
 #include "plugin/text/numbers.h"
 #include "plugin/trc/document.h"
 
@@ -117,7 +118,8 @@ void RequireProportion(const std::string& file, const orvane::TRCDocument& docum
                        const std::vector<ControlWish>& wishes) {
   const std::int64_t frames = FramesInRange(wishes).value_or(document.NumFrames());
   const std::int64_t most_keys =
-      std::max(kKeysAlwaysMade, static_cast<std::int64_t>(std::filesystem::file_size(file)));
+      std::max(kKeysAlwaysMade,
+               static_cast<std::int64_t>(std::filesystem::file_size(platform::PathOf(file))));
   if (frames <= most_keys / std::int64_t{document.MarkerCount()}) return;
   throw Failure{ExitStatus::kRefused,
                 {{file,

@@ -36,6 +36,10 @@ function(orvane_apply_settings target)
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
     POSITION_INDEPENDENT_CODE ON)
+  get_target_property(type ${target} TYPE)
+  if(WIN32 AND type STREQUAL "EXECUTABLE")
+    target_sources(${target} PRIVATE $<TARGET_OBJECTS:orvane_program_manifest>)
+  endif()
 endfunction()
 
 # orvane_library(name SOURCES file... [LINKS target...])
@@ -58,14 +62,15 @@ function(orvane_headers name)
   target_link_libraries(${name} INTERFACE ${ARG_LINKS})
 endfunction()
 
-# Tells tests where the repository and the build are.
+# Tells tests where the repository and the build are, and how the names of modules end there.
 function(orvane_define_folders target)
   set(root "")
   if(WIN32 AND CMAKE_CROSSCOMPILING)
     set(root "Z:")  # where Wine shows the folders of this system
   endif()
   target_compile_definitions(${target} PRIVATE
-    ORVANE_SOURCE_DIR="${root}${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${root}${CMAKE_BINARY_DIR}")
+    ORVANE_SOURCE_DIR="${root}${PROJECT_SOURCE_DIR}" ORVANE_BINARY_DIR="${root}${CMAKE_BINARY_DIR}"
+    ORVANE_MODULE_SUFFIX="${CMAKE_SHARED_MODULE_SUFFIX}")
 endfunction()
 
 # orvane_put_programs(folder target...): where programs come to lie that are for the developers of

@@ -1,10 +1,10 @@
 #include "host/application/module.h"
 
-#include <filesystem>
 #include <utility>
 
 #include "host/application/application.h"
 #include "host/application/extension_match.h"
+#include "platform/path_text.h"
 
 // They offer nothing so far; plug-ins keep the pointers only.
 class ImpInterface {};
@@ -15,7 +15,7 @@ namespace {
 
 // The extension of the file name in `path`, without its dot.
 std::string ExtensionOf(const std::string& path) {
-  const std::string extension = std::filesystem::path(path).extension().string();
+  const std::string extension = platform::TextOf(platform::PathOf(path).extension());
   return extension.empty() ? extension : extension.substr(1);
 }
 

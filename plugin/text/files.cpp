@@ -4,6 +4,7 @@
 #include <exception>
 #include <filesystem>
 #include <ios>
+#include <system_error>
 
 namespace orvane {
 namespace {
@@ -11,14 +12,27 @@ namespace {
 constexpr std::size_t kExtensionLength = 4;
 constexpr std::size_t kChunk = std::size_t{64} * 1024;
 
-std::filesystem::path PathOf(const std::string& utf8_name) {
-  return std::filesystem::path(std::u8string(utf8_name.begin(), utf8_name.end()));
+// A directory, which on some systems can be opened, or a device, which may never end. A name that
+// the standard library does not find is left to the opening: that takes it as the system does.
+bool IsUnfit(const std::string& name) {
+  std::error_code ignored;
+  const std::filesystem::file_status status = std::filesystem::status(name, ignored);
+  return std::filesystem::exists(status) && !std::filesystem::is_regular_file(status) &&
+         !std::filesystem::is_fifo(status);
 }
 
-// Reads to the end; `expected_size` only saves growing.
-std::optional<std::string> ReadAll(std::ifstream& stream, std::size_t expected_size) {
+// The bytes from here to the end; 0 when that cannot be told.
+std::size_t SizeOf(std::ifstream& stream) {
+  const std::streamoff size = stream.seekg(0, std::ios::end).tellg();
+  stream.clear();
+  stream.seekg(0);
+  stream.clear();
+  return size < 0 ? 0 : static_cast<std::size_t>(size);
+}
+
+std::optional<std::string> ReadAll(std::ifstream& stream) {
   std::string bytes;
-  std::size_t wanted = expected_size + 1;  // one more, to meet the end
+  std::size_t wanted = SizeOf(stream) + 1;  // one more, to meet the end
   while (stream) {
     const std::size_t size = bytes.size();
     bytes.resize(size + wanted);
@@ -28,12 +42,6 @@ std::optional<std::string> ReadAll(std::ifstream& stream, std::size_t expected_s
   }
   if (stream.bad()) return std::nullopt;
   return bytes;
-}
-
-std::ofstream Create(const std::string& name, std::ios::openmode mode) try {
-  return std::ofstream(PathOf(name), mode | std::ios::out | std::ios::trunc);
-} catch (const std::exception&) {
-  return {};  // a name that is no UTF-8
 }
 
 }  // namespace
@@ -49,19 +57,20 @@ std::string WithExtension(std::string_view name, std::string_view extension) {
 }
 
 std::optional<std::string> ReadFileBytes(const std::string& name) try {
-  const std::filesystem::path path = PathOf(name);
-  const std::filesystem::file_status status = std::filesystem::status(path);
-  const bool is_regular = std::filesystem::is_regular_file(status);
-  if (!is_regular && !std::filesystem::is_fifo(status)) return std::nullopt;
-  std::ifstream stream(path, std::ios::binary);
+  if (IsUnfit(name)) return std::nullopt;
+  std::ifstream stream(name, std::ios::binary);
   if (!stream) return std::nullopt;
-  return ReadAll(stream, is_regular ? std::filesystem::file_size(path) : 0);
+  return ReadAll(stream);
 } catch (const std::exception&) {
-  return std::nullopt;  // a name that is no UTF-8, an error of the file system, no memory
+  return std::nullopt;  // a name that the standard library cannot convert, or no memory
 }
 
-std::ofstream CreateFileForBytes(const std::string& name) { return Create(name, std::ios::binary); }
+std::ofstream CreateFileForBytes(const std::string& name) {
+  return std::ofstream(name, std::ios::binary | std::ios::trunc);
+}
 
-std::ofstream CreateFileForText(const std::string& name) { return Create(name, {}); }
+std::ofstream CreateFileForText(const std::string& name) {
+  return std::ofstream(name, std::ios::trunc);
+}
 
 }  // namespace orvane

@@ -5,7 +5,8 @@
 #include <string>
 #include <string_view>
 
-// Files as a whole: the name under which one is opened, and its bytes. Names are UTF-8.
+// Files as a whole: the name under which one is opened, and its bytes. Names are in the system's
+// narrow encoding, as the host gives them.
 namespace orvane {
 
 // Returns `name` itself when its fourth character from the end is a full stop, whatever the letters

@@ -7,12 +7,13 @@
 #include <string>
 #include <thread>
 
+#include "platform/export.h"
 #include "sdk/core/animation.h"
 #include "sdk/core/interface.h"
 #include "sdk/core/library.h"
 #include "sdk/core/plugin.h"
 
-#define MODULE_ENTRY extern "C" __attribute__((visibility("default")))
+#define MODULE_ENTRY extern "C" SKELDER_ENTRY
 
 namespace {
 

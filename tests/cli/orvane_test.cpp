@@ -23,7 +23,9 @@ std::string SmallMotion() {
          "[EndOfFile]\n";
 }
 
-std::string HurriedModule() { return ORVANE_BINARY_DIR "/tests/hurried_module.so"; }
+std::string HurriedModule() {
+  return ORVANE_BINARY_DIR "/tests/hurried_module" ORVANE_MODULE_SUFFIX;
+}
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {
   return text.replace(text.find(from), from.size(), to);

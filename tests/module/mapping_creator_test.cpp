@@ -120,7 +120,7 @@ class MappingCreatorTest : public UtilityTest {
 
   void Create() { Page().Click(kCreateMapping); }
 
-  std::string Made() { return ReadFile(folder_.File("made.mnm")); }
+  std::string Made() { return ReadTextFile(folder_.File("made.mnm")); }
 
   // A mapping file that pairs every code with its own object.
   static std::string FileOf(const std::vector<std::string>& codes) {
@@ -157,7 +157,7 @@ class MappingCreatorTest : public UtilityTest {
     plans_.clear();
     choice_ = {{folder_.File("next.mnm")}};
     Create();
-    EXPECT_EQ(ReadFile(folder_.File("next.mnm")), FileOf(kCodes));
+    EXPECT_EQ(ReadTextFile(folder_.File("next.mnm")), FileOf(kCodes));
   }
 
   std::vector<std::string> asked_;

@@ -11,7 +11,7 @@ constexpr int kOk = 1097;
 
 }  // namespace
 
-std::string ModulePath() { return ORVANE_BINARY_DIR "/bin/OrvaneFileIO.so"; }
+std::string ModulePath() { return ORVANE_BINARY_DIR "/bin/OrvaneFileIO" ORVANE_MODULE_SUFFIX; }
 
 void ModuleTest::SetUp() {
   std::string refusal;

@@ -243,7 +243,7 @@ TEST_F(UtilityPanelTest, ConvertsWithTheOffsetThatIsTyped) {
   Page().Type(kOffsetY, "20.5");
   Page().Type(kOffsetZ, "-30");
   Page().Click(kConvert);
-  const std::string written = ReadFile(folder_.File("take.bvk"));
+  const std::string written = ReadTextFile(folder_.File("take.bvk"));
   EXPECT_NE(written.find("1\t11.000000\t27.000000\t22.500000\t\n"), std::string::npos) << written;
   panel_->Close();
   EXPECT_EQ(Stored("OffsetX"), FloatBytes(10.0F));
@@ -271,7 +271,7 @@ TEST_F(UtilityPanelTest, ReadsNoOffsetThatIsNotEnabled) {
   Page().Type(kOffsetX, "10");
   Page().Click(kEnableOffset);
   Page().Click(kConvert);
-  EXPECT_NE(ReadFile(folder_.File("take.bvk")).find("1\t1.000000\t-3.000000\t2.000000\t\n"),
+  EXPECT_NE(ReadTextFile(folder_.File("take.bvk")).find("1\t1.000000\t-3.000000\t2.000000\t\n"),
             std::string::npos);
   panel_->Close();
   EXPECT_EQ(Stored("OffsetX"), FloatBytes(0.0F));

@@ -8,12 +8,14 @@
 #include <random>
 #include <string>
 
+#include "platform/path_text.h"
+
 namespace test {
 
 // A new folder for one test, removed with all that is in it when the test is over.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : path_(std::filesystem::path(testing::TempDir()) / UniqueName()) {
+  TemporaryFolder() : path_(platform::PathOf(testing::TempDir()) / UniqueName()) {
     std::filesystem::create_directories(path_);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;
@@ -24,11 +26,13 @@ class TemporaryFolder {
   }
 
   [[nodiscard]] const std::filesystem::path& Path() const { return path_; }
-  [[nodiscard]] std::string File(const std::string& name) const { return (path_ / name).string(); }
+  [[nodiscard]] std::string File(const std::string& name) const {
+    return platform::TextOf(path_ / platform::PathOf(name));
+  }
 
   // Writes `bytes` to the file `name` and returns its path.
   std::string Write(const std::string& name, const std::string& bytes) const {
-    std::ofstream(path_ / name, std::ios::binary) << bytes;
+    std::ofstream(File(name), std::ios::binary) << bytes;
     return File(name);
   }
 

@@ -15,7 +15,7 @@ class ModuleTest : public testing::Test {
  protected:
   // The path of one of the fixture modules.
   static std::string Fixture(const std::string& name) {
-    return std::string(ORVANE_BINARY_DIR) + "/tests/" + name + ".so";
+    return std::string(ORVANE_BINARY_DIR) + "/tests/" + name + ORVANE_MODULE_SUFFIX;
   }
 
   // Loads `path`; a refusal is kept in `refusal_`.

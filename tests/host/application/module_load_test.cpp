@@ -62,7 +62,7 @@ TEST_F(ModuleLoadTest, ComparesTheInterfaceWithTheHostsOwn) {
 }
 
 TEST_F(ModuleLoadTest, NamesAFileThatCannotBeLoaded) {
-  const std::string text_file = std::string(ORVANE_BINARY_DIR) + "/tests/no_module.so";
+  const std::string text_file = Fixture("no_module");
   std::ofstream(text_file) << "This is no library.";
   for (const std::string& path :
        {text_file, std::string(ORVANE_BINARY_DIR), Fixture("does_not_exist"), std::string()}) {
@@ -75,7 +75,7 @@ TEST_F(ModuleLoadTest, NamesAFileThatCannotBeLoaded) {
 TEST_F(ModuleLoadTest, TakesABareFileNameFromTheCurrentFolder) {
   const std::filesystem::path folder = std::filesystem::current_path();
   std::filesystem::current_path(std::string(ORVANE_BINARY_DIR) + "/tests");
-  EXPECT_NE(Load("fixture_module.so"), nullptr) << refusal_;
+  EXPECT_NE(Load("fixture_module" ORVANE_MODULE_SUFFIX), nullptr) << refusal_;
   std::filesystem::current_path(folder);
 }
 

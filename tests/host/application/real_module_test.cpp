@@ -10,7 +10,7 @@ using testing::SizeIs;
 
 class RealModuleTest : public ModuleTest {
  protected:
-  const std::string path_ = ORVANE_BINARY_DIR "/bin/OrvaneFileIO.so";
+  const std::string path_ = ORVANE_BINARY_DIR "/bin/OrvaneFileIO" ORVANE_MODULE_SUFFIX;
 };
 
 TEST_F(RealModuleTest, IsLoadedAndLeavesNothingBehind) {

@@ -21,7 +21,7 @@ class MarkerNameMapTest : public ::testing::Test {
 
   std::string SavedBytes() const {
     EXPECT_TRUE(map_.Save(folder_.File("saved.mnm")));
-    return test::ReadFile(folder_.File("saved.mnm"));
+    return test::ReadTextFile(folder_.File("saved.mnm"));
   }
 
   test::TemporaryFolder folder_;

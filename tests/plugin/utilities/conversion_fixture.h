@@ -88,7 +88,7 @@ class ConversionTest : public testing::Test {
   std::string Write(const std::string& name, const std::string& bytes) const {
     return folder_.Write(name, bytes);
   }
-  std::string Read(const std::string& name) const { return ReadFile(folder_.File(name)); }
+  std::string Read(const std::string& name) const { return ReadTextFile(folder_.File(name)); }
   std::string Log() const { return Read("out/ConvertBVKLog.txt"); }
   // The log behind its first three lines.
   std::string LoggedFiles() const {
