@@ -37,6 +37,13 @@ command llvm-rc                                   llvm
 command shellcheck                                shellcheck
 command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
 '
+readonly windows_needs='
+command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
+path    /usr/src/googletest/googlemock            googletest
+path    /usr/lib/wine/wine64                      wine64
+path    /usr/share/wine/fonts/tahoma.ttf          fonts-wine
+command Xvfb                                      xvfb
+'
 readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev

@@ -1,0 +1,45 @@
+# Sourced by ./dev: runs programs for Windows, by Wine, in a Windows of their own that is made for
+# the run and on a display that nobody sees.
+# shellcheck shell=bash
+
+# wine_tool NAME: where Wine's program NAME is. Debian keeps them apart from its wrapper scripts.
+wine_tool() { command -v "$1" || command -v "/usr/lib/wine/$1"; }
+
+start_display() {
+  # The display's number is one that is free; it is told as soon as programs can connect.
+  exec {display_number}< <(exec Xvfb -displayfd 1 -screen 0 1280x1024x24 -nolisten tcp 2>build-windows/display.log)
+  display_process=$!
+  read -r DISPLAY <&"$display_number" || {
+    echo "dev: there is no display; see build-windows/display.log" >&2
+    return 1
+  }
+  export DISPLAY=:$DISPLAY
+}
+
+# A window manager, which is not there, is not waited for: each window would take two seconds.
+make_wine_prefix() {
+  local wine
+  wine=$(wine_tool wine64)
+  rm -rf "$WINEPREFIX"
+  { "$wine" wineboot --init &&
+    "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f; } >build-windows/wine.log 2>&1 || {
+    echo "dev: Wine does not start; see build-windows/wine.log" >&2
+    return 1
+  }
+}
+
+stop_wine() {
+  "$(wine_tool wineserver)" -k || true
+  kill "$display_process" || true
+}
+
+# with_wine COMMAND...: runs the command; programs that it runs with Wine find everything there.
+with_wine() (
+  mkdir -p build-windows
+  export WINEPREFIX=$PWD/build-windows/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
+  export LC_ALL=C.UTF-8  # file names are UTF-8
+  trap stop_wine EXIT
+  start_display
+  make_wine_prefix
+  "$@"
+)
