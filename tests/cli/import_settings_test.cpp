@@ -1,7 +1,8 @@
 #include <cstring>
 
-#include "host/desktop/portable/sqlite_registry.h"
+#include "host/desktop/settings.h"
 #include "tests/cli/orvane_test.h"
+#include "tests/support/user_settings.h"
 
 namespace {
 
@@ -26,10 +27,10 @@ class ImportSettingsTest : public test::OrvaneTest {
   }
 
   // The bytes stored as `name`; empty when there are none.
-  std::string Stored(const std::string& name) const {
-    host::SqliteRegistry registry(folder_.File("config/orvane/settings.sqlite"));
+  static std::string Stored(const std::string& name) {
+    const host::UserSettings settings;
     const auto value =
-        registry.FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR", name);
+        settings.FindValue("Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR", name);
     return value ? value->bytes : "";
   }
 
@@ -39,12 +40,14 @@ class ImportSettingsTest : public test::OrvaneTest {
     std::memcpy(bytes.data(), &value, sizeof value);
     return bytes;
   }
+
+  test::NoUserSettings none_{folder_.File("config")};
 };
 
 TEST_F(ImportSettingsTest, FreshSettingsStoreNothing) {
   EXPECT_EQ(Import({"--tcb"}).status, 0);
   EXPECT_EQ(Import({"--tcb", "--settings", "fresh"}).status, 0);
-  EXPECT_FALSE(Exists("config"));
+  EXPECT_FALSE(none_.AreStored());
 }
 
 struct StoredFlag {
@@ -109,29 +112,6 @@ TEST_F(ImportSettingsTest, ARefusedDialogStoresNothing) {
 TEST_F(ImportSettingsTest, WithTheUsersSettingsTheFrameRateIsTheDialogs) {
   EXPECT_THAT(ImportAsUser({}).output, HasSubstr("at 30 frames per second"));
   EXPECT_THAT(Import({}).output, HasSubstr("at 60 frames per second"));
-}
-
-TEST_F(ImportSettingsTest, AUserWithoutAnyFolderIsTold) {
-  test::ProgramRun run = Command({"import", "walk.htr", "-o", "walk.glb", "--settings", "user"});
-  run.environment = {"XDG_CONFIG_HOME=", "HOME="};
-  const ProgramResult result = RunProgram(run);
-  EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.error, "orvane: --settings user: this user has no folder for settings\n");
-}
-
-TEST_F(ImportSettingsTest, SettingsThatCannotBeReadAreNotPassedOver) {
-  const std::string path = folder_.File("config/orvane/settings.sqlite");
-  std::filesystem::create_directories(folder_.File("config/orvane"));
-  test::WriteFile(path, "no settings");
-  const ProgramResult result = ImportAsUser({});
-  EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.output, IsEmpty());
-  EXPECT_EQ(result.error, "orvane: " + path +
-                              ": the settings cannot be read, or are in use\n"
-                              "  --settings fresh does without them.\n");
-  EXPECT_EQ(test::ReadFile(path), "no settings");
-  EXPECT_FALSE(Exists("walk.glb"));
-  EXPECT_EQ(Import({"--settings", "fresh"}).status, 0);
 }
 
 }  // namespace
