@@ -22,12 +22,20 @@ struct Header {
   bool is_whole = false;
 };
 
+// Reads a line without its end, which is CR LF where the system's is. Returns false behind the
+// last.
+bool ReadLine(std::ifstream& file, std::string& line) {
+  const bool is_line = static_cast<bool>(std::getline(file, line));
+  if (file.good() && line.ends_with('\r')) line.pop_back();
+  return is_line;
+}
+
 // Reads the line behind "$Order" too. Files with markers have their names there, an empty line and
 // "$Points"; those without have the first frame, or end. A frame takes two lines.
 void ReadOrder(std::ifstream& file, Header& header) {
   const std::int64_t frame_lines = 2 * std::max<std::int64_t>(header.frames, 0);
   std::string line;
-  std::getline(file, line);
+  ReadLine(file, line);
   const bool is_line = file.good();
   const bool is_frame = line.find('\t') != std::string::npos;
   if (is_line) {
@@ -41,7 +49,7 @@ void ReadOrder(std::ifstream& file, Header& header) {
 Header ReadHeader(std::ifstream& file) {
   Header header;
   std::string line;
-  while (std::getline(file, line) && line != kOrder) {
+  while (ReadLine(file, line) && line != kOrder) {
     const std::size_t blank = line.find(' ');
     if (blank == std::string::npos) continue;
     const std::string keyword = line.substr(0, blank);

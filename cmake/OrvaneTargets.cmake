@@ -97,9 +97,13 @@ endfunction()
 
 # orvane_test(name SOURCES file... [LINKS target...] [LABELS label...]): one test program per folder.
 # The label "large" is for those that take seconds, which have a program of their own; ctest
-# --label-exclude large leaves them out.
+# --label-exclude large leaves them out. For Windows they are not built: they would say the same of
+# the same code.
 function(orvane_test name)
   cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
+  if(WIN32 AND "large" IN_LIST ARG_LABELS)
+    return()
+  endif()
   add_executable(${name} ${ARG_SOURCES})
   target_link_libraries(${name} PRIVATE ${ARG_LINKS})
   orvane_apply_test_settings(${name})

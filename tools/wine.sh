@@ -16,12 +16,13 @@ start_display() {
   export DISPLAY=:$DISPLAY
 }
 
-# A window manager, which is not there, is not waited for: each window would take two seconds.
+# A window manager, which is not there, is not waited for: each window would take two seconds. The
+# disk that holds our files has no label: where it could not be read, programs would be told so.
 make_wine_prefix() {
   local wine
   wine=$(wine_tool wine64)
   rm -rf "$WINEPREFIX"
-  { "$wine" wineboot --init &&
+  { "$wine" wineboot --init && ln -s /dev/null "$WINEPREFIX/dosdevices/z::" &&
     "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f; } >build-windows/wine.log 2>&1 || {
     echo "dev: Wine does not start; see build-windows/wine.log" >&2
     return 1

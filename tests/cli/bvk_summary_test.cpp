@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <regex>
+
 #include "plugin/bvk/writer.h"
 #include "tests/support/temporary_folder.h"
 
@@ -48,15 +50,24 @@ TEST(SummarizeBvkTest, TakesAFileWithoutMarkers) {
   EXPECT_EQ(summary->markers, 0);
 }
 
+// As text mode ends lines on some systems.
+std::string WithCarriageReturns(const std::string& text) {
+  return std::regex_replace(text, std::regex("\n"), "\r\n");
+}
+
 TEST(SummarizeBvkTest, NoticesThatAFileIsNotWhole) {
   const test::TemporaryFolder folder;
   orvane::TRCDocument document;
   Fill(document, 4);
-  const std::string text = BvkText(document);
-  for (std::size_t length = 0; length < text.size(); ++length) {
-    EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", text.substr(0, length)))) << length;
+  for (const std::string& text : {BvkText(document), WithCarriageReturns(BvkText(document))}) {
+    for (std::size_t length = 0; length < text.size(); ++length) {
+      EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", text.substr(0, length)))) << length;
+    }
+    const auto summary = SummarizeBvk(folder.Write("walk.bvk", text));
+    ASSERT_TRUE(summary);
+    EXPECT_EQ(summary->frames, 4);
+    EXPECT_EQ(summary->dropouts, 6);
   }
-  EXPECT_TRUE(SummarizeBvk(folder.Write("walk.bvk", text)));
   EXPECT_FALSE(SummarizeBvk(folder.File("missing.bvk")));
 }
 
