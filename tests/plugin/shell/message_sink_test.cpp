@@ -7,8 +7,7 @@
 #include <sstream>
 
 #include "tests/support/desk.h"
-#include "tests/support/environment_variable.h"
-#include "tests/support/temporary_folder.h"
+#include "tests/support/log_place.h"
 
 namespace orvane {
 namespace {
@@ -34,12 +33,6 @@ TEST(MessageSinkTest, AskIsTrueExactlyWhenTheUserChoseYes) {
   EXPECT_EQ(desk.desktop().Messages().front().style, platform::MessageBoxStyle::kYesNo);
 }
 
-TEST(MessageSinkTest, AskIsFalseWhenNobodyCanAnswer) {
-  MessageSink sink;
-  EXPECT_FALSE(sink.Ask("Overwrite?", "ConvertBVK"));
-}
-
-// Log mode, with a user whose state folder is a fresh one.
 class MessageSinkLogTest : public testing::Test {
  protected:
   static std::string Log() { return TextOf(platform::LogFilePath()); }
@@ -50,8 +43,7 @@ class MessageSinkLogTest : public testing::Test {
     return text.str();
   }
 
-  test::TemporaryFolder folder_;
-  test::EnvironmentVariable state_folder_{"XDG_STATE_HOME", folder_.Path()};
+  test::LogPlace place_;
 };
 
 TEST_F(MessageSinkLogTest, LogModeIsOffAtFirst) {
@@ -102,11 +94,9 @@ TEST_F(MessageSinkLogTest, TheFileStaysOpenOnceItIs) {
   MessageSink sink;
   sink.SetLogMode(true);
   sink.Report("one", "A");
-  const std::string moved = folder_.File("moved");
-  std::filesystem::rename(platform::LogFilePath(), moved);
+  const std::string path = place_.TakeAway();
   sink.Report("two", "B");
-  EXPECT_FALSE(std::filesystem::exists(platform::LogFilePath()));
-  EXPECT_EQ(TextOf(moved), "A\tone\nB\ttwo\n");
+  EXPECT_EQ(TextOf(path), "A\tone\nB\ttwo\n");
 }
 
 TEST_F(MessageSinkLogTest, AnEmptyTitleLeavesALineThatBeginsWithTheTab) {
@@ -117,8 +107,7 @@ TEST_F(MessageSinkLogTest, AnEmptyTitleLeavesALineThatBeginsWithTheTab) {
 }
 
 TEST_F(MessageSinkLogTest, ALogThatCannotBeOpenedLosesTheMessageSilently) {
-  folder_.Write("file", "where the folder should be");
-  const test::EnvironmentVariable no_folder("XDG_STATE_HOME", folder_.File("file"));
+  place_.Obstruct();
   test::Desk desk;
   MessageSink sink;
   sink.SetLogMode(true);
