@@ -2,12 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <limits>
 #include <map>
 
 #include "host/base/heap_control.h"
-#include "platform/portable/module_resources.h"
-#include "platform/portable/resource_file.h"
+#include "platform/string_table.h"
 #include "tests/module/module_fixture.h"
 
 namespace test {
@@ -83,11 +83,12 @@ TEST_F(EntryPointsTest, TheStringTableHoldsTheseTextsAndNoOthers) {
       {33, "OrvaneUtilities"},
       {34, "Marker Name Mapping Files (*.MNM)"},
       {35, "Kinarch Marker Files (*.BVK)"}};
-  const auto resources = platform::ResourceFileOf(module_->ClassDescriptor(0)->HInstance());
+  const HINSTANCE module = module_->ClassDescriptor(0)->HInstance();
   for (unsigned id = 0; id < 2000; ++id) {
     const auto expected = texts.find(id);
-    EXPECT_EQ(platform::FindString(resources, id), expected == texts.end() ? "" : expected->second)
-        << id;
+    std::array<char, 256> text{};
+    platform::LoadStringResource(module, id, text.data(), text.size());
+    EXPECT_EQ(text.data(), expected == texts.end() ? "" : expected->second) << id;
   }
 }
 

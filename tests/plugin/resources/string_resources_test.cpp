@@ -1,11 +1,11 @@
 #include <gtest/gtest.h>
 
+#include <array>
 #include <map>
 #include <string>
 
 #include "platform/module.h"
-#include "platform/portable/module_resources.h"
-#include "platform/portable/resource_file.h"
+#include "platform/string_table.h"
 
 namespace {
 
@@ -33,11 +33,11 @@ const std::map<unsigned int, std::string>& ExpectedStrings() {
 }
 
 TEST(StringResourcesTest, EveryNumberHasItsTextOrNone) {
-  const auto file = platform::ResourceFileOf(platform::ModuleHandle());
   for (unsigned int id = 0; id <= 1000; ++id) {
     const auto expected = ExpectedStrings().find(id);
-    EXPECT_EQ(platform::FindString(file, id),
-              expected == ExpectedStrings().end() ? "" : expected->second)
+    std::array<char, 256> text{};
+    platform::LoadStringResource(platform::ModuleHandle(), id, text.data(), text.size());
+    EXPECT_EQ(text.data(), expected == ExpectedStrings().end() ? "" : expected->second)
         << "string " << id;
   }
 }
