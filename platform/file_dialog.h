@@ -35,7 +35,7 @@ struct FileDialog {
 // no room for the second); several, which `dialog` has to allow, as their folder and then each name
 // of a file in it, every one ended by a NUL and the last one by two. A folder ends with a separator
 // only when it is the root of a file system. `name_offset` is the place of the (first) file name
-// in `buffer`.
+// in `buffer`. The process's current folder stays what it is.
 bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
                  std::size_t& name_offset);
 

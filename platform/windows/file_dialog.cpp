@@ -40,6 +40,21 @@ class CommonDialogs {
   HMODULE library_;
 };
 
+// Keeps the process's current folder: the common dialogs make it the one that the user chose from,
+// and it is not the module's.
+class KeptCurrentFolder {
+ public:
+  KeptCurrentFolder() : folder_(GetCurrentDirectoryW(0, nullptr), L'\0') {
+    GetCurrentDirectoryW(static_cast<DWORD>(folder_.size()), folder_.data());
+  }
+  KeptCurrentFolder(const KeptCurrentFolder&) = delete;
+  KeptCurrentFolder& operator=(const KeptCurrentFolder&) = delete;
+  ~KeptCurrentFolder() { SetCurrentDirectoryW(folder_.c_str()); }
+
+ private:
+  std::wstring folder_;  // with its NUL
+};
+
 DWORD FlagsOf(const FileDialog& dialog) {
   DWORD flags = 0;
   if (dialog.several) flags |= OFN_ALLOWMULTISELECT | OFN_EXPLORER;
@@ -96,6 +111,7 @@ bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
   open_file.lpstrTitle = dialog.title;
   open_file.Flags = FlagsOf(dialog);
   open_file.lpstrDefExt = dialog.default_extension;
+  const KeptCurrentFolder current_folder;
   if (!CommonDialogs().Show(dialog.kind, open_file)) return false;
   name_offset = open_file.nFileOffset;
   EndChoice(buffer, size, name_offset);

@@ -149,6 +149,12 @@ TEST_F(ChooseFilesTest, GivesThePathOfAFileToBeMade) {
   EXPECT_FALSE(std::filesystem::exists(folder_.File("new.trc")));
 }
 
+TEST_F(ChooseFilesTest, LeavesTheCurrentFolderAsItIs) {
+  const std::filesystem::path before = std::filesystem::current_path();
+  ASSERT_TRUE(Choose(Type("walk.trc")));
+  EXPECT_EQ(std::filesystem::current_path(), before);
+}
+
 TEST_F(ChooseFilesTest, IsFalseWhenTheUserCancels) { EXPECT_FALSE(Choose(Cancel)); }
 
 TEST_F(ChooseFilesTest, IsFalseWhenTheChoiceDoesNotFit) {
