@@ -18,10 +18,13 @@ start_display() {
 
 # A window manager, which is not there, is not waited for: each window would take two seconds. The
 # disk that holds our files has no label: where it could not be read, programs would be told so.
+# Debian's Wine does not find its own fonts; without them dialogs have other sizes than on Windows.
 make_wine_prefix() {
-  local wine
+  local wine fonts=$WINEPREFIX/drive_c/windows/Fonts
   wine=$(wine_tool wine64)
   rm -rf "$WINEPREFIX"
+  mkdir -p "$fonts"
+  cp /usr/share/wine/fonts/*.ttf "$fonts"
   { "$wine" wineboot --init && ln -s /dev/null "$WINEPREFIX/dosdevices/z::" &&
     "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f; } >build-windows/wine.log 2>&1 || {
     echo "dev: Wine does not start; see build-windows/wine.log" >&2
