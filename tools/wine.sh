@@ -26,7 +26,8 @@ make_wine_prefix() {
   mkdir -p "$fonts"
   cp /usr/share/wine/fonts/*.ttf "$fonts"
   { "$wine" wineboot --init && ln -s /dev/null "$WINEPREFIX/dosdevices/z::" &&
-    "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f; } >build-windows/wine.log 2>&1 || {
+    "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f &&
+    "$wine" reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f; } >build-windows/wine.log 2>&1 || {
     echo "dev: Wine does not start; see build-windows/wine.log" >&2
     return 1
   }
