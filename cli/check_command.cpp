@@ -1,5 +1,6 @@
 #include "cli/check_command.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/check_results.h"

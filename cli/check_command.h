@@ -1,11 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane check`: names everything in a file that the reader lets pass or refuses. It reads the
 // files alone and needs no host.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,6 @@
 #include "cli/check_results.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
 

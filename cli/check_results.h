@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
@@ -9,6 +8,10 @@
 #include "cli/failure.h"
 
 // What verbs do with the findings that they make: flags, output and exit status.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

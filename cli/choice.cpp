@@ -1,5 +1,6 @@
 #include "cli/choice.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 namespace cli {

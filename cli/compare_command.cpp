@@ -1,5 +1,6 @@
 #include "cli/compare_command.h"
 
+#include <CLI/CLI.hpp>
 #include <cmath>
 #include <iostream>
 #include <memory>

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane compare`: tells how far two motion files are from each other. It reads the files alone
 // and needs no host.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

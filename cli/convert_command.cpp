@@ -1,5 +1,6 @@
 #include "cli/convert_command.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
 #include <iostream>

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane convert`: lets the plug-in turn marker files into BVK files.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

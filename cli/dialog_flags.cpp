@@ -1,5 +1,6 @@
 #include "cli/dialog_flags.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 namespace cli {

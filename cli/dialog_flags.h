@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <string>
 #include <vector>
 
@@ -8,6 +7,11 @@
 
 // Flags that are controls of an options dialog. Parsing the arguments adds a wish for each that is
 // given to a list, which must outlive the parsing.
+
+namespace CLI {
+class App;
+class Option;
+}  // namespace CLI
 
 namespace cli {
 

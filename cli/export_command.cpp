@@ -1,5 +1,6 @@
 #include "cli/export_command.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
 

@@ -1,5 +1,6 @@
 #include "cli/export_htr_flags.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/dialog_flags.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -8,6 +7,10 @@
 #include "cli/dialog_user.h"
 
 // The flags of `orvane export` that are controls of the options dialog "ExportHTR".
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,7 @@
 #include "cli/file_kind.h"
 
+#include <CLI/CLI.hpp>
+
 #include "cli/choice.h"
 #include "cli/failure.h"
 #include "host/application/extension_match.h"

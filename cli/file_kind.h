@@ -1,10 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <optional>
 #include <string>
 
 // The kinds of file that the program tells apart.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane import`: lets the plug-in import a motion or marker file into a scene and writes the
 // scene as glTF.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,6 @@
 #include "cli/import_flags.h"
 
+#include <CLI/CLI.hpp>
 #include <algorithm>
 
 #include "cli/choice.h"

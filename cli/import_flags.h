@@ -1,6 +1,5 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
 #include <cstdint>
 #include <optional>
 #include <vector>
@@ -9,6 +8,10 @@
 
 // The flags of `orvane import` that are controls of the options dialogs "ImportHTR" and
 // "ImportTRC". What does the same in both has the same id, and the same flag.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,6 @@
 #include "cli/info_command.h"
 
+#include <CLI/CLI.hpp>
 #include <iostream>
 #include <memory>
 

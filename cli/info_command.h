@@ -1,10 +1,12 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane info`: tells what a motion file holds. It reads the file alone and needs no host.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,6 @@
 #include "cli/map_command.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/map_create.h"

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane map`: marker name mappings.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,5 +1,6 @@
 #include "cli/map_lint.h"
 
+#include <CLI/CLI.hpp>
 #include <memory>
 
 #include "cli/check_results.h"

@@ -1,11 +1,13 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane map lint`: names what is odd in a mapping file, and what it makes of a capture. It reads
 // the files alone and needs no host.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 

@@ -1,10 +1,12 @@
 #pragma once
 
-#include <CLI/CLI.hpp>
-
 #include "cli/command_line.h"
 
 // `orvane scene`: tells what a scene file holds.
+
+namespace CLI {
+class App;
+}  // namespace CLI
 
 namespace cli {
 
