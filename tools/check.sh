@@ -2,7 +2,7 @@
 # is well; one that finds nothing to look at fails.
 # shellcheck shell=bash
 
-readonly check_steps='format scripts includes warnings headers portability resources analysis'
+readonly check_steps='format scripts includes warnings headers resources analysis'
 
 # Files that git knows or would add, matching the patterns, one a line.
 our_files() {
@@ -32,12 +32,6 @@ check_headers() {
   cmake --build --preset default --target check_headers
 }
 
-check_portability() {
-  cmake -S cmake/portability -B build-portability -G Ninja \
-    -DCMAKE_TOOLCHAIN_FILE="$PWD/cmake/mingw.cmake" -DORVANE_WARNINGS_AS_ERRORS=ON >/dev/null &&
-    cmake --build build-portability --target portable_headers portable_sources
-}
-
 # Windows' own resource compiler is not here; this one reads the same language as strictly.
 check_resources() {
   local made=build/plugin/resources
@@ -54,8 +48,7 @@ analysed_sources() {
 
 # clang's own warnings are among the diagnostics, so this is the check for them too.
 check_analysis() {
-  analysed_sources | xargs --no-run-if-empty --max-args=1 --max-procs="$(nproc)" clang-tidy -p build --quiet \
-    2> >(grep -v ' warnings\? generated\.$' >&2)
+  analysed_sources | tools/analyse.py build
 }
 
 run_checks() {

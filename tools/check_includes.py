@@ -6,8 +6,12 @@ Usage: check_includes.py RULES < LIST_OF_FILES
 Reads file names, relative to the current directory, one a line. Prints every include that the
 table does not allow and exits with 1 if there is one, or if nothing was there to check.
 The form of the table is described at its top.
+
+A source file with a header of the same name beside it has to include that first: so the header is
+compiled without any other before it.
 """
 
+import os
 import re
 import sys
 
@@ -74,6 +78,17 @@ def findings(file, text, rules):
             if not rule.allows(file, match[1], match[2])]
 
 
+def own_header_finding(file, text):
+    """The message for a source file that does not include its own header first, in a list."""
+    stem, dot, _ = file.rpartition(".cpp")
+    header = stem + ".h"
+    first = INCLUDE.search(text)
+    if not dot or not os.path.exists(header) or (first and first[2] == header):
+        return []
+    line = text.count("\n", 0, first.start(1)) + 1 if first else 1
+    return [f"{file}:{line}: has to include {header} first"]
+
+
 def main(rules_name):
     with open(rules_name, encoding="utf-8") as rules_file:
         rules = read_rules(rules_file.read())
@@ -83,7 +98,7 @@ def main(rules_name):
         with open(file, encoding="utf-8") as source:
             text = source.read()
         includes_seen += len(INCLUDE.findall(text))
-        messages += findings(file, text, rules)
+        messages += findings(file, text, rules) + own_header_finding(file, text)
     if includes_seen == 0:
         messages.append("check_includes: there was no include to check")
     print("\n".join(messages), end="\n" if messages else "")

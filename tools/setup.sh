@@ -35,7 +35,6 @@ command clang-tidy                                clang-tidy
 command git                                       git
 command llvm-rc                                   llvm
 command shellcheck                                shellcheck
-command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
 '
 readonly windows_needs='
 command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix

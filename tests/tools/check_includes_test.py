@@ -70,6 +70,15 @@ class CheckIncludesTest(unittest.TestCase):
         self.assertEqual(status, 1)
         self.assertEqual(output, "elsewhere/a.h: no rule says what this file may include\n")
 
+    def test_a_source_file_includes_its_own_header_first(self):
+        own = '#pragma once\n#include <vector>\n'
+        for text in ('#include <vector>\n#include "core/a.h"\n', '#include <vector>\n'):
+            status, output = self.check({"core/a.h": own, "core/a.cpp": text})
+            self.assertEqual((status, output),
+                             (1, "core/a.cpp:1: has to include core/a.h first\n"))
+        status, output = self.check({"core/a.cpp": '// Why.\n\n#include "core/a.h"\n'})
+        self.assertEqual((status, output), (0, ""))
+
     def test_finding_no_include_at_all_is_an_error(self):
         for files in ({}, {"core/a.h": "#pragma once\n"}):
             status, output = self.check(files)
