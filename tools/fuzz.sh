@@ -12,7 +12,7 @@ fuzz_target() {
   local known=build-fuzz/corpus/$1 log=build-fuzz/$1.log
   mkdir -p "$known" build-fuzz/finds
   # shellcheck disable=SC2086  # a list of options
-  if build-fuzz/fuzz/"$1"_fuzzer $fuzz_limits -max_total_time="$2" -print_final_stats=1 \
+  if build-sanitize/fuzz/"$1"_fuzzer $fuzz_limits -max_total_time="$2" -print_final_stats=1 \
     -artifact_prefix="build-fuzz/finds/$1-" "$known" "fuzz/corpus/$1" >"$log" 2>&1; then
     echo "$1: $(sed -n 's/^stat::number_of_executed_units: *//p' "$log") inputs, nothing found"
   else

@@ -46,8 +46,6 @@ command Xvfb                                      xvfb
 readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
-'
-readonly fuzz_needs='
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.fuzzer-*.a  libclang-rt-14-dev
 '
 
