@@ -16,7 +16,9 @@ start_display() {
   export DISPLAY=:$DISPLAY
 }
 
-# A window manager, which is not there, is not waited for: each window would take two seconds. The
+# A window manager, which is not there, is not waited for: each window would take two seconds. Names
+# that begin with a dot are not hidden, as they are not on Windows: the dialog for folders does not
+# take a hidden one. The
 # disk that holds our files has no label: where it could not be read, programs would be told so.
 # Debian's Wine does not find its own fonts; without them dialogs have other sizes than on Windows.
 make_wine_prefix() {
