@@ -23,8 +23,8 @@ constexpr char kScratch[] = ".orvane-folder-";
 constexpr int kTakes = 120;
 constexpr std::size_t kFrames = 1000;
 
-// When so many outputs are begun, the plug-in is still far from the last one.
-constexpr std::ptrdiff_t kFew = 10;
+// When no more outputs are begun, the plug-in has not yet come to the last ones.
+constexpr std::ptrdiff_t kBeforeTheLast = 100;
 
 std::string NameOf(int number) { return "take" + std::to_string(1000 + number); }
 
@@ -95,10 +95,10 @@ class DisturbedBatchTest : public test::OrvaneTest {
     return "";
   }
 
-  // Whether the plug-in is at one of its first outputs, and none is where the user wants it.
-  bool IsAtTheStart(const std::string& scratch) const {
+  // Whether the plug-in is still before its last outputs, and none is where the user wants it.
+  bool IsAtWork(const std::string& scratch) const {
     if (!Exists("one/" + scratch)) return false;
-    return CountIf(NamesIn("one/" + scratch), IsOutput) <= kFew &&
+    return CountIf(NamesIn("one/" + scratch), IsOutput) <= kBeforeTheLast &&
            CountIf(NamesIn("one"), IsOutput) == 0;
   }
 
@@ -107,9 +107,9 @@ class DisturbedBatchTest : public test::OrvaneTest {
     return std::count_if(names.begin(), names.end(), condition);
   }
 
-  // Converts with `arguments`, and lets `happen` come about while the plug-in is at one of its
-  // first outputs: with the process of the program, and that in which the plug-in is, which may be
-  // the same, and stands still until then. What the machine does meanwhile may let that moment
+  // Converts with `arguments`, and lets `happen` come about while the plug-in is still before
+  // its last outputs: with the process of the program, and that in which the plug-in is, which may
+  // be the same, and stands still until then. What the machine does meanwhile may let that moment
   // pass; it is then tried again.
   template <typename Happen>
   ProgramResult Convert(const std::vector<std::string>& arguments, Happen happen) const {
@@ -123,7 +123,7 @@ class DisturbedBatchTest : public test::OrvaneTest {
         if (scratch.empty()) return;
         const int worker = std::stoi(scratch.substr(std::string(kScratch).size()));
         Stop(worker);
-        has_happened = IsAtTheStart(scratch);
+        has_happened = IsAtWork(scratch);
         if (has_happened) happen(process, worker);
         kill(worker, SIGCONT);
       };
