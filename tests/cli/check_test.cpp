@@ -380,11 +380,11 @@ TEST_F(CheckTest, AFolderStandsForTheFilesInItInTheOrderOfTheirNames) {
   const ProgramResult result = Orvane({"check", "warning.htr", "take", "walk.htr"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error, IsEmpty());
-  EXPECT_THAT(result.output, EndsWith("warning.htr: 1 warning\n"
-                                      "take/a.HTR: clean: 2 segments, 3 frames\n"
-                                      "take/b.htr: clean: 2 segments, 3 frames\n"
-                                      "walk.htr: clean: 2 segments, 3 frames\n"));
-  EXPECT_EQ(Orvane({"check", "take/"}).output,
+  EXPECT_THAT(test::Slashed(result.output), EndsWith("warning.htr: 1 warning\n"
+                                                     "take/a.HTR: clean: 2 segments, 3 frames\n"
+                                                     "take/b.htr: clean: 2 segments, 3 frames\n"
+                                                     "walk.htr: clean: 2 segments, 3 frames\n"));
+  EXPECT_EQ(test::Slashed(Orvane({"check", "take/"}).output),
             "take/a.HTR: clean: 2 segments, 3 frames\n"
             "take/b.htr: clean: 2 segments, 3 frames\n");
 }

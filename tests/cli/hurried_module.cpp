@@ -2,7 +2,6 @@
 // name asks for, at the very moment that the test needs. They read and write no file.
 
 #include <chrono>
-#include <csignal>
 #include <filesystem>
 #include <string>
 #include <thread>
@@ -12,6 +11,7 @@
 #include "sdk/core/interface.h"
 #include "sdk/core/library.h"
 #include "sdk/core/plugin.h"
+#include "tests/cli/interruption.h"
 
 #define MODULE_ENTRY extern "C" SKELDER_ENTRY
 
@@ -26,9 +26,9 @@ int Hurry(const char* name, Interface* host) {
   const std::string wish = std::filesystem::path(name).stem().string();
   SuspendSetKeyMode();
   host->ProgressStart("Hurried", true, GoOn, nullptr);
-  if (wish.find("interrupt") == 0) std::raise(SIGINT);
-  if (wish == "terminate") std::raise(SIGTERM);
-  if (wish == "interrupt-twice") std::raise(SIGINT);
+  if (wish.find("interrupt") == 0) test::AskToStop();
+  if (wish == "terminate") test::AskToTerminate();
+  if (wish == "interrupt-twice") test::AskToStop();
   if (wish == "slow") Wait();
   host->ProgressUpdate(50);
   const bool cancelled = host->GetCancel();

@@ -38,8 +38,6 @@ TEST_F(InterruptTest, LeavesNothingBehindWhenThePluginDoesNotAsk) {
   ExpectInterrupted("interrupt-unheard");
 }
 
-TEST_F(InterruptTest, BeingAskedToTerminateIsTheSame) { ExpectInterrupted("terminate"); }
-
 TEST_F(InterruptTest, ASecondOneEndsTheProgramAtOnce) {
   const ProgramResult result = Import("interrupt-twice");
   EXPECT_EQ(result.status, 130);

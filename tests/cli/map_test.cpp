@@ -72,7 +72,7 @@ TEST_F(MapCreateTest, WritesTheMappingThatTheTableAsksFor) {
   const ProgramResult result = Create();
   EXPECT_EQ(result.status, 0) << result.error;
   EXPECT_EQ(result.output, "set.mnm: 30 markers mapped\n");
-  EXPECT_EQ(Read("set.mnm"), MappingOf(kNeeded));
+  EXPECT_EQ(ReadText("set.mnm"), MappingOf(kNeeded));
   EXPECT_THAT(Names(), ElementsAre("picks", "set.mnm", "walk.trc"));
 }
 
@@ -84,7 +84,7 @@ TEST_F(MapCreateTest, TakesOptionalMarkersAndSticks) {
   const ProgramResult result = Create({"--left-stick", "--right-stick", "--quiet"});
   EXPECT_EQ(result.status, 0) << result.error;
   EXPECT_EQ(result.output, "");
-  EXPECT_EQ(Read("set.mnm"), MappingOf(codes));
+  EXPECT_EQ(ReadText("set.mnm"), MappingOf(codes));
 }
 
 TEST_F(MapCreateTest, NamesAllThatIsWrongWithTheTableAtOnce) {
@@ -118,9 +118,9 @@ TEST_F(MapCreateTest, KeepsAFileThatExists) {
   const ProgramResult result = Create();
   EXPECT_EQ(result.status, 3);
   EXPECT_THAT(result.error, HasSubstr("--force"));
-  EXPECT_EQ(Read("set.mnm"), "mine");
+  EXPECT_EQ(ReadText("set.mnm"), "mine");
   EXPECT_EQ(Create({"--force"}).status, 0);
-  EXPECT_EQ(Read("set.mnm"), MappingOf(kNeeded));
+  EXPECT_EQ(ReadText("set.mnm"), MappingOf(kNeeded));
 }
 
 TEST_F(MapCreateTest, SaysWhyTheMarkerFileIsRefused) {

@@ -1,5 +1,9 @@
 #include "tests/cli/orvane_test.h"
 
+#include <algorithm>
+#include <filesystem>
+#include <regex>
+
 namespace test {
 
 ProgramRun OrvaneTest::Command(const std::vector<std::string>& arguments) const {
@@ -9,6 +13,11 @@ ProgramRun OrvaneTest::Command(const std::vector<std::string>& arguments) const 
   run.folder = folder_.Path().string();
   run.environment = {"XDG_CONFIG_HOME=" + folder_.File("config")};
   return run;
+}
+
+std::string OrvaneTest::ReadText(const std::string& name) const {
+  const std::regex moment("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9][0-9] [0-9:]{8} [0-9]{4}");
+  return std::regex_replace(ReadTextFile(folder_.File(name)), moment, "TIME");
 }
 
 std::string SmallMotion() {
@@ -25,6 +34,12 @@ std::string SmallMotion() {
 
 std::string HurriedModule() {
   return ORVANE_BINARY_DIR "/tests/hurried_module" ORVANE_MODULE_SUFFIX;
+}
+
+std::string Slashed(std::string text) {
+  constexpr char kSlash = static_cast<char>(std::filesystem::path::preferred_separator);
+  std::replace(text.begin(), text.end(), kSlash, '/');
+  return text;
 }
 
 std::string Replaced(std::string text, const std::string& from, const std::string& to) {

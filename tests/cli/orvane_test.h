@@ -31,6 +31,10 @@ class OrvaneTest : public testing::Test {
 
   std::string Read(const std::string& name) const { return ReadFile(folder_.File(name)); }
 
+  // Of a file that the plug-in has written as text: with line feeds alone, and with "TIME" in place
+  // of any moment.
+  std::string ReadText(const std::string& name) const;
+
   bool Exists(const std::string& name) const { return std::filesystem::exists(folder_.File(name)); }
 
   std::vector<std::string> Names() const { return NamesIn(folder_.Path()); }
@@ -44,6 +48,9 @@ std::string SmallMotion();
 
 // The module of the tests, which is loaded in the plug-in's place.
 std::string HurriedModule();
+
+// `text` with the slashes of paths as POSIX systems write them.
+std::string Slashed(std::string text);
 
 // `text` with `from` replaced by `to`; `from` stands in it once.
 std::string Replaced(std::string text, const std::string& from, const std::string& to);

@@ -1,0 +1,41 @@
+#include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
+
+// What a conversion takes that Windows does not have: names of any bytes, and a clock that can be
+// set.
+
+namespace {
+
+using test::ProgramResult;
+using testing::HasSubstr;
+
+std::string Take() { return test::TrcText{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}}.Text(); }
+
+class PosixConvertTest : public test::OrvaneTest {};
+
+TEST_F(PosixConvertTest, TakesNamesOfAnyBytes) {
+  std::filesystem::create_directory(folder_.File("o u't"));
+  const std::vector<std::string> stems = {"it's \"x\"", "\xE9\xFF", "tab\there"};
+  std::vector<std::string> arguments = {"convert", "--output-dir", "o u't"};
+  for (const std::string& stem : stems) {
+    Write(stem + ".trc", Take());
+    arguments.push_back(stem + ".trc");
+  }
+  const ProgramResult result = Orvane(arguments);
+  EXPECT_EQ(result.status, 0) << result.error;
+  for (const std::string& stem : stems) {
+    EXPECT_THAT(Read("o u't/" + stem + ".bvk"), HasSubstr("$Filename   " + stem + "\n")) << stem;
+  }
+}
+
+TEST_F(PosixConvertTest, TellsTheTimeOfTheClock) {
+  Write("a.trc", Take());
+  Write("b.trc", Take());
+  test::ProgramRun run = Command({"convert", "a.trc", "b.trc"});
+  run.environment.emplace_back("SOURCE_DATE_EPOCH=741476948");
+  EXPECT_EQ(RunProgram(run).status, 0);
+  EXPECT_THAT(Read("a.bvk"), HasSubstr("$DateTime   Wed Jun 30 21:49:08 1993\n\n"));
+  EXPECT_THAT(Read("ConvertBVKLog.txt"), HasSubstr("Log\nWed Jun 30 21:49:08 1993\nProcessing"));
+}
+
+}  // namespace
