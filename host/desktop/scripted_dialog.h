@@ -4,9 +4,9 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/dialog_template.h"
 #include "platform/export.h"
 #include "platform/handles.h"
-#include "platform/portable/dialog_template.h"
 
 // An open dialog as its scripted user meets it. A script can do what a person can and no more: it
 // reads the controls, types, clicks and presses Esc. Whatever else it asks for (a control that the

@@ -1,7 +1,7 @@
 #include "platform/portable/resource_file.h"
 
-#include "platform/portable/byte_reader.h"
-#include "platform/portable/resource_text.h"
+#include "platform/byte_reader.h"
+#include "platform/resource_text.h"
 
 namespace platform {
 namespace {

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "platform/portable/dialog_template.h"
+#include "platform/dialog_template.h"
 
 // Looking up resources in the bytes of a compiled resource file (.res), as the resource compiler
 // writes it. No declared size is believed: in a damaged file what lies beyond the damage is absent.

@@ -7,7 +7,7 @@
 #include "host/desktop/portable/open_dialog_user.h"
 #include "host/desktop/script_failure.h"
 #include "platform/dialog.h"
-#include "platform/portable/dialog_template.h"
+#include "platform/dialog_template.h"
 
 // The dialogs of a scripted desktop that are open beside the rest of the program. A destroyed one
 // keeps its memory until the desktop goes, because a script or a handler may still be in the middle

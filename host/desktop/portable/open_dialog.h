@@ -9,7 +9,7 @@
 #include "host/desktop/portable/window.h"
 #include "host/desktop/scripted_dialog.h"
 #include "platform/dialog.h"
-#include "platform/portable/dialog_template.h"
+#include "platform/dialog_template.h"
 
 // A dialog that is open on a desktop without screen: the state of its controls, built from the
 // template and changed by the dialog's handler. What the user does stands in open_dialog_user.h.

@@ -6,7 +6,7 @@
 #include <span>
 #include <string>
 
-#include "platform/portable/byte_reader.h"
+#include "platform/byte_reader.h"
 
 // The texts and names inside resources: UTF-16 in the file, UTF-8 here.
 

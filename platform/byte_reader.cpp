@@ -1,4 +1,4 @@
-#include "platform/portable/byte_reader.h"
+#include "platform/byte_reader.h"
 
 #include <algorithm>
 

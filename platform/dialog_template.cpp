@@ -1,9 +1,9 @@
-#include "platform/portable/dialog_template.h"
+#include "platform/dialog_template.h"
 
 #include <utility>
 
-#include "platform/portable/byte_reader.h"
-#include "platform/portable/resource_text.h"
+#include "platform/byte_reader.h"
+#include "platform/resource_text.h"
 
 namespace platform {
 namespace {

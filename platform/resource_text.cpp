@@ -1,4 +1,4 @@
-#include "platform/portable/resource_text.h"
+#include "platform/resource_text.h"
 
 namespace platform {
 namespace {
