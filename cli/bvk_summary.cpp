@@ -6,6 +6,7 @@
 #include <string_view>
 #include <vector>
 
+#include "platform/path_text.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
@@ -98,7 +99,7 @@ Body ReadBody(std::ifstream& file) {
 }  // namespace
 
 std::optional<BvkSummary> SummarizeBvk(const std::string& path) {
-  std::ifstream file(path, std::ios::binary);
+  std::ifstream file(platform::PathOf(path));  // as text: the system has its own line ends
   const Header header = ReadHeader(file);
   if (!header.is_whole) return std::nullopt;
   const Body body = ReadBody(file);

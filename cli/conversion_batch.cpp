@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <optional>
 #include <utility>
 
@@ -22,6 +24,12 @@ namespace fs = std::filesystem;
 
 constexpr char kLogName[] = "/ConvertBVKLog.txt";
 constexpr char kEmptyMapping[] = "/nothing.mnm";
+
+// A file of the plug-in's, whatever line ends the system has; empty when it cannot be read.
+std::string ReadText(const std::string& path) {
+  std::ifstream file(platform::PathOf(path));
+  return {std::istreambuf_iterator<char>(file), {}};
+}
 
 class BatchConversion {
  public:
@@ -113,7 +121,7 @@ class BatchConversion {
       sources.reserve(waiting.size());
       for (const Conversion* conversion : waiting) sources.push_back(conversion->source);
       panel.ConvertBatch(sources, scratch_.Path());
-      const std::string log = orvane::ReadFileBytes(scratch_.Path() + kLogName).value_or("");
+      const std::string log = ReadText(scratch_.Path() + kLogName);
       result_.log += log;
       const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
       for (std::size_t at = 0; at < files.size(); ++at) Finish(*waiting[at], files[at].message);

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cli/failure.h"
+#include "cli/working_folder.h"
 #include "platform/interrupt.h"
 
 namespace cli {
@@ -111,6 +112,7 @@ void ConverterPanel::SetCheckBox(int control, bool checked) {
 }
 
 void ConverterPanel::Click(int control) {
+  const WorkingFolder folder;
   Page().Click(control);
   session_.desktop().RethrowFailure();
 }

@@ -30,6 +30,7 @@ int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
 }  // namespace
 
 PluginSession::PluginSession(const std::string& module_path, Settings settings) {
+  platform::WorkUnseen();
   if (settings == Settings::kUser) {
     user_settings_ = OpenUserSettings();
   } else {

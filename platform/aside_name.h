@@ -14,8 +14,9 @@ std::string AsideName(std::uint64_t process, int number);
 // Whether `name` is such a name.
 bool IsAsideName(std::string_view name);
 
-// What the names of folders for such files begin with; the same two numbers follow.
-inline constexpr char kScratchFolderPrefix[] = ".orvane-folder-";
+// What the names of folders for such files begin with; the same two numbers follow. They are not
+// hidden: the system lets its user choose no folder that is.
+inline constexpr char kScratchFolderPrefix[] = "~orvane-folder-";
 
 std::string ScratchFolderName(std::uint64_t process, int number);
 

@@ -11,4 +11,6 @@ std::string ProgramFolder() {
   return error ? "." : program.parent_path().string();
 }
 
+void WorkUnseen() {}
+
 }  // namespace platform

@@ -545,7 +545,9 @@ TEST_F(MappingCreatorTest, KeepsEntriesAndColoursWhenNoFileIsChosen) {
 
 TEST_F(MappingCreatorTest, KeepsEntriesAndColoursWhenTheFileCannotBeMade) {
   // What leads nowhere does not exist, and cannot be made either.
-  std::filesystem::create_symlink(folder_.File("no/such/file"), folder_.File("made.mnm"));
+  std::error_code error;
+  std::filesystem::create_symlink(folder_.File("no/such/file"), folder_.File("made.mnm"), error);
+  if (error) GTEST_SKIP() << "there are no links to make: " << error.message();
   Create();
   EXPECT_EQ(desk_.desktop().Messages().back().text,
             "MNM File Creation Failed: Unable to open output file.");

@@ -27,7 +27,7 @@ void ModuleTest::TearDown() {
   if (module_ != nullptr) {
     const host::ModuleLeftovers leftovers = host::UnloadModule(std::move(module_));
     EXPECT_TRUE(leftovers.IsClean());
-    EXPECT_TRUE(leftovers.open_keys.empty());
+    EXPECT_EQ(leftovers.open_keys, std::vector<std::string>());
   }
 }
 

@@ -38,7 +38,7 @@ class RecordingTest : public ModuleTest {
 TEST_F(RecordingTest, TheWalkPutsFeetAndHandsWhereTheyWere) {
   const std::filesystem::path path = Recording("walk-31-segments.htr");
   if (!std::filesystem::exists(path)) GTEST_SKIP() << path << " is not here";
-  EXPECT_EQ(Import(path,
+  EXPECT_EQ(Import(path.string(),
                    [](host::ScriptedDialog& dialog) {
                      dialog.Click(1140);  // the frame rate of the file
                      PressOk(dialog);

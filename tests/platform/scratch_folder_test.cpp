@@ -34,7 +34,7 @@ TEST(ScratchFolderTest, IsItsOwnFolderEachTime) {
 TEST(ScratchFolderTest, RemovesWhatAKilledProcessHasLeftAndNoMore) {
   const test::TemporaryFolder parent;
   const ScratchFolder in_use(parent.Path().string());
-  std::filesystem::create_directories(parent.Path() / ".orvane-folder-1-0/inner");
+  std::filesystem::create_directories(parent.Path() / "~orvane-folder-1-0/inner");
   std::filesystem::create_directory(parent.Path() / "somebody's");
   const ScratchFolder next(parent.Path().string());
   EXPECT_THAT(test::NamesIn(parent.Path()),

@@ -17,7 +17,7 @@ using test::TrcText;
 using testing::EndsWith;
 using testing::StartsWith;
 
-constexpr char kScratch[] = ".orvane-folder-";
+constexpr char kScratch[] = "~orvane-folder-";
 
 // Enough for something to happen before the last of them, and all of them are one batch.
 constexpr int kTakes = 120;

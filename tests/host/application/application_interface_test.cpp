@@ -206,8 +206,8 @@ TEST_F(ApplicationInterfaceTest, CountsHowOftenPendingMessagesWereLetIn) {
   EXPECT_EQ(application_.PendingMessageCalls(), 2U);
 }
 
-TEST_F(ApplicationInterfaceTest, HasNoRollupPagesWithoutADesktop) {
-  EXPECT_EQ(host_.AddRollupPage(nullptr, 116, nullptr, "Page", 0, 0, 4000), nullptr);
+TEST_F(ApplicationInterfaceTest, HasNoRollupPageWithoutADialogForIt) {
+  EXPECT_EQ(host_.AddRollupPage(nullptr, 9999, nullptr, "Page", 0, 0, 4000), nullptr);
   host_.DeleteRollupPage(nullptr);
   EXPECT_THAT(scene_.Misuse().Messages(),
               ElementsAre("DeleteRollupPage of a page that is not open"));

@@ -51,7 +51,6 @@ TEST_F(ScriptedDesktopTest, AsksNobodyWhenTheHandlerEndsAtOnce) {
 
 TEST_F(ScriptedDesktopTest, DialogThatTheModuleLacksIsNotCreated) {
   EXPECT_EQ(platform::RunModalDialog(module, 108, nullptr, handler), kDialogNotCreated);
-  EXPECT_EQ(platform::RunModalDialog(nullptr, kDialog, nullptr, handler), kDialogNotCreated);
   EXPECT_EQ(Failure(), "");
 }
 

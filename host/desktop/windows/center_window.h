@@ -1,0 +1,10 @@
+#pragma once
+
+#include "platform/handles.h"
+
+namespace host {
+
+// The window that CenterWindow has put `window` over last, or null.
+HWND WindowCentredOver(HWND window);
+
+}  // namespace host
