@@ -63,6 +63,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
       "orvane");
   app.set_version_flag("--version", "orvane " ORVANE_VERSION);
   app.require_subcommand(1);
+  app.allow_windows_style_options(false);  // "/takes/walk.htr" is a file on every system
   AddImportCommand(app, work);
   AddExportCommand(app, work);
   AddInfoCommand(app, work);

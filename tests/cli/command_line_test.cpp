@@ -34,6 +34,12 @@ TEST_F(CommandLineTest, HelpOfAVerbNamesItsFlags) {
   EXPECT_THAT(result.output, HasSubstr("--system-unit mm|cm|m|in|ft"));
 }
 
+TEST_F(CommandLineTest, ASlashBeginsAPathAndNoFlag) {
+  const ProgramResult result = Orvane({"info", "/missing/walk.htr"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, StartsWith("orvane: /missing/walk.htr: "));
+}
+
 struct WrongUsage {
   std::string name;
   std::vector<std::string> arguments;
