@@ -43,6 +43,10 @@ path    /usr/lib/wine/wine64                      wine64
 path    /usr/share/wine/fonts/tahoma.ttf          fonts-wine
 command Xvfb                                      xvfb
 '
+readonly package_needs='
+command dpkg-shlibdeps                            dpkg-dev
+command file                                      file
+'
 readonly sanitize_needs='
 command clang++                                   clang
 path    /usr/lib/llvm-*/lib/clang/*/lib/linux/libclang_rt.asan-*.a  libclang-rt-14-dev
