@@ -205,6 +205,14 @@ TEST_F(DialogWindowTest, AStoredChoiceIsStillSelectedWhenTheDialogHasTheFocus) {
   });
 }
 
+TEST_F(DialogWindowTest, TheEditControlsOfTheHostHaveTheirFrame) {
+  Panel([](host::ScriptedDialog& page) {
+    for (const int edit : {kOffsetX, kOffsetY, kOffsetZ}) {
+      EXPECT_TRUE(HasFrame(page.Window(), edit)) << edit;
+    }
+  });
+}
+
 TEST_F(DialogWindowTest, TheRadioButtonsOfThePanelAreOneStopOnceTheyAreEnabled) {
   Panel([](host::ScriptedDialog& page) {
     page.Click(kEnableOffset);

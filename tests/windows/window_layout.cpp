@@ -142,6 +142,14 @@ int Focus(HWND dialog) {
   return focus != nullptr && IsChild(dialog, focus) != 0 ? GetDlgCtrlID(focus) : 0;
 }
 
+bool HasFrame(HWND dialog, int control) {
+  RECT whole{};
+  RECT inside{};
+  const HWND window = GetDlgItem(dialog, control);
+  return GetWindowRect(window, &whole) != 0 && GetClientRect(window, &inside) != 0 &&
+         inside.right < whole.right - whole.left && inside.bottom < whole.bottom - whole.top;
+}
+
 std::vector<std::string> LayoutFaults(HWND dialog) {
   std::vector<std::string> faults;
   RECT inside;

@@ -21,6 +21,9 @@ std::vector<int> ArrowOrder(HWND dialog, int control);
 // The control that has the keyboard; 0 when it is not in the dialog.
 int Focus(HWND dialog);
 
+// Whether a frame goes around a control, outside of what it shows.
+bool HasFrame(HWND dialog, int control);
+
 // What is wrong with the look of the dialog, one sentence each: controls that stick out of it or
 // lie one over the other, and texts that are cut off.
 std::vector<std::string> LayoutFaults(HWND dialog);

@@ -41,7 +41,18 @@ std::map<HWND, WindowEdit>& Edits() {
 
 WNDPROC system_edit = nullptr;
 
+// A template need not ask for the frame, nor for text that goes on behind it: they belong to the
+// class.
+void AddFrame(HWND window, CREATESTRUCTW& created) {
+  created.style |= ES_AUTOHSCROLL;
+  created.dwExStyle |= WS_EX_CLIENTEDGE;
+  SetWindowLongW(window, GWL_STYLE, created.style);
+  SetWindowLongW(window, GWL_EXSTYLE, static_cast<LONG>(created.dwExStyle));
+}
+
 LRESULT CALLBACK RunEdit(HWND window, UINT message, WPARAM word, LPARAM parameter) {
+  // NOLINTNEXTLINE(performance-no-int-to-ptr): the system's own way to hand it over
+  if (message == WM_NCCREATE) AddFrame(window, *reinterpret_cast<CREATESTRUCTW*>(parameter));
   if (message == WM_NCDESTROY) Edits().erase(window);
   return CallWindowProcW(system_edit, window, message, word, parameter);
 }
