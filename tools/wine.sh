@@ -18,9 +18,9 @@ start_display() {
 
 # A window manager, which is not there, is not waited for: each window would take two seconds. Names
 # that begin with a dot are not hidden, as they are not on Windows: the dialog for folders does not
-# take a hidden one. The
-# disk that holds our files has no label: where it could not be read, programs would be told so.
-# Debian's Wine does not find its own fonts; without them dialogs have other sizes than on Windows.
+# take a hidden one. The disk that holds our files has no label: where it could not be read, programs
+# would be told so. Debian's Wine does not find its own fonts; without them dialogs have other sizes
+# than on Windows.
 make_wine_prefix() {
   local wine fonts=$WINEPREFIX/drive_c/windows/Fonts
   wine=$(wine_tool wine64)
@@ -35,6 +35,13 @@ make_wine_prefix() {
   }
 }
 
+# A process that waits for us to end. Without any of ours Wine ends its own too, and the next test has
+# to wait for them.
+keep_wine_awake() {
+  # shellcheck disable=SC2034  # it is enough that it is open
+  exec {awake}> >(exec "$(wine_tool wine64)" cmd >/dev/null 2>&1)
+}
+
 stop_wine() {
   "$(wine_tool wineserver)" -k || true
   kill "$display_process" || true
@@ -44,9 +51,11 @@ stop_wine() {
 with_wine() (
   mkdir -p build-windows
   export WINEPREFIX=$PWD/build-windows/wine WINEDEBUG=-all WINEDLLOVERRIDES='mscoree,mshtml='
-  export LC_ALL=C.UTF-8  # file names are UTF-8
+  export LC_ALL=C.UTF-8    # file names are UTF-8
+  export ORVANE_VISIBLE=1  # nobody looks; and each desktop takes Wine a process that lives on
   trap stop_wine EXIT
   start_display
   make_wine_prefix
+  keep_wine_awake
   "$@"
 )

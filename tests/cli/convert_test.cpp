@@ -367,9 +367,9 @@ TEST_F(ConvertTest, TellsWhatItCannotReadOrWrite) {
   result = Convert({"walk.trc", "--output-dir", "missing"});
   EXPECT_EQ(result.status, 3);
   EXPECT_THAT(result.error, HasSubstr("missing"));
-  result = Convert({"walk"});
+  result = Convert({"run"});
   EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.error, HasSubstr("walk.TRC: No such file or directory\n"));
+  EXPECT_THAT(result.error, HasSubstr("run.TRC: No such file or directory\n"));
   EXPECT_THAT(Names(), ElementsAre("walk.trc"));
 }
 
