@@ -236,8 +236,7 @@ TEST_F(ConvertTest, GroupsFilesByTheirFolders) {
 
 TEST_F(ConvertTest, TakesNamesOfManyKinds) {
   MakeFolder("o u't");
-  const std::vector<std::string> stems = {"50%done", "%s%s%n", "%999999999d",
-                                          "a b",     "it's",   "caf\xC3\xA9"};
+  const std::vector<std::string> stems = {"50%done", "%s%s%n", "%999999999d", "a b", "it's"};
   std::vector<std::string> arguments = {"--output-dir", "o u't"};
   for (const std::string& stem : stems) {
     Write(stem + ".trc", Take());

@@ -15,7 +15,7 @@ class PosixConvertTest : public test::OrvaneTest {};
 
 TEST_F(PosixConvertTest, TakesNamesOfAnyBytes) {
   std::filesystem::create_directory(folder_.File("o u't"));
-  const std::vector<std::string> stems = {"it's \"x\"", "\xE9\xFF", "tab\there"};
+  const std::vector<std::string> stems = {"it's \"x\"", "caf\xC3\xA9", "\xE9\xFF", "tab\there"};
   std::vector<std::string> arguments = {"convert", "--output-dir", "o u't"};
   for (const std::string& stem : stems) {
     Write(stem + ".trc", Take());
