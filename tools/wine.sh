@@ -20,7 +20,7 @@ start_display() {
 # that begin with a dot are not hidden, as they are not on Windows: the dialog for folders does not
 # take a hidden one. The disk that holds our files has no label: where it could not be read, programs
 # would be told so. Debian's Wine does not find its own fonts; without them dialogs have other sizes
-# than on Windows.
+# than on Windows. A program that crashes ends: the debugger would wait for somebody.
 make_wine_prefix() {
   local wine fonts=$WINEPREFIX/drive_c/windows/Fonts
   wine=$(wine_tool wine64)
@@ -29,7 +29,9 @@ make_wine_prefix() {
   cp /usr/share/wine/fonts/*.ttf "$fonts"
   { "$wine" wineboot --init && ln -s /dev/null "$WINEPREFIX/dosdevices/z::" &&
     "$wine" reg add 'HKCU\Software\Wine\X11 Driver' /v Managed /d N /f &&
-    "$wine" reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f; } >build-windows/wine.log 2>&1 || {
+    "$wine" reg add 'HKCU\Software\Wine' /v ShowDotFiles /d Y /f &&
+    "$wine" reg add 'HKLM\Software\Microsoft\Windows NT\CurrentVersion\AeDebug' \
+      /v Debugger /d 'cmd /c exit' /f; } >build-windows/wine.log 2>&1 || {
     echo "dev: Wine does not start; see build-windows/wine.log" >&2
     return 1
   }
