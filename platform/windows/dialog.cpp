@@ -36,12 +36,21 @@ class WindowDialog : public Dialog {
   }
 
   void SetEnabled(int control, bool enabled) override {
-    EnableWindow(ControlWindow(control), enabled ? TRUE : FALSE);
+    const HWND window = ControlWindow(control);
+    if (!enabled && window != nullptr && window == GetFocus()) FocusFirstControl();
+    EnableWindow(window, enabled ? TRUE : FALSE);
   }
 
   void End(int /*result*/) override {}
 
  private:
+  // A disabled control loses the keyboard, and with it the user loses the dialog. The first one,
+  // and not the next, which may be a button that does what he does not expect of the same key.
+  void FocusFirstControl() {
+    const HWND first = GetNextDlgTabItem(window_, nullptr, FALSE);
+    SendMessageA(window_, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(first), TRUE);
+  }
+
   HWND window_;
 };
 

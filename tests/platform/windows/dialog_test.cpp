@@ -173,16 +173,23 @@ TEST(ModalDialog, IsNotCreatedWithoutItsResource) {
             platform::kDialogNotCreated);
 }
 
-// The version of the library that the class of a dialog's buttons comes from.
+// What runs the buttons that look like this one: each version of the controls has its own.
+ULONG_PTR ButtonProcedure(HWND button) { return GetClassLongPtrW(button, GCLP_WNDPROC); }
+
+// The program's own manifest asks for none.
 TEST(ModalDialog, HasTheControlsThatTheManifestOfTheModuleAsksFor) {
+  const HWND button =
+      CreateWindowW(L"BUTTON", L"", 0, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+  ASSERT_NE(button, nullptr);
   Handler handler;
-  RunOnce(handler, [](Dialog& dialog) {
+  RunOnce(handler, [button](Dialog& dialog) {
+    EXPECT_NE(ButtonProcedure(dialog.ControlWindow(IDC_OK)), ButtonProcedure(button));
     HANDLE context = nullptr;
     EXPECT_TRUE(GetCurrentActCtx(&context));
     EXPECT_NE(context, nullptr) << "one is active while the dialog is created";
     ReleaseActCtx(context);
-    EXPECT_NE(dialog.Window(), nullptr);
   });
+  DestroyWindow(button);
   HANDLE after = nullptr;
   EXPECT_TRUE(GetCurrentActCtx(&after));
   EXPECT_EQ(after, nullptr) << "and none afterwards";
@@ -208,6 +215,16 @@ TEST_F(ModelessDialogTest, ReportsAPressedButtonAndDoesNotEnd) {
   SendMessageA(dialog_->ControlWindow(IDC_SKIP), BM_CLICK, 0, 0);
   EXPECT_THAT(handler_.commands, ElementsAre(IDC_SKIP));
   EXPECT_TRUE(IsWindowVisible(dialog_->Window()));
+}
+
+// Without a focus the keyboard would do nothing any more.
+TEST_F(ModelessDialogTest, GivesTheFocusOfADisabledControlToTheFirst) {
+  platform::ShowModelessDialog(*dialog_);
+  SetFocus(dialog_->ControlWindow(IDC_SKIP));
+  dialog_->SetEnabled(IDC_BACK, false);
+  EXPECT_EQ(GetFocus(), dialog_->ControlWindow(IDC_SKIP)) << "which is another one";
+  dialog_->SetEnabled(IDC_SKIP, false);
+  EXPECT_EQ(GetFocus(), dialog_->ControlWindow(IDC_MARKER_DESCRIPTION));
 }
 
 TEST_F(ModelessDialogTest, IsGoneWithItsOwner) {
@@ -236,6 +253,24 @@ TEST(HandlerProcedure, RunsADialogThatSomebodyElseCreates) {
   ASSERT_NE(window, nullptr);
   EXPECT_EQ(text, "Left heel");
   SendDlgItemMessageA(window, IDC_BACK, BM_CLICK, 0, 0);
+  EXPECT_THAT(handler.commands, ElementsAre(IDC_BACK));
+  DestroyWindow(window);
+}
+
+// What it says about a message decides what the system does with it: the default focus, and what
+// it does itself with everything else.
+TEST(HandlerProcedure, SaysWhichMessagesItHasDealtWith) {
+  Handler handler;
+  const auto procedure = platform::HandlerProcedure();
+  const HWND window =
+      CreateDialogParamA(platform::ModuleHandle(), MAKEINTRESOURCEA(IDD_MAPPING_CREATOR), nullptr,
+                         procedure, platform::HandlerParameter(handler));
+  ASSERT_NE(window, nullptr);
+  EXPECT_EQ(procedure(window, WM_INITDIALOG, 0, platform::HandlerParameter(handler)), TRUE);
+  EXPECT_EQ(procedure(window, WM_COMMAND, MAKEWPARAM(IDC_BACK, BN_CLICKED), 0), TRUE);
+  EXPECT_EQ(procedure(window, WM_COMMAND, MAKEWPARAM(IDC_BACK, BN_SETFOCUS), 0), FALSE);
+  EXPECT_EQ(procedure(window, WM_ERASEBKGND, 0, 0), FALSE);
+  EXPECT_EQ(procedure(nullptr, WM_SETFONT, 0, 0), FALSE) << "before it has a handler";
   EXPECT_THAT(handler.commands, ElementsAre(IDC_BACK));
   DestroyWindow(window);
 }
