@@ -5,6 +5,16 @@
 namespace platform {
 namespace {
 
+// The line as text files hold it: also within, every line end is the system's.
+std::string BytesOf(const std::string& line) {
+  std::string bytes;
+  for (const char character : line + '\n') {
+    if (character == '\n') bytes += '\r';
+    bytes += character;
+  }
+  return bytes;
+}
+
 class AppendedFile final : public LogFile {
  public:
   explicit AppendedFile(HANDLE file) : file_(file) {}
@@ -13,7 +23,7 @@ class AppendedFile final : public LogFile {
   ~AppendedFile() override { CloseHandle(file_); }
 
   void AppendLine(const std::string& line) override {
-    const std::string bytes = line + "\r\n";
+    const std::string bytes = BytesOf(line);
     DWORD written = 0;
     WriteFile(file_, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
   }

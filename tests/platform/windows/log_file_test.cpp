@@ -28,6 +28,13 @@ TEST(LogFileTest, AppendsLinesToWhatIsThere) {
   EXPECT_EQ(ReadFile(path), "before\r\nTitle\tone\r\n\r\n") << "every line is there at once";
 }
 
+// Some messages end with a line end of their own.
+TEST(LogFileTest, WritesTheLineEndsOfTextFiles) {
+  const test::TemporaryFolder folder;
+  LogFile::Open(folder.File("log"))->AppendLine("Title\tone\ntwo\n");
+  EXPECT_EQ(ReadFile(folder.File("log")), "Title\tone\r\ntwo\r\n\r\n");
+}
+
 TEST(LogFileTest, MakesTheFile) {
   const test::TemporaryFolder folder;
   LogFile::Open(folder.File("log"))->AppendLine("line");
