@@ -2,6 +2,9 @@
 
 #include <windows.h>
 
+#include <cstring>
+#include <vector>
+
 namespace platform {
 namespace {
 
@@ -23,10 +26,13 @@ void CloseRegistryKey(RegistryKey* key) {
 }
 
 bool QueryRegistryValue(RegistryKey* key, const char* name, void* data, std::size_t& size) {
+  // What the system leaves in the buffer when a value does not fit is undefined.
+  std::vector<BYTE> bytes(size);
   auto count = static_cast<DWORD>(size);
   const LSTATUS status =
-      RegQueryValueExA(HandleOf(key), name, nullptr, nullptr, static_cast<BYTE*>(data), &count);
+      RegQueryValueExA(HandleOf(key), name, nullptr, nullptr, bytes.data(), &count);
   if (status != ERROR_SUCCESS) return false;
+  std::memcpy(data, bytes.data(), count);
   size = count;
   return true;
 }

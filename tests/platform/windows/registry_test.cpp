@@ -105,6 +105,16 @@ TEST_F(RegistryTest, GivesAStringBack) {
   EXPECT_LE(size, text.size() + 1);
 }
 
+// A NUL behind the text the system would count itself.
+TEST_F(RegistryTest, StoresAsMuchOfAStringAsItIsTold) {
+  EXPECT_TRUE(platform::SetRegistryValue(key_, "Text", RegistryType::kString, "abcdef", 3));
+  std::array<char, 8> buffer{};
+  std::size_t size = buffer.size();
+  ASSERT_TRUE(platform::QueryRegistryValue(key_, "Text", buffer.data(), size));
+  EXPECT_STREQ(buffer.data(), "abc");
+  EXPECT_EQ(Read("Software\\Orvane\\Test", "Text").type, DWORD{REG_SZ});
+}
+
 TEST_F(RegistryTest, FillsAsManyBytesAsThereAre) {
   EXPECT_TRUE(Set("Flag", RegistryType::kBinary, std::uint8_t{1}));
   std::array<std::uint8_t, 4> bytes = {7, 7, 7, 7};
@@ -125,13 +135,33 @@ TEST_F(RegistryTest, ReadsValuesThatAnotherProgramHasWritten) {
 
 TEST_F(RegistryTest, ChangesNothingWhenAValueIsMissingOrTooLong) {
   EXPECT_TRUE(Set("Double", RegistryType::kQuadWord, 1.0));
-  for (const char* name : {"Missing", "Double"}) {
+  EXPECT_TRUE(platform::SetRegistryValue(key_, "Text", RegistryType::kString, "abcdef", 6));
+  for (const char* name : {"Missing", "Double", "Text"}) {
     std::uint32_t data = 42;
     std::size_t size = sizeof(data);
     EXPECT_FALSE(platform::QueryRegistryValue(key_, name, &data, size)) << name;
     EXPECT_EQ(data, 42u) << name;
     EXPECT_EQ(size, sizeof(data)) << name;
   }
+}
+
+// What the system allows to be done with an open handle.
+ACCESS_MASK AccessOf(HANDLE handle) {
+  struct {
+    ULONG attributes;
+    ACCESS_MASK access;
+    std::array<ULONG, 12> rest;
+  } information{};
+  using Function = LONG(WINAPI*)(HANDLE, int, void*, ULONG, ULONG*);
+  const auto query = reinterpret_cast<Function>(
+      reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtQueryObject")));
+  constexpr int kBasicInformation = 0;
+  EXPECT_EQ(query(handle, kBasicInformation, &information, sizeof(information), nullptr), 0);
+  return information.access;
+}
+
+TEST_F(RegistryTest, OpensKeysForEverything) {
+  EXPECT_EQ(AccessOf(reinterpret_cast<HANDLE>(key_)), ACCESS_MASK{KEY_ALL_ACCESS});
 }
 
 TEST_F(RegistryTest, IsNullWhenAKeyCannotBeMade) {
