@@ -149,6 +149,41 @@ TEST_F(ChooseFilesTest, GivesThePathOfAFileToBeMade) {
   EXPECT_FALSE(std::filesystem::exists(folder_.File("new.trc")));
 }
 
+// Whether the dialog lets files be opened for reading only.
+bool HasReadOnlyBox(HWND dialog) {
+  constexpr int kReadOnlyBox = 0x410;
+  const HWND box = GetDlgItem(dialog, kReadOnlyBox);
+  return box != nullptr && IsWindowVisible(box);
+}
+
+TEST_F(ChooseFilesTest, HidesTheBoxForReadingOnlyWhenItIsTold) {
+  for (const bool several : {false, true}) {
+    for (const bool hide : {false, true}) {
+      dialog_.several = several;
+      dialog_.hide_read_only_box = hide;
+      bool shown = false;
+      EXPECT_FALSE(Choose([&shown](HWND dialog) {
+        shown = HasReadOnlyBox(dialog);
+        Cancel(dialog);
+      }));
+      EXPECT_EQ(shown, !hide) << several;
+    }
+  }
+}
+
+TEST_F(ChooseFilesTest, BelongsToItsOwner) {
+  const HWND window = CreateWindowA("STATIC", "window", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200,
+                                    100, nullptr, nullptr, nullptr, nullptr);
+  dialog_.owner = window;
+  HWND owner = nullptr;
+  EXPECT_FALSE(Choose([&owner](HWND dialog) {
+    owner = GetWindow(dialog, GW_OWNER);
+    Cancel(dialog);
+  }));
+  EXPECT_EQ(owner, window);
+  DestroyWindow(window);
+}
+
 TEST_F(ChooseFilesTest, LeavesTheCurrentFolderAsItIs) {
   const std::filesystem::path before = std::filesystem::current_path();
   ASSERT_TRUE(Choose(Type("walk.trc")));

@@ -24,6 +24,7 @@ class MessageBoxUser {
   std::string title;
   std::string text;
   bool has_icon = false;
+  int buttons = 0;
   HWND owner = nullptr;
 
  private:
@@ -50,6 +51,8 @@ class MessageBoxUser {
     text = TextOf(label);
     const HWND icon = GetDlgItem(box, kIcon);
     has_icon = icon != nullptr && IsWindowVisible(icon);
+    HWND button = nullptr;
+    while ((button = FindWindowExA(box, button, "BUTTON", nullptr)) != nullptr) ++buttons;
     owner = GetWindow(box, GW_OWNER);
     PostMessageA(box, WM_COMMAND, static_cast<WPARAM>(button_), 0);
   }
@@ -67,6 +70,7 @@ TEST(ShowMessageBox, ShowsTextAndTitleWithoutAnIcon) {
   EXPECT_EQ(user.title, "ImportHTR Error");
   EXPECT_EQ(user.text, "Please choose a non-zero size.");
   EXPECT_FALSE(user.has_icon);
+  EXPECT_EQ(user.buttons, 1);
 }
 
 TEST(ShowMessageBox, TellsTheAnswerToAQuestion) {
@@ -74,6 +78,7 @@ TEST(ShowMessageBox, TellsTheAnswerToAQuestion) {
        {std::pair{IDYES, platform::kMessageBoxYes}, std::pair{IDNO, platform::kMessageBoxNo}}) {
     MessageBoxUser user(button);
     EXPECT_EQ(platform::ShowMessageBox("Left?", "Pick", platform::MessageBoxStyle::kYesNo), answer);
+    EXPECT_EQ(user.buttons, 2);
   }
 }
 
