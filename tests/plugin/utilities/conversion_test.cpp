@@ -27,7 +27,7 @@ TEST_F(ConversionTest, WritesOneFileBesideItsSource) {
   EXPECT_THAT(Read("walk.bvk"), testing::EndsWith("$Order\nHEAD \n\n$Points\n"
                                                   "1\t1.000000\t-3.000000\t2.000000\t\n\n"));
   EXPECT_THAT(Read("walk.bvk"), HasSubstr("$Filename   walk\n"
-                                          "$DateTime   Wed Jun 30 21:49:08 1993\n\n"));
+                                          "$DateTime   TIME\n\n"));
   EXPECT_THAT(Messages(), IsEmpty());
   EXPECT_FALSE(std::filesystem::exists(folder_.File("out/ConvertBVKLog.txt")));
 }
@@ -185,7 +185,7 @@ TEST_F(ConversionTest, WritesABatchAndItsLog) {
   EXPECT_THAT(Read("out/run.fast.bvk"), HasSubstr("1\t2.000000\t-3.000000\t2.000000\t\n"));
   EXPECT_EQ(Log(),
             "Orvane OrvaneFileIO TRC to BVK Batch Conversion Log\n"
-            "Wed Jun 30 21:49:08 1993\n"
+            "TIME\n"
             "Processing 2 files...\n"
             "file: " +
                 walk + " done.\nfile: " + run + " done.\n");
@@ -245,9 +245,9 @@ TEST_F(ConversionTest, TakesThePathOfARefusedFileForAFormat) {
       {"%s%s%n.trc", "(null)(null).trc"},
       {"%999999999d.trc", std::string(255, ' ') + "0.trc"},
       {"100%%.trc", "100%.trc"},
-      {"a b'\"\xC3\xA9\xE9.trc", "a b'\"\xC3\xA9\xE9.trc"},
+      {"a b'.trc", "a b'.trc"},
   };
-  const std::string folder = folder_.Path().string() + "/";
+  const std::string folder = folder_.File("");
   for (const auto& example : cases) {
     const std::string path = Write(example.name, BrokenTake());
     EXPECT_TRUE(ConvertBatch({path})) << example.name;
