@@ -169,4 +169,10 @@ std::vector<std::string> LayoutFaults(HWND dialog) {
   return faults;
 }
 
+HWND OwnerOfActiveWindow() { return GetWindow(GetActiveWindow(), GW_OWNER); }
+
+void SendCommand(HWND dialog, int control) {
+  SendMessageA(dialog, WM_COMMAND, MAKEWPARAM(control, BN_CLICKED), 0);
+}
+
 }  // namespace test

@@ -5,8 +5,8 @@
 
 #include "platform/handles.h"
 
-// Where the controls of an open dialog lie and how the keyboard goes through them, asked of the
-// windows themselves.
+// Where the controls of an open dialog lie, how the keyboard goes through them and what it stands
+// over, asked of the windows themselves.
 namespace test {
 
 // The button that Enter presses; 0 when there is none.
@@ -27,5 +27,11 @@ bool HasFrame(HWND dialog, int control);
 // What is wrong with the look of the dialog, one sentence each: controls that stick out of it or
 // lie one over the other, and texts that are cut off.
 std::vector<std::string> LayoutFaults(HWND dialog);
+
+// The window that the active one of this thread stands over, or null.
+HWND OwnerOfActiveWindow();
+
+// Tells the dialog that `control` was used, whether it has it or not.
+void SendCommand(HWND dialog, int control);
 
 }  // namespace test
