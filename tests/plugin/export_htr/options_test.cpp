@@ -14,6 +14,7 @@ using platform::RegistryType;
 constexpr char kKey[] = "Software\\Orvane\\OrvaneFileIO\\Skelder\\ExportHTR";
 
 TEST(ExportHTROptionsTest, HasItsDefaults) {
+  test::Desk desk;
   const ExportHTROptions options;
   EXPECT_TRUE(options.savedPose);
   EXPECT_TRUE(options.animate);

@@ -12,6 +12,7 @@ using platform::RegistryType;
 constexpr char kKey[] = "Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportHTR";
 
 TEST(ImportHTROptionsTest, HasItsDefaults) {
+  test::Desk desk;
   const ImportHTROptions options;
   EXPECT_FALSE(options.apply);
   EXPECT_TRUE(options.animate);

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "host/application/application.h"
+#include "host/desktop/settings.h"
 #include "plugin/htr/document.h"
 #include "plugin/import_htr/options.h"
 #include "tests/support/bone_nodes.h"
@@ -35,6 +36,7 @@ class SkeletonTest : public testing::Test {
   host::Scene& scene() { return application_.scene(); }
   ::Interface& interface() { return application_.plugin_interface(); }
 
+  host::FreshSettings settings_;  // before the options, which open theirs
   host::Application application_;
   orvane::HtrDocument document_;
   orvane::ImportHTROptions options_;

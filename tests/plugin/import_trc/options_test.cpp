@@ -12,6 +12,7 @@ using platform::RegistryType;
 constexpr char kKey[] = "Software\\Orvane\\OrvaneFileIO\\Skelder\\ImportTRC";
 
 TEST(ImportTRCOptionsTest, HasItsDefaults) {
+  test::Desk desk;
   const ImportTRCOptions options;
   EXPECT_FALSE(options.apply);
   EXPECT_TRUE(options.geometry);

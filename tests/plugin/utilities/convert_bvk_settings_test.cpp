@@ -102,6 +102,8 @@ TEST_F(ConvertBVKSettingsTest, SavesThemAtItsEndAndLoadsThemAtItsStart) {
 }
 
 TEST_F(ConvertBVKSettingsTest, WorksWithoutARegistry) {
+  test::Desk desk;
+  desk.settings().RefuseKey("Software\\Orvane");
   ConvertBVK converter(messages_, strings_, nullptr);
   converter.SaveSettings();
   EXPECT_TRUE(converter.filter);
