@@ -1,5 +1,6 @@
 #include <windows.h>
 
+#include <cwchar>
 #include <map>
 #include <string>
 #include <utility>
@@ -14,12 +15,13 @@ namespace {
 
 using platform::WideFromUtf8;
 
+constexpr char kRootPrefix[] = "Skelder Fresh Settings ";  // the process and a number follow
+
 // Names no other process and no other settings of this one have. The key is no volatile one: none
 // but volatile keys could be made beneath it, and the plug-in makes others.
 std::string NewRootName() {
   static int count = 0;
-  return "Skelder Fresh Settings " + std::to_string(GetCurrentProcessId()) + "-" +
-         std::to_string(++count);
+  return kRootPrefix + std::to_string(GetCurrentProcessId()) + "-" + std::to_string(++count);
 }
 
 HKEY CreateKey(HKEY root, const std::string& path, DWORD options = REG_OPTION_NON_VOLATILE) {
@@ -30,12 +32,57 @@ HKEY CreateKey(HKEY root, const std::string& path, DWORD options = REG_OPTION_NO
   return key;
 }
 
-// Deletes an open key that links to another, which functions that follow links cannot.
-void DeleteLink(HKEY link) {
+// Deletes an open key, also one that links to another, which functions that follow links cannot.
+void DeleteOpenKey(HKEY key) {
   using Function = LONG(WINAPI*)(HANDLE key);
   const auto function = reinterpret_cast<Function>(
       reinterpret_cast<void*>(GetProcAddress(GetModuleHandleA("ntdll.dll"), "NtDeleteKey")));
-  function(link);
+  function(key);
+}
+
+// The names of the keys right beneath an open key.
+std::vector<std::wstring> NamesOfKeysIn(HKEY key) {
+  constexpr DWORD kLongestName = 256;
+  std::vector<std::wstring> names;
+  std::wstring name(kLongestName, L'\0');
+  for (DWORD length = kLongestName;
+       RegEnumKeyExW(key, static_cast<DWORD>(names.size()), name.data(), &length, nullptr, nullptr,
+                     nullptr, nullptr) == ERROR_SUCCESS;
+       length = kLongestName) {
+    names.push_back(name.substr(0, length));
+  }
+  return names;
+}
+
+// Deletes a key, if it exists, with all beneath it; of links themselves, not what they lead to.
+void DeleteTree(HKEY parent, const std::wstring& name) {
+  HKEY key = nullptr;
+  if (RegOpenKeyExW(parent, name.c_str(), REG_OPTION_OPEN_LINK, KEY_ALL_ACCESS, &key) !=
+      ERROR_SUCCESS) {
+    return;
+  }
+  for (const std::wstring& child : NamesOfKeysIn(key)) DeleteTree(key, child);
+  DeleteOpenKey(key);
+  RegCloseKey(key);
+}
+
+bool IsRunning(DWORD process_id) {
+  const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, process_id);
+  // Only of a process that there is can access be denied.
+  if (process == nullptr) return GetLastError() == ERROR_ACCESS_DENIED;
+  const bool running = WaitForSingleObject(process, 0) == WAIT_TIMEOUT;
+  CloseHandle(process);
+  return running;
+}
+
+// Deletes the roots that killed processes have left beneath that of the current user.
+void DeleteAbandonedRoots() {
+  const std::wstring prefix = WideFromUtf8(kRootPrefix);
+  for (const std::wstring& name : NamesOfKeysIn(HKEY_CURRENT_USER)) {
+    if (!name.starts_with(prefix)) continue;
+    const DWORD process_id = std::wcstoul(name.c_str() + prefix.size(), nullptr, 10);
+    if (!IsRunning(process_id)) DeleteTree(HKEY_CURRENT_USER, name);
+  }
 }
 
 // Stands in place of the current user's root.
@@ -52,19 +99,18 @@ class FreshSettings::Body {
  public:
   Body() {
     UseRoot(nullptr);
+    DeleteAbandonedRoots();
+    DeleteTree(HKEY_CURRENT_USER, WideFromUtf8(name_));  // of a process that had our number
     root_ = CreateKey(HKEY_CURRENT_USER, name_);
     UseRoot(root_);
   }
   Body(const Body&) = delete;
   Body& operator=(const Body&) = delete;
   ~Body() {
-    for (const auto& [path, link] : links_) {
-      DeleteLink(link);
-      RegCloseKey(link);
-    }
+    for (const auto& [path, link] : links_) RegCloseKey(link);
     UseRoot(nullptr);
     RegCloseKey(root_);
-    RegDeleteTreeW(HKEY_CURRENT_USER, WideFromUtf8(name_).c_str());
+    DeleteTree(HKEY_CURRENT_USER, WideFromUtf8(name_));
     UseRoot(previous_);
   }
 
