@@ -22,6 +22,8 @@ target_include_directories(orvane_compile_settings INTERFACE "${ORVANE_ROOT}")
 if(MSVC)
   target_compile_options(orvane_compile_settings INTERFACE
     /W4 /utf-8 /permissive- /fp:precise $<$<BOOL:${ORVANE_WARNINGS_AS_ERRORS}>:/WX>)
+  # The system's header would make macros of std::min and std::max.
+  target_compile_definitions(orvane_compile_settings INTERFACE NOMINMAX)
 else()
   target_compile_options(orvane_compile_settings INTERFACE
     -Wall -Wextra -Wconversion -Wshadow -ffp-contract=off

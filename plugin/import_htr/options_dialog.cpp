@@ -13,7 +13,7 @@ constexpr int kFirstCommand = IDC_EULER;
 constexpr int kLastCommand = IDC_ABOUT;
 
 void EnableCreation(platform::Dialog& dialog, bool enabled) {
-  EnableControls(dialog, {IDC_END_EFFECTORS, IDC_SPARE, IDC_SIZE}, enabled);
+  EnableControls(dialog, {IDC_END_EFFECTORS, IDC_SPARE, IDC_OBJECT_SIZE}, enabled);
 }
 
 }  // namespace

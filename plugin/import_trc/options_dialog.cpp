@@ -13,7 +13,7 @@ constexpr char kError[] = "ImportTRC Error";
 constexpr char kFrameOrderError[] = "ImportHTR Error";
 
 void EnableCreation(platform::Dialog& dialog, bool enabled) {
-  EnableControls(dialog, {IDC_ROOT_NODE, IDC_SPHERE, IDC_POINT, IDC_SIZE}, enabled);
+  EnableControls(dialog, {IDC_ROOT_NODE, IDC_SPHERE, IDC_POINT, IDC_OBJECT_SIZE}, enabled);
   EnableControls(dialog, {IDC_SELECTED_ONLY}, !enabled);
 }
 

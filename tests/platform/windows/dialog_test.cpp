@@ -9,8 +9,6 @@
 #include <vector>
 
 #include "platform/module.h"
-
-#undef IDC_SIZE  // one of the system's mouse pointers
 #include "plugin/resources/resource.h"
 
 namespace {
