@@ -4,6 +4,7 @@
 #include "cli/command_line.h"
 #include "cli/failure.h"
 #include "cli/messages.h"
+#include "platform/terminal.h"
 
 // The program `orvane`: a user of the host that answers the plug-in's dialogs from the command
 // line.
@@ -32,6 +33,7 @@ ExitStatus Run(int argument_count, const char* const* arguments) {
 }  // namespace cli
 
 int main(int argument_count, char** arguments) {
+  const platform::Utf8Console console;
   std::ios::sync_with_stdio(false);
   return static_cast<int>(cli::Run(argument_count, arguments));
 }

@@ -15,4 +15,12 @@ int ErrorColumns() {
   return screen.srWindow.Right - screen.srWindow.Left + 1;
 }
 
+Utf8Console::Utf8Console() : former_(GetConsoleOutputCP()) {
+  if (former_ != 0) SetConsoleOutputCP(CP_UTF8);
+}
+
+Utf8Console::~Utf8Console() {
+  if (former_ != 0) SetConsoleOutputCP(former_);
+}
+
 }  // namespace platform
