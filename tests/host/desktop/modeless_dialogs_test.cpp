@@ -140,7 +140,7 @@ TEST_F(ModelessDialogTest, AnActMayPutAnotherUserInItsPlace) {
 
 TEST_F(ModelessDialogTest, FailedMessageOfAnActIsNoticed) {
   const platform::ModelessDialog dialog = Open();
-  handler.on_command = [this](platform::Dialog&, int) {
+  handler.on_command = [](platform::Dialog&, int) {
     platform::ShowMessageBox("No.", "Error", platform::MessageBoxStyle::kOk);
   };
   Plan([this] {

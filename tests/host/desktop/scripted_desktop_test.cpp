@@ -144,7 +144,7 @@ TEST_F(ScriptedDesktopTest, ButtonThatTheMessageLacksIsAFailure) {
 
 TEST_F(ScriptedDesktopTest, MessageFromWithinADialogIsAnswered) {
   answer_message = [](const MessageBox&) { return platform::kMessageBoxOk; };
-  handler.on_command = [this](platform::Dialog&, int control) {
+  handler.on_command = [](platform::Dialog&, int control) {
     if (control == kCheck) platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog& dialog) {
@@ -156,7 +156,7 @@ TEST_F(ScriptedDesktopTest, MessageFromWithinADialogIsAnswered) {
 }
 
 TEST_F(ScriptedDesktopTest, FailedMessageFromWithinADialogEndsItsScript) {
-  handler.on_command = [this](platform::Dialog&, int) {
+  handler.on_command = [](platform::Dialog&, int) {
     platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog& dialog) {
@@ -168,7 +168,7 @@ TEST_F(ScriptedDesktopTest, FailedMessageFromWithinADialogEndsItsScript) {
 }
 
 TEST_F(ScriptedDesktopTest, FailedMessageWhileADialogOpensLeavesTheScriptOut) {
-  handler.on_initialize = [this](platform::Dialog&) {
+  handler.on_initialize = [](platform::Dialog&) {
     platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };
   EXPECT_EQ(Run([](ScriptedDialog&) { ADD_FAILURE() << "asked"; }), kDialogNotCreated);
