@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "cli/failure.h"
-#include "cli/working_folder.h"
 #include "platform/interrupt.h"
 
 namespace cli {
@@ -112,7 +111,6 @@ void ConverterPanel::SetCheckBox(int control, bool checked) {
 }
 
 void ConverterPanel::Click(int control) {
-  const WorkingFolder folder;
   Page().Click(control);
   session_.desktop().RethrowFailure();
 }

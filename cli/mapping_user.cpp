@@ -5,7 +5,6 @@
 #include <utility>
 
 #include "cli/failure.h"
-#include "cli/working_folder.h"
 #include "host/application/utility_panel.h"
 #include "platform/interrupt.h"
 
@@ -38,7 +37,6 @@ host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
 }  // namespace
 
 void MappingUser::Create(const std::string& path) {
-  const WorkingFolder folder;
   host::ScriptedUser user;
   user.answer_message = [this](const host::MessageBox& message) { return Answer(message); };
   user.choose_files = [&path](const host::ShownFileDialog&) { return host::FileChoice{{path}}; };
