@@ -11,8 +11,9 @@ namespace {
 constexpr char kCloudName[] = "TRCCloud";
 constexpr WireColor kMarkerColor = PackWireColor(204, 51, 51);
 
-constexpr double kSphereRadiusOfSize = 0.5;
-constexpr double kPointScaleOfSize = 0.25;
+constexpr float kSphereRadiusOfSize = 0.5F;
+constexpr float kPointScaleOfSize = 0.25F;
+constexpr float kRootExtentOfSize = 1.0F;
 
 // What is set of a sphere besides its radius: the parameter's number and its value.
 constexpr struct {
@@ -21,8 +22,10 @@ constexpr struct {
 } kSphereSettings[] = {{1, 10}, {2, 1}, {6, 1}};
 constexpr int kSphereFloatParameter = 3;
 
-float Size(const ImportTRCOptions& options, double factor) {
-  return static_cast<float>(static_cast<double>(options.size) * factor * options.scaleFactor);
+// Intended: in single precision, each product rounded, which ends in other bits than one rounding
+// of both would.
+float Size(const ImportTRCOptions& options, float factor) {
+  return options.size * factor * static_cast<float>(options.scaleFactor);
 }
 
 void SetSphere(Object& sphere, float radius, TimeValue time) {
@@ -68,7 +71,7 @@ INode* CreateMarkerNode(Interface& interface, const ImportTRCOptions& options,
 }
 
 INode* CreateCloudRoot(Interface& interface, const ImportTRCOptions& options) {
-  INode* node = CreateDummyNode(interface, Size(options, 1.0));
+  INode* node = CreateDummyNode(interface, Size(options, kRootExtentOfSize));
   if (node == nullptr) return nullptr;
   CStr name(kCloudName);
   interface.MakeNameUnique(name);
