@@ -14,6 +14,7 @@ SegmentKeyer::SegmentKeyer(Interface& interface, const ImportHTROptions& options
       node_(node),
       segment_(segment),
       axes_(segment.GetIsRoot()),
+      parent_scale_(interface, node),
       position_(PositionController(node)),
       rotation_(RotationController(node)) {}
 
@@ -48,19 +49,18 @@ bool SegmentKeyer::KeyBasePosition() {
   const std::optional<TimeValue> time =
       options_.animate ? times_.Tick(-1) : std::optional(interface_.GetTime());
   if (!time) return true;
-  return KeyTranslation(*time, segment_.GetBaseTranslation(), TranslationFactor()) &&
+  return KeyTranslation(*time, segment_.GetBaseTranslation()) &&
          KeyRotation(*time, RotationMatrix3(segment_.GetBaseRotation()));
 }
 
 // Intended: the file's frames are taken from its first one on, whatever frame the range starts at;
 // that says only when they are keyed.
 bool SegmentKeyer::KeyFrames() {
-  const double factor = TranslationFactor();
   EulerRotation previous;
   for (std::int64_t frame = times_.BeginFrame(); frame < times_.EndFrame(); ++frame) {
     const TimeValue time = *times_.Tick(frame);
     const auto index = static_cast<std::size_t>(frame);
-    if (!KeyTranslation(time, segment_.GetFramePosition(index), factor)) return false;
+    if (!KeyTranslation(time, segment_.GetFramePosition(index))) return false;
 
     EulerRotation current;
     current.Set(segment_.GetFrameOrientation(index));
@@ -71,20 +71,10 @@ bool SegmentKeyer::KeyFrames() {
   return true;
 }
 
-// What a translation of the file is multiplied by, so that the scale of the parent (as it is at the
-// current time, which the keys of this node do not change) is undone.
-double SegmentKeyer::TranslationFactor() {
-  INode* parent = node_.GetParentNode();
-  if (parent == nullptr) return options_.scaleFactor;
-  Point3 position;
-  Quat rotation;
-  Point3 scale;
-  DecomposeMatrix(parent->NodeTransform(interface_.GetTime()), position, rotation, scale);
-  return scale.x == 0.0F ? options_.scaleFactor
-                         : options_.scaleFactor / static_cast<double>(scale.x);
-}
-
-bool SegmentKeyer::KeyTranslation(TimeValue time, const Vector3& translation, double factor) {
+// Multiplies by the global scale, and undoes the scale of the parent.
+// Intended: as that is at the current time, whatever the time of the key.
+bool SegmentKeyer::KeyTranslation(TimeValue time, const Vector3& translation) {
+  const double factor = options_.scaleFactor / parent_scale_.Ask();
   const Vector3 scaled(translation.x() * factor, translation.y() * factor,
                        translation.z() * factor);
   return SetPosition(position_, time, axes_.HostPosition(scaled));

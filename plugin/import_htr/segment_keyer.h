@@ -3,6 +3,7 @@
 #include "plugin/exchange/key_times.h"
 #include "plugin/htr/segment.h"
 #include "plugin/import_htr/options.h"
+#include "plugin/import_htr/parent_scale.h"
 #include "plugin/skeleton/axis_conversion.h"
 #include "sdk/core/interface.h"
 
@@ -24,8 +25,7 @@ class SegmentKeyer {
   void InstallTcbController();
   bool KeyBasePosition();
   bool KeyFrames();
-  double TranslationFactor();
-  bool KeyTranslation(TimeValue time, const Vector3& translation, double factor);
+  bool KeyTranslation(TimeValue time, const Vector3& translation);
   bool KeyRotation(TimeValue time, const RotationMatrix3& rotation);
 
   Interface& interface_;
@@ -34,6 +34,7 @@ class SegmentKeyer {
   INode& node_;
   const HtrSegment& segment_;
   AxisConversion axes_;
+  ParentScale parent_scale_;
   Control* position_;
   Control* rotation_;
 };

@@ -206,6 +206,38 @@ TEST_F(SegmentKeyerTest, AParentsScaleOf0CountsAs1) {
   EXPECT_EQ(Position().KeyValue(0), Point3(10, 0, 0));
 }
 
+// Its time moves on by a frame whenever it is asked for.
+class PassingTime final : public test::ForwardingInterface {
+ public:
+  using ForwardingInterface::ForwardingInterface;
+  TimeValue GetTime() override { return 160 * asked_++; }
+  TimeValue Asked() const { return asked_; }
+
+ private:
+  TimeValue asked_ = 0;
+};
+
+TEST_F(SegmentKeyerTest, TheParentsScaleIsAskedForAtEveryKeyedTranslation) {
+  options_.keyBasePosition = true;
+  const struct {
+    TimeValue tick;
+    float x;
+  } scales[] = {{0, 1}, {160, 2}, {320, 2}, {480, 4}};
+  for (const auto& at : scales) {
+    parent_.Transform()->Scale().SetKey(at.tick, Point3(at.x, 1, 1));
+  }
+  HtrSegment& segment = Add("Bone");
+  segment.SetBaseTranslation(12, 0, 0);
+  for (int i = 0; i < 3; ++i) AddFrame(segment, Vector3());
+  PassingTime passing(interface());
+  ASSERT_TRUE(SegmentKeyer(passing, options_, times_, bone_, segment).Run());
+  EXPECT_EQ(passing.Asked(), 4);
+  EXPECT_EQ(Position().KeyValue(0), Point3(12, 0, 0));
+  EXPECT_EQ(Position().KeyValue(1), Point3(6, 0, 0));
+  EXPECT_EQ(Position().KeyValue(2), Point3(6, 0, 0));
+  EXPECT_EQ(Position().KeyValue(3), Point3(3, 0, 0));
+}
+
 TEST_F(SegmentKeyerTest, AngleJumpsAreFollowedTheShortWay) {
   HtrSegment& segment = AddBelowRoot("Bone");
   AddFrame(segment, Vector3(), Vector3(179, 0, 0));
