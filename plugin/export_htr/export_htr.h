@@ -37,6 +37,8 @@ class ExportHTR final : public SceneExport {
   int DoExport(const char* name, ExpInterface* export_interface, Interface* interface,
                int suppress_prompts, std::uint32_t options) override;
 
+  int SupportsOptions(int /*extension*/, std::uint32_t /*options*/) override { return 0; }
+
  private:
   enum class Outcome { kDone, kCancelled, kFailed };
 

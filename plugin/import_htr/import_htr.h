@@ -39,6 +39,8 @@ class ImportHTR final : public SceneImport {
   int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                int suppress_prompts) override;
 
+  int ZoomExtents() override { return -1; }
+
  private:
   enum class Outcome { kDone, kCancelled, kFailed };
 

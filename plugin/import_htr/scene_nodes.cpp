@@ -1,6 +1,7 @@
 #include "plugin/import_htr/scene_nodes.h"
 
 #include "plugin/exchange/object_nodes.h"
+#include "plugin/exchange/wire_color.h"
 #include "sdk/core/object.h"
 #include "sdk/gfx/color.h"
 #include "sdk/paramblk2/parameter_block.h"
@@ -15,7 +16,7 @@ unsigned ColorByte(float part) { return static_cast<unsigned>(static_cast<int>(p
 
 WireColor NewObjectColor() {
   const Color color = GetUIColor(kNewObjectColorIndex);
-  return PackWireColor(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
+  return WireColorOf(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
 }
 
 void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {

@@ -37,6 +37,8 @@ class ImportTRC final : public SceneImport {
   int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                int suppress_prompts) override;
 
+  int ZoomExtents() override { return -1; }
+
  private:
   void Import();
   bool Work();

@@ -1,6 +1,7 @@
 #include "plugin/import_trc/marker_nodes.h"
 
 #include "plugin/exchange/object_nodes.h"
+#include "plugin/exchange/wire_color.h"
 #include "sdk/core/cstr.h"
 #include "sdk/core/object.h"
 #include "sdk/paramblk2/parameter_block.h"
@@ -9,7 +10,7 @@ namespace orvane {
 namespace {
 
 constexpr char kCloudName[] = "TRCCloud";
-constexpr WireColor kMarkerColor = PackWireColor(204, 51, 51);
+constexpr WireColor kMarkerColor = WireColorOf(204, 51, 51);
 
 constexpr float kSphereRadiusOfSize = 0.5F;
 constexpr float kPointScaleOfSize = 0.25F;

@@ -27,6 +27,8 @@ class OrvaneClassDesc : public ClassDesc2 {
   const char* Category() override;
   const char* InternalName() override { return ClassName(); }
   HINSTANCE HInstance() override;
+  int OkToCreate() override { return 1; }
+  unsigned InitialRollupPageState() override { return 0x7FFFFFFF; }
 
  private:
   StringTable& strings_;

@@ -14,7 +14,6 @@
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/string_table.h"
 #include "plugin/utilities/pick_control_node.h"
-#include "sdk/core/library.h"
 
 namespace {
 
@@ -61,7 +60,8 @@ SKELDER_ENTRY ClassDesc2* LibClassDesc(int index) {
   return kClasses[static_cast<std::size_t>(index)];
 }
 
-// What host this module is made for.
-SKELDER_ENTRY std::uint32_t LibVersion() { return kSkelderVersion; }
+// The host that this module is made for: release 9000, interface 21, revision 0 of its SDK. Another
+// SDK does not change it.
+SKELDER_ENTRY std::uint32_t LibVersion() { return 0x23281500; }
 
 }  // extern "C"

@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "platform/file_dialog.h"
+#include "plugin/exchange/wire_color.h"
 #include "plugin/utilities/mapping_file_dialog.h"
 
 namespace orvane {
@@ -10,8 +11,8 @@ namespace {
 
 using Button = MarkerSelectionDialog::Button;
 
-constexpr WireColor kMarkerColor = PackWireColor(204, 51, 51);
-constexpr WireColor kPickedColor = PackWireColor(25, 25, 204);
+constexpr WireColor kMarkerColor = WireColorOf(204, 51, 51);
+constexpr WireColor kPickedColor = WireColorOf(25, 25, 204);
 
 constexpr char kStatus[] = "MNM File Creation Status";
 

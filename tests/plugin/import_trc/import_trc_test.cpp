@@ -137,7 +137,7 @@ TEST_F(ImportTRCTest, CreatesASphereForEachMarkerInTheOrderOfTheFile) {
   EXPECT_EQ(sphere.Parameter(2), 1);
   EXPECT_EQ(sphere.Parameter(3), 0.0);
   EXPECT_EQ(sphere.Parameter(6), 1);
-  EXPECT_EQ(Find("LFHD")->WireColor(), PackWireColor(204, 51, 51));
+  EXPECT_EQ(Find("LFHD")->WireColor(), 0x3333CCU);
   EXPECT_EQ(desk_.Messages(), "");
 }
 
@@ -150,7 +150,7 @@ TEST_F(ImportTRCTest, CreatesPointsThatAreScaled) {
   EXPECT_NE(dynamic_cast<const host::PointHelper*>(Find("LFHD")->ShownObject()), nullptr);
   EXPECT_EQ(Find("LFHD")->Transform()->Scale().ValueAt(0), Point3(1.5F, 1.5F, 1.5F));
   EXPECT_EQ(Find("LFHD")->Transform()->Scale().KeyCount(), 0u);
-  EXPECT_EQ(Find("LFHD")->WireColor(), PackWireColor(204, 51, 51));
+  EXPECT_EQ(Find("LFHD")->WireColor(), 0x3333CCU);
 }
 
 TEST_F(ImportTRCTest, GroupsTheMarkersUnderARootNode) {
