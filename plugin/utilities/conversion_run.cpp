@@ -1,6 +1,9 @@
 #include "plugin/utilities/conversion_run.h"
 
+#include <utility>
+
 #include "platform/local_time.h"
+#include "plugin/exchange/attempt.h"
 #include "plugin/resources/resource.h"
 #include "plugin/utilities/chosen_files.h"
 #include "sdk/skelderutil/filename.h"
@@ -47,9 +50,14 @@ bool ConversionRun::Run() {
   if (!converter_.mapping.Load(converter_.mnmPath)) return false;
   if (!ChooseSources()) return false;
   if (converter_.batch && !OpenLog()) return false;
-  converter_.interface->ProgressStart(kProgressTitle, true, &GoOn, nullptr);
-  converter_.interface->ProgressUpdate(0);
-  return ConvertFiles();
+  return OpenBar() && ConvertFiles();
+}
+
+void ConversionRun::End() noexcept {
+  Interface* const host = std::exchange(host_, nullptr);
+  if (host != nullptr && std::exchange(bar_is_open_, false)) {
+    Attempt([host] { host->ProgressEnd(); });
+  }
 }
 
 bool ConversionRun::ChooseSources() {
@@ -86,21 +94,32 @@ bool ConversionRun::OpenLog() {
   return true;
 }
 
+// Returns false when the run was ended meanwhile.
+bool ConversionRun::OpenBar() {
+  Enter(bar_is_open_, [this] { host_->ProgressStart(kProgressTitle, true, &GoOn, nullptr); });
+  return ShowPercent(0);
+}
+
 // Intended: a user who cancels finds the progress bar still open.
 bool ConversionRun::ConvertFiles() {
   for (std::size_t index = 0; index < sources_.size(); ++index) {
-    converter_.interface->ProcessPendingMessages();
-    if (converter_.interface->GetCancel()) return false;
+    if (!UserGoesOn()) return false;
     const Outcome outcome = ConvertFile(sources_[index]);
     if (outcome != Outcome::kDone) EndProgress();
     if (outcome == Outcome::kAbandoned) return false;
     // Intended: the progress bar ends a second time below.
     if (outcome == Outcome::kRefused) break;
     converter_.document.Reset();
-    converter_.interface->ProgressUpdate(PercentBefore(index, sources_.size()));
+    if (!ShowPercent(PercentBefore(index, sources_.size()))) return false;
   }
   EndProgress();
   return true;
+}
+
+// Whether the user neither cancels nor ends the run, which he may do here.
+bool ConversionRun::UserGoesOn() {
+  host_->ProcessPendingMessages();
+  return host_ != nullptr && !host_->GetCancel() && host_ != nullptr;
 }
 
 // Intended: in a batch, what was read of a file that the reader refused is written all the same.
@@ -160,20 +179,30 @@ std::string ConversionRun::InOutputFolder(const std::string& name) const {
   return converter_.outputPath + platform::PathSeparator() + name;
 }
 
-// Shows `dialog`, to which what all dialogs of a conversion have in common is added.
+// Shows `dialog`, to which what all dialogs of a conversion have in common is added. A choice that
+// the end of the run has overtaken is none.
 bool ConversionRun::ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name,
                                    std::string& buffer, std::size_t& name_offset) {
   const char* const text = strings_.GetString(module_, filter_name);
   const std::string filter = text == nullptr ? "" : text;
-  dialog.owner = converter_.interface->GetSkelderHWnd();
+  dialog.owner = host_->GetSkelderHWnd();
+  if (host_ == nullptr) return false;
   dialog.filter_name = filter.c_str();
   dialog.hide_read_only_box = true;
-  return platform::ChooseFiles(dialog, buffer.data(), buffer.size(), name_offset);
+  return platform::ChooseFiles(dialog, buffer.data(), buffer.size(), name_offset) &&
+         host_ != nullptr;
+}
+
+// Returns false when the run was ended before or meanwhile.
+bool ConversionRun::ShowPercent(int percent) {
+  if (host_ != nullptr) host_->ProgressUpdate(percent);
+  return host_ != nullptr;
 }
 
 void ConversionRun::EndProgress() {
-  converter_.interface->ProgressUpdate(100);
-  converter_.interface->ProgressEnd();
+  if (!ShowPercent(100)) return;
+  bar_is_open_ = false;
+  host_->ProgressEnd();
 }
 
 }  // namespace orvane

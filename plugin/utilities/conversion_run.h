@@ -20,10 +20,17 @@ class ConversionRun {
   // All of it outlives the run.
   ConversionRun(ConvertBVK& converter, MessageSink& messages, StringTable& strings,
                 HINSTANCE module)
-      : converter_(converter), messages_(messages), strings_(strings), module_(module) {}
+      : converter_(converter),
+        messages_(messages),
+        strings_(strings),
+        module_(module),
+        host_(converter.interface) {}
 
-  // As ConvertBVK::Convert.
+  // As ConvertBVK::Convert, with its host.
   bool Run();
+
+  // As ConvertBVK::End, which forgets the host then.
+  void End() noexcept;
 
  private:
   // Of one file. After a refusal no other file follows, but the run is not abandoned.
@@ -31,7 +38,9 @@ class ConversionRun {
 
   bool ChooseSources();
   bool OpenLog();
+  bool OpenBar();
   bool ConvertFiles();
+  bool UserGoesOn();
   Outcome ConvertFile(const std::string& source);
   bool ReadSource(const std::string& source);
   void ApplyMapping();
@@ -40,12 +49,18 @@ class ConversionRun {
   std::string InOutputFolder(const std::string& name) const;
   bool ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name, std::string& buffer,
                       std::size_t& name_offset);
+  bool ShowPercent(int percent);
   void EndProgress();
 
   ConvertBVK& converter_;
   MessageSink& messages_;
   StringTable& strings_;
   HINSTANCE module_;
+
+  // Null once the run has been ended, which may happen in the middle of any call of the host and
+  // while a dialog is shown.
+  Interface* host_;
+  bool bar_is_open_ = false;
 
   std::vector<std::string> sources_;
   std::optional<BatchLog> log_;  // of a batch

@@ -22,12 +22,23 @@ ConvertBVK::ConvertBVK(MessageSink& messages, StringTable& strings, HINSTANCE mo
 ConvertBVK::~ConvertBVK() { SaveSettings(); }
 
 bool ConvertBVK::Convert(Interface* host) {
+  interface = host;
+  ConversionRun run(*this, messages_, strings_, module_);
+  run_ = &run;
+  bool done = false;
   try {
-    interface = host;
-    return ConversionRun(*this, messages_, strings_, module_).Run();
+    done = run.Run();
   } catch (const std::exception&) {
-    return false;  // no memory
+    done = false;  // no memory
   }
+  run_ = nullptr;
+  interface = nullptr;
+  return done;
+}
+
+void ConvertBVK::End() noexcept {
+  if (run_ != nullptr) run_->End();
+  interface = nullptr;
 }
 
 bool ConvertBVK::WriteMarkerFile(const std::string& path) {

@@ -8,13 +8,16 @@
 #include "plugin/shell/settings_store.h"
 #include "plugin/shell/string_table.h"
 #include "plugin/trc/document.h"
+#include "plugin/utilities/panel_command.h"
 #include "sdk/core/interface.h"
 
 // Turns marker files (TRC) into the marker files of the host's character animation (BVK). The
 // utility panel owns one of these, shows and changes its settings, and starts it.
 namespace orvane {
 
-class ConvertBVK {
+class ConversionRun;
+
+class ConvertBVK final : public PanelCommand {
  public:
   // Opens the key Software\Orvane\OrvaneFileIO\Skelder\ConvertBVK and takes over the settings that
   // are stored there. When it cannot be opened the settings live in memory only. `messages` and
@@ -28,9 +31,12 @@ class ConvertBVK {
   // Lets the user choose a file, or several when `batch` is set, and converts them by the settings.
   // Returns true when all chosen files were handled, even those that the reader refused, and false
   // when that was abandoned: the mapping file cannot be opened, the user cancelled, the log or an
-  // output cannot be created. Only refusals and the log are reported, the former in the log of a
-  // batch. docs/formats/bvk.md tells the details.
+  // output cannot be created, or End was called. Only refusals and the log are reported, the former
+  // in the log of a batch. docs/formats/bvk.md tells the details.
   bool Convert(Interface* host);
+
+  // Closes the progress bar. The file that is being converted is not written.
+  void End() noexcept override;
 
   // Writes `document` as a marker file to `path`, with an offset if the settings say so. An
   // existing file is emptied first. Returns false when it cannot be created.
@@ -61,7 +67,7 @@ class ConvertBVK {
   // The marker file that is being converted.
   TRCDocument document;
 
-  // The host, from the first conversion on.
+  // The host, while a conversion is at work.
   Interface* interface = nullptr;
 
  private:
@@ -71,6 +77,7 @@ class ConvertBVK {
   StringTable& strings_;
   HINSTANCE module_;
   SettingsStore store_;
+  ConversionRun* run_ = nullptr;  // the one that is at work
 };
 
 }  // namespace orvane

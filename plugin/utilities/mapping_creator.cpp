@@ -3,6 +3,7 @@
 #include <exception>
 
 #include "platform/file_dialog.h"
+#include "plugin/exchange/attempt.h"
 #include "plugin/exchange/wire_color.h"
 #include "plugin/utilities/mapping_file_dialog.h"
 
@@ -37,17 +38,19 @@ bool MappingCreator::CreateMNM(Interface* interface) {
   }
 }
 
-void MappingCreator::End() {
-  if (ended_) return;
+// What is left of it is done by whoever comes second, in the middle of a call of the first.
+void MappingCreator::End() noexcept {
+  if (interface_ == nullptr) return;
   ended_ = true;
   if (pending_) pending_->End();
   RestoreAll();
+  interface_ = nullptr;
   dialog_.Close();
 }
 
 bool MappingCreator::Create() {
   const WristSticks sticks = AskForSticks();
-  if (ended_ || !dialog_.Open(services_.module, interface_->GetSkelderHWnd())) return false;
+  if (ended_ || !OpenDialog()) return false;
   if (!PickMarkers(sticks)) {
     End();
     return false;
@@ -56,12 +59,20 @@ bool MappingCreator::Create() {
   return Save();
 }
 
+// While a question or dialog is shown, and in the middle of any call of the host, the creation may
+// be ended.
 WristSticks MappingCreator::AskForSticks() {
   constexpr char kTitle[] = "Pick optional markers?";
   WristSticks sticks;
   sticks.left = services_.messages.Ask("Are you using a left wrist stick?", kTitle);
+  if (ended_) return sticks;
   sticks.right = services_.messages.Ask("Are you using a right wrist stick?", kTitle);
   return sticks;
+}
+
+bool MappingCreator::OpenDialog() {
+  const HWND parent = interface_->GetSkelderHWnd();
+  return !ended_ && dialog_.Open(services_.module, parent) && !ended_;
 }
 
 // Returns false when the creation is to be aborted.
@@ -94,18 +105,21 @@ std::optional<MappingCreator::StepAnswer> MappingCreator::PickStep(const MarkerS
 bool MappingCreator::PickMarker(const StandardMarker& marker) {
   if (!WaitForPick()) return false;
   if (INode* const node = services_.pick.PickedNode()) AddPicked(marker, *node);
+  if (ended_) return false;
   if (dialog_.Pressed() == Button::kBack) GoBack();
-  return true;
+  return !ended_;
 }
 
 // Lets the user pick. Returns false when he aborts, and when there is nobody who could pick.
 bool MappingCreator::WaitForPick() {
   pending_.emplace(*interface_, services_.pick);
+  pending_->Begin();
   const bool could_pick = services_.pick.IsActive();
   while (!ended_ && pending_->IsWaiting() && dialog_.Pressed() == Button::kNone) {
     interface_->ProcessPendingMessages();
   }
   const bool host_exits = pending_->HostIsExiting();
+  pending_->End();
   pending_.reset();
   return could_pick && !ended_ && !host_exits && dialog_.Pressed() != Button::kAbort;
 }
@@ -134,28 +148,34 @@ bool MappingCreator::Save() {
   services_.messages.Report("MNM File Creation Successful", kStatus);
   if (ended_) return false;
   RestoreAll();
-  return true;
+  return !ended_;
 }
 
 std::optional<std::string> MappingCreator::ChooseFile() {
   platform::FileDialog dialog;
   dialog.kind = platform::FileDialog::Kind::kSave;
   dialog.owner = interface_->GetSkelderHWnd();
+  if (ended_) return std::nullopt;
   dialog.ask_before_replacing = true;
   return ChooseMappingFile(dialog, services_.strings, services_.module);
 }
 
 // Removes the last entry; its node, if it is still in the scene, gets its own colour.
 void MappingCreator::RestoreLast() {
-  INode* const node = interface_->GetINodeByHandle(converter_.mapping.RemoveLast());
-  if (node != nullptr) node->SetWireColor(kMarkerColor);
+  const NodeHandle handle = converter_.mapping.RemoveLast();
+  INode* const node = interface_->GetINodeByHandle(handle);
+  if (node != nullptr && interface_ != nullptr) node->SetWireColor(kMarkerColor);
 }
 
-void MappingCreator::RestoreAll() {
-  while (converter_.mapping.Count() > 0) RestoreLast();
-  Redraw();
+void MappingCreator::RestoreAll() noexcept {
+  while (converter_.mapping.Count() > 0) Attempt([this] { RestoreLast(); });
+  Attempt([this] { Redraw(); });
 }
 
-void MappingCreator::Redraw() { interface_->RedrawViews(interface_->GetTime()); }
+void MappingCreator::Redraw() {
+  if (interface_ == nullptr) return;
+  const TimeValue now = interface_->GetTime();
+  if (interface_ != nullptr) interface_->RedrawViews(now);
+}
 
 }  // namespace orvane

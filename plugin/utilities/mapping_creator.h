@@ -11,6 +11,7 @@
 #include "plugin/shell/string_table.h"
 #include "plugin/utilities/convert_bvk.h"
 #include "plugin/utilities/marker_selection_dialog.h"
+#include "plugin/utilities/panel_command.h"
 #include "plugin/utilities/pending_pick.h"
 #include "plugin/utilities/pick_control_node.h"
 #include "sdk/core/interface.h"
@@ -27,7 +28,7 @@ struct MappingCreatorServices {
   HINSTANCE module;  // owner of the dialog and the texts
 };
 
-class MappingCreator {
+class MappingCreator final : public PanelCommand {
  public:
   // The entries go to the mapping of `converter`, behind those that are there.
   MappingCreator(ConvertBVK& converter, const MappingCreatorServices& services)
@@ -43,10 +44,8 @@ class MappingCreator {
   // mapping and the colours then stay as they are.
   bool CreateMNM(Interface* interface);
 
-  // Ends the creation in the middle of a wait for the user: leaves the pick mode, restores the
-  // colours, empties the mapping and closes the dialog. After it the creation touches the host no
-  // more.
-  void End();
+  // Leaves the pick mode, restores the colours, empties the mapping and closes the dialog.
+  void End() noexcept override;
 
  private:
   // How the picks of one step ended.
@@ -57,6 +56,7 @@ class MappingCreator {
 
   bool Create();
   WristSticks AskForSticks();
+  bool OpenDialog();
   bool PickMarkers(const WristSticks& sticks);
   std::optional<StepAnswer> PickStep(const MarkerStep& step, bool may_go_back);
   bool PickMarker(const StandardMarker& marker);
@@ -66,12 +66,12 @@ class MappingCreator {
   bool Save();
   std::optional<std::string> ChooseFile();
   void RestoreLast();
-  void RestoreAll();
+  void RestoreAll() noexcept;
   void Redraw();
 
   ConvertBVK& converter_;
   MappingCreatorServices services_;
-  Interface* interface_ = nullptr;
+  Interface* interface_ = nullptr;  // null once the creation has let go of it
   MarkerSelectionDialog dialog_;
   std::optional<PendingPick> pending_;
   bool ended_ = false;

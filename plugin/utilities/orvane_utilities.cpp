@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <optional>
 #include <string>
+#include <utility>
 
 #include "platform/file_dialog.h"
 #include "plugin/exchange/dialog_controls.h"
@@ -66,32 +67,42 @@ std::optional<std::string> ChooseOutputFolder(HWND owner) {
 
 }  // namespace
 
-// What a command works on. The command shares it with the panel, because the host may close or
-// delete the panel while the command waits for the user.
+// What commands work with. A command shares it with the panel, because the host may close or delete
+// the panel in the middle of any call that the command makes, and while a dialog is shown.
 struct OrvaneUtilities::Work {
-  Work(MessageSink& messages, StringTable& strings, HINSTANCE module)
-      : converter(messages, strings, module) {}
+  Work(MessageSink& its_messages, StringTable& its_strings, HINSTANCE its_module)
+      : messages(its_messages),
+        strings(its_strings),
+        module(its_module),
+        converter(messages, strings, module) {}
 
+  MessageSink& messages;
+  StringTable& strings;
+  HINSTANCE module;
   ConvertBVK converter;
-  MappingCreator* creator = nullptr;  // the one that is at work
-  bool busy = false;                  // a conversion or a creator is at work
-  bool shown = false;                 // the panel is open
+  PanelCommand* command = nullptr;  // the one that is at work
+  unsigned closings = 0;            // how often the panel was closed
 };
 
-// Marks the time of a command, during which no other one is taken up.
+// Tells a command whether the panel that it was started from is still there.
+class OrvaneUtilities::OpenPanel {
+ public:
+  explicit OpenPanel(const Work& work) : work_(work), closings_(work.closings) {}
+
+  bool IsOpen() const { return work_.closings == closings_; }
+
+ private:
+  const Work& work_;
+  unsigned closings_;
+};
+
+// Marks the work as begun, as long as it lives.
 class OrvaneUtilities::WorkInProgress {
  public:
-  // `creator` is the one that is at work, or null. Both outlive this object.
-  WorkInProgress(Work& work, MappingCreator* creator) : work_(work) {
-    work_.busy = true;
-    work_.creator = creator;
-  }
+  WorkInProgress(Work& work, PanelCommand& command) : work_(work) { work_.command = &command; }
   WorkInProgress(const WorkInProgress&) = delete;
   WorkInProgress& operator=(const WorkInProgress&) = delete;
-  ~WorkInProgress() {
-    work_.busy = false;
-    work_.creator = nullptr;
-  }
+  ~WorkInProgress() { work_.command = nullptr; }
 
  private:
   Work& work_;
@@ -99,36 +110,34 @@ class OrvaneUtilities::WorkInProgress {
 
 OrvaneUtilities::OrvaneUtilities(MessageSink& messages, StringTable& strings, PickControlNode& pick,
                                  HINSTANCE module)
-    : messages_(messages),
-      strings_(strings),
-      pick_(pick),
-      module_(module),
-      work_(std::make_shared<Work>(messages, strings, module)) {}
+    : pick_(pick), work_(std::make_shared<Work>(messages, strings, module)) {}
 
 OrvaneUtilities::~OrvaneUtilities() { Close(); }
 
 void OrvaneUtilities::BeginEditParams(Interface* interface, IUtil* utility) {
   interface_ = interface;
   utility_ = utility;
-  work_->shown = true;
   if (page_ != nullptr) return;
-  page_ = interface->AddRollupPage(module_, IDD_UTILITIES, platform::HandlerProcedure(),
-                                   strings_.GetString(module_, IDS_CONVERT_TRC_TO_BVK),
+  page_ = interface->AddRollupPage(work_->module, IDD_UTILITIES, platform::HandlerProcedure(),
+                                   work_->strings.GetString(work_->module, IDS_CONVERT_TRC_TO_BVK),
                                    platform::HandlerParameter(*this), 0, kRollupCategory);
 }
 
 void OrvaneUtilities::EndEditParams(Interface* /*interface*/, IUtil* /*utility*/) { Close(); }
 
+// The pointers are forgotten first: the host may close the panel, or delete it, once more in the
+// middle of any of these calls.
 void OrvaneUtilities::Close() {
-  if (interface_ == nullptr) return;
-  interface_->ClearPickMode();
-  if (work_->creator != nullptr) work_->creator->End();
-  work_->converter.SaveSettings();
-  work_->shown = false;
-  if (page_ != nullptr) interface_->DeleteRollupPage(page_);
-  page_ = nullptr;
-  interface_ = nullptr;
+  Interface* const interface = std::exchange(interface_, nullptr);
+  if (interface == nullptr) return;
   utility_ = nullptr;
+  const HWND page = std::exchange(page_, nullptr);
+  const std::shared_ptr<Work> work = work_;
+  ++work->closings;
+  interface->ClearPickMode();
+  if (work->command != nullptr) work->command->End();
+  work->converter.SaveSettings();
+  if (page != nullptr) interface->DeleteRollupPage(page);
 }
 
 void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
@@ -147,6 +156,7 @@ void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
 }
 
 void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
+  if (interface_ == nullptr) return;  // the page is being deleted
   try {
     Answer(dialog, control);
   } catch (...) {
@@ -211,11 +221,14 @@ void OrvaneUtilities::Answer(platform::Dialog& dialog, int control) {
 // While the user chooses, the panel may be closed and this object deleted. Then nothing was chosen.
 void OrvaneUtilities::BrowseMapping(platform::Dialog& dialog) {
   const std::shared_ptr<Work> work = work_;
+  const OpenPanel panel(*work);
   platform::FileDialog file_dialog;
   file_dialog.owner = interface_->GetSkelderHWnd();
   file_dialog.file_must_exist = true;
-  const std::optional<std::string> path = ChooseMappingFile(file_dialog, strings_, module_);
-  if (!path || !work->shown) return;
+  if (!panel.IsOpen()) return;
+  const std::optional<std::string> path =
+      ChooseMappingFile(file_dialog, work->strings, work->module);
+  if (!path || !panel.IsOpen()) return;
   work->converter.mnmPath = *path;
   dialog.SetText(IDC_MAPPING_FILE, Shown(*path));
 }
@@ -223,8 +236,11 @@ void OrvaneUtilities::BrowseMapping(platform::Dialog& dialog) {
 // As BrowseMapping.
 void OrvaneUtilities::BrowseOutput(platform::Dialog& dialog) {
   const std::shared_ptr<Work> work = work_;
-  const std::optional<std::string> folder = ChooseOutputFolder(interface_->GetSkelderHWnd());
-  if (!folder || !work->shown) return;
+  const OpenPanel panel(*work);
+  const HWND owner = interface_->GetSkelderHWnd();
+  if (!panel.IsOpen()) return;
+  const std::optional<std::string> folder = ChooseOutputFolder(owner);
+  if (!folder || !panel.IsOpen()) return;
   work->converter.outputPath = *folder;
   dialog.SetText(IDC_OUTPUT_FOLDER, Shown(*folder));
 }
@@ -233,24 +249,25 @@ void OrvaneUtilities::BrowseOutput(platform::Dialog& dialog) {
 // created, and nothing of this object or of the page is touched.
 void OrvaneUtilities::CreateMapping(platform::Dialog& dialog) {
   const std::shared_ptr<Work> work = work_;
-  if (work->busy) return;
-  MappingCreator creator(work->converter, {messages_, strings_, pick_, module_});
-  const WorkInProgress in_progress(*work, &creator);
+  if (work->command != nullptr) return;
+  MappingCreator creator(work->converter, {work->messages, work->strings, pick_, work->module});
+  const WorkInProgress in_progress(*work, creator);
   if (creator.CreateMNM(interface_)) {
     dialog.SetText(IDC_MAPPING_FILE, Shown(work->converter.mnmPath));
   }
 }
 
+// As CreateMapping.
 void OrvaneUtilities::Convert(platform::Dialog& dialog) {
   const std::shared_ptr<Work> work = work_;
-  if (work->busy) return;
+  if (work->command != nullptr) return;
   ConvertBVK& converter = work->converter;
   if (converter.offset) {
     HeldEdit(dialog, IDC_OFFSET_X).Read(converter.offsetX);
     HeldEdit(dialog, IDC_OFFSET_Y).Read(converter.offsetY);
     HeldEdit(dialog, IDC_OFFSET_Z).Read(converter.offsetZ);
   }
-  const WorkInProgress in_progress(*work, nullptr);
+  const WorkInProgress in_progress(*work, converter);
   converter.Convert(interface_);
 }
 

@@ -29,11 +29,12 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   // Shows the panel, unless it is shown already.
   void BeginEditParams(Interface* interface, IUtil* utility) override;
 
-  // Ends a pick that waits for the user, saves the settings and closes the panel.
+  // Ends the command that is at work, saves the settings and closes the panel.
   void EndEditParams(Interface* interface, IUtil* utility) override;
 
  private:
   struct Work;
+  class OpenPanel;
   class WorkInProgress;
 
   void Initialize(platform::Dialog& dialog) override;
@@ -48,10 +49,7 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   void Convert(platform::Dialog& dialog);
   void Close();
 
-  MessageSink& messages_;
-  StringTable& strings_;
   PickControlNode& pick_;
-  HINSTANCE module_;
   std::shared_ptr<Work> work_;
 
   // While the panel is open.

@@ -11,23 +11,29 @@ namespace orvane {
 class PendingPick {
  public:
   // Both outlive this object; `interface` need not once the pick has ended.
-  PendingPick(Interface& interface, PickControlNode& pick);
+  PendingPick(Interface& interface, PickControlNode& pick) : interface_(interface), pick_(pick) {}
   PendingPick(const PendingPick&) = delete;
   PendingPick& operator=(const PendingPick&) = delete;
   ~PendingPick() { End(); }
+
+  // Begins to wait. What the host throws ends it.
+  void Begin();
 
   // Whether the user may still pick something.
   bool IsWaiting() const { return pick_.IsActive() && !exit_.HostIsExiting(); }
 
   bool HostIsExiting() const { return exit_.HostIsExiting(); }
 
-  // Leaves the pick mode and lets go of the host; the second time nothing happens.
-  void End();
+  // Leaves the pick mode and lets go of the host, even in the middle of Begin; the second time
+  // nothing happens.
+  void End() noexcept;
 
  private:
-  Interface* interface_;
+  Interface& interface_;
   PickControlNode& pick_;
   ExitSkelderCallback exit_;
+  bool is_registered_ = false;
+  bool is_entered_ = false;
 };
 
 }  // namespace orvane

@@ -21,7 +21,10 @@ class Desk {
     host::ScriptedUser user;
     user.answer_dialog = [this](host::ScriptedDialog& dialog) { AnswerNext(dialog); };
     user.answer_message = [this](const host::MessageBox& message) {
-      if (message.style != platform::MessageBoxStyle::kOk) return next_choice_;
+      if (message.style != platform::MessageBoxStyle::kOk) {
+        if (when_asked_) when_asked_();
+        return next_choice_;
+      }
       if (when_told_) when_told_();
       return platform::kMessageBoxOk;
     };
@@ -51,6 +54,9 @@ class Desk {
 
   // What happens while a message that asks nothing is shown.
   void WhenTold(std::function<void()> happen) { when_told_ = std::move(happen); }
+
+  // What happens while a question is shown.
+  void WhenAsked(std::function<void()> happen) { when_asked_ = std::move(happen); }
 
   // What the user does in the dialogs for files and folders from now on.
   void ChooseFiles(std::function<host::FileChoice(const host::ShownFileDialog&)> choose) {
@@ -85,6 +91,7 @@ class Desk {
   std::deque<DialogAnswer> answers_;
   platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
   std::function<void()> when_told_;
+  std::function<void()> when_asked_;
   std::function<host::FileChoice(const host::ShownFileDialog&)> choose_files_;
   std::function<std::string(const std::string&)> choose_folder_;
   std::function<bool()> act_;
