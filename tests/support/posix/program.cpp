@@ -58,7 +58,16 @@ bool GiveUpPrivileges() {
   return given_up || setuid(kNobody) == 0;
 }
 
+// A shell in the background, among others, lets its jobs ignore signals, and they what they start.
+void TakeAllSignals() {
+  for (int number = 1; number < NSIG; ++number) std::signal(number, SIG_DFL);
+  sigset_t none;
+  sigemptyset(&none);
+  sigprocmask(SIG_SETMASK, &none, nullptr);
+}
+
 [[noreturn]] void Become(const PosixRun& run, const Stream& output, const Stream& error) {
+  TakeAllSignals();
   if (!run.folder.empty() && chdir(run.folder.c_str()) != 0) _exit(126);
   for (const std::string& variable : run.environment) putenv(const_cast<char*>(variable.c_str()));
   if (run.largest_file) {
