@@ -25,6 +25,6 @@ preset_folder() {
 try_packages() {
   local IFS=:
   ORVANE_SOURCE_DIR=$PWD ORVANE_PACKAGES="$*" ORVANE_WINDOWS_PROGRAMS=$PWD/build-windows/bin \
-    ORVANE_WINE=$(wine_tool wine64) PYTHONDONTWRITEBYTECODE=1 \
+    ORVANE_WINE=$(wine_tool wine64) PYTHONPATH=$PWD/tests/run_paths PYTHONDONTWRITEBYTECODE=1 \
     python3 -m unittest discover --quiet --start-directory tests/packages --pattern '*_test.py'
 }

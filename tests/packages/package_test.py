@@ -13,6 +13,8 @@ import tempfile
 import unittest
 import zipfile
 
+import run_paths
+
 FOLDERS = [pathlib.Path(folder) for folder in os.environ["ORVANE_PACKAGES"].split(":")]
 SOURCES = pathlib.Path(os.environ["ORVANE_SOURCE_DIR"])
 
@@ -41,6 +43,12 @@ class PackageTest(unittest.TestCase):
         return sorted(str(path.relative_to(self.folder)) for path in self.folder.rglob("*")
                       if not path.is_dir())
 
+    def check_no_foreign_folder(self, root):
+        """Nothing tells where the package was built."""
+        for path in root.rglob("*"):
+            if path.is_file():
+                self.assertNotIn(os.fsencode(SOURCES), path.read_bytes(), path)
+
     def check_round_trip(self, orvane, examples):
         """Files come in, go out and are converted, by what lies in the package alone."""
         imported = self.run_in_folder(*orvane, "import", f"{examples}/walk.htr", "-o", "walk.glb")
@@ -63,6 +71,9 @@ class LinuxTest(PackageTest):
         for name in ("copyright", "linux.md", "CHANGELOG.md", "docs/command-line.md",
                      "docs/formats/htr.md"):
             self.assertTrue((documents / name).is_file(), name)
+        self.check_no_foreign_folder(root)
+        self.assertEqual({path.name: run_paths.entries(path) for path in run_paths.binaries(root)},
+                         {"orvane": ["$ORIGIN"], "OrvaneFileIO.so": ["$ORIGIN"], "libskelder.so": []})
 
     @staticmethod
     def version():
