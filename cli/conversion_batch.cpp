@@ -94,9 +94,7 @@ class BatchConversion {
 
   // The panel needs a mapping file even when it is not to use one.
   std::string MappingFile() const {
-    if (!order_.mapping.empty()) {
-      return platform::TextOf(fs::absolute(platform::PathOf(order_.mapping)));
-    }
+    if (!order_.mapping.empty()) return PathForPanel(order_.mapping);
     const std::string path = scratch_.Path() + kEmptyMapping;
     orvane::CreateFileForBytes(path);
     return path;

@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "platform/file_place.h"
 #include "platform/input_file.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
@@ -26,13 +27,6 @@ constexpr std::size_t kMostBytes = 250'000;
 // starting the plug-in is most of its time.
 constexpr std::uintmax_t kBatchesPerJob = 4;
 constexpr std::uintmax_t kLeastWork = std::uintmax_t{4} << 20U;
-
-// Where `path` really is, whatever of it exists.
-std::string Resolved(const fs::path& path) {
-  std::error_code error;
-  const fs::path resolved = fs::weakly_canonical(path, error);
-  return platform::TextOf(error ? fs::absolute(path).lexically_normal() : resolved);
-}
 
 // The name of the file as the plug-in sees it, which takes both kinds of slash, with ".bvk" for its
 // extension.
@@ -87,8 +81,7 @@ void CheckOutput(Conversion& conversion, bool replace) {
 Conversion Plan(const std::string& name, const OutputWishes& wishes) {
   Conversion conversion;
   conversion.input = orvane::WithExtension(name, ".TRC");
-  conversion.source =
-      platform::TextOf(fs::absolute(platform::PathOf(conversion.input)).lexically_normal());
+  conversion.source = PathForPanel(conversion.input);
   conversion.output = OutputFor(conversion.input, wishes);
   CheckInput(conversion, name);
   CheckOutput(conversion, wishes.replace);
@@ -100,11 +93,11 @@ void RequireOutputsApart(const std::vector<Conversion>& conversions) {
   std::vector<Complaint> complaints;
   std::unordered_map<std::string, const Conversion*> inputs;
   for (const Conversion& conversion : conversions) {
-    inputs.emplace(Resolved(platform::PathOf(conversion.input)), &conversion);
+    inputs.emplace(platform::PlaceOf(conversion.input), &conversion);
   }
   std::unordered_map<std::string, const Conversion*> outputs;
   for (const Conversion& conversion : conversions) {
-    const std::string output = Resolved(platform::PathOf(conversion.output));
+    const std::string output = platform::PlaceOf(conversion.output);
     const auto [other, is_new] = outputs.emplace(output, &conversion);
     if (!is_new) {
       complaints.push_back({conversion.output,
@@ -184,6 +177,13 @@ std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::
     maker.Finish(batches);
   }
   return batches;
+}
+
+std::string PathForPanel(const std::string& name) {
+  const fs::path path = fs::absolute(platform::PathOf(name));
+  std::error_code error;
+  const fs::path folder = fs::canonical(path.parent_path(), error);
+  return platform::TextOf(error ? path : folder / path.filename());
 }
 
 std::string FolderOf(const std::string& path) {

@@ -30,6 +30,11 @@ using Batch = std::vector<std::size_t>;
 // processes busy.
 std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs);
 
+// The path under which the panel's dialogs find the file `name`: absolute, and with the folder that
+// the system comes to. The dialogs themselves take "link/.." for nothing. The file's own name
+// stays, because the plug-in names the output after it.
+std::string PathForPanel(const std::string& name);
+
 // The folder that `path` lies in; "." for a name alone.
 std::string FolderOf(const std::string& path);
 

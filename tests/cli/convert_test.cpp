@@ -211,6 +211,24 @@ TEST_F(ConvertTest, RefusesOutputsThatMeetBeforeAnythingRuns) {
   EXPECT_EQ(Convert({"one/walk.trc", "one/walk.trc", "--dry-run"}).status, 2);
 }
 
+// Also while it is not there yet.
+TEST_F(ConvertTest, RefusesOneOutputHoweverTheInputsSpellTheirPaths) {
+  MakeFolder("sub");
+  Write("walk.trc", Take("1"));
+  Write("walk.xyz", Take("9"));
+  const std::string absolute = Absolute("walk.xyz");
+  for (const std::string& other : {std::string("walk.xyz"), std::string("./walk.xyz"),
+                                   std::string("sub/../walk.xyz"), absolute}) {
+    for (const auto& inputs : {std::vector<std::string>{"walk.trc", other}, {other, "walk.trc"}}) {
+      const ProgramResult result = Convert(inputs);
+      EXPECT_EQ(result.status, 2) << other;
+      EXPECT_THAT(result.error, HasSubstr("walk.bvk: the output of " + inputs[0] + " and of " +
+                                          inputs[1] + "\n"));
+    }
+  }
+  EXPECT_THAT(Names(), ElementsAre("sub", "walk.trc", "walk.xyz"));
+}
+
 TEST_F(ConvertTest, RefusesToReplaceAnInput) {
   Write("walk.bvk", Take());
   const ProgramResult result = Convert({"walk.bvk", "--force"});
