@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <system_error>
 #include <utility>
 
 #include "cli/batch_log_reader.h"
@@ -24,6 +25,7 @@ namespace fs = std::filesystem;
 
 constexpr char kLogName[] = "/ConvertBVKLog.txt";
 constexpr char kEmptyMapping[] = "/nothing.mnm";
+constexpr char kNamesFolder[] = "/names";  // one folder for each output, named like it
 
 // A file of the plug-in's, whatever line ends the system has; empty when it cannot be read.
 std::string ReadText(const std::string& path) {
@@ -34,19 +36,13 @@ std::string ReadText(const std::string& path) {
 class BatchConversion {
  public:
   BatchConversion(const ConversionOrder& order, std::vector<Conversion> conversions)
-      : order_(order),
-        result_{std::move(conversions), ""},
-        scratch_(FolderOf(result_.conversions.front().output)) {}
+      : order_(order), result_{std::move(conversions), ""} {}
 
   ConvertedBatch Run() {
-    if (!scratch_.Error().empty()) {
-      FailAll(scratch_.Error());
-      return std::move(result_);
-    }
-    platform::HoldInterrupts();  // the folder has to be put away
+    platform::HoldInterrupts();  // what is unfinished has to be put away
     const MarkerNaming naming(order_.mapping);
     for (Conversion& conversion : result_.conversions) JudgeInput(conversion, naming);
-    while (!Waiting().empty() && !platform::Interrupted()) Convert(Waiting());
+    while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
     return std::move(result_);
   }
@@ -60,74 +56,93 @@ class BatchConversion {
     return waiting;
   }
 
-  void FailAll(const std::string& reason) {
-    for (Conversion& conversion : result_.conversions) {
-      Settle(conversion, ConversionStatus::kFailed, FolderOf(conversion.output), reason);
-    }
-  }
-
   static void Settle(Conversion& conversion, ConversionStatus status, const std::string& subject,
                      const std::string& text, const std::string& advice = "") {
     conversion.status = status;
     conversion.errors.push_back({subject, text, advice});
   }
 
-  // A file that vanishes before the plug-in's dialog has chosen it cannot be chosen.
-  void Convert(const std::vector<Conversion*>& waiting) {
-    try {
-      UsePanel(waiting);
-    } catch (const host::ScriptError&) {
-      for (Conversion* conversion : waiting) RequireInput(*conversion);
-      if (Waiting().size() == waiting.size()) throw;
+  // Each run of the plug-in writes to a folder of its own.
+  void ConvertNext() {
+    const std::vector<Conversion*> waiting = Waiting();
+    const platform::ScratchFolder scratch(FolderOf(waiting.front()->output));
+    if (scratch.Error().empty()) {
+      Convert(FirstApart(waiting, scratch), scratch);
+    } else {
+      for (Conversion* conversion : waiting) {
+        Settle(*conversion, ConversionStatus::kFailed, FolderOf(conversion->output),
+               scratch.Error());
+      }
     }
   }
 
-  void UsePanel(const std::vector<Conversion*>& waiting) {
+  // As many of the first of `waiting` as have files of their own in `scratch`, of which its file
+  // system is asked: it may take other names for the same.
+  static std::vector<Conversion*> FirstApart(std::vector<Conversion*> waiting,
+                                             const platform::ScratchFolder& scratch) {
+    const fs::path names = platform::PathOf(scratch.Path() + kNamesFolder);
+    const auto is_taken = [&names](const Conversion* conversion) {
+      std::error_code error;
+      return !fs::create_directories(names / NameOfOutput(*conversion), error) && !error;
+    };
+    waiting.erase(std::find_if(waiting.begin(), waiting.end(), is_taken), waiting.end());
+    return waiting;
+  }
+
+  // A file that vanishes before the plug-in's dialog has chosen it cannot be chosen.
+  void Convert(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
+    try {
+      UsePanel(run, scratch);
+    } catch (const host::ScriptError&) {
+      const std::size_t waiting = Waiting().size();
+      for (Conversion* conversion : run) RequireInput(*conversion);
+      if (Waiting().size() == waiting) throw;
+    }
+  }
+
+  void UsePanel(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
     PluginSession session(order_.module, Settings::kFresh);
-    ConverterPanel panel(session, {MappingFile(), !order_.mapping.empty(), order_.offset});
+    ConverterPanel panel(session, {MappingFile(scratch), !order_.mapping.empty(), order_.offset});
     if (order_.single) {
-      ConvertSingle(panel, *waiting.front());
+      ConvertSingle(panel, *run.front(), scratch);
     } else {
-      ConvertTogether(panel, waiting);
+      ConvertTogether(panel, run, scratch);
     }
   }
 
   // The panel needs a mapping file even when it is not to use one.
-  std::string MappingFile() const {
+  std::string MappingFile(const platform::ScratchFolder& scratch) const {
     if (!order_.mapping.empty()) return PathForPanel(order_.mapping);
-    const std::string path = scratch_.Path() + kEmptyMapping;
+    const std::string path = scratch.Path() + kEmptyMapping;
     orvane::CreateFileForBytes(path);
     return path;
   }
 
-  void ConvertSingle(ConverterPanel& panel, Conversion& conversion) {
-    panel.ConvertOne(conversion.source, MadeFile(conversion));
+  void ConvertSingle(ConverterPanel& panel, Conversion& conversion,
+                     const platform::ScratchFolder& scratch) {
+    const std::string made = MadeFile(conversion, scratch);
+    panel.ConvertOne(conversion.source, made);
     if (platform::Interrupted()) return;
     const std::vector<std::string> messages = panel.TakeMessages();
-    if (messages.empty()) {
-      Finish(conversion, "");
-    } else {
-      Finish(conversion, ReaderMessage(messages.front()));
-    }
+    Finish(conversion, made, messages.empty() ? "" : ReaderMessage(messages.front()));
   }
 
-  // The plug-in gives a batch up at an output that it cannot create. The files behind that are its
-  // next batch.
-  void ConvertTogether(ConverterPanel& panel, std::vector<Conversion*> waiting) {
-    while (!waiting.empty() && !platform::Interrupted()) {
-      std::vector<std::string> sources;
-      sources.reserve(waiting.size());
-      for (const Conversion* conversion : waiting) sources.push_back(conversion->source);
-      panel.ConvertBatch(sources, scratch_.Path());
-      const std::string log = ReadText(scratch_.Path() + kLogName);
-      result_.log += log;
-      const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
-      for (std::size_t at = 0; at < files.size(); ++at) Finish(*waiting[at], files[at].message);
-      waiting.erase(waiting.begin(), waiting.begin() + static_cast<std::ptrdiff_t>(files.size()));
-      if (waiting.empty() || platform::Interrupted()) return;
-      GiveUpOn(*waiting.front(), panel.TakeMessages());
-      waiting.erase(waiting.begin());
+  // The plug-in gives a batch up at an output that it cannot create. The files behind that wait for
+  // the next run.
+  void ConvertTogether(ConverterPanel& panel, const std::vector<Conversion*>& run,
+                       const platform::ScratchFolder& scratch) {
+    std::vector<std::string> sources;
+    sources.reserve(run.size());
+    for (const Conversion* conversion : run) sources.push_back(conversion->source);
+    panel.ConvertBatch(sources, scratch.Path());
+    const std::string log = ReadText(scratch.Path() + kLogName);
+    result_.log += log;
+    const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
+    for (std::size_t at = 0; at < files.size(); ++at) {
+      Finish(*run[at], MadeFile(*run[at], scratch), files[at].message);
     }
+    if (files.size() == run.size() || platform::Interrupted()) return;
+    GiveUpOn(*run[files.size()], panel.TakeMessages());
   }
 
   static void GiveUpOn(Conversion& conversion, const std::vector<std::string>& messages) {
@@ -135,20 +150,24 @@ class BatchConversion {
            messages.empty() ? "The plug-in could not create the file" : messages.front());
   }
 
-  // Where the plug-in writes the output.
-  std::string MadeFile(const Conversion& conversion) const {
-    return platform::TextOf(platform::PathOf(scratch_.Path()) /
-                            platform::PathOf(conversion.output).filename());
+  static fs::path NameOfOutput(const Conversion& conversion) {
+    return platform::PathOf(conversion.output).filename();
   }
 
-  // Settles and delivers a file that the plug-in has handled; `message` is the reader's.
-  void Finish(Conversion& conversion, const std::string& message) {
+  // Where the plug-in writes the output.
+  static std::string MadeFile(const Conversion& conversion,
+                              const platform::ScratchFolder& scratch) {
+    return platform::TextOf(platform::PathOf(scratch.Path()) / NameOfOutput(conversion));
+  }
+
+  // Settles a file that the plug-in has handled, and delivers what it has `made` of it; `message`
+  // is the reader's.
+  void Finish(Conversion& conversion, const std::string& made, const std::string& message) {
     if (!message.empty()) {
       Settle(conversion, ConversionStatus::kBroken, conversion.input, message);
       conversion.warnings.clear();
       if (!order_.keep_broken) return;
     }
-    const std::string made = MadeFile(conversion);
     const std::optional<BvkSummary> summary = SummarizeBvk(made);
     if (!summary) {
       Settle(conversion, ConversionStatus::kFailed, conversion.output,
@@ -186,7 +205,6 @@ class BatchConversion {
 
   const ConversionOrder& order_;
   ConvertedBatch result_;
-  platform::ScratchFolder scratch_;
 };
 
 }  // namespace
