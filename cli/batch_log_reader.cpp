@@ -46,14 +46,15 @@ std::vector<LoggedFile> ReadBatchLog(std::string_view log,
   std::vector<LoggedFile> files;
   const std::size_t header_end = log.find(kHeaderEnd);
   if (header_end == std::string_view::npos) return files;
-  log.remove_prefix(header_end + kHeaderEnd.size());
+  std::size_t start = header_end + kHeaderEnd.size();
   for (const std::string& source : sources) {
     const std::string path = LoggedPath(source, sources.size() == 1);
     const std::string done = std::string(kDoneStart) + path + " done.\n";
-    const std::size_t report = LengthOfReport(log, path, done);
-    if (!log.substr(report).starts_with(done)) break;
-    files.push_back({report == 0 ? "" : ReaderMessage(log.substr(0, report))});
-    log.remove_prefix(report + done.size());
+    const std::size_t report = LengthOfReport(log.substr(start), path, done);
+    if (!log.substr(start + report).starts_with(done)) break;
+    const std::string message = report == 0 ? "" : ReaderMessage(log.substr(start, report));
+    start += report + done.size();
+    files.push_back({message, start});
   }
   return files;
 }

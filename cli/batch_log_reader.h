@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,7 @@ namespace cli {
 // One file that was handled.
 struct LoggedFile {
   std::string message;  // why the reader refused it, in its words; empty when it did not
+  std::size_t end = 0;  // where the log tells of the next file
 };
 
 // The files that `log` says were handled, which are the first ones of `sources`: the paths that the

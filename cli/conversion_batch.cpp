@@ -11,6 +11,7 @@
 #include "cli/batch_log_reader.h"
 #include "cli/bvk_summary.h"
 #include "cli/conversion_plan.h"
+#include "cli/messages.h"
 #include "cli/trc_worth.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
@@ -136,18 +137,41 @@ class BatchConversion {
     for (const Conversion* conversion : run) sources.push_back(conversion->source);
     panel.ConvertBatch(sources, scratch.Path());
     const std::string log = ReadText(scratch.Path() + kLogName);
-    result_.log += log;
     const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
+    std::size_t told = 0;
     for (std::size_t at = 0; at < files.size(); ++at) {
       Finish(*run[at], MadeFile(*run[at], scratch), files[at].message);
+      result_.log += log.substr(told, files[at].end - told) + Correction(*run[at]);
+      told = files[at].end;
     }
-    if (files.size() == run.size() || platform::Interrupted()) return;
-    GiveUpOn(*run[files.size()], panel.TakeMessages());
+    result_.log += log.substr(told);
+    const auto unlogged = run.begin() + static_cast<std::ptrdiff_t>(files.size());
+    if (!platform::Interrupted()) {
+      GiveUpOn({unlogged, run.end()}, scratch, panel.TakeMessages());
+    }
   }
 
-  static void GiveUpOn(Conversion& conversion, const std::vector<std::string>& messages) {
-    Settle(conversion, ConversionStatus::kFailed, conversion.output,
-           messages.empty() ? "The plug-in could not create the file" : messages.front());
+  // The line that the log lacks when the plug-in took a file for done that did not come about.
+  static std::string Correction(const Conversion& conversion) {
+    if (conversion.delivered || conversion.status == ConversionStatus::kBroken) return "";
+    return "orvane: " + Printable(conversion.source) +
+           " was not converted: " + conversion.errors.back().text + "\n";
+  }
+
+  // Settles the first of `unlogged` that the plug-in has not made, and those before, which are
+  // missing from the log alone.
+  static void GiveUpOn(const std::vector<Conversion*>& unlogged,
+                       const platform::ScratchFolder& scratch,
+                       const std::vector<std::string>& messages) {
+    for (Conversion* conversion : unlogged) {
+      if (!fs::exists(platform::PathOf(MadeFile(*conversion, scratch)))) {
+        Settle(*conversion, ConversionStatus::kFailed, conversion->output,
+               messages.empty() ? "The plug-in could not create the file" : messages.front());
+        return;
+      }
+      Settle(*conversion, ConversionStatus::kFailed, conversion->output,
+             "The plug-in could not write all of its log", "Is the disk full?");
+    }
   }
 
   static fs::path NameOfOutput(const Conversion& conversion) {

@@ -22,7 +22,9 @@ struct ConversionOrder {
 
 struct ConvertedBatch {
   std::vector<Conversion> conversions;
-  std::string log;  // that of the plug-in; empty when it has not kept one
+  // That of the plug-in, with a line of the program's own behind a file that the plug-in took for
+  // done and that did not come about; empty when it has not kept one.
+  std::string log;
 };
 
 // Carries `conversions` out, which are planned and make a batch.

@@ -57,6 +57,49 @@ TEST_F(FullDiskTest, LeavesNoHalfMarkers) {
   EXPECT_THAT(Names(), ElementsAre("walk.trc"));
 }
 
+// The plug-in's log says that all of them are done.
+TEST_F(FullDiskTest, TheLogOfABatchTellsWhatWasNotWritten) {
+  test::TrcText take{.markers = {"Head1"}};
+  for (const auto& [name, frames] : {std::pair{"a.trc", 1}, {"b.trc", 5000}, {"c.trc", 1}}) {
+    take.frames.assign(static_cast<std::size_t>(frames), {"1\t2\t3"});
+    Write(name, take.Text());
+  }
+  PosixRun run{Command({"convert", "a.trc", "b.trc", "c.trc"})};
+  run.largest_file = 100'000;
+  EXPECT_EQ(RunProgram(run).status, 3);
+  EXPECT_THAT(Names(),
+              ElementsAre("ConvertBVKLog.txt", "a.bvk", "a.trc", "b.trc", "c.bvk", "c.trc"));
+  const std::string folder = std::filesystem::canonical(folder_.Path()).string() + "/";
+  EXPECT_THAT(Read("ConvertBVKLog.txt"),
+              testing::EndsWith("Processing 3 files...\n"
+                                "file: " +
+                                folder + "a.trc done.\n" + "file: " + folder + "b.trc done.\n" +
+                                "orvane: " + folder +
+                                "b.trc was not converted: "
+                                "The plug-in could not write all of the file\n" +
+                                "file: " + folder + "c.trc done.\n"));
+}
+
+// A disk that has no room for the log either.
+TEST_F(FullDiskTest, ALogThatIsCutShortIsNotTakenForAFileThatCannotBeMade) {
+  const test::TrcText take{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}};
+  for (const char* name : {"a.trc", "b.trc"}) Write(name, take.Text());
+  for (const unsigned long bytes : {0UL, 110UL}) {
+    PosixRun run{Command({"convert", "a.trc", "b.trc", "--quiet"})};
+    run.largest_file = bytes;
+    const ProgramResult result = RunProgram(run);
+    EXPECT_EQ(result.status, 3);
+    for (const std::string name : {"a", "b"}) {
+      EXPECT_THAT(result.error, testing::HasSubstr("orvane: " + name +
+                                                   ".bvk: The plug-in could not write all of its "
+                                                   "log\n  Is the disk full?\n"))
+          << bytes;
+    }
+    EXPECT_FALSE(Exists("a.bvk"));
+    EXPECT_FALSE(Exists("b.bvk"));
+  }
+}
+
 // Nor here.
 TEST_F(FullDiskTest, LeavesNoHalfMapping) {
   Write("walk.trc", test::ReadFile(ORVANE_SOURCE_DIR "/examples/walk.trc"));
