@@ -5,6 +5,7 @@
 #include <fstream>
 #include <iterator>
 #include <optional>
+#include <set>
 #include <system_error>
 #include <utility>
 
@@ -13,6 +14,7 @@
 #include "cli/conversion_plan.h"
 #include "cli/messages.h"
 #include "cli/trc_worth.h"
+#include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
@@ -42,13 +44,22 @@ class BatchConversion {
   ConvertedBatch Run() {
     platform::HoldInterrupts();  // what is unfinished has to be put away
     const MarkerNaming naming(order_.mapping);
-    for (Conversion& conversion : result_.conversions) JudgeInput(conversion, naming);
+    for (Conversion& conversion : result_.conversions) Judge(conversion, naming);
     while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
     return std::move(result_);
   }
 
  private:
+  // What is delivered of a file depends on no other. One that the reader refuses before its rates
+  // has a run of the plug-in begin.
+  void Judge(Conversion& conversion, const MarkerNaming& naming) {
+    const RateSource rate = JudgeInput(conversion, naming);
+    if (!order_.keep_broken || conversion.status != ConversionStatus::kPlanned) return;
+    if (rate == RateSource::kOthersShort) RefuseForeignRate(conversion);
+    if (rate == RateSource::kOthers) first_in_run_.insert(&conversion);
+  }
+
   std::vector<Conversion*> Waiting() {
     std::vector<Conversion*> waiting;
     for (Conversion& conversion : result_.conversions) {
@@ -68,7 +79,7 @@ class BatchConversion {
     const std::vector<Conversion*> waiting = Waiting();
     const platform::ScratchFolder scratch(FolderOf(waiting.front()->output));
     if (scratch.Error().empty()) {
-      Convert(FirstApart(waiting, scratch), scratch);
+      Convert(NextRun(waiting, scratch), scratch);
     } else {
       for (Conversion* conversion : waiting) {
         Settle(*conversion, ConversionStatus::kFailed, FolderOf(conversion->output),
@@ -77,17 +88,25 @@ class BatchConversion {
     }
   }
 
-  // As many of the first of `waiting` as have files of their own in `scratch`, of which its file
-  // system is asked: it may take other names for the same.
-  static std::vector<Conversion*> FirstApart(std::vector<Conversion*> waiting,
-                                             const platform::ScratchFolder& scratch) {
-    const fs::path names = platform::PathOf(scratch.Path() + kNamesFolder);
-    const auto is_taken = [&names](const Conversion* conversion) {
-      std::error_code error;
-      return !fs::create_directories(names / NameOfOutput(*conversion), error) && !error;
-    };
-    waiting.erase(std::find_if(waiting.begin(), waiting.end(), is_taken), waiting.end());
+  // As many of the first of `waiting` as the plug-in may convert in one run: it begins with those
+  // that have to, and their outputs have files of their own in `scratch`.
+  std::vector<Conversion*> NextRun(std::vector<Conversion*> waiting,
+                                   const platform::ScratchFolder& scratch) const {
+    const auto last =
+        std::find_if(waiting.begin(), waiting.end(), [&](const Conversion* conversion) {
+          const bool has_to_begin = first_in_run_.count(conversion) != 0;
+          return (has_to_begin && conversion != waiting.front()) || IsTaken(*conversion, scratch);
+        });
+    waiting.erase(last, waiting.end());
     return waiting;
+  }
+
+  // Whether another output has the name of this one's in `scratch`, of which its file system is
+  // asked: it may take other names for the same.
+  static bool IsTaken(const Conversion& conversion, const platform::ScratchFolder& scratch) {
+    const fs::path names = platform::PathOf(scratch.Path() + kNamesFolder);
+    std::error_code error;
+    return !fs::create_directories(names / NameOfOutput(conversion), error) && !error;
   }
 
   // A file that vanishes before the plug-in's dialog has chosen it cannot be chosen.
@@ -190,7 +209,7 @@ class BatchConversion {
     if (!message.empty()) {
       Settle(conversion, ConversionStatus::kBroken, conversion.input, message);
       conversion.warnings.clear();
-      if (!order_.keep_broken) return;
+      if (!order_.keep_broken || !platform::WhyUnreadable(conversion.source).empty()) return;
     }
     const std::optional<BvkSummary> summary = SummarizeBvk(made);
     if (!summary) {
@@ -229,6 +248,7 @@ class BatchConversion {
 
   const ConversionOrder& order_;
   ConvertedBatch result_;
+  std::set<const Conversion*> first_in_run_;
 };
 
 }  // namespace

@@ -26,6 +26,32 @@ void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
   }
 }
 
+void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
+                 const orvane::TRCOutliner& outline, const MarkerNaming& naming) {
+  conversion.markers_dropped = document.MarkerCount();
+  const auto held = static_cast<std::int64_t>(outline.Frames());
+  const FrameCounts counts{std::max(document.NumFrames(), 0), held, held};
+  if (IsOutOfProportion(counts.announced, counts)) {
+    conversion.status = ConversionStatus::kRefused;
+    conversion.errors.push_back(
+        {conversion.input, DescribeDifference(counts), "Is \"NumFrames\" right?"});
+    return;
+  }
+  if (counts.announced != held) {
+    const bool are_missing = counts.announced > held;
+    conversion.warnings.push_back({conversion.input, DescribeDifference(counts),
+                                   are_missing ? "Missing frames are written as dropouts."
+                                               : "Only the announced frames are written."});
+  }
+  WarnOfMarkers(conversion, document, naming);
+}
+
+RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& message) {
+  constexpr std::size_t kLinesWithRates = 3;
+  if (outline.Lines() < kLinesWithRates) return RateSource::kOthersShort;
+  return message.empty() ? RateSource::kFile : RateSource::kOthers;
+}
+
 }  // namespace
 
 void RequireInput(Conversion& conversion) {
@@ -36,29 +62,27 @@ void RequireInput(Conversion& conversion) {
   conversion.errors.push_back({conversion.input, reason, ""});
 }
 
-void JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
+void RefuseForeignRate(Conversion& conversion) {
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back({conversion.input,
+                               "The file ends before its third line, which tells its rates",
+                               "It would be written with the camera rate of another file."});
+}
+
+RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
   RequireInput(conversion);
   const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
-  if (!outline) return;
+  if (!outline) return RateSource::kFile;
   orvane::TRCDocument document;
   const std::string message = document.ReadBytes(outline->Header(), false);
-  conversion.markers_dropped = document.MarkerCount();
-  const auto held = static_cast<std::int64_t>(outline->Frames());
-  const FrameCounts counts{std::max(document.NumFrames(), 0), held, held};
-  if (IsOutOfProportion(counts.announced, counts)) {
-    conversion.status = ConversionStatus::kRefused;
-    conversion.errors.push_back(
-        {conversion.input, DescribeDifference(counts), "Is \"NumFrames\" right?"});
-    return;
+  const RateSource rate = RateSourceOf(*outline, message);
+  if (!message.empty()) return rate;
+  if (rate == RateSource::kFile) {
+    JudgeFrames(conversion, document, *outline, naming);
+  } else {
+    RefuseForeignRate(conversion);
   }
-  if (!message.empty()) return;
-  if (counts.announced != held) {
-    const bool are_missing = counts.announced > held;
-    conversion.warnings.push_back({conversion.input, DescribeDifference(counts),
-                                   are_missing ? "Missing frames are written as dropouts."
-                                               : "Only the announced frames are written."});
-  }
-  WarnOfMarkers(conversion, document, naming);
+  return rate;
 }
 
 }  // namespace cli

@@ -11,11 +11,22 @@ namespace cli {
 // Settles `conversion` as unreadable, with the reason, when its input cannot be read.
 void RequireInput(Conversion& conversion);
 
+// Where the reader gets the camera rate of a file from.
+enum class RateSource {
+  kFile,        // its own third line
+  kOthers,      // the file that it has read before, because it refuses this one earlier
+  kOthersShort  // likewise, because this one ends earlier
+};
+
+// Settles `conversion` as refused, because its output would have the rate of another file.
+void RefuseForeignRate(Conversion& conversion);
+
 // Looks at the input of `conversion` and notes in it how many markers it has, as dropped ones. When
 // frames are missing or left out it gets a warning, and when that is out of proportion it is
-// refused. It gets a warning too when there is no marker to write, or `naming` makes one name of
-// several. A file that cannot be read is settled; one that the reader refuses is left to the
-// plug-in, which tells that.
-void JudgeInput(Conversion& conversion, const MarkerNaming& naming);
+// refused; so is a file that is too short for a rate. It gets a warning too when there is no marker
+// to write, or `naming` makes one name of several. A file that cannot be read is settled; one that
+// the reader refuses is left to the plug-in, which tells that. Returns kFile when nothing is to be
+// read.
+RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming);
 
 }  // namespace cli

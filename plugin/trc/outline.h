@@ -18,6 +18,9 @@ class TRCOutliner {
   // The lines before the frames; for TRCDocument::ReadBytes.
   const std::string& Header() const { return header_; }
 
+  // How many lines the reader comes to; not those whose place a comment takes.
+  std::size_t Lines() const { return number_; }
+
   // How many lines the reader takes for frames.
   std::size_t Frames() const { return frames_; }
 

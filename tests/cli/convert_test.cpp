@@ -108,7 +108,7 @@ TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
 }
 
 TEST_F(ConvertTest, WarnsOfOutputsWithoutMarkers) {
-  Write("empty.trc", "");
+  Write("empty.trc", TrcText{.markers = {}, .frames = {}}.Text());
   Write("walk.trc", Take());
   Write("map.mnm", "HEAD\thead1\t\n");
   const ProgramResult result = Convert({"empty.trc", "walk.trc", "--mapping", "map.mnm"});
@@ -161,8 +161,41 @@ TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
                 "file: " + folder + "50%done.trc done.\n" + "file: " + folder + "c.trc done.\n");
 }
 
+// The plug-in keeps the rate of the file that it has read before.
+TEST_F(ConvertTest, RefusesFilesThatEndBeforeTheirRates) {
+  Write("walk.trc", Take());
+  const std::string first_line = "PathFileType\t4\t(X/Y/Z)\twalk\n";
+  for (const std::string& text :
+       {std::string(), first_line, first_line + "DataRate\n", first_line + "#\nDataRate\n"}) {
+    Write("short.trc", text);
+    for (const auto& arguments :
+         {std::vector<std::string>{"walk.trc", "short.trc", "--force"}, {"short.trc"}}) {
+      const ProgramResult result = Convert(arguments);
+      EXPECT_EQ(result.status, 1);
+      EXPECT_EQ(result.error,
+                "orvane: short.trc: The file ends before its third line, which tells its rates\n"
+                "  It would be written with the camera rate of another file.\n");
+      EXPECT_THAT(result.output, HasSubstr("short.bvk  refused\n"));
+      EXPECT_FALSE(Exists("short.bvk"));
+    }
+    EXPECT_THAT(Convert({"short.trc", "--dry-run"}).output,
+                HasSubstr("short.trc -> short.bvk (refused)\n"));
+  }
+  Write("short.trc", BrokenTake());
+  EXPECT_EQ(Convert({"walk.trc", "short.trc", "--force", "--keep-broken"}).status, 1);
+  EXPECT_FALSE(Exists("short.bvk"));
+}
+
+TEST_F(ConvertTest, GivesBrokenFilesNoRateOfTheFilesBefore) {
+  Write("walk.trc", Take());
+  Write("poem.trc", "a poem\nof three\nlines\n");
+  EXPECT_EQ(Convert({"walk.trc", "poem.trc", "--keep-broken", "--jobs", "1"}).status, 1);
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$CaptureRate 60\n"));
+  EXPECT_THAT(ReadText("poem.bvk"), HasSubstr("$CaptureRate 0\n"));
+}
+
 TEST_F(ConvertTest, DeliversBrokenFilesOnlyWhenAsked) {
-  Write("poem.trc", BrokenTake());
+  Write("poem.trc", "a poem\nof three\nlines\n");
   ProgramResult result = Convert({"poem.trc"});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error, std::string("orvane: poem.trc: ") + kRefused + "\n");
