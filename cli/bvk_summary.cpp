@@ -34,7 +34,7 @@ bool ReadLine(std::ifstream& file, std::string& line) {
 // Reads the line behind "$Order" too. Files with markers have their names there, an empty line and
 // "$Points"; those without have the first frame, or end. A frame takes two lines.
 void ReadOrder(std::ifstream& file, Header& header) {
-  const std::int64_t frame_lines = 2 * std::max<std::int64_t>(header.frames, 0);
+  const std::int64_t frame_lines = 2 * header.frames;
   std::string line;
   ReadLine(file, line);
   const bool is_line = file.good();
@@ -55,7 +55,7 @@ Header ReadHeader(std::ifstream& file) {
     if (blank == std::string::npos) continue;
     const std::string keyword = line.substr(0, blank);
     const std::int64_t value = orvane::ParseInt(line.substr(blank + 1));
-    if (keyword == "$NumFrames") header.frames = value;
+    if (keyword == "$NumFrames") header.frames = std::max<std::int64_t>(value, 0);
     if (keyword == "$NumMarkers") header.markers = value;
   }
   if (file.good()) ReadOrder(file, header);

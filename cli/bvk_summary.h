@@ -9,7 +9,7 @@
 namespace cli {
 
 struct BvkSummary {
-  std::int64_t frames = 0;
+  std::int64_t frames = 0;  // none where a negative number is announced
   std::int64_t markers = 0;
   std::int64_t dropouts = 0;
 };

@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "host/application/extension_match.h"
 #include "platform/file_place.h"
 #include "platform/input_file.h"
 #include "platform/output_file.h"
@@ -155,6 +156,11 @@ std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
   for (const std::string& input : inputs) conversions.push_back(Plan(input, wishes));
   RequireOutputsApart(conversions);
   return conversions;
+}
+
+bool IsBvkFileName(const std::string& name) {
+  const fs::path path = platform::PathOf(WithBvkExtension(name));
+  return host::SameButForCase(platform::TextOf(path.extension()), ".bvk");
 }
 
 std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs) {

@@ -11,7 +11,7 @@
 namespace cli {
 
 struct OutputWishes {
-  std::string file;    // the one to make; empty: named after the input
+  std::string file;    // the one to make, a BVK file by its name; empty: named after the input
   std::string folder;  // for all outputs; empty: each beside its input
   bool replace = false;
 };
@@ -21,6 +21,10 @@ struct OutputWishes {
 // for wrong usage: two inputs with one output, an output that is an input.
 std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
                                         const OutputWishes& wishes);
+
+// Whether `name` can be that of the file to make: it ends in ".bvk", in either case, or has no
+// extension and gets this one.
+bool IsBvkFileName(const std::string& name);
 
 // Indices of conversions that the plug-in carries out in one run, in order: their inputs lie in one
 // folder, and so do their outputs.

@@ -238,6 +238,11 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
   verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
   CLI::Option* output =
       verb.add_option("-o,--output", arguments.output.file, "The BVK file to write, for one FILE")
+          ->check(
+              [](const std::string& path) {
+                return IsBvkFileName(path) ? "" : path + " does not end in .bvk";
+              },
+              "")
           ->type_name("OUT");
   verb.add_option("--output-dir", arguments.output.folder,
                   "The folder to write to (each beside its FILE)")

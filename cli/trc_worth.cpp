@@ -1,7 +1,8 @@
 #include "cli/trc_worth.h"
 
-#include <algorithm>
+#include <cstdint>
 #include <optional>
+#include <string>
 
 #include "cli/frame_counts.h"
 #include "cli/input.h"
@@ -26,11 +27,18 @@ void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
   }
 }
 
+// Of another number of frames than the file holds.
+std::string FramesWritten(std::int64_t announced, std::int64_t held) {
+  if (announced < 0) return "No frame is written.";
+  return announced > held ? "Missing frames are written as dropouts."
+                          : "Only the announced frames are written.";
+}
+
 void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
                  const orvane::TRCOutliner& outline, const MarkerNaming& naming) {
   conversion.markers_dropped = document.MarkerCount();
   const auto held = static_cast<std::int64_t>(outline.Frames());
-  const FrameCounts counts{std::max(document.NumFrames(), 0), held, held};
+  const FrameCounts counts{document.NumFrames(), held, held};
   if (IsOutOfProportion(counts.announced, counts)) {
     conversion.status = ConversionStatus::kRefused;
     conversion.errors.push_back(
@@ -38,10 +46,8 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
     return;
   }
   if (counts.announced != held) {
-    const bool are_missing = counts.announced > held;
-    conversion.warnings.push_back({conversion.input, DescribeDifference(counts),
-                                   are_missing ? "Missing frames are written as dropouts."
-                                               : "Only the announced frames are written."});
+    conversion.warnings.push_back(
+        {conversion.input, DescribeDifference(counts), FramesWritten(counts.announced, held)});
   }
   WarnOfMarkers(conversion, document, naming);
 }

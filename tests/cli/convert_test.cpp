@@ -7,6 +7,7 @@ namespace {
 
 using nlohmann::json;
 using test::ProgramResult;
+using test::Replaced;
 using test::Slashed;
 using test::TrcText;
 using testing::ElementsAre;
@@ -345,6 +346,33 @@ TEST_F(ConvertTest, WarnsOfFramesThatAreMissing) {
   EXPECT_EQ(result.error,
             "orvane: walk.trc: The header announces 0 frames, but the file holds 1\n"
             "  Only the announced frames are written.\n");
+}
+
+TEST_F(ConvertTest, TellsANegativeNumberOfFramesAsItIsAnnounced) {
+  const TrcText take{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}};
+  Write("walk.trc", Replaced(take.Text(), "\t1\t1\tmm", "\t-5\t1\tmm"));
+  const ProgramResult result = Convert({"walk.trc"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces -5 frames, but the file holds 1\n"
+            "  No frame is written.\n");
+  EXPECT_THAT(result.output, HasSubstr("walk.trc       0     1        0         0  walk.bvk"));
+  EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$NumFrames -5\n"));
+  EXPECT_EQ(json::parse(Convert({"walk.trc", "--json", "--force"}).output)["files"][0]["frames"],
+            0);
+}
+
+// The extension says what is in the file.
+TEST_F(ConvertTest, WritesNothingButBvkFiles) {
+  Write("walk.trc", Take());
+  for (const char* name : {"walk.csv", "walk.trc", "walk.bvk.txt", "walk."}) {
+    const ProgramResult result = Convert({"walk.trc", "-o", name, "--force"});
+    EXPECT_EQ(result.status, 2) << name;
+    EXPECT_THAT(result.error, HasSubstr(std::string(name) + " does not end in .bvk")) << name;
+  }
+  EXPECT_THAT(Names(), ElementsAre("walk.trc"));
+  EXPECT_EQ(Convert({"walk.trc", "-o", "step.BvK"}).status, 0);
+  EXPECT_THAT(Names(), ElementsAre("step.BvK", "walk.trc"));
 }
 
 TEST_F(ConvertTest, ShowsWhatItWouldDo) {
