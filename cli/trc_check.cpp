@@ -91,7 +91,7 @@ class WholeFile {
         std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
           return left.end - left.begin < right.end - right.begin;
         });
-    Add(trc::kMarkerGaps, {parts_.LineOfFrame(longest->begin), 1, 0},
+    Add(trc::kMarkerGaps, parts_.PlaceOfFrame(longest->begin),
         DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
         "The import sets those frames to the origin; a converted file has dropouts.");
   }

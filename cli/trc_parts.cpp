@@ -4,12 +4,18 @@
 
 namespace cli::trc {
 
-std::size_t Parts::LineOfFrame(std::size_t index) const {
+void Parts::AddFrame(orvane::TRCPlace place) {
+  const bool follows = !runs_.empty() && place.column == runs_.back().column &&
+                       place.line == PlaceIn(runs_.back(), frames_).line;
+  if (!follows) runs_.push_back({frames_, place.line, place.column});
+  ++frames_;
+}
+
+orvane::TRCPlace Parts::PlaceOfFrame(std::size_t index) const {
   const auto behind =
       std::upper_bound(runs_.begin(), runs_.end(), index,
                        [](std::size_t frame, const Run& run) { return frame < run.frame; });
-  const Run& run = *std::prev(behind);
-  return run.line + (index - run.frame);
+  return PlaceIn(*std::prev(behind), index);
 }
 
 }  // namespace cli::trc

@@ -23,23 +23,23 @@ struct Parts {
     return values[static_cast<std::size_t>(value)];
   }
 
-  // Keeps that the next frame stands on `line`.
-  void AddFrame(std::size_t line) {
-    if (runs_.empty() || line != runs_.back().line + (frames_ - runs_.back().frame)) {
-      runs_.push_back({frames_, line});
-    }
-    ++frames_;
-  }
+  // Keeps where the next frame starts.
+  void AddFrame(orvane::TRCPlace place);
 
-  // The line of frame `index`, counted from 0, which was added.
-  std::size_t LineOfFrame(std::size_t index) const;
+  // Where frame `index`, counted from 0, starts; it was added.
+  orvane::TRCPlace PlaceOfFrame(std::size_t index) const;
 
  private:
-  // Frames that stand on lines which follow each other: the first of them.
+  // Frames that start on lines which follow each other, in the same column: the first of them.
   struct Run {
     std::size_t frame;
     std::size_t line;
+    std::size_t column;
   };
+  static orvane::TRCPlace PlaceIn(const Run& run, std::size_t index) {
+    return {run.line + (index - run.frame), run.column, 0};
+  }
+
   std::vector<Run> runs_;
   std::size_t frames_ = 0;
 };

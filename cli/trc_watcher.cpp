@@ -97,7 +97,7 @@ void Watcher::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) 
     case TRCOddity::kMarkerNameRepeated:
       return AddRepeatedName(place, text);
     case TRCOddity::kMarkerCountMismatch:
-      return AddMarkerCount(text);
+      return AddMarkerCount(place, text);
     case TRCOddity::kShortFrame:
       return AddShortFrame(place);
     case TRCOddity::kSurplusValue:
@@ -223,9 +223,8 @@ void Watcher::AddRepeatedName(TRCPlace place, std::string_view name) {
   }
 }
 
-void Watcher::AddMarkerCount(std::string_view announced) {
-  const auto& place = parts_.Value(TRCHeaderValue::kNumMarkers);
-  if (Finding* finding = Add(kMarkerCount, place.value_or(TRCPlace{1, 1, 0}))) {
+void Watcher::AddMarkerCount(TRCPlace place, std::string_view announced) {
+  if (Finding* finding = Add(kMarkerCount, place)) {
     finding->found = CountOf(document_.MarkerCount(), "marker");
     finding->expected = std::string(announced) + ", as NumMarkers says";
     finding->effect = "The import takes the markers that are there.";
@@ -233,7 +232,7 @@ void Watcher::AddMarkerCount(std::string_view announced) {
 }
 
 void Watcher::OnFrame(TRCPlace place, std::string_view number) {
-  parts_.AddFrame(place.line);
+  parts_.AddFrame(place);
   if (frames_++ == 0) CheckFirstFrame(place, number);
 }
 

@@ -46,7 +46,7 @@ class Watcher : public orvane::TRCReadObserver {
   void AddCameraRate(orvane::TRCPlace place, std::string_view rate);
   void AddRefusal(orvane::TRCPlace place, std::string_view coordinates);
   void AddRepeatedName(orvane::TRCPlace place, std::string_view name);
-  void AddMarkerCount(std::string_view announced);
+  void AddMarkerCount(orvane::TRCPlace place, std::string_view announced);
   void AddShortFrame(orvane::TRCPlace place);
   void AddFrameNumber(orvane::TRCPlace place, std::string_view number);
   void CheckRate(orvane::TRCPlace place, std::string_view rate);

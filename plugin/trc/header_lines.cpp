@@ -48,10 +48,10 @@ std::int32_t TakeUnits(TRCFields& fields, const TRCOddities& oddities) {
 
 void AddNamedMarker(std::string_view name, std::size_t field, TRCDocument& document,
                     const TRCOddities& oddities) {
-  oddities.ReportIf(name.empty(), TRCOddity::kMarkerNameEmpty, field, name);
   // Intended: a repeated name makes no marker, and the values of its column go to the next one.
   const TRCMarker* marker = document.AddMarker(TRCMarker(std::string(name)));
   if (marker == nullptr) return oddities.Report(TRCOddity::kMarkerNameRepeated, field, name);
+  oddities.ReportIf(name.empty(), TRCOddity::kMarkerNameEmpty, field, name);
   oddities.TellMarker(field, name);
 }
 
@@ -80,6 +80,7 @@ void ReadHeaderValues(const Line& line, TRCHeader& header, TRCDocument& document
   document.SetDataRate(TakeRate(fields, TRCHeaderValue::kDataRate, oddities));
   document.SetCameraRate(TakeRate(fields, TRCHeaderValue::kCameraRate, oddities));
   document.SetNumFrames(TakeInt(fields, TRCHeaderValue::kNumFrames, oddities));
+  header.announced_markers_place = oddities.PlaceOf(fields.Number(), fields.Get());
   header.announced_markers = TakeInt(fields, TRCHeaderValue::kNumMarkers, oddities);
   document.SetUnits(TakeUnits(fields, oddities));
   if (header.path_type != kFirstFrameInHeader) return;
@@ -106,7 +107,8 @@ std::string ReadMarkerNames(const Line& line, const TRCHeader& header, bool incl
 
   if (std::int64_t{document.MarkerCount()} == header.announced_markers) return {};
   const std::string announced = FormatInt(header.announced_markers);
-  oddities.ReportLine(
+  oddities.ReportAt(
+      header.announced_markers_place,
       include_unnamed ? TRCOddity::kMarkerCountRefused : TRCOddity::kMarkerCountMismatch,
       announced);
   if (!include_unnamed) return {};

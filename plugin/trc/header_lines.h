@@ -15,6 +15,7 @@ namespace orvane {
 struct TRCHeader {
   std::int32_t path_type = 0;
   std::int32_t announced_markers = 0;
+  TRCPlace announced_markers_place;  // when the reading is watched
 };
 
 // The path types that say where the first frame's number stands; any other means frame 1.

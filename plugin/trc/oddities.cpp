@@ -17,11 +17,7 @@ void TRCOddities::LookAtBytes() {
   const std::string_view end = text.substr(text.size());
   const std::string_view mark = line_.ByteOrderMark();
   ReportIf(!mark.empty(), TRCOddity::kByteOrderMark, 1, mark);
-  if (!line_.Continues()) long_line_told_ = false;
-  if (line_.Continues() && !long_line_told_) {
-    long_line_told_ = true;
-    Report(TRCOddity::kLongLine, 0, text);
-  }
+  ReportLongLine();
   const std::size_t carriage_return = text.find('\r');
   if (carriage_return != std::string_view::npos) {
     Report(TRCOddity::kCarriageReturn, 0, text.substr(carriage_return));
@@ -29,6 +25,12 @@ void TRCOddities::LookAtBytes() {
   ReportIf(line_.IsCutByNul(), TRCOddity::kHiddenByNul, 0, end);
   ReportIf(line_.CarriageReturns() > 1, TRCOddity::kSpareCarriageReturns, 0, end);
   ReportIf(line_.EndsUnfinished(), TRCOddity::kUnfinishedEnd, 0, end);
+}
+
+// Once for each line.
+void TRCOddities::ReportLongLine() {
+  if (line_.Continues() && !long_line_told_) Report(TRCOddity::kLongLine, 0, line_.Text());
+  long_line_told_ = line_.Continues();
 }
 
 void TRCOddities::ReportFault(NumberFault (*fault_of)(std::string_view), std::size_t field,

@@ -28,6 +28,10 @@ class TRCOddities {
   void LookAtLine() {
     if (observer_ != nullptr) LookAtBytes();
   }
+  // The same of a line that is thrown away: only that it is a piece of a longer one.
+  void LookAtLength() {
+    if (observer_ != nullptr) ReportLongLine();
+  }
 
   // Reports `oddity` with `text`, which is field `field` of the line, counted from 1, or no field
   // for 0.
@@ -40,7 +44,17 @@ class TRCOddities {
   }
   // Reports `oddity` of the line as a whole, with any text.
   void ReportLine(TRCOddity oddity, std::string_view text) const {
-    if (observer_ != nullptr) observer_->OnOddity(oddity, {line_.Number(), 1, 0}, text);
+    if (observer_ != nullptr) observer_->OnOddity(oddity, PlaceOf(0, line_.Text()), text);
+  }
+  // Reports `oddity` of what was read at `place` before, with any text.
+  void ReportAt(const TRCPlace& place, TRCOddity oddity, std::string_view text) const {
+    if (observer_ != nullptr) observer_->OnOddity(oddity, place, text);
+  }
+
+  // Where `text` stands; nowhere when nobody watches.
+  TRCPlace PlaceOf(std::size_t field, std::string_view text) const {
+    if (observer_ == nullptr) return {};
+    return {line_.Number(), line_.ColumnOf(text), field};
   }
 
   // Reports a field that is missing, or that is more or other than one number and blanks.
@@ -67,11 +81,8 @@ class TRCOddities {
   }
 
  private:
-  TRCPlace PlaceOf(std::size_t field, std::string_view text) const {
-    return {line_.Number(), line_.ColumnOf(text), field};
-  }
-
   void LookAtBytes();
+  void ReportLongLine();
   void ReportFault(NumberFault (*fault_of)(std::string_view), std::size_t field,
                    std::string_view text) const;
   void ReportFaultsOfRate(std::size_t field, std::string_view text) const;

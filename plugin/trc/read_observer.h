@@ -29,7 +29,7 @@ enum class TRCOddity {
   kUnnamedColumnDropped,  // no marker, and the columns behind it shift; the name
   kMarkerNameRepeated,    // no marker, and the columns behind it shift; the name
   kMarkerNameEmpty,       // a marker all the same; empty
-  kMarkerCountMismatch,   // markers differ from the announced count, which is ignored; the count
+  kMarkerCountMismatch,   // markers differ from the announced count, which is ignored; that count
   kMarkerCountRefused,    // the same, for which the file is refused; the count
   kSubHeaderIsData,       // the line of coordinate headings starts with a number; that number
   // Numbers, of the header and of the frames.
@@ -68,8 +68,9 @@ class TRCReadObserver {
  public:
   virtual ~TRCReadObserver() = default;
 
-  // All are called in file order while reading. Texts lie in the bytes that are read, but for the
-  // counts of oddities, which live until the call returns.
+  // All are called in file order while reading, but for a count of markers that is wrong, which is
+  // told once they are known, with its place in the line before. Texts lie in the bytes that are
+  // read, but for the counts of oddities, which live until the call returns.
   virtual void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) = 0;
   // A value of the header, whatever it is worth.
   virtual void OnHeaderValue(TRCHeaderValue /*value*/, TRCPlace /*place*/,

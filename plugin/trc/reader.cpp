@@ -46,6 +46,7 @@ class TRCReader {
   std::string Read();
 
  private:
+  void ThrowLineAway(bool is_watched);
   std::string ReadLine(const Line& line, std::size_t number);
   std::string ReadColumns(const Line& line);
   void ReadFrame(const Line& line);
@@ -69,18 +70,25 @@ std::string TRCReader::Read() {
   document_.Reset();
   Line line;
   for (std::size_t number = 0; lines_.Next(line); ++number) {
+    const bool is_watched = watches_frames_ || !IsFrame(line, number);
+    const bool replaces_next = ReplacesNextLine(line);
     oddities_.StartLine(line);
-    if (watches_frames_ || !IsFrame(line, number)) oddities_.LookAtLine();
-    if (ReplacesNextLine(line)) {
-      oddities_.ReportLine(TRCOddity::kCommentReplacesLine, line.text);
-      Line thrown_away;
-      (void)lines_.Next(thrown_away);
-    }
+    if (is_watched) oddities_.LookAtLine();
+    if (replaces_next) oddities_.ReportLine(TRCOddity::kCommentReplacesLine, line.text);
     std::string message = ReadLine(line, number);
     if (!message.empty()) return message;
+    if (replaces_next) ThrowLineAway(is_watched);
   }
   Finish();
   return {};
+}
+
+// What may follow it on the same line has its place behind it.
+void TRCReader::ThrowLineAway(bool is_watched) {
+  Line line;
+  if (!lines_.Next(line)) return;
+  oddities_.StartLine(line);
+  if (is_watched) oddities_.LookAtLength();
 }
 
 std::string TRCReader::ReadLine(const Line& line, std::size_t number) {

@@ -248,7 +248,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "(line 5, column 1)"},
         Warning{"MarkerCount", "3\t2\tmm", "3\t7\tmm",
                 "The header announces another number of markers, which does not count: \"7\" (line "
-                "4)"}),
+                "3, column 10)"}),
     [](const auto& warning) { return warning.param.name; });
 
 TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {

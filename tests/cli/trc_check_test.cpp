@@ -90,6 +90,12 @@ INSTANTIATE_TEST_SUITE_P(
                {"3:9 warning trc-marker-count", "4:20 warning trc-column-repeated",
                 "7:15 warning trc-value-extra", "8:15 warning trc-value-extra",
                 "9:15 warning trc-value-extra"}},
+        Damage{"RepeatedEmptyName",
+               "LFHD\t\t\tRFHD",
+               "\t\t\t",
+               {"3:9 warning trc-marker-count", "4:13 warning trc-name-empty",
+                "4:16 warning trc-column-repeated", "7:15 warning trc-value-extra",
+                "8:15 warning trc-value-extra", "9:15 warning trc-value-extra"}},
         Damage{"UnnamedColumn",
                "LFHD",
                "Unnamed",
@@ -124,6 +130,10 @@ INSTANTIATE_TEST_SUITE_P(
             "7\t8\t9\t4",
             "7\t8\t9\0\t4"s,
             {"9:1 note trc-marker-gaps", "9:14 warning trc-nul", "9:14 warning trc-frame-short"}},
+        Damage{"GapInALaterPiece",
+               "1\t0.000\t1\t2\t3\t4\t5\t6\n2\t0.000\t1\t2\t3",
+               "1\t0.000\t1\t2\t3\t4\t5\t6" + std::string(10220, '\t') + "2\t0.000\t\t\t",
+               {"7:10240 warning trc-line-cut", "7:10240 note trc-marker-gaps"}},
         Damage{"Gap", "7\t8\t9", "\t\t", {"9:1 note trc-marker-gaps"}}),
     [](const auto& each) { return each.param.behaviour; });
 

@@ -102,14 +102,21 @@ TEST(TRCReadObserver, HearsOfMarkerNames) {
                           Oddity{TRCOddity::kMarkerNameEmpty, 4, 9, ""},
                           Oddity{TRCOddity::kMarkerNameRepeated, 4, 12, "a"},
                           Oddity{TRCOddity::kMarkerNameLost, 4, 15, "last"},
-                          Oddity{TRCOddity::kMarkerCountMismatch, 4, 0, "4"}));
+                          Oddity{TRCOddity::kMarkerCountMismatch, 3, 4, "4"}));
+}
+
+TEST(TRCReadObserver, HearsOfOneFateOfAnEmptyNameThatIsRepeated) {
+  const TrcText text{.markers = {"", "a", ""}, .marker_count = 2};
+  EXPECT_THAT(OdditiesOf(text.Text()),
+              ElementsAre(Oddity{TRCOddity::kMarkerNameEmpty, 4, 3, ""},
+                          Oddity{TRCOddity::kMarkerNameRepeated, 4, 9, ""}));
 }
 
 TEST(TRCReadObserver, HearsOfARefusedMarkerCount) {
   TrcText text = TwoFrames();
   text.marker_count = 3;
   EXPECT_THAT(OdditiesOf(text.Text(), true),
-              ElementsAre(Oddity{TRCOddity::kMarkerCountRefused, 4, 0, "3"}));
+              ElementsAre(Oddity{TRCOddity::kMarkerCountRefused, 3, 4, "3"}));
 }
 
 TEST(TRCReadObserver, HearsOfAMissingSubHeader) {
@@ -213,6 +220,55 @@ TEST(TRCReadObserver, TellsColumnsInBytes) {
   EXPECT_THAT(ColumnsOf(TrcText{.markers = {"a"}, .frame_count = 2}.Text() + long_frame),
               ElementsAre(10240U, 10240U, 10240U, 10245U, 10245U))
       << "in the line, not in its second piece";
+}
+
+// The oddity, its line and its column.
+using Spot = std::tuple<TRCOddity, std::size_t, std::size_t>;
+
+std::vector<Spot> SpotsOf(const std::string& bytes) {
+  TRCDocument document;
+  Recorder recorder;
+  (void)document.ReadBytes(bytes, false, &recorder);
+  std::vector<Spot> spots;
+  for (std::size_t at = 0; at < recorder.oddities.size(); ++at) {
+    spots.emplace_back(std::get<0>(recorder.oddities[at]), std::get<1>(recorder.oddities[at]),
+                       recorder.columns[at]);
+  }
+  return spots;
+}
+
+constexpr std::size_t kPiece = 10239;
+
+TEST(TRCReadObserver, TellsColumnsBehindAPieceThatIsThrownAway) {
+  const std::string good = TrcText{.markers = {"a"}, .frame_count = 2}.Text();
+  EXPECT_THAT(SpotsOf(good + "#\n" + std::string(kPiece, ' ') + "2\t0\tx\t5\t6\n"),
+              ElementsAre(Spot{TRCOddity::kCommentReplacesLine, 7, 1},
+                          Spot{TRCOddity::kUnreadableNumber, 7, 1},
+                          Spot{TRCOddity::kShortFrame, 7, 2}, Spot{TRCOddity::kLongLine, 8, 10240},
+                          Spot{TRCOddity::kFrameNumberSkips, 8, 10240},
+                          Spot{TRCOddity::kUnreadableNumber, 8, 10244}));
+}
+
+TEST(TRCReadObserver, HearsOfALongLineWhoseSecondPieceIsThrownAway) {
+  const std::string good = TrcText{.markers = {"a"}, .frame_count = 1}.Text();
+  EXPECT_THAT(
+      SpotsOf(good + "#" + std::string(kPiece, ' ') + "\n"),
+      ElementsAre(Spot{TRCOddity::kCommentReplacesLine, 7, 1},
+                  Spot{TRCOddity::kUnreadableNumber, 7, 1}, Spot{TRCOddity::kShortFrame, 7, 10240},
+                  Spot{TRCOddity::kLongLine, 7, 10240}));
+}
+
+TEST(TRCReadObserver, TellsTheColumnsOfPiecesThatAreCommentsOrBlank) {
+  const std::string good = TrcText{.markers = {"a"}, .frame_count = 2}.Text();
+  const std::string frame = "1\t0\t1\t2\t3";
+  const std::string piece = frame + std::string(kPiece - frame.size(), '\t');
+  EXPECT_THAT(SpotsOf(good + piece + "#2\t0\t4\t5\t6\nthrown away\n"),
+              ElementsAre(Spot{TRCOddity::kLongLine, 7, 10240},
+                          Spot{TRCOddity::kCommentReplacesLine, 7, 10240},
+                          Spot{TRCOddity::kUnreadableNumber, 7, 10240},
+                          Spot{TRCOddity::kFrameNumberSkips, 7, 10240}));
+  EXPECT_THAT(SpotsOf(good + piece + "\n"), ElementsAre(Spot{TRCOddity::kLongLine, 7, 10240},
+                                                        Spot{TRCOddity::kBlankFrame, 7, 10240}));
 }
 
 struct Heard final : TRCReadObserver {
