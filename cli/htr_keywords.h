@@ -19,7 +19,7 @@ inline constexpr std::array<Keyword, 12> kKeywords = {{
     {"DataType", "HTRS, Htrs or htrs", "It is not needed.", false},
     {"FileVersion", "1", "It is not needed.", false},
     {"NumSegments", "a whole number", "0 is taken, and lines in [BasePosition] are refused.", true},
-    {"NumFrames", "a whole number", "0 is taken, and no frames are imported.", true},
+    {"NumFrames", "a whole number", "0 is taken.", true},
     {"DataFrameRate", "a whole number", "60 is taken.", true},
     {"EulerRotationOrder", "ZYX", "ZYX is taken.", false},
     {"CalibrationUnits", "mm, cm, m, in, ft or yd", "Millimetres are taken.", true},

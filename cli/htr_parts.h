@@ -20,8 +20,9 @@ using orvane::HtrCell;
 struct SegmentLines {
   HtrCell name;
   HtrCell parent;
-  std::size_t base_section = 0;  // the number of the last one with a line for it; 0 for none
-  bool has_motion = false;
+  std::size_t base_section = 0;     // the number of the last one with a line for it; 0 for none
+  std::optional<HtrCell> motion{};  // the name of the last section of it
+  std::size_t frames = 0;           // in all of them
 };
 
 struct Parts {

@@ -73,6 +73,7 @@ inline constexpr FindingRule kBaseLineMissing = Warning("htr-base-line-missing")
 inline constexpr FindingRule kSegmentCount = Error("htr-segment-count");
 inline constexpr FindingRule kHierarchyCount = Warning("htr-hierarchy-count");
 inline constexpr FindingRule kFrameCount = Warning("htr-frame-count");
+inline constexpr FindingRule kFramesUnannounced = Error("htr-frames-unannounced");
 inline constexpr FindingRule kFramesTooMany = Error("htr-frames-too-many");
 inline constexpr FindingRule kFrameNumber = Warning("htr-frame-number");
 inline constexpr FindingRule kMotionMissing = Warning("htr-motion-missing");

@@ -51,6 +51,8 @@ class Structure {
   void CheckBasePosition();
   void CheckBaseLines();
   void CheckMotion();
+  void AddFramesUnannounced();
+  void CheckFrames(const SegmentLines& segment);
   void CheckLinks();
   void CheckRoots();
   void CheckCircles();
@@ -125,13 +127,31 @@ void Structure::CheckMotion() {
         "about " + FormatInt(frames.most_held) + ", as many as there are",
         "The import is refused, unless --range FROM:TO takes a part of them.");
   }
-  if (document_.GetNumFrames() == 0) return;
-  for (const SegmentLines& segment : parts_.segments) {
-    if (segment.has_motion) continue;
-    Add(kMotionMissing, segment.name, "no motion section of " + Quote(segment.name.text),
-        "one for every segment",
-        "In every frame the segment goes to its parent's origin, unturned.");
+  if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
+  for (const SegmentLines& segment : parts_.segments) CheckFrames(segment);
+}
+
+void Structure::AddFramesUnannounced() {
+  const auto& value = parts_.Value("NumFrames");
+  Add(kFramesUnannounced, value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
+      value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
+      "The import refuses the file: its last frame would come before its first.");
+}
+
+void Structure::CheckFrames(const SegmentLines& segment) {
+  if (!segment.motion) {
+    return Add(kMotionMissing, segment.name, "no motion section of " + Quote(segment.name.text),
+               "one for every segment",
+               "In every frame the segment goes to its parent's origin, unturned.");
   }
+  const std::size_t announced = document_.GetNumFrames();
+  if (segment.frames == announced) return;
+  const std::string number = FormatInt(static_cast<std::int64_t>(announced));
+  Add(kFrameCount, *segment.motion, CountOf(segment.frames, "frame"),
+      number + ", as NumFrames says",
+      segment.frames < announced
+          ? "In the missing frames the segment goes to its parent's origin, unturned."
+          : "Only " + number + " are imported.");
 }
 
 void Structure::CheckLinks() {

@@ -89,8 +89,6 @@ void Watcher::OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view f
       return AddParentUnknown(cell);
     case HtrOddity::kSegmentCountMismatch:
       return AddHierarchyCount(cell);
-    case HtrOddity::kFrameCountMismatch:
-      return AddFrameCount(cell);
     case HtrOddity::kRefusedHeaderValue:
       return AddRefusedValue(cell, field);
     case HtrOddity::kRefusedSegmentName:
@@ -175,18 +173,6 @@ std::string Watcher::AnnouncedSegments() const {
   return FormatInt(count) + (announced ? ", as NumSegments says" : ", as NumSegments is missing");
 }
 
-void Watcher::AddFrameCount(const HtrCell& section) {
-  if (Finding* finding = Add(kFrameCount, section)) {
-    const std::string announced = FormatInt(document_.GetNumFrames());
-    finding->found = CountOf(frames_in_section_, "frame");
-    finding->expected = announced + ", as NumFrames says";
-    finding->effect =
-        frames_in_section_ < document_.GetNumFrames()
-            ? "In the missing frames the segment goes to its parent's origin, unturned."
-            : "Only " + announced + " are imported.";
-  }
-}
-
 void Watcher::AddRefusedValue(const HtrCell& value, std::string_view keyword) {
   has_refused_ = was_stopped_ = true;
   if (Finding* finding = Add(kValueRefused, value)) {
@@ -260,10 +246,10 @@ void Watcher::CheckHeaderPlace(const HtrCell& name) {
 
 void Watcher::EnterMotion(const HtrCell& name) {
   next_frame_number_ = start_frame_;
-  SegmentLines* segment = parts_.Find(name.text);
-  if (segment == nullptr) return;
+  segment_ = parts_.Find(name.text);
+  if (segment_ == nullptr) return;
   if (!parts_.motion) parts_.motion = name;
-  if (segment->has_motion) {
+  if (segment_->motion) {
     next_frame_number_.reset();
     if (Finding* finding = Add(kMotionRepeated, name)) {
       finding->found = "a second section of " + Quote(name.text);
@@ -271,14 +257,14 @@ void Watcher::EnterMotion(const HtrCell& name) {
       finding->effect = "Its frames are put behind those of the first.";
     }
   }
-  segment->has_motion = true;
+  segment_->motion = name;
 }
 
 void Watcher::LeaveSection() {
   if (skipped_section_) AddSkippedSection(*skipped_section_);
   skipped_section_.reset();
   skipped_lines_ = 0;
-  frames_in_section_ = 0;
+  segment_ = nullptr;
 }
 
 void Watcher::AddSkippedSection(const HtrCell& name) {
@@ -359,7 +345,7 @@ void Watcher::OnBasePosition(const HtrCell& name) {
 }
 
 void Watcher::OnFrame(const HtrCell& number) {
-  ++frames_in_section_;
+  ++segment_->frames;
   const char* const end = number.text.data() + number.text.size();
   const bool is_number = orvane::ReadDouble(number.text.data(), end).end == end;
   const std::int64_t value =

@@ -48,7 +48,6 @@ class Watcher : public orvane::HtrReadObserver {
   void AddBaseNameUnknown(const HtrCell& name);
   void AddHierarchyCount(const HtrCell& section);
   void AddSegmentCount(const HtrCell& end);
-  void AddFrameCount(const HtrCell& section);
   void AddSkippedSection(const HtrCell& name);
   std::string AnnouncedSegments() const;
   void CheckHeaderPlace(const HtrCell& name);
@@ -67,7 +66,7 @@ class Watcher : public orvane::HtrReadObserver {
   bool linked_again_ = false;
   std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
   std::size_t skipped_lines_ = 0;
-  std::size_t frames_in_section_ = 0;
+  SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion
   std::optional<std::int64_t> next_frame_number_;
   std::optional<std::int64_t> start_frame_;
 };

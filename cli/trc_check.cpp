@@ -60,8 +60,9 @@ class WholeFile {
   void CheckFrameCount() {
     const auto held = static_cast<std::int64_t>(document_.MarkerAt(0)->SampleCount());
     const std::int64_t announced = document_.NumFrames();
-    if (held == announced) return;
     const TRCPlace place = parts_.Value(TRCHeaderValue::kNumFrames).value_or(parts_.end);
+    if (announced <= 0) return AddFramesUnannounced(place);
+    if (held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
       return Add(trc::kFramesTooMany, place, FormatInt(announced),
                  "about " + FormatInt(held) + ", as many as there are",
@@ -71,11 +72,17 @@ class WholeFile {
         FormatInt(held) + ", as many as there are", EffectOfCount(announced, held));
   }
 
+  void AddFramesUnannounced(TRCPlace place) {
+    Add(trc::kFramesUnannounced, place, FormatInt(document_.NumFrames()) + ", as NumFrames says",
+        "a whole number of 1 or more",
+        "The import refuses the file: its last frame would come before its first. A converted file "
+        "has no frames.");
+  }
+
   static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
     if (announced > held) {
       return "The import sets the missing frames to the origin; a converted file has dropouts.";
     }
-    if (announced <= 0) return "No frame is imported.";
     return "Only the announced frames are imported.";
   }
 

@@ -50,6 +50,7 @@ inline constexpr FindingRule kSampleWithoutX = Warning("trc-sample-without-x");
 inline constexpr FindingRule kFirstFrame = Warning("trc-first-frame");
 inline constexpr FindingRule kFrameNumber = Warning("trc-frame-number");
 inline constexpr FindingRule kFrameCount = Warning("trc-frame-count");
+inline constexpr FindingRule kFramesUnannounced = Error("trc-frames-unannounced");
 inline constexpr FindingRule kFramesTooMany = Error("trc-frames-too-many");
 inline constexpr FindingRule kMarkerGaps = Note("trc-marker-gaps");
 inline constexpr FindingRule kMarkerNeverSeen = Warning("trc-marker-never-seen");

@@ -157,6 +157,7 @@ DAMAGES = [
     ("frame-number-repeated", "trc-frame-number", change_field(FIRST_FRAME + 9, 0, b"9")),
     ("more-announced", "trc-frame-count", change_field(VALUES, 2, b"900")),
     ("fewer-announced", "trc-frame-count", change_field(VALUES, 2, b"100")),
+    ("none-announced", "trc-frames-unannounced", change_field(VALUES, 2, b"0")),
     ("too-many-announced", "trc-frames-too-many", change_field(VALUES, 2, b"2000000000")),
     ("gap", "trc-marker-gaps", without_sample(0, range(30, 60))),
     ("never-seen", "trc-marker-never-seen", shows_at(NAMES, without_sample(2, range(120)))),

@@ -183,6 +183,7 @@ DAMAGES = [
      both(remove(b"LeftToe\t0", b"NumSegments"), change(b"NumSegments", b"NumSegments 20"))),
     ("cut-short", "htr-frame-count",
      cut_behind(b"[RightToe]", 60, b"[RightToe]")),
+    ("none-announced", "htr-frames-unannounced", change(b"NumFrames", b"NumFrames 0")),
     ("too-many-announced", "htr-frames-too-many", change(b"NumFrames", b"NumFrames 2000000000")),
     ("frame-left-out", "htr-frame-number",
      change_cell(b"[Spine]", 50, 0, b"52")),

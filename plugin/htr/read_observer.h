@@ -56,7 +56,6 @@ enum class HtrOddity {
 
   // Counts
   kSegmentCountMismatch,  // hierarchy lines differ from NumSegments; the base-position section
-  kFrameCountMismatch,    // a motion section differs from NumFrames; the section's name
 
   // Refusals: reading ends here
   kRefusedHeaderValue,        // the value

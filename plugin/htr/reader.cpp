@@ -109,7 +109,6 @@ class HtrReader {
   double angle_factor_ = 1.0;
 
   HtrSegment* segment_ = nullptr;  // of the current motion section; null for an unknown name
-  HtrCell motion_section_;         // that section's name
   std::size_t* frames_counted_ = nullptr;  // of that segment, when frames are only counted
   std::size_t frames_before_section_ = 0;
   std::size_t frames_in_last_section_ = 0;
@@ -219,7 +218,6 @@ void HtrReader::EnterMotion(std::string_view name) {
   state_ = State::kMotion;
   segment_ = document_.FindSegment(name);
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kUnknownSegmentSection, name);
-  motion_section_ = oddities_.CellOf(name);
   frames_before_section_ = segment_->GetNumFrames();
   if (counts_ != nullptr) frames_counted_ = &(*counts_)[segment_];
 }
@@ -227,9 +225,6 @@ void HtrReader::EnterMotion(std::string_view name) {
 void HtrReader::LeaveMotion() {
   if (segment_ == nullptr) return;
   frames_in_last_section_ = segment_->GetNumFrames() - frames_before_section_;
-  if (frames_in_last_section_ != document_.GetNumFrames()) {
-    oddities_.Report(HtrOddity::kFrameCountMismatch, motion_section_);
-  }
   segment_ = nullptr;
 }
 

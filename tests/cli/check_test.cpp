@@ -117,9 +117,9 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"Misspelt",
                "[Header]",
                "[header]",
-               {"1:1 warning htr-header-missing", "1:2 warning htr-section-misspelt",
-                "17:2 warning htr-hierarchy-count", "20:2 warning htr-frame-count",
-                "24:2 warning htr-frame-count", "28:12 error htr-segment-count"}},
+               {"1:1 warning htr-header-missing", "1:1 error htr-frames-unannounced",
+                "1:2 warning htr-section-misspelt", "17:2 warning htr-hierarchy-count",
+                "28:12 error htr-segment-count"}},
         Damage{"Late",
                "[Hips]",
                "[Header]\nRotationUnits Radians\n[Hips]",
@@ -194,8 +194,20 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"FewerThanNoFrames",
                "NumFrames 3",
                "NumFrames -3",
-               {"6:11 warning htr-number-out-of-range", "20:2 warning htr-frame-count",
-                "24:2 warning htr-frame-count"}},
+               {"6:11 warning htr-number-out-of-range", "6:11 error htr-frames-unannounced"}},
+        Damage{"NoFrames", "NumFrames 3", "NumFrames 0", {"6:11 error htr-frames-unannounced"}},
+        Damage{"FramesInWords",
+               "NumFrames 3",
+               "NumFrames three",
+               {"6:11 warning htr-number-unreadable", "6:11 error htr-frames-unannounced"}},
+        Damage{"FrameCountWithoutAValue",
+               "NumFrames 3",
+               "NumFrames",
+               {"6:10 warning htr-number-missing", "6:10 error htr-frames-unannounced"}},
+        Damage{"NoFrameCount",
+               "NumFrames 3\n",
+               "",
+               {"1:2 warning htr-keyword-missing", "1:2 error htr-frames-unannounced"}},
         Damage{"TooLarge", "2 10 0", "2 -1e999 0", {"22:3 warning htr-number-out-of-range"}}));
 
 INSTANTIATE_TEST_SUITE_P(
@@ -259,7 +271,16 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"MotionTwice",
                "[EndOfFile]",
                "[Hips]\n9 0 0 0 0 0 0 1\n[EndOfFile]",
-               {"28:2 warning htr-motion-repeated", "28:2 warning htr-frame-count"}}));
+               {"28:2 warning htr-motion-repeated", "28:2 warning htr-frame-count"}},
+        Damage{"MotionInTwoParts",
+               "3 20 0 0 0 0 0 1\n[Spine]",
+               "[Hips]\n3 20 0 0 0 0 0 1\n[Spine]",
+               {"23:2 warning htr-motion-repeated"}},
+        Damage{"FrameCountThatALaterHeaderChanges",
+               "[EndOfFile]",
+               "[Header]\nNumFrames 2\n[EndOfFile]",
+               {"20:2 warning htr-frame-count", "24:2 warning htr-frame-count",
+                "28:2 warning htr-header-late", "29:1 warning htr-keyword-repeated"}}));
 
 class UnusableNameTest : public test::OrvaneTest,
                          public testing::WithParamInterface<std::string> {};
@@ -321,6 +342,25 @@ TEST_F(CheckTest, ANumberOutOfItsRangeIsToldTheRange) {
               "is taken as infinite, and the scene cannot be saved."}}) {
     Write("range.htr", Replaced(SmallMotion(), range.from, range.to));
     EXPECT_THAT(Orvane({"check", "range.htr"}).output, HasSubstr(range.told));
+  }
+}
+
+// The dialog would have to go from the first frame to one before it.
+TEST_F(CheckTest, WithoutAnnouncedFramesNoImportTakesAFile) {
+  for (const char* value : {"0", "-3", "three", ""}) {
+    Write("none.htr", Replaced(SmallMotion(), "NumFrames 3", std::string("NumFrames ") + value));
+    EXPECT_THAT(Orvane({"check", "none.htr"}).output,
+                HasSubstr("expected a whole number of 1 or more for NumFrames "
+                          "[htr-frames-unannounced]\n  The import refuses the file: its last frame "
+                          "would come before its first.\n"))
+        << value;
+    for (const std::vector<std::string>& flags :
+         {std::vector<std::string>{}, {"--range", "1:3"}, {"--range", "1:0"}, {"--no-animation"}}) {
+      std::vector<std::string> arguments = {"import", "none.htr", "-o", "none.glb"};
+      arguments.insert(arguments.end(), flags.begin(), flags.end());
+      EXPECT_EQ(Orvane(arguments).status, 1) << value;
+      EXPECT_FALSE(Exists("none.glb"));
+    }
   }
 }
 

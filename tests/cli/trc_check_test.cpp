@@ -73,6 +73,12 @@ INSTANTIATE_TEST_SUITE_P(
                {"3:1 warning trc-rate-cut", "3:7 note trc-camera-rate",
                 "3:9 warning trc-frame-count", "3:11 warning trc-marker-count",
                 "3:13 warning trc-unit-unknown", "7:1 warning trc-first-frame"}},
+        Damage{"NoFrames", "60\t3\t2", "60\t0\t2", {"3:7 error trc-frames-unannounced"}},
+        Damage{"FewerThanNoFrames", "60\t3\t2", "60\t-3\t2", {"3:7 error trc-frames-unannounced"}},
+        Damage{"NoFrameCount",
+               "60\t3\t2",
+               "60\t\t2",
+               {"3:7 warning trc-number-missing", "3:7 error trc-frames-unannounced"}},
         Damage{"UnitAtTheEnd",
                "mm\t60\t1\t3",
                "mm",
@@ -197,6 +203,27 @@ TEST_F(TrcCheckTest, FarTooManyFramesAreAnError) {
   EXPECT_THAT(Orvane({"check", "walk.trc"}).output,
               HasSubstr("3:7: error: found 2000000000, expected about 3, as many as there are "
                         "[trc-frames-too-many]"));
+}
+
+// The dialog would have to go from the first frame to one before it.
+TEST_F(TrcCheckTest, WithoutAnnouncedFramesNoImportTakesAFile) {
+  TrcText text = TwoMarkers();
+  for (const char* value : {"0", "-3", "three", ""}) {
+    Write("walk.trc",
+          Replaced(TwoMarkers().Text(), "60\t3\t2", std::string("60\t") + value + "\t2"));
+    EXPECT_THAT(Orvane({"check", "walk.trc"}).output,
+                HasSubstr(", as NumFrames says, expected a whole number of 1 or more "
+                          "[trc-frames-unannounced]\n  The import refuses the file: its last frame "
+                          "would come before its first. A converted file has no frames.\n"))
+        << value;
+    EXPECT_EQ(Orvane({"import", "walk.trc", "-o", "walk.glb"}).status, 1) << value;
+    EXPECT_EQ(Orvane({"import", "walk.trc", "-o", "walk.glb", "--range", "1:3"}).status, 1);
+    EXPECT_FALSE(Exists("walk.glb"));
+  }
+  text.frames.clear();
+  Write("walk.trc", text.Text());
+  EXPECT_THAT(Orvane({"check", "walk.trc"}).output, HasSubstr("3:7: error: found 0, as NumFrames"))
+      << "also when there are none";
 }
 
 TEST_F(TrcCheckTest, FileOfNothingHasNoMarkers) {

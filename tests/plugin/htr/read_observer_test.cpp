@@ -108,8 +108,7 @@ TEST(HtrReadObserver, HearsOfOddNumbers) {
                           At(11, 21, HtrOddity::kExtraCells, "8 9"),
                           At(13, 1, HtrOddity::kUnreadableNumber, "x", "Frame"),
                           At(13, 3, HtrOddity::kNumberOutOfBounds, "1e999", "Tx"),
-                          At(13, 18, HtrOddity::kMissingNumber, "", "BoneScaleFactor"),
-                          At(12, 2, HtrOddity::kFrameCountMismatch, "a")));
+                          At(13, 18, HtrOddity::kMissingNumber, "", "BoneScaleFactor")));
 }
 
 TEST(HtrReadObserver, HearsOfTroubleInTheHierarchy) {
@@ -127,13 +126,6 @@ TEST(HtrReadObserver, HearsOfMotionWithoutASegment) {
   EXPECT_THAT(OdditiesOf({"[Nobody]", "1 2 3", "[EndOfFile]"}),
               ElementsAre(At(1, 2, HtrOddity::kUnknownSegmentSection, "Nobody"),
                           At(2, 1, HtrOddity::kMotionOfUnknownSegment, "1 2 3")));
-}
-
-TEST(HtrReadObserver, HearsOfFrameCountsWhereTheSectionStarts) {
-  EXPECT_THAT(
-      OdditiesOf({"[Header]", "NumFrames 2", "NumSegments 1", "[SegmentNames&Hierarchy]",
-                  "a GLOBAL", "[BasePosition]", "a 0 0 0 0 0 0 1", "[a]", "1 0 0 0 0 0 0 1"}),
-      ElementsAre(At(8, 2, HtrOddity::kFrameCountMismatch, "a")));
 }
 
 TEST(HtrReadObserver, HearsOnceOfALineThatIsCut) {
