@@ -3,7 +3,9 @@
 import os
 import pathlib
 import re
+import shutil
 import subprocess
+import tempfile
 import unittest
 
 ROOT = pathlib.Path(os.environ["ORVANE_SOURCE_DIR"])
@@ -40,6 +42,36 @@ class CommandsTest(unittest.TestCase):
             result = run("./dev", "fuzz", *arguments)
             self.assertEqual((result.returncode, result.stdout), (2, ""))
             self.assertIn("dev: fuzz needs a number of seconds", result.stderr)
+
+
+# In place of CMake: each target that it is asked to build becomes a program that succeeds, and writes
+# the file that it is given when it is there to write one.
+BUILDER = """#!/bin/sh
+while [ $# -gt 0 ] && [ "$1" != --target ]; do shift; done
+for target; do
+  for folder in bin bench; do
+    mkdir -p build/$folder
+    printf '#!/bin/sh\ncase $0 in */write_*) echo made >"$1" ;; esac\n' >"build/$folder/$target"
+    chmod +x "build/$folder/$target"
+  done
+done
+"""
+
+
+class BenchTest(unittest.TestCase):
+    def test_it_builds_whatever_it_starts(self):
+        folder = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
+        shutil.copy(ROOT / "dev", folder)
+        shutil.copytree(ROOT / "tools", folder / "tools")
+        (folder / "bench").mkdir()
+        shutil.copy(ROOT / "bench/measure_program.py", folder / "bench")
+        (folder / "cmake").write_text(BUILDER)
+        (folder / "cmake").chmod(0o755)
+        environment = dict(os.environ, PATH=f"{folder}:{os.environ['PATH']}")
+        result = subprocess.run(["./dev", "bench"], cwd=folder, env=environment, capture_output=True,
+                                text=True, check=False)
+        self.assertEqual((result.returncode, result.stderr), (0, ""))
+        self.assertIn("convert", result.stdout)
 
 
 class SetupTest(unittest.TestCase):
