@@ -99,6 +99,11 @@ need() {
   ((${#packages[@]} == 0)) || install_packages "${packages[@]}"
 }
 
+need_everything() {
+  need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" "$package_needs" \
+    "$sanitize_needs"
+}
+
 # The npm packages of package-lock.json, installed again only when that file has changed.
 need_node_modules() {
   [[ node_modules/.package-lock.json -nt package-lock.json ]] && return

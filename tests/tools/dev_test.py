@@ -25,7 +25,7 @@ class CommandsTest(unittest.TestCase):
     def test_help_lists_every_command(self):
         listed = set(re.findall(r"^  (\w+) ", run("./dev", "help").stdout, re.MULTILINE))
         self.assertEqual(listed,
-                         {"help", "build", "test", "windows", "check", "sanitize", "package", "bench", "demo",
+                         {"help", "setup", "build", "test", "windows", "check", "sanitize", "package", "bench", "demo",
                           "fuzz"})
 
     def test_no_command_gives_the_help(self):
@@ -74,6 +74,13 @@ class BenchTest(unittest.TestCase):
         self.assertIn("convert", result.stdout)
 
 
+class ContinuousIntegrationTest(unittest.TestCase):
+    def test_it_installs_before_anything_else(self):
+        commands = re.findall(r"(?m)^\./dev (.*)$", (ROOT / ".ci/run").read_text())
+        self.assertEqual(commands[0], "setup")
+        self.assertGreater(len(commands), 5)
+
+
 class SetupTest(unittest.TestCase):
     NEEDS = "$'command bash bash\\ncommand no-such-command one\\nheader no/such.h two\\npath /* x'"
 
@@ -90,6 +97,14 @@ class SetupTest(unittest.TestCase):
         update, install = result.stderr.splitlines()
         self.assertTrue(update.endswith(" update"), update)
         self.assertTrue(install.endswith(" one two"), install)
+
+    def test_everything_that_any_command_needs_is_installed_at_once(self):
+        nothing_is_there = "has_command() { false; }; has_path() { false; }; can_install() { true; }"
+        result = with_setup(f"{nothing_is_there}; need_everything")
+        listed = re.findall(r"(?m)^(?:command|header|path) +\S+ +(\S+)$", (ROOT / "tools/setup.sh").read_text())
+        self.assertGreater(len(listed), 20)
+        self.assertEqual(result.stdout, f"dev: installing {' '.join(sorted(set(listed)))}\n")
+        self.assertEqual(len(result.stderr.splitlines()), 2)
 
     def test_another_system_gets_the_names_and_a_stop(self):
         result = with_setup(f"can_install() {{ false; }}; need {self.NEEDS}; echo went on")
