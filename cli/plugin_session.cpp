@@ -1,6 +1,10 @@
 #include "cli/plugin_session.h"
 
+#include <charconv>
+#include <cstdint>
+#include <cstdlib>
 #include <optional>
+#include <string_view>
 
 #include "cli/dialog_flags.h"
 #include "cli/progress_line.h"
@@ -25,6 +29,18 @@ std::unique_ptr<host::UserSettings> OpenUserSettings() {
                   "--settings fresh does without them."}}};
 }
 
+// What SOURCE_DATE_EPOCH says, or nothing when it says no number of seconds.
+std::optional<std::int64_t> EpochOfEnvironment() {
+  const char* const variable = std::getenv("SOURCE_DATE_EPOCH");
+  if (variable == nullptr) return {};
+  const std::string_view text = variable;
+  const char* const end = text.data() + text.size();
+  std::int64_t seconds = 0;
+  const auto [rest, error] = std::from_chars(text.data(), end, seconds);
+  if (error != std::errc() || rest != end) return {};
+  return seconds;
+}
+
 int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
 
 }  // namespace
@@ -36,6 +52,7 @@ PluginSession::PluginSession(const std::string& module_path, Settings settings) 
   } else {
     fresh_settings_.emplace();
   }
+  if (const std::optional<std::int64_t> epoch = EpochOfEnvironment()) clock_.emplace(*epoch);
   desktop_.emplace();
   application_ = std::make_unique<host::Application>();
   std::string refusal;

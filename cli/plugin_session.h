@@ -12,6 +12,7 @@
 #include "host/application/module.h"
 #include "host/desktop/scripted_desktop.h"
 #include "host/desktop/settings.h"
+#include "host/desktop/stopped_clock.h"
 
 // A host with the plug-in loaded, used by somebody who knows only the command line.
 
@@ -22,8 +23,9 @@ enum class Settings { kFresh, kUser };
 
 class PluginSession {
  public:
-  // Starts the host with a new scene and loads the module in the file `module_path`. Throws a
-  // Failure when that cannot be done. There is one session at a time.
+  // Starts the host with a new scene and loads the module in the file `module_path`, which finds
+  // the clock at the moment of the environment variable SOURCE_DATE_EPOCH when that is a number of
+  // seconds. Throws a Failure when that cannot be done. There is one session at a time.
   PluginSession(const std::string& module_path, Settings settings);
   ~PluginSession();
   PluginSession(const PluginSession&) = delete;
@@ -64,9 +66,10 @@ class PluginSession {
   bool Run(const Task& task, const std::vector<ControlWish>& wishes, bool show_progress,
            const Entry& entry);
 
-  // One of them. What stands below is destroyed before.
+  // One of the settings. What stands below is destroyed before.
   std::optional<host::FreshSettings> fresh_settings_;
   std::unique_ptr<host::UserSettings> user_settings_;
+  std::optional<host::StoppedClock> clock_;
   std::optional<host::ScriptedDesktop> desktop_;
   std::unique_ptr<host::Application> application_;
   std::unique_ptr<host::Module> module_;

@@ -25,8 +25,10 @@ class SystemsTest(unittest.TestCase):
             shutil.copy(ROOT / "examples" / name, self.folder / "examples" / name)
 
     def run_command(self, *command, status=0):
-        """What the command prints, with line ends as on this system."""
-        result = subprocess.run(command, cwd=self.folder, capture_output=True, check=False)
+        """What the command prints, with line ends as on this system. Its clock stands still."""
+        environment = dict(os.environ, SOURCE_DATE_EPOCH="741476948")
+        result = subprocess.run(command, cwd=self.folder, env=environment, capture_output=True,
+                                check=False)
         self.assertEqual(result.returncode, status, result.stderr.decode())
         return result.stdout.decode().replace("\r\n", "\n")
 

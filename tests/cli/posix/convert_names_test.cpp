@@ -1,8 +1,7 @@
 #include "tests/cli/orvane_test.h"
 #include "tests/support/trc_text.h"
 
-// What a conversion takes that Windows does not have: names of any bytes, symbolic links, and a
-// clock that can be set.
+// What a conversion takes that Windows does not have: names of any bytes, and symbolic links.
 
 namespace {
 
@@ -53,16 +52,6 @@ TEST_F(PosixConvertTest, ReadsTheFileThatThePathLeadsTo) {
   EXPECT_EQ(Orvane(command).status, 0);
   EXPECT_FALSE(Exists("walk.bvk"));
   EXPECT_THAT(Read("takes/walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n1\t7.000000\t"));
-}
-
-TEST_F(PosixConvertTest, TellsTheTimeOfTheClock) {
-  Write("a.trc", Take());
-  Write("b.trc", Take());
-  test::ProgramRun run = Command({"convert", "a.trc", "b.trc"});
-  run.environment.emplace_back("SOURCE_DATE_EPOCH=741476948");
-  EXPECT_EQ(RunProgram(run).status, 0);
-  EXPECT_THAT(Read("a.bvk"), HasSubstr("$DateTime   Wed Jun 30 21:49:08 1993\n\n"));
-  EXPECT_THAT(Read("ConvertBVKLog.txt"), HasSubstr("Log\nWed Jun 30 21:49:08 1993\nProcessing"));
 }
 
 }  // namespace

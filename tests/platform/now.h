@@ -1,23 +1,25 @@
-#include "platform/local_time.h"
+#pragma once
 
 #include <gtest/gtest.h>
 
 #include <ctime>
 #include <string>
 
-namespace {
+#include "platform/local_time.h"
+
+namespace test {
 
 // What the C library says of the current moment.
-std::string Now() {
+inline std::string Now() {
   const std::time_t now = std::time(nullptr);
   return std::ctime(&now);
 }
 
-// A second may pass between the two answers.
-TEST(LocalTime, IsThatOfTheSystem) {
+// Expects the platform to say the same. A second may pass between the two answers.
+inline void ExpectLocalTimeToBeNow() {
   const std::string before = Now();
   const std::string text = platform::LocalTimeText();
   EXPECT_TRUE(text == before || text == Now()) << text << before;
 }
 
-}  // namespace
+}  // namespace test

@@ -1,0 +1,22 @@
+#include "host/desktop/stopped_clock.h"
+
+#include <utility>
+
+#include "platform/program_clock.h"
+
+namespace {
+
+const std::int64_t* installed_clock = nullptr;
+
+}  // namespace
+
+const std::int64_t* SkelderStoppedClock() { return installed_clock; }
+
+namespace host {
+
+StoppedClock::StoppedClock(std::int64_t seconds)
+    : seconds_(seconds), previous_(std::exchange(installed_clock, &seconds_)) {}
+
+StoppedClock::~StoppedClock() { installed_clock = previous_; }
+
+}  // namespace host
