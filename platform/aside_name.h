@@ -1,23 +1,25 @@
 #pragma once
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 
-// How a file is named that is being written beside the place that it is for.
+// How a file is named that is being written beside the place that it is for, and a folder for such
+// files. Both names end in two numbers: that of the process, and their own among those of the
+// process.
 
 namespace platform {
 
-// ".orvane-PROCESS-NUMBER": that of the process, and its own among those of the process.
-std::string AsideName(std::uint64_t process, int number);
+// ".orvane-PROCESS-NUMBER".
+std::string AsideName(std::uint32_t process, int number);
 
-// Whether `name` is such a name.
-bool IsAsideName(std::string_view name);
+// "~orvane-folder-PROCESS-NUMBER". Not hidden: the system lets its user choose no folder that is.
+std::string ScratchFolderName(std::uint32_t process, int number);
 
-// What the names of folders for such files begin with; the same two numbers follow. They are not
-// hidden: the system lets its user choose no folder that is.
-inline constexpr char kScratchFolderPrefix[] = "~orvane-folder-";
-
-std::string ScratchFolderName(std::uint64_t process, int number);
+// The process in a name of the one kind or the other; nothing when `name` is not exactly what the
+// functions above make.
+std::optional<std::uint32_t> ProcessOfAsideName(std::string_view name);
+std::optional<std::uint32_t> ProcessOfScratchFolderName(std::string_view name);
 
 }  // namespace platform

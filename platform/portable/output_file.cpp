@@ -1,7 +1,6 @@
 #include "platform/output_file.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -13,7 +12,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "platform/abandoned.h"
 #include "platform/aside_name.h"
+#include "platform/portable/file_lock.h"
 
 namespace platform {
 namespace {
@@ -32,25 +33,6 @@ std::string FollowLink(const std::string& path) {
 std::string FolderOf(const std::string& path) {
   const std::filesystem::path folder = std::filesystem::path(path).parent_path();
   return folder.empty() ? "." : folder.string();
-}
-
-// Who writes holds a lock until the end: what nobody has locked belongs to a process that was
-// killed.
-bool Lock(int file) { return flock(file, LOCK_EX | LOCK_NB) == 0; }
-
-void RemoveUnlocked(const std::string& path) {
-  const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
-  if (file < 0) return;
-  if (Lock(file)) unlink(path.c_str());
-  close(file);
-}
-
-void RemoveAbandonedFiles(const std::string& folder) {
-  std::error_code error;
-  std::filesystem::directory_iterator entry(folder, error);
-  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    if (IsAsideName(entry->path().filename().string())) RemoveUnlocked(entry->path().string());
-  }
 }
 
 // Locks a file just made. Returns false when somebody took it for an abandoned one before that. On
@@ -122,7 +104,7 @@ std::string OutputFile::TakeOver(const std::string& path) {
 std::string OutputFile::CreateAside() {
   const std::string folder = FolderOf(path_);
   RemoveAbandonedFiles(folder);
-  const auto process = static_cast<std::uint64_t>(getpid());
+  const auto process = static_cast<std::uint32_t>(getpid());
   for (int attempt = 0; aside_.empty(); ++attempt) {
     const std::string name = folder + "/" + AsideName(process, attempt);
     file_ = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);

@@ -1,7 +1,6 @@
 #include "platform/scratch_folder.h"
 
 #include <fcntl.h>
-#include <sys/file.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -11,33 +10,15 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/abandoned.h"
 #include "platform/aside_name.h"
+#include "platform/portable/file_lock.h"
 
 namespace platform {
 namespace {
 
 int OpenFolder(const std::string& path) {
   return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
-}
-
-bool Lock(int folder) { return flock(folder, LOCK_EX | LOCK_NB) == 0; }
-
-// Removes the folder unless somebody holds its lock.
-void RemoveUnlocked(const std::string& path) {
-  const int folder = OpenFolder(path);
-  if (folder < 0) return;
-  std::error_code ignored;
-  if (Lock(folder)) std::filesystem::remove_all(path, ignored);
-  close(folder);
-}
-
-void RemoveAbandonedFolders(const std::string& parent) {
-  std::error_code error;
-  std::filesystem::directory_iterator entry(parent, error);
-  for (; !error && entry != std::filesystem::directory_iterator(); entry.increment(error)) {
-    const std::string name = entry->path().filename().string();
-    if (name.rfind(kScratchFolderPrefix, 0) == 0) RemoveUnlocked(entry->path().string());
-  }
 }
 
 }  // namespace
@@ -52,7 +33,7 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
   RemoveAbandonedFolders(folder);
   // Who writes here meets a limit on the size of files as an error, and is not ended by it.
   std::signal(SIGXFSZ, SIG_IGN);
-  const auto process = static_cast<std::uint64_t>(getpid());
+  const auto process = static_cast<std::uint32_t>(getpid());
   for (int attempt = 0; path_.empty() && error_.empty(); ++attempt) {
     const std::string path = folder + "/" + ScratchFolderName(process, attempt);
     if (Make(path)) path_ = path;

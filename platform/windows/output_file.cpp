@@ -12,6 +12,7 @@
 #include <system_error>
 #include <vector>
 
+#include "platform/abandoned.h"
 #include "platform/aside_name.h"
 #include "platform/windows/text.h"
 
@@ -68,15 +69,6 @@ int OpenToWrite(const std::wstring& path, DWORD disposition) {
   return _open_osfhandle(reinterpret_cast<std::intptr_t>(file), _O_BINARY);
 }
 
-void RemoveAbandonedFiles(const fs::path& folder) {
-  std::error_code error;
-  fs::directory_iterator entry(folder, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    const std::wstring path = entry->path().wstring();
-    if (IsAsideName(Utf8FromWide(entry->path().filename().wstring()))) DeleteFileW(path.c_str());
-  }
-}
-
 // Gives the open file a new name, in one step.
 bool Rename(HANDLE file, const std::wstring& to, bool replace) {
   std::vector<std::byte> bytes(sizeof(FILE_RENAME_INFO) + to.size() * sizeof(wchar_t));
@@ -131,7 +123,7 @@ std::string OutputFile::TakeOver(const std::string& path) {
 
 std::string OutputFile::CreateAside() {
   const fs::path folder = FolderOf(path_);
-  RemoveAbandonedFiles(folder);
+  RemoveAbandonedFiles(Utf8FromWide(folder.wstring()));
   for (int attempt = 0; aside_.empty(); ++attempt) {
     const fs::path name = folder / AsideName(GetCurrentProcessId(), attempt);
     file_ = OpenToWrite(name.wstring(), CREATE_NEW);

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <system_error>
 
+#include "platform/abandoned.h"
 #include "platform/aside_name.h"
 #include "platform/windows/text.h"
 
@@ -15,37 +16,13 @@ namespace {
 
 namespace fs = std::filesystem;
 
-HANDLE OpenFolder(const std::wstring& path, DWORD access, DWORD share) {
-  return CreateFileW(path.c_str(), access, share, nullptr, OPEN_EXISTING,
-                     FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
-}
-
 // As long as the folder is open like this, nobody else may remove it.
 int HoldFolder(const std::wstring& path) {
-  const HANDLE folder = OpenFolder(path, GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE);
+  const HANDLE folder = CreateFileW(
+      path.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr, OPEN_EXISTING,
+      FILE_FLAG_BACKUP_SEMANTICS | FILE_FLAG_OPEN_REPARSE_POINT, nullptr);
   if (folder == INVALID_HANDLE_VALUE) return -1;
   return _open_osfhandle(reinterpret_cast<std::intptr_t>(folder), _O_RDONLY);
-}
-
-bool IsHeld(const std::wstring& path) {
-  constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
-  const HANDLE folder = OpenFolder(path, DELETE, kShareAll);
-  if (folder == INVALID_HANDLE_VALUE) return true;
-  CloseHandle(folder);
-  return false;
-}
-
-void RemoveAbandonedFolders(const fs::path& parent) {
-  std::error_code error;
-  fs::directory_iterator entry(parent, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    std::error_code ignored;
-    const std::string name = Utf8FromWide(entry->path().filename().wstring());
-    if (name.rfind(kScratchFolderPrefix, 0) != 0 || !fs::is_directory(entry->path(), ignored)) {
-      continue;
-    }
-    if (!IsHeld(entry->path().wstring())) fs::remove_all(entry->path(), ignored);
-  }
 }
 
 }  // namespace
@@ -60,7 +37,7 @@ ScratchFolder::ScratchFolder(const std::string& parent) {
     error_ = error.message();
     return;
   }
-  RemoveAbandonedFolders(folder);
+  RemoveAbandonedFolders(Utf8FromWide(folder.wstring()));
   for (int attempt = 0; path_.empty() && error_.empty(); ++attempt) {
     const fs::path path = folder / ScratchFolderName(GetCurrentProcessId(), attempt);
     if (Make(Utf8FromWide(path.wstring()))) path_ = Utf8FromWide(path.wstring());

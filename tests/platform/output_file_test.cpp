@@ -123,10 +123,18 @@ TEST_F(OutputFileTest, RemovesNothingThatSomebodyIsWriting) {
 }
 
 TEST_F(OutputFileTest, RemovesNothingOfAnotherName) {
-  const std::vector<std::string> names = {".orvane",   ".orvane-",      ".orvane-1",
-                                          ".orvane-a", ".orvane-1-2.x", "orvane-1-2"};
+  const std::vector<std::string> names = {".orvane",
+                                          ".orvane-",
+                                          ".orvane-0-0",
+                                          ".orvane-04194305-0",
+                                          ".orvane-4194305",
+                                          ".orvane-4194305-00",
+                                          ".orvane-4194305-2.x",
+                                          ".orvane-99999999999999999999-0",
+                                          ".orvane-a",
+                                          "orvane-4194305-2"};
   for (const std::string& name : names) WriteFile(folder_.File(name), "mine");
-  std::filesystem::create_directory(folder_.File(".orvane-1-1"));
+  std::filesystem::create_directory(folder_.File(".orvane-4194305-1"));
   {
     OutputFile file(path_, false);
     EXPECT_EQ(file.Write("bytes"), "");

@@ -2,7 +2,8 @@
 
 #include <gmock/gmock.h>
 
-#include <optional>
+#include <string>
+#include <vector>
 
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
@@ -12,6 +13,17 @@ namespace {
 using platform::ScratchFolder;
 using testing::IsEmpty;
 using testing::SizeIs;
+
+// As a process makes it, with a file in it.
+void MakeFolder(const test::TemporaryFolder& parent, const std::string& name) {
+  std::filesystem::create_directory(parent.File(name));
+  std::filesystem::permissions(parent.File(name), std::filesystem::perms::owner_all);
+  test::WriteFile(parent.File(name + "/file"), "bytes");
+}
+
+bool HoldsAFile(const test::TemporaryFolder& parent, const std::string& name) {
+  return std::filesystem::exists(parent.File(name + "/file"));
+}
 
 TEST(ScratchFolderTest, IsThereUntilItsEndAndTakesItsFilesAlong) {
   const test::TemporaryFolder parent;
@@ -34,13 +46,41 @@ TEST(ScratchFolderTest, IsItsOwnFolderEachTime) {
 TEST(ScratchFolderTest, RemovesWhatAKilledProcessHasLeftAndNoMore) {
   const test::TemporaryFolder parent;
   const ScratchFolder in_use(parent.Path().string());
-  std::filesystem::create_directories(parent.Path() / "~orvane-folder-1-0/inner");
-  std::filesystem::create_directory(parent.Path() / "somebody's");
+  MakeFolder(parent, "~orvane-folder-4194305-0");
+  MakeFolder(parent, "~orvane-folder-4194305-2147483647");
+  MakeFolder(parent, "somebody's");
   const ScratchFolder next(parent.Path().string());
   EXPECT_THAT(test::NamesIn(parent.Path()),
               testing::UnorderedElementsAre(
                   std::filesystem::path(in_use.Path()).filename().string(),
                   std::filesystem::path(next.Path()).filename().string(), "somebody's"));
+}
+
+TEST(ScratchFolderTest, RemovesNothingOfAnotherName) {
+  const test::TemporaryFolder parent;
+  const std::vector<std::string> names = {"~orvane-folder-",
+                                          "~orvane-folder-+4194305-0",
+                                          "~orvane-folder-0-0",
+                                          "~orvane-folder-04194305-0",
+                                          "~orvane-folder-4194305",
+                                          "~orvane-folder-4194305-",
+                                          "~orvane-folder-4194305--1",
+                                          "~orvane-folder-4194305-0 of 2026",
+                                          "~orvane-folder-4194305-00",
+                                          "~orvane-folder-99999999999999999999-0",
+                                          "~orvane-folder-Photos of 2026",
+                                          "~orvane-folders-4194305-0"};
+  for (const std::string& name : names) MakeFolder(parent, name);
+  { const ScratchFolder folder(parent.Path().string()); }
+  EXPECT_THAT(test::NamesIn(parent.Path()), testing::UnorderedElementsAreArray(names));
+  for (const std::string& name : names) EXPECT_TRUE(HoldsAFile(parent, name)) << name;
+}
+
+TEST(ScratchFolderTest, RemovesNoFileOfSuchAName) {
+  const test::TemporaryFolder parent;
+  test::WriteFile(parent.File("~orvane-folder-4194305-0"), "mine");
+  { const ScratchFolder folder(parent.Path().string()); }
+  EXPECT_THAT(test::NamesIn(parent.Path()), SizeIs(1));
 }
 
 TEST(ScratchFolderTest, TellsWhyItCannotBeMade) {
