@@ -13,6 +13,7 @@
 #include "cli/bvk_summary.h"
 #include "cli/conversion_plan.h"
 #include "cli/messages.h"
+#include "cli/output_complaint.h"
 #include "cli/trc_worth.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
@@ -232,9 +233,8 @@ class BatchConversion {
       }
       return;
     }
-    const bool is_taken = file.IsTaken();
-    Settle(conversion, is_taken ? ConversionStatus::kExists : ConversionStatus::kFailed,
-           conversion.output, error, is_taken ? "It is kept; --force replaces it." : "");
+    conversion.status = file.IsTaken() ? ConversionStatus::kExists : ConversionStatus::kFailed;
+    conversion.errors.push_back(ComplainAboutOutput(conversion.output, file, error));
   }
 
   // The markers of the input have been counted before.

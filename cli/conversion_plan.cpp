@@ -8,6 +8,7 @@
 #include <unordered_map>
 #include <utility>
 
+#include "cli/output_complaint.h"
 #include "host/application/extension_match.h"
 #include "platform/file_place.h"
 #include "platform/input_file.h"
@@ -71,12 +72,8 @@ void CheckOutput(Conversion& conversion, bool replace) {
   const platform::OutputFile file(conversion.output, replace);
   const std::string reason = file.WhyImpossible();
   if (reason.empty()) return;
-  if (file.IsTaken()) {
-    Settle(conversion, ConversionStatus::kExists,
-           {conversion.output, reason, "It is kept; --force replaces it."});
-  } else {
-    Settle(conversion, ConversionStatus::kFailed, {conversion.output, reason, ""});
-  }
+  Settle(conversion, file.IsTaken() ? ConversionStatus::kExists : ConversionStatus::kFailed,
+         ComplainAboutOutput(conversion.output, file, reason));
 }
 
 Conversion Plan(const std::string& name, const OutputWishes& wishes) {

@@ -14,6 +14,7 @@
 #include "cli/conversion_report.h"
 #include "cli/mapping_preview.h"
 #include "cli/messages.h"
+#include "cli/output_complaint.h"
 #include "cli/progress_line.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
@@ -200,8 +201,7 @@ class Converting {
       if (error.empty()) {
         delivered_logs_.push_back(path);
       } else {
-        Print(Severity::kWarning,
-              {path, error, file.IsTaken() ? "It is kept; --force replaces it." : ""});
+        Print(Severity::kWarning, ComplainAboutOutput(path, file, error));
       }
     }
   }

@@ -12,6 +12,7 @@
 #include "cli/interruption.h"
 #include "cli/mapping_user.h"
 #include "cli/messages.h"
+#include "cli/output_complaint.h"
 #include "cli/picks_table.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
@@ -27,8 +28,7 @@ constexpr char kMappingName[] = "/mapping.mnm";
 
 Failure CannotWrite(const std::string& path, const platform::OutputFile& file,
                     const std::string& reason) {
-  const std::string advice = file.IsTaken() ? "It is kept; --force replaces it." : "";
-  return {ExitStatus::kInputOutput, {{path, reason, advice}}};
+  return {ExitStatus::kInputOutput, {ComplainAboutOutput(path, file, reason)}};
 }
 
 // The last of what the plug-in has told, as the reason why `file` came to nothing.

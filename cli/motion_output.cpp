@@ -4,6 +4,7 @@
 #include <filesystem>
 
 #include "cli/interruption.h"
+#include "cli/output_complaint.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
 #include "plugin/text/files.h"
@@ -46,8 +47,7 @@ void MotionOutput::Deliver() {
 }
 
 Failure MotionOutput::CannotWrite(const std::string& reason) const {
-  const std::string advice = file_.IsTaken() ? "It is kept; --force replaces it." : "";
-  return {ExitStatus::kInputOutput, {{path_, reason, advice}}};
+  return {ExitStatus::kInputOutput, {ComplainAboutOutput(path_, file_, reason)}};
 }
 
 bool IsMotionFileName(const std::string& name) {

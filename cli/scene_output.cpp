@@ -4,6 +4,7 @@
 
 #include "cli/input.h"
 #include "cli/interruption.h"
+#include "cli/output_complaint.h"
 #include "host/gltf/writer.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
@@ -49,8 +50,7 @@ std::size_t SceneOutput::Deliver(const host::Scene& scene, const std::string& so
 }
 
 Failure SceneOutput::CannotWrite(const std::string& reason) const {
-  const std::string advice = file_.IsTaken() ? "It is kept; --force replaces it." : "";
-  return {ExitStatus::kInputOutput, {{path_, reason, advice}}};
+  return {ExitStatus::kInputOutput, {ComplainAboutOutput(path_, file_, reason)}};
 }
 
 bool IsSceneFileName(const std::string& path) {

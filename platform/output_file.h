@@ -25,6 +25,10 @@ class OutputFile {
   // Whether a file is there that would be replaced if that were allowed.
   bool IsTaken() const;
 
+  // Whether a file is there that nobody may write, whatever this user may otherwise do. It is never
+  // replaced.
+  bool IsReadOnly() const;
+
   // Returns why the file cannot be made, as far as it can be told before trying, or an empty text.
   std::string WhyImpossible() const;
 

@@ -23,6 +23,8 @@ std::string ErrorText(int error) { return std::generic_category().message(error)
 
 std::string LastError() { return ErrorText(errno); }
 
+constexpr char kReadOnly[] = "it is read-only";
+
 std::string FollowLink(const std::string& path) {
   std::error_code error;
   if (!std::filesystem::is_symlink(path, error)) return path;
@@ -73,11 +75,19 @@ bool OutputFile::IsTaken() const {
   return S_ISREG(status.st_mode) || S_ISLNK(status.st_mode);
 }
 
+bool OutputFile::IsReadOnly() const {
+  constexpr mode_t kWrite = S_IWUSR | S_IWGRP | S_IWOTH;
+  struct stat status {};
+  return stat(path_.c_str(), &status) == 0 && S_ISREG(status.st_mode) &&
+         (status.st_mode & kWrite) == 0;
+}
+
 std::string OutputFile::WhyImpossible() const {
   struct stat status {};
   if (stat(path_.c_str(), &status) == 0) {
     if (S_ISDIR(status.st_mode)) return ErrorText(EISDIR);
     if (!S_ISREG(status.st_mode)) return "Not a regular file";
+    if (IsReadOnly()) return kReadOnly;
     if (!replace_) return ErrorText(EEXIST);
   }
   const std::string folder = FolderOf(path_);
@@ -131,6 +141,7 @@ std::string OutputFile::FillAside(std::string_view bytes) {
 std::string OutputFile::Finish() const { return fsync(file_) == 0 ? "" : LastError(); }
 
 std::string OutputFile::Deliver() {
+  if (replace_ && IsReadOnly()) return kReadOnly;
   const int result =
       replace_ ? rename(aside_.c_str(), path_.c_str()) : MoveWithoutReplacing(aside_, path_);
   if (result != 0) return LastError();

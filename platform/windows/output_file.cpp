@@ -21,6 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
+constexpr char kReadOnly[] = "it is read-only";
+
 std::string ErrorNumberText(int error) { return std::generic_category().message(error); }
 
 HANDLE HandleOf(int file) {
@@ -95,9 +97,15 @@ bool OutputFile::IsTaken() const {
   return !replace_ && Exists(path) && !IsFolder(path);
 }
 
+bool OutputFile::IsReadOnly() const {
+  const std::wstring path = WideFromUtf8(path_);
+  return Exists(path) && !IsFolder(path) && (AttributesOf(path) & FILE_ATTRIBUTE_READONLY) != 0;
+}
+
 std::string OutputFile::WhyImpossible() const {
   const std::wstring path = WideFromUtf8(path_);
   if (IsFolder(path)) return ErrorNumberText(EISDIR);
+  if (IsReadOnly()) return kReadOnly;
   if (Exists(path) && !replace_) return ErrorNumberText(EEXIST);
   const std::wstring name = FolderOf(path_);
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
@@ -154,6 +162,7 @@ std::string OutputFile::Finish() const {
 }
 
 std::string OutputFile::Deliver() {
+  if (replace_ && IsReadOnly()) return kReadOnly;
   std::error_code error;
   const fs::path place = fs::absolute(WideFromUtf8(path_), error);
   if (error) return error.message();

@@ -66,6 +66,26 @@ TEST_F(OutputFileTest, ReplacesAnExistingFileOnlyOnDelivery) {
   EXPECT_EQ(ReadFile(path_), "new");
 }
 
+TEST_F(OutputFileTest, ReplacesNoFileThatNobodyMayWrite) {
+  constexpr auto kWrite = std::filesystem::perms::owner_write |
+                          std::filesystem::perms::group_write |
+                          std::filesystem::perms::others_write;
+  using std::filesystem::perm_options;
+  WriteFile(path_, "old");
+  OutputFile file(path_, true);
+  EXPECT_FALSE(file.IsReadOnly());
+  EXPECT_EQ(file.Write("new"), "");
+  std::filesystem::permissions(path_, kWrite, perm_options::remove);
+  EXPECT_EQ(file.Deliver(), "it is read-only");
+  for (const bool replace : {false, true}) {
+    const OutputFile other(path_, replace);
+    EXPECT_TRUE(other.IsReadOnly());
+    EXPECT_EQ(other.WhyImpossible(), "it is read-only");
+  }
+  EXPECT_EQ(ReadFile(path_), "old");
+  std::filesystem::permissions(path_, kWrite, perm_options::add);
+}
+
 TEST_F(OutputFileTest, DeliversAFileThatSomebodyElseHasWritten) {
   const std::string made = folder_.Write("made", "bytes");
   OutputFile file(path_, false);

@@ -77,6 +77,43 @@ TEST_F(PermissionsTest, AReadOnlyFolderTakesNoMarkers) {
   EXPECT_THAT(test::NamesIn(folder_.Path() / "out"), IsEmpty());
 }
 
+// Whoever runs the program: the superuser may write everything.
+TEST_F(PermissionsTest, WhatNobodyMayWriteIsNotReplaced) {
+  const std::string examples = ORVANE_SOURCE_DIR "/examples/";
+  Write("picks", test::ReadFile(examples + "walk.mnm"));
+  Write("walk.trc", test::ReadFile(examples + "walk.trc"));
+  Write("run.trc", Read("walk.trc"));
+  ASSERT_EQ(Orvane({"import", "walk.htr", "-o", "scene.glb"}).status, 0);
+  const std::vector<std::vector<std::string>> commands = {
+      {"old.glb", "import", "walk.htr", "-o", "old.glb"},
+      {"old.htr", "export", "scene.glb", "--select", "Hips", "-o", "old.htr"},
+      {"old.bvk", "convert", "walk.trc", "-o", "old.bvk", "--quiet"},
+      {"old.mnm", "map", "create", "walk.trc", "--picks", "picks", "-o", "old.mnm"}};
+  for (std::vector<std::string> command : commands) {
+    const std::string output = command.front();
+    command.erase(command.begin());
+    Write(output, "mine");
+    SetPermissions(output, 0444);
+    for (int times = 0; times < 2; ++times) {
+      const ProgramResult result = Orvane(command);
+      EXPECT_EQ(result.status, 3);
+      EXPECT_THAT(result.output, IsEmpty());
+      EXPECT_EQ(result.error, "orvane: " + output +
+                                  ": it is read-only\n"
+                                  "  It is kept, also with --force; make it writable first.\n");
+      command.emplace_back("--force");
+    }
+    EXPECT_EQ(Read(output), "mine");
+    EXPECT_EQ(PermissionsOf(output), 0444U);
+  }
+  Write("ConvertBVKLog.txt", "mine");
+  SetPermissions("ConvertBVKLog.txt", 0444);
+  EXPECT_EQ(Orvane({"convert", "walk.trc", "run.trc", "--force"}).error,
+            "orvane: ConvertBVKLog.txt: it is read-only\n"
+            "  It is kept, also with --force; make it writable first.\n");
+  EXPECT_EQ(Read("ConvertBVKLog.txt"), "mine");
+}
+
 TEST_F(PermissionsTest, AReplacedSceneKeepsThem) {
   Write("walk.glb", "the old scene");
   SetPermissions("walk.glb", 0604);
