@@ -14,6 +14,7 @@
 
 #include "platform/aside_name.h"
 #include "platform/portable/file_lock.h"
+#include "platform/portable/uninterrupted.h"
 
 namespace platform {
 namespace {
@@ -53,7 +54,8 @@ bool IsAbandoned(int file, const Kind& kind) {
 }
 
 void RemoveAbandoned(const fs::path& path, const Kind& kind) {
-  const int file = open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC);
+  const int file = Uninterrupted(
+      [&path] { return open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); });
   if (file < 0) return;
   std::error_code ignored;
   if (IsAbandoned(file, kind)) fs::remove_all(path, ignored);

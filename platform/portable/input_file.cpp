@@ -7,6 +7,8 @@
 #include <cerrno>
 #include <system_error>
 
+#include "platform/portable/uninterrupted.h"
+
 namespace platform {
 namespace {
 
@@ -23,7 +25,8 @@ std::string WhyNotRegular(int file) {
 
 std::string WhyUnreadable(const std::string& path) {
   // Without O_NONBLOCK, opening a named pipe would wait for somebody to write to it.
-  const int file = open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+  const int file =
+      Uninterrupted([&path] { return open(path.c_str(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); });
   if (file < 0) return LastError();
   const std::string reason = WhyNotRegular(file);
   close(file);

@@ -15,6 +15,7 @@
 #include "platform/abandoned.h"
 #include "platform/aside_name.h"
 #include "platform/portable/file_lock.h"
+#include "platform/portable/uninterrupted.h"
 
 namespace platform {
 namespace {
@@ -103,7 +104,7 @@ std::string OutputFile::Write(std::string_view bytes) {
 }
 
 std::string OutputFile::TakeOver(const std::string& path) {
-  file_ = open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC);
+  file_ = Uninterrupted([&path] { return open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC); });
   if (file_ < 0) return LastError();
   aside_ = path;
   std::string error = TakePermissions(file_, path_);
@@ -117,7 +118,8 @@ std::string OutputFile::CreateAside() {
   const auto process = static_cast<std::uint32_t>(getpid());
   for (int attempt = 0; aside_.empty(); ++attempt) {
     const std::string name = folder + "/" + AsideName(process, attempt);
-    file_ = open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
+    file_ = Uninterrupted(
+        [&name] { return open(name.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666); });
     if (file_ < 0 && errno != EEXIST) return LastError();
     if (file_ < 0) continue;
     if (KeepFromRemoval(file_)) {
@@ -131,14 +133,17 @@ std::string OutputFile::CreateAside() {
 
 std::string OutputFile::FillAside(std::string_view bytes) {
   while (!bytes.empty()) {
-    const ssize_t written = write(file_, bytes.data(), bytes.size());
+    const ssize_t written =
+        Uninterrupted([this, bytes] { return write(file_, bytes.data(), bytes.size()); });
     if (written < 0) return LastError();
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
   return Finish();
 }
 
-std::string OutputFile::Finish() const { return fsync(file_) == 0 ? "" : LastError(); }
+std::string OutputFile::Finish() const {
+  return Uninterrupted([this] { return fsync(file_); }) == 0 ? "" : LastError();
+}
 
 std::string OutputFile::Deliver() {
   if (replace_ && IsReadOnly()) return kReadOnly;

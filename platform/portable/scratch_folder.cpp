@@ -13,12 +13,14 @@
 #include "platform/abandoned.h"
 #include "platform/aside_name.h"
 #include "platform/portable/file_lock.h"
+#include "platform/portable/uninterrupted.h"
 
 namespace platform {
 namespace {
 
 int OpenFolder(const std::string& path) {
-  return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC);
+  return Uninterrupted(
+      [&path] { return open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC); });
 }
 
 }  // namespace

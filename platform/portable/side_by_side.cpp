@@ -7,13 +7,13 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <csignal>
 #include <cstdio>
 #include <string_view>
 #include <thread>
 
 #include "platform/interrupt.h"
+#include "platform/portable/uninterrupted.h"
 
 namespace platform {
 namespace {
@@ -30,8 +30,8 @@ struct Piece {
 
 bool WriteAll(int file, std::string_view bytes) {
   while (!bytes.empty()) {
-    const ssize_t written = write(file, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
+    const ssize_t written =
+        Uninterrupted([file, bytes] { return write(file, bytes.data(), bytes.size()); });
     if (written < 0) return false;
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
@@ -110,8 +110,9 @@ class Runner {
 
   void Receive(std::size_t at) {
     std::array<char, 65536> bytes{};
-    const ssize_t received = read(running_[at].pipe, bytes.data(), bytes.size());
-    if (received < 0 && errno == EINTR) return;
+    const int pipe = running_[at].pipe;
+    const ssize_t received =
+        Uninterrupted([&bytes, pipe] { return read(pipe, bytes.data(), bytes.size()); });
     if (received > 0) {
       running_[at].result.append(bytes.data(), static_cast<std::size_t>(received));
     } else {
@@ -124,7 +125,7 @@ class Runner {
     running_.erase(running_.begin() + static_cast<std::ptrdiff_t>(at));
     close(piece.pipe);
     int status = 0;
-    while (waitpid(piece.process, &status, 0) < 0 && errno == EINTR) continue;
+    Uninterrupted([&piece, &status] { return waitpid(piece.process, &status, 0); });
     if (WIFEXITED(status) && WEXITSTATUS(status) == 0) {
       results_[piece.index] = std::move(piece.result);
     }
