@@ -25,7 +25,9 @@ std::string Read(const std::string& file, orvane::HtrDocument& document) {
   std::string name = ReadableHtrFile(file);
   std::string error = orvane::ReadHtrFile(document, name, true);
   if (error.empty() && document.segments().empty()) error = kNoSegments;
-  if (!error.empty()) throw Failure{ExitStatus::kInputOutput, {ComplainAbout(name, error)}};
+  if (!error.empty()) {
+    throw Failure{ExitStatus::kInputOutput, ComplainAboutRefusal(name, FileKind::kHtr, error)};
+  }
   return name;
 }
 

@@ -43,15 +43,20 @@ class BatchConversion {
       : order_(order), result_{std::move(conversions), ""} {}
 
   ConvertedBatch Run() {
+    ConvertAll();
+    for (Conversion& conversion : result_.conversions) NameCause(conversion);
+    return std::move(result_);
+  }
+
+ private:
+  void ConvertAll() {
     platform::HoldInterrupts();  // what is unfinished has to be put away
     const MarkerNaming naming(order_.mapping);
     for (Conversion& conversion : result_.conversions) Judge(conversion, naming);
     while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
-    return std::move(result_);
   }
 
- private:
   // What is delivered of a file depends on no other. One that the reader refuses before its rates
   // has a run of the plug-in begin.
   void Judge(Conversion& conversion, const MarkerNaming& naming) {

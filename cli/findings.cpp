@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <tuple>
+#include <utility>
 
 #include "plugin/text/numbers.h"
 
@@ -28,6 +29,16 @@ Finding* FindingList::Add(const FindingRule& rule, std::size_t line, std::size_t
   if (++total.count > kMostKeptOfARule) return nullptr;
   kept_.push_back({rule, line, column, {}, {}, {}});
   return &kept_.back();
+}
+
+void FindingList::ExplainErrors(Finding cause) {
+  std::erase_if(kept_, [](const Finding& finding) {
+    return finding.rule.severity != FindingSeverity::kError;
+  });
+  std::erase_if(totals_,
+                [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
+  ++totals_.try_emplace(cause.rule.code, Total{cause.rule.severity}).first->second.count;
+  kept_.insert(kept_.begin(), std::move(cause));
 }
 
 std::vector<Finding> FindingList::Sorted() const {

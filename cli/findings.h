@@ -51,6 +51,9 @@ class FindingList {
   // enough of that rule are kept.
   Finding* Add(const FindingRule& rule, std::size_t line, std::size_t column);
 
+  // Puts `cause` before the errors that follow from it, and drops all that is none.
+  void ExplainErrors(Finding cause);
+
   // Those that are kept, by line and column.
   std::vector<Finding> Sorted() const;
 

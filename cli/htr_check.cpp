@@ -4,9 +4,11 @@
 
 #include "cli/failure.h"
 #include "cli/file_bytes.h"
+#include "cli/htr_rules.h"
 #include "cli/htr_structure.h"
 #include "cli/htr_watcher.h"
 #include "cli/soundness.h"
+#include "cli/text_flaw.h"
 #include "plugin/htr/document_checker.h"
 #include "plugin/htr/reader.h"
 
@@ -18,6 +20,14 @@ orvane::HtrCell EndOf(std::string_view bytes) {
   const std::size_t last_break = bytes.rfind('\n');
   const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
   return {{}, breaks + 1, bytes.size() - last_line + 1};
+}
+
+// A mark that keeps nothing from being read is no more than what the watcher has told.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindHtrTextFlaw(bytes);
+  if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
+  NameFlawFirst(*flaw, htr::kFlaws[static_cast<std::size_t>(*flaw)],
+                "The import refuses the file; what else is odd about it is not told.", findings);
 }
 
 std::string Contents(const orvane::HtrDocument& document) {
@@ -41,6 +51,7 @@ CheckedFile CheckHtrFile(const std::string& file) {
   }
   RequireSound(file, orvane::FindFault(document));
   if (!watcher.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
+  NameFlaw(bytes, checked.findings);
   checked.contents = Contents(document);
   return checked;
 }

@@ -1,14 +1,22 @@
 #pragma once
 
+#include <array>
+
 #include "cli/findings.h"
+#include "cli/text_flaw.h"
 
 // Everything that the check of HTR files can find. docs/formats/htr.md explains the codes; a test
 // compares the two.
 
 namespace cli::htr {
 
+// The whole file, by TextFlaw
+inline constexpr std::array<FindingRule, kTextFlaws> kFlaws = {
+    Error("htr-empty"), Error("htr-encoding"), Error("htr-line-ends"),
+    Error("htr-first-section-lost")};
+
 // Lines
-inline constexpr FindingRule kByteOrderMark = Warning("htr-byte-order-mark");
+inline constexpr FindingRule kByteOrderMark = Note("htr-byte-order-mark");
 inline constexpr FindingRule kNul = Warning("htr-nul");
 inline constexpr FindingRule kLineCut = Warning("htr-line-cut");
 inline constexpr FindingRule kCarriageReturn = Warning("htr-carriage-return");

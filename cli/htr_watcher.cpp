@@ -30,8 +30,7 @@ struct PlainOddity {
 
 constexpr std::array<PlainOddity, 18> kPlainOddities = {{
     {HtrOddity::kByteOrderMark, kByteOrderMark, "a byte-order mark",
-     "text without one, in ASCII or UTF-8",
-     "It belongs to the first line, which is then not what it looks like."},
+     "text without one, in ASCII or UTF-8", "It belongs to the first line, which does not count."},
     {HtrOddity::kHiddenByNul, kNul, "a NUL byte", "text", "The rest of its line is not read."},
     {HtrOddity::kLongLine, kLineCut, "a line of more than 10239 bytes", "shorter lines",
      "It is read as several lines, of which the second starts here."},
@@ -70,6 +69,11 @@ constexpr std::array<PlainOddity, 18> kPlainOddities = {{
 
 void Watcher::OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
   if (oddity == HtrOddity::kHierarchyLinkedAgain) linked_again_ = true;
+  if (oddity == HtrOddity::kByteOrderMark) byte_order_mark_ = cell.text;
+  // A mark alone, or before a comment, has been told.
+  if (oddity == HtrOddity::kLineBeforeFirstSection && cell.text.data() == byte_order_mark_.data() &&
+      cell.text == byte_order_mark_)
+    return;
   if (AddPlain(oddity, cell)) return;
   switch (oddity) {
     case HtrOddity::kMissingNumber:

@@ -64,6 +64,7 @@ class Watcher : public orvane::HtrReadObserver {
   bool has_refused_ = false;
   bool was_stopped_ = false;
   bool linked_again_ = false;
+  std::string_view byte_order_mark_;
   std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
   std::size_t skipped_lines_ = 0;
   SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion

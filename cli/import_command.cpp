@@ -79,10 +79,7 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
   return {ExitStatus::kRefused, complaints};
 }
 
-ExitStatus Import(const ImportArguments& arguments) {
-  platform::CatchInterrupts();
-  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
-  const std::string input = ReadableFile(arguments.input, kind);
+ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArguments& arguments) {
   SceneOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
   PrepareScene(arguments, session.scene());
@@ -99,12 +96,25 @@ ExitStatus Import(const ImportArguments& arguments) {
   StopIfInterrupted();
   AddMessages(input, session, complaints);
   if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
+  PutCauseFirst(input, kind, complaints);
   Warn(std::move(complaints), arguments.strict);
   const std::size_t size = output.Deliver(session.scene(), input);
   if (!arguments.quiet) {
     PrintImportSummary({input, arguments.output, size}, session.scene(), std::cout);
   }
   return ExitStatus::kDone;
+}
+
+ExitStatus Import(const ImportArguments& arguments) {
+  platform::CatchInterrupts();
+  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  const std::string input = ReadableFile(arguments.input, kind);
+  try {
+    return ImportFile(input, kind, arguments);
+  } catch (Failure& failure) {
+    if (failure.status == ExitStatus::kRefused) PutCauseFirst(input, kind, failure.complaints);
+    throw;
+  }
 }
 
 double MillimetersPer(const std::string& unit) {

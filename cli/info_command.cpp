@@ -21,7 +21,7 @@ struct InfoArguments {
 };
 
 Failure Refused(const std::string& file, const std::string& text) {
-  return {ExitStatus::kRefused, {ComplainAbout(file, text)}};
+  return {ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kHtr, text)};
 }
 
 void Read(const std::string& file, bool read_motion, InfoReport& report) {

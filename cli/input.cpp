@@ -1,8 +1,13 @@
 #include "cli/input.h"
 
+#include <optional>
+#include <utility>
+
 #include "cli/advice.h"
 #include "cli/file_kind.h"
+#include "cli/text_flaw.h"
 #include "plugin/htr/reader.h"
+#include "plugin/text/files.h"
 
 namespace cli {
 
@@ -10,6 +15,24 @@ std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name,
 
 Complaint ComplainAbout(const std::string& file, const std::string& text) {
   return {file, text, AdviceFor(text)};
+}
+
+void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints) {
+  if (complaints.empty()) return;
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(file);
+  if (!bytes) return;
+  const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
+  if (!flaw) return;
+  Complaint cause = ComplainAboutFlaw(file, *flaw);
+  if (complaints.front().text == cause.text) return;
+  complaints.insert(complaints.begin(), std::move(cause));
+}
+
+std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+                                            const std::string& text) {
+  std::vector<Complaint> complaints = {ComplainAbout(file, text)};
+  PutCauseFirst(file, kind, complaints);
+  return complaints;
 }
 
 Complaint FindFlaw(const std::string& file, FileKind kind) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 #include "cli/failure.h"
 #include "cli/file_kind.h"
@@ -20,6 +21,14 @@ std::string ReadableHtrFile(const std::string& name);
 
 // `text` about what is in `file`, with the advice that fits it.
 Complaint ComplainAbout(const std::string& file, const std::string& text);
+
+// Puts before `complaints` about what is in `file`, if there are any, what is wrong with all of its
+// text, when that can be seen and does not stand there.
+void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints);
+
+// `text`, for which `file` is refused, with advice, and with its cause first.
+std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+                                            const std::string& text);
 
 // Looks in `file` for a reason why the plug-in made nothing of it, beside what it said itself.
 // Returns a complaint without text when there is none to see.

@@ -93,7 +93,10 @@ std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conve
   const Previewer previewer(mapping);
   std::vector<ConversionPreview> previews;
   previews.reserve(conversions.size());
-  for (Conversion& conversion : conversions) previews.push_back(previewer.Preview(conversion));
+  for (Conversion& conversion : conversions) {
+    previews.push_back(previewer.Preview(conversion));
+    NameCause(conversion);
+  }
   return previews;
 }
 

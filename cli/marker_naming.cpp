@@ -4,7 +4,8 @@
 #include <cstddef>
 #include <unordered_map>
 
-#include "cli/failure.h"
+#include "cli/text_flaw.h"
+#include "plugin/text/files.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
@@ -34,9 +35,12 @@ struct Namesakes {
 }  // namespace
 
 MarkerNaming::MarkerNaming(const std::string& mapping) : use_mapping_(!mapping.empty()) {
-  if (use_mapping_ && !mapping_.Load(mapping)) {
+  if (!use_mapping_) return;
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(mapping);
+  if (!bytes || !mapping_.Load(mapping)) {
     throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
   }
+  if (const auto flaw = FindTextFlaw(*bytes)) flaw_ = ComplainAboutFlaw(mapping, *flaw);
 }
 
 std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) const {

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/failure.h"
 #include "plugin/mnm/marker_name_map.h"
 #include "plugin/trc/document.h"
 
@@ -23,6 +24,9 @@ class MarkerNaming {
   // Whether any marker of `document` is written.
   bool KeepsAny(const orvane::TRCDocument& document) const;
 
+  // What is wrong with all of the text of the mapping file; nothing when that cannot be seen.
+  const std::optional<Complaint>& DescribeFlaw() const { return flaw_; }
+
   // What is to be said of the markers of `document` that are written under one name: a text for
   // each such name, in the order of the first markers.
   std::vector<std::string> DescribeClashes(const orvane::TRCDocument& document) const;
@@ -30,6 +34,7 @@ class MarkerNaming {
  private:
   orvane::MarkerNameMap mapping_;
   const bool use_mapping_;
+  std::optional<Complaint> flaw_;
 };
 
 }  // namespace cli

@@ -7,6 +7,7 @@
 #include "cli/mnm_entries.h"
 #include "cli/mnm_rules.h"
 #include "cli/similar_words.h"
+#include "cli/text_flaw.h"
 #include "cli/trc_markers.h"
 #include "plugin/mnm/mapping_lines.h"
 
@@ -18,6 +19,18 @@ using mnm::Entry;
 
 CheckedFile NewReport(const std::string& file, const Entries& entries) {
   return {file, "MNM", CountOf(entries.InForce().size(), "marker") + " mapped", {}};
+}
+
+// An empty file is told as one without entries.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindTextFlaw(bytes);
+  if (flaw == TextFlaw::kUtf16) {
+    NameFlawFirst(*flaw, mnm::kEncoding, "No marker has its entry: those of a capture are dropped.",
+                  findings);
+  } else if (flaw == TextFlaw::kCarriageReturns) {
+    NameFlawFirst(*flaw, mnm::kLineEnds, "Up to an LF only the first two words are read.",
+                  findings);
+  }
 }
 
 // What a mapping and the markers of a capture are to each other.
@@ -90,6 +103,7 @@ CheckedFile CheckMnmFile(const std::string& file) {
   const std::string bytes = FileBytes(file);
   FindingList findings;
   const Entries entries(bytes, findings);
+  NameFlaw(bytes, findings);
   CheckedFile checked = NewReport(file, entries);
   checked.findings = std::move(findings);
   return checked;
@@ -102,6 +116,7 @@ std::vector<CheckedFile> CheckMapping(const std::string& file, const std::string
   const Entries entries(bytes, findings);
   const Comparison comparison(file, entries, markers);
   comparison.CheckEntries(findings);
+  NameFlaw(bytes, findings);
 
   CheckedFile mapping = NewReport(file, entries);
   mapping.findings = std::move(findings);

@@ -157,7 +157,7 @@ void Entries::AddSuperfluous(const Entry& entry, const Entry& first) {
 
 void Entries::CheckCount() {
   if (lines_ > 0) return;
-  Fill(findings_.Add(kEntriesMissing, 1, 1), "no entry", "one for every marker to keep",
+  Fill(findings_.Add(kEntriesMissing, 1, 1), "an empty file", "an entry for every marker to keep",
        "Every marker of a capture is dropped.");
 }
 

@@ -7,6 +7,10 @@
 
 namespace cli::mnm {
 
+// The whole file
+inline constexpr FindingRule kEncoding = Error("mnm-encoding");
+inline constexpr FindingRule kLineEnds = Error("mnm-line-ends");
+
 // Lines
 inline constexpr FindingRule kByteOrderMark = Warning("mnm-byte-order-mark");
 inline constexpr FindingRule kNul = Warning("mnm-nul");

@@ -6,6 +6,7 @@
 #include "cli/file_bytes.h"
 #include "cli/frame_counts.h"
 #include "cli/soundness.h"
+#include "cli/text_flaw.h"
 #include "cli/trc_parts.h"
 #include "cli/trc_rules.h"
 #include "cli/trc_watcher.h"
@@ -117,6 +118,17 @@ class WholeFile {
   FindingList& findings_;
 };
 
+// The pieces of one long line may pass for the lines of a marker file.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindTextFlaw(bytes);
+  if (!flaw) return;
+  const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
+  const std::string effect =
+      is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
+  NameFlawFirst(*flaw, trc::kFlaws[static_cast<std::size_t>(*flaw)],
+                effect + "; what else is odd about it is not told.", findings);
+}
+
 }  // namespace
 
 CheckedFile CheckTrcFile(const std::string& file) {
@@ -132,6 +144,7 @@ CheckedFile CheckTrcFile(const std::string& file) {
   }
   RequireSound(file, orvane::FindFault(document));
   if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
+  NameFlaw(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
   return checked;

@@ -25,7 +25,7 @@ class RateListener final : public orvane::TRCReadObserver {
 };
 
 Failure Refused(const std::string& file, const std::string& text) {
-  return {ExitStatus::kRefused, {ComplainAbout(file, text)}};
+  return {ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kTrc, text)};
 }
 
 }  // namespace

@@ -27,10 +27,10 @@ std::vector<TrcMarkerName> ReadTrcMarkers(const std::string& file) {
     throw Failure{ExitStatus::kInputOutput, {{file, "could not be read to its end", ""}}};
   orvane::TRCDocument document;
   MarkerListener listener;
-  const std::string message = document.ReadBytes(outline->Header(), false, &listener);
-  if (!message.empty()) throw Failure{ExitStatus::kRefused, {ComplainAbout(file, message)}};
-  if (listener.markers.empty()) {
-    throw Failure{ExitStatus::kRefused, {ComplainAbout(file, kNoMarkers)}};
+  std::string message = document.ReadBytes(outline->Header(), false, &listener);
+  if (message.empty() && listener.markers.empty()) message = kNoMarkers;
+  if (!message.empty()) {
+    throw Failure{ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kTrc, message)};
   }
   return std::move(listener.markers);
 }

@@ -1,11 +1,17 @@
 #pragma once
 
+#include <array>
+
 #include "cli/findings.h"
 
 // Everything that the check of TRC files can find. docs/formats/trc.md explains the codes; a test
 // compares the two.
 
 namespace cli::trc {
+
+// The whole file, by TextFlaw, but for a last one that no marker file has
+inline constexpr std::array<FindingRule, 3> kFlaws = {Error("trc-empty"), Error("trc-encoding"),
+                                                      Error("trc-line-ends")};
 
 // Lines
 inline constexpr FindingRule kByteOrderMark = Note("trc-byte-order-mark");

@@ -15,6 +15,7 @@ namespace {
 
 void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
                    const MarkerNaming& naming) {
+  if (const auto& flaw = naming.DescribeFlaw()) conversion.warnings.push_back(*flaw);
   if (document.MarkerCount() == 0) {
     conversion.warnings.push_back(ComplainAbout(conversion.input, "The file holds no markers"));
   } else if (!naming.KeepsAny(document)) {
@@ -89,6 +90,13 @@ RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
     RefuseForeignRate(conversion);
   }
   return rate;
+}
+
+void NameCause(Conversion& conversion) {
+  const bool is_refused = conversion.status == ConversionStatus::kBroken ||
+                          conversion.status == ConversionStatus::kRefused;
+  PutCauseFirst(conversion.input, FileKind::kTrc,
+                is_refused ? conversion.errors : conversion.warnings);
 }
 
 }  // namespace cli

@@ -29,4 +29,8 @@ void RefuseForeignRate(Conversion& conversion);
 // read.
 RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming);
 
+// When there is something to say of the input of `conversion`, puts first what is wrong with all of
+// its text, as far as that can be seen.
+void NameCause(Conversion& conversion);
+
 }  // namespace cli

@@ -92,12 +92,11 @@ def change_all(changed):
     return edit
 
 
-def delete_all(lines):
-    lines.clear()
-    return 0
-
-
 DAMAGES = [
+    # The whole file
+    ("empty-file", "trc-empty", damages.empty),
+    ("utf-16", "trc-encoding", damages.encode("utf-16")),
+    ("returns-alone", "trc-line-ends", damages.end_lines_with_returns),
     # Lines
     ("byte-order-mark", "trc-byte-order-mark",
      change_line(FILE_TYPE, lambda line: b"\xef\xbb\xbf" + line)),
@@ -131,7 +130,6 @@ DAMAGES = [
     ("repeated-column", "trc-column-repeated", change_field(NAMES, name_field(3), b"walker:LFHD")),
     ("no-names", "trc-markers-missing",
      both(change_line(NAMES, lambda line: b"Frame#\tTime"), delete_lines(7, None, 7))),
-    ("empty-file", "trc-markers-missing", delete_all),
     ("marker-count", "trc-marker-count", change_field(VALUES, 3, b"40")),
     ("no-headings", "trc-sub-header-missing", delete_lines(HEADINGS, HEADINGS + 2, HEADINGS)),
     # Numbers
@@ -164,13 +162,15 @@ DAMAGES = [
 ]
 
 MAPPING_DAMAGES = [
+    ("utf-16", "mnm-encoding", damages.encode("utf-16-be")),
+    ("returns-alone", "mnm-line-ends", damages.end_lines_with_returns),
     ("marked", "mnm-byte-order-mark", change_line(0, lambda line: b"\xef\xbb\xbf" + line)),
     ("nul", "mnm-nul", change(b"C7\t", b"C7\twalker:C7\0\t")),
     ("long-line", "mnm-line-cut", change(b"C7\t", b"C7\twalker:C7" + b" " * 1100 + b"x")),
     ("blank-line", "mnm-line-blank", insert_before(b"C7\t", b"")),
     ("one-word", "mnm-name-missing", change(b"C7\t", b"C7")),
     ("name-with-blank", "mnm-rest-ignored", change(b"C7\t", b"C7\twalker C7")),
-    ("empty", "mnm-entries-missing", delete_all),
+    ("empty", "mnm-entries-missing", damages.empty),
     ("lower-case", "mnm-standard-unknown", change(b"C7\t", b"c7\twalker:C7")),
     ("columns-swapped", "mnm-standard-unknown", change(b"C7\t", b"walker:C7\tC7")),
     ("name-twice", "mnm-standard-twice", change(b"CLAV\t", b"C7\twalker:CLAV")),

@@ -105,6 +105,12 @@ def base_position_over_and_over(lines):
 
 
 DAMAGES = [
+    # The whole file
+    ("empty", "htr-empty", damages.empty),
+    ("utf-16", "htr-encoding", damages.encode("utf-16-le")),
+    ("returns-alone", "htr-line-ends", damages.end_lines_with_returns),
+    ("marked-section", "htr-first-section-lost",
+     both(remove(b"# A walk", b"[Header]"), change(b"[Header]", b"\xef\xbb\xbf[Header]"))),
     # Lines
     ("byte-order-mark", "htr-byte-order-mark", change(b"# A walk", b"\xef\xbb\xbf# A walk")),
     ("nul", "htr-nul", change(b"FileType", b"FileType htr\0 and more")),

@@ -60,6 +60,24 @@ def both(first, second):
     return edit
 
 
+def of_bytes(changed):
+    """The bytes of the whole file become what `changed` makes of them."""
+
+    def edit(lines):
+        return 0
+
+    edit.of_bytes = changed
+    return edit
+
+
+empty = of_bytes(lambda text: b"")
+end_lines_with_returns = of_bytes(lambda text: text.replace(b"\r\n", b"\r"))
+
+
+def encode(encoding):
+    return of_bytes(lambda text: text.decode("ascii").encode(encoding))
+
+
 def cut_last_line_end(lines):
     """Where `write` leaves the line end out."""
     return len(lines) - 1
@@ -74,7 +92,9 @@ def write(folder, source, extension, damages, list_name):
         lines = list(source_lines)
         index = edit(lines)
         end = b"" if edit is cut_last_line_end else b"\r\n"
-        text = b"\r\n".join(lines) + end if lines else b""
+        text = b"\r\n".join(lines) + end
+        if hasattr(edit, "of_bytes"):
+            text = edit.of_bytes(text)
         (folder / (name + extension)).write_bytes(text)
         listed.append(f"{name}{extension}\t{index + 1}\t{code}\n")
     (folder / list_name).write_text("".join(listed))

@@ -63,8 +63,8 @@ void HtrOddities::LookAtBytes() const {
   if (carriage_return != std::string_view::npos) {
     Report(HtrOddity::kCarriageReturn, data.substr(carriage_return));
   }
-  const bool in_word = !data.empty() && data.size() != text.size() && data.back() != ']' &&
-                       !IsSeparator(data.back());
+  const bool in_word = data.size() > mark.size() && data.size() != text.size() &&
+                       data.back() != ']' && !IsSeparator(data.back());
   ReportIf(in_word, HtrOddity::kCommentInWord, text.substr(data.size()));
 }
 

@@ -73,7 +73,7 @@ std::string Noise() {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FileWithoutSegmentsTest,
-                         testing::Values("", Noise(), "[Header]\nFileType HTR\n"));
+                         testing::Values("\n", Noise(), "[Header]\nFileType HTR\n"));
 
 struct Damage {
   std::string name;

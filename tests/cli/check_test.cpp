@@ -51,7 +51,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"ByteOrderMark",
                "[Header]\nFileType HTR",
                "\xEF\xBB\xBF\n[Header]\nFileType HTR",
-               {"1:1 warning htr-byte-order-mark", "1:1 warning htr-line-before-section"}},
+               {"1:1 note htr-byte-order-mark"}},
         Damage{
             "Nul", "FileVersion 1", std::string("FileVersion 1\0 x", 16), {"4:14 warning htr-nul"}},
         Damage{"LongLine",
@@ -488,16 +488,12 @@ TEST_F(CheckTest, ASkippedSectionTellsHowMuchIsLostAndWhatWasLikelyMeant) {
 TEST_F(CheckTest, AnEmptyFileIsNoMotionFile) {
   Write("empty.htr", "");
   EXPECT_EQ(Orvane({"check", "empty.htr"}).output,
-            "empty.htr:1:1: warning: found no [Header], expected [Header] first "
-            "[htr-header-missing]\n"
-            "  Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60.\n"
-            "empty.htr:1:1: note: found the end of the file, expected [EndOfFile] "
-            "[htr-end-missing]\n"
-            "  Nothing is lost, unless the file was cut short.\n"
+            "empty.htr:1:1: error: found an empty file, expected text [htr-empty]\n"
+            "  The import refuses the file; what else is odd about it is not told.\n"
             "empty.htr:1:1: error: found no segments, expected their lines in "
             "[SegmentNames&Hierarchy] [htr-segments-missing]\n"
             "  There is nothing to import. Is it an HTR file?\n"
-            "empty.htr: 1 error, 1 warning, 1 note\n");
+            "empty.htr: 2 errors\n");
 }
 
 }  // namespace

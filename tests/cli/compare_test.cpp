@@ -306,7 +306,9 @@ INSTANTIATE_TEST_SUITE_P(
                 "  \"NumSegments\" in the header must be the number of lines in [BasePosition]. A "
                 "file that was cut short says this too."},
         Trouble{"Empty", "good.htr", "empty.htr",
-                "empty.htr: The file holds no segments\n"
+                "empty.htr: The file is empty\n"
+                "  Was it saved, or copied, to its end?\n"
+                "orvane: empty.htr: The file holds no segments\n"
                 "  Is it an HTR file? A file of 0 segments may also have been cut short."}),
     [](const auto& test_case) { return test_case.param.name; });
 

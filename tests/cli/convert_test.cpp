@@ -169,13 +169,18 @@ TEST_F(ConvertTest, RefusesFilesThatEndBeforeTheirRates) {
   for (const std::string& text :
        {std::string(), first_line, first_line + "DataRate\n", first_line + "#\nDataRate\n"}) {
     Write("short.trc", text);
+    const std::string cause = text.empty() ? "orvane: short.trc: The file is empty\n"
+                                             "  Was it saved, or copied, to its end?\n"
+                                           : "";
     for (const auto& arguments :
          {std::vector<std::string>{"walk.trc", "short.trc", "--force"}, {"short.trc"}}) {
       const ProgramResult result = Convert(arguments);
       EXPECT_EQ(result.status, 1);
-      EXPECT_EQ(result.error,
-                "orvane: short.trc: The file ends before its third line, which tells its rates\n"
-                "  It would be written with the camera rate of another file.\n");
+      EXPECT_EQ(
+          result.error,
+          cause +
+              "orvane: short.trc: The file ends before its third line, which tells its rates\n"
+              "  It would be written with the camera rate of another file.\n");
       EXPECT_THAT(result.output, HasSubstr("short.bvk  refused\n"));
       EXPECT_FALSE(Exists("short.bvk"));
     }

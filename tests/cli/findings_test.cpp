@@ -39,6 +39,20 @@ TEST(FindingList, KeepsTwentyOfARuleAndCountsThemAll) {
   EXPECT_EQ(findings.Count(FindingSeverity::kError), 0U);
 }
 
+TEST(FindingList, ExplainsErrorsAndDropsTheRest) {
+  constexpr FindingRule kError = {"an-error", FindingSeverity::kError};
+  constexpr FindingRule kCause = {"a-cause", FindingSeverity::kError};
+  FindingList findings;
+  for (int count = 0; count < 30; ++count) findings.Add(kRule, 1, 1);
+  for (int count = 0; count < 21; ++count) findings.Add(kError, 1, 1);
+  findings.ExplainErrors({kCause, 1, 1, "found", "expected", "effect"});
+  EXPECT_EQ(findings.Sorted().front().rule.code, "a-cause");
+  EXPECT_EQ(findings.Sorted().size(), 21U);
+  EXPECT_EQ(findings.Totals().at("an-error").count, 21U);
+  EXPECT_EQ(findings.Count(FindingSeverity::kError), 22U);
+  EXPECT_EQ(findings.Count(FindingSeverity::kWarning), 0U);
+}
+
 TEST(Quote, CutsLongTextBetweenCharacters) {
   EXPECT_EQ(cli::Quote(""), "nothing");
   EXPECT_EQ(cli::Quote("59.94"), "\"59.94\"");

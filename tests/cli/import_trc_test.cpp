@@ -263,6 +263,8 @@ TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {
   EXPECT_EQ(empty.status, 1);
   EXPECT_EQ(
       empty.error,
+      "orvane: walk.trc: The file is empty\n"
+      "  Was it saved, or copied, to its end?\n"
       "orvane: walk.trc: The file holds no markers\n"
       "  Is it a TRC file? The fourth line names the markers, with three tabs behind each.\n");
   EXPECT_EQ(Import({}, "missing.trc").status, 3);

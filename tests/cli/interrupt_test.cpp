@@ -55,6 +55,8 @@ TEST_F(InterruptTest, IsNotMixedUpWithARefusalWithoutAMessage) {
   const ProgramResult result = Import("silent");
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
+            "orvane: silent.htr: The file is empty\n"
+            "  Was it saved, or copied, to its end?\n"
             "orvane: silent.htr: The file holds no segments\n"
             "  Is it an HTR file? A file of 0 segments may also have been cut short.\n");
 }

@@ -66,8 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
                    "C7\nLFHD Head1\n  LBHD\t\n",
                    {"1:1 warning mnm-name-missing", "3:3 warning mnm-name-missing"}},
         OddMapping{"NameWithBlank", "C7\tUpper Back\t\n", {"1:10 warning mnm-rest-ignored"}},
-        OddMapping{
-            "CarriageReturnsAlone", "C7 Back\rT10 Spine\r", {"1:9 warning mnm-rest-ignored"}},
+        OddMapping{"CarriageReturnsAlone", "C7 Back\rT10 Spine\r", {"1:1 error mnm-line-ends"}},
         OddMapping{"NoEntries", "", {"1:1 error mnm-entries-missing"}},
         OddMapping{"UnknownStandardName", "c7 Back\n", {"1:1 warning mnm-standard-unknown"}},
         OddMapping{"StandardNameTwice", "C7 Back\nC7 Spine\n", {"2:1 warning mnm-standard-twice"}},

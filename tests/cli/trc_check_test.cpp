@@ -229,10 +229,12 @@ TEST_F(TrcCheckTest, WithoutAnnouncedFramesNoImportTakesAFile) {
 TEST_F(TrcCheckTest, FileOfNothingHasNoMarkers) {
   Write("walk.trc", "");
   EXPECT_EQ(Orvane({"check", "walk.trc"}).output,
+            "walk.trc:1:1: error: found an empty file, expected text [trc-empty]\n"
+            "  The import refuses the file; what else is odd about it is not told.\n"
             "walk.trc:1:1: error: found no marker, expected names in the fourth line, a tab behind "
             "each [trc-markers-missing]\n"
             "  The import makes nothing of the file.\n"
-            "walk.trc: 1 error\n");
+            "walk.trc: 2 errors\n");
 }
 
 TEST_F(TrcCheckTest, KeepsItsOutputShortHoweverOddTheFile) {

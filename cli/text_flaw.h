@@ -1,0 +1,37 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "cli/failure.h"
+#include "cli/findings.h"
+
+// What makes a whole file other than the text that its reader takes it for. The reader meets only
+// what follows from it: a person is told the flaw first.
+
+namespace cli {
+
+enum class TextFlaw {
+  kEmpty,            // no text at all
+  kUtf16,            // in either byte order, with or without a byte-order mark
+  kCarriageReturns,  // lines end with them alone, so that none ends
+  kMarkedSection,    // of HTR: a byte-order mark keeps the first line from being a section line
+};
+inline constexpr std::size_t kTextFlaws = 4;
+
+// The flaw of a file with these `bytes`; nothing when it has none. Those of marker and mapping
+// files are never kMarkedSection.
+std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
+std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
+
+// `flaw` of `file` as a complaint, with advice.
+Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw);
+
+// Puts `flaw` before the errors of `findings`, by `rule`, and drops what is no error: it follows
+// from the flaw, or is told when that is mended. `effect` ends the finding.
+void NameFlawFirst(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
+                   FindingList& findings);
+
+}  // namespace cli
