@@ -9,6 +9,7 @@
 #include "cli/htr_rules.h"
 #include "cli/similar_words.h"
 #include "plugin/htr/sections.h"
+#include "plugin/text/number_faults.h"
 #include "plugin/text/numbers.h"
 
 namespace cli::htr {
@@ -22,6 +23,14 @@ constexpr std::string_view kFrameColumn = "Frame";
 bool IsWhole(std::string_view field) {
   return field == kFrameColumn || field == "NumSegments" || field == "NumFrames" ||
          field == "DataFrameRate";
+}
+
+bool IsFactor(std::string_view field) {
+  return field == "BoneScaleFactor" || field == "ScaleFactor";
+}
+
+bool IsLength(std::string_view field) {
+  return field == "Tx" || field == "Ty" || field == "Tz" || field == "BoneLength";
 }
 
 std::string WholeNumberInRange(std::string_view field) {
@@ -50,13 +59,20 @@ std::string ExpectedNumber(HtrOddity oddity, std::string_view field) {
   return expected + " for " + std::string(field);
 }
 
+bool MayBeSoLarge(std::string_view cell, std::string_view field) {
+  return !IsWhole(field) && !IsLength(field) && std::isfinite(orvane::ParseDouble(cell));
+}
+
 std::string EffectOfNumber(std::string_view cell, std::string_view field) {
   if (field == kFrameColumn) {
     return TakenWhole(cell, field) + "; only the first frame number of a file is used.";
   }
   if (IsWhole(field)) return TakenWhole(cell, field) + ".";
   const double value = orvane::ParseDouble(cell);
-  if (!std::isfinite(value)) return "It is taken as infinite, and the scene cannot be saved.";
+  const bool is_finite =
+      IsLength(field) ? orvane::FitsSinglePrecision(value) : std::isfinite(value);
+  if (!is_finite && IsFactor(field)) return "It is taken as infinite; the import does not use it.";
+  if (!is_finite) return "It is taken as infinite: a scene that it gets into cannot be saved.";
   return orvane::FormatShortest(value) + " is taken.";
 }
 

@@ -17,6 +17,10 @@ const FindingRule& NumberRule(orvane::HtrOddity oddity);
 // What should have stood where `oddity` was met. `field` is a keyword of the header or the name of
 // a column.
 std::string ExpectedNumber(orvane::HtrOddity oddity, std::string_view field);
+// Whether `cell` of `field`, too large for a length, is an angle or a factor, which may be so
+// large.
+bool MayBeSoLarge(std::string_view cell, std::string_view field);
+
 // What the reader takes for `cell`.
 std::string EffectOfNumber(std::string_view cell, std::string_view field);
 

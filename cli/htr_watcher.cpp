@@ -120,6 +120,7 @@ bool Watcher::AddPlain(HtrOddity oddity, const HtrCell& cell) {
 }
 
 void Watcher::AddNumber(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
+  if (oddity == HtrOddity::kNumberOutOfBounds && MayBeSoLarge(cell.text, field)) return;
   const bool is_rate = field == "DataFrameRate" && oddity == HtrOddity::kCutNumber;
   if (Finding* finding = Add(is_rate ? kRateCut : NumberRule(oddity), cell)) {
     finding->found = Quote(cell.text);

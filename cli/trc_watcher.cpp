@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <cmath>
 #include <utility>
 
 #include "cli/rates.h"
 #include "cli/trc_rules.h"
+#include "plugin/text/number_faults.h"
 #include "plugin/text/numbers.h"
 #include "plugin/text/tokens.h"
 
@@ -168,10 +168,10 @@ void Watcher::AddNumber(TRCOddity oddity, TRCPlace place, std::string_view cell)
   if (is_frame_number) finding->expected += ", the frame's";
   const std::string taken =
       is_whole ? FormatInt(orvane::ParseInt(cell)) : orvane::FormatShortest(TakenNumber(cell));
-  const bool is_infinite = !is_whole && !std::isfinite(TakenNumber(cell));
+  const bool is_infinite = !is_whole && !orvane::FitsSinglePrecision(TakenNumber(cell));
   finding->effect =
       is_infinite
-          ? "It is taken as infinite, and the scene cannot be saved."
+          ? "It is taken as infinite: a scene that it gets into cannot be saved."
           : taken + " is taken" + (is_frame_number ? "; only the first of a file is used." : ".");
 }
 
@@ -241,7 +241,7 @@ void Watcher::CheckFirstFrame(TRCPlace place, std::string_view number) {
   if (cell.empty() || orvane::ParseInt(cell) == document_.FirstFrame()) return;
   if (Finding* finding = Add(kFirstFrame, place)) {
     const std::string taken = FormatInt(document_.FirstFrame());
-    finding->found = Quote(cell);
+    finding->found = Quote(number);
     finding->expected = taken + (parts_.Value(TRCHeaderValue::kFirstFrame)
                                      ? ", as OrigDataStartFrame says"
                                      : ", as the path type is neither 3 nor 4");

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "plugin/text/number_faults.h"
 #include "plugin/text/numbers.h"
 #include "plugin/units/units.h"
 
@@ -48,7 +49,9 @@ std::string ReadNumSegments(const Field& field) {
 
 std::string ReadNumFrames(const Field& field) {
   const std::int32_t count = Int(field);
-  field.oddities.ReportIf(count < 0, HtrOddity::kNumberOutOfBounds, field.value, field.keyword);
+  const bool is_told = FaultOfWholeNumber(field.value) == NumberFault::kOutOfBounds;
+  field.oddities.ReportIf(count < 0 && !is_told, HtrOddity::kNumberOutOfBounds, field.value,
+                          field.keyword);
   field.document.SetNumFrames(static_cast<std::uint32_t>(std::max(count, 0)));
   return {};
 }

@@ -26,6 +26,11 @@ class HtrOddities {
     if (observer_ != nullptr) LookAtLine(line);
   }
 
+  // The same of a line that is not looked at.
+  void PassLine(const Line& line) {
+    if (observer_ != nullptr) line_.Set(line);
+  }
+
   // `text` with its place; without one when nobody watches.
   HtrCell CellOf(std::string_view text) const;
 

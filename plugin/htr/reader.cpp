@@ -130,9 +130,9 @@ std::string HtrReader::Read() {
 void HtrReader::LookBehindTheEnd() {
   Line line;
   while (lines_.Next(line)) {
+    oddities_.PassLine(line);
     const std::string_view content = SkipSeparators(ContentOf(line));
     if (content.empty()) continue;
-    oddities_.StartLine(line);
     return oddities_.Report(HtrOddity::kLineAfterEnd, content);
   }
 }

@@ -16,12 +16,16 @@ bool FitsInt(double value) {
 
 }  // namespace
 
+bool FitsSinglePrecision(double value) {
+  return std::abs(value) <= double{std::numeric_limits<float>::max()};
+}
+
 NumberFault FaultOfNumber(std::string_view cell) {
   if (cell.empty()) return NumberFault::kMissing;
   const char* const end = cell.data() + cell.size();
   const LeadingDouble number = ReadDouble(cell.data(), end);
   if (number.end != end) return NumberFault::kUnreadable;
-  return std::isfinite(number.value) ? NumberFault::kNone : NumberFault::kOutOfBounds;
+  return FitsSinglePrecision(number.value) ? NumberFault::kNone : NumberFault::kOutOfBounds;
 }
 
 NumberFault FaultOfWholeNumber(std::string_view cell) {

@@ -339,7 +339,17 @@ TEST_F(CheckTest, ANumberOutOfItsRangeIsToldTheRange) {
               "NumSegments [htr-number-out-of-range]\n  2147483647 is taken."},
         Range{"2 10 0", "2 -1e999 0",
               "found \"-1e999\", expected a finite number for Tx [htr-number-out-of-range]\n  It "
-              "is taken as infinite, and the scene cannot be saved."}}) {
+              "is taken as infinite: a scene that it gets into cannot be saved."},
+        Range{"2 10 0", "2 1e39 0",
+              "found \"1e39\", expected a finite number for Tx [htr-number-out-of-range]\n  It is "
+              "taken as infinite: a scene that it gets into cannot be saved."},
+        Range{"2 10 0 0 0 0 90 1", "2 10 0 0 0 0 90 1e999",
+              "found \"1e999\", expected a finite number for BoneScaleFactor "
+              "[htr-number-out-of-range]\n  It is taken as infinite; the import does not use it."},
+        Range{"ScaleFactor 1.0", "ScaleFactor 1e999",
+              "found \"1e999\", expected a finite number for ScaleFactor "
+              "[htr-number-out-of-range]\n  It is taken as infinite; the import does not use "
+              "it."}}) {
     Write("range.htr", Replaced(SmallMotion(), range.from, range.to));
     EXPECT_THAT(Orvane({"check", "range.htr"}).output, HasSubstr(range.told));
   }
@@ -361,6 +371,28 @@ TEST_F(CheckTest, WithoutAnnouncedFramesNoImportTakesAFile) {
       EXPECT_EQ(Orvane(arguments).status, 1) << value;
       EXPECT_FALSE(Exists("none.glb"));
     }
+  }
+}
+
+// A scene has single precision; angles come into it only by their sines.
+TEST_F(CheckTest, LengthsOfWhichASceneCannotBeSavedAreToldOf) {
+  struct Large {
+    const char* from;
+    const char* to;
+    bool is_told;
+  };
+  for (const Large& large : {Large{"2 10 0", "2 1e39 0", true},
+                             {"2 10 0", "2 3e38 0", false},
+                             {"250.5", "-1e39", true},
+                             {"Spine 0 100", "Spine 0 1e39", true},
+                             {"0 90 1", "0 1e39 1", false},
+                             {"0 90 1", "0 90 1e39", false},
+                             {"0 90 1", "0 1e999 1", true}}) {
+    Write("large.htr", Replaced(SmallMotion(), large.from, large.to));
+    EXPECT_EQ(Orvane({"check", "large.htr"}).status, large.is_told ? 1 : 0) << large.to;
+    EXPECT_EQ(Orvane({"import", "large.htr", "-o", "large.glb", "--force"}).status,
+              large.is_told ? 1 : 0)
+        << large.to;
   }
 }
 

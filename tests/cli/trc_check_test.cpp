@@ -118,6 +118,10 @@ INSTANTIATE_TEST_SUITE_P(
                "NaN\t\t9mm",
                {"9:9 warning trc-number-unreadable", "9:13 warning trc-number-missing",
                 "9:14 warning trc-number-unreadable"}},
+        Damage{"NumberTooLargeForAScene",
+               "7\t8\t9",
+               "7\t1e39\t9",
+               {"9:11 warning trc-number-out-of-range"}},
         Damage{"FrameNumberWithoutUse",
                "3\t0.000",
                "5.5\t0.000",
@@ -194,6 +198,20 @@ TEST_F(TrcCheckTest, TellsWhatTheImportMakesOfIt) {
             "walk.trc:9:12: warning: found \"4,5\", expected a number [trc-number-unreadable]\n"
             "  4 is taken.\n"
             "walk.trc: 4 warnings, 1 note\n");
+}
+
+TEST_F(TrcCheckTest, TextIsQuotedAsItStands) {
+  Write("walk.trc", Replaced(TwoMarkers().Text(), "1\t0.000", " 7\t0.000"));
+  EXPECT_THAT(Orvane({"check", "walk.trc"}).output,
+              HasSubstr("7:1: warning: found \" 7\", expected 1, as OrigDataStartFrame says"));
+}
+
+TEST_F(TrcCheckTest, AnInfiniteNumberIsToldToKeepASceneFromBeingSaved) {
+  Write("walk.trc", Replaced(TwoMarkers().Text(), "7\t8\t9", "7\t1e39\t9"));
+  EXPECT_THAT(
+      Orvane({"check", "walk.trc"}).output,
+      HasSubstr("\n  It is taken as infinite: a scene that it gets into cannot be saved.\n"));
+  EXPECT_EQ(Orvane({"import", "walk.trc", "-o", "walk.glb"}).status, 1);
 }
 
 TEST_F(TrcCheckTest, FarTooManyFramesAreAnError) {

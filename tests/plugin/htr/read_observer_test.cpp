@@ -57,6 +57,18 @@ TEST(HtrReadObserver, HearsOfLinesOutsideTheSections) {
                   At(6, 2, HtrOddity::kLineAfterEnd, "more")));
 }
 
+TEST(HtrReadObserver, HearsOfThePlaceBehindTheEndAlone) {
+  const std::string piece(10239, ' ');
+  const std::string nul(1, '\0');
+  EXPECT_THAT(OdditiesOfBytes("[EndOfFile]\n" + piece + "m\rore#" + nul + "\n"),
+              ElementsAre(At(2, 10240, HtrOddity::kLineAfterEnd, "m\rore")));
+}
+
+TEST(HtrReadObserver, HearsOnceOfACountThatIsFarBelowNone) {
+  EXPECT_THAT(OdditiesOf({"[Header]", "NumFrames -3000000000", "[EndOfFile]"}),
+              ElementsAre(At(2, 11, HtrOddity::kNumberOutOfBounds, "-3000000000", "NumFrames")));
+}
+
 TEST(HtrReadObserver, HearsOfBytesThatAreNoPlainText) {
   const std::string nul(1, '\0');
   EXPECT_THAT(OdditiesOfBytes("\xEF\xBB\xBF[Header]\nNumFrames 1" + nul + " 2\n[x]\n"),
