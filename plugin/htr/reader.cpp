@@ -91,6 +91,8 @@ class HtrReader {
   std::string ReadBasePositionLine(std::string_view line);
   void ReadMotionLine(std::string_view line);
   void TellFrame(std::string_view line);
+  void CountFrame(std::string_view line);
+  void TakeStartFrame(std::int32_t frame_number);
   void ReserveFor(std::int32_t frame_number);
   std::string Finish();
   void LookBehindTheEnd();
@@ -304,10 +306,7 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
 
 void HtrReader::ReadMotionLine(std::string_view line) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
-  if (frames_counted_ != nullptr) {
-    ++*frames_counted_;
-    return;
-  }
+  if (frames_counted_ != nullptr) return CountFrame(line);
   if (oddities_.Observer() != nullptr) TellFrame(line);
   NumberCells cells(line);
   ReserveFor(cells.TakeInt());
@@ -323,13 +322,22 @@ void HtrReader::TellFrame(std::string_view line) {
   oddities_.CheckNumbers(line, kMotionColumns);
 }
 
+void HtrReader::CountFrame(std::string_view line) {
+  if (!first_frame_read_) TakeStartFrame(NumberCells(line).TakeInt());
+  ++*frames_counted_;
+}
+
+// Intended: of all frame numbers in a file only the very first counts.
+void HtrReader::TakeStartFrame(std::int32_t frame_number) {
+  first_frame_read_ = true;
+  document_.SetStartFrame(frame_number);
+}
+
 // Makes room before the first line of a segment. Later segments follow what the last section really
 // held, so that room grows with the file and not with what it announces.
 void HtrReader::ReserveFor(std::int32_t frame_number) {
   if (!first_frame_read_) {
-    // Intended: of all frame numbers in a file only this one counts.
-    first_frame_read_ = true;
-    document_.SetStartFrame(frame_number);
+    TakeStartFrame(frame_number);
     segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
   } else if (segment_->GetNumFrames() == 0) {
     segment_->ReserveFrames(frames_in_last_section_);

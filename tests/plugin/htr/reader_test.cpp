@@ -541,6 +541,7 @@ TEST_F(HtrFile, CountsTheFramesThatItWouldRead) {
       Join(OneBoneAnd({})),
       Join(OneBoneAnd({"[Hips]", "1 0", "", "# none", "x", "[Nobody]", "1 0", "[Hips]", "1 0",
                        "[EndOfFile]", "[Hips]", "2 0"})),
+      Join(OneBoneAnd({"[Nobody]", "3 0", "[Hips]", "7 0", "1 0"})),
       Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Nobody 0 0"})),
       Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Hips 0 0"})),
       TwoBonesWith("NumSegments", "NumSegments 3"),
@@ -552,6 +553,7 @@ TEST_F(HtrFile, CountsTheFramesThatItWouldRead) {
     EXPECT_EQ(CountHtrFrames(counted, Name("walk"), counts),
               ReadHtrFile(document_, Name("walk"), true));
     ASSERT_EQ(counted.GetSegmentNames(), document_.GetSegmentNames());
+    EXPECT_EQ(counted.GetStartFrame(), document_.GetStartFrame());
     for (const HtrSegment& segment : counted.segments()) {
       EXPECT_EQ(segment.GetNumFrames(), 0U);
       EXPECT_EQ(counts[&segment], document_.FindSegment(segment.GetName())->GetNumFrames());
