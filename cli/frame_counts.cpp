@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <limits>
 
-#include "cli/import_flags.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
@@ -63,23 +62,6 @@ FrameCounts CountFrames(const orvane::HtrDocument& document, const orvane::HtrFr
     const auto found = held.find(&segment);
     return found == held.end() ? 0 : found->second;
   });
-}
-
-std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
-                                            const std::vector<ControlWish>& wishes) {
-  if (IsOutOfProportion(FramesInRange(wishes).value_or(counts.announced), counts)) {
-    throw Failure{ExitStatus::kRefused,
-                  {{file, DescribeDifference(counts),
-                    "Is \"NumFrames\" right? --range FROM:TO imports a part of them."}}};
-  }
-  if (counts.announced > counts.fewest_held) {
-    return Complaint{file, DescribeDifference(counts),
-                     "Missing frames are set to zero; --range FROM:TO leaves them out."};
-  }
-  if (counts.announced < counts.most_held) {
-    return Complaint{file, DescribeDifference(counts), "Only the announced frames are imported."};
-  }
-  return std::nullopt;
 }
 
 }  // namespace cli

@@ -1,12 +1,8 @@
 #pragma once
 
 #include <cstdint>
-#include <optional>
 #include <string>
-#include <vector>
 
-#include "cli/dialog_user.h"
-#include "cli/failure.h"
 #include "plugin/htr/document.h"
 #include "plugin/htr/reader.h"
 
@@ -32,10 +28,5 @@ std::string DescribeDifference(const FrameCounts& counts);
 
 // Whether importing `frames` is far more work than the file is worth.
 bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts);
-
-// What is to be said when the `counts` of `file` differ; nothing when they agree. Throws a Failure
-// when importing by `wishes` takes far more frames than are held.
-std::optional<Complaint> CompareFrameCounts(const std::string& file, const FrameCounts& counts,
-                                            const std::vector<ControlWish>& wishes);
 
 }  // namespace cli

@@ -84,15 +84,17 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   PluginSession session(arguments.module, arguments.settings);
   PrepareScene(arguments, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  Append(Inspect(input, kind, arguments.wishes), complaints);
+  const std::vector<ControlWish> wishes = AllWishes(arguments);
+  const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
+  Append(Inspect(input, kind, choices, kImportLess), complaints);
   if (kind == FileKind::kTrc) {
-    Append(InspectMarkerTargets(input, arguments.wishes, session.scene()), complaints);
+    Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
   }
   StopIfInterrupted();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
   // Without a word from the user, the host goes by the name.
   const std::string extension = arguments.kind ? ExtensionOf(*arguments.kind) : "";
-  const bool carried_out = session.Import(input, extension, AllWishes(arguments), show_progress);
+  const bool carried_out = session.Import(input, extension, wishes, show_progress);
   StopIfInterrupted();
   AddMessages(input, session, complaints);
   if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));

@@ -5,35 +5,12 @@
 
 #include "cli/choice.h"
 #include "cli/dialog_flags.h"
-#include "plugin/text/numbers.h"
+#include "cli/import_controls.h"
 
 namespace cli {
 namespace {
 
 using Kind = ControlWish::Kind;
-
-// The controls of the dialogs, by their ids.
-enum Control : int {
-  kBasePosition = 1017,
-  kEndEffectors = 1019,
-  kEuler = 1051,
-  kTcb = 1052,
-  kAnimation = 1063,
-  kFrom = 1065,
-  kTo = 1066,
-  kAll = 1067,
-  kRange = 1068,
-  kCreate = 1085,
-  kApply = 1086,
-  kGlobalScale = 1088,
-  kOffset = 1089,
-  kSize = 1104,
-  kSetFrameRate = 1140,
-  kSphere = 1141,
-  kPoint = 1142,
-  kSelectedOnly = 1143,
-  kRootNode = 1144
-};
 
 constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
 constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
@@ -105,24 +82,6 @@ ControlWish FrameRateFromFile() { return FrameRate("file"); }
 bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
   return std::any_of(wishes.begin(), wishes.end(),
                      [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
-}
-
-bool WishesToApply(const std::vector<ControlWish>& wishes) {
-  return std::any_of(wishes.begin(), wishes.end(),
-                     [](const ControlWish& wish) { return wish.control == kApply; });
-}
-
-bool WishesSelectedOnly(const std::vector<ControlWish>& wishes) {
-  return std::any_of(wishes.begin(), wishes.end(), [](const ControlWish& wish) {
-    return wish.control == kSelectedOnly && wish.checked;
-  });
-}
-
-std::optional<std::int64_t> FramesInRange(const std::vector<ControlWish>& wishes) {
-  const std::string* from = TypedText(wishes, kFrom);
-  const std::string* to = TypedText(wishes, kTo);
-  if (from == nullptr || to == nullptr) return std::nullopt;
-  return std::int64_t{orvane::ParseInt(*to)} - orvane::ParseInt(*from) + 1;
 }
 
 }  // namespace cli

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstdint>
-#include <optional>
 #include <vector>
 
 #include "cli/dialog_user.h"
@@ -24,12 +22,5 @@ ControlWish FrameRateFromFile();
 
 // Whether `wishes` say anything of the scene's frame rate.
 bool MentionFrameRate(const std::vector<ControlWish>& wishes);
-
-// Whether `wishes` choose "Apply", and "Selected Items Only".
-bool WishesToApply(const std::vector<ControlWish>& wishes);
-bool WishesSelectedOnly(const std::vector<ControlWish>& wishes);
-
-// How many frames "--range" takes, as the dialog will read its numbers; nothing without it.
-std::optional<std::int64_t> FramesInRange(const std::vector<ControlWish>& wishes);
 
 }  // namespace cli

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <optional>
 
-#include "cli/frame_counts.h"
 #include "cli/hierarchy.h"
+#include "cli/imported_frames.h"
 #include "cli/trc_inspection.h"
 #include "plugin/htr/reader.h"
 #include "plugin/text/numbers.h"
@@ -35,24 +35,38 @@ std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrD
   return Complaint{file, text, "A new skeleton goes without them; \"orvane info\" lists them all."};
 }
 
-std::vector<Complaint> InspectHtr(const std::string& file, const std::vector<ControlWish>& wishes) {
+// Of a file of which `held` frames are held.
+ImportedFrames FramesOf(const orvane::HtrDocument& document, const orvane::HtrFrameCounts& held,
+                        const ImportChoices& choices) {
+  ImportedFrames frames;
+  frames.counts = CountFrames(document, held);
+  const std::int64_t first = document.GetStartFrame();
+  frames.announced = {first, first + frames.counts.announced - 1};
+  frames.keyed = choices.Keyed(frames.announced);
+  // Whatever frame a range starts at, the file's are taken from the first one on.
+  frames.end = frames.keyed.Count();
+  return frames;
+}
+
+std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& choices,
+                                  const std::string& advice) {
   orvane::HtrDocument document;
   orvane::HtrFrameCounts held;
   if (!orvane::CountHtrFrames(document, file, held).empty()) return {};
   if (document.segments().empty()) return {};
-  std::vector<Complaint> complaints;
-  const auto counts = CompareFrameCounts(file, CountFrames(document, held), wishes);
-  if (counts) complaints.push_back(*counts);
-  const auto left_out = FindLeftOut(file, document);
+  std::vector<Complaint> complaints =
+      JudgeFrames(file, FramesOf(document, held, choices), choices, advice);
+  const auto left_out = choices.apply ? std::nullopt : FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);
   return complaints;
 }
 
 }  // namespace
 
-std::vector<Complaint> Inspect(const std::string& file, FileKind kind,
-                               const std::vector<ControlWish>& wishes) {
-  return kind == FileKind::kTrc ? InspectTrc(file, wishes) : InspectHtr(file, wishes);
+std::vector<Complaint> Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
+                               const std::string& advice) {
+  return kind == FileKind::kTrc ? InspectTrc(file, choices, advice)
+                                : InspectHtr(file, choices, advice);
 }
 
 }  // namespace cli

@@ -4,7 +4,6 @@
 #include <optional>
 #include <unordered_set>
 
-#include "cli/import_flags.h"
 #include "cli/trc_outline.h"
 #include "plugin/text/numbers.h"
 #include "plugin/trc/document.h"
@@ -64,11 +63,10 @@ std::string Describe(const Unmatched& unmatched, const std::string& object_if_se
 
 }  // namespace
 
-std::vector<Complaint> InspectMarkerTargets(const std::string& file,
-                                            const std::vector<ControlWish>& wishes,
+std::vector<Complaint> InspectMarkerTargets(const std::string& file, const ImportChoices& choices,
                                             const host::Scene& scene) {
-  if (!WishesToApply(wishes)) return {};
-  const bool selected_only = WishesSelectedOnly(wishes);
+  if (!choices.apply) return {};
+  const bool selected_only = choices.selected_only;
   if (scene.Selection().empty()) return {NothingSelected(selected_only)};
 
   const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(file);

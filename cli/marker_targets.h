@@ -3,18 +3,17 @@
 #include <string>
 #include <vector>
 
-#include "cli/dialog_user.h"
 #include "cli/failure.h"
+#include "cli/import_choices.h"
 #include "host/scene/scene.h"
 
 // Which objects of a scene the trajectories of a marker file are applied to.
 
 namespace cli {
 
-// Looks at what is selected in `scene` before `file` is imported by `wishes`. Returns what becomes
+// Looks at what is selected in `scene` before `file` is imported by `choices`. Returns what becomes
 // of markers that match none of it; nothing when objects are not applied to, but created.
-std::vector<Complaint> InspectMarkerTargets(const std::string& file,
-                                            const std::vector<ControlWish>& wishes,
+std::vector<Complaint> InspectMarkerTargets(const std::string& file, const ImportChoices& choices,
                                             const host::Scene& scene);
 
 }  // namespace cli

@@ -62,6 +62,11 @@ PluginSession::PluginSession(const std::string& module_path, Settings settings) 
 
 PluginSession::~PluginSession() = default;
 
+const host::Settings& PluginSession::settings() const {
+  if (user_settings_) return *user_settings_;
+  return *fresh_settings_;
+}
+
 bool PluginSession::Import(const std::string& file, const std::string& extension,
                            const std::vector<ControlWish>& wishes, bool show_progress) {
   const Task task{"Importing ", "importer", file, "--as htr or --as trc tells what it is."};

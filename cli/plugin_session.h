@@ -35,6 +35,7 @@ class PluginSession {
   host::Application& application() { return *application_; }
   host::ScriptedDesktop& desktop() { return *desktop_; }
   const host::Module& module() const { return *module_; }
+  const host::Settings& settings() const;
 
   // Lets the importer for `extension` (without its dot; empty: that of the name) import `file`,
   // answering its dialog by `wishes`; every message is closed by

@@ -5,8 +5,7 @@
 #include <filesystem>
 #include <map>
 
-#include "cli/frame_counts.h"
-#include "cli/import_flags.h"
+#include "cli/imported_frames.h"
 #include "cli/input.h"
 #include "platform/path_text.h"
 #include "plugin/text/numbers.h"
@@ -105,42 +104,48 @@ class Listener final : public orvane::TRCReadObserver {
   std::map<TRCOddity, Heard> heard_;
 };
 
-FrameCounts CountFrames(const orvane::TRCDocument& document) {
+ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices& choices) {
   const auto held = static_cast<std::int64_t>(document.MarkerAt(0)->SampleCount());
-  return {document.NumFrames(), held, held};
+  const std::int64_t first = document.FirstFrame();
+  ImportedFrames frames;
+  frames.counts = {document.NumFrames(), held, held};
+  frames.announced = {first, first + document.NumFrames() - 1};
+  frames.keyed = choices.Keyed(frames.announced);
+  if (frames.keyed.Count() > 0) frames.end = frames.keyed.last - first + 1;
+  return frames;
 }
 
 // So many keys are always made. Beyond them, a file that is shorter than a byte for each key has
 // lines that lack most of its columns.
 constexpr std::int64_t kKeysAlwaysMade = 5'000'000;
 
-void RequireProportion(const std::string& file, const orvane::TRCDocument& document,
-                       const std::vector<ControlWish>& wishes) {
-  const std::int64_t frames = FramesInRange(wishes).value_or(document.NumFrames());
+void RequireWholeLines(const std::string& file, std::int64_t markers, std::int64_t count) {
   const std::int64_t most_keys =
       std::max(kKeysAlwaysMade,
                static_cast<std::int64_t>(std::filesystem::file_size(platform::PathOf(file))));
-  if (frames <= most_keys / std::int64_t{document.MarkerCount()}) return;
+  if (count <= most_keys / markers) return;
   throw Failure{ExitStatus::kRefused,
                 {{file,
-                  "The file is far too short for " + FormatInt(frames) + " frames of " +
-                      FormatInt(document.MarkerCount()) + " markers",
+                  "The file is far too short for " + FormatInt(count) + " frames of " +
+                      FormatInt(markers) + " markers",
                   "Do its lines hold all columns? --range FROM:TO imports a part of them."}}};
 }
 
 }  // namespace
 
-std::vector<Complaint> InspectTrc(const std::string& file, const std::vector<ControlWish>& wishes) {
+std::vector<Complaint> InspectTrc(const std::string& file, const ImportChoices& choices,
+                                  const std::string& advice) {
   orvane::TRCDocument document;
   Listener listener;
   if (!document.Read(file, false, &listener).empty()) return {};
   if (document.MarkerCount() == 0) {
     throw Failure{ExitStatus::kRefused, {ComplainAbout(file, kNoMarkers)}};
   }
+  const ImportedFrames frames = FramesOf(document, choices);
+  const std::vector<Complaint> of_frames = JudgeFrames(file, frames, choices, advice);
+  RequireWholeLines(file, document.MarkerCount(), frames.keyed.Count());
   std::vector<Complaint> complaints = listener.Complaints(file);
-  const auto counts = CompareFrameCounts(file, CountFrames(document), wishes);
-  RequireProportion(file, document, wishes);
-  if (counts) complaints.push_back(*counts);
+  complaints.insert(complaints.end(), of_frames.begin(), of_frames.end());
   return complaints;
 }
 

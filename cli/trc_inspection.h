@@ -3,16 +3,17 @@
 #include <string>
 #include <vector>
 
-#include "cli/dialog_user.h"
 #include "cli/failure.h"
+#include "cli/import_choices.h"
 
 // What the plug-in does not say of a marker file that it imports.
 
 namespace cli {
 
-// Reads `file` before it is imported by `wishes`. Returns what its user should know; nothing when
-// the reader refuses it, because the plug-in tells that. Throws a Failure when the file holds no
-// markers, or when the import would be work out of proportion.
-std::vector<Complaint> InspectTrc(const std::string& file, const std::vector<ControlWish>& wishes);
+// Reads `file` before it is imported by `choices`. Returns what its user should know;
+// nothing when the reader refuses it, because the plug-in tells that. Throws a Failure when the
+// file holds no markers or, with `advice`, when the import would be work out of proportion.
+std::vector<Complaint> InspectTrc(const std::string& file, const ImportChoices& choices,
+                                  const std::string& advice);
 
 }  // namespace cli

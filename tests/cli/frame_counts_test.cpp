@@ -95,17 +95,59 @@ TEST_F(FrameCountsTest, AHundredThousandMayAlwaysBeAnnounced) {
   EXPECT_THAT(result.error, testing::EndsWith(kMissing));
 }
 
-TEST_F(FrameCountsTest, ARangeBoundsTheWork) {
-  const ProgramResult result = Import("2147483647", {"--range", "1:3"});
+TEST_F(FrameCountsTest, NothingIsSaidOfFramesThatARangeLeavesOut) {
+  for (const char* count : {"2147483647", "4"}) {
+    const ProgramResult result = Import(count, {"--range", "1:3", "--strict", "--force"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.error, IsEmpty());
+  }
+  EXPECT_EQ(Import("2", {"--range", "1:2", "--strict", "--force"}).status, 0);
+}
+
+TEST_F(FrameCountsTest, NothingIsSaidOfThemWhenNoneAreImported) {
+  for (const char* count : {"2147483647", "4", "2"}) {
+    const ProgramResult result = Import(count, {"--no-animation", "--strict", "--force"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.error, IsEmpty());
+  }
+}
+
+TEST_F(FrameCountsTest, MissingFramesInARangeAreAWarning) {
+  const ProgramResult result = Import("5", {"--range", "1:4"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
-            std::string("orvane: walk.htr: The header announces 2147483647 frames, but the file "
-                        "holds 3\n") +
+            std::string("orvane: walk.htr: The header announces 5 frames, but the file holds 3\n") +
                 kMissing);
 }
 
 TEST_F(FrameCountsTest, ARangeThatIsAsWideBoundsNothing) {
   EXPECT_EQ(Import("2147483647", {"--range", "1:2147483646"}).status, 1);
+}
+
+// The dialog says what of a range is wrong; the header is right.
+TEST_F(FrameCountsTest, WhatARangeHasBeyondTheFileIsTheDialogsToRefuse) {
+  const std::string within = "  The range must lie within the frames of the file.\n";
+  EXPECT_EQ(Import("3", {"--range", "1:1000000"}).error,
+            "orvane: walk.htr: Please choose an end frame less than or equal to 3.\n" + within);
+  EXPECT_EQ(Import("3", {"--range", "-2147483648:3"}).error,
+            "orvane: walk.htr: Please choose a start frame equal to or greater than 1.\n" + within);
+  EXPECT_EQ(Import("3", {"--range", "2000000:1000000"}).error,
+            "orvane: walk.htr: Please choose an end frame less than or equal to 3.\n" + within);
+}
+
+// With the dialog's refusal it is told that the header leaves frames out.
+TEST_F(FrameCountsTest, ARangeOfFramesThatAreNotAnnouncedIsAWarningToo) {
+  const ProgramResult result = Import("2", {"--range", "1:3"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              StartsWith("orvane: walk.htr: The header announces 2 frames, but the file holds 3\n"
+                         "  Only the announced frames are imported.\n"));
+}
+
+TEST_F(FrameCountsTest, FramesHaveTheNumbersOfTheFile) {
+  const std::string file = Replaced(SmallMotion(), "[Hips]\n1 ", "[Hips]\n2000001 ");
+  Write("walk.htr", Replaced(file, "NumFrames 3", "NumFrames 4"));
+  EXPECT_EQ(ImportFile({"--range", "2000001:2000003", "--strict"}).status, 0);
 }
 
 TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {

@@ -194,6 +194,26 @@ TEST_F(ImportTrcTest, BlankLinesForManyMarkersAreRefused) {
             "  Do its lines hold all columns? --range FROM:TO imports a part of them.\n");
 }
 
+TEST_F(ImportTrcTest, OfAHeaderThatIsRightNothingIsSaidWhateverTheRange) {
+  const std::string within = "  The range must lie within the frames of the file.\n";
+  EXPECT_EQ(ImportText(TwoMarkers().Text(), {"--range", "1:10000000"}).error,
+            "orvane: walk.trc: Please choose an end frame less than or equal to 3.\n" + within);
+  EXPECT_EQ(Import({"--range", "-10000000:3"}).error,
+            "orvane: walk.trc: Please choose a start frame equal to or greater than 1.\n" + within);
+}
+
+TEST_F(ImportTrcTest, NothingIsSaidOfMissingFramesThatARangeLeavesOut) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 900;
+  text.first_frame = 11;
+  const ProgramResult result = ImportText(text.Text(), {"--range", "12:13", "--strict"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_EQ(Import({"--range", "13:14", "--force"}).error,
+            "orvane: walk.trc: The header announces 900 frames, but the file holds 3\n"
+            "  Missing frames are set to zero; --range FROM:TO leaves them out.\n");
+}
+
 struct Warning {
   const char* name;
   std::string from;

@@ -1,4 +1,5 @@
 #include "tests/cli/orvane_test.h"
+#include "tests/support/user_settings.h"
 
 namespace {
 
@@ -31,6 +32,31 @@ TEST_P(LeftOutSegmentsTest, AreARefusalWithStrict) {
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error, testing::StartsWith(kWarning));
   EXPECT_FALSE(Exists("walk.glb"));
+}
+
+// No skeleton is made; what the selected one has no bones for is no loss.
+TEST_P(LeftOutSegmentsTest, AreNotMentionedWhenMotionIsApplied) {
+  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
+  const ProgramResult result = Orvane({"import", "walk.htr", "-o", "more.glb", "--into", "walk.glb",
+                                       "--apply", "--select", "Hips", "--strict"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, testing::IsEmpty());
+}
+
+TEST_P(LeftOutSegmentsTest, AreNotMentionedWhenMotionWasAppliedLast) {
+  const test::NoUserSettings none(folder_.File("config"));
+  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
+  std::vector<std::string> apply = {"import", "walk.htr", "--into",     "walk.glb", "--select",
+                                    "Hips",   "--strict", "--settings", "user",     "-o"};
+  const auto import = [&](const std::string& output, const std::vector<std::string>& flags) {
+    std::vector<std::string> arguments = apply;
+    arguments.push_back(output);
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments).status;
+  };
+  EXPECT_EQ(import("first.glb", {"--apply"}), 0);
+  EXPECT_EQ(import("second.glb", {}), 0);
+  EXPECT_EQ(import("third.glb", {"--create"}), 1);
 }
 
 // A second root, a parent that is missing, and a circle.
