@@ -3,6 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "plugin/text/numbers.h"
+
 namespace cli {
 namespace {
 
@@ -16,6 +18,14 @@ void WishForRange(Wishes& wishes, const RangeControls& controls, const std::stri
   wishes.push_back({Kind::kRadio, controls.range, "--range", "", false, ""});
   wishes.push_back({Kind::kText, controls.from, "--range", range.substr(0, colon), false, ""});
   wishes.push_back({Kind::kText, controls.to, "--range", range.substr(colon + 1), false, ""});
+}
+
+// Null when there is none.
+const ControlWish* FindWish(const Wishes& wishes, int control) {
+  const auto wish = std::find_if(wishes.begin(), wishes.end(), [control](const ControlWish& each) {
+    return each.control == control;
+  });
+  return wish == wishes.end() ? nullptr : &*wish;
 }
 
 }  // namespace
@@ -66,11 +76,21 @@ void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
       ->excludes(all);
 }
 
-const std::string* TypedText(const Wishes& wishes, int control) {
-  const auto wish = std::find_if(wishes.begin(), wishes.end(), [control](const ControlWish& each) {
-    return each.control == control;
-  });
-  return wish == wishes.end() ? nullptr : &wish->text;
+std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control) {
+  const ControlWish* wish = FindWish(wishes, control);
+  return wish == nullptr ? std::nullopt : std::optional(orvane::ParseInt(wish->text));
+}
+
+std::optional<FrameSpan> TypedRange(const Wishes& wishes, int from, int to) {
+  const auto first = TypedInt(wishes, from);
+  const auto last = TypedInt(wishes, to);
+  if (!first || !last) return std::nullopt;
+  return FrameSpan{*first, *last};
+}
+
+std::optional<bool> WishedState(const Wishes& wishes, int control) {
+  const ControlWish* wish = FindWish(wishes, control);
+  return wish == nullptr ? std::nullopt : std::optional(wish->checked);
 }
 
 }  // namespace cli

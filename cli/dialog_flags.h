@@ -1,9 +1,12 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/dialog_user.h"
+#include "cli/frame_span.h"
 
 // Flags that are controls of an options dialog. Parsing the arguments adds a wish for each that is
 // given to a list, which must outlive the parsing.
@@ -48,7 +51,10 @@ void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
               const std::string& all_flag, const std::string& all_help,
               const std::string& range_help);
 
-// What `wishes` type into `control`; null when they do not.
-const std::string* TypedText(const Wishes& wishes, int control);
+// What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
+// the number that they type into a text field, the numbers of two, and the state of a check box.
+std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
+std::optional<FrameSpan> TypedRange(const Wishes& wishes, int from, int to);
+std::optional<bool> WishedState(const Wishes& wishes, int control);
 
 }  // namespace cli

@@ -67,7 +67,7 @@ ExitStatus Export(const ExportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   ReadSceneFile(arguments.input, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  RequireSensibleRange(session.scene(), arguments.wishes);
+  RequireSensibleRange(session.scene(), ExportChoicesOf(arguments.wishes, session.settings()));
   StopIfInterrupted();
   const std::string place = output.MakeRoom();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();

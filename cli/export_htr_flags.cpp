@@ -1,10 +1,8 @@
 #include "cli/export_htr_flags.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
 
-#include "cli/dialog_flags.h"
-#include "plugin/text/numbers.h"
+#include "cli/stored_options.h"
 
 namespace cli {
 namespace {
@@ -25,7 +23,7 @@ enum Control : int {
 
 }  // namespace
 
-void AddExportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
+void AddExportHtrFlags(CLI::App& verb, Wishes& wishes) {
   CLI::Option* saved = AddRadio(verb, wishes, "--saved-pose", kSavedPose,
                                 "Take the base position that an import kept on a bone, where there "
                                 "is one (the default)");
@@ -41,17 +39,13 @@ void AddExportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
   AddText(verb, wishes, "--scale", kGlobalScale, "Multiply all lengths by this (1)");
 }
 
-bool LeaveAnimationOut(const std::vector<ControlWish>& wishes) {
-  return std::any_of(wishes.begin(), wishes.end(), [](const ControlWish& wish) {
-    return wish.control == kAnimation && !wish.checked;
-  });
-}
-
-std::optional<std::int64_t> FramesToExport(const std::vector<ControlWish>& wishes) {
-  const std::string* from = TypedText(wishes, kFrom);
-  const std::string* to = TypedText(wishes, kTo);
-  if (from == nullptr || to == nullptr) return std::nullopt;
-  return std::int64_t{orvane::ParseInt(*to)} - orvane::ParseInt(*from) + 1;
+ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings) {
+  const StoredOptions stored(settings, "ExportHTR");
+  ExportChoices choices;
+  choices.animation =
+      WishedState(wishes, kAnimation).value_or(stored.Flag("Animate").value_or(true));
+  choices.range = TypedRange(wishes, kFrom, kTo);
+  return choices;
 }
 
 }  // namespace cli

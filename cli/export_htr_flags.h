@@ -1,10 +1,10 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
-#include <vector>
 
-#include "cli/dialog_user.h"
+#include "cli/dialog_flags.h"
+#include "cli/frame_span.h"
+#include "host/desktop/settings.h"
 
 // The flags of `orvane export` that are controls of the options dialog "ExportHTR".
 
@@ -16,12 +16,15 @@ namespace cli {
 
 // Adds the flags to `verb`. Parsing the arguments adds a wish for each that is given to `wishes`,
 // which must outlive the parsing.
-void AddExportHtrFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
+void AddExportHtrFlags(CLI::App& verb, Wishes& wishes);
 
-// Whether `wishes` leave frames out altogether.
-bool LeaveAnimationOut(const std::vector<ControlWish>& wishes);
+// What decides which frames there will be.
+struct ExportChoices {
+  bool animation = true;           // export frames
+  std::optional<FrameSpan> range;  // as typed; nothing for the scene's animation range
+};
 
-// How many frames "--range" takes, as the dialog will read its numbers; nothing without it.
-std::optional<std::int64_t> FramesToExport(const std::vector<ControlWish>& wishes);
+// What comes of `wishes`, and without one of what the dialog finds in `settings`.
+ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings);
 
 }  // namespace cli

@@ -3,77 +3,96 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <string>
 
-#include "cli/export_htr_flags.h"
+#include "cli/exported_bones.h"
 #include "cli/failure.h"
+#include "cli/frame_counts.h"
 #include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {
 
-constexpr std::int64_t kAlwaysAllowed = 100'000;
-constexpr std::int64_t kTimesKeyed = 10;
-
-// From the first key to the last one, both included.
-class KeySpan {
+// The keys of a scene, from the first to the last one.
+class SceneKeys {
  public:
-  void Add(const host::Controller& controller) {
-    if (controller.KeyCount() == 0) return;
-    Extend(controller.KeyTick(0));
-    Extend(controller.KeyTick(controller.KeyCount() - 1));
+  explicit SceneKeys(const host::Scene& scene)
+      : ticks_per_frame_(scene.Animation().TicksPerFrame()) {
+    std::vector<const host::Node*> waiting = {&scene.Root()};
+    while (!waiting.empty()) {
+      const host::Node* node = waiting.back();
+      waiting.pop_back();
+      if (const host::TransformController* transform = node->Transform()) Add(*transform);
+      waiting.insert(waiting.end(), node->Children().begin(), node->Children().end());
+    }
   }
 
-  std::int64_t Frames(int ticks_per_frame) const {
-    return first_ ? (last_ - *first_) / ticks_per_frame + 1 : 1;
+  // How many frames long they are; 1 without any.
+  std::int64_t Length() const { return first_ ? (last_ - *first_) / ticks_per_frame_ + 1 : 1; }
+
+  // The frames that none of them comes after, or before.
+  FrameSpan Frames() const {
+    if (!first_) return {};
+    return {-RoundedDown(-*first_), RoundedDown(last_)};
   }
+
+  // How many frames nodes are keyed in, those of each node added up.
+  std::int64_t Held() const { return held_; }
 
  private:
-  void Extend(std::int64_t tick) {
-    first_ = first_ ? std::min(*first_, tick) : tick;
-    last_ = std::max(last_, tick);
+  void Add(const host::TransformController& transform) {
+    const host::Controller* const controllers[] = {&transform.Position(), &transform.Rotation(),
+                                                   &transform.Scale()};
+    std::size_t most = 0;
+    for (const host::Controller* controller : controllers) {
+      const std::size_t count = controller->KeyCount();
+      most = std::max(most, count);
+      if (count == 0) continue;
+      const std::int64_t first = controller->KeyTick(0);
+      first_ = first_ ? std::min(*first_, first) : first;
+      last_ = std::max(last_, std::int64_t{controller->KeyTick(count - 1)});
+    }
+    held_ += static_cast<std::int64_t>(most);
   }
 
+  // The last frame that does not begin after `tick`.
+  std::int64_t RoundedDown(std::int64_t tick) const {
+    return tick / ticks_per_frame_ - (tick % ticks_per_frame_ < 0 ? 1 : 0);
+  }
+
+  const std::int64_t ticks_per_frame_;
   std::optional<std::int64_t> first_;
   std::int64_t last_ = INT64_MIN;
+  std::int64_t held_ = 0;
 };
 
-std::int64_t KeyedFrames(const host::Scene& scene) {
-  KeySpan span;
-  std::vector<const host::Node*> waiting = {&scene.Root()};
-  while (!waiting.empty()) {
-    const host::Node* node = waiting.back();
-    waiting.pop_back();
-    if (const host::TransformController* transform = node->Transform()) {
-      span.Add(transform->Position());
-      span.Add(transform->Rotation());
-      span.Add(transform->Scale());
-    }
-    waiting.insert(waiting.end(), node->Children().begin(), node->Children().end());
-  }
-  return span.Frames(scene.Animation().TicksPerFrame());
-}
-
-std::int64_t FramesInAnimationRange(const host::AnimationState& animation) {
+FrameSpan AnimationRange(const host::AnimationState& animation) {
   const int ticks = animation.TicksPerFrame();
-  return std::int64_t{animation.Range().End() / ticks} - animation.Range().Start() / ticks + 1;
+  return {animation.Range().Start() / ticks, animation.Range().End() / ticks};
 }
 
 }  // namespace
 
-void RequireSensibleRange(const host::Scene& scene, const std::vector<ControlWish>& wishes) {
-  if (LeaveAnimationOut(wishes)) return;
+void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices) {
+  if (!choices.animation) return;
   // What lies outside the animation range is refused by the plug-in.
-  const std::int64_t most = FramesInAnimationRange(scene.Animation());
-  const std::int64_t wanted = std::min(FramesToExport(wishes).value_or(most), most);
-  if (wanted <= kAlwaysAllowed) return;
-  const std::int64_t keyed = KeyedFrames(scene);
-  if (wanted <= kTimesKeyed * keyed) return;
-  throw Failure{
-      ExitStatus::kRefused,
-      {{"",
-        "There are " + orvane::FormatInt(wanted) +
-            " frames to export, but the keys of the scene hold " + orvane::FormatInt(keyed),
-        "--range FROM:TO exports a part of the animation range."}}};
+  const FrameSpan most = AnimationRange(scene.Animation());
+  const FrameSpan wished = choices.range ? Overlap(*choices.range, most) : most;
+  const SceneKeys keys(scene);
+  const std::int64_t outside = wished.Count() - Overlap(wished, keys.Frames()).Count();
+  const FrameCounts counts = {wished.Count(), keys.Length(), keys.Length()};
+  const bool is_too_long = IsOutOfProportion(wished.Count(), counts);
+  const std::string why =
+      is_too_long
+          ? ""
+          : WhyOutOfProportion({outside, "bone", CountExportedBones(scene), keys.Held(), 0});
+  if (!is_too_long && why.empty()) return;
+  throw Failure{ExitStatus::kRefused,
+                {{"",
+                  "There are " + orvane::FormatInt(wished.Count()) +
+                      " frames to export, but the keys of the scene hold " +
+                      orvane::FormatInt(keys.Length()) + (why.empty() ? "" : ": " + why),
+                  "--range FROM:TO exports a part of the animation range."}}};
 }
 
 }  // namespace cli

@@ -1,17 +1,14 @@
 #pragma once
 
-#include <vector>
-
-#include "cli/dialog_user.h"
+#include "cli/export_htr_flags.h"
 #include "host/scene/scene.h"
 
 // Whether an export makes more frames than there is motion for.
 
 namespace cli {
 
-// Throws a Failure when the frames of the scene's animation range, or those of "--range" among
-// `wishes`, are very many and many times more than the time between the first and the last key
-// holds: all of them would be held in memory.
-void RequireSensibleRange(const host::Scene& scene, const std::vector<ControlWish>& wishes);
+// Throws a Failure when what `choices` take of the animation range of `scene` is out of proportion
+// to its keys: all frames are held in memory.
+void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices);
 
 }  // namespace cli

@@ -64,4 +64,11 @@ FrameCounts CountFrames(const orvane::HtrDocument& document, const orvane::HtrFr
   });
 }
 
+std::string WhyOutOfProportion(std::int64_t frames, const FrameCounts& counts,
+                               const MadeUpFrames& made_up) {
+  if (IsOutOfProportion(frames, counts)) return DescribeDifference(counts);
+  const std::string why = WhyOutOfProportion(made_up);
+  return why.empty() ? "" : DescribeDifference(counts) + ": " + why;
+}
+
 }  // namespace cli

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <string>
 
+#include "cli/proportion.h"
 #include "plugin/htr/document.h"
 #include "plugin/htr/reader.h"
 
@@ -28,5 +29,10 @@ std::string DescribeDifference(const FrameCounts& counts);
 
 // Whether importing `frames` is far more work than the file is worth.
 bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts);
+
+// Why `frames` of a file with these `counts`, of which some are `made_up`, are out of proportion;
+// empty when they are not.
+std::string WhyOutOfProportion(std::int64_t frames, const FrameCounts& counts,
+                               const MadeUpFrames& made_up);
 
 }  // namespace cli

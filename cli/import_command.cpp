@@ -86,7 +86,7 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
   const std::vector<ControlWish> wishes = AllWishes(arguments);
   const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
-  Append(Inspect(input, kind, choices, kImportLess), complaints);
+  Append(Inspect(input, kind, choices, session.scene(), kImportLess), complaints);
   if (kind == FileKind::kTrc) {
     Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
   }

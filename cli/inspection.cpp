@@ -5,6 +5,7 @@
 
 #include "cli/hierarchy.h"
 #include "cli/imported_frames.h"
+#include "cli/keyed_segments.h"
 #include "cli/trc_inspection.h"
 #include "plugin/htr/reader.h"
 #include "plugin/text/numbers.h"
@@ -36,8 +37,8 @@ std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrD
 }
 
 // Of a file of which `held` frames are held.
-ImportedFrames FramesOf(const orvane::HtrDocument& document, const orvane::HtrFrameCounts& held,
-                        const ImportChoices& choices) {
+ImportedFrames FramesOf(orvane::HtrDocument& document, const orvane::HtrFrameCounts& held,
+                        const ImportChoices& choices, const host::Scene& scene) {
   ImportedFrames frames;
   frames.counts = CountFrames(document, held);
   const std::int64_t first = document.GetStartFrame();
@@ -45,17 +46,23 @@ ImportedFrames FramesOf(const orvane::HtrDocument& document, const orvane::HtrFr
   frames.keyed = choices.Keyed(frames.announced);
   // Whatever frame a range starts at, the file's are taken from the first one on.
   frames.end = frames.keyed.Count();
+  frames.rate = document.GetDataFrameRate();
+  std::int64_t all = 0;
+  for (const auto& [segment, count] : held) all += static_cast<std::int64_t>(count);
+  constexpr std::int64_t kPositionAndRotation = 2;
+  frames.receivers = {"segment", CountKeyedSegments(document, choices.apply, scene), all,
+                      kPositionAndRotation};
   return frames;
 }
 
 std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& choices,
-                                  const std::string& advice) {
+                                  const host::Scene& scene, const std::string& advice) {
   orvane::HtrDocument document;
   orvane::HtrFrameCounts held;
   if (!orvane::CountHtrFrames(document, file, held).empty()) return {};
   if (document.segments().empty()) return {};
-  std::vector<Complaint> complaints =
-      JudgeFrames(file, FramesOf(document, held, choices), choices, advice);
+  std::vector<Complaint> complaints = JudgeFrames(file, FramesOf(document, held, choices, scene),
+                                                  choices, scene.Animation(), advice);
   const auto left_out = choices.apply ? std::nullopt : FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);
   return complaints;
@@ -64,9 +71,9 @@ std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& 
 }  // namespace
 
 std::vector<Complaint> Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
-                               const std::string& advice) {
-  return kind == FileKind::kTrc ? InspectTrc(file, choices, advice)
-                                : InspectHtr(file, choices, advice);
+                               const host::Scene& scene, const std::string& advice) {
+  return kind == FileKind::kTrc ? InspectTrc(file, choices, scene, advice)
+                                : InspectHtr(file, choices, scene, advice);
 }
 
 }  // namespace cli

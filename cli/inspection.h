@@ -6,6 +6,7 @@
 #include "cli/failure.h"
 #include "cli/file_kind.h"
 #include "cli/import_choices.h"
+#include "host/scene/scene.h"
 
 // What the plug-in does not say of a file that it imports.
 
@@ -15,10 +16,10 @@ namespace cli {
 inline constexpr char kImportLess[] =
     "Is \"NumFrames\" right? --range FROM:TO imports a part of them.";
 
-// Reads `file` before it is imported by `choices`. Returns what its user should know;
+// Reads `file` before it is imported by `choices` into `scene`. Returns what its user should know;
 // nothing when the reader refuses it or it is an HTR file without segments, because the plug-in
 // tells that. Throws a Failure, with `advice`, when the import would be work out of proportion.
 std::vector<Complaint> Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
-                               const std::string& advice);
+                               const host::Scene& scene, const std::string& advice);
 
 }  // namespace cli

@@ -87,7 +87,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
     throw CannotWrite(arguments.output, output, reason);
   }
   PluginSession session(arguments.module, Settings::kFresh);
-  Inspect(input, FileKind::kTrc, {}, "Is \"NumFrames\" right?");
+  Inspect(input, FileKind::kTrc, {}, session.scene(), "Is \"NumFrames\" right?");
   ImportCloud(session, input);
   const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
 

@@ -104,14 +104,19 @@ class Listener final : public orvane::TRCReadObserver {
   std::map<TRCOddity, Heard> heard_;
 };
 
-ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices& choices) {
+ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices& choices,
+                        const host::Scene& scene) {
   const auto held = static_cast<std::int64_t>(document.MarkerAt(0)->SampleCount());
+  const std::int64_t markers = document.MarkerCount();
   const std::int64_t first = document.FirstFrame();
   ImportedFrames frames;
   frames.counts = {document.NumFrames(), held, held};
   frames.announced = {first, first + document.NumFrames() - 1};
   frames.keyed = choices.Keyed(frames.announced);
   if (frames.keyed.Count() > 0) frames.end = frames.keyed.last - first + 1;
+  frames.rate = document.DataRate();
+  const bool for_nobody = choices.apply && choices.selected_only && scene.Selection().empty();
+  frames.receivers = {"marker", for_nobody ? 0 : markers, held * markers, 1};
   return frames;
 }
 
@@ -119,31 +124,33 @@ ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices
 // lines that lack most of its columns.
 constexpr std::int64_t kKeysAlwaysMade = 5'000'000;
 
-void RequireWholeLines(const std::string& file, std::int64_t markers, std::int64_t count) {
+void RequireWholeLines(const std::string& file, const ImportedFrames& frames) {
+  const std::int64_t count = frames.keyed.Count();
   const std::int64_t most_keys =
       std::max(kKeysAlwaysMade,
                static_cast<std::int64_t>(std::filesystem::file_size(platform::PathOf(file))));
-  if (count <= most_keys / markers) return;
+  if (frames.receivers.count == 0 || count <= most_keys / frames.receivers.count) return;
   throw Failure{ExitStatus::kRefused,
                 {{file,
                   "The file is far too short for " + FormatInt(count) + " frames of " +
-                      FormatInt(markers) + " markers",
+                      FormatInt(frames.receivers.count) + " markers",
                   "Do its lines hold all columns? --range FROM:TO imports a part of them."}}};
 }
 
 }  // namespace
 
 std::vector<Complaint> InspectTrc(const std::string& file, const ImportChoices& choices,
-                                  const std::string& advice) {
+                                  const host::Scene& scene, const std::string& advice) {
   orvane::TRCDocument document;
   Listener listener;
   if (!document.Read(file, false, &listener).empty()) return {};
   if (document.MarkerCount() == 0) {
     throw Failure{ExitStatus::kRefused, {ComplainAbout(file, kNoMarkers)}};
   }
-  const ImportedFrames frames = FramesOf(document, choices);
-  const std::vector<Complaint> of_frames = JudgeFrames(file, frames, choices, advice);
-  RequireWholeLines(file, document.MarkerCount(), frames.keyed.Count());
+  const ImportedFrames frames = FramesOf(document, choices, scene);
+  const std::vector<Complaint> of_frames =
+      JudgeFrames(file, frames, choices, scene.Animation(), advice);
+  RequireWholeLines(file, frames);
   std::vector<Complaint> complaints = listener.Complaints(file);
   complaints.insert(complaints.end(), of_frames.begin(), of_frames.end());
   return complaints;

@@ -1,5 +1,6 @@
 #include "cli/trc_worth.h"
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
@@ -35,15 +36,27 @@ std::string FramesWritten(std::int64_t announced, std::int64_t held) {
                           : "Only the announced frames are written.";
 }
 
+// Behind the last line, of the markers that are written.
+MadeUpFrames MadeUpSamples(const FrameCounts& counts, const orvane::TRCDocument& document,
+                           const MarkerNaming& naming) {
+  const auto& markers = document.markers();
+  const auto kept = std::count_if(markers.begin(), markers.end(), [&](const auto& marker) {
+    return naming.NameFor(marker.Name()).has_value();
+  });
+  return {std::max<std::int64_t>(counts.announced - counts.most_held, 0), "marker", kept,
+          counts.most_held * document.MarkerCount(), 0};
+}
+
 void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
                  const orvane::TRCOutliner& outline, const MarkerNaming& naming) {
   conversion.markers_dropped = document.MarkerCount();
   const auto held = static_cast<std::int64_t>(outline.Frames());
   const FrameCounts counts{document.NumFrames(), held, held};
-  if (IsOutOfProportion(counts.announced, counts)) {
+  const std::string why =
+      WhyOutOfProportion(counts.announced, counts, MadeUpSamples(counts, document, naming));
+  if (!why.empty()) {
     conversion.status = ConversionStatus::kRefused;
-    conversion.errors.push_back(
-        {conversion.input, DescribeDifference(counts), "Is \"NumFrames\" right?"});
+    conversion.errors.push_back({conversion.input, why, "Is \"NumFrames\" right?"});
     return;
   }
   if (counts.announced != held) {
