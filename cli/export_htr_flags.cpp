@@ -45,6 +45,7 @@ ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settin
   choices.animation =
       WishedState(wishes, kAnimation).value_or(stored.Flag("Animate").value_or(true));
   choices.range = TypedRange(wishes, kFrom, kTo);
+  choices.offset = TypedInt(wishes, kOffset).value_or(stored.Int("Offset").value_or(0));
   return choices;
 }
 

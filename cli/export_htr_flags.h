@@ -22,6 +22,7 @@ void AddExportHtrFlags(CLI::App& verb, Wishes& wishes);
 struct ExportChoices {
   bool animation = true;           // export frames
   std::optional<FrameSpan> range;  // as typed; nothing for the scene's animation range
+  std::int32_t offset = 0;         // added to the numbers of frames
 };
 
 // What comes of `wishes`, and without one of what the dialog finds in `settings`.

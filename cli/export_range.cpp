@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string>
 
@@ -12,6 +13,8 @@
 
 namespace cli {
 namespace {
+
+using orvane::FormatInt;
 
 // The keys of a scene, from the first to the last one.
 class SceneKeys {
@@ -71,13 +74,7 @@ FrameSpan AnimationRange(const host::AnimationState& animation) {
   return {animation.Range().Start() / ticks, animation.Range().End() / ticks};
 }
 
-}  // namespace
-
-void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices) {
-  if (!choices.animation) return;
-  // What lies outside the animation range is refused by the plug-in.
-  const FrameSpan most = AnimationRange(scene.Animation());
-  const FrameSpan wished = choices.range ? Overlap(*choices.range, most) : most;
+void RequireProportion(const host::Scene& scene, const FrameSpan& wished) {
   const SceneKeys keys(scene);
   const std::int64_t outside = wished.Count() - Overlap(wished, keys.Frames()).Count();
   const FrameCounts counts = {wished.Count(), keys.Length(), keys.Length()};
@@ -89,10 +86,42 @@ void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices
   if (!is_too_long && why.empty()) return;
   throw Failure{ExitStatus::kRefused,
                 {{"",
-                  "There are " + orvane::FormatInt(wished.Count()) +
+                  "There are " + FormatInt(wished.Count()) +
                       " frames to export, but the keys of the scene hold " +
-                      orvane::FormatInt(keys.Length()) + (why.empty() ? "" : ": " + why),
+                      FormatInt(keys.Length()) + (why.empty() ? "" : ": " + why),
                   "--range FROM:TO exports a part of the animation range."}}};
+}
+
+Failure NumberOutOfBounds(const ExportChoices& choices, std::int64_t frame,
+                          const std::string& bound) {
+  return {ExitStatus::kRefused,
+          {{"--offset",
+            FormatInt(choices.offset) + " would give frame " + FormatInt(frame) + " the number " +
+                FormatInt(frame + choices.offset) + ", and " + bound + " that a file can have",
+            ""}}};
+}
+
+void RequireNumbers(const FrameSpan& wished, const ExportChoices& choices) {
+  constexpr std::int64_t kFirst = std::numeric_limits<std::int32_t>::min();
+  constexpr std::int64_t kLast = std::numeric_limits<std::int32_t>::max();
+  if (wished.Count() == 0) return;
+  if (wished.first + choices.offset < kFirst) {
+    throw NumberOutOfBounds(choices, wished.first, FormatInt(kFirst) + " is the first");
+  }
+  if (wished.last + choices.offset > kLast) {
+    throw NumberOutOfBounds(choices, wished.last, FormatInt(kLast) + " is the last");
+  }
+}
+
+}  // namespace
+
+void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices) {
+  if (!choices.animation) return;
+  // What lies outside the animation range is refused by the plug-in.
+  const FrameSpan most = AnimationRange(scene.Animation());
+  const FrameSpan wished = choices.range ? Overlap(*choices.range, most) : most;
+  RequireNumbers(wished, choices);
+  RequireProportion(scene, wished);
 }
 
 }  // namespace cli

@@ -329,6 +329,40 @@ TEST_F(ExportTest, APluginThatOnlySaysThatItHasWrittenIsNotBelieved) {
                 "orvane: nothing.htr: could not be written completely\n  Is the disk full?\n");
 }
 
+// --- Numbers of frames ---
+
+TEST_F(ExportTest, FrameNumbersThatAFileCannotHoldAreRefused) {
+  ExpectRefused(Export({"--offset", "2147483645"}), 1,
+                "orvane: --offset: 2147483645 would give frame 3 the number 2147483648, and "
+                "2147483647 is the last that a file can have\n");
+  ExpectRefused(Export({"--offset", "2147483647", "--range", "2:3"}), 1,
+                "orvane: --offset: 2147483647 would give frame 3 the number 2147483650, and "
+                "2147483647 is the last that a file can have\n");
+  EXPECT_EQ(Export({"--offset", "2147483644", "--quiet"}).status, 0);
+  EXPECT_THAT(Read("out.htr"), HasSubstr("\r\n2147483647\t20.000000\t"));
+}
+
+TEST_F(ExportTest, SoAreThoseBelowTheLeast) {
+  MakeScene(Replaced(test::SmallMotion(), "[Hips]\n1 ", "[Hips]\n-1 "));
+  ExpectRefused(Export({"--offset", "-2147483648"}), 1,
+                "orvane: --offset: -2147483648 would give frame -1 the number -2147483649, and "
+                "-2147483648 is the first that a file can have\n");
+  EXPECT_EQ(Export({"--offset", "-2147483647", "--quiet"}).status, 0);
+}
+
+TEST_F(ExportTest, TheOffsetThatWasChosenLastCountsToo) {
+  EXPECT_EQ(Export({"--settings", "user", "--offset", "2147483644", "--quiet"}).status, 0);
+  MakeScene(Replaced(test::SmallMotion(), "NumFrames 3", "NumFrames 4"));
+  EXPECT_EQ(Export({"--settings", "user", "--force"}).error,
+            "orvane: --offset: 2147483644 would give frame 4 the number 2147483648, and "
+            "2147483647 is the last that a file can have\n");
+  EXPECT_EQ(Export({"--settings", "user", "--force", "--offset", "0"}).status, 0);
+}
+
+TEST_F(ExportTest, WithoutFramesAnyOffsetIsTaken) {
+  EXPECT_EQ(Export({"--offset", "2147483647", "--no-animation"}).status, 0);
+}
+
 // --- Ranges ---
 
 TEST_F(ExportTest, AnAnimationRangeFarBeyondTheKeysIsRefused) {

@@ -164,4 +164,28 @@ TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {
                          "hold 3 to 10004\n"));
 }
 
+// --- The host's time, which is 32 bits of ticks: 80 are a frame here ---
+
+TEST_F(FrameCountsTest, FramesOutsideTheHostsTimeAreAWarning) {
+  const std::string time =
+      ", and the host's time from -26843545 to 26843545\n  --offset moves the motion.\n";
+  EXPECT_EQ(Import("3", {"--offset", "2147483647"}).error,
+            "orvane: walk.htr: 3 of 3 frames get no keys: the motion would go from frame "
+            "2147483648 to 2147483650" +
+                time);
+  EXPECT_EQ(Import("3", {"--offset", "26843543", "--force"}).error,
+            "orvane: walk.htr: 1 of 3 frames gets no keys: the motion would go from frame 26843544 "
+            "to 26843546" +
+                time);
+  EXPECT_EQ(Import("3", {"--offset", "-26843547", "--range", "1:2", "--strict", "--force"}).status,
+            1);
+  EXPECT_EQ(Import("3", {"--offset", "26843542", "--strict", "--force"}).status, 0);
+  EXPECT_EQ(Import("3", {"--offset", "2147483647", "--no-animation", "--force"}).error, "");
+}
+
+TEST_F(FrameCountsTest, TheHostsTimeIsThatOfTheFrameRate) {
+  const ProgramResult result = Import("3", {"--offset", "26843543", "--frame-rate", "keep"});
+  EXPECT_THAT(result.error, testing::HasSubstr("the host's time from -13421772 to 13421772\n"));
+}
+
 }  // namespace

@@ -129,6 +129,14 @@ TEST_F(ImportProportionTest, WhatIsNotKeyedDoesNotCount) {
   }
 }
 
+// They get no keys; that is told.
+TEST_F(ImportProportionTest, FramesOutsideTheHostsTimeDoNotCount) {
+  const std::string text = Hand(50, 100'000).Text();
+  EXPECT_EQ(Import(text, {"--offset", "2147483647"}).status, 0);
+  EXPECT_EQ(Import(text, {"--offset", "-13510000"}).status, 0);
+  EXPECT_EQ(Import(text, {"--offset", "13371771"}).status, 1);
+}
+
 TEST_F(ImportProportionTest, WhatTheUserChoseLastCounts) {
   Write("one.htr", Hand(1, 1).Text());
   const std::vector<std::string> once = {"import",     "one.htr", "-o",      "one.glb",

@@ -214,6 +214,16 @@ TEST_F(ImportTrcTest, NothingIsSaidOfMissingFramesThatARangeLeavesOut) {
             "  Missing frames are set to zero; --range FROM:TO leaves them out.\n");
 }
 
+TEST_F(ImportTrcTest, FramesOutsideTheHostsTimeAreAWarning) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--offset", "2147483647"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: 3 of 3 frames get no keys: the motion would go from frame "
+            "2147483648 to 2147483650, and the host's time from -53687091 to 53687091\n"
+            "  --offset moves the motion.\n");
+  EXPECT_EQ(Import({"--offset", "2147483647", "--strict", "--force"}).status, 1);
+}
+
 struct Warning {
   const char* name;
   std::string from;
