@@ -8,6 +8,7 @@
 
 #include "cli/choice.h"
 #include "cli/file_kind.h"
+#include "cli/hidden_numbers.h"
 #include "cli/import_flags.h"
 #include "cli/import_summary.h"
 #include "cli/input.h"
@@ -21,6 +22,7 @@
 #include "cli/warnings.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
+#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {
@@ -63,11 +65,26 @@ void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complain
   complaints.insert(complaints.end(), more.begin(), more.end());
 }
 
-void AddMessages(const std::string& file, const PluginSession& session,
+void AddMessages(const std::string& file, const PluginSession& session, const HiddenNumbers& hidden,
                  std::vector<Complaint>& complaints) {
   for (const std::string& text : session.Messages()) {
-    complaints.push_back(ComplainAbout(file, text));
+    const std::string advice = hidden.AdviceFor(text);
+    complaints.push_back(advice.empty() ? ComplainAbout(file, text)
+                                        : Complaint{file, text, advice});
   }
+}
+
+// When the import has made `range` another one, that ends before it begins.
+void AddReversedRange(const std::string& file, const Interval& range,
+                      const host::AnimationState& animation, std::vector<Complaint>& complaints) {
+  const Interval now = animation.Range();
+  if (now == range || now.End() >= now.Start()) return;
+  const int ticks = animation.TicksPerFrame();
+  complaints.push_back({file,
+                        "The animation range begins in frame " +
+                            orvane::FormatInt(now.Start() / ticks) + " and ends in frame " +
+                            orvane::FormatInt(now.End() / ticks),
+                        "--offset moves its end alone."});
 }
 
 Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Complaint> complaints) {
@@ -91,13 +108,15 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
     Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
   }
   StopIfInterrupted();
+  const Interval range = session.scene().Animation().Range();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
   // Without a word from the user, the host goes by the name.
   const std::string extension = arguments.kind ? ExtensionOf(*arguments.kind) : "";
   const bool carried_out = session.Import(input, extension, wishes, show_progress);
   StopIfInterrupted();
-  AddMessages(input, session, complaints);
+  AddMessages(input, session, HiddenNumbers(wishes, kind, session.settings()), complaints);
   if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
+  AddReversedRange(input, range, session.scene().Animation(), complaints);
   PutCauseFirst(input, kind, complaints);
   Warn(std::move(complaints), arguments.strict);
   const std::size_t size = output.Deliver(session.scene(), input);

@@ -36,6 +36,23 @@ std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrD
   return Complaint{file, text, "A new skeleton goes without them; \"orvane info\" lists them all."};
 }
 
+// A second section of base positions lists every segment once more among its parent's children.
+std::optional<Complaint> FindRepetition(const std::string& file,
+                                        const orvane::HtrDocument& document,
+                                        const ImportChoices& choices) {
+  std::int64_t children = 0;
+  std::int64_t listed = 0;
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    if (segment.GetParent() != nullptr) ++children;
+    listed += segment.GetNumChildren();
+  }
+  if (listed == children) return std::nullopt;
+  return Complaint{file, "[BasePosition] comes again, so that segments are listed more than once",
+                   choices.apply
+                       ? "The last one counts."
+                       : "The last one counts, and a new skeleton has bones more than once."};
+}
+
 // Of a file of which `held` frames are held.
 ImportedFrames FramesOf(orvane::HtrDocument& document, const orvane::HtrFrameCounts& held,
                         const ImportChoices& choices, const host::Scene& scene) {
@@ -65,6 +82,8 @@ std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& 
                                                   choices, scene.Animation(), advice);
   const auto left_out = choices.apply ? std::nullopt : FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);
+  const auto repetition = FindRepetition(file, document, choices);
+  if (repetition) complaints.push_back(*repetition);
   return complaints;
 }
 

@@ -1,4 +1,5 @@
 #include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
 #include "tests/support/user_settings.h"
 
 namespace {
@@ -61,5 +62,143 @@ TEST_P(LeftOutSegmentsTest, AreNotMentionedWhenMotionWasAppliedLast) {
 
 // A second root, a parent that is missing, and a circle.
 INSTANTIATE_TEST_SUITE_P(All, LeftOutSegmentsTest, testing::Values("GLOBAL", "Hip", "Spine"));
+
+class InspectionTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Import(const std::string& file, const std::vector<std::string>& flags = {}) const {
+    std::vector<std::string> arguments = {"import", file, "-o", "out.glb", "--force", "--quiet"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  // As the small motion, with another section of base positions in front of its motion.
+  static std::string BaseTwice() {
+    const std::string again = "[BasePosition]\nHips 0 900 0 0 0 0 100\nSpine 0 100 0 0 0 0 250.5\n";
+    const std::string motion = Replaced(SmallMotion(), "[Hips]", again + "[Hips]");
+    return Replaced(motion, "NumSegments 2", "NumSegments 4");
+  }
+
+  test::NoUserSettings none_{folder_.File("config")};
+};
+
+TEST_F(InspectionTest, BasePositionsThatComeAgainAreAWarning) {
+  Write("walk.htr", BaseTwice());
+  const ProgramResult result = Import("walk.htr");
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: [BasePosition] comes again, so that segments are listed more than "
+            "once\n"
+            "  The last one counts, and a new skeleton has bones more than once.\n");
+  EXPECT_EQ(Import("walk.htr", {"--strict"}).status, 1);
+}
+
+TEST_F(InspectionTest, SoTheyAreWhenMotionIsApplied) {
+  Write("walk.htr", SmallMotion());
+  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
+  Write("walk.htr", BaseTwice());
+  EXPECT_EQ(Import("walk.htr", {"--into", "walk.glb", "--apply", "--select", "Hips"}).error,
+            "orvane: walk.htr: [BasePosition] comes again, so that segments are listed more than "
+            "once\n"
+            "  The last one counts.\n");
+}
+
+// --- An animation range that ends before it begins ---
+
+TEST_F(InspectionTest, AnOffsetThatEndsTheRangeBeforeItBeginsIsAWarning) {
+  Write("walk.htr", SmallMotion());
+  EXPECT_EQ(Import("walk.htr", {"--offset", "-2", "--strict"}).status, 0);
+  const ProgramResult result = Import("walk.htr", {"--offset", "-3"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: The animation range begins in frame 1 and ends in frame 0\n"
+            "  --offset moves its end alone.\n");
+  EXPECT_EQ(Import("walk.htr", {"--offset", "-3", "--strict"}).status, 1);
+  EXPECT_THAT(Import("walk.htr", {"--offset", "-5", "--base-position"}).error,
+              testing::HasSubstr("begins in frame 0 and ends in frame -2\n"));
+}
+
+TEST_F(InspectionTest, SoItIsOfMarkers) {
+  const test::TrcText text{.markers = {"LFHD"}, .frames = {{"1\t2\t3"}, {"1\t2\t3"}}};
+  Write("walk.trc", text.Text());
+  EXPECT_EQ(Import("walk.trc", {"--offset", "-2", "--strict"}).status, 0);
+  EXPECT_EQ(Import("walk.trc", {"--offset", "-3"}).error,
+            "orvane: walk.trc: The animation range begins in frame 1 and ends in frame 0\n"
+            "  --offset moves its end alone.\n");
+}
+
+TEST_F(InspectionTest, ARangeThatTheImportLeavesAloneIsNotMentioned) {
+  Write("walk.htr", SmallMotion());
+  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "odd.glb", "--offset", "-3", "--quiet"}).status, 0);
+  EXPECT_EQ(Import("walk.htr", {"--into", "odd.glb", "--no-animation", "--strict"}).status, 0);
+}
+
+// --- Numbers that the dialog stores and does not show ---
+
+struct StoredNumber {
+  const char* name;
+  std::vector<std::string> file;  // the name and the text
+  std::vector<std::string> flags;
+  std::string message;
+  std::string advice;
+};
+
+class StoredNumberTest : public InspectionTest, public testing::WithParamInterface<StoredNumber> {};
+
+TEST_P(StoredNumberTest, IsNamedWhenTheDialogRefusesItsShow) {
+  const std::string& file = GetParam().file.front();
+  Write(file, GetParam().file.back());
+  std::vector<std::string> flags = GetParam().flags;
+  flags.insert(flags.end(), {"--settings", "user"});
+  EXPECT_EQ(Import(file, flags).status, 0);
+  const ProgramResult result = Import(file, {"--settings", "user"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: " + file + ": " + GetParam().message + "\n  " + GetParam().advice + "\n");
+  EXPECT_EQ(Import(file, flags).status, 0);
+}
+
+std::string OneMarker() {
+  return test::TrcText{.markers = {"LFHD"}, .frames = {{"1\t2\t3"}}}.Text();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, StoredNumberTest,
+    testing::Values(
+        StoredNumber{"ScaleOfMotion",
+                     {"walk.htr", SmallMotion()},
+                     {"--scale", "1e-9"},
+                     "Please choose a non-zero scale factor.",
+                     "What was chosen last is 1e-09, which the dialog shows as 0.000000; --scale "
+                     "chooses another."},
+        StoredNumber{"ScaleOfMarkers",
+                     {"walk.trc", OneMarker()},
+                     {"--scale", "-0.00000025"},
+                     "Please choose a non-zero scale factor.",
+                     "What was chosen last is -2.5e-07, which the dialog shows as -0.000000; "
+                     "--scale chooses another."},
+        StoredNumber{"SizeOfBones",
+                     {"walk.htr", SmallMotion()},
+                     {"--segment-size", "1e-8"},
+                     "Please choose a non-zero size.",
+                     "What was chosen last is 1e-08, which the dialog shows as 0.000000; "
+                     "--segment-size chooses another."},
+        StoredNumber{"SizeOfMarkers",
+                     {"walk.trc", OneMarker()},
+                     {"--size", "1e-8"},
+                     "Please choose a non-zero size.",
+                     "What was chosen last is 1e-08, which the dialog shows as 0.000000; --size "
+                     "chooses another."}),
+    [](const auto& test_case) { return test_case.param.name; });
+
+TEST_F(InspectionTest, WhatIsTypedIsNotWhatWasChosenLast) {
+  Write("walk.htr", SmallMotion());
+  EXPECT_EQ(Import("walk.htr", {"--scale", "1e-9", "--settings", "user"}).status, 0);
+  for (const std::vector<std::string>& flags :
+       {std::vector<std::string>{"--scale", "0", "--settings", "user"}, {"--scale", "0"}}) {
+    EXPECT_EQ(Import("walk.htr", flags).error,
+              "orvane: walk.htr: Please choose a non-zero scale factor.\n"
+              "  --scale takes a number that is not 0, such as 0.1.\n");
+  }
+}
 
 }  // namespace
