@@ -78,11 +78,12 @@ std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& 
   orvane::HtrFrameCounts held;
   if (!orvane::CountHtrFrames(document, file, held).empty()) return {};
   if (document.segments().empty()) return {};
-  std::vector<Complaint> complaints = JudgeFrames(file, FramesOf(document, held, choices, scene),
-                                                  choices, scene.Animation(), advice);
+  const auto repetition = FindRepetition(file, document, choices);
+  std::vector<Complaint> complaints =
+      JudgeFrames(file, FramesOf(document, held, choices, scene), choices, scene.Animation(),
+                  repetition ? repetition->text + "." : advice);
   const auto left_out = choices.apply ? std::nullopt : FindLeftOut(file, document);
   if (left_out) complaints.push_back(*left_out);
-  const auto repetition = FindRepetition(file, document, choices);
   if (repetition) complaints.push_back(*repetition);
   return complaints;
 }

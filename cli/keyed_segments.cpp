@@ -11,8 +11,9 @@ namespace {
 
 using orvane::HtrSegment;
 
-// A hierarchy that is listed twice doubles at every level.
-constexpr std::int64_t kMost = 10'000'000;
+// A hierarchy that is listed twice doubles at every level. Whoever counts this far has counted
+// enough.
+constexpr std::int64_t kMostRepetitions = 2'000'000;
 
 // A segment, and the bone that it moves; null in a new skeleton.
 struct KeyedSegment {
@@ -60,9 +61,10 @@ std::int64_t CountKeyedSegments(orvane::HtrDocument& document, bool apply,
   const KeyedSegment first =
       apply ? FindTarget(document, scene) : KeyedSegment{document.FindRootSegment(), nullptr};
   if (first.segment == nullptr) return 0;
+  const std::int64_t most = document.GetNumSegments() + kMostRepetitions;
   std::int64_t count = 0;
   std::vector<KeyedSegment> waiting = {first};
-  while (!waiting.empty() && count < kMost) {
+  while (!waiting.empty() && count < most) {
     const KeyedSegment next = waiting.back();
     waiting.pop_back();
     ++count;
