@@ -3,6 +3,7 @@
 #include "host/gltf/writer.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/support/bone_nodes.h"
+#include "tests/support/user_settings.h"
 
 namespace {
 
@@ -351,6 +352,7 @@ TEST_F(ExportTest, SoAreThoseBelowTheLeast) {
 }
 
 TEST_F(ExportTest, TheOffsetThatWasChosenLastCountsToo) {
+  const test::NoUserSettings none(folder_.File("config"));
   EXPECT_EQ(Export({"--settings", "user", "--offset", "2147483644", "--quiet"}).status, 0);
   MakeScene(Replaced(test::SmallMotion(), "NumFrames 3", "NumFrames 4"));
   EXPECT_EQ(Export({"--settings", "user", "--force"}).error,
