@@ -187,60 +187,6 @@ TEST_F(ImportHTRTest, TheProgressBarClosesBeforeTheModesAreResumed) {
   EXPECT_TRUE(seen);
 }
 
-// Writes down the steps of the work that the host sees.
-class JournalInterface final : public test::ForwardingInterface {
- public:
-  using ForwardingInterface::ForwardingInterface;
-
-  bool ProgressStart(const char* title, bool show_bar, ProgressCallback callback,
-                     void* argument) override {
-    journal += "start ";
-    EXPECT_NE(callback, nullptr);
-    EXPECT_EQ(callback(argument), 0U);
-    return ForwardingInterface::ProgressStart(title, show_bar, callback, argument);
-  }
-  void ProgressUpdate(int percent, bool show_percent, const char* title) override {
-    journal += std::to_string(percent) + " ";
-    EXPECT_EQ(title, nullptr);
-    ForwardingInterface::ProgressUpdate(percent, show_percent, title);
-  }
-  void ProgressEnd() override {
-    journal += "end ";
-    ForwardingInterface::ProgressEnd();
-  }
-  bool IsPlaybackRunning() override {
-    journal += "playback? ";
-    return ForwardingInterface::IsPlaybackRunning();
-  }
-  INode* CreateObjectNode(Object* object) override {
-    INode* node = ForwardingInterface::CreateObjectNode(object);
-    journal += object->ClassID() == kBoneClass ? "bone " : "dummy ";
-    return node;
-  }
-  void ProcessPendingMessages() override {
-    journal += "messages ";
-    ForwardingInterface::ProcessPendingMessages();
-  }
-  bool GetCancel() override {
-    journal += "cancel? ";
-    return ForwardingInterface::GetCancel();
-  }
-  void SetAnimRange(const Interval& range) override {
-    journal += "range ";
-    ForwardingInterface::SetAnimRange(range);
-  }
-
-  std::string journal;
-};
-
-TEST_F(ImportHTRTest, TheWorkHasItsOrder) {
-  JournalInterface journal(interface());
-  const std::string path = folder_.Write("walk.htr", TwoBones().Text());
-  EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &journal, 1), 1);
-  EXPECT_EQ(journal.journal,
-            "playback? start 0 10 bone bone messages cancel? dummy 55 100 range 100 end ");
-}
-
 // --- Reading ---
 
 TEST_F(ImportHTRTest, AReadersMessageIsShownAsItStands) {

@@ -1,0 +1,295 @@
+#include <gtest/gtest.h>
+
+#include <functional>
+
+#include "platform/module.h"
+#include "plugin/import_htr/import_htr.h"
+#include "tests/support/bone_nodes.h"
+#include "tests/support/htr_text.h"
+#include "tests/support/posix/journal/journal_stage.h"
+
+// What an import asks of its host, call by call.
+
+namespace orvane {
+namespace {
+
+using test::HtrText;
+using test::JournalLines;
+
+constexpr int kApply = 1086;
+constexpr int kSetFrameRate = 1140;
+constexpr int kFrom = 1065;
+constexpr int kRange = 1068;
+constexpr int kOk = 1097;
+constexpr int kCancel = 1098;
+
+// Two bones, two frames.
+HtrText TwoBones() {
+  HtrText file;
+  file.segments = {{"Hips", "GLOBAL", "1 2 3 10 20 30 10", {"4 0 0 40 50 60", "5 0 0 0 0 0"}},
+                   {"Leg", "Hips", "0 4 0 7 8 9 20", {"0 0 0 0 0 0", "0 1 0 0 0 90"}}};
+  return file;
+}
+
+void Expect(const std::string& name, const JournalLines& lines) {
+  test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/import_htr/posix/journals/" + name + ".txt",
+                      lines);
+}
+
+// An importer, which the tests tell its options.
+struct Stage : test::JournalStage {
+  Stage() { journal.Take(); }
+
+  JournalLines Import(const HtrText& file = TwoBones(), int suppress_prompts = 1) {
+    const std::string path = folder.Write("walk.htr", file.Text());
+    return LinesOf(importer.DoImport(path.c_str(), nullptr, &host, suppress_prompts));
+  }
+  JournalLines ImportWith(const test::Desk::DialogAnswer& user, const HtrText& file = TwoBones()) {
+    desk.Expect(user);
+    return Import(file, 0);
+  }
+
+  // The skeleton that is in the scene, its root selected.
+  void AddSkeleton() {
+    host::Node& hips = test::AddBone(scene(), "Hips");
+    test::AddBone(scene(), "Other", &hips);
+    test::AddBone(scene(), "Leg", &hips);
+    hips.Transform()->Scale().SetConstant(Point3(2, 3, 4));
+    scene().Select(hips);
+  }
+
+  ImportHTROptions options;
+  MessageSink sink;
+  ImportHTR importer{options, sink, platform::ModuleHandle()};
+};
+
+void PrepareBasePosition(Stage& stage) {
+  stage.options.keyBasePosition = true;
+  stage.options.frameOffset = 3;
+  stage.options.scaleFactor = 2;
+  stage.scene().SetMillimetersPerUnit(10);
+}
+
+void PrepareEndEffectors(Stage& stage) {
+  stage.options.endEffectors = true;
+  stage.options.animate = false;
+  stage.options.size = 3;
+  stage.options.scaleFactor = 2;
+}
+
+void PrepareApply(Stage& stage) {
+  stage.options.apply = true;
+  stage.AddSkeleton();
+}
+
+// The leg alone.
+void PrepareBranchTcb(Stage& stage) {
+  stage.options.apply = true;
+  stage.options.rotationController = 1;
+  stage.AddSkeleton();
+  stage.scene().ClearSelection();
+  stage.scene().Select(*stage.scene().FindByName("Leg"));
+}
+
+// --- Create ---
+
+TEST(ImportHTRJournal, Create) {
+  Stage stage;
+  Expect("create", stage.Import());
+}
+
+TEST(ImportHTRJournal, CreateWithTcbControllers) {
+  Stage stage;
+  stage.options.rotationController = 1;
+  Expect("create_tcb", stage.Import());
+}
+
+TEST(ImportHTRJournal, CreateWithBasePosition) {
+  Stage stage;
+  PrepareBasePosition(stage);
+  Expect("create_base_position", stage.Import());
+}
+
+TEST(ImportHTRJournal, CreateWithBasePositionAlone) {
+  Stage stage;
+  stage.options.keyBasePosition = true;
+  stage.options.animate = false;
+  Expect("create_base_position_alone", stage.Import());
+}
+
+TEST(ImportHTRJournal, CreateWithEndEffectors) {
+  Stage stage;
+  PrepareEndEffectors(stage);
+  Expect("create_end_effectors", stage.Import());
+}
+
+TEST(ImportHTRJournal, CreateWithTheDialog) {
+  Stage stage;
+  HtrText file = TwoBones();
+  file.segments.pop_back();
+  file.scale_factor = "2";
+  file.frame_rate = 2400;
+  Expect("create_with_dialog", stage.ImportWith(
+                                   [](host::ScriptedDialog& dialog) {
+                                     dialog.Click(kRange);
+                                     dialog.Type(kFrom, "0");
+                                     dialog.Click(kOk);
+                                     dialog.Type(kFrom, "2");
+                                     dialog.Click(kSetFrameRate);
+                                     dialog.Click(kOk);
+                                   },
+                                   file));
+}
+
+// --- Apply ---
+
+TEST(ImportHTRJournal, Apply) {
+  Stage stage;
+  PrepareApply(stage);
+  Expect("apply", stage.Import());
+}
+
+TEST(ImportHTRJournal, ApplyABranchWithTcbControllers) {
+  Stage stage;
+  PrepareBranchTcb(stage);
+  Expect("apply_branch_tcb", stage.Import());
+}
+
+TEST(ImportHTRJournal, ApplyToAGroup) {
+  Stage stage;
+  stage.options.apply = true;
+  stage.options.keyBasePosition = true;
+  host::Node& group = test::AddDummy(stage.scene(), "Group");
+  test::AddDummy(stage.scene(), "Leg", &group);
+  test::AddBone(stage.scene(), "Spine", &group);
+  stage.scene().Select(group);
+  Expect("apply_to_group", stage.Import());
+}
+
+TEST(ImportHTRJournal, ApplyQuietlyWithNothingToKey) {
+  Stage stage;
+  stage.options.apply = true;
+  stage.options.animate = false;
+  stage.AddSkeleton();
+  Expect("apply_nothing", stage.Import());
+}
+
+TEST(ImportHTRJournal, ApplyWithTheDialog) {
+  Stage stage;
+  stage.AddSkeleton();
+  HtrText file = TwoBones();
+  file.segments.pop_back();
+  Expect("apply_with_dialog", stage.ImportWith(
+                                  [](host::ScriptedDialog& dialog) {
+                                    dialog.Click(kApply);
+                                    dialog.Click(kOk);
+                                  },
+                                  file));
+}
+
+// --- Refused and cancelled ---
+
+// An import of the journal `name`, and what may happen to it so that it goes another way.
+struct Disturbed {
+  std::string name;
+  std::function<void(Stage&)> prepare;
+
+  // How it departs from the journal when that happens.
+  JournalLines When(const std::string& what, const std::function<void(Stage&)>& happen) const {
+    Stage undisturbed;
+    prepare(undisturbed);
+    const JournalLines whole = undisturbed.Import();
+    Stage stage;
+    prepare(stage);
+    happen(stage);
+    return test::Departure(name, what, whole, stage.Import());
+  }
+  JournalLines WithoutValue(std::size_t n) const {
+    return When("value " + std::to_string(n) + " is not taken",
+                [n](Stage& stage) { stage.scene().Faults().RefuseQuery(n); });
+  }
+  JournalLines WithoutInstance(int n) const {
+    return When("instance " + std::to_string(n) + " is not made",
+                [n](Stage& stage) { stage.refusing.RefuseInstance(n); });
+  }
+  JournalLines WithoutNode(int n) const {
+    return When("node " + std::to_string(n) + " is not made",
+                [n](Stage& stage) { stage.refusing.RefuseNode(n); });
+  }
+};
+
+void Append(JournalLines& lines, const JournalLines& added) {
+  lines.insert(lines.end(), added.begin(), added.end());
+}
+
+TEST(ImportHTRJournal, CreateRefused) {
+  const Disturbed create{"create", [](Stage&) {}};
+  JournalLines lines;
+  for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 9U, 10U, 11U, 12U}) {
+    Append(lines, create.WithoutValue(n));
+  }
+  for (const int n : {1, 2, 3}) Append(lines, create.WithoutInstance(n));
+  for (const int n : {1, 2, 3}) Append(lines, create.WithoutNode(n));
+
+  const Disturbed base{"create_base_position", PrepareBasePosition};
+  for (const std::size_t n : {5U, 6U}) Append(lines, base.WithoutValue(n));
+
+  const Disturbed effectors{"create_end_effectors", PrepareEndEffectors};
+  Append(lines, effectors.WithoutInstance(3));
+  Append(lines, effectors.WithoutNode(3));
+  Expect("create_refused", lines);
+}
+
+TEST(ImportHTRJournal, CreateCancelled) {
+  const Disturbed create{"create", [](Stage&) {}};
+  Expect("create_cancelled", create.When("the user cancels", [](Stage& stage) {
+    stage.application.cancellation().AtQuery(1);
+  }));
+}
+
+TEST(ImportHTRJournal, CancelledInTheDialog) {
+  Stage stage;
+  HtrText file = TwoBones();
+  file.first_frame = 7;
+  Expect("cancelled_in_dialog",
+         stage.ImportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); }, file));
+}
+
+TEST(ImportHTRJournal, ApplyRefused) {
+  const Disturbed apply{"apply", PrepareApply};
+  JournalLines lines;
+  for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U}) {
+    Append(lines, apply.WithoutValue(n));
+  }
+  Append(lines,
+         apply.When("nothing is selected", [](Stage& stage) { stage.scene().ClearSelection(); }));
+  Append(lines, apply.When("the second node selected is a character's", [](Stage& stage) {
+    host::Node& leg = *stage.scene().FindByName("Leg");
+    leg.Transform()->SetClassId({37206, 0});
+    stage.scene().Select(leg);
+  }));
+  Append(lines, apply.When("the bone has another name", [](Stage& stage) {
+    stage.scene().FindByName("Hips")->SetName("Pelvis");
+  }));
+  Expect("apply_refused", lines);
+}
+
+TEST(ImportHTRJournal, TcbControllersRefused) {
+  const Disturbed apply{"apply_branch_tcb", PrepareBranchTcb};
+  JournalLines lines;
+  Append(lines, apply.WithoutInstance(1));
+  Append(lines, apply.When("it is not installed", [](Stage& stage) {
+    stage.scene().Faults().RefuseRotationInstallation(true);
+  }));
+  Expect("apply_branch_tcb_refused", lines);
+}
+
+TEST(ImportHTRJournal, FileRefused) {
+  Stage stage;
+  HtrText file = TwoBones();
+  file.segments[1].name = "Hips";
+  Expect("file_refused", stage.Import(file));
+}
+
+}  // namespace
+}  // namespace orvane

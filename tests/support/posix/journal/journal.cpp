@@ -1,0 +1,81 @@
+#include "tests/support/posix/journal/journal.h"
+
+#include <filesystem>
+#include <regex>
+#include <sstream>
+
+#include "tests/support/files.h"
+
+namespace test {
+
+Journal* Journal::current_ = nullptr;
+
+void Journal::NoteDeletedKey(const std::string& controller, int tick) {
+  const bool goes_on = deleted_ && deleted_->controller == controller && deleted_->last + 1 == tick;
+  if (goes_on) {
+    deleted_->last = tick;
+    return;
+  }
+  Complete();
+  deleted_ = {controller, tick, tick};
+}
+
+void Journal::Abbreviate(const std::string& text, const std::string& shorter) {
+  abbreviations_.emplace_back(text, shorter);
+}
+
+void Journal::WatchFile(const std::string& path, const std::string& name) {
+  files_.push_back({path, name, {}});
+}
+
+std::string Journal::WindowName(HWND window) const {
+  if (window == nullptr) return "no window";
+  const auto found = windows_.find(window);
+  return found == windows_.end() ? "unknown window" : found->second;
+}
+
+std::vector<std::string> Journal::Take() {
+  Complete();
+  return std::exchange(lines_, {});
+}
+
+void Journal::Append(const std::string& line) {
+  Complete();
+  lines_.push_back(Abbreviated(line));
+}
+
+void Journal::Complete() {
+  if (deleted_) {
+    const Interval ticks(deleted_->first, deleted_->last);
+    lines_.push_back(deleted_->controller + " delete keys " + Shown(ticks));
+    deleted_.reset();
+  }
+  for (WatchedFile& file : files_) Look(file);
+}
+
+// Notes each line that has come to `file`, with TIME in place of any moment, and whether it was
+// begun anew.
+void Journal::Look(WatchedFile& file) {
+  if (!std::filesystem::exists(file.path)) return;
+  const std::string now = ReadTextFile(file.path);
+  if (now == file.seen) return;
+  const bool goes_on = now.compare(0, file.seen.size(), file.seen) == 0;
+  static const std::regex kMoment("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9][0-9] [0-9:]{8} [0-9]{4}");
+  const std::string shown = Abbreviated(goes_on ? now.substr(file.seen.size()) : now);
+  std::istringstream added(std::regex_replace(shown, kMoment, "TIME"));
+  lines_.push_back(file.name + (goes_on ? " takes" : " begins anew with"));
+  for (std::string line; std::getline(added, line);) lines_.push_back("  | " + line);
+  file.seen = now;
+}
+
+std::string Journal::Abbreviated(std::string text) const {
+  for (const auto& [longer, shorter] : abbreviations_) {
+    for (std::size_t at = text.find(longer); at != std::string::npos;
+         at = text.find(longer, at + shorter.size())) {
+      text.replace(at, longer.size(), shorter);
+    }
+  }
+  return text;
+}
+
+}  // namespace test
