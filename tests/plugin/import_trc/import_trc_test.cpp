@@ -485,62 +485,6 @@ TEST_F(ImportTRCTest, ShowsItsProgressInSinglePrecision) {
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 19, 28, 37, 46, 55, 64, 73, 82, 91, 100, 100}));
 }
 
-// Writes down the steps of the work that the host sees.
-class JournalInterface final : public test::ForwardingInterface {
- public:
-  using ForwardingInterface::ForwardingInterface;
-
-  bool ProgressStart(const char* title, bool show_bar, ProgressCallback callback,
-                     void* argument) override {
-    journal += "start ";
-    EXPECT_NE(callback, nullptr);
-    EXPECT_EQ(argument, nullptr);
-    EXPECT_EQ(callback(argument), 0u);
-    return ForwardingInterface::ProgressStart(title, show_bar, callback, argument);
-  }
-  void ProgressUpdate(int percent, bool show_percent, const char* title) override {
-    journal += std::to_string(percent) + " ";
-    EXPECT_TRUE(show_percent);
-    EXPECT_EQ(title, nullptr);
-    ForwardingInterface::ProgressUpdate(percent, show_percent, title);
-  }
-  void ProgressEnd() override {
-    journal += "end ";
-    ForwardingInterface::ProgressEnd();
-  }
-  bool IsPlaybackRunning() override {
-    journal += "playback? ";
-    return ForwardingInterface::IsPlaybackRunning();
-  }
-  INode* CreateObjectNode(Object* object) override {
-    journal += object->ClassID() == kDummyClass ? "dummy " : "marker ";
-    return ForwardingInterface::CreateObjectNode(object);
-  }
-  void MakeNameUnique(CStr& name) override {
-    journal += "unique ";
-    ForwardingInterface::MakeNameUnique(name);
-  }
-  bool GetCancel() override {
-    journal += "cancel? ";
-    return ForwardingInterface::GetCancel();
-  }
-  void SetAnimRange(const Interval& range) override {
-    journal += "range ";
-    ForwardingInterface::SetAnimRange(range);
-  }
-
-  std::string journal;
-};
-
-TEST_F(ImportTRCTest, TheWorkHasItsOrder) {
-  JournalInterface journal(interface());
-  options_.rootNode = true;
-  ImportThrough(journal);
-  EXPECT_EQ(
-      journal.journal,
-      "playback? start 0 10 dummy unique cancel? marker 55 cancel? marker 100 range 100 end ");
-}
-
 // --- What ends an import ---
 
 TEST_F(ImportTRCTest, AReadersMessageIsShownAndTheModesStaySuspended) {

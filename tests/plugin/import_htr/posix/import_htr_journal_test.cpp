@@ -1,11 +1,10 @@
 #include <gtest/gtest.h>
 
-#include <functional>
-
 #include "platform/module.h"
 #include "plugin/import_htr/import_htr.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/htr_text.h"
+#include "tests/support/posix/journal/disturbed.h"
 #include "tests/support/posix/journal/journal_stage.h"
 
 // What an import asks of its host, call by call.
@@ -13,6 +12,7 @@
 namespace orvane {
 namespace {
 
+using test::Append;
 using test::HtrText;
 using test::JournalLines;
 
@@ -44,6 +44,7 @@ struct Stage : test::JournalStage {
     const std::string path = folder.Write("walk.htr", file.Text());
     return LinesOf(importer.DoImport(path.c_str(), nullptr, &host, suppress_prompts));
   }
+  JournalLines Run() { return Import(); }
   JournalLines ImportWith(const test::Desk::DialogAnswer& user, const HtrText& file = TwoBones()) {
     desk.Expect(user);
     return Import(file, 0);
@@ -189,62 +190,29 @@ TEST(ImportHTRJournal, ApplyWithTheDialog) {
 
 // --- Refused and cancelled ---
 
-// An import of the journal `name`, and what may happen to it so that it goes another way.
-struct Disturbed {
-  std::string name;
-  std::function<void(Stage&)> prepare;
-
-  // How it departs from the journal when that happens.
-  JournalLines When(const std::string& what, const std::function<void(Stage&)>& happen) const {
-    Stage undisturbed;
-    prepare(undisturbed);
-    const JournalLines whole = undisturbed.Import();
-    Stage stage;
-    prepare(stage);
-    happen(stage);
-    return test::Departure(name, what, whole, stage.Import());
-  }
-  JournalLines WithoutValue(std::size_t n) const {
-    return When("value " + std::to_string(n) + " is not taken",
-                [n](Stage& stage) { stage.scene().Faults().RefuseQuery(n); });
-  }
-  JournalLines WithoutInstance(int n) const {
-    return When("instance " + std::to_string(n) + " is not made",
-                [n](Stage& stage) { stage.refusing.RefuseInstance(n); });
-  }
-  JournalLines WithoutNode(int n) const {
-    return When("node " + std::to_string(n) + " is not made",
-                [n](Stage& stage) { stage.refusing.RefuseNode(n); });
-  }
-};
-
-void Append(JournalLines& lines, const JournalLines& added) {
-  lines.insert(lines.end(), added.begin(), added.end());
-}
+using Import = test::Disturbed<Stage>;
 
 TEST(ImportHTRJournal, CreateRefused) {
-  const Disturbed create{"create", [](Stage&) {}};
+  const Import create{"create", [](Stage&) {}};
   JournalLines lines;
-  for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U, 9U, 10U, 11U, 12U}) {
+  for (const int n : {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12}) {
     Append(lines, create.WithoutValue(n));
   }
   for (const int n : {1, 2, 3}) Append(lines, create.WithoutInstance(n));
   for (const int n : {1, 2, 3}) Append(lines, create.WithoutNode(n));
 
-  const Disturbed base{"create_base_position", PrepareBasePosition};
-  for (const std::size_t n : {5U, 6U}) Append(lines, base.WithoutValue(n));
+  const Import base{"create_base_position", PrepareBasePosition};
+  for (const int n : {5, 6}) Append(lines, base.WithoutValue(n));
 
-  const Disturbed effectors{"create_end_effectors", PrepareEndEffectors};
+  const Import effectors{"create_end_effectors", PrepareEndEffectors};
   Append(lines, effectors.WithoutInstance(3));
   Append(lines, effectors.WithoutNode(3));
   Expect("create_refused", lines);
 }
 
 TEST(ImportHTRJournal, CreateCancelled) {
-  const Disturbed create{"create", [](Stage&) {}};
-  Expect("create_cancelled", create.When("the user cancels", [](Stage& stage) {
-    stage.application.cancellation().AtQuery(1);
-  }));
+  const Import create{"create", [](Stage&) {}};
+  Expect("create_cancelled", create.CancelledAt(1));
 }
 
 TEST(ImportHTRJournal, CancelledInTheDialog) {
@@ -256,9 +224,9 @@ TEST(ImportHTRJournal, CancelledInTheDialog) {
 }
 
 TEST(ImportHTRJournal, ApplyRefused) {
-  const Disturbed apply{"apply", PrepareApply};
+  const Import apply{"apply", PrepareApply};
   JournalLines lines;
-  for (const std::size_t n : {1U, 2U, 3U, 4U, 5U, 6U, 7U, 8U}) {
+  for (const int n : {1, 2, 3, 4, 5, 6, 7, 8}) {
     Append(lines, apply.WithoutValue(n));
   }
   Append(lines,
@@ -275,7 +243,7 @@ TEST(ImportHTRJournal, ApplyRefused) {
 }
 
 TEST(ImportHTRJournal, TcbControllersRefused) {
-  const Disturbed apply{"apply_branch_tcb", PrepareBranchTcb};
+  const Import apply{"apply_branch_tcb", PrepareBranchTcb};
   JournalLines lines;
   Append(lines, apply.WithoutInstance(1));
   Append(lines, apply.When("it is not installed", [](Stage& stage) {

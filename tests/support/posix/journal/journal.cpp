@@ -25,7 +25,11 @@ void Journal::Abbreviate(const std::string& text, const std::string& shorter) {
 }
 
 void Journal::WatchFile(const std::string& path, const std::string& name) {
-  files_.push_back({path, name, {}});
+  files_.push_back({path, name, false, {}});
+}
+
+void Journal::WatchText(const std::string& path, const std::string& name) {
+  files_.push_back({path, name, true, {}});
 }
 
 std::string Journal::WindowName(HWND window) const {
@@ -53,19 +57,20 @@ void Journal::Complete() {
   for (WatchedFile& file : files_) Look(file);
 }
 
-// Notes each line that has come to `file`, with TIME in place of any moment, and whether it was
-// begun anew.
+// Notes each line that has come to a text, with TIME in place of any moment.
 void Journal::Look(WatchedFile& file) {
-  if (!std::filesystem::exists(file.path)) return;
+  if (!std::filesystem::is_regular_file(file.path)) return;
   const std::string now = ReadTextFile(file.path);
   if (now == file.seen) return;
   const bool goes_on = now.compare(0, file.seen.size(), file.seen) == 0;
-  static const std::regex kMoment("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9][0-9] [0-9:]{8} [0-9]{4}");
-  const std::string shown = Abbreviated(goes_on ? now.substr(file.seen.size()) : now);
-  std::istringstream added(std::regex_replace(shown, kMoment, "TIME"));
-  lines_.push_back(file.name + (goes_on ? " takes" : " begins anew with"));
-  for (std::string line; std::getline(added, line);) lines_.push_back("  | " + line);
+  const std::string added = goes_on ? now.substr(file.seen.size()) : now;
   file.seen = now;
+  if (!file.is_text) return lines_.push_back(file.name + " is written");
+
+  static const std::regex kMoment("[A-Z][a-z]{2} [A-Z][a-z]{2} [ 0-9][0-9] [0-9:]{8} [0-9]{4}");
+  std::istringstream shown(std::regex_replace(Abbreviated(added), kMoment, "TIME"));
+  lines_.push_back(file.name + (goes_on ? " takes" : " begins anew with"));
+  for (std::string line; std::getline(shown, line);) lines_.push_back("  | " + line);
 }
 
 std::string Journal::Abbreviated(std::string text) const {

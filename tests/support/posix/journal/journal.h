@@ -40,10 +40,11 @@ class Journal {
   // From now on `text` is spelled `shorter`, in what is noted and in what is written to files.
   void Abbreviate(const std::string& text, const std::string& shorter);
 
-  // From now on the file `path` is looked at before every call is noted: what has come to it since
-  // the last time is noted, so that a flush is seen where it takes place. `name` is what the file
-  // is called.
+  // From now on the file `path` is looked at before every call is noted, and it is noted when it
+  // has changed: so a flush is seen where it takes place. `name` is what the file is called. Of a
+  // text, the lines are noted that it takes.
   void WatchFile(const std::string& path, const std::string& name);
+  void WatchText(const std::string& path, const std::string& name);
 
   // What `window` is called.
   void NameWindow(HWND window, const std::string& name) { windows_[window] = name; }
@@ -56,6 +57,7 @@ class Journal {
   struct WatchedFile {
     std::string path;
     std::string name;
+    bool is_text;
     std::string seen;
   };
   struct DeletedKeys {

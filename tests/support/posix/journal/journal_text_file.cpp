@@ -80,15 +80,17 @@ bool IsUpdated() {
 
 JournalLines Departure(const std::string& name, const std::string& what, const Lines& whole,
                        const Lines& found) {
+  constexpr int kShortRest = 3;
   const auto begin = std::mismatch(whole.begin(), whole.end(), found.begin(), found.end());
   const auto end = std::mismatch(whole.rbegin(), std::make_reverse_iterator(begin.first),
                                  found.rbegin(), std::make_reverse_iterator(begin.second));
   const auto common = begin.second - found.begin();
+  const auto rest = end.second - found.rbegin();
+  const bool tells_rest = rest < kShortRest;
   Lines lines = {"--- " + what + ": as " + name + " for " + std::to_string(common) +
                  " lines, and then"};
-  lines.insert(lines.end(), begin.second, end.second.base());
-  const auto rest = end.second - found.rbegin();
-  if (rest > 0) lines.push_back("--- and as " + name + " for the last " + std::to_string(rest));
+  lines.insert(lines.end(), begin.second, tells_rest ? found.end() : end.second.base());
+  if (!tells_rest) lines.push_back("--- and as " + name + " for the last " + std::to_string(rest));
   return lines;
 }
 
