@@ -4,9 +4,9 @@
 
 #include <gtest/gtest.h>
 
-#include "tests/module/utility_fixture.h"
+#include "tests/module/module_fixture.h"
 #include "tests/support/fake_dialog.h"
-#include "tests/support/file_dialog_watch.h"
+#include "tests/support/forwarding_desktop.h"
 #include "tests/support/htr_text.h"
 
 namespace test {
@@ -55,52 +55,6 @@ TEST_F(DesktopTest, TheOptionsDialogAnswersTheAboutCommand) {
                    }),
             1);
   EXPECT_TRUE(shown);
-}
-
-class FileDialogTest : public UtilityTest {
- protected:
-  void SetUp() override {
-    UtilityTest::SetUp();
-    desk_.Choose(platform::kMessageBoxNo);
-    desk_.ChooseFiles([](const host::ShownFileDialog&) { return host::FileChoice{}; });
-    Open();
-  }
-
-  // What the one file dialog was asked for that `button` of the panel leads to.
-  AskedFileDialog AskedAfter(int button) {
-    FileDialogWatch watch;
-    Page().Click(button);
-    EXPECT_EQ(watch.shown.size(), 1U);
-    return watch.shown.empty() ? AskedFileDialog() : watch.shown[0];
-  }
-
-  void ExpectMappingFiles(const AskedFileDialog& asked) {
-    EXPECT_EQ(asked.title, "Select Mapping File...");
-    EXPECT_EQ(asked.filter, "Marker Name Mapping Files (*.MNM)");
-    EXPECT_EQ(asked.pattern, "*.mnm");
-    EXPECT_EQ(asked.extension, "mnm");
-    EXPECT_EQ(asked.dialog.owner, application_.main_window());
-    EXPECT_FALSE(asked.dialog.several);
-  }
-};
-
-TEST_F(FileDialogTest, AMappingFileIsOpened) {
-  const AskedFileDialog asked = AskedAfter(kBrowseMapping);
-  ExpectMappingFiles(asked);
-  EXPECT_EQ(asked.dialog.kind, platform::FileDialog::Kind::kOpen);
-}
-
-TEST_F(FileDialogTest, AMappingFileIsSavedInAFolderThatExistsAndNotOverAnother) {
-  desk_.Act([this] {
-    application_.picking().Leave();
-    return true;
-  });
-  const AskedFileDialog asked = AskedAfter(kCreateMapping);
-  ExpectMappingFiles(asked);
-  EXPECT_EQ(asked.dialog.kind, platform::FileDialog::Kind::kSave);
-  EXPECT_TRUE(asked.dialog.ask_before_replacing);
-  EXPECT_TRUE(asked.dialog.folder_must_exist);
-  EXPECT_TRUE(asked.dialog.hide_read_only_box);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ class Desk {
     user.answer_message = [this](const host::MessageBox& message) {
       if (message.style != platform::MessageBoxStyle::kOk) {
         if (when_asked_) when_asked_();
-        return next_choice_;
+        return choose_(message.text);
       }
       if (when_told_) when_told_();
       return platform::kMessageBoxOk;
@@ -49,8 +49,13 @@ class Desk {
   void Expect(DialogAnswer answer) { answers_.push_back(std::move(answer)); }
   bool AllAnswered() const { return answers_.empty(); }
 
-  // The button for questions.
-  void Choose(platform::MessageBoxResult choice) { next_choice_ = choice; }
+  // The button for questions, or for each one.
+  void Choose(platform::MessageBoxResult choice) {
+    choose_ = [choice](const std::string&) { return choice; };
+  }
+  void Choose(std::function<platform::MessageBoxResult(const std::string&)> choose) {
+    choose_ = std::move(choose);
+  }
 
   // What happens while a message that asks nothing is shown.
   void WhenTold(std::function<void()> happen) { when_told_ = std::move(happen); }
@@ -89,7 +94,9 @@ class Desk {
   host::FreshSettings settings_;
   host::ScriptedDesktop desktop_;
   std::deque<DialogAnswer> answers_;
-  platform::MessageBoxResult next_choice_ = platform::kMessageBoxYes;
+  std::function<platform::MessageBoxResult(const std::string&)> choose_ = [](const std::string&) {
+    return platform::kMessageBoxYes;
+  };
   std::function<void()> when_told_;
   std::function<void()> when_asked_;
   std::function<host::FileChoice(const host::ShownFileDialog&)> choose_files_;

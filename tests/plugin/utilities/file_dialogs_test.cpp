@@ -1,11 +1,10 @@
 #include <cstring>
 
 #include "tests/plugin/utilities/conversion_fixture.h"
-#include "tests/support/file_dialog_watch.h"
 #include "tests/support/forwarding_desktop.h"
 #include "tests/support/trc_text.h"
 
-// What the conversion asks of the system's file dialogs, and what it makes of their answers.
+// What the conversion makes of the answers of the system's file dialogs.
 
 namespace orvane {
 namespace {
@@ -16,50 +15,6 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 
 std::string Take() { return TrcText{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}}.Text(); }
-
-TEST_F(ConversionTest, AsksForOneSourceThatExists) {
-  test::FileDialogWatch watch;
-  UserChooses({});
-  EXPECT_FALSE(Convert());
-  ASSERT_EQ(watch.shown.size(), 1u);
-  const test::AskedFileDialog& asked = watch.shown[0];
-  EXPECT_EQ(asked.title, "Select Source TRC Files...");
-  EXPECT_EQ(asked.filter, "Orvane TRC Files (*.TRC)");
-  EXPECT_EQ(asked.pattern, "*.trc");
-  EXPECT_EQ(asked.extension, "trc");
-  EXPECT_EQ(asked.folder, folder_.Path().string());
-  EXPECT_EQ(asked.dialog.kind, platform::FileDialog::Kind::kOpen);
-  EXPECT_EQ(asked.dialog.owner, application_.main_window());
-  EXPECT_FALSE(asked.dialog.several);
-  EXPECT_TRUE(asked.dialog.file_must_exist);
-  EXPECT_TRUE(asked.dialog.folder_must_exist);
-  EXPECT_TRUE(asked.dialog.hide_read_only_box);
-}
-
-TEST_F(ConversionTest, AsksForSeveralSourcesInABatch) {
-  test::FileDialogWatch watch;
-  EXPECT_TRUE(ConvertBatch({Write("walk.trc", Take()), Write("run.trc", Take())}));
-  ASSERT_EQ(watch.shown.size(), 1u);
-  EXPECT_TRUE(watch.shown[0].dialog.several);
-}
-
-TEST_F(ConversionTest, AsksForATargetInTheOutputFolder) {
-  test::FileDialogWatch watch;
-  converter_->trcName = false;
-  UserChooses({Write("walk.trc", Take())});
-  UserChooses({"step"});
-  EXPECT_TRUE(Convert());
-  ASSERT_EQ(watch.shown.size(), 2u);
-  const test::AskedFileDialog& asked = watch.shown[1];
-  EXPECT_EQ(asked.title, "Select Target BVK File...");
-  EXPECT_EQ(asked.filter, "Kinarch Marker Files (*.BVK)");
-  EXPECT_EQ(asked.pattern, "*.bvk");
-  EXPECT_EQ(asked.extension, "bvk");
-  EXPECT_EQ(asked.folder, folder_.File("out"));
-  EXPECT_EQ(asked.dialog.kind, platform::FileDialog::Kind::kSave);
-  EXPECT_TRUE(asked.dialog.ask_before_replacing);
-  EXPECT_TRUE(asked.dialog.hide_read_only_box);
-}
 
 // Chooses a file whose path is as short as no scripted user's.
 class ShortPathDesktop final : public test::ForwardingDesktop {

@@ -39,8 +39,11 @@ bool JournalRegistry::QueryValue(platform::RegistryKey* key, const char* name, v
   const std::size_t room = size;
   const bool found = own_.QueryValue(key, name, data, size);
   const std::string bytes = found ? std::string(static_cast<const char*>(data), size) : "";
-  journal_.Note("settings ", NameOf(key), " read ", name, " to ", room,
-                " bytes: ", found ? Hexadecimal(bytes) : "none");
+  const bool is_text = room > sizeof(double);  // where more than a number finds room
+  journal_.Note("settings ", NameOf(key), " read ", name, " to ", room, " bytes: ",
+                !found    ? "none"
+                : is_text ? Quoted(bytes)
+                          : Hexadecimal(bytes));
   return found;
 }
 

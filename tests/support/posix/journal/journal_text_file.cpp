@@ -71,6 +71,13 @@ Lines Marked(const Lines& expected, const Lines& found) {
   return marked;
 }
 
+// How often the `length` lines at `begin` stand there in a row.
+std::size_t TimesInARow(const Lines& lines, std::size_t begin, std::size_t length) {
+  std::size_t end = begin + length;
+  while (end < lines.size() && lines[end] == lines[end - length]) ++end;
+  return (end - begin) / length;
+}
+
 bool IsUpdated() {
   const char* const flag = std::getenv("ORVANE_UPDATE_JOURNALS");
   return flag != nullptr && std::string_view(flag) == "1";
@@ -92,6 +99,27 @@ JournalLines Departure(const std::string& name, const std::string& what, const L
   lines.insert(lines.end(), begin.second, tells_rest ? found.end() : end.second.base());
   if (!tells_rest) lines.push_back("--- and as " + name + " for the last " + std::to_string(rest));
   return lines;
+}
+
+JournalLines Folded(const JournalLines& lines) {
+  constexpr std::size_t kLongestGroup = 3;
+  constexpr std::size_t kFewest = 3;
+  Lines folded;
+  std::size_t at = 0;
+  while (at < lines.size()) {
+    std::size_t length = 1;
+    while (length < kLongestGroup && TimesInARow(lines, at, length) < kFewest) ++length;
+    const std::size_t times = TimesInARow(lines, at, length);
+    const bool is_folded = times >= kFewest;
+    const std::size_t told = is_folded ? length : 1;
+    for (std::size_t i = 0; i < told; ++i) folded.push_back(lines[at + i]);
+    if (is_folded) {
+      folded.push_back("--- the last " + std::to_string(length) + " lines come " +
+                       std::to_string(times) + " times");
+    }
+    at += is_folded ? times * length : 1;
+  }
+  return folded;
 }
 
 std::string LineDifference(const Lines& expected, const Lines& found) {

@@ -14,6 +14,9 @@ using JournalLines = std::vector<std::string>;
 JournalLines Departure(const std::string& name, const std::string& what, const JournalLines& whole,
                        const JournalLines& found);
 
+// `lines` with each group of one to three lines that comes three times or more in a row told once.
+JournalLines Folded(const JournalLines& lines);
+
 // The lines that both have, the ones of `expected` that are missing with a - before them and those
 // that `found` has besides with a +; lines that both have and that are far from any difference are
 // left out. Empty when both are the same.

@@ -1,0 +1,93 @@
+#include <gtest/gtest.h>
+
+#include "tests/plugin/utilities/posix/utilities_stage.h"
+
+// What the utility panel asks of its host, call by call.
+
+namespace test {
+namespace {
+
+constexpr int kSkelderSpace = 1125;
+constexpr int kTrcSpace = 1124;
+constexpr int kBrowseMapping = 1132;
+constexpr int kBrowseOutput = 1134;
+constexpr int kConvert = 1200;
+constexpr int kBatch = 1201;
+constexpr int kTrcName = 1202;
+constexpr int kFilter = 1204;
+constexpr int kEnableOffset = 1205;
+constexpr int kOffsetX = 1206;
+constexpr int kOffsetY = 1207;
+
+TEST(PanelJournal, OpenedAndClosed) {
+  UtilitiesStage stage;
+  stage.Make();
+  stage.Open();
+  stage.Open();
+  stage.Close();
+  stage.utilities.reset();
+  ExpectUtilitiesJournal("panel_opened_and_closed", stage.journal.Take());
+}
+
+TEST(PanelJournal, DeletedWhileItIsOpen) {
+  UtilitiesStage stage;
+  stage.Store("OutputPath", platform::RegistryType::kString, "");
+  stage.StoreFlag("Batch", true);
+  stage.StoreFlag("TRCName", false);
+  stage.StoreFlag("TRCSpace", false);
+  stage.StoreFlag("Offset", true);
+  stage.Make();
+  stage.Open();
+  stage.utilities.reset();
+  ExpectUtilitiesJournal("panel_deleted", stage.journal.Take());
+}
+
+TEST(PanelJournal, Used) {
+  UtilitiesStage stage;
+  stage.Make();
+  stage.Open();
+  stage.journal.Take();
+  for (const int control : {kFilter, kTrcName, kBatch, kBatch, kEnableOffset, kSkelderSpace,
+                            kTrcSpace, kEnableOffset}) {
+    stage.Page().Click(control);
+  }
+  ExpectUtilitiesJournal("panel_used", stage.journal.Take());
+}
+
+TEST(PanelJournal, FilesAndFoldersChosen) {
+  UtilitiesStage stage;
+  stage.Make();
+  stage.Open();
+  stage.journal.Take();
+  const std::string other = stage.folder.Write("other.mnm", "");
+  for (const bool chosen : {false, true}) {
+    stage.desk.ChooseFiles([&](const host::ShownFileDialog&) {
+      return chosen ? host::FileChoice{{other}} : host::FileChoice{};
+    });
+    stage.desk.ChooseFolder(
+        [&](const std::string&) { return chosen ? stage.folder.Path().string() : ""; });
+    stage.Page().Click(kBrowseMapping);
+    stage.Page().Click(kBrowseOutput);
+  }
+  stage.Close();
+  ExpectUtilitiesJournal("panel_browsed", stage.journal.Take());
+}
+
+TEST(PanelJournal, OffsetsReadBeforeAConversion) {
+  UtilitiesStage stage;
+  stage.StoreFlag("Offset", true);
+  stage.Make();
+  stage.Open();
+  stage.desk.ChooseFiles([](const host::ShownFileDialog&) { return host::FileChoice{}; });
+  stage.Page().Type(kOffsetX, "2.5");
+  stage.Page().Type(kOffsetY, "nothing");
+  stage.journal.Take();
+  stage.Page().Click(kConvert);
+  stage.Page().Click(kEnableOffset);
+  stage.Page().Click(kConvert);
+  stage.Close();
+  ExpectUtilitiesJournal("panel_offsets", stage.journal.Take());
+}
+
+}  // namespace
+}  // namespace test
