@@ -100,10 +100,11 @@ Body ReadBody(std::ifstream& file) {
 
 std::optional<BvkSummary> SummarizeBvk(const std::string& path) {
   std::ifstream file(platform::PathOf(path));  // as text: the system has its own line ends
+  file.exceptions(std::ios::badbit);
   const Header header = ReadHeader(file);
   if (!header.is_whole) return std::nullopt;
   const Body body = ReadBody(file);
-  if (body.line_feeds != header.lines_behind || file.bad()) return std::nullopt;
+  if (body.line_feeds != header.lines_behind) return std::nullopt;
   return BvkSummary{header.frames, header.markers, body.dropouts};
 }
 

@@ -14,8 +14,9 @@ struct BvkSummary {
   std::int64_t dropouts = 0;
 };
 
-// Reads the file `path` a piece at a time. Returns nothing when it cannot be read, or is not whole:
-// the plug-in does not notice a disk that is full.
+// Reads the file `path` a piece at a time. Returns nothing when it is not there or not whole:
+// the plug-in does not notice a disk that is full. Throws std::bad_alloc or std::ios_base::failure
+// when it cannot be read to its end.
 std::optional<BvkSummary> SummarizeBvk(const std::string& path);
 
 }  // namespace cli

@@ -14,6 +14,7 @@
 #include "cli/conversion_plan.h"
 #include "cli/messages.h"
 #include "cli/output_complaint.h"
+#include "cli/read_back.h"
 #include "cli/trc_worth.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
@@ -217,7 +218,14 @@ class BatchConversion {
       conversion.warnings.clear();
       if (!order_.keep_broken || !platform::WhyUnreadable(conversion.source).empty()) return;
     }
-    const std::optional<BvkSummary> summary = SummarizeBvk(made);
+    std::optional<BvkSummary> summary;
+    try {
+      summary = ReadBack(conversion.output, [&made] { return SummarizeBvk(made); });
+    } catch (const Failure& failure) {
+      conversion.status = ConversionStatus::kFailed;
+      conversion.errors = failure.complaints;
+      return;
+    }
     if (!summary) {
       Settle(conversion, ConversionStatus::kFailed, conversion.output,
              "The plug-in could not write all of the file", "Is the disk full?");

@@ -1,15 +1,14 @@
 #include "cli/exported_motion.h"
 
 #include <algorithm>
-#include <optional>
 #include <string_view>
 #include <unordered_set>
 #include <vector>
 
 #include "cli/failure.h"
+#include "cli/read_back.h"
 #include "plugin/htr/document.h"
 #include "plugin/htr/reader.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 namespace {
@@ -58,33 +57,41 @@ bool IsOneSkeletonOf(const orvane::HtrDocument& document, const host::Scene& sce
          std::count_if(segments.begin(), segments.end(), is_root) == 1;
 }
 
+// What the reader says of bytes when its memory is not enough.
+constexpr std::string_view kNoMemory = "The file could not be opened";
+
 Failure Refusal(const std::string& name, const std::string& text, const std::string& advice) {
   return {ExitStatus::kRefused, {{name, text, advice}}};
 }
 
-}  // namespace
-
-ExportedMotion CheckExport(const std::string& path, const std::string& name,
-                           const host::Scene& scene) {
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(path);
-  if (!bytes || !IsComplete(*bytes)) {
+ExportedMotion Check(const std::string& path, const std::string& name, const host::Scene& scene) {
+  const std::string bytes = BytesWritten(path);
+  if (!IsComplete(bytes)) {
     throw Failure{ExitStatus::kInputOutput,
                   {{name, "could not be written completely", "Is the disk full?"}}};
   }
-  if (!HoldsOnlyFiniteNumbers(*bytes)) {
+  if (!HoldsOnlyFiniteNumbers(bytes)) {
     throw Refusal(name, "A number of the skeleton is not finite",
                   "Is --scale or a length in the scene too large?");
   }
   orvane::HtrDocument document;
-  const std::string message = orvane::ReadHtrBytes(document, *bytes, true);
+  const std::string message = orvane::ReadHtrBytes(document, bytes, true);
+  if (message == kNoMemory) throw NotReadBackForMemory(name);
   if (!message.empty() || !IsOneSkeletonOf(document, scene)) {
     throw Refusal(
         name, "The file would not read back: a name cannot stand in it",
         "A tab, #, ] or a [ at its start in the name of a bone, and names that the file has "
         "a use for, such as GLOBAL and EndOfFile, mean something else there.");
   }
-  return {bytes->size(), document.GetNumSegments(), document.GetStartFrame(),
+  return {bytes.size(), document.GetNumSegments(), document.GetStartFrame(),
           document.GetNumFrames(), document.GetDataFrameRate()};
+}
+
+}  // namespace
+
+ExportedMotion CheckExport(const std::string& path, const std::string& name,
+                           const host::Scene& scene) {
+  return ReadBack(name, [&] { return Check(path, name, scene); });
 }
 
 }  // namespace cli

@@ -20,8 +20,8 @@ struct ExportedMotion {
 };
 
 // Reads the file `path`, which the user knows as `name` and which was exported from `scene`. Throws
-// a Failure when it is not complete, holds a number that is not finite, or does not read back as
-// what was exported.
+// a Failure when it cannot be read back, is not complete, holds a number that is not finite, or
+// does not read back as what was exported.
 ExportedMotion CheckExport(const std::string& path, const std::string& name,
                            const host::Scene& scene);
 

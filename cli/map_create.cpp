@@ -1,7 +1,7 @@
 #include "cli/map_create.h"
 
+#include <filesystem>
 #include <iostream>
-#include <optional>
 #include <vector>
 
 #include "cli/failure.h"
@@ -14,12 +14,12 @@
 #include "cli/messages.h"
 #include "cli/output_complaint.h"
 #include "cli/picks_table.h"
+#include "cli/read_back.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
 #include "platform/scratch_folder.h"
 #include "plugin/mnm/marker_name_map.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 namespace {
@@ -58,8 +58,8 @@ std::vector<std::string> NamesIn(host::Scene& scene) {
 void RequirePicks(const std::string& made, const std::string& bytes, const PicksTable& picks,
                   const std::string& output) {
   orvane::MarkerNameMap mapping;
-  const bool is_whole = bytes.ends_with('\n') && mapping.Load(made);
-  if (is_whole && mapping.Count() == picks.Count() && picks.AreIn(mapping)) return;
+  if (!mapping.Load(made)) throw NotReadBackForMemory(output);
+  if (bytes.ends_with('\n') && mapping.Count() == picks.Count() && picks.AreIn(mapping)) return;
   throw Failure{ExitStatus::kInputOutput,
                 {{output, "The plug-in could not write all of the file", "Is the disk full?"}}};
 }
@@ -98,10 +98,13 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   const std::string made = scratch.Path() + kMappingName;
   MappingUser(session, picks, arguments.sticks).Create(made);
   StopIfInterrupted();
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(made);
-  if (!bytes) throw Refused(arguments.output, session);
-  RequirePicks(made, *bytes, picks, arguments.output);
-  Deliver(arguments.output, output, *bytes);
+  if (!std::filesystem::exists(platform::PathOf(made))) throw Refused(arguments.output, session);
+  const std::string bytes = ReadBack(arguments.output, [&] {
+    std::string written = BytesWritten(made);
+    RequirePicks(made, written, picks, arguments.output);
+    return written;
+  });
+  Deliver(arguments.output, output, bytes);
   if (!arguments.quiet) {
     std::cout << Printable(arguments.output) << ": " << CountOf(picks.Count(), "marker")
               << " mapped\n";

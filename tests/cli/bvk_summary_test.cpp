@@ -55,6 +55,12 @@ std::string WithCarriageReturns(const std::string& text) {
   return std::regex_replace(text, std::regex("\n"), "\r\n");
 }
 
+TEST(SummarizeBvkTest, ThrowsWhenItCannotReadOn) {
+  const test::TemporaryFolder folder;
+  if (!std::ifstream(folder.Path())) GTEST_SKIP() << "a folder cannot be opened here";
+  EXPECT_THROW((void)SummarizeBvk(folder.Path().string()), std::ios_base::failure);
+}
+
 TEST(SummarizeBvkTest, NoticesThatAFileIsNotWhole) {
   const test::TemporaryFolder folder;
   orvane::TRCDocument document;
