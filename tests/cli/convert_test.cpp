@@ -1,11 +1,11 @@
-#include <nlohmann/json.hpp>
+#include "tests/cli/convert_test.h"
 
-#include "tests/cli/orvane_test.h"
-#include "tests/support/trc_text.h"
+#include <nlohmann/json.hpp>
 
 namespace {
 
 using nlohmann::json;
+using test::ConvertTest;
 using test::ProgramResult;
 using test::Replaced;
 using test::Slashed;
@@ -13,36 +13,10 @@ using test::TrcText;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
-using testing::StartsWith;
 
 constexpr char kRefused[] = "The file is does not have a compatible \"(X/Y/Z)\" header state";
 
-// Two markers, the second of which drops out once; `x` tells files apart.
-std::string Take(const std::string& x = "1") {
-  return TrcText{.markers = {"Head1", "Toe"},
-                 .frames = {{x + "\t2\t3", "4\t5\t6"}, {x + "\t2\t3", ""}}}
-      .Text();
-}
-
 std::string BrokenTake() { return "a poem\n"; }
-
-class ConvertTest : public test::OrvaneTest {
- protected:
-  ProgramResult Convert(std::vector<std::string> arguments) const {
-    arguments.insert(arguments.begin(), "convert");
-    return Orvane(arguments);
-  }
-
-  void MakeFolder(const std::string& name) const {
-    std::filesystem::create_directory(folder_.Path() / name);
-  }
-  std::vector<std::string> NamesOf(const std::string& folder) const {
-    return test::NamesIn(folder_.Path() / folder);
-  }
-  std::string Absolute(const std::string& name) const {
-    return std::filesystem::canonical(folder_.File(name)).string();
-  }
-};
 
 TEST_F(ConvertTest, ConvertsOneFileBesideItself) {
   Write("walk.trc", Take());
@@ -60,17 +34,6 @@ TEST_F(ConvertTest, ConvertsOneFileBesideItself) {
                                              "1\t1.000000\t-3.000000\t2.000000"
                                              "\t4.000000\t-6.000000\t5.000000\t\n\n"
                                              "2\t1.000000\t-3.000000\t2.000000\tDROPOUT\t\n\n"));
-}
-
-TEST_F(ConvertTest, NamesTheOutputAsItIsTold) {
-  Write("walk.trc", Take());
-  MakeFolder("out");
-  EXPECT_EQ(Convert({"walk.trc", "-o", "step.bvk"}).status, 0);
-  EXPECT_EQ(Convert({"walk.trc", "-o", "out/bare"}).status, 0);
-  EXPECT_EQ(Convert({"walk.trc", "--output-dir", "out"}).status, 0);
-  EXPECT_THAT(ReadText("step.bvk"), HasSubstr("$Filename   step\n"));
-  EXPECT_THAT(ReadText("out/bare.bvk"), HasSubstr("$Filename   bare\n"));
-  EXPECT_THAT(ReadText("out/walk.bvk"), HasSubstr("$Filename   walk\n"));
 }
 
 TEST_F(ConvertTest, RenamesAndDropsMarkersByTheMapping) {
@@ -212,101 +175,6 @@ TEST_F(ConvertTest, DeliversBrokenFilesOnlyWhenAsked) {
   EXPECT_THAT(ReadText("poem.bvk"), EndsWith("$Order\n"));
 }
 
-TEST_F(ConvertTest, KeepsOutputsThatExist) {
-  Write("walk.trc", Take());
-  Write("walk.bvk", "mine");
-  ProgramResult result = Convert({"walk.trc"});
-  EXPECT_EQ(result.status, 3);
-  EXPECT_EQ(result.error, "orvane: walk.bvk: File exists\n  It is kept; --force replaces it.\n");
-  EXPECT_THAT(result.output, HasSubstr("walk.bvk  exists\n"));
-  EXPECT_EQ(Read("walk.bvk"), "mine");
-  EXPECT_EQ(Convert({"walk.trc", "--force"}).status, 0);
-  EXPECT_THAT(ReadText("walk.bvk"), StartsWith("$Comments"));
-}
-
-TEST_F(ConvertTest, KeepsALogThatExists) {
-  Write("a.trc", Take());
-  Write("b.trc", Take());
-  Write("ConvertBVKLog.txt", "mine");
-  const ProgramResult result = Convert({"a.trc", "b.trc"});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: ConvertBVKLog.txt: File exists\n  It is kept; --force replaces it.\n");
-  EXPECT_EQ(Read("ConvertBVKLog.txt"), "mine");
-}
-
-TEST_F(ConvertTest, RefusesOutputsThatMeetBeforeAnythingRuns) {
-  MakeFolder("one");
-  MakeFolder("two");
-  MakeFolder("out");
-  Write("one/walk.trc", Take());
-  Write("two/walk.trc", Take());
-  const ProgramResult result = Convert({"one/walk.trc", "two/walk.trc", "--output-dir", "out"});
-  EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(Slashed(result.error),
-            "orvane: out/walk.bvk: the output of one/walk.trc and of two/walk.trc\n");
-  EXPECT_THAT(NamesOf("out"), testing::IsEmpty());
-  EXPECT_EQ(Convert({"one/walk.trc", "one/../one/walk.trc"}).status, 2);
-  EXPECT_EQ(Convert({"one/walk.trc", "one/walk.trc", "--dry-run"}).status, 2);
-}
-
-// Also while it is not there yet.
-TEST_F(ConvertTest, RefusesOneOutputHoweverTheInputsSpellTheirPaths) {
-  MakeFolder("sub");
-  Write("walk.trc", Take("1"));
-  Write("walk.xyz", Take("9"));
-  const std::string absolute = Absolute("walk.xyz");
-  for (const std::string& other : {std::string("walk.xyz"), std::string("./walk.xyz"),
-                                   std::string("sub/../walk.xyz"), absolute}) {
-    for (const auto& inputs : {std::vector<std::string>{"walk.trc", other}, {other, "walk.trc"}}) {
-      const ProgramResult result = Convert(inputs);
-      EXPECT_EQ(result.status, 2) << other;
-      EXPECT_THAT(result.error, HasSubstr("walk.bvk: the output of " + inputs[0] + " and of " +
-                                          inputs[1] + "\n"));
-    }
-  }
-  EXPECT_THAT(Names(), ElementsAre("sub", "walk.trc", "walk.xyz"));
-}
-
-TEST_F(ConvertTest, RefusesToReplaceAnInput) {
-  Write("walk.bvk", Take());
-  const ProgramResult result = Convert({"walk.bvk", "--force"});
-  EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.error, "orvane: walk.bvk: is an input, and would be an output too\n");
-  EXPECT_EQ(Read("walk.bvk"), Take());
-}
-
-TEST_F(ConvertTest, GroupsFilesByTheirFolders) {
-  MakeFolder("one");
-  MakeFolder("two");
-  MakeFolder("out");
-  for (const char* name : {"one/a.trc", "two/b.trc", "one/c.trc"}) Write(name, Take());
-  EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc", "--output-dir", "out"}).status, 0);
-  EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "b.bvk", "c.bvk"));
-  const std::string log = ReadText("out/ConvertBVKLog.txt");
-  EXPECT_LT(log.find("a.trc done"), log.find("c.trc done"));
-  EXPECT_LT(log.find("c.trc done"), log.find("b.trc done"));
-  EXPECT_EQ(Convert({"one/a.trc", "two/b.trc", "one/c.trc"}).status, 0);
-  EXPECT_THAT(NamesOf("one"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "a.trc", "c.bvk", "c.trc"));
-  EXPECT_THAT(NamesOf("two"), ElementsAre("ConvertBVKLog.txt", "b.bvk", "b.trc"));
-}
-
-TEST_F(ConvertTest, TakesNamesOfManyKinds) {
-  MakeFolder("o u't");
-  const std::vector<std::string> stems = {"50%done", "%s%s%n", "%999999999d", "a b", "it's"};
-  std::vector<std::string> arguments = {"--output-dir", "o u't"};
-  for (const std::string& stem : stems) {
-    Write(stem + ".trc", Take());
-    arguments.push_back(stem + ".trc");
-  }
-  const ProgramResult result = Convert(arguments);
-  EXPECT_EQ(result.status, 0) << result.error;
-  for (const std::string& stem : stems) {
-    EXPECT_THAT(ReadText("o u't/" + stem + ".bvk"), HasSubstr("$Filename   " + stem + "\n"))
-        << stem;
-  }
-}
-
 TEST_F(ConvertTest, TellsTheReadersWordsWhateverTheLogMakesOfTheName) {
   std::vector<std::string> arguments = {"--jobs", "1"};
   for (const char* name : {"%s%s%n.trc", "%999999999d.trc", "50%done.trc"}) {
@@ -365,19 +233,6 @@ TEST_F(ConvertTest, TellsANegativeNumberOfFramesAsItIsAnnounced) {
   EXPECT_THAT(ReadText("walk.bvk"), HasSubstr("$NumFrames -5\n"));
   EXPECT_EQ(json::parse(Convert({"walk.trc", "--json", "--force"}).output)["files"][0]["frames"],
             0);
-}
-
-// The extension says what is in the file.
-TEST_F(ConvertTest, WritesNothingButBvkFiles) {
-  Write("walk.trc", Take());
-  for (const char* name : {"walk.csv", "walk.trc", "walk.bvk.txt", "walk."}) {
-    const ProgramResult result = Convert({"walk.trc", "-o", name, "--force"});
-    EXPECT_EQ(result.status, 2) << name;
-    EXPECT_THAT(result.error, HasSubstr(std::string(name) + " does not end in .bvk")) << name;
-  }
-  EXPECT_THAT(Names(), ElementsAre("walk.trc"));
-  EXPECT_EQ(Convert({"walk.trc", "-o", "step.BvK"}).status, 0);
-  EXPECT_THAT(Names(), ElementsAre("step.BvK", "walk.trc"));
 }
 
 TEST_F(ConvertTest, ShowsWhatItWouldDo) {
