@@ -1,21 +1,23 @@
 #include "plugin/exchange/object_nodes.h"
 
+#include <utility>
+
 #include "sdk/core/object.h"
 
 namespace orvane {
 
-INode* CreateNodeFor(Interface& interface, Object& object) {
-  INode* node = interface.CreateObjectNode(&object);
-  if (node == nullptr) object.Delete();
+INode* CreateNodeFor(Interface& interface, OwnedInstance<Object> object) {
+  INode* const node = interface.CreateObjectNode(object.get());
+  if (node != nullptr) (void)object.release();
   return node;
 }
 
 INode* CreateDummyNode(Interface& interface, float half_extent) {
-  auto* dummy = static_cast<DummyObject*>(interface.CreateInstance(kHelperSuperClass, kDummyClass));
+  auto dummy = CreateOwned<DummyObject>(interface, kHelperSuperClass, kDummyClass);
   if (dummy == nullptr) return nullptr;
   dummy->SetBox(Box3(Point3(-half_extent, -half_extent, -half_extent),
                      Point3(half_extent, half_extent, half_extent)));
-  return CreateNodeFor(interface, *dummy);
+  return CreateNodeFor(interface, std::move(dummy));
 }
 
 }  // namespace orvane

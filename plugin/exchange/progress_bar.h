@@ -1,5 +1,6 @@
 #pragma once
 
+#include "plugin/exchange/attempt.h"
 #include "sdk/core/interface.h"
 
 // The host's progress bar for the time of one import or export.
@@ -14,7 +15,9 @@ class ProgressBar {
   ProgressBar(const ProgressBar&) = delete;
   ProgressBar& operator=(const ProgressBar&) = delete;
   // Closes the bar, however the work ended.
-  ~ProgressBar() { interface_.ProgressEnd(); }
+  ~ProgressBar() {
+    Attempt([this] { interface_.ProgressEnd(); });
+  }
 
  private:
   static std::uint32_t GoOn(void* /*argument*/) { return 0; }

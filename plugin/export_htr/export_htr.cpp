@@ -4,6 +4,8 @@
 #include <limits>
 #include <string>
 
+#include "plugin/exchange/attempt.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_modes.h"
 #include "plugin/exchange/progress_bar.h"
 #include "plugin/export_htr/export_root.h"
@@ -16,6 +18,11 @@
 namespace orvane {
 namespace {
 
+constexpr char kExportHTRError[] = "ExportHTR Error";
+constexpr FailureTexts kFailure{kExportHTRError,
+                                "There is not enough memory to export the skeleton.",
+                                "An unexpected error ended the export."};
+
 constexpr std::uint32_t kMillimeters = 0;
 constexpr std::uint32_t kDegrees = 0;
 
@@ -23,12 +30,14 @@ constexpr std::uint32_t kDegrees = 0;
 
 int ExportHTR::DoExport(const char* name, ExpInterface* /*export_interface*/, Interface* interface,
                         int suppress_prompts, std::uint32_t /*options*/) {
+  if (name == nullptr || interface == nullptr) return 0;
   try {
     file_name_ = name;
     interface_ = interface;
     return Export(suppress_prompts != 0);
   } catch (...) {
-    messages_.Report("There is not enough memory to export the skeleton.", "ExportHTR Error");
+    Attempt([this] { document_.Clear(); });
+    ReportFailure(messages_, kFailure);
     return 0;
   }
 }
@@ -100,7 +109,7 @@ std::uint32_t ExportHTR::FrameCount() const {
 bool ExportHTR::WriteFile() {
   const std::string failure = WriteHtrFile(document_, file_name_.data());
   if (failure.empty()) return true;
-  messages_.Report(failure.c_str(), "ExportHTR Error");
+  messages_.Report(failure.c_str(), kExportHTRError);
   return false;
 }
 

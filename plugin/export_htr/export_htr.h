@@ -32,7 +32,8 @@ class ExportHTR final : public SceneExport {
 
   // Exports the selected skeleton to the motion file `name`, with the options dialog unless
   // `suppress_prompts` is not 0. Returns 1 when the export is done or the dialog was cancelled, 0
-  // when it was refused or failed, which has been reported.
+  // when it was refused or failed, which has been reported. Without a name or an interface it does
+  // nothing and returns 0.
   // Animation and set-key mode are suspended, and resumed only when the export is done.
   int DoExport(const char* name, ExpInterface* export_interface, Interface* interface,
                int suppress_prompts, std::uint32_t options) override;

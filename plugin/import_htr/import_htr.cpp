@@ -4,6 +4,8 @@
 #include <limits>
 #include <string_view>
 
+#include "plugin/exchange/attempt.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_modes.h"
 #include "plugin/exchange/progress_bar.h"
 #include "plugin/htr/reader.h"
@@ -20,6 +22,8 @@ namespace orvane {
 namespace {
 
 constexpr char kImportHTRError[] = "ImportHTR Error";
+constexpr FailureTexts kFailure{kImportHTRError, "There is not enough memory to import the file.",
+                                "An unexpected error ended the import."};
 constexpr char kImportHTRWarning[] = "ImportHTR Warning";
 constexpr char kImportError[] = "Import Error";
 
@@ -36,6 +40,7 @@ std::string FileNamePart(std::string_view path) {
 
 int ImportHTR::DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                         int suppress_prompts) {
+  if (name == nullptr || interface == nullptr) return 0;
   try {
     file_name_ = name;
     import_interface_ = import_interface;
@@ -43,6 +48,8 @@ int ImportHTR::DoImport(const char* name, ImpInterface* import_interface, Interf
     quiet_ = suppress_prompts == 1;
     return Import();
   } catch (...) {
+    Attempt([this] { document_.Clear(); });
+    ReportFailure(messages_, kFailure);
     return 0;
   }
 }

@@ -34,7 +34,8 @@ class ImportHTR final : public SceneImport {
 
   // Imports the motion file `name` into the scene, with the options dialog unless
   // `suppress_prompts` is 1. Returns 1 when the import is done or the dialog was cancelled, 0 when
-  // it was refused or failed; refusals have been reported.
+  // it was refused or failed; refusals and the want of memory have been reported. Without a name or
+  // an interface it does nothing and returns 0.
   // Animation and set-key mode are suspended, and resumed only when the import is done.
   int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                int suppress_prompts) override;

@@ -1,5 +1,7 @@
 #include "plugin/import_htr/scene_nodes.h"
 
+#include <utility>
+
 #include "plugin/exchange/object_nodes.h"
 #include "plugin/exchange/wire_color.h"
 #include "sdk/core/object.h"
@@ -31,12 +33,11 @@ void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {
 
 INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneSize& size) {
   const TimeValue now = interface.GetTime();
-  auto* bone =
-      static_cast<Object*>(interface.CreateInstance(kGeometricObjectSuperClass, kBoneClass));
+  auto bone = CreateOwned<Object>(interface, kGeometricObjectSuperClass, kBoneClass);
   if (bone == nullptr) return nullptr;
   SetBoneSize(*bone, size, now);
 
-  INode* node = CreateNodeFor(interface, *bone);
+  INode* node = CreateNodeFor(interface, std::move(bone));
   if (node == nullptr) return nullptr;
   node->SetName(name.c_str());
   node->SetBoneDisplay(kNoBoneLinks);

@@ -1,6 +1,7 @@
 #include "plugin/import_htr/segment_keyer.h"
 
 #include "plugin/exchange/node_controllers.h"
+#include "plugin/exchange/owned_instance.h"
 #include "plugin/import_htr/controllers.h"
 #include "sdk/core/animation.h"
 
@@ -37,11 +38,11 @@ bool SegmentKeyer::Run() {
 void SegmentKeyer::InstallTcbController() {
   Control* transform = node_.GetTMController();
   if (transform == nullptr || rotation_ == nullptr) return;
-  auto* tcb = static_cast<Control*>(
-      interface_.CreateInstance(kRotationControllerSuperClass, kTcbRotationClass));
+  auto tcb = CreateOwned<Control>(interface_, kRotationControllerSuperClass, kTcbRotationClass);
   if (tcb == nullptr) return;
   tcb->CopyFrom(rotation_);
-  if (!transform->SetRotationController(tcb)) tcb->Delete();
+  if (transform->SetRotationController(tcb.get())) (void)tcb.release();
+  tcb.reset();
   rotation_ = transform->GetRotationController();
 }
 

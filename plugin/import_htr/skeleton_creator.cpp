@@ -1,7 +1,6 @@
 #include "plugin/import_htr/skeleton_creator.h"
 
-#include <vector>
-
+#include "plugin/exchange/attempt.h"
 #include "plugin/exchange/node_controllers.h"
 #include "plugin/import_htr/controllers.h"
 #include "plugin/skeleton/axis_conversion.h"
@@ -11,13 +10,6 @@ namespace orvane {
 namespace {
 
 constexpr double kThicknessOfLength = 0.2;
-
-// A bone whose children are being created.
-struct OpenBone {
-  const HtrSegment* segment;
-  INode* node;
-  int next_child;
-};
 
 bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   const AxisConversion axes(segment.GetIsRoot());
@@ -40,18 +32,32 @@ bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   return true;
 }
 
-// Deletes the bones that wait for a child that failed, the innermost first.
-void DeleteAncestors(Interface& interface, std::vector<OpenBone>& open) {
-  for (; !open.empty(); open.pop_back()) interface.DeleteNode(open.back().node, true);
-}
-
 }  // namespace
+
+// A bone whose children are being created.
+struct SkeletonCreator::OpenBone {
+  const HtrSegment* segment;
+  INode* node;
+  int next_child;
+};
 
 INode* SkeletonCreator::Create(const HtrSegment& root) {
   INode* root_node = CreateSegmentNode(root, nullptr);
   if (root_node == nullptr) return nullptr;
 
   std::vector<OpenBone> open{{&root, root_node, 0}};
+  try {
+    if (CreateBonesBelow(open)) return root_node;
+  } catch (...) {
+    Attempt([this, &open] { DeleteAncestors(open); });
+    throw;
+  }
+  DeleteAncestors(open);
+  return nullptr;
+}
+
+// Returns false when a bone cannot be created, which `open` leads to then.
+bool SkeletonCreator::CreateBonesBelow(std::vector<OpenBone>& open) {
   while (!open.empty()) {
     OpenBone& bone = open.back();
     const HtrSegment* child = bone.segment->GetChild(bone.next_child++);
@@ -60,13 +66,15 @@ INode* SkeletonCreator::Create(const HtrSegment& root) {
       continue;
     }
     INode* child_node = CreateSegmentNode(*child, bone.node);
-    if (child_node == nullptr) {
-      DeleteAncestors(interface_, open);
-      return nullptr;
-    }
+    if (child_node == nullptr) return false;
     open.push_back({child, child_node, 0});
   }
-  return root_node;
+  return true;
+}
+
+// Deletes the bones that wait for a child that failed, the innermost first.
+void SkeletonCreator::DeleteAncestors(std::vector<OpenBone>& open) {
+  for (; !open.empty(); open.pop_back()) interface_.DeleteNode(open.back().node, true);
 }
 
 // The bone of `segment` alone, with its end effector when it is a leaf; null on failure.

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <string>
+#include <vector>
 
 #include "plugin/htr/segment.h"
 #include "plugin/import_htr/options.h"
@@ -20,10 +20,15 @@ class SkeletonCreator {
   // Creates the bones of `root` and of everything below it, in the order of the file, and returns
   // the bone of `root`. Lengths of the segments are in system units; they are not changed.
   // Returns null when a bone could not be created or refused its base position: that bone stays in
-  // the scene, its ancestors are deleted, and what would follow is not created.
+  // the scene, its ancestors are deleted, and what would follow is not created. The same when the
+  // host throws, which is passed on.
   INode* Create(const HtrSegment& root);
 
  private:
+  struct OpenBone;
+
+  bool CreateBonesBelow(std::vector<OpenBone>& open);
+  void DeleteAncestors(std::vector<OpenBone>& open);
   INode* CreateSegmentNode(const HtrSegment& segment, INode* parent);
   bool CreateEndEffector(const HtrSegment& segment, INode& node);
   double Thickness(const HtrSegment& segment) const;

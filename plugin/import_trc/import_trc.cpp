@@ -5,6 +5,8 @@
 #include <limits>
 #include <string>
 
+#include "plugin/exchange/attempt.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_modes.h"
 #include "plugin/exchange/progress_bar.h"
 #include "plugin/import_trc/marker_cloud.h"
@@ -16,12 +18,16 @@ namespace {
 
 constexpr char kImportTRCError[] = "ImportTRC Error";
 
+constexpr FailureTexts kFailure{kImportTRCError, "There is not enough memory to import the file.",
+                                "An unexpected error ended the import."};
+
 constexpr std::int32_t kMillimeters = 0;
 
 }  // namespace
 
 int ImportTRC::DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                         int suppress_prompts) {
+  if (name == nullptr || interface == nullptr) return 0;
   try {
     file_name_ = name;
     import_interface_ = import_interface;
@@ -29,8 +35,8 @@ int ImportTRC::DoImport(const char* name, ImpInterface* import_interface, Interf
     quiet_ = suppress_prompts == 1;
     Import();
   } catch (...) {
-    // The host is told of success, so that nobody else would say it.
-    messages_.Report("There is not enough memory to import the file.", kImportTRCError);
+    Attempt([this] { document_.Reset(); });
+    ReportFailure(messages_, kFailure);
   }
   return 1;
 }

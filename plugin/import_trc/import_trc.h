@@ -32,7 +32,8 @@ class ImportTRC final : public SceneImport {
 
   // Imports the marker file `name` into the scene, with the options dialog unless
   // `suppress_prompts` is 1. Refusals are reported.
-  // Intended: returns 1 whatever happens, so that the host adds no failure message of its own.
+  // Intended: returns 1 whatever happens, so that the host adds no failure message of its own; 0
+  // only without a name or an interface, when there is no import.
   // Animation and set-key mode are suspended, and resumed only when the import is done.
   int DoImport(const char* name, ImpInterface* import_interface, Interface* interface,
                int suppress_prompts) override;

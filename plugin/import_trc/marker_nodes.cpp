@@ -1,5 +1,7 @@
 #include "plugin/import_trc/marker_nodes.h"
 
+#include <utility>
+
 #include "plugin/exchange/object_nodes.h"
 #include "plugin/exchange/wire_color.h"
 #include "sdk/core/cstr.h"
@@ -41,17 +43,16 @@ void SetSphere(Object& sphere, float radius, TimeValue time) {
 }
 
 INode* CreateSphereNode(Interface& interface, float radius) {
-  auto* sphere =
-      static_cast<Object*>(interface.CreateInstance(kGeometricObjectSuperClass, kSphereClass));
+  auto sphere = CreateOwned<Object>(interface, kGeometricObjectSuperClass, kSphereClass);
   if (sphere == nullptr) return nullptr;
   SetSphere(*sphere, radius, interface.GetTime());
-  return CreateNodeFor(interface, *sphere);
+  return CreateNodeFor(interface, std::move(sphere));
 }
 
 INode* CreatePointNode(Interface& interface, float scale) {
-  auto* point =
-      static_cast<Object*>(interface.CreateInstance(kHelperSuperClass, kPointHelperClass));
-  INode* node = point == nullptr ? nullptr : CreateNodeFor(interface, *point);
+  auto point = CreateOwned<Object>(interface, kHelperSuperClass, kPointHelperClass);
+  if (point == nullptr) return nullptr;
+  INode* const node = CreateNodeFor(interface, std::move(point));
   if (node == nullptr) return nullptr;
   Matrix3 axes;
   axes.IdentityMatrix();

@@ -9,7 +9,7 @@
 namespace test {
 
 // Lets a test do something before or after any call of the host, by the name of its operation: what
-// a user does while the host handles its messages, or throw.
+// a user does while the host handles its messages, or throw; but not after a call that throws.
 class HookedInterface final : public ForwardingInterface {
  public:
   using Hook = std::function<void(const std::string& operation)>;
@@ -141,7 +141,7 @@ class HookedInterface final : public ForwardingInterface {
     }
     Hooks(const Hooks&) = delete;
     Hooks& operator=(const Hooks&) = delete;
-    ~Hooks() {
+    ~Hooks() noexcept(false) {
       if (host_.after) host_.after(operation_);
     }
 

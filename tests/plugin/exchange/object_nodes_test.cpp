@@ -2,9 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <string>
+
 #include "host/application/application.h"
 #include "host/scene/box_object.h"
 #include "tests/support/forwarding_interface.h"
+#include "tests/support/hooked_interface.h"
+#include "tests/support/throwing_instances.h"
 
 namespace orvane {
 namespace {
@@ -27,6 +32,23 @@ TEST(ObjectNodesTest, ARefusedObjectOrNodeLeavesNothingBehind) {
   refusing.RefuseNode(1);
   EXPECT_EQ(CreateDummyNode(refusing, 1.0F), nullptr);
   EXPECT_EQ(application.scene().NodeCount(), 0u);
+  EXPECT_EQ(application.scene().LooseInstances(), 0u);
+}
+
+TEST(ObjectNodesTest, AnObjectThatThrowsIsDeleted) {
+  host::Application application;
+  test::ThrowingInstances throwing(application.plugin_interface());
+  EXPECT_THROW(CreateDummyNode(throwing, 1.0F), std::bad_alloc);
+  EXPECT_EQ(throwing.object.deletions, 1);
+}
+
+TEST(ObjectNodesTest, AnObjectThatGetsNoNodeBecauseTheHostThrowsIsDeleted) {
+  host::Application application;
+  test::HookedInterface host(application.plugin_interface());
+  host.before = [](const std::string& operation) {
+    if (operation == "CreateObjectNode") throw 1;
+  };
+  EXPECT_THROW(CreateDummyNode(host, 1.0F), int);
   EXPECT_EQ(application.scene().LooseInstances(), 0u);
 }
 

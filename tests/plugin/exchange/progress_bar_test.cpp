@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+
 #include "host/application/application.h"
+#include "tests/support/hooked_interface.h"
 
 namespace orvane {
 namespace {
@@ -17,6 +20,16 @@ TEST(ProgressBarTest, IsOpenAsLongAsItLivesAndNeverStopsTheWork) {
     EXPECT_TRUE(application.progress().Events().front().visible);
     EXPECT_TRUE(application.progress().Update(50, true, nullptr));
   }
+  EXPECT_FALSE(application.progress().IsOpen());
+}
+
+TEST(ProgressBarTest, IsClosedWhateverTheHostThrows) {
+  host::Application application;
+  test::HookedInterface host(application.plugin_interface());
+  host.after = [](const std::string& operation) {
+    if (operation == "ProgressEnd") throw 1;
+  };
+  { const ProgressBar bar(host, "Working"); }
   EXPECT_FALSE(application.progress().IsOpen());
 }
 

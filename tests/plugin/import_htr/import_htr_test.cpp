@@ -701,10 +701,11 @@ class ThrowingInterface final : public test::ForwardingInterface {
   TimeValue GetTime() override { throw std::bad_alloc(); }
 };
 
-TEST_F(ImportHTRTest, AnExceptionIsAFailureAndClosesTheProgressBar) {
+TEST_F(ImportHTRTest, RunningOutOfMemoryIsToldAndClosesTheProgressBar) {
   ThrowingInterface throwing(interface());
   const std::string path = folder_.Write("walk.htr", TwoBones().Text());
   EXPECT_EQ(importer_.DoImport(path.c_str(), nullptr, &throwing, 1), 0);
+  EXPECT_EQ(desk_.Messages(), "ImportHTR Error: There is not enough memory to import the file.\n");
   EXPECT_FALSE(application_.progress().IsOpen());
   EXPECT_TRUE(ModesSuspended());
 }

@@ -6,6 +6,7 @@
 #include "host/animation/tcb_controller.h"
 #include "tests/plugin/import_htr/skeleton_fixture.h"
 #include "tests/support/forwarding_interface.h"
+#include "tests/support/throwing_instances.h"
 
 namespace orvane {
 namespace {
@@ -287,6 +288,15 @@ TEST_F(SegmentKeyerTest, AHostThatCannotMakeATcbControllerKeepsTheOldOne) {
   EXPECT_TRUE(SegmentKeyer(refusing, options_, times_, bone_, segment).Run());
   EXPECT_EQ(&Rotation(), before);
   EXPECT_EQ(KeyTicks(Rotation()), (Ticks{160, 320, 480}));
+}
+
+TEST_F(SegmentKeyerTest, ATcbControllerThatThrowsIsDeleted) {
+  options_.rotationController = 1;
+  test::ThrowingInstances throwing(interface());
+  HtrSegment& segment = AddMoving("Bone");
+  SegmentKeyer keyer(throwing, options_, times_, bone_, segment);
+  EXPECT_THROW(keyer.Run(), std::bad_alloc);
+  EXPECT_EQ(throwing.control.deletions, 1);
 }
 
 TEST_F(SegmentKeyerTest, AnimateModeIsLeftAsItWas) {

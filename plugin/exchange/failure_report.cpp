@@ -1,0 +1,28 @@
+#include "plugin/exchange/failure_report.h"
+
+#include <new>
+#include <stdexcept>
+
+namespace orvane {
+namespace {
+
+// Of the exception that is being handled. A size that no container takes is a want of memory, too.
+const char* TextFor(const FailureTexts& texts) noexcept {
+  try {
+    throw;
+  } catch (const std::bad_alloc&) {
+    return texts.no_memory;
+  } catch (const std::length_error&) {
+    return texts.no_memory;
+  } catch (...) {
+    return texts.otherwise;
+  }
+}
+
+}  // namespace
+
+void ReportFailure(MessageSink& messages, const FailureTexts& texts) noexcept {
+  messages.Report(TextFor(texts), texts.title);
+}
+
+}  // namespace orvane
