@@ -4,6 +4,7 @@
 
 #include "platform/local_time.h"
 #include "plugin/exchange/attempt.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
 #include "plugin/utilities/chosen_files.h"
 #include "sdk/skelderutil/filename.h"
@@ -12,6 +13,8 @@ namespace orvane {
 namespace {
 
 constexpr char kConvertBVKError[] = "ConvertBVK Error";
+constexpr FailureTexts kFailure{kConvertBVKError, "There is not enough memory to convert the file.",
+                                "An unexpected error ended the conversion."};
 constexpr char kProgressTitle[] = "Orvane ConvertBVK";
 constexpr char kLogName[] = "ConvertBVKLog.txt";
 
@@ -44,9 +47,22 @@ std::optional<std::string> WithBvkLetters(std::string path) {
 
 }  // namespace
 
+// What was read goes first: there may be no memory to tell of its want.
+bool ConversionRun::Run() noexcept {
+  try {
+    return Work();
+  } catch (...) {
+    if (host_ == nullptr) return false;
+    Attempt([this] { converter_.document.Reset(); });
+    End();
+    ReportFailure(messages_, kFailure);
+    return false;
+  }
+}
+
 // Intended: a mapping file is needed even when the mapping is not used, and its absence is not
 // reported.
-bool ConversionRun::Run() {
+bool ConversionRun::Work() {
   if (!converter_.mapping.Load(converter_.mnmPath)) return false;
   if (!ChooseSources()) return false;
   if (converter_.batch && !OpenLog()) return false;

@@ -27,7 +27,7 @@ class ConversionRun {
         host_(converter.interface) {}
 
   // As ConvertBVK::Convert, with its host.
-  bool Run();
+  bool Run() noexcept;
 
   // As ConvertBVK::End, which forgets the host then.
   void End() noexcept;
@@ -36,6 +36,7 @@ class ConversionRun {
   // Of one file. After a refusal no other file follows, but the run is not abandoned.
   enum class Outcome { kDone, kRefused, kAbandoned };
 
+  bool Work();
   bool ChooseSources();
   bool OpenLog();
   bool OpenBar();

@@ -1,12 +1,12 @@
 #include "plugin/utilities/convert_bvk.h"
 
-#include <exception>
 #include <fstream>
 #include <ios>
 #include <string_view>
 
 #include "platform/local_time.h"
 #include "plugin/bvk/writer.h"
+#include "plugin/exchange/attempt.h"
 #include "plugin/text/files.h"
 #include "plugin/utilities/conversion_run.h"
 #include "sdk/skelderutil/filename.h"
@@ -22,15 +22,11 @@ ConvertBVK::ConvertBVK(MessageSink& messages, StringTable& strings, HINSTANCE mo
 ConvertBVK::~ConvertBVK() { SaveSettings(); }
 
 bool ConvertBVK::Convert(Interface* host) {
+  if (host == nullptr) return false;
   interface = host;
   ConversionRun run(*this, messages_, strings_, module_);
   run_ = &run;
-  bool done = false;
-  try {
-    done = run.Run();
-  } catch (const std::exception&) {
-    done = false;  // no memory
-  }
+  const bool done = run.Run();
   run_ = nullptr;
   interface = nullptr;
   return done;
@@ -69,18 +65,20 @@ void ConvertBVK::LoadSettings() {
   store_.ReadFloat("OffsetZ", offsetZ);
 }
 
-void ConvertBVK::SaveSettings() {
-  store_.WriteString("MNMPath", mnmPath);
-  store_.WriteString("InputPath", inputPath);
-  store_.WriteString("OutputPath", outputPath);
-  store_.WriteFlag("Filter", filter);
-  store_.WriteFlag("Batch", batch);
-  store_.WriteFlag("TRCName", trcName);
-  store_.WriteFlag("TRCSpace", trcSpace);
-  store_.WriteFlag("Offset", offset);
-  store_.WriteFloat("OffsetX", offsetX);
-  store_.WriteFloat("OffsetY", offsetY);
-  store_.WriteFloat("OffsetZ", offsetZ);
+void ConvertBVK::SaveSettings() noexcept {
+  Attempt([this] {
+    store_.WriteString("MNMPath", mnmPath);
+    store_.WriteString("InputPath", inputPath);
+    store_.WriteString("OutputPath", outputPath);
+    store_.WriteFlag("Filter", filter);
+    store_.WriteFlag("Batch", batch);
+    store_.WriteFlag("TRCName", trcName);
+    store_.WriteFlag("TRCSpace", trcSpace);
+    store_.WriteFlag("Offset", offset);
+    store_.WriteFloat("OffsetX", offsetX);
+    store_.WriteFloat("OffsetY", offsetY);
+    store_.WriteFloat("OffsetZ", offsetZ);
+  });
 }
 
 }  // namespace orvane

@@ -31,8 +31,9 @@ class ConvertBVK final : public PanelCommand {
   // Lets the user choose a file, or several when `batch` is set, and converts them by the settings.
   // Returns true when all chosen files were handled, even those that the reader refused, and false
   // when that was abandoned: the mapping file cannot be opened, the user cancelled, the log or an
-  // output cannot be created, or End was called. Only refusals and the log are reported, the former
-  // in the log of a batch. docs/formats/bvk.md tells the details.
+  // output cannot be created, memory ran out, End was called, or `host` is null. Only refusals, the
+  // log and the want of memory are reported, the first of them in the log of a batch.
+  // docs/formats/bvk.md tells the details.
   bool Convert(Interface* host);
 
   // Closes the progress bar. The file that is being converted is not written.
@@ -43,7 +44,7 @@ class ConvertBVK final : public PanelCommand {
   bool WriteMarkerFile(const std::string& path);
 
   // Writes the settings to the registry. Failures are silent.
-  void SaveSettings();
+  void SaveSettings() noexcept;
 
   // The settings; a new user's to begin with. Paths are UTF-8, and what no file or folder has been
   // chosen for is "<none>".

@@ -1,9 +1,8 @@
 #include "plugin/utilities/mapping_creator.h"
 
-#include <exception>
-
 #include "platform/file_dialog.h"
 #include "plugin/exchange/attempt.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/wire_color.h"
 #include "plugin/utilities/mapping_file_dialog.h"
 
@@ -16,6 +15,8 @@ constexpr WireColor kMarkerColor = WireColorOf(204, 51, 51);
 constexpr WireColor kPickedColor = WireColorOf(25, 25, 204);
 
 constexpr char kStatus[] = "MNM File Creation Status";
+constexpr FailureTexts kFailure{kStatus, "There is not enough memory to create the mapping file.",
+                                "An unexpected error ended the creation of the mapping file."};
 
 // The step after `index`. Intended: every time the user goes back moves by two before the usual
 // step forward, so that in a step of two picks he may go back further; but not beyond the first
@@ -29,11 +30,14 @@ std::size_t StepAfter(std::size_t index, std::size_t backs, bool again) {
 }  // namespace
 
 bool MappingCreator::CreateMNM(Interface* interface) {
+  if (interface == nullptr) return false;
   interface_ = interface;
   try {
     return Create();
-  } catch (const std::exception&) {
-    End();  // no memory
+  } catch (...) {
+    if (ended_) return false;
+    End();
+    ReportFailure(services_.messages, kFailure);
     return false;
   }
 }

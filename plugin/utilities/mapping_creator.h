@@ -41,7 +41,8 @@ class MappingCreator final : public PanelCommand {
   // their own colour again. Returns false when the user aborted, the host exits or does not let
   // anything be picked, or End was called; mapping and colours are the same then. Returns false
   // too when the dialog cannot be created, the user chooses no file or it cannot be written; the
-  // mapping and the colours then stay as they are.
+  // mapping and the colours then stay as they are. Running out of memory is told, and undoes all as
+  // aborting does. `interface` may be null: then nothing is done.
   bool CreateMNM(Interface* interface);
 
   // Leaves the pick mode, restores the colours, empties the mapping and closes the dialog.

@@ -6,7 +6,9 @@
 #include <utility>
 
 #include "platform/file_dialog.h"
+#include "plugin/exchange/attempt.h"
 #include "plugin/exchange/dialog_controls.h"
+#include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
 #include "plugin/text/numbers.h"
 #include "plugin/utilities/convert_bvk.h"
@@ -19,6 +21,10 @@ namespace {
 
 constexpr int kRollupCategory = 4000;
 
+constexpr FailureTexts kFailure{"OrvaneUtilities Error",
+                                "There is not enough memory for this command.",
+                                "An unexpected error ended this command."};
+
 // The longest path of any system fits.
 constexpr std::size_t kPathBufferSize = std::size_t{64} * 1024;
 
@@ -30,7 +36,7 @@ class HeldEdit {
   HeldEdit(const HeldEdit&) = delete;
   HeldEdit& operator=(const HeldEdit&) = delete;
   ~HeldEdit() {
-    if (edit_ != nullptr) ReleaseICustEdit(edit_);
+    if (edit_ != nullptr) Attempt([this] { ReleaseICustEdit(edit_); });
   }
 
   void Show(float number) {
@@ -115,29 +121,36 @@ OrvaneUtilities::OrvaneUtilities(MessageSink& messages, StringTable& strings, Pi
 OrvaneUtilities::~OrvaneUtilities() { Close(); }
 
 void OrvaneUtilities::BeginEditParams(Interface* interface, IUtil* utility) {
+  if (interface == nullptr) return;
   interface_ = interface;
   utility_ = utility;
   if (page_ != nullptr) return;
-  page_ = interface->AddRollupPage(work_->module, IDD_UTILITIES, platform::HandlerProcedure(),
-                                   work_->strings.GetString(work_->module, IDS_CONVERT_TRC_TO_BVK),
-                                   platform::HandlerParameter(*this), 0, kRollupCategory);
+  try {
+    page_ =
+        interface->AddRollupPage(work_->module, IDD_UTILITIES, platform::HandlerProcedure(),
+                                 work_->strings.GetString(work_->module, IDS_CONVERT_TRC_TO_BVK),
+                                 platform::HandlerParameter(*this), 0, kRollupCategory);
+  } catch (...) {
+    interface_ = nullptr;
+    utility_ = nullptr;
+  }
 }
 
 void OrvaneUtilities::EndEditParams(Interface* /*interface*/, IUtil* /*utility*/) { Close(); }
 
 // The pointers are forgotten first: the host may close the panel, or delete it, once more in the
 // middle of any of these calls.
-void OrvaneUtilities::Close() {
+void OrvaneUtilities::Close() noexcept {
   Interface* const interface = std::exchange(interface_, nullptr);
   if (interface == nullptr) return;
   utility_ = nullptr;
   const HWND page = std::exchange(page_, nullptr);
   const std::shared_ptr<Work> work = work_;
   ++work->closings;
-  interface->ClearPickMode();
+  Attempt([interface] { interface->ClearPickMode(); });
   if (work->command != nullptr) work->command->End();
   work->converter.SaveSettings();
-  if (page != nullptr) interface->DeleteRollupPage(page);
+  if (page != nullptr) Attempt([interface, page] { interface->DeleteRollupPage(page); });
 }
 
 void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
@@ -157,10 +170,12 @@ void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
 
 void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
   if (interface_ == nullptr) return;  // the page is being deleted
+  const std::shared_ptr<Work> work = work_;
+  const OpenPanel panel(*work);
   try {
     Answer(dialog, control);
   } catch (...) {
-    // Without memory the command is not carried out.
+    if (panel.IsOpen()) ReportFailure(work->messages, kFailure);
   }
 }
 

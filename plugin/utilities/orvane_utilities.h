@@ -26,7 +26,8 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   // is at work, as EndEditParams may: the command ends then and does not touch this object.
   ~OrvaneUtilities() override;
 
-  // Shows the panel, unless it is shown already.
+  // Shows the panel, unless it is shown already or `interface` is null. A host that throws
+  // meanwhile has not opened it.
   void BeginEditParams(Interface* interface, IUtil* utility) override;
 
   // Ends the command that is at work, saves the settings and closes the panel.
@@ -47,7 +48,7 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   void BrowseOutput(platform::Dialog& dialog);
   void CreateMapping(platform::Dialog& dialog);
   void Convert(platform::Dialog& dialog);
-  void Close();
+  void Close() noexcept;
 
   PickControlNode& pick_;
   std::shared_ptr<Work> work_;

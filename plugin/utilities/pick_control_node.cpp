@@ -1,6 +1,14 @@
 #include "plugin/utilities/pick_control_node.h"
 
 namespace orvane {
+namespace {
+
+bool IsPickable(SuperClassId super_class) {
+  return super_class == kGeometricObjectSuperClass || super_class == kShapeSuperClass ||
+         super_class == kHelperSuperClass;
+}
+
+}  // namespace
 
 void PickControlNode::Prepare(Interface& interface) {
   interface_ = &interface;
@@ -10,11 +18,19 @@ void PickControlNode::Prepare(Interface& interface) {
 
 bool PickControlNode::HitTest(HWND window, ViewportView* /*viewport*/, const ViewportPoint& point,
                               int /*flags*/) {
-  return interface_ != nullptr && interface_->PickNode(window, point, this) != nullptr;
+  try {
+    return interface_ != nullptr && interface_->PickNode(window, point, this) != nullptr;
+  } catch (...) {
+    return false;  // as where there is nothing
+  }
 }
 
 bool PickControlNode::Pick(ViewportView* viewport) {
-  picked_ = viewport->GetClosestHit();
+  try {
+    picked_ = viewport->GetClosestHit();
+  } catch (...) {
+    return false;  // the user may click again
+  }
   active_ = false;
   return true;
 }
@@ -25,11 +41,12 @@ bool PickControlNode::RightClick(ViewportView* /*viewport*/) {
 }
 
 bool PickControlNode::Filter(INode* node) {
-  Object* const object = node == nullptr ? nullptr : node->EvaluateWorldObject(0);
-  if (object == nullptr) return false;
-  const SuperClassId super_class = object->SuperClassID();
-  return super_class == kGeometricObjectSuperClass || super_class == kShapeSuperClass ||
-         super_class == kHelperSuperClass;
+  try {
+    Object* const object = node == nullptr ? nullptr : node->EvaluateWorldObject(0);
+    return object != nullptr && IsPickable(object->SuperClassID());
+  } catch (...) {
+    return false;
+  }
 }
 
 }  // namespace orvane

@@ -3,7 +3,8 @@
 #include "sdk/core/interface.h"
 
 // The host's pick mode as the mapping creator uses it: one object is picked, or the user clicks
-// with the right button, or the mode ends without either.
+// with the right button, or the mode ends without either. Where the host throws, nothing is hit and
+// nothing picked.
 namespace orvane {
 
 class PickControlNode final : public PickModeCallback, public PickNodeCallback {

@@ -2,10 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <new>
+#include <string>
 #include <vector>
 
 #include "host/application/application.h"
 #include "tests/support/forwarding_interface.h"
+#include "tests/support/hooked_interface.h"
 
 namespace orvane {
 namespace {
@@ -164,6 +167,43 @@ TEST_F(PickTest, RightClickEndsTheModeWithoutANode) {
   EXPECT_TRUE(pick_.WasRightClicked());
   EXPECT_EQ(pick_.PickedNode(), nullptr);
   EXPECT_TRUE(pick_.IsActive()) << "the host leaves the mode";
+}
+
+// A host whose calls throw during a pick.
+class ThrowingObject final : public Object {
+ public:
+  ClassId ClassID() override { return {1, 2}; }
+  SuperClassId SuperClassID() override { throw std::bad_alloc(); }
+  void Delete() override {}
+  IParamBlock* GetParamBlock() override { return nullptr; }
+  int GetParamBlockIndex(int /*i*/) override { return -1; }
+  ParameterBlock* GetFirstParameterBlock() override { return nullptr; }
+};
+
+class ThrowingViewport final : public ViewportView {
+ public:
+  INode* GetClosestHit() override { throw 1; }
+};
+
+TEST_F(PickTest, HitsNothingWhereTheHostThrows) {
+  test::HookedInterface host(application_.plugin_interface());
+  host.before = [](const std::string& /*operation*/) { throw 1; };
+  pick_.Prepare(host);
+  EXPECT_FALSE(pick_.HitTest(nullptr, &viewport_, {3, 4}, 0));
+}
+
+TEST_F(PickTest, GoesOnWaitingWhereTheHostThrows) {
+  ThrowingViewport throwing;
+  pick_.EnterMode();
+  EXPECT_FALSE(pick_.Pick(&throwing));
+  EXPECT_TRUE(pick_.IsActive());
+  EXPECT_EQ(pick_.PickedNode(), nullptr);
+}
+
+TEST_F(PickTest, LetsNothingPassWhereTheHostThrows) {
+  ThrowingObject object;
+  AnyNode node(&object);
+  EXPECT_FALSE(pick_.Filter(&node));
 }
 
 TEST_F(PickTest, ForgetsTheLastPick) {
