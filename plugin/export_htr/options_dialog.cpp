@@ -4,7 +4,6 @@
 #include "plugin/resources/resource.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/text/numbers.h"
-#include "sdk/skelderutil/window.h"
 
 namespace orvane {
 namespace {
@@ -15,29 +14,15 @@ constexpr int kLastCommand = IDC_CURRENT_POSE;
 
 }  // namespace
 
-bool ExportHTROptionsDialog::Show() {
-  return platform::RunModalDialog(module_, IDD_EXPORT_HTR, parent_, *this) == kConfirmed;
-}
+ExportHTROptionsDialog::ExportHTROptionsDialog(ExportHTROptions& options, MessageSink& messages,
+                                               HWND parent, HINSTANCE module)
+    : OptionsDialog(IDD_EXPORT_HTR, parent, module), options_(options), messages_(messages) {}
 
-void ExportHTROptionsDialog::Initialize(platform::Dialog& dialog) {
-  try {
-    CenterWindow(dialog.Window(), parent_);
-    options_.Load();
-    FillSwitches(dialog);
-    FillFrameRange(dialog, Range());
-    dialog.SetText(IDC_GLOBAL_SCALE, FormatDouble(options_.scaleFactor).c_str());
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
-}
-
-void ExportHTROptionsDialog::Command(platform::Dialog& dialog, int control) {
-  if (control < kFirstCommand || control > kLastCommand) return;
-  try {
-    Answer(dialog, control);
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
+void ExportHTROptionsDialog::Fill(platform::Dialog& dialog) {
+  options_.Load();
+  FillSwitches(dialog);
+  FillFrameRange(dialog, Range());
+  dialog.SetText(IDC_GLOBAL_SCALE, FormatDouble(options_.scaleFactor).c_str());
 }
 
 void ExportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
@@ -49,6 +34,7 @@ void ExportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
 }
 
 void ExportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
+  if (control < kFirstCommand || control > kLastCommand) return;
   switch (control) {
     case IDC_SLIDER:
       SelectRadio(dialog, IDC_SLIDER, IDC_RANGE);
@@ -65,7 +51,7 @@ void ExportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
     case IDC_CANCEL:
       return dialog.End(kCancelled);
     case IDC_ABOUT:
-      return ShowAboutDialog(module_, dialog.Window());
+      return ShowAboutDialog(Module(), dialog.Window());
     default:
       return;
   }

@@ -3,7 +3,6 @@
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
 #include "plugin/shell/about_dialog.h"
-#include "sdk/skelderutil/window.h"
 
 namespace orvane {
 namespace {
@@ -18,28 +17,14 @@ void EnableCreation(platform::Dialog& dialog, bool enabled) {
 
 }  // namespace
 
-bool ImportHTROptionsDialog::Show() {
-  return platform::RunModalDialog(module_, IDD_IMPORT_HTR, parent_, *this) == kConfirmed;
-}
+ImportHTROptionsDialog::ImportHTROptionsDialog(ImportHTROptions& options, MessageSink& messages,
+                                               HWND parent, HINSTANCE module)
+    : OptionsDialog(IDD_IMPORT_HTR, parent, module), options_(options), messages_(messages) {}
 
-void ImportHTROptionsDialog::Initialize(platform::Dialog& dialog) {
-  try {
-    CenterWindow(dialog.Window(), parent_);
-    options_.Load();
-    FillSwitches(dialog);
-    FillNumbers(dialog);
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
-}
-
-void ImportHTROptionsDialog::Command(platform::Dialog& dialog, int control) {
-  if (control < kFirstCommand || control > kLastCommand) return;
-  try {
-    Answer(dialog, control);
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
+void ImportHTROptionsDialog::Fill(platform::Dialog& dialog) {
+  options_.Load();
+  FillSwitches(dialog);
+  FillNumbers(dialog);
 }
 
 void ImportHTROptionsDialog::FillSwitches(platform::Dialog& dialog) const {
@@ -62,6 +47,7 @@ void ImportHTROptionsDialog::FillNumbers(platform::Dialog& dialog) const {
 }
 
 void ImportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
+  if (control < kFirstCommand || control > kLastCommand) return;
   switch (control) {
     case IDC_EULER:
       return SelectRadio(dialog, IDC_EULER, IDC_TCB);
@@ -87,7 +73,7 @@ void ImportHTROptionsDialog::Answer(platform::Dialog& dialog, int control) {
     case IDC_CANCEL:
       return dialog.End(kCancelled);
     case IDC_ABOUT:
-      return ShowAboutDialog(module_, dialog.Window());
+      return ShowAboutDialog(Module(), dialog.Window());
     default:
       return;
   }

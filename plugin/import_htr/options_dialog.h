@@ -5,6 +5,7 @@
 
 #include "platform/dialog.h"
 #include "plugin/exchange/frame_range_controls.h"
+#include "plugin/exchange/options_dialog.h"
 #include "plugin/exchange/scale_controls.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/shell/message_sink.h"
@@ -13,32 +14,22 @@
 // controls, checks what was typed, and keeps the options.
 namespace orvane {
 
-class ImportHTROptionsDialog final : public platform::DialogHandler {
+class ImportHTROptionsDialog final : public OptionsDialog {
  public:
-  // How the dialog ends.
-  static constexpr int kCancelled = 0;
-  static constexpr int kConfirmed = 1;
-
   // Edits `options`, whose startFrame and endFrame are the bounds of the range; shows refusals
   // through `messages`, centres the dialog over `parent`, and takes the about box from `module`.
   // References must outlive this object.
   ImportHTROptionsDialog(ImportHTROptions& options, MessageSink& messages, HWND parent,
-                         HINSTANCE module)
-      : options_(options), messages_(messages), parent_(parent), module_(module) {}
-
-  // Shows the dialog and waits for the user. Returns whether the options were confirmed; they are
-  // stored then. A dialog that cannot be created counts as cancelled.
-  bool Show();
-
-  void Initialize(platform::Dialog& dialog) override;
-  void Command(platform::Dialog& dialog, int control) override;
+                         HINSTANCE module);
 
  private:
+  void Fill(platform::Dialog& dialog) override;
+  void Answer(platform::Dialog& dialog, int control) override;
+
   FrameRange Range() const {
     return {options_.startFrame, options_.endFrame, options_.frameOffset};
   }
   ImportScales Scales() const { return {options_.size, options_.scaleFactor}; }
-  void Answer(platform::Dialog& dialog, int control);
   void FillSwitches(platform::Dialog& dialog) const;
   void FillNumbers(platform::Dialog& dialog) const;
   void Confirm(platform::Dialog& dialog);
@@ -49,8 +40,6 @@ class ImportHTROptionsDialog final : public platform::DialogHandler {
 
   ImportHTROptions& options_;
   MessageSink& messages_;
-  HWND parent_;
-  HINSTANCE module_;
 };
 
 }  // namespace orvane

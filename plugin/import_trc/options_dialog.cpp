@@ -2,7 +2,6 @@
 
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
-#include "sdk/skelderutil/window.h"
 
 namespace orvane {
 namespace {
@@ -19,28 +18,15 @@ void EnableCreation(platform::Dialog& dialog, bool enabled) {
 
 }  // namespace
 
-bool ImportTRCOptionsDialog::Show() {
-  return platform::RunModalDialog(module_, IDD_IMPORT_TRC, parent_, *this) == kConfirmed;
-}
+ImportTRCOptionsDialog::ImportTRCOptionsDialog(ImportTRCOptions& options, MessageSink& messages,
+                                               HWND parent, HINSTANCE module)
+    : OptionsDialog(IDD_IMPORT_TRC, parent, module), options_(options), messages_(messages) {}
 
-void ImportTRCOptionsDialog::Initialize(platform::Dialog& dialog) {
-  try {
-    CenterWindow(dialog.Window(), parent_);
-    options_.Load();
-    FillSwitches(dialog);
-    FillFrameRange(dialog, Range());
-    FillScales(dialog, Scales());
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
-}
-
-void ImportTRCOptionsDialog::Command(platform::Dialog& dialog, int control) {
-  try {
-    Answer(dialog, control);
-  } catch (...) {
-    dialog.End(kCancelled);
-  }
+void ImportTRCOptionsDialog::Fill(platform::Dialog& dialog) {
+  options_.Load();
+  FillSwitches(dialog);
+  FillFrameRange(dialog, Range());
+  FillScales(dialog, Scales());
 }
 
 void ImportTRCOptionsDialog::FillSwitches(platform::Dialog& dialog) const {

@@ -1,17 +1,13 @@
-#include <gtest/gtest.h>
+#pragma once
 
 #include <new>
 
 #include "host/desktop/portable/installed_registry.h"
 #include "host/desktop/portable/memory_registry.h"
-#include "platform/module.h"
-#include "plugin/utilities/convert_bvk.h"
 
-// A registry that has no memory for what is written.
+namespace test {
 
-namespace orvane {
-namespace {
-
+// A registry that has no memory for what is written. In use until it is destroyed.
 class FullRegistry final : public platform::Registry {
  public:
   platform::RegistryKey* CreateKey(platform::RegistryKey* parent, const char* path) override {
@@ -36,17 +32,4 @@ class FullRegistry final : public platform::Registry {
   host::InstalledRegistry installed_{*this};
 };
 
-TEST(ConvertBVKTest, LosesSettingsThatThereIsNoMemoryForAndNothingElse) {
-  FullRegistry registry;
-  MessageSink messages;
-  StringTable strings;
-  {
-    ConvertBVK converter(messages, strings, platform::ModuleHandle());
-    converter.SaveSettings();
-    EXPECT_EQ(registry.refusals, 1);
-  }
-  EXPECT_EQ(registry.refusals, 2) << "the end of the converter saves them, too";
-}
-
-}  // namespace
-}  // namespace orvane
+}  // namespace test
