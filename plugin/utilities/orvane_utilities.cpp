@@ -168,6 +168,8 @@ void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
   }
 }
 
+// The panel may be closed and this object deleted before the command ends; what the command works
+// with stays until then.
 void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
   if (interface_ == nullptr) return;  // the page is being deleted
   const std::shared_ptr<Work> work = work_;
@@ -235,54 +237,53 @@ void OrvaneUtilities::Answer(platform::Dialog& dialog, int control) {
 
 // While the user chooses, the panel may be closed and this object deleted. Then nothing was chosen.
 void OrvaneUtilities::BrowseMapping(platform::Dialog& dialog) {
-  const std::shared_ptr<Work> work = work_;
-  const OpenPanel panel(*work);
+  Work& work = *work_;
+  const OpenPanel panel(work);
   platform::FileDialog file_dialog;
   file_dialog.owner = interface_->GetSkelderHWnd();
   file_dialog.file_must_exist = true;
   if (!panel.IsOpen()) return;
-  const std::optional<std::string> path =
-      ChooseMappingFile(file_dialog, work->strings, work->module);
+  const std::optional<std::string> path = ChooseMappingFile(file_dialog, work.strings, work.module);
   if (!path || !panel.IsOpen()) return;
-  work->converter.mnmPath = *path;
+  work.converter.mnmPath = *path;
   dialog.SetText(IDC_MAPPING_FILE, Shown(*path));
 }
 
 // As BrowseMapping.
 void OrvaneUtilities::BrowseOutput(platform::Dialog& dialog) {
-  const std::shared_ptr<Work> work = work_;
-  const OpenPanel panel(*work);
+  Work& work = *work_;
+  const OpenPanel panel(work);
   const HWND owner = interface_->GetSkelderHWnd();
   if (!panel.IsOpen()) return;
   const std::optional<std::string> folder = ChooseOutputFolder(owner);
   if (!folder || !panel.IsOpen()) return;
-  work->converter.outputPath = *folder;
+  work.converter.outputPath = *folder;
   dialog.SetText(IDC_OUTPUT_FOLDER, Shown(*folder));
 }
 
 // While the creator waits, the panel may be closed and this object deleted. Then nothing was
 // created, and nothing of this object or of the page is touched.
 void OrvaneUtilities::CreateMapping(platform::Dialog& dialog) {
-  const std::shared_ptr<Work> work = work_;
-  if (work->command != nullptr) return;
-  MappingCreator creator(work->converter, {work->messages, work->strings, pick_, work->module});
-  const WorkInProgress in_progress(*work, creator);
+  Work& work = *work_;
+  if (work.command != nullptr) return;
+  MappingCreator creator(work.converter, {work.messages, work.strings, pick_, work.module});
+  const WorkInProgress in_progress(work, creator);
   if (creator.CreateMNM(interface_)) {
-    dialog.SetText(IDC_MAPPING_FILE, Shown(work->converter.mnmPath));
+    dialog.SetText(IDC_MAPPING_FILE, Shown(work.converter.mnmPath));
   }
 }
 
 // As CreateMapping.
 void OrvaneUtilities::Convert(platform::Dialog& dialog) {
-  const std::shared_ptr<Work> work = work_;
-  if (work->command != nullptr) return;
-  ConvertBVK& converter = work->converter;
+  Work& work = *work_;
+  if (work.command != nullptr) return;
+  ConvertBVK& converter = work.converter;
   if (converter.offset) {
     HeldEdit(dialog, IDC_OFFSET_X).Read(converter.offsetX);
     HeldEdit(dialog, IDC_OFFSET_Y).Read(converter.offsetY);
     HeldEdit(dialog, IDC_OFFSET_Z).Read(converter.offsetZ);
   }
-  const WorkInProgress in_progress(*work, converter);
+  const WorkInProgress in_progress(work, converter);
   converter.Convert(interface_);
 }
 

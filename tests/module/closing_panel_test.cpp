@@ -50,6 +50,7 @@ class ClosingPanelTest : public UtilityTest, public testing::WithParamInterface<
     calls_ = 0;
     last_call_ = last_call;
     Page().Click(button);
+    calls_at_end_ = calls_;
     const bool has_ended = is_over_;
     if (!has_ended) EndPanel();
     return has_ended;
@@ -74,6 +75,7 @@ class ClosingPanelTest : public UtilityTest, public testing::WithParamInterface<
   HookedInterface host_{application_.plugin_interface()};
   std::unique_ptr<UtilityObj> utility_;
   int calls_ = 0;
+  int calls_at_end_ = 0;
   int last_call_ = 0;
   bool is_over_ = false;
   std::vector<std::string> late_calls_;
@@ -207,17 +209,22 @@ class ClosingCreatorTest : public ClosingPanelTest {
     }
   }
 
-  // Closes the panel in the middle of every call, and returns how many calls there are.
-  int CloseDuringEveryCall() {
-    int call = 0;
-    while (Press(kCreateMapping, ++call)) {
+  // Closes the panel in the middle of each call, of those in between only of some because they are
+  // alike. Returns how many calls there are.
+  int CloseDuringCalls() {
+    waits_ = 0;
+    EXPECT_FALSE(Press(kCreateMapping, 0));
+    const int last = calls_at_end_;
+    for (int call = 1; call <= last; ++call) {
+      if (call > 40 && call < last - 10 && call % 17 != 0) continue;
       SCOPED_TRACE(call);
-      ExpectNothingLeft();
-      ExpectSilence();
       std::filesystem::remove(folder_.File("made.mnm"));
       waits_ = 0;
+      EXPECT_TRUE(Press(kCreateMapping, call));
+      ExpectNothingLeft();
+      ExpectSilence();
     }
-    return call - 1;
+    return last;
   }
 
   void ExpectNothingLeft() {
@@ -231,16 +238,13 @@ class ClosingCreatorTest : public ClosingPanelTest {
   std::map<int, int> buttons_;  // by the number of the wait, from 1
 };
 
-TEST_P(ClosingCreatorTest, EndsDuringAnyCall) {
-  EXPECT_GT(CloseDuringEveryCall(), 45);
-  EXPECT_TRUE(std::filesystem::exists(folder_.File("made.mnm")));
-}
+TEST_P(ClosingCreatorTest, EndsDuringAnyCall) { EXPECT_GT(CloseDuringCalls(), 45); }
 
 TEST_P(ClosingCreatorTest, EndsDuringAnyCallOfGoingBackAndAborting) {
   constexpr int kBack = 1152;
   constexpr int kAbort = 1154;
   buttons_ = {{3, kBack}, {6, kAbort}};
-  EXPECT_GT(CloseDuringEveryCall(), 6);
+  EXPECT_GT(CloseDuringCalls(), 6);
   EXPECT_FALSE(std::filesystem::exists(folder_.File("made.mnm")));
 }
 
