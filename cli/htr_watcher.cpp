@@ -60,7 +60,8 @@ constexpr std::array<PlainOddity, 18> kPlainOddities = {{
      "a name and its parent, without blanks",
      "It is ignored: the first word of the line is the name, the last one its parent."},
     {HtrOddity::kHierarchyLinkedAgain, kBaseRepeated, "a second [BasePosition]", "one",
-     "Every segment is listed once more among its parent's children."},
+     "Every segment is listed once more among its parent's children; a file that does so over and "
+     "over is refused."},
     {HtrOddity::kHierarchyLeftUnlinked, kBaseLinksStopped, "[BasePosition] over and over", "one",
      "The hierarchy is linked no more."},
 }};
