@@ -24,7 +24,8 @@ void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint
   const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
   if (!flaw) return;
   Complaint cause = ComplainAboutFlaw(file, *flaw);
-  if (complaints.front().text == cause.text) return;
+  const Complaint& first = complaints.front();
+  if (first.subject == cause.subject && first.text == cause.text) return;
   complaints.insert(complaints.begin(), std::move(cause));
 }
 

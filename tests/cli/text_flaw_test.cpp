@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <ostream>
 
+#include "cli/input.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/support/trc_text.h"
 
@@ -181,6 +182,24 @@ TEST_P(FlawedTextTest, OfAMappingIsNamedBeforeWhatFollowsFromIt) {
 
 INSTANTIATE_TEST_SUITE_P(All, FlawedTextTest, testing::ValuesIn(kFlaws),
                          [](const auto& each) { return each.param.name; });
+
+class CauseTest : public test::OrvaneTest {};
+
+TEST_F(CauseTest, IsPutBeforeComplaintsOnce) {
+  const std::string file = folder_.File("walk.trc");
+  Write("walk.trc", "");
+  std::vector<cli::Complaint> complaints = {{"map.mnm", "The file is empty", ""}};
+  for (int time = 0; time < 2; ++time) {
+    PutCauseFirst(file, cli::FileKind::kTrc, complaints);
+    ASSERT_EQ(complaints.size(), 2U);
+    EXPECT_EQ(complaints[0].subject, file);
+    EXPECT_EQ(complaints[0].text, "The file is empty");
+    EXPECT_EQ(complaints[1].subject, "map.mnm") << "which the same is said of";
+  }
+  complaints.clear();
+  PutCauseFirst(file, cli::FileKind::kTrc, complaints);
+  EXPECT_TRUE(complaints.empty()) << "there is nothing to say";
+}
 
 class LongTextTest : public test::OrvaneTest {};
 
