@@ -43,7 +43,7 @@ CheckedFile CheckHtrFile(const std::string& file) {
   orvane::HtrDocument document;
   htr::Parts parts;
   parts.end = EndOf(bytes);
-  htr::Watcher watcher(document, parts, checked.findings);
+  htr::Watcher watcher(parts, checked.findings);
   const std::string message = orvane::ReadHtrBytes(document, bytes, true, &watcher);
   watcher.LeaveSection();
   if (!message.empty() && !watcher.HasRefused()) {

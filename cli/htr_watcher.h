@@ -6,7 +6,6 @@
 
 #include "cli/findings.h"
 #include "cli/htr_parts.h"
-#include "plugin/htr/document.h"
 #include "plugin/htr/read_observer.h"
 
 // Watches the reader of HTR files: turns its oddities into findings, and keeps where the parts of
@@ -16,9 +15,8 @@ namespace cli::htr {
 
 class Watcher : public orvane::HtrReadObserver {
  public:
-  // `document` is what is read into. All three must outlive the watcher.
-  Watcher(const orvane::HtrDocument& document, Parts& parts, FindingList& findings)
-      : document_(document), parts_(parts), findings_(findings) {}
+  // Both must outlive the watcher.
+  Watcher(Parts& parts, FindingList& findings) : parts_(parts), findings_(findings) {}
 
   void OnOddity(orvane::HtrOddity oddity, const HtrCell& cell, std::string_view field) override;
   void OnSection(orvane::HtrSection section, const HtrCell& name) override;
@@ -57,7 +55,6 @@ class Watcher : public orvane::HtrReadObserver {
   void CheckName(const HtrCell& name);
   std::string KnownSegments(std::string_view name) const;
 
-  const orvane::HtrDocument& document_;
   Parts& parts_;
   FindingList& findings_;
 
