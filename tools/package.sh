@@ -24,7 +24,7 @@ preset_folder() {
 # The tests of the packages that lie in these folders; run it with Wine at hand.
 try_packages() {
   local IFS=:
-  ORVANE_SOURCE_DIR=$PWD ORVANE_PACKAGES="$*" ORVANE_WINDOWS_PROGRAMS=$PWD/build-windows/bin \
+  ORVANE_SOURCE_DIR=$PWD ORVANE_PACKAGES="$*" \
     ORVANE_WINE=$(wine_tool wine64) PYTHONPATH=$PWD/tests/run_paths PYTHONDONTWRITEBYTECODE=1 \
     python3 -m unittest discover --quiet --start-directory tests/packages --pattern '*_test.py'
 }

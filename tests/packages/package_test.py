@@ -1,12 +1,12 @@
 """The packages hold what they should, and what is in them works where it was unpacked.
 
-ORVANE_PACKAGES names the folders that they lie in, separated by colons; ORVANE_WINDOWS_PROGRAMS the
-folder of the program for Windows, which the module is tried with, and ORVANE_WINE what runs it.
+ORVANE_PACKAGES names the folders that they lie in, separated by colons, and ORVANE_WINE what runs
+programs for Windows.
 """
 
 import os
 import pathlib
-import shutil
+import re
 import subprocess
 import tarfile
 import tempfile
@@ -49,6 +49,10 @@ class PackageTest(unittest.TestCase):
             if path.is_file():
                 self.assertNotIn(os.fsencode(SOURCES), path.read_bytes(), path)
 
+    def check_notices(self, text, others=()):
+        for words in ("Niels Lohmann", "University of Cincinnati", *others):
+            self.assertIn(words, text)
+
     def check_round_trip(self, orvane, examples):
         """Files come in, go out and are converted, by what lies in the package alone."""
         imported = self.run_in_folder(*orvane, "import", f"{examples}/walk.htr", "-o", "walk.glb")
@@ -71,6 +75,7 @@ class LinuxTest(PackageTest):
         for name in ("copyright", "linux.md", "CHANGELOG.md", "docs/command-line.md",
                      "docs/formats/htr.md"):
             self.assertTrue((documents / name).is_file(), name)
+        self.check_notices((documents / "THIRD-PARTY-NOTICES").read_text())
         self.check_no_foreign_folder(root)
         self.assertEqual({path.name: run_paths.entries(path) for path in run_paths.binaries(root)},
                          {"orvane": ["$ORIGIN"], "OrvaneFileIO.so": ["$ORIGIN"], "libskelder.so": []})
@@ -84,6 +89,21 @@ class LinuxTest(PackageTest):
             archive.extractall(self.folder)
         (root,) = self.folder.iterdir()
         self.check_linux_tree(root)
+
+    def test_the_page_of_the_archive_tells_what_it_needs(self):
+        with tarfile.open(package("*.tar.gz")) as archive:
+            archive.extractall(self.folder)
+        (page,) = self.folder.rglob("linux.md")
+        libraries, versions = set(), {}
+        for path in run_paths.binaries(self.folder):
+            told = self.run_in_folder("objdump", "--private-headers", str(path))
+            libraries.update(re.findall(r"NEEDED +(\S+)", told))
+            for kind, number in re.findall(r"\b(GLIBC|GLIBCXX|CXXABI|GCC)_([0-9.]+)\b", told):
+                versions[kind] = max(versions.get(kind, []), [int(part) for part in number.split(".")])
+        needed = (libraries - {"libskelder.so"}) | {
+            f"{kind}_{'.'.join(map(str, number))}" for kind, number in versions.items()}
+        stated = re.findall(r"`(lib\S+\.so\.\d+|[A-Z]+_[0-9.]+)`", page.read_text())
+        self.assertEqual(sorted(stated), sorted(needed))
 
     def test_the_debian_package_works_from_its_tree(self):
         self.run_in_folder("dpkg-deb", "--extract", str(package("*.deb")), "root")
@@ -111,21 +131,38 @@ class WindowsTest(PackageTest):
         (root,) = self.folder.iterdir()
         return root
 
-    def test_it_holds_the_module_its_licence_and_a_page(self):
+    def test_it_holds_the_program_the_module_pages_and_examples(self):
         root = self.unpack()
         self.assertEqual(sorted(path.name for path in root.iterdir()),
-                         ["LICENSE.txt", "OrvaneFileIO.dll", "README.txt"])
-        page = (root / "README.txt").read_bytes()
-        self.assertIn(b"folder of Skelder's plug-ins", page)
-        self.assertEqual(page.count(b"\n"), page.count(b"\r\n"))
+                         ["CHANGELOG.md", "LICENSE.txt", "OrvaneFileIO.dll", "README.txt",
+                          "THIRD-PARTY-NOTICES.txt", "docs", "examples", "orvane.exe", "skelder.dll"])
+        self.assertEqual(sorted(path.name for path in (root / "examples").iterdir()),
+                         ["walk.htr", "walk.mnm", "walk.trc"])
+        self.check_no_foreign_folder(root)
 
-    def test_the_module_works_in_a_host(self):
+    def test_its_page_tells_what_everything_is(self):
         root = self.unpack()
-        programs = pathlib.Path(os.environ["ORVANE_WINDOWS_PROGRAMS"])
-        for name in ("orvane.exe", "skelder.dll"):
-            shutil.copy(programs / name, root / name)
-        self.check_round_trip([os.environ["ORVANE_WINE"], str(root / "orvane.exe")],
-                              SOURCES / "examples")
+        page = (root / "README.txt").read_text()
+        self.assertIn("folder of Skelder's plug-ins", page)
+        for path in root.iterdir():
+            self.assertRegex(page, rf"(?m)^  {re.escape(path.name)}\\?  +\w", path.name)
+
+    def test_its_texts_have_the_line_ends_of_windows(self):
+        for path in self.unpack().glob("*.txt"):
+            text = path.read_bytes()
+            self.assertGreater(text.count(b"\n"), 10, path)
+            self.assertEqual(text.count(b"\n"), text.count(b"\r\n"), path)
+
+    def test_it_brings_the_notices_of_what_is_linked_in(self):
+        notices = (self.unpack() / "THIRD-PARTY-NOTICES.txt").read_text()
+        self.check_notices(notices, ("GCC RUNTIME LIBRARY EXCEPTION", "winpthreads"))
+
+    def test_the_program_in_it_works_with_nothing_else(self):
+        root = self.unpack()
+        orvane = [os.environ["ORVANE_WINE"], str(root / "orvane.exe")]
+        self.assertEqual(self.run_in_folder(*orvane, "--version").split()[-1],
+                         root.name.split("-")[1])
+        self.check_round_trip(orvane, root / "examples")
 
 
 if __name__ == "__main__":

@@ -1,0 +1,25 @@
+# Installs the file `notices`: whose code is linked into what is installed, with the notices that
+# Debian's packages of it bring. `for_windows` tells which system that is for.
+
+# add_notice(what package): appends the notice of `what`, which Debian's `package` has.
+function(add_notice what package)
+  file(READ "/usr/share/doc/${package}/copyright" notice)
+  string(REPEAT "=" 80 line)
+  set(text "${text}\n${line}\n${what}\n${line}\n\n${notice}" PARENT_SCOPE)
+endfunction()
+
+set(text "The program and the libraries of OrvaneFileIO hold parts of the works below. The notices are those of
+Debian's packages of them, which also tell of parts that are not used here. The licences that they
+look for below /usr/share/common-licenses are at https://www.gnu.org/licenses/ too.
+")
+add_notice("CLI11" libcli11-dev)
+add_notice("JSON for Modern C++" nlohmann-json3-dev)
+if(for_windows)
+  add_notice("The libraries of the GNU compilers: libgcc, libstdc++" gcc-mingw-w64-base)
+  add_notice("MinGW-w64: its run-time library and winpthreads" mingw-w64-common)
+  string(REPLACE "\n" "\r\n" text "${text}")
+endif()
+
+set(path "$ENV{DESTDIR}${CMAKE_INSTALL_PREFIX}/${notices}")
+message(STATUS "Installing: ${path}")
+file(WRITE "${path}" "${text}")
