@@ -13,19 +13,22 @@ namespace {
 // `seconds` since the beginning of 1970 as a date and a time in UTC, if the calendar reaches there.
 // By the standard library's calendar, because the systems' functions differ in how far they reach.
 std::optional<std::tm> UtcMoment(std::int64_t seconds) {
-  using namespace std::chrono;
-  constexpr sys_seconds kFirst = sys_days(year::min() / January / 1);
-  constexpr sys_seconds kEnd = sys_days(year::max() / December / 31) + days(1);
+  using std::chrono::days;
+  using std::chrono::sys_days;
+  using std::chrono::sys_seconds;
+  using std::chrono::year;
+  constexpr sys_seconds kFirst = sys_days(year::min() / 1 / 1);
+  constexpr sys_seconds kEnd = sys_days(year::max() / 12 / 31) + days(1);
   const sys_seconds time{std::chrono::seconds(seconds)};
   if (time < kFirst || time >= kEnd) return {};
-  const sys_days day = floor<days>(time);
-  const year_month_day date(day);
-  const hh_mm_ss clock(time - day);
+  const sys_days day = std::chrono::floor<days>(time);
+  const std::chrono::year_month_day date(day);
+  const std::chrono::hh_mm_ss clock(time - day);
   std::tm moment{};
   moment.tm_year = static_cast<int>(date.year()) - 1900;
   moment.tm_mon = static_cast<int>(static_cast<unsigned>(date.month())) - 1;
   moment.tm_mday = static_cast<int>(static_cast<unsigned>(date.day()));
-  moment.tm_wday = static_cast<int>(weekday(day).c_encoding());
+  moment.tm_wday = static_cast<int>(std::chrono::weekday(day).c_encoding());
   moment.tm_hour = static_cast<int>(clock.hours().count());
   moment.tm_min = static_cast<int>(clock.minutes().count());
   moment.tm_sec = static_cast<int>(clock.seconds().count());
