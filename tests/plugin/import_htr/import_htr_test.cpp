@@ -84,21 +84,21 @@ TEST_F(ImportHTRTest, CreatesASkeletonUnderADummyNamedAfterTheFile) {
   options_.scaleFactor = 3;
   EXPECT_EQ(Import(TwoBones()), 1);
   EXPECT_EQ(ChildNames(scene().Root()), "walk");
-  EXPECT_EQ(ChildNames(*Find("walk")), "Hips");
-  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg");
-  const auto& dummy = dynamic_cast<const host::BoxObject&>(*Find("walk")->ShownObject());
+  EXPECT_EQ(ChildNames(Node("walk")), "Hips");
+  EXPECT_EQ(ChildNames(Node("Hips")), "Leg");
+  const auto& dummy = dynamic_cast<const host::BoxObject&>(*Node("walk").ShownObject());
   EXPECT_EQ(dummy.Box(), Box3(Point3(-6, -6, -6), Point3(6, 6, 6)));
-  EXPECT_EQ(Find("walk")->WireColor(), 0x7FB2CCU);
+  EXPECT_EQ(Node("walk").WireColor(), 0x7FB2CCU);
   EXPECT_EQ(desk_.Messages(), "");
 }
 
 TEST_F(ImportHTRTest, KeysTheFramesOfTheFile) {
   EXPECT_EQ(Import(TwoBones()), 1);
-  const host::PositionController& hips = Find("Hips")->Transform()->Position();
+  const host::PositionController& hips = Node("Hips").Transform()->Position();
   EXPECT_EQ(KeyTicks(hips), (Ticks{160, 320, 480}));
   EXPECT_EQ(hips.KeyValue(0), Point3(11, -3, 2));
   EXPECT_EQ(hips.KeyValue(2), Point3(31, -3, 2));
-  EXPECT_EQ(Find("Leg")->Transform()->Position().KeyValue(2), Point3(6, 0, 0));
+  EXPECT_EQ(Node("Leg").Transform()->Position().KeyValue(2), Point3(6, 0, 0));
 }
 
 struct FileName {
@@ -213,7 +213,7 @@ TEST_P(ScaleFactorTest, AnotherFactorThan1IsWarnedOfAndIgnored) {
   EXPECT_EQ(desk_.Messages(),
             "ImportHTR Warning: ScaleFactor is not 1.0, this plugin does not support the "
             "ScaleFactor header variable.\n");
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(11, -3, 2));
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyValue(0), Point3(11, -3, 2));
   EXPECT_TRUE(ModesResumed());
 }
 
@@ -240,7 +240,7 @@ TEST_P(UnitsTest, LengthsAreInSystemUnits) {
   file.units = GetParam().file_unit;
   file.segments = {{"Hips", "GLOBAL", "1 0 0 0 0 0 1", {"1 0 0 0 0 0", "0 0 0 0 0 0"}}};
   EXPECT_EQ(Import(file), 1);
-  const host::Node& hips = *Find("Hips");
+  const host::Node& hips = Node("Hips");
   EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseTransX"), GetParam().one);
   EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseLength"), GetParam().one);
   EXPECT_FLOAT_EQ(hips.Transform()->Position().KeyValue(0).x, 2 * GetParam().one);
@@ -317,13 +317,13 @@ TEST_F(ImportHTRTest, AQuietImportUsesTheLastOptionsButTheFilesFrames) {
               dialog.Click(kOk);
             }),
             1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{320}));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), (Ticks{320}));
   // The data are the file's from its first frame on, whatever the range.
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(22, -6, 4));
-  Find("Hips")->SetName("Old");
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyValue(0), Point3(22, -6, 4));
+  Node("Hips").SetName("Old");
   EXPECT_EQ(Import(TwoBones()), 1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{160, 320, 480}));
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyValue(0), Point3(22, -6, 4));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyValue(0), Point3(22, -6, 4));
 }
 
 TEST_F(ImportHTRTest, TheFrameRateIsTakenOverWhenAskedFor) {
@@ -341,7 +341,7 @@ TEST_F(ImportHTRTest, KeysStandAtTheNewFrameRate) {
   HtrText file = TwoBones();
   file.frame_rate = 120;
   EXPECT_EQ(Import(file), 1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{40, 80, 120}));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), (Ticks{40, 80, 120}));
   EXPECT_EQ(scene().Animation().Range(), Interval(40, 120));
 }
 
@@ -379,7 +379,7 @@ TEST_P(AnimationRangeTest, FollowsTheFirstFrameCountAndOffset) {
       },
       file);
   EXPECT_EQ(result, 1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), its.keys);
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), its.keys);
   EXPECT_EQ(scene().Animation().Range(), its.animation);
 }
 
@@ -402,14 +402,14 @@ TEST_F(ImportHTRTest, WithoutAnimationOneFrameCountsAndTheRangeStays) {
   options_.keyBasePosition = true;
   scene().Animation().SetTime(960);
   EXPECT_EQ(Import(TwoBones()), 1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{960}));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), (Ticks{960}));
   EXPECT_EQ(scene().Animation().Range(), Interval(0, 16000));
 }
 
 TEST_F(ImportHTRTest, WithNothingToKeyOnlyTheSkeletonIsMade) {
   options_.animate = false;
   EXPECT_EQ(Import(TwoBones()), 1);
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyCount(), 0U);
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 10, 100}));
   EXPECT_TRUE(ModesResumed());
 }
@@ -418,7 +418,7 @@ TEST_F(ImportHTRTest, AFileWithoutFramesMakesASkeletonWithoutKeys) {
   HtrText file = TwoBones();
   for (HtrText::Segment& segment : file.segments) segment.frames.clear();
   EXPECT_EQ(Import(file), 1);
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyCount(), 0U);
   EXPECT_EQ(scene().Animation().Range(), Interval(0, 16000));
 }
 
@@ -429,8 +429,8 @@ TEST_F(ImportHTRTest, FrameNumbersAtTheEndsOfTimeAreNoDanger) {
     file.segments.pop_back();
     file.segments[0].frames.resize(2);
     EXPECT_EQ(Import(file), 1) << first;
-    EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
-    Find("Hips")->SetName("Old");
+    EXPECT_EQ(Node("Hips").Transform()->Position().KeyCount(), 0U);
+    Node("Hips").SetName("Old");
   }
 }
 
@@ -457,7 +457,7 @@ TEST_F(ImportHTRTest, CancellingAfterCreationKeepsTheBonesAndKeysNothing) {
   application_.cancellation().AtQuery(1);
   EXPECT_EQ(Import(TwoBones()), 0);
   EXPECT_EQ(ChildNames(scene().Root()), "Hips");
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyCount(), 0U);
   EXPECT_EQ(desk_.Messages(), "");
   EXPECT_TRUE(ModesSuspended());
   EXPECT_EQ(application_.PendingMessageCalls(), 1U);
@@ -519,9 +519,9 @@ TEST_F(ImportHTRApplyTest, TheGroupOfAnEarlierImportCanBeSelected) {
   EXPECT_EQ(Import(TwoBones()), 1);
   options_.apply = true;
   options_.frameOffset = 100;
-  scene().Select(*Find("walk"));
+  scene().Select(Node("walk"));
   EXPECT_EQ(Import(TwoBones()), 1);
-  EXPECT_EQ(KeyTicks(Find("Leg")->Transform()->Position()),
+  EXPECT_EQ(KeyTicks(Node("Leg").Transform()->Position()),
             (Ticks{160, 320, 480, 16160, 16320, 16480}));
 }
 
@@ -592,7 +592,7 @@ TEST_F(ImportHTRTest, AHierarchyListedTwiceIsCreatedTwice) {
   text.replace(text.find(announced), announced.size(), "NumSegments 4");
   text.replace(text.find("[Hips]"), 0, twice.BasePosition());
   EXPECT_EQ(Import(folder_.Write("twice.htr", text)), 1);
-  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg Leg");
+  EXPECT_EQ(ChildNames(Node("Hips")), "Leg Leg");
 }
 
 // A chain of 60 segments, each listed twice. Its frames lie beyond the end of time, so that none of
@@ -633,8 +633,8 @@ TEST_P(OddNumberTest, IsKeyedAsItIsRead) {
   file.segments[0].base = odd + " " + odd + " " + odd + " " + odd + " 0 0 " + odd;
   file.segments[1].frames[1] = odd + " 0 0 0 " + odd + " 0";
   EXPECT_EQ(Import(file), 1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Rotation()), (Ticks{160, 320, 480}));
-  EXPECT_EQ(KeyTicks(Find("Leg")->Transform()->Position()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Rotation()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(KeyTicks(Node("Leg").Transform()->Position()), (Ticks{160, 320, 480}));
 }
 
 INSTANTIATE_TEST_SUITE_P(Numbers, OddNumberTest,
@@ -657,14 +657,14 @@ TEST_F(ImportHTRTest, OfFarTooManyFramesARangeCanBeImported) {
                 },
                 EndlessFrames()),
             1);
-  EXPECT_EQ(KeyTicks(Find("Hips")->Transform()->Position()), (Ticks{160, 320, 480}));
+  EXPECT_EQ(KeyTicks(Node("Hips").Transform()->Position()), (Ticks{160, 320, 480}));
 }
 
 TEST_F(ImportHTRTest, SomeMoreFramesThanTheFileHoldsAreKeyedAsZero) {
   HtrText file = TwoBones();
   file.frame_count = 5;
   EXPECT_EQ(Import(file), 1);
-  const host::PositionController& hips = Find("Hips")->Transform()->Position();
+  const host::PositionController& hips = Node("Hips").Transform()->Position();
   EXPECT_EQ(KeyTicks(hips), (Ticks{160, 320, 480, 640, 800}));
   EXPECT_EQ(hips.KeyValue(4), Point3(0, 0, 0));
   EXPECT_EQ(scene().Animation().Range(), Interval(160, 800));

@@ -36,8 +36,8 @@ TEST_F(SkeletonCreatorTest, MakesOneBonePerSegmentInTheOrderOfTheFile) {
   ASSERT_EQ(root, Find("Hips"));
   EXPECT_EQ(scene().NodeCount(), 5U);
   EXPECT_EQ(ChildNames(scene().Root()), "Hips");
-  EXPECT_EQ(ChildNames(*Find("Hips")), "Spine LeftLeg RightLeg");
-  EXPECT_EQ(ChildNames(*Find("Spine")), "Head");
+  EXPECT_EQ(ChildNames(Node("Hips")), "Spine LeftLeg RightLeg");
+  EXPECT_EQ(ChildNames(Node("Spine")), "Head");
 }
 
 TEST_F(SkeletonCreatorTest, BasePositionsChangeTheirAxesAndPropertiesDoNot) {
@@ -49,14 +49,14 @@ TEST_F(SkeletonCreatorTest, BasePositionsChangeTheirAxesAndPropertiesDoNot) {
     segment->SetBoneLength(12.5);
   }
   Create(hips);
-  EXPECT_EQ(Position(*Find("Hips")), Point3(1, -3, 2));
-  EXPECT_EQ(Position(*Find("Leg")), Point3(2, 3, 1));
+  EXPECT_EQ(Position(Node("Hips")), Point3(1, -3, 2));
+  EXPECT_EQ(Position(Node("Leg")), Point3(2, 3, 1));
   const host::UserProperties expected = {{"HTRBaseTransX", 1.0F}, {"HTRBaseTransY", 2.0F},
                                          {"HTRBaseTransZ", 3.0F}, {"HTRBaseRotX", 0.25F},
                                          {"HTRBaseRotY", -0.5F},  {"HTRBaseRotZ", 0.75F},
                                          {"HTRBaseLength", 12.5F}};
-  EXPECT_EQ(Find("Hips")->Properties(), expected);
-  EXPECT_EQ(Find("Leg")->Properties(), expected);
+  EXPECT_EQ(Node("Hips").Properties(), expected);
+  EXPECT_EQ(Node("Leg").Properties(), expected);
 }
 
 TEST_F(SkeletonCreatorTest, PositionsDoNotFollowTheGlobalScale) {
@@ -64,7 +64,7 @@ TEST_F(SkeletonCreatorTest, PositionsDoNotFollowTheGlobalScale) {
   HtrSegment& hips = Add("Hips");
   hips.SetBaseTranslation(1, 2, 3);
   Create(hips);
-  EXPECT_EQ(Position(*Find("Hips")), Point3(1, -3, 2));
+  EXPECT_EQ(Position(Node("Hips")), Point3(1, -3, 2));
 }
 
 TEST_F(SkeletonCreatorTest, ARootWithoutRotationStandsUprightAndABoneIsStraight) {
@@ -72,8 +72,8 @@ TEST_F(SkeletonCreatorTest, ARootWithoutRotationStandsUprightAndABoneIsStraight)
   Add("Leg", &hips);
   Create(hips);
   // Ry(-90) Rx(180), whose columns are the host's rows.
-  ExpectRows(Find("Hips")->LocalTransform(0), {0, 0, 1}, {0, -1, 0}, {1, 0, 0});
-  ExpectRows(Find("Leg")->LocalTransform(0), {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
+  ExpectRows(Node("Hips").LocalTransform(0), {0, 0, 1}, {0, -1, 0}, {1, 0, 0});
+  ExpectRows(Node("Leg").LocalTransform(0), {1, 0, 0}, {0, 1, 0}, {0, 0, 1});
 }
 
 TEST_F(SkeletonCreatorTest, BaseRotationsChangeTheirAxes) {
@@ -82,9 +82,9 @@ TEST_F(SkeletonCreatorTest, BaseRotationsChangeTheirAxes) {
   HtrSegment& leg = Add("Leg", &hips);
   leg.SetBaseRotation(Radians(90), 0, 0);
   Create(hips);
-  ExpectRows(Find("Hips")->LocalTransform(0), {-1, 0, 0}, {0, -1, 0}, {0, 0, 1});
+  ExpectRows(Node("Hips").LocalTransform(0), {-1, 0, 0}, {0, -1, 0}, {0, 0, 1});
   // The file's X is the bone's Z.
-  ExpectRows(Find("Leg")->LocalTransform(0), {0, 1, 0}, {-1, 0, 0}, {0, 0, 1});
+  ExpectRows(Node("Leg").LocalTransform(0), {0, 1, 0}, {-1, 0, 0}, {0, 0, 1});
 }
 
 TEST_F(SkeletonCreatorTest, TheHostGetsTheQuaternionWithItsScalarNegated) {
@@ -92,7 +92,7 @@ TEST_F(SkeletonCreatorTest, TheHostGetsTheQuaternionWithItsScalarNegated) {
   HtrSegment& leg = Add("Leg", &hips);
   leg.SetBaseRotation(Radians(90), 0, 0);
   Create(hips);
-  const Quat rotation = Find("Leg")->Transform()->Rotation().Constant();
+  const Quat rotation = Node("Leg").Transform()->Rotation().Constant();
   EXPECT_NEAR(rotation.z, 0.70710678F, 1e-6F);
   EXPECT_NEAR(rotation.w, -0.70710678F, 1e-6F);
 }
@@ -132,7 +132,7 @@ TEST_F(SkeletonCreatorTest, BonesAreSizedByLengthSegmentSizeAndScale) {
 TEST_F(SkeletonCreatorTest, BonesAreShownAsBonesInTheHostsColour) {
   scene().Animation().SetTime(640);
   Create(Add("Hips"));
-  const host::Node& node = *Find("Hips");
+  const host::Node& node = Node("Hips");
   EXPECT_EQ(node.ShownObject()->AsObject().ClassID(), kBoneClass);
   EXPECT_EQ(node.BoneDisplay(), 0);
   EXPECT_EQ(node.BoneSince(), 640);
@@ -142,15 +142,15 @@ TEST_F(SkeletonCreatorTest, BonesAreShownAsBonesInTheHostsColour) {
 
 TEST_F(SkeletonCreatorTest, CreationMakesNoKeys) {
   Create(Add("Hips"));
-  EXPECT_EQ(Find("Hips")->Transform()->Position().KeyCount(), 0U);
-  EXPECT_EQ(Find("Hips")->Transform()->Rotation().KeyCount(), 0U);
+  EXPECT_EQ(Node("Hips").Transform()->Position().KeyCount(), 0U);
+  EXPECT_EQ(Node("Hips").Transform()->Rotation().KeyCount(), 0U);
 }
 
 TEST_F(SkeletonCreatorTest, ALeafHasNoEffectorUnlessAskedFor) {
   HtrSegment& hips = Add("Hips");
   Add("Leg", &hips);
   Create(hips);
-  EXPECT_EQ(ChildNames(*Find("Leg")), "");
+  EXPECT_EQ(ChildNames(Node("Leg")), "");
 }
 
 TEST_F(SkeletonCreatorTest, ALeafGetsOneEffectorAtTheFilesLength) {
@@ -161,9 +161,9 @@ TEST_F(SkeletonCreatorTest, ALeafGetsOneEffectorAtTheFilesLength) {
   HtrSegment& leg = Add("Leg", &hips);
   leg.SetBoneLength(10);
   Create(hips);
-  EXPECT_EQ(ChildNames(*Find("Hips")), "Leg");
-  EXPECT_EQ(ChildNames(*Find("Leg")), "Leg_Effector");
-  const host::Node& effector = *Find("Leg_Effector");
+  EXPECT_EQ(ChildNames(Node("Hips")), "Leg");
+  EXPECT_EQ(ChildNames(Node("Leg")), "Leg_Effector");
+  const host::Node& effector = Node("Leg_Effector");
   for (const int parameter : {0, 1, 3}) EXPECT_EQ(BoneParameter(effector, parameter), 12.0F);
   // The global scale lengthens the drawn bone, not the offset.
   EXPECT_EQ(Position(effector), Point3(10, 0, 0));
@@ -179,16 +179,16 @@ TEST_F(SkeletonCreatorTest, ARefusedPositionStopsAtThatBoneWhichStays) {
   EXPECT_EQ(Create(hips), nullptr);
   EXPECT_EQ(scene().NodeCount(), 1U);
   ASSERT_NE(Find("Hips"), nullptr);
-  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseTransX"), 1U);
-  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseRotX"), 0U);
+  EXPECT_EQ(Node("Hips").Properties().count("HTRBaseTransX"), 1U);
+  EXPECT_EQ(Node("Hips").Properties().count("HTRBaseRotX"), 0U);
 }
 
 TEST_F(SkeletonCreatorTest, ARefusedRotationStopsAtThatBoneWhichStays) {
   scene().Faults().RefuseQuery(2);
   EXPECT_EQ(Create(Add("Hips")), nullptr);
   ASSERT_NE(Find("Hips"), nullptr);
-  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseRotZ"), 1U);
-  EXPECT_EQ(Find("Hips")->Properties().count("HTRBaseLength"), 0U);
+  EXPECT_EQ(Node("Hips").Properties().count("HTRBaseRotZ"), 1U);
+  EXPECT_EQ(Node("Hips").Properties().count("HTRBaseLength"), 0U);
 }
 
 TEST_F(SkeletonCreatorTest, AFailureDeletesTheAncestorsAndCreatesNothingMore) {
@@ -233,7 +233,7 @@ TEST_F(SkeletonCreatorTest, SegmentsThatAreListedTwiceAreCreatedTwice) {
   HtrSegment& leg = Add("Leg", &hips);
   Add("Foot", &leg).SetParent(&leg);
   Create(hips);
-  EXPECT_EQ(ChildNames(*Find("Leg")), "Foot Foot");
+  EXPECT_EQ(ChildNames(Node("Leg")), "Foot Foot");
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "tests/plugin/import_htr/skeleton_fixture.h"
 
 #include <numbers>
+#include <stdexcept>
 
 #include "tests/support/tolerances.h"
 
@@ -16,6 +17,12 @@ orvane::HtrSegment& SkeletonTest::Add(const std::string& name, orvane::HtrSegmen
   segment->SetIsRoot(parent == nullptr);
   segment->SetParent(parent);
   return *segment;
+}
+
+host::Node& SkeletonTest::Node(const std::string& name) {
+  host::Node* const node = Find(name);
+  if (node == nullptr) throw std::runtime_error("No node is called " + name);
+  return *node;
 }
 
 double Radians(double degrees) { return degrees * std::numbers::pi / 180; }

@@ -33,6 +33,9 @@ class SkeletonTest : public testing::Test {
   // The node of that name, or null.
   host::Node* Find(const std::string& name) { return scene().FindByName(name); }
 
+  // The same; throws, and so fails the test, when there is none.
+  host::Node& Node(const std::string& name);
+
   host::Scene& scene() { return application_.scene(); }
   ::Interface& interface() { return application_.plugin_interface(); }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <new>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -70,8 +71,14 @@ class ImportTRCTest : public testing::Test {
   }
 
   host::Node* Find(const std::string& name) { return scene().FindByName(name); }
+  // The same; throws, and so fails the test, when there is none.
+  host::Node& Node(const std::string& name) {
+    host::Node* const node = Find(name);
+    if (node == nullptr) throw std::runtime_error("No node is called " + name);
+    return *node;
+  }
   const host::PositionController& Positions(const std::string& name) {
-    return Find(name)->Transform()->Position();
+    return Node(name).Transform()->Position();
   }
   Ticks KeyTicks(const std::string& name) {
     Ticks ticks;
@@ -131,13 +138,13 @@ TEST_F(ImportTRCTest, CreatesASphereForEachMarkerInTheOrderOfTheFile) {
   options_.scaleFactor = 2;
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "LFHD RFHD");
-  const auto& sphere = dynamic_cast<const host::SphereObject&>(*Find("LFHD")->ShownObject());
+  const auto& sphere = dynamic_cast<const host::SphereObject&>(*Node("LFHD").ShownObject());
   EXPECT_EQ(sphere.Radius(), 3.0F);
   EXPECT_EQ(sphere.Parameter(1), 10);
   EXPECT_EQ(sphere.Parameter(2), 1);
   EXPECT_EQ(sphere.Parameter(3), 0.0);
   EXPECT_EQ(sphere.Parameter(6), 1);
-  EXPECT_EQ(Find("LFHD")->WireColor(), 0x3333CCU);
+  EXPECT_EQ(Node("LFHD").WireColor(), 0x3333CCU);
   EXPECT_EQ(desk_.Messages(), "");
 }
 
@@ -147,10 +154,10 @@ TEST_F(ImportTRCTest, CreatesPointsThatAreScaled) {
   options_.scaleFactor = 2;
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "LFHD RFHD");
-  EXPECT_NE(dynamic_cast<const host::PointHelper*>(Find("LFHD")->ShownObject()), nullptr);
-  EXPECT_EQ(Find("LFHD")->Transform()->Scale().ValueAt(0), Point3(1.5F, 1.5F, 1.5F));
-  EXPECT_EQ(Find("LFHD")->Transform()->Scale().KeyCount(), 0u);
-  EXPECT_EQ(Find("LFHD")->WireColor(), 0x3333CCU);
+  EXPECT_NE(dynamic_cast<const host::PointHelper*>(Node("LFHD").ShownObject()), nullptr);
+  EXPECT_EQ(Node("LFHD").Transform()->Scale().ValueAt(0), Point3(1.5F, 1.5F, 1.5F));
+  EXPECT_EQ(Node("LFHD").Transform()->Scale().KeyCount(), 0u);
+  EXPECT_EQ(Node("LFHD").WireColor(), 0x3333CCU);
 }
 
 TEST_F(ImportTRCTest, GroupsTheMarkersUnderARootNode) {
@@ -159,8 +166,8 @@ TEST_F(ImportTRCTest, GroupsTheMarkersUnderARootNode) {
   options_.scaleFactor = 3;
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "TRCCloud");
-  EXPECT_EQ(ChildNames(*Find("TRCCloud")), "LFHD RFHD");
-  const auto& box = dynamic_cast<const host::BoxObject&>(*Find("TRCCloud")->ShownObject());
+  EXPECT_EQ(ChildNames(Node("TRCCloud")), "LFHD RFHD");
+  const auto& box = dynamic_cast<const host::BoxObject&>(*Node("TRCCloud").ShownObject());
   EXPECT_EQ(box.Box(), Box3(Point3(-6, -6, -6), Point3(6, 6, 6)));
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "TRCCloud TRCCloud001");
@@ -315,7 +322,7 @@ TEST_F(ImportTRCTest, FrameNumbersAtTheEndsOfTimeAreNoDanger) {
     file.first_frame = first;
     Import(file);
     EXPECT_EQ(KeyTicks("LFHD"), Ticks());
-    Find("LFHD")->SetName("old");
+    Node("LFHD").SetName("old");
   }
 }
 
@@ -324,7 +331,7 @@ TEST_F(ImportTRCTest, TheFrameRateIsTakenOverWhenAskedFor) {
   file.data_rate = "119.88";
   Import(file);
   EXPECT_EQ(scene().Animation().FrameRate(), 30);
-  Find("LFHD")->SetName("old");
+  Node("LFHD").SetName("old");
   options_.setFrameRate = true;
   Import(file);
   EXPECT_EQ(scene().Animation().FrameRate(), 119);
@@ -437,7 +444,7 @@ TEST_F(ImportTRCApplyTest, ARootNodeTakesFoundNodesWithTheirLocalValues) {
   options_.rootNode = true;
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "Group TRCCloud");
-  EXPECT_EQ(ChildNames(*Find("TRCCloud")), "LFHD RFHD");
+  EXPECT_EQ(ChildNames(Node("TRCCloud")), "LFHD RFHD");
   EXPECT_EQ(KeyValues("LFHD").front(), Point3(1, -3, 2));
 }
 
@@ -638,7 +645,7 @@ TEST_F(ImportTRCTest, AQuietImportUsesTheLastOptionsButTheFilesFrames) {
   });
   EXPECT_EQ(KeyTicks("LFHD"), (Ticks{320}));
   EXPECT_EQ(KeyValues("LFHD").front(), Point3(8, -12, 10));
-  Find("LFHD")->SetName("old");
+  Node("LFHD").SetName("old");
   Import(TwoMarkers());
   EXPECT_EQ(KeyTicks("LFHD"), (Ticks{160, 320, 480}));
   EXPECT_EQ(KeyValues("LFHD").front(), Point3(2, -6, 4));
@@ -659,7 +666,7 @@ TEST_F(ImportTRCTest, OneImporterCanImportAgainAfterAFailure) {
   application_.cancellation().AtQuery(2);
   Import(TwoMarkers());
   application_.cancellation().Clear();
-  Find("LFHD")->SetName("old");
+  Node("LFHD").SetName("old");
   Import({.markers = {"other"}, .frames = {{"1\t2\t3"}, {"1\t2\t3"}}});
   EXPECT_EQ(SceneNames(), "old other");
   EXPECT_EQ(KeyTicks("other"), (Ticks{160, 320}));
@@ -683,7 +690,7 @@ TEST_F(ImportTRCTest, NumbersThatAreNoneAreKeyedAsTheyAreRead) {
     TrcText file{.markers = {"a"}, .frames = {{std::string(odd) + "\t" + odd + "\t" + odd}}};
     Import(file);
     EXPECT_EQ(KeyTicks("a"), (Ticks{160})) << odd;
-    Find("a")->SetName("old");
+    Node("a").SetName("old");
   }
 }
 
