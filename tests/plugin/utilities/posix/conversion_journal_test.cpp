@@ -81,6 +81,15 @@ TEST(ConversionJournal, Batch) {
   ExpectUtilitiesJournal("conversion_batch", stage.Convert());
 }
 
+TEST(ConversionJournal, SecondBatch) {
+  Stage stage;
+  PrepareBatch(stage);
+  stage.chosen_then = {"jump.trc"};
+  stage.Convert();
+  stage.Page().Click(kConvert);
+  ExpectUtilitiesJournal("conversion_second_batch", stage.journal.Take());
+}
+
 TEST(ConversionJournal, SingleDisturbed) {
   const Conversion single{"conversion", [](Stage&) {}};
   JournalLines lines;
