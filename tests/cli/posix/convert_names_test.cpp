@@ -54,4 +54,32 @@ TEST_F(PosixConvertTest, ReadsTheFileThatThePathLeadsTo) {
   EXPECT_THAT(Read("takes/walk.bvk"), HasSubstr("$Order\nHEAD \n\n$Points\n1\t7.000000\t"));
 }
 
+// A folder within `folder` whose path is as long as `length`, made with all that it takes.
+std::string DeepFolder(const std::string& folder, std::size_t length) {
+  constexpr std::size_t kLongestName = 200;
+  std::string path = folder;
+  while (path.size() + 1 + kLongestName < length) path += '/' + std::string(kLongestName, 'd');
+  path += '/' + std::string(length - path.size() - 1, 'e');
+  std::filesystem::create_directories(path);
+  return path;
+}
+
+// What the plug-in writes lies in a folder within that of the outputs, where a path may be too
+// long.
+TEST_F(PosixConvertTest, GoesOnBehindAnOutputThatThePluginCannotCreate) {
+  const std::string deep = DeepFolder(folder_.File("out"), 3835);
+  const std::string long_name(245, 'n');
+  for (const std::string& name : {std::string("a"), long_name, std::string("z")}) {
+    Write(name + ".trc", Take());
+  }
+  const ProgramResult result =
+      Orvane({"convert", "a.trc", long_name + ".trc", "z.trc", "--output-dir", deep});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, HasSubstr(long_name + ".bvk: The plug-in could not create the file\n"));
+  const std::string log = test::ReadTextFile(deep + "/ConvertBVKLog.txt");
+  EXPECT_THAT(log, HasSubstr("/a.trc done.\nOrvane OrvaneFileIO TRC to BVK"));
+  EXPECT_THAT(log, HasSubstr("\nProcessing 1 files...\nfile: "));
+  EXPECT_THAT(log, testing::EndsWith("/z.trc done.\n"));
+}
+
 }  // namespace

@@ -72,6 +72,18 @@ TEST_F(EulerControllerTest, FollowsManyTurns) {
   }
 }
 
+TEST_F(EulerControllerTest, AKeyBetweenKeysGoesOnFromTheOneBefore) {
+  // One rotation as two triples of angles, between which the tracks leave it.
+  const Quat turn = Turn(0, 1, 0, 100);
+  const Vector here{0, test::Radians(100), 0};
+  const Vector there{test::Radians(180), test::Radians(80), test::Radians(180)};
+  controller_.SetKey(0, turn, here);
+  controller_.SetKey(100, turn, there);
+  controller_.SetKey(300, turn, here);
+  controller_.SetKey(200, turn);
+  ExpectSameRotation(controller_.ValueAt(150), turn);
+}
+
 TEST_F(EulerControllerTest, ShiftsItsThreeTracks) {
   controller_.SetKey(0, EulerDegrees(10, 20, 30));
   controller_.SetKey(100, EulerDegrees(20, 10, 50));

@@ -146,6 +146,11 @@ TEST(DamagedFile, CutAtAnyByteIsRefused) {
   }
 }
 
+TEST(DamagedFile, WithBytesBehindItsEndIsRefused) {
+  EXPECT_EQ(Refusal(SmallFile()), "");
+  for (const char* more : {"x", "four", "glTF"}) EXPECT_NE(Refusal(SmallFile() + more), "") << more;
+}
+
 TEST(DamagedFile, NestedMoreThanAHundredDeepIsRefused) {
   constexpr char kRefusal[] = "The file is nested more than 100 deep.";
   const OpenFile file(SmallFile());

@@ -287,8 +287,8 @@ TEST_F(SegmentSamplerTest, TheScaleOfAFrameIsThatOfTheBoneTimesItsParents) {
 TEST_F(SegmentSamplerTest, WithAnOffsetTheScaleOfAnotherFrameOfTheParentCounts) {
   host::Node& hips = AddBone("Hips");
   host::Node& leg = AddBone("Leg", &hips);
-  hips.Transform()->Scale().SetKey(0, Point3(1, 1, 1));
-  hips.Transform()->Scale().SetKey(320, Point3(3, 3, 3));
+  hips.Transform()->Scale().SetKey(0, Point3(2, 2, 2));
+  hips.Transform()->Scale().SetKey(320, Point3(4, 4, 4));
   const auto scales = [&](int offset) {
     options_.frameOffset = offset;
     const HtrSegment root = Sample(hips);
@@ -297,10 +297,10 @@ TEST_F(SegmentSamplerTest, WithAnOffsetTheScaleOfAnotherFrameOfTheParentCounts) 
                                std::round(segment.GetFrameScale(1)),
                                std::round(segment.GetFrameScale(2))};
   };
-  // The parent's are 1, 2, 3.
-  EXPECT_EQ(scales(0), (std::vector<double>{1, 2, 3}));
-  EXPECT_EQ(scales(1), (std::vector<double>{1, 1, 2}));   // before its first frame: 1
-  EXPECT_EQ(scales(-1), (std::vector<double>{2, 3, 1}));  // past its last: 1
+  // The parent's are 2, 3, 4.
+  EXPECT_EQ(scales(0), (std::vector<double>{2, 3, 4}));
+  EXPECT_EQ(scales(1), (std::vector<double>{1, 2, 3}));   // before its first frame: 1
+  EXPECT_EQ(scales(-1), (std::vector<double>{3, 4, 1}));  // past its last: 1
 }
 
 TEST_F(SegmentSamplerTest, AFrameOfAnEnlargedChildIsNotMovedByItsOwnScale) {
