@@ -20,36 +20,16 @@
 
 namespace test {
 
-// Notes what a conversion does to the host, and lets a test do something whenever the host handles
-// its pending messages.
-class WatchedInterface final : public ForwardingInterface {
+// Lets a test do something whenever the host handles its pending messages.
+class InterruptedInterface final : public ForwardingInterface {
  public:
   using ForwardingInterface::ForwardingInterface;
 
-  bool ProgressStart(const char* title, bool show_bar, ProgressCallback callback,
-                     void* argument) override {
-    steps.push_back(std::string("start ") + title);
-    return ForwardingInterface::ProgressStart(title, show_bar, callback, argument);
-  }
-  void ProgressUpdate(int percent, bool show_percent, const char* title) override {
-    steps.push_back(std::to_string(percent));
-    ForwardingInterface::ProgressUpdate(percent, show_percent, title);
-  }
-  void ProgressEnd() override {
-    steps.emplace_back("end");
-    ForwardingInterface::ProgressEnd();
-  }
-  bool GetCancel() override {
-    steps.emplace_back("cancel?");
-    return ForwardingInterface::GetCancel();
-  }
   void ProcessPendingMessages() override {
-    steps.emplace_back("pending");
     if (on_pending_messages) on_pending_messages();
     ForwardingInterface::ProcessPendingMessages();
   }
 
-  std::vector<std::string> steps;
   std::function<void()> on_pending_messages;
 };
 
@@ -112,7 +92,7 @@ class ConversionTest : public testing::Test {
   host::FreshSettings settings_;
   host::ScriptedDesktop desktop_;
   host::Application application_;
-  WatchedInterface host_{application_.plugin_interface()};
+  InterruptedInterface host_{application_.plugin_interface()};
   orvane::MessageSink messages_;
   orvane::StringTable strings_;
   std::optional<orvane::ConvertBVK> converter_;

@@ -32,14 +32,6 @@ TEST_F(ConversionTest, WritesOneFileBesideItsSource) {
   EXPECT_FALSE(std::filesystem::exists(folder_.File("out/ConvertBVKLog.txt")));
 }
 
-TEST_F(ConversionTest, ShowsItsProgress) {
-  UserChooses({Write("walk.trc", Take())});
-  EXPECT_TRUE(Convert());
-  EXPECT_THAT(host_.steps,
-              ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "0", "100", "end"));
-  EXPECT_THAT(application_.scene().Misuse().Messages(), IsEmpty());
-}
-
 TEST_F(ConversionTest, AsksForOneSource) {
   UserChooses({});
   EXPECT_FALSE(Convert());
@@ -47,7 +39,6 @@ TEST_F(ConversionTest, AsksForOneSource) {
   const host::ShownFileDialog& shown = dialogs_[0];
   EXPECT_EQ(shown.title, "Select Source TRC Files...");
   EXPECT_EQ(shown.filter, "Orvane TRC Files (*.TRC)");
-  EXPECT_THAT(host_.steps, IsEmpty());
 }
 
 TEST_F(ConversionTest, KeepsTheInputFolderOfOneFile) {
@@ -81,8 +72,6 @@ TEST_F(ConversionTest, EndsWhenTheUserNamesNoTarget) {
   UserChooses({Write("walk.trc", Take())});
   UserChooses({});
   EXPECT_FALSE(Convert());
-  EXPECT_THAT(host_.steps,
-              ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "100", "end"));
 }
 
 TEST_F(ConversionTest, EndsWithoutAWordWhenTheOutputCannotBeCreated) {
@@ -90,18 +79,14 @@ TEST_F(ConversionTest, EndsWithoutAWordWhenTheOutputCannotBeCreated) {
   UserChooses({Write("walk.trc", Take())});
   EXPECT_FALSE(Convert());
   EXPECT_THAT(Messages(), IsEmpty());
-  EXPECT_THAT(host_.steps,
-              ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "100", "end"));
 }
 
-// The user's text is "PATH: MESSAGE" and a line break, and the bar ends twice.
+// The user's text is "PATH: MESSAGE" and a line break.
 TEST_F(ConversionTest, ShowsWhyTheReaderRefusedOneFileAndHasDoneItsWork) {
   const std::string path = Write("50%done.trc", BrokenTake());
   UserChooses({path});
   EXPECT_TRUE(Convert());
   EXPECT_THAT(Messages(), ElementsAre("ConvertBVK Error: " + path + ": " + kRefused + "\n"));
-  EXPECT_THAT(host_.steps, ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "100",
-                                       "end", "100", "end"));
   EXPECT_FALSE(std::filesystem::exists(folder_.File("50%done.bvk")));
 }
 
@@ -109,7 +94,6 @@ TEST_F(ConversionTest, LeavesTheBarOpenWhenTheUserCancels) {
   application_.cancellation().AtQuery(1);
   UserChooses({Write("walk.trc", Take())});
   EXPECT_FALSE(Convert());
-  EXPECT_THAT(host_.steps, ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?"));
   EXPECT_TRUE(application_.progress().IsOpen());
   EXPECT_FALSE(std::filesystem::exists(folder_.File("walk.bvk")));
 }
@@ -189,15 +173,6 @@ TEST_F(ConversionTest, WritesABatchAndItsLog) {
             "Processing 2 files...\n"
             "file: " +
                 walk + " done.\nfile: " + run + " done.\n");
-}
-
-TEST_F(ConversionTest, ShowsTheShareThatWasDoneBeforeEachFile) {
-  std::vector<std::string> paths;
-  for (const char* name : {"a.trc", "b.trc", "c.trc"}) paths.push_back(Write(name, Take()));
-  EXPECT_TRUE(ConvertBatch(paths));
-  EXPECT_THAT(host_.steps,
-              ElementsAre("start Orvane ConvertBVK", "0", "pending", "cancel?", "0", "pending",
-                          "cancel?", "33", "pending", "cancel?", "66", "100", "end"));
 }
 
 TEST_F(ConversionTest, ConvertsABatchOfOneFile) {
@@ -280,7 +255,6 @@ TEST_F(ConversionTest, TellsThatTheLogCannotBeOpened) {
   converter_->outputPath = folder_.File("missing");
   EXPECT_FALSE(ConvertBatch({Write("walk.trc", Take())}));
   EXPECT_THAT(Messages(), ElementsAre("ConvertBVK Error: Cannot Open Batch Log File."));
-  EXPECT_THAT(host_.steps, IsEmpty());
 }
 
 TEST_F(ConversionTest, AbandonsABatchWhenAnOutputCannotBeCreated) {

@@ -2,8 +2,8 @@
 
 #include "platform/module.h"
 #include "plugin/import_htr/import_htr.h"
+#include "tests/plugin/import_htr/posix/two_bones.h"
 #include "tests/support/bone_nodes.h"
-#include "tests/support/htr_text.h"
 #include "tests/support/posix/journal/disturbed.h"
 #include "tests/support/posix/journal/journal_stage.h"
 
@@ -15,6 +15,7 @@ namespace {
 using test::Append;
 using test::HtrText;
 using test::JournalLines;
+using test::TwoBones;
 
 constexpr int kApply = 1086;
 constexpr int kSetFrameRate = 1140;
@@ -22,14 +23,6 @@ constexpr int kFrom = 1065;
 constexpr int kRange = 1068;
 constexpr int kOk = 1097;
 constexpr int kCancel = 1098;
-
-// Two bones, two frames.
-HtrText TwoBones() {
-  HtrText file;
-  file.segments = {{"Hips", "GLOBAL", "1 2 3 10 20 30 10", {"4 0 0 40 50 60", "5 0 0 0 0 0"}},
-                   {"Leg", "Hips", "0 4 0 7 8 9 20", {"0 0 0 0 0 0", "0 1 0 0 0 90"}}};
-  return file;
-}
 
 void Expect(const std::string& name, const JournalLines& lines) {
   test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/import_htr/posix/journals/" + name + ".txt",
