@@ -1,6 +1,8 @@
 #include "plugin/export_htr/export_htr.h"
 
 #include <new>
+#include <stdexcept>
+#include <string>
 
 #include "platform/module.h"
 #include "plugin/htr/reader.h"
@@ -56,6 +58,12 @@ class ExportHTRTest : public test::SamplingTest {
   HtrDocument& Written() {
     EXPECT_EQ(ReadHtrFile(document_, Path(), true), "");
     return document_;
+  }
+  // The segment of that name in it; throws, and so fails the test, when there is none.
+  HtrSegment& WrittenSegment(const std::string& name) {
+    HtrSegment* const segment = Written().FindSegment(name);
+    if (segment == nullptr) throw std::runtime_error("No segment is called " + name);
+    return *segment;
   }
   bool IsWritten() const { return std::filesystem::exists(Path()); }
 
@@ -300,11 +308,11 @@ TEST_F(ExportHTRTest, WithoutPromptsTheLastOptionsAreUsedButTheFramesOfTheAnimat
             1);
   EXPECT_EQ(Written().GetStartFrame(), 12);
   EXPECT_EQ(Written().GetNumFrames(), 2U);
-  EXPECT_EQ(Written().FindSegment("Leg")->GetBoneLength(), 10.0);
+  EXPECT_EQ(WrittenSegment("Leg").GetBoneLength(), 10.0);
   EXPECT_EQ(Export(), 1);
   EXPECT_EQ(Written().GetStartFrame(), 10);
   EXPECT_EQ(Written().GetNumFrames(), 11U);
-  EXPECT_EQ(Written().FindSegment("Leg")->GetBoneLength(), 10.0);
+  EXPECT_EQ(WrittenSegment("Leg").GetBoneLength(), 10.0);
 }
 
 // The file announces the frames of the dialog and holds the first of the range.
@@ -321,7 +329,7 @@ TEST_F(ExportHTRTest, TheNumberOfFramesFollowsTheDialogEvenUnderSlider) {
             1);
   EXPECT_EQ(Written().GetNumFrames(), 2U);
   EXPECT_EQ(Written().GetStartFrame(), 0);
-  EXPECT_EQ(Written().FindSegment("Hips")->GetNumFrames(), 2U);
+  EXPECT_EQ(WrittenSegment("Hips").GetNumFrames(), 2U);
 }
 
 TEST_F(ExportHTRTest, WithoutAnimationTheFileHoldsOneFrameAtTheBase) {
@@ -331,7 +339,7 @@ TEST_F(ExportHTRTest, WithoutAnimationTheFileHoldsOneFrameAtTheBase) {
   EXPECT_EQ(Export(), 1);
   EXPECT_EQ(Written().GetNumFrames(), 1U);
   EXPECT_EQ(Written().GetStartFrame(), 1);
-  test::ExpectVector(Written().FindSegment("Hips")->GetFramePosition(0), 1, 3, -2);
+  test::ExpectVector(WrittenSegment("Hips").GetFramePosition(0), 1, 3, -2);
 }
 
 TEST_F(ExportHTRTest, ARangeThatEndsBeforeItStartsHasNoFrames) {
@@ -362,7 +370,7 @@ TEST_F(ExportHTRTest, LengthsAreInMillimetersTimesTheGlobalScale) {
   options_.scaleFactor = -2;
   EXPECT_EQ(Export(), 1);
   EXPECT_EQ(Written().GetCalibrationUnits(), 0U);
-  const HtrSegment& leg = *Written().FindSegment("Leg");
+  const HtrSegment& leg = WrittenSegment("Leg");
   EXPECT_NEAR(leg.GetBoneLength(), -2 * 25.4 * 5, 1e-5);
   test::ExpectVector(leg.GetBaseTranslation(), 0, -2 * 25.4 * 4, 0, 1e-5);
 }
