@@ -25,11 +25,12 @@ bool SetControllerValue(Control* controller, TimeValue time, const void* value) 
   return true;
 }
 
-void ClearKeys(Control* controller, const KeyTimes& times) {
-  if (controller == nullptr) return;
+void ClearKeys(std::initializer_list<Control*> controllers, const KeyTimes& times) {
   const std::int64_t end = times.EndTick();
   for (std::int64_t tick = times.BeginTick(); tick < end; ++tick) {
-    controller->DeleteKeyAt(static_cast<TimeValue>(tick));
+    for (Control* const controller : controllers) {
+      if (controller != nullptr) controller->DeleteKeyAt(static_cast<TimeValue>(tick));
+    }
   }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <initializer_list>
+
 #include "plugin/exchange/key_times.h"
 #include "sdk/core/control.h"
 #include "sdk/core/node.h"
@@ -15,8 +17,9 @@ Control* RotationController(INode& node);
 // Returns false, setting nothing, when the controller does not accept a value now or is null.
 bool SetControllerValue(Control* controller, TimeValue time, const void* value);
 
-// Deletes the keys of `controller`, which may be null, from the first tick of `times` to the last.
-// Intended: at every tick, not only the frames', so that keys made at another frame rate go too.
-void ClearKeys(Control* controller, const KeyTimes& times);
+// Deletes the keys of `controllers`, of which any may be null, from the first tick of `times` to
+// the last: at each tick those of all of them. Intended: at every tick, not only the frames', so
+// that keys made at another frame rate go too.
+void ClearKeys(std::initializer_list<Control*> controllers, const KeyTimes& times);
 
 }  // namespace orvane

@@ -18,13 +18,6 @@ constexpr float kSphereRadiusOfSize = 0.5F;
 constexpr float kPointScaleOfSize = 0.25F;
 constexpr float kRootExtentOfSize = 1.0F;
 
-// What is set of a sphere besides its radius: the parameter's number and its value.
-constexpr struct {
-  int parameter;
-  int value;
-} kSphereSettings[] = {{1, 10}, {2, 1}, {6, 1}};
-constexpr int kSphereFloatParameter = 3;
-
 // Intended: in single precision, each product rounded, which ends in other bits than one rounding
 // of both would.
 float Size(const ImportTRCOptions& options, float factor) {
@@ -34,12 +27,14 @@ float Size(const ImportTRCOptions& options, float factor) {
 void SetSphere(Object& sphere, float radius, TimeValue time) {
   IParamBlock* parameters = sphere.GetParamBlock();
   if (parameters == nullptr) return;
-  const auto index = [&sphere](int parameter) { return sphere.GetParamBlockIndex(parameter); };
-  parameters->SetValue(index(kSphereRadiusParameter), time, radius);
-  for (const auto& setting : kSphereSettings) {
-    parameters->SetValue(index(setting.parameter), time, setting.value);
-  }
-  parameters->SetValue(index(kSphereFloatParameter), time, 0.0F);
+  const auto set = [&](int parameter, auto value) {
+    parameters->SetValue(sphere.GetParamBlockIndex(parameter), time, value);
+  };
+  set(kSphereRadiusParameter, radius);
+  set(1, 10);
+  set(2, 1);
+  set(3, 0.0F);
+  set(6, 1);
 }
 
 INode* CreateSphereNode(Interface& interface, float radius) {

@@ -11,13 +11,9 @@ namespace test {
 Journal* Journal::current_ = nullptr;
 
 void Journal::NoteDeletedKey(const std::string& controller, int tick) {
-  const bool goes_on = deleted_ && deleted_->controller == controller && deleted_->last + 1 == tick;
-  if (goes_on) {
-    deleted_->last = tick;
-    return;
-  }
+  if (deleted_ && deleted_->Take(controller, tick)) return;
   Complete();
-  deleted_ = {controller, tick, tick};
+  deleted_.emplace(controller, tick);
 }
 
 void Journal::Abbreviate(const std::string& text, const std::string& shorter) {
@@ -50,8 +46,7 @@ void Journal::Append(const std::string& line) {
 
 void Journal::Complete() {
   if (deleted_) {
-    const Interval ticks(deleted_->first, deleted_->last);
-    lines_.push_back(deleted_->controller + " delete keys " + Shown(ticks));
+    for (const std::string& line : deleted_->Lines()) lines_.push_back(line);
     deleted_.reset();
   }
   for (WatchedFile& file : files_) Look(file);

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "platform/handles.h"
+#include "tests/support/posix/journal/deleted_keys.h"
 #include "tests/support/posix/journal/shown.h"
 
 namespace test {
@@ -16,7 +17,7 @@ namespace test {
 // Whoever stands at a border (JournalInterface, JournalDesktop, JournalRegistry, the host's free
 // functions) forwards each call and notes it here. Left out are questions whose order nobody relies
 // on and whose answer shows elsewhere: names, children, selections, controllers, windows. A run of
-// keys deleted at successive ticks of one controller is one line.
+// keys deleted at successive ticks, at each of the same controllers, is one line.
 class Journal {
  public:
   // The one that the host's free functions note their calls in, until it is destroyed.
@@ -59,11 +60,6 @@ class Journal {
     std::string name;
     bool is_text;
     std::string seen;
-  };
-  struct DeletedKeys {
-    std::string controller;
-    int first;
-    int last;
   };
 
   void Append(const std::string& line);
