@@ -1,5 +1,7 @@
+#include "plugin/htr/reader.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/cli/scene_file.h"
+#include "tests/support/htr_skeleton_pose.h"
 
 namespace {
 
@@ -239,7 +241,22 @@ TEST_F(ImportFlagsTest, TheExampleIsImported) {
   const std::string file = ORVANE_SOURCE_DIR "/examples/walk.htr";
   const ProgramResult result = Orvane({"import", file, "-o", "walk.glb", "--strict"});
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(SceneFile(folder_.File("walk.glb")).KeyTimes("LeftFoot"), SizeIs(120));
+  const SceneFile scene(folder_.File("walk.glb"));
+  EXPECT_THAT(scene.KeyTimes("LeftFoot"), SizeIs(120));
+  orvane::HtrDocument document;
+  ASSERT_EQ(orvane::ReadHtrFile(document, file, true), "");
+  constexpr double kMetersPerMillimeter = 1e-3;
+  constexpr double kTolerance_m = 1e-6;
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    for (const std::size_t frame : {0U, 36U, 119U}) {
+      const orvane::Vector3 expected = test::PositionOf(segment, frame);
+      EXPECT_THAT(scene.Position(segment.GetName(), frame),
+                  ElementsAre(DoubleNear(expected.x() * kMetersPerMillimeter, kTolerance_m),
+                              DoubleNear(expected.y() * kMetersPerMillimeter, kTolerance_m),
+                              DoubleNear(expected.z() * kMetersPerMillimeter, kTolerance_m)))
+          << segment.GetName() << " in frame " << frame;
+    }
+  }
 }
 
 // The recording's own documentation tells where two joints stand at frame 301.

@@ -8,6 +8,8 @@
 
 #include "plugin/htr/reader.h"
 #include "plugin/units/units.h"
+#include "tests/support/htr_skeleton_pose.h"
+#include "tests/support/tolerances.h"
 
 namespace {
 
@@ -129,6 +131,24 @@ TEST(PoseWalkTest, SegmentsWithoutFramesCostNothing) {
   }
   EXPECT_EQ(visited, 100'000U);
   ExpectPosition(walk, 9'999, 1, 0, 0);
+}
+
+// Against the positions that each joint's own way up to the root gives.
+TEST(PoseWalkTest, TheExampleStandsInEveryFrameWhereItsFileSays) {
+  HtrDocument document;
+  ASSERT_EQ(orvane::ReadHtrFile(document, ORVANE_SOURCE_DIR "/examples/walk.htr", true), "");
+  const auto hierarchy = ListHierarchy(document);
+  ASSERT_EQ(hierarchy.size(), 21U);
+  PoseWalk walk(hierarchy);
+  for (std::size_t frame = 0; frame < document.GetNumFrames(); ++frame) {
+    walk.MoveTo(frame);
+    for (std::size_t i = 0; i < hierarchy.size(); ++i) {
+      const Vector3 expected = test::PositionOf(*hierarchy[i].segment, frame);
+      ASSERT_NEAR(walk.PositionOf(i)[0], expected.x(), test::kPosition_mm);
+      ASSERT_NEAR(walk.PositionOf(i)[1], expected.y(), test::kPosition_mm);
+      ASSERT_NEAR(walk.PositionOf(i)[2], expected.z(), test::kPosition_mm);
+    }
+  }
 }
 
 // The recording's own documentation tells where two joints stand at frame 301.
