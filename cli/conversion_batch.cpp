@@ -190,7 +190,8 @@ class BatchConversion {
                        const platform::ScratchFolder& scratch,
                        const std::vector<std::string>& messages) {
     for (Conversion* conversion : unlogged) {
-      if (!fs::exists(platform::PathOf(MadeFile(*conversion, scratch)))) {
+      std::error_code untold;  // of a path that is too long to ask about, too
+      if (!fs::exists(platform::PathOf(MadeFile(*conversion, scratch)), untold)) {
         Settle(*conversion, ConversionStatus::kFailed, conversion->output,
                messages.empty() ? "The plug-in could not create the file" : messages.front());
         return;
