@@ -30,25 +30,27 @@ RotationMatrix3 MatrixOf(const Quat& rotation) {
 
 }  // namespace
 
-BonePose BonePoseReader::Read(TimeValue time) const {
-  Matrix3 transform = node_.NodeTransform(time);
-  if (relative_) transform = transform * Inverse(ParentTransform(time));
-  const Parts parts(transform);
+BoneTransforms BonePoseReader::Read(TimeValue time) const {
+  BoneTransforms transforms;
+  transforms.time = time;
+  transforms.node = node_.NodeTransform(time);
+  if (parent_ != nullptr) transforms.parent = parent_->NodeTransform(time);
+  return transforms;
+}
+
+BonePose BonePoseReader::Pose(const BoneTransforms& transforms) const {
+  const Parts parts(relative_ ? transforms.node * Inverse(transforms.parent) : transforms.node);
   return {axes_.FilePosition(Widened(parts.position)), axes_.FileRotation(MatrixOf(parts.rotation)),
           static_cast<double>(parts.scale.x)};
 }
 
-double BonePoseReader::ParentScale(TimeValue time) const {
-  return static_cast<double>(Parts(ParentTransform(time)).scale.x);
+bool BonePoseReader::HasObjectOffset(const BoneTransforms& transforms) const {
+  if (node_.ObjectTransform(transforms.time) != transforms.node) return true;
+  return parent_ != nullptr && parent_->ObjectTransform(transforms.time) != transforms.parent;
 }
 
-bool BonePoseReader::HasObjectOffset(TimeValue time) const {
-  if (node_.ObjectTransform(time) != node_.NodeTransform(time)) return true;
-  return parent_ != nullptr && parent_->ObjectTransform(time) != parent_->NodeTransform(time);
-}
-
-Matrix3 BonePoseReader::ParentTransform(TimeValue time) const {
-  return parent_ == nullptr ? Matrix3() : parent_->NodeTransform(time);
+double ParentScale(const BoneTransforms& transforms) {
+  return static_cast<double>(Parts(transforms.parent).scale.x);
 }
 
 }  // namespace orvane

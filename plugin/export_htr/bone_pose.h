@@ -14,6 +14,14 @@ struct BonePose {
   double scale = 1.0;  // along the bone, the host's local X
 };
 
+// Where a bone and its parent in the scene stand in the world at one time; the parent of the scene
+// root stands nowhere else than the world.
+struct BoneTransforms {
+  TimeValue time = 0;  // ticks
+  Matrix3 node;
+  Matrix3 parent;
+};
+
 // Reads the poses of one bone.
 class BonePoseReader {
  public:
@@ -26,22 +34,22 @@ class BonePoseReader {
         axes_(is_root),
         relative_(!is_root || !root_in_world) {}
 
-  // At `time`, in ticks.
-  BonePose Read(TimeValue time) const;
+  // Asks the host for both transforms at `time`, also where the parent's does not enter the pose.
+  BoneTransforms Read(TimeValue time) const;
 
-  // The scale of the parent in the world along its local X.
-  double ParentScale(TimeValue time) const;
+  BonePose Pose(const BoneTransforms& transforms) const;
 
   // Whether the object of the node, or that of its parent, does not stand where its node does.
-  bool HasObjectOffset(TimeValue time) const;
+  bool HasObjectOffset(const BoneTransforms& transforms) const;
 
  private:
-  Matrix3 ParentTransform(TimeValue time) const;
-
   INode& node_;
   INode* parent_;  // null only for the scene root
   AxisConversion axes_;
   bool relative_;
 };
+
+// The scale of the parent in the world along its local X.
+double ParentScale(const BoneTransforms& transforms);
 
 }  // namespace orvane

@@ -91,15 +91,15 @@ bool SegmentSampler::ReadSavedBase(HtrSegment& segment) {
 
 // How the bone stands now.
 void SegmentSampler::ReadCurrentBase(HtrSegment& segment) {
-  const TimeValue now = interface_.GetTime();
-  if (poses_.HasObjectOffset(now)) {
+  const BoneTransforms transforms = poses_.Read(interface_.GetTime());
+  if (poses_.HasObjectOffset(transforms)) {
     const std::string warning =
         std::string("Bone: ") + node_.GetName() +
         " contains an object offset transformation, the resulting skeleton may not be correct.";
     messages_.Report(warning.c_str(), "ExportHTR Error");
   }
-  const BonePose pose = poses_.Read(now);
-  const double parent_scale = poses_.ParentScale(now);
+  const BonePose pose = poses_.Pose(transforms);
+  const double parent_scale = ParentScale(transforms);
   // Intended: that of a root, too, whose translation in the world has the scale of its parents
   // already. The frames, which are told relative to the base, make up for it.
   const Vector3 translation = Scaled(pose.translation, parent_scale);
@@ -125,7 +125,7 @@ void SegmentSampler::AddFrame(HtrSegment& segment, const RotationMatrix3& base_i
                               std::int64_t frame) {
   // Frames come from ticks, so their ticks fit.
   const auto time = static_cast<TimeValue>(frame * GetTicksPerFrame());
-  const BonePose pose = poses_.Read(time);
+  const BonePose pose = poses_.Pose(poses_.Read(time));
   const double parent_scale = ParentFrameScale(frame);
   const Vector3 position = Scaled(pose.translation, parent_scale);
   segment.AddFrame(Difference(position, segment.GetBaseTranslation()),
