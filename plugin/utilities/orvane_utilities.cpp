@@ -54,6 +54,15 @@ class HeldEdit {
   ICustEdit* edit_;
 };
 
+// A control of the offset, and the setting that it shows.
+struct OffsetEdit {
+  int control;
+  float ConvertBVK::*number;
+};
+constexpr OffsetEdit kOffsetEdits[] = {{IDC_OFFSET_X, &ConvertBVK::offsetX},
+                                       {IDC_OFFSET_Y, &ConvertBVK::offsetY},
+                                       {IDC_OFFSET_Z, &ConvertBVK::offsetZ}};
+
 const char* Shown(const std::string& path) { return path.empty() ? "<none>" : path.c_str(); }
 
 void EnableOffset(platform::Dialog& dialog, bool enabled) {
@@ -120,17 +129,26 @@ OrvaneUtilities::OrvaneUtilities(MessageSink& messages, StringTable& strings, Pi
 
 OrvaneUtilities::~OrvaneUtilities() { Close(); }
 
+// As a command, this works on when the panel is closed, or deleted, in the middle of it.
 void OrvaneUtilities::BeginEditParams(Interface* interface, IUtil* utility) {
   if (interface == nullptr) return;
   interface_ = interface;
   utility_ = utility;
   if (page_ != nullptr) return;
+  const std::shared_ptr<Work> work = work_;
+  const OpenPanel panel(*work);
   try {
-    page_ =
-        interface->AddRollupPage(work_->module, IDD_UTILITIES, platform::HandlerProcedure(),
-                                 work_->strings.GetString(work_->module, IDS_CONVERT_TRC_TO_BVK),
+    HWND const page =
+        interface->AddRollupPage(work->module, IDD_UTILITIES, platform::HandlerProcedure(),
+                                 work->strings.GetString(work->module, IDS_CONVERT_TRC_TO_BVK),
                                  platform::HandlerParameter(*this), 0, kRollupCategory);
+    if (panel.IsOpen()) {
+      page_ = page;
+    } else if (page != nullptr) {
+      interface->DeleteRollupPage(page);
+    }
   } catch (...) {
+    if (!panel.IsOpen()) return;
     interface_ = nullptr;
     utility_ = nullptr;
   }
@@ -153,16 +171,18 @@ void OrvaneUtilities::Close() noexcept {
   if (page != nullptr) Attempt([interface, page] { interface->DeleteRollupPage(page); });
 }
 
+// As BeginEditParams.
 void OrvaneUtilities::Initialize(platform::Dialog& dialog) {
+  const std::shared_ptr<Work> work = work_;
   try {
-    const ConvertBVK& settings = work_->converter;
+    const ConvertBVK& settings = work->converter;
     dialog.SetText(IDC_MAPPING_FILE, Shown(settings.mnmPath));
     dialog.SetText(IDC_OUTPUT_FOLDER, Shown(settings.outputPath));
     dialog.SetChecked(IDC_FILTER, settings.filter);
     dialog.SetChecked(IDC_BATCH, settings.batch);
     dialog.SetChecked(IDC_TRC_NAME, settings.trcName);
     ShowBatch(dialog);
-    FillOffset(dialog);
+    FillOffset(dialog, *work);
   } catch (...) {
     // Without memory the panel stays as it is.
   }
@@ -181,14 +201,22 @@ void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
   }
 }
 
-void OrvaneUtilities::FillOffset(platform::Dialog& dialog) {
-  const ConvertBVK& settings = work_->converter;
+void OrvaneUtilities::FillOffset(platform::Dialog& dialog, const Work& work) {
+  const OpenPanel panel(work);
+  const ConvertBVK& settings = work.converter;
   ShowChoice(dialog, settings.trcSpace, IDC_TRC_SPACE, IDC_SKELDER_SPACE);
   dialog.SetChecked(IDC_ENABLE_OFFSET, settings.offset);
   EnableOffset(dialog, settings.offset);
-  HeldEdit(dialog, IDC_OFFSET_X).Show(settings.offsetX);
-  HeldEdit(dialog, IDC_OFFSET_Y).Show(settings.offsetY);
-  HeldEdit(dialog, IDC_OFFSET_Z).Show(settings.offsetZ);
+  for (const OffsetEdit& edit : kOffsetEdits) {
+    if (panel.IsOpen()) HeldEdit(dialog, edit.control).Show(settings.*edit.number);
+  }
+}
+
+void OrvaneUtilities::ReadOffset(platform::Dialog& dialog, Work& work) {
+  const OpenPanel panel(work);
+  for (const OffsetEdit& edit : kOffsetEdits) {
+    if (panel.IsOpen()) HeldEdit(dialog, edit.control).Read(work.converter.*edit.number);
+  }
 }
 
 // Files of a batch are always named after their inputs.
@@ -277,12 +305,10 @@ void OrvaneUtilities::CreateMapping(platform::Dialog& dialog) {
 void OrvaneUtilities::Convert(platform::Dialog& dialog) {
   Work& work = *work_;
   if (work.command != nullptr) return;
+  const OpenPanel panel(work);
   ConvertBVK& converter = work.converter;
-  if (converter.offset) {
-    HeldEdit(dialog, IDC_OFFSET_X).Read(converter.offsetX);
-    HeldEdit(dialog, IDC_OFFSET_Y).Read(converter.offsetY);
-    HeldEdit(dialog, IDC_OFFSET_Z).Read(converter.offsetZ);
-  }
+  if (converter.offset) ReadOffset(dialog, work);
+  if (!panel.IsOpen()) return;
   const WorkInProgress in_progress(work, converter);
   converter.Convert(interface_);
 }

@@ -27,7 +27,8 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   ~OrvaneUtilities() override;
 
   // Shows the panel, unless it is shown already or `interface` is null. A host that throws
-  // meanwhile has not opened it.
+  // meanwhile has not opened it. The panel may be closed and this object deleted meanwhile: then
+  // the page that the host has added goes again.
   void BeginEditParams(Interface* interface, IUtil* utility) override;
 
   // Ends the command that is at work, saves the settings and closes the panel.
@@ -41,8 +42,9 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
   void Initialize(platform::Dialog& dialog) override;
   void Command(platform::Dialog& dialog, int control) override;
 
+  static void FillOffset(platform::Dialog& dialog, const Work& work);
+  static void ReadOffset(platform::Dialog& dialog, Work& work);
   void Answer(platform::Dialog& dialog, int control);
-  void FillOffset(platform::Dialog& dialog);
   void ShowBatch(platform::Dialog& dialog);
   void BrowseMapping(platform::Dialog& dialog);
   void BrowseOutput(platform::Dialog& dialog);

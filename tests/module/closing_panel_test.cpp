@@ -259,6 +259,19 @@ TEST_P(ClosingCreatorTest, AsksNoSecondQuestion) {
   ExpectNothingLeft();
 }
 
+// --- Opening ---
+
+TEST_P(ClosingPanelTest, APageThatWasBeingAddedGoesAgain) {
+  utility_ = module_->CreateUtility("OrvaneUtilities");
+  host_.after = [this](const std::string& operation) {
+    if (operation != "AddRollupPage") return;
+    host_.after = nullptr;
+    GetParam() == Ending::kClosed ? utility_->EndEditParams(&host_, nullptr) : utility_.reset();
+  };
+  utility_->BeginEditParams(&host_, nullptr);
+  EXPECT_TRUE(application_.rollup_pages().Open().empty());
+}
+
 // --- The other dialogs ---
 
 TEST_P(ClosingPanelTest, ShowsNoDialogAfterTheCallThatItEndedIn) {

@@ -42,6 +42,7 @@ std::vector<std::string> Journal::Take() {
 void Journal::Append(const std::string& line) {
   Complete();
   lines_.push_back(Abbreviated(line));
+  if (act_) act_(line);
 }
 
 void Journal::Complete() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <functional>
 #include <map>
 #include <optional>
 #include <string>
@@ -47,6 +48,10 @@ class Journal {
   void WatchFile(const std::string& path, const std::string& name);
   void WatchText(const std::string& path, const std::string& name);
 
+  // From now on does `act` with each line that is noted, in the middle of that call. It may throw,
+  // as the call then does.
+  void WhenNoted(std::function<void(const std::string& line)> act) { act_ = std::move(act); }
+
   // What `window` is called.
   void NameWindow(HWND window, const std::string& name) { windows_[window] = name; }
   std::string WindowName(HWND window) const;
@@ -74,6 +79,7 @@ class Journal {
   std::vector<WatchedFile> files_;
   std::vector<std::pair<std::string, std::string>> abbreviations_;
   std::map<HWND, std::string> windows_;
+  std::function<void(const std::string&)> act_;
 };
 
 }  // namespace test
