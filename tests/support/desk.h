@@ -47,6 +47,7 @@ class Desk {
 
   // Answers the dialogs to come, one after the other.
   void Expect(DialogAnswer answer) { answers_.push_back(std::move(answer)); }
+  void ExpectNoMore() { answers_.clear(); }
   bool AllAnswered() const { return answers_.empty(); }
 
   // The button for questions, or for each one.

@@ -4,6 +4,7 @@
 #include "plugin/export_htr/export_htr.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
+#include "tests/support/posix/journal/each_call_failing.h"
 #include "tests/support/posix/journal/journal_stage.h"
 
 // What an export asks of its host, call by call.
@@ -143,6 +144,15 @@ TEST(ExportHTRJournal, Refused) {
     std::filesystem::create_directory(stage.Path() + "/");
   }));
   Expect("refused", lines);
+}
+
+// Thrown by any call of the host and the system, of nodes, objects and dialogs.
+TEST(ExportHTRJournal, NothingThrownLeavesTheExporter) {
+  const int calls = test::EachCallFailing<Stage>([](Stage& stage) {
+    KeepBase(stage.hips);
+    (void)stage.ExportWith([](host::ScriptedDialog& dialog) { dialog.Click(kOk); });
+  });
+  EXPECT_GT(calls, 60);
 }
 
 }  // namespace

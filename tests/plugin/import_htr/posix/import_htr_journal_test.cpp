@@ -5,6 +5,7 @@
 #include "tests/plugin/import_htr/posix/two_bones.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
+#include "tests/support/posix/journal/each_call_failing.h"
 #include "tests/support/posix/journal/journal_stage.h"
 
 // What an import asks of its host, call by call.
@@ -250,6 +251,23 @@ TEST(ImportHTRJournal, FileRefused) {
   HtrText file = TwoBones();
   file.segments[1].name = "Hips";
   Expect("file_refused", stage.Import(file));
+}
+
+// --- Exceptions ---
+
+// Thrown by any call of the host and the system, of nodes, controllers, objects and dialogs.
+TEST(ImportHTRJournal, NothingThrownLeavesTheImporter) {
+  const int calls = test::EachCallFailing<Stage>([](Stage& stage) {
+    PrepareEndEffectors(stage);
+    stage.options.animate = true;
+    stage.options.keyBasePosition = true;
+    stage.options.rotationController = 1;
+    (void)stage.ImportWith([](host::ScriptedDialog& dialog) {
+      dialog.Click(kSetFrameRate);
+      dialog.Click(kOk);
+    });
+  });
+  EXPECT_GT(calls, 150);
 }
 
 }  // namespace

@@ -4,6 +4,7 @@
 #include "plugin/import_trc/import_trc.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
+#include "tests/support/posix/journal/each_call_failing.h"
 #include "tests/support/posix/journal/journal_stage.h"
 #include "tests/support/trc_text.h"
 
@@ -215,6 +216,20 @@ TEST(ImportTRCJournal, AHundredMarkers) {
     if (line.rfind("progress", 0) == 0) progress.push_back(line);
   }
   Expect("hundred_markers", progress);
+}
+
+// --- Exceptions ---
+
+// Thrown by any call of the host and the system, of nodes, controllers, objects and dialogs.
+TEST(ImportTRCJournal, NothingThrownLeavesTheImporter) {
+  for (const bool spheres : {false, true}) {
+    const int calls = test::EachCallFailing<Stage>([spheres](Stage& stage) {
+      PrepareSpheres(stage);
+      stage.options.geometry = spheres;
+      (void)stage.ImportWith([](host::ScriptedDialog& dialog) { dialog.Click(kOk); });
+    });
+    EXPECT_GT(calls, 80);
+  }
 }
 
 }  // namespace

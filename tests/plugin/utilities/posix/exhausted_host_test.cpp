@@ -5,6 +5,7 @@
 #include "plugin/utilities/convert_bvk.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 #include "tests/support/bone_nodes.h"
+#include "tests/support/posix/journal/each_call_failing.h"
 #include "tests/support/trc_text.h"
 
 // What the utilities do when there is no memory: nothing is thrown over the border.
@@ -14,6 +15,8 @@ namespace {
 
 constexpr int kBrowseMapping = 1132;
 constexpr int kCreateMapping = 1203;
+constexpr int kAbort = 1154;
+constexpr int kConvert = 1200;
 
 // Has no memory for its messages, or for saying which its window is.
 class ExhaustedHost final : public ForwardingInterface {
@@ -84,6 +87,51 @@ TEST(ExhaustedHost, TheMappingCreatorEndsLikeAnAbortion) {
                           "message \"MNM File Creation Status\": "
                           "\"There is not enough memory to create the mapping file.\""}));
   stage.Close();
+}
+
+// A panel whose user chooses a mapping, begins another one and converts a file.
+struct BusyStage : UtilitiesStage {
+  BusyStage() {
+    StoreFlag("Offset", true);
+    AddDummy(scene(), "Thing");
+    desk.Act([this] {
+      if (++waits < 4) {
+        application.picking().Click(scene().FindByName("Thing"));
+      } else {
+        desk.desktop().ShownDialog(117)->Click(kAbort);
+      }
+      return true;
+    });
+    const std::string mapping = folder.Write("made.mnm", "");
+    const TrcText take{.markers = {"Head1"}, .frames = {{"1\t2\t3"}}};
+    const std::string source = folder.Write("walk.trc", take.Text());
+    desk.ChooseFiles([=](const host::ShownFileDialog& dialog) {
+      const bool is_source = dialog.title == "Select Source TRC Files...";
+      return host::FileChoice{{is_source ? source : mapping}, true};
+    });
+    Make();
+    journal.Take();
+  }
+
+  int waits = 0;
+};
+
+// By any call of the host and the system, of nodes, edit controls and dialogs.
+TEST(ExhaustedHost, NothingThrownLeavesThePanel) {
+  const int calls = EachCallFailing<BusyStage>([](BusyStage& stage) {
+    stage.Open();
+    for (const int button : {kBrowseMapping, kCreateMapping, kConvert}) {
+      host::ScriptedDialog* const page = stage.desk.desktop().ShownDialog(116);
+      if (page != nullptr) page->Click(button);
+    }
+    stage.Close();
+    EXPECT_EQ(stage.application.rollup_pages().Open().size(), 0U);
+    EXPECT_EQ(stage.application.HeldCustomEdits(), 0);
+    EXPECT_EQ(stage.desk.desktop().ShownDialog(117), nullptr);
+    EXPECT_FALSE(stage.application.picking().IsActive());
+    EXPECT_TRUE(stage.application.callbacks().ExitCallbacks().empty());
+  });
+  EXPECT_GT(calls, 80);
 }
 
 }  // namespace
