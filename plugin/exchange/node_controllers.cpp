@@ -25,12 +25,11 @@ bool SetControllerValue(Control* controller, TimeValue time, const void* value) 
   return true;
 }
 
-void ClearKeys(std::initializer_list<Control*> controllers, const KeyTimes& times) {
+void ClearKeys(Control* first, Control* second, const KeyTimes& times) {
   const std::int64_t end = times.EndTick();
   for (std::int64_t tick = times.BeginTick(); tick < end; ++tick) {
-    for (Control* const controller : controllers) {
-      if (controller != nullptr) controller->DeleteKeyAt(static_cast<TimeValue>(tick));
-    }
+    if (first != nullptr) first->DeleteKeyAt(static_cast<TimeValue>(tick));
+    if (second != nullptr) second->DeleteKeyAt(static_cast<TimeValue>(tick));
   }
 }
 

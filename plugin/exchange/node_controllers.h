@@ -1,7 +1,5 @@
 #pragma once
 
-#include <initializer_list>
-
 #include "plugin/exchange/key_times.h"
 #include "sdk/core/control.h"
 #include "sdk/core/node.h"
@@ -17,9 +15,9 @@ Control* RotationController(INode& node);
 // Returns false, setting nothing, when the controller does not accept a value now or is null.
 bool SetControllerValue(Control* controller, TimeValue time, const void* value);
 
-// Deletes the keys of `controllers`, of which any may be null, from the first tick of `times` to
-// the last: at each tick those of all of them. Intended: at every tick, not only the frames', so
-// that keys made at another frame rate go too.
-void ClearKeys(std::initializer_list<Control*> controllers, const KeyTimes& times);
+// Deletes the keys of two controllers, either of which may be null, from the first tick of `times`
+// to the last: at each tick those of both. Intended: at every tick, not only the frames', so that
+// keys made at another frame rate go too.
+void ClearKeys(Control* first, Control* second, const KeyTimes& times);
 
 }  // namespace orvane

@@ -20,7 +20,7 @@ SegmentKeyer::SegmentKeyer(Interface& interface, const ImportHTROptions& options
       rotation_(RotationController(node)) {}
 
 bool SegmentKeyer::Run() {
-  ClearKeys({position_, rotation_}, times_);
+  ClearKeys(position_, rotation_, times_);
   if (options_.rotationController != 0) InstallTcbController();
 
   SuspendAnimate();

@@ -91,7 +91,7 @@ INode* MarkerCloud::NodeFor(const TRCMarker& marker) {
 }
 
 bool MarkerCloud::KeyMarker(const TRCMarker& marker, Control* position) {
-  ClearKeys({position}, *times_);
+  ClearKeys(position, nullptr, *times_);
   SuspendAnimate();
   AnimateOn();
   if (!KeyFrames(marker, position)) return false;

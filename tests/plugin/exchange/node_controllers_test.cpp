@@ -43,7 +43,7 @@ TEST_F(NodeControllersTest, LoseTheKeysOfEveryTickButNoOthers) {
   for (const TimeValue tick : {-1, 0, 1, 159, 160, 319, 320, 321}) {
     SetControllerValue(&position_, tick, &value);
   }
-  ClearKeys({nullptr, &position_}, KeyTimes(160, 0, 2));
+  ClearKeys(nullptr, &position_, KeyTimes(160, 0, 2));
   ASSERT_EQ(position_.KeyCount(), 3u);
   EXPECT_EQ(position_.KeyTick(0), -1);
   EXPECT_EQ(position_.KeyTick(1), 320);
