@@ -1,0 +1,44 @@
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <utility>
+
+#include "host/application/application.h"
+#include "platform/module.h"
+#include "plugin/import_trc/import_trc.h"
+#include "tests/support/desk.h"
+#include "tests/support/posix/memory_in_use.h"
+#include "tests/support/temporary_folder.h"
+#include "tests/support/trc_text.h"
+
+// What an importer keeps of a file between two imports.
+
+namespace orvane {
+namespace {
+
+constexpr int kOk = 1097;
+constexpr int kCancel = 1098;
+
+constexpr int kFrames = 5000;
+constexpr std::size_t kLittle = 50'000;  // bytes; the document of the file takes more
+
+TEST(ImportTRCMemory, NothingOfAFileIsKept) {
+  test::TemporaryFolder folder;
+  test::TrcText file{.markers = {"Head"}};
+  file.frames.assign(kFrames, {"1\t2\t3"});
+  const std::string path = folder.Write("walk.trc", file.Text());
+  for (const int button : {kOk, kCancel}) {
+    SCOPED_TRACE(button);
+    test::Desk desk;
+    desk.Expect([button](host::ScriptedDialog& dialog) { dialog.Click(button); });
+    host::Application application;
+    ImportTRCOptions options;
+    MessageSink sink;
+    auto importer = std::make_unique<ImportTRC>(options, sink, platform::ModuleHandle());
+    EXPECT_EQ(importer->DoImport(path.c_str(), nullptr, &application.plugin_interface(), 0), 1);
+    EXPECT_LT(test::MemoryHeldBy(std::move(importer)), kLittle);
+  }
+}
+
+}  // namespace
+}  // namespace orvane
