@@ -105,16 +105,17 @@ std::optional<MappingCreator::StepAnswer> MappingCreator::PickStep(const MarkerS
   return answer;
 }
 
-// Returns false when the creation is to be aborted.
+// A button that was pressed meanwhile ends the pick without an entry. Returns false when the
+// creation is to be aborted.
 bool MappingCreator::PickMarker(const StandardMarker& marker) {
   if (!WaitForPick()) return false;
-  if (INode* const node = services_.pick.PickedNode()) AddPicked(marker, *node);
-  if (ended_) return false;
-  if (dialog_.Pressed() == Button::kBack) GoBack();
+  INode* const node = services_.pick.PickedNode();
+  if (node != nullptr && dialog_.Pressed() == Button::kNone) AddPicked(marker, *node);
   return !ended_;
 }
 
-// Lets the user pick. Returns false when he aborts, and when there is nobody who could pick.
+// Lets the user pick, or takes the last entry back. Returns false when he aborts, and when there is
+// nobody who could pick.
 bool MappingCreator::WaitForPick() {
   pending_.emplace(*interface_, services_.pick);
   pending_->Begin();
@@ -122,6 +123,7 @@ bool MappingCreator::WaitForPick() {
   while (!ended_ && pending_->IsWaiting() && dialog_.Pressed() == Button::kNone) {
     interface_->ProcessPendingMessages();
   }
+  if (!ended_ && dialog_.Pressed() == Button::kBack) GoBack();
   const bool host_exits = pending_->HostIsExiting();
   pending_->End();
   pending_.reset();

@@ -296,6 +296,24 @@ TEST_F(MappingCreatorTest, TakesBackNothingThatIsNotThere) {
   EXPECT_EQ(Made(), FileOf(kCodes));
 }
 
+TEST_F(MappingCreatorTest, AButtonGoesBeforeAPickOfTheSameMoment) {
+  Plan("RBHD", [this] {
+    Pick("RBHD");
+    Creator().Click(kBack);
+  });
+  Plan("LILB", [this] {
+    Pick("LILB");
+    Creator().Click(kSkip);
+  });
+  Create();
+  const std::vector<std::string> begin(asked_.begin(), asked_.begin() + 6);
+  EXPECT_THAT(begin, ElementsAre("LFHD", "LBHD", "RBHD", "LBHD", "RBHD", "RFHD"));
+  std::vector<std::string> codes = kCodes;
+  codes.erase(std::find(codes.begin(), codes.end(), "LILB"));
+  EXPECT_EQ(Made(), FileOf(codes));
+  ExpectNothingLeft();
+}
+
 // --- Picks that end otherwise ---
 
 TEST_F(MappingCreatorTest, AsksAgainAfterARightClick) {
