@@ -28,7 +28,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr char kLogName[] = "/ConvertBVKLog.txt";
 constexpr char kEmptyMapping[] = "/nothing.mnm";
 constexpr char kNamesFolder[] = "/names";  // one folder for each output, named like it
 
@@ -162,7 +161,7 @@ class BatchConversion {
     sources.reserve(run.size());
     for (const Conversion* conversion : run) sources.push_back(conversion->source);
     panel.ConvertBatch(sources, scratch.Path());
-    const std::string log = ReadText(scratch.Path() + kLogName);
+    const std::string log = ReadText(LogIn(scratch.Path()));
     const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
     std::size_t told = 0;
     for (std::size_t at = 0; at < files.size(); ++at) {

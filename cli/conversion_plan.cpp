@@ -4,11 +4,14 @@
 #include <cstdint>
 #include <filesystem>
 #include <map>
+#include <set>
 #include <system_error>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 #include "cli/output_complaint.h"
+#include "cli/replaced_input.h"
 #include "host/application/extension_match.h"
 #include "platform/file_place.h"
 #include "platform/input_file.h"
@@ -86,13 +89,29 @@ Conversion Plan(const std::string& name, const OutputWishes& wishes) {
   return conversion;
 }
 
-// Refuses what would make one output of two inputs, or replace an input.
-void RequireOutputsApart(const std::vector<Conversion>& conversions) {
-  std::vector<Complaint> complaints;
-  std::unordered_map<std::string, const Conversion*> inputs;
+// The places of all that is read.
+std::unordered_set<std::string> PlacesRead(const std::vector<Conversion>& conversions,
+                                           const std::string& mapping) {
+  std::unordered_set<std::string> places;
   for (const Conversion& conversion : conversions) {
-    inputs.emplace(platform::PlaceOf(conversion.input), &conversion);
+    places.insert(platform::PlaceOf(conversion.input));
   }
+  if (!mapping.empty()) places.insert(platform::PlaceOf(mapping));
+  return places;
+}
+
+std::set<std::string> LogsOf(const std::vector<Conversion>& conversions) {
+  std::set<std::string> logs;
+  for (const Conversion& conversion : conversions) {
+    logs.insert(LogIn(FolderOf(conversion.output)));
+  }
+  return logs;
+}
+
+// Refuses what would make one output of two inputs, or replace what is read.
+void RequireOutputsApart(const std::vector<Conversion>& conversions, const OutputWishes& wishes) {
+  std::vector<Complaint> complaints;
+  const std::unordered_set<std::string> read = PlacesRead(conversions, wishes.mapping);
   std::unordered_map<std::string, const Conversion*> outputs;
   for (const Conversion& conversion : conversions) {
     const std::string output = platform::PlaceOf(conversion.output);
@@ -102,8 +121,11 @@ void RequireOutputsApart(const std::vector<Conversion>& conversions) {
                             "the output of " + other->second->input + " and of " + conversion.input,
                             ""});
     }
-    if (inputs.count(output) != 0) {
-      complaints.push_back({conversion.output, "is an input, and would be an output too", ""});
+    if (read.count(output) != 0) complaints.push_back(ReplacesInput(conversion.output));
+  }
+  if (wishes.logged && wishes.replace) {
+    for (const std::string& log : LogsOf(conversions)) {
+      if (read.count(platform::PlaceOf(log)) != 0) complaints.push_back(ReplacesInput(log));
     }
   }
   if (!complaints.empty()) throw Failure{ExitStatus::kWrongUsage, complaints};
@@ -151,7 +173,7 @@ std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
   std::vector<Conversion> conversions;
   conversions.reserve(inputs.size());
   for (const std::string& input : inputs) conversions.push_back(Plan(input, wishes));
-  RequireOutputsApart(conversions);
+  RequireOutputsApart(conversions, wishes);
   return conversions;
 }
 
@@ -192,6 +214,11 @@ std::string PathForPanel(const std::string& name) {
 std::string FolderOf(const std::string& path) {
   const std::string folder = FolderPartOf(path);
   return folder.empty() ? "." : folder;
+}
+
+std::string LogIn(const std::string& folder) {
+  const std::string name = "ConvertBVKLog.txt";
+  return folder == "." ? name : folder + "/" + name;
 }
 
 }  // namespace cli

@@ -14,11 +14,14 @@ struct OutputWishes {
   std::string file;    // the one to make, a BVK file by its name; empty: named after the input
   std::string folder;  // for all outputs; empty: each beside its input
   bool replace = false;
+  std::string mapping;  // the file that is read beside the inputs; empty: none
+  bool logged = false;  // whether a log is written into each folder of outputs
 };
 
 // The conversions that `inputs` ask for, in their order. Those that cannot be begun, because the
 // input is missing or the output exists, have their status and complaint already. Throws a Failure
-// for wrong usage: two inputs with one output, an output that is an input.
+// for wrong usage: two inputs with one output; an output, or a log that replaces what is there,
+// that is an input or the mapping.
 std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
                                         const OutputWishes& wishes);
 
@@ -41,5 +44,8 @@ std::string PathForPanel(const std::string& name);
 
 // The folder that `path` lies in; "." for a name alone.
 std::string FolderOf(const std::string& path);
+
+// The log of the conversions whose outputs lie in `folder`.
+std::string LogIn(const std::string& folder);
 
 }  // namespace cli

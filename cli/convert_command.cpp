@@ -70,12 +70,12 @@ Failure WrongUsage(const std::string& flag, const std::string& text) {
 class Converting {
  public:
   explicit Converting(const ConvertArguments& arguments)
-      : arguments_(arguments), order_(arguments.order) {}
+      : arguments_(arguments), wishes_(arguments.output), order_(arguments.order) {}
 
   ExitStatus Run() {
     platform::CatchInterrupts();
     Prepare();
-    conversions_ = PlanConversions(arguments_.inputs, arguments_.output);
+    conversions_ = PlanConversions(arguments_.inputs, wishes_);
     if (arguments_.dry_run) return ShowPreview();
     RequireFolder(arguments_.output.folder);
     CarryOut(MakeBatches(conversions_, arguments_.jobs));
@@ -102,6 +102,8 @@ class Converting {
     order_.replace = arguments_.output.replace;
     // The plug-in makes nothing of a broken file that is alone.
     order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
+    wishes_.mapping = order_.mapping;
+    wishes_.logged = !order_.single;
     if (order_.mapping.empty()) return;
     const std::string reason = platform::WhyUnreadable(order_.mapping);
     if (!reason.empty()) {
@@ -193,7 +195,7 @@ class Converting {
 
   void DeliverLogs() {
     for (const auto& [folder, log] : logs_) {
-      const std::string path = folder == "." ? kLogName : folder + "/" + kLogName;
+      const std::string path = LogIn(folder);
       platform::OutputFile file(path, order_.replace);
       std::string error = file.WhyImpossible();
       if (error.empty()) error = file.Write(log);
@@ -225,9 +227,8 @@ class Converting {
     return status;
   }
 
-  static constexpr char kLogName[] = "ConvertBVKLog.txt";
-
   const ConvertArguments& arguments_;
+  OutputWishes wishes_;
   ConversionOrder order_;
   std::vector<Conversion> conversions_;
   std::vector<std::pair<std::string, std::string>> logs_;  // by folder, in the order of the inputs

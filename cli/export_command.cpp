@@ -13,6 +13,7 @@
 #include "cli/messages.h"
 #include "cli/motion_output.h"
 #include "cli/plugin_session.h"
+#include "cli/replaced_input.h"
 #include "cli/scene_input.h"
 #include "cli/selection.h"
 #include "cli/warnings.h"
@@ -64,6 +65,7 @@ void PrintSummary(const ExportArguments& arguments, const MotionOutput& output,
 ExitStatus Export(const ExportArguments& arguments) {
   platform::CatchInterrupts();
   MotionOutput output(arguments.output, arguments.force);
+  RequireNoInput(output.Path(), {arguments.input});
   PluginSession session(arguments.module, arguments.settings);
   ReadSceneFile(arguments.input, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);

@@ -16,6 +16,7 @@
 #include "cli/interruption.h"
 #include "cli/marker_targets.h"
 #include "cli/plugin_session.h"
+#include "cli/replaced_input.h"
 #include "cli/scene_input.h"
 #include "cli/scene_output.h"
 #include "cli/selection.h"
@@ -130,6 +131,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
   const std::string input = ReadableFile(arguments.input, kind);
+  RequireNoInput(arguments.output, {input});
   try {
     return ImportFile(input, kind, arguments);
   } catch (Failure& failure) {

@@ -15,6 +15,7 @@
 #include "cli/output_complaint.h"
 #include "cli/picks_table.h"
 #include "cli/read_back.h"
+#include "cli/replaced_input.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
@@ -82,6 +83,7 @@ std::string FolderOf(const std::string& path) {
 ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   platform::CatchInterrupts();
   const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
+  RequireNoInput(arguments.output, {input, arguments.picks});
   platform::OutputFile output(arguments.output, arguments.force);
   if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
     throw CannotWrite(arguments.output, output, reason);

@@ -87,6 +87,31 @@ TEST_F(ConvertOutputsTest, RefusesToReplaceAnInput) {
   EXPECT_EQ(Read("walk.bvk"), Take());
 }
 
+TEST_F(ConvertOutputsTest, RefusesToReplaceTheMapping) {
+  Write("walk.trc", Take());
+  Write("names.bvk", "LFHD Head\n");
+  const ProgramResult result =
+      Convert({"walk.trc", "--mapping", "./names.bvk", "-o", "names.bvk", "--force"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: names.bvk: is an input, and would be an output too\n");
+  EXPECT_EQ(Read("names.bvk"), "LFHD Head\n");
+}
+
+// The log of a batch is an output that nobody has named.
+TEST_F(ConvertOutputsTest, RefusesToReplaceAnInputByTheLog) {
+  MakeFolder("in");
+  Write("in/ConvertBVKLog.txt", Take());
+  Write("in/walk.trc", Take());
+  const std::vector<std::string> both = {"in/ConvertBVKLog.txt", "in/walk.trc", "--force"};
+  const ProgramResult result = Convert(both);
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(Slashed(result.error),
+            "orvane: in/ConvertBVKLog.txt: is an input, and would be an output too\n");
+  EXPECT_EQ(Read("in/ConvertBVKLog.txt"), Take());
+  EXPECT_EQ(Convert({"in/ConvertBVKLog.txt", "--force"}).status, 0) << "no log of a single file";
+  EXPECT_EQ(Convert({both[0], both[1], "--force", "--output-dir", "."}).status, 0);
+}
+
 TEST_F(ConvertOutputsTest, GroupsFilesByTheirFolders) {
   MakeFolder("one");
   MakeFolder("two");

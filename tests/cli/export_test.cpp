@@ -299,6 +299,16 @@ TEST_F(ExportTest, ForceReplacesIt) {
   EXPECT_THAT(Read("out.htr"), StartsWith("# Orvane HTR"));
 }
 
+TEST_F(ExportTest, ForceDoesNotReplaceTheScene) {
+  std::filesystem::rename(folder_.File("scene.glb"), folder_.File("scene.htr"));
+  const std::string scene = Read("scene.htr");
+  const ProgramResult result =
+      Orvane({"export", "scene.htr", "-o", "./scene", "--select", "Hips", "--force"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: ./scene.htr: is an input, and would be an output too\n");
+  EXPECT_EQ(Read("scene.htr"), scene);
+}
+
 TEST_F(ExportTest, ForceKeepsTheOldFileWhenTheExportIsRefused) {
   Write("out.htr", "the old motion");
   EXPECT_EQ(Export({"--force", "--scale", "0"}).status, 1);

@@ -123,6 +123,19 @@ TEST_F(MapCreateTest, KeepsAFileThatExists) {
   EXPECT_EQ(ReadText("set.mnm"), MappingOf(kNeeded));
 }
 
+TEST_F(MapCreateTest, DoesNotReplaceWhatItReads) {
+  Write("walk.trc", MarkerFile(kNeeded));
+  Write("picks", Table(kNeeded));
+  for (const std::string name : {"walk.trc", "picks"}) {
+    const ProgramResult result =
+        Orvane({"map", "create", "walk.trc", "-o", "./" + name, "--picks", "picks", "--force"});
+    EXPECT_EQ(result.status, 2) << name;
+    EXPECT_EQ(result.error, "orvane: ./" + name + ": is an input, and would be an output too\n");
+  }
+  EXPECT_EQ(Read("walk.trc"), MarkerFile(kNeeded));
+  EXPECT_EQ(Read("picks"), Table(kNeeded));
+}
+
 TEST_F(MapCreateTest, SaysWhyTheMarkerFileIsRefused) {
   Write("walk.trc", "PathFileType\t4\t(X/Y/W)\twalk.trc\n");
   Write("picks", Table(kNeeded));

@@ -77,6 +77,15 @@ TEST_F(OutputTest, ForceKeepsTheOldFileWhenTheImportIsRefused) {
   EXPECT_EQ(Read("walk.glb"), "the old scene");
 }
 
+TEST_F(OutputTest, ForceDoesNotReplaceTheInput) {
+  std::filesystem::rename(folder_.File("walk.htr"), folder_.File("walk.glb"));
+  const ProgramResult result =
+      Orvane({"import", "walk.glb", "--as", "htr", "-o", "./walk.glb", "--force"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: ./walk.glb: is an input, and would be an output too\n");
+  EXPECT_EQ(Read("walk.glb"), test::SmallMotion());
+}
+
 TEST_F(OutputTest, ADirectoryIsNeverReplaced) {
   std::filesystem::create_directory(folder_.File("walk.glb"));
   ExpectCannotWrite(Import("walk.glb"), "walk.glb: Is a directory\n");
