@@ -11,9 +11,9 @@
 namespace cli::htr {
 
 // The whole file, by TextFlaw
-inline constexpr std::array<FindingRule, kTextFlaws> kFlaws = {
-    Error("htr-empty"), Error("htr-encoding"), Error("htr-line-ends"),
-    Error("htr-first-section-lost")};
+inline constexpr std::array<FindingRule, 4> kFlaws = {Error("htr-empty"), Error("htr-encoding"),
+                                                      Error("htr-line-ends"),
+                                                      Error("htr-first-section-lost")};
 
 // Lines
 inline constexpr FindingRule kByteOrderMark = Note("htr-byte-order-mark");

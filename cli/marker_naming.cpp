@@ -40,7 +40,7 @@ MarkerNaming::MarkerNaming(const std::string& mapping) : use_mapping_(!mapping.e
   if (!bytes || !mapping_.Load(mapping)) {
     throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
   }
-  if (const auto flaw = FindTextFlaw(*bytes)) flaw_ = ComplainAboutFlaw(mapping, *flaw);
+  if (const auto flaw = FindMappingTextFlaw(*bytes)) flaw_ = ComplainAboutFlaw(mapping, *flaw);
 }
 
 std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) const {

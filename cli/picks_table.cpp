@@ -28,7 +28,9 @@ PicksTable::PicksTable(const std::string& path, const std::vector<std::string>& 
   Read(path);
   CheckSteps(sticks);
   CheckMarkers(names);
-  if (!complaints_.empty()) throw Failure{ExitStatus::kRefused, complaints_};
+  if (complaints_.empty()) return;
+  if (flaw_) complaints_.insert(complaints_.begin(), ComplainAboutFlaw(path_, *flaw_));
+  throw Failure{ExitStatus::kRefused, complaints_};
 }
 
 std::optional<std::string> PicksTable::PickFor(const std::string& standard_name) const {
@@ -49,6 +51,7 @@ void PicksTable::Read(const std::string& path) {
       reason.empty() ? orvane::ReadFileBytes(path) : std::nullopt;
   if (reason.empty() && !bytes) reason = "The file cannot be read to its end";
   if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
+  flaw_ = FindMappingTextFlaw(*bytes);
   orvane::LineReader reader(*bytes);
   orvane::Line line;
   while (reader.Next(line)) ReadLine(line.text, line.number);

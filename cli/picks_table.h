@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "cli/failure.h"
+#include "cli/text_flaw.h"
 #include "plugin/mnm/marker_name_map.h"
 #include "plugin/mnm/standard_markers.h"
 
@@ -44,6 +45,7 @@ class PicksTable {
   std::map<std::string, std::string> picks_;  // by standard name, without those to skip
   std::map<std::string, std::size_t> lines_;  // by standard name
   std::vector<Complaint> complaints_;
+  std::optional<TextFlaw> flaw_;
 };
 
 }  // namespace cli

@@ -33,6 +33,9 @@ constexpr std::array<Words, kTextFlaws> kWords = {{
     {"A byte-order mark keeps the first line from being a section line",
      "Save it without a byte-order mark.", "a byte-order mark before a section line",
      "[ as the first character"},
+    {"A byte-order mark belongs to the first name, which is then not what it looks like",
+     "Save it without a byte-order mark.", "a byte-order mark before a name",
+     "a name at the start"},
 }};
 
 const Words& WordsFor(TextFlaw flaw) { return kWords[static_cast<std::size_t>(flaw)]; }
@@ -72,6 +75,14 @@ bool EndsLinesWithReturns(std::string_view bytes) {
   return returns > kReturnsForAFeed * feeds;
 }
 
+// The byte-order mark that `bytes` start with; empty when there is none.
+std::string_view MarkAtStart(std::string_view bytes) {
+  for (const std::string_view mark : {kUtf8Mark, kUtf16Marks[0], kUtf16Marks[1]}) {
+    if (bytes.starts_with(mark)) return mark;
+  }
+  return {};
+}
+
 }  // namespace
 
 std::optional<TextFlaw> FindTextFlaw(std::string_view bytes) {
@@ -83,12 +94,14 @@ std::optional<TextFlaw> FindTextFlaw(std::string_view bytes) {
 
 std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes) {
   if (const auto flaw = FindTextFlaw(bytes)) return flaw;
-  for (const std::string_view mark : {kUtf8Mark, kUtf16Marks[0], kUtf16Marks[1]}) {
-    if (bytes.starts_with(mark) && bytes.substr(mark.size()).starts_with('[')) {
-      return TextFlaw::kMarkedSection;
-    }
-  }
-  return std::nullopt;
+  const std::string_view mark = MarkAtStart(bytes);
+  const bool is_marked = !mark.empty() && bytes.substr(mark.size()).starts_with('[');
+  return is_marked ? std::optional(TextFlaw::kMarkedSection) : std::nullopt;
+}
+
+std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes) {
+  if (const auto flaw = FindTextFlaw(bytes)) return flaw;
+  return MarkAtStart(bytes).empty() ? std::nullopt : std::optional(TextFlaw::kMarkedName);
 }
 
 Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw) {

@@ -18,13 +18,16 @@ enum class TextFlaw {
   kUtf16,            // in either byte order, with or without a byte-order mark
   kCarriageReturns,  // lines end with them alone, so that none ends
   kMarkedSection,    // of HTR: a byte-order mark keeps the first line from being a section line
+  kMarkedName,       // of mappings: a byte-order mark belongs to the first name
 };
-inline constexpr std::size_t kTextFlaws = 4;
+inline constexpr std::size_t kTextFlaws = 5;
 
-// The flaw of a file with these `bytes`; nothing when it has none. Those of marker and mapping
-// files are never kMarkedSection.
+// The flaw of a file with these `bytes`; nothing when it has none. FindTextFlaw knows those that a
+// file of any kind can have, the others also the one of motion files, or of mappings and tables of
+// picks.
 std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
 std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
+std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes);
 
 // `flaw` of `file` as a complaint, with advice.
 Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw);

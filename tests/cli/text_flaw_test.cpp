@@ -253,6 +253,31 @@ TEST_F(MarkedTextTest, ThatHarmsNothingIsANote) {
   }
 }
 
+TEST_F(MarkedTextTest, OfAMappingBelongsToItsFirstName) {
+  Write("walk.trc", Markers());
+  Write("map.mnm", kMark + "LFHD\tHead\n"s);
+  const ProgramResult result = Orvane({"convert", "walk.trc", "--mapping", "map.mnm", "--quiet"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: map.mnm: A byte-order mark belongs to the first name, which is then not what "
+            "it looks like\n  Save it without a byte-order mark.\n");
+}
+
+TEST_F(MarkedTextTest, IsTheCauseOfWhatATableOfPicksIsRefusedFor) {
+  Write("walk.trc", Markers());
+  for (const auto& [bytes, cause] :
+       {std::pair(kMark + "LFHD\tHead\n"s, "A byte-order mark belongs to the first name"s),
+        std::pair(LittleEndian("LFHD\tHead\n"), "The file is UTF-16 text"s),
+        std::pair(""s, "The file is empty"s)}) {
+    Write("picks", bytes);
+    const ProgramResult result =
+        Orvane({"map", "create", "walk.trc", "-o", "map.mnm", "--picks", "picks"});
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error, StartsWith("orvane: picks: " + cause));
+    EXPECT_THAT(result.error, HasSubstr("orvane: picks: LFHD cannot be skipped"));
+  }
+}
+
 // A second header makes up for the first.
 TEST_F(MarkedTextTest, OfAFileThatIsTakenAllTheSameIsNoCause) {
   Write("walk.htr", kMark + "[Notes]\n"s + SmallMotion());
