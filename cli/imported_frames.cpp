@@ -46,7 +46,9 @@ std::optional<Complaint> CompareCounts(const std::string& file, const ImportedFr
                      "Missing frames are set to zero; --range FROM:TO leaves them out."};
   }
   if (counts.announced < counts.most_held && !is_part) {
-    return Complaint{file, DescribeDifference(counts), "Only the announced frames are imported."};
+    return Complaint{file, DescribeDifference(counts),
+                     counts.announced > 0 ? "Only the announced frames are imported."
+                                          : "None of them is imported."};
   }
   return std::nullopt;
 }

@@ -49,6 +49,17 @@ TEST_F(FrameCountsTest, FewerAnnouncedThanHeldIsAWarning) {
             "  Only the announced frames are imported.\n");
 }
 
+TEST_F(FrameCountsTest, WithoutAnyAnnouncedNothingIsImported) {
+  for (const char* none : {"0", "-5"}) {
+    const ProgramResult result = Import(none);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error,
+                StartsWith("orvane: walk.htr: The header announces 0 frames, but the file holds 3\n"
+                           "  None of them is imported.\n"
+                           "orvane: walk.htr: Please choose a start frame that is less than"));
+  }
+}
+
 TEST_F(FrameCountsTest, SegmentsThatDifferAreAWarning) {
   Write("walk.htr", Replaced(SmallMotion(), "3 0 0 0 10 0 0 1\n", ""));
   const ProgramResult result = ImportFile();
