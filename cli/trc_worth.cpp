@@ -86,7 +86,7 @@ void RefuseForeignRate(Conversion& conversion) {
   conversion.status = ConversionStatus::kRefused;
   conversion.errors.push_back({conversion.input,
                                "The file ends before its third line, which tells its rates",
-                               "It would be written with the camera rate of another file."});
+                               "It would be written with a camera rate that is not its own."});
 }
 
 RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {

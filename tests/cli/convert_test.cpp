@@ -143,7 +143,7 @@ TEST_F(ConvertTest, RefusesFilesThatEndBeforeTheirRates) {
           result.error,
           cause +
               "orvane: short.trc: The file ends before its third line, which tells its rates\n"
-              "  It would be written with the camera rate of another file.\n");
+              "  It would be written with a camera rate that is not its own.\n");
       EXPECT_THAT(result.output, HasSubstr("short.bvk  refused\n"));
       EXPECT_FALSE(Exists("short.bvk"));
     }
