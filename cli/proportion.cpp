@@ -13,6 +13,7 @@ using orvane::FormatInt;
 constexpr std::int64_t kAlwaysAllowed = 1'000'000;
 constexpr std::int64_t kTimesHeld = 10;
 constexpr std::int64_t kMostDeletions = 500'000'000;
+constexpr std::int64_t kSamplesAlwaysAllowed = 5'000'000;
 
 // The largest number where the product is larger still.
 std::int64_t Product(std::int64_t left, std::int64_t right) {
@@ -38,6 +39,12 @@ std::string WhyOutOfProportion(const MadeUpFrames& made_up) {
            ", and " + FormatInt(kMostDeletions) + " are the most";
   }
   return "";
+}
+
+std::string WhyTooShort(std::int64_t bytes, std::int64_t frames, std::int64_t markers) {
+  if (Product(frames, markers) <= std::max(kSamplesAlwaysAllowed, bytes)) return "";
+  return "The file is far too short for " + FormatInt(frames) + " frames of " + FormatInt(markers) +
+         " markers";
 }
 
 }  // namespace cli

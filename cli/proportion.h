@@ -23,4 +23,9 @@ struct MadeUpFrames {
 // more than 500 million deletions may clear their place.
 std::string WhyOutOfProportion(const MadeUpFrames& made_up);
 
+// Why a marker file of `bytes` is far too short for `frames` of `markers`; empty when it is not. A
+// line may lack most of its columns, and still make a sample of each. Five million of them may be
+// made; beyond that the file has a byte for each.
+std::string WhyTooShort(std::int64_t bytes, std::int64_t frames, std::int64_t markers);
+
 }  // namespace cli

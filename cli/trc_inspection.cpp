@@ -120,21 +120,13 @@ ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices
   return frames;
 }
 
-// So many keys are always made. Beyond them, a file that is shorter than a byte for each key has
-// lines that lack most of its columns.
-constexpr std::int64_t kKeysAlwaysMade = 5'000'000;
-
 void RequireWholeLines(const std::string& file, const ImportedFrames& frames) {
-  const std::int64_t count = frames.keyed.Count();
-  const std::int64_t most_keys =
-      std::max(kKeysAlwaysMade,
-               static_cast<std::int64_t>(std::filesystem::file_size(platform::PathOf(file))));
-  if (frames.receivers.count == 0 || count <= most_keys / frames.receivers.count) return;
-  throw Failure{ExitStatus::kRefused,
-                {{file,
-                  "The file is far too short for " + FormatInt(count) + " frames of " +
-                      FormatInt(frames.receivers.count) + " markers",
-                  "Do its lines hold all columns? --range FROM:TO imports a part of them."}}};
+  const auto bytes = static_cast<std::int64_t>(std::filesystem::file_size(platform::PathOf(file)));
+  const std::string why = WhyTooShort(bytes, frames.keyed.Count(), frames.receivers.count);
+  if (why.empty()) return;
+  throw Failure{
+      ExitStatus::kRefused,
+      {{file, why, "Do its lines hold all columns? --range FROM:TO imports a part of them."}}};
 }
 
 }  // namespace

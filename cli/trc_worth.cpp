@@ -2,13 +2,16 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <filesystem>
 #include <optional>
 #include <string>
+#include <system_error>
 
 #include "cli/frame_counts.h"
 #include "cli/input.h"
 #include "cli/trc_outline.h"
 #include "platform/input_file.h"
+#include "platform/path_text.h"
 #include "plugin/trc/document.h"
 
 namespace cli {
@@ -36,15 +39,26 @@ std::string FramesWritten(std::int64_t announced, std::int64_t held) {
                           : "Only the announced frames are written.";
 }
 
-// Behind the last line, of the markers that are written.
-MadeUpFrames MadeUpSamples(const FrameCounts& counts, const orvane::TRCDocument& document,
-                           const MarkerNaming& naming) {
+// How many of the markers are written.
+std::int64_t CountKept(const orvane::TRCDocument& document, const MarkerNaming& naming) {
   const auto& markers = document.markers();
-  const auto kept = std::count_if(markers.begin(), markers.end(), [&](const auto& marker) {
+  return std::count_if(markers.begin(), markers.end(), [&](const auto& marker) {
     return naming.NameFor(marker.Name()).has_value();
   });
-  return {std::max<std::int64_t>(counts.announced - counts.most_held, 0), "marker", kept,
-          counts.most_held * document.MarkerCount(), 0};
+}
+
+// Why the frames of `counts` are too much to write of the file, and what to do about it.
+Complaint FindExcess(const std::string& file, const FrameCounts& counts, std::int64_t markers,
+                     std::int64_t kept) {
+  const MadeUpFrames behind_last = {std::max<std::int64_t>(counts.announced - counts.most_held, 0),
+                                    "marker", kept, counts.most_held * markers, 0};
+  const std::string why = WhyOutOfProportion(counts.announced, counts, behind_last);
+  if (!why.empty()) return {file, why, "Is \"NumFrames\" right?"};
+  std::error_code error;
+  const std::uintmax_t bytes = std::filesystem::file_size(platform::PathOf(file), error);
+  if (error) return {};
+  return {file, WhyTooShort(static_cast<std::int64_t>(bytes), counts.announced, kept),
+          "Do its lines hold all columns?"};
 }
 
 void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
@@ -52,11 +66,11 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
   conversion.markers_dropped = document.MarkerCount();
   const auto held = static_cast<std::int64_t>(outline.Frames());
   const FrameCounts counts{document.NumFrames(), held, held};
-  const std::string why =
-      WhyOutOfProportion(counts.announced, counts, MadeUpSamples(counts, document, naming));
-  if (!why.empty()) {
+  const Complaint excess =
+      FindExcess(conversion.input, counts, document.MarkerCount(), CountKept(document, naming));
+  if (!excess.text.empty()) {
     conversion.status = ConversionStatus::kRefused;
-    conversion.errors.push_back({conversion.input, why, "Is \"NumFrames\" right?"});
+    conversion.errors.push_back(excess);
     return;
   }
   if (counts.announced != held) {

@@ -47,6 +47,19 @@ TEST_F(ConvertProportionTest, MarkersThatAreDroppedDoNotCount) {
   EXPECT_EQ(Judge(take, {"--mapping", "few.mnm"}).status, 0);
 }
 
+// Lines that lack their columns are dropouts of all markers.
+TEST_F(ConvertProportionTest, AFileHasAByteForEachSampleBeyondFiveMillion) {
+  const auto with_blank_lines = [](int announced) {
+    return Take(1000, announced) + std::string(static_cast<std::size_t>(announced) - 1, '\n');
+  };
+  EXPECT_EQ(Judge(with_blank_lines(5000)).status, 0);
+  const ProgramResult result = Judge(with_blank_lines(5001));
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: take.trc: The file is far too short for 5001 frames of 1000 markers\n"
+            "  Do its lines hold all columns?\n");
+}
+
 TEST_F(ConvertProportionTest, OneFileOfManyIsRefusedAlone) {
   Write("wrong.trc", Take(100, 30'000));
   Write("walk.trc", Take(2, 3));
