@@ -189,8 +189,8 @@ class BatchConversion {
                        const platform::ScratchFolder& scratch,
                        const std::vector<std::string>& messages) {
     for (Conversion* conversion : unlogged) {
-      std::error_code untold;  // of a path that is too long to ask about, too
-      if (!fs::exists(platform::PathOf(MadeFile(*conversion, scratch)), untold)) {
+      std::error_code error;  // such as that a path is too long
+      if (!fs::exists(platform::PathOf(MadeFile(*conversion, scratch)), error)) {
         Settle(*conversion, ConversionStatus::kFailed, conversion->output,
                messages.empty() ? "The plug-in could not create the file" : messages.front());
         return;
