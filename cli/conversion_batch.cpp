@@ -83,25 +83,37 @@ class BatchConversion {
   // Each run of the plug-in writes to a folder of its own.
   void ConvertNext() {
     const std::vector<Conversion*> waiting = Waiting();
-    const platform::ScratchFolder scratch(FolderOf(waiting.front()->output));
+    const platform::ScratchFolder scratch(PlaceFor(*waiting.front()));
     if (scratch.Error().empty()) {
       Convert(NextRun(waiting, scratch), scratch);
     } else {
       for (Conversion* conversion : waiting) {
-        Settle(*conversion, ConversionStatus::kFailed, FolderOf(conversion->output),
-               scratch.Error());
+        Settle(*conversion, ConversionStatus::kFailed, PlaceFor(*conversion), scratch.Error());
       }
     }
   }
 
+  // The folder that the output is to lie in, and on whose disk it is made.
+  std::string PlaceFor(const Conversion& conversion) const {
+    return platform::OutputFile(conversion.output, order_.replace).Folder();
+  }
+
+  // That folder where a symbolic link leads to it, perhaps on another disk; else empty.
+  std::string LinkedPlaceFor(const Conversion& conversion) const {
+    const std::string place = PlaceFor(conversion);
+    return place == FolderOf(conversion.output) ? "" : place;
+  }
+
   // As many of the first of `waiting` as the plug-in may convert in one run: it begins with those
-  // that have to, and their outputs have files of their own in `scratch`.
+  // that have to, and their outputs lie on one disk and have files of their own in `scratch`.
   std::vector<Conversion*> NextRun(std::vector<Conversion*> waiting,
                                    const platform::ScratchFolder& scratch) const {
     const auto last =
         std::find_if(waiting.begin(), waiting.end(), [&](const Conversion* conversion) {
           const bool has_to_begin = first_in_run_.count(conversion) != 0;
-          return (has_to_begin && conversion != waiting.front()) || IsTaken(*conversion, scratch);
+          return (has_to_begin && conversion != waiting.front()) ||
+                 LinkedPlaceFor(*conversion) != LinkedPlaceFor(*waiting.front()) ||
+                 IsTaken(*conversion, scratch);
         });
     waiting.erase(last, waiting.end());
     return waiting;

@@ -32,10 +32,9 @@ MotionOutput::MotionOutput(const std::string& name, bool replace)
 
 std::string MotionOutput::MakeRoom() {
   platform::HoldInterrupts();
-  const std::filesystem::path path = PathOf(path_);
-  room_.emplace(path.has_parent_path() ? TextOf(path.parent_path()) : ".");
+  room_.emplace(file_.Folder());
   if (!room_->Error().empty()) throw CannotWrite(room_->Error());
-  written_ = room_->Path() + "/" + TextOf(path.filename());
+  written_ = room_->Path() + "/" + TextOf(PathOf(path_).filename());
   return written_;
 }
 

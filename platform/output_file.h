@@ -32,12 +32,16 @@ class OutputFile {
   // Returns why the file cannot be made, as far as it can be told before trying, or an empty text.
   std::string WhyImpossible() const;
 
+  // The folder that the file is to lie in: of one that a link stands for, its own. Who writes it
+  // there can hand it to TakeOver.
+  std::string Folder() const;
+
   // Writes `bytes` beside the file's place and waits until they are on the disk. Returns an empty
   // text, or what went wrong in the system's words. Call it once.
   std::string Write(std::string_view bytes);
 
-  // As Write, but with the bytes of the finished file `path`, which lies on the same disk and is
-  // this object's from now on.
+  // As Write, but with the bytes of the finished file `path`, which lies on the same disk, such as
+  // in a folder in Folder(), and is this object's from now on.
   std::string TakeOver(const std::string& path);
 
   // Gives what Write has written its name. An existing file is replaced in one step when that is

@@ -95,6 +95,8 @@ std::string OutputFile::WhyImpossible() const {
   return access((folder + "/.").c_str(), W_OK | X_OK) == 0 ? "" : folder + ": " + LastError();
 }
 
+std::string OutputFile::Folder() const { return FolderOf(path_); }
+
 std::string OutputFile::Write(std::string_view bytes) {
   // A limit on the size of files is to be an error like a full disk, and not to end the process.
   std::signal(SIGXFSZ, SIG_IGN);

@@ -116,6 +116,8 @@ std::string OutputFile::WhyImpossible() const {
   return IsFolder(name) ? "" : Utf8FromWide(name) + ": " + ErrorNumberText(ENOTDIR);
 }
 
+std::string OutputFile::Folder() const { return Utf8FromWide(FolderOf(path_)); }
+
 std::string OutputFile::Write(std::string_view bytes) {
   std::string error = CreateAside();
   if (error.empty()) error = FillAside(bytes);

@@ -15,7 +15,8 @@ namespace test {
 // A new folder for one test, removed with all that is in it when the test is over.
 class TemporaryFolder {
  public:
-  TemporaryFolder() : path_(platform::PathOf(testing::TempDir()) / UniqueName()) {
+  TemporaryFolder() : TemporaryFolder(platform::PathOf(testing::TempDir())) {}
+  explicit TemporaryFolder(const std::filesystem::path& parent) : path_(parent / UniqueName()) {
     std::filesystem::create_directories(path_);
   }
   TemporaryFolder(const TemporaryFolder&) = delete;

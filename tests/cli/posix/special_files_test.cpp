@@ -1,6 +1,7 @@
 #include <sys/stat.h>
 
 #include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
 
 // Symbolic links, devices and pipes in the places of files.
 
@@ -52,6 +53,36 @@ TEST_F(SpecialFilesTest, ForceWritesThroughASymbolicLink) {
   EXPECT_EQ(Import({"--force"}).status, 0);
   EXPECT_TRUE(std::filesystem::is_symlink(folder_.File("walk.glb")));
   EXPECT_THAT(Read("target.glb"), testing::StartsWith("glTF"));
+}
+
+// The plug-in's files are made where they are to lie, because none can be moved to another disk.
+TEST_F(SpecialFilesTest, ForceWritesThroughALinkToAnotherDisk) {
+  const std::filesystem::path memory = "/dev/shm";
+  struct stat here {};
+  struct stat there {};
+  ASSERT_EQ(stat(folder_.Path().c_str(), &here), 0);
+  if (stat(memory.c_str(), &there) != 0 || here.st_dev == there.st_dev) {
+    GTEST_SKIP() << "there is no other disk";
+  }
+  const test::TemporaryFolder other(memory);
+  Write("walk.trc", test::TrcText{.markers = {"Head"}, .frames = {{"1\t2\t3"}}}.Text());
+  Write("run.trc", Read("walk.trc"));
+  for (const char* name : {"walk.htr", "walk.bvk"}) {
+    test::WriteFile(other.File(name), "old");
+    Link(other.File(name), std::string("link-") + name);
+  }
+  ASSERT_EQ(Import().status, 0);
+  EXPECT_EQ(
+      Orvane({"export", "walk.glb", "--select", "Hips", "-o", "link-walk.htr", "--force"}).error,
+      "");
+  EXPECT_THAT(test::ReadFile(other.File("walk.htr")), testing::StartsWith("# Orvane HTR"));
+  EXPECT_EQ(Orvane({"convert", "walk.trc", "-o", "link-walk.bvk", "--force"}).error, "");
+  EXPECT_THAT(test::ReadFile(other.File("walk.bvk")), testing::StartsWith("$Comments"));
+  test::WriteFile(other.File("walk.bvk"), "old");
+  Link(other.File("walk.bvk"), "walk.bvk");
+  EXPECT_EQ(Orvane({"convert", "run.trc", "walk.trc", "--force"}).error, "");
+  EXPECT_THAT(test::ReadFile(other.File("walk.bvk")), testing::StartsWith("$Comments"));
+  EXPECT_THAT(Read("run.bvk"), testing::StartsWith("$Comments"));
 }
 
 TEST_F(SpecialFilesTest, ALinkThatLeadsNowhereIsKept) {
