@@ -69,7 +69,8 @@ ExitStatus Export(const ExportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   ReadSceneFile(arguments.input, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  RequireSensibleRange(session.scene(), ExportChoicesOf(arguments.wishes, session.settings()));
+  RequireSensibleRange(arguments.input, session.scene(),
+                       ExportChoicesOf(arguments.wishes, session.settings()));
   StopIfInterrupted();
   const std::string place = output.MakeRoom();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();

@@ -74,7 +74,7 @@ FrameSpan AnimationRange(const host::AnimationState& animation) {
   return {animation.Range().Start() / ticks, animation.Range().End() / ticks};
 }
 
-void RequireProportion(const host::Scene& scene, const FrameSpan& wished) {
+void RequireProportion(const std::string& file, const host::Scene& scene, const FrameSpan& wished) {
   const SceneKeys keys(scene);
   const std::int64_t outside = wished.Count() - Overlap(wished, keys.Frames()).Count();
   const FrameCounts counts = {wished.Count(), keys.Length(), keys.Length()};
@@ -85,7 +85,7 @@ void RequireProportion(const host::Scene& scene, const FrameSpan& wished) {
           : WhyOutOfProportion({outside, "bone", CountExportedBones(scene), keys.Held(), 0});
   if (!is_too_long && why.empty()) return;
   throw Failure{ExitStatus::kRefused,
-                {{"",
+                {{file,
                   "There are " + FormatInt(wished.Count()) +
                       " frames to export, but the keys of the scene hold " +
                       FormatInt(keys.Length()) + (why.empty() ? "" : ": " + why),
@@ -115,13 +115,14 @@ void RequireNumbers(const FrameSpan& wished, const ExportChoices& choices) {
 
 }  // namespace
 
-void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices) {
+void RequireSensibleRange(const std::string& file, const host::Scene& scene,
+                          const ExportChoices& choices) {
   if (!choices.animation) return;
   // What lies outside the animation range is refused by the plug-in.
   const FrameSpan most = AnimationRange(scene.Animation());
   const FrameSpan wished = choices.range ? Overlap(*choices.range, most) : most;
   RequireNumbers(wished, choices);
-  RequireProportion(scene, wished);
+  RequireProportion(file, scene, wished);
 }
 
 }  // namespace cli

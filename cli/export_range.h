@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 #include "cli/export_htr_flags.h"
 #include "host/scene/scene.h"
 
@@ -7,9 +9,10 @@
 
 namespace cli {
 
-// Throws a Failure when what `choices` take of the animation range of `scene` is out of proportion
-// to its keys, because all frames are held in memory, or when the number that the first or the last
-// of them would have in the file does not fit 32 bits.
-void RequireSensibleRange(const host::Scene& scene, const ExportChoices& choices);
+// Throws a Failure when what `choices` take of the animation range of `scene`, which is that of
+// `file`, is out of proportion to its keys, because all frames are held in memory, or when the
+// number that the first or the last of them would have in the motion file does not fit 32 bits.
+void RequireSensibleRange(const std::string& file, const host::Scene& scene,
+                          const ExportChoices& choices);
 
 }  // namespace cli

@@ -49,7 +49,8 @@ TEST_F(ExportProportionTest, AMillionFramesOfBonesMayBeMadeUp) {
   const ProgramResult result = Export();
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: There are 20002 frames to export, but the keys of the scene hold 1: 1000050 "
+            "orvane: scene.glb: There are 20002 frames to export, but the keys of the scene hold "
+            "1: 1000050 "
             "frames of 50 bones would be made up, and 50 are held\n"
             "  --range FROM:TO exports a part of the animation range.\n");
 }

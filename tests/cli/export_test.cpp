@@ -382,7 +382,7 @@ TEST_F(ExportTest, AnAnimationRangeFarBeyondTheKeysIsRefused) {
   MakeScene(Replaced(test::SmallMotion(), "NumFrames 3", "NumFrames 1000000"),
             {"--range", "1:3", "--offset", "2000000"});
   const std::string error =
-      "orvane: There are 2000003 frames to export, but the keys of the scene hold 3\n"
+      "orvane: scene.glb: There are 2000003 frames to export, but the keys of the scene hold 3\n"
       "  --range FROM:TO exports a part of the animation range.\n";
   ExpectRefused(Export(), 1, error);
   EXPECT_EQ(Export({"--quiet", "--range", "1:3"}).status, 0);
