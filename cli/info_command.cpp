@@ -6,6 +6,7 @@
 
 #include "cli/info_report.h"
 #include "cli/input.h"
+#include "cli/messages.h"
 #include "cli/trc_info.h"
 #include "plugin/htr/reader.h"
 
@@ -39,6 +40,8 @@ ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
   }
   TrcInfoReport report;
   ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), report);
+  // Long lines pass for several, so that a file can hold markers all the same.
+  if (const auto cause = FindCause(report.file, FileKind::kTrc)) Print(Severity::kWarning, *cause);
   if (arguments.json) {
     PrintTrcInfoJson(report, arguments.frames, std::cout);
   } else {

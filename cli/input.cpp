@@ -1,8 +1,5 @@
 #include "cli/input.h"
 
-#include <optional>
-#include <utility>
-
 #include "cli/advice.h"
 #include "cli/file_kind.h"
 #include "cli/text_flaw.h"
@@ -17,16 +14,21 @@ Complaint ComplainAbout(const std::string& file, const std::string& text) {
   return {file, text, AdviceFor(text)};
 }
 
+std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(file);
+  if (!bytes) return std::nullopt;
+  const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
+  if (!flaw) return std::nullopt;
+  return ComplainAboutFlaw(file, *flaw);
+}
+
 void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints) {
   if (complaints.empty()) return;
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(file);
-  if (!bytes) return;
-  const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
-  if (!flaw) return;
-  Complaint cause = ComplainAboutFlaw(file, *flaw);
+  const std::optional<Complaint> cause = FindCause(file, kind);
+  if (!cause) return;
   const Complaint& first = complaints.front();
-  if (first.subject == cause.subject && first.text == cause.text) return;
-  complaints.insert(complaints.begin(), std::move(cause));
+  if (first.subject == cause->subject && first.text == cause->text) return;
+  complaints.insert(complaints.begin(), *cause);
 }
 
 std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,9 @@ std::string ReadableHtrFile(const std::string& name);
 
 // `text` about what is in `file`, with the advice that fits it.
 Complaint ComplainAbout(const std::string& file, const std::string& text);
+
+// What is wrong with all of the text of `file`, where that can be seen.
+std::optional<Complaint> FindCause(const std::string& file, FileKind kind);
 
 // Puts before `complaints` about what is in `file`, if there are any, what is wrong with all of its
 // text, when that can be seen and does not stand there.

@@ -218,6 +218,7 @@ TEST_F(LongTextTest, WithoutLineFeedsIsNamedThoughItIsTaken) {
   const std::vector<std::string> import = {"import", "walk.trc", "-o", "walk.glb", "--force"};
   EXPECT_EQ(Orvane(import).status, 0);
   EXPECT_THAT(Orvane(import).error, StartsWith(cause));
+  EXPECT_THAT(Orvane({"info", "walk.trc"}).error, StartsWith(cause));
   std::vector<std::string> strict = import;
   strict.push_back("--strict");
   EXPECT_THAT(Orvane(strict).error, StartsWith(cause));
