@@ -25,4 +25,10 @@ CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,
       ->check(OneOf(choices));
 }
 
+CLI::Option* RequireName(CLI::Option* option) {
+  return option->check(
+      [](const std::string& name) { return name.empty() ? "takes a name that is not empty" : ""; },
+      "");
+}
+
 }  // namespace cli

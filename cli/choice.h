@@ -17,4 +17,8 @@ CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,
                        const std::vector<std::string>& choices, const std::string& help,
                        const std::function<void(const std::string&)>& use);
 
+// Has `option`, which takes the name of a file or folder, refuse an empty one: scripts make it of a
+// variable that is not set. Returns the option.
+CLI::Option* RequireName(CLI::Option* option);
+
 }  // namespace cli

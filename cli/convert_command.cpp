@@ -245,8 +245,8 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
               },
               "")
           ->type_name("OUT");
-  verb.add_option("--output-dir", arguments.output.folder,
-                  "The folder to write to (each beside its FILE)")
+  RequireName(verb.add_option("--output-dir", arguments.output.folder,
+                              "The folder to write to (each beside its FILE)"))
       ->type_name("DIR")
       ->excludes(output);
   verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
@@ -259,8 +259,8 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
 }
 
 void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
-  verb.add_option("--mapping", arguments.order.mapping,
-                  "The mapping file: rename the markers it lists, drop the others")
+  RequireName(verb.add_option("--mapping", arguments.order.mapping,
+                              "The mapping file: rename the markers it lists, drop the others"))
       ->type_name("M.mnm");
   CLI::Option* offset =
       verb.add_option("--offset", arguments.offset, "Add X, Y and Z to every position")

@@ -162,7 +162,8 @@ void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
 
 void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
   CLI::Option* into =
-      verb.add_option("--into", arguments.into, "Start from the scene in this file (a new scene)")
+      RequireName(verb.add_option("--into", arguments.into,
+                                  "Start from the scene in this file (a new scene)"))
           ->type_name("SCENE");
   verb.add_option("--select", arguments.selection,
                   "Select the node of that name before the import; may be repeated")
