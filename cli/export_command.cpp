@@ -64,8 +64,8 @@ void PrintSummary(const ExportArguments& arguments, const MotionOutput& output,
 
 ExitStatus Export(const ExportArguments& arguments) {
   platform::CatchInterrupts();
+  RequireNoInput(MotionFilePath(arguments.output), {arguments.input});
   MotionOutput output(arguments.output, arguments.force);
-  RequireNoInput(output.Path(), {arguments.input});
   PluginSession session(arguments.module, arguments.settings);
   ReadSceneFile(arguments.input, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);

@@ -15,17 +15,17 @@ namespace {
 using platform::PathOf;
 using platform::TextOf;
 
+}  // namespace
+
 // Only the last part counts: it is all that the plug-in is told of the user's path.
-std::string CompletePath(const std::string& name) {
+std::string MotionFilePath(const std::string& name) {
   std::filesystem::path path = PathOf(name);
   path.replace_filename(PathOf(orvane::WithExtension(TextOf(path.filename()), ".htr")));
   return TextOf(path);
 }
 
-}  // namespace
-
 MotionOutput::MotionOutput(const std::string& name, bool replace)
-    : path_(CompletePath(name)), file_(path_, replace) {
+    : path_(MotionFilePath(name)), file_(path_, replace) {
   const std::string reason = file_.WhyImpossible();
   if (!reason.empty()) throw CannotWrite(reason);
 }
@@ -50,7 +50,7 @@ Failure MotionOutput::CannotWrite(const std::string& reason) const {
 }
 
 bool IsMotionFileName(const std::string& name) {
-  std::string extension = TextOf(PathOf(CompletePath(name)).extension());
+  std::string extension = TextOf(PathOf(MotionFilePath(name)).extension());
   std::transform(extension.begin(), extension.end(), extension.begin(), [](char letter) {
     return 'A' <= letter && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
   });

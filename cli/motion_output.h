@@ -12,11 +12,14 @@
 
 namespace cli {
 
+// The file that the user means by `name`, as the writer takes it: with ".htr" behind it unless its
+// last part has a full stop as its fourth character from the end.
+std::string MotionFilePath(const std::string& name);
+
 class MotionOutput {
  public:
-  // The file that the user means by `name`, as the writer takes it: with ".htr" behind it unless
-  // its last part has a full stop as its fourth character from the end. Throws a Failure when it
-  // cannot be made: above all when it exists and `replace` is not set.
+  // The file that the user means by `name`. Throws a Failure when it cannot be made: above all when
+  // it exists and `replace` is not set.
   MotionOutput(const std::string& name, bool replace);
 
   const std::string& Path() const { return path_; }

@@ -302,10 +302,12 @@ TEST_F(ExportTest, ForceReplacesIt) {
 TEST_F(ExportTest, ForceDoesNotReplaceTheScene) {
   std::filesystem::rename(folder_.File("scene.glb"), folder_.File("scene.htr"));
   const std::string scene = Read("scene.htr");
-  const ProgramResult result =
-      Orvane({"export", "scene.htr", "-o", "./scene", "--select", "Hips", "--force"});
-  EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.error, "orvane: ./scene.htr: is an input, and would be an output too\n");
+  for (const char* flag : {"--force", "--quiet"}) {
+    const ProgramResult result =
+        Orvane({"export", "scene.htr", "-o", "./scene", "--select", "Hips", flag});
+    EXPECT_EQ(result.status, 2);
+    EXPECT_EQ(result.error, "orvane: ./scene.htr: is an input, and would be an output too\n");
+  }
   EXPECT_EQ(Read("scene.htr"), scene);
 }
 
