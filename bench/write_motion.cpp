@@ -7,7 +7,7 @@
 #include <vector>
 
 #include "bench/motion_text.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace {
 

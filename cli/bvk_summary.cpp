@@ -6,8 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/text/numbers.h"
 #include "platform/path_text.h"
-#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/check_report.h"
 #include "cli/messages.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -16,12 +16,12 @@
 #include "cli/output_complaint.h"
 #include "cli/read_back.h"
 #include "cli/trc_worth.h"
+#include "formats/text/files.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
 #include "platform/scratch_folder.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 namespace {

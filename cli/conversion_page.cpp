@@ -4,7 +4,7 @@
 #include "cli/conversion_report.h"
 #include "cli/messages.h"
 #include "cli/page_text.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

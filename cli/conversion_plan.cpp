@@ -12,12 +12,12 @@
 
 #include "cli/output_complaint.h"
 #include "cli/replaced_input.h"
+#include "formats/text/files.h"
 #include "host/application/extension_match.h"
 #include "platform/file_place.h"
 #include "platform/input_file.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 namespace {

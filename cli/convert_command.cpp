@@ -16,13 +16,13 @@
 #include "cli/messages.h"
 #include "cli/output_complaint.h"
 #include "cli/progress_line.h"
+#include "formats/text/numbers.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/scratch_folder.h"
 #include "platform/side_by_side.h"
 #include "platform/terminal.h"
-#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {

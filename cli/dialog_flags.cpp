@@ -3,7 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -17,9 +17,9 @@
 #include "cli/scene_input.h"
 #include "cli/selection.h"
 #include "cli/warnings.h"
+#include "formats/text/numbers.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
-#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -9,7 +9,7 @@
 #include "cli/exported_bones.h"
 #include "cli/failure.h"
 #include "cli/frame_counts.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -3,8 +3,8 @@
 #include <optional>
 
 #include "cli/failure.h"
+#include "formats/text/files.h"
 #include "platform/input_file.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 

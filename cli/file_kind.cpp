@@ -4,9 +4,9 @@
 
 #include "cli/choice.h"
 #include "cli/failure.h"
+#include "formats/text/files.h"
 #include "host/application/extension_match.h"
 #include "platform/input_file.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 

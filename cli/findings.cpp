@@ -4,7 +4,7 @@
 #include <tuple>
 #include <utility>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <limits>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

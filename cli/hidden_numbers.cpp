@@ -6,7 +6,7 @@
 
 #include "cli/import_controls.h"
 #include "cli/stored_options.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

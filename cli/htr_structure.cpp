@@ -6,8 +6,8 @@
 
 #include "cli/frame_counts.h"
 #include "cli/htr_rules.h"
+#include "formats/text/numbers.h"
 #include "plugin/htr/sections.h"
-#include "plugin/text/numbers.h"
 
 namespace cli::htr {
 namespace {

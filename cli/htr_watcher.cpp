@@ -7,7 +7,7 @@
 #include "cli/htr_values.h"
 #include "cli/rates.h"
 #include "cli/similar_words.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 #include "plugin/units/units.h"
 
 namespace cli::htr {

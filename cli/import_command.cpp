@@ -21,9 +21,9 @@
 #include "cli/scene_output.h"
 #include "cli/selection.h"
 #include "cli/warnings.h"
+#include "formats/text/numbers.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
-#include "plugin/text/numbers.h"
 
 namespace cli {
 namespace {

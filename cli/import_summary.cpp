@@ -4,7 +4,7 @@
 #include <limits>
 
 #include "cli/messages.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

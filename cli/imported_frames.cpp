@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "cli/proportion.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

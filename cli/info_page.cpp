@@ -4,7 +4,7 @@
 #include "cli/info_report.h"
 #include "cli/messages.h"
 #include "cli/page_text.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 #include "plugin/units/units.h"
 
 namespace cli {

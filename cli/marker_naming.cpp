@@ -5,8 +5,8 @@
 #include <unordered_map>
 
 #include "cli/text_flaw.h"
-#include "plugin/text/files.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/files.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

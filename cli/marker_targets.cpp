@@ -5,7 +5,7 @@
 #include <unordered_set>
 
 #include "cli/trc_outline.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 #include "plugin/trc/document.h"
 
 namespace cli {

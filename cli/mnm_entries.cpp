@@ -5,8 +5,8 @@
 
 #include "cli/mnm_rules.h"
 #include "cli/similar_words.h"
+#include "formats/text/numbers.h"
 #include "plugin/mnm/standard_markers.h"
-#include "plugin/text/numbers.h"
 
 namespace cli::mnm {
 namespace {

@@ -5,9 +5,9 @@
 
 #include "cli/interruption.h"
 #include "cli/output_complaint.h"
+#include "formats/text/files.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 namespace {

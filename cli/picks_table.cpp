@@ -4,11 +4,11 @@
 #include <set>
 #include <string_view>
 
+#include "formats/text/files.h"
+#include "formats/text/lines.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 #include "platform/input_file.h"
-#include "plugin/text/files.h"
-#include "plugin/text/lines.h"
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
 
 namespace cli {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <limits>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

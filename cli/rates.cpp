@@ -1,7 +1,7 @@
 #include "cli/rates.h"
 
+#include "formats/text/numbers.h"
 #include "host/animation/animation_state.h"
-#include "plugin/text/numbers.h"
 
 namespace cli {
 

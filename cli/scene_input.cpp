@@ -3,9 +3,9 @@
 #include <optional>
 
 #include "cli/failure.h"
+#include "formats/text/files.h"
 #include "host/gltf/reader.h"
 #include "platform/input_file.h"
-#include "plugin/text/files.h"
 
 namespace cli {
 

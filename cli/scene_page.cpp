@@ -4,7 +4,7 @@
 #include "cli/messages.h"
 #include "cli/scene_report.h"
 #include "cli/scene_tree.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace cli {
 namespace {

@@ -10,7 +10,7 @@
 #include "cli/trc_parts.h"
 #include "cli/trc_rules.h"
 #include "cli/trc_watcher.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 #include "plugin/trc/document_checker.h"
 
 namespace cli {

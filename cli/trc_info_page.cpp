@@ -4,7 +4,7 @@
 #include "cli/messages.h"
 #include "cli/page_text.h"
 #include "cli/trc_info.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 #include "plugin/units/units.h"
 
 namespace cli {

@@ -7,8 +7,8 @@
 
 #include "cli/imported_frames.h"
 #include "cli/input.h"
+#include "formats/text/numbers.h"
 #include "platform/path_text.h"
-#include "plugin/text/numbers.h"
 #include "plugin/trc/document.h"
 
 namespace cli {

@@ -6,9 +6,9 @@
 
 #include "cli/rates.h"
 #include "cli/trc_rules.h"
-#include "plugin/text/number_faults.h"
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
+#include "formats/text/number_faults.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 
 namespace cli::trc {
 namespace {

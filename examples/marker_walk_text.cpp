@@ -5,7 +5,7 @@
 #include <optional>
 
 #include "examples/markers.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace examples {
 namespace {

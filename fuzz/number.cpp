@@ -9,9 +9,9 @@
 #include <limits>
 #include <string>
 
+#include "formats/text/numbers.h"
 #include "fuzz/expect.h"
 #include "fuzz/target.h"
-#include "plugin/text/numbers.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "plugin/text/text_buffer.h"
+#include "formats/text/text_buffer.h"
 #include "plugin/trc/document.h"
 
 // Writes the markers of a document as a marker file of the host's character animation.

@@ -1,8 +1,8 @@
 #include "plugin/exchange/frame_range_controls.h"
 
+#include "formats/text/numbers.h"
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
-#include "plugin/text/numbers.h"
 
 namespace orvane {
 

@@ -1,9 +1,9 @@
 #include "plugin/export_htr/options_dialog.h"
 
+#include "formats/text/numbers.h"
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
 #include "plugin/shell/about_dialog.h"
-#include "plugin/text/numbers.h"
 
 namespace orvane {
 namespace {

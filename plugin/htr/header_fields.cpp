@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <array>
 
-#include "plugin/text/number_faults.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/number_faults.h"
+#include "formats/text/numbers.h"
 #include "plugin/units/units.h"
 
 namespace orvane {

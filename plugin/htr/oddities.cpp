@@ -1,6 +1,6 @@
 #include "plugin/htr/oddities.h"
 
-#include "plugin/text/tokens.h"
+#include "formats/text/tokens.h"
 
 namespace orvane {
 HtrCell HtrOddities::CellOf(std::string_view text) const {

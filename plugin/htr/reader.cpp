@@ -8,13 +8,13 @@
 #include <optional>
 #include <vector>
 
+#include "formats/text/files.h"
+#include "formats/text/lines.h"
+#include "formats/text/tokens.h"
 #include "plugin/htr/header_fields.h"
 #include "plugin/htr/number_cells.h"
 #include "plugin/htr/oddities.h"
 #include "plugin/htr/sections.h"
-#include "plugin/text/files.h"
-#include "plugin/text/lines.h"
-#include "plugin/text/tokens.h"
 #include "plugin/units/units.h"
 
 namespace orvane {

@@ -9,9 +9,9 @@
 #include <unordered_map>
 #include <vector>
 
-#include "plugin/text/files.h"
-#include "plugin/text/numbers.h"
-#include "plugin/text/text_buffer.h"
+#include "formats/text/files.h"
+#include "formats/text/numbers.h"
+#include "formats/text/text_buffer.h"
 #include "plugin/units/units.h"
 
 namespace orvane {

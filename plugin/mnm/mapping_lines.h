@@ -3,7 +3,7 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 // The lines of a marker name mapping file: which two names each of them pairs. Every line pairs two
 // names, whatever it holds; who wants to know what it really held looks at what was given.

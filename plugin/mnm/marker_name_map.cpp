@@ -3,8 +3,8 @@
 #include <fstream>
 #include <optional>
 
+#include "formats/text/files.h"
 #include "plugin/mnm/mapping_lines.h"
-#include "plugin/text/files.h"
 
 namespace orvane {
 

@@ -4,7 +4,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 // The coordinates on one line of a marker file, taken from left to right. Belongs to the reader,
 // which spends most of its time here: a field that is one number and nothing else is read without

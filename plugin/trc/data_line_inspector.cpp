@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 
 namespace orvane {
 namespace {

@@ -5,7 +5,7 @@
 #include <optional>
 #include <string_view>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 #include "plugin/trc/fields.h"
 #include "plugin/trc/oddities.h"
 

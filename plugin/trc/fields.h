@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 // The fields of one line of a marker file, from left to right. A single tab ends a field, so that
 // there are empty ones. Belongs to the reader.

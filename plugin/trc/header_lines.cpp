@@ -3,8 +3,8 @@
 #include <optional>
 #include <string_view>
 
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 #include "plugin/trc/fields.h"
 #include "plugin/units/units.h"
 

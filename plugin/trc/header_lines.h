@@ -4,7 +4,7 @@
 #include <cstdint>
 #include <string>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 #include "plugin/trc/document.h"
 #include "plugin/trc/oddities.h"
 

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 // Which lines of a marker file are what. Belongs to the reader.
 namespace orvane {

@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "plugin/text/watched_name.h"
+#include "formats/text/watched_name.h"
 
 // The trajectory of one optical marker: a sample for each frame, either a position that was
 // measured or a dropout. Positions are in the units and axes of the document (Y up). Samples are

@@ -1,7 +1,7 @@
 #include "plugin/trc/oddities.h"
 
-#include "plugin/text/numbers.h"
-#include "plugin/text/tokens.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 
 namespace orvane {
 namespace {

@@ -3,8 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
-#include "plugin/text/number_faults.h"
-#include "plugin/text/watched_line.h"
+#include "formats/text/number_faults.h"
+#include "formats/text/watched_line.h"
 #include "plugin/trc/read_observer.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 // What a marker file holds, without reading its numbers.
 namespace orvane {

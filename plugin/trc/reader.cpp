@@ -7,9 +7,9 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/text/files.h"
-#include "plugin/text/lines.h"
-#include "plugin/text/numbers.h"
+#include "formats/text/files.h"
+#include "formats/text/lines.h"
+#include "formats/text/numbers.h"
 #include "plugin/trc/coordinate_cells.h"
 #include "plugin/trc/data_line_inspector.h"
 #include "plugin/trc/document.h"

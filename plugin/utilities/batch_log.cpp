@@ -1,6 +1,6 @@
 #include "plugin/utilities/batch_log.h"
 
-#include "plugin/text/files.h"
+#include "formats/text/files.h"
 #include "plugin/utilities/format_text.h"
 
 namespace orvane {

@@ -4,10 +4,10 @@
 #include <ios>
 #include <string_view>
 
+#include "formats/text/files.h"
 #include "platform/local_time.h"
 #include "plugin/bvk/writer.h"
 #include "plugin/exchange/attempt.h"
-#include "plugin/text/files.h"
 #include "plugin/utilities/conversion_run.h"
 #include "sdk/skelderutil/filename.h"
 

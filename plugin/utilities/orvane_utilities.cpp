@@ -5,12 +5,12 @@
 #include <string>
 #include <utility>
 
+#include "formats/text/numbers.h"
 #include "platform/file_dialog.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
-#include "plugin/text/numbers.h"
 #include "plugin/utilities/convert_bvk.h"
 #include "plugin/utilities/mapping_creator.h"
 #include "plugin/utilities/mapping_file_dialog.h"

@@ -4,8 +4,8 @@
 #include <string>
 
 #include "examples/marker_walk_text.h"
+#include "formats/text/files.h"
 #include "plugin/mnm/marker_name_map.h"
-#include "plugin/text/files.h"
 #include "plugin/trc/document.h"
 
 namespace examples {

@@ -1,4 +1,4 @@
-#include "plugin/text/number_faults.h"
+#include "formats/text/number_faults.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "plugin/text/files.h"
+#include "formats/text/files.h"
 #include "tests/support/temporary_folder.h"
 
 // What can stand in the place of a file where there are devices and permissions to read.

@@ -1,4 +1,4 @@
-#include "plugin/text/files.h"
+#include "formats/text/files.h"
 
 #include <gtest/gtest.h>
 

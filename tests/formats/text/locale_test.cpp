@@ -5,8 +5,8 @@
 #include <locale>
 #include <string>
 
-#include "plugin/text/numbers.h"
-#include "plugin/text/six_decimals.h"
+#include "formats/text/numbers.h"
+#include "formats/text/six_decimals.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/text/tokens.h"
+#include "formats/text/tokens.h"
 
 #include <gtest/gtest.h>
 

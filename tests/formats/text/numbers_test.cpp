@@ -1,4 +1,4 @@
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 #include <gtest/gtest.h>
 

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 // Where a piece of a line stands in its file, and what is odd about its bytes. Readers have one
 // when they are watched.

@@ -1,4 +1,4 @@
-#include "plugin/text/lines.h"
+#include "formats/text/lines.h"
 
 namespace orvane {
 

@@ -3,7 +3,7 @@
 #include <array>
 #include <string_view>
 
-#include "plugin/text/six_decimals.h"
+#include "formats/text/six_decimals.h"
 #include "tests/support/printed_values.h"
 
 namespace orvane {

@@ -1,10 +1,10 @@
-#include "plugin/text/number_faults.h"
+#include "formats/text/number_faults.h"
 
 #include <cmath>
 #include <cstdint>
 #include <limits>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace orvane {
 namespace {

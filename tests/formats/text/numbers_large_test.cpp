@@ -8,7 +8,7 @@
 #include <random>
 #include <string_view>
 
-#include "plugin/text/numbers.h"
+#include "formats/text/numbers.h"
 
 namespace orvane {
 namespace {

@@ -6,7 +6,7 @@
 #include <string_view>
 #include <vector>
 
-#include "plugin/text/six_decimals.h"
+#include "formats/text/six_decimals.h"
 
 // Collects the text of a long file and hands it on in pieces, for writers that spend most of their
 // time on the numbers in it.

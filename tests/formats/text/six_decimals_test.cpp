@@ -1,4 +1,4 @@
-#include "plugin/text/six_decimals.h"
+#include "formats/text/six_decimals.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "plugin/text/watched_line.h"
+#include "formats/text/watched_line.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/text/watched_name.h"
+#include "formats/text/watched_name.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "plugin/text/text_buffer.h"
+#include "formats/text/text_buffer.h"
 
 #include <algorithm>
 #include <charconv>
