@@ -8,7 +8,7 @@
 #include "cli/rates.h"
 #include "cli/similar_words.h"
 #include "formats/text/numbers.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli::htr {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/info_report.h"
 #include "cli/json_writer.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli {
 namespace {

@@ -5,7 +5,7 @@
 #include "cli/messages.h"
 #include "cli/page_text.h"
 #include "formats/text/numbers.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli {
 namespace {

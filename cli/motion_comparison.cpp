@@ -4,7 +4,7 @@
 #include <cmath>
 
 #include "cli/pose_walk.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli {
 namespace {

@@ -1,6 +1,6 @@
 #include "cli/json_writer.h"
 #include "cli/trc_info.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli {
 namespace {

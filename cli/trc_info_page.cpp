@@ -5,7 +5,7 @@
 #include "cli/page_text.h"
 #include "cli/trc_info.h"
 #include "formats/text/numbers.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace cli {
 namespace {

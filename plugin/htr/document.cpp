@@ -1,6 +1,6 @@
 #include "plugin/htr/document.h"
 
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace orvane {
 

@@ -11,7 +11,7 @@
 #include "plugin/htr/segment.h"
 
 // A motion file in memory: the settings of its header and its segments in file order. Reading and
-// writing files is not done here. Unit and axis codes are those of plugin/units.
+// writing files is not done here. Unit and axis codes are those of formats/units.
 namespace orvane {
 
 // Owns its segments. Their addresses stay until Clear or the end of the document.

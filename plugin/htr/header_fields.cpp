@@ -5,7 +5,7 @@
 
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace orvane {
 namespace {

@@ -11,11 +11,11 @@
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
 #include "formats/text/tokens.h"
+#include "formats/units/units.h"
 #include "plugin/htr/header_fields.h"
 #include "plugin/htr/number_cells.h"
 #include "plugin/htr/oddities.h"
 #include "plugin/htr/sections.h"
-#include "plugin/units/units.h"
 
 namespace orvane {
 namespace {

@@ -12,7 +12,7 @@
 #include "formats/text/files.h"
 #include "formats/text/numbers.h"
 #include "formats/text/text_buffer.h"
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 namespace orvane {
 namespace {

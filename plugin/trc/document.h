@@ -11,7 +11,7 @@
 #include "plugin/trc/read_observer.h"
 
 // A marker file in memory: the values of its header, and its markers in the order of their columns.
-// Unit codes are the length codes of plugin/units.
+// Unit codes are the length codes of formats/units.
 namespace orvane {
 
 // Owns its markers. Their addresses stay until Reset, the next reading or the end of the document.

@@ -5,8 +5,8 @@
 
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
+#include "formats/units/units.h"
 #include "plugin/trc/fields.h"
-#include "plugin/units/units.h"
 
 namespace orvane {
 namespace {

@@ -6,8 +6,8 @@
 #include <limits>
 #include <random>
 
+#include "formats/units/units.h"
 #include "plugin/math/euler_rotation.h"
-#include "plugin/units/units.h"
 
 namespace {
 

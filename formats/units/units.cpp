@@ -1,4 +1,4 @@
-#include "plugin/units/units.h"
+#include "formats/units/units.h"
 
 #include <array>
 #include <cstddef>
