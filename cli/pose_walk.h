@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "cli/hierarchy.h"
-#include "plugin/math/rotation_matrix3.h"
-#include "plugin/math/vector.h"
+#include "formats/math/rotation_matrix3.h"
+#include "formats/math/vector.h"
 
 // Where the joints of a skeleton are, frame after frame: base and frame put together, from the
 // roots down. The time it takes is in proportion to the frames that the segments hold, however

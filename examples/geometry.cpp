@@ -2,7 +2,7 @@
 
 #include <cmath>
 
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 
 namespace examples {
 

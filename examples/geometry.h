@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plugin/math/rotation_matrix3.h"
-#include "plugin/math/vector.h"
+#include "formats/math/rotation_matrix3.h"
+#include "formats/math/vector.h"
 
 // The little vector arithmetic that the generator needs. File space: X to the walker's left, Y up,
 // Z forward; millimetres and radians.

@@ -6,8 +6,8 @@
 
 #include "examples/gait.h"
 #include "examples/skeleton.h"
+#include "formats/math/euler_rotation.h"
 #include "formats/text/numbers.h"
-#include "plugin/math/euler_rotation.h"
 
 namespace examples {
 namespace {

@@ -1,6 +1,6 @@
 #include "plugin/export_htr/bone_pose.h"
 
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 
 namespace orvane {
 namespace {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plugin/math/rotation_matrix3.h"
-#include "plugin/math/vector.h"
+#include "formats/math/rotation_matrix3.h"
+#include "formats/math/vector.h"
 #include "plugin/skeleton/axis_conversion.h"
 #include "sdk/core/node.h"
 

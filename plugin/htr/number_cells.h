@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "formats/math/vector.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
-#include "plugin/math/vector.h"
 
 // The number columns of a data line, taken from left to right. Belongs to the reader, which spends
 // most of its time here: a cell that is one number and nothing else is read without being looked

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 
 namespace orvane {
 namespace {

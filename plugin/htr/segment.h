@@ -8,9 +8,9 @@
 #include <utility>
 #include <vector>
 
+#include "formats/math/euler_rotation.h"
+#include "formats/math/vector.h"
 #include "formats/text/watched_name.h"
-#include "plugin/math/euler_rotation.h"
-#include "plugin/math/vector.h"
 
 // One bone of a motion file: its name, its place in the hierarchy, its base position and its
 // motion.

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plugin/math/quaternion.h"
-#include "plugin/math/vector.h"
+#include "formats/math/quaternion.h"
+#include "formats/math/vector.h"
 #include "sdk/core/control.h"
 
 // Writing positions and rotations to controllers, which belong to the scene.

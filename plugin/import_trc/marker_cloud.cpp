@@ -3,9 +3,9 @@
 #include <algorithm>
 #include <cstddef>
 
+#include "formats/math/z_up.h"
 #include "plugin/exchange/node_controllers.h"
 #include "plugin/import_trc/marker_nodes.h"
-#include "plugin/math/z_up.h"
 #include "sdk/core/animation.h"
 
 namespace orvane {

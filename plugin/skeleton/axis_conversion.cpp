@@ -2,8 +2,8 @@
 
 #include <numbers>
 
-#include "plugin/math/euler_rotation.h"
-#include "plugin/math/z_up.h"
+#include "formats/math/euler_rotation.h"
+#include "formats/math/z_up.h"
 
 namespace orvane {
 namespace {

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "plugin/math/quaternion.h"
-#include "plugin/math/rotation_matrix3.h"
-#include "plugin/math/vector.h"
+#include "formats/math/quaternion.h"
+#include "formats/math/rotation_matrix3.h"
+#include "formats/math/vector.h"
 #include "sdk/geom/point3.h"
 #include "sdk/geom/quat.h"
 

@@ -6,8 +6,8 @@
 #include <limits>
 #include <random>
 
+#include "formats/math/euler_rotation.h"
 #include "formats/units/units.h"
-#include "plugin/math/euler_rotation.h"
 
 namespace {
 

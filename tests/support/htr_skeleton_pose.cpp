@@ -1,6 +1,6 @@
 #include "tests/support/htr_skeleton_pose.h"
 
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 
 namespace test {
 namespace {

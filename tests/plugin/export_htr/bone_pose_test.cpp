@@ -2,7 +2,7 @@
 
 #include <numbers>
 
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 #include "tests/plugin/export_htr/sampling_fixture.h"
 
 namespace orvane {

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 #include "tests/support/tolerances.h"
 
 namespace orvane {

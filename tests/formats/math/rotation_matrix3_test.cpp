@@ -1,9 +1,9 @@
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 
 #include <gtest/gtest.h>
 
-#include "plugin/math/euler_rotation.h"
-#include "tests/plugin/math/reference.h"
+#include "formats/math/euler_rotation.h"
+#include "tests/formats/math/reference.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/math/euler_order.h"
+#include "formats/math/euler_order.h"
 
 #include <array>
 

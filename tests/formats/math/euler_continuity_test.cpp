@@ -3,7 +3,7 @@
 #include <cmath>
 #include <limits>
 
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 #include "tests/support/tolerances.h"
 
 namespace orvane {

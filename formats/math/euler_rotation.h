@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "plugin/math/euler_order.h"
-#include "plugin/math/rotation.h"
-#include "plugin/math/vector.h"
+#include "formats/math/euler_order.h"
+#include "formats/math/rotation.h"
+#include "formats/math/vector.h"
 
 // A rotation as three Euler angles in radians under an order. Conversions follow Ken Shoemake,
 // "Euler Angle Conversion", Graphics Gems IV, 1994, with a wrap of extracted angles into -pi to pi.

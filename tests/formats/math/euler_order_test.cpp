@@ -1,8 +1,8 @@
-#include "plugin/math/euler_order.h"
+#include "formats/math/euler_order.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/plugin/math/reference.h"
+#include "tests/formats/math/reference.h"
 
 namespace orvane {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <array>
 
-#include "plugin/math/rotation.h"
-#include "plugin/math/vector.h"
+#include "formats/math/rotation.h"
+#include "formats/math/vector.h"
 
 // A rotation as a matrix M that acts on column vectors: v' = M v. It is stored as its three
 // columns, the images of the X, Y and Z axes, which are the rows of the host's row-vector matrix.

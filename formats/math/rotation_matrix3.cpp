@@ -1,9 +1,9 @@
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 
 #include <cmath>
 #include <utility>
 
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 
 namespace orvane {
 

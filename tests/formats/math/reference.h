@@ -3,8 +3,8 @@
 #include <array>
 #include <string_view>
 
-#include "plugin/math/quaternion.h"
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/quaternion.h"
+#include "formats/math/rotation_matrix3.h"
 
 // Rotations the slow and plain way, from textbook formulas alone, to compare the library with.
 namespace orvane::reference {

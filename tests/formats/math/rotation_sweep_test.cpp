@@ -4,10 +4,10 @@
 #include <random>
 #include <string>
 
-#include "plugin/math/euler_rotation.h"
-#include "plugin/math/quaternion.h"
-#include "plugin/math/rotation_matrix3.h"
-#include "tests/plugin/math/reference.h"
+#include "formats/math/euler_rotation.h"
+#include "formats/math/quaternion.h"
+#include "formats/math/rotation_matrix3.h"
+#include "tests/formats/math/reference.h"
 
 namespace orvane {
 namespace {

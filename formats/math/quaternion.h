@@ -1,9 +1,9 @@
 #pragma once
 
-#include "plugin/math/euler_rotation.h"
-#include "plugin/math/rotation.h"
-#include "plugin/math/rotation_matrix3.h"
-#include "plugin/math/vector.h"
+#include "formats/math/euler_rotation.h"
+#include "formats/math/rotation.h"
+#include "formats/math/rotation_matrix3.h"
+#include "formats/math/vector.h"
 
 // A rotation as a unit quaternion: vector part x, y, z, scalar part w. +90 degrees about Z is
 // (0, 0, 0.7071, 0.7071) and takes +X to +Y. The host's quaternion turns the opposite way.

@@ -1,10 +1,10 @@
-#include "plugin/math/quaternion.h"
+#include "formats/math/quaternion.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "tests/plugin/math/reference.h"
+#include "tests/formats/math/reference.h"
 #include "tests/support/tolerances.h"
 
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "plugin/math/quaternion.h"
+#include "formats/math/quaternion.h"
 
 #include <cmath>
 #include <utility>

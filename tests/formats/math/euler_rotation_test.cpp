@@ -1,10 +1,10 @@
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 #include "tests/support/tolerances.h"
 
 namespace orvane {

@@ -1,8 +1,8 @@
-#include "plugin/math/euler_rotation.h"
+#include "formats/math/euler_rotation.h"
 
 #include <cmath>
 
-#include "plugin/math/rotation_matrix3.h"
+#include "formats/math/rotation_matrix3.h"
 
 namespace orvane {
 namespace {

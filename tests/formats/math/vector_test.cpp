@@ -1,4 +1,4 @@
-#include "plugin/math/vector.h"
+#include "formats/math/vector.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/math/vector.h"
+#include "formats/math/vector.h"
 
 namespace orvane {
 

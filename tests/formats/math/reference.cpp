@@ -1,4 +1,4 @@
-#include "tests/plugin/math/reference.h"
+#include "tests/formats/math/reference.h"
 
 #include <gtest/gtest.h>
 
