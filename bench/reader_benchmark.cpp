@@ -4,8 +4,8 @@
 #include <string>
 
 #include "bench/motion_text.h"
-#include "plugin/htr/document.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
 
 namespace bench {
 namespace {

@@ -6,9 +6,9 @@
 #include <string_view>
 
 #include "bench/motion_text.h"
-#include "plugin/htr/document.h"
-#include "plugin/htr/reader.h"
-#include "plugin/htr/writer.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
+#include "formats/htr/writer.h"
 
 namespace bench {
 namespace {

@@ -7,8 +7,8 @@
 
 #include "cli/comparison_report.h"
 #include "cli/input.h"
+#include "formats/htr/reader.h"
 #include "formats/text/numbers.h"
-#include "plugin/htr/reader.h"
 
 namespace cli {
 namespace {

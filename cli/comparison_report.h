@@ -5,7 +5,7 @@
 
 #include "cli/motion_comparison.h"
 #include "cli/structure_comparison.h"
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What `orvane compare` tells of two motion files: as a page for a person, or as JSON for a
 // program. docs/command-line.md documents the JSON; its version changes when a field changes its

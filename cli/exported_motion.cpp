@@ -7,8 +7,8 @@
 
 #include "cli/failure.h"
 #include "cli/read_back.h"
-#include "plugin/htr/document.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
 
 namespace cli {
 namespace {

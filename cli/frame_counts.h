@@ -4,8 +4,8 @@
 #include <string>
 
 #include "cli/proportion.h"
-#include "plugin/htr/document.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
 
 // Whether a motion file holds the frames that its header announces. The plug-in sets keys for what
 // is announced, so a header that is wrong can ask for any amount of work.

@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // The segments of a document as trees, in an order that can be walked from front to back.
 

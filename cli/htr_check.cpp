@@ -9,8 +9,8 @@
 #include "cli/htr_watcher.h"
 #include "cli/soundness.h"
 #include "cli/text_flaw.h"
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
 
 namespace cli {
 namespace {

@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "cli/htr_keywords.h"
-#include "plugin/htr/read_observer.h"
+#include "formats/htr/read_observer.h"
 
 // Where the parts of an HTR file stand, as far as it was read. The texts lie in the bytes of the
 // file.

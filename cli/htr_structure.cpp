@@ -6,8 +6,8 @@
 
 #include "cli/frame_counts.h"
 #include "cli/htr_rules.h"
+#include "formats/htr/sections.h"
 #include "formats/text/numbers.h"
-#include "plugin/htr/sections.h"
 
 namespace cli::htr {
 namespace {

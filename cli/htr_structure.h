@@ -2,7 +2,7 @@
 
 #include "cli/findings.h"
 #include "cli/htr_parts.h"
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What can be said of an HTR file only when all of it has been read: parts that are missing, and
 // how the segments hang together.

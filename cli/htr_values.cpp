@@ -8,9 +8,9 @@
 #include "cli/htr_keywords.h"
 #include "cli/htr_rules.h"
 #include "cli/similar_words.h"
+#include "formats/htr/sections.h"
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
-#include "plugin/htr/sections.h"
 
 namespace cli::htr {
 namespace {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 #include "cli/findings.h"
-#include "plugin/htr/read_observer.h"
+#include "formats/htr/read_observer.h"
 
 // What is said of single numbers and words of an HTR file.
 

@@ -6,7 +6,7 @@
 
 #include "cli/findings.h"
 #include "cli/htr_parts.h"
-#include "plugin/htr/read_observer.h"
+#include "formats/htr/read_observer.h"
 
 // Watches the reader of HTR files: turns its oddities into findings, and keeps where the parts of
 // the file stand.

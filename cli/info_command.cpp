@@ -8,7 +8,7 @@
 #include "cli/input.h"
 #include "cli/messages.h"
 #include "cli/trc_info.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 
 namespace cli {
 namespace {

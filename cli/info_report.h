@@ -5,7 +5,7 @@
 #include <string>
 
 #include "cli/motion_summary.h"
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What `orvane info` tells of a motion file: as a page for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or

@@ -3,8 +3,8 @@
 #include "cli/advice.h"
 #include "cli/file_kind.h"
 #include "cli/text_flaw.h"
+#include "formats/htr/reader.h"
 #include "formats/text/files.h"
-#include "plugin/htr/reader.h"
 
 namespace cli {
 

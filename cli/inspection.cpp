@@ -7,8 +7,8 @@
 #include "cli/imported_frames.h"
 #include "cli/keyed_segments.h"
 #include "cli/trc_inspection.h"
+#include "formats/htr/reader.h"
 #include "formats/text/numbers.h"
-#include "plugin/htr/reader.h"
 
 namespace cli {
 namespace {

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "formats/htr/document.h"
 #include "host/scene/scene.h"
-#include "plugin/htr/document.h"
 
 // Which segments of a motion file an import sets keys for.
 

@@ -7,8 +7,8 @@
 #include <vector>
 
 #include "cli/structure_comparison.h"
+#include "formats/htr/document.h"
 #include "formats/math/rotation_matrix3.h"
-#include "plugin/htr/document.h"
 
 // How far the joints of two motions are from each other, frame by frame: in the world and in
 // millimetres, and in degrees between their rotations against the parent. Base and frame are put

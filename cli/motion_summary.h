@@ -6,7 +6,7 @@
 
 #include "cli/hierarchy.h"
 #include "cli/pose_walk.h"
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What can be told of a motion without showing every frame.
 

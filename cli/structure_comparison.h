@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cli/hierarchy.h"
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What two motion files hold, as opposed to where it moves: the segments by their names, what each
 // hangs from, and the frames by their numbers. The files are called A and B.

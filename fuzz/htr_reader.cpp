@@ -2,10 +2,10 @@
 #include <string>
 #include <string_view>
 
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
 #include "fuzz/expect.h"
 #include "fuzz/target.h"
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
 
 namespace {
 

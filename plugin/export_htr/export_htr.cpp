@@ -4,6 +4,7 @@
 #include <limits>
 #include <string>
 
+#include "formats/htr/writer.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_modes.h"
@@ -11,7 +12,6 @@
 #include "plugin/export_htr/export_root.h"
 #include "plugin/export_htr/options_dialog.h"
 #include "plugin/export_htr/skeleton_sampler.h"
-#include "plugin/htr/writer.h"
 #include "sdk/core/animation.h"
 #include "sdk/core/units.h"
 

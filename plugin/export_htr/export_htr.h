@@ -1,7 +1,7 @@
 #pragma once
 
+#include "formats/htr/document.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/htr/document.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/product.h"

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
+#include "formats/htr/document.h"
 #include "plugin/export_htr/bone_pose.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/htr/document.h"
 #include "plugin/shell/message_sink.h"
 #include "sdk/core/interface.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "formats/htr/document.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/htr/document.h"
 #include "plugin/shell/message_sink.h"
 #include "sdk/core/interface.h"
 

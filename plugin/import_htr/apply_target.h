@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 #include "sdk/core/interface.h"
 
 // Which skeleton of the scene a file's motion goes to, and from which segment on. The selection

@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // How much work a hierarchy may ask for. A file that lists its hierarchy twice doubles it at every
 // level, so a few hundred bytes can ask for more bones than any memory holds. A hierarchy that

@@ -4,11 +4,11 @@
 #include <limits>
 #include <string_view>
 
+#include "formats/htr/reader.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_modes.h"
 #include "plugin/exchange/progress_bar.h"
-#include "plugin/htr/reader.h"
 #include "plugin/import_htr/apply_target.h"
 #include "plugin/import_htr/import_budget.h"
 #include "plugin/import_htr/motion_applier.h"

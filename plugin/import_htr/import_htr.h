@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"

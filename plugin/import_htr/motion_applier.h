@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "formats/htr/segment.h"
 #include "plugin/exchange/key_times.h"
-#include "plugin/htr/segment.h"
 #include "plugin/import_htr/options.h"
 #include "sdk/core/interface.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "formats/htr/segment.h"
 #include "plugin/exchange/key_times.h"
-#include "plugin/htr/segment.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/import_htr/parent_scale.h"
 #include "plugin/skeleton/axis_conversion.h"

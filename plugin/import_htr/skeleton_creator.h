@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "plugin/htr/segment.h"
+#include "formats/htr/segment.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/import_htr/scene_nodes.h"
 #include "sdk/core/interface.h"

@@ -1,4 +1,4 @@
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/cli/scene_file.h"
 #include "tests/support/htr_skeleton_pose.h"

@@ -6,8 +6,8 @@
 #include <filesystem>
 #include <string>
 
+#include "formats/htr/reader.h"
 #include "formats/units/units.h"
-#include "plugin/htr/reader.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"
 

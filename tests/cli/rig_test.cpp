@@ -1,7 +1,7 @@
 // The example scene that no import has made, exported.
 
-#include "plugin/htr/document.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
 #include "tests/cli/orvane_test.h"
 
 namespace {

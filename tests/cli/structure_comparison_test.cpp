@@ -5,7 +5,7 @@
 
 #include <string>
 
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 #include "tests/support/htr_text.h"
 
 namespace {

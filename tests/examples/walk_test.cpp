@@ -6,9 +6,9 @@
 
 #include "examples/geometry.h"
 #include "examples/walk_text.h"
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
 #include "formats/text/files.h"
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
 #include "tests/support/htr_skeleton_pose.h"
 
 // What makes the example a walk: seen in the joints' positions, Y up, Z forward, X to the left.

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"

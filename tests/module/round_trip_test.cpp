@@ -9,10 +9,10 @@
 #include <cstdio>
 #include <random>
 
+#include "formats/htr/reader.h"
 #include "formats/math/rotation_matrix3.h"
 #include "host/gltf/reader.h"
 #include "host/gltf/writer.h"
-#include "plugin/htr/reader.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/htr_skeleton_pose.h"

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "plugin/htr/segment.h"
+#include "formats/htr/segment.h"
 
 namespace test {
 

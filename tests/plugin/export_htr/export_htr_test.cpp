@@ -4,8 +4,8 @@
 #include <stdexcept>
 #include <string>
 
+#include "formats/htr/reader.h"
 #include "platform/module.h"
-#include "plugin/htr/reader.h"
 #include "tests/plugin/export_htr/sampling_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/forwarding_interface.h"

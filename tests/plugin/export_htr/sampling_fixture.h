@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "formats/htr/document.h"
 #include "host/application/application.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/htr/document.h"
 #include "plugin/shell/message_sink.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/desk.h"

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
+#include "formats/htr/document.h"
 #include "host/application/application.h"
 #include "host/desktop/settings.h"
-#include "plugin/htr/document.h"
 #include "plugin/import_htr/options.h"
 #include "tests/support/bone_nodes.h"
 

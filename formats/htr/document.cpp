@@ -1,4 +1,4 @@
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 #include "formats/units/units.h"
 

@@ -4,10 +4,10 @@
 #include <span>
 #include <string_view>
 
+#include "formats/htr/read_observer.h"
 #include "formats/text/lines.h"
 #include "formats/text/number_faults.h"
 #include "formats/text/watched_line.h"
-#include "plugin/htr/read_observer.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/document_checker.h"
+#include "formats/htr/document_checker.h"
 
 namespace orvane {
 namespace {

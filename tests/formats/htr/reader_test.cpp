@@ -1,4 +1,4 @@
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 
 #include <gtest/gtest.h>
 
@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/document_checker.h"
-#include "tests/plugin/htr/motion_text.h"
+#include "formats/htr/document_checker.h"
+#include "tests/formats/htr/motion_text.h"
 
 namespace orvane {
 namespace {

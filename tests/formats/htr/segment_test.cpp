@@ -1,4 +1,4 @@
-#include "plugin/htr/segment.h"
+#include "formats/htr/segment.h"
 
 #include <gtest/gtest.h>
 

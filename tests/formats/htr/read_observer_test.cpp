@@ -1,4 +1,4 @@
-#include "plugin/htr/read_observer.h"
+#include "formats/htr/read_observer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,8 +8,8 @@
 #include <tuple>
 #include <vector>
 
-#include "plugin/htr/reader.h"
-#include "tests/plugin/htr/motion_text.h"
+#include "formats/htr/reader.h"
+#include "tests/formats/htr/motion_text.h"
 
 namespace orvane {
 namespace {

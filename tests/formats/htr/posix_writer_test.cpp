@@ -3,7 +3,7 @@
 #include <filesystem>
 #include <fstream>
 
-#include "plugin/htr/writer.h"
+#include "formats/htr/writer.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 

@@ -5,9 +5,9 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
-#include "tests/plugin/htr/motion_text.h"
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
+#include "tests/formats/htr/motion_text.h"
 
 // Whatever the bytes, reading ends, stays inside them, and leaves a sound document.
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "plugin/htr/header_fields.h"
+#include "formats/htr/header_fields.h"
 
 #include <algorithm>
 #include <array>

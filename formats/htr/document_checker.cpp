@@ -1,4 +1,4 @@
-#include "plugin/htr/document_checker.h"
+#include "formats/htr/document_checker.h"
 
 #include <string_view>
 #include <unordered_set>

@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plugin/htr/document.h"
+#include "formats/htr/document.h"
 
 // What holds for any motion document, whatever was read into it: for tests, fuzzers and the program
 // that checks files. A fault is one of this library, never of a file.

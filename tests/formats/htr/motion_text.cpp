@@ -1,4 +1,4 @@
-#include "tests/plugin/htr/motion_text.h"
+#include "tests/formats/htr/motion_text.h"
 
 #include <stdexcept>
 

@@ -8,7 +8,7 @@
 #include <unordered_map>
 #include <vector>
 
-#include "plugin/htr/segment.h"
+#include "formats/htr/segment.h"
 
 // A motion file in memory: the settings of its header and its segments in file order. Reading and
 // writing files is not done here. Unit and axis codes are those of formats/units.

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"
 

@@ -1,4 +1,4 @@
-#include "plugin/htr/writer.h"
+#include "formats/htr/writer.h"
 
 #include <algorithm>
 #include <array>

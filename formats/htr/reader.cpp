@@ -1,4 +1,4 @@
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 
 #include <algorithm>
 #include <array>
@@ -8,14 +8,14 @@
 #include <optional>
 #include <vector>
 
+#include "formats/htr/header_fields.h"
+#include "formats/htr/number_cells.h"
+#include "formats/htr/oddities.h"
+#include "formats/htr/sections.h"
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
 #include "formats/text/tokens.h"
 #include "formats/units/units.h"
-#include "plugin/htr/header_fields.h"
-#include "plugin/htr/number_cells.h"
-#include "plugin/htr/oddities.h"
-#include "plugin/htr/sections.h"
 
 namespace orvane {
 namespace {

@@ -5,9 +5,9 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/htr/document_checker.h"
-#include "plugin/htr/reader.h"
-#include "plugin/htr/writer.h"
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
+#include "formats/htr/writer.h"
 
 namespace orvane {
 namespace {

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/writer.h"
+#include "formats/htr/writer.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 

@@ -5,8 +5,8 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "plugin/htr/document.h"
-#include "plugin/htr/read_observer.h"
+#include "formats/htr/document.h"
+#include "formats/htr/read_observer.h"
 
 // Reads motion files into a document. docs/formats/htr.md describes the files, and what is let
 // pass.

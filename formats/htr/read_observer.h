@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
-#include "plugin/htr/sections.h"
+#include "formats/htr/sections.h"
 
 // What the reader meets on its way through a file, told to whoever wants to know: what it lets pass
 // without a message, what it refuses, and where the parts of the file stand. Watching changes

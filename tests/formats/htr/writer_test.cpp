@@ -1,4 +1,4 @@
-#include "plugin/htr/writer.h"
+#include "formats/htr/writer.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +9,7 @@
 #include <string_view>
 #include <vector>
 
-#include "plugin/htr/reader.h"
+#include "formats/htr/reader.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/htr/oddities.h"
+#include "formats/htr/oddities.h"
 
 #include "formats/text/tokens.h"
 

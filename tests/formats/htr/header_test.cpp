@@ -3,8 +3,8 @@
 #include <string>
 #include <vector>
 
-#include "plugin/htr/reader.h"
-#include "tests/plugin/htr/motion_text.h"
+#include "formats/htr/reader.h"
+#include "tests/formats/htr/motion_text.h"
 
 namespace orvane {
 namespace {

@@ -4,8 +4,8 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/htr/document.h"
-#include "plugin/htr/oddities.h"
+#include "formats/htr/document.h"
+#include "formats/htr/oddities.h"
 
 // The keyword lines of a motion file's header. Belongs to the reader.
 namespace orvane {
