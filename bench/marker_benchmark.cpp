@@ -4,7 +4,7 @@
 #include <string>
 
 #include "bench/marker_text.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 namespace bench {
 namespace {

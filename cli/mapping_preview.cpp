@@ -5,7 +5,7 @@
 #include "cli/messages.h"
 #include "cli/trc_outline.h"
 #include "cli/trc_worth.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 namespace cli {
 namespace {

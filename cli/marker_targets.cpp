@@ -6,7 +6,7 @@
 
 #include "cli/trc_outline.h"
 #include "formats/text/numbers.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 namespace cli {
 namespace {

@@ -11,7 +11,7 @@
 #include "cli/trc_rules.h"
 #include "cli/trc_watcher.h"
 #include "formats/text/numbers.h"
-#include "plugin/trc/document_checker.h"
+#include "formats/trc/document_checker.h"
 
 namespace cli {
 namespace {

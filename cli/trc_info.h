@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/trc_summary.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 // What `orvane info` tells of a marker file: as a page for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or

@@ -8,8 +8,8 @@
 #include "cli/imported_frames.h"
 #include "cli/input.h"
 #include "formats/text/numbers.h"
+#include "formats/trc/document.h"
 #include "platform/path_text.h"
-#include "plugin/trc/document.h"
 
 namespace cli {
 namespace {

@@ -2,7 +2,7 @@
 
 #include "cli/input.h"
 #include "cli/trc_outline.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 namespace cli {
 namespace {

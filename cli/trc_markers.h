@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/read_observer.h"
 
 // The markers of a TRC file, without its frames.
 

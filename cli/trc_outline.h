@@ -3,7 +3,7 @@
 #include <optional>
 #include <string>
 
-#include "plugin/trc/outline.h"
+#include "formats/trc/outline.h"
 
 namespace cli {
 

@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/read_observer.h"
 
 // Where the parts of a TRC file stand, as far as it was read.
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "cli/motion_summary.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 // What can be told of a marker file without showing every frame.
 

@@ -9,8 +9,8 @@
 
 #include "cli/findings.h"
 #include "cli/trc_parts.h"
-#include "plugin/trc/document.h"
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/document.h"
+#include "formats/trc/read_observer.h"
 
 // Watches the reader of TRC files: turns its oddities into findings, and keeps where the parts of
 // the file stand.

@@ -10,9 +10,9 @@
 #include "cli/frame_counts.h"
 #include "cli/input.h"
 #include "cli/trc_outline.h"
+#include "formats/trc/document.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
-#include "plugin/trc/document.h"
 
 namespace cli {
 namespace {

@@ -3,10 +3,10 @@
 #include <string>
 #include <string_view>
 
+#include "formats/trc/document.h"
+#include "formats/trc/document_checker.h"
 #include "fuzz/expect.h"
 #include "fuzz/target.h"
-#include "plugin/trc/document.h"
-#include "plugin/trc/document_checker.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <cstdint>
 #include <vector>
 
-#include "plugin/trc/sample_walk.h"
+#include "formats/trc/sample_walk.h"
 
 namespace orvane {
 namespace {

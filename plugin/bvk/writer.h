@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "formats/text/text_buffer.h"
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 // Writes the markers of a document as a marker file of the host's character animation.
 // docs/formats/bvk.md describes what is written.

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "formats/trc/document.h"
 #include "plugin/import_trc/options.h"
 #include "plugin/shell/about_dialog.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/product.h"
-#include "plugin/trc/document.h"
 #include "sdk/core/cstr.h"
 #include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"

@@ -3,11 +3,11 @@
 #include <cstdint>
 #include <optional>
 
+#include "formats/trc/document.h"
 #include "plugin/exchange/key_times.h"
 #include "plugin/import_trc/options.h"
 #include "plugin/import_trc/selected_nodes.h"
 #include "plugin/shell/message_sink.h"
-#include "plugin/trc/document.h"
 #include "sdk/core/interface.h"
 
 // Builds the scene of one import: finds or creates an object for each marker, and keys its

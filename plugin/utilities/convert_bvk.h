@@ -2,12 +2,12 @@
 
 #include <string>
 
+#include "formats/trc/document.h"
 #include "platform/handles.h"
 #include "plugin/mnm/marker_name_map.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/settings_store.h"
 #include "plugin/shell/string_table.h"
-#include "plugin/trc/document.h"
 #include "plugin/utilities/panel_command.h"
 #include "sdk/core/interface.h"
 

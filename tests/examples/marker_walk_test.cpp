@@ -5,8 +5,8 @@
 
 #include "examples/marker_walk_text.h"
 #include "formats/text/files.h"
+#include "formats/trc/document.h"
 #include "plugin/mnm/marker_name_map.h"
-#include "plugin/trc/document.h"
 
 namespace examples {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/trc/fields.h"
+#include "formats/trc/fields.h"
 
 #include <gtest/gtest.h>
 

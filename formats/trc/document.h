@@ -7,8 +7,8 @@
 #include <string_view>
 #include <unordered_set>
 
-#include "plugin/trc/marker.h"
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/marker.h"
+#include "formats/trc/read_observer.h"
 
 // A marker file in memory: the values of its header, and its markers in the order of their columns.
 // Unit codes are the length codes of formats/units.

@@ -6,8 +6,8 @@
 #include <string_view>
 
 #include "formats/text/lines.h"
-#include "plugin/trc/fields.h"
-#include "plugin/trc/oddities.h"
+#include "formats/trc/fields.h"
+#include "formats/trc/oddities.h"
 
 // Looks a frame's line over for what the reader lets pass. A second look at the line, made only for
 // an observer, so that reading need not wonder about any of it.

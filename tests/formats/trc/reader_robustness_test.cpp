@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "plugin/trc/document.h"
-#include "plugin/trc/document_checker.h"
+#include "formats/trc/document.h"
+#include "formats/trc/document_checker.h"
 #include "tests/support/trc_text.h"
 
 // Whatever the bytes, reading ends, stays inside them, and leaves a sound document.

@@ -5,8 +5,8 @@
 #include <ostream>
 #include <string>
 
-#include "plugin/trc/document.h"
-#include "plugin/trc/document_checker.h"
+#include "formats/trc/document.h"
+#include "formats/trc/document_checker.h"
 
 // Real recordings are not ours to keep: they lie beside the repository, or where the environment
 // variable ORVANE_RECORDINGS says.

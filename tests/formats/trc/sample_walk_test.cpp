@@ -1,8 +1,8 @@
-#include "plugin/trc/sample_walk.h"
+#include "formats/trc/sample_walk.h"
 
 #include <gtest/gtest.h>
 
-#include "tests/plugin/trc/samples.h"
+#include "tests/formats/trc/samples.h"
 
 namespace orvane {
 namespace {

@@ -1,12 +1,12 @@
-#include "plugin/trc/header_lines.h"
+#include "formats/trc/header_lines.h"
 
 #include <optional>
 #include <string_view>
 
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
+#include "formats/trc/fields.h"
 #include "formats/units/units.h"
-#include "plugin/trc/fields.h"
 
 namespace orvane {
 namespace {

@@ -1,4 +1,4 @@
-#include "plugin/trc/oddities.h"
+#include "formats/trc/oddities.h"
 
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"

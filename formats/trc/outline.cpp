@@ -1,6 +1,6 @@
-#include "plugin/trc/outline.h"
+#include "formats/trc/outline.h"
 
-#include "plugin/trc/line_rules.h"
+#include "formats/trc/line_rules.h"
 
 namespace orvane {
 

@@ -5,7 +5,7 @@
 
 #include "formats/text/number_faults.h"
 #include "formats/text/watched_line.h"
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/read_observer.h"
 
 // The reader's side of the observer: knows the current line, and does nothing without an observer.
 namespace orvane {

@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-#include "plugin/trc/marker.h"
+#include "formats/trc/marker.h"
 
 // The samples of a marker one after the other, each in constant time.
 namespace orvane {

@@ -5,8 +5,8 @@
 #include <string>
 
 #include "formats/text/lines.h"
-#include "plugin/trc/document.h"
-#include "plugin/trc/oddities.h"
+#include "formats/trc/document.h"
+#include "formats/trc/oddities.h"
 
 // The lines of a marker file that come before its frames. Belongs to the reader.
 namespace orvane {

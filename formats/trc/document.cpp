@@ -1,4 +1,4 @@
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 #include "formats/units/units.h"
 

@@ -1,4 +1,4 @@
-#include "plugin/trc/data_line_inspector.h"
+#include "formats/trc/data_line_inspector.h"
 
 #include <algorithm>
 

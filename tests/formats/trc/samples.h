@@ -5,7 +5,7 @@
 #include <optional>
 #include <vector>
 
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 // Samples in a form that tests compare.
 namespace test {

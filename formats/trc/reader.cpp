@@ -10,13 +10,13 @@
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
 #include "formats/text/numbers.h"
-#include "plugin/trc/coordinate_cells.h"
-#include "plugin/trc/data_line_inspector.h"
-#include "plugin/trc/document.h"
-#include "plugin/trc/fields.h"
-#include "plugin/trc/header_lines.h"
-#include "plugin/trc/line_rules.h"
-#include "plugin/trc/oddities.h"
+#include "formats/trc/coordinate_cells.h"
+#include "formats/trc/data_line_inspector.h"
+#include "formats/trc/document.h"
+#include "formats/trc/fields.h"
+#include "formats/trc/header_lines.h"
+#include "formats/trc/line_rules.h"
+#include "formats/trc/oddities.h"
 
 // Reading of marker files.
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "plugin/trc/document_checker.h"
+#include "formats/trc/document_checker.h"
 
 #include <cstddef>
 #include <unordered_set>

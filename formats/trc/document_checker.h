@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 namespace orvane {
 

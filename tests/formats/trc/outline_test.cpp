@@ -1,4 +1,4 @@
-#include "plugin/trc/outline.h"
+#include "formats/trc/outline.h"
 
 #include <gtest/gtest.h>
 
@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 #include "tests/support/trc_text.h"
 
 namespace orvane {

@@ -1,4 +1,4 @@
-#include "plugin/trc/marker.h"
+#include "formats/trc/marker.h"
 
 #include <algorithm>
 #include <iterator>

@@ -1,4 +1,4 @@
-#include "plugin/trc/marker.h"
+#include "formats/trc/marker.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <random>
 #include <vector>
 
-#include "tests/plugin/trc/samples.h"
+#include "tests/formats/trc/samples.h"
 
 namespace orvane {
 namespace {

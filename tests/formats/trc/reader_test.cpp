@@ -8,9 +8,9 @@
 #include <string>
 #include <vector>
 
-#include "plugin/trc/document.h"
-#include "plugin/trc/document_checker.h"
-#include "tests/plugin/trc/samples.h"
+#include "formats/trc/document.h"
+#include "formats/trc/document_checker.h"
+#include "tests/formats/trc/samples.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trc_text.h"
 

@@ -1,4 +1,4 @@
-#include "plugin/trc/read_observer.h"
+#include "formats/trc/read_observer.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -8,7 +8,7 @@
 #include <tuple>
 #include <vector>
 
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 #include "tests/support/trc_text.h"
 
 namespace orvane {

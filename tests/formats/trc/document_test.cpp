@@ -1,4 +1,4 @@
-#include "plugin/trc/document.h"
+#include "formats/trc/document.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -6,7 +6,7 @@
 #include <array>
 #include <string>
 
-#include "tests/plugin/trc/samples.h"
+#include "tests/formats/trc/samples.h"
 
 namespace orvane {
 namespace {
