@@ -4,9 +4,9 @@
 #include <ios>
 #include <string_view>
 
+#include "formats/bvk/writer.h"
 #include "formats/text/files.h"
 #include "platform/local_time.h"
-#include "plugin/bvk/writer.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/utilities/conversion_run.h"
 #include "sdk/skelderutil/filename.h"

@@ -4,7 +4,7 @@
 
 #include <regex>
 
-#include "plugin/bvk/writer.h"
+#include "formats/bvk/writer.h"
 #include "tests/support/temporary_folder.h"
 
 namespace cli {

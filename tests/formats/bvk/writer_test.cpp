@@ -1,4 +1,4 @@
-#include "plugin/bvk/writer.h"
+#include "formats/bvk/writer.h"
 
 #include <gmock/gmock.h>
 
