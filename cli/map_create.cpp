@@ -16,11 +16,11 @@
 #include "cli/picks_table.h"
 #include "cli/read_back.h"
 #include "cli/replaced_input.h"
+#include "formats/mnm/marker_name_map.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
 #include "platform/scratch_folder.h"
-#include "plugin/mnm/marker_name_map.h"
 
 namespace cli {
 namespace {

@@ -4,7 +4,7 @@
 
 #include "cli/exit_status.h"
 #include "cli/plugin_session.h"
-#include "plugin/mnm/standard_markers.h"
+#include "formats/mnm/standard_markers.h"
 
 // `orvane map create`: the plug-in's mapping creator, used by somebody who picks by a table.
 

@@ -4,7 +4,7 @@
 
 #include "cli/picks_table.h"
 #include "cli/plugin_session.h"
-#include "plugin/mnm/standard_markers.h"
+#include "formats/mnm/standard_markers.h"
 
 // The user of the plug-in's mapping creator.
 

@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "cli/failure.h"
+#include "formats/mnm/marker_name_map.h"
 #include "formats/trc/document.h"
-#include "plugin/mnm/marker_name_map.h"
 
 // The names that a conversion writes markers under.
 

@@ -9,7 +9,7 @@
 #include "cli/similar_words.h"
 #include "cli/text_flaw.h"
 #include "cli/trc_markers.h"
-#include "plugin/mnm/mapping_lines.h"
+#include "formats/mnm/mapping_lines.h"
 
 namespace cli {
 namespace {

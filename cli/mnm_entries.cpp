@@ -5,8 +5,8 @@
 
 #include "cli/mnm_rules.h"
 #include "cli/similar_words.h"
+#include "formats/mnm/standard_markers.h"
 #include "formats/text/numbers.h"
-#include "plugin/mnm/standard_markers.h"
 
 namespace cli::mnm {
 namespace {

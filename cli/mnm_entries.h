@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "cli/findings.h"
+#include "formats/mnm/mapping_lines.h"
 #include "formats/text/watched_line.h"
-#include "plugin/mnm/mapping_lines.h"
 
 // The entries of a mapping file that count, and what is odd about its lines.
 

@@ -7,8 +7,8 @@
 
 #include "cli/failure.h"
 #include "cli/text_flaw.h"
-#include "plugin/mnm/marker_name_map.h"
-#include "plugin/mnm/standard_markers.h"
+#include "formats/mnm/marker_name_map.h"
+#include "formats/mnm/standard_markers.h"
 
 // The table of picks for `orvane map create`: which marker plays the role of which standard marker.
 // One line each: the standard name, white space, the marker name or a `-` for none; blank lines and

@@ -2,9 +2,9 @@
 
 #include <string>
 
+#include "formats/mnm/marker_name_map.h"
 #include "formats/trc/document.h"
 #include "platform/handles.h"
-#include "plugin/mnm/marker_name_map.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/settings_store.h"
 #include "plugin/shell/string_table.h"

@@ -5,8 +5,8 @@
 #include <optional>
 #include <string>
 
+#include "formats/mnm/standard_markers.h"
 #include "platform/handles.h"
-#include "plugin/mnm/standard_markers.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/shell/string_table.h"
 #include "plugin/utilities/convert_bvk.h"

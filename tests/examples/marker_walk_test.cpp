@@ -4,9 +4,9 @@
 #include <string>
 
 #include "examples/marker_walk_text.h"
+#include "formats/mnm/marker_name_map.h"
 #include "formats/text/files.h"
 #include "formats/trc/document.h"
-#include "plugin/mnm/marker_name_map.h"
 
 namespace examples {
 namespace {

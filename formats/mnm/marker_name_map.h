@@ -30,7 +30,7 @@ class MarkerNameMap {
   void Clear();
 
   // Appends an entry without a node for every line of the file `path` (UTF-8), as
-  // plugin/mnm/mapping_lines.h reads it. Returns false when the file cannot be read; the entries
+  // formats/mnm/mapping_lines.h reads it. Returns false when the file cannot be read; the entries
   // are then those from before.
   // Intended: what was there stays in front, so the entries of an earlier file go first.
   bool Load(const std::string& path);

@@ -1,4 +1,4 @@
-#include "plugin/mnm/mapping_lines.h"
+#include "formats/mnm/mapping_lines.h"
 
 #include <gtest/gtest.h>
 

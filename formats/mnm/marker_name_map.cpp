@@ -1,10 +1,10 @@
-#include "plugin/mnm/marker_name_map.h"
+#include "formats/mnm/marker_name_map.h"
 
 #include <fstream>
 #include <optional>
 
+#include "formats/mnm/mapping_lines.h"
 #include "formats/text/files.h"
-#include "plugin/mnm/mapping_lines.h"
 
 namespace orvane {
 

@@ -1,4 +1,4 @@
-#include "plugin/mnm/standard_markers.h"
+#include "formats/mnm/standard_markers.h"
 
 #include <algorithm>
 

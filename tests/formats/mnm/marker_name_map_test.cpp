@@ -1,4 +1,4 @@
-#include "plugin/mnm/marker_name_map.h"
+#include "formats/mnm/marker_name_map.h"
 
 #include <gtest/gtest.h>
 
