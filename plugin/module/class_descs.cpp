@@ -1,4 +1,4 @@
-#include "plugin/shell/class_descs.h"
+#include "plugin/module/class_descs.h"
 
 #include <new>
 #include <utility>

@@ -1,4 +1,4 @@
-#include "plugin/shell/class_desc.h"
+#include "plugin/module/class_desc.h"
 
 #include "platform/module.h"
 #include "plugin/resources/resource.h"

@@ -3,7 +3,7 @@
 #include "plugin/export_htr/options.h"
 #include "plugin/import_htr/options.h"
 #include "plugin/import_trc/options.h"
-#include "plugin/shell/class_desc.h"
+#include "plugin/module/class_desc.h"
 #include "plugin/shell/message_sink.h"
 #include "plugin/utilities/pick_control_node.h"
 
