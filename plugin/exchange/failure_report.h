@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 
 // What the user is told about work that an exception has ended.
 namespace orvane {

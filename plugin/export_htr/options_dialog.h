@@ -6,7 +6,7 @@
 #include "plugin/exchange/frame_range_controls.h"
 #include "plugin/exchange/options_dialog.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 
 // The dialog in which the user chooses how a skeleton is exported: fills and enables its controls,
 // checks what was typed, and keeps the options.

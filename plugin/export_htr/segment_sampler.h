@@ -5,7 +5,7 @@
 #include "formats/htr/document.h"
 #include "plugin/export_htr/bone_pose.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "sdk/core/interface.h"
 
 // One bone becomes one segment: its base position, and its motion relative to that. The hierarchy

@@ -2,7 +2,7 @@
 
 #include "formats/htr/document.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "sdk/core/interface.h"
 
 // Turns a skeleton of the scene into the segments of a document: walks the bones, has each one

@@ -4,9 +4,9 @@
 
 #include "formats/htr/document.h"
 #include "plugin/import_htr/options.h"
-#include "plugin/shell/about_dialog.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/product.h"
+#include "plugin/services/about_dialog.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/product.h"
 #include "sdk/core/cstr.h"
 #include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"

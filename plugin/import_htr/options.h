@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "plugin/shell/settings_store.h"
+#include "plugin/services/settings_store.h"
 
 // What the user chose for importing motion files. The one record of a module lives from load to
 // unload and is shared by all imports; it is created with the documented defaults and owns the

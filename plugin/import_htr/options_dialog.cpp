@@ -2,7 +2,7 @@
 
 #include "plugin/exchange/dialog_controls.h"
 #include "plugin/resources/resource.h"
-#include "plugin/shell/about_dialog.h"
+#include "plugin/services/about_dialog.h"
 
 namespace orvane {
 namespace {

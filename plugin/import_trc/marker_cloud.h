@@ -7,7 +7,7 @@
 #include "plugin/exchange/key_times.h"
 #include "plugin/import_trc/options.h"
 #include "plugin/import_trc/selected_nodes.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "sdk/core/interface.h"
 
 // Builds the scene of one import: finds or creates an object for each marker, and keys its

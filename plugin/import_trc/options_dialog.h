@@ -7,7 +7,7 @@
 #include "plugin/exchange/options_dialog.h"
 #include "plugin/exchange/scale_controls.h"
 #include "plugin/import_trc/options.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 
 // The dialog in which the user chooses how a marker file is imported: fills and enables its
 // controls, checks what was typed, and keeps the options.

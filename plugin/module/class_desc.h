@@ -1,6 +1,6 @@
 #pragma once
 
-#include "plugin/shell/string_table.h"
+#include "plugin/services/string_table.h"
 #include "sdk/core/plugin.h"
 
 // What the descriptors of the module's classes have in common.

@@ -4,7 +4,7 @@
 #include "plugin/import_htr/options.h"
 #include "plugin/import_trc/options.h"
 #include "plugin/module/class_desc.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "plugin/utilities/pick_control_node.h"
 
 // The descriptors of the four classes of the module. Each creates instances of its class on the

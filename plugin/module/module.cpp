@@ -11,8 +11,8 @@
 #include "plugin/import_trc/options.h"
 #include "plugin/module/class_descs.h"
 #include "plugin/resources/resource.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/string_table.h"
 #include "plugin/utilities/pick_control_node.h"
 
 namespace {

@@ -7,8 +7,8 @@
 
 #include "platform/file_dialog.h"
 #include "platform/handles.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/string_table.h"
 #include "plugin/utilities/batch_log.h"
 #include "plugin/utilities/convert_bvk.h"
 

@@ -5,9 +5,9 @@
 #include "formats/mnm/marker_name_map.h"
 #include "formats/trc/document.h"
 #include "platform/handles.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/settings_store.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/settings_store.h"
+#include "plugin/services/string_table.h"
 #include "plugin/utilities/panel_command.h"
 #include "sdk/core/interface.h"
 

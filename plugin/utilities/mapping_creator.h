@@ -7,8 +7,8 @@
 
 #include "formats/mnm/standard_markers.h"
 #include "platform/handles.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/string_table.h"
 #include "plugin/utilities/convert_bvk.h"
 #include "plugin/utilities/marker_selection_dialog.h"
 #include "plugin/utilities/panel_command.h"

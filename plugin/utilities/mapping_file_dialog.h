@@ -4,7 +4,7 @@
 #include <string>
 
 #include "platform/file_dialog.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/string_table.h"
 
 // The dialogs in which the user chooses a mapping file.
 namespace orvane {

@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "platform/dialog.h"
-#include "plugin/shell/message_sink.h"
-#include "plugin/shell/string_table.h"
+#include "plugin/services/message_sink.h"
+#include "plugin/services/string_table.h"
 #include "plugin/utilities/pick_control_node.h"
 #include "sdk/core/interface.h"
 #include "sdk/core/plugin.h"

@@ -4,7 +4,7 @@
 
 #include "host/desktop/top_level_window.h"
 #include "platform/module.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "tests/support/desk.h"
 
 // What the tests of every options dialog begin with: the options, a desk with a scripted user, and

@@ -8,7 +8,7 @@
 #include "formats/htr/document.h"
 #include "host/application/application.h"
 #include "plugin/export_htr/options.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/desk.h"
 #include "tests/support/host_geometry.h"

@@ -1,4 +1,4 @@
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "plugin/shell/string_table.h"
+#include "plugin/services/string_table.h"
 
 #include "platform/string_table.h"
 

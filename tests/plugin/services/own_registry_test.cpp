@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plugin/shell/settings_store.h"
+#include "plugin/services/settings_store.h"
 #include "tests/support/desk.h"
 
 // What holds of the host's own registry alone: there may be none, and it stores texts as they are.

@@ -1,6 +1,6 @@
 #include <gtest/gtest.h>
 
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 
 // What holds of messages only where there need not be anybody who reads them.
 

@@ -1,4 +1,4 @@
-#include "plugin/shell/about_dialog.h"
+#include "plugin/services/about_dialog.h"
 
 #include <gtest/gtest.h>
 

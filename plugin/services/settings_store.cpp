@@ -1,4 +1,4 @@
-#include "plugin/shell/settings_store.h"
+#include "plugin/services/settings_store.h"
 
 #include <array>
 #include <string_view>

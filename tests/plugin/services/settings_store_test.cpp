@@ -1,4 +1,4 @@
-#include "plugin/shell/settings_store.h"
+#include "plugin/services/settings_store.h"
 
 #include <gtest/gtest.h>
 

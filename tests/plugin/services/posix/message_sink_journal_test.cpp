@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "platform/log_file.h"
-#include "plugin/shell/message_sink.h"
+#include "plugin/services/message_sink.h"
 #include "tests/support/log_place.h"
 #include "tests/support/posix/journal/journal_stage.h"
 
@@ -11,7 +11,7 @@ namespace orvane {
 namespace {
 
 void Expect(const std::string& name, const test::JournalLines& lines) {
-  test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/shell/posix/journals/" + name + ".txt",
+  test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/services/posix/journals/" + name + ".txt",
                       lines);
 }
 
