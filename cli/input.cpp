@@ -1,12 +1,31 @@
 #include "cli/input.h"
 
+#include <fstream>
+#include <ios>
+
 #include "cli/advice.h"
 #include "cli/file_kind.h"
 #include "cli/text_flaw.h"
 #include "formats/htr/reader.h"
-#include "formats/text/files.h"
+#include "platform/path_text.h"
 
 namespace cli {
+
+namespace {
+
+// The start of `file`, as far as it shows what is wrong with all of its text; nothing when it
+// cannot be read.
+std::optional<std::string> ReadStart(const std::string& file) {
+  std::ifstream stream(platform::PathOf(file), std::ios::binary);
+  if (!stream) return std::nullopt;
+  std::string bytes(kBytesThatShowFlaws, '\0');
+  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (stream.bad()) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(stream.gcount()));
+  return bytes;
+}
+
+}  // namespace
 
 std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }
 
@@ -15,7 +34,7 @@ Complaint ComplainAbout(const std::string& file, const std::string& text) {
 }
 
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(file);
+  const std::optional<std::string> bytes = ReadStart(file);
   if (!bytes) return std::nullopt;
   const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
   if (!flaw) return std::nullopt;

@@ -64,7 +64,8 @@ bool IsUtf16(std::string_view bytes) {
 constexpr std::ptrdiff_t kReturnsForAFeed = 10;
 
 // Whether nearly all lines end with carriage returns alone. What holds NULs is no text.
-bool EndsLinesWithReturns(std::string_view bytes) {
+bool EndsLinesWithReturns(std::string_view file) {
+  const std::string_view bytes = file.substr(0, kBytesThatShowFlaws);
   if (bytes.substr(0, kBytesLookedAt).find('\0') != std::string_view::npos) return false;
   const auto feeds = std::count(bytes.begin(), bytes.end(), '\n');
   std::ptrdiff_t returns = 0;

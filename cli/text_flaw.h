@@ -22,9 +22,12 @@ enum class TextFlaw {
 };
 inline constexpr std::size_t kTextFlaws = 5;
 
-// The flaw of a file with these `bytes`; nothing when it has none. FindTextFlaw knows those that a
-// file of any kind can have, the others also the one of motion files, or of mappings and tables of
-// picks.
+// As many bytes from the start of a file as show its flaw: what is behind them is not looked at.
+inline constexpr std::size_t kBytesThatShowFlaws = std::size_t{64} << 10U;
+
+// The flaw of a file that has, or starts with, these `bytes`; nothing when it has none.
+// FindTextFlaw knows those that a file of any kind can have, the others also the one of motion
+// files, or of mappings and tables of picks.
 std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
 std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
 std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes);

@@ -77,6 +77,8 @@ TEST(TextFlaw, IsSeenInTheBytes) {
            {"C7\rBack\0"s, std::nullopt},
            {"C7\tBack\r", std::nullopt},
            {"C7\tBack\r\r\nT10\tLow\r\r\n", std::nullopt},
+           {WithReturns("C7\n" + std::string(100'000, 'x')), TextFlaw::kCarriageReturns},
+           {std::string(65'536, 'x') + "\rC7", std::nullopt},  // behind what is looked at
        }) {
     EXPECT_EQ(FindTextFlaw(each.bytes), each.flaw) << testing::PrintToString(each.bytes);
     EXPECT_EQ(FindHtrTextFlaw(each.bytes), each.flaw) << testing::PrintToString(each.bytes);
