@@ -7,7 +7,6 @@
 #include <vector>
 
 #include "formats/text/numbers.h"
-#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -99,7 +98,7 @@ Body ReadBody(std::ifstream& file) {
 }  // namespace
 
 std::optional<BvkSummary> SummarizeBvk(const std::string& path) {
-  std::ifstream file(platform::PathOf(path));  // as text: the system has its own line ends
+  std::ifstream file(path);  // as text: the system has its own line ends
   file.exceptions(std::ios::badbit);
   const Header header = ReadHeader(file);
   if (!header.is_whole) return std::nullopt;

@@ -51,7 +51,8 @@ class BatchConversion {
  private:
   void ConvertAll() {
     platform::HoldInterrupts();  // what is unfinished has to be put away
-    const MarkerNaming naming(order_.mapping);
+    MarkerNaming naming;
+    LoadMapping(order_.mapping, naming);
     for (Conversion& conversion : result_.conversions) Judge(conversion, naming);
     while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;

@@ -6,7 +6,9 @@
 #include <string_view>
 #include <system_error>
 
+#include "cli/check_failure.h"
 #include "cli/failure.h"
+#include "cli/file_bytes.h"
 #include "cli/htr_check.h"
 #include "cli/input.h"
 #include "cli/mnm_check.h"
@@ -19,11 +21,25 @@ namespace {
 
 namespace fs = std::filesystem;
 
-CheckedFile CheckTrc(const std::string& name) {
-  return CheckTrcFile(ReadableFile(name, FileKind::kTrc));
+// `check` by the bytes of `file`. Throws a Failure when it cannot be read, or nothing can be said.
+CheckedFile CheckBytes(const std::string& file,
+                       CheckedFile (*check)(const std::string& file, std::string_view bytes)) {
+  try {
+    return check(file, FileBytes(file));
+  } catch (const CheckFailure& failure) {
+    throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
+  }
 }
 
-CheckedFile CheckHtr(const std::string& name) { return CheckHtrFile(ReadableHtrFile(name)); }
+CheckedFile CheckTrcFile(const std::string& name) {
+  return CheckBytes(ReadableFile(name, FileKind::kTrc), CheckTrc);
+}
+
+CheckedFile CheckHtrFile(const std::string& name) {
+  return CheckBytes(ReadableHtrFile(name), CheckHtr);
+}
+
+CheckedFile CheckMnmFile(const std::string& name) { return CheckBytes(name, CheckMapping); }
 
 struct FileCheck {
   std::string_view extension;
@@ -32,8 +48,8 @@ struct FileCheck {
 
 // The first is that of files with any other extension.
 constexpr std::array<FileCheck, 3> kFileChecks = {{
-    {".htr", CheckHtr},
-    {".trc", CheckTrc},
+    {".htr", CheckHtrFile},
+    {".trc", CheckTrcFile},
     {".mnm", CheckMnmFile},
 }};
 

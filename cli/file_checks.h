@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/check_report.h"
+#include "cli/checked_file.h"
 
 // The kinds of files that `orvane check` knows, and which files its user means.
 

@@ -2,12 +2,10 @@
 
 #include <algorithm>
 
-#include "cli/failure.h"
-#include "cli/file_bytes.h"
+#include "cli/check_failure.h"
 #include "cli/htr_rules.h"
 #include "cli/htr_structure.h"
 #include "cli/htr_watcher.h"
-#include "cli/soundness.h"
 #include "cli/text_flaw.h"
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
@@ -37,8 +35,7 @@ std::string Contents(const orvane::HtrDocument& document) {
 
 }  // namespace
 
-CheckedFile CheckHtrFile(const std::string& file) {
-  const std::string bytes = FileBytes(file);
+CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
   CheckedFile checked{file, "HTR", {}, {}};
   orvane::HtrDocument document;
   htr::Parts parts;
@@ -46,10 +43,8 @@ CheckedFile CheckHtrFile(const std::string& file) {
   htr::Watcher watcher(parts, checked.findings);
   const std::string message = orvane::ReadHtrBytes(document, bytes, true, &watcher);
   watcher.LeaveSection();
-  if (!message.empty() && !watcher.HasRefused()) {
-    throw Failure{ExitStatus::kInputOutput, {{file, message, "There may be too little memory."}}};
-  }
-  RequireSound(file, orvane::FindFault(document));
+  if (!watcher.HasRefused()) RequireRead(message);
+  RequireSound(orvane::FindFault(document));
   if (!watcher.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   NameFlaw(bytes, checked.findings);
   checked.contents = Contents(document);

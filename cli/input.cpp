@@ -5,7 +5,6 @@
 
 #include "cli/advice.h"
 #include "cli/file_kind.h"
-#include "cli/text_flaw.h"
 #include "formats/htr/reader.h"
 #include "platform/path_text.h"
 
@@ -31,6 +30,11 @@ std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name,
 
 Complaint ComplainAbout(const std::string& file, const std::string& text) {
   return {file, text, AdviceFor(text)};
+}
+
+Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw) {
+  const TextFlawWords& words = WordsFor(flaw);
+  return {file, words.text, words.advice};
 }
 
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {

@@ -6,6 +6,7 @@
 
 #include "cli/failure.h"
 #include "cli/file_kind.h"
+#include "cli/text_flaw.h"
 
 // The file that a verb reads, and how it is refused.
 
@@ -22,6 +23,9 @@ std::string ReadableHtrFile(const std::string& name);
 
 // `text` about what is in `file`, with the advice that fits it.
 Complaint ComplainAbout(const std::string& file, const std::string& text);
+
+// `flaw` of `file`, with advice.
+Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw);
 
 // What is wrong with all of the text of `file`, where that can be seen.
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind);

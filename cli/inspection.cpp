@@ -6,12 +6,17 @@
 #include "cli/hierarchy.h"
 #include "cli/imported_frames.h"
 #include "cli/keyed_segments.h"
+#include "cli/rates.h"
 #include "cli/trc_inspection.h"
 #include "formats/htr/reader.h"
 #include "formats/text/numbers.h"
+#include "host/animation/animation_state.h"
 
 namespace cli {
 namespace {
+
+// What is told of a file's rate holds for the scene that the program makes of it.
+static_assert(kLowestRate == host::kMinimumFrameRate && kHighestRate == host::kMaximumFrameRate);
 
 using orvane::FormatInt;
 

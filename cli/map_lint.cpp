@@ -4,8 +4,11 @@
 #include <memory>
 
 #include "cli/check_results.h"
+#include "cli/file_bytes.h"
 #include "cli/file_kind.h"
+#include "cli/input.h"
 #include "cli/mnm_check.h"
+#include "cli/trc_outline.h"
 
 namespace cli {
 namespace {
@@ -16,9 +19,26 @@ struct LintArguments {
   CheckManner manner;
 };
 
+// The capture in `file` with its markers. Throws a Failure when it cannot be read, or holds none.
+MappedCapture ReadCapture(const std::string& file) {
+  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(file);
+  if (!outline)
+    throw Failure{ExitStatus::kInputOutput, {{file, "could not be read to its end", ""}}};
+  MappedCapture capture{file, {}};
+  std::string message = ListTrcMarkers(outline->Header(), capture.markers);
+  if (message.empty() && capture.markers.empty()) message = kNoMarkers;
+  if (!message.empty()) {
+    throw Failure{ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kTrc, message)};
+  }
+  return capture;
+}
+
 std::vector<CheckedFile> Lint(const LintArguments& arguments) {
-  if (arguments.capture.empty()) return {CheckMnmFile(arguments.mapping)};
-  return CheckMapping(arguments.mapping, ReadableFile(arguments.capture, FileKind::kTrc));
+  if (arguments.capture.empty())
+    return {CheckMapping(arguments.mapping, FileBytes(arguments.mapping))};
+  const std::string capture = ReadableFile(arguments.capture, FileKind::kTrc);
+  const std::string bytes = FileBytes(arguments.mapping);
+  return CheckMapping(arguments.mapping, bytes, ReadCapture(capture));
 }
 
 ExitStatus Run(const LintArguments& arguments) {

@@ -22,7 +22,7 @@ bool IsReadable(const Conversion& conversion) {
 
 class Previewer {
  public:
-  explicit Previewer(const std::string& mapping) : naming_(mapping) {}
+  explicit Previewer(const std::string& mapping) { LoadMapping(mapping, naming_); }
 
   ConversionPreview Preview(Conversion& conversion) const {
     ConversionPreview preview{&conversion, {}};

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <unordered_map>
 
-#include "cli/text_flaw.h"
 #include "formats/text/files.h"
 #include "formats/text/numbers.h"
 
@@ -34,18 +33,17 @@ struct Namesakes {
 
 }  // namespace
 
-MarkerNaming::MarkerNaming(const std::string& mapping) : use_mapping_(!mapping.empty()) {
-  if (!use_mapping_) return;
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(mapping);
-  if (!bytes || !mapping_.Load(mapping)) {
-    throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
-  }
-  if (const auto flaw = FindMappingTextFlaw(*bytes)) flaw_ = ComplainAboutFlaw(mapping, *flaw);
+bool MarkerNaming::Load(const std::string& path) {
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(path);
+  if (!bytes || !mapping_.Load(path)) return false;
+  file_ = path;
+  flaw_ = FindMappingTextFlaw(*bytes);
+  return true;
 }
 
 std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) const {
   std::string name = marker;
-  if (use_mapping_ && !mapping_.Lookup(name)) return std::nullopt;
+  if (!file_.empty() && !mapping_.Lookup(name)) return std::nullopt;
   return name;
 }
 

@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/failure.h"
+#include "cli/text_flaw.h"
 #include "formats/mnm/marker_name_map.h"
 #include "formats/trc/document.h"
 
@@ -14,9 +14,11 @@ namespace cli {
 
 class MarkerNaming {
  public:
-  // By the file `mapping`; when that is empty all markers keep their names. Throws a Failure when
-  // it cannot be read.
-  explicit MarkerNaming(const std::string& mapping);
+  // All markers keep their names.
+  MarkerNaming() = default;
+
+  // From now on by the mapping file `path`. Returns false when it cannot be read.
+  [[nodiscard]] bool Load(const std::string& path);
 
   // The name that `marker` is written under; nothing when it is dropped.
   std::optional<std::string> NameFor(const std::string& marker) const;
@@ -25,7 +27,10 @@ class MarkerNaming {
   bool KeepsAny(const orvane::TRCDocument& document) const;
 
   // What is wrong with all of the text of the mapping file; nothing when that cannot be seen.
-  const std::optional<Complaint>& DescribeFlaw() const { return flaw_; }
+  std::optional<TextFlaw> Flaw() const { return flaw_; }
+
+  // The mapping file; empty when there is none.
+  const std::string& File() const { return file_; }
 
   // What is to be said of the markers of `document` that are written under one name: a text for
   // each such name, in the order of the first markers.
@@ -33,8 +38,8 @@ class MarkerNaming {
 
  private:
   orvane::MarkerNameMap mapping_;
-  const bool use_mapping_;
-  std::optional<Complaint> flaw_;
+  std::string file_;
+  std::optional<TextFlaw> flaw_;
 };
 
 }  // namespace cli

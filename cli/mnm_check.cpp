@@ -3,12 +3,10 @@
 #include <algorithm>
 #include <unordered_set>
 
-#include "cli/file_bytes.h"
 #include "cli/mnm_entries.h"
 #include "cli/mnm_rules.h"
 #include "cli/similar_words.h"
 #include "cli/text_flaw.h"
-#include "cli/trc_markers.h"
 #include "formats/mnm/mapping_lines.h"
 
 namespace cli {
@@ -99,8 +97,7 @@ class Comparison {
 
 }  // namespace
 
-CheckedFile CheckMnmFile(const std::string& file) {
-  const std::string bytes = FileBytes(file);
+CheckedFile CheckMapping(const std::string& file, std::string_view bytes) {
   FindingList findings;
   const Entries entries(bytes, findings);
   NameFlaw(bytes, findings);
@@ -109,18 +106,17 @@ CheckedFile CheckMnmFile(const std::string& file) {
   return checked;
 }
 
-std::vector<CheckedFile> CheckMapping(const std::string& file, const std::string& capture) {
-  const std::string bytes = FileBytes(file);
-  const std::vector<TrcMarkerName> markers = ReadTrcMarkers(capture);
+std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view bytes,
+                                      const MappedCapture& capture) {
   FindingList findings;
   const Entries entries(bytes, findings);
-  const Comparison comparison(file, entries, markers);
+  const Comparison comparison(file, entries, capture.markers);
   comparison.CheckEntries(findings);
   NameFlaw(bytes, findings);
 
   CheckedFile mapping = NewReport(file, entries);
   mapping.findings = std::move(findings);
-  CheckedFile captured{capture, "TRC", CountOf(markers.size(), "marker"), {}};
+  CheckedFile captured{capture.file, "TRC", CountOf(capture.markers.size(), "marker"), {}};
   comparison.CheckMarkers(captured.findings);
   return {std::move(mapping), std::move(captured)};
 }

@@ -1,21 +1,29 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
-#include "cli/check_report.h"
+#include "cli/checked_file.h"
+#include "cli/trc_markers.h"
 
 // The check of mapping files, alone and against the markers of a capture. The reader reads them as
 // it always does; docs/formats/mnm.md lists the codes.
 
 namespace cli {
 
-// Throws a Failure when `file` cannot be read.
-CheckedFile CheckMnmFile(const std::string& file);
+// Checks `bytes`, which are those of the mapping file that is known as `file`.
+CheckedFile CheckMapping(const std::string& file, std::string_view bytes);
 
-// Checks the mapping `file` and what it makes of the markers of `capture`, a TRC file. Returns what
-// is found in either, in that order. Throws a Failure when one of them cannot be read, or is no
-// capture with markers.
-std::vector<CheckedFile> CheckMapping(const std::string& file, const std::string& capture);
+// A capture whose markers are to be mapped.
+struct MappedCapture {
+  std::string file;  // the name it is known as
+  std::vector<TrcMarkerName> markers;
+};
+
+// Checks the mapping file as above, and what it makes of the markers of `capture`. Returns what is
+// found in either, in that order.
+std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view bytes,
+                                      const MappedCapture& capture);
 
 }  // namespace cli

@@ -4,6 +4,7 @@
 #include <set>
 #include <string_view>
 
+#include "cli/input.h"
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
 #include "formats/text/numbers.h"

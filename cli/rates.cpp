@@ -1,20 +1,17 @@
 #include "cli/rates.h"
 
 #include "formats/text/numbers.h"
-#include "host/animation/animation_state.h"
 
 namespace cli {
 
 using orvane::FormatInt;
 
 bool IsRate(std::int32_t frames_per_second) {
-  return frames_per_second >= host::kMinimumFrameRate &&
-         frames_per_second <= host::kMaximumFrameRate;
+  return frames_per_second >= kLowestRate && frames_per_second <= kHighestRate;
 }
 
 std::string ExpectedRate() {
-  return FormatInt(host::kMinimumFrameRate) + " to " + FormatInt(host::kMaximumFrameRate) +
-         " frames per second";
+  return FormatInt(kLowestRate) + " to " + FormatInt(kHighestRate) + " frames per second";
 }
 
 std::string EffectOfCutRate(std::string_view cell) {

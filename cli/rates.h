@@ -8,6 +8,10 @@
 
 namespace cli {
 
+// The frame rates that a scene can have.
+inline constexpr std::int32_t kLowestRate = 1;
+inline constexpr std::int32_t kHighestRate = 4800;
+
 // Whether there is such a frame rate in a scene.
 bool IsRate(std::int32_t frames_per_second);
 std::string ExpectedRate();

@@ -15,16 +15,8 @@ constexpr std::string_view kUtf32Mark = "\xFF\xFE\0\0"sv;
 // As much of a file as tells its encoding.
 constexpr std::size_t kBytesLookedAt = 128;
 
-// What is said of a flaw: as a complaint, and as a finding.
-struct Words {
-  const char* text;
-  const char* advice;
-  const char* found;
-  const char* expected;
-};
-
 // By TextFlaw.
-constexpr std::array<Words, kTextFlaws> kWords = {{
+constexpr std::array<TextFlawWords, kTextFlaws> kWords = {{
     {"The file is empty", "Was it saved, or copied, to its end?", "an empty file", "text"},
     {"The file is UTF-16 text", "Save it as UTF-8 or ASCII.", "UTF-16 text", "ASCII or UTF-8"},
     {"Lines end with carriage returns alone, which end no line",
@@ -37,8 +29,6 @@ constexpr std::array<Words, kTextFlaws> kWords = {{
      "Save it without a byte-order mark.", "a byte-order mark before a name",
      "a name at the start"},
 }};
-
-const Words& WordsFor(TextFlaw flaw) { return kWords[static_cast<std::size_t>(flaw)]; }
 
 bool StartsWithUtf16Mark(std::string_view bytes) {
   return std::any_of(std::begin(kUtf16Marks), std::end(kUtf16Marks),
@@ -105,9 +95,7 @@ std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes) {
   return MarkAtStart(bytes).empty() ? std::nullopt : std::optional(TextFlaw::kMarkedName);
 }
 
-Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw) {
-  return {file, WordsFor(flaw).text, WordsFor(flaw).advice};
-}
+const TextFlawWords& WordsFor(TextFlaw flaw) { return kWords[static_cast<std::size_t>(flaw)]; }
 
 void NameFlawFirst(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
                    FindingList& findings) {

@@ -5,7 +5,6 @@
 #include <string>
 #include <string_view>
 
-#include "cli/failure.h"
 #include "cli/findings.h"
 
 // What makes a whole file other than the text that its reader takes it for. The reader meets only
@@ -32,8 +31,14 @@ std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
 std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
 std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes);
 
-// `flaw` of `file` as a complaint, with advice.
-Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw);
+// What is said of a flaw.
+struct TextFlawWords {
+  const char* text;      // "The file is empty"
+  const char* advice;    // what to do about it, one sentence
+  const char* found;     // the same as a finding has it: "an empty file"
+  const char* expected;  // what should have stood there
+};
+const TextFlawWords& WordsFor(TextFlaw flaw);
 
 // Puts `flaw` before the errors of `findings`, by `rule`, and drops what is no error: it follows
 // from the flaw, or is told when that is mended. `effect` ends the finding.

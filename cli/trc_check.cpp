@@ -2,10 +2,8 @@
 
 #include <algorithm>
 
-#include "cli/failure.h"
-#include "cli/file_bytes.h"
+#include "cli/check_failure.h"
 #include "cli/frame_counts.h"
-#include "cli/soundness.h"
 #include "cli/text_flaw.h"
 #include "cli/trc_parts.h"
 #include "cli/trc_rules.h"
@@ -131,18 +129,15 @@ void NameFlaw(std::string_view bytes, FindingList& findings) {
 
 }  // namespace
 
-CheckedFile CheckTrcFile(const std::string& file) {
-  const std::string bytes = FileBytes(file);
+CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
   CheckedFile checked{file, "TRC", {}, {}};
   TRCDocument document;
   trc::Parts parts;
   parts.end = EndOf(bytes);
   trc::Watcher watcher(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &watcher);
-  if (!message.empty() && !watcher.HasRefused()) {
-    throw Failure{ExitStatus::kInputOutput, {{file, message, "There may be too little memory."}}};
-  }
-  RequireSound(file, orvane::FindFault(document));
+  if (!watcher.HasRefused()) RequireRead(message);
+  RequireSound(orvane::FindFault(document));
   if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
   NameFlaw(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();

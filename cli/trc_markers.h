@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "formats/trc/read_observer.h"
@@ -14,7 +15,9 @@ struct TrcMarkerName {
   orvane::TRCPlace place;
 };
 
-// In the document's order. Throws a Failure when `file` cannot be read, or holds no markers.
-std::vector<TrcMarkerName> ReadTrcMarkers(const std::string& file);
+// Adds the markers of the file that starts with `header`, which ends before its frames or behind
+// them, to `markers`, in the document's order. Returns why the reader refuses the file; an empty
+// text when it does not, whether there are markers or not.
+std::string ListTrcMarkers(std::string_view header, std::vector<TrcMarkerName>& markers);
 
 }  // namespace cli

@@ -19,7 +19,8 @@ namespace {
 
 void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
                    const MarkerNaming& naming) {
-  if (const auto& flaw = naming.DescribeFlaw()) conversion.warnings.push_back(*flaw);
+  if (const auto flaw = naming.Flaw())
+    conversion.warnings.push_back(ComplainAboutFlaw(naming.File(), *flaw));
   if (document.MarkerCount() == 0) {
     conversion.warnings.push_back(ComplainAbout(conversion.input, "The file holds no markers"));
   } else if (!naming.KeepsAny(document)) {
@@ -87,6 +88,11 @@ RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& m
 }
 
 }  // namespace
+
+void LoadMapping(const std::string& mapping, MarkerNaming& naming) {
+  if (mapping.empty() || naming.Load(mapping)) return;
+  throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
+}
 
 void RequireInput(Conversion& conversion) {
   if (conversion.status != ConversionStatus::kPlanned) return;

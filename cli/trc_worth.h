@@ -8,6 +8,10 @@
 
 namespace cli {
 
+// Has `naming` go by the file `mapping`; leaves it when that is empty. Throws a Failure when it
+// cannot be read.
+void LoadMapping(const std::string& mapping, MarkerNaming& naming);
+
 // Settles `conversion` as unreadable, with the reason, when its input cannot be read.
 void RequireInput(Conversion& conversion);
 
