@@ -4,6 +4,12 @@
 namespace cli {
 namespace {
 
+using orvane::CheckedFile;
+using orvane::Finding;
+using orvane::FindingList;
+using orvane::FindingSeverity;
+using orvane::SeverityName;
+
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 1;

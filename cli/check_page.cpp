@@ -5,6 +5,13 @@
 namespace cli {
 namespace {
 
+using orvane::CheckedFile;
+using orvane::CountOf;
+using orvane::Finding;
+using orvane::FindingList;
+using orvane::FindingSeverity;
+using orvane::SeverityName;
+
 std::string Number(std::size_t value) {
   return orvane::FormatInt(static_cast<std::int64_t>(value));
 }

@@ -3,7 +3,7 @@
 #include <ostream>
 #include <vector>
 
-#include "cli/checked_file.h"
+#include "inspect/check/checked_file.h"
 
 // What `orvane check` tells of its files: as lines for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
@@ -12,8 +12,8 @@
 namespace cli {
 
 // One line for a file without findings.
-void PrintCheckedFile(const CheckedFile& checked, std::ostream& out);
+void PrintCheckedFile(const orvane::CheckedFile& checked, std::ostream& out);
 
-void PrintCheckJson(const std::vector<CheckedFile>& files, std::ostream& out);
+void PrintCheckJson(const std::vector<orvane::CheckedFile>& files, std::ostream& out);
 
 }  // namespace cli

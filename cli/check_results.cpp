@@ -10,6 +10,10 @@
 namespace cli {
 namespace {
 
+using orvane::CheckedFile;
+using orvane::FindingList;
+using orvane::FindingSeverity;
+
 FindingSeverity SeverityOf(const std::string& name) {
   if (name == "error") return FindingSeverity::kError;
   return name == "warning" ? FindingSeverity::kWarning : FindingSeverity::kNote;

@@ -16,7 +16,7 @@ class App;
 namespace cli {
 
 struct CheckManner {
-  FindingSeverity tolerated = FindingSeverity::kNote;
+  orvane::FindingSeverity tolerated = orvane::FindingSeverity::kNote;
   bool json = false;
 };
 
@@ -28,7 +28,7 @@ class CheckResults {
  public:
   explicit CheckResults(const CheckManner& manner) : manner_(manner) {}
 
-  void Add(CheckedFile file);
+  void Add(orvane::CheckedFile file);
   // A file that could not be checked.
   void Add(const Failure& failure);
 
@@ -39,7 +39,7 @@ class CheckResults {
   void Raise(ExitStatus status) { status_ = std::max(status_, status); }
 
   const CheckManner& manner_;
-  std::vector<CheckedFile> files_;
+  std::vector<orvane::CheckedFile> files_;
   ExitStatus status_ = ExitStatus::kDone;
 };
 

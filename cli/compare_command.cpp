@@ -13,6 +13,10 @@
 namespace cli {
 namespace {
 
+using orvane::CompareMotion;
+using orvane::CompareStructure;
+using orvane::Tolerance;
+
 struct CompareArguments {
   std::string file_a;
   std::string file_b;

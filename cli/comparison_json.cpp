@@ -4,6 +4,17 @@
 namespace cli {
 namespace {
 
+using orvane::DifferentParent;
+using orvane::FrameNumbers;
+using orvane::MotionComparison;
+using orvane::MotionDifference;
+using orvane::OnlyFrames;
+using orvane::OnlySegment;
+using orvane::Spread;
+using orvane::StructureComparison;
+using orvane::StructureDifferences;
+using orvane::WhichFile;
+
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 1;
@@ -32,7 +43,7 @@ void WriteInteger(JsonWriter& json, const char* key, std::int64_t number) {
   json.Integer(number);
 }
 
-void WriteRange(JsonWriter& json, const FrameRange& range) {
+void WriteRange(JsonWriter& json, const FrameNumbers& range) {
   json.BeginArray(Layout::kOneLine);
   json.Integer(range.first);
   json.Integer(range.last);

@@ -8,8 +8,18 @@
 namespace cli {
 namespace {
 
+using orvane::DifferentParent;
 using orvane::FormatDouble;
 using orvane::FormatInt;
+using orvane::FrameNumbers;
+using orvane::MotionComparison;
+using orvane::MotionDifference;
+using orvane::OnlyFrames;
+using orvane::OnlySegment;
+using orvane::Spread;
+using orvane::StructureComparison;
+using orvane::StructureDifferences;
+using orvane::WhichFile;
 
 constexpr std::size_t kNarrowestNames = 16;
 constexpr std::size_t kNumberWidth = 15;
@@ -18,7 +28,7 @@ std::string Count(std::size_t count, const std::string& noun) {
   return FormatInt(static_cast<std::int64_t>(count)) + " " + noun + (count == 1 ? "" : "s");
 }
 
-std::string Frames(const FrameRange& frames) {
+std::string Frames(const FrameNumbers& frames) {
   if (frames.first == frames.last) return "frame " + FormatInt(frames.first);
   return "frames " + FormatInt(frames.first) + " to " + FormatInt(frames.last);
 }

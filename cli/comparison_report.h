@@ -3,9 +3,9 @@
 #include <ostream>
 #include <string>
 
-#include "cli/motion_comparison.h"
-#include "cli/structure_comparison.h"
 #include "formats/htr/document.h"
+#include "inspect/compare/motion_comparison.h"
+#include "inspect/compare/structure_comparison.h"
 
 // What `orvane compare` tells of two motion files: as a page for a person, or as JSON for a
 // program. docs/command-line.md documents the JSON; its version changes when a field changes its
@@ -18,9 +18,9 @@ struct ComparisonReport {
   std::string file_b;
   orvane::HtrDocument a;
   orvane::HtrDocument b;
-  Tolerance tolerance;
-  StructureComparison structure;  // of `a` and `b`
-  MotionComparison motion;        // of `structure`
+  orvane::Tolerance tolerance;
+  orvane::StructureComparison structure;  // of `a` and `b`
+  orvane::MotionComparison motion;        // of `structure`
 
   // Nothing is beyond the tolerance, and the structure is the same.
   bool SaysTheSame() const {
@@ -30,8 +30,8 @@ struct ComparisonReport {
   std::string NameOf(std::size_t pair) const {
     return structure.hierarchy_a[structure.pairs[pair].in_a].segment->GetName();
   }
-  const std::string& FileName(WhichFile file) const {
-    return file == WhichFile::kA ? file_a : file_b;
+  const std::string& FileName(orvane::WhichFile file) const {
+    return file == orvane::WhichFile::kA ? file_a : file_b;
   }
 };
 

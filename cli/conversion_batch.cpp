@@ -10,13 +10,13 @@
 #include <utility>
 
 #include "cli/batch_log_reader.h"
-#include "cli/bvk_summary.h"
 #include "cli/conversion_plan.h"
 #include "cli/messages.h"
 #include "cli/output_complaint.h"
 #include "cli/read_back.h"
 #include "cli/trc_worth.h"
 #include "formats/text/files.h"
+#include "inspect/summary/bvk_summary.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
@@ -25,6 +25,10 @@
 
 namespace cli {
 namespace {
+
+using orvane::BvkSummary;
+using orvane::MarkerNaming;
+using orvane::SummarizeBvk;
 
 namespace fs = std::filesystem;
 

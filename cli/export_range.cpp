@@ -8,13 +8,16 @@
 
 #include "cli/exported_bones.h"
 #include "cli/failure.h"
-#include "cli/frame_counts.h"
 #include "formats/text/numbers.h"
+#include "inspect/counts/frame_counts.h"
 
 namespace cli {
 namespace {
 
 using orvane::FormatInt;
+using orvane::FrameCounts;
+using orvane::IsOutOfProportion;
+using orvane::WhyOutOfProportion;
 
 // The keys of a scene, from the first to the last one.
 class SceneKeys {

@@ -6,18 +6,24 @@
 #include <string_view>
 #include <system_error>
 
-#include "cli/check_failure.h"
 #include "cli/failure.h"
 #include "cli/file_bytes.h"
-#include "cli/htr_check.h"
 #include "cli/input.h"
-#include "cli/mnm_check.h"
-#include "cli/trc_check.h"
 #include "host/base/letter_case.h"
+#include "inspect/check/check_failure.h"
+#include "inspect/check/htr_check.h"
+#include "inspect/check/mnm_check.h"
+#include "inspect/check/trc_check.h"
 #include "platform/path_text.h"
 
 namespace cli {
 namespace {
+
+using orvane::CheckedFile;
+using orvane::CheckFailure;
+using orvane::CheckHtr;
+using orvane::CheckMapping;
+using orvane::CheckTrc;
 
 namespace fs = std::filesystem;
 

@@ -3,7 +3,7 @@
 #include <string>
 #include <vector>
 
-#include "cli/checked_file.h"
+#include "inspect/check/checked_file.h"
 
 // The kinds of files that `orvane check` knows, and which files its user means.
 
@@ -17,6 +17,6 @@ std::vector<std::string> FilesToCheck(const std::string& input);
 // Checks the file `name` as one of `kind`, which is an extension without its point; when that is
 // empty, by its own extension, as an HTR file when that is unknown. Throws a Failure when it cannot
 // be read.
-CheckedFile CheckFile(const std::string& name, const std::string& kind);
+orvane::CheckedFile CheckFile(const std::string& name, const std::string& kind);
 
 }  // namespace cli

@@ -4,13 +4,17 @@
 #include <limits>
 #include <optional>
 
-#include "cli/proportion.h"
 #include "formats/text/numbers.h"
+#include "inspect/counts/proportion.h"
 
 namespace cli {
 namespace {
 
+using orvane::DescribeDifference;
 using orvane::FormatInt;
+using orvane::FrameCounts;
+using orvane::MadeUpFrames;
+using orvane::WhyOutOfProportion;
 
 // Whether the user wants some of the announced frames only.
 bool IsPart(const ImportedFrames& frames, const ImportChoices& choices) {

@@ -4,9 +4,9 @@
 #include <vector>
 
 #include "cli/failure.h"
-#include "cli/frame_counts.h"
 #include "cli/import_choices.h"
 #include "host/animation/animation_state.h"
+#include "inspect/counts/frame_counts.h"
 
 // The frames of a file as an import takes them: whether it makes too many up, and what becomes of
 // those that it cannot take.
@@ -22,7 +22,7 @@ struct KeyReceivers {
 };
 
 struct ImportedFrames {
-  FrameCounts counts;
+  orvane::FrameCounts counts;
   FrameSpan announced;    // by their numbers
   FrameSpan keyed;        // those of them that get keys
   std::int64_t end = 0;   // the place in the file, counted from 0, behind the last that is keyed

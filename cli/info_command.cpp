@@ -13,6 +13,9 @@
 namespace cli {
 namespace {
 
+using orvane::ListHierarchy;
+using orvane::SummarizeMotion;
+
 struct InfoArguments {
   std::string input;
   std::optional<FileKind> kind;  // nothing: by its name

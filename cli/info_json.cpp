@@ -5,8 +5,11 @@
 namespace cli {
 namespace {
 
+using orvane::Bounds;
 using orvane::HtrDocument;
 using orvane::HtrSegment;
+using orvane::MotionSummary;
+
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 1;

@@ -10,10 +10,14 @@
 namespace cli {
 namespace {
 
+using orvane::Bounds;
 using orvane::FormatDouble;
 using orvane::FormatInt;
+using orvane::HierarchyEntry;
 using orvane::HtrDocument;
 using orvane::HtrSegment;
+using orvane::ListUnattached;
+using orvane::MotionSummary;
 
 constexpr int kDecimals = 3;
 

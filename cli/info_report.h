@@ -4,8 +4,8 @@
 #include <ostream>
 #include <string>
 
-#include "cli/motion_summary.h"
 #include "formats/htr/document.h"
+#include "inspect/summary/motion_summary.h"
 
 // What `orvane info` tells of a motion file: as a page for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
@@ -16,8 +16,8 @@ namespace cli {
 struct InfoReport {
   std::string file;
   orvane::HtrDocument document;
-  std::vector<HierarchyEntry> hierarchy;  // of `document`
-  std::optional<MotionSummary> motion;    // nothing when the motion was not read
+  std::vector<orvane::HierarchyEntry> hierarchy;  // of `document`
+  std::optional<orvane::MotionSummary> motion;    // nothing when the motion was not read
 };
 
 void PrintInfoPage(const InfoReport& report, std::ostream& out);

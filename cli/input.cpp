@@ -17,7 +17,7 @@ namespace {
 std::optional<std::string> ReadStart(const std::string& file) {
   std::ifstream stream(platform::PathOf(file), std::ios::binary);
   if (!stream) return std::nullopt;
-  std::string bytes(kBytesThatShowFlaws, '\0');
+  std::string bytes(orvane::kBytesThatShowFlaws, '\0');
   stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   if (stream.bad()) return std::nullopt;
   bytes.resize(static_cast<std::size_t>(stream.gcount()));
@@ -32,15 +32,16 @@ Complaint ComplainAbout(const std::string& file, const std::string& text) {
   return {file, text, AdviceFor(text)};
 }
 
-Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw) {
-  const TextFlawWords& words = WordsFor(flaw);
+Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
+  const orvane::TextFlawWords& words = orvane::WordsFor(flaw);
   return {file, words.text, words.advice};
 }
 
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
   const std::optional<std::string> bytes = ReadStart(file);
   if (!bytes) return std::nullopt;
-  const auto flaw = kind == FileKind::kHtr ? FindHtrTextFlaw(*bytes) : FindTextFlaw(*bytes);
+  const auto flaw =
+      kind == FileKind::kHtr ? orvane::FindHtrTextFlaw(*bytes) : orvane::FindTextFlaw(*bytes);
   if (!flaw) return std::nullopt;
   return ComplainAboutFlaw(file, *flaw);
 }

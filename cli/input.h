@@ -6,7 +6,7 @@
 
 #include "cli/failure.h"
 #include "cli/file_kind.h"
-#include "cli/text_flaw.h"
+#include "inspect/check/text_flaw.h"
 
 // The file that a verb reads, and how it is refused.
 
@@ -25,7 +25,7 @@ std::string ReadableHtrFile(const std::string& name);
 Complaint ComplainAbout(const std::string& file, const std::string& text);
 
 // `flaw` of `file`, with advice.
-Complaint ComplainAboutFlaw(const std::string& file, TextFlaw flaw);
+Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw);
 
 // What is wrong with all of the text of `file`, where that can be seen.
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind);

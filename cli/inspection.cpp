@@ -3,22 +3,27 @@
 #include <algorithm>
 #include <optional>
 
-#include "cli/hierarchy.h"
 #include "cli/imported_frames.h"
 #include "cli/keyed_segments.h"
-#include "cli/rates.h"
 #include "cli/trc_inspection.h"
 #include "formats/htr/reader.h"
 #include "formats/text/numbers.h"
 #include "host/animation/animation_state.h"
+#include "inspect/check/rates.h"
+#include "inspect/summary/hierarchy.h"
 
 namespace cli {
 namespace {
 
+using orvane::CountFrames;
+using orvane::FormatInt;
+using orvane::HierarchyEntry;
+using orvane::kHighestRate;
+using orvane::kLowestRate;
+using orvane::ListHierarchy;
+
 // What is told of a file's rate holds for the scene that the program makes of it.
 static_assert(kLowestRate == host::kMinimumFrameRate && kHighestRate == host::kMaximumFrameRate);
-
-using orvane::FormatInt;
 
 // Segments of the first root's tree, which stands first in `hierarchy`.
 std::size_t FirstTreeSize(const std::vector<HierarchyEntry>& hierarchy) {

@@ -6,7 +6,6 @@
 
 #include "cli/failure.h"
 #include "cli/file_kind.h"
-#include "cli/findings.h"
 #include "cli/input.h"
 #include "cli/inspection.h"
 #include "cli/interruption.h"
@@ -17,6 +16,7 @@
 #include "cli/read_back.h"
 #include "cli/replaced_input.h"
 #include "formats/mnm/marker_name_map.h"
+#include "inspect/check/findings.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
@@ -24,6 +24,8 @@
 
 namespace cli {
 namespace {
+
+using orvane::CountOf;
 
 constexpr char kMappingName[] = "/mapping.mnm";
 

@@ -7,11 +7,17 @@
 #include "cli/file_bytes.h"
 #include "cli/file_kind.h"
 #include "cli/input.h"
-#include "cli/mnm_check.h"
-#include "cli/trc_outline.h"
+#include "inspect/check/mnm_check.h"
+#include "inspect/summary/trc_outline.h"
 
 namespace cli {
 namespace {
+
+using orvane::CheckedFile;
+using orvane::CheckMapping;
+using orvane::ListTrcMarkers;
+using orvane::MappedCapture;
+using orvane::OutlineTrcFile;
 
 struct LintArguments {
   std::string mapping;

@@ -1,14 +1,17 @@
 #include "cli/mapping_preview.h"
 
 #include "cli/json_writer.h"
-#include "cli/marker_naming.h"
 #include "cli/messages.h"
-#include "cli/trc_outline.h"
 #include "cli/trc_worth.h"
 #include "formats/trc/document.h"
+#include "inspect/check/marker_naming.h"
+#include "inspect/summary/trc_outline.h"
 
 namespace cli {
 namespace {
+
+using orvane::MarkerNaming;
+using orvane::OutlineTrcFile;
 
 using Layout = JsonWriter::Layout;
 

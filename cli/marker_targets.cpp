@@ -4,14 +4,15 @@
 #include <optional>
 #include <unordered_set>
 
-#include "cli/trc_outline.h"
 #include "formats/text/numbers.h"
 #include "formats/trc/document.h"
+#include "inspect/summary/trc_outline.h"
 
 namespace cli {
 namespace {
 
 using orvane::FormatInt;
+using orvane::OutlineTrcFile;
 
 Complaint NothingSelected(bool selected_only) {
   const char* const advice = "--into SCENE --select NAME selects in a scene of yours.";

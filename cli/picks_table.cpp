@@ -14,6 +14,8 @@
 namespace cli {
 namespace {
 
+using orvane::FindMappingTextFlaw;
+
 // What fits into one line of a mapping, whose tabs and break count, too; a bit less.
 constexpr std::size_t kMostLetters = 1000;
 

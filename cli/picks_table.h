@@ -6,9 +6,9 @@
 #include <vector>
 
 #include "cli/failure.h"
-#include "cli/text_flaw.h"
 #include "formats/mnm/marker_name_map.h"
 #include "formats/mnm/standard_markers.h"
+#include "inspect/check/text_flaw.h"
 
 // The table of picks for `orvane map create`: which marker plays the role of which standard marker.
 // One line each: the standard name, white space, the marker name or a `-` for none; blank lines and
@@ -45,7 +45,7 @@ class PicksTable {
   std::map<std::string, std::string> picks_;  // by standard name, without those to skip
   std::map<std::string, std::size_t> lines_;  // by standard name
   std::vector<Complaint> complaints_;
-  std::optional<TextFlaw> flaw_;
+  std::optional<orvane::TextFlaw> flaw_;
 };
 
 }  // namespace cli

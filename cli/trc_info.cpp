@@ -5,6 +5,8 @@
 namespace cli {
 namespace {
 
+using orvane::SummarizeTrc;
+
 constexpr std::size_t kDataRateField = 1;
 constexpr std::size_t kCameraRateField = 2;
 

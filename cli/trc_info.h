@@ -3,8 +3,8 @@
 #include <ostream>
 #include <string>
 
-#include "cli/trc_summary.h"
 #include "formats/trc/document.h"
+#include "inspect/summary/trc_summary.h"
 
 // What `orvane info` tells of a marker file: as a page for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
@@ -15,7 +15,7 @@ namespace cli {
 struct TrcInfoReport {
   std::string file;
   orvane::TRCDocument document;
-  TrcSummary summary;
+  orvane::TrcSummary summary;
 
   // Rates as the file has them, when reading took something off; else empty.
   std::string data_rate_text;

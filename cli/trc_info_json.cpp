@@ -5,11 +5,15 @@
 namespace cli {
 namespace {
 
+using orvane::Bounds;
+using orvane::Coverage;
+using orvane::TrcMarkerSummary;
+
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 1;
 
-void WritePoint(JsonWriter& json, const Point& point) {
+void WritePoint(JsonWriter& json, const orvane::Point& point) {
   json.BeginArray(Layout::kOneLine);
   for (const double coordinate : point) json.Number(coordinate);
   json.EndArray();
@@ -64,7 +68,7 @@ void WriteFrames(JsonWriter& json, const orvane::TRCMarker& marker) {
   json.Key("frames");
   json.BeginArray(Layout::kLines);
   for (std::size_t frame = 0; frame < marker.SampleCount(); ++frame) {
-    Point point{};
+    orvane::Point point{};
     if (marker.GetSample(frame, point[0], point[1], point[2])) {
       WritePoint(json, point);
     } else {

@@ -10,8 +10,11 @@
 namespace cli {
 namespace {
 
+using orvane::Bounds;
+using orvane::Coverage;
 using orvane::FormatDouble;
 using orvane::FormatInt;
+using orvane::TrcMarkerSummary;
 
 constexpr int kDecimals = 3;
 constexpr std::size_t kLabelWidth = 16;

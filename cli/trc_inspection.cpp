@@ -16,6 +16,7 @@ namespace {
 
 using orvane::FormatInt;
 using orvane::TRCOddity;
+using orvane::WhyTooShort;
 
 // What an import makes of an oddity, and what to do about it.
 struct Note {

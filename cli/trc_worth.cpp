@@ -7,15 +7,23 @@
 #include <string>
 #include <system_error>
 
-#include "cli/frame_counts.h"
 #include "cli/input.h"
-#include "cli/trc_outline.h"
 #include "formats/trc/document.h"
+#include "inspect/counts/frame_counts.h"
+#include "inspect/summary/trc_outline.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
 
 namespace cli {
 namespace {
+
+using orvane::DescribeDifference;
+using orvane::FrameCounts;
+using orvane::MadeUpFrames;
+using orvane::MarkerNaming;
+using orvane::OutlineTrcFile;
+using orvane::WhyOutOfProportion;
+using orvane::WhyTooShort;
 
 void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
                    const MarkerNaming& naming) {

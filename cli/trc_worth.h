@@ -1,7 +1,7 @@
 #pragma once
 
 #include "cli/conversion.h"
-#include "cli/marker_naming.h"
+#include "inspect/check/marker_naming.h"
 
 // Whether a marker file is worth converting: the plug-in writes a block for every frame that the
 // header announces, so a header that is wrong can ask for any amount of work.
@@ -10,7 +10,7 @@ namespace cli {
 
 // Has `naming` go by the file `mapping`; leaves it when that is empty. Throws a Failure when it
 // cannot be read.
-void LoadMapping(const std::string& mapping, MarkerNaming& naming);
+void LoadMapping(const std::string& mapping, orvane::MarkerNaming& naming);
 
 // Settles `conversion` as unreadable, with the reason, when its input cannot be read.
 void RequireInput(Conversion& conversion);
@@ -31,7 +31,7 @@ void RefuseForeignRate(Conversion& conversion);
 // to write, or `naming` makes one name of several. A file that cannot be read is settled; one that
 // the reader refuses is left to the plug-in, which tells that. Returns kFile when nothing is to be
 // read.
-RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming);
+RateSource JudgeInput(Conversion& conversion, const orvane::MarkerNaming& naming);
 
 // When there is something to say of the input of `conversion`, puts first what is wrong with all of
 // its text, as far as that can be seen.

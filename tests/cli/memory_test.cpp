@@ -5,13 +5,13 @@
 #include <functional>
 #include <new>
 
-#include "cli/bvk_summary.h"
 #include "cli/exported_motion.h"
 #include "cli/read_back.h"
 #include "formats/bvk/writer.h"
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"
 #include "formats/htr/writer.h"
+#include "inspect/summary/bvk_summary.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/host/scene/scene_fixture.h"
 #include "tests/support/temporary_folder.h"
@@ -77,8 +77,8 @@ TEST_F(MemoryTest, IsBlamedForMarkersThatAreNotReadBack) {
   PrintBvk(document, {"walk", "Wed Jun 30 21:49:08 1993\n", {}},
            [&text](std::string_view piece) { text += piece; });
   const std::string path = folder.Write("walk.bvk", text);
-  ExpectBlameOfMemory("out.bvk",
-                      [&] { cli::ReadBack("out.bvk", [&] { return cli::SummarizeBvk(path); }); });
+  ExpectBlameOfMemory(
+      "out.bvk", [&] { cli::ReadBack("out.bvk", [&] { return orvane::SummarizeBvk(path); }); });
 }
 
 }  // namespace

@@ -91,17 +91,17 @@ INSTANTIATE_TEST_SUITE_P(
     All, DamagedFilesTest,
     testing::Values(
         Recipe{
-            "htr", "damage_walk.py", "damages.tsv", "cli/htr_rules.h", "docs/formats/htr.md", {}},
+            "htr", "damage_walk.py", "damages.tsv", "inspect/check/htr_rules.h", "docs/formats/htr.md", {}},
         Recipe{"trc",
                "damage_markers.py",
                "damages.tsv",
-               "cli/trc_rules.h",
+               "inspect/check/trc_rules.h",
                "docs/formats/trc.md",
                {}},
         Recipe{"mnm",
                "damage_markers.py",
                "mappings.tsv",
-               "cli/mnm_rules.h",
+               "inspect/check/mnm_rules.h",
                "docs/formats/mnm.md",
                {"mnm-entry-unused", "mnm-marker-unmapped", "mnm-marker-unmappable"}}),
     [](const auto& each) { return each.param.prefix; });

@@ -1,0 +1,71 @@
+#include "inspect/check/findings.h"
+
+#include <algorithm>
+#include <tuple>
+#include <utility>
+
+#include "formats/text/numbers.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::size_t kLongestQuote = 60;
+
+bool ContinuesCharacter(char byte) { return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U; }
+
+bool StandsBefore(const Finding& left, const Finding& right) {
+  return std::tie(left.line, left.column) < std::tie(right.line, right.column);
+}
+
+}  // namespace
+
+std::string_view SeverityName(FindingSeverity severity) {
+  constexpr std::array<std::string_view, kFindingSeverities> kNames = {"note", "warning", "error"};
+  return kNames[static_cast<std::size_t>(severity)];
+}
+
+Finding* FindingList::Add(const FindingRule& rule, std::size_t line, std::size_t column) {
+  Total& total = totals_.try_emplace(rule.code, Total{rule.severity}).first->second;
+  if (++total.count > kMostKeptOfARule) return nullptr;
+  kept_.push_back({rule, line, column, {}, {}, {}});
+  return &kept_.back();
+}
+
+void FindingList::ExplainErrors(Finding cause) {
+  std::erase_if(kept_, [](const Finding& finding) {
+    return finding.rule.severity != FindingSeverity::kError;
+  });
+  std::erase_if(totals_,
+                [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
+  ++totals_.try_emplace(cause.rule.code, Total{cause.rule.severity}).first->second.count;
+  kept_.insert(kept_.begin(), std::move(cause));
+}
+
+std::vector<Finding> FindingList::Sorted() const {
+  std::vector<Finding> findings = kept_;
+  std::stable_sort(findings.begin(), findings.end(), StandsBefore);
+  return findings;
+}
+
+std::size_t FindingList::Count(FindingSeverity severity) const {
+  std::size_t count = 0;
+  for (const auto& [code, total] : totals_) {
+    if (total.severity == severity) count += total.count;
+  }
+  return count;
+}
+
+std::string Quote(std::string_view text) {
+  if (text.empty()) return "nothing";
+  std::size_t end = std::min(text.size(), kLongestQuote);
+  if (end == text.size()) return '"' + std::string(text) + '"';
+  while (end > 0 && ContinuesCharacter(text[end])) --end;
+  return '"' + std::string(text.substr(0, end)) + "...\"";
+}
+
+std::string CountOf(std::size_t count, std::string_view noun) {
+  const std::string number = FormatInt(static_cast<std::int64_t>(count));
+  return number + " " + std::string(noun) + (count == 1 ? "" : "s");
+}
+
+}  // namespace orvane

@@ -1,0 +1,84 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <map>
+#include <string>
+#include <string_view>
+#include <vector>
+
+// What `orvane check` finds in a file, whatever its kind. The checker of a format has a table of
+// rules and adds a finding for every place where a file goes against one.
+
+namespace orvane {
+
+enum class FindingSeverity {
+  kNote,     // nothing is lost or changed
+  kWarning,  // something is lost, or taken for other than it seems to be
+  kError,    // the import refuses the file, or makes nothing of it
+};
+inline constexpr std::size_t kFindingSeverities = 3;
+
+// "note", "warning" or "error".
+std::string_view SeverityName(FindingSeverity severity);
+
+struct FindingRule {
+  // The format and what is wrong, such as "htr-rate-cut". A code never changes its meaning.
+  std::string_view code;
+  FindingSeverity severity;
+};
+
+constexpr FindingRule NoteRule(std::string_view code) { return {code, FindingSeverity::kNote}; }
+constexpr FindingRule WarningRule(std::string_view code) {
+  return {code, FindingSeverity::kWarning};
+}
+constexpr FindingRule ErrorRule(std::string_view code) { return {code, FindingSeverity::kError}; }
+
+struct Finding {
+  FindingRule rule;
+  std::size_t line = 0;    // counted from 1
+  std::size_t column = 0;  // in bytes, counted from 1
+  std::string found;
+  std::string expected;
+  std::string effect;  // what the import makes of it
+};
+
+// Counts all findings and keeps the first ones of every rule, so that a file with an oddity in
+// every cell asks for no more memory than any other.
+class FindingList {
+ public:
+  static constexpr std::size_t kMostKeptOfARule = 20;
+
+  // Counts a finding. Returns the one to fill in, which lives until the next call, or null when
+  // enough of that rule are kept.
+  Finding* Add(const FindingRule& rule, std::size_t line, std::size_t column);
+
+  // Puts `cause` before the errors that follow from it, and drops all that is none.
+  void ExplainErrors(Finding cause);
+
+  // Those that are kept, by line and column.
+  std::vector<Finding> Sorted() const;
+
+  struct Total {
+    FindingSeverity severity;
+    std::size_t count = 0;
+    std::size_t LeftOut() const { return count > kMostKeptOfARule ? count - kMostKeptOfARule : 0; }
+  };
+  // By code.
+  const std::map<std::string_view, Total>& Totals() const { return totals_; }
+
+  std::size_t Count(FindingSeverity severity) const;
+  bool IsEmpty() const { return totals_.empty(); }
+
+ private:
+  std::vector<Finding> kept_;
+  std::map<std::string_view, Total> totals_;
+};
+
+// `text` between quotation marks, cut when it is long; "nothing" when it is empty.
+std::string Quote(std::string_view text);
+
+// "1 frame", "2 frames".
+std::string CountOf(std::size_t count, std::string_view noun);
+
+}  // namespace orvane

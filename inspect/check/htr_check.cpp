@@ -1,0 +1,54 @@
+#include "inspect/check/htr_check.h"
+
+#include <algorithm>
+
+#include "formats/htr/document_checker.h"
+#include "formats/htr/reader.h"
+#include "inspect/check/check_failure.h"
+#include "inspect/check/htr_rules.h"
+#include "inspect/check/htr_structure.h"
+#include "inspect/check/htr_watcher.h"
+#include "inspect/check/text_flaw.h"
+
+namespace orvane {
+namespace {
+
+HtrCell EndOf(std::string_view bytes) {
+  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+  const std::size_t last_break = bytes.rfind('\n');
+  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
+  return {{}, breaks + 1, bytes.size() - last_line + 1};
+}
+
+// A mark that keeps nothing from being read is no more than what the watcher has told.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindHtrTextFlaw(bytes);
+  if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
+  NameFlawFirst(*flaw, htr::kFlaws[static_cast<std::size_t>(*flaw)],
+                "The import refuses the file; what else is odd about it is not told.", findings);
+}
+
+std::string Contents(const HtrDocument& document) {
+  return CountOf(document.segments().size(), "segment") + ", " +
+         CountOf(document.GetNumFrames(), "frame");
+}
+
+}  // namespace
+
+CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
+  CheckedFile checked{file, "HTR", {}, {}};
+  HtrDocument document;
+  htr::HtrParts parts;
+  parts.end = EndOf(bytes);
+  htr::HtrWatcher watcher(parts, checked.findings);
+  const std::string message = ReadHtrBytes(document, bytes, true, &watcher);
+  watcher.LeaveSection();
+  if (!watcher.HasRefused()) RequireRead(message);
+  RequireSound(FindFault(document));
+  if (!watcher.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
+  NameFlaw(bytes, checked.findings);
+  checked.contents = Contents(document);
+  return checked;
+}
+
+}  // namespace orvane

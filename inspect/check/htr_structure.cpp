@@ -1,0 +1,219 @@
+#include "inspect/check/htr_structure.h"
+
+#include <string>
+#include <unordered_map>
+#include <vector>
+
+#include "formats/htr/sections.h"
+#include "formats/text/numbers.h"
+#include "inspect/check/htr_rules.h"
+#include "inspect/counts/frame_counts.h"
+
+namespace orvane::htr {
+namespace {
+
+class Structure {
+ public:
+  Structure(const HtrDocument& document, const HtrParts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
+
+  void Check() {
+    CheckHeader();
+    CheckScaleFactor();
+    CheckEnd();
+    if (document_.segments().empty()) return AddSegmentsMissing();
+    CheckBasePosition();
+    CheckMotion();
+    if (parts_.base_sections == 0) return;
+    CheckLinks();
+    CheckRoots();
+    CheckCircles();
+  }
+
+ private:
+  void Add(const FindingRule& rule, const HtrCell& cell, const std::string& found,
+           const std::string& expected, const std::string& effect) {
+    Finding* finding = findings_.Add(rule, cell.line, cell.column);
+    if (finding == nullptr) return;
+    finding->found = found;
+    finding->expected = expected;
+    finding->effect = effect;
+  }
+
+  void CheckHeader();
+  void CheckScaleFactor();
+  void CheckEnd();
+  void AddSegmentsMissing();
+  void CheckBasePosition();
+  void CheckBaseLines();
+  void CheckMotion();
+  void AddFramesUnannounced();
+  void CheckFrames(const SegmentLines& segment);
+  void CheckLinks();
+  void CheckRoots();
+  void CheckCircles();
+  void AddCircle(std::size_t first, const std::vector<std::size_t>& parents);
+
+  const HtrDocument& document_;
+  const HtrParts& parts_;
+  FindingList& findings_;
+};
+
+void Structure::CheckHeader() {
+  if (!parts_.header) {
+    return Add(
+        kHeaderMissing, {{}, 1, 1}, "no [Header]", "[Header] first",
+        "Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60.");
+  }
+  for (std::size_t index = 0; index < kKeywords.size(); ++index) {
+    if (parts_.values[index]) continue;
+    const Keyword& keyword = kKeywords[index];
+    Add(keyword.matters ? kKeywordMissing : kKeywordLeftOut, *parts_.header,
+        "no " + std::string(keyword.name),
+        std::string(keyword.name) + " with " + std::string(keyword.values),
+        std::string(keyword.without));
+  }
+}
+
+void Structure::CheckScaleFactor() {
+  const auto& value = parts_.Value("ScaleFactor");
+  if (!value || document_.GetScaleFactor() == 1.0) return;
+  Add(kScaleFactor, *value, Quote(value->text), "1",
+      "Nothing is multiplied by it; the import warns of it. --scale multiplies.");
+}
+
+void Structure::CheckEnd() {
+  if (parts_.has_end) return;
+  Add(kEndMissing, parts_.end, "the end of the file", "[EndOfFile]",
+      "Nothing is lost, unless the file was cut short.");
+}
+
+void Structure::AddSegmentsMissing() {
+  Add(kSegmentsMissing, parts_.hierarchy.value_or(parts_.end), "no segments",
+      "their lines in [SegmentNames&Hierarchy]", "There is nothing to import. Is it an HTR file?");
+}
+
+void Structure::CheckBasePosition() {
+  if (!parts_.base_position) {
+    return Add(kBaseMissing, parts_.motion.value_or(parts_.end), "no [BasePosition] before this",
+               "[BasePosition] between the hierarchy and the motion",
+               "No segment has a parent, none is a root, and angles are not converted: there is "
+               "nothing to import.");
+  }
+  if (parts_.motion && parts_.motion->line < parts_.base_position->line) {
+    Add(kBaseLate, *parts_.base_position, "[BasePosition] behind motion",
+        "[BasePosition] between the hierarchy and the motion",
+        "Angles that stand before it are taken as they are, as radians.");
+  }
+  CheckBaseLines();
+}
+
+void Structure::CheckBaseLines() {
+  for (const SegmentLines& segment : parts_.segments) {
+    if (segment.base_section != 0) continue;
+    Add(kBaseLineMissing, segment.name,
+        "no line of " + Quote(segment.name.text) + " in [BasePosition]", "one for every segment",
+        "It stands at its parent's origin, unturned, and has no length.");
+  }
+}
+
+void Structure::CheckMotion() {
+  if (const auto frames = CountFrames(document_); IsOutOfProportion(frames.announced, frames)) {
+    Add(kFramesTooMany, parts_.Value("NumFrames").value_or(parts_.end), FormatInt(frames.announced),
+        "about " + FormatInt(frames.most_held) + ", as many as there are",
+        "The import is refused, unless --range FROM:TO takes a part of them.");
+  }
+  if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
+  for (const SegmentLines& segment : parts_.segments) CheckFrames(segment);
+}
+
+void Structure::AddFramesUnannounced() {
+  const auto& value = parts_.Value("NumFrames");
+  Add(kFramesUnannounced, value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
+      value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
+      "The import refuses the file: its last frame would come before its first.");
+}
+
+void Structure::CheckFrames(const SegmentLines& segment) {
+  if (!segment.motion) {
+    return Add(kMotionMissing, segment.name, "no motion section of " + Quote(segment.name.text),
+               "one for every segment",
+               "In every frame the segment goes to its parent's origin, unturned.");
+  }
+  const std::size_t announced = document_.GetNumFrames();
+  if (segment.frames == announced) return;
+  const std::string number = FormatInt(static_cast<std::int64_t>(announced));
+  Add(kFrameCount, *segment.motion, CountOf(segment.frames, "frame"),
+      number + ", as NumFrames says",
+      segment.frames < announced
+          ? "In the missing frames the segment goes to its parent's origin, unturned."
+          : "Only " + number + " are imported.");
+}
+
+void Structure::CheckLinks() {
+  for (std::size_t index = parts_.linked_segments; index < parts_.segments.size(); ++index) {
+    const HtrCell& name = parts_.segments[index].name;
+    Add(kSegmentUnlinked, name, Quote(name.text) + " behind [BasePosition]",
+        "the hierarchy before [BasePosition]",
+        "The segment has no parent: a new skeleton goes without it and its children.");
+  }
+}
+
+void Structure::CheckRoots() {
+  const HtrCell* first = nullptr;
+  for (std::size_t index = 0; index < parts_.linked_segments; ++index) {
+    const SegmentLines& segment = parts_.segments[index];
+    if (segment.parent.text != orvane::kGlobalParent) continue;
+    if (first == nullptr) {
+      first = &segment.name;
+      continue;
+    }
+    Add(kRootSecond, segment.name, "a second root, " + Quote(segment.name.text),
+        "one root; line " + FormatInt(static_cast<std::int64_t>(first->line)) + " has it",
+        "A new skeleton goes without it and its children.");
+  }
+  if (first != nullptr) return;
+  Add(kRootMissing, parts_.hierarchy.value_or(parts_.end), "no root",
+      "a segment with the parent GLOBAL", "There is nothing that a new skeleton could start from.");
+}
+
+// Follows every segment to its root, each only as far as no walk before it has come.
+void Structure::CheckCircles() {
+  std::unordered_map<const HtrSegment*, std::size_t> indices;
+  for (const HtrSegment& segment : document_.segments()) indices.emplace(&segment, indices.size());
+  const std::size_t count = indices.size();
+  std::vector<std::size_t> parents(count, count);  // `count` stands for none
+  for (const auto& [segment, index] : indices) {
+    const auto parent = indices.find(segment->GetParent());
+    if (parent != indices.end()) parents[index] = parent->second;
+  }
+  std::vector<std::size_t> walks(count, count);  // the walk that came by
+  for (std::size_t start = 0; start < count; ++start) {
+    std::size_t at = start;
+    for (; at != count && walks[at] == count; at = parents[at]) walks[at] = start;
+    if (at != count && walks[at] == start) AddCircle(at, parents);
+  }
+}
+
+// `first` is one of the circle; it is told from the one that stands first in the file.
+void Structure::AddCircle(std::size_t first, const std::vector<std::size_t>& parents) {
+  std::size_t lowest = first;
+  std::size_t length = 1;
+  for (std::size_t at = parents[first]; at != first; at = parents[at]) {
+    if (at < lowest) lowest = at;
+    ++length;
+  }
+  const SegmentLines& segment = parts_.segments[lowest];
+  Add(kParentCircle, segment.parent,
+      Quote(segment.name.text) + " in a circle of " + CountOf(length, "segment"),
+      "parents that lead to a root",
+      "A new skeleton goes without its segments and what hangs from them.");
+}
+
+}  // namespace
+
+void CheckStructure(const HtrDocument& document, const HtrParts& parts, FindingList& findings) {
+  Structure(document, parts, findings).Check();
+}
+
+}  // namespace orvane::htr

@@ -1,0 +1,72 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "formats/htr/read_observer.h"
+#include "inspect/check/findings.h"
+#include "inspect/check/htr_parts.h"
+
+// Watches the reader of HTR files: turns its oddities into findings, and keeps where the parts of
+// the file stand.
+
+namespace orvane::htr {
+
+class HtrWatcher : public HtrReadObserver {
+ public:
+  // Both must outlive the watcher.
+  HtrWatcher(HtrParts& parts, FindingList& findings) : parts_(parts), findings_(findings) {}
+
+  void OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) override;
+  void OnSection(HtrSection section, const HtrCell& name) override;
+  void OnHeaderField(const HtrCell& keyword, const HtrCell& value) override;
+  void OnSegment(const HtrCell& name, const HtrCell& parent) override;
+  void OnBasePosition(const HtrCell& name) override;
+  void OnFrame(const HtrCell& number) override;
+
+  // Ends the last section, when reading has ended.
+  void LeaveSection();
+
+  // Whether the reader has refused the file, and whether it did so before the end.
+  bool HasRefused() const { return has_refused_; }
+  bool WasStopped() const { return was_stopped_; }
+
+ private:
+  Finding* Add(const FindingRule& rule, const HtrCell& cell) {
+    return findings_.Add(rule, cell.line, cell.column);
+  }
+
+  bool AddPlain(HtrOddity oddity, const HtrCell& cell);
+  void AddNumber(HtrOddity oddity, const HtrCell& cell, std::string_view field);
+  void AddKeyword(const HtrCell& keyword);
+  void AddParentUnknown(const HtrCell& parent);
+  void AddNameTaken(const HtrCell& name);
+  void AddRefusedValue(const HtrCell& value, std::string_view keyword);
+  void AddBaseNameUnknown(const HtrCell& name);
+  void AddHierarchyCount(const HtrCell& section);
+  void AddSegmentCount(const HtrCell& end);
+  void AddSkippedSection(const HtrCell& name);
+  std::string AnnouncedSegments() const;
+  void CheckHeaderPlace(const HtrCell& name);
+  void EnterMotion(const HtrCell& name);
+  void CheckRate(const HtrCell& value);
+  void CheckGravity(const HtrCell& value);
+  void CheckName(const HtrCell& name);
+  std::string KnownSegments(std::string_view name) const;
+
+  HtrParts& parts_;
+  FindingList& findings_;
+
+  bool has_refused_ = false;
+  bool was_stopped_ = false;
+  bool linked_again_ = false;
+  std::string_view byte_order_mark_;
+  std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
+  std::size_t skipped_lines_ = 0;
+  SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion
+  std::optional<std::int64_t> next_frame_number_;
+  std::optional<std::int64_t> start_frame_;
+};
+
+}  // namespace orvane::htr

@@ -1,0 +1,124 @@
+#include "inspect/check/mnm_check.h"
+
+#include <algorithm>
+#include <unordered_set>
+
+#include "formats/mnm/mapping_lines.h"
+#include "inspect/check/mnm_entries.h"
+#include "inspect/check/mnm_rules.h"
+#include "inspect/check/similar_words.h"
+#include "inspect/check/text_flaw.h"
+
+namespace orvane {
+namespace {
+
+using mnm::MappingEntries;
+using mnm::MappingEntry;
+
+CheckedFile NewReport(const std::string& file, const MappingEntries& entries) {
+  return {file, "MNM", CountOf(entries.InForce().size(), "marker") + " mapped", {}};
+}
+
+// An empty file is told as one without entries.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindTextFlaw(bytes);
+  if (flaw == TextFlaw::kUtf16) {
+    NameFlawFirst(*flaw, mnm::kEncoding, "No marker has its entry: those of a capture are dropped.",
+                  findings);
+  } else if (flaw == TextFlaw::kCarriageReturns) {
+    NameFlawFirst(*flaw, mnm::kLineEnds, "Up to an LF only the first two words are read.",
+                  findings);
+  }
+}
+
+// What a mapping and the markers of a capture are to each other.
+class MappingComparison {
+ public:
+  MappingComparison(const std::string& mapping, const MappingEntries& entries,
+                    const std::vector<TrcMarkerName>& markers)
+      : mapping_(mapping), entries_(entries), markers_(markers) {
+    for (const TrcMarkerName& marker : markers) names_.insert(marker.name);
+  }
+
+  void CheckEntries(FindingList& findings) const {
+    for (const MappingEntry& entry : entries_.InForce()) {
+      if (!IsUsed(entry)) AddUnused(entry, findings);
+    }
+  }
+
+  void CheckMarkers(FindingList& findings) const {
+    for (const TrcMarkerName& marker : markers_) {
+      if (!IsMapped(marker)) AddUnmapped(marker, findings);
+    }
+  }
+
+ private:
+  bool IsUsed(const MappingEntry& entry) const { return names_.count(entry.trc_name) > 0; }
+  bool IsMapped(const TrcMarkerName& marker) const { return entries_.Find(marker.name) != nullptr; }
+
+  void AddUnused(const MappingEntry& entry, FindingList& findings) const {
+    Finding* finding = findings.Add(mnm::kEntryUnused, entry.line, entry.column);
+    if (finding == nullptr) return;
+    const auto meant =
+        std::find_if(markers_.begin(), markers_.end(), [this, &entry](const TrcMarkerName& marker) {
+          return !IsMapped(marker) && LooksLike(entry.trc_name, marker.name);
+        });
+    finding->found = Quote(entry.trc_name);
+    finding->expected = meant == markers_.end() ? "a marker of the capture" : Quote(meant->name);
+    finding->effect = "The capture has no such marker: the line changes nothing.";
+  }
+
+  void AddUnmapped(const TrcMarkerName& marker, FindingList& findings) const {
+    const bool cannot = CannotBeMapped(marker.name);
+    Finding* finding = findings.Add(cannot ? mnm::kMarkerUnmappable : mnm::kMarkerUnmapped,
+                                    marker.place.line, marker.place.column);
+    if (finding == nullptr) return;
+    finding->found = Quote(marker.name);
+    finding->expected =
+        cannot ? "a name of one word, which a mapping can name" : ExpectedFor(marker);
+    finding->effect = "The marker is dropped.";
+  }
+
+  std::string ExpectedFor(const TrcMarkerName& marker) const {
+    const auto& entries = entries_.InForce();
+    const auto meant =
+        std::find_if(entries.begin(), entries.end(), [this, &marker](const MappingEntry& entry) {
+          return !IsUsed(entry) && LooksLike(marker.name, entry.trc_name);
+        });
+    if (meant == entries.end()) return "an entry for it in " + mapping_;
+    return Quote(meant->trc_name) + ", as in " + mapping_;
+  }
+
+  const std::string& mapping_;
+  const MappingEntries& entries_;
+  const std::vector<TrcMarkerName>& markers_;
+  std::unordered_set<std::string_view> names_;  // of the markers
+};
+
+}  // namespace
+
+CheckedFile CheckMapping(const std::string& file, std::string_view bytes) {
+  FindingList findings;
+  const MappingEntries entries(bytes, findings);
+  NameFlaw(bytes, findings);
+  CheckedFile checked = NewReport(file, entries);
+  checked.findings = std::move(findings);
+  return checked;
+}
+
+std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view bytes,
+                                      const MappedCapture& capture) {
+  FindingList findings;
+  const MappingEntries entries(bytes, findings);
+  const MappingComparison comparison(file, entries, capture.markers);
+  comparison.CheckEntries(findings);
+  NameFlaw(bytes, findings);
+
+  CheckedFile mapping = NewReport(file, entries);
+  mapping.findings = std::move(findings);
+  CheckedFile captured{capture.file, "TRC", CountOf(capture.markers.size(), "marker"), {}};
+  comparison.CheckMarkers(captured.findings);
+  return {std::move(mapping), std::move(captured)};
+}
+
+}  // namespace orvane

@@ -1,0 +1,162 @@
+#include "inspect/check/mnm_entries.h"
+
+#include <algorithm>
+#include <string>
+
+#include "formats/mnm/standard_markers.h"
+#include "formats/text/numbers.h"
+#include "inspect/check/mnm_rules.h"
+#include "inspect/check/similar_words.h"
+
+namespace orvane::mnm {
+namespace {
+
+std::string LineNumber(std::size_t line) {
+  return "line " + FormatInt(static_cast<std::int64_t>(line));
+}
+
+void Fill(Finding* finding, std::string found, std::string expected, std::string effect) {
+  if (finding == nullptr) return;
+  finding->found = std::move(found);
+  finding->expected = std::move(expected);
+  finding->effect = std::move(effect);
+}
+
+// The standard marker that `name` looks like; empty when there is none.
+std::string_view StandardMarkerMeant(std::string_view name) {
+  for (const bool sticks : {false, true}) {
+    for (std::size_t step = 0; step < orvane::kMarkerSteps; ++step) {
+      for (const auto& marker : MarkerStepAt(step, {sticks, sticks}).markers) {
+        if (!marker.name.empty() && LooksLike(name, marker.name)) return marker.name;
+      }
+    }
+  }
+  return {};
+}
+
+std::string ExpectedStandardName(const MappingLine& line) {
+  if (IsStandardMarker(line.given_trc_name)) {
+    return Quote(line.given_trc_name) + " first, and then the capture's name";
+  }
+  const std::string_view meant = StandardMarkerMeant(line.given_standard_name);
+  return meant.empty() ? "a standard marker" : Quote(meant);
+}
+
+}  // namespace
+
+MappingEntries::MappingEntries(std::string_view bytes, FindingList& findings)
+    : findings_(findings), watched_(bytes) {
+  MappingLineReader reader(bytes);
+  MappingLine line;
+  while (reader.Next(line)) ReadLine(line);
+  CheckCount();
+}
+
+const MappingEntry* MappingEntries::Find(std::string_view trc_name) const {
+  const auto found = by_trc_name_.find(trc_name);
+  return found == by_trc_name_.end() ? nullptr : &in_force_[found->second];
+}
+
+void MappingEntries::ReadLine(const MappingLine& line) {
+  ++lines_;
+  watched_.Set(line.line);
+  CheckBytes();
+  if (line.given_standard_name.empty()) return AddBlank(line);
+  CheckStandardName(line);
+  if (!line.rest.empty()) AddRestIgnored(line);
+  AddEntry(line);
+}
+
+void MappingEntries::CheckBytes() {
+  const std::string_view text = watched_.Text();
+  if (const std::string_view mark = watched_.ByteOrderMark(); !mark.empty()) {
+    Fill(Add(kByteOrderMark, mark), "a byte-order mark", "text without one, in ASCII or UTF-8",
+         "It belongs to the first name, which is then not what it looks like.");
+  }
+  if (watched_.Continues()) {
+    Fill(Add(kLineCut, text), "a line of more than 1022 bytes", "shorter lines",
+         "It is read as several lines, of which one starts here.");
+  }
+  if (watched_.IsCutByNul()) {
+    Fill(Add(kNul, text.substr(text.size())), "a NUL byte", "text",
+         "The rest of its line is not read.");
+  }
+}
+
+void MappingEntries::AddBlank(const MappingLine& line) {
+  Fill(Add(kLineBlank, line.line.text), "a blank line", "an entry",
+       lines_ == 1 ? "It maps a marker without a name to nothing."
+                   : "It repeats the entry before it, which changes nothing.");
+}
+
+void MappingEntries::AddNameMissing(const MappingLine& line, std::string_view paired) {
+  const std::string effect = paired.empty()
+                                 ? "It maps a marker without a name."
+                                 : "The marker of the line before is taken, " + Quote(paired) +
+                                       ", which has its entry already: the line changes nothing.";
+  Fill(Add(kNameMissing, line.given_standard_name),
+       "the one word " + Quote(line.given_standard_name),
+       "a standard marker and the capture's name for it", effect);
+}
+
+void MappingEntries::AddRestIgnored(const MappingLine& line) {
+  Fill(Add(kRestIgnored, line.rest), Quote(line.rest), "the end of the line",
+       "It is ignored: names end at the first blank, so that one with blanks cannot be mapped.");
+}
+
+void MappingEntries::CheckStandardName(const MappingLine& line) {
+  if (IsStandardMarker(line.given_standard_name)) return;
+  if (Finding* finding = Add(kStandardUnknown, line.given_standard_name)) {
+    Fill(finding, Quote(line.given_standard_name), ExpectedStandardName(line),
+         "The converted file has a marker of this name all the same.");
+  }
+}
+
+void MappingEntries::AddEntry(const MappingLine& line) {
+  const bool is_whole = !line.given_trc_name.empty();
+  if (!is_whole) AddNameMissing(line, last_trc_name_);
+  if (is_whole) last_trc_name_ = line.given_trc_name;
+
+  const std::string_view named = is_whole ? line.given_trc_name : line.given_standard_name;
+  const MappingEntry entry{line.given_standard_name, last_trc_name_, watched_.Number(),
+                           watched_.ColumnOf(named)};
+  const auto [first, is_new] = by_trc_name_.try_emplace(entry.trc_name, in_force_.size());
+  if (is_new) {
+    CheckStandardTaken(entry, watched_.ColumnOf(line.given_standard_name));
+    by_standard_name_.try_emplace(entry.standard_name, in_force_.size());
+    in_force_.push_back(entry);
+  } else if (is_whole) {
+    AddSuperfluous(entry, in_force_[first->second]);
+  }
+}
+
+void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t column) {
+  const auto taken = by_standard_name_.find(entry.standard_name);
+  if (taken == by_standard_name_.end()) return;
+  const MappingEntry& first = in_force_[taken->second];
+  if (Finding* finding = findings_.Add(kStandardTwice, entry.line, column)) {
+    Fill(finding, Quote(entry.standard_name) + " again",
+         "it once; " + LineNumber(first.line) + " has it",
+         "A capture with " + Quote(first.trc_name) + " and " + Quote(entry.trc_name) +
+             " becomes a file with two markers of this name.");
+  }
+}
+
+void MappingEntries::AddSuperfluous(const MappingEntry& entry, const MappingEntry& first) {
+  const bool is_same = entry.standard_name == first.standard_name;
+  Finding* finding =
+      findings_.Add(is_same ? kEntryDoubled : kEntryShadowed, entry.line, entry.column);
+  if (finding == nullptr) return;
+  Fill(finding, Quote(entry.trc_name) + " again", "it once; " + LineNumber(first.line) + " has it",
+       is_same ? "The line changes nothing."
+               : "The line is ignored: the marker is " + Quote(first.standard_name) +
+                     ", as the earlier one says.");
+}
+
+void MappingEntries::CheckCount() {
+  if (lines_ > 0) return;
+  Fill(findings_.Add(kEntriesMissing, 1, 1), "an empty file", "an entry for every marker to keep",
+       "Every marker of a capture is dropped.");
+}
+
+}  // namespace orvane::mnm

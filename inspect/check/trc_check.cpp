@@ -1,0 +1,142 @@
+#include "inspect/check/trc_check.h"
+
+#include <algorithm>
+
+#include "formats/text/numbers.h"
+#include "formats/trc/document_checker.h"
+#include "inspect/check/check_failure.h"
+#include "inspect/check/text_flaw.h"
+#include "inspect/check/trc_parts.h"
+#include "inspect/check/trc_rules.h"
+#include "inspect/check/trc_watcher.h"
+#include "inspect/counts/frame_counts.h"
+
+namespace orvane {
+namespace {
+
+TRCPlace EndOf(std::string_view bytes) {
+  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+  const std::size_t last_break = bytes.rfind('\n');
+  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
+  return {breaks + 1, bytes.size() - last_line + 1, 0};
+}
+
+// What can be said of a file only when all of it has been read.
+class WholeFile {
+ public:
+  WholeFile(const TRCDocument& document, const trc::TrcParts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
+
+  void Check() {
+    if (document_.MarkerCount() == 0) return AddMarkersMissing();
+    CheckFrameCount();
+    for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
+      CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
+    }
+  }
+
+ private:
+  void Add(const FindingRule& rule, TRCPlace place, std::string found, std::string expected,
+           std::string effect) {
+    Finding* const finding = findings_.Add(rule, place.line, place.column);
+    if (finding == nullptr) return;
+    finding->found = std::move(found);
+    finding->expected = std::move(expected);
+    finding->effect = std::move(effect);
+  }
+
+  void AddMarkersMissing() {
+    Add(trc::kMarkersMissing, parts_.end, "no marker",
+        "names in the fourth line, a tab behind each", "The import makes nothing of the file.");
+  }
+
+  void CheckFrameCount() {
+    const auto held = static_cast<std::int64_t>(document_.MarkerAt(0)->SampleCount());
+    const std::int64_t announced = document_.NumFrames();
+    const TRCPlace place = parts_.Value(TRCHeaderValue::kNumFrames).value_or(parts_.end);
+    if (announced <= 0) return AddFramesUnannounced(place);
+    if (held == announced) return;
+    if (IsOutOfProportion(announced, {announced, held, held})) {
+      return Add(trc::kFramesTooMany, place, FormatInt(announced),
+                 "about " + FormatInt(held) + ", as many as there are",
+                 "The import is refused, unless --range FROM:TO takes a part of them.");
+    }
+    Add(trc::kFrameCount, place, FormatInt(announced) + ", as NumFrames says",
+        FormatInt(held) + ", as many as there are", EffectOfCount(announced, held));
+  }
+
+  void AddFramesUnannounced(TRCPlace place) {
+    Add(trc::kFramesUnannounced, place, FormatInt(document_.NumFrames()) + ", as NumFrames says",
+        "a whole number of 1 or more",
+        "The import refuses the file: its last frame would come before its first. A converted file "
+        "has no frames.");
+  }
+
+  static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
+    if (announced > held) {
+      return "The import sets the missing frames to the origin; a converted file has dropouts.";
+    }
+    return "Only the announced frames are imported.";
+  }
+
+  // One finding for a marker, however often it drops out.
+  void CheckGaps(const TRCMarker& marker, TRCPlace name) {
+    const auto gaps = marker.Gaps();
+    if (gaps.empty()) return;
+    if (marker.Positions().empty()) {
+      return Add(trc::kMarkerNeverSeen, name, "no position of " + Quote(marker.Name()),
+                 "one in every frame", "The import makes an object that stays at the origin.");
+    }
+    const auto longest =
+        std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
+          return left.end - left.begin < right.end - right.begin;
+        });
+    Add(trc::kMarkerGaps, parts_.PlaceOfFrame(longest->begin),
+        DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
+        "The import sets those frames to the origin; a converted file has dropouts.");
+  }
+
+  static std::string DescribeGaps(const TRCMarker& marker, std::size_t longest) {
+    const std::size_t missing = marker.SampleCount() - marker.Positions().size();
+    std::string text =
+        "no position of " + Quote(marker.Name()) + " in " + CountOf(missing, "frame");
+    if (marker.Gaps().size() == 1) return text + " from here on";
+    return text + ": " + CountOf(marker.Gaps().size(), "gap") + ", the longest of " +
+           CountOf(longest, "frame") + " from here on";
+  }
+
+  const TRCDocument& document_;
+  const trc::TrcParts& parts_;
+  FindingList& findings_;
+};
+
+// The pieces of one long line may pass for the lines of a marker file.
+void NameFlaw(std::string_view bytes, FindingList& findings) {
+  const auto flaw = FindTextFlaw(bytes);
+  if (!flaw) return;
+  const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
+  const std::string effect =
+      is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
+  NameFlawFirst(*flaw, trc::kFlaws[static_cast<std::size_t>(*flaw)],
+                effect + "; what else is odd about it is not told.", findings);
+}
+
+}  // namespace
+
+CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
+  CheckedFile checked{file, "TRC", {}, {}};
+  TRCDocument document;
+  trc::TrcParts parts;
+  parts.end = EndOf(bytes);
+  trc::TrcWatcher watcher(document, parts, checked.findings);
+  const std::string message = document.ReadBytes(bytes, false, &watcher);
+  if (!watcher.HasRefused()) RequireRead(message);
+  RequireSound(FindFault(document));
+  if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
+  NameFlaw(bytes, checked.findings);
+  const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
+  checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
+  return checked;
+}
+
+}  // namespace orvane

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+#include "inspect/check/checked_file.h"
+
+// The check of TRC files. The reader reads them as it always does, and is watched meanwhile;
+// docs/formats/trc.md lists the codes.
+
+namespace orvane {
+
+// Checks `bytes`, which are those of the file that is known as `file`. Throws a CheckFailure when
+// they cannot be read for want of memory, or were read wrongly.
+CheckedFile CheckTrc(const std::string& file, std::string_view bytes);
+
+}  // namespace orvane

@@ -1,0 +1,21 @@
+#include "inspect/check/trc_parts.h"
+
+#include <algorithm>
+
+namespace orvane::trc {
+
+void TrcParts::AddFrame(TRCPlace place) {
+  const bool follows = !runs_.empty() && place.column == runs_.back().column &&
+                       place.line == PlaceIn(runs_.back(), frames_).line;
+  if (!follows) runs_.push_back({frames_, place.line, place.column});
+  ++frames_;
+}
+
+TRCPlace TrcParts::PlaceOfFrame(std::size_t index) const {
+  const auto behind =
+      std::upper_bound(runs_.begin(), runs_.end(), index,
+                       [](std::size_t frame, const Run& run) { return frame < run.frame; });
+  return PlaceIn(*std::prev(behind), index);
+}
+
+}  // namespace orvane::trc

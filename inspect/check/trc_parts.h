@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "formats/trc/read_observer.h"
+
+// Where the parts of a TRC file stand, as far as it was read.
+
+namespace orvane::trc {
+
+struct TrcParts {
+  static constexpr std::size_t kHeaderValues = 7;
+
+  // By TRCHeaderValue.
+  std::array<std::optional<TRCPlace>, kHeaderValues> values;
+  std::vector<TRCPlace> markers;  // their names, in the document's order
+  TRCPlace end;                   // behind the last byte
+
+  const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {
+    return values[static_cast<std::size_t>(value)];
+  }
+
+  // Keeps where the next frame starts.
+  void AddFrame(TRCPlace place);
+
+  // Where frame `index`, counted from 0, starts; it was added.
+  TRCPlace PlaceOfFrame(std::size_t index) const;
+
+ private:
+  // Frames that start on lines which follow each other, in the same column: the first of them.
+  struct Run {
+    std::size_t frame;
+    std::size_t line;
+    std::size_t column;
+  };
+  static TRCPlace PlaceIn(const Run& run, std::size_t index) {
+    return {run.line + (index - run.frame), run.column, 0};
+  }
+
+  std::vector<Run> runs_;
+  std::size_t frames_ = 0;
+};
+
+}  // namespace orvane::trc

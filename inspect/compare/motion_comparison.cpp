@@ -1,0 +1,163 @@
+#include "inspect/compare/motion_comparison.h"
+
+#include <array>
+#include <cmath>
+
+#include "formats/units/units.h"
+#include "inspect/summary/pose_walk.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::size_t kNoPair = std::numeric_limits<std::size_t>::max();
+
+double MillimetresPerUnit(const HtrDocument& document) {
+  return LengthFactor(document.GetCalibrationUnits(), orvane::kMillimetres);
+}
+
+double NumberOrInfinity(double difference) {
+  return std::isnan(difference) ? std::numeric_limits<double>::infinity() : difference;
+}
+
+void Add(double difference, std::int64_t frame, Spread& spread) {
+  if (spread.count == 0 || difference > spread.largest) {
+    spread.largest = difference;
+    spread.largest_frame = frame;
+  }
+  spread.sum += difference;
+  ++spread.count;
+}
+
+// The later spread is of a pair further down. Returns whether it has the larger difference; of
+// equal ones the first frame wins, then the first pair.
+bool Merge(const Spread& from, Spread& into) {
+  if (from.count == 0) return false;
+  const bool takes_over = into.count == 0 || from.largest > into.largest ||
+                          (from.largest == into.largest && from.largest_frame < into.largest_frame);
+  if (takes_over) {
+    into.largest = from.largest;
+    into.largest_frame = from.largest_frame;
+  }
+  into.sum += from.sum;
+  into.count += from.count;
+  return takes_over;
+}
+
+class Comparison {
+ public:
+  Comparison(const StructureComparison& structure, const HtrDocument& a, const HtrDocument& b,
+             const Tolerance& tolerance)
+      : structure_(structure),
+        tolerance_(tolerance),
+        walk_a_(structure.hierarchy_a),
+        walk_b_(structure.hierarchy_b),
+        start_a_(a.GetStartFrame()),
+        start_b_(b.GetStartFrame()),
+        mm_per_unit_a_(MillimetresPerUnit(a)),
+        mm_per_unit_b_(MillimetresPerUnit(b)),
+        pair_of_(structure.hierarchy_a.size(), kNoPair) {
+    for (std::size_t pair = 0; pair < structure.pairs.size(); ++pair) {
+      pair_of_[structure.pairs[pair].in_a] = pair;
+    }
+    result_.segments.resize(structure.pairs.size());
+  }
+
+  MotionComparison Run() {
+    if (structure_.at_rest) CompareBasePositions();
+    if (structure_.common_frames) CompareFrames(*structure_.common_frames);
+    SumUp();
+    return std::move(result_);
+  }
+
+ private:
+  void CompareBasePositions() {
+    walk_a_.TakeBasePosition();
+    walk_b_.TakeBasePosition();
+    ComparePose(0, 0);
+  }
+
+  void CompareFrames(const FrameNumbers& frames) {
+    for (std::int64_t number = frames.first; number <= frames.last; ++number) {
+      const auto index_b = static_cast<std::size_t>(number - start_b_);
+      walk_a_.MoveTo(static_cast<std::size_t>(number - start_a_));
+      walk_b_.MoveTo(index_b);
+      ComparePose(number, index_b);
+    }
+  }
+
+  // The segments that hold the frame in both files.
+  void ComparePose(std::int64_t number, std::size_t index_b) {
+    for (const std::size_t entry : walk_a_.Holding()) {
+      const std::size_t pair = pair_of_[entry];
+      if (pair == kNoPair) continue;
+      const std::size_t entry_b = structure_.pairs[pair].in_b;
+      const std::size_t held_b = structure_.hierarchy_b[entry_b].segment->GetNumFrames();
+      if (!structure_.at_rest && index_b >= held_b) continue;
+      ComparePair(entry, entry_b, number, result_.segments[pair]);
+    }
+  }
+
+  void ComparePair(std::size_t entry_a, std::size_t entry_b, std::int64_t number,
+                   MotionDifference& difference) const {
+    const double distance_mm =
+        MillimetresBetween(walk_a_.PositionOf(entry_a), walk_b_.PositionOf(entry_b));
+    const double angle_deg =
+        NumberOrInfinity(DegreesBetween(walk_a_.RotationOf(entry_a), walk_b_.RotationOf(entry_b)));
+    Add(distance_mm, number, difference.position_mm);
+    Add(angle_deg, number, difference.orientation_deg);
+    const bool is_beyond = distance_mm > tolerance_.mm || angle_deg > tolerance_.deg;
+    if (is_beyond && !difference.first_beyond) difference.first_beyond = number;
+  }
+
+  double MillimetresBetween(const Point& a, const Point& b) const {
+    std::array<double, 3> offset{};
+    for (std::size_t axis = 0; axis < 3; ++axis) {
+      offset[axis] = a[axis] * mm_per_unit_a_ - b[axis] * mm_per_unit_b_;
+    }
+    return NumberOrInfinity(std::hypot(offset[0], offset[1], offset[2]));
+  }
+
+  void SumUp() {
+    MotionDifference& overall = result_.overall;
+    for (std::size_t pair = 0; pair < result_.segments.size(); ++pair) {
+      const MotionDifference& segment = result_.segments[pair];
+      if (Merge(segment.position_mm, overall.position_mm)) result_.position_pair = pair;
+      if (Merge(segment.orientation_deg, overall.orientation_deg)) result_.orientation_pair = pair;
+      if (!segment.first_beyond) continue;
+      if (overall.first_beyond && *overall.first_beyond <= *segment.first_beyond) continue;
+      overall.first_beyond = segment.first_beyond;
+      result_.beyond_pair = pair;
+    }
+  }
+
+  const StructureComparison& structure_;
+  const Tolerance tolerance_;
+  PoseWalk walk_a_;
+  PoseWalk walk_b_;
+  const std::int64_t start_a_;
+  const std::int64_t start_b_;
+  const double mm_per_unit_a_;
+  const double mm_per_unit_b_;
+  std::vector<std::size_t> pair_of_;  // by entry of A
+  MotionComparison result_;
+};
+
+}  // namespace
+
+// The rotation from one to the other has the sine of its angle in its antisymmetric part and the
+// cosine in its trace.
+double DegreesBetween(const RotationMatrix3& a, const RotationMatrix3& b) {
+  const RotationMatrix3 turn = a.Transposed() * b;
+  const double twice_sine =
+      std::hypot(turn.Element(2, 1) - turn.Element(1, 2), turn.Element(0, 2) - turn.Element(2, 0),
+                 turn.Element(1, 0) - turn.Element(0, 1));
+  const double twice_cosine = turn.Element(0, 0) + turn.Element(1, 1) + turn.Element(2, 2) - 1.0;
+  return std::atan2(twice_sine, twice_cosine) * orvane::kDegreesPerRadian;
+}
+
+MotionComparison CompareMotion(const StructureComparison& structure, const HtrDocument& a,
+                               const HtrDocument& b, const Tolerance& tolerance) {
+  return Comparison(structure, a, b, tolerance).Run();
+}
+
+}  // namespace orvane

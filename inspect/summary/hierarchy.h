@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <vector>
+
+#include "formats/htr/document.h"
+
+// The segments of a document as trees, in an order that can be walked from front to back.
+
+namespace orvane {
+
+struct HierarchyEntry {
+  const HtrSegment* segment = nullptr;
+  std::size_t parent = 0;  // index of the parent's entry; its own index for a root
+  std::size_t depth = 0;   // 0 for a root
+};
+
+// Every segment that hangs from a root, once: depth first, parents before their children, roots and
+// children in the document's order. Takes any depth and any links. The entries point into
+// `document`.
+std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document);
+
+// The other segments, in the document's order: those whose parent is missing and those whose
+// parents form a circle, with all that hangs from them.
+std::vector<const HtrSegment*> ListUnattached(const HtrDocument& document,
+                                              const std::vector<HierarchyEntry>& attached);
+
+}  // namespace orvane

@@ -1,0 +1,52 @@
+#include "inspect/summary/motion_summary.h"
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+
+namespace orvane {
+namespace {
+
+void Include(const Point& point, Bounds& bounds) {
+  if (std::isnan(point[0]) || std::isnan(point[1]) || std::isnan(point[2])) return;
+  for (std::size_t axis = 0; axis < 3; ++axis) {
+    bounds.least[axis] = std::min(bounds.least[axis], point[axis]);
+    bounds.most[axis] = std::max(bounds.most[axis], point[axis]);
+  }
+}
+
+std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
+                                   std::size_t frame_count) {
+  constexpr double kInfinity = std::numeric_limits<double>::infinity();
+  Bounds bounds{{kInfinity, kInfinity, kInfinity}, {-kInfinity, -kInfinity, -kInfinity}};
+  PoseWalk walk(hierarchy);
+  for (std::size_t frame = 0; frame < frame_count; ++frame) {
+    walk.MoveTo(frame);
+    for (const std::size_t entry : walk.Holding()) Include(walk.PositionOf(entry), bounds);
+  }
+  const bool found_any = bounds.least[0] <= bounds.most[0] && bounds.least[1] <= bounds.most[1] &&
+                         bounds.least[2] <= bounds.most[2];
+  return found_any ? std::optional(bounds) : std::nullopt;
+}
+
+}  // namespace
+
+MotionSummary SummarizeMotion(const HtrDocument& document,
+                              const std::vector<HierarchyEntry>& hierarchy) {
+  MotionSummary summary;
+  const auto& segments = document.segments();
+  if (segments.empty()) return summary;
+  const auto [fewest, most] = std::minmax_element(
+      segments.begin(), segments.end(), [](const HtrSegment& left, const HtrSegment& right) {
+        return left.GetNumFrames() < right.GetNumFrames();
+      });
+  summary.fewest_frames = fewest->GetNumFrames();
+  summary.most_frames = most->GetNumFrames();
+  if (document.GetDataFrameRate() > 0) {
+    summary.length_seconds = static_cast<double>(summary.most_frames) / document.GetDataFrameRate();
+  }
+  summary.bounds = MotionBounds(hierarchy, summary.most_frames);
+  return summary;
+}
+
+}  // namespace orvane

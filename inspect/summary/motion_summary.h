@@ -1,0 +1,38 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <vector>
+
+#include "formats/htr/document.h"
+#include "inspect/summary/hierarchy.h"
+#include "inspect/summary/pose_walk.h"
+
+// What can be told of a motion without showing every frame.
+
+namespace orvane {
+
+// An axis-aligned box in file space (Y up) and the file's length unit.
+struct Bounds {
+  Point least{};
+  Point most{};
+};
+
+struct MotionSummary {
+  // Frames that the segments hold, as opposed to those that the header announces.
+  std::size_t fewest_frames = 0;
+  std::size_t most_frames = 0;
+
+  // Seconds that most_frames last; nothing when the frame rate is not positive.
+  std::optional<double> length_seconds;
+
+  // Around the joints of all segments that hang from a root, over the frames that each holds;
+  // nothing when there is no such segment or no frame, or when no coordinate is a number.
+  std::optional<Bounds> bounds;
+};
+
+// Requires that `hierarchy` belongs to `document`.
+MotionSummary SummarizeMotion(const HtrDocument& document,
+                              const std::vector<HierarchyEntry>& hierarchy);
+
+}  // namespace orvane
