@@ -4,15 +4,15 @@
 #include <iostream>
 #include <string>
 
-#include "cli/check_command.h"
-#include "cli/compare_command.h"
-#include "cli/convert_command.h"
-#include "cli/export_command.h"
-#include "cli/failure.h"
-#include "cli/import_command.h"
-#include "cli/info_command.h"
-#include "cli/map_command.h"
-#include "cli/scene_command.h"
+#include "cli/check/check_command.h"
+#include "cli/common/failure.h"
+#include "cli/compare/compare_command.h"
+#include "cli/convert/convert_command.h"
+#include "cli/export/export_command.h"
+#include "cli/import/import_command.h"
+#include "cli/info/info_command.h"
+#include "cli/map/map_command.h"
+#include "cli/scene/scene_command.h"
 
 namespace cli {
 namespace {

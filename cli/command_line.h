@@ -1,15 +1,10 @@
 #pragma once
 
-#include <functional>
-
-#include "cli/exit_status.h"
+#include "cli/common/work.h"
 
 // The program's arguments: its verbs and their flags.
 
 namespace cli {
-
-// What the arguments ask for, ready to run. It may throw a Failure.
-using Work = std::function<ExitStatus()>;
 
 // Reads the arguments of `main`. Throws a Failure when they are wrong. `--help` and `--version` are
 // work too.

@@ -2,8 +2,8 @@
 #include <iostream>
 
 #include "cli/command_line.h"
-#include "cli/failure.h"
-#include "cli/messages.h"
+#include "cli/common/failure.h"
+#include "cli/common/messages.h"
 #include "platform/terminal.h"
 
 // The program `orvane`: a user of the host that answers the plug-in's dialogs from the command

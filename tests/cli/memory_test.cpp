@@ -5,8 +5,8 @@
 #include <functional>
 #include <new>
 
-#include "cli/exported_motion.h"
-#include "cli/read_back.h"
+#include "cli/common/read_back.h"
+#include "cli/export/exported_motion.h"
 #include "formats/bvk/writer.h"
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"

@@ -1,4 +1,4 @@
-#include "cli/conversion_batch.h"
+#include "cli/convert/conversion_batch.h"
 
 #include <gmock/gmock.h>
 

@@ -87,23 +87,26 @@ TEST_P(DamagedFilesTest, EveryCodeIsDocumentedAndHasADamage) {
   EXPECT_EQ(provoked, known);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, DamagedFilesTest,
-    testing::Values(
-        Recipe{
-            "htr", "damage_walk.py", "damages.tsv", "inspect/check/htr_rules.h", "docs/formats/htr.md", {}},
-        Recipe{"trc",
-               "damage_markers.py",
-               "damages.tsv",
-               "inspect/check/trc_rules.h",
-               "docs/formats/trc.md",
-               {}},
-        Recipe{"mnm",
-               "damage_markers.py",
-               "mappings.tsv",
-               "inspect/check/mnm_rules.h",
-               "docs/formats/mnm.md",
-               {"mnm-entry-unused", "mnm-marker-unmapped", "mnm-marker-unmappable"}}),
-    [](const auto& each) { return each.param.prefix; });
+INSTANTIATE_TEST_SUITE_P(All, DamagedFilesTest,
+                         testing::Values(Recipe{"htr",
+                                                "damage_walk.py",
+                                                "damages.tsv",
+                                                "inspect/check/htr_rules.h",
+                                                "docs/formats/htr.md",
+                                                {}},
+                                         Recipe{"trc",
+                                                "damage_markers.py",
+                                                "damages.tsv",
+                                                "inspect/check/trc_rules.h",
+                                                "docs/formats/trc.md",
+                                                {}},
+                                         Recipe{"mnm",
+                                                "damage_markers.py",
+                                                "mappings.tsv",
+                                                "inspect/check/mnm_rules.h",
+                                                "docs/formats/mnm.md",
+                                                {"mnm-entry-unused", "mnm-marker-unmapped",
+                                                 "mnm-marker-unmappable"}}),
+                         [](const auto& each) { return each.param.prefix; });
 
 }  // namespace

@@ -1,0 +1,46 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/common/check_report.h"
+#include "cli/common/exit_status.h"
+#include "cli/common/failure.h"
+
+// What verbs do with the findings that they make: flags, output and exit status.
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace cli {
+
+struct CheckManner {
+  orvane::FindingSeverity tolerated = orvane::FindingSeverity::kNote;
+  bool json = false;
+};
+
+// Adds the flags to `verb` that set `manner`, which must outlive the parsing.
+void AddCheckManner(CLI::App& verb, CheckManner& manner);
+
+// Tells of files as they come, or of all at the end when that is JSON.
+class CheckResults {
+ public:
+  explicit CheckResults(const CheckManner& manner) : manner_(manner) {}
+
+  void Add(orvane::CheckedFile file);
+  // A file that could not be checked.
+  void Add(const Failure& failure);
+
+  // Called once, when all files are told of. Returns the status to end with.
+  ExitStatus Finish();
+
+ private:
+  void Raise(ExitStatus status) { status_ = std::max(status_, status); }
+
+  const CheckManner& manner_;
+  std::vector<orvane::CheckedFile> files_;
+  ExitStatus status_ = ExitStatus::kDone;
+};
+
+}  // namespace cli

@@ -1,0 +1,75 @@
+#include "cli/common/input.h"
+
+#include <fstream>
+#include <ios>
+
+#include "cli/common/advice.h"
+#include "cli/common/file_kind.h"
+#include "formats/htr/reader.h"
+#include "platform/path_text.h"
+
+namespace cli {
+
+namespace {
+
+// The start of `file`, as far as it shows what is wrong with all of its text; nothing when it
+// cannot be read.
+std::optional<std::string> ReadStart(const std::string& file) {
+  std::ifstream stream(platform::PathOf(file), std::ios::binary);
+  if (!stream) return std::nullopt;
+  std::string bytes(orvane::kBytesThatShowFlaws, '\0');
+  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
+  if (stream.bad()) return std::nullopt;
+  bytes.resize(static_cast<std::size_t>(stream.gcount()));
+  return bytes;
+}
+
+}  // namespace
+
+std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }
+
+Complaint ComplainAbout(const std::string& file, const std::string& text) {
+  return {file, text, AdviceFor(text)};
+}
+
+Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
+  const orvane::TextFlawWords& words = orvane::WordsFor(flaw);
+  return {file, words.text, words.advice};
+}
+
+std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
+  const std::optional<std::string> bytes = ReadStart(file);
+  if (!bytes) return std::nullopt;
+  const auto flaw =
+      kind == FileKind::kHtr ? orvane::FindHtrTextFlaw(*bytes) : orvane::FindTextFlaw(*bytes);
+  if (!flaw) return std::nullopt;
+  return ComplainAboutFlaw(file, *flaw);
+}
+
+void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints) {
+  if (complaints.empty()) return;
+  const std::optional<Complaint> cause = FindCause(file, kind);
+  if (!cause) return;
+  const Complaint& first = complaints.front();
+  if (first.subject == cause->subject && first.text == cause->text) return;
+  complaints.insert(complaints.begin(), *cause);
+}
+
+std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+                                            const std::string& text) {
+  std::vector<Complaint> complaints = {ComplainAbout(file, text)};
+  PutCauseFirst(file, kind, complaints);
+  return complaints;
+}
+
+Complaint FindFlaw(const std::string& file, FileKind kind) {
+  // The reason why a marker file is refused has been told, or been found before the import.
+  if (kind == FileKind::kTrc) return {};
+  orvane::HtrDocument document;
+  if (!orvane::ReadHtrFile(document, file, false).empty()) return {};
+  if (document.segments().empty()) return ComplainAbout(file, kNoSegments);
+  if (document.FindRootSegment() == nullptr) return ComplainAbout(file, kNoRoot);
+  return {};
+}
+
+}  // namespace cli

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cli/common/work.h"
+
+// `orvane compare`: tells how far two motion files are from each other. It reads the files alone
+// and needs no host.
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace cli {
+
+// Adds the verb to `app`. When the arguments ask for it, `work` is what they ask for.
+void AddCompareCommand(CLI::App& app, Work& work);
+
+}  // namespace cli

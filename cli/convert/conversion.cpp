@@ -1,0 +1,104 @@
+#include "cli/convert/conversion.h"
+
+#include <nlohmann/json.hpp>
+
+namespace cli {
+namespace {
+
+using nlohmann::json;
+
+json Pack(const std::vector<Complaint>& complaints) {
+  json packed = json::array();
+  for (const Complaint& complaint : complaints) {
+    packed.push_back({complaint.subject, complaint.text, complaint.advice});
+  }
+  return packed;
+}
+
+std::vector<Complaint> UnpackComplaints(const json& packed) {
+  std::vector<Complaint> complaints;
+  for (const json& one : packed) complaints.push_back({one.at(0), one.at(1), one.at(2)});
+  return complaints;
+}
+
+json Pack(const Conversion& conversion) {
+  return {conversion.input,         conversion.source,
+          conversion.output,        static_cast<int>(conversion.status),
+          conversion.delivered,     conversion.frames,
+          conversion.markers_kept,  conversion.markers_dropped,
+          conversion.dropouts,      Pack(conversion.errors),
+          Pack(conversion.warnings)};
+}
+
+Conversion Unpack(const json& packed) {
+  return {packed.at(0),
+          packed.at(1),
+          packed.at(2),
+          static_cast<ConversionStatus>(packed.at(3).get<int>()),
+          packed.at(4),
+          packed.at(5),
+          packed.at(6),
+          packed.at(7),
+          packed.at(8),
+          UnpackComplaints(packed.at(9)),
+          UnpackComplaints(packed.at(10))};
+}
+
+}  // namespace
+
+std::string_view NameOf(ConversionStatus status) {
+  switch (status) {
+    case ConversionStatus::kPlanned:
+      return "planned";
+    case ConversionStatus::kConverted:
+      return "converted";
+    case ConversionStatus::kBroken:
+      return "broken";
+    case ConversionStatus::kRefused:
+      return "refused";
+    case ConversionStatus::kExists:
+      return "exists";
+    case ConversionStatus::kUnreadable:
+      return "unreadable";
+    case ConversionStatus::kFailed:
+      return "failed";
+    case ConversionStatus::kInterrupted:
+      return "interrupted";
+  }
+  return "";
+}
+
+ExitStatus ExitStatusOf(ConversionStatus status) {
+  switch (status) {
+    case ConversionStatus::kPlanned:
+    case ConversionStatus::kConverted:
+      return ExitStatus::kDone;
+    case ConversionStatus::kBroken:
+    case ConversionStatus::kRefused:
+      return ExitStatus::kRefused;
+    case ConversionStatus::kExists:
+    case ConversionStatus::kUnreadable:
+    case ConversionStatus::kFailed:
+      return ExitStatus::kInputOutput;
+    case ConversionStatus::kInterrupted:
+      return ExitStatus::kInterrupted;
+  }
+  return ExitStatus::kInputOutput;
+}
+
+// In binary, because file names need not be UTF-8.
+std::string PackConversions(const std::vector<Conversion>& conversions) {
+  json packed = json::array();
+  for (const Conversion& conversion : conversions) packed.push_back(Pack(conversion));
+  std::string bytes;
+  json::to_cbor(packed, bytes);
+  return bytes;
+}
+
+std::vector<Conversion> UnpackConversions(std::string_view bytes) {
+  std::vector<Conversion> conversions;
+  for (const json& packed : json::from_cbor(bytes)) conversions.push_back(Unpack(packed));
+  return conversions;
+}
+
+}  // namespace cli

@@ -1,0 +1,53 @@
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "cli/common/exit_status.h"
+#include "cli/common/failure.h"
+
+// One marker file of `orvane convert`: what is to become of it, and what became of it.
+
+namespace cli {
+
+enum class ConversionStatus {
+  kPlanned,      // nothing has been done yet
+  kConverted,    // the output is delivered
+  kBroken,       // the reader refused the file
+  kRefused,      // the program did, before the plug-in was asked
+  kExists,       // the output is there already and is kept
+  kUnreadable,   // there is no such file, or it may not be read
+  kFailed,       // the output could not be written
+  kInterrupted,  // the user stopped the program before its turn
+};
+
+struct Conversion {
+  std::string input;   // as the user named it, with the extension that the reader adds
+  std::string source;  // the same, absolute
+  std::string output;  // the file to make
+  ConversionStatus status = ConversionStatus::kPlanned;
+  bool delivered = false;  // whether there is an output, which may be that of a broken file
+
+  // What is in the output; 0 when there is none.
+  std::int64_t frames = 0;
+  std::int64_t markers_kept = 0;
+  std::int64_t markers_dropped = 0;
+  std::int64_t dropouts = 0;  // of the markers that are kept
+
+  std::vector<Complaint> errors;
+  std::vector<Complaint> warnings;
+};
+
+// As the table and JSON give it: "converted".
+std::string_view NameOf(ConversionStatus status);
+
+ExitStatus ExitStatusOf(ConversionStatus status);
+
+// The conversions in a form that passes between processes, and back.
+std::string PackConversions(const std::vector<Conversion>& conversions);
+std::vector<Conversion> UnpackConversions(std::string_view bytes);
+
+}  // namespace cli

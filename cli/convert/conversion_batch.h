@@ -1,0 +1,33 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/convert/conversion.h"
+#include "cli/convert/converter_panel.h"
+
+// The conversion of some files by one run of the plug-in, or several where one gives up, from the
+// look at the inputs to the delivery of the outputs.
+
+namespace cli {
+
+struct ConversionOrder {
+  std::string module;
+  std::string mapping;  // the mapping file; empty: every marker is kept under its name
+  std::optional<OffsetWish> offset;
+  bool replace = false;      // outputs that exist
+  bool keep_broken = false;  // deliver what the plug-in makes of files that the reader refuses
+  bool single = false;       // one file, which the panel converts without a batch
+};
+
+struct ConvertedBatch {
+  std::vector<Conversion> conversions;
+  // That of the plug-in, with a line of the program's own behind a file that the plug-in took for
+  // done and that did not come about; empty when it has not kept one.
+  std::string log;
+};
+
+// Carries `conversions` out, which are planned and make a batch.
+ConvertedBatch ConvertBatch(const ConversionOrder& order, std::vector<Conversion> conversions);
+
+}  // namespace cli

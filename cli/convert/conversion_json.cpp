@@ -1,0 +1,69 @@
+#include "cli/common/json_writer.h"
+#include "cli/convert/conversion_report.h"
+
+namespace cli {
+namespace {
+
+using Layout = JsonWriter::Layout;
+
+constexpr int kVersion = 1;
+
+void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
+  json.Key(key);
+  json.String(text);
+}
+
+// Null when there is no output that the number could tell of.
+void WriteCount(JsonWriter& json, std::string_view key, const Conversion& conversion,
+                std::int64_t count) {
+  json.Key(key);
+  if (conversion.delivered) {
+    json.Integer(count);
+  } else {
+    json.Null();
+  }
+}
+
+void WriteTexts(JsonWriter& json, std::string_view key, const std::vector<Complaint>& complaints) {
+  json.Key(key);
+  json.BeginArray(Layout::kOneLine);
+  for (const Complaint& complaint : complaints) json.String(complaint.text);
+  json.EndArray();
+}
+
+void WriteFile(JsonWriter& json, const Conversion& conversion) {
+  json.BeginObject();
+  WriteText(json, "file", conversion.input);
+  WriteText(json, "output", conversion.output);
+  WriteText(json, "status", NameOf(conversion.status));
+  json.Key("delivered");
+  json.Bool(conversion.delivered);
+  WriteCount(json, "frames", conversion, conversion.frames);
+  WriteCount(json, "markers_kept", conversion, conversion.markers_kept);
+  WriteCount(json, "markers_dropped", conversion, conversion.markers_dropped);
+  WriteCount(json, "dropouts", conversion, conversion.dropouts);
+  WriteTexts(json, "errors", conversion.errors);
+  WriteTexts(json, "warnings", conversion.warnings);
+  json.EndObject();
+}
+
+}  // namespace
+
+void PrintConversionJson(const std::vector<Conversion>& conversions,
+                         const std::vector<std::string>& logs, std::ostream& out) {
+  JsonWriter json(out);
+  json.BeginObject();
+  json.Key("version");
+  json.Integer(kVersion);
+  json.Key("files");
+  json.BeginArray(Layout::kLines);
+  for (const Conversion& conversion : conversions) WriteFile(json, conversion);
+  json.EndArray();
+  json.Key("logs");
+  json.BeginArray(Layout::kLines);
+  for (const std::string& log : logs) json.String(log);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace cli

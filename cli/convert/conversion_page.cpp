@@ -1,0 +1,65 @@
+#include <algorithm>
+#include <array>
+
+#include "cli/common/messages.h"
+#include "cli/common/page_text.h"
+#include "cli/convert/conversion_report.h"
+#include "formats/text/numbers.h"
+
+namespace cli {
+namespace {
+
+constexpr std::size_t kColumns = 7;
+using Row = std::array<std::string, kColumns>;
+
+constexpr std::size_t kFirstNumber = 1;
+constexpr std::size_t kOutput = 5;
+
+bool IsNumber(std::size_t column) { return column >= kFirstNumber && column < kOutput; }
+
+Row RowOf(const Conversion& conversion) {
+  const auto number = [&conversion](std::int64_t value) {
+    return conversion.delivered ? orvane::FormatInt(value) : "-";
+  };
+  return {Printable(conversion.input),           number(conversion.frames),
+          number(conversion.markers_kept),       number(conversion.markers_dropped),
+          number(conversion.dropouts),           Printable(conversion.output),
+          std::string(NameOf(conversion.status))};
+}
+
+// Long names push their lines out instead of all of them.
+std::array<std::size_t, kColumns> WidthsOf(const std::vector<Row>& rows) {
+  std::array<std::size_t, kColumns> widths{};
+  for (const Row& row : rows) {
+    for (std::size_t column = 0; column < kColumns; ++column) {
+      widths[column] = std::max(widths[column], std::min(Width(row[column]), kWidestNames));
+    }
+  }
+  return widths;
+}
+
+void PrintRow(const Row& row, const std::array<std::size_t, kColumns>& widths, std::ostream& out) {
+  for (std::size_t column = 0; column + 1 < kColumns; ++column) {
+    out << (IsNumber(column) ? PadLeft(row[column], widths[column])
+                             : PadRight(row[column], widths[column]))
+        << "  ";
+  }
+  out << row.back() << '\n';
+}
+
+}  // namespace
+
+void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out) {
+  std::vector<Row> rows = {{"File", "Frames", "Kept", "Dropped", "Dropouts", "Output", "Status"}};
+  for (const Conversion& conversion : conversions) rows.push_back(RowOf(conversion));
+  const auto widths = WidthsOf(rows);
+  for (const Row& row : rows) PrintRow(row, widths, out);
+  const auto done =
+      std::count_if(conversions.begin(), conversions.end(), [](const Conversion& conversion) {
+        return conversion.status == ConversionStatus::kConverted;
+      });
+  out << orvane::FormatInt(done) << " of "
+      << orvane::FormatInt(static_cast<std::int64_t>(conversions.size())) << " converted\n";
+}
+
+}  // namespace cli

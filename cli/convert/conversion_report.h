@@ -1,0 +1,20 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/convert/conversion.h"
+
+// What came of a conversion, for a person and for a program.
+
+namespace cli {
+
+// A table with a line for each file, and how many were converted.
+void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out);
+
+// `logs` are the files that hold the plug-in's own logs.
+void PrintConversionJson(const std::vector<Conversion>& conversions,
+                         const std::vector<std::string>& logs, std::ostream& out);
+
+}  // namespace cli

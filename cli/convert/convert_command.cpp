@@ -1,0 +1,297 @@
+#include "cli/convert/convert_command.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <cmath>
+#include <iostream>
+#include <limits>
+#include <map>
+#include <memory>
+
+#include "cli/common/choice.h"
+#include "cli/common/messages.h"
+#include "cli/common/output_complaint.h"
+#include "cli/common/progress_line.h"
+#include "cli/convert/conversion_batch.h"
+#include "cli/convert/conversion_plan.h"
+#include "cli/convert/conversion_report.h"
+#include "cli/convert/mapping_preview.h"
+#include "formats/text/numbers.h"
+#include "platform/input_file.h"
+#include "platform/interrupt.h"
+#include "platform/output_file.h"
+#include "platform/scratch_folder.h"
+#include "platform/side_by_side.h"
+#include "platform/terminal.h"
+
+namespace cli {
+namespace {
+
+struct ConvertArguments {
+  std::vector<std::string> inputs;
+  OutputWishes output;
+  ConversionOrder order;
+  std::string offset;
+  bool offset_in_trc_space = true;
+  std::size_t jobs = platform::ProcessorCount();
+  bool dry_run = false;
+  bool json = false;
+  bool quiet = false;
+};
+
+// Whether the panel takes `text` for a number; it passes over what is none without a word.
+bool IsOffset(const std::string& text) {
+  const char* const last = text.data() + text.size();
+  const orvane::LeadingDouble number = orvane::ReadDouble(text.data(), last);
+  return !text.empty() && number.end == last &&
+         std::abs(number.value) <= double{std::numeric_limits<float>::max()};
+}
+
+// The texts between the commas of `text`, if they are three numbers.
+std::optional<OffsetWish> ReadOffset(const std::string& text) {
+  std::vector<std::string> numbers(1);
+  for (const char character : text) {
+    if (character == ',') {
+      numbers.emplace_back();
+    } else {
+      numbers.back() += character;
+    }
+  }
+  if (numbers.size() != 3 || !std::all_of(numbers.begin(), numbers.end(), IsOffset)) {
+    return std::nullopt;
+  }
+  return OffsetWish{numbers[0], numbers[1], numbers[2], true};
+}
+
+Failure WrongUsage(const std::string& flag, const std::string& text) {
+  return {ExitStatus::kWrongUsage, {{flag, text, ""}}};
+}
+
+class Converting {
+ public:
+  explicit Converting(const ConvertArguments& arguments)
+      : arguments_(arguments), wishes_(arguments.output), order_(arguments.order) {}
+
+  ExitStatus Run() {
+    platform::CatchInterrupts();
+    Prepare();
+    conversions_ = PlanConversions(arguments_.inputs, wishes_);
+    if (arguments_.dry_run) return ShowPreview();
+    RequireFolder(arguments_.output.folder);
+    CarryOut(MakeBatches(conversions_, arguments_.jobs));
+    DeliverLogs();
+    Complain();
+    if (arguments_.json) {
+      PrintConversionJson(conversions_, delivered_logs_, std::cout);
+    } else if (!arguments_.quiet) {
+      PrintConversionPage(conversions_, std::cout);
+    }
+    return Status();
+  }
+
+ private:
+  void Prepare() {
+    if (!arguments_.output.file.empty() && arguments_.inputs.size() > 1) {
+      throw WrongUsage("--output", "is for one file; --output-dir takes any number");
+    }
+    if (!arguments_.offset.empty()) {
+      order_.offset = ReadOffset(arguments_.offset);
+      if (!order_.offset) throw WrongUsage("--offset", "takes three numbers, such as 0,0,12.5");
+      order_.offset->in_trc_space = arguments_.offset_in_trc_space;
+    }
+    order_.replace = arguments_.output.replace;
+    // The plug-in makes nothing of a broken file that is alone.
+    order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
+    wishes_.mapping = order_.mapping;
+    wishes_.logged = !order_.single;
+    if (order_.mapping.empty()) return;
+    const std::string reason = platform::WhyUnreadable(order_.mapping);
+    if (!reason.empty()) {
+      throw Failure{ExitStatus::kInputOutput, {{order_.mapping, reason, ""}}};
+    }
+  }
+
+  static void RequireFolder(const std::string& folder) {
+    if (folder.empty()) return;
+    const platform::ScratchFolder attempt(folder);
+    if (attempt.Error().empty()) return;
+    throw Failure{ExitStatus::kInputOutput, {{folder, attempt.Error(), ""}}};
+  }
+
+  ExitStatus ShowPreview() {
+    const auto previews = PreviewConversions(conversions_, order_.mapping);
+    Complain();
+    if (arguments_.json) {
+      PrintPreviewJson(previews, std::cout);
+    } else {
+      PrintPreviewPage(previews, std::cout);
+    }
+    return Status();
+  }
+
+  // What a batch comes to, as bytes: the log's length, the log, and the conversions.
+  std::string Convert(const Batch& batch) const {
+    std::vector<Conversion> conversions;
+    for (const std::size_t index : batch) conversions.push_back(conversions_[index]);
+    const ConvertedBatch converted = ConvertBatch(order_, std::move(conversions));
+    return orvane::FormatInt(static_cast<std::int64_t>(converted.log.size())) + '\n' +
+           converted.log + PackConversions(converted.conversions);
+  }
+
+  void TakeOver(const Batch& batch, std::string_view result) {
+    const std::size_t line_end = result.find('\n');
+    const auto log_size = static_cast<std::size_t>(orvane::ParseInt(result.substr(0, line_end)));
+    result.remove_prefix(line_end + 1);
+    const std::string_view log = result.substr(0, log_size);
+    std::vector<Conversion> conversions = UnpackConversions(result.substr(log_size));
+    for (std::size_t at = 0; at < batch.size(); ++at) {
+      conversions_[batch[at]] = std::move(conversions[at]);
+    }
+    if (!log.empty()) AddLog(FolderOf(conversions_[batch.front()].output), log);
+  }
+
+  void AddLog(const std::string& folder, std::string_view log) {
+    const auto known = std::find_if(logs_.begin(), logs_.end(),
+                                    [&folder](const auto& one) { return one.first == folder; });
+    if (known == logs_.end()) {
+      logs_.emplace_back(folder, log);
+    } else {
+      known->second += log;
+    }
+  }
+
+  void CarryOut(const std::vector<Batch>& batches) {
+    ProgressLine line("Converting", !arguments_.quiet && platform::ErrorIsTerminal());
+    if (batches.size() == 1) return TakeOver(batches.front(), Convert(batches.front()));
+    std::size_t ended = 0;
+    platform::SideBySide pieces;
+    pieces.work = [this, &batches](std::size_t index) { return Convert(batches[index]); };
+    pieces.ended = [&line, &ended, &batches](std::size_t) {
+      line.Show(static_cast<int>(100 * ++ended / batches.size()));
+    };
+    const auto results = platform::RunSideBySide(batches.size(), arguments_.jobs, pieces);
+    for (std::size_t at = 0; at < batches.size(); ++at) {
+      if (results[at]) {
+        TakeOver(batches[at], *results[at]);
+      } else {
+        Abandon(batches[at]);
+      }
+    }
+  }
+
+  // A batch that was not begun, or whose process has died.
+  void Abandon(const Batch& batch) {
+    // A new folder puts away what the process has left.
+    const platform::ScratchFolder attempt(FolderOf(conversions_[batch.front()].output));
+    for (const std::size_t index : batch) {
+      Conversion& conversion = conversions_[index];
+      conversion.status = ConversionStatus::kInterrupted;
+      if (platform::Interrupted()) continue;
+      conversion.status = ConversionStatus::kFailed;
+      conversion.errors.push_back(
+          {conversion.input, "The process that was to convert it has ended before", ""});
+    }
+  }
+
+  void DeliverLogs() {
+    for (const auto& [folder, log] : logs_) {
+      const std::string path = LogIn(folder);
+      platform::OutputFile file(path, order_.replace);
+      std::string error = file.WhyImpossible();
+      if (error.empty()) error = file.Write(log);
+      if (error.empty()) error = file.Deliver();
+      if (error.empty()) {
+        delivered_logs_.push_back(path);
+      } else {
+        Print(Severity::kWarning, ComplainAboutOutput(path, file, error));
+      }
+    }
+  }
+
+  void Complain() const {
+    for (const Conversion& conversion : conversions_) {
+      for (const Complaint& warning : conversion.warnings) Print(Severity::kWarning, warning);
+      for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
+    }
+    if (platform::Interrupted()) {
+      Print(Severity::kError, {"", "interrupted; what was converted stays", ""});
+    }
+  }
+
+  // That of the worst file.
+  ExitStatus Status() const {
+    ExitStatus status = ExitStatus::kDone;
+    for (const Conversion& conversion : conversions_) {
+      status = std::max(status, ExitStatusOf(conversion.status));
+    }
+    return status;
+  }
+
+  const ConvertArguments& arguments_;
+  OutputWishes wishes_;
+  ConversionOrder order_;
+  std::vector<Conversion> conversions_;
+  std::vector<std::pair<std::string, std::string>> logs_;  // by folder, in the order of the inputs
+  std::vector<std::string> delivered_logs_;
+};
+
+void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
+  verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
+  CLI::Option* output =
+      verb.add_option("-o,--output", arguments.output.file, "The BVK file to write, for one FILE")
+          ->check(
+              [](const std::string& path) {
+                return IsBvkFileName(path) ? "" : path + " does not end in .bvk";
+              },
+              "")
+          ->type_name("OUT");
+  RequireName(verb.add_option("--output-dir", arguments.output.folder,
+                              "The folder to write to (each beside its FILE)"))
+      ->type_name("DIR")
+      ->excludes(output);
+  verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
+  // What is kept is made by a batch, which names its outputs after its inputs.
+  verb.add_flag("--keep-broken", arguments.order.keep_broken,
+                "Deliver what the plug-in makes of files that its reader refuses")
+      ->excludes(output);
+  verb.add_flag("--dry-run", arguments.dry_run,
+                "Show what would become of the files and their markers; write nothing");
+}
+
+void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
+  RequireName(verb.add_option("--mapping", arguments.order.mapping,
+                              "The mapping file: rename the markers it lists, drop the others"))
+      ->type_name("M.mnm");
+  CLI::Option* offset =
+      verb.add_option("--offset", arguments.offset, "Add X, Y and Z to every position")
+          ->type_name("X,Y,Z");
+  AddChoice(
+      verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
+      [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
+      ->needs(offset);
+}
+
+void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
+  verb.add_option("--jobs", arguments.jobs, "How many processes run side by side (one a processor)")
+      ->check(CLI::Range(1, 256))
+      ->type_name("N");
+  verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
+      ->type_name("PATH");
+  verb.add_flag("--json", arguments.json, "Write JSON");
+  verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
+}
+
+}  // namespace
+
+void AddConvertCommand(CLI::App& app, Work& work) {
+  auto arguments = std::make_shared<ConvertArguments>();
+  arguments->order.module = DefaultModulePath();
+  CLI::App* verb = app.add_subcommand("convert", "Convert TRC marker files to BVK files");
+  AddFileArguments(*verb, *arguments);
+  AddPanelFlags(*verb, *arguments);
+  AddRunFlags(*verb, *arguments);
+  verb->callback(
+      [arguments, &work] { work = [arguments] { return Converting(*arguments).Run(); }; });
+}
+
+}  // namespace cli

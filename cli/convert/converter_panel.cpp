@@ -1,0 +1,125 @@
+#include "cli/convert/converter_panel.h"
+
+#include <utility>
+
+#include "cli/common/failure.h"
+#include "platform/interrupt.h"
+
+namespace cli {
+namespace {
+
+constexpr char kUtility[] = "OrvaneUtilities";
+constexpr int kPage = 116;
+
+// The controls of the page, by their ids.
+enum Control : int {
+  kTrcSpace = 1124,
+  kSkelderSpace = 1125,
+  kBrowseMapping = 1132,
+  kBrowseOutput = 1134,
+  kConvert = 1200,
+  kBatch = 1201,
+  kUseTrcName = 1202,
+  kUseMapping = 1204,
+  kEnableOffset = 1205,
+  kOffsetX = 1206,
+  kOffsetY = 1207,
+  kOffsetZ = 1208
+};
+
+int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
+
+std::unique_ptr<UtilityObj> CreateUtility(const PluginSession& session) {
+  std::unique_ptr<UtilityObj> utility = session.module().CreateUtility(kUtility);
+  if (utility != nullptr) return utility;
+  throw Failure{ExitStatus::kInputOutput,
+                {{session.module().path(), "the module has no panel that converts files", ""}}};
+}
+
+}  // namespace
+
+ConverterPanel::ConverterPanel(PluginSession& session, const PanelWishes& wishes)
+    : session_(session), mapping_(wishes.mapping) {
+  host::ScriptedUser user;
+  user.answer_message = PressOk;
+  user.choose_files = [this](const host::ShownFileDialog& dialog) { return ChooseFiles(dialog); };
+  user.choose_folder = [this](const std::string&) { return target_folder_; };
+  session_.desktop().SetUser(std::move(user));
+  session_.application().progress().SetObserver([this](const host::ProgressEvent&) {
+    if (platform::Interrupted()) session_.application().cancellation().Request();
+  });
+  panel_ = std::make_unique<host::UtilityPanel>(CreateUtility(session_), session_.application());
+  SetControls(wishes);
+}
+
+ConverterPanel::~ConverterPanel() {
+  panel_.reset();
+  session_.application().progress().SetObserver({});
+}
+
+void ConverterPanel::ConvertBatch(const std::vector<std::string>& sources,
+                                  const std::string& target) {
+  sources_ = sources;
+  target_folder_ = target;
+  SetCheckBox(kBatch, true);
+  Click(kBrowseOutput);
+  Click(kConvert);
+}
+
+void ConverterPanel::ConvertOne(const std::string& source, const std::string& target) {
+  sources_ = {source};
+  target_file_ = target;
+  SetCheckBox(kBatch, false);
+  SetCheckBox(kUseTrcName, false);
+  Click(kConvert);
+}
+
+std::vector<std::string> ConverterPanel::TakeMessages() {
+  const std::vector<std::string> all = session_.Messages();
+  std::vector<std::string> messages(all.begin() + static_cast<std::ptrdiff_t>(messages_taken_),
+                                    all.end());
+  messages_taken_ = all.size();
+  return messages;
+}
+
+// The dialogs are known by what they let choose.
+host::FileChoice ConverterPanel::ChooseFiles(const host::ShownFileDialog& dialog) const {
+  const auto lets_choose = [&dialog](const char* pattern) {
+    return dialog.filter.find(pattern) != std::string::npos;
+  };
+  if (lets_choose("(*.MNM)")) return {{mapping_}, false};
+  if (lets_choose("(*.BVK)")) return {{target_file_}, false};
+  return {sources_, false};
+}
+
+void ConverterPanel::SetControls(const PanelWishes& wishes) {
+  SetCheckBox(kUseMapping, wishes.use_mapping);
+  Click(kBrowseMapping);
+  SetCheckBox(kEnableOffset, wishes.offset.has_value());
+  if (wishes.offset) SetOffset(*wishes.offset);
+}
+
+void ConverterPanel::SetOffset(const OffsetWish& offset) {
+  Click(offset.in_trc_space ? kTrcSpace : kSkelderSpace);
+  Page().Type(kOffsetX, offset.x);
+  Page().Type(kOffsetY, offset.y);
+  Page().Type(kOffsetZ, offset.z);
+}
+
+void ConverterPanel::SetCheckBox(int control, bool checked) {
+  if (Page().IsChecked(control) != checked) Click(control);
+}
+
+void ConverterPanel::Click(int control) {
+  Page().Click(control);
+  session_.desktop().RethrowFailure();
+}
+
+host::ScriptedDialog& ConverterPanel::Page() {
+  host::ScriptedDialog* const page = session_.desktop().ShownDialog(kPage);
+  if (page != nullptr) return *page;
+  throw Failure{ExitStatus::kInputOutput,
+                {{session_.module().path(), "the panel that converts files does not open", ""}}};
+}
+
+}  // namespace cli

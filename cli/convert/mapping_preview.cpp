@@ -1,0 +1,126 @@
+#include "cli/convert/mapping_preview.h"
+
+#include "cli/common/json_writer.h"
+#include "cli/common/messages.h"
+#include "cli/convert/trc_worth.h"
+#include "formats/trc/document.h"
+#include "inspect/check/marker_naming.h"
+#include "inspect/summary/trc_outline.h"
+
+namespace cli {
+namespace {
+
+using orvane::MarkerNaming;
+using orvane::OutlineTrcFile;
+
+using Layout = JsonWriter::Layout;
+
+constexpr int kVersion = 1;
+
+// An output that exists keeps nothing from being shown.
+bool IsReadable(const Conversion& conversion) {
+  return conversion.status == ConversionStatus::kPlanned ||
+         conversion.status == ConversionStatus::kExists;
+}
+
+class Previewer {
+ public:
+  explicit Previewer(const std::string& mapping) { LoadMapping(mapping, naming_); }
+
+  ConversionPreview Preview(Conversion& conversion) const {
+    ConversionPreview preview{&conversion, {}};
+    if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion, naming_);
+    if (!IsReadable(conversion)) return preview;
+    const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
+    orvane::TRCDocument document;
+    const std::string message = document.ReadBytes(outline ? outline->Header() : "", false);
+    if (!message.empty()) {
+      conversion.status = ConversionStatus::kBroken;
+      conversion.errors.push_back({conversion.input, message, ""});
+      return preview;
+    }
+    for (const orvane::TRCMarker& marker : document.markers()) {
+      preview.markers.push_back({marker.Name(), naming_.NameFor(marker.Name())});
+    }
+    return preview;
+  }
+
+ private:
+  MarkerNaming naming_;
+};
+
+void PrintMarker(const MarkerFate& marker, std::ostream& out) {
+  if (!marker.written_as) {
+    out << "  drop    " << Printable(marker.name) << '\n';
+  } else if (*marker.written_as == marker.name) {
+    out << "  keep    " << Printable(marker.name) << '\n';
+  } else {
+    out << "  rename  " << Printable(marker.name) << " to " << Printable(*marker.written_as)
+        << '\n';
+  }
+}
+
+void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
+  json.Key(key);
+  json.String(text);
+}
+
+void WriteMarker(JsonWriter& json, const MarkerFate& marker) {
+  json.BeginObject();
+  WriteText(json, "name", marker.name);
+  json.Key("written_as");
+  if (marker.written_as) {
+    json.String(*marker.written_as);
+  } else {
+    json.Null();
+  }
+  json.EndObject();
+}
+
+void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
+  json.BeginObject();
+  WriteText(json, "file", preview.conversion->input);
+  WriteText(json, "output", preview.conversion->output);
+  WriteText(json, "status", NameOf(preview.conversion->status));
+  json.Key("markers");
+  json.BeginArray(Layout::kLines);
+  for (const MarkerFate& marker : preview.markers) WriteMarker(json, marker);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace
+
+std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
+                                                  const std::string& mapping) {
+  const Previewer previewer(mapping);
+  std::vector<ConversionPreview> previews;
+  previews.reserve(conversions.size());
+  for (Conversion& conversion : conversions) {
+    previews.push_back(previewer.Preview(conversion));
+    NameCause(conversion);
+  }
+  return previews;
+}
+
+void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out) {
+  for (const ConversionPreview& preview : previews) {
+    out << Printable(preview.conversion->input) << " -> " << Printable(preview.conversion->output)
+        << " (" << NameOf(preview.conversion->status) << ")\n";
+    for (const MarkerFate& marker : preview.markers) PrintMarker(marker, out);
+  }
+}
+
+void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out) {
+  JsonWriter json(out);
+  json.BeginObject();
+  json.Key("version");
+  json.Integer(kVersion);
+  json.Key("files");
+  json.BeginArray(Layout::kLines);
+  for (const ConversionPreview& preview : previews) WritePreview(json, preview);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace cli

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/convert/conversion.h"
+
+// What a conversion would make of the markers of its files, found out without converting them.
+
+namespace cli {
+
+struct MarkerFate {
+  std::string name;
+  std::optional<std::string> written_as;  // nothing: dropped
+};
+
+struct ConversionPreview {
+  const Conversion* conversion = nullptr;
+  std::vector<MarkerFate> markers;
+};
+
+// Reads the headers of the inputs that are planned, notes in `conversions` which of them the reader
+// refuses, and looks the names up in the file `mapping`; when that is empty all markers keep their
+// names. The previews refer to `conversions`. Throws a Failure when the mapping cannot be read.
+std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
+                                                  const std::string& mapping);
+
+void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out);
+void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out);
+
+}  // namespace cli

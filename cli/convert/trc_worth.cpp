@@ -1,0 +1,143 @@
+#include "cli/convert/trc_worth.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <system_error>
+
+#include "cli/common/input.h"
+#include "formats/trc/document.h"
+#include "inspect/counts/frame_counts.h"
+#include "inspect/summary/trc_outline.h"
+#include "platform/input_file.h"
+#include "platform/path_text.h"
+
+namespace cli {
+namespace {
+
+using orvane::DescribeDifference;
+using orvane::FrameCounts;
+using orvane::MadeUpFrames;
+using orvane::MarkerNaming;
+using orvane::OutlineTrcFile;
+using orvane::WhyOutOfProportion;
+using orvane::WhyTooShort;
+
+void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
+                   const MarkerNaming& naming) {
+  if (const auto flaw = naming.Flaw())
+    conversion.warnings.push_back(ComplainAboutFlaw(naming.File(), *flaw));
+  if (document.MarkerCount() == 0) {
+    conversion.warnings.push_back(ComplainAbout(conversion.input, "The file holds no markers"));
+  } else if (!naming.KeepsAny(document)) {
+    conversion.warnings.push_back({conversion.input, "The mapping has none of the file's markers",
+                                   "\"orvane map lint\" compares the two."});
+  }
+  for (const std::string& clash : naming.DescribeClashes(document)) {
+    conversion.warnings.push_back(
+        {conversion.input, clash, "Who reads the output cannot tell them apart."});
+  }
+}
+
+// Of another number of frames than the file holds.
+std::string FramesWritten(std::int64_t announced, std::int64_t held) {
+  if (announced < 0) return "No frame is written.";
+  return announced > held ? "Missing frames are written as dropouts."
+                          : "Only the announced frames are written.";
+}
+
+// How many of the markers are written.
+std::int64_t CountKept(const orvane::TRCDocument& document, const MarkerNaming& naming) {
+  const auto& markers = document.markers();
+  return std::count_if(markers.begin(), markers.end(), [&](const auto& marker) {
+    return naming.NameFor(marker.Name()).has_value();
+  });
+}
+
+// Why the frames of `counts` are too much to write of the file, and what to do about it.
+Complaint FindExcess(const std::string& file, const FrameCounts& counts, std::int64_t markers,
+                     std::int64_t kept) {
+  const MadeUpFrames behind_last = {std::max<std::int64_t>(counts.announced - counts.most_held, 0),
+                                    "marker", kept, counts.most_held * markers, 0};
+  const std::string why = WhyOutOfProportion(counts.announced, counts, behind_last);
+  if (!why.empty()) return {file, why, "Is \"NumFrames\" right?"};
+  std::error_code error;
+  const std::uintmax_t bytes = std::filesystem::file_size(platform::PathOf(file), error);
+  if (error) return {};
+  return {file, WhyTooShort(static_cast<std::int64_t>(bytes), counts.announced, kept),
+          "Do its lines hold all columns?"};
+}
+
+void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
+                 const orvane::TRCOutliner& outline, const MarkerNaming& naming) {
+  conversion.markers_dropped = document.MarkerCount();
+  const auto held = static_cast<std::int64_t>(outline.Frames());
+  const FrameCounts counts{document.NumFrames(), held, held};
+  const Complaint excess =
+      FindExcess(conversion.input, counts, document.MarkerCount(), CountKept(document, naming));
+  if (!excess.text.empty()) {
+    conversion.status = ConversionStatus::kRefused;
+    conversion.errors.push_back(excess);
+    return;
+  }
+  if (counts.announced != held) {
+    conversion.warnings.push_back(
+        {conversion.input, DescribeDifference(counts), FramesWritten(counts.announced, held)});
+  }
+  WarnOfMarkers(conversion, document, naming);
+}
+
+RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& message) {
+  constexpr std::size_t kLinesWithRates = 3;
+  if (outline.Lines() < kLinesWithRates) return RateSource::kOthersShort;
+  return message.empty() ? RateSource::kFile : RateSource::kOthers;
+}
+
+}  // namespace
+
+void LoadMapping(const std::string& mapping, MarkerNaming& naming) {
+  if (mapping.empty() || naming.Load(mapping)) return;
+  throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
+}
+
+void RequireInput(Conversion& conversion) {
+  if (conversion.status != ConversionStatus::kPlanned) return;
+  const std::string reason = platform::WhyUnreadable(conversion.input);
+  if (reason.empty()) return;
+  conversion.status = ConversionStatus::kUnreadable;
+  conversion.errors.push_back({conversion.input, reason, ""});
+}
+
+void RefuseForeignRate(Conversion& conversion) {
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back({conversion.input,
+                               "The file ends before its third line, which tells its rates",
+                               "It would be written with a camera rate that is not its own."});
+}
+
+RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
+  RequireInput(conversion);
+  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
+  if (!outline) return RateSource::kFile;
+  orvane::TRCDocument document;
+  const std::string message = document.ReadBytes(outline->Header(), false);
+  const RateSource rate = RateSourceOf(*outline, message);
+  if (!message.empty()) return rate;
+  if (rate == RateSource::kFile) {
+    JudgeFrames(conversion, document, *outline, naming);
+  } else {
+    RefuseForeignRate(conversion);
+  }
+  return rate;
+}
+
+void NameCause(Conversion& conversion) {
+  const bool is_refused = conversion.status == ConversionStatus::kBroken ||
+                          conversion.status == ConversionStatus::kRefused;
+  PutCauseFirst(conversion.input, FileKind::kTrc,
+                is_refused ? conversion.errors : conversion.warnings);
+}
+
+}  // namespace cli

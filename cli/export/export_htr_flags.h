@@ -1,0 +1,31 @@
+#pragma once
+
+#include <optional>
+
+#include "cli/common/dialog_flags.h"
+#include "cli/common/frame_span.h"
+#include "host/desktop/settings.h"
+
+// The flags of `orvane export` that are controls of the options dialog "ExportHTR".
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace cli {
+
+// Adds the flags to `verb`. Parsing the arguments adds a wish for each that is given to `wishes`,
+// which must outlive the parsing.
+void AddExportHtrFlags(CLI::App& verb, Wishes& wishes);
+
+// What decides which frames there will be.
+struct ExportChoices {
+  bool animation = true;           // export frames
+  std::optional<FrameSpan> range;  // as typed; nothing for the scene's animation range
+  std::int32_t offset = 0;         // added to the numbers of frames
+};
+
+// What comes of `wishes`, and without one of what the dialog finds in `settings`.
+ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings);
+
+}  // namespace cli

@@ -1,0 +1,97 @@
+#include "cli/export/exported_motion.h"
+
+#include <algorithm>
+#include <string_view>
+#include <unordered_set>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "cli/common/read_back.h"
+#include "formats/htr/document.h"
+#include "formats/htr/reader.h"
+
+namespace cli {
+namespace {
+
+constexpr std::string_view kEnd = "[EndOfFile]\r\n";
+
+// Behind this only numbers stand behind tabs.
+constexpr std::string_view kBasePosition = "\r\n[BasePosition]\r\n";
+
+bool IsComplete(std::string_view bytes) {
+  return bytes.size() >= kEnd.size() && bytes.substr(bytes.size() - kEnd.size()) == kEnd;
+}
+
+bool HoldsOnlyFiniteNumbers(std::string_view bytes) {
+  const std::size_t start = bytes.find(kBasePosition);
+  if (start == std::string_view::npos) return true;
+  const std::string_view numbers = bytes.substr(start);
+  for (const std::string_view other : {"\tinf", "\t-inf", "\tnan", "\t-nan"}) {
+    if (numbers.find(other) != std::string_view::npos) return false;
+  }
+  return true;
+}
+
+std::unordered_set<std::string_view> NamesIn(const host::Scene& scene) {
+  std::unordered_set<std::string_view> names;
+  std::vector<const host::Node*> waiting = {&scene.Root()};
+  while (!waiting.empty()) {
+    const host::Node* node = waiting.back();
+    waiting.pop_back();
+    if (!node->IsRoot()) names.insert(node->Name());
+    waiting.insert(waiting.end(), node->Children().begin(), node->Children().end());
+  }
+  return names;
+}
+
+// Whether the segments are bones of the scene, in one skeleton, each with its frames. A name that
+// means something in the file makes something else of them.
+bool IsOneSkeletonOf(const orvane::HtrDocument& document, const host::Scene& scene) {
+  const std::unordered_set<std::string_view> names = NamesIn(scene);
+  const auto& segments = document.segments();
+  const auto fits = [&](const orvane::HtrSegment& segment) {
+    return names.count(segment.GetName()) == 1 && segment.GetNumFrames() == document.GetNumFrames();
+  };
+  const auto is_root = [](const orvane::HtrSegment& segment) { return segment.GetIsRoot(); };
+  return std::all_of(segments.begin(), segments.end(), fits) &&
+         std::count_if(segments.begin(), segments.end(), is_root) == 1;
+}
+
+// What the reader says of bytes when its memory is not enough.
+constexpr std::string_view kNoMemory = "The file could not be opened";
+
+Failure Refusal(const std::string& name, const std::string& text, const std::string& advice) {
+  return {ExitStatus::kRefused, {{name, text, advice}}};
+}
+
+ExportedMotion Check(const std::string& path, const std::string& name, const host::Scene& scene) {
+  const std::string bytes = BytesWritten(path);
+  if (!IsComplete(bytes)) {
+    throw Failure{ExitStatus::kInputOutput,
+                  {{name, "could not be written completely", "Is the disk full?"}}};
+  }
+  if (!HoldsOnlyFiniteNumbers(bytes)) {
+    throw Refusal(name, "A number of the skeleton is not finite",
+                  "Is --scale or a length in the scene too large?");
+  }
+  orvane::HtrDocument document;
+  const std::string message = orvane::ReadHtrBytes(document, bytes, true);
+  if (message == kNoMemory) throw NotReadBackForMemory(name);
+  if (!message.empty() || !IsOneSkeletonOf(document, scene)) {
+    throw Refusal(
+        name, "The file would not read back: a name cannot stand in it",
+        "A tab, #, ] or a [ at its start in the name of a bone, and names that the file has "
+        "a use for, such as GLOBAL and EndOfFile, mean something else there.");
+  }
+  return {bytes.size(), document.GetNumSegments(), document.GetStartFrame(),
+          document.GetNumFrames(), document.GetDataFrameRate()};
+}
+
+}  // namespace
+
+ExportedMotion CheckExport(const std::string& path, const std::string& name,
+                           const host::Scene& scene) {
+  return ReadBack(name, [&] { return Check(path, name, scene); });
+}
+
+}  // namespace cli

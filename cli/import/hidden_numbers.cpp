@@ -1,0 +1,53 @@
+#include "cli/import/hidden_numbers.h"
+
+#include <array>
+#include <charconv>
+#include <optional>
+
+#include "cli/common/stored_options.h"
+#include "cli/import/import_controls.h"
+#include "formats/text/numbers.h"
+
+namespace cli {
+namespace {
+
+// The shortest text that reads back as the same value of that type.
+template <typename Value>
+std::string Shortest(Value value) {
+  std::array<char, 32> buffer{};
+  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
+  return std::string(buffer.data(), result.ptr);
+}
+
+// Empty when the dialog reads `stored` back from what it shows, whatever is lost of it.
+template <typename Value>
+std::string Advice(const std::optional<Value>& stored, const std::string& flag) {
+  if (!stored) return "";
+  const std::string shown = orvane::FormatDouble(static_cast<double>(*stored));
+  if (*stored == Value{} || orvane::ParseDouble(shown) != 0.0) return "";
+  return "What was chosen last is " + Shortest(*stored) + ", which the dialog shows as " + shown +
+         "; " + flag + " chooses another.";
+}
+
+}  // namespace
+
+HiddenNumbers::HiddenNumbers(const Wishes& wishes, FileKind kind, const host::Settings& settings) {
+  const bool is_htr = kind == FileKind::kHtr;
+  const StoredOptions stored(settings, is_htr ? "ImportHTR" : "ImportTRC");
+  if (!TypedInt(wishes, kSize)) {
+    numbers_.push_back(
+        {"non-zero size", Advice(stored.Float("Size"), is_htr ? "--segment-size" : "--size")});
+  }
+  if (!TypedInt(wishes, kGlobalScale)) {
+    numbers_.push_back({"non-zero scale factor", Advice(stored.Double("ScaleFactor"), "--scale")});
+  }
+}
+
+std::string HiddenNumbers::AdviceFor(const std::string& message) const {
+  for (const Number& number : numbers_) {
+    if (message.find(number.about) != std::string::npos) return number.advice;
+  }
+  return "";
+}
+
+}  // namespace cli

@@ -1,0 +1,206 @@
+#include "cli/import/import_command.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <map>
+#include <memory>
+#include <optional>
+
+#include "cli/common/choice.h"
+#include "cli/common/file_kind.h"
+#include "cli/common/input.h"
+#include "cli/common/interruption.h"
+#include "cli/common/plugin_session.h"
+#include "cli/common/replaced_input.h"
+#include "cli/common/scene_input.h"
+#include "cli/common/selection.h"
+#include "cli/common/warnings.h"
+#include "cli/import/hidden_numbers.h"
+#include "cli/import/import_flags.h"
+#include "cli/import/import_summary.h"
+#include "cli/import/inspection.h"
+#include "cli/import/marker_targets.h"
+#include "cli/import/scene_output.h"
+#include "formats/text/numbers.h"
+#include "platform/interrupt.h"
+#include "platform/terminal.h"
+
+namespace cli {
+namespace {
+
+struct ImportArguments {
+  std::string input;
+  std::optional<FileKind> kind;  // nothing: by its name
+  std::string output;
+  std::string into;  // the scene file to start from; empty for a new scene
+  std::string module = DefaultModulePath();
+  std::vector<std::string> selection;
+  std::vector<ControlWish> wishes;
+  double millimeters_per_unit = 1.0;
+  Settings settings = Settings::kFresh;
+  bool strict = false;
+  bool quiet = false;
+  bool force = false;
+};
+
+// The command line's defaults are the documented ones of the dialog but for this one, which is for
+// scenes that have no keys yet.
+std::vector<ControlWish> AllWishes(const ImportArguments& arguments) {
+  std::vector<ControlWish> wishes = arguments.wishes;
+  const bool is_new = arguments.into.empty();
+  if (is_new && arguments.settings == Settings::kFresh && !MentionFrameRate(wishes)) {
+    wishes.push_back(FrameRateFromFile());
+  }
+  return wishes;
+}
+
+void PrepareScene(const ImportArguments& arguments, host::Scene& scene) {
+  if (arguments.into.empty()) {
+    scene.SetMillimetersPerUnit(arguments.millimeters_per_unit);
+  } else {
+    ReadSceneFile(arguments.into, scene);
+  }
+}
+
+void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complaints) {
+  complaints.insert(complaints.end(), more.begin(), more.end());
+}
+
+void AddMessages(const std::string& file, const PluginSession& session, const HiddenNumbers& hidden,
+                 std::vector<Complaint>& complaints) {
+  for (const std::string& text : session.Messages()) {
+    const std::string advice = hidden.AdviceFor(text);
+    complaints.push_back(advice.empty() ? ComplainAbout(file, text)
+                                        : Complaint{file, text, advice});
+  }
+}
+
+// When the import has made `range` another one, that ends before it begins.
+void AddReversedRange(const std::string& file, const Interval& range,
+                      const host::AnimationState& animation, std::vector<Complaint>& complaints) {
+  const Interval now = animation.Range();
+  if (now == range || now.End() >= now.Start()) return;
+  const int ticks = animation.TicksPerFrame();
+  complaints.push_back({file,
+                        "The animation range begins in frame " +
+                            orvane::FormatInt(now.Start() / ticks) + " and ends in frame " +
+                            orvane::FormatInt(now.End() / ticks),
+                        "--offset moves its end alone."});
+}
+
+Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Complaint> complaints) {
+  const Complaint flaw = FindFlaw(file, kind);
+  if (!flaw.text.empty()) complaints.push_back(flaw);
+  if (complaints.empty()) {
+    complaints.push_back(ComplainAbout(file, "The plug-in gave up without a message"));
+  }
+  return {ExitStatus::kRefused, complaints};
+}
+
+ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArguments& arguments) {
+  SceneOutput output(arguments.output, arguments.force);
+  PluginSession session(arguments.module, arguments.settings);
+  PrepareScene(arguments, session.scene());
+  std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
+  const std::vector<ControlWish> wishes = AllWishes(arguments);
+  const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
+  Append(Inspect(input, kind, choices, session.scene(), kImportLess), complaints);
+  if (kind == FileKind::kTrc) {
+    Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
+  }
+  StopIfInterrupted();
+  const Interval range = session.scene().Animation().Range();
+  const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
+  // Without a word from the user, the host goes by the name.
+  const std::string extension = arguments.kind ? ExtensionOf(*arguments.kind) : "";
+  const bool carried_out = session.Import(input, extension, wishes, show_progress);
+  StopIfInterrupted();
+  AddMessages(input, session, HiddenNumbers(wishes, kind, session.settings()), complaints);
+  if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
+  AddReversedRange(input, range, session.scene().Animation(), complaints);
+  PutCauseFirst(input, kind, complaints);
+  Warn(std::move(complaints), arguments.strict);
+  const std::size_t size = output.Deliver(session.scene(), input);
+  if (!arguments.quiet) {
+    PrintImportSummary({input, arguments.output, size}, session.scene(), std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+ExitStatus Import(const ImportArguments& arguments) {
+  platform::CatchInterrupts();
+  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  const std::string input = ReadableFile(arguments.input, kind);
+  RequireNoInput(arguments.output, {input});
+  try {
+    return ImportFile(input, kind, arguments);
+  } catch (Failure& failure) {
+    if (failure.status == ExitStatus::kRefused) PutCauseFirst(input, kind, failure.complaints);
+    throw;
+  }
+}
+
+double MillimetersPer(const std::string& unit) {
+  static const std::map<std::string, double> millimeters = {
+      {"mm", 1.0}, {"cm", 10.0}, {"m", 1000.0}, {"in", 25.4}, {"ft", 304.8}};
+  return millimeters.at(unit);
+}
+
+void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
+  verb.add_option("FILE", arguments.input, "The HTR or TRC file")->required()->type_name("");
+  AddKindChoice(verb, arguments.kind);
+  verb.add_option("-o,--output", arguments.output, "The scene to write: .glb or .gltf")
+      ->required()
+      ->check(
+          [](const std::string& path) {
+            return IsSceneFileName(path) ? "" : path + " does not end in .glb or .gltf";
+          },
+          "")
+      ->type_name("SCENE");
+  verb.add_flag("--force", arguments.force, "Replace the scene file if it exists");
+}
+
+void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
+  CLI::Option* into =
+      RequireName(verb.add_option("--into", arguments.into,
+                                  "Start from the scene in this file (a new scene)"))
+          ->type_name("SCENE");
+  verb.add_option("--select", arguments.selection,
+                  "Select the node of that name before the import; may be repeated")
+      ->expected(1)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->type_name("NAME");
+  AddChoice(verb, "--system-unit", {"mm", "cm", "m", "in", "ft"},
+            "The length that 1 means in the scene (mm)",
+            [&arguments](const std::string& unit) {
+              arguments.millimeters_per_unit = MillimetersPer(unit);
+            })
+      ->excludes(into);
+  verb.add_option("--module", arguments.module, "The plug-in to load (the one beside orvane)")
+      ->type_name("PATH");
+}
+
+void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--settings", {"fresh", "user"},
+            "Start from the documented defaults, or from what the user chose last (fresh)",
+            [&arguments](const std::string& choice) {
+              arguments.settings = choice == "user" ? Settings::kUser : Settings::kFresh;
+            });
+  verb.add_flag("--strict", arguments.strict, "Take every warning as a refusal");
+  verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
+}
+
+}  // namespace
+
+void AddImportCommand(CLI::App& app, Work& work) {
+  auto arguments = std::make_shared<ImportArguments>();
+  CLI::App* verb = app.add_subcommand("import", "Import a motion or marker file into a scene");
+  AddFileArguments(*verb, *arguments);
+  AddImportFlags(*verb, arguments->wishes);
+  AddHostFlags(*verb, *arguments);
+  AddRunFlags(*verb, *arguments);
+  verb->callback([arguments, &work] { work = [arguments] { return Import(*arguments); }; });
+}
+
+}  // namespace cli

@@ -1,0 +1,87 @@
+#include "cli/import/import_flags.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+
+#include "cli/common/choice.h"
+#include "cli/common/dialog_flags.h"
+#include "cli/import/import_controls.h"
+
+namespace cli {
+namespace {
+
+using Kind = ControlWish::Kind;
+
+constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
+constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
+
+ControlWish FrameRate(const std::string& choice) {
+  return {Kind::kCheckBox, kSetFrameRate, "--frame-rate", "", choice == "file", ""};
+}
+
+void AddTargetFlags(CLI::App& verb, Wishes& wishes) {
+  CLI::Option* create =
+      AddRadio(verb, wishes, "--create", kCreate, "Create a new skeleton or cloud (the default)");
+  AddRadio(verb, wishes, "--apply", kApply, "Apply the motion to objects of the scene")
+      ->excludes(create);
+}
+
+void AddSkeletonFlags(CLI::App& verb, Wishes& wishes, CLI::Option* size) {
+  AddText(verb, wishes, "--segment-size", kSize,
+          "HTR: thickness of the bones, 1 being a fifth of their length (1)", kWhileApplying)
+      ->excludes(size);
+  AddCheckBox(verb, wishes, "end-effectors", kEndEffectors,
+              "HTR: create end effectors at the ends of the skeleton (no)", kWhileApplying);
+  AddCheckBox(verb, wishes, "animation", kAnimation,
+              "HTR: set keys for the frames of the file (yes)");
+  AddCheckBox(verb, wishes, "base-position", kBasePosition,
+              "HTR: set keys for the base position, one frame before the motion (no)");
+  CLI::Option* euler =
+      AddRadio(verb, wishes, "--euler", kEuler, "HTR: rotate by Euler controllers (the default)");
+  AddRadio(verb, wishes, "--tcb", kTcb, "HTR: rotate by TCB controllers")->excludes(euler);
+}
+
+void AddCloudFlags(CLI::App& verb, Wishes& wishes) {
+  CLI::Option* sphere =
+      AddFlag(verb, wishes, {Kind::kRadio, kSphere, "--sphere", "", false, kWhileApplying},
+              "TRC: make markers spheres (the default)");
+  AddFlag(verb, wishes, {Kind::kRadio, kPoint, "--point", "", false, kWhileApplying},
+          "TRC: make markers points")
+      ->excludes(sphere);
+  AddCheckBox(verb, wishes, "selected-only", kSelectedOnly,
+              "TRC: apply to selected objects only (no)", kWhileCreating);
+  AddCheckBox(verb, wishes, "root-node", kRootNode, "TRC: group the markers under a node (no)",
+              kWhileApplying);
+}
+
+void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
+  AddRange(verb, wishes, {kAll, kRange, kFrom, kTo}, "--all", "Import all frames (the default)",
+           "Import the frames FROM to TO");
+  AddText(verb, wishes, "--offset", kOffset, "Number of frames to move the keys by (0)");
+  AddChoice(
+      verb, "--frame-rate", {"file", "keep"},
+      "Set the scene's frame rate from the file, or keep the scene's (file; keep with --into)",
+      [&wishes](const std::string& choice) { wishes.push_back(FrameRate(choice)); });
+}
+
+}  // namespace
+
+void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
+  AddTargetFlags(verb, wishes);
+  CLI::Option* size =
+      AddText(verb, wishes, "--size", kSize,
+              "Size of new objects, twice the radius of a marker (1)", kWhileApplying);
+  AddSkeletonFlags(verb, wishes, size);
+  AddCloudFlags(verb, wishes);
+  AddTimeFlags(verb, wishes);
+  AddText(verb, wishes, "--scale", kGlobalScale, "Multiply all lengths by this (1)");
+}
+
+ControlWish FrameRateFromFile() { return FrameRate("file"); }
+
+bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
+  return std::any_of(wishes.begin(), wishes.end(),
+                     [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
+}
+
+}  // namespace cli

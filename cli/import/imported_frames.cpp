@@ -1,0 +1,93 @@
+#include "cli/import/imported_frames.h"
+
+#include <algorithm>
+#include <limits>
+#include <optional>
+
+#include "formats/text/numbers.h"
+#include "inspect/counts/proportion.h"
+
+namespace cli {
+namespace {
+
+using orvane::DescribeDifference;
+using orvane::FormatInt;
+using orvane::FrameCounts;
+using orvane::MadeUpFrames;
+using orvane::WhyOutOfProportion;
+
+// Whether the user wants some of the announced frames only.
+bool IsPart(const ImportedFrames& frames, const ImportChoices& choices) {
+  if (!choices.animation) return true;
+  return choices.range && choices.range->first >= frames.announced.first &&
+         choices.range->last <= frames.announced.last;
+}
+
+// The frames that the host's time of 32 bits reaches.
+FrameSpan HostTime(int ticks_per_frame) {
+  return {std::numeric_limits<TimeValue>::min() / ticks_per_frame,
+          std::numeric_limits<TimeValue>::max() / ticks_per_frame};
+}
+
+FrameSpan Moved(const FrameSpan& frames, std::int64_t offset) {
+  return {frames.first + offset, frames.last + offset};
+}
+
+MadeUpFrames MadeUp(const ImportedFrames& frames, std::int64_t offset, int ticks_per_frame) {
+  const std::int64_t count =
+      std::clamp<std::int64_t>(frames.end - frames.counts.most_held, 0, frames.keyed.Count());
+  const FrameSpan last = Moved({frames.keyed.last - count + 1, frames.keyed.last}, offset);
+  const KeyReceivers& receivers = frames.receivers;
+  return {Overlap(last, HostTime(ticks_per_frame)).Count(), receivers.name, receivers.count,
+          receivers.held, ticks_per_frame * receivers.controllers};
+}
+
+std::optional<Complaint> CompareCounts(const std::string& file, const ImportedFrames& frames,
+                                       bool is_part) {
+  const FrameCounts& counts = frames.counts;
+  if (frames.end > counts.fewest_held) {
+    return Complaint{file, DescribeDifference(counts),
+                     "Missing frames are set to zero; --range FROM:TO leaves them out."};
+  }
+  if (counts.announced < counts.most_held && !is_part) {
+    return Complaint{file, DescribeDifference(counts),
+                     counts.announced > 0 ? "Only the announced frames are imported."
+                                          : "None of them is imported."};
+  }
+  return std::nullopt;
+}
+
+std::optional<Complaint> FindLost(const std::string& file, const FrameSpan& moved,
+                                  int ticks_per_frame) {
+  const FrameSpan time = HostTime(ticks_per_frame);
+  const std::int64_t lost = moved.Count() - Overlap(moved, time).Count();
+  if (lost == 0) return std::nullopt;
+  return Complaint{file,
+                   FormatInt(lost) + " of " + FormatInt(moved.Count()) +
+                       (lost == 1 ? " frames gets" : " frames get") +
+                       " no keys: the motion would go from frame " + FormatInt(moved.first) +
+                       " to " + FormatInt(moved.last) + ", and the host's time from " +
+                       FormatInt(time.first) + " to " + FormatInt(time.last),
+                   "--offset moves the motion."};
+}
+
+}  // namespace
+
+std::vector<Complaint> JudgeFrames(const std::string& file, const ImportedFrames& frames,
+                                   const ImportChoices& choices,
+                                   const host::AnimationState& animation,
+                                   const std::string& advice) {
+  const int ticks_per_frame =
+      choices.frame_rate_from_file ? host::TicksPerFrame(frames.rate) : animation.TicksPerFrame();
+  const std::string why = WhyOutOfProportion(frames.keyed.Count(), frames.counts,
+                                             MadeUp(frames, choices.offset, ticks_per_frame));
+  if (!why.empty()) throw Failure{ExitStatus::kRefused, {{file, why, advice}}};
+  std::vector<Complaint> complaints;
+  const auto difference = CompareCounts(file, frames, IsPart(frames, choices));
+  if (difference) complaints.push_back(*difference);
+  const auto lost = FindLost(file, Moved(frames.keyed, choices.offset), ticks_per_frame);
+  if (lost) complaints.push_back(*lost);
+  return complaints;
+}
+
+}  // namespace cli

@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "cli/import/import_choices.h"
+#include "host/animation/animation_state.h"
+#include "inspect/counts/frame_counts.h"
+
+// The frames of a file as an import takes them: whether it makes too many up, and what becomes of
+// those that it cannot take.
+
+namespace cli {
+
+// Who gets keys in every frame.
+struct KeyReceivers {
+  const char* name = "";  // of one: "segment" or "marker"
+  std::int64_t count = 0;
+  std::int64_t held = 0;         // frames in the file, those of each segment or marker added up
+  std::int64_t controllers = 1;  // that are keyed for each
+};
+
+struct ImportedFrames {
+  orvane::FrameCounts counts;
+  FrameSpan announced;    // by their numbers
+  FrameSpan keyed;        // those of them that get keys
+  std::int64_t end = 0;   // the place in the file, counted from 0, behind the last that is keyed
+  std::int32_t rate = 0;  // frames per second, as the file has it
+  KeyReceivers receivers;
+};
+
+// What is to be said of `frames` of `file` before they are imported by `choices` into a scene with
+// that `animation`. Throws a Failure, with `advice`, when that takes far more frames than are held.
+std::vector<Complaint> JudgeFrames(const std::string& file, const ImportedFrames& frames,
+                                   const ImportChoices& choices,
+                                   const host::AnimationState& animation,
+                                   const std::string& advice);
+
+}  // namespace cli

@@ -1,0 +1,88 @@
+#include "cli/info/info_command.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <memory>
+
+#include "cli/common/input.h"
+#include "cli/common/messages.h"
+#include "cli/info/info_report.h"
+#include "cli/info/trc_info.h"
+#include "formats/htr/reader.h"
+
+namespace cli {
+namespace {
+
+using orvane::ListHierarchy;
+using orvane::SummarizeMotion;
+
+struct InfoArguments {
+  std::string input;
+  std::optional<FileKind> kind;  // nothing: by its name
+  bool hierarchy_only = false;
+  bool json = false;
+  bool frames = false;
+};
+
+Failure Refused(const std::string& file, const std::string& text) {
+  return {ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kHtr, text)};
+}
+
+void Read(const std::string& file, bool read_motion, InfoReport& report) {
+  report.file = file;
+  const std::string error = orvane::ReadHtrFile(report.document, file, read_motion);
+  if (!error.empty()) throw Refused(file, error);
+  report.hierarchy = ListHierarchy(report.document);
+  if (report.document.segments().empty()) throw Refused(file, kNoSegments);
+  if (read_motion) report.motion = SummarizeMotion(report.document, report.hierarchy);
+}
+
+ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
+  if (arguments.hierarchy_only) {
+    throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
+  }
+  TrcInfoReport report;
+  ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), report);
+  // Long lines pass for several, so that a file can hold markers all the same.
+  if (const auto cause = FindCause(report.file, FileKind::kTrc)) Print(Severity::kWarning, *cause);
+  if (arguments.json) {
+    PrintTrcInfoJson(report, arguments.frames, std::cout);
+  } else {
+    PrintTrcInfoPage(report, std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+ExitStatus ShowHtrInfo(const InfoArguments& arguments) {
+  InfoReport report;
+  Read(ReadableFile(arguments.input, FileKind::kHtr), !arguments.hierarchy_only, report);
+  if (arguments.json) {
+    PrintInfoJson(report, arguments.frames, std::cout);
+  } else {
+    PrintInfoPage(report, std::cout);
+  }
+  return ExitStatus::kDone;
+}
+
+ExitStatus ShowInfo(const InfoArguments& arguments) {
+  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  return kind == FileKind::kTrc ? ShowTrcInfo(arguments) : ShowHtrInfo(arguments);
+}
+
+}  // namespace
+
+void AddInfoCommand(CLI::App& app, Work& work) {
+  auto arguments = std::make_shared<InfoArguments>();
+  CLI::App* verb = app.add_subcommand("info", "Tell what a motion or marker file holds");
+  verb->add_option("FILE", arguments->input, "The HTR or TRC file")->required()->type_name("");
+  AddKindChoice(*verb, arguments->kind);
+  CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
+                                          "HTR: read the header and the hierarchy, not the motion");
+  CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");
+  verb->add_flag("--frames", arguments->frames, "With --json: every value of every frame")
+      ->needs(json)
+      ->excludes(hierarchy);
+  verb->callback([arguments, &work] { work = [arguments] { return ShowInfo(*arguments); }; });
+}
+
+}  // namespace cli

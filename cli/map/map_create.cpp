@@ -1,0 +1,119 @@
+#include "cli/map/map_create.h"
+
+#include <filesystem>
+#include <iostream>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "cli/common/file_kind.h"
+#include "cli/common/input.h"
+#include "cli/common/interruption.h"
+#include "cli/common/messages.h"
+#include "cli/common/output_complaint.h"
+#include "cli/common/read_back.h"
+#include "cli/common/replaced_input.h"
+#include "cli/import/inspection.h"
+#include "cli/map/mapping_user.h"
+#include "cli/map/picks_table.h"
+#include "formats/mnm/marker_name_map.h"
+#include "inspect/check/findings.h"
+#include "platform/interrupt.h"
+#include "platform/output_file.h"
+#include "platform/path_text.h"
+#include "platform/scratch_folder.h"
+
+namespace cli {
+namespace {
+
+using orvane::CountOf;
+
+constexpr char kMappingName[] = "/mapping.mnm";
+
+Failure CannotWrite(const std::string& path, const platform::OutputFile& file,
+                    const std::string& reason) {
+  return {ExitStatus::kInputOutput, {ComplainAboutOutput(path, file, reason)}};
+}
+
+// The last of what the plug-in has told, as the reason why `file` came to nothing.
+Failure Refused(const std::string& file, const PluginSession& session) {
+  const std::vector<std::string> messages = session.Messages();
+  return {ExitStatus::kRefused,
+          {ComplainAbout(
+              file, messages.empty() ? "The plug-in gave up without a message" : messages.back())}};
+}
+
+// The cloud that the creator picks from.
+void ImportCloud(PluginSession& session, const std::string& input) {
+  if (!session.Import(input, ExtensionOf(FileKind::kTrc), {}, false)) {
+    throw Refused(input, session);
+  }
+  StopIfInterrupted();
+  if (!session.Messages().empty()) throw Refused(input, session);
+}
+
+std::vector<std::string> NamesIn(host::Scene& scene) {
+  std::vector<std::string> names;
+  for (const host::Node* node : scene.Root().Children()) names.push_back(node->Name());
+  return names;
+}
+
+// The plug-in does not notice that a file was cut short.
+void RequirePicks(const std::string& made, const std::string& bytes, const PicksTable& picks,
+                  const std::string& output) {
+  orvane::MarkerNameMap mapping;
+  if (!mapping.Load(made)) throw NotReadBackForMemory(output);
+  if (bytes.ends_with('\n') && mapping.Count() == picks.Count() && picks.AreIn(mapping)) return;
+  throw Failure{ExitStatus::kInputOutput,
+                {{output, "The plug-in could not write all of the file", "Is the disk full?"}}};
+}
+
+void Deliver(const std::string& path, platform::OutputFile& file, const std::string& bytes) {
+  platform::HoldInterrupts();
+  std::string error = file.Write(bytes);
+  StopIfInterrupted();
+  if (error.empty()) error = file.Deliver();
+  if (!error.empty()) throw CannotWrite(path, file, error);
+}
+
+std::string FolderOf(const std::string& path) {
+  const std::string folder = platform::TextOf(platform::PathOf(path).parent_path());
+  return folder.empty() ? "." : folder;
+}
+
+}  // namespace
+
+ExitStatus CreateMapping(const MapCreateArguments& arguments) {
+  platform::CatchInterrupts();
+  const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
+  RequireNoInput(arguments.output, {input, arguments.picks});
+  platform::OutputFile output(arguments.output, arguments.force);
+  if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
+    throw CannotWrite(arguments.output, output, reason);
+  }
+  PluginSession session(arguments.module, Settings::kFresh);
+  Inspect(input, FileKind::kTrc, {}, session.scene(), "Is \"NumFrames\" right?");
+  ImportCloud(session, input);
+  const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
+
+  const platform::ScratchFolder scratch(FolderOf(arguments.output));
+  if (!scratch.Error().empty()) {
+    throw Failure{ExitStatus::kInputOutput, {{FolderOf(arguments.output), scratch.Error(), ""}}};
+  }
+  const std::string made = scratch.Path() + kMappingName;
+  MappingUser(session, picks, arguments.sticks).Create(made);
+  StopIfInterrupted();
+  if (!std::filesystem::exists(platform::PathOf(made))) throw Refused(arguments.output, session);
+  const std::string bytes = ReadBack(arguments.output, [&] {
+    std::string written = BytesWritten(made);
+    RequirePicks(made, written, picks, arguments.output);
+    return written;
+  });
+  Deliver(arguments.output, output, bytes);
+  if (!arguments.quiet) {
+    std::cout << Printable(arguments.output) << ": " << CountOf(picks.Count(), "marker")
+              << " mapped\n";
+  }
+  return ExitStatus::kDone;
+}
+
+}  // namespace cli

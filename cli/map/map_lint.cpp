@@ -1,0 +1,72 @@
+#include "cli/map/map_lint.h"
+
+#include <CLI/CLI.hpp>
+#include <memory>
+
+#include "cli/common/check_results.h"
+#include "cli/common/file_bytes.h"
+#include "cli/common/file_kind.h"
+#include "cli/common/input.h"
+#include "inspect/check/mnm_check.h"
+#include "inspect/summary/trc_outline.h"
+
+namespace cli {
+namespace {
+
+using orvane::CheckedFile;
+using orvane::CheckMapping;
+using orvane::ListTrcMarkers;
+using orvane::MappedCapture;
+using orvane::OutlineTrcFile;
+
+struct LintArguments {
+  std::string mapping;
+  std::string capture;  // empty for none
+  CheckManner manner;
+};
+
+// The capture in `file` with its markers. Throws a Failure when it cannot be read, or holds none.
+MappedCapture ReadCapture(const std::string& file) {
+  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(file);
+  if (!outline)
+    throw Failure{ExitStatus::kInputOutput, {{file, "could not be read to its end", ""}}};
+  MappedCapture capture{file, {}};
+  std::string message = ListTrcMarkers(outline->Header(), capture.markers);
+  if (message.empty() && capture.markers.empty()) message = kNoMarkers;
+  if (!message.empty()) {
+    throw Failure{ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kTrc, message)};
+  }
+  return capture;
+}
+
+std::vector<CheckedFile> Lint(const LintArguments& arguments) {
+  if (arguments.capture.empty())
+    return {CheckMapping(arguments.mapping, FileBytes(arguments.mapping))};
+  const std::string capture = ReadableFile(arguments.capture, FileKind::kTrc);
+  const std::string bytes = FileBytes(arguments.mapping);
+  return CheckMapping(arguments.mapping, bytes, ReadCapture(capture));
+}
+
+ExitStatus Run(const LintArguments& arguments) {
+  CheckResults results(arguments.manner);
+  try {
+    for (CheckedFile& file : Lint(arguments)) results.Add(std::move(file));
+  } catch (const Failure& failure) {
+    results.Add(failure);
+  }
+  return results.Finish();
+}
+
+}  // namespace
+
+void AddMapLint(CLI::App& map, Work& work) {
+  auto arguments = std::make_shared<LintArguments>();
+  CLI::App* verb = map.add_subcommand("lint", "Name everything that is odd in a mapping");
+  verb->add_option("MAPPING", arguments->mapping, "The MNM file")->required()->type_name("");
+  verb->add_option("FILE", arguments->capture, "A TRC file whose markers are to be mapped")
+      ->type_name("");
+  AddCheckManner(*verb, arguments->manner);
+  verb->callback([arguments, &work] { work = [arguments] { return Run(*arguments); }; });
+}
+
+}  // namespace cli

@@ -1,0 +1,78 @@
+#include "cli/map/mapping_user.h"
+
+#include <memory>
+#include <optional>
+#include <utility>
+
+#include "cli/common/failure.h"
+#include "host/application/utility_panel.h"
+#include "platform/interrupt.h"
+
+namespace cli {
+namespace {
+
+constexpr int kPanel = 116;
+constexpr int kCreate = 1203;
+
+constexpr int kCreator = 117;
+constexpr int kDescription = 1151;
+constexpr int kSkip = 1153;
+constexpr int kAbort = 1154;
+
+// The standard name that a description ends with, in parentheses.
+std::string AskedName(const std::string& description) {
+  const std::size_t open = description.rfind('(');
+  const std::size_t close = description.rfind(')');
+  if (open == std::string::npos || close == std::string::npos || close < open) return "";
+  return description.substr(open + 1, close - open - 1);
+}
+
+host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
+  host::ScriptedDialog* const dialog = session.desktop().ShownDialog(dialog_id);
+  if (dialog != nullptr) return *dialog;
+  throw Failure{ExitStatus::kInputOutput,
+                {{session.module().path(), "the panel that makes mappings does not open", ""}}};
+}
+
+}  // namespace
+
+void MappingUser::Create(const std::string& path) {
+  host::ScriptedUser user;
+  user.answer_message = [this](const host::MessageBox& message) { return Answer(message); };
+  user.choose_files = [&path](const host::ShownFileDialog&) { return host::FileChoice{{path}}; };
+  user.act = [this] {
+    Act();
+    return true;
+  };
+  session_.desktop().SetUser(std::move(user));
+  std::unique_ptr<UtilityObj> utility = session_.module().CreateUtility("OrvaneUtilities");
+  if (utility == nullptr) {
+    throw Failure{ExitStatus::kInputOutput,
+                  {{session_.module().path(), "the module has no panel that makes mappings", ""}}};
+  }
+  host::UtilityPanel panel(std::move(utility), session_.application());
+  Shown(session_, kPanel).Click(kCreate);
+  session_.desktop().RethrowFailure();
+}
+
+int MappingUser::Answer(const host::MessageBox& message) const {
+  if (message.style == platform::MessageBoxStyle::kOk) return platform::kMessageBoxOk;
+  const bool is_left = message.text.find("left") != std::string::npos;
+  const bool answer = is_left ? sticks_.left : sticks_.right;
+  return answer ? platform::kMessageBoxYes : platform::kMessageBoxNo;
+}
+
+// Does what the table says about the marker that is asked for.
+void MappingUser::Act() {
+  host::ScriptedDialog& creator = Shown(session_, kCreator);
+  if (platform::Interrupted()) return creator.Click(kAbort);
+  const std::string name = AskedName(creator.Text(kDescription));
+  const std::optional<std::string> pick = picks_.PickFor(name);
+  if (!pick) return creator.Click(kSkip);
+  host::Node* const node = session_.scene().FindByName(*pick);
+  if (node == nullptr || !session_.application().picking().Click(node)) {
+    throw Failure{ExitStatus::kRefused, {{*pick, "the plug-in does not let it be picked", ""}}};
+  }
+}
+
+}  // namespace cli

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <map>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "formats/mnm/marker_name_map.h"
+#include "formats/mnm/standard_markers.h"
+#include "inspect/check/text_flaw.h"
+
+// The table of picks for `orvane map create`: which marker plays the role of which standard marker.
+// One line each: the standard name, white space, the marker name or a `-` for none; blank lines and
+// lines that begin with # say nothing.
+
+namespace cli {
+
+class PicksTable {
+ public:
+  // Reads the table in the file `path`. Throws a Failure when it cannot be read, or when the table
+  // cannot be carried out on the markers `names`, with `sticks` or without: then all that is wrong
+  // is named. A marker is wrong when there is none or several of that name, or when it is to be
+  // picked twice; a standard marker when it is none, comes twice, or is left out though it cannot
+  // be skipped.
+  PicksTable(const std::string& path, const std::vector<std::string>& names,
+             const orvane::WristSticks& sticks);
+
+  // The marker to pick for `standard_name`; nothing when that is to be skipped.
+  std::optional<std::string> PickFor(const std::string& standard_name) const;
+
+  std::size_t Count() const { return picks_.size(); }
+
+  // Whether `mapping` has an entry for each pick.
+  bool AreIn(const orvane::MarkerNameMap& mapping) const;
+
+ private:
+  void Read(const std::string& path);
+  void ReadLine(std::string_view line, std::size_t number);
+  void CheckMarkers(const std::vector<std::string>& names);
+  void CheckSteps(const orvane::WristSticks& sticks);
+  void Complain(const std::string& text) { complaints_.push_back({path_, text, ""}); }
+
+  std::string path_;
+  std::map<std::string, std::string> picks_;  // by standard name, without those to skip
+  std::map<std::string, std::size_t> lines_;  // by standard name
+  std::vector<Complaint> complaints_;
+  std::optional<orvane::TextFlaw> flaw_;
+};
+
+}  // namespace cli

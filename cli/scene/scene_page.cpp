@@ -1,0 +1,69 @@
+#include <algorithm>
+#include <unordered_set>
+
+#include "cli/common/messages.h"
+#include "cli/scene/scene_report.h"
+#include "cli/scene/scene_tree.h"
+#include "formats/text/numbers.h"
+
+namespace cli {
+namespace {
+
+using orvane::FormatInt;
+
+// Deeper nodes are not indented any further, so that a chain of any depth stays readable.
+constexpr std::size_t kDeepestIndent = 30;
+
+std::string Count(std::size_t number) { return FormatInt(static_cast<std::int64_t>(number)); }
+
+void PrintHeader(const host::Scene& scene, std::ostream& out) {
+  const host::AnimationState& animation = scene.Animation();
+  out << "  Nodes       " << Count(scene.NodeCount()) << '\n'
+      << "  Unit        " << orvane::FormatShortest(scene.MillimetersPerUnit()) << " mm\n"
+      << "  Frame rate  " << FormatInt(animation.FrameRate()) << " frames per second, "
+      << FormatInt(animation.TicksPerFrame()) << " ticks each\n"
+      << "  Range       ticks " << FormatInt(animation.Range().Start()) << " to "
+      << FormatInt(animation.Range().End()) << '\n'
+      << "  Time        tick " << FormatInt(animation.Time()) << '\n'
+      << "  Suspended   animate mode " << Count(animation.AnimateMode().SuspendDepth())
+      << ", set-key mode " << Count(animation.SetKeyMode().SuspendDepth()) << " times\n";
+}
+
+std::string Keys(const host::Node& node) {
+  const host::TransformController& transform = *node.Transform();
+  const std::pair<const char*, std::size_t> counts[] = {
+      {"position", transform.Position().KeyCount()},
+      {"rotation", transform.Rotation().KeyCount()},
+      {"scale", transform.Scale().KeyCount()}};
+  std::string keys;
+  for (const auto& [what, count] : counts) {
+    if (count > 0) keys += (keys.empty() ? "; keys: " : ", ") + (Count(count) + " " + what);
+  }
+  return keys;
+}
+
+std::string Line(const SceneTreeEntry& entry, bool selected) {
+  const host::Node& node = *entry.node;
+  std::string line(2 * std::min(entry.depth, kDeepestIndent), ' ');
+  line += Printable(node.Name()) + " (" + node.ShownObject()->KindName() + ", " +
+          node.Transform()->Rotation().KindName() + Keys(node) + ")";
+  if (entry.depth > kDeepestIndent) line += " at depth " + Count(entry.depth);
+  if (selected) line += " selected";
+  return line;
+}
+
+}  // namespace
+
+void PrintScenePage(const std::string& file, const host::Scene& scene, std::ostream& out) {
+  out << Printable(file) << '\n';
+  PrintHeader(scene, out);
+  if (scene.NodeCount() == 0) return;
+  out << "\nNodes\n";
+  const std::unordered_set<const host::Node*> selection(scene.Selection().begin(),
+                                                        scene.Selection().end());
+  for (const SceneTreeEntry& entry : ListScene(scene)) {
+    out << "  " << Line(entry, selection.count(entry.node) > 0) << '\n';
+  }
+}
+
+}  // namespace cli

@@ -1,0 +1,339 @@
+#include "tests/cli/orvane_test.h"
+#include "tests/cli/scene/scene_file.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::Replaced;
+using test::SceneFile;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+TrcText TwoMarkers() {
+  TrcText text{.markers = {"LFHD", "RFHD"},
+               .frames = {{"1000\t2000\t3000", "0\t0\t0"}, {"", "1\t1\t1"}, {"1\t2\t3", ""}}};
+  text.data_rate = "120";
+  return text;
+}
+
+class ImportTrcTest : public test::OrvaneTest {
+ protected:
+  ProgramResult Import(const std::vector<std::string>& flags = {},
+                       const std::string& file = "walk.trc") const {
+    std::vector<std::string> arguments = {"import", file, "-o", "walk.glb"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  ProgramResult ImportText(const std::string& bytes,
+                           const std::vector<std::string>& flags = {}) const {
+    Write("walk.trc", bytes);
+    return Import(flags);
+  }
+
+  SceneFile Scene() const { return SceneFile(folder_.File("walk.glb")); }
+};
+
+TEST_F(ImportTrcTest, MakesANodeForEachMarker) {
+  const ProgramResult result = ImportText(TwoMarkers().Text());
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_THAT(result.output, HasSubstr("Imported walk.trc\n  Nodes   2\n  Keys    6\n"));
+  EXPECT_THAT(result.output, HasSubstr("Frames  1 to 4 at 120 frames per second"));
+  EXPECT_THAT(Scene().NodeNames(), testing::IsSupersetOf({"LFHD", "RFHD"}));
+  EXPECT_THAT(Scene().Position("LFHD", 0), ElementsAre(1.0, 2.0, 3.0));
+  EXPECT_THAT(Scene().Position("LFHD", 1), ElementsAre(0.0, 0.0, 0.0));
+}
+
+TEST_F(ImportTrcTest, EveryFlagIsAControlOfTheDialog) {
+  ASSERT_EQ(ImportText(TwoMarkers().Text(), {"--create", "--point", "--root-node", "--size", "2",
+                                             "--range", "1:2", "--offset", "3", "--scale", "2",
+                                             "--frame-rate", "keep", "--no-selected-only"})
+                .status,
+            2);  // a cloud that is created has no selected items
+  ASSERT_EQ(Import({"--create", "--point", "--root-node", "--size", "2", "--range", "1:2",
+                    "--offset", "3", "--scale", "2", "--frame-rate", "keep"})
+                .status,
+            0);
+  const std::string scene = Orvane({"scene", "walk.glb"}).output;
+  EXPECT_THAT(scene, HasSubstr("TRCCloud"));
+  EXPECT_THAT(Scene().Position("LFHD", 0), ElementsAre(2.0, 4.0, 6.0));
+  EXPECT_THAT(Import({"--sphere", "--all", "--force"}).output, HasSubstr("Keys    6\n"));
+}
+
+TEST_F(ImportTrcTest, AppliesToObjectsOfAScene) {
+  ASSERT_EQ(ImportText(TwoMarkers().Text()).status, 0);
+  const ProgramResult result =
+      Orvane({"import", "walk.trc", "--into", "walk.glb", "--select", "LFHD", "--apply",
+              "--selected-only", "--offset", "10", "-o", "more.glb", "--quiet"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(SceneFile(folder_.File("more.glb")).NodeNames(),
+              testing::Not(testing::Contains("LFHD001")));
+}
+
+class ImportTrcTargetTest : public ImportTrcTest {
+ protected:
+  // Applies two markers to a scene that holds both.
+  ProgramResult Apply(const std::vector<std::string>& flags) const {
+    EXPECT_EQ(ImportText(TwoMarkers().Text(), {"--quiet", "--force"}).status, 0);
+    std::vector<std::string> arguments = {"import",   "walk.trc", "-o",      "more.glb", "--into",
+                                          "walk.glb", "--quiet",  "--force", "--apply"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+};
+
+TEST_F(ImportTrcTargetTest, MarkersThatAllFindTheirObjectsAreNotMentioned) {
+  const ProgramResult result = Apply({"--select", "LFHD", "--select", "RFHD"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(ImportTrcTargetTest, ChildrenOfSelectedObjectsAreFound) {
+  ASSERT_EQ(ImportText(TwoMarkers().Text(), {"--root-node"}).status, 0);
+  const ProgramResult result = Orvane({"import", "walk.trc", "-o", "more.glb", "--into", "walk.glb",
+                                       "--select", "TRCCloud", "--apply", "--quiet"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(ImportTrcTargetTest, TellsWhichMarkersGetNewObjects) {
+  const ProgramResult result = Apply({"--select", "LFHD"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: 1 of 2 markers gets a new object, because no selected one has its "
+            "name: RFHD\n"
+            "  Selected objects and their children are looked at.\n");
+}
+
+TEST_F(ImportTrcTargetTest, TellsWhichMarkersAllMoveOneObject) {
+  const ProgramResult result = Apply({"--select", "RFHD", "--selected-only"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: 1 of 2 markers moves the last selected object, RFHD, because no "
+            "selected one has its name: LFHD\n"
+            "  Selected objects and their children are looked at.\n");
+}
+
+TEST_F(ImportTrcTargetTest, TellsThatNothingIsSelected) {
+  const std::string advice = "  --into SCENE --select NAME selects in a scene of yours.\n";
+  EXPECT_EQ(Apply({}).error,
+            "orvane: --apply: nothing is selected, so every marker gets a new object\n" + advice);
+  EXPECT_EQ(Apply({"--no-selected-only"}).error,
+            "orvane: --apply: nothing is selected, so every marker gets a new object\n" + advice);
+  EXPECT_EQ(Apply({"--selected-only"}).error,
+            "orvane: --selected-only: nothing is selected, so nothing is imported\n" + advice);
+  EXPECT_EQ(Apply({"--selected-only", "--strict"}).status, 1);
+}
+
+TEST_F(ImportTrcTest, AFlagOfTheOtherDialogIsWrongUsage) {
+  EXPECT_EQ(ImportText(TwoMarkers().Text(), {"--tcb"}).error,
+            "orvane: --tcb: the dialog \"ImportTRC\" has no such control\n");
+  Write("walk.htr", test::SmallMotion());
+  const ProgramResult result = Import({"--point"}, "walk.htr");
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error, "orvane: --point: the dialog \"ImportHTR\" has no such control\n");
+}
+
+TEST_F(ImportTrcTest, ADisabledControlIsWrongUsage) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--apply", "--root-node"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_EQ(result.error,
+            "orvane: --root-node: the dialog has this control disabled while \"Apply\" is chosen; "
+            "--create enables it\n");
+  EXPECT_EQ(Import({"--selected-only"}).error,
+            "orvane: --selected-only: the dialog has this control disabled while \"Create\" is "
+            "chosen; --apply enables it\n");
+}
+
+TEST_F(ImportTrcTest, TheUserMaySayWhatAFileIs) {
+  Write("walk.txt", TwoMarkers().Text());
+  EXPECT_EQ(Import({}, "walk.txt").status, 2);
+  EXPECT_EQ(Import({"--as", "trc"}, "walk.txt").status, 0);
+  Write("walk.TRC", TwoMarkers().Text());
+  EXPECT_EQ(Import({"--as", "trc", "--force"}, "walk").status, 0);
+  EXPECT_EQ(Import({"--as", "htr", "--force"}, "walk.TRC").status, 1);
+}
+
+// --- What is said of a file ---
+
+TEST_F(ImportTrcTest, MoreAnnouncedThanHeldIsAWarning) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 900;
+  const ProgramResult result = ImportText(text.Text());
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 900 frames, but the file holds 3\n"
+            "  Missing frames are set to zero; --range FROM:TO leaves them out.\n");
+  EXPECT_EQ(Import({"--strict", "--force"}).status, 1);
+}
+
+TEST_F(ImportTrcTest, FarMoreAnnouncedThanHeldIsRefused) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 2'147'483'647;
+  const ProgramResult result = ImportText(text.Text());
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The header announces 2147483647 frames, but the file holds 3\n"
+            "  Is \"NumFrames\" right? --range FROM:TO imports a part of them.\n");
+  EXPECT_FALSE(Exists("walk.glb"));
+  EXPECT_EQ(Import({"--range", "1:3"}).status, 0);
+}
+
+TEST_F(ImportTrcTest, BlankLinesForManyMarkersAreRefused) {
+  TrcText text;
+  for (int index = 0; index < 1000; ++index) text.markers.push_back("m" + std::to_string(index));
+  text.frame_count = 90'000;
+  const ProgramResult result = ImportText(text.Text() + std::string(90'000, '\n'));
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: The file is far too short for 90000 frames of 1000 markers\n"
+            "  Do its lines hold all columns? --range FROM:TO imports a part of them.\n");
+}
+
+TEST_F(ImportTrcTest, OfAHeaderThatIsRightNothingIsSaidWhateverTheRange) {
+  const std::string within = "  The range must lie within the frames of the file.\n";
+  EXPECT_EQ(ImportText(TwoMarkers().Text(), {"--range", "1:10000000"}).error,
+            "orvane: walk.trc: Please choose an end frame less than or equal to 3.\n" + within);
+  EXPECT_EQ(Import({"--range", "-10000000:3"}).error,
+            "orvane: walk.trc: Please choose a start frame equal to or greater than 1.\n" + within);
+}
+
+TEST_F(ImportTrcTest, NothingIsSaidOfMissingFramesThatARangeLeavesOut) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 900;
+  text.first_frame = 11;
+  const ProgramResult result = ImportText(text.Text(), {"--range", "12:13", "--strict"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, IsEmpty());
+  EXPECT_EQ(Import({"--range", "13:14", "--force"}).error,
+            "orvane: walk.trc: The header announces 900 frames, but the file holds 3\n"
+            "  Missing frames are set to zero; --range FROM:TO leaves them out.\n");
+}
+
+TEST_F(ImportTrcTest, FramesOutsideTheHostsTimeAreAWarning) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--offset", "2147483647"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: 3 of 3 frames get no keys: the motion would go from frame "
+            "2147483648 to 2147483650, and the host's time from -53687091 to 53687091\n"
+            "  --offset moves the motion.\n");
+  EXPECT_EQ(Import({"--offset", "2147483647", "--strict", "--force"}).status, 1);
+}
+
+struct Warning {
+  const char* name;
+  std::string from;
+  std::string to;
+  std::string text;
+};
+
+class TrcWarningTest : public ImportTrcTest, public testing::WithParamInterface<Warning> {};
+
+TEST_P(TrcWarningTest, TellsWhatTheImportMakesOfIt) {
+  const ProgramResult result =
+      ImportText(Replaced(TwoMarkers().Text(), GetParam().from, GetParam().to));
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error, HasSubstr("orvane: walk.trc: " + GetParam().text + "\n"));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Oddities, TrcWarningTest,
+    testing::Values(
+        Warning{"UnknownUnit", "\tmm\t", "\tMm\t",
+                "The unit is unknown and taken as millimetres: \"Mm\" (line 3, column 12)"},
+        Warning{"RateOf0", "120\t60\t", "120\t0\t",
+                "A rate is not positive: \"0\" (line 3, column 5)"},
+        Warning{"FractionOfARate", "120\t60\t", "119.88\t60\t",
+                "A rate loses its fraction: \"119.88\" (line 3, column 1)"},
+        Warning{"NoStartFrame", "mm\t120\t1\t3", "mm",
+                "A value is missing and taken as 0 (line 3, column 14)"},
+        Warning{"NoNumber", "2000", "NaN",
+                "A value is not one number; what it starts with is taken, or 0: \"NaN\" (line 7, "
+                "column 14)"},
+        Warning{"BlankValue", "1000\t2000", " \t2000",
+                "A value is missing and taken as 0 (line 7, column 9)"},
+        Warning{"CountOutOfRange", "60\t3\t2\tmm", "60\t3\t6e9\tmm",
+                "A value is out of range; the nearest, or infinity, is taken: \"6e9\" (line 3, "
+                "column 10)"},
+        Warning{"CountWithFraction", "60\t3\t2\tmm", "60\t3\t2.5\tmm",
+                "A whole number loses its fraction: \"2.5\" (line 3, column 10)"},
+        Warning{"NoX", "1000\t2000", "\t2000",
+                "A sample that does not begin with X is a dropout: \"2000\" (line 7, column 10, "
+                "the first of 2)"},
+        Warning{"LastNameLost", "RFHD\t\t\t\n", "RFHD\n",
+                "The last name has no tab behind it and makes no marker: \"RFHD\" (line 4, column "
+                "20)"},
+        Warning{"UnnamedColumn", "LFHD", "Unnamed 1",
+                "An unnamed column makes no marker, and its values go to the next one: \"Unnamed "
+                "1\" (line 4, column 13)"},
+        Warning{"RepeatedName", "RFHD", "LFHD",
+                "A repeated name makes no marker, and the values of its column go to the next one: "
+                "\"LFHD\" (line 4, column 20)"},
+        Warning{"NoSubHeader", "\t\tX1\tY1\tZ1\tX2\tY2\tZ2\n\n", "",
+                "The line of coordinate headings is missing; the frame in its place is lost: \"1\" "
+                "(line 5, column 1)"},
+        Warning{"MarkerCount", "3\t2\tmm", "3\t7\tmm",
+                "The header announces another number of markers, which does not count: \"7\" (line "
+                "3, column 10)"}),
+    [](const auto& warning) { return warning.param.name; });
+
+TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {
+  const ProgramResult commas = ImportText("PathFileType,4,(X/Y/Z),walk.trc\n");
+  EXPECT_EQ(commas.status, 1);
+  EXPECT_EQ(
+      commas.error,
+      "orvane: walk.trc: The file is does not have a compatible \"(X/Y/Z)\" header state\n"
+      "  The first line of a TRC file is PathFileType, a number, (X/Y/Z) and a file name, with "
+      "tabs between them.\n");
+  const ProgramResult empty = ImportText("");
+  EXPECT_EQ(empty.status, 1);
+  EXPECT_EQ(
+      empty.error,
+      "orvane: walk.trc: The file is empty\n"
+      "  Was it saved, or copied, to its end?\n"
+      "orvane: walk.trc: The file holds no markers\n"
+      "  Is it a TRC file? The fourth line names the markers, with three tabs behind each.\n");
+  EXPECT_EQ(Import({}, "missing.trc").status, 3);
+  EXPECT_FALSE(Exists("walk.glb"));
+}
+
+TEST_F(ImportTrcTest, ASizeThatIsTooLargeIsNamed) {
+  const ProgramResult result = ImportText(TwoMarkers().Text(), {"--size", "1e40"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, HasSubstr("\n  A number of the file, or that of --scale, --size or "
+                                      "--segment-size, is too large.\n"));
+}
+
+TEST_F(ImportTrcTest, TellsWhereKeysAreThatTheRangeLeavesOut) {
+  TrcText text = TwoMarkers();
+  EXPECT_THAT(ImportText(text.Text()).output, HasSubstr("  Keys    6\n"));
+  text.first_frame = 228;
+  EXPECT_THAT(ImportText(text.Text(), {"--force"}).output,
+              HasSubstr("  Keys    6, in frames 228 to 230\n"
+                        "  Frames  1 to 4 at 120 frames per second\n"));
+}
+
+TEST_F(ImportTrcTest, OddRatesDoNotStopIt) {
+  for (const char* rate : {"0", "-5", "59.94", "abc", "99999999999"}) {
+    TrcText text = TwoMarkers();
+    text.data_rate = rate;
+    EXPECT_EQ(ImportText(text.Text(), {"--force"}).status, 0) << rate;
+  }
+}
+
+TEST_F(ImportTrcTest, EveryLineEndWorks) {
+  for (const char* line_end : {"\n", "\r\n", "\r\r\n"}) {
+    TrcText text = TwoMarkers();
+    text.line_end = line_end;
+    const ProgramResult result = ImportText(text.Text(), {"--force"});
+    EXPECT_EQ(result.status, 0);
+    EXPECT_THAT(result.error, IsEmpty());
+    EXPECT_THAT(result.output, HasSubstr("Keys    6\n"));
+  }
+}
+
+}  // namespace

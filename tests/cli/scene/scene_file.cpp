@@ -1,0 +1,128 @@
+#include "tests/cli/scene/scene_file.h"
+
+#include <cstring>
+#include <map>
+
+#include "tests/support/files.h"
+
+namespace test {
+namespace {
+
+constexpr std::size_t kNone = static_cast<std::size_t>(-1);
+constexpr std::size_t kFileHeader = 12;
+constexpr std::size_t kChunkHeader = 8;
+
+std::size_t ReadSize(const std::string& bytes, std::size_t at) {
+  std::uint32_t size = 0;
+  std::memcpy(&size, bytes.data() + at, sizeof size);
+  return size;
+}
+
+using Vector = std::array<double, 4>;
+
+// `point` turned by the unit quaternion `q`.
+Vector Turn(const Vector& q, const Vector& point) {
+  const Vector t = {2 * (q[1] * point[2] - q[2] * point[1]),
+                    2 * (q[2] * point[0] - q[0] * point[2]),
+                    2 * (q[0] * point[1] - q[1] * point[0]), 0};
+  return {point[0] + q[3] * t[0] + q[1] * t[2] - q[2] * t[1],
+          point[1] + q[3] * t[1] + q[2] * t[0] - q[0] * t[2],
+          point[2] + q[3] * t[2] + q[0] * t[1] - q[1] * t[0], 0};
+}
+
+}  // namespace
+
+SceneFile::SceneFile(const std::string& path) {
+  const std::string bytes = ReadFile(path);
+  if (bytes.compare(0, 4, "glTF") != 0) throw std::runtime_error(path + " is no .glb file");
+  const std::size_t json_size = ReadSize(bytes, kFileHeader);
+  json_ = nlohmann::json::parse(bytes.substr(kFileHeader + kChunkHeader, json_size));
+  binary_ = bytes.substr(kFileHeader + 2 * kChunkHeader + json_size);
+}
+
+std::vector<std::string> SceneFile::NodeNames() const {
+  std::vector<std::string> names;
+  for (const auto& node : json_["nodes"]) names.push_back(node.value("name", ""));
+  return names;
+}
+
+std::vector<double> SceneFile::KeyTimes(const std::string& name) const {
+  std::vector<double> times;
+  const nlohmann::json* sampler = SamplerOf(Find(name), "rotation");
+  if (sampler == nullptr) return times;
+  const std::size_t input = (*sampler)["input"];
+  const std::size_t count = json_["accessors"][input]["count"];
+  for (std::size_t i = 0; i < count; ++i) times.push_back(Element(input, i)[0]);
+  return times;
+}
+
+std::array<double, 3> SceneFile::Position(const std::string& name, std::size_t key) const {
+  Vector point = {0, 0, 0, 0};
+  for (std::size_t node = Find(name); node != kNone; node = ParentOf(node)) {
+    const Vector scale = Property(node, "scale", {1, 1, 1, 0}, key);
+    const Vector move = Property(node, "translation", {0, 0, 0, 0}, key);
+    for (std::size_t i = 0; i < 3; ++i) point[i] *= scale[i];
+    point = Turn(Property(node, "rotation", {0, 0, 0, 1}, key), point);
+    for (std::size_t i = 0; i < 3; ++i) point[i] += move[i];
+  }
+  return {point[0], point[1], point[2]};
+}
+
+std::size_t SceneFile::Find(const std::string& name) const {
+  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
+    if (json_["nodes"][i].value("name", "") == name) return i;
+  }
+  throw std::runtime_error("no node " + name);
+}
+
+std::size_t SceneFile::ParentOf(std::size_t node) const {
+  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
+    for (const std::size_t child :
+         json_["nodes"][i].value("children", std::vector<std::size_t>())) {
+      if (child == node) return i;
+    }
+  }
+  return kNone;
+}
+
+const nlohmann::json* SceneFile::SamplerOf(std::size_t node, const std::string& path) const {
+  if (!json_.contains("animations")) return nullptr;
+  const nlohmann::json& animation = json_["animations"][0];
+  for (const auto& channel : animation["channels"]) {
+    if (channel["target"]["node"] == node && channel["target"]["path"] == path) {
+      return &animation["samplers"][channel["sampler"].get<std::size_t>()];
+    }
+  }
+  return nullptr;
+}
+
+SceneFile::Vector SceneFile::Element(std::size_t accessor_index, std::size_t index) const {
+  static const std::map<std::string, std::size_t> widths = {
+      {"SCALAR", 1}, {"VEC3", 3}, {"VEC4", 4}};
+  const nlohmann::json& accessor = json_["accessors"][accessor_index];
+  const nlohmann::json& view = json_["bufferViews"][accessor["bufferView"].get<std::size_t>()];
+  const std::size_t width = widths.at(accessor["type"].get<std::string>());
+  const std::size_t start = view.value("byteOffset", std::size_t{0}) +
+                            accessor.value("byteOffset", std::size_t{0}) +
+                            index * width * sizeof(float);
+  Vector element{};
+  for (std::size_t i = 0; i < width; ++i) {
+    float number = 0;
+    std::memcpy(&number, binary_.data() + start + i * sizeof number, sizeof number);
+    element[i] = number;
+  }
+  return element;
+}
+
+SceneFile::Vector SceneFile::Property(std::size_t node, const std::string& path, Vector otherwise,
+                                      std::size_t key) const {
+  if (const nlohmann::json* sampler = SamplerOf(node, path)) {
+    return Element((*sampler)["output"], key);
+  }
+  if (!json_["nodes"][node].contains(path)) return otherwise;
+  const auto numbers = json_["nodes"][node][path].get<std::vector<double>>();
+  std::copy(numbers.begin(), numbers.end(), otherwise.begin());
+  return otherwise;
+}
+
+}  // namespace test
