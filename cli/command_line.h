@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // The program's arguments: its verbs and their flags.
 

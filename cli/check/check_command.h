@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane check`: names everything in a file that the reader lets pass or refuses. It reads the
 // files alone and needs no host.

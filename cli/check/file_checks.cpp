@@ -7,7 +7,6 @@
 #include <system_error>
 
 #include "cli/common/failure.h"
-#include "cli/common/file_bytes.h"
 #include "cli/common/input.h"
 #include "host/base/letter_case.h"
 #include "inspect/check/check_failure.h"

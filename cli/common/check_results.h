@@ -4,7 +4,6 @@
 #include <vector>
 
 #include "cli/common/check_report.h"
-#include "cli/common/exit_status.h"
 #include "cli/common/failure.h"
 
 // What verbs do with the findings that they make: flags, output and exit status.

@@ -2,14 +2,17 @@
 
 #include <fstream>
 #include <ios>
+#include <optional>
 
 #include "cli/common/advice.h"
+#include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "formats/htr/reader.h"
+#include "formats/text/files.h"
+#include "platform/input_file.h"
 #include "platform/path_text.h"
 
 namespace cli {
-
 namespace {
 
 // The start of `file`, as far as it shows what is wrong with all of its text; nothing when it
@@ -70,6 +73,16 @@ Complaint FindFlaw(const std::string& file, FileKind kind) {
   if (document.segments().empty()) return ComplainAbout(file, kNoSegments);
   if (document.FindRootSegment() == nullptr) return ComplainAbout(file, kNoRoot);
   return {};
+}
+
+std::string FileBytes(const std::string& file) {
+  std::string reason = platform::WhyUnreadable(file);
+  if (reason.empty()) {
+    std::optional<std::string> bytes = orvane::ReadFileBytes(file);
+    if (bytes) return *std::move(bytes);
+    reason = "could not be read to its end";
+  }
+  throw Failure{ExitStatus::kInputOutput, {{file, reason, ""}}};
 }
 
 }  // namespace cli

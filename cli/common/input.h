@@ -42,4 +42,7 @@ std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind ki
 // Returns a complaint without text when there is none to see.
 Complaint FindFlaw(const std::string& file, FileKind kind);
 
+// All bytes of `file`. Throws a Failure that says why when it cannot be read to its end.
+std::string FileBytes(const std::string& file);
+
 }  // namespace cli

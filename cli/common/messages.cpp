@@ -42,4 +42,13 @@ std::string Printable(std::string_view text) {
   return printable;
 }
 
+void Warn(std::vector<Complaint> complaints, bool strict) {
+  if (complaints.empty()) return;
+  if (strict) {
+    complaints.push_back({"--strict", "nothing was written because of this", ""});
+    throw Failure{ExitStatus::kRefused, complaints};
+  }
+  for (const Complaint& complaint : complaints) Print(Severity::kWarning, complaint);
+}
+
 }  // namespace cli

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane compare`: tells how far two motion files are from each other. It reads the files alone
 // and needs no host.

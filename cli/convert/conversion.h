@@ -6,7 +6,6 @@
 #include <string_view>
 #include <vector>
 
-#include "cli/common/exit_status.h"
 #include "cli/common/failure.h"
 
 // One marker file of `orvane convert`: what is to become of it, and what became of it.

@@ -10,8 +10,7 @@
 #include <utility>
 
 #include "cli/common/messages.h"
-#include "cli/common/output_complaint.h"
-#include "cli/common/read_back.h"
+#include "cli/common/outputs.h"
 #include "cli/convert/batch_log_reader.h"
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/trc_worth.h"

@@ -10,8 +10,7 @@
 #include <unordered_set>
 #include <utility>
 
-#include "cli/common/output_complaint.h"
-#include "cli/common/replaced_input.h"
+#include "cli/common/outputs.h"
 #include "formats/text/files.h"
 #include "host/application/extension_match.h"
 #include "platform/file_place.h"

@@ -10,7 +10,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/messages.h"
-#include "cli/common/output_complaint.h"
+#include "cli/common/outputs.h"
 #include "cli/common/progress_line.h"
 #include "cli/convert/conversion_batch.h"
 #include "cli/convert/conversion_plan.h"

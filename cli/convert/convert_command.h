@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane convert`: lets the plug-in turn marker files into BVK files.
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 namespace CLI {
 class App;

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
-#include "cli/common/read_back.h"
+#include "cli/common/outputs.h"
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"
 

@@ -3,8 +3,8 @@
 #include <algorithm>
 #include <filesystem>
 
-#include "cli/common/interruption.h"
-#include "cli/common/output_complaint.h"
+#include "cli/common/failure.h"
+#include "cli/common/outputs.h"
 #include "formats/text/files.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"

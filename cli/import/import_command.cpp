@@ -7,14 +7,14 @@
 #include <optional>
 
 #include "cli/common/choice.h"
+#include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
-#include "cli/common/interruption.h"
+#include "cli/common/messages.h"
 #include "cli/common/plugin_session.h"
-#include "cli/common/replaced_input.h"
+#include "cli/common/outputs.h"
 #include "cli/common/scene_input.h"
 #include "cli/common/selection.h"
-#include "cli/common/warnings.h"
 #include "cli/import/hidden_numbers.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane import`: lets the plug-in import a motion or marker file into a scene and writes the
 // scene as glTF.

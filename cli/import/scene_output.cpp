@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "cli/common/failure.h"
 #include "cli/common/input.h"
-#include "cli/common/interruption.h"
-#include "cli/common/output_complaint.h"
+#include "cli/common/outputs.h"
 #include "host/gltf/writer.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"

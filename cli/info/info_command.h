@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane info`: tells what a motion file holds. It reads the file alone and needs no host.
 

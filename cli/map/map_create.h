@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "cli/common/exit_status.h"
+#include "cli/common/failure.h"
 #include "cli/common/plugin_session.h"
 #include "formats/mnm/standard_markers.h"
 

@@ -4,7 +4,6 @@
 #include <memory>
 
 #include "cli/common/check_results.h"
-#include "cli/common/file_bytes.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
 #include "inspect/check/mnm_check.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "cli/common/work.h"
+#include "cli/common/failure.h"
 
 // `orvane map lint`: names what is odd in a mapping file, and what it makes of a capture. It reads
 // the files alone and needs no host.

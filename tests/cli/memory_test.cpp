@@ -5,7 +5,7 @@
 #include <functional>
 #include <new>
 
-#include "cli/common/read_back.h"
+#include "cli/common/outputs.h"
 #include "cli/export/exported_motion.h"
 #include "formats/bvk/writer.h"
 #include "formats/htr/document.h"

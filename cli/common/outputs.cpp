@@ -1,12 +1,34 @@
-#include "cli/common/read_back.h"
+#include "cli/common/outputs.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 
+#include "platform/file_place.h"
 #include "platform/path_text.h"
 
 namespace cli {
+
+Complaint ReplacesInput(const std::string& output) {
+  return {output, "is an input, and would be an output too", ""};
+}
+
+void RequireNoInput(const std::string& output, const std::vector<std::string>& inputs) {
+  const std::string place = platform::PlaceOf(output);
+  const bool is_input = std::any_of(inputs.begin(), inputs.end(), [&place](const auto& input) {
+    return platform::PlaceOf(input) == place;
+  });
+  if (is_input) throw Failure{ExitStatus::kWrongUsage, {ReplacesInput(output)}};
+}
+
+Complaint ComplainAboutOutput(const std::string& path, const platform::OutputFile& file,
+                              const std::string& reason) {
+  if (file.IsReadOnly()) {
+    return {path, reason, "It is kept, also with --force; make it writable first."};
+  }
+  return {path, reason, file.IsTaken() ? "It is kept; --force replaces it." : ""};
+}
 
 Failure NotReadBack(const std::string& name, const std::string& reason) {
   return {ExitStatus::kInputOutput, {{name, "could not be read back: " + reason, ""}}};

@@ -1,7 +1,6 @@
-#include "cli/common/read_back.h"
-
 #include <gtest/gtest.h>
 
+#include "cli/common/outputs.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 

@@ -5,13 +5,28 @@
 #include <stdexcept>
 #include <string>
 #include <system_error>
+#include <vector>
 
 #include "cli/common/failure.h"
+#include "platform/output_file.h"
 
-// A look at what the plug-in has written, before it gets its place. What comes in between is no
-// fault of the plug-in's, of the scene or of the disk's size, and is told as what it is.
+// The files that verbs make: their places, and the look at what the plug-in has written before it
+// gets its place. What comes in between is no fault of the plug-in's, of the scene or of the disk's
+// size, and is told as what it is.
 
 namespace cli {
+
+// What is said of an output that would take the place of what is read: --force is for what an
+// earlier run has made.
+Complaint ReplacesInput(const std::string& output);
+
+// Throws a Failure for wrong usage when the file to make, `output`, is one of `inputs`, however
+// their paths are spelled.
+void RequireNoInput(const std::string& output, const std::vector<std::string>& inputs);
+
+// What to tell of the output `path`, which `file` makes, when it does not come about for `reason`.
+Complaint ComplainAboutOutput(const std::string& path, const platform::OutputFile& file,
+                              const std::string& reason);
 
 // That what was written for the file `name` could not be looked at, and why.
 Failure NotReadBack(const std::string& name, const std::string& reason);

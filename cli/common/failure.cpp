@@ -1,6 +1,5 @@
-#include "cli/common/interruption.h"
-
 #include "cli/common/failure.h"
+
 #include "platform/interrupt.h"
 
 namespace cli {
