@@ -6,9 +6,6 @@
 
 namespace host::gltf {
 
-// Stands before data that a glTF file holds as base64.
-inline constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
-
 // `bytes` as base64 (RFC 4648, with padding).
 std::string EncodedBase64(std::string_view bytes);
 

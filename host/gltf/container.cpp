@@ -4,17 +4,20 @@
 #include <cstdint>
 #include <cstring>
 #include <limits>
-#include <utility>
 
 #include "host/gltf/base64.h"
 #include "host/gltf/document_text.h"
-#include "host/gltf/glb_format.h"
+#include "host/gltf/json_field.h"
 #include "host/gltf/refusal.h"
 
 namespace host::gltf {
 
 namespace {
 
+constexpr std::string_view kGlbMagic = "glTF";
+constexpr std::uint32_t kGlbVersion = 2;
+constexpr std::uint32_t kJsonChunk = 0x4E4F534A;
+constexpr std::uint32_t kBinaryChunk = 0x004E4942;
 constexpr std::size_t kHeaderSize = 12;
 constexpr std::size_t kChunkHeaderSize = 8;
 constexpr std::size_t kChunkAlignment = 4;
@@ -38,7 +41,61 @@ void EndChunk(std::size_t start, std::uint32_t type, char filler, std::string& b
   SetWord(type, start + sizeof type, bytes);
 }
 
-std::string PackedInBinary(Document document) {
+// Stands before data in base64.
+constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
+
+[[noreturn]] void RefuseCutShort() { throw Refusal("The file is damaged or cut short."); }
+
+std::string_view TakeBytes(std::string_view& bytes, std::size_t count) {
+  if (bytes.size() < count) RefuseCutShort();
+  const std::string_view taken = bytes.substr(0, count);
+  bytes.remove_prefix(count);
+  return taken;
+}
+
+std::uint32_t TakeWord(std::string_view& bytes) {
+  std::uint32_t word = 0;
+  std::memcpy(&word, TakeBytes(bytes, sizeof word).data(), sizeof word);
+  return word;
+}
+
+std::string_view TakeChunk(std::string_view& bytes, std::uint32_t type) {
+  const std::uint32_t size = TakeWord(bytes);
+  if (TakeWord(bytes) != type) RefuseCutShort();
+  return TakeBytes(bytes, size);
+}
+
+nlohmann::json ParsedDocument(std::string_view text) {
+  return ParsedMembers(text, {"accessors", "buffers", "bufferViews", "extensions"});
+}
+
+FileParts TakeBinaryApart(std::string_view bytes) {
+  const std::size_t size = bytes.size();
+  TakeBytes(bytes, kGlbMagic.size());
+  if (TakeWord(bytes) != kGlbVersion) throw Refusal("The file is no glTF 2.0 file.");
+  if (TakeWord(bytes) != size) RefuseCutShort();
+  FileParts parts;
+  parts.document = ParsedDocument(TakeChunk(bytes, kJsonChunk));
+  if (!bytes.empty()) parts.chunk = TakeChunk(bytes, kBinaryChunk);
+  return parts;
+}
+
+// The data that the first buffer holds as text.
+std::string EmbeddedData(const JsonField& document) {
+  const auto buffers = document.FindMember("buffers");
+  if (!buffers || buffers->Size() == 0) return "";
+  const JsonField uri = buffers->Element(0).Member("uri");
+  const std::string_view text = uri.Text();
+  if (text.substr(0, kDataPrefix.size()) != kDataPrefix) uri.Refuse("no embedded data");
+  auto data = DecodedBase64(text.substr(kDataPrefix.size()));
+  if (!data) uri.Refuse("damaged or cut short");
+  return *std::move(data);
+}
+
+}  // namespace
+
+std::string BinaryFile(Document document) {
+  RequireRoom(document.data.Bytes().size());
   constexpr std::size_t kRoomForTheRest = 1 << 16;
   std::string bytes;
   bytes.reserve(document.Size() + kRoomForTheRest);
@@ -58,18 +115,19 @@ std::string PackedInBinary(Document document) {
   return bytes;
 }
 
-std::string PackedAsText(Document document) {
+std::string TextFile(Document document) {
+  RequireRoom(document.data.Bytes().size());
   std::string text;
   AppendText(document, std::string(kDataPrefix) + EncodedBase64(document.data.Bytes()), text);
   return text;
 }
 
-}  // namespace
-
-std::string PackedDocument(Document document, Container container) {
-  RequireRoom(document.data.Bytes().size());
-  return container == Container::kBinary ? PackedInBinary(std::move(document))
-                                         : PackedAsText(std::move(document));
+FileParts TakeApart(std::string_view bytes) {
+  if (bytes.substr(0, kGlbMagic.size()) == kGlbMagic) return TakeBinaryApart(bytes);
+  FileParts parts;
+  parts.document = ParsedDocument(bytes);
+  parts.embedded = EmbeddedData(JsonField(parts.document, ""));
+  return parts;
 }
 
 }  // namespace host::gltf

@@ -1,14 +1,39 @@
 #pragma once
 
+#include <nlohmann/json.hpp>
 #include <string>
+#include <string_view>
 
 #include "host/gltf/document.h"
-#include "host/gltf/writer.h"
+
+// The two forms of a glTF file. The binary container (.glb) has a header of the magic word, the
+// version and the size of the file; then chunks, each of its size, its type and its bytes, first
+// the JSON and then the data. Sizes count bytes, all numbers have 32 bits. The other form (.gltf)
+// is the JSON with the data embedded in it as base64.
 
 namespace host::gltf {
 
-// The bytes of the file with `document` in it. Throws a Refusal when they are more than it can
-// hold.
-std::string PackedDocument(Document document, Container container);
+// The bytes of the file with `document` in it, in either form. Throw a Refusal when they are more
+// than it can hold.
+std::string BinaryFile(Document document);
+std::string TextFile(Document document);
+
+// A glTF file taken apart: what the reader looks at.
+struct FileParts {
+  // Of the document the members that lead to our own part of the file; those that are for viewers
+  // are large and left out.
+  nlohmann::json document;
+
+  // The bytes of its first buffer; none when it has no buffer. Valid as long as the file's.
+  std::string_view Binary() const { return embedded.empty() ? chunk : embedded; }
+
+  std::string_view chunk;  // of a binary file
+  std::string embedded;    // what a file of text has in base64
+};
+
+// Takes a .glb or .gltf file with embedded data apart, in memory of a few times its size. Throws a
+// Refusal when it is neither, cut short, or nested more than 100 deep. `bytes` must outlive the
+// parts.
+FileParts TakeApart(std::string_view bytes);
 
 }  // namespace host::gltf

@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
+#include "host/gltf/container.h"
 #include "host/gltf/document.h"
-#include "host/gltf/file_parts.h"
 #include "host/gltf/node_tree.h"
 #include "host/scene/scene.h"
 

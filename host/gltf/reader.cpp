@@ -1,6 +1,6 @@
 #include "host/gltf/reader.h"
 
-#include "host/gltf/file_parts.h"
+#include "host/gltf/container.h"
 #include "host/gltf/kept_scene.h"
 #include "host/gltf/refusal.h"
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "host/gltf/container.h"
 #include "host/gltf/element_form.h"
-#include "host/gltf/file_parts.h"
 #include "host/gltf/json_field.h"
 #include "sdk/core/types.h"
 

@@ -1,5 +1,6 @@
 #include "host/gltf/writer.h"
 
+#include <utility>
 #include <vector>
 
 #include "host/gltf/animation.h"
@@ -41,7 +42,10 @@ Document DocumentOf(const Scene& scene, const std::string& name) {
 
 WrittenScene WriteScene(const Scene& scene, const WriteOptions& options) {
   try {
-    return {PackedDocument(DocumentOf(scene, options.name), options.container), ""};
+    Document document = DocumentOf(scene, options.name);
+    return {options.container == Container::kBinary ? BinaryFile(std::move(document))
+                                                    : TextFile(std::move(document)),
+            ""};
   } catch (const Refusal& refusal) {
     return {"", refusal.what()};
   }
