@@ -6,8 +6,8 @@
 #include <limits>
 
 #include "host/gltf/base64.h"
-#include "host/gltf/document_text.h"
 #include "host/gltf/json_field.h"
+#include "host/gltf/parsed_json.h"
 #include "host/gltf/refusal.h"
 
 namespace host::gltf {

@@ -4,61 +4,9 @@
 #include <limits>
 
 #include "host/base/number_range.h"
-#include "host/gltf/member_parser.h"
 #include "host/gltf/refusal.h"
 
 namespace host::gltf {
-
-namespace {
-
-using nlohmann::json;
-
-constexpr int kDeepestNesting = 100;
-
-// Whether the brackets of `text`, those in strings left out, are nested too deep.
-bool IsNestedTooDeep(std::string_view text) {
-  int depth = 0;
-  bool in_string = false;
-  for (std::size_t i = 0; i < text.size(); ++i) {
-    const char character = text[i];
-    if (in_string) {
-      if (character == '\\') ++i;
-      in_string = character != '"';
-    } else if (character == '"') {
-      in_string = true;
-    } else if (character == '{' || character == '[') {
-      if (++depth > kDeepestNesting) return true;
-    } else if (character == '}' || character == ']') {
-      --depth;
-    }
-  }
-  return false;
-}
-
-void RequireShallow(std::string_view text) {
-  if (IsNestedTooDeep(text)) throw Refusal("The file is nested more than 100 deep.");
-}
-
-[[noreturn]] void RefuseText() {
-  throw Refusal("The file is no glTF file, or it is damaged or cut short.");
-}
-
-}  // namespace
-
-json ParsedJson(std::string_view text) {
-  RequireShallow(text);
-  constexpr bool kThrow = false;
-  json document = json::parse(text.begin(), text.end(), nullptr, kThrow);
-  if (document.is_discarded()) RefuseText();
-  return document;
-}
-
-json ParsedMembers(std::string_view text, const std::set<std::string>& names) {
-  RequireShallow(text);
-  MemberParser parser(names);
-  if (!json::sax_parse(text.begin(), text.end(), &parser)) RefuseText();
-  return parser.Take();
-}
 
 void JsonField::Refuse(const std::string& fault) const {
   throw Refusal("The scene in the file is damaged: " + (path_.empty() ? "the file" : path_) +

@@ -4,21 +4,13 @@
 #include <cstdint>
 #include <nlohmann/json.hpp>
 #include <optional>
-#include <set>
 #include <string>
-#include <string_view>
+#include <utility>
 
 // JSON that somebody else may have written: whatever is not as expected is a Refusal that tells
 // where.
 
 namespace host::gltf {
-
-// The document in `text`. Throws a Refusal when it is none, or nested more than 100 deep: that is
-// looked at before anything follows the nesting.
-nlohmann::json ParsedJson(std::string_view text);
-
-// The same of a document that is an object, with only those of its members that are in `names`.
-nlohmann::json ParsedMembers(std::string_view text, const std::set<std::string>& names);
 
 // A value and the way to it, such as "nodes[3].parent". Every function throws a Refusal when the
 // value is not what the function is for.

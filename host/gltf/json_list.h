@@ -10,7 +10,11 @@ namespace host::gltf {
 class JsonList {
  public:
   // Returns the index of the new element.
-  int Add(const nlohmann::json& element);
+  int Add(const nlohmann::json& element) {
+    if (!IsEmpty()) elements_ += ",\n";
+    elements_ += element.dump();
+    return size_++;
+  }
 
   bool IsEmpty() const { return size_ == 0; }
 

@@ -7,6 +7,7 @@
 #include <limits>
 #include <string>
 
+#include "host/gltf/binary_data.h"
 #include "host/gltf/kept_fields.h"
 #include "host/gltf/refusal.h"
 

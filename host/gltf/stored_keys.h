@@ -5,7 +5,6 @@
 #include <vector>
 
 #include "host/gltf/container.h"
-#include "host/gltf/element_form.h"
 #include "host/gltf/json_field.h"
 #include "sdk/core/types.h"
 
