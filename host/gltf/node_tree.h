@@ -2,8 +2,6 @@
 
 #include <vector>
 
-#include "host/gltf/document.h"
-#include "host/gltf/viewer_space.h"
 #include "host/scene/scene.h"
 
 namespace host::gltf {
@@ -19,10 +17,5 @@ struct PlacedNode {
 using NodeTree = std::vector<PlacedNode>;
 
 NodeTree NodeTreeOf(const Scene& scene);
-
-// Adds the nodes of `tree`, as they stand at `time` (ticks), to `document`; `meshes` are the
-// indices of their meshes, -1 for none. Throws a Refusal when a transform is not finite.
-void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-              const std::vector<int>& meshes, Document& document);
 
 }  // namespace host::gltf

@@ -1,19 +1,14 @@
 #include "host/gltf/writer.h"
 
 #include <utility>
-#include <vector>
 
-#include "host/gltf/animation.h"
 #include "host/gltf/container.h"
 #include "host/gltf/document.h"
 #include "host/gltf/kept_scene.h"
-#include "host/gltf/materials.h"
 #include "host/gltf/names.h"
 #include "host/gltf/node_tree.h"
-#include "host/gltf/object_meshes.h"
 #include "host/gltf/refusal.h"
-#include "host/gltf/skins.h"
-#include "host/gltf/viewer_space.h"
+#include "host/gltf/shown_scene.h"
 
 namespace host::gltf {
 
@@ -26,14 +21,8 @@ Document DocumentOf(const Scene& scene, const std::string& name) {
   document.scene_name = name.empty() ? kNamelessScene : ViewerName(name);
   document.animation_name = ViewerName(name);
 
-  const ViewerSpace space(scene.MillimetersPerUnit());
-  const TimeValue time = scene.Animation().Time();
   const NodeTree tree = NodeTreeOf(scene);
-  Materials materials(document.materials);
-  AddAnimation(tree, space, document);
-  const std::vector<int> meshes = AddObjectMeshes(tree, space, time, materials, document);
-  AddNodes(tree, space, time, meshes, document);
-  AddSkins(tree, space, time, materials, document);
+  ShowScene(scene, tree, document);
   KeepScene(scene, tree, document);
   return document;
 }

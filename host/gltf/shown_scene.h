@@ -1,0 +1,16 @@
+#pragma once
+
+#include "host/gltf/document.h"
+#include "host/gltf/node_tree.h"
+#include "host/scene/scene.h"
+
+// What a file holds for viewers: nodes, shapes in their wire colors, and one animation.
+// host/gltf/writer.h tells what they make of a scene.
+
+namespace host::gltf {
+
+// Adds `scene`, whose nodes are `tree`, to `document`, which has no nodes yet. Throws a Refusal
+// when a number is not finite.
+void ShowScene(const Scene& scene, const NodeTree& tree, Document& document);
+
+}  // namespace host::gltf
