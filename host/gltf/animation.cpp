@@ -7,7 +7,7 @@
 #include <map>
 #include <vector>
 
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 namespace host::gltf {
 

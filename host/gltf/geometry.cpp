@@ -3,7 +3,7 @@
 #include <cstddef>
 #include <utility>
 
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 namespace host::gltf {
 

@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 #include <vector>
 
-#include "host/gltf/binary_data.h"
+#include "host/gltf/file/binary_data.h"
 #include "host/gltf/shape.h"
 #include "host/gltf/viewer_space.h"
 #include "host/scene/node.h"

@@ -9,10 +9,10 @@
 #include <vector>
 
 #include "host/animation/euler_controller.h"
+#include "host/gltf/file/names.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/kept_fields.h"
 #include "host/gltf/kept_scene.h"
-#include "host/gltf/names.h"
-#include "host/gltf/refusal.h"
 
 namespace host::gltf {
 

@@ -2,9 +2,9 @@
 
 #include <cstdint>
 
-#include "host/gltf/container.h"
-#include "host/gltf/document.h"
-#include "host/gltf/node_tree.h"
+#include "host/gltf/file/container.h"
+#include "host/gltf/file/document.h"
+#include "host/gltf/file/node_tree.h"
 #include "host/scene/scene.h"
 
 // What a file holds for ourselves: all of the scene, exactly, whatever viewers are shown.

@@ -4,7 +4,7 @@
 #include <cstddef>
 #include <string>
 
-#include "host/gltf/json_field.h"
+#include "host/gltf/file/json_field.h"
 #include "sdk/core/class_id.h"
 #include "sdk/geom/point3.h"
 #include "sdk/geom/quat.h"

@@ -2,7 +2,7 @@
 
 #include <map>
 
-#include "host/gltf/json_list.h"
+#include "host/gltf/file/json_list.h"
 #include "sdk/core/types.h"
 
 namespace host::gltf {

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "host/gltf/document.h"
+#include "host/gltf/file/document.h"
+#include "host/gltf/file/node_tree.h"
 #include "host/gltf/materials.h"
-#include "host/gltf/node_tree.h"
 #include "host/gltf/viewer_space.h"
 
 namespace host::gltf {

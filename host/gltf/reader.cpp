@@ -1,8 +1,8 @@
 #include "host/gltf/reader.h"
 
-#include "host/gltf/container.h"
+#include "host/gltf/file/container.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/kept_scene.h"
-#include "host/gltf/refusal.h"
 
 namespace host::gltf {
 

@@ -4,12 +4,12 @@
 #include <utility>
 #include <vector>
 
-#include "host/gltf/json_field.h"
+#include "host/gltf/file/json_field.h"
+#include "host/gltf/file/parsed_json.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/kept_fields.h"
 #include "host/gltf/kept_scene.h"
 #include "host/gltf/kept_values.h"
-#include "host/gltf/parsed_json.h"
-#include "host/gltf/refusal.h"
 #include "host/gltf/restore_transform.h"
 #include "host/gltf/stored_keys.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "host/animation/transform_controller.h"
-#include "host/gltf/json_field.h"
+#include "host/gltf/file/json_field.h"
 #include "host/gltf/stored_keys.h"
 #include "host/scene/scene.h"
 

@@ -4,10 +4,10 @@
 #include <vector>
 
 #include "host/gltf/animation.h"
+#include "host/gltf/file/names.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/materials.h"
-#include "host/gltf/names.h"
 #include "host/gltf/object_meshes.h"
-#include "host/gltf/refusal.h"
 #include "host/gltf/skins.h"
 #include "host/gltf/viewer_space.h"
 

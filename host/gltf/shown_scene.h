@@ -1,7 +1,7 @@
 #pragma once
 
-#include "host/gltf/document.h"
-#include "host/gltf/node_tree.h"
+#include "host/gltf/file/document.h"
+#include "host/gltf/file/node_tree.h"
 #include "host/scene/scene.h"
 
 // What a file holds for viewers: nodes, shapes in their wire colors, and one animation.

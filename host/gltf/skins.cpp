@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "host/gltf/file/names.h"
 #include "host/gltf/geometry.h"
-#include "host/gltf/names.h"
 #include "host/gltf/shape.h"
 #include "host/scene/bone_object.h"
 #include "sdk/core/object.h"

@@ -7,9 +7,9 @@
 #include <limits>
 #include <string>
 
-#include "host/gltf/binary_data.h"
+#include "host/gltf/file/binary_data.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/kept_fields.h"
-#include "host/gltf/refusal.h"
 
 namespace host::gltf {
 

@@ -4,8 +4,8 @@
 #include <string_view>
 #include <vector>
 
-#include "host/gltf/container.h"
-#include "host/gltf/json_field.h"
+#include "host/gltf/file/container.h"
+#include "host/gltf/file/json_field.h"
 #include "sdk/core/types.h"
 
 namespace host::gltf {

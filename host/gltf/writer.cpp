@@ -2,12 +2,12 @@
 
 #include <utility>
 
-#include "host/gltf/container.h"
-#include "host/gltf/document.h"
+#include "host/gltf/file/container.h"
+#include "host/gltf/file/document.h"
+#include "host/gltf/file/names.h"
+#include "host/gltf/file/node_tree.h"
+#include "host/gltf/file/refusal.h"
 #include "host/gltf/kept_scene.h"
-#include "host/gltf/names.h"
-#include "host/gltf/node_tree.h"
-#include "host/gltf/refusal.h"
 #include "host/gltf/shown_scene.h"
 
 namespace host::gltf {

@@ -1,4 +1,4 @@
-#include "host/gltf/document.h"
+#include "host/gltf/file/document.h"
 
 #include <string_view>
 #include <utility>

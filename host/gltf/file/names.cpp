@@ -1,4 +1,4 @@
-#include "host/gltf/names.h"
+#include "host/gltf/file/names.h"
 
 #include <algorithm>
 #include <cstddef>

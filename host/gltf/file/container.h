@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-#include "host/gltf/document.h"
+#include "host/gltf/file/document.h"
 
 // The two forms of a glTF file. The binary container (.glb) has a header of the magic word, the
 // version and the size of the file; then chunks, each of its size, its type and its bytes, first

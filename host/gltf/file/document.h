@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "host/gltf/binary_data.h"
-#include "host/gltf/json_list.h"
+#include "host/gltf/file/binary_data.h"
+#include "host/gltf/file/json_list.h"
 
 namespace host::gltf {
 

@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-#include "host/gltf/json_list.h"
+#include "host/gltf/file/json_list.h"
 
 namespace host::gltf {
 

@@ -1,10 +1,10 @@
-#include "host/gltf/parsed_json.h"
+#include "host/gltf/file/parsed_json.h"
 
 #include <cstddef>
 #include <utility>
 #include <vector>
 
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 namespace host::gltf {
 

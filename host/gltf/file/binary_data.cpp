@@ -1,4 +1,4 @@
-#include "host/gltf/binary_data.h"
+#include "host/gltf/file/binary_data.h"
 
 #include <algorithm>
 

@@ -1,14 +1,14 @@
-#include "host/gltf/container.h"
+#include "host/gltf/file/container.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <limits>
 
-#include "host/gltf/base64.h"
-#include "host/gltf/json_field.h"
-#include "host/gltf/parsed_json.h"
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/base64.h"
+#include "host/gltf/file/json_field.h"
+#include "host/gltf/file/parsed_json.h"
+#include "host/gltf/file/refusal.h"
 
 namespace host::gltf {
 

@@ -1,10 +1,10 @@
-#include "host/gltf/json_field.h"
+#include "host/gltf/file/json_field.h"
 
 #include <cmath>
 #include <limits>
 
 #include "host/base/number_range.h"
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 namespace host::gltf {
 

@@ -1,4 +1,4 @@
-#include "host/gltf/node_tree.h"
+#include "host/gltf/file/node_tree.h"
 
 namespace host::gltf {
 

@@ -1,8 +1,8 @@
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 #include <string>
 
-#include "host/gltf/names.h"
+#include "host/gltf/file/names.h"
 
 namespace host::gltf {
 

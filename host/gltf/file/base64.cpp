@@ -1,4 +1,4 @@
-#include "host/gltf/base64.h"
+#include "host/gltf/file/base64.h"
 
 #include <array>
 #include <cstddef>
