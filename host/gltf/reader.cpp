@@ -2,7 +2,7 @@
 
 #include "host/gltf/file/container.h"
 #include "host/gltf/file/refusal.h"
-#include "host/gltf/kept_scene.h"
+#include "host/gltf/kept/kept_scene.h"
 
 namespace host::gltf {
 

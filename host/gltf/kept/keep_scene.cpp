@@ -11,8 +11,8 @@
 #include "host/animation/euler_controller.h"
 #include "host/gltf/file/names.h"
 #include "host/gltf/file/refusal.h"
-#include "host/gltf/kept_fields.h"
-#include "host/gltf/kept_scene.h"
+#include "host/gltf/kept/kept_fields.h"
+#include "host/gltf/kept/kept_scene.h"
 
 namespace host::gltf {
 

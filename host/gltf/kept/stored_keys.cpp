@@ -1,4 +1,4 @@
-#include "host/gltf/stored_keys.h"
+#include "host/gltf/kept/stored_keys.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -9,7 +9,7 @@
 
 #include "host/gltf/file/binary_data.h"
 #include "host/gltf/file/refusal.h"
-#include "host/gltf/kept_fields.h"
+#include "host/gltf/kept/kept_fields.h"
 
 namespace host::gltf {
 

@@ -2,7 +2,7 @@
 
 #include "host/animation/transform_controller.h"
 #include "host/gltf/file/json_field.h"
-#include "host/gltf/stored_keys.h"
+#include "host/gltf/kept/stored_keys.h"
 #include "host/scene/scene.h"
 
 namespace host::gltf {

@@ -7,11 +7,11 @@
 #include "host/gltf/file/json_field.h"
 #include "host/gltf/file/parsed_json.h"
 #include "host/gltf/file/refusal.h"
-#include "host/gltf/kept_fields.h"
-#include "host/gltf/kept_scene.h"
-#include "host/gltf/kept_values.h"
-#include "host/gltf/restore_transform.h"
-#include "host/gltf/stored_keys.h"
+#include "host/gltf/kept/kept_fields.h"
+#include "host/gltf/kept/kept_scene.h"
+#include "host/gltf/kept/kept_values.h"
+#include "host/gltf/kept/restore_transform.h"
+#include "host/gltf/kept/stored_keys.h"
 
 namespace host::gltf {
 

@@ -1,11 +1,11 @@
-#include "host/gltf/restore_transform.h"
+#include "host/gltf/kept/restore_transform.h"
 
 #include <cstddef>
 #include <vector>
 
 #include "host/animation/euler_controller.h"
-#include "host/gltf/kept_fields.h"
-#include "host/gltf/kept_values.h"
+#include "host/gltf/kept/kept_fields.h"
+#include "host/gltf/kept/kept_values.h"
 
 namespace host::gltf {
 
