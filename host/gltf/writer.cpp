@@ -8,7 +8,7 @@
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/kept/kept_scene.h"
-#include "host/gltf/shown_scene.h"
+#include "host/gltf/viewer/shown_scene.h"
 
 namespace host::gltf {
 

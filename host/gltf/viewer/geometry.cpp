@@ -1,4 +1,4 @@
-#include "host/gltf/geometry.h"
+#include "host/gltf/viewer/geometry.h"
 
 #include <cstddef>
 #include <utility>

@@ -1,12 +1,12 @@
-#include "host/gltf/object_meshes.h"
+#include "host/gltf/viewer/object_meshes.h"
 
 #include <cstddef>
 #include <map>
 #include <optional>
 #include <tuple>
 
-#include "host/gltf/geometry.h"
-#include "host/gltf/shape.h"
+#include "host/gltf/viewer/geometry.h"
+#include "host/gltf/viewer/shape.h"
 #include "host/scene/point_helper.h"
 #include "host/scene/sphere_object.h"
 

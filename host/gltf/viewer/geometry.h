@@ -5,8 +5,8 @@
 #include <vector>
 
 #include "host/gltf/file/binary_data.h"
-#include "host/gltf/shape.h"
-#include "host/gltf/viewer_space.h"
+#include "host/gltf/viewer/shape.h"
+#include "host/gltf/viewer/viewer_space.h"
 #include "host/scene/node.h"
 
 namespace host::gltf {

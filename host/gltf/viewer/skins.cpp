@@ -1,4 +1,4 @@
-#include "host/gltf/skins.h"
+#include "host/gltf/viewer/skins.h"
 
 #include <cmath>
 #include <cstddef>
@@ -9,8 +9,8 @@
 #include <vector>
 
 #include "host/gltf/file/names.h"
-#include "host/gltf/geometry.h"
-#include "host/gltf/shape.h"
+#include "host/gltf/viewer/geometry.h"
+#include "host/gltf/viewer/shape.h"
 #include "host/scene/bone_object.h"
 #include "sdk/core/object.h"
 

@@ -1,4 +1,4 @@
-#include "host/gltf/animation.h"
+#include "host/gltf/viewer/animation.h"
 
 #include <algorithm>
 #include <cstddef>

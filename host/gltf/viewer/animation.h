@@ -2,7 +2,7 @@
 
 #include "host/gltf/file/document.h"
 #include "host/gltf/file/node_tree.h"
-#include "host/gltf/viewer_space.h"
+#include "host/gltf/viewer/viewer_space.h"
 
 namespace host::gltf {
 

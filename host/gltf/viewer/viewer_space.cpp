@@ -1,4 +1,4 @@
-#include "host/gltf/viewer_space.h"
+#include "host/gltf/viewer/viewer_space.h"
 
 #include <cmath>
 

@@ -1,4 +1,4 @@
-#include "host/gltf/materials.h"
+#include "host/gltf/viewer/materials.h"
 
 #include <cmath>
 

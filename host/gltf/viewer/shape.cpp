@@ -1,4 +1,4 @@
-#include "host/gltf/shape.h"
+#include "host/gltf/viewer/shape.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,15 +1,15 @@
-#include "host/gltf/shown_scene.h"
+#include "host/gltf/viewer/shown_scene.h"
 
 #include <cstddef>
 #include <vector>
 
-#include "host/gltf/animation.h"
 #include "host/gltf/file/names.h"
 #include "host/gltf/file/refusal.h"
-#include "host/gltf/materials.h"
-#include "host/gltf/object_meshes.h"
-#include "host/gltf/skins.h"
-#include "host/gltf/viewer_space.h"
+#include "host/gltf/viewer/animation.h"
+#include "host/gltf/viewer/materials.h"
+#include "host/gltf/viewer/object_meshes.h"
+#include "host/gltf/viewer/skins.h"
+#include "host/gltf/viewer/viewer_space.h"
 
 namespace host::gltf {
 
