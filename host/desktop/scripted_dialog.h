@@ -47,7 +47,7 @@ class SKELDER_API ScriptedDialog {
   [[nodiscard]] virtual HWND ControlWindow(int control) const = 0;
 
   // The window that the dialog was centred over, or null.
-  [[nodiscard]] virtual HWND CentredOver() const = 0;
+  [[nodiscard]] virtual HWND CenteredOver() const = 0;
 
   // Replaces the text of an edit control, or of one of the host's own.
   virtual void Type(int control, std::string_view text) = 0;

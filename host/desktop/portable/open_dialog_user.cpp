@@ -38,7 +38,7 @@ HWND OpenDialogUser::Owner() const { return Window()->parent; }
 
 HWND OpenDialogUser::ControlWindow(int control) const { return dialog_.ControlWindow(control); }
 
-HWND OpenDialogUser::CentredOver() const { return Window()->centred_over; }
+HWND OpenDialogUser::CenteredOver() const { return Window()->centered_over; }
 
 void OpenDialogUser::Type(int control, std::string_view text) {
   OpenControl& edit = Usable(control);

@@ -31,7 +31,7 @@ class OpenDialogUser final : public ScriptedDialog {
   [[nodiscard]] HWND Window() const override { return dialog_.Window(); }
   [[nodiscard]] HWND Owner() const override;
   [[nodiscard]] HWND ControlWindow(int control) const override;
-  [[nodiscard]] HWND CentredOver() const override;
+  [[nodiscard]] HWND CenteredOver() const override;
 
   void Type(int control, std::string_view text) override;
   void Click(int control) override;

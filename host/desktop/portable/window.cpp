@@ -17,5 +17,5 @@ HWND TopLevelWindow::Handle() const { return &body_->window; }
 }  // namespace host
 
 void CenterWindow(HWND window, HWND over) {
-  if (window != nullptr) window->centred_over = over;
+  if (window != nullptr) window->centered_over = over;
 }

@@ -11,6 +11,6 @@ class CustomEdit;
 
 struct HWND__ {
   HWND parent = nullptr;
-  HWND centred_over = nullptr;              // the last window that CenterWindow put this one over
+  HWND centered_over = nullptr;             // the last window that CenterWindow put this one over
   host::CustomEdit* custom_edit = nullptr;  // what the window is, if it is such a control
 };

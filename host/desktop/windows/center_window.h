@@ -5,6 +5,6 @@
 namespace host {
 
 // The window that CenterWindow has put `window` over last, or null.
-HWND WindowCentredOver(HWND window);
+HWND WindowCenteredOver(HWND window);
 
 }  // namespace host

@@ -75,7 +75,7 @@ HWND DialogWindow::Owner() const {
 
 HWND DialogWindow::ControlWindow(int control) const { return GetDlgItem(window_, control); }
 
-HWND DialogWindow::CentredOver() const { return WindowCentredOver(window_); }
+HWND DialogWindow::CenteredOver() const { return WindowCenteredOver(window_); }
 
 void DialogWindow::Type(int control, std::string_view text) {
   const HWND edit = Usable(control);

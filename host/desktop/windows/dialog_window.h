@@ -29,7 +29,7 @@ class DialogWindow final : public ScriptedDialog {
   [[nodiscard]] HWND Window() const override { return window_; }
   [[nodiscard]] HWND Owner() const override;
   [[nodiscard]] HWND ControlWindow(int control) const override;
-  [[nodiscard]] HWND CentredOver() const override;
+  [[nodiscard]] HWND CenteredOver() const override;
 
   void Type(int control, std::string_view text) override;
   void Click(int control) override;

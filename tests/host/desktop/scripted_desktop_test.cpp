@@ -56,7 +56,7 @@ TEST_F(ScriptedDesktopTest, DialogThatTheModuleLacksIsNotCreated) {
 
 TEST_F(ScriptedDesktopTest, RefusedDialogIsNotCreatedAndItsHandlerNotCalled) {
   desktop.RefuseDialog(kDialog);
-  handler.on_initialize = [](platform::Dialog&) { ADD_FAILURE() << "initialised"; };
+  handler.on_initialize = [](platform::Dialog&) { ADD_FAILURE() << "initialized"; };
   EXPECT_EQ(Run([](ScriptedDialog&) { ADD_FAILURE() << "asked"; }), kDialogNotCreated);
   EXPECT_EQ(Failure(), "");
 }

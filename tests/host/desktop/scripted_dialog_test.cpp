@@ -189,7 +189,7 @@ TEST_F(ScriptedDialogTest, CutsTextsToTheBufferOfTheHandler) {
 
 TEST_F(ScriptedDialogTest, TellsWhatItWasCentredOver) {
   Run([](ScriptedDialog& dialog) {
-    EXPECT_EQ(dialog.CentredOver(), nullptr);
+    EXPECT_EQ(dialog.CenteredOver(), nullptr);
     dialog.Click(kOk);
   });
   handler.on_initialize = [this](platform::Dialog& dialog) {
@@ -197,7 +197,7 @@ TEST_F(ScriptedDialogTest, TellsWhatItWasCentredOver) {
   };
   Run([this](ScriptedDialog& dialog) {
     EXPECT_EQ(dialog.Owner(), parent.Handle());
-    EXPECT_EQ(dialog.CentredOver(), parent.Handle());
+    EXPECT_EQ(dialog.CenteredOver(), parent.Handle());
     dialog.Click(kOk);
   });
   CenterWindow(nullptr, parent.Handle());

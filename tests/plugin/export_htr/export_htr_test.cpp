@@ -233,7 +233,7 @@ TEST_F(ExportHTRTest, TheDialogStartsWithTheFramesOfTheAnimationRange) {
   EXPECT_EQ(ExportWith([this](host::ScriptedDialog& dialog) {
               EXPECT_EQ(dialog.Text(kFrom), "7");
               EXPECT_EQ(dialog.Text(kTo), "9");
-              EXPECT_EQ(dialog.CentredOver(), application_.main_window());
+              EXPECT_EQ(dialog.CenteredOver(), application_.main_window());
               EXPECT_EQ(application_.progress().Percent(), 0);
               dialog.Click(kOk);
             }),

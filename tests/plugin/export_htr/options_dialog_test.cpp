@@ -41,7 +41,7 @@ TEST_F(ExportHTROptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
     EXPECT_EQ(dialog.Id(), 126);
     EXPECT_EQ(dialog.Title(), "ExportHTR");
     EXPECT_EQ(dialog.Owner(), parent_.Handle());
-    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
+    EXPECT_EQ(dialog.CenteredOver(), parent_.Handle());
     EXPECT_FALSE(dialog.Has(kAbout));
   });
 }

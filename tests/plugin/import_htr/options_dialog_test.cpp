@@ -47,7 +47,7 @@ TEST_F(ImportHTROptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
     EXPECT_EQ(dialog.Id(), 107);
     EXPECT_EQ(dialog.Title(), "ImportHTR");
     EXPECT_EQ(dialog.Owner(), parent_.Handle());
-    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
+    EXPECT_EQ(dialog.CenteredOver(), parent_.Handle());
   });
 }
 

@@ -45,7 +45,7 @@ TEST_F(ImportTRCOptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
     EXPECT_EQ(dialog.Id(), 108);
     EXPECT_EQ(dialog.Title(), "ImportTRC");
     EXPECT_EQ(dialog.Owner(), parent_.Handle());
-    EXPECT_EQ(dialog.CentredOver(), parent_.Handle());
+    EXPECT_EQ(dialog.CenteredOver(), parent_.Handle());
   });
 }
 
