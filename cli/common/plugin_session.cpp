@@ -41,7 +41,7 @@ std::optional<std::int64_t> EpochOfEnvironment() {
   return seconds;
 }
 
-int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
+int PressOk(const host::UserMessage&) { return platform::kMessageBoxOk; }
 
 }  // namespace
 
@@ -106,7 +106,7 @@ bool PluginSession::Run(const Task& task, const std::vector<ControlWish>& wishes
 
 std::vector<std::string> PluginSession::Messages() const {
   std::vector<std::string> texts;
-  for (const host::MessageBox& message : desktop_->Messages()) texts.push_back(message.text);
+  for (const host::UserMessage& message : desktop_->Messages()) texts.push_back(message.text);
   return texts;
 }
 

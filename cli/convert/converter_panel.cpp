@@ -27,7 +27,7 @@ enum Control : int {
   kOffsetZ = 1208
 };
 
-int PressOk(const host::MessageBox&) { return platform::kMessageBoxOk; }
+int PressOk(const host::UserMessage&) { return platform::kMessageBoxOk; }
 
 std::unique_ptr<UtilityObj> CreateUtility(const PluginSession& session) {
   std::unique_ptr<UtilityObj> utility = session.module().CreateUtility(kUtility);

@@ -38,7 +38,7 @@ host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
 
 void MappingUser::Create(const std::string& path) {
   host::ScriptedUser user;
-  user.answer_message = [this](const host::MessageBox& message) { return Answer(message); };
+  user.answer_message = [this](const host::UserMessage& message) { return Answer(message); };
   user.choose_files = [&path](const host::ShownFileDialog&) { return host::FileChoice{{path}}; };
   user.act = [this] {
     Act();
@@ -55,7 +55,7 @@ void MappingUser::Create(const std::string& path) {
   session_.desktop().RethrowFailure();
 }
 
-int MappingUser::Answer(const host::MessageBox& message) const {
+int MappingUser::Answer(const host::UserMessage& message) const {
   if (message.style == platform::MessageBoxStyle::kOk) return platform::kMessageBoxOk;
   const bool is_left = message.text.find("left") != std::string::npos;
   const bool answer = is_left ? sticks_.left : sticks_.right;

@@ -22,7 +22,7 @@ class MappingUser {
   void Create(const std::string& path);
 
  private:
-  int Answer(const host::MessageBox& message) const;
+  int Answer(const host::UserMessage& message) const;
   void Act();
 
   PluginSession& session_;

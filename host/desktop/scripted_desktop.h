@@ -36,7 +36,7 @@ class SKELDER_API ScriptedDesktop {
   ScriptedDialog* ShownDialog(int dialog_id);
 
   // All message boxes so far, in the order in which they were shown.
-  [[nodiscard]] const std::vector<MessageBox>& Messages() const;
+  [[nodiscard]] const std::vector<UserMessage>& Messages() const;
 
   // Throws the first failure, if there was one. After it nobody was asked any more: dialogs
   // were not created, nothing was chosen and messages failed. Call it when the plug-in has

@@ -11,8 +11,8 @@
 
 namespace host {
 
-// A message box that was shown.
-struct MessageBox {
+// What a message box told the user, and what he answered.
+struct UserMessage {
   std::string text;
   std::string caption;
   platform::MessageBoxStyle style = platform::MessageBoxStyle::kOk;
@@ -27,7 +27,7 @@ struct ScriptedUser {
   std::function<void(ScriptedDialog&)> answer_dialog{};
 
   // Returns the button pressed (a MessageBoxResult that the box has).
-  std::function<int(const MessageBox&)> answer_message{};
+  std::function<int(const UserMessage&)> answer_message{};
 
   // Chooses files, or none to cancel.
   std::function<FileChoice(const ShownFileDialog&)> choose_files{};

@@ -16,7 +16,7 @@ bool HasButton(MessageBoxStyle style, int answer) {
 
 std::string Named(const std::string& dialog_title) { return "the dialog \"" + dialog_title + "\""; }
 
-std::string Described(const MessageBox& message) {
+std::string Described(const UserMessage& message) {
   return "the message \"" + message.text + "\" (\"" + message.caption + "\")";
 }
 
@@ -36,13 +36,13 @@ Answer UserScript::AnswerOr(Answer none, const Ask& ask) {
 }
 
 int UserScript::AnswerMessage(std::string text, std::string caption, MessageBoxStyle style) {
-  MessageBox message{std::move(text), std::move(caption), style, platform::kMessageBoxFailed};
+  UserMessage message{std::move(text), std::move(caption), style, platform::kMessageBoxFailed};
   message.answer = AnswerOr<int>(platform::kMessageBoxFailed, [&] { return AnswerOf(message); });
   messages_.push_back(message);
   return message.answer;
 }
 
-int UserScript::AnswerOf(const MessageBox& message) const {
+int UserScript::AnswerOf(const UserMessage& message) const {
   if (!user_.answer_message) throw ScriptError("Nobody answers " + Described(message) + ".");
   const int answer = user_.answer_message(message);
   if (!HasButton(message.style, answer)) {

@@ -20,7 +20,7 @@ class UserScript {
   UserScript& operator=(const UserScript&) = delete;
 
   void SetUser(ScriptedUser user) { user_ = std::move(user); }
-  [[nodiscard]] const std::vector<MessageBox>& Messages() const { return messages_; }
+  [[nodiscard]] const std::vector<UserMessage>& Messages() const { return messages_; }
   [[nodiscard]] ScriptFailure& Failure() { return failure_; }
   [[nodiscard]] const ScriptFailure& Failure() const { return failure_; }
 
@@ -45,10 +45,10 @@ class UserScript {
   template <typename Answer, typename Ask>
   Answer AnswerOr(Answer none, const Ask& ask);
 
-  [[nodiscard]] int AnswerOf(const MessageBox& message) const;
+  [[nodiscard]] int AnswerOf(const UserMessage& message) const;
 
   ScriptedUser user_;
-  std::vector<MessageBox> messages_;
+  std::vector<UserMessage> messages_;
   ScriptFailure failure_;
 };
 

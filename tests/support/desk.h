@@ -20,7 +20,7 @@ class Desk {
   Desk() {
     host::ScriptedUser user;
     user.answer_dialog = [this](host::ScriptedDialog& dialog) { AnswerNext(dialog); };
-    user.answer_message = [this](const host::MessageBox& message) {
+    user.answer_message = [this](const host::UserMessage& message) {
       if (message.style != platform::MessageBoxStyle::kOk) {
         if (when_asked_) when_asked_();
         return choose_(message.text);
@@ -78,7 +78,7 @@ class Desk {
   // All messages so far, as "title: text", one a line.
   std::string Messages() const {
     std::string lines;
-    for (const host::MessageBox& message : desktop_.Messages()) {
+    for (const host::UserMessage& message : desktop_.Messages()) {
       lines += message.caption + ": " + message.text + "\n";
     }
     return lines;

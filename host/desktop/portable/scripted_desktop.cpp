@@ -114,7 +114,7 @@ ScriptedDialog* ScriptedDesktop::ShownDialog(int dialog_id) {
   return body_->ShownDialog(dialog_id);
 }
 
-const std::vector<MessageBox>& ScriptedDesktop::Messages() const {
+const std::vector<UserMessage>& ScriptedDesktop::Messages() const {
   return body_->Script().Messages();
 }
 

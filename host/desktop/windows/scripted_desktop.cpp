@@ -23,7 +23,7 @@ ScriptedDialog* ScriptedDesktop::ShownDialog(int dialog_id) {
   return body_->user.ShownDialog(dialog_id);
 }
 
-const std::vector<MessageBox>& ScriptedDesktop::Messages() const {
+const std::vector<UserMessage>& ScriptedDesktop::Messages() const {
   return body_->user.Script().Messages();
 }
 

@@ -47,7 +47,7 @@ class DialogFixture : public testing::Test {
   const TopLevelWindow parent;
   ScriptedDesktop desktop;
   RecordingHandler handler;
-  std::function<int(const MessageBox&)> answer_message;
+  std::function<int(const UserMessage&)> answer_message;
   HINSTANCE module = FixtureModule();
 };
 

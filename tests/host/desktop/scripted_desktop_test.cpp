@@ -31,7 +31,7 @@ class ScriptedDesktopTest : public DialogFixture {
 
   int Ask(int answer) {
     ScriptedUser user;
-    user.answer_message = [answer](const MessageBox&) { return answer; };
+    user.answer_message = [answer](const UserMessage&) { return answer; };
     desktop.SetUser(std::move(user));
     return platform::ShowMessageBox("Sure?", "Title", MessageBoxStyle::kYesNo);
   }
@@ -108,7 +108,7 @@ TEST_F(ScriptedDesktopTest, RecordsMessagesWithTheirAnswers) {
   EXPECT_EQ(Ask(platform::kMessageBoxNo), platform::kMessageBoxNo);
   EXPECT_EQ(Ask(platform::kMessageBoxYes), platform::kMessageBoxYes);
   ASSERT_THAT(desktop.Messages(), SizeIs(2));
-  const MessageBox& message = desktop.Messages()[0];
+  const UserMessage& message = desktop.Messages()[0];
   EXPECT_EQ(message.text, "Sure?");
   EXPECT_EQ(message.caption, "Title");
   EXPECT_EQ(message.style, MessageBoxStyle::kYesNo);
@@ -118,7 +118,7 @@ TEST_F(ScriptedDesktopTest, RecordsMessagesWithTheirAnswers) {
 
 TEST_F(ScriptedDesktopTest, ShowsTheUserTheMessage) {
   ScriptedUser user;
-  user.answer_message = [](const MessageBox& message) {
+  user.answer_message = [](const UserMessage& message) {
     EXPECT_EQ(message.text, "Text");
     EXPECT_EQ(message.caption, "Title");
     EXPECT_EQ(message.style, MessageBoxStyle::kOk);
@@ -143,7 +143,7 @@ TEST_F(ScriptedDesktopTest, ButtonThatTheMessageLacksIsAFailure) {
 }
 
 TEST_F(ScriptedDesktopTest, MessageFromWithinADialogIsAnswered) {
-  answer_message = [](const MessageBox&) { return platform::kMessageBoxOk; };
+  answer_message = [](const UserMessage&) { return platform::kMessageBoxOk; };
   handler.on_command = [](platform::Dialog&, int control) {
     if (control == kCheck) platform::ShowMessageBox("No.", "Error", MessageBoxStyle::kOk);
   };

@@ -17,7 +17,7 @@ TEST(MessageSinkTest, ReportShowsABoxWithAnOkButtonOnly) {
   MessageSink sink;
   sink.Report("The file could not be opened", "ImportHTR Error");
   ASSERT_EQ(desk.desktop().Messages().size(), 1U);
-  const host::MessageBox& box = desk.desktop().Messages().front();
+  const host::UserMessage& box = desk.desktop().Messages().front();
   EXPECT_EQ(box.text, "The file could not be opened");
   EXPECT_EQ(box.caption, "ImportHTR Error");
   EXPECT_EQ(box.style, platform::MessageBoxStyle::kOk);

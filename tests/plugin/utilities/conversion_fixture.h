@@ -39,7 +39,7 @@ class ConversionTest : public testing::Test {
  protected:
   ConversionTest() {
     host::ScriptedUser user;
-    user.answer_message = [](const host::MessageBox&) { return platform::kMessageBoxOk; };
+    user.answer_message = [](const host::UserMessage&) { return platform::kMessageBoxOk; };
     user.choose_files = [this](const host::ShownFileDialog& dialog) { return Choose(dialog); };
     desktop_.SetUser(std::move(user));
     std::filesystem::create_directory(folder_.Path() / "out");
@@ -82,7 +82,7 @@ class ConversionTest : public testing::Test {
   }
   std::vector<std::string> Messages() const {
     std::vector<std::string> lines;
-    for (const host::MessageBox& message : desktop_.Messages()) {
+    for (const host::UserMessage& message : desktop_.Messages()) {
       lines.push_back(message.caption + ": " + message.text);
     }
     return lines;

@@ -71,7 +71,7 @@ class ThrowingHostTest : public testing::Test {
   // The messages since the last time.
   std::vector<std::string> NewMessages() {
     std::vector<std::string> messages;
-    const std::vector<host::MessageBox>& all = desk_.desktop().Messages();
+    const std::vector<host::UserMessage>& all = desk_.desktop().Messages();
     for (; told_ < all.size(); ++told_) {
       if (all[told_].style != platform::MessageBoxStyle::kOk) continue;
       messages.push_back(all[told_].caption + ": " + all[told_].text);
