@@ -8,18 +8,18 @@ platform::Dialog& ModelessDialogs::Create(int dialog_id,
                                           const platform::DialogTemplate& dialog_template,
                                           HWND parent, platform::DialogHandler& handler) {
   entries_.push_back(
-      std::make_unique<Entry>(dialog_id, dialog_template, parent, handler, failure_));
+      std::make_unique<OpenedDialog>(dialog_id, dialog_template, parent, handler, failure_));
   OpenDialog& dialog = entries_.back()->dialog;
   handler.Initialize(dialog);
   return dialog;
 }
 
 void ModelessDialogs::Show(const platform::Dialog& dialog) {
-  if (Entry* const entry = Find(dialog)) entry->shown = true;
+  if (OpenedDialog* const entry = Find(dialog)) entry->shown = true;
 }
 
 void ModelessDialogs::Destroy(const platform::Dialog& dialog) {
-  if (Entry* const entry = Find(dialog)) entry->dialog.Close();
+  if (OpenedDialog* const entry = Find(dialog)) entry->dialog.Close();
 }
 
 ScriptedDialog* ModelessDialogs::FindShown(int dialog_id) {
@@ -43,7 +43,7 @@ bool ModelessDialogs::AnyWaiting() const {
   });
 }
 
-ModelessDialogs::Entry* ModelessDialogs::Find(const platform::Dialog& dialog) {
+ModelessDialogs::OpenedDialog* ModelessDialogs::Find(const platform::Dialog& dialog) {
   const auto found = std::find_if(entries_.begin(), entries_.end(), [&dialog](const auto& entry) {
     return &entry->dialog == &dialog && !entry->dialog.HasEnded();
   });

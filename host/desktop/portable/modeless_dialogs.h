@@ -42,9 +42,9 @@ class ModelessDialogs {
   bool AnyWaiting() const;
 
  private:
-  struct Entry {
-    Entry(int dialog_id, const platform::DialogTemplate& dialog_template, HWND parent,
-          platform::DialogHandler& handler, const ScriptFailure& failure)
+  struct OpenedDialog {
+    OpenedDialog(int dialog_id, const platform::DialogTemplate& dialog_template, HWND parent,
+                 platform::DialogHandler& handler, const ScriptFailure& failure)
         : dialog(dialog_template, parent, false),
           user_side(dialog_id, dialog, handler, failure),
           is_part((dialog_template.style & platform::kStyleChild) != 0) {}
@@ -55,10 +55,10 @@ class ModelessDialogs {
     bool shown = false;
   };
 
-  Entry* Find(const platform::Dialog& dialog);
+  OpenedDialog* Find(const platform::Dialog& dialog);
 
   const ScriptFailure& failure_;
-  std::vector<std::unique_ptr<Entry>> entries_;
+  std::vector<std::unique_ptr<OpenedDialog>> entries_;
 };
 
 }  // namespace host

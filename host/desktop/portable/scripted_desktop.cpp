@@ -6,9 +6,9 @@
 #include <string>
 #include <utility>
 
-#include "host/desktop/portable/chosen_files.h"
 #include "host/desktop/portable/modeless_dialogs.h"
 #include "host/desktop/portable/open_dialog_user.h"
+#include "host/desktop/portable/resolved_choice.h"
 #include "host/desktop/user_script.h"
 #include "platform/desktop.h"
 #include "platform/portable/module_resources.h"

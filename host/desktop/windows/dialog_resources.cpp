@@ -21,7 +21,7 @@ std::vector<int> ControlsOf(HWND window) {
 }
 
 // The search for the dialog that a window was built from.
-struct Search {
+struct ResourceSearch {
   std::string title;
   std::vector<int> controls;
   std::optional<DialogResource> found{};
@@ -39,7 +39,7 @@ struct Search {
 BOOL CALLBACK Compare(HMODULE module, const char* /*type*/, char* name, LPARAM parameter) {
   if (!IS_INTRESOURCE(name)) return TRUE;
   // NOLINTNEXTLINE(performance-no-int-to-ptr): made below
-  auto& search = *reinterpret_cast<Search*>(parameter);
+  auto& search = *reinterpret_cast<ResourceSearch*>(parameter);
   const auto id = static_cast<int>(reinterpret_cast<std::uintptr_t>(name));
   auto resource = FindDialogResource(module, id);
   if (!resource || !search.IsLike(resource->dialog)) return TRUE;
@@ -63,7 +63,7 @@ std::optional<DialogResource> FindDialogResource(HINSTANCE module, int id) {
 std::optional<DialogResource> ResourceOf(HWND window) {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): the system's own way to keep it
   const auto module = reinterpret_cast<HMODULE>(GetWindowLongPtrA(window, GWLP_HINSTANCE));
-  Search search{TextOf(window), ControlsOf(window)};
+  ResourceSearch search{TextOf(window), ControlsOf(window)};
   EnumResourceNamesA(module, RT_DIALOG, Compare, reinterpret_cast<LONG_PTR>(&search));
   return std::move(search.found);
 }

@@ -16,7 +16,7 @@ namespace {
 namespace fs = std::filesystem;
 
 // The search for a control, however deep.
-struct Search {
+struct ControlSearch {
   int id;
   const char* window_class;
   HWND found = nullptr;
@@ -24,14 +24,14 @@ struct Search {
 
 BOOL CALLBACK Compare(HWND window, LPARAM parameter) {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): made below
-  auto& search = *reinterpret_cast<Search*>(parameter);
+  auto& search = *reinterpret_cast<ControlSearch*>(parameter);
   if (GetDlgCtrlID(window) != search.id || ClassOf(window) != search.window_class) return TRUE;
   search.found = window;
   return FALSE;
 }
 
 HWND FindControl(HWND dialog, int id, const char* window_class) {
-  Search search{id, window_class};
+  ControlSearch search{id, window_class};
   EnumChildWindows(dialog, Compare, reinterpret_cast<LPARAM>(&search));
   return search.found;
 }

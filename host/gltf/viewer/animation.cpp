@@ -14,7 +14,7 @@ namespace host::gltf {
 namespace {
 
 // The keys of a controller as a viewer has them.
-struct Track {
+struct ViewerKeys {
   std::vector<float> seconds;
   std::vector<float> values;  // all components of the first key, then those of the second, ...
 };
@@ -65,8 +65,8 @@ class AnimationBuilder {
  private:
   // The keys of `controller`, the one of the node's `what`, as `convert` makes them the viewer's.
   template <typename KeyedController, typename Convert>
-  Track TrackOf(const KeyedController& controller, const Node& node, const char* what,
-                const Convert& convert) const;
+  ViewerKeys KeysOf(const KeyedController& controller, const Node& node, const char* what,
+                    const Convert& convert) const;
 
   void AddChannel(const std::vector<float>& seconds, int output, int node, const char* path);
 
@@ -79,36 +79,36 @@ class AnimationBuilder {
 
 void AnimationBuilder::AddNode(const Node& node, int index) {
   const TransformController& transform = *node.Transform();
-  const Track positions = TrackOf(transform.Position(), node, "position",
-                                  [&](const Point3& value) { return space_.Position(value); });
+  const ViewerKeys positions = KeysOf(transform.Position(), node, "position",
+                                      [&](const Point3& value) { return space_.Position(value); });
   if (!positions.seconds.empty()) {
     AddChannel(positions.seconds, data_.AddKeyVectors(positions.values), index, "translation");
   }
-  Track rotations = TrackOf(transform.Rotation(), node, "rotation", ViewerSpace::Rotation);
+  ViewerKeys rotations = KeysOf(transform.Rotation(), node, "rotation", ViewerSpace::Rotation);
   if (!rotations.seconds.empty()) {
     TakeNearerSigns(rotations.values);
     AddChannel(rotations.seconds, data_.AddKeyRotations(rotations.values), index, "rotation");
   }
-  const Track scales = TrackOf(transform.Scale(), node, "scale", ViewerSpace::Scale);
+  const ViewerKeys scales = KeysOf(transform.Scale(), node, "scale", ViewerSpace::Scale);
   if (!scales.seconds.empty()) {
     AddChannel(scales.seconds, data_.AddKeyVectors(scales.values), index, "scale");
   }
 }
 
 template <typename KeyedController, typename Convert>
-Track AnimationBuilder::TrackOf(const KeyedController& controller, const Node& node,
-                                const char* what, const Convert& convert) const {
-  Track track;
+ViewerKeys AnimationBuilder::KeysOf(const KeyedController& controller, const Node& node,
+                                    const char* what, const Convert& convert) const {
+  ViewerKeys keys;
   for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
     const TimeValue tick = controller.KeyTick(key);
     const auto value = Rounded(convert(controller.KeyValue(key)));
     RequireFinite(value, node, what, tick);
     const float second = SecondsBetween(start_, tick);
-    if (!track.seconds.empty() && track.seconds.back() == second) continue;
-    track.seconds.push_back(second);
-    track.values.insert(track.values.end(), value.begin(), value.end());
+    if (!keys.seconds.empty() && keys.seconds.back() == second) continue;
+    keys.seconds.push_back(second);
+    keys.values.insert(keys.values.end(), value.begin(), value.end());
   }
-  return track;
+  return keys;
 }
 
 void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output, int node,

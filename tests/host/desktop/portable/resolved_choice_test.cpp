@@ -1,4 +1,4 @@
-#include "host/desktop/portable/chosen_files.h"
+#include "host/desktop/portable/resolved_choice.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>

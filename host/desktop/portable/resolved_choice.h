@@ -14,7 +14,7 @@
 namespace host {
 
 // Files of one folder, as a file dialog tells them; no names when the dialog was cancelled.
-struct ChosenFiles {
+struct ResolvedChoice {
   std::string folder;  // absolute; ends with a slash only when it is the root
   std::vector<std::string> names;
 
@@ -24,7 +24,8 @@ struct ChosenFiles {
 
 // What `dialog` answers when the user makes `choice`: paths absolute, the default extension
 // appended where a name has none. Throws a ScriptError when it does not allow the choice.
-SKELDER_API ChosenFiles ResolveChoice(const platform::FileDialog& dialog, const FileChoice& choice);
+SKELDER_API ResolvedChoice ResolveChoice(const platform::FileDialog& dialog,
+                                         const FileChoice& choice);
 
 // Writes the folder that the user chose in the dialog `title`, as platform::ChooseFolder does.
 // Returns false when it does not fit; throws a ScriptError when there is no such folder.

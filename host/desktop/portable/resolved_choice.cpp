@@ -1,4 +1,4 @@
-#include "host/desktop/portable/chosen_files.h"
+#include "host/desktop/portable/resolved_choice.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -69,7 +69,7 @@ bool WriteTexts(const std::vector<std::string>& texts, char* buffer, std::size_t
 
 }  // namespace
 
-bool ChosenFiles::Write(char* buffer, std::size_t size, std::size_t& name_offset) const {
+bool ResolvedChoice::Write(char* buffer, std::size_t size, std::size_t& name_offset) const {
   std::vector<std::string> texts;
   if (names.size() == 1) {
     const std::string path = (fs::path(folder) / names[0]).string();
@@ -83,9 +83,9 @@ bool ChosenFiles::Write(char* buffer, std::size_t size, std::size_t& name_offset
   return WriteTexts(texts, buffer, size);
 }
 
-ChosenFiles ResolveChoice(const platform::FileDialog& dialog, const FileChoice& choice) {
+ResolvedChoice ResolveChoice(const platform::FileDialog& dialog, const FileChoice& choice) {
   if (choice.paths.size() > 1 && !dialog.several) Refuse(dialog.title, "it is for one file only");
-  ChosenFiles chosen;
+  ResolvedChoice chosen;
   for (const std::string& typed : choice.paths) {
     const fs::path path = Resolve(dialog, typed, choice.agrees_to_replace);
     const std::string folder = path.parent_path().string();
