@@ -21,7 +21,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Kind {
+struct PosixAsideKind {
   std::optional<std::uint32_t> (*process_of)(std::string_view name);
   bool (*is_as_made)(const struct stat& status);
 };
@@ -47,13 +47,13 @@ bool IsGone(std::uint32_t process) {
 }
 
 // Who writes holds a lock until the end, which other machines and containers see too.
-bool IsAbandoned(int file, const Kind& kind) {
+bool IsAbandoned(int file, const PosixAsideKind& kind) {
   struct stat status {};
   return Lock(file) && fstat(file, &status) == 0 && status.st_uid == geteuid() &&
          kind.is_as_made(status);
 }
 
-void RemoveAbandoned(const fs::path& path, const Kind& kind) {
+void RemoveAbandoned(const fs::path& path, const PosixAsideKind& kind) {
   const int file = Uninterrupted(
       [&path] { return open(path.c_str(), O_RDONLY | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC); });
   if (file < 0) return;
@@ -62,7 +62,7 @@ void RemoveAbandoned(const fs::path& path, const Kind& kind) {
   close(file);
 }
 
-void RemoveAbandonedIn(const std::string& folder, const Kind& kind) {
+void RemoveAbandonedIn(const std::string& folder, const PosixAsideKind& kind) {
   std::error_code error;
   fs::directory_iterator entry(folder, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {

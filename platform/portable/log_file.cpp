@@ -10,9 +10,9 @@
 namespace platform {
 namespace {
 
-class AppendedFile final : public LogFile {
+class AppendedStream final : public LogFile {
  public:
-  explicit AppendedFile(std::ofstream stream) : stream_(std::move(stream)) {}
+  explicit AppendedStream(std::ofstream stream) : stream_(std::move(stream)) {}
 
   void AppendLine(const std::string& line) override { stream_ << line + '\n' << std::flush; }
 
@@ -31,7 +31,7 @@ std::unique_ptr<LogFile> LogFile::Open(const std::string& path) {
   std::filesystem::create_directories(std::filesystem::path(path).parent_path(), ignored);
   std::ofstream stream(path, std::ios::app);
   if (!stream) return nullptr;
-  return std::make_unique<AppendedFile>(std::move(stream));
+  return std::make_unique<AppendedStream>(std::move(stream));
 }
 
 }  // namespace platform

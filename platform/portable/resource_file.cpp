@@ -8,19 +8,19 @@ namespace {
 
 constexpr unsigned int kStringsPerBlock = 16;
 
-struct Entry {
+struct ResourceEntry {
   ResourceName type;
   ResourceName name;
   std::span<const std::byte> data;
 };
 
 // Reads one entry: its header, which begins with the sizes of the data and of itself, and the data.
-Entry ReadEntry(ByteReader& reader) {
+ResourceEntry ReadEntry(ByteReader& reader) {
   const std::uint32_t data_size = reader.Read32();
   const std::uint32_t header_size = reader.Read32();
   constexpr std::uint32_t kSizesSize = 8;
   ByteReader header(reader.Take(header_size < kSizesSize ? 0 : header_size - kSizesSize));
-  Entry entry;
+  ResourceEntry entry;
   entry.type = ReadName(header);
   entry.name = ReadName(header);
   entry.data = reader.Take(data_size);
@@ -38,7 +38,7 @@ std::span<const std::byte> FindResource(std::span<const std::byte> file, Resourc
                                         unsigned int id) {
   ByteReader reader(file);
   while (!reader.AtEnd()) {
-    const Entry entry = ReadEntry(reader);
+    const ResourceEntry entry = ReadEntry(reader);
     if (reader.Failed()) break;
     if (IsNumber(entry.type, static_cast<unsigned int>(type)) && IsNumber(entry.name, id)) {
       return entry.data;

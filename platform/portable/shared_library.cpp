@@ -8,12 +8,12 @@
 namespace platform {
 namespace {
 
-class LoadedLibrary final : public SharedLibrary {
+class LoadedSharedObject final : public SharedLibrary {
  public:
-  explicit LoadedLibrary(void* handle) : handle_(handle) {}
-  LoadedLibrary(const LoadedLibrary&) = delete;
-  LoadedLibrary& operator=(const LoadedLibrary&) = delete;
-  ~LoadedLibrary() override { dlclose(handle_); }
+  explicit LoadedSharedObject(void* handle) : handle_(handle) {}
+  LoadedSharedObject(const LoadedSharedObject&) = delete;
+  LoadedSharedObject& operator=(const LoadedSharedObject&) = delete;
+  ~LoadedSharedObject() override { dlclose(handle_); }
 
   void* Find(const char* name) override { return dlsym(handle_, name); }
 
@@ -36,7 +36,7 @@ std::unique_ptr<SharedLibrary> SharedLibrary::Open(const std::string& path, std:
     failure = dlerror();
     return nullptr;
   }
-  return std::make_unique<LoadedLibrary>(handle);
+  return std::make_unique<LoadedSharedObject>(handle);
 }
 
 }  // namespace platform

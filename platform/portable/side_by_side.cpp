@@ -51,9 +51,9 @@ bool WriteAll(int file, std::string_view bytes) {
   _exit(done ? 0 : 1);
 }
 
-class Runner {
+class ForkRunner {
  public:
-  Runner(std::size_t count, std::size_t processes, const SideBySide& pieces)
+  ForkRunner(std::size_t count, std::size_t processes, const SideBySide& pieces)
       : results_(count), processes_(processes), pieces_(pieces) {}
 
   std::vector<std::optional<std::string>> Run() {
@@ -148,7 +148,7 @@ std::size_t ProcessorCount() {
 
 std::vector<std::optional<std::string>> RunSideBySide(std::size_t count, std::size_t processes,
                                                       const SideBySide& pieces) {
-  return Runner(count, std::max<std::size_t>(processes, 1), pieces).Run();
+  return ForkRunner(count, std::max<std::size_t>(processes, 1), pieces).Run();
 }
 
 }  // namespace platform

@@ -20,7 +20,7 @@ namespace {
 
 namespace fs = std::filesystem;
 
-struct Kind {
+struct WindowsAsideKind {
   std::optional<std::uint32_t> (*process_of)(std::string_view name);
   DWORD open_flags;  // to open what is there itself
   bool is_folder;
@@ -59,7 +59,7 @@ bool BelongsToThisUser(HANDLE file) {
   return belongs;
 }
 
-bool IsAsMade(HANDLE file, const Kind& kind) {
+bool IsAsMade(HANDLE file, const WindowsAsideKind& kind) {
   constexpr DWORD kNotGiven = FILE_ATTRIBUTE_READONLY | FILE_ATTRIBUTE_HIDDEN |
                               FILE_ATTRIBUTE_SYSTEM | FILE_ATTRIBUTE_REPARSE_POINT;
   BY_HANDLE_FILE_INFORMATION about{};
@@ -70,7 +70,7 @@ bool IsAsMade(HANDLE file, const Kind& kind) {
 }
 
 // Who writes has it open in a way that lets nobody else remove it, on other machines too.
-bool IsAbandoned(const fs::path& path, const Kind& kind) {
+bool IsAbandoned(const fs::path& path, const WindowsAsideKind& kind) {
   constexpr DWORD kShareAll = FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE;
   const HANDLE opened =
       CreateFileW(path.c_str(), DELETE | READ_CONTROL | FILE_READ_ATTRIBUTES, kShareAll, nullptr,
@@ -80,7 +80,7 @@ bool IsAbandoned(const fs::path& path, const Kind& kind) {
   return IsAsMade(file.Get(), kind) && BelongsToThisUser(file.Get());
 }
 
-void RemoveAbandonedIn(const std::string& folder, const Kind& kind) {
+void RemoveAbandonedIn(const std::string& folder, const WindowsAsideKind& kind) {
   std::error_code error;
   fs::directory_iterator entry(WideFromUtf8(folder), error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {

@@ -15,12 +15,12 @@ std::string BytesOf(const std::string& line) {
   return bytes;
 }
 
-class AppendedFile final : public LogFile {
+class AppendedHandle final : public LogFile {
  public:
-  explicit AppendedFile(HANDLE file) : file_(file) {}
-  AppendedFile(const AppendedFile&) = delete;
-  AppendedFile& operator=(const AppendedFile&) = delete;
-  ~AppendedFile() override { CloseHandle(file_); }
+  explicit AppendedHandle(HANDLE file) : file_(file) {}
+  AppendedHandle(const AppendedHandle&) = delete;
+  AppendedHandle& operator=(const AppendedHandle&) = delete;
+  ~AppendedHandle() override { CloseHandle(file_); }
 
   void AppendLine(const std::string& line) override {
     const std::string bytes = BytesOf(line);
@@ -41,7 +41,7 @@ std::unique_ptr<LogFile> LogFile::Open(const std::string& path) {
       CreateFileA(path.c_str(), FILE_APPEND_DATA, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
                   OPEN_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
   if (file == INVALID_HANDLE_VALUE) return nullptr;
-  return std::make_unique<AppendedFile>(file);
+  return std::make_unique<AppendedHandle>(file);
 }
 
 }  // namespace platform

@@ -10,12 +10,12 @@
 namespace platform {
 namespace {
 
-class LoadedLibrary final : public SharedLibrary {
+class LoadedDll final : public SharedLibrary {
  public:
-  explicit LoadedLibrary(HMODULE handle) : handle_(handle) {}
-  LoadedLibrary(const LoadedLibrary&) = delete;
-  LoadedLibrary& operator=(const LoadedLibrary&) = delete;
-  ~LoadedLibrary() override { FreeLibrary(handle_); }
+  explicit LoadedDll(HMODULE handle) : handle_(handle) {}
+  LoadedDll(const LoadedDll&) = delete;
+  LoadedDll& operator=(const LoadedDll&) = delete;
+  ~LoadedDll() override { FreeLibrary(handle_); }
 
   void* Find(const char* name) override {
     return reinterpret_cast<void*>(GetProcAddress(handle_, name));
@@ -40,7 +40,7 @@ std::unique_ptr<SharedLibrary> SharedLibrary::Open(const std::string& path, std:
     failure = LastErrorText();
     return nullptr;
   }
-  return std::make_unique<LoadedLibrary>(handle);
+  return std::make_unique<LoadedDll>(handle);
 }
 
 }  // namespace platform

@@ -15,9 +15,9 @@ namespace {
 
 // A thread for each worker asks it for pieces and waits for the answers; the caller's thread tells
 // what has ended.
-class Runner {
+class WorkerRunner {
  public:
-  Runner(std::size_t count, std::size_t processes, const SideBySide& pieces)
+  WorkerRunner(std::size_t count, std::size_t processes, const SideBySide& pieces)
       : results_(count), processes_(std::min(processes, count)), pieces_(pieces) {}
 
   std::vector<std::optional<std::string>> Run() {
@@ -108,7 +108,7 @@ std::vector<std::optional<std::string>> RunSideBySide(std::size_t count, std::si
   if (const std::optional<WorkerPipes> pipes = OwnWorkerPipes()) {
     ServeAndExit(*pipes, count, pieces);
   }
-  return Runner(count, std::max<std::size_t>(processes, 1), pieces).Run();
+  return WorkerRunner(count, std::max<std::size_t>(processes, 1), pieces).Run();
 }
 
 }  // namespace platform
