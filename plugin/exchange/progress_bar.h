@@ -6,16 +6,16 @@
 // The host's progress bar for the time of one import or export.
 namespace orvane {
 
-class ProgressBar {
+class OpenProgressBar {
  public:
   // Opens a visible bar titled `title`; `interface` must outlive this object.
-  ProgressBar(Interface& interface, const char* title) : interface_(interface) {
+  OpenProgressBar(Interface& interface, const char* title) : interface_(interface) {
     interface_.ProgressStart(title, true, &GoOn, nullptr);
   }
-  ProgressBar(const ProgressBar&) = delete;
-  ProgressBar& operator=(const ProgressBar&) = delete;
+  OpenProgressBar(const OpenProgressBar&) = delete;
+  OpenProgressBar& operator=(const OpenProgressBar&) = delete;
   // Closes the bar, however the work ended.
-  ~ProgressBar() {
+  ~OpenProgressBar() {
     Attempt([this] { interface_.ProgressEnd(); });
   }
 

@@ -48,7 +48,7 @@ int ExportHTR::Export(bool suppress_prompts) {
   SuspendHostModes(*interface_);
   Outcome outcome = Outcome::kFailed;
   {
-    const ProgressBar progress(*interface_, "Orvane ExportHTR");
+    const OpenProgressBar progress(*interface_, "Orvane ExportHTR");
     outcome = Work(suppress_prompts);
   }
   if (outcome == Outcome::kFailed) return 0;

@@ -60,7 +60,7 @@ int ImportHTR::Import() {
   SuspendHostModes(*interface_);
   Outcome outcome = Outcome::kFailed;
   {
-    const ProgressBar progress(*interface_, "Orvane ImportHTR");
+    const OpenProgressBar progress(*interface_, "Orvane ImportHTR");
     outcome = Work();
   }
   if (outcome == Outcome::kFailed) return 0;

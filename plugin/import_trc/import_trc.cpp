@@ -46,7 +46,7 @@ int ImportTRC::DoImport(const char* name, ImpInterface* import_interface, Interf
 void ImportTRC::Import() {
   SuspendHostModes(*interface_);
   {
-    const ProgressBar progress(*interface_, "Orvane ImportTRC");
+    const OpenProgressBar progress(*interface_, "Orvane ImportTRC");
     if (!Work()) return;
   }
   document_.Reset();

@@ -13,7 +13,7 @@ namespace {
 TEST(ProgressBarTest, IsOpenAsLongAsItLivesAndNeverStopsTheWork) {
   host::Application application;
   {
-    const ProgressBar bar(application.plugin_interface(), "Working");
+    const OpenProgressBar bar(application.plugin_interface(), "Working");
     EXPECT_TRUE(application.progress().IsOpen());
     EXPECT_TRUE(application.progress().HoldsCallback());
     EXPECT_EQ(application.progress().Title(), "Working");
@@ -29,7 +29,7 @@ TEST(ProgressBarTest, IsClosedWhateverTheHostThrows) {
   host.after = [](const std::string& operation) {
     if (operation == "ProgressEnd") throw 1;
   };
-  { const ProgressBar bar(host, "Working"); }
+  { const OpenProgressBar bar(host, "Working"); }
   EXPECT_FALSE(application.progress().IsOpen());
 }
 

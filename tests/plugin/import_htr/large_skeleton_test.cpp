@@ -27,7 +27,7 @@ class LargeSkeletonTest : public test::SkeletonTest {
   }
 
   bool Apply(INode& node, const HtrSegment& segment) {
-    const ProgressBar progress(interface(), "Test");
+    const OpenProgressBar progress(interface(), "Test");
     const KeyTimes times(160, 1, 1);
     return MotionApplier(interface(), options_, times, kMany, kMany + 1).Apply(node, segment);
   }
