@@ -5,6 +5,9 @@
 #include "sdk/core/interval.h"
 #include "sdk/core/types.h"
 
+// A scene's time: frame rate, range, current time, and the modes that decide what setting a value
+// does. Keys are not here: controllers hold them. The scene owns it.
+
 namespace host {
 
 inline constexpr int kMinimumFrameRate = 1;

@@ -4,6 +4,8 @@
 
 #include "platform/export.h"
 
+// What tests let go wrong with controllers. The scene owns it, and all of its controllers ask it.
+
 namespace host {
 
 // What the controllers of a scene have been told to refuse. Only tests ask for refusals.

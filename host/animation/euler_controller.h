@@ -4,6 +4,9 @@
 #include "host/animation/rotation_controller.h"
 #include "host/base/quaternion.h"
 
+// Rotations as three angles; tcb_controller.h has the smooth ones. The transform controller that it
+// is installed in owns it, and until then the scene's pool does.
+
 namespace host {
 
 // A rotation as three angle tracks (those of QuatToEuler), interpolated linearly, each the shorter

@@ -8,6 +8,9 @@
 
 #include "sdk/core/types.h"
 
+// The keys of a controller as a container: what lies between two of them is not its business. Each
+// controller owns its own.
+
 namespace host {
 
 // The keys of a controller, in rising order of their ticks, in contiguous memory but for one gap.

@@ -3,6 +3,10 @@
 #include "host/animation/value_controller.h"
 #include "sdk/geom/quat.h"
 
+// What all rotation controllers have in common; how keys are kept and joined is left to
+// euler_controller.h and tcb_controller.h. The transform controller that it is installed in owns
+// it, and until then the scene's pool does.
+
 namespace host {
 
 // A rotation controller of any kind. The value at a key's tick is, bit for bit, the rotation that

@@ -6,6 +6,9 @@
 
 #include "platform/export.h"
 
+// A mode and the memory of its suspensions. What follows from it is left to whoever asks.
+// AnimationState owns those of a scene.
+
 namespace host {
 
 // A mode of the application that is on or off and that can be suspended: animate mode, set-key

@@ -3,6 +3,9 @@
 #include "host/animation/keys.h"
 #include "host/animation/rotation_controller.h"
 
+// Rotations on a smooth path; euler_controller.h has those as angles. The transform controller that
+// it is installed in owns it, and until then the scene's pool does.
+
 namespace host {
 
 // A smooth rotation through its keys: Kochanek-Bartels tangents with tension, continuity and bias

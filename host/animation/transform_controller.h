@@ -7,6 +7,9 @@
 #include "platform/export.h"
 #include "sdk/geom/matrix3.h"
 
+// A node's transform within its parent. Where that is in the world only the node can tell
+// (host/scene/node.h), which owns it.
+
 namespace host {
 
 // The controller of a node's local transform: scale * rotation * translation, each from a

@@ -2,6 +2,9 @@
 
 #include "host/animation/controller.h"
 
+// What setting a value does to a controller, whatever its values are. How they are kept and joined
+// is left to vector_controller.h and rotation_controller.h.
+
 namespace host {
 
 // Where `time` lies between two ticks: 0 at `from`, 1 at `to`.

@@ -2,6 +2,9 @@
 
 #include "sdk/core/interface.h"
 
+// The application as plug-ins are given it. Nothing is decided or kept here. The application owns
+// it.
+
 namespace host {
 
 class Application;

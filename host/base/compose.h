@@ -5,6 +5,8 @@
 #include "sdk/geom/point3.h"
 #include "sdk/geom/quat.h"
 
+// Transforms put together from their parts. Taking them apart is the SDK's (sdk/geom/matrix3.h).
+
 namespace host {
 
 // The transform scale * rotation * translation (row-vector order), computed in double precision and

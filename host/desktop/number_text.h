@@ -5,6 +5,8 @@
 
 #include "platform/export.h"
 
+// Numbers that a user types into the host's own edit control, whatever the locale.
+
 namespace host {
 
 // The number that `text` is, as the host's own edit control reads it: the whole text has to be a

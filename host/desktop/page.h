@@ -5,6 +5,10 @@
 
 #include "platform/handles.h"
 
+// A dialog that is a part of the host's own window; each kind of desktop has its body for it. Which
+// pages there are, and what they are called, is known to host/application/rollup_pages.h, which
+// owns them.
+
 namespace host {
 
 // A page of the host's own: a dialog of a plug-in that stands in another window, run by the

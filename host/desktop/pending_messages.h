@@ -2,6 +2,9 @@
 
 #include "platform/export.h"
 
+// The moment at which a plug-in lets the user act, on the desktop in use. What follows when he does
+// not is up to the application.
+
 namespace host {
 
 // Lets the user of the desktop in use do what he has been waiting to do: when he is `awaited`, or

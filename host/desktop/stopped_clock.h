@@ -4,6 +4,9 @@
 
 #include "platform/export.h"
 
+// The clock that a program shows to a plug-in in place of the system's (platform/program_clock.h).
+// The program owns it.
+
 namespace host {
 
 // A clock that stands still. As long as this object lives, a plug-in finds it in place of the

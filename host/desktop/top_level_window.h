@@ -5,6 +5,9 @@
 #include "platform/export.h"
 #include "platform/handles.h"
 
+// The host's own window, which each kind of desktop has its body for. Whoever makes it owns it, and
+// what stands over it does not.
+
 namespace host {
 
 // A window that dialogs may stand over, such as the application's main window. Nothing is drawn in

@@ -5,6 +5,9 @@
 #include "host/scene/scene_object.h"
 #include "sdk/paramblk2/parameter_block.h"
 
+// What a bone node shows. That its node is a bone is kept by the node. The node that shows it owns
+// it, and until then the scene's pool does.
+
 namespace host {
 
 // A bone: parameters 0 (width), 1 (height), 2 (taper, in percent) and 3 (length along the node's X

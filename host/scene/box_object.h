@@ -3,6 +3,8 @@
 #include "host/scene/scene_object.h"
 #include "sdk/geom/box3.h"
 
+// What a dummy node shows. The node that shows it owns it, and until then the scene's pool does.
+
 namespace host {
 
 // The dummy helper: a box, from -10 to 10 on each axis at first.

@@ -5,6 +5,9 @@
 
 #include "platform/export.h"
 
+// The order of a node's children. Their parents and transforms are the nodes' own business. The
+// parent owns the list, and the scene the children.
+
 namespace host {
 
 class Node;

@@ -4,6 +4,9 @@
 #include "platform/export.h"
 #include "sdk/core/class_instance.h"
 
+// The classes that the host knows, objects and controllers alike. The pool owns what is created
+// until a node takes it.
+
 namespace host {
 
 // Creates the object or controller of that class in `environment.pool`; the caller deletes it or

@@ -7,6 +7,9 @@
 #include "sdk/core/types.h"
 #include "sdk/geom/matrix3.h"
 
+// How a node's controllers change so that it stays where it is when its parent does not. Which
+// transforms those are is the node's to say.
+
 namespace host {
 
 // Sets the controllers of `transform` so that its values become those of `wanted`, which is asked

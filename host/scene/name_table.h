@@ -6,6 +6,8 @@
 
 #include "platform/export.h"
 
+// The names in use in a scene. Which node has which is not known here. The scene owns it.
+
 namespace host {
 
 // Which names the nodes of a scene have, so that a new one can be found at once.

@@ -17,6 +17,9 @@
 #include "platform/export.h"
 #include "sdk/core/node.h"
 
+// A node: its place in the tree, its contents, and its transform in the world. Selection, handles
+// and the making of nodes are the scene's (scene.h).
+
 namespace host {
 
 // Numbers kept on a node, by their key.

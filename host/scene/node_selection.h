@@ -5,6 +5,9 @@
 
 #include "platform/export.h"
 
+// Which nodes are selected. Whether one may be is for the scene to say, which owns it and the
+// nodes.
+
 namespace host {
 
 class Node;

@@ -2,6 +2,9 @@
 
 #include "host/scene/scene_object.h"
 
+// What a point helper's node shows. The node that shows it owns it, and until then the scene's pool
+// does.
+
 namespace host {
 
 // A helper that marks a point; its size is the scale of its node.

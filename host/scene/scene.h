@@ -15,6 +15,10 @@
 #include "host/scene/world_memory.h"
 #include "platform/export.h"
 
+// What a file is made of and what plug-ins change. Progress, callbacks and all else around it is
+// the application's (host/application/application.h), which owns one scene; tests and the readers
+// of files may make others.
+
 namespace host {
 
 // A scene: its nodes and what they hold, the selection, names and handles, time and units. Owns all

@@ -5,6 +5,8 @@
 #include "host/scene/scene_object.h"
 #include "sdk/paramblk2/parameter_block.h"
 
+// What a sphere node shows. The node that shows it owns it, and until then the scene's pool does.
+
 namespace host {
 
 // A sphere primitive: float parameters 0 (radius, in system units) and 3, whole-number parameters

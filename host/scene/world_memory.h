@@ -8,6 +8,9 @@
 #include "sdk/core/types.h"
 #include "sdk/geom/matrix3.h"
 
+// World transforms that were computed before. When they are out of date is for the nodes to say.
+// The scene owns it.
+
 namespace host {
 
 class Node;

@@ -2,6 +2,8 @@
 
 #include "platform/desktop.h"
 
+// The registry in use, for as long as a scope lasts. The registry stays its maker's.
+
 namespace host {
 
 // Puts a registry in use as long as this object lives; then the one before is again.

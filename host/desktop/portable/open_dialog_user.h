@@ -9,6 +9,9 @@
 #include "host/desktop/scripted_dialog.h"
 #include "platform/dialog.h"
 
+// What a scripted user does in a dialog on a desktop without screen. The state of the controls
+// stands in open_dialog.h. Whoever opens the dialog owns both.
+
 namespace host {
 
 // An open dialog from the side of its scripted user.

@@ -8,6 +8,9 @@
 #include "host/desktop/scripted_dialog.h"
 #include "host/desktop/windows/dialog_resources.h"
 
+// A module's dialog as its scripted user meets it. The window belongs to the system and the module;
+// the user owns this side of it.
+
 namespace host {
 
 // A dialog of a module's own in a real window. A dialog that its handler ends is hidden at once,

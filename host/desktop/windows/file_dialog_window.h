@@ -3,6 +3,9 @@
 #include "host/desktop/file_choice.h"
 #include "platform/handles.h"
 
+// The system's dialogs for files, used as a person would use them. Folders are chosen in
+// folder_dialog_window.h. The window is the system's.
+
 namespace host {
 
 // The system's open dialog for files to open or to save.

@@ -4,6 +4,9 @@
 
 #include "platform/handles.h"
 
+// The system's dialog for folders, used as a person would use it. Files are chosen in
+// file_dialog_window.h. The window is the system's.
+
 namespace host {
 
 // The system's open dialog in which a folder is chosen.

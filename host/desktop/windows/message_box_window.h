@@ -6,6 +6,9 @@
 #include "platform/handles.h"
 #include "platform/message_box.h"
 
+// The system's message boxes, read and answered as a person would do it. The window is the
+// system's.
+
 namespace host {
 
 // What an open message box shows.

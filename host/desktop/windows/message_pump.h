@@ -1,5 +1,7 @@
 #pragma once
 
+// What is waiting in a thread's queue, outside of any modal loop.
+
 namespace host {
 
 // Handles the messages that wait in this thread's queue, those of modeless dialogs as such. What

@@ -4,6 +4,8 @@
 
 #include "platform/handles.h"
 
+// Dialogs that fail because a test or a failed script says so. The user of the windows owns them.
+
 namespace host {
 
 // Dialogs of modules that the system does not create, as if it had run out of memory. There is one

@@ -4,6 +4,9 @@
 
 #include "platform/handles.h"
 
+// Which windows there are. What they show is read by window_text.h, and whoever opened a window
+// owns it.
+
 namespace host {
 
 // The windows of this thread that lie on the desktop itself and are shown, the topmost first.

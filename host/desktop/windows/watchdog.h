@@ -1,5 +1,7 @@
 #pragma once
 
+// The end of a program whose dialog waits for somebody who is not there. It belongs to the thread.
+
 namespace host {
 
 // From now on, to the end of the process, no dialog of this thread stays open for long without

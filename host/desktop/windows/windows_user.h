@@ -12,6 +12,9 @@
 #include "host/desktop/windows/refused_dialogs.h"
 #include "platform/handles.h"
 
+// The scripted user in front of real windows: when he looks, and at what. What he answers stands in
+// host/desktop/user_script.h. The scripted desktop owns him.
+
 namespace host {
 
 // A user who sits in front of the windows of this thread. Whenever a modal loop runs, whoever has

@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+// Bytes as text and back. What stands before and behind it in a file is container.h's business.
+
 namespace host::gltf {
 
 // `bytes` as base64 (RFC 4648, with padding).

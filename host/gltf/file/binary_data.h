@@ -9,6 +9,9 @@
 
 #include "host/gltf/file/json_list.h"
 
+// The numbers of a file that is being made, and where each of them lies. What they mean is told by
+// the document that refers to them, which owns them.
+
 namespace host::gltf {
 
 // The forms that the elements of an accessor have in our files.

@@ -8,6 +8,9 @@
 #include "host/gltf/file/binary_data.h"
 #include "host/gltf/file/json_list.h"
 
+// A file that is being made, and its JSON. Both halves add to it; container.h makes bytes of it.
+// The writer owns it.
+
 namespace host::gltf {
 
 // The parts of a glTF file that is being made.

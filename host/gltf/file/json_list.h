@@ -3,6 +3,8 @@
 #include <nlohmann/json.hpp>
 #include <string>
 
+// A long list of a file that is being made. The document owns its lists.
+
 namespace host::gltf {
 
 // A JSON array, kept as text: what is added becomes text at once, because as an object it takes

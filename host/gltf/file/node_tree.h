@@ -4,6 +4,9 @@
 
 #include "host/scene/scene.h"
 
+// The order in which a scene's nodes stand in a file, for both halves of it. The scene owns the
+// nodes.
+
 namespace host::gltf {
 
 // A node and its place. Indices are those of the tree, and of the nodes in the file.

@@ -5,6 +5,9 @@
 #include "host/gltf/kept/stored_keys.h"
 #include "host/scene/scene.h"
 
+// A node's controllers as they were kept. What else a node has is restore_scene.cpp's business. The
+// node owns the controllers.
+
 namespace host::gltf {
 
 // Gives `transform`, a new one of `scene`, the controllers in `record`, the record of a node, with

@@ -8,6 +8,9 @@
 #include "host/gltf/file/json_field.h"
 #include "sdk/core/types.h"
 
+// The numbers of a file that is being read, as far as they are ours. What controllers they are for
+// is told by the records. The bytes stay the file's.
+
 namespace host::gltf {
 
 // The bytes of the view of `file` that `reference` is the index of, valid as long as the file's.

@@ -4,6 +4,8 @@
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/viewer/viewer_space.h"
 
+// Keys as viewers see them; the pose at one time is shown_scene.h's business.
+
 namespace host::gltf {
 
 // Adds the keys of all controllers in `tree` to the animation of `document`. Throws a Refusal when

@@ -9,6 +9,9 @@
 #include "host/gltf/viewer/viewer_space.h"
 #include "host/scene/node.h"
 
+// Shapes turned into vertices. How they look is shape.h's business, and which of them share a mesh
+// is left to skins.h and object_meshes.h, which own one for each primitive.
+
 namespace host::gltf {
 
 // Shapes on their way into a primitive, which is what glTF calls the part of a mesh that has one

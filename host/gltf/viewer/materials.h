@@ -5,6 +5,8 @@
 #include "host/gltf/file/json_list.h"
 #include "sdk/core/types.h"
 
+// Wire colors as materials. One writing owns them, and the document their list.
+
 namespace host::gltf {
 
 // The materials of a glTF file: one for each wire colour, dull and in that colour.

@@ -7,6 +7,8 @@
 #include "host/gltf/viewer/materials.h"
 #include "host/gltf/viewer/viewer_space.h"
 
+// The meshes of single nodes. Those of bones, which move with joints, are in skins.h.
+
 namespace host::gltf {
 
 // Adds what the nodes of `tree` show beside bones: spheres, and point helpers as marks of one unit

@@ -7,6 +7,8 @@
 #include "host/gltf/viewer/materials.h"
 #include "host/gltf/viewer/viewer_space.h"
 
+// Bones as skins with their meshes. What else nodes show is in object_meshes.h.
+
 namespace host::gltf {
 
 // A joint's number is two bytes in the mesh, and viewers hold all of a skin's joints at once.
