@@ -72,8 +72,7 @@ ExportHTR::Outcome ExportHTR::Work(bool suppress_prompts) {
 void ExportHTR::SetFrameBounds() {
   const Interval range = interface_->GetAnimRange();
   const int ticks_per_frame = GetTicksPerFrame();
-  options_.startFrame = range.Start() / ticks_per_frame;
-  options_.endFrame = range.End() / ticks_per_frame;
+  options_.SetFrameBounds(range.Start() / ticks_per_frame, range.End() / ticks_per_frame);
 }
 
 bool ExportHTR::ConfirmOptions() {

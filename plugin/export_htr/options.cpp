@@ -2,24 +2,14 @@
 
 namespace orvane {
 
-ExportHTROptions::ExportHTROptions() { store_.Open("OrvaneFileIO", "Skelder", "ExportHTR"); }
-
-void ExportHTROptions::Load() {
-  store_.ReadFlag("Pose", savedPose);
-  store_.ReadFlag("Animate", animate);
-  store_.ReadFlag("ParentTransforms", parentTransforms);
-  store_.ReadFlag("Range", range);
-  store_.ReadInt("Offset", frameOffset);
-  store_.ReadDouble("ScaleFactor", scaleFactor);
-}
-
-void ExportHTROptions::Save() {
-  store_.WriteFlag("Pose", savedPose);
-  store_.WriteFlag("Animate", animate);
-  store_.WriteFlag("ParentTransforms", parentTransforms);
-  store_.WriteFlag("Range", range);
-  store_.WriteInt("Offset", frameOffset);
-  store_.WriteFloat("ScaleFactor", static_cast<float>(scaleFactor));
+void ExportHTROptions::ListStored(StoredFields& fields) {
+  fields.Flag("Pose", savedPose);
+  fields.Flag("Animate", animate);
+  fields.Flag("ParentTransforms", parentTransforms);
+  fields.Flag("Range", range);
+  fields.Int("Offset", frameOffset);
+  // Intended: a scale that was typed once does not come back to surprise the next export.
+  fields.DoubleSavedAsFloat("ScaleFactor", scaleFactor);
 }
 
 }  // namespace orvane

@@ -1,7 +1,5 @@
 #include "plugin/import_htr/import_htr.h"
 
-#include <algorithm>
-#include <limits>
 #include <string_view>
 
 #include "formats/htr/reader.h"
@@ -105,12 +103,8 @@ void ImportHTR::ConvertUnits() {
 }
 
 void ImportHTR::SetFrameBounds() {
-  const std::int64_t first = document_.GetStartFrame();
-  const std::int64_t last = first + document_.GetNumFrames() - 1;
-  constexpr std::int64_t kLowest = std::numeric_limits<std::int32_t>::min();
-  constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
-  options_.startFrame = static_cast<std::int32_t>(first);
-  options_.endFrame = static_cast<std::int32_t>(std::clamp(last, kLowest, kHighest));
+  const std::int32_t first = document_.GetStartFrame();
+  options_.SetFrameBounds(first, std::int64_t{first} + document_.GetNumFrames() - 1);
 }
 
 bool ImportHTR::ConfirmOptions() {

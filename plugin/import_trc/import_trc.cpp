@@ -1,8 +1,6 @@
 #include "plugin/import_trc/import_trc.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 #include <string>
 
 #include "plugin/exchange/attempt.h"
@@ -84,12 +82,8 @@ void ImportTRC::ConvertUnits() {
 }
 
 void ImportTRC::SetFrameBounds() {
-  const std::int64_t first = document_.FirstFrame();
-  const std::int64_t last = first - 1 + document_.NumFrames();
-  constexpr std::int64_t kLowest = std::numeric_limits<std::int32_t>::min();
-  constexpr std::int64_t kHighest = std::numeric_limits<std::int32_t>::max();
-  options_.startFrame = static_cast<std::int32_t>(first);
-  options_.endFrame = static_cast<std::int32_t>(std::clamp(last, kLowest, kHighest));
+  const std::int32_t first = document_.FirstFrame();
+  options_.SetFrameBounds(first, std::int64_t{first} - 1 + document_.NumFrames());
 }
 
 bool ImportTRC::ConfirmOptions() {
