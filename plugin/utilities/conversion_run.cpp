@@ -7,6 +7,7 @@
 #include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
 #include "plugin/utilities/chosen_files.h"
+#include "plugin/utilities/marker_file.h"
 #include "sdk/skelderutil/filename.h"
 
 namespace orvane {
@@ -53,9 +54,9 @@ bool ConversionRun::Run() noexcept {
     return Work();
   } catch (...) {
     if (host_ == nullptr) return false;
-    Attempt([this] { converter_.document.Reset(); });
+    Attempt([this] { parts_.document.Reset(); });
     End();
-    ReportFailure(messages_, kFailure);
+    ReportFailure(parts_.messages, kFailure);
     return false;
   }
 }
@@ -63,9 +64,9 @@ bool ConversionRun::Run() noexcept {
 // Intended: a mapping file is needed even when the mapping is not used, and its absence is not
 // reported.
 bool ConversionRun::Work() {
-  if (!converter_.mapping.Load(converter_.mnmPath)) return false;
+  if (!parts_.mapping.Load(parts_.settings.mnmPath)) return false;
   if (!ChooseSources()) return false;
-  if (converter_.batch && !OpenLog()) return false;
+  if (parts_.settings.batch && !OpenLog()) return false;
   return OpenBar() && ConvertFiles();
 }
 
@@ -82,9 +83,9 @@ bool ConversionRun::ChooseSources() {
   dialog.title = "Select Source TRC Files...";
   dialog.filter_pattern = "*.trc";
   dialog.default_extension = "trc";
-  const std::string folder = converter_.inputPath;
+  const std::string folder = parts_.settings.inputPath;
   dialog.initial_folder = folder.c_str();
-  dialog.several = converter_.batch;
+  dialog.several = parts_.settings.batch;
   dialog.file_must_exist = true;
   dialog.folder_must_exist = true;
   std::string buffer(kBufferSize, '\0');
@@ -95,7 +96,7 @@ bool ConversionRun::ChooseSources() {
     return true;
   }
   ChosenFiles chosen = ReadChosenFiles(buffer, name_offset, platform::PathSeparator());
-  converter_.inputPath = chosen.folder;
+  parts_.settings.inputPath = chosen.folder;
   sources_ = std::move(chosen.paths);
   return true;
 }
@@ -103,7 +104,7 @@ bool ConversionRun::ChooseSources() {
 bool ConversionRun::OpenLog() {
   log_.emplace();
   if (!log_->Open(InOutputFolder(kLogName))) {
-    messages_.Report("Cannot Open Batch Log File.", kConvertBVKError);
+    parts_.messages.Report("Cannot Open Batch Log File.", kConvertBVKError);
     return false;
   }
   log_->WriteHeader(platform::LocalTimeText(), sources_.size());
@@ -125,7 +126,7 @@ bool ConversionRun::ConvertFiles() {
     if (outcome == Outcome::kAbandoned) return false;
     // Intended: the progress bar ends a second time below.
     if (outcome == Outcome::kRefused) break;
-    converter_.document.Reset();
+    parts_.document.Reset();
     if (!ShowPercent(PercentBefore(index, sources_.size()))) return false;
   }
   EndProgress();
@@ -141,29 +142,30 @@ bool ConversionRun::UserGoesOn() {
 // Intended: in a batch, what was read of a file that the reader refused is written all the same.
 ConversionRun::Outcome ConversionRun::ConvertFile(const std::string& source) {
   if (!ReadSource(source)) return Outcome::kRefused;
-  if (converter_.filter) ApplyMapping();
+  if (parts_.settings.filter) ApplyMapping();
   const std::optional<std::string> output = OutputFor(source);
-  if (!output || !converter_.WriteMarkerFile(*output)) return Outcome::kAbandoned;
+  const bool is_written = output && WriteMarkerFile(*output, parts_.document, parts_.settings);
+  if (!is_written) return Outcome::kAbandoned;
   if (log_) log_->WriteDone(source);
   return Outcome::kDone;
 }
 
 bool ConversionRun::ReadSource(const std::string& source) {
-  const std::string message = converter_.document.Read(source, false);
+  const std::string message = parts_.document.Read(source, false);
   if (message.empty()) return true;
   const std::string report = source + ": " + message + "\n";
   if (log_) {
     log_->WriteFormat(report);
   } else {
-    messages_.Report(report.c_str(), kConvertBVKError);
+    parts_.messages.Report(report.c_str(), kConvertBVKError);
   }
   return log_.has_value();
 }
 
 void ConversionRun::ApplyMapping() {
-  for (TRCMarker& marker : converter_.document.markers()) {
+  for (TRCMarker& marker : parts_.document.markers()) {
     std::string name = marker.Name();
-    const bool is_known = converter_.mapping.Lookup(name);
+    const bool is_known = parts_.mapping.Lookup(name);
     if (is_known) marker.SetName(name);
     marker.SetEnabled(is_known);
   }
@@ -171,7 +173,7 @@ void ConversionRun::ApplyMapping() {
 
 // Nothing when the user cancels, or when there is no such name.
 std::optional<std::string> ConversionRun::OutputFor(const std::string& source) {
-  if (!converter_.trcName) return ChooseOutput();
+  if (!parts_.settings.trcName) return ChooseOutput();
   if (!log_) return WithBvkLetters(source);
   return InOutputFolder(FileNamePart(source) + ".bvk");
 }
@@ -182,7 +184,7 @@ std::optional<std::string> ConversionRun::ChooseOutput() {
   dialog.title = "Select Target BVK File...";
   dialog.filter_pattern = "*.bvk";
   dialog.default_extension = "bvk";
-  const std::string folder = converter_.outputPath;
+  const std::string folder = parts_.settings.outputPath;
   dialog.initial_folder = folder.c_str();
   dialog.ask_before_replacing = true;
   std::string buffer(kBufferSize, '\0');
@@ -192,14 +194,14 @@ std::optional<std::string> ConversionRun::ChooseOutput() {
 }
 
 std::string ConversionRun::InOutputFolder(const std::string& name) const {
-  return converter_.outputPath + platform::PathSeparator() + name;
+  return parts_.settings.outputPath + platform::PathSeparator() + name;
 }
 
 // Shows `dialog`, to which what all dialogs of a conversion have in common is added. A choice that
 // the end of the run has overtaken is none.
 bool ConversionRun::ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name,
                                    std::string& buffer, std::size_t& name_offset) {
-  const char* const text = strings_.GetString(module_, filter_name);
+  const char* const text = parts_.strings.GetString(parts_.module, filter_name);
   const std::string filter = text == nullptr ? "" : text;
   dialog.owner = host_->GetSkelderHWnd();
   if (host_ == nullptr) return false;

@@ -5,31 +5,40 @@
 #include <string>
 #include <vector>
 
+#include "formats/mnm/marker_name_map.h"
+#include "formats/trc/document.h"
 #include "platform/file_dialog.h"
 #include "platform/handles.h"
 #include "plugin/services/message_sink.h"
 #include "plugin/services/string_table.h"
 #include "plugin/utilities/batch_log.h"
-#include "plugin/utilities/convert_bvk.h"
+#include "plugin/utilities/convert_bvk_settings.h"
+#include "sdk/core/interface.h"
 
 // One conversion, from the user's choice of files to the last of them.
 namespace orvane {
 
+// What a conversion works with. All of it outlives the run.
+struct ConversionParts {
+  ConvertBVKSettings& settings;  // of which the input folder follows the files of a batch
+  MarkerNameMap& mapping;        // gets the entries of the mapping file, behind those there are
+  TRCDocument& document;         // the file that is being converted
+  MessageSink& messages;
+  StringTable& strings;
+  HINSTANCE module;  // owner of the texts
+};
+
 class ConversionRun {
  public:
-  // All of it outlives the run.
-  ConversionRun(ConvertBVK& converter, MessageSink& messages, StringTable& strings,
-                HINSTANCE module)
-      : converter_(converter),
-        messages_(messages),
-        strings_(strings),
-        module_(module),
-        host_(converter.interface) {}
+  // `host` need not outlive the run once that has ended.
+  ConversionRun(const ConversionParts& parts, Interface& host) : parts_(parts), host_(&host) {}
 
-  // As ConvertBVK::Convert, with its host.
-  bool Run() noexcept;
+  // Lets the user choose the files and converts them. Returns whether all of them were handled,
+  // even those that the reader refused; false when that was abandoned.
+  [[nodiscard]] bool Run() noexcept;
 
-  // As ConvertBVK::End, which forgets the host then.
+  // Closes the progress bar and lets go of the host, in the middle of Run. The file that is being
+  // converted is not written.
   void End() noexcept;
 
  private:
@@ -53,10 +62,7 @@ class ConversionRun {
   bool ShowPercent(int percent);
   void EndProgress();
 
-  ConvertBVK& converter_;
-  MessageSink& messages_;
-  StringTable& strings_;
-  HINSTANCE module_;
+  ConversionParts parts_;
 
   // Null once the run has been ended, which may happen in the middle of any call of the host and
   // while a dialog is shown.
