@@ -24,6 +24,7 @@ readonly python_needs='
 command python3                                   python3
 '
 readonly test_needs='
+command git                                       git
 command node                                      nodejs
 command npm                                       npm
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
