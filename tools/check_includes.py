@@ -1,11 +1,24 @@
 #!/usr/bin/env python3
-"""Checks the includes of source files against a table of who may include whom.
+"""Checks the includes of source files against the tables of who may use whom.
 
-Usage: check_includes.py RULES < LIST_OF_FILES
+Usage: check_includes.py PAGE < LIST_OF_FILES
 
 Reads file names, relative to the current directory, one a line. Prints every include that the
-table does not allow and exits with 1 if there is one, or if nothing was there to check.
-The form of the table is described at its top.
+tables do not allow, and every row and name of theirs that none of the files fits; exits with 1 if
+there is one, or if nothing was there to check.
+
+The tables are those in PAGE, in Markdown, whose first column is "Folder" and whose last is "May
+use". The first row whose folder a file is in is its row; a file in none is an error. Both columns
+hold names between backticks, with commas between them:
+
+  a/b        the files in that folder, and not those below it
+  a/**       the files in that folder and in all below it; ** is all files
+  a/b/c.h    that file: the last part has a full stop
+  <c/d.h>    that header of another library
+
+* stands for any text without a slash, ** for any text. The standard library and headers of the
+file's own folder are always allowed: "the standard library" stands where nothing is added to that.
+What follows "; not " is taken away again.
 
 A source file with a header of the same name beside it has to include that first: so the header is
 compiled without any other before it.
@@ -38,14 +51,24 @@ def glob_to_regex(pattern):
     return re.compile("".join(parts) + r"\Z")
 
 
-class Rule:
-    """One line of the table."""
+def files_named(name):
+    """What matches the files, or the headers of other libraries, that a table has this name for."""
+    is_folder = not name.startswith("<") and not name.endswith("**")
+    return glob_to_regex(name + "/*" if is_folder and "." not in name.rpartition("/")[2] else name)
 
-    def __init__(self, line):
-        files, what = line.split(":", 1)
-        self.files = glob_to_regex(files)
-        self.allowed = [glob_to_regex(word) for word in what.split() if word[0] != "!"]
-        self.refused = [glob_to_regex(word[1:]) for word in what.split() if word[0] == "!"]
+
+class Rule:
+    """One row of a table."""
+
+    def __init__(self, place, folder, may_use):
+        allowed, _, refused = may_use.partition("; not ")
+        self.place = place
+        self.files = names_of(place, folder)
+        self.allowed = {} if allowed == "the standard library" else names_of(place, allowed)
+        self.refused = names_of(place, refused) if refused else {}
+
+    def holds_for(self, file):
+        return matches(self.files, file)
 
     def allows(self, file, quote, header):
         if quote == "<":
@@ -55,27 +78,59 @@ class Rule:
         return folder_of(header) == folder_of(file) or matches(self.allowed, header)
 
 
-def matches(patterns, text):
-    return any(pattern.match(text) for pattern in patterns)
+def names_of(place, cell):
+    """The names in a cell, each as what it matches."""
+    if not re.fullmatch("`[^`]+`(, `[^`]+`)*", cell):
+        sys.exit(f"{place}: not a list of names between backticks: {cell}")
+    return {name: files_named(name) for name in re.findall("`([^`]+)`", cell)}
+
+
+def matches(names, text):
+    return any(pattern.match(text) for pattern in names.values())
 
 
 def folder_of(name):
     return name.rpartition("/")[0]
 
 
-def read_rules(text):
-    lines = (line.split("#", 1)[0].strip() for line in text.splitlines())
-    return [Rule(line) for line in lines if line]
+def read_rules(page_name, page):
+    """The rows of the tables of who may use whom, in their order."""
+    rules = []
+    in_table = False
+    for number, line in enumerate(page.splitlines(), 1):
+        cells = [cell.strip() for cell in line.strip().strip("|").split("|")]
+        if not line.startswith("|"):
+            in_table = False
+        elif (cells[0], cells[-1]) == ("Folder", "May use"):
+            in_table = True
+        elif in_table and set(cells[0]) != {"-"}:
+            rules.append(Rule(f"{page_name}:{number}", cells[0], cells[-1]))
+    return rules
+
+
+def rule_of(file, rules):
+    return next((rule for rule in rules if rule.holds_for(file)), None)
 
 
 def findings(file, text, rules):
     """One message for each include of the file that its rule does not allow."""
-    rule = next((rule for rule in rules if rule.files.match(file)), None)
+    rule = rule_of(file, rules)
     if rule is None:
-        return [f"{file}: no rule says what this file may include"]
+        return [f"{file}: no row says what this file may include"]
     return [f"{file}:{text.count(chr(10), 0, match.start(1)) + 1}: may not include {match[2]}"
             for match in INCLUDE.finditer(text)
             if not rule.allows(file, match[1], match[2])]
+
+
+def stale_findings(files, rules):
+    """One message for each row, and each name in one, that none of the files fits."""
+    used = {rule_of(file, rules) for file in files}
+    messages = [f"{rule.place}: no file has this row" for rule in rules if rule not in used]
+    for rule in rules:
+        names = {**rule.files, **rule.allowed, **rule.refused}
+        messages += [f"{rule.place}: there is no file in {name}" for name, pattern in names.items()
+                     if name[0] != "<" and not any(map(pattern.match, files))]
+    return messages
 
 
 def own_header_finding(file, text):
@@ -89,12 +144,13 @@ def own_header_finding(file, text):
     return [f"{file}:{line}: has to include {header} first"]
 
 
-def main(rules_name):
-    with open(rules_name, encoding="utf-8") as rules_file:
-        rules = read_rules(rules_file.read())
+def main(page_name):
+    with open(page_name, encoding="utf-8") as page:
+        rules = read_rules(page_name, page.read())
+    files = sys.stdin.read().splitlines()
     includes_seen = 0
-    messages = []
-    for file in sys.stdin.read().splitlines():
+    messages = stale_findings(files, rules)
+    for file in files:
         with open(file, encoding="utf-8") as source:
             text = source.read()
         includes_seen += len(INCLUDE.findall(text))
