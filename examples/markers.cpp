@@ -83,8 +83,8 @@ void AddLeg(std::vector<Marker>& markers, const Side& side, const Side& other,
   add(6, side.toe, at(95, 40, 160), {});           // toe
 }
 
-std::vector<Marker> MakeMarkers() {
-  std::vector<Marker> markers = {
+std::vector<Marker> HeadAndTrunkMarkers() {
+  return {
       {"LFHD", "walker:LFHD", BoneId::kHead, Vector3(70, 1700, 80), {}},
       {"LBHD", "walker:LBHD", BoneId::kHead, Vector3(70, 1700, -80), {}},
       {"RBHD", "walker:RBHD", BoneId::kHead, Vector3(-70, 1700, -80), {}},
@@ -99,6 +99,10 @@ std::vector<Marker> MakeMarkers() {
       {"RBWT", "walker:RBWT", BoneId::kHips, Vector3(-70, 1040, -105), kRight.hand},
       {"RFWT", "walker:RFWT", BoneId::kHips, Vector3(-125, 1040, 95), kRight.hand},
   };
+}
+
+std::vector<Marker> MakeMarkers() {
+  std::vector<Marker> markers = HeadAndTrunkMarkers();
   AddArm(markers, kLeft,
          {{{"LSHO", "walker:LSHO"},
            {"LELB", "walker:LELB"},
