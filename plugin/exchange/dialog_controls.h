@@ -5,7 +5,7 @@
 
 #include "platform/dialog.h"
 
-// What the option dialogs do with their controls.
+// What dialogs do with their controls.
 namespace orvane {
 
 void EnableControls(platform::Dialog& dialog, std::initializer_list<int> controls, bool enabled);

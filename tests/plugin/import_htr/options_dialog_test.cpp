@@ -42,15 +42,6 @@ class ImportHTROptionsDialogTest
   }
 };
 
-TEST_F(ImportHTROptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
-  Show([this](host::ScriptedDialog& dialog) {
-    EXPECT_EQ(dialog.Id(), 107);
-    EXPECT_EQ(dialog.Title(), "ImportHTR");
-    EXPECT_EQ(dialog.Owner(), parent_.Handle());
-    EXPECT_EQ(dialog.CenteredOver(), parent_.Handle());
-  });
-}
-
 TEST_F(ImportHTROptionsDialogTest, HasItsControlsAndGroups) {
   Show([](host::ScriptedDialog& dialog) {
     const struct {
@@ -114,18 +105,6 @@ TEST_F(ImportHTROptionsDialogTest, ShowsTheDefaultsAtFirst) {
   });
 }
 
-TEST_F(ImportHTROptionsDialogTest, OfEachPairOfRadiosOneIsSelectedWhenItOpens) {
-  test::FakeDialog dialog;
-  for (const int radio : {kApply, kRange, kTcb}) dialog[radio].checked = true;
-  ImportHTROptionsDialog handler = Dialog();
-  handler.Initialize(dialog);
-  for (const auto& [chosen, other] :
-       {std::pair(kCreate, kApply), std::pair(kAll, kRange), std::pair(kEuler, kTcb)}) {
-    EXPECT_TRUE(dialog[chosen].checked) << chosen;
-    EXPECT_FALSE(dialog[other].checked) << other;
-  }
-}
-
 TEST_F(ImportHTROptionsDialogTest, LoadsTheStoredOptionsBeforeItShowsThem) {
   {
     ImportHTROptions stored;
@@ -162,23 +141,6 @@ TEST_F(ImportHTROptionsDialogTest, LoadsTheStoredOptionsBeforeItShowsThem) {
   });
 }
 
-TEST_F(ImportHTROptionsDialogTest, RadiosSelectTheClickedOneOfTheirPair) {
-  Show([](host::ScriptedDialog& dialog) {
-    const struct {
-      int radio;
-      int other;
-    } pairs[] = {{kEuler, kTcb}, {kCreate, kApply}, {kAll, kRange}};
-    for (const auto& pair : pairs) {
-      dialog.Click(pair.other);
-      EXPECT_TRUE(dialog.IsChecked(pair.other));
-      EXPECT_FALSE(dialog.IsChecked(pair.radio));
-      dialog.Click(pair.radio);
-      EXPECT_TRUE(dialog.IsChecked(pair.radio));
-      EXPECT_FALSE(dialog.IsChecked(pair.other));
-    }
-  });
-}
-
 TEST_F(ImportHTROptionsDialogTest, AnimationEnablesAllAndRangeButNotTheirFrames) {
   Show([](host::ScriptedDialog& dialog) {
     dialog.Click(kRange);
@@ -190,17 +152,6 @@ TEST_F(ImportHTROptionsDialogTest, AnimationEnablesAllAndRangeButNotTheirFrames)
     dialog.Click(kAnimation);
     EXPECT_TRUE(dialog.IsEnabled(kAll));
     EXPECT_TRUE(dialog.IsEnabled(kRange));
-  });
-}
-
-TEST_F(ImportHTROptionsDialogTest, RangeEnablesTheFramesAndAllDisablesThem) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    EXPECT_TRUE(dialog.IsEnabled(kFrom));
-    EXPECT_TRUE(dialog.IsEnabled(kTo));
-    dialog.Click(kAll);
-    EXPECT_FALSE(dialog.IsEnabled(kFrom));
-    EXPECT_FALSE(dialog.IsEnabled(kTo));
   });
 }
 
@@ -229,49 +180,6 @@ TEST_F(ImportHTROptionsDialogTest, TheSpareControlGoesWithEndEffectors) {
   options_.apply = true;
   handler.Initialize(dialog);
   EXPECT_FALSE(dialog[kSpare].enabled);
-}
-
-TEST_F(ImportHTROptionsDialogTest, CancelEndsItAndSavesNothing) {
-  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kApply);
-    dialog.Click(kCancel);
-    EXPECT_TRUE(dialog.HasEnded());
-  }));
-  EXPECT_FALSE(IsSaved());
-  EXPECT_FALSE(options_.apply);
-}
-
-TEST_F(ImportHTROptionsDialogTest, EscAndCloseBoxDoNothing) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.PressEscape();
-    EXPECT_FALSE(dialog.HasEnded());
-  });
-}
-
-TEST_F(ImportHTROptionsDialogTest, IdsOutsideItsRangeAreIgnored) {
-  test::FakeDialog dialog;
-  ImportHTROptionsDialog handler = Dialog();
-  handler.Initialize(dialog);
-  for (const int id : {1, 2, kBasePosition, kEndEffectors, 1050, 1104, kSetFrameRate}) {
-    handler.Command(dialog, id);
-  }
-  EXPECT_FALSE(dialog.Result());
-  EXPECT_EQ(desk_.Messages(), "");
-}
-
-TEST_F(ImportHTROptionsDialogTest, TheAboutControlShowsTheAboutBox) {
-  desk_.Expect([](host::ScriptedDialog& about) {
-    EXPECT_EQ(about.Title(), "About...");
-    about.Click(kOk);
-  });
-  test::FakeDialog dialog;
-  Dialog().Command(dialog, kAbout);
-  EXPECT_FALSE(dialog.Result());
-}
-
-TEST_F(ImportHTROptionsDialogTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
-  desk_.desktop().RefuseDialog(107);
-  EXPECT_FALSE(Dialog().Show());
 }
 
 TEST_F(ImportHTROptionsDialogTest, OkTakesEverythingOverAndSavesIt) {
@@ -339,10 +247,6 @@ TEST_P(ValidationTest, SaysWhatIsWrongOrAccepts) {
   EXPECT_EQ(IsSaved(), expected.empty());
 }
 
-constexpr char kStart1[] = "Please choose a start frame equal to or greater than 1.";
-constexpr char kEnd100[] = "Please choose an end frame less than or equal to 100.";
-constexpr char kSize[] = "Please choose a non-zero size.";
-constexpr char kScale[] = "Please choose a non-zero scale factor.";
 constexpr char kOrder[] = "Please choose a start frame that is less than the end frame.";
 constexpr char kNothing[] =
     "Please choose either Base Position, Animation, or both when in apply mode.";
@@ -350,106 +254,22 @@ constexpr char kNothing[] =
 INSTANTIATE_TEST_SUITE_P(
     Rules, ValidationTest,
     testing::Values(
-        Attempt{"UnchangedDefaults", {}, {}, ""},
-        Attempt{"StartBelowTheBound", {{kFrom, "0"}}, {}, kStart1},
-        Attempt{"StartThatIsNoNumberReadsAs0", {{kFrom, "abc"}}, {}, kStart1},
-        Attempt{"StartWithALeadingNumber", {{kFrom, " 2x"}}, {}, ""},
-        Attempt{"EndAboveTheBound", {{kTo, "101"}}, {}, kEnd100},
-        Attempt{"EndFarAboveTheBound", {{kTo, "99999999999"}}, {}, kEnd100},
-        Attempt{"SizeZero", {{kSegmentSize, "0"}}, {}, kSize},
-        Attempt{"SizeThatIsNoNumber", {{kSegmentSize, "nan"}}, {}, kSize},
-        Attempt{"SizeTooSmallForSinglePrecision", {{kSegmentSize, "1e-60"}}, {}, kSize},
-        Attempt{"SizeNegative", {{kSegmentSize, "-1"}}, {}, ""},
-        Attempt{"ScaleZero", {{kGlobal, "0.0"}}, {}, kScale},
-        Attempt{"ScaleThatIsNoNumber", {{kGlobal, "abc"}}, {}, kScale},
-        Attempt{"ScaleNegative", {{kGlobal, "-2"}}, {}, ""},
-        Attempt{"EndBelowStart", {{kFrom, "20"}, {kTo, "19"}}, {}, kOrder},
-        Attempt{"EndEqualToStart", {{kFrom, "20"}, {kTo, "20"}}, {}, ""},
         Attempt{"ApplyWithNothingToKey", {}, {kApply, kAnimation}, kNothing},
         Attempt{"CreateWithNothingToKey", {}, {kAnimation}, ""},
         Attempt{"ApplyWithBasePosition", {}, {kApply, kAnimation, kBasePosition}, ""},
         Attempt{"ApplyWithAnimation", {}, {kApply}, ""},
         // Only the first refusal is told.
-        Attempt{"StartBeforeEnd", {{kFrom, "0"}, {kTo, "101"}}, {}, kStart1},
-        Attempt{"EndBeforeSize", {{kTo, "101"}, {kSegmentSize, "0"}}, {}, kEnd100},
-        Attempt{"SizeBeforeScale", {{kSegmentSize, "0"}, {kGlobal, "0"}}, {}, kSize},
-        Attempt{"ScaleBeforeOrder", {{kGlobal, "0"}, {kFrom, "20"}, {kTo, "19"}}, {}, kScale},
         Attempt{"OrderBeforeApply", {{kFrom, "20"}, {kTo, "19"}}, {kApply, kAnimation}, kOrder}),
     [](const auto& attempt) { return attempt.param.name; });
 
-TEST_F(ImportHTROptionsDialogTest, ARefusedFrameIsPutBack) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "0");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kFrom), "1");
-    dialog.Type(kTo, "500");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kTo), "100");
-  });
-}
-
-TEST_F(ImportHTROptionsDialogTest, AnAcceptedFrameNarrowsTheBoundForTheNextAttempt) {
-  Show([this](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "10");
-    dialog.Type(kTo, "90");
-    dialog.Type(kSegmentSize, "0");
-    dialog.Click(kOk);
-    dialog.Type(kFrom, "5");
-    dialog.Type(kSegmentSize, "1");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kFrom), "10");
-    dialog.Type(kTo, "95");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kTo), "90");
-    EXPECT_EQ(desk_.Messages(),
-              "ImportHTR Error: Please choose a non-zero size.\n"
-              "ImportHTR Error: Please choose a start frame equal to or greater than 10.\n"
-              "ImportHTR Error: Please choose an end frame less than or equal to 90.\n");
-  });
-}
-
-TEST_F(ImportHTROptionsDialogTest, FramesAreReadEvenWhenAllIsChosen) {
-  EXPECT_TRUE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "10");
-    dialog.Click(kAll);
-    dialog.Click(kOk);
-  }));
-  EXPECT_FALSE(options_.range);
-  EXPECT_EQ(options_.startFrame, 10);
-}
-
-TEST_F(ImportHTROptionsDialogTest, AFileWithoutFramesIsRefused) {
-  options_.endFrame = 0;
-  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) { dialog.Click(kOk); }));
-  EXPECT_EQ(desk_.Messages(),
-            "ImportHTR Error: Please choose a start frame that is less than the end frame.\n");
-}
-
-TEST_F(ImportHTROptionsDialogTest, WhatAFailedOkTookOverStaysAfterCancel) {
+TEST_F(ImportHTROptionsDialogTest, ARotationControllerOfAFailedOkStaysAfterCancel) {
   EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kApply);
     dialog.Click(kTcb);
-    dialog.Type(kOffset, "4");
     dialog.Type(kGlobal, "0");
     dialog.Click(kOk);
     dialog.Click(kCancel);
   }));
-  EXPECT_TRUE(options_.apply);
   EXPECT_EQ(options_.rotationController, 1);
-  EXPECT_EQ(options_.frameOffset, 4);
-  EXPECT_EQ(options_.scaleFactor, 0.0);
-  EXPECT_FALSE(IsSaved());
-}
-
-TEST_F(ImportHTROptionsDialogTest, TextsAreReadTo255Characters) {
-  EXPECT_TRUE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Type(kOffset, std::string(254, '0') + "12");
-    dialog.Click(kOk);
-  }));
-  EXPECT_EQ(options_.frameOffset, 1);
 }
 
 TEST_F(ImportHTROptionsDialogTest, StoredNumbersThatAreNoneAreShownAndRefused) {

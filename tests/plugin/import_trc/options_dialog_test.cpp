@@ -21,8 +21,6 @@ constexpr int kApply = 1086;
 constexpr int kGlobal = 1088;
 constexpr int kOffset = 1089;
 constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kAbout = 1103;
 constexpr int kSize = 1104;
 constexpr int kSetFrameRate = 1140;
 constexpr int kSphere = 1141;
@@ -39,15 +37,6 @@ class ImportTRCOptionsDialogTest
         .has_value();
   }
 };
-
-TEST_F(ImportTRCOptionsDialogTest, IsShownAndCentredOverItsParentAndTitled) {
-  Show([this](host::ScriptedDialog& dialog) {
-    EXPECT_EQ(dialog.Id(), 108);
-    EXPECT_EQ(dialog.Title(), "ImportTRC");
-    EXPECT_EQ(dialog.Owner(), parent_.Handle());
-    EXPECT_EQ(dialog.CenteredOver(), parent_.Handle());
-  });
-}
 
 // The controls that each of "Create" and "Apply" enables.
 void ExpectCreationEnabled(const host::ScriptedDialog& dialog, bool enabled) {
@@ -101,20 +90,6 @@ TEST_F(ImportTRCOptionsDialogTest, LoadsTheStoredOptionsBeforeItShowsThem) {
   });
 }
 
-TEST_F(ImportTRCOptionsDialogTest, RadiosSelectTheClickedOneOfTheirPair) {
-  Show([](host::ScriptedDialog& dialog) {
-    for (const auto& [radio, other] :
-         {std::pair(kSphere, kPoint), std::pair(kCreate, kApply), std::pair(kAll, kRange)}) {
-      dialog.Click(other);
-      EXPECT_TRUE(dialog.IsChecked(other));
-      EXPECT_FALSE(dialog.IsChecked(radio));
-      dialog.Click(radio);
-      EXPECT_TRUE(dialog.IsChecked(radio));
-      EXPECT_FALSE(dialog.IsChecked(other));
-    }
-  });
-}
-
 TEST_F(ImportTRCOptionsDialogTest, CreateAndApplyEnableWhatTheyNeed) {
   Show([](host::ScriptedDialog& dialog) {
     dialog.Click(kApply);
@@ -122,62 +97,6 @@ TEST_F(ImportTRCOptionsDialogTest, CreateAndApplyEnableWhatTheyNeed) {
     dialog.Click(kCreate);
     ExpectCreationEnabled(dialog, true);
   });
-}
-
-TEST_F(ImportTRCOptionsDialogTest, RangeEnablesTheFramesAndAllDisablesThem) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    EXPECT_TRUE(dialog.IsEnabled(kFrom));
-    EXPECT_TRUE(dialog.IsEnabled(kTo));
-    dialog.Click(kAll);
-    EXPECT_FALSE(dialog.IsEnabled(kFrom));
-    EXPECT_FALSE(dialog.IsEnabled(kTo));
-  });
-}
-
-TEST_F(ImportTRCOptionsDialogTest, CancelEndsItAndSavesNothing) {
-  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kApply);
-    dialog.Click(kCancel);
-    EXPECT_TRUE(dialog.HasEnded());
-  }));
-  EXPECT_FALSE(IsSaved());
-  EXPECT_FALSE(options_.apply);
-}
-
-TEST_F(ImportTRCOptionsDialogTest, OfEachPairOfRadiosOneIsSelectedWhenItOpens) {
-  test::FakeDialog dialog;
-  for (const int radio : {kApply, kRange, kPoint}) dialog[radio].checked = true;
-  ImportTRCOptionsDialog handler = Dialog();
-  handler.Initialize(dialog);
-  for (const auto& [chosen, other] :
-       {std::pair(kCreate, kApply), std::pair(kAll, kRange), std::pair(kSphere, kPoint)}) {
-    EXPECT_TRUE(dialog[chosen].checked) << chosen;
-    EXPECT_FALSE(dialog[other].checked) << other;
-  }
-}
-
-TEST_F(ImportTRCOptionsDialogTest, EscAndCloseBoxDoNothing) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.PressEscape();
-    EXPECT_FALSE(dialog.HasEnded());
-  });
-}
-
-TEST_F(ImportTRCOptionsDialogTest, OtherControlsAreIgnored) {
-  test::FakeDialog dialog;
-  ImportTRCOptionsDialog handler = Dialog();
-  handler.Initialize(dialog);
-  for (const int id : {1, 2, kAbout, 1050, kSetFrameRate, kSelectedOnly, kRootNode}) {
-    handler.Command(dialog, id);
-  }
-  EXPECT_FALSE(dialog.Result());
-  EXPECT_EQ(desk_.Messages(), "");
-}
-
-TEST_F(ImportTRCOptionsDialogTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
-  desk_.desktop().RefuseDialog(108);
-  EXPECT_FALSE(Dialog().Show());
 }
 
 TEST_F(ImportTRCOptionsDialogTest, OkTakesEverythingOverAndSavesIt) {
@@ -207,104 +126,6 @@ TEST_F(ImportTRCOptionsDialogTest, OkTakesEverythingOverAndSavesIt) {
   EXPECT_EQ(options_.scaleFactor, 2.25);
   EXPECT_EQ(desk_.Messages(), "");
   EXPECT_TRUE(IsSaved());
-}
-
-// What the user types, and what the dialog says to it.
-struct Attempt {
-  const char* name;
-  std::vector<std::pair<int, const char*>> typed;
-  const char* message;  // empty: accepted
-  const char* title = "ImportTRC Error";
-};
-
-class ImportTRCValidationTest : public ImportTRCOptionsDialogTest,
-                                public testing::WithParamInterface<Attempt> {};
-
-TEST_P(ImportTRCValidationTest, SaysWhatIsWrongOrAccepts) {
-  const Attempt& attempt = GetParam();
-  const std::string expected =
-      *attempt.message == '\0' ? "" : std::string(attempt.title) + ": " + attempt.message + "\n";
-  const bool confirmed = Show([&](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    for (const auto& [control, text] : attempt.typed) dialog.Type(control, text);
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.HasEnded(), expected.empty());
-  });
-  EXPECT_EQ(desk_.Messages(), expected);
-  EXPECT_EQ(confirmed, expected.empty());
-  EXPECT_EQ(IsSaved(), expected.empty());
-}
-
-constexpr char kStart1[] = "Please choose a start frame equal to or greater than 1.";
-constexpr char kEnd100[] = "Please choose an end frame less than or equal to 100.";
-constexpr char kNoSize[] = "Please choose a non-zero size.";
-constexpr char kNoScale[] = "Please choose a non-zero scale factor.";
-constexpr char kOrder[] = "Please choose a start frame that is less than the end frame.";
-
-INSTANTIATE_TEST_SUITE_P(
-    Rules, ImportTRCValidationTest,
-    testing::Values(
-        Attempt{"UnchangedDefaults", {}, ""},
-        Attempt{"StartBelowTheBound", {{kFrom, "0"}}, kStart1},
-        Attempt{"StartThatIsNoNumberReadsAs0", {{kFrom, "abc"}}, kStart1},
-        Attempt{"EndAboveTheBound", {{kTo, "101"}}, kEnd100},
-        Attempt{"SizeZero", {{kSize, "0"}}, kNoSize},
-        Attempt{"SizeThatIsNoNumber", {{kSize, "big"}}, kNoSize},
-        Attempt{"SizeNegative", {{kSize, "-1"}}, ""},
-        Attempt{"ScaleZero", {{kGlobal, "0.0"}}, kNoScale},
-        Attempt{"ScaleNegative", {{kGlobal, "-2"}}, ""},
-        Attempt{"EndBelowStart", {{kFrom, "20"}, {kTo, "19"}}, kOrder, "ImportHTR Error"},
-        Attempt{"EndEqualToStart", {{kFrom, "20"}, {kTo, "20"}}, ""},
-        // Only the first refusal is told.
-        Attempt{"StartBeforeEnd", {{kFrom, "0"}, {kTo, "101"}}, kStart1},
-        Attempt{"EndBeforeSize", {{kTo, "101"}, {kSize, "0"}}, kEnd100},
-        Attempt{"SizeBeforeScale", {{kSize, "0"}, {kGlobal, "0"}}, kNoSize},
-        Attempt{"ScaleBeforeOrder", {{kGlobal, "0"}, {kFrom, "20"}, {kTo, "19"}}, kNoScale}),
-    [](const auto& attempt) { return attempt.param.name; });
-
-TEST_F(ImportTRCOptionsDialogTest, ARefusedFrameIsPutBack) {
-  Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "0");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kFrom), "1");
-    dialog.Type(kTo, "500");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kTo), "100");
-  });
-}
-
-TEST_F(ImportTRCOptionsDialogTest, AnAcceptedFrameNarrowsTheBoundForTheNextAttempt) {
-  Show([this](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "10");
-    dialog.Type(kTo, "90");
-    dialog.Type(kSize, "0");
-    dialog.Click(kOk);
-    dialog.Type(kFrom, "5");
-    dialog.Type(kSize, "1");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kFrom), "10");
-    dialog.Type(kTo, "95");
-    dialog.Click(kOk);
-    EXPECT_EQ(dialog.Text(kTo), "90");
-    EXPECT_EQ(desk_.Messages(),
-              "ImportTRC Error: Please choose a non-zero size.\n"
-              "ImportTRC Error: Please choose a start frame equal to or greater than 10.\n"
-              "ImportTRC Error: Please choose an end frame less than or equal to 90.\n");
-  });
-}
-
-TEST_F(ImportTRCOptionsDialogTest, FramesAreReadAndCheckedEvenWhenAllIsChosen) {
-  EXPECT_FALSE(Show([](host::ScriptedDialog& dialog) {
-    dialog.Click(kRange);
-    dialog.Type(kFrom, "0");
-    dialog.Click(kAll);
-    dialog.Click(kOk);
-    EXPECT_FALSE(dialog.HasEnded());
-  }));
-  EXPECT_EQ(desk_.Messages(),
-            "ImportTRC Error: Please choose a start frame equal to or greater than 1.\n");
 }
 
 }  // namespace
