@@ -8,7 +8,7 @@ void HtrDocument::Clear() {
   by_name_.clear();
   segments_.clear();
   expected_ = 0;
-  calibration_units_ = kMillimetres;
+  calibration_units_ = kMillimeters;
   rotation_units_ = kDegrees;
   bone_length_axis_ = kAxisY;
   global_axis_of_gravity_ = kAxisY;

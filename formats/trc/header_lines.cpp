@@ -43,7 +43,7 @@ std::int32_t TakeUnits(TRCFields& fields, const TRCOddities& oddities) {
   const std::optional<std::uint32_t> code = FindCalibrationUnits(field);
   if (code && !carries_break) return static_cast<std::int32_t>(*code);
   oddities.Report(code ? TRCOddity::kUnitsEndTheLine : TRCOddity::kUnknownUnits, number, field);
-  return static_cast<std::int32_t>(kMillimetres);
+  return static_cast<std::int32_t>(kMillimeters);
 }
 
 void AddNamedMarker(std::string_view name, std::size_t field, TRCDocument& document,

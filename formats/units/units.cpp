@@ -91,7 +91,7 @@ std::optional<std::uint32_t> FindAxis(std::string_view keyword) {
 }
 
 std::uint32_t ParseCalibrationUnits(std::string_view keyword) {
-  return FindCalibrationUnits(keyword).value_or(kMillimetres);
+  return FindCalibrationUnits(keyword).value_or(kMillimeters);
 }
 
 std::uint32_t ParseRotationUnits(std::string_view keyword) {

@@ -15,7 +15,7 @@
 // is not in its list; each Parse function returns the default code for it.
 namespace orvane {
 
-inline constexpr std::uint32_t kMillimetres = 0;
+inline constexpr std::uint32_t kMillimeters = 0;
 inline constexpr std::uint32_t kDegrees = 0;
 inline constexpr std::uint32_t kAxisX = 0;
 inline constexpr std::uint32_t kAxisY = 1;

@@ -12,7 +12,7 @@ namespace {
 constexpr std::size_t kNoPair = std::numeric_limits<std::size_t>::max();
 
 double MillimetresPerUnit(const HtrDocument& document) {
-  return LengthFactor(document.GetCalibrationUnits(), orvane::kMillimetres);
+  return LengthFactor(document.GetCalibrationUnits(), orvane::kMillimeters);
 }
 
 double NumberOrInfinity(double difference) {

@@ -97,7 +97,7 @@ TYPED_TEST(OptionsDialogTest, IsShownAndCenteredOverItsParentAndTitled) {
     EXPECT_EQ(dialog.Id(), TypeParam::kId);
     EXPECT_EQ(dialog.Title(), TypeParam::kName);
     EXPECT_EQ(dialog.Owner(), this->parent_.Handle());
-    EXPECT_EQ(dialog.CentredOver(), this->parent_.Handle());
+    EXPECT_EQ(dialog.CenteredOver(), this->parent_.Handle());
     EXPECT_FALSE(dialog.Has(kAbout));
   });
 }
