@@ -5,10 +5,7 @@
 #include <string>
 
 #include "formats/htr/writer.h"
-#include "plugin/exchange/attempt.h"
-#include "plugin/exchange/failure_report.h"
-#include "plugin/exchange/host_modes.h"
-#include "plugin/exchange/progress_bar.h"
+#include "formats/units/units.h"
 #include "plugin/export_htr/export_root.h"
 #include "plugin/export_htr/options_dialog.h"
 #include "plugin/export_htr/skeleton_sampler.h"
@@ -18,78 +15,56 @@
 namespace orvane {
 namespace {
 
-constexpr char kExportHTRError[] = "ExportHTR Error";
-constexpr FailureTexts kFailure{kExportHTRError,
-                                "There is not enough memory to export the skeleton.",
-                                "An unexpected error ended the export."};
-
-constexpr std::uint32_t kMillimeters = 0;
-constexpr std::uint32_t kDegrees = 0;
+constexpr FileClassTexts kTexts{
+    "HTR",
+    "Orvane HTR Skeletal Animation File",
+    "Orvane HTR File",
+    "Orvane ExportHTR",
+    {"ExportHTR Error", "There is not enough memory to export the skeleton.",
+     "An unexpected error ended the export."}};
 
 }  // namespace
+
+ExportHTR::ExportHTR(ExportHTROptions& options, MessageSink& messages, HINSTANCE module)
+    : FileClass(kTexts, messages, module), options_(options) {}
 
 int ExportHTR::DoExport(const char* name, ExpInterface* /*export_interface*/, Interface* interface,
                         int suppress_prompts, std::uint32_t /*options*/) {
   if (name == nullptr || interface == nullptr) return 0;
-  try {
-    file_name_ = name;
-    interface_ = interface;
-    return Export(suppress_prompts != 0);
-  } catch (...) {
-    Attempt([this] { document_.Clear(); });
-    ReportFailure(messages_, kFailure);
-    return 0;
-  }
+  return Run(name, *interface, suppress_prompts != 0) == Outcome::kFailed ? 0 : 1;
 }
 
-// Intended: a failure keeps the document and leaves the host's modes suspended, and cancelling
-// leaves them suspended too.
-int ExportHTR::Export(bool suppress_prompts) {
-  SuspendHostModes(*interface_);
-  Outcome outcome = Outcome::kFailed;
-  {
-    const OpenProgressBar progress(*interface_, "Orvane ExportHTR");
-    outcome = Work(suppress_prompts);
-  }
-  if (outcome == Outcome::kFailed) return 0;
-  document_.Clear();
-  if (outcome == Outcome::kDone) ResumeHostModes();
-  return 1;
-}
+void ExportHTR::ForgetDocument() { document_.Clear(); }
 
-ExportHTR::Outcome ExportHTR::Work(bool suppress_prompts) {
-  interface_->ProgressUpdate(0);
+ExportHTR::Outcome ExportHTR::Work() {
+  Host().ProgressUpdate(0);
   SetFrameBounds();
-  if (!suppress_prompts && !ConfirmOptions()) return Outcome::kCancelled;
+  if (!ConfirmIn<ExportHTROptionsDialog>(options_)) return Outcome::kCanceled;
   if (!BuildDocument()) return Outcome::kFailed;
-  interface_->ProgressUpdate(90);
+  Host().ProgressUpdate(90);
   if (!WriteFile()) return Outcome::kFailed;
-  interface_->ProgressUpdate(100);
+  Host().ProgressUpdate(100);
   return Outcome::kDone;
 }
 
 // Frames that the animation range begins and ends in, towards frame 0.
 void ExportHTR::SetFrameBounds() {
-  const Interval range = interface_->GetAnimRange();
+  const Interval range = Host().GetAnimRange();
   const int ticks_per_frame = GetTicksPerFrame();
   options_.SetFrameBounds(range.Start() / ticks_per_frame, range.End() / ticks_per_frame);
 }
 
-bool ExportHTR::ConfirmOptions() {
-  return ExportHTROptionsDialog(options_, messages_, interface_->GetSkelderHWnd(), module_).Show();
-}
-
 bool ExportHTR::BuildDocument() {
-  const ExportRoot root = FindExportRoot(*interface_);
+  const ExportRoot root = FindExportRoot(Host());
   if (root.node == nullptr) {
-    messages_.Report(root.refusal.c_str(), "Export Error");
+    Messages().Report(root.refusal.c_str(), "Export Error");
     return false;
   }
   document_.Clear();
   document_.SetDataFrameRate(kTicksPerSecond / GetTicksPerFrame());
   document_.SetCalibrationUnits(kMillimeters);
   if (options_.animate) document_.SetNumFrames(FrameCount());
-  SkeletonSampler sampler(*interface_, options_, messages_, document_);
+  SkeletonSampler sampler(Host(), options_, Messages(), document_);
   if (!sampler.Sample(*root.node)) return false;
   document_.SetRotationUnits(kDegrees);
   document_.ScaleLengths(GetMasterScale(kUnitTypeMillimeters) * options_.scaleFactor);
@@ -106,10 +81,8 @@ std::uint32_t ExportHTR::FrameCount() const {
 }
 
 bool ExportHTR::WriteFile() {
-  const std::string failure = WriteHtrFile(document_, file_name_.data());
-  if (failure.empty()) return true;
-  messages_.Report(failure.c_str(), kExportHTRError);
-  return false;
+  const std::string failure = WriteHtrFile(document_, FileName());
+  return failure.empty() || Refuse(failure.c_str());
 }
 
 }  // namespace orvane

@@ -3,6 +3,10 @@
    the same in several dialogs has the same number in all of them. */
 #pragma once
 
+/* What the product says about itself, in its resources and to the host. The version is not here: it
+   comes from the project's. */
+#define ORVANE_COPYRIGHT "Copyright (c) 2026 The OrvaneFileIO authors"
+
 /* String table. */
 #define IDS_LIBRARY_DESCRIPTION 1
 #define IDS_CATEGORY 2

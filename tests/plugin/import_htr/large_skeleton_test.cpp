@@ -2,7 +2,7 @@
 
 #include <string>
 
-#include "plugin/exchange/progress_bar.h"
+#include "plugin/exchange/host_session.h"
 #include "plugin/import_htr/motion_applier.h"
 #include "plugin/import_htr/skeleton_creator.h"
 #include "tests/plugin/import_htr/skeleton_fixture.h"

@@ -1,4 +1,4 @@
-#include "plugin/exchange/progress_bar.h"
+#include "plugin/exchange/host_session.h"
 
 #include <gtest/gtest.h>
 
@@ -9,6 +9,25 @@
 
 namespace orvane {
 namespace {
+
+TEST(HostModesTest, AreSuspendedAndPlaybackStops) {
+  host::Application application;
+  host::AnimationState& animation = application.scene().Animation();
+  animation.AnimateMode().Set(true);
+  animation.SetKeyMode().Set(true);
+  application.StartPlayback();
+
+  SuspendHostModes(application.plugin_interface());
+  EXPECT_FALSE(animation.AnimateMode().IsOn());
+  EXPECT_FALSE(animation.SetKeyMode().IsOn());
+  EXPECT_FALSE(application.IsPlaybackRunning());
+
+  ResumeHostModes();
+  EXPECT_TRUE(animation.AnimateMode().IsOn());
+  EXPECT_TRUE(animation.SetKeyMode().IsOn());
+  EXPECT_FALSE(application.IsPlaybackRunning());
+  EXPECT_EQ(animation.AnimateMode().SuspendDepth() + animation.SetKeyMode().SuspendDepth(), 0U);
+}
 
 TEST(ProgressBarTest, IsOpenAsLongAsItLivesAndNeverStopsTheWork) {
   host::Application application;
