@@ -5,7 +5,12 @@
 namespace orvane {
 namespace {
 
-constexpr int kCommit = 1;
+bool SetValue(Control* controller, TimeValue time, const void* value) {
+  constexpr int kCommit = 1;
+  if (controller == nullptr || controller->CanAcceptValue() == 0) return false;
+  controller->SetValue(time, value, kCommit, CTRL_ABSOLUTE);
+  return true;
+}
 
 }  // namespace
 
@@ -19,10 +24,12 @@ Control* RotationController(INode& node) {
   return transform == nullptr ? nullptr : transform->GetRotationController();
 }
 
-bool SetControllerValue(Control* controller, TimeValue time, const void* value) {
-  if (controller == nullptr || controller->CanAcceptValue() == 0) return false;
-  controller->SetValue(time, value, kCommit, CTRL_ABSOLUTE);
-  return true;
+bool SetPosition(Control* controller, TimeValue time, const Point3& position) {
+  return SetValue(controller, time, &position);
+}
+
+bool SetRotation(Control* controller, TimeValue time, const Quat& rotation) {
+  return SetValue(controller, time, &rotation);
 }
 
 void ClearKeys(Control* first, Control* second, const KeyTimes& times) {

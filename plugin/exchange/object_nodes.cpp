@@ -1,5 +1,6 @@
 #include "plugin/exchange/object_nodes.h"
 
+#include <cassert>
 #include <utility>
 
 #include "sdk/core/object.h"
@@ -7,6 +8,7 @@
 namespace orvane {
 
 INode* CreateNodeFor(Interface& interface, OwnedInstance<Object> object) {
+  assert(object != nullptr);
   INode* const node = interface.CreateObjectNode(object.get());
   if (node != nullptr) (void)object.release();
   return node;

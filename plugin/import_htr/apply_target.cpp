@@ -25,16 +25,6 @@ bool AnyCharacterNodeSelected(Interface& interface) {
   return false;
 }
 
-// Intended: a node without a bone among its children is taken as it is, and no name is looked at.
-INode& FirstBoneChildOrSelf(INode& node) {
-  const int count = node.NumberOfChildren();
-  for (int i = 0; i < count; ++i) {
-    INode* child = node.GetChildNode(i);
-    if (child != nullptr && IsBone(*child)) return *child;
-  }
-  return node;
-}
-
 ApplyTarget Refuse(const char* message) { return {nullptr, nullptr, message}; }
 
 }  // namespace
@@ -48,7 +38,10 @@ ApplyTarget FindApplyTarget(Interface& interface, HtrDocument& document) {
     return Refuse("You can't import .htr directly onto a biped node.");
   }
   if (!IsBone(*selected)) {
-    return {&FirstBoneChildOrSelf(*selected), document.FindRootSegment(), {}};
+    // Intended: a node without a bone among its children is taken as it is, and no name is looked
+    // at.
+    INode* const bone = FirstBoneChild(*selected);
+    return {bone == nullptr ? selected : bone, document.FindRootSegment(), {}};
   }
   HtrSegment* branch = document.FindSegment(selected->GetName());
   if (branch == nullptr) {

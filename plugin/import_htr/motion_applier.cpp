@@ -2,18 +2,31 @@
 
 #include <vector>
 
-#include "plugin/import_htr/bone_children.h"
+#include "plugin/exchange/nodes_by_name.h"
 #include "plugin/import_htr/segment_keyer.h"
+#include "plugin/skeleton/bone.h"
 
 namespace orvane {
 namespace {
 
+// The bones among the children of `node`.
+NodesByName BoneChildren(INode& node) {
+  NodesByName bones;
+  const int count = node.NumberOfChildren();
+  for (int i = 0; i < count; ++i) {
+    INode* child = node.GetChildNode(i);
+    if (child != nullptr && IsBone(*child)) bones.Add(*child);
+  }
+  return bones;
+}
+
 // A segment that is keyed, and whose children are being so.
 struct OpenSegment {
-  OpenSegment(INode& node, const HtrSegment& its_segment) : segment(its_segment), bones(node) {}
+  OpenSegment(INode& node, const HtrSegment& its_segment)
+      : segment(its_segment), bones(BoneChildren(node)) {}
 
   const HtrSegment& segment;
-  BoneChildren bones;
+  NodesByName bones;
   int next_child = 0;
 };
 

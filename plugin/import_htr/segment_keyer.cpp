@@ -1,8 +1,7 @@
 #include "plugin/import_htr/segment_keyer.h"
 
 #include "plugin/exchange/node_controllers.h"
-#include "plugin/exchange/owned_instance.h"
-#include "plugin/import_htr/controllers.h"
+#include "plugin/exchange/object_nodes.h"
 #include "sdk/core/animation.h"
 
 namespace orvane {
@@ -77,11 +76,11 @@ bool SegmentKeyer::KeyTranslation(TimeValue time, const Vector3& translation) {
   const double factor = options_.scaleFactor / parent_scale_.Ask();
   const Vector3 scaled(translation.x() * factor, translation.y() * factor,
                        translation.z() * factor);
-  return SetPosition(position_, time, axes_.HostPosition(scaled));
+  return SetPosition(position_, time, HostPoint(axes_.HostPosition(scaled)));
 }
 
 bool SegmentKeyer::KeyRotation(TimeValue time, const RotationMatrix3& rotation) {
-  return SetRotation(rotation_, time, Quaternion(axes_.HostRotation(rotation)));
+  return SetRotation(rotation_, time, HostQuaternion(Quaternion(axes_.HostRotation(rotation))));
 }
 
 }  // namespace orvane

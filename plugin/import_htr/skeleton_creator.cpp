@@ -2,7 +2,6 @@
 
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/node_controllers.h"
-#include "plugin/import_htr/controllers.h"
 #include "plugin/skeleton/axis_conversion.h"
 #include "plugin/skeleton/bone.h"
 
@@ -19,14 +18,16 @@ bool PlaceBone(INode& node, const HtrSegment& segment, TimeValue time) {
   node.SetUserPropertyFloat(kBaseTranslationY, static_cast<float>(translation.y()));
   node.SetUserPropertyFloat(kBaseTranslationZ, static_cast<float>(translation.z()));
   // Intended: the global scale, which sizes bones and keyed translations, does not enter here.
-  if (!SetPosition(PositionController(node), time, axes.HostPosition(translation))) return false;
+  const Point3 position = HostPoint(axes.HostPosition(translation));
+  if (!SetPosition(PositionController(node), time, position)) return false;
 
   EulerRotation rotation = segment.GetBaseRotation();
   node.SetUserPropertyFloat(kBaseRotationX, static_cast<float>(rotation[0]));
   node.SetUserPropertyFloat(kBaseRotationY, static_cast<float>(rotation[1]));
   node.SetUserPropertyFloat(kBaseRotationZ, static_cast<float>(rotation[2]));
   rotation.Set(axes.HostRotation(RotationMatrix3(rotation)));
-  if (!SetRotation(RotationController(node), time, Quaternion(rotation))) return false;
+  if (!SetRotation(RotationController(node), time, HostQuaternion(Quaternion(rotation))))
+    return false;
 
   node.SetUserPropertyFloat(kBaseLength, static_cast<float>(segment.GetBoneLength()));
   return true;

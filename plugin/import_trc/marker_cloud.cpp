@@ -105,7 +105,7 @@ bool MarkerCloud::KeyFrames(const TRCMarker& marker, Control* position) {
   for (std::int64_t frame = times_->BeginFrame(); frame < times_->EndFrame(); ++frame) {
     const auto index = static_cast<std::size_t>(first_sample + frame);
     const Point3 value = HostPosition(marker, index, options_.scaleFactor);
-    if (!SetControllerValue(position, *times_->Tick(frame), &value)) return false;
+    if (!SetPosition(position, *times_->Tick(frame), value)) return false;
   }
   return true;
 }

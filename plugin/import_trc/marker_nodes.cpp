@@ -3,7 +3,6 @@
 #include <utility>
 
 #include "plugin/exchange/object_nodes.h"
-#include "plugin/exchange/wire_color.h"
 #include "sdk/core/cstr.h"
 #include "sdk/core/object.h"
 #include "sdk/paramblk2/parameter_block.h"

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <string>
-#include <unordered_map>
 
+#include "plugin/exchange/nodes_by_name.h"
 #include "sdk/core/interface.h"
 
 // The objects of the scene that marker motion may be applied to: the selected nodes and their
@@ -17,15 +17,13 @@ class SelectedNodes {
 
   // The first node of exactly that name, in constant time: each selected node comes before its
   // children and these before the next selected node. Null when there is none.
-  INode* Find(const std::string& name) const;
+  INode* Find(const std::string& name) const { return nodes_.Find(name); }
 
   // The last selected node; null when nothing is selected.
   INode* Last() const { return last_; }
 
  private:
-  void Add(INode& node);
-
-  std::unordered_map<std::string, INode*> by_name_;
+  NodesByName nodes_;
   INode* last_ = nullptr;
 };
 

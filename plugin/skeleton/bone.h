@@ -18,4 +18,7 @@ inline constexpr char kBaseLength[] = "HTRBaseLength";
 // Whether the object of `node` is a bone.
 bool IsBone(INode& node);
 
+// The first bone among the children of `node`; null when there is none.
+INode* FirstBoneChild(INode& node);
+
 }  // namespace orvane

@@ -3,7 +3,7 @@
 #include "platform/file_dialog.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
-#include "plugin/exchange/wire_color.h"
+#include "plugin/exchange/object_nodes.h"
 #include "plugin/utilities/mapping_file_dialog.h"
 
 namespace orvane {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "plugin/utilities/exit_skelder_callback.h"
 #include "plugin/utilities/pick_control_node.h"
+#include "sdk/core/callbacks.h"
 #include "sdk/core/interface.h"
 
 // One pick while it waits for the user: the host's pick mode is on, and the host tells when it
@@ -29,6 +29,16 @@ class PendingPick {
   void End() noexcept;
 
  private:
+  class ExitSkelderCallback final : public ::ExitSkelderCallback {
+   public:
+    void HostExiting(HWND /*window*/) override { exiting_ = true; }
+
+    bool HostIsExiting() const { return exiting_; }
+
+   private:
+    bool exiting_ = false;
+  };
+
   Interface& interface_;
   PickControlNode& pick_;
   ExitSkelderCallback exit_;

@@ -28,20 +28,20 @@ TEST_F(NodeControllersTest, TheSceneRootHasNone) {
 
 TEST_F(NodeControllersTest, TakeAValueUnlessTheyRefuse) {
   const Point3 value(1, 2, 3);
-  EXPECT_TRUE(SetControllerValue(&position_, 0, &value));
+  EXPECT_TRUE(SetPosition(&position_, 0, value));
   EXPECT_EQ(position_.ValueAt(0), value);
   application_.scene().Faults().RefuseQuery(1);
   const Point3 other(4, 5, 6);
-  EXPECT_FALSE(SetControllerValue(&position_, 0, &other));
+  EXPECT_FALSE(SetPosition(&position_, 0, other));
   EXPECT_EQ(position_.ValueAt(0), value);
-  EXPECT_FALSE(SetControllerValue(nullptr, 0, &other));
+  EXPECT_FALSE(SetPosition(nullptr, 0, other));
 }
 
 TEST_F(NodeControllersTest, LoseTheKeysOfEveryTickButNoOthers) {
   const Point3 value(1, 2, 3);
   AnimateOn();
   for (const TimeValue tick : {-1, 0, 1, 159, 160, 319, 320, 321}) {
-    SetControllerValue(&position_, tick, &value);
+    ASSERT_TRUE(SetPosition(&position_, tick, value));
   }
   ClearKeys(nullptr, &position_, KeyTimes(160, 0, 2));
   ASSERT_EQ(position_.KeyCount(), 3u);

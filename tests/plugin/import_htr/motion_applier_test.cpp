@@ -88,6 +88,17 @@ TEST_F(MotionApplierTest, OtherChildrenOfTheSceneKeepTheirAnimation) {
   EXPECT_FALSE(IsKeyed(dummy));
 }
 
+TEST_F(MotionApplierTest, TheFirstOfSeveralBonesOfOneNameIsKeyed) {
+  HtrSegment& hips = AddMoving("Hips");
+  AddMoving("Leg", &hips);
+  host::Node& hips_bone = AddBone("Hips");
+  host::Node& first = AddBone("Leg", &hips_bone);
+  host::Node& second = AddBone("Leg", &hips_bone);
+  EXPECT_TRUE(Apply(hips_bone, hips));
+  EXPECT_TRUE(IsKeyed(first));
+  EXPECT_FALSE(IsKeyed(second));
+}
+
 TEST_F(MotionApplierTest, ProgressGoesFrom10To100AsSegmentsAreFinished) {
   // Finished in the order Foot, Leg, Arm, Hips, of five segments.
   HtrSegment& hips = AddMoving("Hips");
