@@ -18,9 +18,6 @@ class Option;
 
 namespace cli {
 
-// The buttons of every options dialog.
-inline constexpr DialogButtons kOptionsButtons{1097, 1098};
-
 using Wishes = std::vector<ControlWish>;
 
 // A flag that makes `wish`, by the name that it has there.

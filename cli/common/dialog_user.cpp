@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "cli/common/failure.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
@@ -33,14 +34,13 @@ void CarryOut(const ControlWish& wish, host::ScriptedDialog& dialog) {
 
 }  // namespace
 
-void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes,
-               const DialogButtons& buttons) {
+void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes) {
   std::stable_sort(
       wishes.begin(), wishes.end(),
       [](const ControlWish& left, const ControlWish& right) { return left.kind < right.kind; });
   for (const ControlWish& wish : wishes) CarryOut(wish, dialog);
-  dialog.Click(buttons.ok);
-  if (!dialog.HasEnded()) dialog.Click(buttons.cancel);
+  dialog.Click(IDC_OK);
+  if (!dialog.HasEnded()) dialog.Click(IDC_CANCEL);
 }
 
 }  // namespace cli

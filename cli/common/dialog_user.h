@@ -25,16 +25,9 @@ struct ControlWish {
   std::string disabled_by;  // what disables the control, for the message; may be empty
 };
 
-// The two buttons that end a dialog.
-struct DialogButtons {
-  int ok = 0;
-  int cancel = 0;
-};
-
 // Carries out `wishes`, each kind in the given order, and presses OK; presses Cancel when the
 // dialog refuses and stays open. Throws a Failure for a wish whose control is disabled
 // or missing.
-void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes,
-               const DialogButtons& buttons);
+void UseDialog(host::ScriptedDialog& dialog, std::vector<ControlWish> wishes);
 
 }  // namespace cli

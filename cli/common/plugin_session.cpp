@@ -6,7 +6,6 @@
 #include <optional>
 #include <string_view>
 
-#include "cli/common/dialog_flags.h"
 #include "cli/common/progress_line.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
@@ -85,8 +84,7 @@ bool PluginSession::ExportHtr(const std::string& file, const std::vector<Control
 bool PluginSession::Run(const Task& task, const std::vector<ControlWish>& wishes,
                         bool show_progress, const Entry& entry) {
   desktop_->SetUser(
-      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes, kOptionsButtons); },
-       PressOk});
+      {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes); }, PressOk});
   ProgressLine line(task.title + platform::TextOf(platform::PathOf(task.file).filename()),
                     show_progress);
   application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {

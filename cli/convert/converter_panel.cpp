@@ -4,28 +4,12 @@
 
 #include "cli/common/failure.h"
 #include "platform/interrupt.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
 
 constexpr char kUtility[] = "OrvaneUtilities";
-constexpr int kPage = 116;
-
-// The controls of the page, by their ids.
-enum Control : int {
-  kTrcSpace = 1124,
-  kSkelderSpace = 1125,
-  kBrowseMapping = 1132,
-  kBrowseOutput = 1134,
-  kConvert = 1200,
-  kBatch = 1201,
-  kUseTrcName = 1202,
-  kUseMapping = 1204,
-  kEnableOffset = 1205,
-  kOffsetX = 1206,
-  kOffsetY = 1207,
-  kOffsetZ = 1208
-};
 
 int PressOk(const host::UserMessage&) { return platform::kMessageBoxOk; }
 
@@ -61,17 +45,17 @@ void ConverterPanel::ConvertBatch(const std::vector<std::string>& sources,
                                   const std::string& target) {
   sources_ = sources;
   target_folder_ = target;
-  SetCheckBox(kBatch, true);
-  Click(kBrowseOutput);
-  Click(kConvert);
+  SetCheckBox(IDC_BATCH, true);
+  Click(IDC_BROWSE_OUTPUT);
+  Click(IDC_CONVERT);
 }
 
 void ConverterPanel::ConvertOne(const std::string& source, const std::string& target) {
   sources_ = {source};
   target_file_ = target;
-  SetCheckBox(kBatch, false);
-  SetCheckBox(kUseTrcName, false);
-  Click(kConvert);
+  SetCheckBox(IDC_BATCH, false);
+  SetCheckBox(IDC_TRC_NAME, false);
+  Click(IDC_CONVERT);
 }
 
 std::vector<std::string> ConverterPanel::TakeMessages() {
@@ -93,17 +77,17 @@ host::FileChoice ConverterPanel::ChooseFiles(const host::ShownFileDialog& dialog
 }
 
 void ConverterPanel::SetControls(const PanelWishes& wishes) {
-  SetCheckBox(kUseMapping, wishes.use_mapping);
-  Click(kBrowseMapping);
-  SetCheckBox(kEnableOffset, wishes.offset.has_value());
+  SetCheckBox(IDC_FILTER, wishes.use_mapping);
+  Click(IDC_BROWSE_MAPPING);
+  SetCheckBox(IDC_ENABLE_OFFSET, wishes.offset.has_value());
   if (wishes.offset) SetOffset(*wishes.offset);
 }
 
 void ConverterPanel::SetOffset(const OffsetWish& offset) {
-  Click(offset.in_trc_space ? kTrcSpace : kSkelderSpace);
-  Page().Type(kOffsetX, offset.x);
-  Page().Type(kOffsetY, offset.y);
-  Page().Type(kOffsetZ, offset.z);
+  Click(offset.in_trc_space ? IDC_TRC_SPACE : IDC_SKELDER_SPACE);
+  Page().Type(IDC_OFFSET_X, offset.x);
+  Page().Type(IDC_OFFSET_Y, offset.y);
+  Page().Type(IDC_OFFSET_Z, offset.z);
 }
 
 void ConverterPanel::SetCheckBox(int control, bool checked) {
@@ -116,7 +100,7 @@ void ConverterPanel::Click(int control) {
 }
 
 host::ScriptedDialog& ConverterPanel::Page() {
-  host::ScriptedDialog* const page = session_.desktop().ShownDialog(kPage);
+  host::ScriptedDialog* const page = session_.desktop().ShownDialog(IDD_UTILITIES);
   if (page != nullptr) return *page;
   throw Failure{ExitStatus::kInputOutput,
                 {{session_.module().path(), "the panel that converts files does not open", ""}}};

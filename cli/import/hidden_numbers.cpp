@@ -5,8 +5,8 @@
 #include <optional>
 
 #include "cli/common/stored_options.h"
-#include "cli/import/import_controls.h"
 #include "formats/text/numbers.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
@@ -34,11 +34,11 @@ std::string Advice(const std::optional<Value>& stored, const std::string& flag) 
 HiddenNumbers::HiddenNumbers(const Wishes& wishes, FileKind kind, const host::Settings& settings) {
   const bool is_htr = kind == FileKind::kHtr;
   const StoredOptions stored(settings, is_htr ? "ImportHTR" : "ImportTRC");
-  if (!TypedInt(wishes, kSize)) {
+  if (!TypedInt(wishes, IDC_OBJECT_SIZE)) {
     numbers_.push_back(
         {"non-zero size", Advice(stored.Float("Size"), is_htr ? "--segment-size" : "--size")});
   }
-  if (!TypedInt(wishes, kGlobalScale)) {
+  if (!TypedInt(wishes, IDC_GLOBAL_SCALE)) {
     numbers_.push_back({"non-zero scale factor", Advice(stored.Double("ScaleFactor"), "--scale")});
   }
 }

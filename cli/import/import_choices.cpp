@@ -1,7 +1,7 @@
 #include "cli/import/import_choices.h"
 
 #include "cli/common/stored_options.h"
-#include "cli/import/import_controls.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 FrameSpan ImportChoices::Keyed(const FrameSpan& announced) const {
@@ -17,15 +17,16 @@ ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind, const host::Setting
   };
   ImportChoices choices;
   const bool applied_last = stored.Flag("Apply").value_or(false);
-  choices.apply = WishedState(wishes, kApply) || (applied_last && !WishedState(wishes, kCreate));
+  choices.apply =
+      WishedState(wishes, IDC_APPLY) || (applied_last && !WishedState(wishes, IDC_CREATE));
   if (is_htr) {
-    choices.animation = choice(kAnimation, "Animate", true);
+    choices.animation = choice(IDC_ANIMATION, "Animate", true);
   } else {
-    choices.selected_only = choice(kSelectedOnly, "SelectedOnly", false);
+    choices.selected_only = choice(IDC_SELECTED_ONLY, "SelectedOnly", false);
   }
-  choices.frame_rate_from_file = choice(kSetFrameRate, "FPS", false);
-  choices.offset = TypedInt(wishes, kOffset).value_or(0);
-  choices.range = TypedRange(wishes, kFrom, kTo);
+  choices.frame_rate_from_file = choice(IDC_SET_FRAME_RATE, "FPS", false);
+  choices.offset = TypedInt(wishes, IDC_OFFSET).value_or(0);
+  choices.range = TypedRange(wishes, IDC_FROM, IDC_TO);
   return choices;
 }
 

@@ -5,7 +5,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/dialog_flags.h"
-#include "cli/import/import_controls.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
@@ -16,48 +16,48 @@ constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
 constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
 
 ControlWish FrameRate(const std::string& choice) {
-  return {Kind::kCheckBox, kSetFrameRate, "--frame-rate", "", choice == "file", ""};
+  return {Kind::kCheckBox, IDC_SET_FRAME_RATE, "--frame-rate", "", choice == "file", ""};
 }
 
 void AddTargetFlags(CLI::App& verb, Wishes& wishes) {
-  CLI::Option* create =
-      AddRadio(verb, wishes, "--create", kCreate, "Create a new skeleton or cloud (the default)");
-  AddRadio(verb, wishes, "--apply", kApply, "Apply the motion to objects of the scene")
+  CLI::Option* create = AddRadio(verb, wishes, "--create", IDC_CREATE,
+                                 "Create a new skeleton or cloud (the default)");
+  AddRadio(verb, wishes, "--apply", IDC_APPLY, "Apply the motion to objects of the scene")
       ->excludes(create);
 }
 
 void AddSkeletonFlags(CLI::App& verb, Wishes& wishes, CLI::Option* size) {
-  AddText(verb, wishes, "--segment-size", kSize,
+  AddText(verb, wishes, "--segment-size", IDC_OBJECT_SIZE,
           "HTR: thickness of the bones, 1 being a fifth of their length (1)", kWhileApplying)
       ->excludes(size);
-  AddCheckBox(verb, wishes, "end-effectors", kEndEffectors,
+  AddCheckBox(verb, wishes, "end-effectors", IDC_END_EFFECTORS,
               "HTR: create end effectors at the ends of the skeleton (no)", kWhileApplying);
-  AddCheckBox(verb, wishes, "animation", kAnimation,
+  AddCheckBox(verb, wishes, "animation", IDC_ANIMATION,
               "HTR: set keys for the frames of the file (yes)");
-  AddCheckBox(verb, wishes, "base-position", kBasePosition,
+  AddCheckBox(verb, wishes, "base-position", IDC_BASE_POSITION,
               "HTR: set keys for the base position, one frame before the motion (no)");
-  CLI::Option* euler =
-      AddRadio(verb, wishes, "--euler", kEuler, "HTR: rotate by Euler controllers (the default)");
-  AddRadio(verb, wishes, "--tcb", kTcb, "HTR: rotate by TCB controllers")->excludes(euler);
+  CLI::Option* euler = AddRadio(verb, wishes, "--euler", IDC_EULER,
+                                "HTR: rotate by Euler controllers (the default)");
+  AddRadio(verb, wishes, "--tcb", IDC_TCB, "HTR: rotate by TCB controllers")->excludes(euler);
 }
 
 void AddCloudFlags(CLI::App& verb, Wishes& wishes) {
   CLI::Option* sphere =
-      AddFlag(verb, wishes, {Kind::kRadio, kSphere, "--sphere", "", false, kWhileApplying},
+      AddFlag(verb, wishes, {Kind::kRadio, IDC_SPHERE, "--sphere", "", false, kWhileApplying},
               "TRC: make markers spheres (the default)");
-  AddFlag(verb, wishes, {Kind::kRadio, kPoint, "--point", "", false, kWhileApplying},
+  AddFlag(verb, wishes, {Kind::kRadio, IDC_POINT, "--point", "", false, kWhileApplying},
           "TRC: make markers points")
       ->excludes(sphere);
-  AddCheckBox(verb, wishes, "selected-only", kSelectedOnly,
+  AddCheckBox(verb, wishes, "selected-only", IDC_SELECTED_ONLY,
               "TRC: apply to selected objects only (no)", kWhileCreating);
-  AddCheckBox(verb, wishes, "root-node", kRootNode, "TRC: group the markers under a node (no)",
+  AddCheckBox(verb, wishes, "root-node", IDC_ROOT_NODE, "TRC: group the markers under a node (no)",
               kWhileApplying);
 }
 
 void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
-  AddRange(verb, wishes, {kAll, kRange, kFrom, kTo}, "--all", "Import all frames (the default)",
-           "Import the frames FROM to TO");
-  AddText(verb, wishes, "--offset", kOffset, "Number of frames to move the keys by (0)");
+  AddRange(verb, wishes, {IDC_ALL, IDC_RANGE, IDC_FROM, IDC_TO}, "--all",
+           "Import all frames (the default)", "Import the frames FROM to TO");
+  AddText(verb, wishes, "--offset", IDC_OFFSET, "Number of frames to move the keys by (0)");
   AddChoice(
       verb, "--frame-rate", {"file", "keep"},
       "Set the scene's frame rate from the file, or keep the scene's (file; keep with --into)",
@@ -69,19 +69,19 @@ void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
 void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
   AddTargetFlags(verb, wishes);
   CLI::Option* size =
-      AddText(verb, wishes, "--size", kSize,
+      AddText(verb, wishes, "--size", IDC_OBJECT_SIZE,
               "Size of new objects, twice the radius of a marker (1)", kWhileApplying);
   AddSkeletonFlags(verb, wishes, size);
   AddCloudFlags(verb, wishes);
   AddTimeFlags(verb, wishes);
-  AddText(verb, wishes, "--scale", kGlobalScale, "Multiply all lengths by this (1)");
+  AddText(verb, wishes, "--scale", IDC_GLOBAL_SCALE, "Multiply all lengths by this (1)");
 }
 
 ControlWish FrameRateFromFile() { return FrameRate("file"); }
 
 bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
   return std::any_of(wishes.begin(), wishes.end(),
-                     [](const ControlWish& wish) { return wish.control == kSetFrameRate; });
+                     [](const ControlWish& wish) { return wish.control == IDC_SET_FRAME_RATE; });
 }
 
 }  // namespace cli

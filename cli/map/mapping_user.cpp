@@ -7,17 +7,10 @@
 #include "cli/common/failure.h"
 #include "host/application/utility_panel.h"
 #include "platform/interrupt.h"
+#include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
-
-constexpr int kPanel = 116;
-constexpr int kCreate = 1203;
-
-constexpr int kCreator = 117;
-constexpr int kDescription = 1151;
-constexpr int kSkip = 1153;
-constexpr int kAbort = 1154;
 
 // The standard name that a description ends with, in parentheses.
 std::string AskedName(const std::string& description) {
@@ -51,7 +44,7 @@ void MappingUser::Create(const std::string& path) {
                   {{session_.module().path(), "the module has no panel that makes mappings", ""}}};
   }
   host::UtilityPanel panel(std::move(utility), session_.application());
-  Shown(session_, kPanel).Click(kCreate);
+  Shown(session_, IDD_UTILITIES).Click(IDC_CREATE_MAPPING);
   session_.desktop().RethrowFailure();
 }
 
@@ -64,11 +57,11 @@ int MappingUser::Answer(const host::UserMessage& message) const {
 
 // Does what the table says about the marker that is asked for.
 void MappingUser::Act() {
-  host::ScriptedDialog& creator = Shown(session_, kCreator);
-  if (platform::Interrupted()) return creator.Click(kAbort);
-  const std::string name = AskedName(creator.Text(kDescription));
+  host::ScriptedDialog& creator = Shown(session_, IDD_MAPPING_CREATOR);
+  if (platform::Interrupted()) return creator.Click(IDC_ABORT);
+  const std::string name = AskedName(creator.Text(IDC_MARKER_DESCRIPTION));
   const std::optional<std::string> pick = picks_.PickFor(name);
-  if (!pick) return creator.Click(kSkip);
+  if (!pick) return creator.Click(IDC_SKIP);
   host::Node* const node = session_.scene().FindByName(*pick);
   if (node == nullptr || !session_.application().picking().Click(node)) {
     throw Failure{ExitStatus::kRefused, {{*pick, "the plug-in does not let it be picked", ""}}};
