@@ -1,7 +1,5 @@
 #include "cli/import/hidden_numbers.h"
 
-#include <array>
-#include <charconv>
 #include <optional>
 
 #include "cli/common/stored_options.h"
@@ -11,22 +9,14 @@
 namespace cli {
 namespace {
 
-// The shortest text that reads back as the same value of that type.
-template <typename Value>
-std::string Shortest(Value value) {
-  std::array<char, 32> buffer{};
-  const auto result = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  return std::string(buffer.data(), result.ptr);
-}
-
 // Empty when the dialog reads `stored` back from what it shows, whatever is lost of it.
 template <typename Value>
 std::string Advice(const std::optional<Value>& stored, const std::string& flag) {
   if (!stored) return "";
   const std::string shown = orvane::FormatDouble(static_cast<double>(*stored));
   if (*stored == Value{} || orvane::ParseDouble(shown) != 0.0) return "";
-  return "What was chosen last is " + Shortest(*stored) + ", which the dialog shows as " + shown +
-         "; " + flag + " chooses another.";
+  return "What was chosen last is " + orvane::FormatShortest(*stored) +
+         ", which the dialog shows as " + shown + "; " + flag + " chooses another.";
 }
 
 }  // namespace

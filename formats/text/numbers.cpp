@@ -4,7 +4,8 @@
 #include <charconv>
 #include <cstddef>
 #include <limits>
-#include <system_error>
+
+#include "decimal/decimal.h"
 
 namespace orvane {
 namespace {
@@ -62,37 +63,17 @@ LeadingDouble ReadPlainDecimal(const char* first, const char* last) {
   return {static_cast<double>(digits) / kPowersOfTen[decimals], cursor};
 }
 
-// True when the number, known to be out of the range of double, is too large rather than too small.
-bool IsHuge(const char* first, const char* last) {
-  std::int64_t magnitude = 0;  // decimal position of the first digit that is not 0
-  bool in_fraction = false;
-  bool found = false;
-  const char* cursor = first;
-  for (; cursor != last && (IsDigit(*cursor) || *cursor == '.'); ++cursor) {
-    if (*cursor == '.') {
-      in_fraction = true;
-      continue;
-    }
-    found = found || *cursor != '0';
-    if (found && !in_fraction) ++magnitude;
-    if (!found && in_fraction) --magnitude;
-  }
-  if (cursor == last) return magnitude > 0;
-  ++cursor;  // the exponent's letter
-  const bool negative = TakeSign(cursor, last);
-  std::int64_t exponent = 0;
-  const std::errc error = std::from_chars(cursor, last, exponent).ec;
-  if (error == std::errc::result_out_of_range) return !negative;
-  return negative ? magnitude > exponent : exponent > -magnitude;  // a sum could overflow
+LeadingDouble ReadAnyDecimal(const char* first, const char* last) {
+  const auto number = decimal::Read<double>(first, last);
+  return {number.value, number.end};
 }
 
-LeadingDouble ReadAnyDecimal(const char* first, const char* last) {
-  double value = 0.0;
-  const auto [end, error] = std::from_chars(first, last, value);
-  if (error == std::errc::result_out_of_range) {
-    value = IsHuge(first, end) ? std::numeric_limits<double>::infinity() : 0.0;
-  }
-  return {value, end};
+constexpr int kMostDecimals = 20;
+
+template <typename Real>
+std::string Shortest(Real value) {
+  std::array<char, decimal::kLongestShortest> buffer;
+  return std::string(buffer.data(), decimal::WriteShortest(value, buffer.data()));
 }
 
 }  // namespace
@@ -134,16 +115,12 @@ std::string FormatInt(std::int64_t value) {
 }
 
 std::string FormatDouble(double value, int decimals) {
-  std::array<char, 352> buffer;  // the longest double has 309 digits before the point
-  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value,
-                                          std::chars_format::fixed, decimals);
-  return std::string(buffer.data(), end);
+  std::array<char, decimal::LongestFixed(kMostDecimals)> buffer;
+  return std::string(buffer.data(), decimal::WriteFixed(value, decimals, buffer.data()));
 }
 
-std::string FormatShortest(double value) {
-  std::array<char, 32> buffer;
-  const auto [end, error] = std::to_chars(buffer.data(), buffer.data() + buffer.size(), value);
-  return std::string(buffer.data(), end);
-}
+std::string FormatShortest(double value) { return Shortest(value); }
+
+std::string FormatShortest(float value) { return Shortest(value); }
 
 }  // namespace orvane

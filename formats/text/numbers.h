@@ -37,8 +37,9 @@ std::string FormatInt(std::int64_t value);
 // correctly rounded. The default is that of "%f".
 std::string FormatDouble(double value, int decimals = 6);
 
-// `value` in the shortest form that reads back as the same value, with an exponent where that is
-// shorter: "0.1", "1e+22".
+// `value` in the shortest form that reads back as the same value of its type, with an exponent
+// where that is shorter: "0.1", "1e+22".
 std::string FormatShortest(double value);
+std::string FormatShortest(float value);
 
 }  // namespace orvane

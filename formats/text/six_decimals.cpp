@@ -6,8 +6,12 @@
 #include <cstdint>
 #include <cstring>
 
+#include "decimal/decimal.h"
+
 namespace orvane {
 namespace {
+
+static_assert(kLongestSixDecimals >= decimal::LongestFixed(6));
 
 constexpr std::uint32_t kMillion = 1'000'000;
 
@@ -45,20 +49,16 @@ char* WriteShortInteger(std::uint32_t number, char* first) {
   return std::to_chars(first, first + 6, number).ptr;
 }
 
-char* WriteAnyValue(double value, char* first) {
-  return std::to_chars(first, first + kLongestSixDecimals, value, std::chars_format::fixed, 6).ptr;
-}
-
 }  // namespace
 
 char* WriteSixDecimals(double value, char* first) {
   const double product = std::abs(value) * kMillion;
-  if (!(product < kMostMillionths)) return WriteAnyValue(value, first);
+  if (!(product < kMostMillionths)) return decimal::WriteFixed(value, 6, first);
   const auto whole = static_cast<std::int64_t>(product);
   const double rest = product - static_cast<double>(whole);
   // Rounded to a double, the product never gets past a tie, which is a double itself. On a tie it
   // may have come from either side.
-  if (rest == 0.5) return WriteAnyValue(value, first);
+  if (rest == 0.5) return decimal::WriteFixed(value, 6, first);
 
   const auto millionths = static_cast<std::uint64_t>(whole) + (rest > 0.5 ? 1 : 0);
   if (std::signbit(value)) *first++ = '-';

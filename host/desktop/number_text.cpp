@@ -1,7 +1,6 @@
 #include "host/desktop/number_text.h"
 
-#include <charconv>
-#include <cmath>
+#include "decimal/decimal.h"
 
 namespace host {
 namespace {
@@ -17,11 +16,10 @@ std::string_view Trimmed(std::string_view text) {
 std::optional<float> NumberIn(std::string_view text) {
   text = Trimmed(text);
   if (text.starts_with('+') && !text.starts_with("+-")) text.remove_prefix(1);
-  float number = 0.0F;
   const char* const end = text.data() + text.size();
-  const auto [rest, error] = std::from_chars(text.data(), end, number);
-  if (error != std::errc() || rest != end || !std::isfinite(number)) return {};
-  return number;
+  const auto number = decimal::Read<float>(text.data(), end);
+  if (!number.fits || number.end != end || text.empty()) return {};
+  return number.value;
 }
 
 }  // namespace host

@@ -324,6 +324,12 @@ TEST(FormatShortest, TakesTheFewestCharacters) {
   for (const ShortestCase& c : cases) EXPECT_EQ(FormatShortest(c.value), c.text);
 }
 
+TEST(FormatShortest, NeedsFewerDigitsInSinglePrecision) {
+  EXPECT_EQ(FormatShortest(0.1F), "0.1");
+  EXPECT_EQ(FormatShortest(static_cast<double>(0.1F)), "0.10000000149011612");
+  EXPECT_EQ(FormatShortest(std::numeric_limits<float>::denorm_min()), "1e-45");
+}
+
 TEST(FormatShortest, ReadsBackAsTheSameValue) {
   std::mt19937_64 random(20240606);
   for (int round = 0; round < 20000; ++round) {
