@@ -97,12 +97,14 @@ function(orvane_apply_test_settings target)
   orvane_define_folders(${target})
 endfunction()
 
-# orvane_test(name SOURCES file... [LINKS target...] [LABELS label...]): one test program per folder.
+# orvane_test(name SOURCES file... [LINKS target...] [LABELS label...] [PREFIX text]): one test
+# program per folder. A program that runs tests of another one says with PREFIX how theirs are told
+# apart.
 # The label "large" is for those that take seconds, which have a program of their own; ctest
 # --label-exclude large leaves them out. For Windows they are not built: they would say the same of
 # the same code.
 function(orvane_test name)
-  cmake_parse_arguments(ARG "" "" "SOURCES;LINKS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;LABELS" ${ARGN})
   if(NOT ARG_SOURCES)
     message(FATAL_ERROR "${name} has no sources: it would run no test, and pass.")
   endif()
@@ -123,7 +125,7 @@ function(orvane_test name)
     set(timeout 600)
   endif()
   if(ORVANE_TEST_CASES_APART)
-    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60
+    gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 TEST_PREFIX "${ARG_PREFIX}"
       PROPERTIES TIMEOUT ${timeout} ${labels})
   else()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)

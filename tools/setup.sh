@@ -13,6 +13,8 @@ command ninja                                     ninja-build
 command ccache                                    ccache
 command x86_64-w64-mingw32-windres                binutils-mingw-w64-x86-64
 header  CLI/CLI.hpp                               libcli11-dev
+header  fast_float/fast_float.h                   libfast-float-dev
+header  fmt/format.h                              libfmt-dev
 header  nlohmann/json.hpp                         nlohmann-json3-dev
 header  tiny_gltf.h                               libtinygltf-dev
 header  sqlite3.h                                 libsqlite3-dev

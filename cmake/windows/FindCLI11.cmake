@@ -1,3 +1,3 @@
 include(HeadersOnly)
-orvane_headers_only(CLI11::CLI11 CLI)
+orvane_headers_only(CLI11::CLI11 CLI/CLI.hpp)
 set(CLI11_FOUND TRUE)
