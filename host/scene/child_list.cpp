@@ -1,5 +1,3 @@
-#include "host/scene/child_list.h"
-
 #include <algorithm>
 
 #include "host/scene/node.h"

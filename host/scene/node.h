@@ -10,7 +10,6 @@
 #include "host/animation/animation_state.h"
 #include "host/animation/transform_controller.h"
 #include "host/base/misuse_log.h"
-#include "host/scene/child_list.h"
 #include "host/scene/name_table.h"
 #include "host/scene/scene_object.h"
 #include "host/scene/world_memory.h"
@@ -31,6 +30,33 @@ struct NodeEnvironment {
   NameTable& names;
   WorldMemory& worlds;
   MisuseLog& misuse;
+};
+
+class Node;
+
+// The children of a node in their order. A child that leaves only empties its place, which it
+// knows; the list is closed up when it is next read, so that moving any number of children to
+// another node takes time in proportion to their number.
+class SKELDER_API ChildList {
+ public:
+  // Appends `child`, which is in no list.
+  void Add(Node& child);
+
+  // Takes `child` out of this list, which it is in.
+  void Remove(Node& child);
+
+  // The children; valid until the list changes.
+  const std::vector<Node*>& All() const;
+
+  std::size_t Size() const { return places_.size() - empty_places_; }
+
+ private:
+  // Closes up the list from the first empty place on.
+  void CloseUp() const;
+
+  mutable std::vector<Node*> places_;
+  mutable std::size_t first_empty_ = 0;
+  mutable std::size_t empty_places_ = 0;
 };
 
 // A node of a scene, which owns it: see sdk/core/node.h for the plug-in's side. The node owns its
