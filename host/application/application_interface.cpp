@@ -1,5 +1,3 @@
-#include "host/application/application_interface.h"
-
 #include "host/application/application.h"
 
 namespace host {

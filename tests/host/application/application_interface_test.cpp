@@ -1,5 +1,3 @@
-#include "host/application/application_interface.h"
-
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
