@@ -1,35 +1,8 @@
 #include "formats/math/rotation_matrix3.h"
 
-#include <cmath>
 #include <utility>
 
-#include "formats/math/euler_rotation.h"
-
 namespace orvane {
-
-// Ken Shoemake, "Euler Angle Conversion", Graphics Gems IV, 1994.
-template <typename T>
-OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotation<T>& rotation) {
-  const auto [i, j, k, odd_parity, repeats_first_axis, rotating_frame] = rotation.order().Decode();
-  T a = rotation[0], b = rotation[1], c = rotation[2];
-  if (rotating_frame) std::swap(a, c);
-  if (odd_parity) a = -a, b = -b, c = -c;
-
-  const T ci = std::cos(a), cj = std::cos(b), ch = std::cos(c);
-  const T si = std::sin(a), sj = std::sin(b), sh = std::sin(c);
-  const T cc = ci * ch, cs = ci * sh, sc = si * ch, ss = si * sh;
-  auto& m = vectors_;  // m[column][row]
-  if (repeats_first_axis) {
-    m[i][i] = cj, m[j][i] = sj * si, m[k][i] = sj * ci;
-    m[i][j] = sj * sh, m[j][j] = -cj * ss + cc, m[k][j] = -cj * cs - sc;
-    m[i][k] = -sj * ch, m[j][k] = cj * sc + cs, m[k][k] = cj * cc - ss;
-  } else {
-    m[i][i] = cj * ch, m[j][i] = sj * sc - cs, m[k][i] = sj * cc + ss;
-    m[i][j] = cj * sh, m[j][j] = sj * ss + cc, m[k][j] = sj * cs - sc;
-    m[i][k] = -sj, m[j][k] = cj * si, m[k][k] = cj * ci;
-  }
-  return *this;
-}
 
 template <typename T>
 void OrvaneRotationMatrix3<T>::Transpose() {
