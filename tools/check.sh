@@ -2,7 +2,7 @@
 # is well; one that finds nothing to look at fails.
 # shellcheck shell=bash
 
-readonly check_steps='format scripts includes warnings headers resources analysis'
+readonly check_steps='format scripts includes structure warnings headers resources analysis'
 
 # Files that git knows or would add, matching the patterns, one a line.
 our_files() {
@@ -22,6 +22,10 @@ check_scripts() {
 
 check_includes() {
   our_files '*.h' '*.cpp' | tools/check_includes.py docs/architecture.md
+}
+
+check_structure() {
+  tools/structure.py --check
 }
 
 check_warnings() {
