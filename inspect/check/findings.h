@@ -28,11 +28,14 @@ struct FindingRule {
   FindingSeverity severity;
 };
 
-constexpr FindingRule NoteRule(std::string_view code) { return {code, FindingSeverity::kNote}; }
-constexpr FindingRule WarningRule(std::string_view code) {
-  return {code, FindingSeverity::kWarning};
+// The rule of `code` in a table of them. One that is not there does not compile.
+template <std::size_t kSize>
+consteval const FindingRule& FindRule(const std::array<FindingRule, kSize>& rules,
+                                      std::string_view code) {
+  std::size_t index = 0;
+  while (rules.at(index).code != code) ++index;
+  return rules[index];
 }
-constexpr FindingRule ErrorRule(std::string_view code) { return {code, FindingSeverity::kError}; }
 
 struct Finding {
   FindingRule rule;

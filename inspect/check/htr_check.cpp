@@ -1,6 +1,7 @@
 #include "inspect/check/htr_check.h"
 
 #include <algorithm>
+#include <array>
 
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
@@ -20,11 +21,16 @@ HtrCell EndOf(std::string_view bytes) {
   return {{}, breaks + 1, bytes.size() - last_line + 1};
 }
 
+// By TextFlaw.
+constexpr std::array<FindingRule, 4> kFlawRules = {
+    htr::Rule("htr-empty"), htr::Rule("htr-encoding"), htr::Rule("htr-line-ends"),
+    htr::Rule("htr-first-section-lost")};
+
 // A mark that keeps nothing from being read is no more than what the watcher has told.
 void NameFlaw(std::string_view bytes, FindingList& findings) {
   const auto flaw = FindHtrTextFlaw(bytes);
   if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
-  NameFlawFirst(*flaw, htr::kFlaws[static_cast<std::size_t>(*flaw)],
+  NameFlawFirst(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
                 "The import refuses the file; what else is odd about it is not told.", findings);
 }
 

@@ -1,90 +1,96 @@
 #pragma once
 
 #include <array>
+#include <string_view>
 
 #include "inspect/check/findings.h"
-#include "inspect/check/text_flaw.h"
 
-// Everything that the check of HTR files can find. docs/formats/htr.md explains the codes; a test
-// compares the two.
+// Everything that the check of HTR files can find. docs/formats/htr.md explains the codes; a
+// test compares the two.
 
 namespace orvane::htr {
 
-// The whole file, by TextFlaw
-inline constexpr std::array<FindingRule, 4> kFlaws = {
-    ErrorRule("htr-empty"), ErrorRule("htr-encoding"), ErrorRule("htr-line-ends"),
-    ErrorRule("htr-first-section-lost")};
+inline constexpr auto kRules = std::to_array<FindingRule>({
+    // The whole file
+    {"htr-empty", FindingSeverity::kError},
+    {"htr-encoding", FindingSeverity::kError},
+    {"htr-line-ends", FindingSeverity::kError},
+    {"htr-first-section-lost", FindingSeverity::kError},
 
-// Lines
-inline constexpr FindingRule kByteOrderMark = NoteRule("htr-byte-order-mark");
-inline constexpr FindingRule kNul = WarningRule("htr-nul");
-inline constexpr FindingRule kLineCut = WarningRule("htr-line-cut");
-inline constexpr FindingRule kCarriageReturn = WarningRule("htr-carriage-return");
-inline constexpr FindingRule kCommentInWord = WarningRule("htr-comment-in-word");
-inline constexpr FindingRule kLineBeforeSection = WarningRule("htr-line-before-section");
-inline constexpr FindingRule kAfterEnd = WarningRule("htr-after-end");
-inline constexpr FindingRule kCellsExtra = NoteRule("htr-cells-extra");
-inline constexpr FindingRule kEndMissing = NoteRule("htr-end-missing");
+    // Lines
+    {"htr-byte-order-mark", FindingSeverity::kNote},
+    {"htr-nul", FindingSeverity::kWarning},
+    {"htr-line-cut", FindingSeverity::kWarning},
+    {"htr-carriage-return", FindingSeverity::kWarning},
+    {"htr-comment-in-word", FindingSeverity::kWarning},
+    {"htr-line-before-section", FindingSeverity::kWarning},
+    {"htr-after-end", FindingSeverity::kWarning},
+    {"htr-cells-extra", FindingSeverity::kNote},
+    {"htr-end-missing", FindingSeverity::kNote},
 
-// Section lines
-inline constexpr FindingRule kSectionIndented = WarningRule("htr-section-indented");
-inline constexpr FindingRule kSectionUnclosed = NoteRule("htr-section-unclosed");
-inline constexpr FindingRule kSectionText = WarningRule("htr-section-text");
-inline constexpr FindingRule kSectionMisspelt = WarningRule("htr-section-misspelt");
-inline constexpr FindingRule kSectionUnknown = WarningRule("htr-section-unknown");
+    // Section lines
+    {"htr-section-indented", FindingSeverity::kWarning},
+    {"htr-section-unclosed", FindingSeverity::kNote},
+    {"htr-section-text", FindingSeverity::kWarning},
+    {"htr-section-misspelt", FindingSeverity::kWarning},
+    {"htr-section-unknown", FindingSeverity::kWarning},
 
-// Header
-inline constexpr FindingRule kHeaderMissing = WarningRule("htr-header-missing");
-inline constexpr FindingRule kHeaderLate = WarningRule("htr-header-late");
-inline constexpr FindingRule kKeywordMisspelt = WarningRule("htr-keyword-misspelt");
-inline constexpr FindingRule kKeywordUnknown = NoteRule("htr-keyword-unknown");
-inline constexpr FindingRule kKeywordRepeated = WarningRule("htr-keyword-repeated");
-inline constexpr FindingRule kKeywordMissing = WarningRule("htr-keyword-missing");
-inline constexpr FindingRule kKeywordLeftOut = NoteRule("htr-keyword-left-out");
-inline constexpr FindingRule kValueExtra = NoteRule("htr-value-extra");
-inline constexpr FindingRule kValueRefused = ErrorRule("htr-value-refused");
-inline constexpr FindingRule kLengthUnitUnknown = WarningRule("htr-length-unit-unknown");
-inline constexpr FindingRule kAngleUnitUnknown = WarningRule("htr-angle-unit-unknown");
-inline constexpr FindingRule kAxisUnknown = WarningRule("htr-axis-unknown");
-inline constexpr FindingRule kAxisIgnored = WarningRule("htr-axis-ignored");
-inline constexpr FindingRule kRateCut = WarningRule("htr-rate-cut");
-inline constexpr FindingRule kRateOutOfRange = WarningRule("htr-rate-out-of-range");
-inline constexpr FindingRule kScaleFactor = WarningRule("htr-scale-factor");
+    // Header
+    {"htr-header-missing", FindingSeverity::kWarning},
+    {"htr-header-late", FindingSeverity::kWarning},
+    {"htr-keyword-misspelt", FindingSeverity::kWarning},
+    {"htr-keyword-unknown", FindingSeverity::kNote},
+    {"htr-keyword-repeated", FindingSeverity::kWarning},
+    {"htr-keyword-missing", FindingSeverity::kWarning},
+    {"htr-keyword-left-out", FindingSeverity::kNote},
+    {"htr-value-extra", FindingSeverity::kNote},
+    {"htr-value-refused", FindingSeverity::kError},
+    {"htr-length-unit-unknown", FindingSeverity::kWarning},
+    {"htr-angle-unit-unknown", FindingSeverity::kWarning},
+    {"htr-axis-unknown", FindingSeverity::kWarning},
+    {"htr-axis-ignored", FindingSeverity::kWarning},
+    {"htr-rate-cut", FindingSeverity::kWarning},
+    {"htr-rate-out-of-range", FindingSeverity::kWarning},
+    {"htr-scale-factor", FindingSeverity::kWarning},
 
-// Numbers
-inline constexpr FindingRule kNumberMissing = WarningRule("htr-number-missing");
-inline constexpr FindingRule kNumberUnreadable = WarningRule("htr-number-unreadable");
-inline constexpr FindingRule kNumberCut = WarningRule("htr-number-cut");
-inline constexpr FindingRule kNumberOutOfRange = WarningRule("htr-number-out-of-range");
+    // Numbers
+    {"htr-number-missing", FindingSeverity::kWarning},
+    {"htr-number-unreadable", FindingSeverity::kWarning},
+    {"htr-number-cut", FindingSeverity::kWarning},
+    {"htr-number-out-of-range", FindingSeverity::kWarning},
 
-// Hierarchy
-inline constexpr FindingRule kSegmentsMissing = ErrorRule("htr-segments-missing");
-inline constexpr FindingRule kNameTaken = ErrorRule("htr-name-taken");
-inline constexpr FindingRule kNameInWords = WarningRule("htr-name-in-words");
-inline constexpr FindingRule kNameUnusable = WarningRule("htr-name-unusable");
-inline constexpr FindingRule kParentUnknown = WarningRule("htr-parent-unknown");
-inline constexpr FindingRule kParentCircle = WarningRule("htr-parent-circle");
-inline constexpr FindingRule kRootMissing = ErrorRule("htr-root-missing");
-inline constexpr FindingRule kRootSecond = WarningRule("htr-root-second");
-inline constexpr FindingRule kSegmentUnlinked = WarningRule("htr-segment-unlinked");
+    // Hierarchy
+    {"htr-segments-missing", FindingSeverity::kError},
+    {"htr-name-taken", FindingSeverity::kError},
+    {"htr-name-in-words", FindingSeverity::kWarning},
+    {"htr-name-unusable", FindingSeverity::kWarning},
+    {"htr-parent-unknown", FindingSeverity::kWarning},
+    {"htr-parent-circle", FindingSeverity::kWarning},
+    {"htr-root-missing", FindingSeverity::kError},
+    {"htr-root-second", FindingSeverity::kWarning},
+    {"htr-segment-unlinked", FindingSeverity::kWarning},
 
-// Base position
-inline constexpr FindingRule kBaseMissing = ErrorRule("htr-base-missing");
-inline constexpr FindingRule kBaseLate = WarningRule("htr-base-late");
-inline constexpr FindingRule kBaseRepeated = WarningRule("htr-base-repeated");
-inline constexpr FindingRule kBaseLinksStopped = WarningRule("htr-base-links-stopped");
-inline constexpr FindingRule kBaseNameUnknown = ErrorRule("htr-base-name-unknown");
-inline constexpr FindingRule kBaseLineRepeated = WarningRule("htr-base-line-repeated");
-inline constexpr FindingRule kBaseLineMissing = WarningRule("htr-base-line-missing");
+    // Base position
+    {"htr-base-missing", FindingSeverity::kError},
+    {"htr-base-late", FindingSeverity::kWarning},
+    {"htr-base-repeated", FindingSeverity::kWarning},
+    {"htr-base-links-stopped", FindingSeverity::kWarning},
+    {"htr-base-name-unknown", FindingSeverity::kError},
+    {"htr-base-line-repeated", FindingSeverity::kWarning},
+    {"htr-base-line-missing", FindingSeverity::kWarning},
 
-// Counts and motion
-inline constexpr FindingRule kSegmentCount = ErrorRule("htr-segment-count");
-inline constexpr FindingRule kHierarchyCount = WarningRule("htr-hierarchy-count");
-inline constexpr FindingRule kFrameCount = WarningRule("htr-frame-count");
-inline constexpr FindingRule kFramesUnannounced = ErrorRule("htr-frames-unannounced");
-inline constexpr FindingRule kFramesTooMany = ErrorRule("htr-frames-too-many");
-inline constexpr FindingRule kFrameNumber = WarningRule("htr-frame-number");
-inline constexpr FindingRule kMotionMissing = WarningRule("htr-motion-missing");
-inline constexpr FindingRule kMotionRepeated = WarningRule("htr-motion-repeated");
+    // Counts and motion
+    {"htr-segment-count", FindingSeverity::kError},
+    {"htr-hierarchy-count", FindingSeverity::kWarning},
+    {"htr-frame-count", FindingSeverity::kWarning},
+    {"htr-frames-unannounced", FindingSeverity::kError},
+    {"htr-frames-too-many", FindingSeverity::kError},
+    {"htr-frame-number", FindingSeverity::kWarning},
+    {"htr-motion-missing", FindingSeverity::kWarning},
+    {"htr-motion-repeated", FindingSeverity::kWarning},
+});
+
+// The one of `code`.
+consteval const FindingRule& Rule(std::string_view code) { return FindRule(kRules, code); }
 
 }  // namespace orvane::htr

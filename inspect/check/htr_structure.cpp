@@ -62,14 +62,14 @@ class Structure {
 void Structure::CheckHeader() {
   if (!parts_.header) {
     return Add(
-        kHeaderMissing, {{}, 1, 1}, "no [Header]", "[Header] first",
+        Rule("htr-header-missing"), {{}, 1, 1}, "no [Header]", "[Header] first",
         "Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60.");
   }
   for (std::size_t index = 0; index < kKeywords.size(); ++index) {
     if (parts_.values[index]) continue;
     const Keyword& keyword = kKeywords[index];
-    Add(keyword.matters ? kKeywordMissing : kKeywordLeftOut, *parts_.header,
-        "no " + std::string(keyword.name),
+    Add(keyword.matters ? Rule("htr-keyword-missing") : Rule("htr-keyword-left-out"),
+        *parts_.header, "no " + std::string(keyword.name),
         std::string(keyword.name) + " with " + std::string(keyword.values),
         std::string(keyword.without));
   }
@@ -78,30 +78,31 @@ void Structure::CheckHeader() {
 void Structure::CheckScaleFactor() {
   const auto& value = parts_.Value("ScaleFactor");
   if (!value || document_.GetScaleFactor() == 1.0) return;
-  Add(kScaleFactor, *value, Quote(value->text), "1",
+  Add(Rule("htr-scale-factor"), *value, Quote(value->text), "1",
       "Nothing is multiplied by it; the import warns of it. --scale multiplies.");
 }
 
 void Structure::CheckEnd() {
   if (parts_.has_end) return;
-  Add(kEndMissing, parts_.end, "the end of the file", "[EndOfFile]",
+  Add(Rule("htr-end-missing"), parts_.end, "the end of the file", "[EndOfFile]",
       "Nothing is lost, unless the file was cut short.");
 }
 
 void Structure::AddSegmentsMissing() {
-  Add(kSegmentsMissing, parts_.hierarchy.value_or(parts_.end), "no segments",
+  Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.end), "no segments",
       "their lines in [SegmentNames&Hierarchy]", "There is nothing to import. Is it an HTR file?");
 }
 
 void Structure::CheckBasePosition() {
   if (!parts_.base_position) {
-    return Add(kBaseMissing, parts_.motion.value_or(parts_.end), "no [BasePosition] before this",
+    return Add(Rule("htr-base-missing"), parts_.motion.value_or(parts_.end),
+               "no [BasePosition] before this",
                "[BasePosition] between the hierarchy and the motion",
                "No segment has a parent, none is a root, and angles are not converted: there is "
                "nothing to import.");
   }
   if (parts_.motion && parts_.motion->line < parts_.base_position->line) {
-    Add(kBaseLate, *parts_.base_position, "[BasePosition] behind motion",
+    Add(Rule("htr-base-late"), *parts_.base_position, "[BasePosition] behind motion",
         "[BasePosition] between the hierarchy and the motion",
         "Angles that stand before it are taken as they are, as radians.");
   }
@@ -111,7 +112,7 @@ void Structure::CheckBasePosition() {
 void Structure::CheckBaseLines() {
   for (const SegmentLines& segment : parts_.segments) {
     if (segment.base_section != 0) continue;
-    Add(kBaseLineMissing, segment.name,
+    Add(Rule("htr-base-line-missing"), segment.name,
         "no line of " + Quote(segment.name.text) + " in [BasePosition]", "one for every segment",
         "It stands at its parent's origin, unturned, and has no length.");
   }
@@ -119,7 +120,8 @@ void Structure::CheckBaseLines() {
 
 void Structure::CheckMotion() {
   if (const auto frames = CountFrames(document_); IsOutOfProportion(frames.announced, frames)) {
-    Add(kFramesTooMany, parts_.Value("NumFrames").value_or(parts_.end), FormatInt(frames.announced),
+    Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.end),
+        FormatInt(frames.announced),
         "about " + FormatInt(frames.most_held) + ", as many as there are",
         "The import is refused, unless --range FROM:TO takes a part of them.");
   }
@@ -129,21 +131,21 @@ void Structure::CheckMotion() {
 
 void Structure::AddFramesUnannounced() {
   const auto& value = parts_.Value("NumFrames");
-  Add(kFramesUnannounced, value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
+  Add(Rule("htr-frames-unannounced"), value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
       value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
       "The import refuses the file: its last frame would come before its first.");
 }
 
 void Structure::CheckFrames(const SegmentLines& segment) {
   if (!segment.motion) {
-    return Add(kMotionMissing, segment.name, "no motion section of " + Quote(segment.name.text),
-               "one for every segment",
+    return Add(Rule("htr-motion-missing"), segment.name,
+               "no motion section of " + Quote(segment.name.text), "one for every segment",
                "In every frame the segment goes to its parent's origin, unturned.");
   }
   const std::size_t announced = document_.GetNumFrames();
   if (segment.frames == announced) return;
   const std::string number = FormatInt(static_cast<std::int64_t>(announced));
-  Add(kFrameCount, *segment.motion, CountOf(segment.frames, "frame"),
+  Add(Rule("htr-frame-count"), *segment.motion, CountOf(segment.frames, "frame"),
       number + ", as NumFrames says",
       segment.frames < announced
           ? "In the missing frames the segment goes to its parent's origin, unturned."
@@ -153,7 +155,7 @@ void Structure::CheckFrames(const SegmentLines& segment) {
 void Structure::CheckLinks() {
   for (std::size_t index = parts_.linked_segments; index < parts_.segments.size(); ++index) {
     const HtrCell& name = parts_.segments[index].name;
-    Add(kSegmentUnlinked, name, Quote(name.text) + " behind [BasePosition]",
+    Add(Rule("htr-segment-unlinked"), name, Quote(name.text) + " behind [BasePosition]",
         "the hierarchy before [BasePosition]",
         "The segment has no parent: a new skeleton goes without it and its children.");
   }
@@ -168,12 +170,12 @@ void Structure::CheckRoots() {
       first = &segment.name;
       continue;
     }
-    Add(kRootSecond, segment.name, "a second root, " + Quote(segment.name.text),
+    Add(Rule("htr-root-second"), segment.name, "a second root, " + Quote(segment.name.text),
         "one root; line " + FormatInt(static_cast<std::int64_t>(first->line)) + " has it",
         "A new skeleton goes without it and its children.");
   }
   if (first != nullptr) return;
-  Add(kRootMissing, parts_.hierarchy.value_or(parts_.end), "no root",
+  Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.end), "no root",
       "a segment with the parent GLOBAL", "There is nothing that a new skeleton could start from.");
 }
 
@@ -204,7 +206,7 @@ void Structure::AddCircle(std::size_t first, const std::vector<std::size_t>& par
     ++length;
   }
   const SegmentLines& segment = parts_.segments[lowest];
-  Add(kParentCircle, segment.parent,
+  Add(Rule("htr-parent-circle"), segment.parent,
       Quote(segment.name.text) + " in a circle of " + CountOf(length, "segment"),
       "parents that lead to a root",
       "A new skeleton goes without its segments and what hangs from them.");

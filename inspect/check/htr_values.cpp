@@ -44,9 +44,9 @@ std::string TakenWhole(std::string_view cell, std::string_view field) {
 }  // namespace
 
 const FindingRule& NumberRule(HtrOddity oddity) {
-  if (oddity == HtrOddity::kMissingNumber) return kNumberMissing;
-  if (oddity == HtrOddity::kUnreadableNumber) return kNumberUnreadable;
-  return oddity == HtrOddity::kCutNumber ? kNumberCut : kNumberOutOfRange;
+  if (oddity == HtrOddity::kMissingNumber) return Rule("htr-number-missing");
+  if (oddity == HtrOddity::kUnreadableNumber) return Rule("htr-number-unreadable");
+  return oddity == HtrOddity::kCutNumber ? Rule("htr-number-cut") : Rule("htr-number-out-of-range");
 }
 
 std::string ExpectedNumber(HtrOddity oddity, std::string_view field) {

@@ -25,41 +25,44 @@ struct PlainOddity {
 };
 
 constexpr std::array<PlainOddity, 18> kPlainOddities = {{
-    {HtrOddity::kByteOrderMark, kByteOrderMark, "a byte-order mark",
+    {HtrOddity::kByteOrderMark, Rule("htr-byte-order-mark"), "a byte-order mark",
      "text without one, in ASCII or UTF-8", "It belongs to the first line, which does not count."},
-    {HtrOddity::kHiddenByNul, kNul, "a NUL byte", "text", "The rest of its line is not read."},
-    {HtrOddity::kLongLine, kLineCut, "a line of more than 10239 bytes", "shorter lines",
+    {HtrOddity::kHiddenByNul, Rule("htr-nul"), "a NUL byte", "text",
+     "The rest of its line is not read."},
+    {HtrOddity::kLongLine, Rule("htr-line-cut"), "a line of more than 10239 bytes", "shorter lines",
      "It is read as several lines, of which the second starts here."},
-    {HtrOddity::kCarriageReturn, kCarriageReturn, "a carriage return inside a line",
+    {HtrOddity::kCarriageReturn, Rule("htr-carriage-return"), "a carriage return inside a line",
      "LF or CR LF where lines end", "It is read as a part of the line."},
-    {HtrOddity::kCommentInWord, kCommentInWord, nullptr, "a blank before a comment",
+    {HtrOddity::kCommentInWord, Rule("htr-comment-in-word"), nullptr, "a blank before a comment",
      "The line ends here, and with it the word before the #."},
-    {HtrOddity::kLineBeforeFirstSection, kLineBeforeSection, nullptr, "[Header] first",
+    {HtrOddity::kLineBeforeFirstSection, Rule("htr-line-before-section"), nullptr, "[Header] first",
      "The line is ignored."},
-    {HtrOddity::kLineAfterEnd, kAfterEnd, nullptr, "nothing after [EndOfFile]",
+    {HtrOddity::kLineAfterEnd, Rule("htr-after-end"), nullptr, "nothing after [EndOfFile]",
      "It is ignored, with all that follows."},
-    {HtrOddity::kExtraCells, kCellsExtra, nullptr, "the end of the line", "It is ignored."},
-    {HtrOddity::kIndentedSection, kSectionIndented, nullptr,
+    {HtrOddity::kExtraCells, Rule("htr-cells-extra"), nullptr, "the end of the line",
+     "It is ignored."},
+    {HtrOddity::kIndentedSection, Rule("htr-section-indented"), nullptr,
      "[ as the first character of a section line",
      "It is taken for a line of the section that it stands in."},
-    {HtrOddity::kUnclosedSection, kSectionUnclosed, nullptr, "] behind the name",
+    {HtrOddity::kUnclosedSection, Rule("htr-section-unclosed"), nullptr, "] behind the name",
      "The name ends with the line."},
-    {HtrOddity::kTextAfterSection, kSectionText, nullptr, "the end of the line", "It is ignored."},
-    {HtrOddity::kExtraHeaderWords, kValueExtra, nullptr, "a keyword and one value",
+    {HtrOddity::kTextAfterSection, Rule("htr-section-text"), nullptr, "the end of the line",
+     "It is ignored."},
+    {HtrOddity::kExtraHeaderWords, Rule("htr-value-extra"), nullptr, "a keyword and one value",
      "It is ignored: the last word of the line is the value."},
-    {HtrOddity::kUnknownCalibrationUnits, kLengthUnitUnknown, nullptr,
+    {HtrOddity::kUnknownCalibrationUnits, Rule("htr-length-unit-unknown"), nullptr,
      "mm, cm, m, in, ft or yd, or the same in capitals", "Millimetres are taken."},
-    {HtrOddity::kUnknownRotationUnits, kAngleUnitUnknown, nullptr, "Degrees or Radians",
-     "Degrees are taken."},
-    {HtrOddity::kUnknownAxis, kAxisUnknown, nullptr, "Y or Z", "Y is taken."},
-    {HtrOddity::kExtraHierarchyWords, kNameInWords, nullptr,
+    {HtrOddity::kUnknownRotationUnits, Rule("htr-angle-unit-unknown"), nullptr,
+     "Degrees or Radians", "Degrees are taken."},
+    {HtrOddity::kUnknownAxis, Rule("htr-axis-unknown"), nullptr, "Y or Z", "Y is taken."},
+    {HtrOddity::kExtraHierarchyWords, Rule("htr-name-in-words"), nullptr,
      "a name and its parent, without blanks",
      "It is ignored: the first word of the line is the name, the last one its parent."},
-    {HtrOddity::kHierarchyLinkedAgain, kBaseRepeated, "a second [BasePosition]", "one",
+    {HtrOddity::kHierarchyLinkedAgain, Rule("htr-base-repeated"), "a second [BasePosition]", "one",
      "Every segment is listed once more among its parent's children; a file that does so over and "
      "over is refused."},
-    {HtrOddity::kHierarchyLeftUnlinked, kBaseLinksStopped, "[BasePosition] over and over", "one",
-     "The hierarchy is linked no more."},
+    {HtrOddity::kHierarchyLeftUnlinked, Rule("htr-base-links-stopped"),
+     "[BasePosition] over and over", "one", "The hierarchy is linked no more."},
 }};
 
 }  // namespace
@@ -119,7 +122,7 @@ bool HtrWatcher::AddPlain(HtrOddity oddity, const HtrCell& cell) {
 void HtrWatcher::AddNumber(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
   if (oddity == HtrOddity::kNumberOutOfBounds && MayBeSoLarge(cell.text, field)) return;
   const bool is_rate = field == "DataFrameRate" && oddity == HtrOddity::kCutNumber;
-  if (Finding* finding = Add(is_rate ? kRateCut : NumberRule(oddity), cell)) {
+  if (Finding* finding = Add(is_rate ? Rule("htr-rate-cut") : NumberRule(oddity), cell)) {
     finding->found = Quote(cell.text);
     finding->expected = ExpectedNumber(oddity, field);
     finding->effect = is_rate ? EffectOfCutRate(cell.text) : EffectOfNumber(cell.text, field);
@@ -131,7 +134,8 @@ void HtrWatcher::AddKeyword(const HtrCell& keyword) {
       std::find_if(kKeywords.begin(), kKeywords.end(),
                    [&keyword](const Keyword& each) { return LooksLike(keyword.text, each.name); });
   const bool is_misspelt = meant != kKeywords.end();
-  if (Finding* finding = Add(is_misspelt ? kKeywordMisspelt : kKeywordUnknown, keyword)) {
+  if (Finding* finding =
+          Add(is_misspelt ? Rule("htr-keyword-misspelt") : Rule("htr-keyword-unknown"), keyword)) {
     finding->found = Quote(keyword.text);
     finding->expected = is_misspelt ? std::string(meant->name) : "a keyword of HTR files";
     finding->effect = "The line is ignored.";
@@ -141,7 +145,7 @@ void HtrWatcher::AddKeyword(const HtrCell& keyword) {
 // A second base-position section looks for the same parents again.
 void HtrWatcher::AddParentUnknown(const HtrCell& parent) {
   if (linked_again_) return;
-  if (Finding* finding = Add(kParentUnknown, parent)) {
+  if (Finding* finding = Add(Rule("htr-parent-unknown"), parent)) {
     finding->found = Quote(parent.text);
     finding->expected = "GLOBAL or " + KnownSegments(parent.text);
     finding->effect = "The segment has no parent: a new skeleton goes without it and its children.";
@@ -150,7 +154,7 @@ void HtrWatcher::AddParentUnknown(const HtrCell& parent) {
 
 void HtrWatcher::AddHierarchyCount(const HtrCell& section) {
   const auto& announced = parts_.Value("NumSegments");
-  if (Finding* finding = Add(kHierarchyCount, announced.value_or(section))) {
+  if (Finding* finding = Add(Rule("htr-hierarchy-count"), announced.value_or(section))) {
     finding->found = CountOf(parts_.segments.size(), "line") + " in [SegmentNames&Hierarchy]";
     finding->expected = AnnouncedSegments();
     finding->effect =
@@ -162,7 +166,7 @@ void HtrWatcher::AddHierarchyCount(const HtrCell& section) {
 void HtrWatcher::AddSegmentCount(const HtrCell& end) {
   has_refused_ = true;
   const auto& announced = parts_.Value("NumSegments");
-  if (Finding* finding = Add(kSegmentCount, announced.value_or(end))) {
+  if (Finding* finding = Add(Rule("htr-segment-count"), announced.value_or(end))) {
     finding->found = CountOf(parts_.base_lines, "line") + " in [BasePosition]";
     finding->expected = AnnouncedSegments();
     finding->effect = "The import refuses the file.";
@@ -177,7 +181,7 @@ std::string HtrWatcher::AnnouncedSegments() const {
 
 void HtrWatcher::AddRefusedValue(const HtrCell& value, std::string_view keyword) {
   has_refused_ = was_stopped_ = true;
-  if (Finding* finding = Add(kValueRefused, value)) {
+  if (Finding* finding = Add(Rule("htr-value-refused"), value)) {
     finding->found = Quote(value.text);
     finding->expected =
         std::string(kKeywords[KeywordIndex(keyword)].values) + " for " + std::string(keyword);
@@ -187,7 +191,7 @@ void HtrWatcher::AddRefusedValue(const HtrCell& value, std::string_view keyword)
 
 void HtrWatcher::AddNameTaken(const HtrCell& name) {
   has_refused_ = was_stopped_ = true;
-  if (Finding* finding = Add(kNameTaken, name)) {
+  if (Finding* finding = Add(Rule("htr-name-taken"), name)) {
     const SegmentLines* first = parts_.Find(name.text);
     finding->found = Quote(name.text) + " again";
     finding->expected = "a name of its own for every segment";
@@ -201,7 +205,7 @@ void HtrWatcher::AddNameTaken(const HtrCell& name) {
 
 void HtrWatcher::AddBaseNameUnknown(const HtrCell& name) {
   has_refused_ = was_stopped_ = true;
-  if (Finding* finding = Add(kBaseNameUnknown, name)) {
+  if (Finding* finding = Add(Rule("htr-base-name-unknown"), name)) {
     finding->found = Quote(name.text);
     finding->expected = KnownSegments(name.text);
     finding->effect = kRefused;
@@ -239,7 +243,7 @@ void HtrWatcher::OnSection(HtrSection section, const HtrCell& name) {
 
 void HtrWatcher::CheckHeaderPlace(const HtrCell& name) {
   if (parts_.base_sections == 0) return;
-  if (Finding* finding = Add(kHeaderLate, name)) {
+  if (Finding* finding = Add(Rule("htr-header-late"), name)) {
     finding->found = "[Header] behind [BasePosition]";
     finding->expected = "[Header] first";
     finding->effect = "Angles stay in the unit that was in force before.";
@@ -253,7 +257,7 @@ void HtrWatcher::EnterMotion(const HtrCell& name) {
   if (!parts_.motion) parts_.motion = name;
   if (segment_->motion) {
     next_frame_number_.reset();
-    if (Finding* finding = Add(kMotionRepeated, name)) {
+    if (Finding* finding = Add(Rule("htr-motion-repeated"), name)) {
       finding->found = "a second section of " + Quote(name.text);
       finding->expected = "one for every segment";
       finding->effect = "Its frames are put behind those of the first.";
@@ -271,7 +275,8 @@ void HtrWatcher::LeaveSection() {
 
 void HtrWatcher::AddSkippedSection(const HtrCell& name) {
   const std::string_view meant = SectionLikelyMeant(name.text);
-  if (Finding* finding = Add(meant.empty() ? kSectionUnknown : kSectionMisspelt, name)) {
+  if (Finding* finding =
+          Add(meant.empty() ? Rule("htr-section-unknown") : Rule("htr-section-misspelt"), name)) {
     finding->found = Quote(name.text);
     finding->expected = meant.empty() ? KnownSegments(name.text) : "[" + std::string(meant) + "]";
     finding->effect =
@@ -285,7 +290,7 @@ void HtrWatcher::OnHeaderField(const HtrCell& keyword, const HtrCell& value) {
   if (index == kKeywords.size()) return;
   std::optional<HtrCell>& last = parts_.values[index];
   if (last) {
-    if (Finding* finding = Add(kKeywordRepeated, keyword)) {
+    if (Finding* finding = Add(Rule("htr-keyword-repeated"), keyword)) {
       finding->found = std::string(keyword.text) + " again";
       finding->expected =
           "it once; line " + FormatInt(static_cast<std::int64_t>(last->line)) + " has it";
@@ -300,7 +305,7 @@ void HtrWatcher::OnHeaderField(const HtrCell& keyword, const HtrCell& value) {
 // The reader takes Z and stores it, and no importer asks for it.
 void HtrWatcher::CheckGravity(const HtrCell& value) {
   if (FindAxis(value.text) != orvane::kAxisZ) return;
-  if (Finding* finding = Add(kAxisIgnored, value)) {
+  if (Finding* finding = Add(Rule("htr-axis-ignored"), value)) {
     finding->found = Quote(value.text);
     finding->expected = "Y";
     finding->effect = "The import takes Y for up all the same: the skeleton will lie down.";
@@ -309,7 +314,7 @@ void HtrWatcher::CheckGravity(const HtrCell& value) {
 
 void HtrWatcher::CheckRate(const HtrCell& value) {
   if (IsRate(ParseInt(value.text))) return;
-  if (Finding* finding = Add(kRateOutOfRange, value)) {
+  if (Finding* finding = Add(Rule("htr-rate-out-of-range"), value)) {
     finding->found = Quote(value.text);
     finding->expected = ExpectedRate();
     finding->effect = "The nearest rate that there is is set, unless --frame-rate keep is given.";
@@ -325,7 +330,7 @@ void HtrWatcher::OnSegment(const HtrCell& name, const HtrCell& parent) {
 void HtrWatcher::CheckName(const HtrCell& name) {
   const std::string reason = WhyUnusable(name.text);
   if (reason.empty()) return;
-  if (Finding* finding = Add(kNameUnusable, name)) {
+  if (Finding* finding = Add(Rule("htr-name-unusable"), name)) {
     finding->found = Quote(name.text);
     finding->expected = "a name that can be read back: no ], no [ in front, no word of the format";
     finding->effect = reason;
@@ -337,7 +342,7 @@ void HtrWatcher::OnBasePosition(const HtrCell& name) {
   SegmentLines* segment = parts_.Find(name.text);
   if (segment == nullptr) return;
   if (segment->base_section == parts_.base_sections) {
-    if (Finding* finding = Add(kBaseLineRepeated, name)) {
+    if (Finding* finding = Add(Rule("htr-base-line-repeated"), name)) {
       finding->found = Quote(name.text) + " again";
       finding->expected = "one line for every segment";
       finding->effect = "The later line counts.";
@@ -354,7 +359,7 @@ void HtrWatcher::OnFrame(const HtrCell& number) {
       is_number || !next_frame_number_ ? ParseInt(number.text) : *next_frame_number_;
   if (!start_frame_) start_frame_ = value;
   if (next_frame_number_ && value != *next_frame_number_) {
-    if (Finding* finding = Add(kFrameNumber, number)) {
+    if (Finding* finding = Add(Rule("htr-frame-number"), number)) {
       finding->found = Quote(number.text);
       finding->expected = FormatInt(*next_frame_number_);
       finding->effect = "The number is ignored: frames follow each other as their lines do.";

@@ -23,11 +23,11 @@ CheckedFile NewReport(const std::string& file, const MappingEntries& entries) {
 void NameFlaw(std::string_view bytes, FindingList& findings) {
   const auto flaw = FindTextFlaw(bytes);
   if (flaw == TextFlaw::kUtf16) {
-    NameFlawFirst(*flaw, mnm::kEncoding, "No marker has its entry: those of a capture are dropped.",
-                  findings);
+    NameFlawFirst(*flaw, mnm::Rule("mnm-encoding"),
+                  "No marker has its entry: those of a capture are dropped.", findings);
   } else if (flaw == TextFlaw::kCarriageReturns) {
-    NameFlawFirst(*flaw, mnm::kLineEnds, "Up to an LF only the first two words are read.",
-                  findings);
+    NameFlawFirst(*flaw, mnm::Rule("mnm-line-ends"),
+                  "Up to an LF only the first two words are read.", findings);
   }
 }
 
@@ -57,7 +57,7 @@ class MappingComparison {
   bool IsMapped(const TrcMarkerName& marker) const { return entries_.Find(marker.name) != nullptr; }
 
   void AddUnused(const MappingEntry& entry, FindingList& findings) const {
-    Finding* finding = findings.Add(mnm::kEntryUnused, entry.line, entry.column);
+    Finding* finding = findings.Add(mnm::Rule("mnm-entry-unused"), entry.line, entry.column);
     if (finding == nullptr) return;
     const auto meant =
         std::find_if(markers_.begin(), markers_.end(), [this, &entry](const TrcMarkerName& marker) {
@@ -70,8 +70,9 @@ class MappingComparison {
 
   void AddUnmapped(const TrcMarkerName& marker, FindingList& findings) const {
     const bool cannot = CannotBeMapped(marker.name);
-    Finding* finding = findings.Add(cannot ? mnm::kMarkerUnmappable : mnm::kMarkerUnmapped,
-                                    marker.place.line, marker.place.column);
+    Finding* finding =
+        findings.Add(cannot ? mnm::Rule("mnm-marker-unmappable") : mnm::Rule("mnm-marker-unmapped"),
+                     marker.place.line, marker.place.column);
     if (finding == nullptr) return;
     finding->found = Quote(marker.name);
     finding->expected =

@@ -70,21 +70,22 @@ void MappingEntries::ReadLine(const MappingLine& line) {
 void MappingEntries::CheckBytes() {
   const std::string_view text = watched_.Text();
   if (const std::string_view mark = watched_.ByteOrderMark(); !mark.empty()) {
-    Fill(Add(kByteOrderMark, mark), "a byte-order mark", "text without one, in ASCII or UTF-8",
+    Fill(Add(Rule("mnm-byte-order-mark"), mark), "a byte-order mark",
+         "text without one, in ASCII or UTF-8",
          "It belongs to the first name, which is then not what it looks like.");
   }
   if (watched_.Continues()) {
-    Fill(Add(kLineCut, text), "a line of more than 1022 bytes", "shorter lines",
+    Fill(Add(Rule("mnm-line-cut"), text), "a line of more than 1022 bytes", "shorter lines",
          "It is read as several lines, of which one starts here.");
   }
   if (watched_.IsCutByNul()) {
-    Fill(Add(kNul, text.substr(text.size())), "a NUL byte", "text",
+    Fill(Add(Rule("mnm-nul"), text.substr(text.size())), "a NUL byte", "text",
          "The rest of its line is not read.");
   }
 }
 
 void MappingEntries::AddBlank(const MappingLine& line) {
-  Fill(Add(kLineBlank, line.line.text), "a blank line", "an entry",
+  Fill(Add(Rule("mnm-line-blank"), line.line.text), "a blank line", "an entry",
        lines_ == 1 ? "It maps a marker without a name to nothing."
                    : "It repeats the entry before it, which changes nothing.");
 }
@@ -94,19 +95,19 @@ void MappingEntries::AddNameMissing(const MappingLine& line, std::string_view pa
                                  ? "It maps a marker without a name."
                                  : "The marker of the line before is taken, " + Quote(paired) +
                                        ", which has its entry already: the line changes nothing.";
-  Fill(Add(kNameMissing, line.given_standard_name),
+  Fill(Add(Rule("mnm-name-missing"), line.given_standard_name),
        "the one word " + Quote(line.given_standard_name),
        "a standard marker and the capture's name for it", effect);
 }
 
 void MappingEntries::AddRestIgnored(const MappingLine& line) {
-  Fill(Add(kRestIgnored, line.rest), Quote(line.rest), "the end of the line",
+  Fill(Add(Rule("mnm-rest-ignored"), line.rest), Quote(line.rest), "the end of the line",
        "It is ignored: names end at the first blank, so that one with blanks cannot be mapped.");
 }
 
 void MappingEntries::CheckStandardName(const MappingLine& line) {
   if (IsStandardMarker(line.given_standard_name)) return;
-  if (Finding* finding = Add(kStandardUnknown, line.given_standard_name)) {
+  if (Finding* finding = Add(Rule("mnm-standard-unknown"), line.given_standard_name)) {
     Fill(finding, Quote(line.given_standard_name), ExpectedStandardName(line),
          "The converted file has a marker of this name all the same.");
   }
@@ -134,7 +135,7 @@ void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t c
   const auto taken = by_standard_name_.find(entry.standard_name);
   if (taken == by_standard_name_.end()) return;
   const MappingEntry& first = in_force_[taken->second];
-  if (Finding* finding = findings_.Add(kStandardTwice, entry.line, column)) {
+  if (Finding* finding = findings_.Add(Rule("mnm-standard-twice"), entry.line, column)) {
     Fill(finding, Quote(entry.standard_name) + " again",
          "it once; " + LineNumber(first.line) + " has it",
          "A capture with " + Quote(first.trc_name) + " and " + Quote(entry.trc_name) +
@@ -144,8 +145,8 @@ void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t c
 
 void MappingEntries::AddSuperfluous(const MappingEntry& entry, const MappingEntry& first) {
   const bool is_same = entry.standard_name == first.standard_name;
-  Finding* finding =
-      findings_.Add(is_same ? kEntryDoubled : kEntryShadowed, entry.line, entry.column);
+  Finding* finding = findings_.Add(is_same ? Rule("mnm-entry-doubled") : Rule("mnm-entry-shadowed"),
+                                   entry.line, entry.column);
   if (finding == nullptr) return;
   Fill(finding, Quote(entry.trc_name) + " again", "it once; " + LineNumber(first.line) + " has it",
        is_same ? "The line changes nothing."
@@ -155,8 +156,8 @@ void MappingEntries::AddSuperfluous(const MappingEntry& entry, const MappingEntr
 
 void MappingEntries::CheckCount() {
   if (lines_ > 0) return;
-  Fill(findings_.Add(kEntriesMissing, 1, 1), "an empty file", "an entry for every marker to keep",
-       "Every marker of a capture is dropped.");
+  Fill(findings_.Add(Rule("mnm-entries-missing"), 1, 1), "an empty file",
+       "an entry for every marker to keep", "Every marker of a capture is dropped.");
 }
 
 }  // namespace orvane::mnm

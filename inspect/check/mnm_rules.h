@@ -1,5 +1,8 @@
 #pragma once
 
+#include <array>
+#include <string_view>
+
 #include "inspect/check/findings.h"
 
 // Everything that the check of mapping files can find. docs/formats/mnm.md explains the codes; a
@@ -7,28 +10,33 @@
 
 namespace orvane::mnm {
 
-// The whole file
-inline constexpr FindingRule kEncoding = ErrorRule("mnm-encoding");
-inline constexpr FindingRule kLineEnds = ErrorRule("mnm-line-ends");
+inline constexpr auto kRules = std::to_array<FindingRule>({
+    // The whole file
+    {"mnm-encoding", FindingSeverity::kError},
+    {"mnm-line-ends", FindingSeverity::kError},
 
-// Lines
-inline constexpr FindingRule kByteOrderMark = WarningRule("mnm-byte-order-mark");
-inline constexpr FindingRule kNul = WarningRule("mnm-nul");
-inline constexpr FindingRule kLineCut = WarningRule("mnm-line-cut");
-inline constexpr FindingRule kLineBlank = NoteRule("mnm-line-blank");
-inline constexpr FindingRule kNameMissing = WarningRule("mnm-name-missing");
-inline constexpr FindingRule kRestIgnored = WarningRule("mnm-rest-ignored");
-inline constexpr FindingRule kEntriesMissing = ErrorRule("mnm-entries-missing");
+    // Lines
+    {"mnm-byte-order-mark", FindingSeverity::kWarning},
+    {"mnm-nul", FindingSeverity::kWarning},
+    {"mnm-line-cut", FindingSeverity::kWarning},
+    {"mnm-line-blank", FindingSeverity::kNote},
+    {"mnm-name-missing", FindingSeverity::kWarning},
+    {"mnm-rest-ignored", FindingSeverity::kWarning},
+    {"mnm-entries-missing", FindingSeverity::kError},
 
-// MappingEntries
-inline constexpr FindingRule kStandardUnknown = WarningRule("mnm-standard-unknown");
-inline constexpr FindingRule kStandardTwice = WarningRule("mnm-standard-twice");
-inline constexpr FindingRule kEntryDoubled = NoteRule("mnm-entry-doubled");
-inline constexpr FindingRule kEntryShadowed = WarningRule("mnm-entry-shadowed");
+    // Entries
+    {"mnm-standard-unknown", FindingSeverity::kWarning},
+    {"mnm-standard-twice", FindingSeverity::kWarning},
+    {"mnm-entry-doubled", FindingSeverity::kNote},
+    {"mnm-entry-shadowed", FindingSeverity::kWarning},
 
-// MappingEntries and the markers of a capture
-inline constexpr FindingRule kEntryUnused = WarningRule("mnm-entry-unused");
-inline constexpr FindingRule kMarkerUnmapped = WarningRule("mnm-marker-unmapped");
-inline constexpr FindingRule kMarkerUnmappable = WarningRule("mnm-marker-unmappable");
+    // Entries and the markers of a capture
+    {"mnm-entry-unused", FindingSeverity::kWarning},
+    {"mnm-marker-unmapped", FindingSeverity::kWarning},
+    {"mnm-marker-unmappable", FindingSeverity::kWarning},
+});
+
+// The one of `code`.
+consteval const FindingRule& Rule(std::string_view code) { return FindRule(kRules, code); }
 
 }  // namespace orvane::mnm

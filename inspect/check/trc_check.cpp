@@ -1,6 +1,7 @@
 #include "inspect/check/trc_check.h"
 
 #include <algorithm>
+#include <array>
 
 #include "formats/text/numbers.h"
 #include "formats/trc/document_checker.h"
@@ -46,7 +47,7 @@ class WholeFile {
   }
 
   void AddMarkersMissing() {
-    Add(trc::kMarkersMissing, parts_.end, "no marker",
+    Add(trc::Rule("trc-markers-missing"), parts_.end, "no marker",
         "names in the fourth line, a tab behind each", "The import makes nothing of the file.");
   }
 
@@ -57,17 +58,17 @@ class WholeFile {
     if (announced <= 0) return AddFramesUnannounced(place);
     if (held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
-      return Add(trc::kFramesTooMany, place, FormatInt(announced),
+      return Add(trc::Rule("trc-frames-too-many"), place, FormatInt(announced),
                  "about " + FormatInt(held) + ", as many as there are",
                  "The import is refused, unless --range FROM:TO takes a part of them.");
     }
-    Add(trc::kFrameCount, place, FormatInt(announced) + ", as NumFrames says",
+    Add(trc::Rule("trc-frame-count"), place, FormatInt(announced) + ", as NumFrames says",
         FormatInt(held) + ", as many as there are", EffectOfCount(announced, held));
   }
 
   void AddFramesUnannounced(TRCPlace place) {
-    Add(trc::kFramesUnannounced, place, FormatInt(document_.NumFrames()) + ", as NumFrames says",
-        "a whole number of 1 or more",
+    Add(trc::Rule("trc-frames-unannounced"), place,
+        FormatInt(document_.NumFrames()) + ", as NumFrames says", "a whole number of 1 or more",
         "The import refuses the file: its last frame would come before its first. A converted file "
         "has no frames.");
   }
@@ -84,14 +85,14 @@ class WholeFile {
     const auto gaps = marker.Gaps();
     if (gaps.empty()) return;
     if (marker.Positions().empty()) {
-      return Add(trc::kMarkerNeverSeen, name, "no position of " + Quote(marker.Name()),
+      return Add(trc::Rule("trc-marker-never-seen"), name, "no position of " + Quote(marker.Name()),
                  "one in every frame", "The import makes an object that stays at the origin.");
     }
     const auto longest =
         std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
           return left.end - left.begin < right.end - right.begin;
         });
-    Add(trc::kMarkerGaps, parts_.PlaceOfFrame(longest->begin),
+    Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(longest->begin),
         DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
         "The import sets those frames to the origin; a converted file has dropouts.");
   }
@@ -110,6 +111,10 @@ class WholeFile {
   FindingList& findings_;
 };
 
+// By TextFlaw, but for the last ones, which no marker file has.
+constexpr std::array<FindingRule, 3> kFlawRules = {
+    trc::Rule("trc-empty"), trc::Rule("trc-encoding"), trc::Rule("trc-line-ends")};
+
 // The pieces of one long line may pass for the lines of a marker file.
 void NameFlaw(std::string_view bytes, FindingList& findings) {
   const auto flaw = FindTextFlaw(bytes);
@@ -117,7 +122,7 @@ void NameFlaw(std::string_view bytes, FindingList& findings) {
   const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
   const std::string effect =
       is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
-  NameFlawFirst(*flaw, trc::kFlaws[static_cast<std::size_t>(*flaw)],
+  NameFlawFirst(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
                 effect + "; what else is odd about it is not told.", findings);
 }
 

@@ -27,35 +27,38 @@ struct PlainOddity {
 };
 
 constexpr std::array<PlainOddity, 16> kPlainOddities = {{
-    {TRCOddity::kByteOrderMark, kByteOrderMark, "a byte-order mark",
+    {TRCOddity::kByteOrderMark, Rule("trc-byte-order-mark"), "a byte-order mark",
      "text without one, in ASCII or UTF-8", "It belongs to the first word, which does not count."},
-    {TRCOddity::kHiddenByNul, kNul, "a NUL byte", "text", "The rest of its line is not read."},
-    {TRCOddity::kLongLine, kLineCut, "a line of more than 10239 bytes", "shorter lines",
+    {TRCOddity::kHiddenByNul, Rule("trc-nul"), "a NUL byte", "text",
+     "The rest of its line is not read."},
+    {TRCOddity::kLongLine, Rule("trc-line-cut"), "a line of more than 10239 bytes", "shorter lines",
      "It is read as several lines, of which the second starts here."},
-    {TRCOddity::kCarriageReturn, kCarriageReturn, "a carriage return inside a line",
+    {TRCOddity::kCarriageReturn, Rule("trc-carriage-return"), "a carriage return inside a line",
      "LF or CR LF where lines end", "It is read as a part of the line."},
-    {TRCOddity::kSpareCarriageReturns, kCarriageReturnSpare, "several carriage returns before LF",
-     "LF or CR LF where lines end", "They are ignored, here and on all other lines."},
-    {TRCOddity::kUnfinishedEnd, kEndUnfinished, "the end of the file", "a line end before it",
-     "The line is read as it stands. Was the file cut short?"},
-    {TRCOddity::kCommentReplacesLine, kComment, nullptr, "no comments",
+    {TRCOddity::kSpareCarriageReturns, Rule("trc-carriage-return-spare"),
+     "several carriage returns before LF", "LF or CR LF where lines end",
+     "They are ignored, here and on all other lines."},
+    {TRCOddity::kUnfinishedEnd, Rule("trc-end-unfinished"), "the end of the file",
+     "a line end before it", "The line is read as it stands. Was the file cut short?"},
+    {TRCOddity::kCommentReplacesLine, Rule("trc-comment"), nullptr, "no comments",
      "The line is read as any other, and the next one is thrown away."},
-    {TRCOddity::kUnknownPathType, kPathTypeUnknown, nullptr, "3 or 4",
+    {TRCOddity::kUnknownPathType, Rule("trc-path-type-unknown"), nullptr, "3 or 4",
      "The first frame is number 1."},
-    {TRCOddity::kUnknownUnits, kUnitUnknown, nullptr,
+    {TRCOddity::kUnknownUnits, Rule("trc-unit-unknown"), nullptr,
      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimetres are taken."},
-    {TRCOddity::kUnitsEndTheLine, kUnitEndsLine, nullptr, "a tab behind the unit",
+    {TRCOddity::kUnitsEndTheLine, Rule("trc-unit-ends-line"), nullptr, "a tab behind the unit",
      "Millimetres are taken."},
-    {TRCOddity::kMarkerNameLost, kNameLost, nullptr, "a tab behind the name",
+    {TRCOddity::kMarkerNameLost, Rule("trc-name-lost"), nullptr, "a tab behind the name",
      "It makes no marker, and its values are not read."},
-    {TRCOddity::kMarkerNameEmpty, kNameEmpty, "an empty name", "a name",
+    {TRCOddity::kMarkerNameEmpty, Rule("trc-name-empty"), "an empty name", "a name",
      "It makes a marker without a name."},
-    {TRCOddity::kUnnamedColumnDropped, kColumnUnnamed, nullptr, "a name of its own", kColumnsShift},
-    {TRCOddity::kSubHeaderIsData, kSubHeaderMissing, nullptr, "the line of X1, Y1, Z1 and so on",
-     "The frame on this line is lost."},
-    {TRCOddity::kBlankFrame, kFrameBlank, "a blank line", "a frame",
+    {TRCOddity::kUnnamedColumnDropped, Rule("trc-column-unnamed"), nullptr, "a name of its own",
+     kColumnsShift},
+    {TRCOddity::kSubHeaderIsData, Rule("trc-sub-header-missing"), nullptr,
+     "the line of X1, Y1, Z1 and so on", "The frame on this line is lost."},
+    {TRCOddity::kBlankFrame, Rule("trc-frame-blank"), "a blank line", "a frame",
      "It is a frame in which no marker has a position."},
-    {TRCOddity::kSampleWithoutX, kSampleWithoutX, nullptr, "nothing, as X is empty",
+    {TRCOddity::kSampleWithoutX, Rule("trc-sample-without-x"), nullptr, "nothing, as X is empty",
      "It is ignored: the marker has no position in this frame."},
 }};
 
@@ -96,7 +99,7 @@ void TrcWatcher::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view tex
     case TRCOddity::kShortFrame:
       return AddShortFrame(place);
     case TRCOddity::kSurplusValue:
-      if (Finding* finding = Add(kValueExtra, place)) {
+      if (Finding* finding = Add(Rule("trc-value-extra"), place)) {
         finding->found = Quote(text);
         finding->expected =
             "the end of the line, behind " + CountOf(document_.MarkerCount(), "marker");
@@ -130,7 +133,7 @@ bool TrcWatcher::LacksTabs(TRCPlace place) const {
 void TrcWatcher::AddFileType(TRCPlace path_type) {
   const bool is_marked = file_type_.starts_with("\xEF\xBB\xBF");
   if (file_type_.empty() || is_marked || LacksTabs(path_type)) return;
-  if (Finding* finding = Add(kFileTypeUnknown, {path_type.line, 1, 1})) {
+  if (Finding* finding = Add(Rule("trc-file-type-unknown"), {path_type.line, 1, 1})) {
     finding->found = Quote(file_type_);
     finding->expected = "PathFileType";
     finding->effect = "The word does not count.";
@@ -141,7 +144,8 @@ void TrcWatcher::AddRefusal(TRCPlace place, std::string_view coordinates) {
   has_refused_ = true;
   const bool has_tabs = !LacksTabs(place);
   if (!has_tabs) place.column = 1;
-  if (Finding* finding = Add(has_tabs ? kCoordinatesRefused : kTabsMissing, place)) {
+  if (Finding* finding =
+          Add(has_tabs ? Rule("trc-coordinates-refused") : Rule("trc-tabs-missing"), place)) {
     finding->found = Quote(has_tabs ? coordinates : file_type_);
     finding->expected = has_tabs ? "(X/Y/Z) as the third field, and a tab behind it"
                                  : WhereFieldsBelong(file_type_);
@@ -152,10 +156,10 @@ void TrcWatcher::AddRefusal(TRCPlace place, std::string_view coordinates) {
 void TrcWatcher::AddNumber(TRCOddity oddity, TRCPlace place, std::string_view cell) {
   const bool is_frame_number = frames_ > 0 && place.field == 1;
   const bool is_whole = frames_ == 0 || is_frame_number;
-  const FindingRule& rule = oddity == TRCOddity::kMissingNumber      ? kNumberMissing
-                            : oddity == TRCOddity::kUnreadableNumber ? kNumberUnreadable
-                            : oddity == TRCOddity::kNumberCut        ? kNumberCut
-                                                                     : kNumberOutOfRange;
+  const FindingRule& rule = oddity == TRCOddity::kMissingNumber      ? Rule("trc-number-missing")
+                            : oddity == TRCOddity::kUnreadableNumber ? Rule("trc-number-unreadable")
+                            : oddity == TRCOddity::kNumberCut        ? Rule("trc-number-cut")
+                                                              : Rule("trc-number-out-of-range");
   Finding* finding = Add(rule, place);
   if (finding == nullptr) return;
   finding->found = Quote(cell);
@@ -171,7 +175,7 @@ void TrcWatcher::AddNumber(TRCOddity oddity, TRCPlace place, std::string_view ce
 }
 
 void TrcWatcher::AddRateCut(TRCPlace place, std::string_view rate) {
-  if (Finding* finding = Add(kRateCut, place)) {
+  if (Finding* finding = Add(Rule("trc-rate-cut"), place)) {
     finding->found = Quote(rate);
     finding->expected = "a whole number";
     finding->effect = EffectOfCutRate(rate);
@@ -189,7 +193,7 @@ void TrcWatcher::OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string
 
 void TrcWatcher::CheckRate(TRCPlace place, std::string_view rate) {
   if (IsRate(ParseInt(rate))) return;
-  if (Finding* finding = Add(kRateOutOfRange, place)) {
+  if (Finding* finding = Add(Rule("trc-rate-out-of-range"), place)) {
     finding->found = Quote(rate);
     finding->expected = ExpectedRate();
     finding->effect = "The nearest rate that there is is set, unless --frame-rate keep is given.";
@@ -197,7 +201,7 @@ void TrcWatcher::CheckRate(TRCPlace place, std::string_view rate) {
 }
 
 void TrcWatcher::AddCameraRate(TRCPlace place, std::string_view rate) {
-  if (Finding* finding = Add(kCameraRate, place)) {
+  if (Finding* finding = Add(Rule("trc-camera-rate"), place)) {
     finding->found = Quote(rate);
     finding->expected = "the rate of the cameras";
     finding->effect = "Nothing depends on it; a converted file tells it.";
@@ -210,7 +214,7 @@ void TrcWatcher::OnMarker(TRCPlace place, std::string_view name) {
 }
 
 void TrcWatcher::AddRepeatedName(TRCPlace place, std::string_view name) {
-  if (Finding* finding = Add(kColumnRepeated, place)) {
+  if (Finding* finding = Add(Rule("trc-column-repeated"), place)) {
     finding->found = Quote(name) + " again";
     finding->expected = "a name of its own; column " +
                         FormatInt(static_cast<std::int64_t>(fields_[name])) + " has it";
@@ -219,7 +223,7 @@ void TrcWatcher::AddRepeatedName(TRCPlace place, std::string_view name) {
 }
 
 void TrcWatcher::AddMarkerCount(TRCPlace place, std::string_view announced) {
-  if (Finding* finding = Add(kMarkerCount, place)) {
+  if (Finding* finding = Add(Rule("trc-marker-count"), place)) {
     finding->found = CountOf(document_.MarkerCount(), "marker");
     finding->expected = std::string(announced) + ", as NumMarkers says";
     finding->effect = "The import takes the markers that are there.";
@@ -234,7 +238,7 @@ void TrcWatcher::OnFrame(TRCPlace place, std::string_view number) {
 void TrcWatcher::CheckFirstFrame(TRCPlace place, std::string_view number) {
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
   if (cell.empty() || ParseInt(cell) == document_.FirstFrame()) return;
-  if (Finding* finding = Add(kFirstFrame, place)) {
+  if (Finding* finding = Add(Rule("trc-first-frame"), place)) {
     const std::string taken = FormatInt(document_.FirstFrame());
     finding->found = Quote(number);
     finding->expected = taken + (parts_.Value(TRCHeaderValue::kFirstFrame)
@@ -245,7 +249,7 @@ void TrcWatcher::CheckFirstFrame(TRCPlace place, std::string_view number) {
 }
 
 void TrcWatcher::AddFrameNumber(TRCPlace place, std::string_view number) {
-  if (Finding* finding = Add(kFrameNumber, place)) {
+  if (Finding* finding = Add(Rule("trc-frame-number"), place)) {
     finding->found = Quote(number);
     finding->expected = "the number behind that of the frame before";
     finding->effect = "The number is ignored: frames follow each other as their lines do.";
@@ -253,7 +257,7 @@ void TrcWatcher::AddFrameNumber(TRCPlace place, std::string_view number) {
 }
 
 void TrcWatcher::AddShortFrame(TRCPlace place) {
-  if (Finding* finding = Add(kFrameShort, place)) {
+  if (Finding* finding = Add(Rule("trc-frame-short"), place)) {
     const std::size_t wanted = 2 + std::size_t{3} * document_.MarkerCount();
     finding->found = CountOf(place.field - 1, "field");
     finding->expected = FormatInt(static_cast<std::int64_t>(wanted)) + ": frame, time and " +
