@@ -34,6 +34,20 @@ void* CreateAs(Arguments&&... arguments) noexcept {
 
 }  // namespace
 
+const char* OrvaneClassDesc::ClassName() {
+  return strings_.GetString(platform::ModuleHandle(), identity_.name_id);
+}
+
+const char* OrvaneClassDesc::Category() {
+  return strings_.GetString(platform::ModuleHandle(), IDS_CATEGORY);
+}
+
+HINSTANCE OrvaneClassDesc::HInstance() { return platform::ModuleHandle(); }
+
+const char* FileClassDesc::GetRsrcString(std::intptr_t id) {
+  return reinterpret_cast<const char*>(id);
+}
+
 ImportHTRClassDesc::ImportHTRClassDesc(StringTable& strings, MessageSink& messages,
                                        ImportHTROptions& options)
     : FileClassDesc(strings, kImportHTR), messages_(messages), options_(options) {}

@@ -7,7 +7,7 @@
 #include "plugin/export_htr/export_htr.h"
 #include "plugin/import_htr/import_htr.h"
 #include "plugin/import_trc/import_trc.h"
-#include "plugin/module/class_desc.h"
+#include "plugin/module/class_descs.h"
 
 namespace orvane {
 namespace {
