@@ -6,8 +6,10 @@ namespace orvane {
 namespace {
 
 // A transform taken apart.
-struct Parts {
-  explicit Parts(const Matrix3& matrix) { DecomposeMatrix(matrix, position, rotation, scale); }
+struct Decomposition {
+  explicit Decomposition(const Matrix3& matrix) {
+    DecomposeMatrix(matrix, position, rotation, scale);
+  }
 
   Point3 position;
   Quat rotation;
@@ -39,7 +41,8 @@ BoneTransforms BonePoseReader::Read(TimeValue time) const {
 }
 
 BonePose BonePoseReader::Pose(const BoneTransforms& transforms) const {
-  const Parts parts(relative_ ? transforms.node * Inverse(transforms.parent) : transforms.node);
+  const Decomposition parts(relative_ ? transforms.node * Inverse(transforms.parent)
+                                      : transforms.node);
   return {axes_.FilePosition(Widened(parts.position)), axes_.FileRotation(MatrixOf(parts.rotation)),
           static_cast<double>(parts.scale.x)};
 }
@@ -50,7 +53,7 @@ bool BonePoseReader::HasObjectOffset(const BoneTransforms& transforms) const {
 }
 
 double ParentScale(const BoneTransforms& transforms) {
-  return static_cast<double>(Parts(transforms.parent).scale.x);
+  return static_cast<double>(Decomposition(transforms.parent).scale.x);
 }
 
 }  // namespace orvane

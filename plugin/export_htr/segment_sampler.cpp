@@ -13,12 +13,12 @@ namespace orvane {
 namespace {
 
 // The frames of an export, both ends included; none when the last comes before the first.
-struct FrameSpan {
+struct SampledFrames {
   std::int64_t first = 0;
   std::int64_t last = 0;
 };
 
-FrameSpan FramesToSample(Interface& interface, const ExportHTROptions& options) {
+SampledFrames FramesToSample(Interface& interface, const ExportHTROptions& options) {
   if (options.range) return {options.startFrame, options.endFrame};
   const Interval range = interface.GetAnimRange();
   const int ticks_per_frame = GetTicksPerFrame();
@@ -111,7 +111,7 @@ void SegmentSampler::ReadCurrentBase(HtrSegment& segment) {
 }
 
 void SegmentSampler::SampleFrames(HtrSegment& segment) {
-  const FrameSpan frames = FramesToSample(interface_, options_);
+  const SampledFrames frames = FramesToSample(interface_, options_);
   document_.SetStartFrame(static_cast<std::int32_t>(frames.first + options_.frameOffset));
   if (frames.last < frames.first) return;
   segment.ReserveFrames(static_cast<std::size_t>(frames.last - frames.first + 1));

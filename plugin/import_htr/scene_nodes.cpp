@@ -20,7 +20,7 @@ WireColor NewObjectColor() {
   return WireColorOf(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
 }
 
-void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {
+void SetBoneSize(Object& bone, const BoneDimensions& size, TimeValue time) {
   ParameterBlock* parameters = bone.GetFirstParameterBlock();
   if (parameters == nullptr) return;
   parameters->SetValue(kBoneLengthParameter, time, static_cast<float>(size.length));
@@ -30,7 +30,7 @@ void SetBoneSize(Object& bone, const BoneSize& size, TimeValue time) {
 
 }  // namespace
 
-INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneSize& size) {
+INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneDimensions& size) {
   const TimeValue now = interface.GetTime();
   auto bone = CreateOwned<Object>(interface, kGeometricObjectSuperClass, kBoneClass);
   if (bone == nullptr) return nullptr;

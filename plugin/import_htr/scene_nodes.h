@@ -8,14 +8,14 @@
 namespace orvane {
 
 // The size of a bone, in system units.
-struct BoneSize {
+struct BoneDimensions {
   double length = 0.0;
   double thickness = 0.0;  // both sides of its cross-section
 };
 
 // Creates a bone of `size` under the scene root, named `name`, in the host's colour for new
 // objects. Returns null when the host cannot create it.
-INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneSize& size);
+INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneDimensions& size);
 
 // Creates a grouping helper under the scene root, a box from -half_extent to half_extent (system
 // units) on every axis, in the host's colour for new objects. Returns null when the host cannot

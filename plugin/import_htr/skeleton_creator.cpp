@@ -80,7 +80,7 @@ void SkeletonCreator::DeleteAncestors(std::vector<OpenBone>& open) {
 
 // The bone of `segment` alone, with its end effector when it is a leaf; null on failure.
 INode* SkeletonCreator::CreateSegmentNode(const HtrSegment& segment, INode* parent) {
-  const BoneSize size{segment.GetBoneLength() * options_.scaleFactor, Thickness(segment)};
+  const BoneDimensions size{segment.GetBoneLength() * options_.scaleFactor, Thickness(segment)};
   INode* node = CreateBoneNode(interface_, segment.GetName(), size);
   if (node == nullptr) return nullptr;
   // Attached first, so that every value set below is relative to the parent.
@@ -93,7 +93,7 @@ INode* SkeletonCreator::CreateSegmentNode(const HtrSegment& segment, INode* pare
 }
 
 bool SkeletonCreator::CreateEndEffector(const HtrSegment& segment, INode& node) {
-  const BoneSize size{Thickness(segment), Thickness(segment)};
+  const BoneDimensions size{Thickness(segment), Thickness(segment)};
   INode* effector = CreateBoneNode(interface_, segment.GetName() + "_Effector", size);
   if (effector == nullptr) return false;
   // Intended: the offset is the bone's length in the file; the global scale, which lengthens the

@@ -11,7 +11,7 @@ constexpr std::size_t kLongestResult = 256;
 constexpr std::size_t kUsualDecimals = 6;
 
 // What stands behind a per cent sign, as far as it matters for zeros.
-struct Conversion {
+struct FormatConversion {
   bool left = false;
   bool plus = false;
   bool blank = false;
@@ -60,7 +60,7 @@ class FormatCharacters {
   std::string_view rest_;
 };
 
-bool TakeFlag(FormatCharacters& characters, Conversion& conversion) {
+bool TakeFlag(FormatCharacters& characters, FormatConversion& conversion) {
   if (characters.TakeIf("-")) return conversion.left = true;
   if (characters.TakeIf("+")) return conversion.plus = true;
   if (characters.TakeIf(" ")) return conversion.blank = true;
@@ -69,8 +69,8 @@ bool TakeFlag(FormatCharacters& characters, Conversion& conversion) {
   return false;
 }
 
-Conversion TakeConversion(FormatCharacters& characters) {
-  Conversion conversion;
+FormatConversion TakeConversion(FormatCharacters& characters) {
+  FormatConversion conversion;
   while (TakeFlag(characters, conversion)) continue;
   conversion.width = characters.TakeNumber();
   if (characters.TakeIf(".")) conversion.precision = characters.TakeNumber();
@@ -79,14 +79,14 @@ Conversion TakeConversion(FormatCharacters& characters) {
   return conversion;
 }
 
-std::string SignOf(const Conversion& conversion) {
+std::string SignOf(const FormatConversion& conversion) {
   if (conversion.plus) return "+";
   return conversion.blank ? " " : "";
 }
 
 // `sign` and `digits` in the width that is asked for, and never longer than a result may be.
-std::string Padded(const Conversion& conversion, const std::string& sign, const std::string& digits,
-                   bool pad_with_zeros) {
+std::string Padded(const FormatConversion& conversion, const std::string& sign,
+                   const std::string& digits, bool pad_with_zeros) {
   const std::size_t length = sign.size() + digits.size();
   const std::string padding(conversion.width - std::min(conversion.width, length),
                             pad_with_zeros && !conversion.left ? '0' : ' ');
@@ -101,7 +101,7 @@ std::string Padded(const Conversion& conversion, const std::string& sign, const 
   return result.substr(0, kLongestResult);
 }
 
-std::string IntegerZero(const Conversion& conversion) {
+std::string IntegerZero(const FormatConversion& conversion) {
   const bool is_signed = IsOneOf(conversion.type, "di");
   std::string digits(conversion.precision.value_or(1), '0');
   if (digits.empty() && conversion.alternate && conversion.type == 'o') digits = "0";
@@ -109,7 +109,7 @@ std::string IntegerZero(const Conversion& conversion) {
   return Padded(conversion, is_signed ? SignOf(conversion) : "", digits, pad_with_zeros);
 }
 
-std::string RealZero(const Conversion& conversion) {
+std::string RealZero(const FormatConversion& conversion) {
   const std::size_t decimals = conversion.precision.value_or(kUsualDecimals);
   const char* const point = decimals > 0 || conversion.alternate ? "." : "";
   return Padded(conversion, SignOf(conversion), "0" + (point + std::string(decimals, '0')),
@@ -117,7 +117,7 @@ std::string RealZero(const Conversion& conversion) {
 }
 
 // The result of `conversion`, whose text is `text` from the per cent sign on.
-std::string ResultOf(const Conversion& conversion, std::string_view text) {
+std::string ResultOf(const FormatConversion& conversion, std::string_view text) {
   if (text == "%%") return "%";
   if (conversion.type == '\0') return std::string(text);
   if (IsOneOf(conversion.type, "diuoxX")) return IntegerZero(conversion);
@@ -137,7 +137,7 @@ std::string FormatWithoutArguments(std::string_view format) {
     format.remove_prefix(sign);
     if (format.empty()) break;
     FormatCharacters characters(format.substr(1));
-    const Conversion conversion = TakeConversion(characters);
+    const FormatConversion conversion = TakeConversion(characters);
     const std::size_t length = format.size() - characters.Rest().size();
     result += ResultOf(conversion, format.substr(0, length));
     format.remove_prefix(length);
