@@ -6,7 +6,7 @@
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
-#include "plugin/utilities/chosen_files.h"
+#include "plugin/utilities/file_dialogs.h"
 #include "plugin/utilities/marker_file.h"
 #include "sdk/skelderutil/filename.h"
 
@@ -95,7 +95,7 @@ bool ConversionRun::ChooseSources() {
     sources_ = {buffer.substr(0, buffer.find('\0'))};
     return true;
   }
-  ChosenFiles chosen = ReadChosenFiles(buffer, name_offset, platform::PathSeparator());
+  FilesInFolder chosen = ReadChosenFiles(buffer, name_offset, platform::PathSeparator());
   parts_.settings.inputPath = chosen.folder;
   sources_ = std::move(chosen.paths);
   return true;

@@ -4,7 +4,7 @@
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/object_nodes.h"
-#include "plugin/utilities/mapping_file_dialog.h"
+#include "plugin/utilities/file_dialogs.h"
 
 namespace orvane {
 namespace {

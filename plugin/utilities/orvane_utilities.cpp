@@ -1,6 +1,5 @@
 #include "plugin/utilities/orvane_utilities.h"
 
-#include <cstddef>
 #include <optional>
 #include <string>
 #include <utility>
@@ -12,8 +11,8 @@
 #include "plugin/exchange/failure_report.h"
 #include "plugin/resources/resource.h"
 #include "plugin/utilities/convert_bvk.h"
+#include "plugin/utilities/file_dialogs.h"
 #include "plugin/utilities/mapping_creator.h"
-#include "plugin/utilities/mapping_file_dialog.h"
 #include "sdk/skelderutil/custom_edit.h"
 
 namespace orvane {
@@ -24,9 +23,6 @@ constexpr int kRollupCategory = 4000;
 constexpr FailureTexts kFailure{"OrvaneUtilities Error",
                                 "There is not enough memory for this command.",
                                 "An unexpected error ended this command."};
-
-// The longest path of any system fits.
-constexpr std::size_t kPathBufferSize = std::size_t{64} * 1024;
 
 // The host's custom edit control with that number, held as long as this object.
 class HeldEdit {
@@ -69,15 +65,6 @@ void EnableOffset(platform::Dialog& dialog, bool enabled) {
   EnableControls(dialog,
                  {IDC_TRC_SPACE, IDC_SKELDER_SPACE, IDC_OFFSET_X, IDC_OFFSET_Y, IDC_OFFSET_Z},
                  enabled);
-}
-
-std::optional<std::string> ChooseOutputFolder(HWND owner) {
-  std::string buffer(kPathBufferSize, '\0');
-  if (!platform::ChooseFolder(owner, "Choose BVK Files Destination Folder...", buffer.data(),
-                              buffer.size())) {
-    return std::nullopt;
-  }
-  return buffer.c_str();
 }
 
 }  // namespace
