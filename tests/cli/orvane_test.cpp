@@ -42,8 +42,4 @@ std::string Slashed(std::string text) {
   return text;
 }
 
-std::string Replaced(std::string text, const std::string& from, const std::string& to) {
-  return text.replace(text.find(from), from.size(), to);
-}
-
 }  // namespace test

@@ -8,6 +8,7 @@
 
 #include "tests/support/files.h"
 #include "tests/support/program.h"
+#include "tests/support/replaced_text.h"
 #include "tests/support/temporary_folder.h"
 
 // Runs the program `orvane` in a folder of the test's own, where its settings lie too.
@@ -51,8 +52,5 @@ std::string HurriedModule();
 
 // `text` with the slashes of paths as POSIX systems write them.
 std::string Slashed(std::string text);
-
-// `text` with `from` replaced by `to`; `from` stands in it once.
-std::string Replaced(std::string text, const std::string& from, const std::string& to);
 
 }  // namespace test

@@ -62,4 +62,33 @@ TEST(TextFlaw, IsAMarkOnlyBeforeASection) {
   EXPECT_EQ(FindTextFlaw(kMark + "[Header]\n"s), std::nullopt);
 }
 
+TEST(TextFlaw, IsToldInWords) {
+  struct Words {
+    TextFlaw flaw;
+    std::string text, advice, found, expected;
+  };
+  for (const Words& words :
+       {Words{TextFlaw::kEmpty, "The file is empty", "Was it saved, or copied, to its end?",
+              "an empty file", "text"},
+        {TextFlaw::kUtf16, "The file is UTF-16 text", "Save it as UTF-8 or ASCII.", "UTF-16 text",
+         "ASCII or UTF-8"},
+        {TextFlaw::kCarriageReturns, "Lines end with carriage returns alone, which end no line",
+         "Save it with LF or CR LF where lines end.", "lines that end with carriage returns alone",
+         "LF or CR LF where lines end"},
+        {TextFlaw::kMarkedSection,
+         "A byte-order mark keeps the first line from being a section line",
+         "Save it without a byte-order mark.", "a byte-order mark before a section line",
+         "[ as the first character"},
+        {TextFlaw::kMarkedName,
+         "A byte-order mark belongs to the first name, which is then not what it looks like",
+         "Save it without a byte-order mark.", "a byte-order mark before a name",
+         "a name at the start"}}) {
+    const orvane::TextFlawWords& told = orvane::WordsFor(words.flaw);
+    EXPECT_EQ(told.text, words.text);
+    EXPECT_EQ(told.advice, words.advice);
+    EXPECT_EQ(told.found, words.found);
+    EXPECT_EQ(told.expected, words.expected);
+  }
+}
+
 }  // namespace

@@ -1,0 +1,157 @@
+#include "inspect/check/mnm_check.h"
+
+#include "inspect/check/mnm_rules.h"
+#include "tests/inspect/check/check_rows.h"
+#include "tests/support/saved_text.h"
+
+namespace {
+
+using orvane::CheckMapping;
+using test::AllTold;
+using test::CheckRow;
+using test::kMark;
+using test::LittleEndian;
+using testing::IsEmpty;
+using namespace std::string_literals;
+
+std::vector<test::Told> ToldOf(const std::string& bytes) {
+  return AllTold(CheckMapping("m.mnm", bytes).findings);
+}
+
+// Of the mapping and of the capture.
+std::vector<test::Told> ToldOfBoth(const std::string& bytes) {
+  const orvane::MappedCapture capture{
+      "take.trc", {{"Head2", {4, 13, 3}}, {"Right Head", {4, 21, 6}}, {"Toe", {4, 34, 9}}}};
+  std::vector<test::Told> all;
+  for (const orvane::CheckedFile& file : CheckMapping("m.mnm", bytes, capture)) {
+    for (const test::Told& told : AllTold(file.findings)) all.push_back(told);
+  }
+  return all;
+}
+
+const std::vector<CheckRow> kMappingRows = {
+    {"Utf16",
+     "\xFF\xFE" + LittleEndian("C7 B\n"),
+     {"1:1 error mnm-encoding", "UTF-16 text", "ASCII or UTF-8",
+      "No marker has its entry: those of a capture are dropped."}},
+    {"CarriageReturnsAlone",
+     "C7 Back\rT10 Spine\r",
+     {"1:1 error mnm-line-ends", "lines that end with carriage returns alone",
+      "LF or CR LF where lines end", "Up to an LF only the first two words are read."}},
+    {"ByteOrderMark",
+     kMark + "LFHD\tHead1\n"s,
+     {"1:1 warning mnm-byte-order-mark", "a byte-order mark", "text without one, in ASCII or UTF-8",
+      "It belongs to the first name, which is then not what it looks like."}},
+    {"Nul",
+     "LFHD\tHead1\0\n"s,
+     {"1:11 warning mnm-nul", "a NUL byte", "text", "The rest of its line is not read."}},
+    {"LongLine",
+     "LFHD " + std::string(1020, 'y') + "\n",
+     {"1:1024 warning mnm-line-cut", "a line of more than 1022 bytes", "shorter lines",
+      "It is read as several lines, of which one starts here."}},
+    {"BlankAtTheStart",
+     "\nC7 Back\n",
+     {"1:1 note mnm-line-blank", "a blank line", "an entry",
+      "It maps a marker without a name to nothing."}},
+    {"BlankBehindAnEntry",
+     "C7 Back\n \t\n",
+     {"2:1 note mnm-line-blank", "a blank line", "an entry",
+      "It repeats the entry before it, which changes nothing."}},
+    {"OneWordAtTheStart",
+     "C7\n",
+     {"1:1 warning mnm-name-missing", "the one word \"C7\"",
+      "a standard marker and the capture's name for it", "It maps a marker without a name."}},
+    {"OneWordBehindAnEntry",
+     "LFHD Head1\n  LBHD\t\n",
+     {"2:3 warning mnm-name-missing", "the one word \"LBHD\"",
+      "a standard marker and the capture's name for it",
+      "The marker of the line before is taken, \"Head1\", which has its entry already: the line "
+      "changes nothing."}},
+    {"NameWithBlank",
+     "C7\tUpper Back\t\n",
+     {"1:10 warning mnm-rest-ignored", "\"Back\t\"", "the end of the line",
+      "It is ignored: names end at the first blank, so that one with blanks cannot be mapped."}},
+    {"NoEntries",
+     "",
+     {"1:1 error mnm-entries-missing", "an empty file", "an entry for every marker to keep",
+      "Every marker of a capture is dropped."}},
+    {"OtherStandardName",
+     "Neck Back\n",
+     {"1:1 warning mnm-standard-unknown", "\"Neck\"", "a standard marker",
+      "The converted file has a marker of this name all the same."}},
+    {"MisspelledStandardName",
+     "lfhd Head1\n",
+     {"1:1 warning mnm-standard-unknown", "\"lfhd\"", "\"LFHD\"",
+      "The converted file has a marker of this name all the same."}},
+    {"NamesTheOtherWayRound",
+     "Back T10\n",
+     {"1:1 warning mnm-standard-unknown", "\"Back\"", "\"T10\" first, and then the capture's name",
+      "The converted file has a marker of this name all the same."}},
+    {"StandardNameTwice",
+     "C7 Back\nC7 Spine\n",
+     {"2:1 warning mnm-standard-twice", "\"C7\" again", "it once; line 1 has it",
+      "A capture with \"Back\" and \"Spine\" becomes a file with two markers of this name."}},
+    {"EntryTwice",
+     "C7 Back\nC7 Back\n",
+     {"2:4 note mnm-entry-doubled", "\"Back\" again", "it once; line 1 has it",
+      "The line changes nothing."}},
+    {"EntryShadowed",
+     "C7 Back\nT10 Back\n",
+     {"2:5 warning mnm-entry-shadowed", "\"Back\" again", "it once; line 1 has it",
+      "The line is ignored: the marker is \"C7\", as the earlier one says."}},
+};
+
+const std::vector<CheckRow> kCaptureRows = {
+    {"MisspelledEntry",
+     "LFHD head2\n",
+     {"1:6 warning mnm-entry-unused", "\"head2\"", "\"Head2\"",
+      "The capture has no such marker: the line changes nothing."}},
+    {"EntryForNoMarker",
+     "LFHD Neck\n",
+     {"1:6 warning mnm-entry-unused", "\"Neck\"", "a marker of the capture",
+      "The capture has no such marker: the line changes nothing."}},
+    {"MisspelledMarker",
+     "LFHD head2\n",
+     {"4:13 warning mnm-marker-unmapped", "\"Head2\"", "\"head2\", as in m.mnm",
+      "The marker is dropped."}},
+    {"MarkerWithoutAnEntry",
+     "LFHD Head2\n",
+     {"4:34 warning mnm-marker-unmapped", "\"Toe\"", "an entry for it in m.mnm",
+      "The marker is dropped."}},
+    {"MarkerOfTwoWords",
+     "LFHD Head2\n",
+     {"4:21 warning mnm-marker-unmappable", "\"Right Head\"",
+      "a name of one word, which a mapping can name", "The marker is dropped."}},
+};
+
+TEST(MappingCheck, FindsNothingInASoundFile) {
+  const orvane::CheckedFile checked =
+      CheckMapping("m.mnm", "LFHD\tHead1\t\nC7 Back\r\n RWRI  Wrist");
+  EXPECT_EQ(checked.file, "m.mnm");
+  EXPECT_EQ(checked.kind, "MNM");
+  EXPECT_EQ(checked.contents, "3 markers mapped");
+  EXPECT_THAT(AllTold(checked.findings), IsEmpty());
+}
+
+TEST(MappingCheck, TellsOfACaptureWhoseMarkersAreMapped) {
+  const auto files = CheckMapping("m.mnm", "LFHD Head1\n", {"take.trc", {{"Head1", {4, 13, 3}}}});
+  ASSERT_EQ(files.size(), 2U);
+  EXPECT_EQ(files[1].file, "take.trc");
+  EXPECT_EQ(files[1].kind, "TRC");
+  EXPECT_EQ(files[1].contents, "1 marker");
+  EXPECT_THAT(AllTold(files[0].findings), IsEmpty());
+  EXPECT_THAT(AllTold(files[1].findings), IsEmpty());
+}
+
+TEST(MappingCheck, TellsOfEachOddity) {
+  test::ExpectTold(kMappingRows, ToldOf);
+  test::ExpectTold(kCaptureRows, ToldOfBoth);
+}
+
+TEST(MappingCheck, HasAnOddityForEachRule) {
+  std::vector<CheckRow> rows = kMappingRows;
+  rows.insert(rows.end(), kCaptureRows.begin(), kCaptureRows.end());
+  test::ExpectARowForEach(orvane::mnm::kRules, rows);
+}
+
+}  // namespace

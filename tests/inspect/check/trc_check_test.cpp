@@ -1,0 +1,275 @@
+#include "inspect/check/trc_check.h"
+
+#include "inspect/check/trc_rules.h"
+#include "tests/inspect/check/check_rows.h"
+#include "tests/support/replaced_text.h"
+#include "tests/support/saved_text.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using orvane::CheckTrc;
+using test::CheckRow;
+using test::kMark;
+using test::LittleEndian;
+using test::Replaced;
+using test::TrcText;
+using test::WithReturns;
+using namespace std::string_literals;
+
+// Lines: 3 the values of the header, 4 the names, 5 the headings, 7 to 9 the frames.
+TrcText Capture() {
+  return {.markers = {"LFHD", "RFHD"},
+          .frames = {{"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}, {"7\t8\t9", "4\t5\t6"}}};
+}
+
+std::string Damaged(const std::string& from, const std::string& to) {
+  return Replaced(Capture().Text(), from, to);
+}
+
+std::string SpareReturns() {
+  TrcText text = Capture();
+  text.line_end = "\r\r\n";
+  return text.Text();
+}
+
+std::string WithoutTheSecondMarker() {
+  TrcText text = Capture();
+  for (TrcText::Frame& frame : text.frames) frame[1] = "";
+  return text.Text();
+}
+
+std::vector<test::Told> ToldOf(const std::string& bytes) {
+  return test::AllTold(CheckTrc("walk.trc", bytes).findings);
+}
+
+constexpr const char* kRefused = "The import refuses the file; the rest of it is not checked.";
+constexpr const char* kRefusedWhole =
+    "The import refuses the file; what else is odd about it is not told.";
+constexpr const char* kInfinite =
+    "It is taken as infinite: a scene that it gets into cannot be saved.";
+constexpr const char* kColumnsShift =
+    "It makes no marker, and the values of its column go to the next one: all columns behind it "
+    "shift.";
+
+const std::vector<CheckRow> kRows = {
+    // The whole file
+    {"Empty", "", {"1:1 error trc-empty", "an empty file", "text", kRefusedWhole}},
+    {"Utf16",
+     LittleEndian(Capture().Text()),
+     {"1:1 error trc-encoding", "UTF-16 text", "ASCII or UTF-8", kRefusedWhole}},
+    {"CarriageReturnsAlone",
+     WithReturns(Capture().Text()),
+     {"1:1 error trc-line-ends", "lines that end with carriage returns alone",
+      "LF or CR LF where lines end", kRefusedWhole}},
+
+    // Lines
+    {"ByteOrderMark",
+     kMark + Capture().Text(),
+     {"1:1 note trc-byte-order-mark", "a byte-order mark", "text without one, in ASCII or UTF-8",
+      "It belongs to the first word, which does not count."}},
+    {"Nul",
+     Damaged("7\t8\t9\t4", "7\t8\t9\0\t4"s),
+     {"9:14 warning trc-nul", "a NUL byte", "text", "The rest of its line is not read."}},
+    {"LongLine",
+     Damaged("5\t6\n3\t0.000", "5\t6" + std::string(10220, '\t') + "3\t0.000"),
+     {"8:10240 warning trc-line-cut", "a line of more than 10239 bytes", "shorter lines",
+      "It is read as several lines, of which the second starts here."}},
+    {"CarriageReturn",
+     Damaged("test.trc", "test.trc\rx"),
+     {"1:32 warning trc-carriage-return", "a carriage return inside a line",
+      "LF or CR LF where lines end", "It is read as a part of the line."}},
+    {"SpareCarriageReturns",
+     SpareReturns(),
+     {"1:32 note trc-carriage-return-spare", "several carriage returns before LF",
+      "LF or CR LF where lines end", "They are ignored, here and on all other lines."}},
+    {"Comment",
+     Damaged("PathFileType", "#made by hand\nPathFileType"),
+     {"1:1 warning trc-comment", "\"#made by hand\"", "no comments",
+      "The line is read as any other, and the next one is thrown away."}},
+    {"NoLineEnd",
+     Damaged("7\t8\t9\t4\t5\t6\n", "7\t8\t9\t4\t5\t6"),
+     {"9:20 note trc-end-unfinished", "the end of the file", "a line end before it",
+      "The line is read as it stands. Was the file cut short?"}},
+
+    // Header
+    {"OtherFileType",
+     Damaged("PathFileType", "PathType"),
+     {"1:1 note trc-file-type-unknown", "\"PathType\"", "PathFileType",
+      "The word does not count."}},
+    {"OtherPathType",
+     Damaged("Type\t4", "Type\t5"),
+     {"1:14 warning trc-path-type-unknown", "\"5\"", "3 or 4", "The first frame is number 1."}},
+    {"BlanksForTabs",
+     Damaged("PathFileType\t4\t(X/Y/Z)\ttest.trc", "PathFileType 4 (X/Y/Z) test.trc"),
+     {"1:1 error trc-tabs-missing", "\"PathFileType 4 (X/Y/Z) test.trc\"",
+      "tabs between fields, not blanks", kRefused}},
+    {"CommasForTabs",
+     Damaged("PathFileType\t4\t(X/Y/Z)\ttest.trc", "PathFileType,4,(X/Y/Z),test.trc"),
+     {"1:1 error trc-tabs-missing", "\"PathFileType,4,(X/Y/Z),test.trc\"",
+      "tabs between fields, not commas", kRefused}},
+    {"SemicolonsForTabs",
+     Damaged("PathFileType\t4\t(X/Y/Z)\ttest.trc", "PathFileType;4;(X/Y/Z);test.trc"),
+     {"1:1 error trc-tabs-missing", "\"PathFileType;4;(X/Y/Z);test.trc\"",
+      "tabs between fields, not semicolons", kRefused}},
+    {"OtherCoordinates",
+     Damaged("(X/Y/Z)", "(x/y/z)"),
+     {"1:16 error trc-coordinates-refused", "\"(x/y/z)\"",
+      "(X/Y/Z) as the third field, and a tab behind it", kRefused}},
+    {"RateWithFraction",
+     Damaged("60\t60\t3", "59.94\t60\t3"),
+     {"3:1 warning trc-rate-cut", "\"59.94\"", "a whole number",
+      "59 is taken: a minute lasts 60.96 s."}},
+    {"RateBelowOne",
+     Damaged("60\t60\t3", "0.5\t60\t3"),
+     {"3:1 warning trc-rate-cut", "\"0.5\"", "a whole number", "0 is taken."}},
+    {"RateAboveTheScene",
+     Damaged("60\t60\t3", "4801\t60\t3"),
+     {"3:1 warning trc-rate-out-of-range", "\"4801\"", "1 to 4800 frames per second",
+      "The nearest rate that there is is set, unless --frame-rate keep is given."}},
+    {"NoCameraRate",
+     Damaged("60\t60\t3", "60\t0\t3"),
+     {"3:4 note trc-camera-rate", "\"0\"", "the rate of the cameras",
+      "Nothing depends on it; a converted file tells it."}},
+    {"OtherUnit",
+     Damaged("\tmm\t", "\tMm\t"),
+     {"3:11 warning trc-unit-unknown", "\"Mm\"",
+      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimetres are taken."}},
+    {"UnitAtTheEnd",
+     Damaged("mm\t60\t1\t3", "mm"),
+     {"3:11 warning trc-unit-ends-line", "\"mm\"", "a tab behind the unit",
+      "Millimetres are taken."}},
+
+    // Columns
+    {"LastNameLost",
+     Damaged("RFHD\t\t\t", "RFHD"),
+     {"4:20 warning trc-name-lost", "\"RFHD\"", "a tab behind the name",
+      "It makes no marker, and its values are not read."}},
+    {"EmptyName",
+     Damaged("LFHD", ""),
+     {"4:13 warning trc-name-empty", "an empty name", "a name",
+      "It makes a marker without a name."}},
+    {"UnnamedColumn",
+     Damaged("LFHD", "Unnamed"),
+     {"4:13 warning trc-column-unnamed", "\"Unnamed\"", "a name of its own", kColumnsShift}},
+    {"RepeatedName",
+     Damaged("RFHD", "LFHD"),
+     {"4:20 warning trc-column-repeated", "\"LFHD\" again", "a name of its own; column 13 has it",
+      kColumnsShift}},
+    {"NoMarkers",
+     Damaged("LFHD\t\t\tRFHD\t\t\t", ""),
+     {"10:1 error trc-markers-missing", "no marker", "names in the fourth line, a tab behind each",
+      "The import makes nothing of the file."}},
+    {"OtherMarkerCount",
+     Damaged("3\t2\tmm", "3\t5\tmm"),
+     {"3:9 warning trc-marker-count", "2 markers", "5, as NumMarkers says",
+      "The import takes the markers that are there."}},
+    {"NoSubHeader",
+     Damaged("\t\tX1\tY1\tZ1\tX2\tY2\tZ2\n\n", ""),
+     {"5:1 warning trc-sub-header-missing", "\"1\"", "the line of X1, Y1, Z1 and so on",
+      "The frame on this line is lost."}},
+
+    // Numbers
+    {"MissingHeaderNumber",
+     Damaged("60\t3\t2", "60\t\t2"),
+     {"3:7 warning trc-number-missing", "nothing", "a whole number", "0 is taken."}},
+    {"MissingCoordinate",
+     Damaged("7\t8\t9", "7\t\t9"),
+     {"9:11 warning trc-number-missing", "nothing", "a number", "0 is taken."}},
+    {"Word",
+     Damaged("7\t8\t9", "NaN\t8\t9"),
+     {"9:9 warning trc-number-unreadable", "\"NaN\"", "a number", "0 is taken."}},
+    {"UnitBehind",
+     Damaged("7\t8\t9", "7\t8\t9.5mm"),
+     {"9:13 warning trc-number-unreadable", "\"9.5mm\"", "a number", "9.5 is taken."}},
+    {"FirstFrameInWords",
+     Damaged("60\t1\t3", "60\tone\t3"),
+     {"3:17 warning trc-number-unreadable", "\"one\"", "a whole number", "0 is taken."}},
+    {"FrameNumberWithFraction",
+     Damaged("3\t0.000", "3.5\t0.000"),
+     {"9:1 warning trc-number-cut", "\"3.5\"", "a whole number, the frame's",
+      "3 is taken; only the first of a file is used."}},
+    {"CoordinateTooLarge",
+     Damaged("7\t8\t9", "7\t1e39\t9"),
+     {"9:11 warning trc-number-out-of-range", "\"1e39\"", "a number", kInfinite}},
+    {"HeaderNumberTooLarge",
+     Damaged("60\t60\t3", "60\t99999999999\t3"),
+     {"3:4 warning trc-number-out-of-range", "\"99999999999\"", "a whole number",
+      "2147483647 is taken."}},
+
+    // Frames
+    {"Blank",
+     Damaged("3\t0.000\t7\t8\t9\t4\t5\t6", ""),
+     {"9:1 warning trc-frame-blank", "a blank line", "a frame",
+      "It is a frame in which no marker has a position."}},
+    {"Short",
+     Damaged("7\t8\t9\t4\t5\t6", "7\t8\t9"),
+     {"9:14 warning trc-frame-short", "5 fields", "8: frame, time and 2 markers",
+      "The markers that are missing have no position in this frame."}},
+    {"ValueBehindTheLast",
+     Damaged("9\t4\t5\t6", "9\t4\t5\t6\t7"),
+     {"9:21 warning trc-value-extra", "\"7\"", "the end of the line, behind 2 markers",
+      "It is ignored, with what follows it."}},
+    {"SampleWithoutX",
+     Damaged("7\t8\t9", "\t8\t9"),
+     {"9:10 warning trc-sample-without-x", "\"8\"", "nothing, as X is empty",
+      "It is ignored: the marker has no position in this frame."}},
+    {"FirstNumberThatIsNotAnnounced",
+     Damaged("1\t0.000", "7\t0.000"),
+     {"7:1 warning trc-first-frame", "\"7\"", "1, as OrigDataStartFrame says",
+      "1 is taken for the number of the first frame."}},
+    {"FirstNumberOfAnotherPathType",
+     Replaced(Damaged("Type\t4", "Type\t5"), "1\t0.000", "7\t0.000"),
+     {"7:1 warning trc-first-frame", "\"7\"", "1, as the path type is neither 3 nor 4",
+      "1 is taken for the number of the first frame."}},
+    {"NumberThatDoesNotFollow",
+     Damaged("3\t0.000", "5\t0.000"),
+     {"9:1 warning trc-frame-number", "\"5\"", "the number behind that of the frame before",
+      "The number is ignored: frames follow each other as their lines do."}},
+    {"MoreAnnounced",
+     Damaged("60\t3\t2", "60\t4\t2"),
+     {"3:7 warning trc-frame-count", "4, as NumFrames says", "3, as many as there are",
+      "The import sets the missing frames to the origin; a converted file has dropouts."}},
+    {"FewerAnnounced",
+     Damaged("60\t3\t2", "60\t2\t2"),
+     {"3:7 warning trc-frame-count", "2, as NumFrames says", "3, as many as there are",
+      "Only the announced frames are imported."}},
+    {"NoneAnnounced",
+     Damaged("60\t3\t2", "60\t0\t2"),
+     {"3:7 error trc-frames-unannounced", "0, as NumFrames says", "a whole number of 1 or more",
+      "The import refuses the file: its last frame would come before its first. A converted file "
+      "has no frames."}},
+    {"FarTooManyAnnounced",
+     Damaged("60\t3\t2", "60\t2000000000\t2"),
+     {"3:7 error trc-frames-too-many", "2000000000", "about 3, as many as there are",
+      "The import is refused, unless --range FROM:TO takes a part of them."}},
+    {"GapToTheEnd",
+     Damaged("7\t8\t9", "\t\t"),
+     {"9:1 note trc-marker-gaps", "no position of \"LFHD\" in 1 frame from here on",
+      "one in every frame",
+      "The import sets those frames to the origin; a converted file has dropouts."}},
+    {"SeveralGaps",
+     Replaced(Damaged("1\t2\t3", "\t\t"), "7\t8\t9", "\t\t"),
+     {"7:1 note trc-marker-gaps",
+      "no position of \"LFHD\" in 2 frames: 2 gaps, the longest of 1 frame from here on",
+      "one in every frame",
+      "The import sets those frames to the origin; a converted file has dropouts."}},
+    {"NeverSeen",
+     WithoutTheSecondMarker(),
+     {"4:20 warning trc-marker-never-seen", "no position of \"RFHD\"", "one in every frame",
+      "The import makes an object that stays at the origin."}},
+};
+
+TEST(TrcCheck, FindsNothingInASoundFile) {
+  const orvane::CheckedFile checked = CheckTrc("walk.trc", Capture().Text());
+  EXPECT_EQ(checked.file, "walk.trc");
+  EXPECT_EQ(checked.kind, "TRC");
+  EXPECT_EQ(checked.contents, "2 markers, 3 frames");
+  EXPECT_THAT(test::AllTold(checked.findings), testing::IsEmpty());
+}
+
+TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }
+
+TEST(TrcCheck, HasADamageForEachRule) { test::ExpectARowForEach(orvane::trc::kRules, kRows); }
+
+}  // namespace
