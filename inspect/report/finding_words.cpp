@@ -1,0 +1,26 @@
+#include "inspect/report/finding_words.h"
+
+#include <unordered_map>
+
+namespace orvane {
+namespace {
+
+using WordsByCode = std::unordered_map<std::string_view, const FindingWords*>;
+
+WordsByCode Gather() {
+  WordsByCode all;
+  for (const auto& words : {HtrFindingWords(), TrcFindingWords(), MnmFindingWords()}) {
+    for (const FindingWords& each : words) all.emplace(each.code, &each);
+  }
+  return all;
+}
+
+}  // namespace
+
+const FindingWords* FindWords(std::string_view code) {
+  static const WordsByCode all = Gather();
+  const auto found = all.find(code);
+  return found == all.end() ? nullptr : found->second;
+}
+
+}  // namespace orvane

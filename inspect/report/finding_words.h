@@ -1,0 +1,82 @@
+#pragma once
+
+#include <array>
+#include <optional>
+#include <span>
+#include <string_view>
+
+#include "inspect/check/findings.h"
+#include "inspect/report/action.h"
+
+// What is told of a finding before an action: how much it matters to it, the cause in the file, and
+// what becomes of it.
+
+namespace orvane {
+
+// How a code stands to one action.
+struct FindingEffect {
+  // Nothing when the action never meets the code, or nothing is told of it there.
+  std::optional<FindingSeverity> severity;
+  // One sentence; null for the one that the check has written for this finding.
+  const char* consequence = nullptr;
+};
+
+// How it stands to all of them.
+class FindingEffects {
+ public:
+  // The same to `actions`, and nothing to the others.
+  template <std::size_t kSize>
+  constexpr FindingEffects(const std::array<Action, kSize>& actions, const FindingEffect& effect) {
+    for (const Action action : actions) (*this)[action] = effect;
+  }
+
+  constexpr const FindingEffect& operator[](Action action) const {
+    return effects_[static_cast<std::size_t>(action)];
+  }
+
+  // The same, but something else to `action`.
+  constexpr FindingEffects But(Action action, FindingSeverity severity,
+                               const char* consequence = nullptr) const {
+    FindingEffects changed = *this;
+    changed[action] = {severity, consequence};
+    return changed;
+  }
+
+ private:
+  constexpr FindingEffect& operator[](Action action) {
+    return effects_[static_cast<std::size_t>(action)];
+  }
+
+  std::array<FindingEffect, kActions> effects_{};
+};
+
+// To all that is done with a motion file, a marker file, and a mapping.
+constexpr FindingEffects InMotion(FindingSeverity severity, const char* consequence = nullptr) {
+  return {std::array{Action::kInspect, Action::kImport, Action::kApply}, {severity, consequence}};
+}
+constexpr FindingEffects InMarkers(FindingSeverity severity, const char* consequence = nullptr) {
+  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kConvert},
+          {severity, consequence}};
+}
+constexpr FindingEffects InMappings(FindingSeverity severity, const char* consequence = nullptr) {
+  return {std::array{Action::kInspect, Action::kConvert}, {severity, consequence}};
+}
+
+struct FindingWords {
+  std::string_view code;
+  // The cause, one sentence without its full stop. In both, {found} and {expected} stand for those
+  // of the first finding; in `many`, # for the number of findings.
+  const char* one;
+  const char* many;  // null for a code that one file has once at most
+  FindingEffects effects;
+};
+
+// Those of all codes, by kind of file.
+std::span<const FindingWords> HtrFindingWords();
+std::span<const FindingWords> TrcFindingWords();
+std::span<const FindingWords> MnmFindingWords();
+
+// Those of `code`; null when no finding has it.
+const FindingWords* FindWords(std::string_view code);
+
+}  // namespace orvane

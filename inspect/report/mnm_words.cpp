@@ -1,0 +1,58 @@
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+using enum FindingSeverity;
+
+constexpr FindingWords kWords[] = {
+    {"mnm-encoding", "The mapping is UTF-16 text", nullptr,
+     InMappings(kError, "No marker has its entry, and all are dropped.")
+         .But(Action::kConvert, kWarning, "No marker has its entry, and all are dropped.")},
+    {"mnm-line-ends", "Lines of the mapping end with carriage returns alone", nullptr,
+     InMappings(kError, "Up to an LF only the first two words are read.")
+         .But(Action::kConvert, kWarning, "Up to an LF only the first two words are read.")},
+    {"mnm-byte-order-mark", "A byte-order mark stands at the start of the mapping", nullptr,
+     InMappings(kWarning, "It belongs to the first name, which is then not what it looks like.")},
+    {"mnm-nul", "A line of the mapping holds a NUL byte", "# lines of the mapping hold NUL bytes",
+     InMappings(kWarning, "The rest of such a line is not read.")},
+    {"mnm-line-cut", "A line of the mapping is longer than 1022 bytes",
+     "# lines of the mapping are longer than 1022 bytes",
+     InMappings(kWarning, "Such a line is read as several.")},
+    {"mnm-line-blank", "A line of the mapping is blank", "# lines of the mapping are blank",
+     InMappings(kNote)},
+    {"mnm-name-missing", "A line of the mapping holds one name",
+     "# lines of the mapping hold one name", InMappings(kWarning)},
+    {"mnm-rest-ignored", "A line of the mapping holds more than two names",
+     "# lines of the mapping hold more than two names",
+     InMappings(kWarning, "What stands behind the second is not read.")},
+    {"mnm-entries-missing", "The mapping has no entries", nullptr,
+     InMappings(kError, "Every marker is dropped.")
+         .But(Action::kConvert, kWarning, "Every marker is dropped.")},
+    {"mnm-standard-unknown", "A name of the mapping is no standard marker",
+     "# names of the mapping are no standard markers",
+     InMappings(kWarning, "The converted file has a marker of this name all the same.")
+         .But(Action::kConvert, kNote,
+              "The converted file has a marker of this name all the same.")},
+    {"mnm-standard-twice", "A standard marker stands in the mapping again",
+     "Standard markers stand in the mapping again, # times", InMappings(kWarning)},
+    {"mnm-entry-doubled", "An entry of the mapping stands there again",
+     "# entries of the mapping stand there again", InMappings(kNote, "The line changes nothing.")},
+    {"mnm-entry-shadowed", "A marker has two entries in the mapping",
+     "# markers have several entries in the mapping",
+     InMappings(kWarning, "The first one counts.")},
+    {"mnm-entry-unused", "An entry of the mapping is of no marker of the capture",
+     "# entries of the mapping are of no marker of the capture",
+     InMappings(kWarning, "It changes nothing.")
+         .But(Action::kConvert, kNote, "It changes nothing.")},
+    {"mnm-marker-unmapped", "A marker has no entry in the mapping",
+     "# markers have no entry in the mapping", InMappings(kWarning, "It is dropped.")},
+    {"mnm-marker-unmappable", "A marker's name cannot stand in a mapping",
+     "# markers have names that cannot stand in a mapping", InMappings(kWarning, "It is dropped.")},
+};
+
+}  // namespace
+
+std::span<const FindingWords> MnmFindingWords() { return kWords; }
+
+}  // namespace orvane

@@ -1,0 +1,82 @@
+#include "inspect/report/report.h"
+
+#include <algorithm>
+#include <map>
+#include <tuple>
+
+#include "formats/text/numbers.h"
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+void ReplaceAll(std::string& text, std::string_view what, std::string_view by) {
+  for (std::size_t at = text.find(what); at != std::string::npos;
+       at = text.find(what, at + by.size())) {
+    text.replace(at, what.size(), by);
+  }
+}
+
+// The name or value that a finding is about, without its quotation marks: what is quoted first.
+std::string_view NameIn(std::string_view found) {
+  const std::size_t begin = found.find('"');
+  if (begin == std::string_view::npos) return {};
+  const std::size_t end = found.find('"', begin + 1);
+  return end == std::string_view::npos ? std::string_view()
+                                       : found.substr(begin + 1, end - begin - 1);
+}
+
+void AddName(std::string_view name, std::vector<std::string>& names) {
+  if (name.empty() || names.size() == FileReport::kMostNames) return;
+  if (std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
+}
+
+std::string CauseOf(const FindingWords& words, const Finding& first, std::size_t count) {
+  std::string cause = count == 1 || words.many == nullptr ? words.one : words.many;
+  ReplaceAll(cause, "#", FormatInt(static_cast<std::int64_t>(count)));
+  ReplaceAll(cause, "{found}", first.found);
+  ReplaceAll(cause, "{expected}", first.expected);
+  return cause;
+}
+
+bool ComesBefore(const ReportedFinding& left, const ReportedFinding& right) {
+  if (left.severity != right.severity) return left.severity > right.severity;
+  return std::tie(left.line, left.column) < std::tie(right.line, right.column);
+}
+
+}  // namespace
+
+std::size_t FileReport::Count(FindingSeverity severity) const {
+  std::size_t count = 0;
+  for (const ReportedFinding& finding : findings) {
+    if (finding.severity == severity) count += finding.count;
+  }
+  return count;
+}
+
+FileReport ReportOn(const CheckedFile& checked, Action action) {
+  FileReport report{checked.file, checked.kind, action, {}};
+  std::map<std::string_view, std::size_t> places;  // in report.findings, by code
+  for (const Finding& finding : checked.findings.Sorted()) {
+    const FindingWords* const words = FindWords(finding.rule.code);
+    if (words == nullptr || !words->effects[action].severity) continue;
+    const auto [place, is_new] = places.emplace(finding.rule.code, report.findings.size());
+    if (is_new) {
+      const std::size_t count = checked.findings.Totals().at(finding.rule.code).count;
+      const char* const consequence = words->effects[action].consequence;
+      report.findings.push_back({finding.rule.code,
+                                 *words->effects[action].severity,
+                                 count,
+                                 finding.line,
+                                 finding.column,
+                                 {},
+                                 CauseOf(*words, finding, count),
+                                 consequence == nullptr ? finding.effect : consequence});
+    }
+    AddName(NameIn(finding.found), report.findings[place->second].names);
+  }
+  std::stable_sort(report.findings.begin(), report.findings.end(), ComesBefore);
+  return report;
+}
+
+}  // namespace orvane

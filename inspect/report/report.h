@@ -1,0 +1,42 @@
+#pragma once
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "inspect/check/checked_file.h"
+#include "inspect/check/findings.h"
+#include "inspect/report/action.h"
+
+// What is to be told of a file before something is done with it: each code once.
+
+namespace orvane {
+
+// All findings of one code.
+struct ReportedFinding {
+  std::string_view code;
+  FindingSeverity severity;  // for the action
+  std::size_t count = 1;
+  std::size_t line = 0;    // of the first one, counted from 1; 0 when it has no place in the file
+  std::size_t column = 0;  // in bytes, counted from 1
+  std::vector<std::string> names;  // or values, that the first ones are about, each once
+  std::string cause;               // what is so in the file: one sentence
+  std::string consequence;         // what the action makes of it: one sentence
+};
+
+struct FileReport {
+  static constexpr std::size_t kMostNames = 3;
+
+  std::string file;
+  std::string_view kind;  // "HTR"
+  Action action = Action::kInspect;
+  std::vector<ReportedFinding> findings;  // the worst first, and else by their first places
+
+  std::size_t Count(FindingSeverity severity) const;
+};
+
+// What the findings of `checked` mean to `action`.
+FileReport ReportOn(const CheckedFile& checked, Action action);
+
+}  // namespace orvane

@@ -1,0 +1,114 @@
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+using enum FindingSeverity;
+
+constexpr FindingWords kWords[] = {
+    {"trc-empty", "The file is empty", nullptr, InMarkers(kError, "Nothing is read.")},
+    {"trc-encoding", "The file is UTF-16 text", nullptr,
+     InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},
+    {"trc-line-ends", "Lines end with carriage returns alone", nullptr,
+     InMarkers(kError, "No line ends there for the reader; save it with LF or CR LF.")},
+    {"trc-byte-order-mark", "A byte-order mark stands at the start of the file", nullptr,
+     InMarkers(kNote, "It belongs to the first word, which does not count.")},
+    {"trc-nul", "A line holds a NUL byte", "# lines hold NUL bytes",
+     InMarkers(kWarning, "The rest of such a line is not read.")},
+    {"trc-line-cut", "A line is longer than 10239 bytes", "# lines are longer than 10239 bytes",
+     InMarkers(kWarning, "Such a line is read as several.")},
+    {"trc-carriage-return", "A carriage return stands inside a line",
+     "Carriage returns stand inside # lines",
+     InMarkers(kWarning, "It is read as a part of its line.")},
+    {"trc-carriage-return-spare", "Lines end with several carriage returns", nullptr,
+     InMarkers(kNote, "They do not count.")},
+    {"trc-comment", "A line starts with #", "# lines start with #",
+     InMarkers(kWarning, "It is read as any other, and the next line is thrown away.")},
+    {"trc-end-unfinished", "The last line has no end", nullptr,
+     InMarkers(kNote, "It is read as it stands; was the file cut short?")},
+    {"trc-file-type-unknown", "The file does not begin with PathFileType", nullptr,
+     InMarkers(kNote, "The word does not count.")},
+    {"trc-path-type-unknown", "The path type is neither 3 nor 4", nullptr,
+     InMarkers(kWarning, "The first frame is number 1.")
+         .But(Action::kConvert, kNote, "A BVK file has no frame numbers.")},
+    {"trc-tabs-missing", "The first line has no tabs", nullptr,
+     InMarkers(kError, "The file is refused.")},
+    {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
+     InMarkers(kError, "The file is refused.")},
+    {"trc-rate-cut", "A rate has a fraction", "# rates have fractions", InMarkers(kWarning)},
+    {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
+     InMarkers(kWarning).But(Action::kConvert, kNote, "The converted file has it as it is.")},
+    {"trc-camera-rate", "The camera rate is odd", nullptr,
+     InMarkers(kNote, "Nothing depends on it.")
+         .But(Action::kConvert, kNote, "The converted file tells it.")},
+    {"trc-unit-unknown", "The unit is unknown", nullptr,
+     InMarkers(kWarning, "Millimeters are taken.")},
+    {"trc-unit-ends-line", "The unit ends its line", nullptr,
+     InMarkers(kWarning, "Millimeters are taken; a tab behind the unit makes it count.")},
+    {"trc-name-lost", "The last name has no tab behind it", nullptr,
+     InMarkers(kWarning, "It makes no marker, and its values are not read.")},
+    {"trc-name-empty", "A marker has no name", "# markers have no name",
+     InMarkers(kWarning, "It is a marker all the same.")},
+    {"trc-column-unnamed", "A column has no name of its own", "# columns have no name of their own",
+     InMarkers(
+         kWarning,
+         "It makes no marker, and its values go to the next one: all columns behind it shift.")},
+    {"trc-column-repeated", "Two columns have one name", "# columns have the names of others",
+     InMarkers(kWarning,
+               "The second makes no marker, and its values go to the next one: all columns behind "
+               "it shift.")},
+    {"trc-markers-missing", "The file holds no markers", nullptr,
+     InMarkers(kError, "There is nothing to import.")
+         .But(Action::kConvert, kWarning, "The converted file holds none.")},
+    {"trc-marker-count", "There are {found}, and the header announces {expected}", nullptr,
+     InMarkers(kNote, "The markers that are there are taken.")
+         .But(Action::kInspect, kWarning, "The markers that are there are taken.")},
+    {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
+     InMarkers(kWarning, "The frame in its place is lost.")},
+    {"trc-number-missing", "A value is missing", "# values are missing",
+     InMarkers(kWarning, "0 is taken.")},
+    {"trc-number-unreadable", "A value is not a number", "# values are not numbers",
+     InMarkers(kWarning, "What it starts with is taken, or 0.")},
+    {"trc-number-cut", "A whole number has a fraction", "# whole numbers have fractions",
+     InMarkers(kWarning, "The fraction is cut off.")},
+    {"trc-number-out-of-range", "A number is out of range", "# numbers are out of range",
+     InMarkers(kWarning)},
+    {"trc-frame-blank", "A line is blank where a frame belongs",
+     "# lines are blank where frames belong",
+     InMarkers(kWarning, "Each is a frame in which no marker has a position.")},
+    {"trc-frame-short", "A frame has too few columns", "# frames have too few columns",
+     InMarkers(kWarning, "The markers that are missing have no position there.")},
+    {"trc-value-extra", "A frame has too many columns", "# frames have too many columns",
+     InMarkers(kWarning, "What stands behind the last marker is not read.")},
+    {"trc-sample-without-x", "A sample does not begin with X", "# samples do not begin with X",
+     InMarkers(kWarning, "The marker has no position there.")},
+    {"trc-first-frame", "The first frame is numbered {found}, and {expected} is taken", nullptr,
+     InMarkers(kWarning).But(Action::kConvert, kNote, "A BVK file has no frame numbers.")},
+    {"trc-frame-number", "A frame's number is not the next one",
+     "The numbers of # frames are not the next ones",
+     InMarkers(kWarning, "Frames follow each other as their lines do.")
+         .But(Action::kConvert, kNote,
+              "A BVK file has no frame numbers; frames follow each other as their lines do.")},
+    {"trc-frame-count", "There are {expected}, and the header announces {found}", nullptr,
+     InMarkers(kWarning)},
+    {"trc-frames-unannounced", "The header announces no frames", nullptr,
+     InMarkers(kError, "The file is refused: its last frame would come before its first.")
+         .But(Action::kConvert, kWarning, "The converted file has no frames.")},
+    {"trc-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
+     InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
+         .But(Action::kConvert, kError, "It is refused.")},
+    {"trc-marker-gaps", "A marker has gaps", "# markers have gaps",
+     InMarkers(kWarning, "In its gaps the marker goes to the origin.")
+         .But(Action::kInspect, kNote, "In its gaps the marker goes to the origin.")
+         .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
+    {"trc-marker-never-seen", "A marker has no position in any frame",
+     "# markers have no position in any frame",
+     InMarkers(kWarning, "It makes an object that stays at the origin.")
+         .But(Action::kConvert, kNote, "It is written as DROPOUT throughout.")},
+};
+
+}  // namespace
+
+std::span<const FindingWords> TrcFindingWords() { return kWords; }
+
+}  // namespace orvane

@@ -1,0 +1,98 @@
+#include "inspect/report/finding_words.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+#include <string>
+
+#include "inspect/check/htr_rules.h"
+#include "inspect/check/mnm_rules.h"
+#include "inspect/check/trc_rules.h"
+#include "tests/support/files.h"
+
+namespace {
+
+using orvane::Action;
+using orvane::FindingRule;
+using orvane::FindingSeverity;
+using orvane::FindingWords;
+using orvane::FindWords;
+using orvane::kAllActions;
+
+std::vector<FindingRule> AllRules() {
+  std::vector<FindingRule> all;
+  const auto add = [&all](const auto& rules) { all.insert(all.end(), rules.begin(), rules.end()); };
+  add(orvane::htr::kRules);
+  add(orvane::trc::kRules);
+  add(orvane::mnm::kRules);
+  return all;
+}
+
+std::vector<FindingWords> AllWords() {
+  std::vector<FindingWords> all;
+  for (const auto& words :
+       {orvane::HtrFindingWords(), orvane::TrcFindingWords(), orvane::MnmFindingWords()}) {
+    all.insert(all.end(), words.begin(), words.end());
+  }
+  return all;
+}
+
+TEST(FindingWords, AreThereForEveryCodeAndForNoOther) {
+  std::set<std::string_view> codes;
+  for (const FindingRule& rule : AllRules()) {
+    EXPECT_NE(FindWords(rule.code), nullptr) << rule.code;
+    codes.insert(rule.code);
+  }
+  for (const FindingWords& words : AllWords()) {
+    EXPECT_EQ(codes.erase(words.code), 1U) << words.code;
+  }
+  EXPECT_EQ(FindWords("htr-nothing"), nullptr);
+}
+
+TEST(FindingWords, OfALookAtAFileAreAsBadAsTheCheckSays) {
+  for (const FindingRule& rule : AllRules()) {
+    EXPECT_EQ(FindWords(rule.code)->effects[Action::kInspect].severity, rule.severity) << rule.code;
+  }
+}
+
+TEST(FindingWords, AreSentences) {
+  for (const FindingWords& words : AllWords()) {
+    for (const char* const cause : {words.one, words.many}) {
+      if (cause == nullptr) continue;
+      EXPECT_FALSE(std::string_view(cause).ends_with('.')) << words.code << ": one is added";
+    }
+    for (const Action action : kAllActions) {
+      const char* const consequence = words.effects[action].consequence;
+      if (consequence == nullptr) continue;
+      const char last = std::string_view(consequence).back();
+      EXPECT_TRUE(last == '.' || last == '?') << words.code;
+      EXPECT_TRUE(words.effects[action].severity.has_value()) << words.code;
+    }
+  }
+}
+
+// The table of the page, as the program has it.
+std::string PageRow(const FindingWords& words) {
+  std::string row = "| `" + std::string(words.code) + "` |";
+  for (const Action action : kAllActions) {
+    const auto& severity = words.effects[action].severity;
+    row += " " + (severity ? std::string(SeverityName(*severity)) : "") + " |";
+  }
+  return row;
+}
+
+TEST(FindingsPage, HasARowForEveryCodeAndNoOther) {
+  const std::string page = test::ReadFile(ORVANE_SOURCE_DIR "/docs/findings.md");
+  std::size_t rows = 0;
+  for (std::size_t at = page.find("\n| `"); at != std::string::npos;
+       at = page.find("\n| `", at + 1))
+    ++rows;
+  for (const FindingWords& words : AllWords()) {
+    EXPECT_THAT(page, testing::HasSubstr("\n" + PageRow(words)));
+  }
+  EXPECT_EQ(rows, AllWords().size());
+}
+
+}  // namespace
