@@ -38,10 +38,23 @@ class Checking {
   // One file that cannot be read does not keep the others from being checked.
   void CheckOne(const std::string& name) {
     try {
-      results_.Add(CheckFile(name, arguments_.kind));
+      const orvane::CheckedFile checked = CheckFile(name, arguments_.kind);
+      RequireAction(checked);
+      results_.Add(checked);
     } catch (const Failure& failure) {
       results_.Add(failure);
     }
+  }
+
+  // Throws a Failure when what is asked about cannot be done with such a file.
+  void RequireAction(const orvane::CheckedFile& checked) const {
+    const auto& action = arguments_.manner.action;
+    if (!action || Takes(*action, checked.kind)) return;
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{checked.file,
+                    "\"" + std::string(NameOf(*action)) + "\" takes no " +
+                        std::string(checked.kind) + " files",
+                    "\"orvane check\" without --for tells what is odd in the file alone."}}};
   }
 
   const CheckArguments& arguments_;
@@ -58,6 +71,10 @@ void AddCheckCommand(CLI::App& app, Work& work) {
       ->type_name("");
   AddChoice(*verb, "--as", {"htr", "trc", "mnm"}, "What the files are (what their names say)",
             [arguments](const std::string& kind) { arguments->kind = kind; });
+  AddChoice(
+      *verb, "--for", {"import", "apply", "convert"},
+      "Tell what the findings mean to that (what is odd in the file alone)",
+      [arguments](const std::string& name) { arguments->manner.action = orvane::ActionOf(name); });
   AddCheckManner(*verb, arguments->manner);
   verb->callback([arguments, &work] { work = [arguments] { return Checking(*arguments).Run(); }; });
 }

@@ -6,11 +6,13 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/messages.h"
+#include "cli/common/report.h"
 
 namespace cli {
 namespace {
 
 using orvane::CheckedFile;
+using orvane::FileReport;
 using orvane::FindingList;
 using orvane::FindingSeverity;
 
@@ -35,9 +37,20 @@ void AddCheckManner(CLI::App& verb, CheckManner& manner) {
 }
 
 void CheckResults::Add(CheckedFile file) {
+  if (manner_.action) return Add(ReportOn(file, *manner_.action));
   if (!IsTolerable(file.findings, manner_.tolerated)) Raise(ExitStatus::kRefused);
   if (!manner_.json) return PrintCheckedFile(file, std::cout);
   files_.push_back(std::move(file));
+}
+
+void CheckResults::Add(const FileReport& report) {
+  const auto& findings = report.findings;
+  const bool is_tolerable = std::all_of(findings.begin(), findings.end(), [this](const auto& each) {
+    return each.severity <= manner_.tolerated;
+  });
+  if (!is_tolerable) Raise(ExitStatus::kRefused);
+  if (!manner_.json) return PrintReport(report, std::cout);
+  reports_.push_back(report);
 }
 
 void CheckResults::Add(const Failure& failure) {
@@ -46,8 +59,13 @@ void CheckResults::Add(const Failure& failure) {
 }
 
 ExitStatus CheckResults::Finish() {
-  if (manner_.json) PrintCheckJson(files_, std::cout);
+  if (manner_.json) PrintJson();
   return status_;
+}
+
+void CheckResults::PrintJson() const {
+  if (manner_.action) return PrintReportsJson(reports_, std::cout);
+  PrintCheckJson(files_, std::cout);
 }
 
 }  // namespace cli

@@ -1,10 +1,12 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/common/check_report.h"
 #include "cli/common/failure.h"
+#include "inspect/report/report.h"
 
 // What verbs do with the findings that they make: flags, output and exit status.
 
@@ -17,6 +19,7 @@ namespace cli {
 struct CheckManner {
   orvane::FindingSeverity tolerated = orvane::FindingSeverity::kNote;
   bool json = false;
+  std::optional<orvane::Action> action;  // nothing: what is found in the file, whatever is done
 };
 
 // Adds the flags to `verb` that set `manner`, which must outlive the parsing.
@@ -37,8 +40,12 @@ class CheckResults {
  private:
   void Raise(ExitStatus status) { status_ = std::max(status_, status); }
 
+  void Add(const orvane::FileReport& report);
+  void PrintJson() const;
+
   const CheckManner& manner_;
   std::vector<orvane::CheckedFile> files_;
+  std::vector<orvane::FileReport> reports_;  // in place of files_, where an action is meant
   ExitStatus status_ = ExitStatus::kDone;
 };
 

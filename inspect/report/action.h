@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <optional>
 #include <string_view>
 
 // What is done with a file. The same finding may be of no account to one action and spoil what
@@ -27,6 +28,22 @@ constexpr std::string_view NameOf(Action action) {
   constexpr std::array<std::string_view, kActions> kNames = {"inspect", "import", "apply",
                                                              "convert", "export"};
   return kNames[static_cast<std::size_t>(action)];
+}
+
+// The other way round; nothing for any other name.
+constexpr std::optional<Action> ActionOf(std::string_view name) {
+  for (const Action action : kAllActions) {
+    if (NameOf(action) == name) return action;
+  }
+  return std::nullopt;
+}
+
+// Whether it is done with files of `kind`: "HTR", "TRC" or "MNM". A mapping is looked at, and used
+// for converting.
+constexpr bool Takes(Action action, std::string_view kind) {
+  if (action == Action::kInspect) return true;
+  if (action == Action::kConvert) return kind != "HTR";
+  return kind != "MNM" && action != Action::kExport;
 }
 
 }  // namespace orvane

@@ -64,8 +64,8 @@ constexpr FindingEffects InMappings(FindingSeverity severity, const char* conseq
 
 struct FindingWords {
   std::string_view code;
-  // The cause, one sentence without its full stop. In both, {found} and {expected} stand for those
-  // of the first finding; in `many`, # for the number of findings.
+  // The cause, one sentence without its full stop. {found} and {expected} stand for those of the
+  // first finding, up to ", as "; in `many`, {count} for the number of findings.
   const char* one;
   const char* many;  // null for a code that one file has once at most
   FindingEffects effects;

@@ -31,11 +31,22 @@ void AddName(std::string_view name, std::vector<std::string>& names) {
   if (std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
 }
 
+// Without what it says of where it is from: "120, as NumFrames says".
+std::string Shortened(const std::string& text) { return text.substr(0, text.find(", as ")); }
+
+const char* CauseFor(const FindingWords& words, std::size_t count) {
+  return count == 1 || words.many == nullptr ? words.one : words.many;
+}
+
+bool TellsWhatIsFound(const FindingWords& words, std::size_t count) {
+  return std::string_view(CauseFor(words, count)).find("{found}") != std::string_view::npos;
+}
+
 std::string CauseOf(const FindingWords& words, const Finding& first, std::size_t count) {
-  std::string cause = count == 1 || words.many == nullptr ? words.one : words.many;
-  ReplaceAll(cause, "#", FormatInt(static_cast<std::int64_t>(count)));
-  ReplaceAll(cause, "{found}", first.found);
-  ReplaceAll(cause, "{expected}", first.expected);
+  std::string cause = CauseFor(words, count);
+  ReplaceAll(cause, "{count}", FormatInt(static_cast<std::int64_t>(count)));
+  ReplaceAll(cause, "{found}", Shortened(first.found));
+  ReplaceAll(cause, "{expected}", Shortened(first.expected));
   return cause;
 }
 
@@ -73,7 +84,8 @@ FileReport ReportOn(const CheckedFile& checked, Action action) {
                                  CauseOf(*words, finding, count),
                                  consequence == nullptr ? finding.effect : consequence});
     }
-    AddName(NameIn(finding.found), report.findings[place->second].names);
+    ReportedFinding& reported = report.findings[place->second];
+    if (!TellsWhatIsFound(*words, reported.count)) AddName(NameIn(finding.found), reported.names);
   }
   std::stable_sort(report.findings.begin(), report.findings.end(), ComesBefore);
   return report;

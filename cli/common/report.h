@@ -1,0 +1,27 @@
+#pragma once
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "cli/common/json_writer.h"
+#include "inspect/report/report.h"
+
+// What is told of a file before something is done with it: as lines for a person, and as JSON for a
+// program. docs/command-line.md documents both.
+
+namespace cli {
+
+// "12 values are not numbers: "1,5", "2,5" (line 7, column 3). What ... [trc-number-unreadable]"
+[[nodiscard]] std::string LineOf(const orvane::ReportedFinding& finding);
+
+// A line for each finding, and a last one that counts them; one line where there is none.
+void PrintReport(const orvane::FileReport& report, std::ostream& out);
+
+// The report as an object.
+void WriteReport(JsonWriter& json, const orvane::FileReport& report);
+
+// A whole document of reports.
+void PrintReportsJson(const std::vector<orvane::FileReport>& reports, std::ostream& out);
+
+}  // namespace cli

@@ -1,0 +1,84 @@
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::SmallMotion;
+using test::TrcText;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class CheckForTest : public test::OrvaneTest {
+ protected:
+  CheckForTest() {
+    Write("gaps.trc", TrcText{.markers = {"Head", "Hand"},
+                              .frames = {{"1\t2\t3", "\t\t"}, {"1,5\t2\t3", "1\t2\t3"}}}
+                          .Text());
+  }
+};
+
+TEST_F(CheckForTest, TellsWhatAnActionMakesOfAFile) {
+  const ProgramResult imported = Orvane({"check", "--for", "import", "gaps.trc"});
+  EXPECT_EQ(imported.status, 1);
+  EXPECT_THAT(imported.error, IsEmpty());
+  EXPECT_EQ(
+      imported.output,
+      "gaps.trc: warning: A marker has gaps: \"Hand\" (line 7, column 1). In its gaps the "
+      "marker goes to the origin. [trc-marker-gaps]\n"
+      "gaps.trc: warning: A value is not a number: \"1,5\" (line 8, column 9). What it starts "
+      "with is taken, or 0. [trc-number-unreadable]\n"
+      "gaps.trc: 2 warnings for import\n");
+  const ProgramResult converted = Orvane({"check", "--for", "convert", "gaps.trc"});
+  EXPECT_THAT(converted.output, HasSubstr("note: A marker has gaps: \"Hand\" (line 7, column 1). A "
+                                          "gap is written as DROPOUT. [trc-marker-gaps]\n"));
+  EXPECT_THAT(converted.output, HasSubstr("gaps.trc: 1 warning, 1 note for convert\n"));
+}
+
+TEST_F(CheckForTest, ToleratesByTheSeverityForTheAction) {
+  EXPECT_EQ(Orvane({"check", "--for", "import", "gaps.trc", "--max-severity", "warning"}).status,
+            0);
+  Write("clean.trc", TrcText{.markers = {"Head"}, .frames = {{"1\t2\t3"}}}.Text());
+  const ProgramResult result = Orvane({"check", "--for", "convert", "clean.trc"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.output, "clean.trc: clean for convert\n");
+}
+
+TEST_F(CheckForTest, WritesTheReportAsJson) {
+  const ProgramResult result = Orvane({"check", "--for", "import", "gaps.trc", "--json"});
+  const auto json = nlohmann::json::parse(result.output);
+  EXPECT_EQ(json["version"], 2);
+  const auto& file = json["files"][0];
+  EXPECT_EQ(file["file"], "gaps.trc");
+  EXPECT_EQ(file["file_type"], "TRC");
+  EXPECT_EQ(file["action"], "import");
+  EXPECT_EQ(file["warnings"], 2);
+  EXPECT_EQ(file["errors"], 0);
+  EXPECT_EQ(file["notes"], 0);
+  const auto& finding = file["findings"][0];
+  EXPECT_EQ(finding["code"], "trc-marker-gaps");
+  EXPECT_EQ(finding["severity"], "warning");
+  EXPECT_EQ(finding["count"], 1);
+  EXPECT_EQ(finding["line"], 7);
+  EXPECT_EQ(finding["column"], 1);
+  EXPECT_EQ(finding["names"], nlohmann::json::array({"Hand"}));
+  EXPECT_EQ(finding["cause"], "A marker has gaps");
+  EXPECT_EQ(finding["consequence"], "In its gaps the marker goes to the origin.");
+}
+
+TEST_F(CheckForTest, RefusesWhatIsNotDoneWithSuchAFile) {
+  Write("walk.htr", SmallMotion());
+  const ProgramResult result = Orvane({"check", "--for", "convert", "walk.htr", "gaps.trc"});
+  EXPECT_EQ(result.status, 2);
+  EXPECT_THAT(result.error, HasSubstr("orvane: walk.htr: \"convert\" takes no HTR files\n"));
+  EXPECT_THAT(result.output, HasSubstr("gaps.trc: 1 warning, 1 note for convert\n"));
+  Write("map.mnm", "LFHD\tHead\n");
+  EXPECT_THAT(Orvane({"check", "--for", "import", "map.mnm"}).error,
+              HasSubstr("orvane: map.mnm: \"import\" takes no MNM files\n"));
+}
+
+}  // namespace
