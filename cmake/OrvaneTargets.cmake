@@ -64,6 +64,21 @@ function(orvane_headers name)
   target_link_libraries(${name} INTERFACE ${ARG_LINKS})
 endfunction()
 
+# orvane_folder_target(name): a target that builds all that the folder of the calling CMakeLists.txt,
+# and those below it, have made until then.
+function(orvane_folder_target name)
+  set(folders "${CMAKE_CURRENT_SOURCE_DIR}")
+  set(targets)
+  while(folders)
+    list(POP_FRONT folders folder)
+    get_property(folder_targets DIRECTORY "${folder}" PROPERTY BUILDSYSTEM_TARGETS)
+    get_property(subfolders DIRECTORY "${folder}" PROPERTY SUBDIRECTORIES)
+    list(APPEND targets ${folder_targets})
+    list(APPEND folders ${subfolders})
+  endwhile()
+  add_custom_target(${name} DEPENDS ${targets})
+endfunction()
+
 # Tells tests where the repository and the build are, and how the names of modules end there.
 function(orvane_define_folders target)
   set(root "")
