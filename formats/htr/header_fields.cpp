@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "formats/htr/messages.h"
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
@@ -21,7 +22,7 @@ struct Field {
 
 std::string Refuse(const Field& field) {
   field.oddities.Report(HtrOddity::kRefusedHeaderValue, field.value, field.keyword);
-  return "The file does not have a compatible \"" + std::string(field.keyword) + "\" header state";
+  return IncompatibleHeader(field.keyword);
 }
 
 // For keywords whose value is checked and not stored.

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "formats/htr/header_fields.h"
+#include "formats/htr/messages.h"
 #include "formats/htr/number_cells.h"
 #include "formats/htr/oddities.h"
 #include "formats/htr/sections.h"
@@ -19,8 +20,6 @@
 
 namespace orvane {
 namespace {
-
-constexpr const char* kNotOpened = "The file could not be opened";
 
 constexpr std::array<std::string_view, 7> kBasePositionColumns = {"Tx", "Ty", "Tz",        "Rx",
                                                                   "Ry", "Rz", "BoneLength"};
@@ -271,7 +270,7 @@ std::string HtrReader::ReadHierarchyLine(std::string_view line) {
   const std::string_view name = TakeFirstToken(line);
   if (document_.AddSegment(HtrSegment(std::string(name))) == nullptr) {
     oddities_.Report(HtrOddity::kRefusedSegmentName, name);
-    return "The file has duplicate segment names: " + std::string(name);
+    return kDuplicateSegmentNames + std::string(name);
   }
   parent_names_.push_back(oddities_.CellOf(TakeLastToken(line)));
   oddities_.ReportWords(HtrOddity::kExtraHierarchyWords, TrimTrailingSeparators(line));
@@ -287,7 +286,7 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
   if (segment == nullptr) {
     oddities_.Report(HtrOddity::kRefusedBasePosition, name);
     // Intended: the text names the cell behind the unknown name, not the name.
-    return "Segment name not found: " + std::string(TakeFirstToken(line));
+    return kSegmentNameNotFound + std::string(TakeFirstToken(line));
   }
   if (HtrReadObserver* const observer = oddities_.Observer()) {
     observer->OnBasePosition(oddities_.CellOf(name));
@@ -348,7 +347,7 @@ std::string HtrReader::Finish() {
   LeaveMotion();
   if (state_ == State::kStoppedBeforeMotion || segments_awaited_ == 0) return {};
   oddities_.Report(HtrOddity::kRefusedBasePositionCount, oddities_.EndOfLine());
-  return "Incorrect number of segments defined in file";
+  return kIncorrectSegmentCount;
 }
 
 }  // namespace

@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "formats/htr/messages.h"
 #include "formats/text/files.h"
 #include "formats/text/numbers.h"
 #include "formats/text/text_buffer.h"
@@ -16,10 +17,6 @@
 
 namespace orvane {
 namespace {
-
-constexpr const char* kNoSegments = "No segments to write";
-constexpr const char* kDuplicateName = "The scene hierarchy has duplicate segment names: ";
-constexpr const char* kNotOpened = "The file could not be opened";
 
 constexpr double kLibraryVersion = 1.1;
 constexpr int kHeaderDecimals = 2;
@@ -36,9 +33,9 @@ const std::string* FindDuplicate(const std::vector<std::string>& names) {
 
 std::string WhyNotWritable(const HtrDocument& document) {
   const std::vector<std::string> names = document.GetSegmentNames();
-  if (names.empty()) return kNoSegments;
+  if (names.empty()) return kNoSegmentsToWrite;
   const std::string* duplicate = FindDuplicate(names);
-  return duplicate == nullptr ? std::string() : kDuplicateName + *duplicate;
+  return duplicate == nullptr ? std::string() : kDuplicateNamesToWrite + *duplicate;
 }
 
 // One printing of one document. Each function appends its lines, in the order of the file.

@@ -9,6 +9,9 @@
 // narrow encoding, as the host gives them.
 namespace orvane {
 
+// What readers and writers tell of a file that they cannot open, or have no memory for.
+inline constexpr char kNotOpened[] = "The file could not be opened";
+
 // Returns `name` itself when its fourth character from the end is a full stop, whatever the letters
 // behind it are; otherwise, and when it is shorter than four characters, `name` with `extension`
 // (such as ".htr") behind it.

@@ -6,6 +6,7 @@
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/trc/fields.h"
+#include "formats/trc/messages.h"
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -71,7 +72,7 @@ std::string ReadFileTypeLine(const Line& line, TRCHeader& header, const TRCOddit
 
   if (fields.Get() == kCoordinates && !fields.CarriesBreak()) return {};
   oddities.Report(TRCOddity::kCoordinatesRefused, fields.Number(), fields.Get());
-  return "The file is does not have a compatible \"(X/Y/Z)\" header state";
+  return kIncompatibleCoordinates;
 }
 
 void ReadHeaderValues(const Line& line, TRCHeader& header, TRCDocument& document,
@@ -112,7 +113,7 @@ std::string ReadMarkerNames(const Line& line, const TRCHeader& header, bool incl
       include_unnamed ? TRCOddity::kMarkerCountRefused : TRCOddity::kMarkerCountMismatch,
       announced);
   if (!include_unnamed) return {};
-  return "Incorrect number of markers defined in file";
+  return kIncorrectMarkerCount;
 }
 
 void InspectSubHeader(const Line& line, const TRCOddities& oddities) {

@@ -22,7 +22,6 @@
 namespace orvane {
 namespace {
 
-constexpr const char* kNotOpened = "The file could not be opened";
 constexpr const char* kTooLong = "vector<T> too long";
 
 // The text of the shortest sample, three digits and three tabs. The room that is made beforehand

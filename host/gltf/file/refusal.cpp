@@ -8,7 +8,7 @@ namespace host::gltf {
 
 void RefuseNotFinite(const Node& node, const std::string& what) {
   throw Refusal("Node \"" + ViewerName(node.Name()) + "\" cannot be saved: its " + what +
-                " is not finite.");
+                kIsNotFinite);
 }
 
 void RefuseNotFinite(const Node& node, const char* what, TimeValue time) {

@@ -18,6 +18,9 @@ class Refusal : public std::runtime_error {
   using std::runtime_error::runtime_error;
 };
 
+// How the sentence of such a Refusal ends.
+inline constexpr char kIsNotFinite[] = " is not finite.";
+
 // Throws a Refusal: `what` of `node`, at `time` (ticks), is not finite.
 [[noreturn]] void RefuseNotFinite(const Node& node, const char* what, TimeValue time);
 
