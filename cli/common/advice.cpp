@@ -1,88 +1,104 @@
 #include "cli/common/advice.h"
 
-#include <cstddef>
-#include <string_view>
+#include <algorithm>
+#include <iterator>
+#include <optional>
+
+#include "cli/common/known_messages.h"
 
 namespace cli {
 namespace {
 
 struct Advice {
-  std::string_view about;  // what a message holds that the advice is for
+  KnownMessage message;
   std::string_view text;
 };
 
 constexpr Advice kAdvice[] = {
-    {"\"FileType\"", "The header of an HTR file says \"FileType HTR\"."},
-    {"\"DataType\"", "Only files with \"DataType HTRS\" in the header can be read."},
-    {"\"FileVersion\"", "Only files with \"FileVersion 1\" in the header can be read."},
-    {"\"EulerRotationOrder\"",
+    {KnownMessage::kIncompatibleFileType, "The header of an HTR file says \"FileType HTR\"."},
+    {KnownMessage::kIncompatibleDataType,
+     "Only files with \"DataType HTRS\" in the header can be read."},
+    {KnownMessage::kIncompatibleFileVersion,
+     "Only files with \"FileVersion 1\" in the header can be read."},
+    {KnownMessage::kIncompatibleRotationOrder,
      "Only files with \"EulerRotationOrder ZYX\" in the header can be read."},
-    {"\"GlobalAxisofGravity\"", "The axis of gravity may be Y or Z."},
-    {"\"BoneLengthAxis\"", "Only files with \"BoneLengthAxis Y\" in the header can be read."},
-    {"duplicate segment names",
+    {KnownMessage::kIncompatibleGravityAxis, "The axis of gravity may be Y or Z."},
+    {KnownMessage::kIncompatibleLengthAxis,
+     "Only files with \"BoneLengthAxis Y\" in the header can be read."},
+    {KnownMessage::kDuplicateSegmentNames,
      "Every line of [SegmentNames&Hierarchy] needs a name of its own, without blanks."},
-    {"Segment name not found",
+    {KnownMessage::kSegmentNameNotFound,
      "A line of [BasePosition] starts with a name that [SegmentNames&Hierarchy] does not list; the "
      "message shows what follows that name."},
-    {"Incorrect number of segments",
+    {KnownMessage::kIncorrectSegmentCount,
      "\"NumSegments\" in the header must be the number of lines in [BasePosition]. A file that was "
      "cut short says this too."},
-    {"holds no segments", "Is it an HTR file? A file of 0 segments may also have been cut short."},
-    {"\"(X/Y/Z)\" header state",
+    {KnownMessage::kFileWithoutSegments,
+     "Is it an HTR file? A file of 0 segments may also have been cut short."},
+    {KnownMessage::kIncompatibleCoordinates,
      "The first line of a TRC file is PathFileType, a number, (X/Y/Z) and a file name, with tabs "
      "between them."},
-    {"holds no markers",
+    {KnownMessage::kFileWithoutMarkers,
      "Is it a TRC file? The fourth line names the markers, with three tabs behind each."},
-    {"Position Controller Error", "The object that a marker is applied to cannot be animated."},
-    {"no root", "In [SegmentNames&Hierarchy] a root has the parent GLOBAL."},
-    {"start frame equal to or greater", "The range must lie within the frames of the file."},
-    {"end frame less than or equal", "The range must lie within the frames of the file."},
-    {"less than the end frame",
+    {KnownMessage::kNoPositionController,
+     "The object that a marker is applied to cannot be animated."},
+    {KnownMessage::kFileWithoutRoot, "In [SegmentNames&Hierarchy] a root has the parent GLOBAL."},
+    {KnownMessage::kStartFrameTooLow, "The range must lie within the frames of the file."},
+    {KnownMessage::kEndFrameTooHigh, "The range must lie within the frames of the file."},
+    {KnownMessage::kFramesOutOfOrder,
      "Is --range in order, and does \"NumFrames\" in the header announce any frames?"},
-    {"non-zero size",
+    {KnownMessage::kSizeIsZero,
      "--size takes a number that is not 0, such as 1.5; for an HTR file, --segment-size does."},
-    {"non-zero scale factor", "--scale takes a number that is not 0, such as 0.1."},
-    {"Base Position, Animation, or both", "--apply needs --animation or --base-position."},
-    {"select the root of a skeleton",
+    {KnownMessage::kScaleIsZero, "--scale takes a number that is not 0, such as 0.1."},
+    {KnownMessage::kNothingToApply, "--apply needs --animation or --base-position."},
+    {KnownMessage::kNoSkeletonSelected,
      "--into SCENE --select NAME selects in a scene of yours; --create builds a new skeleton."},
-    {"is not finite",
+    {KnownMessage::kNotFinite,
      "A number of the file, or that of --scale, --size or --segment-size, is too large."},
-    {"ScaleFactor is not 1.0", "Lengths are taken as they stand; --scale multiplies them."},
+    {KnownMessage::kScaleFactorIgnored,
+     "Lengths are taken as they stand; --scale multiplies them."},
 };
 
 // Where these differ from the ones above.
 constexpr Advice kExportAdvice[] = {
-    {"start frame equal to or greater",
+    {KnownMessage::kStartFrameTooLow,
      "The range must lie within the animation range of the scene."},
-    {"end frame less than or equal", "The range must lie within the animation range of the scene."},
-    {"less than the end frame",
+    {KnownMessage::kEndFrameTooHigh, "The range must lie within the animation range of the scene."},
+    {KnownMessage::kFramesOutOfOrder,
      "Is --range in order, and does the animation range of the scene end after it starts?"},
-    {"select the root bone",
+    {KnownMessage::kNoRootBoneSelected,
      "--select NAME selects a bone; \"orvane scene SCENE\" lists the names."},
-    {"bone object to export", "--select NAME takes a bone, or a node that is the parent of one."},
-    {"object offset", "The file says where the node is, and not where its object is drawn."},
-    {"multiple identical names",
+    {KnownMessage::kNoBoneToExport,
+     "--select NAME takes a bone, or a node that is the parent of one."},
+    {KnownMessage::kObjectOffset,
+     "The file says where the node is, and not where its object is drawn."},
+    {KnownMessage::kIdenticalNames,
      "Every bone needs a name of its own, without blanks; without one it is left out, with all "
-     "below "
-     "it."},
-    {"No segments to write", "Bones with \"Effector\" in their names are left out."},
+     "below it."},
+    {KnownMessage::kNoSegmentsToWrite, "Bones with \"Effector\" in their names are left out."},
 };
 
-template <std::size_t kCount>
-std::string FindAdvice(const Advice (&table)[kCount], const std::string& message) {
-  for (const Advice& advice : table) {
-    if (message.find(advice.about) != std::string::npos) return std::string(advice.text);
-  }
-  return "";
+// Of `table`; an empty text when it has none for `message`.
+template <typename Table>
+std::string_view FindAdvice(const Table& table, KnownMessage message) {
+  const auto advice =
+      std::find_if(std::begin(table), std::end(table),
+                   [message](const Advice& each) { return each.message == message; });
+  return advice == std::end(table) ? std::string_view() : advice->text;
 }
 
 }  // namespace
 
-std::string AdviceFor(const std::string& message) { return FindAdvice(kAdvice, message); }
+std::string AdviceFor(std::string_view message) {
+  const std::optional<KnownMessage> known = Recognize(message);
+  return known ? std::string(FindAdvice(kAdvice, *known)) : "";
+}
 
-std::string AdviceForExport(const std::string& message) {
-  const std::string advice = FindAdvice(kExportAdvice, message);
-  return advice.empty() ? AdviceFor(message) : advice;
+std::string AdviceForExport(std::string_view message) {
+  const std::optional<KnownMessage> known = Recognize(message);
+  if (!known) return "";
+  const std::string_view advice = FindAdvice(kExportAdvice, *known);
+  return std::string(advice.empty() ? FindAdvice(kAdvice, *known) : advice);
 }
 
 }  // namespace cli

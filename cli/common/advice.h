@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 // What to do about a message: one line after the texts of the reader and the plug-in, which stand
 // as they are.
@@ -8,9 +9,9 @@
 namespace cli {
 
 // Returns an empty text when there is nothing to add to `message`.
-std::string AdviceFor(const std::string& message);
+[[nodiscard]] std::string AdviceFor(std::string_view message);
 
 // The same, for a message that an export met.
-std::string AdviceForExport(const std::string& message);
+[[nodiscard]] std::string AdviceForExport(std::string_view message);
 
 }  // namespace cli

@@ -15,9 +15,9 @@ void WishForRange(Wishes& wishes, const RangeControls& controls, const std::stri
   if (colon == std::string::npos) {
     throw CLI::ValidationError("--range", "FROM:TO is expected, not " + range);
   }
-  wishes.push_back({Kind::kRadio, controls.range, "--range", "", false, ""});
-  wishes.push_back({Kind::kText, controls.from, "--range", range.substr(0, colon), false, ""});
-  wishes.push_back({Kind::kText, controls.to, "--range", range.substr(colon + 1), false, ""});
+  wishes.push_back({Kind::kRadio, controls.range, "--range", "", false, {}});
+  wishes.push_back({Kind::kText, controls.from, "--range", range.substr(0, colon), false, {}});
+  wishes.push_back({Kind::kText, controls.to, "--range", range.substr(colon + 1), false, {}});
 }
 
 // Null when there is none.
@@ -38,11 +38,11 @@ CLI::Option* AddFlag(CLI::App& verb, Wishes& wishes, const ControlWish& wish,
 
 CLI::Option* AddRadio(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
                       const std::string& help) {
-  return AddFlag(verb, wishes, {Kind::kRadio, control, flag, "", false, ""}, help);
+  return AddFlag(verb, wishes, {Kind::kRadio, control, flag, "", false, {}}, help);
 }
 
 void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int control,
-                 const std::string& help, const std::string& disabled_by) {
+                 const std::string& help, const Disabler& disabled_by) {
   CLI::Option* on =
       AddFlag(verb, wishes, {Kind::kCheckBox, control, "--" + name, "", true, disabled_by}, help);
   AddFlag(verb, wishes, {Kind::kCheckBox, control, "--no-" + name, "", false, disabled_by},
@@ -51,7 +51,7 @@ void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int co
 }
 
 CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
-                     const std::string& help, const std::string& disabled_by) {
+                     const std::string& help, const Disabler& disabled_by) {
   const ControlWish wish{Kind::kText, control, flag, "", false, disabled_by};
   return verb
       .add_option_function<std::string>(

@@ -30,11 +30,11 @@ CLI::Option* AddRadio(CLI::App& verb, Wishes& wishes, const std::string& flag, i
 
 // The check box `control` as "--NAME" and "--no-NAME".
 void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int control,
-                 const std::string& help, const std::string& disabled_by = "");
+                 const std::string& help, const Disabler& disabled_by = {});
 
 // The text field `control` as an option, which is returned.
 CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
-                     const std::string& help, const std::string& disabled_by = "");
+                     const std::string& help, const Disabler& disabled_by = {});
 
 // The radio buttons of all frames, as `all_flag`, and of a range of them, with its two text fields,
 // as "--range FROM:TO".

@@ -8,9 +8,11 @@
 namespace cli {
 namespace {
 
-Failure Disabled(const ControlWish& wish) {
+Failure Disabled(const ControlWish& wish, const host::ScriptedDialog& dialog) {
   std::string text = "the dialog has this control disabled";
-  if (!wish.disabled_by.empty()) text += " while " + wish.disabled_by;
+  if (const auto [radio, way_out] = wish.disabled_by; radio != 0) {
+    text += " while \"" + dialog.Text(radio) + "\" is chosen; " + way_out + " enables it";
+  }
   return {ExitStatus::kWrongUsage, {{wish.flag, text, ""}}};
 }
 
@@ -21,7 +23,7 @@ Failure Missing(const ControlWish& wish, const host::ScriptedDialog& dialog) {
 
 void CarryOut(const ControlWish& wish, host::ScriptedDialog& dialog) {
   if (!dialog.Has(wish.control)) throw Missing(wish, dialog);
-  if (!dialog.IsEnabled(wish.control)) throw Disabled(wish);
+  if (!dialog.IsEnabled(wish.control)) throw Disabled(wish, dialog);
   switch (wish.kind) {
     case ControlWish::Kind::kRadio:
       return dialog.Click(wish.control);

@@ -11,6 +11,12 @@
 
 namespace cli {
 
+// The radio button that disables a control while it is chosen, and the flag of the other one.
+struct Disabler {
+  int radio = 0;  // 0: none
+  const char* way_out = "";
+};
+
 // One wish: how a flag wants one control to be.
 struct ControlWish {
   // The order of the kinds is the order in which wishes are carried out: radio buttons decide which
@@ -19,10 +25,10 @@ struct ControlWish {
 
   Kind kind = Kind::kRadio;
   int control = 0;
-  std::string flag;         // as the user knows it: "--segment-size"
-  std::string text;         // kText: what to type
-  bool checked = false;     // kCheckBox: the state to leave it in
-  std::string disabled_by;  // what disables the control, for the message; may be empty
+  std::string flag;      // as the user knows it: "--segment-size"
+  std::string text;      // kText: what to type
+  bool checked = false;  // kCheckBox: the state to leave it in
+  Disabler disabled_by;  // for the message
 };
 
 // Carries out `wishes`, each kind in the given order, and presses OK; presses Cancel when the

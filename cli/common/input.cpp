@@ -7,6 +7,7 @@
 #include "cli/common/advice.h"
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
+#include "cli/common/known_messages.h"
 #include "formats/htr/reader.h"
 #include "formats/text/files.h"
 #include "platform/input_file.h"

@@ -12,11 +12,6 @@
 
 namespace cli {
 
-// What is said of a file that can be read and holds nothing, or nothing to start from.
-inline constexpr char kNoSegments[] = "The file holds no segments";
-inline constexpr char kNoRoot[] = "The file has no root segment";
-inline constexpr char kNoMarkers[] = "The file holds no markers";
-
 // The file that the user means by `name`, as the reader takes it: with ".htr" behind it unless it
 // has an extension of three letters. Throws a Failure that says why when it cannot be read.
 std::string ReadableHtrFile(const std::string& name);

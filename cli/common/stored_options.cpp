@@ -2,10 +2,13 @@
 
 #include <cstring>
 
+#include "cli/common/plugin_strings.h"
+
 namespace cli {
 
-StoredOptions::StoredOptions(const host::Settings& settings, const std::string& class_name)
-    : settings_(settings), path_("Software\\Orvane\\OrvaneFileIO\\Skelder\\" + class_name) {}
+StoredOptions::StoredOptions(const host::Settings& settings, unsigned int class_id)
+    : settings_(settings),
+      path_("Software\\Orvane\\OrvaneFileIO\\Skelder\\" + std::string(PluginText(class_id))) {}
 
 std::optional<bool> StoredOptions::Flag(const std::string& name) const {
   const auto stored = settings_.FindValue(path_, name);

@@ -12,8 +12,9 @@ namespace cli {
 
 class StoredOptions {
  public:
-  // Those of the class `class_name` ("ImportHTR") in `settings`, which outlive this.
-  StoredOptions(const host::Settings& settings, const std::string& class_name);
+  // Those in `settings`, which outlive this, of the class whose name is the string `class_id`
+  // (IDS_IMPORT_HTR) of the module.
+  StoredOptions(const host::Settings& settings, unsigned int class_id);
 
   // Nothing when there is no such value.
   std::optional<bool> Flag(const std::string& name) const;

@@ -6,6 +6,7 @@
 #include <memory>
 
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "cli/compare/comparison_report.h"
 #include "formats/htr/reader.h"
 #include "formats/text/numbers.h"

@@ -3,18 +3,17 @@
 #include <utility>
 
 #include "cli/common/failure.h"
+#include "cli/common/plugin_strings.h"
 #include "platform/interrupt.h"
 #include "plugin/resources/resource.h"
 
 namespace cli {
 namespace {
 
-constexpr char kUtility[] = "OrvaneUtilities";
-
 int PressOk(const host::UserMessage&) { return platform::kMessageBoxOk; }
 
 std::unique_ptr<UtilityObj> CreateUtility(const PluginSession& session) {
-  std::unique_ptr<UtilityObj> utility = session.module().CreateUtility(kUtility);
+  std::unique_ptr<UtilityObj> utility = session.module().CreateUtility(PluginText(IDS_UTILITIES));
   if (utility != nullptr) return utility;
   throw Failure{ExitStatus::kInputOutput,
                 {{session.module().path(), "the module has no panel that converts files", ""}}};
@@ -68,11 +67,8 @@ std::vector<std::string> ConverterPanel::TakeMessages() {
 
 // The dialogs are known by what they let choose.
 host::FileChoice ConverterPanel::ChooseFiles(const host::ShownFileDialog& dialog) const {
-  const auto lets_choose = [&dialog](const char* pattern) {
-    return dialog.filter.find(pattern) != std::string::npos;
-  };
-  if (lets_choose("(*.MNM)")) return {{mapping_}, false};
-  if (lets_choose("(*.BVK)")) return {{target_file_}, false};
+  if (dialog.filter == PluginText(IDS_MNM_FILES)) return {{mapping_}, false};
+  if (dialog.filter == PluginText(IDS_BVK_FILES)) return {{target_file_}, false};
   return {sources_, false};
 }
 

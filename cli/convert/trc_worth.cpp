@@ -8,6 +8,8 @@
 #include <system_error>
 
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
+#include "formats/text/files.h"
 #include "formats/trc/document.h"
 #include "inspect/counts/frame_counts.h"
 #include "inspect/summary/trc_outline.h"
@@ -30,7 +32,7 @@ void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
   if (const auto flaw = naming.Flaw())
     conversion.warnings.push_back(ComplainAboutFlaw(naming.File(), *flaw));
   if (document.MarkerCount() == 0) {
-    conversion.warnings.push_back(ComplainAbout(conversion.input, "The file holds no markers"));
+    conversion.warnings.push_back(ComplainAbout(conversion.input, kNoMarkers));
   } else if (!naming.KeepsAny(document)) {
     conversion.warnings.push_back({conversion.input, "The mapping has none of the file's markers",
                                    "\"orvane map lint\" compares the two."});
@@ -99,7 +101,7 @@ RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& m
 
 void LoadMapping(const std::string& mapping, MarkerNaming& naming) {
   if (mapping.empty() || naming.Load(mapping)) return;
-  throw Failure{ExitStatus::kInputOutput, {{mapping, "The file could not be opened", ""}}};
+  throw Failure{ExitStatus::kInputOutput, {{mapping, orvane::kNotOpened, ""}}};
 }
 
 void RequireInput(Conversion& conversion) {

@@ -23,7 +23,7 @@ void AddExportHtrFlags(CLI::App& verb, Wishes& wishes) {
 }
 
 ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings) {
-  const StoredOptions stored(settings, "ExportHTR");
+  const StoredOptions stored(settings, IDS_EXPORT_HTR);
   ExportChoices choices;
   choices.animation =
       WishedState(wishes, IDC_EXPORT_ANIMATION).value_or(stored.Flag("Animate").value_or(true));

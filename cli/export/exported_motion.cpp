@@ -9,6 +9,7 @@
 #include "cli/common/outputs.h"
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"
+#include "formats/text/files.h"
 
 namespace cli {
 namespace {
@@ -57,9 +58,6 @@ bool IsOneSkeletonOf(const orvane::HtrDocument& document, const host::Scene& sce
          std::count_if(segments.begin(), segments.end(), is_root) == 1;
 }
 
-// What the reader says of bytes when its memory is not enough.
-constexpr std::string_view kNoMemory = "The file could not be opened";
-
 Failure Refusal(const std::string& name, const std::string& text, const std::string& advice) {
   return {ExitStatus::kRefused, {{name, text, advice}}};
 }
@@ -76,7 +74,8 @@ ExportedMotion Check(const std::string& path, const std::string& name, const hos
   }
   orvane::HtrDocument document;
   const std::string message = orvane::ReadHtrBytes(document, bytes, true);
-  if (message == kNoMemory) throw NotReadBackForMemory(name);
+  // Bytes need no opening: there is no memory for them.
+  if (message == orvane::kNotOpened) throw NotReadBackForMemory(name);
   if (!message.empty() || !IsOneSkeletonOf(document, scene)) {
     throw Refusal(
         name, "The file would not read back: a name cannot stand in it",

@@ -23,19 +23,21 @@ std::string Advice(const std::optional<Value>& stored, const std::string& flag) 
 
 HiddenNumbers::HiddenNumbers(const Wishes& wishes, FileKind kind, const host::Settings& settings) {
   const bool is_htr = kind == FileKind::kHtr;
-  const StoredOptions stored(settings, is_htr ? "ImportHTR" : "ImportTRC");
+  const StoredOptions stored(settings, is_htr ? IDS_IMPORT_HTR : IDS_IMPORT_TRC);
   if (!TypedInt(wishes, IDC_OBJECT_SIZE)) {
-    numbers_.push_back(
-        {"non-zero size", Advice(stored.Float("Size"), is_htr ? "--segment-size" : "--size")});
+    numbers_.push_back({KnownMessage::kSizeIsZero,
+                        Advice(stored.Float("Size"), is_htr ? "--segment-size" : "--size")});
   }
   if (!TypedInt(wishes, IDC_GLOBAL_SCALE)) {
-    numbers_.push_back({"non-zero scale factor", Advice(stored.Double("ScaleFactor"), "--scale")});
+    numbers_.push_back(
+        {KnownMessage::kScaleIsZero, Advice(stored.Double("ScaleFactor"), "--scale")});
   }
 }
 
-std::string HiddenNumbers::AdviceFor(const std::string& message) const {
+std::string HiddenNumbers::AdviceFor(std::string_view message) const {
+  const std::optional<KnownMessage> known = Recognize(message);
   for (const Number& number : numbers_) {
-    if (message.find(number.about) != std::string::npos) return number.advice;
+    if (number.message == known) return number.advice;
   }
   return "";
 }

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/common/dialog_flags.h"
 #include "cli/common/file_kind.h"
+#include "cli/common/known_messages.h"
 #include "host/desktop/settings.h"
 
 // Numbers that a dialog has stored and does not show: what it shows of the smallest is 0, and that
@@ -19,11 +21,11 @@ class HiddenNumbers {
   HiddenNumbers(const Wishes& wishes, FileKind kind, const host::Settings& settings);
 
   // What to do about `message`, which refuses a 0; empty when none of the numbers is the reason.
-  std::string AdviceFor(const std::string& message) const;
+  [[nodiscard]] std::string AdviceFor(std::string_view message) const;
 
  private:
   struct Number {
-    std::string about;  // what a message holds that is about it
+    KnownMessage message;  // that is about it
     std::string advice;
   };
 

@@ -11,7 +11,7 @@ FrameSpan ImportChoices::Keyed(const FrameSpan& announced) const {
 
 ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind, const host::Settings& settings) {
   const bool is_htr = kind == FileKind::kHtr;
-  const StoredOptions stored(settings, is_htr ? "ImportHTR" : "ImportTRC");
+  const StoredOptions stored(settings, is_htr ? IDS_IMPORT_HTR : IDS_IMPORT_TRC);
   const auto choice = [&](int control, const char* name, bool otherwise) {
     return WishedState(wishes, control).value_or(stored.Flag(name).value_or(otherwise));
   };

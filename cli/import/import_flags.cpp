@@ -12,11 +12,11 @@ namespace {
 
 using Kind = ControlWish::Kind;
 
-constexpr char kWhileApplying[] = "\"Apply\" is chosen; --create enables it";
-constexpr char kWhileCreating[] = "\"Create\" is chosen; --apply enables it";
+constexpr Disabler kWhileApplying{IDC_APPLY, "--create"};
+constexpr Disabler kWhileCreating{IDC_CREATE, "--apply"};
 
 ControlWish FrameRate(const std::string& choice) {
-  return {Kind::kCheckBox, IDC_SET_FRAME_RATE, "--frame-rate", "", choice == "file", ""};
+  return {Kind::kCheckBox, IDC_SET_FRAME_RATE, "--frame-rate", "", choice == "file", {}};
 }
 
 void AddTargetFlags(CLI::App& verb, Wishes& wishes) {

@@ -6,6 +6,7 @@
 #include <map>
 
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "cli/import/imported_frames.h"
 #include "formats/text/numbers.h"
 #include "formats/trc/document.h"

@@ -5,6 +5,7 @@
 #include <memory>
 
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "cli/common/messages.h"
 #include "cli/info/info_report.h"
 #include "cli/info/trc_info.h"

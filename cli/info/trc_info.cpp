@@ -1,6 +1,7 @@
 #include "cli/info/trc_info.h"
 
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 
 namespace cli {
 namespace {

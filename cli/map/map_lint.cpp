@@ -6,6 +6,7 @@
 #include "cli/common/check_results.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "inspect/check/mnm_check.h"
 #include "inspect/summary/trc_outline.h"
 

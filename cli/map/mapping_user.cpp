@@ -5,6 +5,8 @@
 #include <utility>
 
 #include "cli/common/failure.h"
+#include "cli/common/known_messages.h"
+#include "cli/common/plugin_strings.h"
 #include "host/application/utility_panel.h"
 #include "platform/interrupt.h"
 #include "plugin/resources/resource.h"
@@ -12,12 +14,14 @@
 namespace cli {
 namespace {
 
-// The standard name that a description ends with, in parentheses.
-std::string AskedName(const std::string& description) {
-  const std::size_t open = description.rfind('(');
-  const std::size_t close = description.rfind(')');
-  if (open == std::string::npos || close == std::string::npos || close < open) return "";
-  return description.substr(open + 1, close - open - 1);
+// The standard name of what `description` asks for; empty when there is no such marker.
+std::string AskedName(const std::string& description, const orvane::WristSticks& sticks) {
+  for (std::size_t index = 0; index < orvane::kMarkerSteps; ++index) {
+    for (const orvane::StandardMarker& marker : orvane::MarkerStepAt(index, sticks).markers) {
+      if (marker.description == description) return std::string(marker.name);
+    }
+  }
+  return "";
 }
 
 host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
@@ -38,7 +42,7 @@ void MappingUser::Create(const std::string& path) {
     return true;
   };
   session_.desktop().SetUser(std::move(user));
-  std::unique_ptr<UtilityObj> utility = session_.module().CreateUtility("OrvaneUtilities");
+  std::unique_ptr<UtilityObj> utility = session_.module().CreateUtility(PluginText(IDS_UTILITIES));
   if (utility == nullptr) {
     throw Failure{ExitStatus::kInputOutput,
                   {{session_.module().path(), "the module has no panel that makes mappings", ""}}};
@@ -50,7 +54,7 @@ void MappingUser::Create(const std::string& path) {
 
 int MappingUser::Answer(const host::UserMessage& message) const {
   if (message.style == platform::MessageBoxStyle::kOk) return platform::kMessageBoxOk;
-  const bool is_left = message.text.find("left") != std::string::npos;
+  const bool is_left = Recognize(message.text) == KnownMessage::kAsksForLeftStick;
   const bool answer = is_left ? sticks_.left : sticks_.right;
   return answer ? platform::kMessageBoxYes : platform::kMessageBoxNo;
 }
@@ -59,7 +63,7 @@ int MappingUser::Answer(const host::UserMessage& message) const {
 void MappingUser::Act() {
   host::ScriptedDialog& creator = Shown(session_, IDD_MAPPING_CREATOR);
   if (platform::Interrupted()) return creator.Click(IDC_ABORT);
-  const std::string name = AskedName(creator.Text(IDC_MARKER_DESCRIPTION));
+  const std::string name = AskedName(creator.Text(IDC_MARKER_DESCRIPTION), sticks_);
   const std::optional<std::string> pick = picks_.PickFor(name);
   if (!pick) return creator.Click(IDC_SKIP);
   host::Node* const node = session_.scene().FindByName(*pick);

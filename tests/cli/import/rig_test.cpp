@@ -3,6 +3,7 @@
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"
 #include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
 
 namespace {
 
@@ -111,6 +112,16 @@ TEST_F(RigTest, AnEffectorAloneLeavesNothingToWrite) {
   EXPECT_EQ(result.error,
             "orvane: rig.glb: No segments to write\n"
             "  Bones with \"Effector\" in their names are left out.\n");
+}
+
+TEST_F(RigTest, AMarkerIsNoBone) {
+  Write("walk.trc", test::TrcText{.markers = {"LFHD"}, .frames = {{"1\t2\t3"}}}.Text());
+  ASSERT_EQ(Orvane({"import", "walk.trc", "-o", "rig.glb", "--force"}).status, 0);
+  const test::ProgramResult result = Export("LFHD");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: rig.glb: Please select a Skelder 4 bone object to export\n"
+            "  --select NAME takes a bone, or a node that is the parent of one.\n");
 }
 
 TEST_F(RigTest, AHelperIsTheParentOfABoneToo) {
