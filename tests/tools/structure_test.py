@@ -7,7 +7,8 @@ import tempfile
 import unittest
 
 TOOL = pathlib.Path(os.environ["ORVANE_SOURCE_DIR"]) / "tools" / "structure.py"
-GIT = ("git", "-c", "user.name=A", "-c", "user.email=a@b.c", "-c", "commit.gpgsign=false")
+GIT = ("git", "-c", "user.name=A", "-c", "user.email=a@b.c", "-c", "commit.gpgsign=false", "-c",
+       "maintenance.auto=false")
 
 
 def including(*headers):
@@ -17,7 +18,7 @@ def including(*headers):
 class StructureTest(unittest.TestCase):
     def setUp(self):
         self.root = pathlib.Path(self.enterContext(tempfile.TemporaryDirectory()))
-        self.git("init", "--quiet")
+        self.git("init", "--quiet", "--template=")
 
     def git(self, *arguments):
         subprocess.run([*GIT, *arguments], cwd=self.root, check=True)
