@@ -2,7 +2,7 @@
 
 #include "formats/htr/messages.h"
 #include "formats/trc/messages.h"
-#include "host/gltf/refusal.h"
+#include "host/gltf/file/refusal.h"
 
 namespace cli {
 namespace {

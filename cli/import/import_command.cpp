@@ -13,6 +13,7 @@
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
 #include "cli/common/selection.h"
 #include "cli/import/hidden_numbers.h"
@@ -38,7 +39,7 @@ struct ImportArguments {
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
   Settings settings = Settings::kFresh;
-  bool strict = false;
+  ReportManner report;
   bool quiet = false;
   bool force = false;
 };
@@ -97,6 +98,32 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
   return {ExitStatus::kRefused, complaints};
 }
 
+ReportManner ReportMannerOf(const ImportArguments& arguments) {
+  ReportManner manner = arguments.report;
+  manner.only_warnings = arguments.quiet;
+  return manner;
+}
+
+// Tells what is odd in `input`, and what the import will make of that. Returns what is to be told
+// of the file and the scene together. Throws a Failure when nothing is to be imported.
+std::vector<Complaint> TellOfFile(const std::string& input, FileKind kind,
+                                  const ImportChoices& choices, const host::Scene& scene,
+                                  const ImportArguments& arguments) {
+  const ReportManner manner = ReportMannerOf(arguments);
+  Inspection inspection = Inspect(input, kind, choices, scene, kImportLess, !manner.omitted);
+  orvane::FileReport report =
+      ReportOn(inspection.checked, choices.apply ? orvane::Action::kApply : orvane::Action::kImport,
+               {choices.frame_rate_from_file, inspection.as_announced});
+  WriteReportFile({report}, manner);
+  if (inspection.refusal) {
+    Tell(report.Without(inspection.refused_code), manner);
+    throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
+  }
+  Tell(report, manner);
+  if (Forbids(manner, report)) throw ForbiddenByStrict();
+  return std::move(inspection.complaints);
+}
+
 ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArguments& arguments) {
   SceneOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
@@ -104,7 +131,7 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
   const std::vector<ControlWish> wishes = AllWishes(arguments);
   const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
-  Append(Inspect(input, kind, choices, session.scene(), kImportLess), complaints);
+  Append(TellOfFile(input, kind, choices, session.scene(), arguments), complaints);
   if (kind == FileKind::kTrc) {
     Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
   }
@@ -118,8 +145,7 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   AddMessages(input, session, HiddenNumbers(wishes, kind, session.settings()), complaints);
   if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
   AddReversedRange(input, range, session.scene().Animation(), complaints);
-  PutCauseFirst(input, kind, complaints);
-  Warn(std::move(complaints), arguments.strict);
+  Warn(std::move(complaints), arguments.report.strict);
   const std::size_t size = output.Deliver(session.scene(), input);
   if (!arguments.quiet) {
     PrintImportSummary({input, arguments.output, size}, session.scene(), std::cout);
@@ -132,12 +158,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
   const std::string input = ReadableFile(arguments.input, kind);
   RequireNoInput(arguments.output, {input});
-  try {
-    return ImportFile(input, kind, arguments);
-  } catch (Failure& failure) {
-    if (failure.status == ExitStatus::kRefused) PutCauseFirst(input, kind, failure.complaints);
-    throw;
-  }
+  return ImportFile(input, kind, arguments);
 }
 
 double MillimetersPer(const std::string& unit) {
@@ -187,7 +208,7 @@ void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
             [&arguments](const std::string& choice) {
               arguments.settings = choice == "user" ? Settings::kUser : Settings::kFresh;
             });
-  verb.add_flag("--strict", arguments.strict, "Take every warning as a refusal");
+  AddReportFlags(verb, arguments.report);
   verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
 }
 

@@ -10,7 +10,6 @@
 namespace cli {
 namespace {
 
-using orvane::DescribeDifference;
 using orvane::FormatInt;
 using orvane::FrameCounts;
 using orvane::MadeUpFrames;
@@ -42,19 +41,10 @@ MadeUpFrames MadeUp(const ImportedFrames& frames, std::int64_t offset, int ticks
           receivers.held, ticks_per_frame * receivers.controllers};
 }
 
-std::optional<Complaint> CompareCounts(const std::string& file, const ImportedFrames& frames,
-                                       bool is_part) {
+// Whether it matters that the header and the file differ.
+bool IsAsAnnounced(const ImportedFrames& frames, bool is_part) {
   const FrameCounts& counts = frames.counts;
-  if (frames.end > counts.fewest_held) {
-    return Complaint{file, DescribeDifference(counts),
-                     "Missing frames are set to zero; --range FROM:TO leaves them out."};
-  }
-  if (counts.announced < counts.most_held && !is_part) {
-    return Complaint{file, DescribeDifference(counts),
-                     counts.announced > 0 ? "Only the announced frames are imported."
-                                          : "None of them is imported."};
-  }
-  return std::nullopt;
+  return frames.end > counts.fewest_held || (counts.announced < counts.most_held && !is_part);
 }
 
 std::optional<Complaint> FindLost(const std::string& file, const FrameSpan& moved,
@@ -73,21 +63,14 @@ std::optional<Complaint> FindLost(const std::string& file, const FrameSpan& move
 
 }  // namespace
 
-std::vector<Complaint> JudgeFrames(const std::string& file, const ImportedFrames& frames,
-                                   const ImportChoices& choices,
-                                   const host::AnimationState& animation,
-                                   const std::string& advice) {
+FramesVerdict JudgeFrames(const std::string& file, const ImportedFrames& frames,
+                          const ImportChoices& choices, const host::AnimationState& animation) {
   const int ticks_per_frame =
       choices.frame_rate_from_file ? host::TicksPerFrame(frames.rate) : animation.TicksPerFrame();
-  const std::string why = WhyOutOfProportion(frames.keyed.Count(), frames.counts,
-                                             MadeUp(frames, choices.offset, ticks_per_frame));
-  if (!why.empty()) throw Failure{ExitStatus::kRefused, {{file, why, advice}}};
-  std::vector<Complaint> complaints;
-  const auto difference = CompareCounts(file, frames, IsPart(frames, choices));
-  if (difference) complaints.push_back(*difference);
-  const auto lost = FindLost(file, Moved(frames.keyed, choices.offset), ticks_per_frame);
-  if (lost) complaints.push_back(*lost);
-  return complaints;
+  return {WhyOutOfProportion(frames.keyed.Count(), frames.counts,
+                             MadeUp(frames, choices.offset, ticks_per_frame)),
+          FindLost(file, Moved(frames.keyed, choices.offset), ticks_per_frame),
+          IsAsAnnounced(frames, IsPart(frames, choices))};
 }
 
 }  // namespace cli

@@ -1,7 +1,7 @@
 #pragma once
 
+#include <optional>
 #include <string>
-#include <vector>
 
 #include "cli/common/failure.h"
 #include "cli/import/import_choices.h"
@@ -30,11 +30,16 @@ struct ImportedFrames {
   KeyReceivers receivers;
 };
 
+struct FramesVerdict {
+  std::string excess;  // why the import takes far more frames than are held; empty when it does not
+  std::optional<Complaint> lost;  // frames that come to lie outside the host's time
+  bool as_announced = false;  // whether frames that are announced and not there matter, or others
+};
+
 // What is to be said of `frames` of `file` before they are imported by `choices` into a scene with
-// that `animation`. Throws a Failure, with `advice`, when that takes far more frames than are held.
-std::vector<Complaint> JudgeFrames(const std::string& file, const ImportedFrames& frames,
-                                   const ImportChoices& choices,
-                                   const host::AnimationState& animation,
-                                   const std::string& advice);
+// that `animation`.
+[[nodiscard]] FramesVerdict JudgeFrames(const std::string& file, const ImportedFrames& frames,
+                                        const ImportChoices& choices,
+                                        const host::AnimationState& animation);
 
 }  // namespace cli

@@ -1,109 +1,163 @@
 #include "cli/import/inspection.h"
 
-#include <algorithm>
-#include <optional>
-
+#include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "cli/import/imported_frames.h"
 #include "cli/import/keyed_segments.h"
-#include "cli/import/trc_inspection.h"
 #include "formats/htr/reader.h"
-#include "formats/text/numbers.h"
+#include "formats/trc/document.h"
 #include "host/animation/animation_state.h"
+#include "inspect/check/check_failure.h"
+#include "inspect/check/htr_check.h"
 #include "inspect/check/rates.h"
-#include "inspect/summary/hierarchy.h"
+#include "inspect/check/trc_check.h"
+#include "inspect/counts/proportion.h"
 
 namespace cli {
 namespace {
 
 using orvane::CountFrames;
-using orvane::FormatInt;
-using orvane::HierarchyEntry;
 using orvane::kHighestRate;
 using orvane::kLowestRate;
-using orvane::ListHierarchy;
 
 // What is told of a file's rate holds for the scene that the program makes of it.
 static_assert(kLowestRate == host::kMinimumFrameRate && kHighestRate == host::kMaximumFrameRate);
 
-// Segments of the first root's tree, which stands first in `hierarchy`.
-std::size_t FirstTreeSize(const std::vector<HierarchyEntry>& hierarchy) {
-  const auto next_root = std::find_if(hierarchy.begin() + 1, hierarchy.end(),
-                                      [](const HierarchyEntry& entry) { return entry.depth == 0; });
-  return static_cast<std::size_t>(next_root - hierarchy.begin());
-}
-
-// The plug-in makes a skeleton of the first root and what hangs from it.
-std::optional<Complaint> FindLeftOut(const std::string& file, const orvane::HtrDocument& document) {
-  const std::vector<HierarchyEntry> hierarchy = ListHierarchy(document);
-  if (hierarchy.empty()) return std::nullopt;
-  const std::size_t count = document.segments().size();
-  const std::size_t left_out = count - FirstTreeSize(hierarchy);
-  if (left_out == 0) return std::nullopt;
-  const std::string text = FormatInt(static_cast<std::int64_t>(left_out)) + " of " +
-                           FormatInt(static_cast<std::int64_t>(count)) +
-                           " segments do not hang from the first root, " +
-                           hierarchy.front().segment->GetName();
-  return Complaint{file, text, "A new skeleton goes without them; \"orvane info\" lists them all."};
-}
-
-// A second section of base positions lists every segment once more among its parent's children.
-std::optional<Complaint> FindRepetition(const std::string& file,
-                                        const orvane::HtrDocument& document,
-                                        const ImportChoices& choices) {
-  std::int64_t children = 0;
-  std::int64_t listed = 0;
-  for (const orvane::HtrSegment& segment : document.segments()) {
-    if (segment.GetParent() != nullptr) ++children;
-    listed += segment.GetNumChildren();
-  }
-  if (listed == children) return std::nullopt;
-  return Complaint{file, "[BasePosition] comes again, so that segments are listed more than once",
-                   choices.apply
-                       ? "The last one counts."
-                       : "The last one counts, and a new skeleton has bones more than once."};
-}
-
-// Of a file of which `held` frames are held.
-ImportedFrames FramesOf(orvane::HtrDocument& document, const orvane::HtrFrameCounts& held,
-                        const ImportChoices& choices, const host::Scene& scene) {
+ImportedFrames FramesOf(orvane::HtrDocument& document, const ImportChoices& choices,
+                        const host::Scene& scene) {
   ImportedFrames frames;
-  frames.counts = CountFrames(document, held);
+  frames.counts = CountFrames(document);
   const std::int64_t first = document.GetStartFrame();
   frames.announced = {first, first + frames.counts.announced - 1};
   frames.keyed = choices.Keyed(frames.announced);
   // Whatever frame a range starts at, the file's are taken from the first one on.
   frames.end = frames.keyed.Count();
   frames.rate = document.GetDataFrameRate();
-  std::int64_t all = 0;
-  for (const auto& [segment, count] : held) all += static_cast<std::int64_t>(count);
+  std::int64_t held = 0;
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    held += static_cast<std::int64_t>(segment.GetNumFrames());
+  }
   constexpr std::int64_t kPositionAndRotation = 2;
-  frames.receivers = {"segment", CountKeyedSegments(document, choices.apply, scene), all,
+  frames.receivers = {"segment", CountKeyedSegments(document, choices.apply, scene), held,
                       kPositionAndRotation};
   return frames;
 }
 
-std::vector<Complaint> InspectHtr(const std::string& file, const ImportChoices& choices,
-                                  const host::Scene& scene, const std::string& advice) {
-  orvane::HtrDocument document;
-  orvane::HtrFrameCounts held;
-  if (!orvane::CountHtrFrames(document, file, held).empty()) return {};
-  if (document.segments().empty()) return {};
-  const auto repetition = FindRepetition(file, document, choices);
-  std::vector<Complaint> complaints =
-      JudgeFrames(file, FramesOf(document, held, choices, scene), choices, scene.Animation(),
-                  repetition ? repetition->text + "." : advice);
-  const auto left_out = choices.apply ? std::nullopt : FindLeftOut(file, document);
-  if (left_out) complaints.push_back(*left_out);
-  if (repetition) complaints.push_back(*repetition);
-  return complaints;
+ImportedFrames FramesOf(const orvane::TRCDocument& document, const ImportChoices& choices,
+                        const host::Scene& scene) {
+  const auto held = static_cast<std::int64_t>(document.MarkerAt(0)->SampleCount());
+  const std::int64_t markers = document.MarkerCount();
+  const std::int64_t first = document.FirstFrame();
+  ImportedFrames frames;
+  frames.counts = {document.NumFrames(), held, held};
+  frames.announced = {first, first + document.NumFrames() - 1};
+  frames.keyed = choices.Keyed(frames.announced);
+  if (frames.keyed.Count() > 0) frames.end = frames.keyed.last - first + 1;
+  frames.rate = document.DataRate();
+  const bool for_nobody = choices.apply && choices.selected_only && scene.Selection().empty();
+  frames.receivers = {"marker", for_nobody ? 0 : markers, held * markers, 1};
+  return frames;
 }
+
+// A second section of base positions lists every segment once more among its parent's children.
+bool ListsSegmentsAgain(const orvane::HtrDocument& document) {
+  std::int64_t children = 0;
+  std::int64_t listed = 0;
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    if (segment.GetParent() != nullptr) ++children;
+    listed += segment.GetNumChildren();
+  }
+  return listed != children;
+}
+
+// What reading a file with or without its check comes to.
+struct Read {
+  orvane::CheckedFile checked;
+  bool is_refused = false;
+};
+
+Read ReadInto(orvane::HtrDocument& document, const std::string& file, std::string_view bytes,
+              bool is_checked) {
+  if (!is_checked) return {{}, !orvane::ReadHtrBytes(document, bytes, true).empty()};
+  orvane::CheckedFile checked = orvane::CheckHtr(file, bytes, document);
+  const bool is_refused = checked.is_refused;
+  return {std::move(checked), is_refused};
+}
+
+Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::string_view bytes,
+              bool is_checked) {
+  if (!is_checked) return {{}, !document.ReadBytes(bytes, false).empty()};
+  orvane::CheckedFile checked = orvane::CheckTrc(file, bytes, document);
+  const bool is_refused = checked.is_refused;
+  return {std::move(checked), is_refused};
+}
+
+class Inspecting {
+ public:
+  Inspecting(const std::string& file, const ImportChoices& choices, const host::Scene& scene)
+      : file_(file), choices_(choices), scene_(scene) {}
+
+  template <typename Document>
+  Inspection Run(bool is_checked, const std::string& advice) {
+    const std::string bytes = FileBytes(file_);
+    Document document;
+    Read read = ReadInto(document, file_, bytes, is_checked);
+    result_.checked = std::move(read.checked);
+    if (!read.is_refused) Judge(document, bytes.size(), advice);
+    return std::move(result_);
+  }
+
+ private:
+  void Judge(orvane::HtrDocument& document, std::size_t /*bytes*/, const std::string& advice) {
+    if (document.segments().empty()) return;  // which the plug-in tells
+    JudgeAll(FramesOf(document, choices_, scene_), "htr-frames-too-many",
+             ListsSegmentsAgain(document)
+                 ? "[BasePosition] comes again, so that segments are listed more than once."
+                 : advice);
+  }
+
+  void Judge(const orvane::TRCDocument& document, std::size_t bytes, const std::string& advice) {
+    if (document.MarkerCount() == 0) {
+      return Refuse(ComplainAbout(file_, kNoMarkers), "trc-markers-missing");
+    }
+    const ImportedFrames frames = FramesOf(document, choices_, scene_);
+    JudgeAll(frames, "trc-frames-too-many", advice);
+    const std::string why = orvane::WhyTooShort(static_cast<std::int64_t>(bytes),
+                                                frames.keyed.Count(), frames.receivers.count);
+    if (result_.refusal || why.empty()) return;
+    Refuse({file_, why, "Do its lines hold all columns? --range FROM:TO imports a part of them."},
+           "");
+  }
+
+  void JudgeAll(const ImportedFrames& frames, std::string_view code, const std::string& advice) {
+    const FramesVerdict verdict = JudgeFrames(file_, frames, choices_, scene_.Animation());
+    result_.as_announced = verdict.as_announced;
+    if (verdict.lost) result_.complaints.push_back(*verdict.lost);
+    if (!verdict.excess.empty()) Refuse({file_, verdict.excess, advice}, code);
+  }
+
+  void Refuse(Complaint refusal, std::string_view code) {
+    result_.refusal = std::move(refusal);
+    result_.refused_code = code;
+  }
+
+  const std::string& file_;
+  const ImportChoices& choices_;
+  const host::Scene& scene_;
+  Inspection result_;
+};
 
 }  // namespace
 
-std::vector<Complaint> Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
-                               const host::Scene& scene, const std::string& advice) {
-  return kind == FileKind::kTrc ? InspectTrc(file, choices, scene, advice)
-                                : InspectHtr(file, choices, scene, advice);
+Inspection Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
+                   const host::Scene& scene, const std::string& advice, bool is_checked) {
+  Inspecting inspecting(file, choices, scene);
+  try {
+    return kind == FileKind::kTrc ? inspecting.Run<orvane::TRCDocument>(is_checked, advice)
+                                  : inspecting.Run<orvane::HtrDocument>(is_checked, advice);
+  } catch (const orvane::CheckFailure& failure) {
+    throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
+  }
 }
 
 }  // namespace cli

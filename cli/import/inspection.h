@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -7,8 +8,9 @@
 #include "cli/common/file_kind.h"
 #include "cli/import/import_choices.h"
 #include "host/scene/scene.h"
+#include "inspect/check/checked_file.h"
 
-// What the plug-in does not say of a file that it imports.
+// What the program sees in a file before the plug-in imports it.
 
 namespace cli {
 
@@ -16,10 +18,20 @@ namespace cli {
 inline constexpr char kImportLess[] =
     "Is \"NumFrames\" right? --range FROM:TO imports a part of them.";
 
-// Reads `file` before it is imported by `choices` into `scene`. Returns what its user should know;
-// nothing when the reader refuses it or it is an HTR file without segments, because the plug-in
-// tells that. Throws a Failure, with `advice`, when the import would be work out of proportion.
-std::vector<Complaint> Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
-                               const host::Scene& scene, const std::string& advice);
+struct Inspection {
+  orvane::CheckedFile checked;  // nothing is found when that is not asked for
+  bool as_announced = true;     // whether frames that are announced and not there matter, or others
+  std::optional<Complaint>
+      refusal;                    // why the import would make nothing of the file, or far too much
+  std::string_view refused_code;  // of the finding that says the same
+  std::vector<Complaint> complaints;  // of the file and the scene together
+};
+
+// Reads `file` before it is imported by `choices` into `scene`, and finds what is odd in it if
+// `is_checked`. `advice` stands in a refusal of too much work. Throws a Failure when the file
+// cannot be read.
+[[nodiscard]] Inspection Inspect(const std::string& file, FileKind kind,
+                                 const ImportChoices& choices, const host::Scene& scene,
+                                 const std::string& advice, bool is_checked = true);
 
 }  // namespace cli

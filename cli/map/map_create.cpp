@@ -77,6 +77,14 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder;
 }
 
+// Throws a Failure when the import of `input` into `scene` would make nothing of it, or far too
+// much.
+void RequireInProportion(const std::string& input, const host::Scene& scene) {
+  const Inspection inspection =
+      Inspect(input, FileKind::kTrc, {}, scene, "Is \"NumFrames\" right?", false);
+  if (inspection.refusal) throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
+}
+
 }  // namespace
 
 ExitStatus CreateMapping(const MapCreateArguments& arguments) {
@@ -88,7 +96,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
     throw CannotWrite(arguments.output, output, reason);
   }
   PluginSession session(arguments.module, Settings::kFresh);
-  Inspect(input, FileKind::kTrc, {}, session.scene(), "Is \"NumFrames\" right?");
+  RequireInProportion(input, session.scene());
   ImportCloud(session, input);
   const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
 

@@ -14,6 +14,7 @@ struct CheckedFile {
   std::string_view kind;  // "HTR"
   std::string contents;   // in a few words, such as "21 segments, 120 frames"
   FindingList findings;
+  bool is_refused = false;  // by the reader
 };
 
 }  // namespace orvane

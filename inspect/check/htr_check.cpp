@@ -42,14 +42,19 @@ std::string Contents(const HtrDocument& document) {
 }  // namespace
 
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
-  CheckedFile checked{file, "HTR", {}, {}};
   HtrDocument document;
+  return CheckHtr(file, bytes, document);
+}
+
+CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
+  CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
   parts.end = EndOf(bytes);
   htr::HtrWatcher watcher(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &watcher);
   watcher.LeaveSection();
-  if (!watcher.HasRefused()) RequireRead(message);
+  checked.is_refused = watcher.HasRefused();
+  if (!checked.is_refused) RequireRead(message);
   RequireSound(FindFault(document));
   if (!watcher.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   NameFlaw(bytes, checked.findings);

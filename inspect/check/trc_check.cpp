@@ -129,13 +129,18 @@ void NameFlaw(std::string_view bytes, FindingList& findings) {
 }  // namespace
 
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
-  CheckedFile checked{file, "TRC", {}, {}};
   TRCDocument document;
+  return CheckTrc(file, bytes, document);
+}
+
+CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
+  CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
   parts.end = EndOf(bytes);
   trc::TrcWatcher watcher(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &watcher);
-  if (!watcher.HasRefused()) RequireRead(message);
+  checked.is_refused = watcher.HasRefused();
+  if (!checked.is_refused) RequireRead(message);
   RequireSound(FindFault(document));
   if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
   NameFlaw(bytes, checked.findings);

@@ -3,6 +3,7 @@
 #include <string>
 #include <string_view>
 
+#include "formats/trc/document.h"
 #include "inspect/check/checked_file.h"
 
 // The check of TRC files. The reader reads them as it always does, and is watched meanwhile;
@@ -13,5 +14,10 @@ namespace orvane {
 // Checks `bytes`, which are those of the file that is known as `file`. Throws a CheckFailure when
 // they cannot be read for want of memory, or were read wrongly.
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes);
+
+// The same, and leaves in `document`, which is empty, what was read of them: up to where the reader
+// has refused the file, if it has.
+[[nodiscard]] CheckedFile CheckTrc(const std::string& file, std::string_view bytes,
+                                   TRCDocument& document);
 
 }  // namespace orvane

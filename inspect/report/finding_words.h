@@ -62,6 +62,13 @@ constexpr FindingEffects InMappings(FindingSeverity severity, const char* conseq
   return {std::array{Action::kInspect, Action::kConvert}, {severity, consequence}};
 }
 
+// What a finding is about, as far as an action may not ask for it.
+enum class Concern {
+  kFile,    // what every action asks for
+  kRate,    // the frame rate
+  kFrames,  // frames that are announced and not there, or the other way round
+};
+
 struct FindingWords {
   std::string_view code;
   // The cause, one sentence without its full stop. {found} and {expected} stand for those of the
@@ -69,6 +76,7 @@ struct FindingWords {
   const char* one;
   const char* many;  // null for a code that one file has once at most
   FindingEffects effects;
+  Concern concern = Concern::kFile;
 };
 
 // Those of all codes, by kind of file.

@@ -50,6 +50,16 @@ std::string CauseOf(const FindingWords& words, const Finding& first, std::size_t
   return cause;
 }
 
+FindingEffect EffectOn(const FindingWords& words, Action action, const ActionOptions& options) {
+  if (words.concern == Concern::kRate && !options.rate) {
+    return {FindingSeverity::kNote, "The frame rate of the file is not asked for."};
+  }
+  if (words.concern == Concern::kFrames && !options.all_frames) {
+    return {FindingSeverity::kNote, "Only frames that are there are asked for."};
+  }
+  return words.effects[action];
+}
+
 bool ComesBefore(const ReportedFinding& left, const ReportedFinding& right) {
   if (left.severity != right.severity) return left.severity > right.severity;
   return std::tie(left.line, left.column) < std::tie(right.line, right.column);
@@ -65,24 +75,32 @@ std::size_t FileReport::Count(FindingSeverity severity) const {
   return count;
 }
 
-FileReport ReportOn(const CheckedFile& checked, Action action) {
+FileReport FileReport::Without(std::string_view code) const {
+  FileReport others = *this;
+  std::erase_if(others.findings,
+                [code](const ReportedFinding& finding) { return finding.code == code; });
+  return others;
+}
+
+FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptions& options) {
   FileReport report{checked.file, checked.kind, action, {}};
   std::map<std::string_view, std::size_t> places;  // in report.findings, by code
   for (const Finding& finding : checked.findings.Sorted()) {
     const FindingWords* const words = FindWords(finding.rule.code);
     if (words == nullptr || !words->effects[action].severity) continue;
+    const FindingEffect effect = EffectOn(*words, action, options);
     const auto [place, is_new] = places.emplace(finding.rule.code, report.findings.size());
     if (is_new) {
       const std::size_t count = checked.findings.Totals().at(finding.rule.code).count;
-      const char* const consequence = words->effects[action].consequence;
-      report.findings.push_back({finding.rule.code,
-                                 *words->effects[action].severity,
-                                 count,
-                                 finding.line,
-                                 finding.column,
-                                 {},
-                                 CauseOf(*words, finding, count),
-                                 consequence == nullptr ? finding.effect : consequence});
+      report.findings.push_back(
+          {finding.rule.code,
+           *words->effects[action].severity,
+           count,
+           finding.line,
+           finding.column,
+           {},
+           CauseOf(*words, finding, count),
+           effect.consequence == nullptr ? finding.effect : effect.consequence});
     }
     ReportedFinding& reported = report.findings[place->second];
     if (!TellsWhatIsFound(*words, reported.count)) AddName(NameIn(finding.found), reported.names);

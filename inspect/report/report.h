@@ -34,9 +34,20 @@ struct FileReport {
   std::vector<ReportedFinding> findings;  // the worst first, and else by their first places
 
   std::size_t Count(FindingSeverity severity) const;
+
+  // The same without the finding of `code`, which is told in another way.
+  FileReport Without(std::string_view code) const;
 };
 
-// What the findings of `checked` mean to `action`.
-FileReport ReportOn(const CheckedFile& checked, Action action);
+// What of the file the action asks for.
+struct ActionOptions {
+  bool rate = true;        // its frame rate
+  bool all_frames = true;  // all that are announced, whether they are there or not
+};
+
+// What the findings of `checked` mean to `action`. What is wrong with something that is not asked
+// for is a note.
+[[nodiscard]] FileReport ReportOn(const CheckedFile& checked, Action action,
+                                  const ActionOptions& options = {});
 
 }  // namespace orvane

@@ -36,9 +36,11 @@ constexpr FindingWords kWords[] = {
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
      InMarkers(kError, "The file is refused.")},
-    {"trc-rate-cut", "A rate has a fraction", "{count} rates have fractions", InMarkers(kWarning)},
+    {"trc-rate-cut", "A rate has a fraction", "{count} rates have fractions", InMarkers(kWarning),
+     Concern::kRate},
     {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
-     InMarkers(kWarning).But(Action::kConvert, kNote, "The converted file has it as it is.")},
+     InMarkers(kWarning).But(Action::kConvert, kNote, "The converted file has it as it is."),
+     Concern::kRate},
     {"trc-camera-rate", "The camera rate is odd", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kConvert, kNote, "The converted file tells it.")},
@@ -93,13 +95,14 @@ constexpr FindingWords kWords[] = {
          .But(Action::kConvert, kNote,
               "A BVK file has no frame numbers; frames follow each other as their lines do.")},
     {"trc-frame-count", "NumFrames announces {found} frames, and {expected} are there", nullptr,
-     InMarkers(kWarning)},
+     InMarkers(kWarning), Concern::kFrames},
     {"trc-frames-unannounced", "The header announces no frames", nullptr,
      InMarkers(kError, "The file is refused: its last frame would come before its first.")
          .But(Action::kConvert, kWarning, "The converted file has no frames.")},
     {"trc-frames-too-many", "NumFrames announces {found} frames, and {expected} are there", nullptr,
      InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
-         .But(Action::kConvert, kError, "It is refused.")},
+         .But(Action::kConvert, kError, "It is refused."),
+     Concern::kFrames},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
      InMarkers(kWarning, "In its gaps the marker goes to the origin.")
          .But(Action::kInspect, kNote, "In its gaps the marker goes to the origin.")

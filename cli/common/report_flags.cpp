@@ -1,0 +1,83 @@
+#include "cli/common/report_flags.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <sstream>
+
+#include "cli/common/choice.h"
+#include "cli/common/failure.h"
+#include "cli/common/messages.h"
+#include "cli/common/outputs.h"
+#include "cli/common/report.h"
+#include "inspect/report/finding_words.h"
+#include "platform/output_file.h"
+
+namespace cli {
+namespace {
+
+using orvane::FileReport;
+using orvane::FindingSeverity;
+using orvane::ReportedFinding;
+
+std::string WhyNoCode(const std::string& code) {
+  return orvane::FindWords(code) != nullptr ? "" : "no finding has the code " + code;
+}
+
+}  // namespace
+
+void AddReportFlags(CLI::App& verb, ReportManner& manner) {
+  CLI::Option* strict = verb.add_flag("--strict", manner.strict, "Take every warning as a refusal");
+  verb.add_option("--allow", manner.allowed, "Codes of findings that --strict lets pass")
+      ->delimiter(',')
+      ->expected(1)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+      ->check(WhyNoCode, "")
+      ->needs(strict)
+      ->type_name("CODE,...");
+  CLI::Option* report =
+      RequireName(verb.add_option("--report", manner.file,
+                                  "Write what is found in the files to this file, as JSON"))
+          ->type_name("FILE.json");
+  verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")
+      ->excludes(strict)
+      ->excludes(report);
+}
+
+void Tell(const FileReport& report, const ReportManner& manner) {
+  for (const ReportedFinding& finding : report.findings) {
+    if (manner.only_warnings && finding.severity == FindingSeverity::kNote) continue;
+    const Severity severity =
+        finding.severity == FindingSeverity::kError ? Severity::kError : Severity::kWarning;
+    Print(severity,
+          {report.file, std::string(SeverityName(finding.severity)) + ": " + LineOf(finding), ""});
+  }
+}
+
+bool Forbids(const ReportManner& manner, const FileReport& report) {
+  if (!manner.strict) return false;
+  return std::any_of(
+      report.findings.begin(), report.findings.end(), [&manner](const ReportedFinding& finding) {
+        const auto& allowed = manner.allowed;
+        return finding.severity != FindingSeverity::kNote &&
+               std::find(allowed.begin(), allowed.end(), finding.code) == allowed.end();
+      });
+}
+
+Failure ForbiddenByStrict() {
+  return {ExitStatus::kRefused, {{"--strict", "nothing was written because of this", ""}}};
+}
+
+void WriteReportFile(const std::vector<FileReport>& reports, const ReportManner& manner) {
+  if (manner.file.empty()) return;
+  std::ostringstream text;
+  PrintReportsJson(reports, text);
+  platform::OutputFile file(manner.file, true);
+  std::string reason = file.WhyImpossible();
+  if (reason.empty()) reason = file.Write(text.str());
+  if (reason.empty()) reason = file.Deliver();
+  if (reason.empty()) return;
+  throw Failure{ExitStatus::kInputOutput, {ComplainAboutOutput(manner.file, file, reason)}};
+}
+
+}  // namespace cli

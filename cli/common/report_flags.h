@@ -1,0 +1,42 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "inspect/report/report.h"
+
+// What a verb does with the report on a file before it sets to work: it tells it, writes it to a
+// file, and lets a warning be a refusal.
+
+namespace CLI {
+class App;
+}  // namespace CLI
+
+namespace cli {
+
+struct ReportManner {
+  bool omitted = false;              // nothing is looked for in the file
+  bool strict = false;               // a warning is a refusal
+  std::vector<std::string> allowed;  // codes that are none even then
+  std::string file;                  // to write the report to; empty for none
+  bool only_warnings = false;        // and errors are told, no notes
+};
+
+// Adds the flags to `verb`, which writes something, that set `manner`; it must outlive the parsing.
+void AddReportFlags(CLI::App& verb, ReportManner& manner);
+
+// Tells of `report` on standard error, a line a code.
+void Tell(const orvane::FileReport& report, const ReportManner& manner);
+
+// Whether something in `report` keeps a strict user's file from being worked on.
+[[nodiscard]] bool Forbids(const ReportManner& manner, const orvane::FileReport& report);
+
+// That nothing comes of the work because of that.
+[[nodiscard]] Failure ForbiddenByStrict();
+
+// Writes `reports` to the file that `manner` names, if it names one. Throws a Failure when that
+// cannot be written; one that is there is replaced.
+void WriteReportFile(const std::vector<orvane::FileReport>& reports, const ReportManner& manner);
+
+}  // namespace cli
