@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
 #include "plugin/exchange/host_session.h"
@@ -61,8 +63,12 @@ class FileClass : public Role {
   }
 
   // Of the run that is at work.
+  // REQUIRES: there is one.
   const char* FileName() const { return file_name_.data(); }
-  Interface& Host() const { return *interface_; }
+  Interface& Host() const {
+    assert(interface_ != nullptr);
+    return *interface_;
+  }
 
   MessageSink& Messages() const { return messages_; }
 
@@ -82,11 +88,11 @@ class FileClass : public Role {
 
  private:
   // All there is to do. Has told the user why it has failed.
-  virtual Outcome Work() = 0;
+  [[nodiscard]] virtual Outcome Work() = 0;
 
   virtual void ForgetDocument() = 0;
 
-  Outcome WorkInHost() {
+  [[nodiscard]] Outcome WorkInHost() {
     SuspendHostModes(*interface_);
     Outcome outcome = Outcome::kFailed;
     {

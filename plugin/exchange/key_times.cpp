@@ -1,6 +1,7 @@
 #include "plugin/exchange/key_times.h"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 
 namespace orvane {
@@ -17,6 +18,7 @@ TimeValue NearestTick(std::int64_t tick) {
 
 KeyTimes::KeyTimes(int ticks_per_frame, std::int64_t first_frame, std::int64_t frame_count)
     : ticks_per_frame_(ticks_per_frame), first_frame_(first_frame) {
+  assert(ticks_per_frame >= 1 && frame_count >= 0);
   // Division truncates towards zero, so these are the outermost scene frames that fit.
   const std::int64_t first_that_fits = kFirstTick / ticks_per_frame_;
   const std::int64_t last_that_fits = kLastTick / ticks_per_frame_;

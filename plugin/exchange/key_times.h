@@ -12,13 +12,13 @@ namespace orvane {
 
 class KeyTimes {
  public:
-  // `frame_count` frames, the first of them at scene frame `first_frame`. Requires a
-  // `ticks_per_frame` of 1 or more and a `frame_count` of 0 or more.
+  // `frame_count` frames, the first of them at scene frame `first_frame`.
+  // REQUIRES: `ticks_per_frame` is 1 or more, `frame_count` is 0 or more.
   KeyTimes(int ticks_per_frame, std::int64_t first_frame, std::int64_t frame_count);
 
   // The tick of imported frame `frame`, counted from 0; -1 is the one before the motion. Nothing
   // when it does not fit.
-  std::optional<TimeValue> Tick(std::int64_t frame) const;
+  [[nodiscard]] std::optional<TimeValue> Tick(std::int64_t frame) const;
 
   // The imported frames whose ticks fit: from `BeginFrame` up to and without `EndFrame`.
   std::int64_t BeginFrame() const { return begin_frame_; }

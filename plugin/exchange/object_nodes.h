@@ -32,11 +32,11 @@ template <typename Instance>
 // Creates a node under the scene root for `object`. Returns null when the host cannot; `object` is
 // deleted then.
 // REQUIRES: `object` is not null.
-INode* CreateNodeFor(Interface& interface, OwnedInstance<Object> object);
+[[nodiscard]] INode* CreateNodeFor(Interface& interface, OwnedInstance<Object> object);
 
 // Creates a grouping helper under the scene root, a box from -half_extent to half_extent (system
 // units) on every axis. Returns null when the host cannot create it.
-INode* CreateDummyNode(Interface& interface, float half_extent);
+[[nodiscard]] INode* CreateDummyNode(Interface& interface, float half_extent);
 
 // The color that a node of these parts is drawn in, of each of which the lowest 8 bits count:
 // red | green << 8 | blue << 16.

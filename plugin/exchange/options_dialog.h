@@ -74,16 +74,16 @@ class OptionsDialog : public platform::DialogHandler {
 
   // Whether the options, each of which is sound, go together. Returns what to tell the user when
   // they do not, an empty text otherwise.
-  virtual std::string CheckCombination() const { return {}; }
+  [[nodiscard]] virtual std::string CheckCombination() const { return {}; }
 
   void Fill(platform::Dialog& dialog);
   void FillNumbers(platform::Dialog& dialog) const;
   void Answer(platform::Dialog& dialog, int control);
   void Confirm(platform::Dialog& dialog);
   void ReadSwitches(platform::Dialog& dialog);
-  std::string ReadFrameRange(platform::Dialog& dialog);
-  std::string ReadScales(platform::Dialog& dialog);
-  std::string CheckFrameOrder() const;
+  [[nodiscard]] std::string ReadFrameRange(platform::Dialog& dialog);
+  [[nodiscard]] std::string ReadScales(platform::Dialog& dialog);
+  [[nodiscard]] std::string CheckFrameOrder() const;
   void Fail(platform::Dialog& dialog) noexcept;
 
   OptionsDialogTable table_;

@@ -28,9 +28,9 @@ class ExportHTR final : public FileClass<SceneExport> {
   Outcome Work() override;
   void ForgetDocument() override;
   void SetFrameBounds();
-  bool BuildDocument();
+  [[nodiscard]] bool BuildDocument();
   std::uint32_t FrameCount() const;
-  bool WriteFile();
+  [[nodiscard]] bool WriteFile();
 
   ExportHTROptions& options_;
   HtrDocument document_;

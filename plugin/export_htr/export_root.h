@@ -14,6 +14,6 @@ struct ExportRoot {
 
 // The first selected node decides: a bone is the root itself; for any other node it is the first
 // bone among its children. With a `refusal` there is no node.
-ExportRoot FindExportRoot(Interface& interface);
+[[nodiscard]] ExportRoot FindExportRoot(Interface& interface);
 
 }  // namespace orvane

@@ -23,7 +23,7 @@ class SegmentSampler {
   HtrSegment Sample();
 
  private:
-  bool ReadSavedBase(HtrSegment& segment);
+  [[nodiscard]] bool ReadSavedBase(HtrSegment& segment);
   void ReadCurrentBase(HtrSegment& segment);
   void SampleFrames(HtrSegment& segment);
   void AddFrame(HtrSegment& segment, const RotationMatrix3& base_inverse, std::int64_t frame);

@@ -21,7 +21,7 @@ class SkeletonSampler {
   // the document refuses, which is reported. Where a bone has no bone for a parent, the walk has
   // ended above it.
   // Returns false when the root itself is refused.
-  bool Sample(INode& root);
+  [[nodiscard]] bool Sample(INode& root);
 
  private:
   // What became of one bone.

@@ -19,6 +19,6 @@ struct ApplyTarget {
 // branch. For any other node the target is its first child that is a bone, or itself when it has
 // none, and the branch is the root of `document`.
 // With a `refusal` the other fields mean nothing.
-ApplyTarget FindApplyTarget(Interface& interface, HtrDocument& document);
+[[nodiscard]] ApplyTarget FindApplyTarget(Interface& interface, HtrDocument& document);
 
 }  // namespace orvane

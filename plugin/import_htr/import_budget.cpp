@@ -1,6 +1,7 @@
 #include "plugin/import_htr/import_budget.h"
 
 #include <algorithm>
+#include <cassert>
 #include <vector>
 
 namespace orvane {
@@ -12,6 +13,7 @@ constexpr std::int64_t kAlwaysAllowed = 2'000'000;
 }  // namespace
 
 std::int64_t SegmentBudget(const HtrDocument& document, std::int64_t frame_count) {
+  assert(frame_count >= 0);
   std::int64_t held = 0;
   for (const HtrSegment& segment : document.segments()) {
     held += 1 + static_cast<std::int64_t>(segment.GetNumFrames());

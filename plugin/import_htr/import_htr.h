@@ -29,15 +29,15 @@ class ImportHTR final : public FileClass<SceneImport> {
  private:
   Outcome Work() override;
   void ForgetDocument() override;
-  bool ReadFile();
+  [[nodiscard]] bool ReadFile();
   void ConvertUnits();
   void SetFrameBounds();
   std::int64_t FrameCount() const;
-  bool ImportMotion();
-  bool ImportMotionOf(HtrSegment* branch, INode& node);
-  bool ApplyToSelection();
-  bool CreateSkeleton();
-  INode* CreateGroupedSkeleton(const HtrSegment& root);
+  [[nodiscard]] bool ImportMotion();
+  [[nodiscard]] bool ImportMotionOf(HtrSegment* branch, INode& node);
+  [[nodiscard]] bool ApplyToSelection();
+  [[nodiscard]] bool CreateSkeleton();
+  [[nodiscard]] INode* CreateGroupedSkeleton(const HtrSegment& root);
   void SetAnimationRange();
 
   ImportHTROptions& options_;

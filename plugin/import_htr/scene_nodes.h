@@ -15,11 +15,13 @@ struct BoneDimensions {
 
 // Creates a bone of `size` under the scene root, named `name`, in the host's colour for new
 // objects. Returns null when the host cannot create it.
-INode* CreateBoneNode(Interface& interface, const std::string& name, const BoneDimensions& size);
+[[nodiscard]] INode* CreateBoneNode(Interface& interface, const std::string& name,
+                                    const BoneDimensions& size);
 
 // Creates a grouping helper under the scene root, a box from -half_extent to half_extent (system
 // units) on every axis, in the host's colour for new objects. Returns null when the host cannot
 // create it.
-INode* CreateGroupNode(Interface& interface, const std::string& name, float half_extent);
+[[nodiscard]] INode* CreateGroupNode(Interface& interface, const std::string& name,
+                                     float half_extent);
 
 }  // namespace orvane

@@ -19,14 +19,14 @@ class SegmentKeyer {
 
   // Does all of it. Returns false when a controller does not accept a value: the rest is not done,
   // and animation stays suspended.
-  bool Run();
+  [[nodiscard]] bool Run();
 
  private:
   void InstallTcbController();
-  bool KeyBasePosition();
-  bool KeyFrames();
-  bool KeyTranslation(TimeValue time, const Vector3& translation);
-  bool KeyRotation(TimeValue time, const RotationMatrix3& rotation);
+  [[nodiscard]] bool KeyBasePosition();
+  [[nodiscard]] bool KeyFrames();
+  [[nodiscard]] bool KeyTranslation(TimeValue time, const Vector3& translation);
+  [[nodiscard]] bool KeyRotation(TimeValue time, const RotationMatrix3& rotation);
 
   Interface& interface_;
   const ImportHTROptions& options_;

@@ -22,15 +22,15 @@ class SkeletonCreator {
   // Returns null when a bone could not be created or refused its base position: that bone stays in
   // the scene, its ancestors are deleted, and what would follow is not created. The same when the
   // host throws, which is passed on.
-  INode* Create(const HtrSegment& root);
+  [[nodiscard]] INode* Create(const HtrSegment& root);
 
  private:
   struct OpenBone;
 
-  bool CreateBonesBelow(std::vector<OpenBone>& open);
+  [[nodiscard]] bool CreateBonesBelow(std::vector<OpenBone>& open);
   void DeleteAncestors(std::vector<OpenBone>& open);
-  INode* CreateSegmentNode(const HtrSegment& segment, INode* parent);
-  bool CreateEndEffector(const HtrSegment& segment, INode& node);
+  [[nodiscard]] INode* CreateSegmentNode(const HtrSegment& segment, INode* parent);
+  [[nodiscard]] bool CreateEndEffector(const HtrSegment& segment, INode& node);
   double Thickness(const HtrSegment& segment) const;
 
   Interface& interface_;

@@ -27,7 +27,7 @@ class ImportTRC final : public FileClass<SceneImport> {
  private:
   Outcome Work() override;
   void ForgetDocument() override;
-  bool ReadFile();
+  [[nodiscard]] bool ReadFile();
   void ConvertUnits();
   void SetFrameBounds();
 

@@ -23,14 +23,14 @@ class MarkerCloud {
   // Does all of it and shows its progress, from 10 to 100 per cent. Returns false when the user
   // cancelled or a marker could not be keyed: what is done stays in the scene.
   // When a position controller accepts no more values, animation stays suspended.
-  bool Build();
+  [[nodiscard]] bool Build();
 
  private:
-  bool ImportMarker(const TRCMarker& marker);
+  [[nodiscard]] bool ImportMarker(const TRCMarker& marker);
   bool IsWithoutTarget() const;
-  INode* NodeFor(const TRCMarker& marker);
-  bool KeyMarker(const TRCMarker& marker, Control* position);
-  bool KeyFrames(const TRCMarker& marker, Control* position);
+  [[nodiscard]] INode* NodeFor(const TRCMarker& marker);
+  [[nodiscard]] bool KeyMarker(const TRCMarker& marker, Control* position);
+  [[nodiscard]] bool KeyFrames(const TRCMarker& marker, Control* position);
   void ShowProgress(unsigned markers_done);
   void SetAnimationRange();
 

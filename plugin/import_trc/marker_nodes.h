@@ -10,11 +10,11 @@ namespace orvane {
 
 // Creates a node under the scene root for the marker `name`: a sphere or a point helper, of the
 // size that `options` say. Returns null when the host cannot create it.
-INode* CreateMarkerNode(Interface& interface, const ImportTRCOptions& options,
-                        const std::string& name);
+[[nodiscard]] INode* CreateMarkerNode(Interface& interface, const ImportTRCOptions& options,
+                                      const std::string& name);
 
 // Creates the node that groups the markers: a dummy under the scene root named "TRCCloud", with a
 // number behind that when the name is taken. Returns null when the host cannot create it.
-INode* CreateCloudRoot(Interface& interface, const ImportTRCOptions& options);
+[[nodiscard]] INode* CreateCloudRoot(Interface& interface, const ImportTRCOptions& options);
 
 }  // namespace orvane

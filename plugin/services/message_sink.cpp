@@ -1,5 +1,6 @@
 #include "plugin/services/message_sink.h"
 
+#include <cassert>
 #include <string>
 
 #include "sdk/core/cstr.h"
@@ -7,6 +8,7 @@
 namespace orvane {
 
 void MessageSink::Report(const char* message, const char* title) noexcept {
+  assert(message != nullptr && title != nullptr);
   try {
     if (log_mode_) {
       Log(message, title);
@@ -19,6 +21,7 @@ void MessageSink::Report(const char* message, const char* title) noexcept {
 }
 
 bool MessageSink::Ask(const char* message, const char* title) noexcept {
+  assert(message != nullptr && title != nullptr);
   try {
     if (!log_mode_) {
       return Show(message, title, platform::MessageBoxStyle::kYesNo) == platform::kMessageBoxYes;

@@ -23,11 +23,13 @@ class MessageSink {
 
   // Shows `message` under `title` with an OK button and waits until it is closed; in log mode
   // appends one line, `title`, a tab and `message`. A log that cannot be opened loses the message.
+  // REQUIRES: neither text is null.
   void Report(const char* message, const char* title) noexcept;
 
   // Asks the question `message` under `title`. Returns whether the answer was Yes; in log mode
   // appends the line and returns true.
-  bool Ask(const char* message, const char* title) noexcept;
+  // REQUIRES: neither text is null.
+  [[nodiscard]] bool Ask(const char* message, const char* title) noexcept;
 
  private:
   static int Show(const char* message, const char* title, platform::MessageBoxStyle style);

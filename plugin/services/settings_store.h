@@ -46,7 +46,7 @@ class SettingsStore {
   bool WriteString(const char* name, const std::string& value);
 
  private:
-  bool Descend(const std::string& path);
+  [[nodiscard]] bool Descend(const std::string& path);
   bool Read(const char* name, void* data, std::size_t size) const;
   bool Write(const char* name, platform::RegistryType type, const void* data, std::size_t size);
 

@@ -11,7 +11,7 @@ namespace orvane {
 class BatchLog {
  public:
   // Makes the file `path`, or empties the one that is there. Returns false when that fails.
-  bool Open(const std::string& path);
+  [[nodiscard]] bool Open(const std::string& path);
 
   // Each writes its lines and hands them to the system at once. Failures are silent.
 

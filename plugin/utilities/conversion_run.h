@@ -45,21 +45,21 @@ class ConversionRun {
   // Of one file. After a refusal no other file follows, but the run is not abandoned.
   enum class Outcome { kDone, kRefused, kAbandoned };
 
-  bool Work();
-  bool ChooseSources();
-  bool OpenLog();
-  bool OpenBar();
-  bool ConvertFiles();
-  bool UserGoesOn();
-  Outcome ConvertFile(const std::string& source);
-  bool ReadSource(const std::string& source);
+  [[nodiscard]] bool Work();
+  [[nodiscard]] bool ChooseSources();
+  [[nodiscard]] bool OpenLog();
+  [[nodiscard]] bool OpenBar();
+  [[nodiscard]] bool ConvertFiles();
+  [[nodiscard]] bool UserGoesOn();
+  [[nodiscard]] Outcome ConvertFile(const std::string& source);
+  [[nodiscard]] bool ReadSource(const std::string& source);
   void ApplyMapping();
-  std::optional<std::string> OutputFor(const std::string& source);
-  std::optional<std::string> ChooseOutput();
+  [[nodiscard]] std::optional<std::string> OutputFor(const std::string& source);
+  [[nodiscard]] std::optional<std::string> ChooseOutput();
   std::string InOutputFolder(const std::string& name) const;
-  bool ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name, std::string& buffer,
-                      std::size_t& name_offset);
-  bool ShowPercent(int percent);
+  [[nodiscard]] bool ShowFileDialog(platform::FileDialog& dialog, unsigned filter_name,
+                                    std::string& buffer, std::size_t& name_offset);
+  [[nodiscard]] bool ShowPercent(int percent);
   void EndProgress();
 
   ConversionParts parts_;

@@ -19,6 +19,6 @@ namespace orvane {
 // Flags, width and precision of the first two lines are honoured, a "*" among them counting as 0;
 // the result of one conversion takes no more than 256 characters. Length modifiers (hh, h, l, ll,
 // j, z, t, L) change nothing.
-std::string FormatWithoutArguments(std::string_view format);
+[[nodiscard]] std::string FormatWithoutArguments(std::string_view format);
 
 }  // namespace orvane

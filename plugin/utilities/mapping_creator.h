@@ -43,7 +43,7 @@ class MappingCreator final : public PanelCommand {
   // too when the dialog cannot be created, the user chooses no file or it cannot be written; the
   // mapping and the colours then stay as they are. Running out of memory is told, and undoes all as
   // aborting does. `interface` may be null: then nothing is done.
-  bool CreateMNM(Interface* interface);
+  [[nodiscard]] bool CreateMNM(Interface* interface);
 
   // Leaves the pick mode, restores the colours, empties the mapping and closes the dialog.
   void End() noexcept override;
@@ -55,17 +55,17 @@ class MappingCreator final : public PanelCommand {
     bool again = false;     // whether he wants to be asked again
   };
 
-  bool Create();
+  [[nodiscard]] bool Create();
   WristSticks AskForSticks();
-  bool OpenDialog();
-  bool PickMarkers(const WristSticks& sticks);
-  std::optional<StepAnswer> PickStep(const MarkerStep& step, bool may_go_back);
-  bool PickMarker(const StandardMarker& marker);
-  bool WaitForPick();
+  [[nodiscard]] bool OpenDialog();
+  [[nodiscard]] bool PickMarkers(const WristSticks& sticks);
+  [[nodiscard]] std::optional<StepAnswer> PickStep(const MarkerStep& step, bool may_go_back);
+  [[nodiscard]] bool PickMarker(const StandardMarker& marker);
+  [[nodiscard]] bool WaitForPick();
   void AddPicked(const StandardMarker& marker, INode& node);
   void GoBack();
-  bool Save();
-  std::optional<std::string> ChooseFile();
+  [[nodiscard]] bool Save();
+  [[nodiscard]] std::optional<std::string> ChooseFile();
   void RestoreLast();
   void RestoreAll() noexcept;
   void Redraw();

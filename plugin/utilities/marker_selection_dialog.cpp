@@ -1,5 +1,7 @@
 #include "plugin/utilities/marker_selection_dialog.h"
 
+#include <cassert>
+
 #include "plugin/resources/resource.h"
 
 namespace orvane {
@@ -12,6 +14,7 @@ bool MarkerSelectionDialog::Open(HINSTANCE module, HWND parent) {
 }
 
 void MarkerSelectionDialog::Ask(const char* description, bool may_go_back, bool may_skip) {
+  assert(dialog_ != nullptr);
   pressed_ = Button::kNone;
   dialog_->SetText(IDC_MARKER_DESCRIPTION, description);
   dialog_->SetEnabled(IDC_BACK, may_go_back);

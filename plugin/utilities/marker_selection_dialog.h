@@ -16,12 +16,12 @@ class MarkerSelectionDialog final : private platform::DialogHandler {
 
   // Opens it, from the resources of `module`, over `parent`. Returns false when it cannot be
   // created.
-  bool Open(HINSTANCE module, HWND parent);
+  [[nodiscard]] bool Open(HINSTANCE module, HWND parent);
 
   void Close() { dialog_.reset(); }
 
-  // Asks for the marker of that description, and forgets the button that was pressed. The dialog is
-  // open.
+  // Asks for the marker of that description, and forgets the button that was pressed.
+  // REQUIRES: the dialog is open.
   void Ask(const char* description, bool may_go_back, bool may_skip);
 
   // The button that was pressed since Ask. The first one counts, but Abort counts more.

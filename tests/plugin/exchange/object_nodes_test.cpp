@@ -38,7 +38,7 @@ TEST(ObjectNodesTest, ARefusedObjectOrNodeLeavesNothingBehind) {
 TEST(ObjectNodesTest, AnObjectThatThrowsIsDeleted) {
   host::Application application;
   test::ThrowingInstances throwing(application.plugin_interface());
-  EXPECT_THROW(CreateDummyNode(throwing, 1.0F), std::bad_alloc);
+  EXPECT_THROW((void)CreateDummyNode(throwing, 1.0F), std::bad_alloc);
   EXPECT_EQ(throwing.object.deletions, 1);
 }
 
@@ -48,7 +48,7 @@ TEST(ObjectNodesTest, AnObjectThatGetsNoNodeBecauseTheHostThrowsIsDeleted) {
   host.before = [](const std::string& operation) {
     if (operation == "CreateObjectNode") throw 1;
   };
-  EXPECT_THROW(CreateDummyNode(host, 1.0F), int);
+  EXPECT_THROW((void)CreateDummyNode(host, 1.0F), int);
   EXPECT_EQ(application.scene().LooseInstances(), 0u);
 }
 

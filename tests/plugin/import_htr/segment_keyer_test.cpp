@@ -295,7 +295,7 @@ TEST_F(SegmentKeyerTest, ATcbControllerThatThrowsIsDeleted) {
   test::ThrowingInstances throwing(interface());
   HtrSegment& segment = AddMoving("Bone");
   SegmentKeyer keyer(throwing, options_, times_, bone_, segment);
-  EXPECT_THROW(keyer.Run(), std::bad_alloc);
+  EXPECT_THROW((void)keyer.Run(), std::bad_alloc);
   EXPECT_EQ(throwing.control.deletions, 1);
 }
 

@@ -69,7 +69,7 @@ TEST_F(ThrowingHostTest, WithoutANameOrAnInterfaceNothingIsDone) {
 
 TEST_F(ThrowingHostTest, ASphereThatThrowsIsDeleted) {
   test::ThrowingInstances throwing(application_.plugin_interface());
-  EXPECT_THROW(CreateMarkerNode(throwing, options_, "LFHD"), std::bad_alloc);
+  EXPECT_THROW((void)CreateMarkerNode(throwing, options_, "LFHD"), std::bad_alloc);
   EXPECT_EQ(throwing.object.deletions, 1);
 }
 
