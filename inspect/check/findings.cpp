@@ -1,6 +1,7 @@
 #include "inspect/check/findings.h"
 
 #include <algorithm>
+#include <cassert>
 #include <tuple>
 #include <utility>
 
@@ -17,6 +18,15 @@ bool StandsBefore(const Finding& left, const Finding& right) {
   return std::tie(left.line, left.column) < std::tie(right.line, right.column);
 }
 
+Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
+  return {rule,
+          place.line,
+          place.column,
+          std::move(words.found),
+          std::move(words.expected),
+          std::move(words.effect)};
+}
+
 }  // namespace
 
 std::string_view SeverityName(FindingSeverity severity) {
@@ -24,21 +34,25 @@ std::string_view SeverityName(FindingSeverity severity) {
   return kNames[static_cast<std::size_t>(severity)];
 }
 
-Finding* FindingList::Add(const FindingRule& rule, std::size_t line, std::size_t column) {
+bool FindingList::CountAndAskForMore(const FindingRule& rule) {
   Total& total = totals_.try_emplace(rule.code, Total{rule.severity}).first->second;
-  if (++total.count > kMostKeptOfARule) return nullptr;
-  kept_.push_back({rule, line, column, {}, {}, {}});
-  return &kept_.back();
+  return ++total.count <= kMostKeptOfARule;
 }
 
-void FindingList::ExplainErrors(Finding cause) {
+void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
+  assert(place.line >= 1 && place.column >= 1);
+  kept_.push_back(NewFinding(rule, place, std::move(words)));
+}
+
+void FindingList::ExplainErrors(const FindingRule& cause, const FindingPlace& place,
+                                FindingWords words) {
   std::erase_if(kept_, [](const Finding& finding) {
     return finding.rule.severity != FindingSeverity::kError;
   });
   std::erase_if(totals_,
                 [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
-  ++totals_.try_emplace(cause.rule.code, Total{cause.rule.severity}).first->second.count;
-  kept_.insert(kept_.begin(), std::move(cause));
+  CountAndAskForMore(cause);
+  kept_.insert(kept_.begin(), NewFinding(cause, place, std::move(words)));
 }
 
 std::vector<Finding> FindingList::Sorted() const {

@@ -1,10 +1,12 @@
 #pragma once
 
 #include <array>
+#include <concepts>
 #include <cstddef>
 #include <map>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 // What `orvane check` finds in a file, whatever its kind. The checker of a format has a table of
@@ -37,13 +39,24 @@ consteval const FindingRule& FindRule(const std::array<FindingRule, kSize>& rule
   return rules[index];
 }
 
-struct Finding {
-  FindingRule rule;
-  std::size_t line = 0;    // counted from 1
-  std::size_t column = 0;  // in bytes, counted from 1
+struct FindingPlace {
+  std::size_t line = 1;    // counted from 1
+  std::size_t column = 1;  // in bytes, counted from 1
+};
+
+struct FindingWords {
   std::string found;
   std::string expected;
   std::string effect;  // what the import makes of it
+};
+
+struct Finding {
+  FindingRule rule;
+  std::size_t line = 0;  // as in FindingPlace
+  std::size_t column = 0;
+  std::string found;  // as in FindingWords
+  std::string expected;
+  std::string effect;
 };
 
 // Counts all findings and keeps the first ones of every rule, so that a file with an oddity in
@@ -52,12 +65,22 @@ class FindingList {
  public:
   static constexpr std::size_t kMostKeptOfARule = 20;
 
-  // Counts a finding. Returns the one to fill in, which lives until the next call, or null when
-  // enough of that rule are kept.
-  Finding* Add(const FindingRule& rule, std::size_t line, std::size_t column);
+  // Adds what `rule` says of `place`, which is anything with a line and a column as FindingPlace
+  // has them. `make_words` is called only when the finding is kept: a file may have one in every
+  // cell, and most of them are only counted.
+  template <typename Place, std::invocable MakeWords>
+  void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
+    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_words());
+  }
 
-  // Puts `cause` before the errors that follow from it, and drops all that is none.
-  void ExplainErrors(Finding cause);
+  // The same where the words are at hand, or made but a few times in a file.
+  template <typename Place>
+  void Add(const FindingRule& rule, const Place& place, FindingWords words) {
+    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(words));
+  }
+
+  // Puts an error before those that follow from it, and drops all that is none.
+  void ExplainErrors(const FindingRule& cause, const FindingPlace& place, FindingWords words);
 
   // Those that are kept, by line and column.
   std::vector<Finding> Sorted() const;
@@ -74,6 +97,10 @@ class FindingList {
   bool IsEmpty() const { return totals_.empty(); }
 
  private:
+  // Counts a finding. Returns whether it is to be kept.
+  bool CountAndAskForMore(const FindingRule& rule);
+  void Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words);
+
   std::vector<Finding> kept_;
   std::map<std::string_view, Total> totals_;
 };

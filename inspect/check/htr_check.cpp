@@ -6,9 +6,9 @@
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
 #include "inspect/check/check_failure.h"
+#include "inspect/check/htr_findings_observer.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/htr_structure.h"
-#include "inspect/check/htr_watcher.h"
 #include "inspect/check/text_flaw.h"
 
 namespace orvane {
@@ -26,7 +26,7 @@ constexpr std::array<FindingRule, 4> kFlawRules = {
     htr::Rule("htr-empty"), htr::Rule("htr-encoding"), htr::Rule("htr-line-ends"),
     htr::Rule("htr-first-section-lost")};
 
-// A mark that keeps nothing from being read is no more than what the watcher has told.
+// A mark that keeps nothing from being read is no more than what the observer has told.
 void NameFlaw(std::string_view bytes, FindingList& findings) {
   const auto flaw = FindHtrTextFlaw(bytes);
   if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
@@ -50,13 +50,13 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocumen
   CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
   parts.end = EndOf(bytes);
-  htr::HtrWatcher watcher(parts, checked.findings);
-  const std::string message = ReadHtrBytes(document, bytes, true, &watcher);
-  watcher.LeaveSection();
-  checked.is_refused = watcher.HasRefused();
+  htr::HtrFindingsObserver observer(parts, checked.findings);
+  const std::string message = ReadHtrBytes(document, bytes, true, &observer);
+  observer.LeaveSection();
+  checked.is_refused = observer.HasRefused();
   if (!checked.is_refused) RequireRead(message);
   RequireSound(FindFault(document));
-  if (!watcher.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
+  if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   NameFlaw(bytes, checked.findings);
   checked.contents = Contents(document);
   return checked;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -8,12 +9,42 @@
 #include <vector>
 
 #include "formats/htr/read_observer.h"
-#include "inspect/check/htr_keywords.h"
 
-// Where the parts of an HTR file stand, as far as it was read. The texts lie in the bytes of the
-// file.
+// What the header of an HTR file may say, and where the parts of a file stand, as far as it was
+// read. Lines and columns count from 1, and texts lie in the bytes of the file, which must outlive
+// them; nothing fails but for want of memory.
 
 namespace orvane::htr {
+
+// What a line of the header may say.
+struct Keyword {
+  std::string_view name;
+  std::string_view values;   // that are understood, in words
+  std::string_view without;  // what is taken when the keyword is missing
+  bool matters = false;      // whether the import may go wrong without it
+};
+
+inline constexpr std::array<Keyword, 12> kKeywords = {{
+    {"FileType", "HTR, Htr or htr", "It is not needed.", false},
+    {"DataType", "HTRS, Htrs or htrs", "It is not needed.", false},
+    {"FileVersion", "1", "It is not needed.", false},
+    {"NumSegments", "a whole number", "0 is taken, and lines in [BasePosition] are refused.", true},
+    {"NumFrames", "a whole number", "0 is taken.", true},
+    {"DataFrameRate", "a whole number", "60 is taken.", true},
+    {"EulerRotationOrder", "ZYX", "ZYX is taken.", false},
+    {"CalibrationUnits", "mm, cm, m, in, ft or yd", "Millimetres are taken.", true},
+    {"RotationUnits", "Degrees or Radians", "Degrees are taken.", true},
+    {"GlobalAxisofGravity", "Y or Z", "Y is taken.", false},
+    {"BoneLengthAxis", "Y", "Y is taken.", false},
+    {"ScaleFactor", "1", "1 is taken.", false},
+}};
+
+// The index in kKeywords; its size for any other word.
+[[nodiscard]] constexpr std::size_t KeywordIndex(std::string_view name) {
+  std::size_t index = 0;
+  while (index < kKeywords.size() && kKeywords[index].name != name) ++index;
+  return index;
+}
 
 struct SegmentLines {
   HtrCell name;
@@ -41,14 +72,21 @@ struct HtrParts {
 
   HtrCell end;  // behind the last byte; empty
 
-  // Null when there is no such segment.
-  SegmentLines* Find(std::string_view name) {
+  // Null when there is no such segment. It stays where it is until the next one is added.
+  [[nodiscard]] SegmentLines* Find(std::string_view name) {
+    const auto found = segment_by_name.find(name);
+    return found == segment_by_name.end() ? nullptr : &segments[found->second];
+  }
+  [[nodiscard]] const SegmentLines* Find(std::string_view name) const {
     const auto found = segment_by_name.find(name);
     return found == segment_by_name.end() ? nullptr : &segments[found->second];
   }
 
-  const std::optional<HtrCell>& Value(std::string_view keyword) const {
-    return values[KeywordIndex(keyword)];
+  // The last value of a keyword. REQUIRES: `keyword` is one of kKeywords.
+  [[nodiscard]] const std::optional<HtrCell>& Value(std::string_view keyword) const {
+    const std::size_t index = KeywordIndex(keyword);
+    assert(index < kKeywords.size());
+    return values[index];
   }
 };
 

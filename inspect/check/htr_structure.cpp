@@ -31,15 +31,6 @@ class Structure {
   }
 
  private:
-  void Add(const FindingRule& rule, const HtrCell& cell, const std::string& found,
-           const std::string& expected, const std::string& effect) {
-    Finding* finding = findings_.Add(rule, cell.line, cell.column);
-    if (finding == nullptr) return;
-    finding->found = found;
-    finding->expected = expected;
-    finding->effect = effect;
-  }
-
   void CheckHeader();
   void CheckScaleFactor();
   void CheckEnd();
@@ -61,50 +52,56 @@ class Structure {
 
 void Structure::CheckHeader() {
   if (!parts_.header) {
-    return Add(
-        Rule("htr-header-missing"), {{}, 1, 1}, "no [Header]", "[Header] first",
-        "Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60.");
+    return findings_.Add(
+        Rule("htr-header-missing"), FindingPlace{1, 1},
+        {"no [Header]", "[Header] first",
+         "Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60."});
   }
   for (std::size_t index = 0; index < kKeywords.size(); ++index) {
     if (parts_.values[index]) continue;
     const Keyword& keyword = kKeywords[index];
-    Add(keyword.matters ? Rule("htr-keyword-missing") : Rule("htr-keyword-left-out"),
-        *parts_.header, "no " + std::string(keyword.name),
-        std::string(keyword.name) + " with " + std::string(keyword.values),
-        std::string(keyword.without));
+    findings_.Add(keyword.matters ? Rule("htr-keyword-missing") : Rule("htr-keyword-left-out"),
+                  *parts_.header,
+                  {"no " + std::string(keyword.name),
+                   std::string(keyword.name) + " with " + std::string(keyword.values),
+                   std::string(keyword.without)});
   }
 }
 
 void Structure::CheckScaleFactor() {
   const auto& value = parts_.Value("ScaleFactor");
   if (!value || document_.GetScaleFactor() == 1.0) return;
-  Add(Rule("htr-scale-factor"), *value, Quote(value->text), "1",
-      "Nothing is multiplied by it; the import warns of it. --scale multiplies.");
+  findings_.Add(Rule("htr-scale-factor"), *value,
+                {Quote(value->text), "1",
+                 "Nothing is multiplied by it; the import warns of it. --scale multiplies."});
 }
 
 void Structure::CheckEnd() {
   if (parts_.has_end) return;
-  Add(Rule("htr-end-missing"), parts_.end, "the end of the file", "[EndOfFile]",
-      "Nothing is lost, unless the file was cut short.");
+  findings_.Add(
+      Rule("htr-end-missing"), parts_.end,
+      {"the end of the file", "[EndOfFile]", "Nothing is lost, unless the file was cut short."});
 }
 
 void Structure::AddSegmentsMissing() {
-  Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.end), "no segments",
-      "their lines in [SegmentNames&Hierarchy]", "There is nothing to import. Is it an HTR file?");
+  findings_.Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.end),
+                {"no segments", "their lines in [SegmentNames&Hierarchy]",
+                 "There is nothing to import. Is it an HTR file?"});
 }
 
 void Structure::CheckBasePosition() {
   if (!parts_.base_position) {
-    return Add(Rule("htr-base-missing"), parts_.motion.value_or(parts_.end),
-               "no [BasePosition] before this",
-               "[BasePosition] between the hierarchy and the motion",
-               "No segment has a parent, none is a root, and angles are not converted: there is "
-               "nothing to import.");
+    return findings_.Add(
+        Rule("htr-base-missing"), parts_.motion.value_or(parts_.end),
+        {"no [BasePosition] before this", "[BasePosition] between the hierarchy and the motion",
+         "No segment has a parent, none is a root, and angles are not converted: there is "
+         "nothing to import."});
   }
   if (parts_.motion && parts_.motion->line < parts_.base_position->line) {
-    Add(Rule("htr-base-late"), *parts_.base_position, "[BasePosition] behind motion",
-        "[BasePosition] between the hierarchy and the motion",
-        "Angles that stand before it are taken as they are, as radians.");
+    findings_.Add(
+        Rule("htr-base-late"), *parts_.base_position,
+        {"[BasePosition] behind motion", "[BasePosition] between the hierarchy and the motion",
+         "Angles that stand before it are taken as they are, as radians."});
   }
   CheckBaseLines();
 }
@@ -112,18 +109,19 @@ void Structure::CheckBasePosition() {
 void Structure::CheckBaseLines() {
   for (const SegmentLines& segment : parts_.segments) {
     if (segment.base_section != 0) continue;
-    Add(Rule("htr-base-line-missing"), segment.name,
-        "no line of " + Quote(segment.name.text) + " in [BasePosition]", "one for every segment",
-        "It stands at its parent's origin, unturned, and has no length.");
+    findings_.Add(
+        Rule("htr-base-line-missing"), segment.name,
+        {"no line of " + Quote(segment.name.text) + " in [BasePosition]", "one for every segment",
+         "It stands at its parent's origin, unturned, and has no length."});
   }
 }
 
 void Structure::CheckMotion() {
   if (const auto frames = CountFrames(document_); IsOutOfProportion(frames.announced, frames)) {
-    Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.end),
-        FormatInt(frames.announced),
-        "about " + FormatInt(frames.most_held) + ", as many as there are",
-        "The import is refused, unless --range FROM:TO takes a part of them.");
+    findings_.Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.end),
+                  {FormatInt(frames.announced),
+                   "about " + FormatInt(frames.most_held) + ", as many as there are",
+                   "The import is refused, unless --range FROM:TO takes a part of them."});
   }
   if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
   for (const SegmentLines& segment : parts_.segments) CheckFrames(segment);
@@ -131,33 +129,36 @@ void Structure::CheckMotion() {
 
 void Structure::AddFramesUnannounced() {
   const auto& value = parts_.Value("NumFrames");
-  Add(Rule("htr-frames-unannounced"), value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
-      value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
-      "The import refuses the file: its last frame would come before its first.");
+  findings_.Add(
+      Rule("htr-frames-unannounced"), value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
+      {value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
+       "The import refuses the file: its last frame would come before its first."});
 }
 
 void Structure::CheckFrames(const SegmentLines& segment) {
   if (!segment.motion) {
-    return Add(Rule("htr-motion-missing"), segment.name,
-               "no motion section of " + Quote(segment.name.text), "one for every segment",
-               "In every frame the segment goes to its parent's origin, unturned.");
+    return findings_.Add(
+        Rule("htr-motion-missing"), segment.name,
+        {"no motion section of " + Quote(segment.name.text), "one for every segment",
+         "In every frame the segment goes to its parent's origin, unturned."});
   }
   const std::size_t announced = document_.GetNumFrames();
   if (segment.frames == announced) return;
   const std::string number = FormatInt(static_cast<std::int64_t>(announced));
-  Add(Rule("htr-frame-count"), *segment.motion, CountOf(segment.frames, "frame"),
-      number + ", as NumFrames says",
-      segment.frames < announced
-          ? "In the missing frames the segment goes to its parent's origin, unturned."
-          : "Only " + number + " are imported.");
+  findings_.Add(Rule("htr-frame-count"), *segment.motion,
+                {CountOf(segment.frames, "frame"), number + ", as NumFrames says",
+                 segment.frames < announced
+                     ? "In the missing frames the segment goes to its parent's origin, unturned."
+                     : "Only " + number + " are imported."});
 }
 
 void Structure::CheckLinks() {
   for (std::size_t index = parts_.linked_segments; index < parts_.segments.size(); ++index) {
     const HtrCell& name = parts_.segments[index].name;
-    Add(Rule("htr-segment-unlinked"), name, Quote(name.text) + " behind [BasePosition]",
-        "the hierarchy before [BasePosition]",
-        "The segment has no parent: a new skeleton goes without it and its children.");
+    findings_.Add(
+        Rule("htr-segment-unlinked"), name,
+        {Quote(name.text) + " behind [BasePosition]", "the hierarchy before [BasePosition]",
+         "The segment has no parent: a new skeleton goes without it and its children."});
   }
 }
 
@@ -170,13 +171,16 @@ void Structure::CheckRoots() {
       first = &segment.name;
       continue;
     }
-    Add(Rule("htr-root-second"), segment.name, "a second root, " + Quote(segment.name.text),
-        "one root; line " + FormatInt(static_cast<std::int64_t>(first->line)) + " has it",
-        "A new skeleton goes without it and its children.");
+    findings_.Add(
+        Rule("htr-root-second"), segment.name,
+        {"a second root, " + Quote(segment.name.text),
+         "one root; line " + FormatInt(static_cast<std::int64_t>(first->line)) + " has it",
+         "A new skeleton goes without it and its children."});
   }
   if (first != nullptr) return;
-  Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.end), "no root",
-      "a segment with the parent GLOBAL", "There is nothing that a new skeleton could start from.");
+  findings_.Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.end),
+                {"no root", "a segment with the parent GLOBAL",
+                 "There is nothing that a new skeleton could start from."});
 }
 
 // Follows every segment to its root, each only as far as no walk before it has come.
@@ -206,10 +210,10 @@ void Structure::AddCircle(std::size_t first, const std::vector<std::size_t>& par
     ++length;
   }
   const SegmentLines& segment = parts_.segments[lowest];
-  Add(Rule("htr-parent-circle"), segment.parent,
-      Quote(segment.name.text) + " in a circle of " + CountOf(length, "segment"),
-      "parents that lead to a root",
-      "A new skeleton goes without its segments and what hangs from them.");
+  findings_.Add(Rule("htr-parent-circle"), segment.parent,
+                {Quote(segment.name.text) + " in a circle of " + CountOf(length, "segment"),
+                 "parents that lead to a root",
+                 "A new skeleton goes without its segments and what hangs from them."});
 }
 
 }  // namespace

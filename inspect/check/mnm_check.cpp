@@ -57,27 +57,29 @@ class MappingComparison {
   bool IsMapped(const TrcMarkerName& marker) const { return entries_.Find(marker.name) != nullptr; }
 
   void AddUnused(const MappingEntry& entry, FindingList& findings) const {
-    Finding* finding = findings.Add(mnm::Rule("mnm-entry-unused"), entry.line, entry.column);
-    if (finding == nullptr) return;
-    const auto meant =
-        std::find_if(markers_.begin(), markers_.end(), [this, &entry](const TrcMarkerName& marker) {
-          return !IsMapped(marker) && LooksLike(entry.trc_name, marker.name);
-        });
-    finding->found = Quote(entry.trc_name);
-    finding->expected = meant == markers_.end() ? "a marker of the capture" : Quote(meant->name);
-    finding->effect = "The capture has no such marker: the line changes nothing.";
+    findings.Add(mnm::Rule("mnm-entry-unused"), entry, [&] {
+      return FindingWords{Quote(entry.trc_name), ExpectedFor(entry),
+                          "The capture has no such marker: the line changes nothing."};
+    });
   }
 
   void AddUnmapped(const TrcMarkerName& marker, FindingList& findings) const {
     const bool cannot = CannotBeMapped(marker.name);
-    Finding* finding =
-        findings.Add(cannot ? mnm::Rule("mnm-marker-unmappable") : mnm::Rule("mnm-marker-unmapped"),
-                     marker.place.line, marker.place.column);
-    if (finding == nullptr) return;
-    finding->found = Quote(marker.name);
-    finding->expected =
-        cannot ? "a name of one word, which a mapping can name" : ExpectedFor(marker);
-    finding->effect = "The marker is dropped.";
+    findings.Add(cannot ? mnm::Rule("mnm-marker-unmappable") : mnm::Rule("mnm-marker-unmapped"),
+                 marker.place, [&] {
+                   return FindingWords{Quote(marker.name),
+                                       cannot ? "a name of one word, which a mapping can name"
+                                              : ExpectedFor(marker),
+                                       "The marker is dropped."};
+                 });
+  }
+
+  std::string ExpectedFor(const MappingEntry& entry) const {
+    const auto meant =
+        std::find_if(markers_.begin(), markers_.end(), [this, &entry](const TrcMarkerName& marker) {
+          return !IsMapped(marker) && LooksLike(entry.trc_name, marker.name);
+        });
+    return meant == markers_.end() ? "a marker of the capture" : Quote(meant->name);
   }
 
   std::string ExpectedFor(const TrcMarkerName& marker) const {

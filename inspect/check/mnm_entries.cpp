@@ -15,13 +15,6 @@ std::string LineNumber(std::size_t line) {
   return "line " + FormatInt(static_cast<std::int64_t>(line));
 }
 
-void Fill(Finding* finding, std::string found, std::string expected, std::string effect) {
-  if (finding == nullptr) return;
-  finding->found = std::move(found);
-  finding->expected = std::move(expected);
-  finding->effect = std::move(effect);
-}
-
 // The standard marker that `name` looks like; empty when there is none.
 std::string_view StandardMarkerMeant(std::string_view name) {
   for (const bool sticks : {false, true}) {
@@ -45,7 +38,7 @@ std::string ExpectedStandardName(const MappingLine& line) {
 }  // namespace
 
 MappingEntries::MappingEntries(std::string_view bytes, FindingList& findings)
-    : findings_(findings), watched_(bytes) {
+    : findings_(findings), line_(bytes) {
   MappingLineReader reader(bytes);
   MappingLine line;
   while (reader.Next(line)) ReadLine(line);
@@ -59,7 +52,7 @@ const MappingEntry* MappingEntries::Find(std::string_view trc_name) const {
 
 void MappingEntries::ReadLine(const MappingLine& line) {
   ++lines_;
-  watched_.Set(line.line);
+  line_.Set(line.line);
   CheckBytes();
   if (line.given_standard_name.empty()) return AddBlank(line);
   CheckStandardName(line);
@@ -68,62 +61,72 @@ void MappingEntries::ReadLine(const MappingLine& line) {
 }
 
 void MappingEntries::CheckBytes() {
-  const std::string_view text = watched_.Text();
-  if (const std::string_view mark = watched_.ByteOrderMark(); !mark.empty()) {
-    Fill(Add(Rule("mnm-byte-order-mark"), mark), "a byte-order mark",
-         "text without one, in ASCII or UTF-8",
-         "It belongs to the first name, which is then not what it looks like.");
+  const std::string_view text = line_.Text();
+  if (const std::string_view mark = line_.ByteOrderMark(); !mark.empty()) {
+    findings_.Add(Rule("mnm-byte-order-mark"), PlaceOf(mark), [] {
+      return FindingWords{"a byte-order mark", "text without one, in ASCII or UTF-8",
+                          "It belongs to the first name, which is then not what it looks like."};
+    });
   }
-  if (watched_.Continues()) {
-    Fill(Add(Rule("mnm-line-cut"), text), "a line of more than 1022 bytes", "shorter lines",
-         "It is read as several lines, of which one starts here.");
+  if (line_.Continues()) {
+    findings_.Add(Rule("mnm-line-cut"), PlaceOf(text), [] {
+      return FindingWords{"a line of more than 1022 bytes", "shorter lines",
+                          "It is read as several lines, of which one starts here."};
+    });
   }
-  if (watched_.IsCutByNul()) {
-    Fill(Add(Rule("mnm-nul"), text.substr(text.size())), "a NUL byte", "text",
-         "The rest of its line is not read.");
+  if (line_.IsCutByNul()) {
+    findings_.Add(Rule("mnm-nul"), PlaceOf(text.substr(text.size())), [] {
+      return FindingWords{"a NUL byte", "text", "The rest of its line is not read."};
+    });
   }
 }
 
 void MappingEntries::AddBlank(const MappingLine& line) {
-  Fill(Add(Rule("mnm-line-blank"), line.line.text), "a blank line", "an entry",
-       lines_ == 1 ? "It maps a marker without a name to nothing."
-                   : "It repeats the entry before it, which changes nothing.");
+  findings_.Add(Rule("mnm-line-blank"), PlaceOf(line.line.text), [this] {
+    return FindingWords{"a blank line", "an entry",
+                        lines_ == 1 ? "It maps a marker without a name to nothing."
+                                    : "It repeats the entry before it, which changes nothing."};
+  });
 }
 
-void MappingEntries::AddNameMissing(const MappingLine& line, std::string_view paired) {
-  const std::string effect = paired.empty()
-                                 ? "It maps a marker without a name."
-                                 : "The marker of the line before is taken, " + Quote(paired) +
-                                       ", which has its entry already: the line changes nothing.";
-  Fill(Add(Rule("mnm-name-missing"), line.given_standard_name),
-       "the one word " + Quote(line.given_standard_name),
-       "a standard marker and the capture's name for it", effect);
+void MappingEntries::AddNameMissing(const MappingLine& line) {
+  findings_.Add(Rule("mnm-name-missing"), PlaceOf(line.given_standard_name), [this, &line] {
+    return FindingWords{"the one word " + Quote(line.given_standard_name),
+                        "a standard marker and the capture's name for it",
+                        last_trc_name_.empty()
+                            ? "It maps a marker without a name."
+                            : "The marker of the line before is taken, " + Quote(last_trc_name_) +
+                                  ", which has its entry already: the line changes nothing."};
+  });
 }
 
 void MappingEntries::AddRestIgnored(const MappingLine& line) {
-  Fill(Add(Rule("mnm-rest-ignored"), line.rest), Quote(line.rest), "the end of the line",
-       "It is ignored: names end at the first blank, so that one with blanks cannot be mapped.");
+  findings_.Add(Rule("mnm-rest-ignored"), PlaceOf(line.rest), [&line] {
+    return FindingWords{
+        Quote(line.rest), "the end of the line",
+        "It is ignored: names end at the first blank, so that one with blanks cannot be mapped."};
+  });
 }
 
 void MappingEntries::CheckStandardName(const MappingLine& line) {
   if (IsStandardMarker(line.given_standard_name)) return;
-  if (Finding* finding = Add(Rule("mnm-standard-unknown"), line.given_standard_name)) {
-    Fill(finding, Quote(line.given_standard_name), ExpectedStandardName(line),
-         "The converted file has a marker of this name all the same.");
-  }
+  findings_.Add(Rule("mnm-standard-unknown"), PlaceOf(line.given_standard_name), [&line] {
+    return FindingWords{Quote(line.given_standard_name), ExpectedStandardName(line),
+                        "The converted file has a marker of this name all the same."};
+  });
 }
 
 void MappingEntries::AddEntry(const MappingLine& line) {
   const bool is_whole = !line.given_trc_name.empty();
-  if (!is_whole) AddNameMissing(line, last_trc_name_);
+  if (!is_whole) AddNameMissing(line);
   if (is_whole) last_trc_name_ = line.given_trc_name;
 
   const std::string_view named = is_whole ? line.given_trc_name : line.given_standard_name;
-  const MappingEntry entry{line.given_standard_name, last_trc_name_, watched_.Number(),
-                           watched_.ColumnOf(named)};
+  const MappingEntry entry{line.given_standard_name, last_trc_name_, line_.Number(),
+                           line_.ColumnOf(named)};
   const auto [first, is_new] = by_trc_name_.try_emplace(entry.trc_name, in_force_.size());
   if (is_new) {
-    CheckStandardTaken(entry, watched_.ColumnOf(line.given_standard_name));
+    CheckStandardTaken(entry, line_.ColumnOf(line.given_standard_name));
     by_standard_name_.try_emplace(entry.standard_name, in_force_.size());
     in_force_.push_back(entry);
   } else if (is_whole) {
@@ -135,29 +138,30 @@ void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t c
   const auto taken = by_standard_name_.find(entry.standard_name);
   if (taken == by_standard_name_.end()) return;
   const MappingEntry& first = in_force_[taken->second];
-  if (Finding* finding = findings_.Add(Rule("mnm-standard-twice"), entry.line, column)) {
-    Fill(finding, Quote(entry.standard_name) + " again",
-         "it once; " + LineNumber(first.line) + " has it",
-         "A capture with " + Quote(first.trc_name) + " and " + Quote(entry.trc_name) +
-             " becomes a file with two markers of this name.");
-  }
+  findings_.Add(Rule("mnm-standard-twice"), FindingPlace{entry.line, column}, [&] {
+    return FindingWords{
+        Quote(entry.standard_name) + " again", "it once; " + LineNumber(first.line) + " has it",
+        "A capture with " + Quote(first.trc_name) + " and " + Quote(entry.trc_name) +
+            " becomes a file with two markers of this name."};
+  });
 }
 
 void MappingEntries::AddSuperfluous(const MappingEntry& entry, const MappingEntry& first) {
   const bool is_same = entry.standard_name == first.standard_name;
-  Finding* finding = findings_.Add(is_same ? Rule("mnm-entry-doubled") : Rule("mnm-entry-shadowed"),
-                                   entry.line, entry.column);
-  if (finding == nullptr) return;
-  Fill(finding, Quote(entry.trc_name) + " again", "it once; " + LineNumber(first.line) + " has it",
-       is_same ? "The line changes nothing."
-               : "The line is ignored: the marker is " + Quote(first.standard_name) +
-                     ", as the earlier one says.");
+  findings_.Add(is_same ? Rule("mnm-entry-doubled") : Rule("mnm-entry-shadowed"), entry, [&] {
+    return FindingWords{Quote(entry.trc_name) + " again",
+                        "it once; " + LineNumber(first.line) + " has it",
+                        is_same ? "The line changes nothing."
+                                : "The line is ignored: the marker is " +
+                                      Quote(first.standard_name) + ", as the earlier one says."};
+  });
 }
 
 void MappingEntries::CheckCount() {
   if (lines_ > 0) return;
-  Fill(findings_.Add(Rule("mnm-entries-missing"), 1, 1), "an empty file",
-       "an entry for every marker to keep", "Every marker of a capture is dropped.");
+  findings_.Add(Rule("mnm-entries-missing"), FindingPlace{1, 1},
+                {"an empty file", "an entry for every marker to keep",
+                 "Every marker of a capture is dropped."});
 }
 
 }  // namespace orvane::mnm

@@ -9,7 +9,8 @@
 #include "formats/text/watched_line.h"
 #include "inspect/check/findings.h"
 
-// The entries of a mapping file that count, and what is odd about its lines.
+// The entries of a mapping file that count, and what is odd about its lines. Lines and columns, in
+// bytes, count from 1; nothing fails but for want of memory.
 
 namespace orvane::mnm {
 
@@ -20,22 +21,23 @@ struct MappingEntry {
   std::size_t column = 0;  // of the marker's name, or of the standard name where there is no other
 };
 
-// Reads the lines of a file and adds to a list of findings. What it holds are views into the bytes.
+// Reads the lines of a file and adds to a list of findings. What it hands out are views into the
+// bytes, and lives no longer than the object itself.
 class MappingEntries {
  public:
   // Both must outlive this object.
   MappingEntries(std::string_view bytes, FindingList& findings);
 
   // The first entry of every marker, which is the one that counts, in the file's order.
-  const std::vector<MappingEntry>& InForce() const { return in_force_; }
+  [[nodiscard]] const std::vector<MappingEntry>& InForce() const { return in_force_; }
   // The one that counts for the marker `trc_name`; null when there is none.
-  const MappingEntry* Find(std::string_view trc_name) const;
+  [[nodiscard]] const MappingEntry* Find(std::string_view trc_name) const;
 
  private:
   void ReadLine(const MappingLine& line);
   void CheckBytes();
   void AddBlank(const MappingLine& line);
-  void AddNameMissing(const MappingLine& line, std::string_view paired);
+  void AddNameMissing(const MappingLine& line);
   void AddRestIgnored(const MappingLine& line);
   void CheckStandardName(const MappingLine& line);
   void AddEntry(const MappingLine& line);
@@ -43,12 +45,13 @@ class MappingEntries {
   void AddSuperfluous(const MappingEntry& entry, const MappingEntry& first);
   void CheckCount();
 
-  Finding* Add(const FindingRule& rule, std::string_view text) {
-    return findings_.Add(rule, watched_.Number(), watched_.ColumnOf(text));
+  // Of a part of the line.
+  [[nodiscard]] FindingPlace PlaceOf(std::string_view text) const {
+    return {line_.Number(), line_.ColumnOf(text)};
   }
 
   FindingList& findings_;
-  WatchedLine watched_;
+  WatchedLine line_;
   std::string_view last_trc_name_;
   std::size_t lines_ = 0;
   std::vector<MappingEntry> in_force_;

@@ -8,8 +8,10 @@ bool IsRate(std::int32_t frames_per_second) {
   return frames_per_second >= kLowestRate && frames_per_second <= kHighestRate;
 }
 
-std::string ExpectedRate() {
-  return FormatInt(kLowestRate) + " to " + FormatInt(kHighestRate) + " frames per second";
+FindingWords WordsOfRateOutOfRange(std::string_view cell) {
+  return {Quote(cell),
+          FormatInt(kLowestRate) + " to " + FormatInt(kHighestRate) + " frames per second",
+          "The nearest rate that there is is set, unless --frame-rate keep is given."};
 }
 
 std::string EffectOfCutRate(std::string_view cell) {

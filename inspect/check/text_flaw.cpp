@@ -99,7 +99,8 @@ const TextFlawWords& WordsFor(TextFlaw flaw) { return kWords[static_cast<std::si
 
 void NameFlawFirst(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
                    FindingList& findings) {
-  findings.ExplainErrors({rule, 1, 1, WordsFor(flaw).found, WordsFor(flaw).expected, effect});
+  const TextFlawWords& words = WordsFor(flaw);
+  findings.ExplainErrors(rule, {1, 1}, {words.found, words.expected, effect});
 }
 
 }  // namespace orvane

@@ -7,9 +7,9 @@
 #include "formats/trc/document_checker.h"
 #include "inspect/check/check_failure.h"
 #include "inspect/check/text_flaw.h"
+#include "inspect/check/trc_findings_observer.h"
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_rules.h"
-#include "inspect/check/trc_watcher.h"
 #include "inspect/counts/frame_counts.h"
 
 namespace orvane {
@@ -37,18 +37,10 @@ class WholeFile {
   }
 
  private:
-  void Add(const FindingRule& rule, TRCPlace place, std::string found, std::string expected,
-           std::string effect) {
-    Finding* const finding = findings_.Add(rule, place.line, place.column);
-    if (finding == nullptr) return;
-    finding->found = std::move(found);
-    finding->expected = std::move(expected);
-    finding->effect = std::move(effect);
-  }
-
   void AddMarkersMissing() {
-    Add(trc::Rule("trc-markers-missing"), parts_.end, "no marker",
-        "names in the fourth line, a tab behind each", "The import makes nothing of the file.");
+    findings_.Add(trc::Rule("trc-markers-missing"), parts_.end,
+                  {"no marker", "names in the fourth line, a tab behind each",
+                   "The import makes nothing of the file."});
   }
 
   void CheckFrameCount() {
@@ -58,19 +50,22 @@ class WholeFile {
     if (announced <= 0) return AddFramesUnannounced(place);
     if (held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
-      return Add(trc::Rule("trc-frames-too-many"), place, FormatInt(announced),
-                 "about " + FormatInt(held) + ", as many as there are",
-                 "The import is refused, unless --range FROM:TO takes a part of them.");
+      return findings_.Add(
+          trc::Rule("trc-frames-too-many"), place,
+          {FormatInt(announced), "about " + FormatInt(held) + ", as many as there are",
+           "The import is refused, unless --range FROM:TO takes a part of them."});
     }
-    Add(trc::Rule("trc-frame-count"), place, FormatInt(announced) + ", as NumFrames says",
-        FormatInt(held) + ", as many as there are", EffectOfCount(announced, held));
+    findings_.Add(trc::Rule("trc-frame-count"), place,
+                  {FormatInt(announced) + ", as NumFrames says",
+                   FormatInt(held) + ", as many as there are", EffectOfCount(announced, held)});
   }
 
   void AddFramesUnannounced(TRCPlace place) {
-    Add(trc::Rule("trc-frames-unannounced"), place,
-        FormatInt(document_.NumFrames()) + ", as NumFrames says", "a whole number of 1 or more",
-        "The import refuses the file: its last frame would come before its first. A converted file "
-        "has no frames.");
+    findings_.Add(
+        trc::Rule("trc-frames-unannounced"), place,
+        {FormatInt(document_.NumFrames()) + ", as NumFrames says", "a whole number of 1 or more",
+         "The import refuses the file: its last frame would come before its first. A converted "
+         "file has no frames."});
   }
 
   static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
@@ -85,16 +80,17 @@ class WholeFile {
     const auto gaps = marker.Gaps();
     if (gaps.empty()) return;
     if (marker.Positions().empty()) {
-      return Add(trc::Rule("trc-marker-never-seen"), name, "no position of " + Quote(marker.Name()),
-                 "one in every frame", "The import makes an object that stays at the origin.");
+      return findings_.Add(trc::Rule("trc-marker-never-seen"), name,
+                           {"no position of " + Quote(marker.Name()), "one in every frame",
+                            "The import makes an object that stays at the origin."});
     }
     const auto longest =
         std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
           return left.end - left.begin < right.end - right.begin;
         });
-    Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(longest->begin),
-        DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
-        "The import sets those frames to the origin; a converted file has dropouts.");
+    findings_.Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(longest->begin),
+                  {DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
+                   "The import sets those frames to the origin; a converted file has dropouts."});
   }
 
   static std::string DescribeGaps(const TRCMarker& marker, std::size_t longest) {
@@ -137,12 +133,12 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
   parts.end = EndOf(bytes);
-  trc::TrcWatcher watcher(document, parts, checked.findings);
-  const std::string message = document.ReadBytes(bytes, false, &watcher);
-  checked.is_refused = watcher.HasRefused();
+  trc::TrcFindingsObserver observer(document, parts, checked.findings);
+  const std::string message = document.ReadBytes(bytes, false, &observer);
+  checked.is_refused = observer.HasRefused();
   if (!checked.is_refused) RequireRead(message);
   RequireSound(FindFault(document));
-  if (!watcher.HasRefused()) WholeFile(document, parts, checked.findings).Check();
+  if (!checked.is_refused) WholeFile(document, parts, checked.findings).Check();
   NameFlaw(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");

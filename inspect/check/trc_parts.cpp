@@ -1,6 +1,7 @@
 #include "inspect/check/trc_parts.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace orvane::trc {
 
@@ -12,6 +13,7 @@ void TrcParts::AddFrame(TRCPlace place) {
 }
 
 TRCPlace TrcParts::PlaceOfFrame(std::size_t index) const {
+  assert(index < frames_);
   const auto behind =
       std::upper_bound(runs_.begin(), runs_.end(), index,
                        [](std::size_t frame, const Run& run) { return frame < run.frame; });

@@ -7,7 +7,8 @@
 
 #include "formats/trc/read_observer.h"
 
-// Where the parts of a TRC file stand, as far as it was read.
+// Where the parts of a TRC file stand, as far as it was read. Lines, columns and fields count from
+// 1, frames from 0; nothing fails but for want of memory.
 
 namespace orvane::trc {
 
@@ -19,15 +20,16 @@ struct TrcParts {
   std::vector<TRCPlace> markers;  // their names, in the document's order
   TRCPlace end;                   // behind the last byte
 
-  const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {
+  // The last place of a value; nothing when it was not there.
+  [[nodiscard]] const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {
     return values[static_cast<std::size_t>(value)];
   }
 
   // Keeps where the next frame starts.
   void AddFrame(TRCPlace place);
 
-  // Where frame `index`, counted from 0, starts; it was added.
-  TRCPlace PlaceOfFrame(std::size_t index) const;
+  // Where frame `index` starts. REQUIRES: it was added.
+  [[nodiscard]] TRCPlace PlaceOfFrame(std::size_t index) const;
 
  private:
   // Frames that start on lines which follow each other, in the same column: the first of them.
@@ -36,7 +38,7 @@ struct TrcParts {
     std::size_t line;
     std::size_t column;
   };
-  static TRCPlace PlaceIn(const Run& run, std::size_t index) {
+  [[nodiscard]] static TRCPlace PlaceIn(const Run& run, std::size_t index) {
     return {run.line + (index - run.frame), run.column, 0};
   }
 

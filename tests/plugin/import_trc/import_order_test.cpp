@@ -193,7 +193,7 @@ TEST_F(ImportTRCTest, TheDialogStartsWithTheFramesOfTheFile) {
       [this](host::ScriptedDialog& dialog) {
         EXPECT_EQ(dialog.Text(kFrom), "7");
         EXPECT_EQ(dialog.Text(kTo), "9");
-        EXPECT_EQ(dialog.CentredOver(), application_.main_window());
+        EXPECT_EQ(dialog.CenteredOver(), application_.main_window());
         EXPECT_EQ(application_.progress().Percent(), 10);
         dialog.Click(kOk);
       },

@@ -1,22 +1,26 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
+#include <string_view>
 
 #include "formats/htr/read_observer.h"
 #include "inspect/check/findings.h"
 #include "inspect/check/htr_parts.h"
 
-// Watches the reader of HTR files: turns its oddities into findings, and keeps where the parts of
-// the file stand.
+// Watches the reader of HTR files: turns what it meets into findings, and keeps where the parts of
+// the file stand. Every finding has the line and the column of the reader's cell, counted from 1.
+// Nothing fails but for want of memory.
 
 namespace orvane::htr {
 
-class HtrWatcher : public HtrReadObserver {
+class HtrFindingsObserver final : public HtrReadObserver {
  public:
-  // Both must outlive the watcher.
-  HtrWatcher(HtrParts& parts, FindingList& findings) : parts_(parts), findings_(findings) {}
+  // `parts`, which is empty, and `findings` must outlive the observer, and the bytes that are read
+  // both it and `parts`.
+  HtrFindingsObserver(HtrParts& parts, FindingList& findings)
+      : parts_(parts), findings_(findings) {}
 
   void OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) override;
   void OnSection(HtrSection section, const HtrCell& name) override;
@@ -29,31 +33,18 @@ class HtrWatcher : public HtrReadObserver {
   void LeaveSection();
 
   // Whether the reader has refused the file, and whether it did so before the end.
-  bool HasRefused() const { return has_refused_; }
-  bool WasStopped() const { return was_stopped_; }
+  [[nodiscard]] bool HasRefused() const { return has_refused_; }
+  [[nodiscard]] bool WasStopped() const { return was_stopped_; }
 
  private:
-  Finding* Add(const FindingRule& rule, const HtrCell& cell) {
-    return findings_.Add(rule, cell.line, cell.column);
-  }
-
-  bool AddPlain(HtrOddity oddity, const HtrCell& cell);
-  void AddNumber(HtrOddity oddity, const HtrCell& cell, std::string_view field);
   void AddKeyword(const HtrCell& keyword);
-  void AddParentUnknown(const HtrCell& parent);
-  void AddNameTaken(const HtrCell& name);
-  void AddRefusedValue(const HtrCell& value, std::string_view keyword);
-  void AddBaseNameUnknown(const HtrCell& name);
-  void AddHierarchyCount(const HtrCell& section);
-  void AddSegmentCount(const HtrCell& end);
+  void AddRateCut(const HtrCell& rate);
   void AddSkippedSection(const HtrCell& name);
-  std::string AnnouncedSegments() const;
   void CheckHeaderPlace(const HtrCell& name);
   void EnterMotion(const HtrCell& name);
   void CheckRate(const HtrCell& value);
   void CheckGravity(const HtrCell& value);
   void CheckName(const HtrCell& name);
-  std::string KnownSegments(std::string_view name) const;
 
   HtrParts& parts_;
   FindingList& findings_;

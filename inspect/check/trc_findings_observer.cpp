@@ -1,0 +1,119 @@
+#include "inspect/check/trc_findings_observer.h"
+
+#include <cstdint>
+#include <string>
+#include <utility>
+
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
+#include "inspect/check/rates.h"
+#include "inspect/check/trc_oddities.h"
+#include "inspect/check/trc_rules.h"
+
+namespace orvane::trc {
+namespace {
+
+std::string WhereFieldsBelong(std::string_view line) {
+  if (line.find(',') != std::string_view::npos) return "tabs between fields, not commas";
+  if (line.find(';') != std::string_view::npos) return "tabs between fields, not semicolons";
+  return "tabs between fields, not blanks";
+}
+
+}  // namespace
+
+void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) {
+  switch (oddity) {
+    case TRCOddity::kSpareCarriageReturns:
+      if (std::exchange(has_spare_returns_, true)) return;  // told once for all lines
+      break;
+    case TRCOddity::kMissingNumber:
+    case TRCOddity::kUnknownPathType:
+      if (LacksTabs(place)) return;  // from which it follows
+      break;
+    case TRCOddity::kUnknownFileType:
+      file_type_ = text;
+      return;
+    case TRCOddity::kCoordinatesRefused:
+      return AddRefusal(place, text);
+    case TRCOddity::kMarkerNameRepeated:
+      return AddRepeatedName(place, text);
+    default:
+      break;
+  }
+  AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, findings_);
+}
+
+bool TrcFindingsObserver::LacksTabs(TRCPlace place) const {
+  return place.line == 1 && !file_type_.empty() && place.column == 1 + file_type_.size();
+}
+
+void TrcFindingsObserver::AddRefusal(TRCPlace place, std::string_view coordinates) {
+  has_refused_ = true;
+  constexpr const char* kRefused = "The import refuses the file; the rest of it is not checked.";
+  if (LacksTabs(place)) {
+    return findings_.Add(Rule("trc-tabs-missing"), FindingPlace{place.line, 1},
+                         {Quote(file_type_), WhereFieldsBelong(file_type_), kRefused});
+  }
+  findings_.Add(Rule("trc-coordinates-refused"), place,
+                {Quote(coordinates), "(X/Y/Z) as the third field, and a tab behind it", kRefused});
+}
+
+void TrcFindingsObserver::AddRepeatedName(TRCPlace place, std::string_view name) {
+  findings_.Add(Rule("trc-column-repeated"), place, [&] {
+    const auto column = static_cast<std::int64_t>(columns_[name]);
+    return FindingWords{Quote(name) + " again",
+                        "a name of its own; column " + FormatInt(column) + " has it",
+                        kColumnsShift};
+  });
+}
+
+void TrcFindingsObserver::OnHeaderValue(TRCHeaderValue value, TRCPlace place,
+                                        std::string_view text) {
+  if (value == TRCHeaderValue::kPathType) CheckFileType(place);
+  parts_.values[static_cast<std::size_t>(value)] = place;
+  if (value == TRCHeaderValue::kDataRate) CheckRate(place, text);
+  if (value == TRCHeaderValue::kCameraRate) CheckCameraRate(place, text);
+}
+
+void TrcFindingsObserver::CheckFileType(TRCPlace path_type) {
+  const bool is_marked = file_type_.starts_with("\xEF\xBB\xBF");
+  if (file_type_.empty() || is_marked || LacksTabs(path_type)) return;
+  findings_.Add(Rule("trc-file-type-unknown"), FindingPlace{path_type.line, 1},
+                {Quote(file_type_), "PathFileType", "The word does not count."});
+}
+
+void TrcFindingsObserver::CheckRate(TRCPlace place, std::string_view rate) {
+  if (IsRate(ParseInt(rate))) return;
+  findings_.Add(Rule("trc-rate-out-of-range"), place, WordsOfRateOutOfRange(rate));
+}
+
+void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate) {
+  if (ParseInt(rate) > 0) return;
+  findings_.Add(Rule("trc-camera-rate"), place,
+                {Quote(rate), "the rate of the cameras",
+                 "Nothing depends on it; a converted file tells it."});
+}
+
+void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
+  columns_.emplace(name, place.column);
+  parts_.markers.push_back(place);
+}
+
+void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
+  parts_.AddFrame(place);
+  if (frames_++ == 0) CheckFirstFrame(place, number);
+}
+
+void TrcFindingsObserver::CheckFirstFrame(TRCPlace place, std::string_view number) {
+  const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
+  if (cell.empty() || ParseInt(cell) == document_.FirstFrame()) return;
+  const std::string taken = FormatInt(document_.FirstFrame());
+  const bool is_announced = parts_.Value(TRCHeaderValue::kFirstFrame).has_value();
+  findings_.Add(Rule("trc-first-frame"), place,
+                {Quote(number),
+                 taken + (is_announced ? ", as OrigDataStartFrame says"
+                                       : ", as the path type is neither 3 nor 4"),
+                 taken + " is taken for the number of the first frame."});
+}
+
+}  // namespace orvane::trc

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+#include <unordered_map>
+
+#include "formats/trc/document.h"
+#include "formats/trc/read_observer.h"
+#include "inspect/check/findings.h"
+#include "inspect/check/trc_parts.h"
+
+// Watches the reader of TRC files: turns what it meets into findings, and keeps where the parts of
+// the file stand. Every finding has the reader's line and column, counted from 1. Nothing fails but
+// for want of memory.
+
+namespace orvane::trc {
+
+class TrcFindingsObserver final : public TRCReadObserver {
+ public:
+  // `document` is what is read into, and `parts` is empty. All three must outlive the observer, and
+  // so must the bytes that are read.
+  TrcFindingsObserver(const TRCDocument& document, TrcParts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
+
+  void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
+  void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
+  void OnMarker(TRCPlace place, std::string_view name) override;
+  void OnFrame(TRCPlace place, std::string_view number) override;
+
+  // Whether the reader has refused the file.
+  [[nodiscard]] bool HasRefused() const { return has_refused_; }
+
+ private:
+  void AddRefusal(TRCPlace place, std::string_view coordinates);
+  void AddRepeatedName(TRCPlace place, std::string_view name);
+  void CheckFileType(TRCPlace path_type);
+  void CheckRate(TRCPlace place, std::string_view rate);
+  void CheckCameraRate(TRCPlace place, std::string_view rate);
+  void CheckFirstFrame(TRCPlace place, std::string_view number);
+
+  // Whether the first line has no tab, by the place of what is missing then.
+  [[nodiscard]] bool LacksTabs(TRCPlace place) const;
+
+  const TRCDocument& document_;
+  TrcParts& parts_;
+  FindingList& findings_;
+
+  bool has_refused_ = false;
+  bool has_spare_returns_ = false;
+  std::string_view file_type_;                                 // when it is not the usual one
+  std::unordered_map<std::string_view, std::size_t> columns_;  // of markers, by name
+  std::size_t frames_ = 0;
+};
+
+}  // namespace orvane::trc
