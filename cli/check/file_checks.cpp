@@ -9,7 +9,6 @@
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
 #include "host/base/letter_case.h"
-#include "inspect/check/check_failure.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
 #include "inspect/check/trc_check.h"

@@ -1,20 +1,45 @@
 #pragma once
 
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "inspect/check/findings.h"
 
-// What the check of one file has found.
+// What comes of the check of one file: all that was found in it, or why nothing can be said of it,
+// though its bytes are there. A CheckedFile holds copies of what it quotes, so that the bytes may
+// go.
 
 namespace orvane {
 
 struct CheckedFile {
-  std::string file;
-  std::string_view kind;  // "HTR"
+  std::string file;       // the name that it is known as
+  std::string_view kind;  // "HTR"; lives as long as the program
   std::string contents;   // in a few words, such as "21 segments, 120 frames"
   FindingList findings;
   bool is_refused = false;  // by the reader
 };
+
+// Thrown by the checks; the fault is not the file's. what() is a text about the file, such as
+// "was read wrongly: ...".
+class CheckFailure : public std::runtime_error {
+ public:
+  CheckFailure(const std::string& text, std::string advice)
+      : std::runtime_error(text), advice_(std::move(advice)) {}
+
+  // What can be done about it: one sentence.
+  [[nodiscard]] const std::string& Advice() const { return advice_; }
+
+ private:
+  std::string advice_;
+};
+
+// Throws a CheckFailure when `message`, of a reader that has refused nothing, is not empty.
+void RequireRead(const std::string& message);
+
+// Throws a CheckFailure when `fault` is not empty: what a document checker found in what was read.
+// It is a fault of this program, so that nothing it says of the file can be trusted.
+void RequireSound(const std::string& fault);
 
 }  // namespace orvane

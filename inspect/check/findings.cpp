@@ -29,6 +29,13 @@ Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWo
 
 }  // namespace
 
+FindingPlace EndOf(std::string_view bytes) {
+  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
+  const std::size_t last_break = bytes.rfind('\n');
+  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
+  return {breaks + 1, bytes.size() - last_line + 1};
+}
+
 std::string_view SeverityName(FindingSeverity severity) {
   constexpr std::array<std::string_view, kFindingSeverities> kNames = {"note", "warning", "error"};
   return kNames[static_cast<std::size_t>(severity)];
@@ -51,7 +58,7 @@ void FindingList::ExplainErrors(const FindingRule& cause, const FindingPlace& pl
   });
   std::erase_if(totals_,
                 [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
-  CountAndAskForMore(cause);
+  ++totals_.try_emplace(cause.code, Total{cause.severity}).first->second.count;
   kept_.insert(kept_.begin(), NewFinding(cause, place, std::move(words)));
 }
 

@@ -9,8 +9,10 @@
 #include <utility>
 #include <vector>
 
-// What `orvane check` finds in a file, whatever its kind. The checker of a format has a table of
-// rules and adds a finding for every place where a file goes against one.
+// What a check finds in a file, whatever its kind. The check of a format has a table of rules, and
+// adds a finding for every place where a file goes against one. Lines and columns count from 1,
+// columns in bytes. Rules live as long as the program; findings hold copies of what they quote, so
+// that the bytes of the file may go. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -22,7 +24,7 @@ enum class FindingSeverity {
 inline constexpr std::size_t kFindingSeverities = 3;
 
 // "note", "warning" or "error".
-std::string_view SeverityName(FindingSeverity severity);
+[[nodiscard]] std::string_view SeverityName(FindingSeverity severity);
 
 struct FindingRule {
   // The format and what is wrong, such as "htr-rate-cut". A code never changes its meaning.
@@ -32,8 +34,8 @@ struct FindingRule {
 
 // The rule of `code` in a table of them. One that is not there does not compile.
 template <std::size_t kSize>
-consteval const FindingRule& FindRule(const std::array<FindingRule, kSize>& rules,
-                                      std::string_view code) {
+[[nodiscard]] consteval const FindingRule& FindRule(const std::array<FindingRule, kSize>& rules,
+                                                    std::string_view code) {
   std::size_t index = 0;
   while (rules.at(index).code != code) ++index;
   return rules[index];
@@ -43,6 +45,9 @@ struct FindingPlace {
   std::size_t line = 1;    // counted from 1
   std::size_t column = 1;  // in bytes, counted from 1
 };
+
+// Behind the last of `bytes`, which are a whole file.
+[[nodiscard]] FindingPlace EndOf(std::string_view bytes);
 
 struct FindingWords {
   std::string found;
@@ -66,8 +71,8 @@ class FindingList {
   static constexpr std::size_t kMostKeptOfARule = 20;
 
   // Adds what `rule` says of `place`, which is anything with a line and a column as FindingPlace
-  // has them. `make_words` is called only when the finding is kept: a file may have one in every
-  // cell, and most of them are only counted.
+  // has them. REQUIRES: both are 1 or more. `make_words` is called only when the finding is kept: a
+  // file may have one in every cell, and most of them are only counted.
   template <typename Place, std::invocable MakeWords>
   void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
     if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_words());
@@ -83,22 +88,24 @@ class FindingList {
   void ExplainErrors(const FindingRule& cause, const FindingPlace& place, FindingWords words);
 
   // Those that are kept, by line and column.
-  std::vector<Finding> Sorted() const;
+  [[nodiscard]] std::vector<Finding> Sorted() const;
 
   struct Total {
     FindingSeverity severity;
     std::size_t count = 0;
-    std::size_t LeftOut() const { return count > kMostKeptOfARule ? count - kMostKeptOfARule : 0; }
+    [[nodiscard]] std::size_t LeftOut() const {
+      return count > kMostKeptOfARule ? count - kMostKeptOfARule : 0;
+    }
   };
   // By code.
-  const std::map<std::string_view, Total>& Totals() const { return totals_; }
+  [[nodiscard]] const std::map<std::string_view, Total>& Totals() const { return totals_; }
 
-  std::size_t Count(FindingSeverity severity) const;
-  bool IsEmpty() const { return totals_.empty(); }
+  [[nodiscard]] std::size_t Count(FindingSeverity severity) const;
+  [[nodiscard]] bool IsEmpty() const { return totals_.empty(); }
 
  private:
   // Counts a finding. Returns whether it is to be kept.
-  bool CountAndAskForMore(const FindingRule& rule);
+  [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule);
   void Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words);
 
   std::vector<Finding> kept_;
@@ -106,9 +113,9 @@ class FindingList {
 };
 
 // `text` between quotation marks, cut when it is long; "nothing" when it is empty.
-std::string Quote(std::string_view text);
+[[nodiscard]] std::string Quote(std::string_view text);
 
 // "1 frame", "2 frames".
-std::string CountOf(std::size_t count, std::string_view noun);
+[[nodiscard]] std::string CountOf(std::size_t count, std::string_view noun);
 
 }  // namespace orvane

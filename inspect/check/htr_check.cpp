@@ -1,11 +1,9 @@
 #include "inspect/check/htr_check.h"
 
-#include <algorithm>
 #include <array>
 
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
-#include "inspect/check/check_failure.h"
 #include "inspect/check/htr_findings_observer.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/htr_structure.h"
@@ -13,13 +11,6 @@
 
 namespace orvane {
 namespace {
-
-HtrCell EndOf(std::string_view bytes) {
-  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-  const std::size_t last_break = bytes.rfind('\n');
-  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
-  return {{}, breaks + 1, bytes.size() - last_line + 1};
-}
 
 // By TextFlaw.
 constexpr std::array<FindingRule, 4> kFlawRules = {
@@ -49,7 +40,8 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
-  parts.end = EndOf(bytes);
+  const FindingPlace end = EndOf(bytes);
+  parts.end = {{}, end.line, end.column};
   htr::HtrFindingsObserver observer(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &observer);
   observer.LeaveSection();

@@ -5,8 +5,8 @@
 
 #include "inspect/check/findings.h"
 
-// Everything that the check of HTR files can find. docs/formats/htr.md explains the codes; a
-// test compares the two.
+// Everything that the check of HTR files can find: a row for each rule, by its code. A test
+// compares them with docs/formats/htr.md, which explains the codes.
 
 namespace orvane::htr {
 
@@ -91,6 +91,8 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
 });
 
 // The one of `code`.
-consteval const FindingRule& Rule(std::string_view code) { return FindRule(kRules, code); }
+[[nodiscard]] consteval const FindingRule& Rule(std::string_view code) {
+  return FindRule(kRules, code);
+}
 
 }  // namespace orvane::htr

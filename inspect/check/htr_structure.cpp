@@ -1,5 +1,6 @@
 #include "inspect/check/htr_structure.h"
 
+#include <cassert>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -219,6 +220,7 @@ void Structure::AddCircle(std::size_t first, const std::vector<std::size_t>& par
 }  // namespace
 
 void CheckStructure(const HtrDocument& document, const HtrParts& parts, FindingList& findings) {
+  assert(parts.segments.size() == document.segments().size());
   Structure(document, parts, findings).Check();
 }
 

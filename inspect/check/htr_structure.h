@@ -5,11 +5,12 @@
 #include "inspect/check/htr_parts.h"
 
 // What can be said of an HTR file only when all of it has been read: parts that are missing, and
-// how the segments hang together.
+// how the segments hang together. Lines and columns are those of the reader's cells, counted from
+// 1. Nothing fails but for want of memory.
 
 namespace orvane::htr {
 
-// `parts` is where those of `document` stand.
+// Adds to `findings`. REQUIRES: `parts` is where those of `document` stand.
 void CheckStructure(const HtrDocument& document, const HtrParts& parts, FindingList& findings);
 
 }  // namespace orvane::htr

@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "formats/mnm/mapping_lines.h"
+#include "formats/trc/document.h"
 #include "inspect/check/mnm_entries.h"
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/similar_words.h"
@@ -18,6 +19,21 @@ using mnm::MappingEntry;
 CheckedFile NewReport(const std::string& file, const MappingEntries& entries) {
   return {file, "MNM", CountOf(entries.InForce().size(), "marker") + " mapped", {}};
 }
+
+class MarkerObserver final : public TRCReadObserver {
+ public:
+  // `markers` must outlive the observer.
+  explicit MarkerObserver(std::vector<TrcMarkerName>& markers) : markers_(markers) {}
+
+  void OnOddity(TRCOddity /*oddity*/, TRCPlace /*place*/, std::string_view /*text*/) override {}
+  void OnMarker(TRCPlace place, std::string_view name) override {
+    markers_.push_back({std::string(name), place});
+  }
+  bool WatchesFrames() const override { return false; }
+
+ private:
+  std::vector<TrcMarkerName>& markers_;
+};
 
 // An empty file is told as one without entries.
 void NameFlaw(std::string_view bytes, FindingList& findings) {
@@ -107,6 +123,12 @@ CheckedFile CheckMapping(const std::string& file, std::string_view bytes) {
   CheckedFile checked = NewReport(file, entries);
   checked.findings = std::move(findings);
   return checked;
+}
+
+std::string ListTrcMarkers(std::string_view header, std::vector<TrcMarkerName>& markers) {
+  TRCDocument document;
+  MarkerObserver observer(markers);
+  return document.ReadBytes(header, false, &observer);
 }
 
 std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view bytes,

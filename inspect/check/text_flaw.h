@@ -8,7 +8,8 @@
 #include "inspect/check/findings.h"
 
 // What makes a whole file other than the text that its reader takes it for. The reader meets only
-// what follows from it: a person is told the flaw first.
+// what follows from it: a person is told the flaw first. Nothing is kept of the bytes, and nothing
+// fails but for want of memory.
 
 namespace orvane {
 
@@ -27,18 +28,18 @@ inline constexpr std::size_t kBytesThatShowFlaws = std::size_t{64} << 10U;
 // The flaw of a file that has, or starts with, these `bytes`; nothing when it has none.
 // FindTextFlaw knows those that a file of any kind can have, the others also the one of motion
 // files, or of mappings and tables of picks.
-std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
-std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
-std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes);
+[[nodiscard]] std::optional<TextFlaw> FindTextFlaw(std::string_view bytes);
+[[nodiscard]] std::optional<TextFlaw> FindHtrTextFlaw(std::string_view bytes);
+[[nodiscard]] std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes);
 
-// What is said of a flaw.
+// What is said of a flaw. The texts live as long as the program.
 struct TextFlawWords {
   const char* text;      // "The file is empty"
   const char* advice;    // what to do about it, one sentence
   const char* found;     // the same as a finding has it: "an empty file"
   const char* expected;  // what should have stood there
 };
-const TextFlawWords& WordsFor(TextFlaw flaw);
+[[nodiscard]] const TextFlawWords& WordsFor(TextFlaw flaw);
 
 // Puts `flaw` before the errors of `findings`, by `rule`, and drops what is no error: it follows
 // from the flaw, or is told when that is mended. `effect` ends the finding.

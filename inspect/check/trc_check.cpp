@@ -5,7 +5,6 @@
 
 #include "formats/text/numbers.h"
 #include "formats/trc/document_checker.h"
-#include "inspect/check/check_failure.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
 #include "inspect/check/trc_parts.h"
@@ -14,13 +13,6 @@
 
 namespace orvane {
 namespace {
-
-TRCPlace EndOf(std::string_view bytes) {
-  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-  const std::size_t last_break = bytes.rfind('\n');
-  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
-  return {breaks + 1, bytes.size() - last_line + 1, 0};
-}
 
 // What can be said of a file only when all of it has been read.
 class WholeFile {
@@ -132,7 +124,8 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
-  parts.end = EndOf(bytes);
+  const FindingPlace end = EndOf(bytes);
+  parts.end = {end.line, end.column, 0};
   trc::TrcFindingsObserver observer(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
   checked.is_refused = observer.HasRefused();

@@ -7,13 +7,14 @@
 #include "inspect/check/checked_file.h"
 
 // The check of TRC files. The reader reads them as it always does, and is watched meanwhile;
-// docs/formats/trc.md lists the codes.
+// docs/formats/trc.md lists the codes. Lines and columns, in bytes, count from 1. What is returned
+// holds copies, so that the bytes may go.
 
 namespace orvane {
 
 // Checks `bytes`, which are those of the file that is known as `file`. Throws a CheckFailure when
 // they cannot be read for want of memory, or were read wrongly.
-CheckedFile CheckTrc(const std::string& file, std::string_view bytes);
+[[nodiscard]] CheckedFile CheckTrc(const std::string& file, std::string_view bytes);
 
 // The same, and leaves in `document`, which is empty, what was read of them: up to where the reader
 // has refused the file, if it has.

@@ -3,6 +3,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace {
 
 using orvane::FindingList;
@@ -85,6 +87,14 @@ TEST(FindingList, ExplainsErrorsAndDropsTheRest) {
   EXPECT_EQ(findings.Totals().at("an-error").count, 21U);
   EXPECT_EQ(findings.Count(FindingSeverity::kError), 22U);
   EXPECT_EQ(findings.Count(FindingSeverity::kWarning), 0U);
+}
+
+TEST(EndOf, IsBehindTheLastByte) {
+  for (const auto& [bytes, line, column] :
+       {std::tuple{"", 1U, 1U}, {"a", 1U, 2U}, {"a\n", 2U, 1U}, {"a\r\nbc", 2U, 3U}}) {
+    EXPECT_EQ(orvane::EndOf(bytes).line, line) << bytes;
+    EXPECT_EQ(orvane::EndOf(bytes).column, column) << bytes;
+  }
 }
 
 TEST(Quote, CutsLongTextBetweenCharacters) {

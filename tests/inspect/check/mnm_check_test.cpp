@@ -3,6 +3,7 @@
 #include "inspect/check/mnm_rules.h"
 #include "tests/inspect/check/check_rows.h"
 #include "tests/support/saved_text.h"
+#include "tests/support/trc_text.h"
 
 namespace {
 
@@ -152,6 +153,18 @@ TEST(MappingCheck, HasAnOddityForEachRule) {
   std::vector<CheckRow> rows = kMappingRows;
   rows.insert(rows.end(), kCaptureRows.begin(), kCaptureRows.end());
   test::ExpectARowForEach(orvane::mnm::kRules, rows);
+}
+
+TEST(TrcMarkers, AreListedWithTheirPlaces) {
+  const test::TrcText text{.markers = {"Head1", "Toe"}, .frames = {{"1\t2\t3", ""}}};
+  std::vector<orvane::TrcMarkerName> markers;
+  EXPECT_EQ(orvane::ListTrcMarkers(text.Text(), markers), "");
+  ASSERT_EQ(markers.size(), 2U);
+  EXPECT_EQ(markers[1].name, "Toe");
+  EXPECT_EQ(markers[1].place.line, 4U);
+  EXPECT_EQ(markers[1].place.column, 21U);
+  EXPECT_THAT(orvane::ListTrcMarkers("PathFileType 4 (X/Y/Z)\n", markers),
+              testing::HasSubstr("(X/Y/Z)"));
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-#include "inspect/check/check_failure.h"
+#include "inspect/check/checked_file.h"
 
 namespace orvane {
 
