@@ -1,6 +1,7 @@
 #include "inspect/compare/motion_comparison.h"
 
 #include <array>
+#include <cassert>
 #include <cmath>
 
 #include "formats/units/units.h"
@@ -157,6 +158,9 @@ double DegreesBetween(const RotationMatrix3& a, const RotationMatrix3& b) {
 
 MotionComparison CompareMotion(const StructureComparison& structure, const HtrDocument& a,
                                const HtrDocument& b, const Tolerance& tolerance) {
+  assert(tolerance.mm >= 0 && tolerance.deg >= 0);
+  assert(structure.hierarchy_a.size() == a.segments().size());
+  assert(structure.hierarchy_b.size() == b.segments().size());
   return Comparison(structure, a, b, tolerance).Run();
 }
 

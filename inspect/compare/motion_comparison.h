@@ -12,13 +12,14 @@
 
 // How far the joints of two motions are from each other, frame by frame: in the world and in
 // millimetres, and in degrees between their rotations against the parent. Base and frame are put
-// together first, so that files which say the same in different words do not differ.
+// together first, so that files which say the same in different words do not differ. Frames are
+// told by their numbers in the files. Nothing fails but for want of memory.
 
 namespace orvane {
 
 // Angle between two rotations, 0 to 180 degrees. Angles down to the last bits of a double come out
 // right, which the cosine alone would lose.
-double DegreesBetween(const RotationMatrix3& a, const RotationMatrix3& b);
+[[nodiscard]] double DegreesBetween(const RotationMatrix3& a, const RotationMatrix3& b);
 
 // Differences beyond these count. Not negative.
 struct Tolerance {
@@ -34,7 +35,7 @@ struct Spread {
   double sum = 0.0;
   std::size_t count = 0;
 
-  double Mean() const { return count == 0 ? 0.0 : sum / static_cast<double>(count); }
+  [[nodiscard]] double Mean() const { return count == 0 ? 0.0 : sum / static_cast<double>(count); }
 };
 
 // Of one segment, or of all.
@@ -56,9 +57,11 @@ struct MotionComparison {
   std::size_t beyond_pair = 0;
 };
 
-// Compares the common frames of `structure`, which is that of the documents; the base positions,
-// as a frame of number 0, when neither file holds a frame.
-MotionComparison CompareMotion(const StructureComparison& structure, const HtrDocument& a,
-                               const HtrDocument& b, const Tolerance& tolerance);
+// Compares the common frames of `structure`; the base positions, as a frame of number 0, when
+// neither file holds a frame. REQUIRES: `structure` is that of `a` and `b`, which have not changed
+// since, and `tolerance` is not negative.
+[[nodiscard]] MotionComparison CompareMotion(const StructureComparison& structure,
+                                             const HtrDocument& a, const HtrDocument& b,
+                                             const Tolerance& tolerance);
 
 }  // namespace orvane

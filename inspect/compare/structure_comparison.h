@@ -9,7 +9,8 @@
 #include "inspect/summary/hierarchy.h"
 
 // What two motion files hold, as opposed to where it moves: the segments by their names, what each
-// hangs from, and the frames by their numbers. The files are called A and B.
+// hangs from, and the frames by their numbers. The files are called A and B. Indices count from 0.
+// Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -46,7 +47,7 @@ struct StructureDifferences {
   std::vector<OnlyFrames> frames;        // of all segments first, then by segment in A's order
   bool frame_rate = false;
 
-  bool Any() const {
+  [[nodiscard]] bool Any() const {
     return !segments.empty() || !parents.empty() || !frames.empty() || frame_rate;
   }
 };
@@ -75,7 +76,8 @@ struct StructureComparison {
   StructureDifferences differences;
 };
 
-// Works in linear time. The result points into the documents, which are not changed.
-StructureComparison CompareStructure(HtrDocument& a, HtrDocument& b);
+// Works in linear time. The result points into the documents, which are not changed and must
+// outlive it.
+[[nodiscard]] StructureComparison CompareStructure(HtrDocument& a, HtrDocument& b);
 
 }  // namespace orvane

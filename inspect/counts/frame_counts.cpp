@@ -1,6 +1,7 @@
 #include "inspect/counts/frame_counts.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <limits>
 
@@ -29,6 +30,7 @@ std::string Held(const FrameCounts& counts) {
 // `frames_of` tells how many frames a segment holds.
 template <typename FramesOf>
 FrameCounts CountFramesWith(const HtrDocument& document, const FramesOf& frames_of) {
+  assert(!document.segments().empty());
   std::size_t fewest = std::numeric_limits<std::size_t>::max();
   std::size_t most = 0;
   for (const HtrSegment& segment : document.segments()) {

@@ -1,6 +1,7 @@
 #include "inspect/counts/proportion.h"
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 
 #include "formats/text/numbers.h"
@@ -27,6 +28,8 @@ std::string Of(std::int64_t frames, const MadeUpFrames& made_up) {
 }  // namespace
 
 std::string WhyOutOfProportion(const MadeUpFrames& made_up) {
+  assert(made_up.frames >= 0 && made_up.receivers >= 0);
+  assert(made_up.held >= 0 && made_up.deletions >= 0);
   const std::int64_t frames = Product(made_up.frames, made_up.receivers);
   if (frames > std::max(kAlwaysAllowed, Product(kTimesHeld, made_up.held))) {
     return Of(frames, made_up) + " would be made up, and " + FormatInt(made_up.held) + " are held";

@@ -4,7 +4,8 @@
 #include <optional>
 #include <string>
 
-// What the plug-in has written to a BVK file.
+// What the plug-in has written to a BVK file: counts of frames, markers and samples, without their
+// values.
 
 namespace orvane {
 
@@ -17,6 +18,6 @@ struct BvkSummary {
 // Reads the file `path` a piece at a time. Returns nothing when it is not there or not whole:
 // the plug-in does not notice a disk that is full. Throws std::bad_alloc or std::ios_base::failure
 // when it cannot be read to its end.
-std::optional<BvkSummary> SummarizeBvk(const std::string& path);
+[[nodiscard]] std::optional<BvkSummary> SummarizeBvk(const std::string& path);
 
 }  // namespace orvane

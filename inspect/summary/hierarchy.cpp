@@ -1,5 +1,6 @@
 #include "inspect/summary/hierarchy.h"
 
+#include <cassert>
 #include <unordered_set>
 
 namespace orvane {
@@ -46,6 +47,7 @@ std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document) {
 
 std::vector<const HtrSegment*> ListUnattached(const HtrDocument& document,
                                               const std::vector<HierarchyEntry>& attached) {
+  assert(attached.size() <= document.segments().size());
   std::unordered_set<const HtrSegment*> seen;
   for (const HierarchyEntry& entry : attached) seen.insert(entry.segment);
   std::vector<const HtrSegment*> unattached;

@@ -5,7 +5,9 @@
 
 #include "formats/htr/document.h"
 
-// The segments of a document as trees, in an order that can be walked from front to back.
+// The segments of a document as trees, in an order that can be walked from front to back. Indices
+// count from 0. Entries point into the document, which must outlive them. Nothing fails but for
+// want of memory.
 
 namespace orvane {
 
@@ -16,13 +18,13 @@ struct HierarchyEntry {
 };
 
 // Every segment that hangs from a root, once: depth first, parents before their children, roots and
-// children in the document's order. Takes any depth and any links. The entries point into
-// `document`.
-std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document);
+// children in the document's order. Takes any depth and any links.
+[[nodiscard]] std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document);
 
 // The other segments, in the document's order: those whose parent is missing and those whose
-// parents form a circle, with all that hangs from them.
-std::vector<const HtrSegment*> ListUnattached(const HtrDocument& document,
-                                              const std::vector<HierarchyEntry>& attached);
+// parents form a circle, with all that hangs from them. REQUIRES: `attached` is ListHierarchy of
+// `document`.
+[[nodiscard]] std::vector<const HtrSegment*> ListUnattached(
+    const HtrDocument& document, const std::vector<HierarchyEntry>& attached);
 
 }  // namespace orvane

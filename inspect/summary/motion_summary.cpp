@@ -1,6 +1,7 @@
 #include "inspect/summary/motion_summary.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cmath>
 #include <limits>
 
@@ -33,6 +34,7 @@ std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
 
 MotionSummary SummarizeMotion(const HtrDocument& document,
                               const std::vector<HierarchyEntry>& hierarchy) {
+  assert(hierarchy.size() <= document.segments().size());
   MotionSummary summary;
   const auto& segments = document.segments();
   if (segments.empty()) return summary;

@@ -8,7 +8,8 @@
 #include "inspect/summary/hierarchy.h"
 #include "inspect/summary/pose_walk.h"
 
-// What can be told of a motion without showing every frame.
+// What can be told of a motion without showing every frame: counts of frames, seconds, and a box in
+// the file's own unit of length. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -31,8 +32,8 @@ struct MotionSummary {
   std::optional<Bounds> bounds;
 };
 
-// Requires that `hierarchy` belongs to `document`.
-MotionSummary SummarizeMotion(const HtrDocument& document,
-                              const std::vector<HierarchyEntry>& hierarchy);
+// REQUIRES: `hierarchy` is ListHierarchy of `document`.
+[[nodiscard]] MotionSummary SummarizeMotion(const HtrDocument& document,
+                                            const std::vector<HierarchyEntry>& hierarchy);
 
 }  // namespace orvane

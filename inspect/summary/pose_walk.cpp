@@ -17,12 +17,15 @@ PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy)
       world_rotations_(hierarchy_.size()) {
   std::iota(holding_.begin(), holding_.end(), std::size_t{0});
   for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
+    assert(hierarchy_[entry].parent <= entry);
     base_rotations_[entry] = RotationMatrix3(hierarchy_[entry].segment->GetBaseRotation());
     above_[entry] = hierarchy_[entry].parent;
   }
 }
 
 void PoseWalk::MoveTo(std::size_t frame) {
+  assert(frame >= frame_);
+  frame_ = frame;
   if (frame >= next_end_) DropEnded(frame);
   for (const std::size_t entry : holding_) {
     const HtrSegment& segment = *hierarchy_[entry].segment;

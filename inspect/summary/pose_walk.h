@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cassert>
 #include <cstddef>
 #include <vector>
 
@@ -10,7 +11,8 @@
 
 // Where the joints of a skeleton are, frame after frame: base and frame put together, from the
 // roots down. The time it takes is in proportion to the frames that the segments hold, however
-// unevenly they hold them.
+// unevenly they hold them. Positions are x, y and z in the file's unit of length; frames and
+// entries count from 0. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -18,13 +20,13 @@ using Point = std::array<double, 3>;
 
 class PoseWalk {
  public:
-  // Starts before the first frame. In `hierarchy` parents stand before their children; an entry
-  // that is its own parent is in the world, or in whatever space its values mean. The segments must
-  // outlive the walk and not change.
+  // Starts before the first frame. An entry that is its own parent is in the world, or in whatever
+  // space its values mean. The segments must outlive the walk and not change. REQUIRES: in
+  // `hierarchy` parents stand before their children.
   explicit PoseWalk(std::vector<HierarchyEntry> hierarchy);
 
-  // Moves on to `frame`, counted from 0 and not before the one where the walk is. What hangs from a
-  // segment that does not hold it hangs from the next one up.
+  // Moves on to `frame`. What hangs from a segment that does not hold it hangs from the next one
+  // up. REQUIRES: `frame` is not before the one where the walk is.
   void MoveTo(std::size_t frame);
 
   // In place of MoveTo: every segment in its base position.
@@ -32,13 +34,19 @@ class PoseWalk {
 
   // The entries that hold the frame, as indices into the hierarchy, parents first. Only these may
   // be asked for.
-  const std::vector<std::size_t>& Holding() const { return holding_; }
+  [[nodiscard]] const std::vector<std::size_t>& Holding() const { return holding_; }
 
-  // Where the origin of the segment is, in the world and the file's unit.
-  const Point& PositionOf(std::size_t entry) const { return positions_[entry]; }
+  // Where the origin of the segment is, in the world. REQUIRES: `entry` is one of Holding().
+  [[nodiscard]] const Point& PositionOf(std::size_t entry) const {
+    assert(entry < positions_.size());
+    return positions_[entry];
+  }
 
-  // How the segment is turned against its parent.
-  const RotationMatrix3& RotationOf(std::size_t entry) const { return rotations_[entry]; }
+  // How the segment is turned against its parent. REQUIRES: `entry` is one of Holding().
+  [[nodiscard]] const RotationMatrix3& RotationOf(std::size_t entry) const {
+    assert(entry < rotations_.size());
+    return rotations_[entry];
+  }
 
  private:
   void DropEnded(std::size_t frame);
@@ -51,6 +59,7 @@ class PoseWalk {
   std::vector<Point> positions_;
   std::vector<RotationMatrix3> rotations_;
   std::vector<RotationMatrix3> world_rotations_;
+  std::size_t frame_ = 0;     // where the walk is
   std::size_t next_end_ = 0;  // the first frame that some entry no longer holds
 };
 

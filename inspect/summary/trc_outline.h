@@ -5,9 +5,13 @@
 
 #include "formats/trc/outline.h"
 
+// What a marker file holds, without its samples: the file is read a piece at a time, so that its
+// size does not matter.
+
 namespace orvane {
 
-// What the marker file `path` holds, read a piece at a time; nothing when it cannot be read.
-std::optional<TRCOutliner> OutlineTrcFile(const std::string& path);
+// The outline of the marker file `path`; nothing when it cannot be read to its end. Throws
+// std::bad_alloc for want of memory.
+[[nodiscard]] std::optional<TRCOutliner> OutlineTrcFile(const std::string& path);
 
 }  // namespace orvane

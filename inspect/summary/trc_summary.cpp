@@ -1,6 +1,7 @@
 #include "inspect/summary/trc_summary.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace orvane {
 namespace {
@@ -38,6 +39,7 @@ TrcSummary SummarizeTrc(const TRCDocument& document) {
 }
 
 double Coverage(const TrcMarkerSummary& marker, std::size_t frames) {
+  assert(marker.present <= frames);
   return frames == 0 ? 0.0 : static_cast<double>(marker.present) / static_cast<double>(frames);
 }
 

@@ -7,7 +7,8 @@
 #include "formats/trc/document.h"
 #include "inspect/summary/motion_summary.h"
 
-// What can be told of a marker file without showing every frame.
+// What can be told of a marker file without showing every frame: counts of samples, seconds, and a
+// box in the file's own unit of length. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -27,9 +28,10 @@ struct TrcSummary {
   std::optional<Bounds> bounds;
 };
 
-TrcSummary SummarizeTrc(const TRCDocument& document);
+[[nodiscard]] TrcSummary SummarizeTrc(const TRCDocument& document);
 
 // The part of `frames` that `marker` is present in, 0 to 1; 0 when there are none.
-double Coverage(const TrcMarkerSummary& marker, std::size_t frames);
+// REQUIRES: `frames` are those of the file, so that `marker` is present in no more.
+[[nodiscard]] double Coverage(const TrcMarkerSummary& marker, std::size_t frames);
 
 }  // namespace orvane
