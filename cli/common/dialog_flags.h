@@ -1,12 +1,12 @@
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <optional>
 #include <string>
 #include <vector>
 
 #include "cli/common/dialog_user.h"
-#include "cli/common/frame_span.h"
 
 // Flags that are controls of an options dialog. Parsing the arguments adds a wish for each that is
 // given to a list, which must outlive the parsing.
@@ -47,6 +47,19 @@ struct RangeControls {
 void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
               const std::string& all_flag, const std::string& all_help,
               const std::string& range_help);
+
+// Frames in a row, by their numbers, both ends included; none when the last comes before the first.
+struct FrameSpan {
+  std::int64_t first = 1;
+  std::int64_t last = 0;
+
+  std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
+};
+
+// The frames that are in both.
+inline FrameSpan Overlap(const FrameSpan& left, const FrameSpan& right) {
+  return {std::max(left.first, right.first), std::min(left.last, right.last)};
+}
 
 // What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
 // the number that they type into a text field, the numbers of two, and the state of a check box.

@@ -3,7 +3,6 @@
 #include <optional>
 
 #include "cli/common/dialog_flags.h"
-#include "cli/common/frame_span.h"
 #include "host/desktop/settings.h"
 
 // The flags of `orvane export` that are controls of the options dialog "ExportHTR".

@@ -5,9 +5,10 @@
 #include <limits>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "cli/common/failure.h"
-#include "cli/export/exported_bones.h"
+#include "cli/common/scene_bones.h"
 #include "formats/text/numbers.h"
 #include "inspect/counts/frame_counts.h"
 
@@ -18,6 +19,37 @@ using orvane::FormatInt;
 using orvane::FrameCounts;
 using orvane::IsOutOfProportion;
 using orvane::WhyOutOfProportion;
+
+// The bone to start from; null when there is none.
+const host::Node* FindRoot(const host::Scene& scene) {
+  if (scene.Selection().empty()) return nullptr;
+  const host::Node* selected = scene.Selection().front();
+  return IsBone(*selected) ? selected : FirstBoneChild(*selected);
+}
+
+// The plug-in goes by the name, and leaves out what hangs from one, too.
+bool IsEffector(const host::Node& bone) {
+  return bone.Name().find("Effector") != std::string::npos;
+}
+
+// How many bones an export samples: from the one that is selected in `scene`, or the first below
+// what is, down to those that only end a chain; 0 when there is none.
+std::int64_t CountExportedBones(const host::Scene& scene) {
+  const host::Node* root = FindRoot(scene);
+  std::int64_t count = 0;
+  std::vector<const host::Node*> waiting;
+  if (root != nullptr) waiting.push_back(root);
+  while (!waiting.empty()) {
+    const host::Node* bone = waiting.back();
+    waiting.pop_back();
+    if (IsEffector(*bone)) continue;
+    ++count;
+    for (const host::Node* child : bone->Children()) {
+      if (IsBone(*child)) waiting.push_back(child);
+    }
+  }
+  return count;
+}
 
 // The keys of a scene, from the first to the last one.
 class SceneKeys {

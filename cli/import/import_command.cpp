@@ -15,7 +15,6 @@
 #include "cli/common/plugin_session.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
-#include "cli/common/selection.h"
 #include "cli/import/hidden_numbers.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"

@@ -4,7 +4,7 @@
 #include <string>
 
 #include "cli/common/failure.h"
-#include "cli/import/import_choices.h"
+#include "cli/import/import_flags.h"
 #include "host/animation/animation_state.h"
 #include "inspect/counts/frame_counts.h"
 

@@ -6,7 +6,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
-#include "cli/import/import_choices.h"
+#include "cli/import/import_flags.h"
 #include "host/scene/scene.h"
 #include "inspect/check/checked_file.h"
 

@@ -4,7 +4,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
-#include "cli/import/import_choices.h"
+#include "cli/import/import_flags.h"
 #include "host/scene/scene.h"
 
 // Which objects of a scene the trajectories of a marker file are applied to.

@@ -2,7 +2,6 @@
 
 #include "cli/common/json_writer.h"
 #include "cli/scene/scene_report.h"
-#include "cli/scene/scene_tree.h"
 
 namespace cli {
 namespace {

@@ -3,7 +3,6 @@
 
 #include "cli/common/messages.h"
 #include "cli/scene/scene_report.h"
-#include "cli/scene/scene_tree.h"
 #include "formats/text/numbers.h"
 
 namespace cli {

@@ -1,4 +1,4 @@
-#include "cli/scene/scene_tree.h"
+#include "cli/scene/scene_report.h"
 
 namespace cli {
 
