@@ -20,7 +20,7 @@ using orvane::FindingSeverity;
 using orvane::ReportedFinding;
 
 std::string WhyNoCode(const std::string& code) {
-  return orvane::FindWords(code) != nullptr ? "" : "no finding has the code " + code;
+  return orvane::FindMeaning(code) != nullptr ? "" : "no finding has the code " + code;
 }
 
 }  // namespace

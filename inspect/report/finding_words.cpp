@@ -5,19 +5,19 @@
 namespace orvane {
 namespace {
 
-using WordsByCode = std::unordered_map<std::string_view, const FindingWords*>;
+using WordsByCode = std::unordered_map<std::string_view, const FindingMeaning*>;
 
 WordsByCode Gather() {
   WordsByCode all;
-  for (const auto& words : {HtrFindingWords(), TrcFindingWords(), MnmFindingWords()}) {
-    for (const FindingWords& each : words) all.emplace(each.code, &each);
+  for (const auto& words : {HtrFindingMeanings(), TrcFindingMeanings(), MnmFindingMeanings()}) {
+    for (const FindingMeaning& each : words) all.emplace(each.code, &each);
   }
   return all;
 }
 
 }  // namespace
 
-const FindingWords* FindWords(std::string_view code) {
+const FindingMeaning* FindMeaning(std::string_view code) {
   static const WordsByCode all = Gather();
   const auto found = all.find(code);
   return found == all.end() ? nullptr : found->second;

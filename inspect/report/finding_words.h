@@ -69,7 +69,7 @@ enum class Concern {
   kFrames,  // frames that are announced and not there, or the other way round
 };
 
-struct FindingWords {
+struct FindingMeaning {
   std::string_view code;
   // The cause, one sentence without its full stop. {found} and {expected} stand for those of the
   // first finding, up to ", as "; in `many`, {count} for the number of findings.
@@ -80,11 +80,11 @@ struct FindingWords {
 };
 
 // Those of all codes, by kind of file.
-std::span<const FindingWords> HtrFindingWords();
-std::span<const FindingWords> TrcFindingWords();
-std::span<const FindingWords> MnmFindingWords();
+std::span<const FindingMeaning> HtrFindingMeanings();
+std::span<const FindingMeaning> TrcFindingMeanings();
+std::span<const FindingMeaning> MnmFindingMeanings();
 
 // Those of `code`; null when no finding has it.
-const FindingWords* FindWords(std::string_view code);
+const FindingMeaning* FindMeaning(std::string_view code);
 
 }  // namespace orvane

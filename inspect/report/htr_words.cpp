@@ -5,7 +5,7 @@ namespace {
 
 using enum FindingSeverity;
 
-constexpr FindingWords kWords[] = {
+constexpr FindingMeaning kWords[] = {
     {"htr-empty", "The file is empty", nullptr, InMotion(kError, "Nothing is imported.")},
     {"htr-encoding", "The file is UTF-16 text", nullptr,
      InMotion(kError, "None of it is read; save it as UTF-8 or ASCII.")},
@@ -154,6 +154,6 @@ constexpr FindingWords kWords[] = {
 
 }  // namespace
 
-std::span<const FindingWords> HtrFindingWords() { return kWords; }
+std::span<const FindingMeaning> HtrFindingMeanings() { return kWords; }
 
 }  // namespace orvane

@@ -5,7 +5,7 @@ namespace {
 
 using enum FindingSeverity;
 
-constexpr FindingWords kWords[] = {
+constexpr FindingMeaning kWords[] = {
     {"mnm-encoding", "The mapping is UTF-16 text", nullptr,
      InMappings(kError, "No marker has its entry, and all are dropped.")
          .But(Action::kConvert, kWarning, "No marker has its entry, and all are dropped.")},
@@ -56,6 +56,6 @@ constexpr FindingWords kWords[] = {
 
 }  // namespace
 
-std::span<const FindingWords> MnmFindingWords() { return kWords; }
+std::span<const FindingMeaning> MnmFindingMeanings() { return kWords; }
 
 }  // namespace orvane

@@ -34,15 +34,15 @@ void AddName(std::string_view name, std::vector<std::string>& names) {
 // Without what it says of where it is from: "120, as NumFrames says".
 std::string Shortened(const std::string& text) { return text.substr(0, text.find(", as ")); }
 
-const char* CauseFor(const FindingWords& words, std::size_t count) {
+const char* CauseFor(const FindingMeaning& words, std::size_t count) {
   return count == 1 || words.many == nullptr ? words.one : words.many;
 }
 
-bool TellsWhatIsFound(const FindingWords& words, std::size_t count) {
+bool TellsWhatIsFound(const FindingMeaning& words, std::size_t count) {
   return std::string_view(CauseFor(words, count)).find("{found}") != std::string_view::npos;
 }
 
-std::string CauseOf(const FindingWords& words, const Finding& first, std::size_t count) {
+std::string CauseOf(const FindingMeaning& words, const Finding& first, std::size_t count) {
   std::string cause = CauseFor(words, count);
   ReplaceAll(cause, "{count}", FormatInt(static_cast<std::int64_t>(count)));
   ReplaceAll(cause, "{found}", Shortened(first.found));
@@ -50,7 +50,7 @@ std::string CauseOf(const FindingWords& words, const Finding& first, std::size_t
   return cause;
 }
 
-FindingEffect EffectOn(const FindingWords& words, Action action, const ActionOptions& options) {
+FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionOptions& options) {
   if (words.concern == Concern::kRate && !options.rate) {
     return {FindingSeverity::kNote, "The frame rate of the file is not asked for."};
   }
@@ -86,7 +86,7 @@ FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptio
   FileReport report{checked.file, checked.kind, action, {}};
   std::map<std::string_view, std::size_t> places;  // in report.findings, by code
   for (const Finding& finding : checked.findings.Sorted()) {
-    const FindingWords* const words = FindWords(finding.rule.code);
+    const FindingMeaning* const words = FindMeaning(finding.rule.code);
     if (words == nullptr || !words->effects[action].severity) continue;
     const FindingEffect effect = EffectOn(*words, action, options);
     const auto [place, is_new] = places.emplace(finding.rule.code, report.findings.size());

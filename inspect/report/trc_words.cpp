@@ -5,7 +5,7 @@ namespace {
 
 using enum FindingSeverity;
 
-constexpr FindingWords kWords[] = {
+constexpr FindingMeaning kWords[] = {
     {"trc-empty", "The file is empty", nullptr, InMarkers(kError, "Nothing is read.")},
     {"trc-encoding", "The file is UTF-16 text", nullptr,
      InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},
@@ -115,6 +115,6 @@ constexpr FindingWords kWords[] = {
 
 }  // namespace
 
-std::span<const FindingWords> TrcFindingWords() { return kWords; }
+std::span<const FindingMeaning> TrcFindingMeanings() { return kWords; }
 
 }  // namespace orvane

@@ -15,10 +15,10 @@
 namespace {
 
 using orvane::Action;
+using orvane::FindingMeaning;
 using orvane::FindingRule;
 using orvane::FindingSeverity;
-using orvane::FindingWords;
-using orvane::FindWords;
+using orvane::FindMeaning;
 using orvane::kAllActions;
 
 std::vector<FindingRule> AllRules() {
@@ -30,35 +30,36 @@ std::vector<FindingRule> AllRules() {
   return all;
 }
 
-std::vector<FindingWords> AllWords() {
-  std::vector<FindingWords> all;
+std::vector<FindingMeaning> AllWords() {
+  std::vector<FindingMeaning> all;
   for (const auto& words :
-       {orvane::HtrFindingWords(), orvane::TrcFindingWords(), orvane::MnmFindingWords()}) {
+       {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(), orvane::MnmFindingMeanings()}) {
     all.insert(all.end(), words.begin(), words.end());
   }
   return all;
 }
 
-TEST(FindingWords, AreThereForEveryCodeAndForNoOther) {
+TEST(FindingMeanings, AreThereForEveryCodeAndForNoOther) {
   std::set<std::string_view> codes;
   for (const FindingRule& rule : AllRules()) {
-    EXPECT_NE(FindWords(rule.code), nullptr) << rule.code;
+    EXPECT_NE(FindMeaning(rule.code), nullptr) << rule.code;
     codes.insert(rule.code);
   }
-  for (const FindingWords& words : AllWords()) {
+  for (const FindingMeaning& words : AllWords()) {
     EXPECT_EQ(codes.erase(words.code), 1U) << words.code;
   }
-  EXPECT_EQ(FindWords("htr-nothing"), nullptr);
+  EXPECT_EQ(FindMeaning("htr-nothing"), nullptr);
 }
 
-TEST(FindingWords, OfALookAtAFileAreAsBadAsTheCheckSays) {
+TEST(FindingMeanings, OfALookAtAFileAreAsBadAsTheCheckSays) {
   for (const FindingRule& rule : AllRules()) {
-    EXPECT_EQ(FindWords(rule.code)->effects[Action::kInspect].severity, rule.severity) << rule.code;
+    EXPECT_EQ(FindMeaning(rule.code)->effects[Action::kInspect].severity, rule.severity)
+        << rule.code;
   }
 }
 
-TEST(FindingWords, AreSentences) {
-  for (const FindingWords& words : AllWords()) {
+TEST(FindingMeanings, AreSentences) {
+  for (const FindingMeaning& words : AllWords()) {
     for (const char* const cause : {words.one, words.many}) {
       if (cause == nullptr) continue;
       EXPECT_FALSE(std::string_view(cause).ends_with('.')) << words.code << ": one is added";
@@ -74,7 +75,7 @@ TEST(FindingWords, AreSentences) {
 }
 
 // The table of the page, as the program has it.
-std::string PageRow(const FindingWords& words) {
+std::string PageRow(const FindingMeaning& words) {
   std::string row = "| `" + std::string(words.code) + "` |";
   for (const Action action : kAllActions) {
     const auto& severity = words.effects[action].severity;
@@ -89,7 +90,7 @@ TEST(FindingsPage, HasARowForEveryCodeAndNoOther) {
   for (std::size_t at = page.find("\n| `"); at != std::string::npos;
        at = page.find("\n| `", at + 1))
     ++rows;
-  for (const FindingWords& words : AllWords()) {
+  for (const FindingMeaning& words : AllWords()) {
     EXPECT_THAT(page, testing::HasSubstr("\n" + PageRow(words)));
   }
   EXPECT_EQ(rows, AllWords().size());
