@@ -92,6 +92,13 @@ void PrintReport(const FileReport& report, std::ostream& out) {
       << '\n';
 }
 
+void WriteFindings(JsonWriter& json, const FileReport& report) {
+  json.Key("findings");
+  json.BeginArray(Layout::kLines);
+  for (const ReportedFinding& finding : report.findings) WriteFinding(json, finding);
+  json.EndArray();
+}
+
 void WriteReport(JsonWriter& json, const FileReport& report) {
   json.BeginObject();
   WriteText(json, "file", report.file);
@@ -100,10 +107,7 @@ void WriteReport(JsonWriter& json, const FileReport& report) {
   WriteCount(json, "errors", report.Count(FindingSeverity::kError));
   WriteCount(json, "warnings", report.Count(FindingSeverity::kWarning));
   WriteCount(json, "notes", report.Count(FindingSeverity::kNote));
-  json.Key("findings");
-  json.BeginArray(Layout::kLines);
-  for (const ReportedFinding& finding : report.findings) WriteFinding(json, finding);
-  json.EndArray();
+  WriteFindings(json, report);
   json.EndObject();
 }
 

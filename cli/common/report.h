@@ -18,6 +18,9 @@ namespace cli {
 // A line for each finding, and a last one that counts them; one line where there is none.
 void PrintReport(const orvane::FileReport& report, std::ostream& out);
 
+// What was found, as the member "findings" of an object.
+void WriteFindings(JsonWriter& json, const orvane::FileReport& report);
+
 // The report as an object.
 void WriteReport(JsonWriter& json, const orvane::FileReport& report);
 

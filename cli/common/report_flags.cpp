@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <map>
 #include <sstream>
 
 #include "cli/common/choice.h"
@@ -18,6 +19,40 @@ namespace {
 using orvane::FileReport;
 using orvane::FindingSeverity;
 using orvane::ReportedFinding;
+
+Severity SeverityOf(const ReportedFinding& finding) {
+  return finding.severity == FindingSeverity::kError ? Severity::kError : Severity::kWarning;
+}
+
+// A code that was found in one file or several.
+struct CodeInFiles {
+  const ReportedFinding* first = nullptr;
+  std::string file;  // that the first is in
+  std::size_t files = 0;
+};
+
+// The worst first, and else in the order of their first files.
+std::vector<CodeInFiles> GatherByCode(const std::vector<FileReport>& reports) {
+  std::vector<CodeInFiles> all;
+  std::map<std::string_view, std::size_t> places;
+  for (const FileReport& report : reports) {
+    for (const ReportedFinding& finding : report.findings) {
+      const auto [place, is_new] = places.emplace(finding.code, all.size());
+      if (is_new) all.push_back({&finding, report.file, 0});
+      ++all[place->second].files;
+    }
+  }
+  std::stable_sort(all.begin(), all.end(), [](const CodeInFiles& left, const CodeInFiles& right) {
+    return left.first->severity > right.first->severity;
+  });
+  return all;
+}
+
+std::string LineOver(const CodeInFiles& each) {
+  std::string line = std::string(SeverityName(each.first->severity)) + ": ";
+  if (each.files > 1) line += "the first of " + orvane::CountOf(each.files, "file") + ": ";
+  return line + LineOf(*each.first);
+}
 
 std::string WhyNoCode(const std::string& code) {
   return orvane::FindMeaning(code) != nullptr ? "" : "no finding has the code " + code;
@@ -47,10 +82,16 @@ void AddReportFlags(CLI::App& verb, ReportManner& manner) {
 void Tell(const FileReport& report, const ReportManner& manner) {
   for (const ReportedFinding& finding : report.findings) {
     if (manner.only_warnings && finding.severity == FindingSeverity::kNote) continue;
-    const Severity severity =
-        finding.severity == FindingSeverity::kError ? Severity::kError : Severity::kWarning;
-    Print(severity,
+    Print(SeverityOf(finding),
           {report.file, std::string(SeverityName(finding.severity)) + ": " + LineOf(finding), ""});
+  }
+}
+
+void TellAll(const std::vector<FileReport>& reports, const ReportManner& manner) {
+  if (reports.size() == 1) return Tell(reports.front(), manner);
+  for (const CodeInFiles& each : GatherByCode(reports)) {
+    if (manner.only_warnings && each.first->severity == FindingSeverity::kNote) continue;
+    Print(SeverityOf(*each.first), {each.file, LineOver(each), ""});
   }
 }
 

@@ -29,6 +29,10 @@ void AddReportFlags(CLI::App& verb, ReportManner& manner);
 // Tells of `report` on standard error, a line a code.
 void Tell(const orvane::FileReport& report, const ReportManner& manner);
 
+// Tells of `reports`: of one as above, of several a line for each code over all of them, with the
+// number of files and the first.
+void TellAll(const std::vector<orvane::FileReport>& reports, const ReportManner& manner);
+
 // Whether something in `report` keeps a strict user's file from being worked on.
 [[nodiscard]] bool Forbids(const ReportManner& manner, const orvane::FileReport& report);
 

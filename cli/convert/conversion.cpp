@@ -2,10 +2,14 @@
 
 #include <nlohmann/json.hpp>
 
+#include "inspect/report/finding_words.h"
+
 namespace cli {
 namespace {
 
 using nlohmann::json;
+using orvane::FileReport;
+using orvane::ReportedFinding;
 
 json Pack(const std::vector<Complaint>& complaints) {
   json packed = json::array();
@@ -21,13 +25,33 @@ std::vector<Complaint> UnpackComplaints(const json& packed) {
   return complaints;
 }
 
+json Pack(const FileReport& report) {
+  json packed = json::array();
+  for (const ReportedFinding& finding : report.findings) {
+    packed.push_back({finding.code, static_cast<int>(finding.severity), finding.count, finding.line,
+                      finding.column, finding.names, finding.cause, finding.consequence});
+  }
+  return packed;
+}
+
+// Codes and kinds of files are not kept by a report, which tells of them.
+FileReport UnpackReport(const json& packed, const std::string& file) {
+  FileReport report{file, "TRC", orvane::Action::kConvert, {}};
+  for (const json& one : packed) {
+    report.findings.push_back({orvane::FindMeaning(one.at(0).get<std::string>())->code,
+                               static_cast<orvane::FindingSeverity>(one.at(1).get<int>()),
+                               one.at(2), one.at(3), one.at(4), one.at(5), one.at(6), one.at(7)});
+  }
+  return report;
+}
+
 json Pack(const Conversion& conversion) {
-  return {conversion.input,         conversion.source,
-          conversion.output,        static_cast<int>(conversion.status),
-          conversion.delivered,     conversion.frames,
-          conversion.markers_kept,  conversion.markers_dropped,
-          conversion.dropouts,      Pack(conversion.errors),
-          Pack(conversion.warnings)};
+  return {conversion.input,          conversion.source,
+          conversion.output,         static_cast<int>(conversion.status),
+          conversion.delivered,      conversion.frames,
+          conversion.markers_kept,   conversion.markers_dropped,
+          conversion.dropouts,       Pack(conversion.errors),
+          Pack(conversion.warnings), Pack(conversion.report)};
 }
 
 Conversion Unpack(const json& packed) {
@@ -41,7 +65,8 @@ Conversion Unpack(const json& packed) {
           packed.at(7),
           packed.at(8),
           UnpackComplaints(packed.at(9)),
-          UnpackComplaints(packed.at(10))};
+          UnpackComplaints(packed.at(10)),
+          UnpackReport(packed.at(11), packed.at(0))};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
+#include "inspect/report/report.h"
 
 // One marker file of `orvane convert`: what is to become of it, and what became of it.
 
@@ -38,6 +39,7 @@ struct Conversion {
 
   std::vector<Complaint> errors;
   std::vector<Complaint> warnings;
+  orvane::FileReport report;  // what is odd in the input; empty when that is not looked for
 };
 
 // As the table and JSON give it: "converted".

@@ -47,7 +47,6 @@ class BatchConversion {
 
   ConvertedBatch Run() {
     ConvertAll();
-    for (Conversion& conversion : result_.conversions) NameCause(conversion);
     return std::move(result_);
   }
 
@@ -65,6 +64,7 @@ class BatchConversion {
   // has a run of the plug-in begin.
   void Judge(Conversion& conversion, const MarkerNaming& naming) {
     const RateSource rate = JudgeInput(conversion, naming);
+    if (!order_.report.omitted) ReportOnInput(conversion, order_.mapping, order_.report);
     if (!order_.keep_broken || conversion.status != ConversionStatus::kPlanned) return;
     if (rate == RateSource::kOthersShort) RefuseForeignRate(conversion);
     if (rate == RateSource::kOthers) first_in_run_.insert(&conversion);

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
 #include "cli/convert/converter_panel.h"
 
@@ -17,7 +18,8 @@ struct ConversionOrder {
   std::optional<OffsetWish> offset;
   bool replace = false;      // outputs that exist
   bool keep_broken = false;  // deliver what the plug-in makes of files that the reader refuses
-  bool single = false;       // one file, which the panel converts without a batch
+  ReportManner report;
+  bool single = false;  // one file, which the panel converts without a batch
 };
 
 struct ConvertedBatch {

@@ -1,4 +1,5 @@
 #include "cli/common/json_writer.h"
+#include "cli/common/report.h"
 #include "cli/convert/conversion_report.h"
 
 namespace cli {
@@ -6,7 +7,7 @@ namespace {
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 
 void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
   json.Key(key);
@@ -31,6 +32,17 @@ void WriteTexts(JsonWriter& json, std::string_view key, const std::vector<Compla
   json.EndArray();
 }
 
+// Those of the program, and what was found in the file.
+std::vector<Complaint> WarningsOf(const Conversion& conversion) {
+  std::vector<Complaint> warnings;
+  for (const orvane::ReportedFinding& finding : conversion.report.findings) {
+    if (finding.severity == orvane::FindingSeverity::kNote) continue;
+    warnings.push_back({"", finding.cause + ". " + finding.consequence, ""});
+  }
+  warnings.insert(warnings.end(), conversion.warnings.begin(), conversion.warnings.end());
+  return warnings;
+}
+
 void WriteFile(JsonWriter& json, const Conversion& conversion) {
   json.BeginObject();
   WriteText(json, "file", conversion.input);
@@ -43,7 +55,8 @@ void WriteFile(JsonWriter& json, const Conversion& conversion) {
   WriteCount(json, "markers_dropped", conversion, conversion.markers_dropped);
   WriteCount(json, "dropouts", conversion, conversion.dropouts);
   WriteTexts(json, "errors", conversion.errors);
-  WriteTexts(json, "warnings", conversion.warnings);
+  WriteTexts(json, "warnings", WarningsOf(conversion));
+  WriteFindings(json, conversion.report);
   json.EndObject();
 }
 

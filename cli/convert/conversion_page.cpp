@@ -9,22 +9,38 @@
 namespace cli {
 namespace {
 
-constexpr std::size_t kColumns = 7;
+constexpr std::size_t kColumns = 8;
 using Row = std::array<std::string, kColumns>;
 
 constexpr std::size_t kFirstNumber = 1;
-constexpr std::size_t kOutput = 5;
+constexpr std::size_t kFindings = 5;
 
-bool IsNumber(std::size_t column) { return column >= kFirstNumber && column < kOutput; }
+bool IsNumber(std::size_t column) { return column >= kFirstNumber && column < kFindings; }
+
+// "1e 2w 40n", or "-" where nothing was found.
+std::string Findings(const orvane::FileReport& report) {
+  constexpr std::pair<orvane::FindingSeverity, char> kLetters[] = {
+      {orvane::FindingSeverity::kError, 'e'},
+      {orvane::FindingSeverity::kWarning, 'w'},
+      {orvane::FindingSeverity::kNote, 'n'}};
+  std::string text;
+  for (const auto& [severity, letter] : kLetters) {
+    const std::size_t count = report.Count(severity);
+    if (count == 0) continue;
+    text +=
+        (text.empty() ? "" : " ") + orvane::FormatInt(static_cast<std::int64_t>(count)) + letter;
+  }
+  return text.empty() ? "-" : text;
+}
 
 Row RowOf(const Conversion& conversion) {
   const auto number = [&conversion](std::int64_t value) {
     return conversion.delivered ? orvane::FormatInt(value) : "-";
   };
-  return {Printable(conversion.input),           number(conversion.frames),
-          number(conversion.markers_kept),       number(conversion.markers_dropped),
-          number(conversion.dropouts),           Printable(conversion.output),
-          std::string(NameOf(conversion.status))};
+  return {Printable(conversion.input),     number(conversion.frames),
+          number(conversion.markers_kept), number(conversion.markers_dropped),
+          number(conversion.dropouts),     Findings(conversion.report),
+          Printable(conversion.output),    std::string(NameOf(conversion.status))};
 }
 
 // Long names push their lines out instead of all of them.
@@ -50,7 +66,8 @@ void PrintRow(const Row& row, const std::array<std::size_t, kColumns>& widths, s
 }  // namespace
 
 void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out) {
-  std::vector<Row> rows = {{"File", "Frames", "Kept", "Dropped", "Dropouts", "Output", "Status"}};
+  std::vector<Row> rows = {
+      {"File", "Frames", "Kept", "Dropped", "Dropouts", "Found", "Output", "Status"}};
   for (const Conversion& conversion : conversions) rows.push_back(RowOf(conversion));
   const auto widths = WidthsOf(rows);
   for (const Row& row : rows) PrintRow(row, widths, out);

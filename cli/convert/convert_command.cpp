@@ -9,6 +9,7 @@
 #include <memory>
 
 #include "cli/common/choice.h"
+#include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/progress_line.h"
@@ -17,6 +18,7 @@
 #include "cli/convert/conversion_report.h"
 #include "cli/convert/mapping_preview.h"
 #include "formats/text/numbers.h"
+#include "inspect/check/mnm_check.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
@@ -26,6 +28,8 @@
 
 namespace cli {
 namespace {
+
+using orvane::Action;
 
 struct ConvertArguments {
   std::vector<std::string> inputs;
@@ -81,6 +85,7 @@ class Converting {
     CarryOut(MakeBatches(conversions_, arguments_.jobs));
     DeliverLogs();
     Complain();
+    WriteReports();
     if (arguments_.json) {
       PrintConversionJson(conversions_, delivered_logs_, std::cout);
     } else if (!arguments_.quiet) {
@@ -100,14 +105,18 @@ class Converting {
       order_.offset->in_trc_space = arguments_.offset_in_trc_space;
     }
     order_.replace = arguments_.output.replace;
+    order_.report.only_warnings = arguments_.quiet;
     // The plug-in makes nothing of a broken file that is alone.
     order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
     wishes_.mapping = order_.mapping;
     wishes_.logged = !order_.single;
     if (order_.mapping.empty()) return;
-    const std::string reason = platform::WhyUnreadable(order_.mapping);
-    if (!reason.empty()) {
-      throw Failure{ExitStatus::kInputOutput, {{order_.mapping, reason, ""}}};
+    const std::string bytes = FileBytes(order_.mapping);
+    if (order_.report.omitted) return;
+    mapping_report_ = ReportOn(orvane::CheckMapping(order_.mapping, bytes), Action::kConvert);
+    if (Forbids(order_.report, *mapping_report_)) {
+      Tell(*mapping_report_, order_.report);
+      throw ForbiddenByStrict();
     }
   }
 
@@ -119,8 +128,9 @@ class Converting {
   }
 
   ExitStatus ShowPreview() {
-    const auto previews = PreviewConversions(conversions_, order_.mapping);
+    const auto previews = PreviewConversions(conversions_, order_.mapping, order_.report);
     Complain();
+    WriteReports();
     if (arguments_.json) {
       PrintPreviewJson(previews, std::cout);
     } else {
@@ -208,7 +218,20 @@ class Converting {
     }
   }
 
+  // What is odd in the mapping, and in each input that was looked at.
+  std::vector<orvane::FileReport> Reports() const {
+    std::vector<orvane::FileReport> reports;
+    if (mapping_report_) reports.push_back(*mapping_report_);
+    for (const Conversion& conversion : conversions_) {
+      if (!conversion.report.file.empty()) reports.push_back(conversion.report);
+    }
+    return reports;
+  }
+
+  void WriteReports() const { WriteReportFile(Reports(), order_.report); }
+
   void Complain() const {
+    TellAll(Reports(), order_.report);
     for (const Conversion& conversion : conversions_) {
       for (const Complaint& warning : conversion.warnings) Print(Severity::kWarning, warning);
       for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
@@ -233,6 +256,7 @@ class Converting {
   std::vector<Conversion> conversions_;
   std::vector<std::pair<std::string, std::string>> logs_;  // by folder, in the order of the inputs
   std::vector<std::string> delivered_logs_;
+  std::optional<orvane::FileReport> mapping_report_;
 };
 
 void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
@@ -277,6 +301,7 @@ void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
       ->type_name("N");
   verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
       ->type_name("PATH");
+  AddReportFlags(verb, arguments.order.report);
   verb.add_flag("--json", arguments.json, "Write JSON");
   verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
 }

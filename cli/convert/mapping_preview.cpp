@@ -25,11 +25,14 @@ bool IsReadable(const Conversion& conversion) {
 
 class Previewer {
  public:
-  explicit Previewer(const std::string& mapping) { LoadMapping(mapping, naming_); }
+  Previewer(const std::string& mapping, const ReportManner& manner)
+      : mapping_(mapping), manner_(manner) {
+    LoadMapping(mapping, naming_);
+  }
 
   ConversionPreview Preview(Conversion& conversion) const {
     ConversionPreview preview{&conversion, {}};
-    if (conversion.status == ConversionStatus::kPlanned) JudgeInput(conversion, naming_);
+    if (conversion.status == ConversionStatus::kPlanned) Judge(conversion);
     if (!IsReadable(conversion)) return preview;
     const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
     orvane::TRCDocument document;
@@ -46,6 +49,13 @@ class Previewer {
   }
 
  private:
+  void Judge(Conversion& conversion) const {
+    JudgeInput(conversion, naming_);
+    if (!manner_.omitted) ReportOnInput(conversion, mapping_, manner_);
+  }
+
+  const std::string& mapping_;
+  const ReportManner& manner_;
   MarkerNaming naming_;
 };
 
@@ -92,13 +102,13 @@ void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
 }  // namespace
 
 std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
-                                                  const std::string& mapping) {
-  const Previewer previewer(mapping);
+                                                  const std::string& mapping,
+                                                  const ReportManner& manner) {
+  const Previewer previewer(mapping, manner);
   std::vector<ConversionPreview> previews;
   previews.reserve(conversions.size());
   for (Conversion& conversion : conversions) {
     previews.push_back(previewer.Preview(conversion));
-    NameCause(conversion);
   }
   return previews;
 }

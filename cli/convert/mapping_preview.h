@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
 
 // What a conversion would make of the markers of its files, found out without converting them.
@@ -25,7 +26,8 @@ struct ConversionPreview {
 // refuses, and looks the names up in the file `mapping`; when that is empty all markers keep their
 // names. The previews refer to `conversions`. Throws a Failure when the mapping cannot be read.
 std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
-                                                  const std::string& mapping);
+                                                  const std::string& mapping,
+                                                  const ReportManner& manner);
 
 void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out);
 void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out);

@@ -11,6 +11,8 @@
 #include "cli/common/known_messages.h"
 #include "formats/text/files.h"
 #include "formats/trc/document.h"
+#include "inspect/check/mnm_check.h"
+#include "inspect/check/trc_check.h"
 #include "inspect/counts/frame_counts.h"
 #include "inspect/summary/trc_outline.h"
 #include "platform/input_file.h"
@@ -19,7 +21,8 @@
 namespace cli {
 namespace {
 
-using orvane::DescribeDifference;
+using orvane::Action;
+using orvane::FileReport;
 using orvane::FrameCounts;
 using orvane::MadeUpFrames;
 using orvane::MarkerNaming;
@@ -29,11 +32,7 @@ using orvane::WhyTooShort;
 
 void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
                    const MarkerNaming& naming) {
-  if (const auto flaw = naming.Flaw())
-    conversion.warnings.push_back(ComplainAboutFlaw(naming.File(), *flaw));
-  if (document.MarkerCount() == 0) {
-    conversion.warnings.push_back(ComplainAbout(conversion.input, kNoMarkers));
-  } else if (!naming.KeepsAny(document)) {
+  if (document.MarkerCount() > 0 && !naming.KeepsAny(document)) {
     conversion.warnings.push_back({conversion.input, "The mapping has none of the file's markers",
                                    "\"orvane map lint\" compares the two."});
   }
@@ -41,13 +40,6 @@ void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
     conversion.warnings.push_back(
         {conversion.input, clash, "Who reads the output cannot tell them apart."});
   }
-}
-
-// Of another number of frames than the file holds.
-std::string FramesWritten(std::int64_t announced, std::int64_t held) {
-  if (announced < 0) return "No frame is written.";
-  return announced > held ? "Missing frames are written as dropouts."
-                          : "Only the announced frames are written.";
 }
 
 // How many of the markers are written.
@@ -84,10 +76,6 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
     conversion.errors.push_back(excess);
     return;
   }
-  if (counts.announced != held) {
-    conversion.warnings.push_back(
-        {conversion.input, DescribeDifference(counts), FramesWritten(counts.announced, held)});
-  }
   WarnOfMarkers(conversion, document, naming);
 }
 
@@ -95,6 +83,22 @@ RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& m
   constexpr std::size_t kLinesWithRates = 3;
   if (outline.Lines() < kLinesWithRates) return RateSource::kOthersShort;
   return message.empty() ? RateSource::kFile : RateSource::kOthers;
+}
+
+// What the markers of the capture `file`, whose `bytes` these are, are to `mapping`.
+FileReport ReportOnMarkers(const std::string& mapping, const std::string& file,
+                           const std::string& bytes) {
+  orvane::MappedCapture capture{file, {}};
+  const std::optional<std::string> entries = orvane::ReadFileBytes(mapping);
+  if (!entries || !orvane::ListTrcMarkers(bytes, capture.markers).empty()) return {};
+  return ReportOn(orvane::CheckMapping(mapping, *entries, capture).back(), Action::kConvert);
+}
+
+FileReport ReportOnFile(const std::string& mapping, const std::string& file,
+                        const std::string& bytes) {
+  FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert);
+  if (!mapping.empty()) report.Take(ReportOnMarkers(mapping, file, bytes));
+  return report;
 }
 
 }  // namespace
@@ -135,11 +139,17 @@ RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
   return rate;
 }
 
-void NameCause(Conversion& conversion) {
-  const bool is_refused = conversion.status == ConversionStatus::kBroken ||
-                          conversion.status == ConversionStatus::kRefused;
-  PutCauseFirst(conversion.input, FileKind::kTrc,
-                is_refused ? conversion.errors : conversion.warnings);
+void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner) {
+  const bool is_refused = conversion.status == ConversionStatus::kRefused;
+  if (conversion.status != ConversionStatus::kPlanned && !is_refused) return;
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
+  if (!bytes) return;  // which the plug-in tells
+  conversion.report = ReportOnFile(mapping, conversion.input, *bytes);
+  if (is_refused) conversion.report = conversion.report.Without("trc-frames-too-many");
+  if (is_refused || !Forbids(manner, conversion.report)) return;
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back(
+      {conversion.input, "The file is not converted, as --strict wishes", ""});
 }
 
 }  // namespace cli

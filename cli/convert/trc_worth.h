@@ -1,5 +1,6 @@
 #pragma once
 
+#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
 #include "inspect/check/marker_naming.h"
 
@@ -26,15 +27,15 @@ enum class RateSource {
 void RefuseForeignRate(Conversion& conversion);
 
 // Looks at the input of `conversion` and notes in it how many markers it has, as dropped ones. When
-// frames are missing or left out it gets a warning, and when that is out of proportion it is
-// refused; so is a file that is too short for a rate. It gets a warning too when there is no marker
-// to write, or `naming` makes one name of several. A file that cannot be read is settled; one that
-// the reader refuses is left to the plug-in, which tells that. Returns kFile when nothing is to be
-// read.
+// frames are missing out of proportion it is refused; so is a file that is too short for a rate. It
+// gets a warning when `naming` leaves no marker to write, or makes one name of several. A file that
+// cannot be read is settled; one that the reader refuses is left to the plug-in, which tells that.
+// Returns kFile when nothing is to be read.
 RateSource JudgeInput(Conversion& conversion, const orvane::MarkerNaming& naming);
 
-// When there is something to say of the input of `conversion`, puts first what is wrong with all of
-// its text, as far as that can be seen.
-void NameCause(Conversion& conversion);
+// Finds what is odd in the input of `conversion`, and in its markers against the file `mapping`,
+// unless that is empty, and keeps it as the conversion's report. What is refused already is not
+// said again. When `manner` forbids what is found, the conversion is settled as refused.
+void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner);
 
 }  // namespace cli

@@ -7,7 +7,7 @@
 #include "formats/htr/reader.h"
 #include "formats/trc/document.h"
 #include "host/animation/animation_state.h"
-#include "inspect/check/check_failure.h"
+#include "inspect/check/checked_file.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/rates.h"
 #include "inspect/check/trc_check.h"

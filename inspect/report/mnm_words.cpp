@@ -48,7 +48,8 @@ constexpr FindingMeaning kWords[] = {
      InMappings(kWarning, "It changes nothing.")
          .But(Action::kConvert, kNote, "It changes nothing.")},
     {"mnm-marker-unmapped", "A marker has no entry in the mapping",
-     "{count} markers have no entry in the mapping", InMappings(kWarning, "It is dropped.")},
+     "{count} markers have no entry in the mapping",
+     InMappings(kWarning, "It is dropped.").But(Action::kConvert, kNote, "It is dropped.")},
     {"mnm-marker-unmappable", "A marker's name cannot stand in a mapping",
      "{count} markers have names that cannot stand in a mapping",
      InMappings(kWarning, "It is dropped.")},

@@ -1,6 +1,7 @@
 #include "inspect/report/report.h"
 
 #include <algorithm>
+#include <iterator>
 #include <map>
 #include <tuple>
 
@@ -73,6 +74,11 @@ std::size_t FileReport::Count(FindingSeverity severity) const {
     if (finding.severity == severity) count += finding.count;
   }
   return count;
+}
+
+void FileReport::Take(FileReport other) {
+  std::move(other.findings.begin(), other.findings.end(), std::back_inserter(findings));
+  std::stable_sort(findings.begin(), findings.end(), ComesBefore);
 }
 
 FileReport FileReport::Without(std::string_view code) const {

@@ -35,6 +35,9 @@ struct FileReport {
 
   std::size_t Count(FindingSeverity severity) const;
 
+  // Takes in what `other` has found, of no code that this one has.
+  void Take(FileReport other);
+
   // The same without the finding of `code`, which is told in another way.
   FileReport Without(std::string_view code) const;
 };
