@@ -19,8 +19,8 @@ void Print(Severity severity, const Complaint& complaint);
 // `text` with every control character written as an escape, so that no file can steer a terminal.
 std::string Printable(std::string_view text);
 
-// Prints `complaints`, told on the way to something that succeeded, as warnings. When the user is `strict` they are reasons against it: throws a
-// Failure if there are any.
+// Prints `complaints`, told on the way to something that succeeded, as warnings. When the user is
+// `strict` they are reasons against it: throws a Failure if there are any.
 void Warn(std::vector<Complaint> complaints, bool strict);
 
 }  // namespace cli

@@ -93,7 +93,6 @@ void PrintReport(const FileReport& report, std::ostream& out) {
 }
 
 void WriteFindings(JsonWriter& json, const FileReport& report) {
-  json.Key("findings");
   json.BeginArray(Layout::kLines);
   for (const ReportedFinding& finding : report.findings) WriteFinding(json, finding);
   json.EndArray();
@@ -107,6 +106,7 @@ void WriteReport(JsonWriter& json, const FileReport& report) {
   WriteCount(json, "errors", report.Count(FindingSeverity::kError));
   WriteCount(json, "warnings", report.Count(FindingSeverity::kWarning));
   WriteCount(json, "notes", report.Count(FindingSeverity::kNote));
+  json.Key("findings");
   WriteFindings(json, report);
   json.EndObject();
 }

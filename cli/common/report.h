@@ -18,7 +18,7 @@ namespace cli {
 // A line for each finding, and a last one that counts them; one line where there is none.
 void PrintReport(const orvane::FileReport& report, std::ostream& out);
 
-// What was found, as the member "findings" of an object.
+// What was found, as an array.
 void WriteFindings(JsonWriter& json, const orvane::FileReport& report);
 
 // The report as an object.

@@ -60,8 +60,18 @@ std::string WhyNoCode(const std::string& code) {
 
 }  // namespace
 
+void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
+  CLI::Option* report =
+      RequireName(verb.add_option("--report", manner.file,
+                                  "Write what is found in the files to this file, as JSON"))
+          ->type_name("FILE.json");
+  verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")->excludes(report);
+}
+
 void AddReportFlags(CLI::App& verb, ReportManner& manner) {
+  AddTellingFlags(verb, manner);
   CLI::Option* strict = verb.add_flag("--strict", manner.strict, "Take every warning as a refusal");
+  strict->excludes(verb.get_option("--no-report"));
   verb.add_option("--allow", manner.allowed, "Codes of findings that --strict lets pass")
       ->delimiter(',')
       ->expected(1)
@@ -70,13 +80,6 @@ void AddReportFlags(CLI::App& verb, ReportManner& manner) {
       ->check(WhyNoCode, "")
       ->needs(strict)
       ->type_name("CODE,...");
-  CLI::Option* report =
-      RequireName(verb.add_option("--report", manner.file,
-                                  "Write what is found in the files to this file, as JSON"))
-          ->type_name("FILE.json");
-  verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")
-      ->excludes(strict)
-      ->excludes(report);
 }
 
 void Tell(const FileReport& report, const ReportManner& manner) {

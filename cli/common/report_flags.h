@@ -23,8 +23,10 @@ struct ReportManner {
   bool only_warnings = false;        // and errors are told, no notes
 };
 
-// Adds the flags to `verb`, which writes something, that set `manner`; it must outlive the parsing.
+// Adds the flags to `verb` that set `manner`, which must outlive the parsing: all of them to one
+// that makes something of files, and to one that only tells of them those that do not forbid.
 void AddReportFlags(CLI::App& verb, ReportManner& manner);
+void AddTellingFlags(CLI::App& verb, ReportManner& manner);
 
 // Tells of `report` on standard error, a line a code.
 void Tell(const orvane::FileReport& report, const ReportManner& manner);

@@ -7,8 +7,8 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/told_reading.h"
 #include "cli/compare/comparison_report.h"
-#include "formats/htr/reader.h"
 #include "formats/text/numbers.h"
 
 namespace cli {
@@ -22,24 +22,30 @@ struct CompareArguments {
   std::string file_a;
   std::string file_b;
   Tolerance tolerance;
+  ReportManner report;
   bool json = false;
 };
 
-// Reads `file` into `document`. A file that is refused is trouble, not a difference.
-std::string Read(const std::string& file, orvane::HtrDocument& document) {
-  std::string name = ReadableHtrFile(file);
-  std::string error = orvane::ReadHtrFile(document, name, true);
-  if (error.empty() && document.segments().empty()) error = kNoSegments;
-  if (!error.empty()) {
-    throw Failure{ExitStatus::kInputOutput, ComplainAboutRefusal(name, FileKind::kHtr, error)};
+// Reads `file` into `document` and tells of it. A file that is refused is trouble, not a
+// difference.
+orvane::FileReport Read(const std::string& file, const ReportManner& manner,
+                        orvane::HtrDocument& document) {
+  try {
+    orvane::FileReport report = ReadAndTell(document, file, Motion::kRead, manner);
+    if (document.segments().empty()) throw Refused(file, kNoSegments);
+    return report;
+  } catch (Failure& failure) {
+    failure.status = ExitStatus::kInputOutput;
+    throw;
   }
-  return name;
 }
 
 ExitStatus Compare(const CompareArguments& arguments) {
   ComparisonReport report;
-  report.file_a = Read(arguments.file_a, report.a);
-  report.file_b = Read(arguments.file_b, report.b);
+  report.file_a = ReadableHtrFile(arguments.file_a);
+  report.findings_a = Read(report.file_a, arguments.report, report.a);
+  report.file_b = ReadableHtrFile(arguments.file_b);
+  report.findings_b = Read(report.file_b, arguments.report, report.b);
   report.tolerance = arguments.tolerance;
   report.structure = CompareStructure(report.a, report.b);
   report.motion = CompareMotion(report.structure, report.a, report.b, report.tolerance);
@@ -48,6 +54,7 @@ ExitStatus Compare(const CompareArguments& arguments) {
   } else {
     PrintComparisonPage(report, std::cout);
   }
+  WriteReportFile({report.findings_a, report.findings_b}, arguments.report);
   return report.SaysTheSame() ? ExitStatus::kDone : ExitStatus::kDifferent;
 }
 
@@ -82,6 +89,7 @@ void AddCompareCommand(CLI::App& app, Work& work) {
                "How far apart joints may be, in millimetres");
   AddTolerance(*verb, "--tolerance-deg", arguments->tolerance.deg,
                "How far segments may be turned, in degrees");
+  AddTellingFlags(*verb, arguments->report);
   verb->add_flag("--json", arguments->json, "Write JSON");
   verb->callback([arguments, &work] { work = [arguments] { return Compare(*arguments); }; });
 }

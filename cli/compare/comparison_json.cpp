@@ -1,4 +1,5 @@
 #include "cli/common/json_writer.h"
+#include "cli/common/report.h"
 #include "cli/compare/comparison_report.h"
 
 namespace cli {
@@ -17,7 +18,7 @@ using orvane::WhichFile;
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 
 const char* Letter(WhichFile file) { return file == WhichFile::kA ? "a" : "b"; }
 
@@ -170,6 +171,10 @@ void PrintComparisonJson(const ComparisonReport& report, std::ostream& out) {
   WriteOverall(json, report);
   WriteStructure(json, report);
   WriteSegments(json, report);
+  json.Key("findings_a");
+  WriteFindings(json, report.findings_a);
+  json.Key("findings_b");
+  WriteFindings(json, report.findings_b);
   json.EndObject();
 }
 

@@ -6,6 +6,7 @@
 #include "formats/htr/document.h"
 #include "inspect/compare/motion_comparison.h"
 #include "inspect/compare/structure_comparison.h"
+#include "inspect/report/report.h"
 
 // What `orvane compare` tells of two motion files: as a page for a person, or as JSON for a
 // program. docs/command-line.md documents the JSON; its version changes when a field changes its
@@ -18,6 +19,8 @@ struct ComparisonReport {
   std::string file_b;
   orvane::HtrDocument a;
   orvane::HtrDocument b;
+  orvane::FileReport findings_a;
+  orvane::FileReport findings_b;
   orvane::Tolerance tolerance;
   orvane::StructureComparison structure;  // of `a` and `b`
   orvane::MotionComparison motion;        // of `structure`

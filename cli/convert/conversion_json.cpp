@@ -56,6 +56,7 @@ void WriteFile(JsonWriter& json, const Conversion& conversion) {
   WriteCount(json, "dropouts", conversion, conversion.dropouts);
   WriteTexts(json, "errors", conversion.errors);
   WriteTexts(json, "warnings", WarningsOf(conversion));
+  json.Key("findings");
   WriteFindings(json, conversion.report);
   json.EndObject();
 }

@@ -80,7 +80,7 @@ Read ReadInto(orvane::HtrDocument& document, const std::string& file, std::strin
               bool is_checked) {
   if (!is_checked) return {{}, !orvane::ReadHtrBytes(document, bytes, true).empty()};
   orvane::CheckedFile checked = orvane::CheckHtr(file, bytes, document);
-  const bool is_refused = checked.is_refused;
+  const bool is_refused = !checked.refusal.empty();
   return {std::move(checked), is_refused};
 }
 
@@ -88,7 +88,7 @@ Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::strin
               bool is_checked) {
   if (!is_checked) return {{}, !document.ReadBytes(bytes, false).empty()};
   orvane::CheckedFile checked = orvane::CheckTrc(file, bytes, document);
-  const bool is_refused = checked.is_refused;
+  const bool is_refused = !checked.refusal.empty();
   return {std::move(checked), is_refused};
 }
 

@@ -4,12 +4,11 @@
 #include <iostream>
 #include <memory>
 
-#include "cli/common/input.h"
+#include "cli/common/file_kind.h"
 #include "cli/common/known_messages.h"
-#include "cli/common/messages.h"
+#include "cli/common/told_reading.h"
 #include "cli/info/info_report.h"
 #include "cli/info/trc_info.h"
-#include "formats/htr/reader.h"
 
 namespace cli {
 namespace {
@@ -23,19 +22,16 @@ struct InfoArguments {
   bool hierarchy_only = false;
   bool json = false;
   bool frames = false;
+  ReportManner report;
 };
 
-Failure Refused(const std::string& file, const std::string& text) {
-  return {ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kHtr, text)};
-}
-
-void Read(const std::string& file, bool read_motion, InfoReport& report) {
+void Read(const std::string& file, const InfoArguments& arguments, InfoReport& report) {
   report.file = file;
-  const std::string error = orvane::ReadHtrFile(report.document, file, read_motion);
-  if (!error.empty()) throw Refused(file, error);
-  report.hierarchy = ListHierarchy(report.document);
+  const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
+  report.findings = ReadAndTell(report.document, file, motion, arguments.report);
   if (report.document.segments().empty()) throw Refused(file, kNoSegments);
-  if (read_motion) report.motion = SummarizeMotion(report.document, report.hierarchy);
+  report.hierarchy = ListHierarchy(report.document);
+  if (motion == Motion::kRead) report.motion = SummarizeMotion(report.document, report.hierarchy);
 }
 
 ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
@@ -43,25 +39,25 @@ ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
     throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
   }
   TrcInfoReport report;
-  ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), report);
-  // Long lines pass for several, so that a file can hold markers all the same.
-  if (const auto cause = FindCause(report.file, FileKind::kTrc)) Print(Severity::kWarning, *cause);
+  ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), arguments.report, report);
   if (arguments.json) {
     PrintTrcInfoJson(report, arguments.frames, std::cout);
   } else {
     PrintTrcInfoPage(report, std::cout);
   }
+  WriteReportFile({report.findings}, arguments.report);
   return ExitStatus::kDone;
 }
 
 ExitStatus ShowHtrInfo(const InfoArguments& arguments) {
   InfoReport report;
-  Read(ReadableFile(arguments.input, FileKind::kHtr), !arguments.hierarchy_only, report);
+  Read(ReadableFile(arguments.input, FileKind::kHtr), arguments, report);
   if (arguments.json) {
     PrintInfoJson(report, arguments.frames, std::cout);
   } else {
     PrintInfoPage(report, std::cout);
   }
+  WriteReportFile({report.findings}, arguments.report);
   return ExitStatus::kDone;
 }
 
@@ -79,6 +75,7 @@ void AddInfoCommand(CLI::App& app, Work& work) {
   AddKindChoice(*verb, arguments->kind);
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
                                           "HTR: read the header and the hierarchy, not the motion");
+  AddTellingFlags(*verb, arguments->report);
   CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");
   verb->add_flag("--frames", arguments->frames, "With --json: every value of every frame")
       ->needs(json)

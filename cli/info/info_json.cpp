@@ -1,4 +1,5 @@
 #include "cli/common/json_writer.h"
+#include "cli/common/report.h"
 #include "cli/info/info_report.h"
 #include "formats/units/units.h"
 
@@ -12,7 +13,7 @@ using orvane::MotionSummary;
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 
 template <typename Triple>
 void WriteTriple(JsonWriter& json, const Triple& triple) {
@@ -116,6 +117,8 @@ void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out
   json.Key("file_type");
   json.String("HTR");
   WriteHeader(json, report.document);
+  json.Key("findings");
+  WriteFindings(json, report.findings);
   json.Key("motion");
   if (report.motion) {
     WriteMotion(json, report.document, *report.motion);

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "formats/htr/document.h"
+#include "inspect/report/report.h"
 #include "inspect/summary/motion_summary.h"
 
 // What `orvane info` tells of a motion file: as a page for a person, or as JSON for a program.
@@ -17,7 +18,8 @@ struct InfoReport {
   std::string file;
   orvane::HtrDocument document;
   std::vector<orvane::HierarchyEntry> hierarchy;  // of `document`
-  std::optional<orvane::MotionSummary> motion;    // nothing when the motion was not read
+  orvane::FileReport findings;
+  std::optional<orvane::MotionSummary> motion;  // nothing when the motion was not read
 };
 
 void PrintInfoPage(const InfoReport& report, std::ostream& out);

@@ -2,6 +2,7 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/told_reading.h"
 
 namespace cli {
 namespace {
@@ -27,18 +28,33 @@ class RateListener final : public orvane::TRCReadObserver {
   TrcInfoReport& report_;
 };
 
-Failure Refused(const std::string& file, const std::string& text) {
-  return {ExitStatus::kRefused, ComplainAboutRefusal(file, FileKind::kTrc, text)};
+// The start of a file that tells its rates: three lines.
+std::string_view RateLines(std::string_view bytes) {
+  constexpr int kLines = 3;
+  std::size_t end = 0;
+  for (int line = 0; line < kLines && end != std::string_view::npos; ++line) {
+    end = bytes.find('\n', end);
+    if (end != std::string_view::npos) ++end;
+  }
+  return bytes.substr(0, end);
+}
+
+// Reads the rates once more, for what their texts lose: the checks have an observer of their own.
+void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
+  orvane::TRCDocument header;
+  RateListener listener(report);
+  // What is missing behind the rates has been told, or refused.
+  (void)header.ReadBytes(RateLines(bytes), false, &listener);
 }
 
 }  // namespace
 
-void ReadTrcInfo(const std::string& file, TrcInfoReport& report) {
+void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoReport& report) {
   report.file = file;
-  RateListener listener(report);
-  const std::string error = report.document.Read(file, false, &listener);
-  if (!error.empty()) throw Refused(file, error);
+  const std::string bytes = FileBytes(file);
+  report.findings = ReadAndTell(report.document, file, bytes, manner);
   if (report.document.MarkerCount() == 0) throw Refused(file, kNoMarkers);
+  ReadRateTexts(bytes, report);
   report.summary = SummarizeTrc(report.document);
 }
 

@@ -3,6 +3,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/report_flags.h"
 #include "formats/trc/document.h"
 #include "inspect/summary/trc_summary.h"
 
@@ -16,6 +17,7 @@ struct TrcInfoReport {
   std::string file;
   orvane::TRCDocument document;
   orvane::TrcSummary summary;
+  orvane::FileReport findings;
 
   // Rates as the file has them, when reading took something off; else empty.
   std::string data_rate_text;
@@ -23,7 +25,7 @@ struct TrcInfoReport {
 };
 
 // Reads `file` into `report`. Throws a Failure when it is refused or holds no markers.
-void ReadTrcInfo(const std::string& file, TrcInfoReport& report);
+void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoReport& report);
 
 void PrintTrcInfoPage(const TrcInfoReport& report, std::ostream& out);
 

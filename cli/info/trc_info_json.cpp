@@ -1,4 +1,5 @@
 #include "cli/common/json_writer.h"
+#include "cli/common/report.h"
 #include "cli/info/trc_info.h"
 #include "formats/units/units.h"
 
@@ -11,7 +12,7 @@ using orvane::TrcMarkerSummary;
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 
 void WritePoint(JsonWriter& json, const orvane::Point& point) {
   json.BeginArray(Layout::kOneLine);
@@ -111,6 +112,8 @@ void PrintTrcInfoJson(const TrcInfoReport& report, bool with_frames, std::ostrea
   json.Key("file_type");
   json.String("TRC");
   WriteHeader(json, report);
+  json.Key("findings");
+  WriteFindings(json, report.findings);
   WriteBounds(json, report.summary.bounds);
   WriteMarkers(json, report, with_frames);
   json.EndObject();

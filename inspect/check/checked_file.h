@@ -18,7 +18,7 @@ struct CheckedFile {
   std::string_view kind;  // "HTR"; lives as long as the program
   std::string contents;   // in a few words, such as "21 segments, 120 frames"
   FindingList findings;
-  bool is_refused = false;  // by the reader
+  std::string refusal{};  // what the reader says when it refuses the file; empty when it does not
 };
 
 // Thrown by the checks; the fault is not the file's. what() is a text about the file, such as

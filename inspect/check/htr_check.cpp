@@ -45,8 +45,8 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocumen
   htr::HtrFindingsObserver observer(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &observer);
   observer.LeaveSection();
-  checked.is_refused = observer.HasRefused();
-  if (!checked.is_refused) RequireRead(message);
+  if (observer.HasRefused()) checked.refusal = message;
+  if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   NameFlaw(bytes, checked.findings);

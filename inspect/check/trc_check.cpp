@@ -128,10 +128,10 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   parts.end = {end.line, end.column, 0};
   trc::TrcFindingsObserver observer(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
-  checked.is_refused = observer.HasRefused();
-  if (!checked.is_refused) RequireRead(message);
+  if (observer.HasRefused()) checked.refusal = message;
+  if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
-  if (!checked.is_refused) WholeFile(document, parts, checked.findings).Check();
+  if (checked.refusal.empty()) WholeFile(document, parts, checked.findings).Check();
   NameFlaw(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
