@@ -166,7 +166,7 @@ TEST_F(MappingCreatorTest, AsksWhereToSave) {
   EXPECT_EQ(file_dialogs_, 1);
 }
 
-TEST_F(MappingCreatorTest, KeepsEntriesAndColoursWhenNoFileIsChosen) {
+TEST_F(MappingCreatorTest, KeepsEntriesAndColorsWhenNoFileIsChosen) {
   choice_.paths.clear();
   Create();
   EXPECT_EQ(ObjectsIn(kPickedColor).size(), kCodes.size());
@@ -177,7 +177,7 @@ TEST_F(MappingCreatorTest, KeepsEntriesAndColoursWhenNoFileIsChosen) {
   ExpectNothingLeft();
 }
 
-TEST_F(MappingCreatorTest, KeepsEntriesAndColoursWhenTheFileCannotBeMade) {
+TEST_F(MappingCreatorTest, KeepsEntriesAndColorsWhenTheFileCannotBeMade) {
   // What leads nowhere does not exist, and cannot be made either.
   std::error_code error;
   std::filesystem::create_symlink(folder_.File("no/such/file"), folder_.File("made.mnm"), error);

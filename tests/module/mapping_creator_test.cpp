@@ -43,7 +43,7 @@ TEST_F(MappingCreatorTest, AsksForTheEndsOfTheSticksInstead) {
   EXPECT_EQ(Made(), FileOf(codes));
 }
 
-TEST_F(MappingCreatorTest, ColoursWhatWasPickedAndRedraws) {
+TEST_F(MappingCreatorTest, ColorsWhatWasPickedAndRedraws) {
   Plan("LBHD", [this] {
     EXPECT_THAT(ObjectsIn(kPickedColor), ElementsAre("lfhd"));
     EXPECT_EQ(application_.scene().RedrawCount(), 1U);
@@ -96,7 +96,7 @@ TEST_F(MappingCreatorTest, GoesBackToTheStepBefore) {
   EXPECT_EQ(Made(), FileOf(kCodes));
 }
 
-TEST_F(MappingCreatorTest, RestoresTheColourOfWhatItTakesBack) {
+TEST_F(MappingCreatorTest, RestoresTheColorOfWhatItTakesBack) {
   Plan("LBHD", [this] { Creator().Click(kBack); });
   Plan("LFHD", [this] { Pick("LFHD"); });
   Plan("LFHD", [this] {

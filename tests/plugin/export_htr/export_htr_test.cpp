@@ -178,7 +178,7 @@ TEST_F(ExportHTRTest, ARangeOffAFrameIsTruncatedTowardsZero) {
   EXPECT_EQ(Written().GetNumFrames(), 5U);
 }
 
-TEST_F(ExportHTRTest, CancellingTheDialogIsASuccessThatWritesNothing) {
+TEST_F(ExportHTRTest, CancelingTheDialogIsASuccessThatWritesNothing) {
   MakeSkeleton();
   EXPECT_EQ(ExportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); }), 1);
   EXPECT_FALSE(IsWritten());
@@ -192,7 +192,7 @@ TEST_F(ExportHTRTest, TheDialogComesBeforeTheSelectionIsLookedAt) {
   EXPECT_EQ(desk_.Messages(), "");
 }
 
-TEST_F(ExportHTRTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
+TEST_F(ExportHTRTest, ADialogThatCannotBeCreatedCountsAsCanceled) {
   MakeSkeleton();
   desk_.desktop().RefuseDialog(126);
   EXPECT_EQ(Export(0), 1);

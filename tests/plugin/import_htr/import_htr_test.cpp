@@ -215,7 +215,7 @@ TEST_F(ImportHTRTest, TheDialogStartsWithTheFramesOfTheFile) {
   EXPECT_TRUE(ModesResumed());
 }
 
-TEST_F(ImportHTRTest, CancellingTheDialogIsASuccessThatChangesNothing) {
+TEST_F(ImportHTRTest, CancelingTheDialogIsASuccessThatChangesNothing) {
   EXPECT_EQ(ImportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); }), 1);
   EXPECT_EQ(scene().NodeCount(), 0U);
   EXPECT_TRUE(ModesSuspended());
@@ -223,7 +223,7 @@ TEST_F(ImportHTRTest, CancellingTheDialogIsASuccessThatChangesNothing) {
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 10}));
 }
 
-TEST_F(ImportHTRTest, ADialogThatCannotBeCreatedCountsAsCancelled) {
+TEST_F(ImportHTRTest, ADialogThatCannotBeCreatedCountsAsCanceled) {
   desk_.desktop().RefuseDialog(107);
   EXPECT_EQ(Import(folder_.Write("walk.htr", TwoBones().Text()), 0), 1);
   EXPECT_EQ(scene().NodeCount(), 0U);

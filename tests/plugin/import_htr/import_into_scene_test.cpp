@@ -35,7 +35,7 @@ TEST_F(ImportHTRTest, ASkeletonThatCannotBeMadeFailsSilently) {
   EXPECT_TRUE(ModesSuspended());
 }
 
-TEST_F(ImportHTRTest, CancellingAfterCreationKeepsTheBonesAndKeysNothing) {
+TEST_F(ImportHTRTest, CancelingAfterCreationKeepsTheBonesAndKeysNothing) {
   application_.cancellation().AtQuery(1);
   EXPECT_EQ(Import(TwoBones()), 0);
   EXPECT_EQ(ChildNames(scene().Root()), "Hips");

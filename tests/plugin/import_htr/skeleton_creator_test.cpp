@@ -129,7 +129,7 @@ TEST_F(SkeletonCreatorTest, BonesAreSizedByLengthSegmentSizeAndScale) {
   }
 }
 
-TEST_F(SkeletonCreatorTest, BonesAreShownAsBonesInTheHostsColour) {
+TEST_F(SkeletonCreatorTest, BonesAreShownAsBonesInTheHostsColor) {
   scene().Animation().SetTime(640);
   Create(Add("Hips"));
   const host::Node& node = Node("Hips");

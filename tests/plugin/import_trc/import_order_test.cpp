@@ -100,7 +100,7 @@ TEST_F(ImportTRCTest, AFileWithoutMarkersImportsNothing) {
   EXPECT_EQ(Suspensions(), Counts(0, 0));
 }
 
-TEST_F(ImportTRCTest, CancellingTheDialogChangesNothingAndLeavesTheModesSuspended) {
+TEST_F(ImportTRCTest, CancelingTheDialogChangesNothingAndLeavesTheModesSuspended) {
   ImportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); });
   EXPECT_EQ(scene().NodeCount(), 0u);
   EXPECT_EQ(desk_.Messages(), "");
@@ -108,7 +108,7 @@ TEST_F(ImportTRCTest, CancellingTheDialogChangesNothingAndLeavesTheModesSuspende
   EXPECT_EQ(Percentages(), (std::vector<int>{0, 10}));
 }
 
-TEST_F(ImportTRCTest, CancellingTheBarKeepsTheMarkersThatAreDone) {
+TEST_F(ImportTRCTest, CancelingTheBarKeepsTheMarkersThatAreDone) {
   application_.cancellation().AtQuery(2);
   Import(TwoMarkers());
   EXPECT_EQ(SceneNames(), "LFHD");

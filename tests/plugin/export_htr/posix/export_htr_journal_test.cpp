@@ -116,7 +116,7 @@ TEST(ExportHTRJournal, WithTheDialog) {
   }));
 }
 
-TEST(ExportHTRJournal, CancelledInTheDialog) {
+TEST(ExportHTRJournal, CanceledInTheDialog) {
   Stage stage;
   Expect("cancelled_in_dialog",
          stage.ExportWith([](host::ScriptedDialog& dialog) { dialog.Click(kCancel); }));

@@ -204,12 +204,12 @@ TEST(ImportHTRJournal, CreateRefused) {
   Expect("create_refused", lines);
 }
 
-TEST(ImportHTRJournal, CreateCancelled) {
+TEST(ImportHTRJournal, CreateCanceled) {
   const Import create{"create", [](Stage&) {}};
   Expect("create_cancelled", create.CancelledAt(1));
 }
 
-TEST(ImportHTRJournal, CancelledInTheDialog) {
+TEST(ImportHTRJournal, CanceledInTheDialog) {
   Stage stage;
   HtrText file = TwoBones();
   file.first_frame = 7;

@@ -173,7 +173,7 @@ TEST(ImportTRCJournal, CreateRefused) {
   Expect("create_refused", lines);
 }
 
-TEST(ImportTRCJournal, CreateCancelled) {
+TEST(ImportTRCJournal, CreateCanceled) {
   const Import spheres{"create_spheres", PrepareSpheres};
   JournalLines lines;
   for (const int n : {1, 2}) Append(lines, spheres.CancelledAt(n));
@@ -193,7 +193,7 @@ TEST(ImportTRCJournal, ApplyRefused) {
   Expect("apply_refused", lines);
 }
 
-TEST(ImportTRCJournal, CancelledInTheDialog) {
+TEST(ImportTRCJournal, CanceledInTheDialog) {
   Stage stage;
   TrcText file = TwoMarkers();
   file.first_frame = 7;
