@@ -12,14 +12,14 @@
 namespace platform {
 
 // ".orvane-PROCESS-NUMBER".
-std::string AsideName(std::uint32_t process, int number);
+[[nodiscard]] std::string AsideName(std::uint32_t process, int number);
 
 // "~orvane-folder-PROCESS-NUMBER". Not hidden: the system lets its user choose no folder that is.
-std::string ScratchFolderName(std::uint32_t process, int number);
+[[nodiscard]] std::string ScratchFolderName(std::uint32_t process, int number);
 
 // The process in a name of the one kind or the other; nothing when `name` is not exactly what the
 // functions above make.
-std::optional<std::uint32_t> ProcessOfAsideName(std::string_view name);
-std::optional<std::uint32_t> ProcessOfScratchFolderName(std::string_view name);
+[[nodiscard]] std::optional<std::uint32_t> ProcessOfAsideName(std::string_view name);
+[[nodiscard]] std::optional<std::uint32_t> ProcessOfScratchFolderName(std::string_view name);
 
 }  // namespace platform

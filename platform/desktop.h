@@ -22,11 +22,12 @@ namespace platform {
 // platform/registry.h say.
 class Registry {
  public:
-  virtual RegistryKey* CreateKey(RegistryKey* parent, const char* path) = 0;
+  [[nodiscard]] virtual RegistryKey* CreateKey(RegistryKey* parent, const char* path) = 0;
   virtual void CloseKey(RegistryKey* key) = 0;
-  virtual bool QueryValue(RegistryKey* key, const char* name, void* data, std::size_t& size) = 0;
-  virtual bool SetValue(RegistryKey* key, const char* name, RegistryType type, const void* data,
-                        std::size_t size) = 0;
+  [[nodiscard]] virtual bool QueryValue(RegistryKey* key, const char* name, void* data,
+                                        std::size_t& size) = 0;
+  [[nodiscard]] virtual bool SetValue(RegistryKey* key, const char* name, RegistryType type,
+                                      const void* data, std::size_t size) = 0;
 
  protected:
   ~Registry() = default;
@@ -42,23 +43,24 @@ class Desktop {
   virtual int RunDialog(HINSTANCE module, int dialog_id, HWND parent, DialogHandler& handler) = 0;
 
   // As CreateModelessDialog, ShowModelessDialog and DestroyModelessDialog.
-  virtual Dialog* CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
-                                 DialogHandler& handler) = 0;
+  [[nodiscard]] virtual Dialog* CreateModeless(HINSTANCE module, int dialog_id, HWND parent,
+                                               DialogHandler& handler) = 0;
   virtual void ShowModeless(Dialog& dialog) = 0;
   virtual void DestroyModeless(Dialog& dialog) = 0;
 
   // The modeless dialog whose window `window` is, or null.
-  virtual Dialog* FindModeless(HWND window) = 0;
+  [[nodiscard]] virtual Dialog* FindModeless(HWND window) = 0;
 
   // Lets the user do what he has been waiting to do. `awaited` tells that the application waits for
   // him. Returns false when nobody is there any more who could do anything: the application ends
   // then.
-  virtual bool ProcessPendingMessages(bool awaited) = 0;
+  [[nodiscard]] virtual bool ProcessPendingMessages(bool awaited) = 0;
 
   // As their namesakes in platform/file_dialog.h.
-  virtual bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
-                           std::size_t& name_offset) = 0;
-  virtual bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) = 0;
+  [[nodiscard]] virtual bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
+                                         std::size_t& name_offset) = 0;
+  [[nodiscard]] virtual bool ChooseFolder(HWND owner, const char* title, char* buffer,
+                                          std::size_t size) = 0;
 
  protected:
   ~Desktop() = default;

@@ -17,11 +17,11 @@ namespace platform {
 class Dialog {
  public:
   // The dialog's window, for use as an owner or to be centred. Valid until the dialog ends.
-  virtual HWND Window() = 0;
+  [[nodiscard]] virtual HWND Window() = 0;
 
   // The window of a control, for the host's own kinds of control; null when the dialog has no such
   // control. Valid until the dialog ends.
-  virtual HWND ControlWindow(int control) = 0;
+  [[nodiscard]] virtual HWND ControlWindow(int control) = 0;
 
   virtual void SetText(int control, const char* text) = 0;
 
@@ -30,7 +30,7 @@ class Dialog {
   virtual std::size_t GetText(int control, char* buffer, std::size_t size) = 0;
 
   virtual void SetChecked(int control, bool checked) = 0;
-  virtual bool IsChecked(int control) = 0;
+  [[nodiscard]] virtual bool IsChecked(int control) = 0;
   virtual void SetEnabled(int control, bool enabled) = 0;
 
   // Ends a modal dialog: RunModalDialog returns `result` once the handler has returned. Does
@@ -81,8 +81,8 @@ using ModelessDialog = std::unique_ptr<Dialog, ModelessDialogDeleter>;
 
 // Creates dialog `dialog_id` of `module` over `parent`, not shown yet, and lets `handler` fill it.
 // Returns null when it cannot be created. `handler` stays the caller's and must outlive the dialog.
-ModelessDialog CreateModelessDialog(HINSTANCE module, int dialog_id, HWND parent,
-                                    DialogHandler& handler);
+[[nodiscard]] ModelessDialog CreateModelessDialog(HINSTANCE module, int dialog_id, HWND parent,
+                                                  DialogHandler& handler);
 
 void ShowModelessDialog(Dialog& dialog);
 

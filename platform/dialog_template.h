@@ -58,6 +58,6 @@ inline constexpr std::uint32_t kStyleReadOnly = 0x0800;   // of an edit control
 
 // Reads the bytes of an extended dialog resource (DIALOGEX).
 // Returns nothing when they are cut short or another kind of resource.
-std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::byte> bytes);
+[[nodiscard]] std::optional<DialogTemplate> ParseDialogTemplate(std::span<const std::byte> bytes);
 
 }  // namespace platform

@@ -36,16 +36,16 @@ struct FileDialog {
 // of a file in it, every one ended by a NUL and the last one by two. A folder ends with a separator
 // only when it is the root of a file system. `name_offset` is the place of the (first) file name
 // in `buffer`. The process's current folder stays what it is.
-bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
-                 std::size_t& name_offset);
+[[nodiscard]] bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
+                               std::size_t& name_offset);
 
 // Shows a dialog titled `title` over `owner` in which the user chooses a folder, and waits. Returns
 // false when he cancels, when the dialog cannot be shown, and when the path does not fit into
 // `buffer`, which has room for `size` bytes; otherwise the path of the folder stands there, ended
 // by a NUL.
-bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size);
+[[nodiscard]] bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size);
 
 // What stands between a folder and a file name in a path.
-char PathSeparator();
+[[nodiscard]] char PathSeparator();
 
 }  // namespace platform

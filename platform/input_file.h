@@ -9,6 +9,6 @@ namespace platform {
 
 // Returns why the regular file `path` cannot be read, in the system's words ("No such file or
 // directory"), or an empty text when it can.
-std::string WhyUnreadable(const std::string& path);
+[[nodiscard]] std::string WhyUnreadable(const std::string& path);
 
 }  // namespace platform

@@ -16,6 +16,6 @@ void CatchInterrupts();
 void HoldInterrupts();
 
 // Whether the user has asked to stop since CatchInterrupts.
-bool Interrupted();
+[[nodiscard]] bool Interrupted();
 
 }  // namespace platform

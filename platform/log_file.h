@@ -9,14 +9,14 @@ namespace platform {
 
 // The path of the plug-in's log: a fixed one on Windows, a file in the user's state folder
 // elsewhere; empty when the user has no such folder.
-std::string LogFilePath();
+[[nodiscard]] std::string LogFilePath();
 
 // An open log. Other processes may read and write the file meanwhile. Closed when destroyed.
 class LogFile {
  public:
   // Opens `path` for appending and creates it (and, off Windows, its folder) when it does not
   // exist; never truncates. Returns null when that fails.
-  static std::unique_ptr<LogFile> Open(const std::string& path);
+  [[nodiscard]] static std::unique_ptr<LogFile> Open(const std::string& path);
 
   virtual ~LogFile() = default;
 

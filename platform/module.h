@@ -7,6 +7,6 @@
 namespace platform {
 
 // The handle of the running module, or null while the system has not attached it yet.
-HINSTANCE ModuleHandle();
+[[nodiscard]] HINSTANCE ModuleHandle();
 
 }  // namespace platform

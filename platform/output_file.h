@@ -23,36 +23,36 @@ class OutputFile {
   OutputFile& operator=(const OutputFile&) = delete;
 
   // Whether a file is there that would be replaced if that were allowed.
-  bool IsTaken() const;
+  [[nodiscard]] bool IsTaken() const;
 
   // Whether a file is there that nobody may write, whatever this user may otherwise do. It is never
   // replaced.
-  bool IsReadOnly() const;
+  [[nodiscard]] bool IsReadOnly() const;
 
   // Returns why the file cannot be made, as far as it can be told before trying, or an empty text.
-  std::string WhyImpossible() const;
+  [[nodiscard]] std::string WhyImpossible() const;
 
   // The folder that the file is to lie in: of one that a link stands for, its own. Who writes it
   // there can hand it to TakeOver.
-  std::string Folder() const;
+  [[nodiscard]] std::string Folder() const;
 
   // Writes `bytes` beside the file's place and waits until they are on the disk. Returns an empty
   // text, or what went wrong in the system's words. Call it once.
-  std::string Write(std::string_view bytes);
+  [[nodiscard]] std::string Write(std::string_view bytes);
 
   // As Write, but with the bytes of the finished file `path`, which lies on the same disk, such as
   // in a folder in Folder(), and is this object's from now on.
-  std::string TakeOver(const std::string& path);
+  [[nodiscard]] std::string TakeOver(const std::string& path);
 
   // Gives what Write has written its name. An existing file is replaced in one step when that is
   // allowed, and kept otherwise, even one that has appeared in the meantime. Returns an empty text,
   // or what went wrong in the system's words; the file's place is then as it was.
-  std::string Deliver();
+  [[nodiscard]] std::string Deliver();
 
  private:
-  std::string CreateAside();
-  std::string FillAside(std::string_view bytes);
-  std::string Finish() const;
+  [[nodiscard]] std::string CreateAside();
+  [[nodiscard]] std::string FillAside(std::string_view bytes);
+  [[nodiscard]] std::string Finish() const;
   void Close();
 
   std::string path_;

@@ -9,11 +9,11 @@
 
 namespace platform {
 
-inline std::filesystem::path PathOf(std::string_view text) {
+[[nodiscard]] inline std::filesystem::path PathOf(std::string_view text) {
   return std::u8string(text.begin(), text.end());
 }
 
-inline std::string TextOf(const std::filesystem::path& path) {
+[[nodiscard]] inline std::string TextOf(const std::filesystem::path& path) {
   const std::u8string text = path.u8string();
   return {text.begin(), text.end()};
 }

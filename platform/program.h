@@ -7,7 +7,7 @@
 namespace platform {
 
 // The folder that the program's file is in, or "." when the system does not tell.
-std::string ProgramFolder();
+[[nodiscard]] std::string ProgramFolder();
 
 // From now on whatever windows this thread opens are where nobody sees them, unless the environment
 // variable ORVANE_VISIBLE is set. Call it before the thread has any. Without windows of the

@@ -22,7 +22,7 @@ struct RegistryKey;
 // Opens the key `path` (components separated by backslashes) beneath `parent`, or beneath the root
 // of the current user when `parent` is null, for reading and writing; creates what is missing.
 // Returns the open key, which the caller hands to CloseRegistryKey; null on failure.
-RegistryKey* CreateRegistryKey(RegistryKey* parent, const char* path);
+[[nodiscard]] RegistryKey* CreateRegistryKey(RegistryKey* parent, const char* path);
 
 // Closes a key that CreateRegistryKey returned. Null is allowed and does nothing.
 void CloseRegistryKey(RegistryKey* key);
@@ -31,11 +31,12 @@ void CloseRegistryKey(RegistryKey* key);
 // value's type is not looked at.
 // Returns true and stores the number of bytes copied in `size`. Returns false, changing neither
 // `data` nor `size`, when there is no such value or it holds more than `size` bytes.
-bool QueryRegistryValue(RegistryKey* key, const char* name, void* data, std::size_t& size);
+[[nodiscard]] bool QueryRegistryValue(RegistryKey* key, const char* name, void* data,
+                                      std::size_t& size);
 
 // Stores `size` bytes as the value `name` of `key`, replacing what was there.
 // Returns false when the registry refuses.
-bool SetRegistryValue(RegistryKey* key, const char* name, RegistryType type, const void* data,
-                      std::size_t size);
+[[nodiscard]] bool SetRegistryValue(RegistryKey* key, const char* name, RegistryType type,
+                                    const void* data, std::size_t size);
 
 }  // namespace platform

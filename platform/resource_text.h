@@ -14,7 +14,7 @@ namespace platform {
 
 // Turns UTF-16, little-endian, into UTF-8. What is no valid UTF-16 becomes U+FFFD; an odd last
 // byte is dropped.
-std::string Utf8FromUtf16(std::span<const std::byte> utf16);
+[[nodiscard]] std::string Utf8FromUtf16(std::span<const std::byte> utf16);
 
 // Reads a text that ends with a zero, and the zero. On failure the text is what there was of it.
 std::string ReadText(ByteReader& reader);

@@ -17,13 +17,13 @@ class ScratchFolder {
   ~ScratchFolder();
 
   // Why it could not be made, in the system's words, or an empty text.
-  const std::string& Error() const { return error_; }
+  [[nodiscard]] const std::string& Error() const { return error_; }
 
   // Of the folder, when it could be made: absolute.
-  const std::string& Path() const { return path_; }
+  [[nodiscard]] const std::string& Path() const { return path_; }
 
  private:
-  bool Make(const std::string& path);
+  [[nodiscard]] bool Make(const std::string& path);
 
   std::string path_;
   std::string error_;

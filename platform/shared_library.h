@@ -16,12 +16,13 @@ class SharedLibrary {
   // with all its references resolved at once and its names kept to itself; its statics are
   // constructed before this returns.
   // Returns null when that fails, with the system's reason in `failure`.
-  static std::unique_ptr<SharedLibrary> Open(const std::string& path, std::string& failure);
+  [[nodiscard]] static std::unique_ptr<SharedLibrary> Open(const std::string& path,
+                                                           std::string& failure);
 
   virtual ~SharedLibrary() = default;
 
   // The address of the exported function `name`, or null when the library exports no such name.
-  virtual void* Find(const char* name) = 0;
+  [[nodiscard]] virtual void* Find(const char* name) = 0;
 };
 
 }  // namespace platform

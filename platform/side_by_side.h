@@ -11,7 +11,7 @@
 namespace platform {
 
 // How many processors there are to work on; at least 1.
-std::size_t ProcessorCount();
+[[nodiscard]] std::size_t ProcessorCount();
 
 struct SideBySide {
   // Does piece number `index`, counted from 0, and returns its result as bytes. Runs in another
@@ -35,7 +35,8 @@ struct SideBySide {
 //
 // The user's wish to stop (platform/interrupt.h) is passed on: running pieces find it with
 // Interrupted, and no others are begun.
-std::vector<std::optional<std::string>> RunSideBySide(std::size_t count, std::size_t processes,
-                                                      const SideBySide& pieces);
+[[nodiscard]] std::vector<std::optional<std::string>> RunSideBySide(std::size_t count,
+                                                                    std::size_t processes,
+                                                                    const SideBySide& pieces);
 
 }  // namespace platform

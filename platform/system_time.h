@@ -8,7 +8,7 @@
 namespace platform {
 
 // The current local time of the system, its day of the week included.
-std::tm SystemTime();
+[[nodiscard]] std::tm SystemTime();
 
 // As SkelderStoppedClock, and null where the host does not provide that.
 const std::int64_t* ProgramClock();

@@ -5,10 +5,10 @@
 namespace platform {
 
 // True when the process's standard error goes to a terminal.
-bool ErrorIsTerminal();
+[[nodiscard]] bool ErrorIsTerminal();
 
 // Columns of that terminal; 0 when it does not tell, or when it is none.
-int ErrorColumns();
+[[nodiscard]] int ErrorColumns();
 
 // As long as it exists, a console takes what is written to it as UTF-8; then as before. Terminals
 // elsewhere than on Windows do so anyway, and where there is no console nothing happens.

@@ -15,7 +15,7 @@ namespace host {
 
 // Whether `plugin` is for files of `extension`.
 template <typename Plugin>
-bool HasExtension(Plugin& plugin, std::string_view extension) {
+[[nodiscard]] bool HasExtension(Plugin& plugin, std::string_view extension) {
   for (int n = 0; n < plugin.ExtCount(); ++n) {
     const char* offered = plugin.Ext(n);
     if (offered != nullptr && SameButForCase(offered, extension)) return true;
@@ -26,8 +26,9 @@ bool HasExtension(Plugin& plugin, std::string_view extension) {
 // A new instance of the first class of `super_class` whose instances are for `extension`; null when
 // there is none. `Plugin` is the base class of the plug-ins of `super_class`.
 template <typename Plugin>
-std::unique_ptr<Plugin> CreateByExtension(const ModuleEntry& entry, SuperClassId super_class,
-                                          std::string_view extension) {
+[[nodiscard]] std::unique_ptr<Plugin> CreateByExtension(const ModuleEntry& entry,
+                                                        SuperClassId super_class,
+                                                        std::string_view extension) {
   for (int i = 0; i < entry.number_of_classes(); ++i) {
     ClassDesc2* descriptor = entry.class_descriptor(i);
     if (descriptor == nullptr || descriptor->SuperClassID() != super_class) continue;

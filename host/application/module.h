@@ -48,8 +48,8 @@ class SKELDER_API Module {
   // module, because its option records open their registry keys meanwhile.
   // Returns null when it cannot be loaded or is refused, with a sentence naming the file and the
   // reason in `refusal`.
-  static std::unique_ptr<Module> Load(const std::string& path, const ModuleHost& host,
-                                      std::string& refusal);
+  [[nodiscard]] static std::unique_ptr<Module> Load(const std::string& path, const ModuleHost& host,
+                                                    std::string& refusal);
 
   Module(const Module&) = delete;
   Module& operator=(const Module&) = delete;
@@ -68,22 +68,22 @@ class SKELDER_API Module {
   // A new importer or exporter of the first class that has one for `extension`, which is without
   // its dot and in either case. Null when no class has, or it gave no instance. To be destroyed
   // before the module is unloaded.
-  std::unique_ptr<SceneImport> CreateImporter(std::string_view extension) const;
-  std::unique_ptr<SceneExport> CreateExporter(std::string_view extension) const;
+  [[nodiscard]] std::unique_ptr<SceneImport> CreateImporter(std::string_view extension) const;
+  [[nodiscard]] std::unique_ptr<SceneExport> CreateExporter(std::string_view extension) const;
 
   // A new utility of the class named `class_name`; null when there is none, or it gave no instance.
   // To be destroyed before the module is unloaded.
-  std::unique_ptr<UtilityObj> CreateUtility(std::string_view class_name) const;
+  [[nodiscard]] std::unique_ptr<UtilityObj> CreateUtility(std::string_view class_name) const;
 
   // Imports the file `path` into the application's scene with the importer for its extension, or
   // for another `extension`, without its dot. Returns nothing when there is no such importer.
-  std::optional<FileResult> Import(const std::string& path, bool suppress_prompts);
-  std::optional<FileResult> Import(const std::string& path, std::string_view extension,
-                                   bool suppress_prompts);
+  [[nodiscard]] std::optional<FileResult> Import(const std::string& path, bool suppress_prompts);
+  [[nodiscard]] std::optional<FileResult> Import(const std::string& path,
+                                                 std::string_view extension, bool suppress_prompts);
 
   // Exports from the application's scene to the file `path` with the exporter for its extension.
   // Returns nothing when there is no such exporter.
-  std::optional<FileResult> Export(const std::string& path, bool suppress_prompts);
+  [[nodiscard]] std::optional<FileResult> Export(const std::string& path, bool suppress_prompts);
 
  private:
   friend SKELDER_API ModuleLeftovers UnloadModule(std::unique_ptr<Module> module);

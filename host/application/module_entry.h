@@ -23,8 +23,9 @@ struct ModuleEntry {
 // version is called.
 // Returns nothing, with the reason in `refusal`, when one is missing or the module was made for
 // another interface than `interface_number`.
-std::optional<ModuleEntry> FindModuleEntry(platform::SharedLibrary& library,
-                                           const std::string& path, std::uint32_t interface_number,
-                                           std::string& refusal);
+[[nodiscard]] std::optional<ModuleEntry> FindModuleEntry(platform::SharedLibrary& library,
+                                                         const std::string& path,
+                                                         std::uint32_t interface_number,
+                                                         std::string& refusal);
 
 }  // namespace host

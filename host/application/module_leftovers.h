@@ -20,7 +20,7 @@ struct SKELDER_API ModuleLeftovers {
   std::size_t loose_instances = 0;     // objects and controllers neither given away nor deleted
   std::size_t callbacks = 0;           // callbacks that the application would still call
 
-  bool IsClean() const;
+  [[nodiscard]] bool IsClean() const;
 };
 
 // What is taken from the host at one moment, by whomever.

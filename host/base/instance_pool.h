@@ -38,7 +38,7 @@ class SKELDER_API InstancePool {
   // Hands the ownership of `instance` over. Returns null, and notes a misuse, when the pool does
   // not hold it or when it is no `Kind`.
   template <typename Kind, typename Interface>
-  std::unique_ptr<Kind> Take(Interface* instance) {
+  [[nodiscard]] std::unique_ptr<Kind> Take(Interface* instance) {
     auto* wanted = dynamic_cast<Kind*>(instance);
     if (!Remove(wanted, "given to the scene")) return nullptr;
     return std::unique_ptr<Kind>(wanted);
@@ -52,7 +52,7 @@ class SKELDER_API InstancePool {
 
  private:
   // Gives up the ownership of `instance`; false and a misuse when it is null or not here.
-  bool Remove(Instance* instance, const char* purpose);
+  [[nodiscard]] bool Remove(Instance* instance, const char* purpose);
 
   MisuseLog& misuse_;
   std::unordered_map<Instance*, std::unique_ptr<Instance>> instances_;

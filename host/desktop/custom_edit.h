@@ -9,6 +9,6 @@
 namespace host {
 
 // The host's own edit control that `window` is, or null. Valid as long as the window.
-ICustEdit* CustomEditOf(HWND window);
+[[nodiscard]] ICustEdit* CustomEditOf(HWND window);
 
 }  // namespace host

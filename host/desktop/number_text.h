@@ -11,6 +11,6 @@ namespace host {
 
 // The number that `text` is, as the host's own edit control reads it: the whole text has to be a
 // number that fits, but for blanks around it. Nothing when it is none.
-SKELDER_API std::optional<float> NumberIn(std::string_view text);
+[[nodiscard]] SKELDER_API std::optional<float> NumberIn(std::string_view text);
 
 }  // namespace host

@@ -17,8 +17,9 @@ class Page {
  public:
   // Creates the page from dialog `dialog_id` of `module` and shows it. `procedure` gets `parameter`
   // when it is to initialise the dialog. Returns null when the dialog cannot be created.
-  static std::unique_ptr<Page> Open(HINSTANCE module, int dialog_id, HWND parent,
-                                    platform::DialogProcedure procedure, std::intptr_t parameter);
+  [[nodiscard]] static std::unique_ptr<Page> Open(HINSTANCE module, int dialog_id, HWND parent,
+                                                  platform::DialogProcedure procedure,
+                                                  std::intptr_t parameter);
 
   Page(const Page&) = delete;
   Page& operator=(const Page&) = delete;

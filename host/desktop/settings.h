@@ -72,7 +72,7 @@ class SKELDER_API UserSettings final : public Settings {
   ~UserSettings();
 
   // Where they are kept, for a message to the user; empty when this user has no place for settings.
-  static std::string Place();
+  [[nodiscard]] static std::string Place();
 
   // Whether they can be read and written.
   [[nodiscard]] bool IsOpen() const;

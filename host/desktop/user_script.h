@@ -25,20 +25,22 @@ class UserScript {
   [[nodiscard]] const ScriptFailure& Failure() const { return failure_; }
 
   // Notes the message and returns the button that the user presses, or kMessageBoxFailed.
-  int AnswerMessage(std::string text, std::string caption, platform::MessageBoxStyle style);
+  [[nodiscard]] int AnswerMessage(std::string text, std::string caption,
+                                  platform::MessageBoxStyle style);
 
   // Lets the user use `dialog`, which is open, until it has ended. Returns false on failure.
   bool UseDialog(ScriptedDialog& dialog);
 
   // Let the user choose, and hand what he chose to `take`, which may throw a ScriptError. Return
   // false when he cancels, and on failure; otherwise what `take` returns.
-  bool ChooseFiles(const ShownFileDialog& dialog,
-                   const std::function<bool(const FileChoice&)>& take);
-  bool ChooseFolder(const std::string& title, const std::function<bool(const std::string&)>& take);
+  [[nodiscard]] bool ChooseFiles(const ShownFileDialog& dialog,
+                                 const std::function<bool(const FileChoice&)>& take);
+  [[nodiscard]] bool ChooseFolder(const std::string& title,
+                                  const std::function<bool(const std::string&)>& take);
 
   // Lets the user act, who is awaited. Returns false when he has nothing left to do, which is a
   // failure, and on any other.
-  bool Act();
+  [[nodiscard]] bool Act();
 
  private:
   // The answer that `ask` gives, or `none` once there was a failure, which may be its own.

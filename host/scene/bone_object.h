@@ -23,7 +23,7 @@ class SKELDER_API BoneObject final : public SceneObjectOf<::Object>, private Par
   std::vector<double> Parameters() const override {
     return {parameters_.begin(), parameters_.end()};
   }
-  bool SetParameters(const std::vector<double>& values) override;
+  [[nodiscard]] bool SetParameters(const std::vector<double>& values) override;
 
   ParameterBlock* GetFirstParameterBlock() override { return this; }
 

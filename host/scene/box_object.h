@@ -16,7 +16,7 @@ class SKELDER_API BoxObject final : public SceneObjectOf<DummyObject> {
   const Box3& Box() const { return box_; }
 
   std::vector<double> Parameters() const override;
-  bool SetParameters(const std::vector<double>& values) override;
+  [[nodiscard]] bool SetParameters(const std::vector<double>& values) override;
 
   void SetBox(const Box3& box) override { box_ = box; }
 

@@ -24,7 +24,7 @@ class SKELDER_API SphereObject final : public SceneObjectOf<::Object>, private I
   std::vector<double> Parameters() const override {
     return {parameters_.begin(), parameters_.end()};
   }
-  bool SetParameters(const std::vector<double>& values) override;
+  [[nodiscard]] bool SetParameters(const std::vector<double>& values) override;
 
   IParamBlock* GetParamBlock() override { return this; }
 

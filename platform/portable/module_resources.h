@@ -15,7 +15,7 @@ struct HINSTANCE__ {
 namespace platform {
 
 // The resource file of `module`; empty when `module` is null.
-inline std::span<const std::byte> ResourceFileOf(HINSTANCE module) {
+[[nodiscard]] inline std::span<const std::byte> ResourceFileOf(HINSTANCE module) {
   return module == nullptr ? std::span<const std::byte>() : module->resource_file;
 }
 

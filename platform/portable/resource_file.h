@@ -24,13 +24,14 @@ enum class ResourceType : std::uint16_t {
 };
 
 // The data of resource `id`, a view into `file`; empty when there is none.
-std::span<const std::byte> FindResource(std::span<const std::byte> file, ResourceType type,
-                                        unsigned int id);
+[[nodiscard]] std::span<const std::byte> FindResource(std::span<const std::byte> file,
+                                                      ResourceType type, unsigned int id);
 
 // Entry `id` of the string table in UTF-8; empty when there is none.
-std::string FindString(std::span<const std::byte> file, unsigned int id);
+[[nodiscard]] std::string FindString(std::span<const std::byte> file, unsigned int id);
 
 // Dialog `id`; nothing when it is absent or damaged.
-std::optional<DialogTemplate> FindDialog(std::span<const std::byte> file, unsigned int id);
+[[nodiscard]] std::optional<DialogTemplate> FindDialog(std::span<const std::byte> file,
+                                                       unsigned int id);
 
 }  // namespace platform

@@ -10,6 +10,6 @@ namespace platform {
 // `variable` names or, when it is not set or (which XDG forbids) relative, of
 // `fallback` beneath the user's home.
 // Returns the path; empty when the user has no home either. Creates nothing.
-std::string UserFile(const char* variable, const char* fallback, const char* name);
+[[nodiscard]] std::string UserFile(const char* variable, const char* fallback, const char* name);
 
 }  // namespace platform

@@ -20,11 +20,11 @@ namespace platform {
 class PieceWorker {
  public:
   // Starts one; null when there is no process to be had.
-  static std::unique_ptr<PieceWorker> Start();
+  [[nodiscard]] static std::unique_ptr<PieceWorker> Start();
 
   // Waits until the worker has come to the call. Returns false when it never does, or with another
   // number of pieces than `count`.
-  bool WaitUntilReady(std::size_t count);
+  [[nodiscard]] bool WaitUntilReady(std::size_t count);
 
   // What a piece came to, if it came to a result, and whether the worker lives on.
   struct Answer {
@@ -33,7 +33,7 @@ class PieceWorker {
   };
 
   // Has it do piece `index` and waits for that.
-  Answer Do(std::size_t index);
+  [[nodiscard]] Answer Do(std::size_t index);
 
  private:
   PieceWorker(OwnedHandle process, OwnedHandle orders, OwnedHandle answers);
@@ -50,7 +50,7 @@ struct WorkerPipes {
 };
 
 // Those of this process, if it is a worker.
-std::optional<WorkerPipes> OwnWorkerPipes();
+[[nodiscard]] std::optional<WorkerPipes> OwnWorkerPipes();
 
 // The life of a worker once it has come to the call: does pieces until no more are asked for, and
 // ends the process.

@@ -20,7 +20,7 @@ class OwnedHandle {
   OwnedHandle& operator=(OwnedHandle&& other) noexcept;
   ~OwnedHandle();
 
-  HANDLE Get() const { return handle_; }
+  [[nodiscard]] HANDLE Get() const { return handle_; }
   HANDLE Release();
 
  private:
@@ -33,15 +33,15 @@ struct Pipe {
 };
 
 // A pipe whose ends new processes do not get, or nothing.
-std::optional<Pipe> MakePipe();
+[[nodiscard]] std::optional<Pipe> MakePipe();
 
 // Writes a number, or a number of bytes and these. Returns false when nobody reads.
-bool SendNumber(HANDLE writer, std::uint64_t number);
-bool SendBytes(HANDLE writer, std::string_view bytes);
+[[nodiscard]] bool SendNumber(HANDLE writer, std::uint64_t number);
+[[nodiscard]] bool SendBytes(HANDLE writer, std::string_view bytes);
 
 // What the other end has sent with the namesake, once all of it is there; nothing when that end is
 // closed before.
-std::optional<std::uint64_t> ReceiveNumber(HANDLE reader);
-std::optional<std::string> ReceiveBytes(HANDLE reader);
+[[nodiscard]] std::optional<std::uint64_t> ReceiveNumber(HANDLE reader);
+[[nodiscard]] std::optional<std::string> ReceiveBytes(HANDLE reader);
 
 }  // namespace platform

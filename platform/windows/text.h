@@ -9,12 +9,12 @@
 namespace platform {
 
 // What is not valid in the one encoding becomes U+FFFD in the other.
-std::wstring WideFromUtf8(const std::string& text);
-std::string Utf8FromWide(const std::wstring& text);
+[[nodiscard]] std::wstring WideFromUtf8(const std::string& text);
+[[nodiscard]] std::string Utf8FromWide(const std::wstring& text);
 
 // The system's words for its error `number`, or for the last one of this thread, without a line
 // end. Errors that the C library knows have its words, as in the rest of the program.
-std::string ErrorText(unsigned long number);
-std::string LastErrorText();
+[[nodiscard]] std::string ErrorText(unsigned long number);
+[[nodiscard]] std::string LastErrorText();
 
 }  // namespace platform

@@ -120,7 +120,7 @@ TEST_F(ImportTest, NoAllocationOfTheHostsIsIndispensable) {
   const std::string path = File();
   for (std::size_t n = 1; n <= 8; ++n) {
     host::RefuseAllocation(n);
-    module_->Import(path, true);
+    static_cast<void>(module_->Import(path, true));
     host::RefuseAllocation(0);
     EXPECT_FALSE(application_.progress().IsOpen()) << n;
   }

@@ -36,8 +36,8 @@ class SKELDER_API KeyedRegistry : public platform::Registry {
 
   // The value `name` of the key with the full path `path` (components separated by backslashes),
   // for whoever looks at the registry from outside; nothing when there is none.
-  virtual std::optional<RegistryValue> FindValue(const std::string& path,
-                                                 const std::string& name) = 0;
+  [[nodiscard]] virtual std::optional<RegistryValue> FindValue(const std::string& path,
+                                                               const std::string& name) = 0;
 
  protected:
   KeyedRegistry();
@@ -45,12 +45,12 @@ class SKELDER_API KeyedRegistry : public platform::Registry {
 
  private:
   // Makes the key with the full path `path`. Returns false when it cannot be kept.
-  virtual bool MakeKey(const std::string& path) = 0;
+  [[nodiscard]] virtual bool MakeKey(const std::string& path) = 0;
 
   // Keeps `value` of a key that is open, replacing what was there. Returns false when it cannot be
   // kept.
-  virtual bool StoreValue(const std::string& path, const std::string& name,
-                          RegistryValue value) = 0;
+  [[nodiscard]] virtual bool StoreValue(const std::string& path, const std::string& name,
+                                        RegistryValue value) = 0;
 
   [[nodiscard]] const std::string* PathOf(const platform::RegistryKey* key) const;
 

@@ -23,11 +23,13 @@ class SKELDER_API MemoryRegistry final : public KeyedRegistry {
   // From now on the key with the full path `path`, and what lies beneath it, cannot be opened.
   void RefuseKey(const std::string& path);
 
-  std::optional<RegistryValue> FindValue(const std::string& path, const std::string& name) override;
+  [[nodiscard]] std::optional<RegistryValue> FindValue(const std::string& path,
+                                                       const std::string& name) override;
 
  private:
-  bool MakeKey(const std::string& path) override;
-  bool StoreValue(const std::string& path, const std::string& name, RegistryValue value) override;
+  [[nodiscard]] bool MakeKey(const std::string& path) override;
+  [[nodiscard]] bool StoreValue(const std::string& path, const std::string& name,
+                                RegistryValue value) override;
 
   std::map<std::string, std::map<std::string, RegistryValue>> keys_;  // by full path
   std::set<std::string> refused_;

@@ -19,17 +19,17 @@ struct ResolvedChoice {
   std::vector<std::string> names;
 
   // Writes them as platform::ChooseFiles does. Returns false when they do not fit.
-  bool Write(char* buffer, std::size_t size, std::size_t& name_offset) const;
+  [[nodiscard]] bool Write(char* buffer, std::size_t size, std::size_t& name_offset) const;
 };
 
 // What `dialog` answers when the user makes `choice`: paths absolute, the default extension
 // appended where a name has none. Throws a ScriptError when it does not allow the choice.
-SKELDER_API ResolvedChoice ResolveChoice(const platform::FileDialog& dialog,
-                                         const FileChoice& choice);
+[[nodiscard]] SKELDER_API ResolvedChoice ResolveChoice(const platform::FileDialog& dialog,
+                                                       const FileChoice& choice);
 
 // Writes the folder that the user chose in the dialog `title`, as platform::ChooseFolder does.
 // Returns false when it does not fit; throws a ScriptError when there is no such folder.
-bool WriteFolder(const std::string& title, const std::string& folder, char* buffer,
-                 std::size_t size);
+[[nodiscard]] bool WriteFolder(const std::string& title, const std::string& folder, char* buffer,
+                               std::size_t size);
 
 }  // namespace host

@@ -21,10 +21,10 @@ using SqliteStatement = std::unique_ptr<sqlite3_stmt, SqliteDeleter>;
 
 // Opens the database `path`, and makes an empty one where there is none. A database that somebody
 // else has locked will be waited for, but not long. Returns null on failure.
-SqliteConnection OpenSqlite(const std::string& path);
+[[nodiscard]] SqliteConnection OpenSqlite(const std::string& path);
 
 // Prepares `sql` for repeated use. Returns null on failure. The connection must outlive it.
-SqliteStatement PrepareSqlite(sqlite3* connection, const char* sql);
+[[nodiscard]] SqliteStatement PrepareSqlite(sqlite3* connection, const char* sql);
 
 // One run of a prepared statement: binds parameters from the first to the last, steps, reads
 // columns. The statement is ready for the next run when the query is gone.

@@ -23,19 +23,21 @@ class SKELDER_API SqliteRegistry final : public KeyedRegistry {
   // Whether the database can be used; false for a registry without keys.
   bool IsOpen() const { return database_ != nullptr; }
 
-  std::optional<RegistryValue> FindValue(const std::string& path, const std::string& name) override;
+  [[nodiscard]] std::optional<RegistryValue> FindValue(const std::string& path,
+                                                       const std::string& name) override;
 
  private:
   struct Database;
 
-  bool MakeKey(const std::string& path) override;
-  bool StoreValue(const std::string& path, const std::string& name, RegistryValue value) override;
+  [[nodiscard]] bool MakeKey(const std::string& path) override;
+  [[nodiscard]] bool StoreValue(const std::string& path, const std::string& name,
+                                RegistryValue value) override;
 
   std::unique_ptr<Database> database_;
 };
 
 // The settings file of the current user: orvane/settings.sqlite in $XDG_CONFIG_HOME or ~/.config.
 // Empty when the user has no such folder.
-SKELDER_API std::string UserSettingsPath();
+[[nodiscard]] SKELDER_API std::string UserSettingsPath();
 
 }  // namespace host

@@ -15,10 +15,10 @@ struct DialogResource {
 };
 
 // The dialog `id` of `module`; nothing when it has no such dialog.
-std::optional<DialogResource> FindDialogResource(HINSTANCE module, int id);
+[[nodiscard]] std::optional<DialogResource> FindDialogResource(HINSTANCE module, int id);
 
 // The dialog that the dialog window `window` was built from, as title and controls tell; nothing
 // when it is none of the module that created it.
-std::optional<DialogResource> ResourceOf(HWND window);
+[[nodiscard]] std::optional<DialogResource> ResourceOf(HWND window);
 
 }  // namespace host

@@ -19,7 +19,7 @@ struct ShownMessage {
 };
 
 // What `window` shows when it is a message box of the system's; nothing when it is none.
-std::optional<ShownMessage> ReadMessageBox(HWND window);
+[[nodiscard]] std::optional<ShownMessage> ReadMessageBox(HWND window);
 
 // Presses the button `button` of the message box `window`; 0 makes the box fail without any.
 void PressMessageButton(HWND window, int button);

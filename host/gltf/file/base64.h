@@ -12,6 +12,6 @@ namespace host::gltf {
 std::string EncodedBase64(std::string_view bytes);
 
 // The bytes that `text` stands for (RFC 4648, with padding), or nothing when it is no base64.
-std::optional<std::string> DecodedBase64(std::string_view text);
+[[nodiscard]] std::optional<std::string> DecodedBase64(std::string_view text);
 
 }  // namespace host::gltf

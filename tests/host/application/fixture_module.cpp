@@ -46,8 +46,8 @@ std::uint32_t GoOn(void* /*argument*/) { return 0; }
 void ForgetAllocation() {
   void* memory = SkelderAllocate(1);
   platform::RegistryKey* key = OpenKey("Fixture\\Options");
-  platform::SetRegistryValue(key, "Forgotten", platform::RegistryType::kBinary, &memory,
-                             sizeof memory);
+  static_cast<void>(platform::SetRegistryValue(key, "Forgotten", platform::RegistryType::kBinary,
+                                               &memory, sizeof memory));
   platform::CloseRegistryKey(key);
 }
 

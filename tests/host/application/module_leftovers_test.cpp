@@ -16,7 +16,7 @@ class ModuleLeftoversTest : public ModuleTest {
   // What the fixture module leaves behind after importing `file`.
   host::ModuleLeftovers LeftAfter(const std::string& file) {
     auto module = Load(Fixture("fixture_module"));
-    module->Import(file, true);
+    static_cast<void>(module->Import(file, true));
     return host::UnloadModule(std::move(module));
   }
 };
@@ -41,7 +41,7 @@ TEST_F(ModuleLeftoversTest, NameTheKeysThatAreOpen) {
 
 TEST_F(ModuleLeftoversTest, IgnoreKeysWithoutARegistryToAsk) {
   auto module = host::Module::Load(Fixture("fixture_module"), {application_}, refusal_);
-  module->Import("key.fix", true);
+  static_cast<void>(module->Import("key.fix", true));
   EXPECT_TRUE(host::UnloadModule(std::move(module)).IsClean());
 }
 

@@ -57,7 +57,7 @@ TEST(RunSideBySideTest, TellsWhenAPieceHasEnded) {
   std::set<std::size_t> ended;
   const SideBySide pieces{[](std::size_t) { return ""; },
                           [&ended](std::size_t index) { ended.insert(index); }};
-  RunSideBySide(4, 2, pieces);
+  static_cast<void>(RunSideBySide(4, 2, pieces));
   EXPECT_THAT(ended, ElementsAre(0, 1, 2, 3));
 }
 

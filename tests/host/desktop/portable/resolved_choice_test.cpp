@@ -44,7 +44,7 @@ class FileChoiceTest : public testing::Test {
   // Why the dialog does not let the user make `choice`.
   std::string Refusal(const FileChoice& choice) const {
     try {
-      ResolveChoice(dialog_, choice);
+      static_cast<void>(ResolveChoice(dialog_, choice));
     } catch (const ScriptError& error) {
       return error.what();
     }

@@ -160,7 +160,7 @@ TEST_F(SqliteRegistryTest, SurvivesADamagedFile) {
     std::ofstream(path_, std::ios::binary | std::ios::trunc) << damaged;
     SqliteRegistry registry(path_);
     Store(registry, "Size", RegistryType::kDoubleWord, "5678");
-    registry.FindValue(kPath, "Size");
+    static_cast<void>(registry.FindValue(kPath, "Size"));
   }
 }
 

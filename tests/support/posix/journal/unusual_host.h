@@ -28,7 +28,7 @@ class UnusualHost final : public ForwardingInterface {
   ClassInstance* CreateInstance(SuperClassId super_class, ClassId class_id) override {
     ClassInstance* const instance = ForwardingInterface::CreateInstance(super_class, class_id);
     auto* const sphere = dynamic_cast<host::SphereObject*>(instance);
-    if (sphere != nullptr) sphere->SetParameters({7, 7, 7, 7, 7, 7, 7});
+    if (sphere != nullptr) static_cast<void>(sphere->SetParameters({7, 7, 7, 7, 7, 7, 7}));
     return instance;
   }
 
