@@ -18,6 +18,9 @@ namespace host::gltf {
 
 namespace {
 
+// A joint's number is two bytes in the mesh, and viewers hold all of a skin's joints at once.
+constexpr std::size_t kMostBonesInSkin = 60'000;
+
 constexpr double kMarkMeters = 0.005;
 
 // The bones of one skin: indices of nodes in one tree under the scene's root.

@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cstddef>
-
 #include "host/gltf/file/document.h"
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/viewer/materials.h"
@@ -10,9 +8,6 @@
 // Bones as skins with their meshes. What else nodes show is in object_meshes.h.
 
 namespace host::gltf {
-
-// A joint's number is two bytes in the mesh, and viewers hold all of a skin's joints at once.
-inline constexpr std::size_t kMostBonesInSkin = 60'000;
 
 // Adds the bones of `tree` as skins, bound as they stand at `time` (ticks), each with a mesh whose
 // node is one of the scene's roots. The nodes of `document` are those of the tree. Throws a Refusal
