@@ -1,6 +1,7 @@
 #include "platform/byte_reader.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace platform {
 
@@ -33,6 +34,7 @@ std::span<const std::byte> ByteReader::Take(std::size_t size) {
 }
 
 void ByteReader::Align(std::size_t size) {
+  assert(size > 0);
   const std::size_t excess = position_ % size;
   if (excess != 0) position_ += std::min(size - excess, bytes_.size() - position_);
 }

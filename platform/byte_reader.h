@@ -22,6 +22,7 @@ class ByteReader {
   std::span<const std::byte> Take(std::size_t size);
 
   // Moves on to the next multiple of `size` bytes from the start, or to the end if that is nearer.
+  // REQUIRES: `size` is 1 or more.
   void Align(std::size_t size);
 
   [[nodiscard]] bool Failed() const { return failed_; }

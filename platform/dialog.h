@@ -25,8 +25,9 @@ class Dialog {
 
   virtual void SetText(int control, const char* text) = 0;
 
-  // Copies the control's text to `buffer`, which holds `size` (1 or more) characters, cut to
-  // size - 1 and always terminated. Returns the number of characters copied.
+  // Copies the control's text to `buffer`, cut to size - 1 characters and always terminated.
+  // Returns the number of characters copied.
+  // REQUIRES: `buffer` holds `size` characters, 1 or more.
   virtual std::size_t GetText(int control, char* buffer, std::size_t size) = 0;
 
   virtual void SetChecked(int control, bool checked) = 0;

@@ -29,20 +29,21 @@ struct FileDialog {
 
 // Shows `dialog` and waits until the user has chosen. Returns false, and leaves `buffer` and
 // `name_offset` undefined, when he cancels, when the dialog cannot be shown, and when the choice
-// does not fit into `buffer`, which has room for `size` bytes.
+// does not fit into `buffer`.
 //
 // Otherwise one chosen file stands in `buffer` as its path, ended by two NULs (one, when there is
 // no room for the second); several, which `dialog` has to allow, as their folder and then each name
 // of a file in it, every one ended by a NUL and the last one by two. A folder ends with a separator
 // only when it is the root of a file system. `name_offset` is the place of the (first) file name
 // in `buffer`. The process's current folder stays what it is.
+// REQUIRES: `buffer` holds `size` bytes, 1 or more.
 [[nodiscard]] bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
                                std::size_t& name_offset);
 
 // Shows a dialog titled `title` over `owner` in which the user chooses a folder, and waits. Returns
 // false when he cancels, when the dialog cannot be shown, and when the path does not fit into
-// `buffer`, which has room for `size` bytes; otherwise the path of the folder stands there, ended
-// by a NUL.
+// `buffer`; otherwise the path of the folder stands there, ended by a NUL.
+// REQUIRES: `buffer` holds `size` bytes, 1 or more.
 [[nodiscard]] bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size);
 
 // What stands between a folder and a file name in a path.

@@ -37,16 +37,19 @@ class OutputFile {
   [[nodiscard]] std::string Folder() const;
 
   // Writes `bytes` beside the file's place and waits until they are on the disk. Returns an empty
-  // text, or what went wrong in the system's words. Call it once.
+  // text, or what went wrong in the system's words.
+  // REQUIRES: neither Write nor TakeOver has been called.
   [[nodiscard]] std::string Write(std::string_view bytes);
 
   // As Write, but with the bytes of the finished file `path`, which lies on the same disk, such as
   // in a folder in Folder(), and is this object's from now on.
+  // REQUIRES: neither Write nor TakeOver has been called.
   [[nodiscard]] std::string TakeOver(const std::string& path);
 
   // Gives what Write has written its name. An existing file is replaced in one step when that is
   // allowed, and kept otherwise, even one that has appeared in the meantime. Returns an empty text,
   // or what went wrong in the system's words; the file's place is then as it was.
+  // REQUIRES: Write or TakeOver has succeeded, and Deliver has not.
   [[nodiscard]] std::string Deliver();
 
  private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <string>
 
 // A folder for files that are not finished yet, beside those that they are to become.
@@ -19,8 +20,12 @@ class ScratchFolder {
   // Why it could not be made, in the system's words, or an empty text.
   [[nodiscard]] const std::string& Error() const { return error_; }
 
-  // Of the folder, when it could be made: absolute.
-  [[nodiscard]] const std::string& Path() const { return path_; }
+  // Of the folder: absolute.
+  // REQUIRES: Error() is empty.
+  [[nodiscard]] const std::string& Path() const {
+    assert(error_.empty());
+    return path_;
+  }
 
  private:
   [[nodiscard]] bool Make(const std::string& path);

@@ -29,7 +29,7 @@ struct SideBySide {
 // there. Such a process has no standard output or error, and does several pieces, one after the
 // other.
 //
-// Runs `count` pieces, no more than `processes` (1 or more) at the same time, and returns their
+// Runs `count` pieces, no more than `processes` at the same time (0 counts as 1), and returns their
 // results in the order of the pieces, nothing for one that ended without. A piece for which there
 // is no process to be had is done in this one, while it waits for the others.
 //

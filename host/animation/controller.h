@@ -39,6 +39,8 @@ class SKELDER_API Controller : public Control, public Instance {
 
   // The keys, in rising order of their ticks.
   virtual std::size_t KeyCount() const = 0;
+
+  // REQUIRES: `key` is less than KeyCount().
   virtual TimeValue KeyTick(std::size_t key) const = 0;
 
   // Closes or opens the gate: CanAcceptValue reports 0 while it is closed.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <algorithm>
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
@@ -29,8 +30,12 @@ class Keys {
   std::size_t Size() const { return buffer_.size() - (gap_end_ - gap_begin_); }
   bool IsEmpty() const { return Size() == 0; }
 
-  // Key number `i` of 0 to Size() - 1.
-  const Key& operator[](std::size_t i) const { return buffer_[Slot(i)]; }
+  // Key number `i`.
+  // REQUIRES: `i` is less than Size().
+  const Key& operator[](std::size_t i) const {
+    assert(i < Size());
+    return buffer_[Slot(i)];
+  }
 
   // The number of the first key at or after `tick`; Size() when there is none.
   std::size_t LowerBound(TimeValue tick) const {
@@ -62,7 +67,11 @@ class Keys {
   }
 
   // Replaces the value of key number `i`.
-  void Replace(std::size_t i, const Value& value) { buffer_[Slot(i)].value = value; }
+  // REQUIRES: `i` is less than Size().
+  void Replace(std::size_t i, const Value& value) {
+    assert(i < Size());
+    buffer_[Slot(i)].value = value;
+  }
 
   // Deletes the key at `tick`; returns whether there was one.
   bool Delete(TimeValue tick) {

@@ -1,5 +1,6 @@
 #include "host/animation/transform_controller.h"
 
+#include <cassert>
 #include <utility>
 
 #include "host/animation/class_ids.h"
@@ -19,6 +20,7 @@ Matrix3 TransformController::ValueAt(TimeValue time) const {
 }
 
 void TransformController::InstallRotation(std::unique_ptr<RotationController> rotation) {
+  assert(rotation != nullptr);
   rotation_ = std::move(rotation);
   rotation_->SetListener(Listener());
   NotifyChange();

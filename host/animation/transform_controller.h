@@ -31,6 +31,7 @@ class SKELDER_API TransformController final : public Controller {
   void HideRotationController(bool hidden) { rotation_hidden_ = hidden; }
 
   // Installs `rotation` and destroys the one it replaces.
+  // REQUIRES: `rotation` is not null.
   void InstallRotation(std::unique_ptr<RotationController> rotation);
 
   // The keys belong to the three controllers; this one has none of its own.

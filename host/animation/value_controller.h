@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cassert>
+
 #include "host/animation/controller.h"
 
 // What setting a value does to a controller, whatever its values are. How they are kept and joined
@@ -8,7 +10,9 @@
 namespace host {
 
 // Where `time` lies between two ticks: 0 at `from`, 1 at `to`.
+// REQUIRES: `from` is before `to`.
 inline double FractionBetween(TimeValue from, TimeValue to, TimeValue time) {
+  assert(from < to);
   const double start = from;
   return (time - start) / (to - start);
 }
@@ -28,6 +32,7 @@ class ValueController : public Controller {
   virtual void SetConstant(const Value& value) = 0;
 
   // What key number `key` holds, exactly as it was set.
+  // REQUIRES: `key` is less than KeyCount().
   virtual Value KeyValue(std::size_t key) const = 0;
 
   // Makes or replaces the key at `time`, whatever the animate mode.

@@ -1,5 +1,7 @@
 #include "host/application/application.h"
 
+#include <cassert>
+
 #include "host/desktop/pending_messages.h"
 
 namespace host {
@@ -11,7 +13,10 @@ Application* current_application = nullptr;
 
 Application::Application() : previous_(current_application) { current_application = this; }
 
-Application::~Application() { current_application = previous_; }
+Application::~Application() {
+  assert(current_application == this);
+  current_application = previous_;
+}
 
 Application* Application::Current() { return current_application; }
 

@@ -77,7 +77,8 @@ class ApplicationInterface final : public ::Interface {
 class SKELDER_API Application {
  public:
   // A new application with a new scene. It is the current one until it is destroyed; then the one
-  // that was current before is again. Applications are destroyed in reverse order.
+  // that was current before is again.
+  // REQUIRES: applications are destroyed in reverse order.
   Application();
   Application(const Application&) = delete;
   Application& operator=(const Application&) = delete;

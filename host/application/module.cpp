@@ -1,5 +1,6 @@
 #include "host/application/module.h"
 
+#include <cassert>
 #include <utility>
 
 #include "host/application/application.h"
@@ -101,6 +102,7 @@ std::optional<FileResult> Module::Export(const std::string& path, bool suppress_
 }
 
 ModuleLeftovers UnloadModule(std::unique_ptr<Module> module) {
+  assert(module != nullptr);
   const ModuleHost host = module->host_;
   const Holdings before = module->before_;
   module.reset();

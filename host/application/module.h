@@ -99,6 +99,7 @@ class SKELDER_API Module {
 };
 
 // Unloads `module` and returns what it left behind. Whatever it created must be destroyed before.
+// REQUIRES: `module` is not null.
 SKELDER_API ModuleLeftovers UnloadModule(std::unique_ptr<Module> module);
 
 }  // namespace host

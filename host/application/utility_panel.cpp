@@ -1,5 +1,6 @@
 #include "host/application/utility_panel.h"
 
+#include <cassert>
 #include <utility>
 
 #include "host/application/application.h"
@@ -22,6 +23,7 @@ UtilityPanel::UtilityPanel(std::unique_ptr<UtilityObj> utility, Application& app
 UtilityPanel::~UtilityPanel() { Close(); }
 
 void UtilityPanel::Open() {
+  assert(utility_ != nullptr);
   open_ = true;
   utility_->BeginEditParams(&application_.plugin_interface(), &utility_services);
 }

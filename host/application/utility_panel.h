@@ -14,6 +14,7 @@ class Application;
 class SKELDER_API UtilityPanel {
  public:
   // Opens `utility` in `application`, which outlives this object.
+  // REQUIRES: `utility` is not null.
   UtilityPanel(std::unique_ptr<UtilityObj> utility, Application& application);
   UtilityPanel(const UtilityPanel&) = delete;
   UtilityPanel& operator=(const UtilityPanel&) = delete;
@@ -27,7 +28,8 @@ class SKELDER_API UtilityPanel {
   // The application deletes the utility without closing it before, as at its own end.
   void Delete();
 
-  // The user opens the utility again; it has not been deleted.
+  // The user opens the utility again.
+  // REQUIRES: it has not been deleted.
   void Open();
 
  private:

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <memory>
 #include <unordered_map>
@@ -28,8 +29,10 @@ class SKELDER_API InstancePool {
   InstancePool& operator=(const InstancePool&) = delete;
 
   // Keeps `instance` and returns a pointer that is valid until it is taken or discarded.
+  // REQUIRES: `instance` is not null.
   template <typename Kind>
   Kind* Add(std::unique_ptr<Kind> instance) {
+    assert(instance != nullptr);
     Kind* added = instance.get();
     instances_.emplace(added, std::move(instance));
     return added;

@@ -19,7 +19,8 @@ namespace host {
 class SKELDER_API ScriptedDesktop {
  public:
   // In use from now on, and until it is destroyed; then the one that was in use before is again.
-  // Have it in use before a module is loaded. Desktops are destroyed in reverse order.
+  // Have it in use before a module is loaded.
+  // REQUIRES: desktops are destroyed in reverse order.
   ScriptedDesktop();
   ScriptedDesktop(const ScriptedDesktop&) = delete;
   ScriptedDesktop& operator=(const ScriptedDesktop&) = delete;

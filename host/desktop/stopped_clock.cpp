@@ -1,5 +1,6 @@
 #include "host/desktop/stopped_clock.h"
 
+#include <cassert>
 #include <utility>
 
 #include "platform/program_clock.h"
@@ -17,6 +18,9 @@ namespace host {
 StoppedClock::StoppedClock(std::int64_t seconds)
     : seconds_(seconds), previous_(std::exchange(installed_clock, &seconds_)) {}
 
-StoppedClock::~StoppedClock() { installed_clock = previous_; }
+StoppedClock::~StoppedClock() {
+  assert(installed_clock == &seconds_);
+  installed_clock = previous_;
+}
 
 }  // namespace host

@@ -10,7 +10,8 @@
 namespace host {
 
 // A clock that stands still. As long as this object lives, a plug-in finds it in place of the
-// system's; then the one that was in use before is again. They are destroyed in reverse order.
+// system's; then the one that was in use before is again.
+// REQUIRES: they are destroyed in reverse order.
 class SKELDER_API StoppedClock {
  public:
   // It stands `seconds` after the beginning of 1970 in UTC.

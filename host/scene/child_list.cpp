@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <cassert>
 
 #include "host/scene/node.h"
 
@@ -10,6 +11,7 @@ void ChildList::Add(Node& child) {
 }
 
 void ChildList::Remove(Node& child) {
+  assert(child.place_in_parent_ < places_.size() && places_[child.place_in_parent_] == &child);
   places_[child.place_in_parent_] = nullptr;
   first_empty_ =
       empty_places_ == 0 ? child.place_in_parent_ : std::min(first_empty_, child.place_in_parent_);

@@ -1,5 +1,7 @@
 #include "host/scene/name_table.h"
 
+#include <cassert>
+
 namespace host {
 namespace {
 
@@ -15,6 +17,7 @@ std::string WithNumber(const std::string& base, std::size_t number) {
 
 void NameTable::Remove(const std::string& name) {
   const auto found = uses_.find(name);
+  assert(found != uses_.end());
   if (--found->second == 0) uses_.erase(found);
 }
 

@@ -15,7 +15,7 @@ class SKELDER_API NameTable {
  public:
   void Add(const std::string& name) { ++uses_[name]; }
 
-  // `name` was added before.
+  // REQUIRES: `name` was added, and not removed as often.
   void Remove(const std::string& name);
 
   bool Contains(const std::string& name) const { return uses_.count(name) != 0; }

@@ -1,5 +1,6 @@
 #include "host/scene/node.h"
 
+#include <cassert>
 #include <utility>
 
 // What a node is and holds. Its place in the tree is in node_tree.cpp, its transform in
@@ -20,6 +21,7 @@ Node::Node(const NodeEnvironment& environment, NodeHandle handle)
 Node::Node(const NodeEnvironment& environment, NodeHandle handle,
            std::unique_ptr<SceneObject> object, std::unique_ptr<TransformController> transform)
     : Node(environment, handle) {
+  assert(object != nullptr && transform != nullptr);
   object_ = std::move(object);
   transform_ = std::move(transform);
   transform_->SetListener(this);

@@ -39,10 +39,12 @@ class Node;
 // another node takes time in proportion to their number.
 class SKELDER_API ChildList {
  public:
-  // Appends `child`, which is in no list.
+  // Appends `child`.
+  // REQUIRES: it is in no list.
   void Add(Node& child);
 
-  // Takes `child` out of this list, which it is in.
+  // Takes `child` out of this list.
+  // REQUIRES: it is in it.
   void Remove(Node& child);
 
   // The children; valid until the list changes.
@@ -67,7 +69,8 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   // A scene root: no object, no transform controller.
   Node(const NodeEnvironment& environment, NodeHandle handle);
 
-  // A node without a parent. `object` and `transform` are not null.
+  // A node without a parent.
+  // REQUIRES: `object` and `transform` are not null.
   Node(const NodeEnvironment& environment, NodeHandle handle, std::unique_ptr<SceneObject> object,
        std::unique_ptr<TransformController> transform);
 
@@ -112,7 +115,8 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   Matrix3 WorldTransform(TimeValue time) const;
 
   // Ends the life of this node: its children go to its parent with their world transforms kept, its
-  // name becomes free, its contents are destroyed. Not for a root.
+  // name becomes free, its contents are destroyed.
+  // REQUIRES: it is neither a root nor deleted.
   void Retire();
 
   // --- The plug-in's side ---

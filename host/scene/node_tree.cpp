@@ -1,3 +1,4 @@
+#include <cassert>
 #include <vector>
 
 #include "host/scene/local_conversion.h"
@@ -55,6 +56,7 @@ void Node::AddChild(Node& child) {
 }
 
 void Node::Retire() {
+  assert(!IsRoot() && !IsDeleted());
   ForgetWorld();
   const std::vector<Node*> orphans = Children();
   for (Node* child : orphans) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <memory>
 #include <string>
@@ -82,9 +83,13 @@ class SKELDER_API Scene {
 
   // --- Units and views ---
 
-  // Millimetres in one system unit; positive.
+  // Millimetres in one system unit.
+  // REQUIRES: they are positive.
   double MillimetersPerUnit() const { return millimeters_per_unit_; }
-  void SetMillimetersPerUnit(double millimeters) { millimeters_per_unit_ = millimeters; }
+  void SetMillimetersPerUnit(double millimeters) {
+    assert(millimeters > 0.0);
+    millimeters_per_unit_ = millimeters;
+  }
 
   // How often the views were redrawn.
   std::size_t RedrawCount() const { return redraws_; }

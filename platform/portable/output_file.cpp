@@ -4,6 +4,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <cassert>
 #include <cerrno>
 #include <csignal>
 #include <cstdint>
@@ -98,6 +99,7 @@ std::string OutputFile::WhyImpossible() const {
 std::string OutputFile::Folder() const { return FolderOf(path_); }
 
 std::string OutputFile::Write(std::string_view bytes) {
+  assert(aside_.empty() && file_ < 0);
   // A limit on the size of files is to be an error like a full disk, and not to end the process.
   std::signal(SIGXFSZ, SIG_IGN);
   std::string error = CreateAside();
@@ -106,6 +108,7 @@ std::string OutputFile::Write(std::string_view bytes) {
 }
 
 std::string OutputFile::TakeOver(const std::string& path) {
+  assert(aside_.empty() && file_ < 0);
   file_ = Uninterrupted([&path] { return open(path.c_str(), O_WRONLY | O_NOFOLLOW | O_CLOEXEC); });
   if (file_ < 0) return LastError();
   aside_ = path;
@@ -148,6 +151,7 @@ std::string OutputFile::Finish() const {
 }
 
 std::string OutputFile::Deliver() {
+  assert(!aside_.empty());
   if (replace_ && IsReadOnly()) return kReadOnly;
   const int result =
       replace_ ? rename(aside_.c_str(), path_.c_str()) : MoveWithoutReplacing(aside_, path_);

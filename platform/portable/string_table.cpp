@@ -1,5 +1,6 @@
 #include "platform/string_table.h"
 
+#include <cassert>
 #include <cstring>
 #include <string>
 
@@ -20,6 +21,7 @@ std::size_t FittingLength(const std::string& text, std::size_t limit) {
 }  // namespace
 
 std::size_t LoadStringResource(HINSTANCE module, unsigned int id, char* buffer, std::size_t size) {
+  assert(buffer != nullptr && size > 0);
   const std::string text = FindString(ResourceFileOf(module), id);
   const std::size_t length = FittingLength(text, size - 1);
   std::memcpy(buffer, text.data(), length);

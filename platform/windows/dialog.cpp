@@ -3,6 +3,7 @@
 #include <windows.h>
 
 #include <algorithm>
+#include <cassert>
 #include <limits>
 
 #include "platform/windows/activation_context.h"
@@ -24,6 +25,7 @@ class WindowDialog : public Dialog {
 
   std::size_t GetText(int control, char* buffer, std::size_t size) override {
     constexpr std::size_t kLargest = std::numeric_limits<int>::max();
+    assert(buffer != nullptr && size > 0);
     buffer[0] = '\0';
     return GetDlgItemTextA(window_, control, buffer, static_cast<int>(std::min(size, kLargest)));
   }

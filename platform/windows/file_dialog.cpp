@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstring>
 #include <string>
 
@@ -99,6 +100,7 @@ class ShellItem {
 
 bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
                  std::size_t& name_offset) {
+  assert(buffer != nullptr && size > 0);
   const std::string filter = FilterOf(dialog);
   buffer[0] = '\0';
   OPENFILENAMEA open_file{};
@@ -119,6 +121,7 @@ bool ChooseFiles(const FileDialog& dialog, char* buffer, std::size_t size,
 }
 
 bool ChooseFolder(HWND owner, const char* title, char* buffer, std::size_t size) {
+  assert(buffer != nullptr && size > 0);
   BROWSEINFOA browse{};
   browse.hwndOwner = owner;
   browse.lpszTitle = title;

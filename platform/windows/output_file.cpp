@@ -5,6 +5,7 @@
 #include <io.h>
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <filesystem>
 #include <string>
@@ -119,12 +120,14 @@ std::string OutputFile::WhyImpossible() const {
 std::string OutputFile::Folder() const { return Utf8FromWide(FolderOf(path_)); }
 
 std::string OutputFile::Write(std::string_view bytes) {
+  assert(aside_.empty() && file_ < 0);
   std::string error = CreateAside();
   if (error.empty()) error = FillAside(bytes);
   return error;
 }
 
 std::string OutputFile::TakeOver(const std::string& path) {
+  assert(aside_.empty() && file_ < 0);
   file_ = OpenToWrite(WideFromUtf8(path), OPEN_EXISTING);
   if (file_ < 0) return LastErrorText();
   aside_ = path;
@@ -164,6 +167,7 @@ std::string OutputFile::Finish() const {
 }
 
 std::string OutputFile::Deliver() {
+  assert(!aside_.empty());
   if (replace_ && IsReadOnly()) return kReadOnly;
   std::error_code error;
   const fs::path place = fs::absolute(WideFromUtf8(path_), error);

@@ -2,6 +2,7 @@
 
 #include <windows.h>
 
+#include <cassert>
 #include <cstring>
 #include <vector>
 
@@ -13,6 +14,7 @@ HKEY HandleOf(RegistryKey* key) { return reinterpret_cast<HKEY>(key); }
 }  // namespace
 
 RegistryKey* CreateRegistryKey(RegistryKey* parent, const char* path) {
+  assert(path != nullptr);
   char no_class[] = "";
   HKEY key = nullptr;
   const LSTATUS status =
@@ -26,6 +28,7 @@ void CloseRegistryKey(RegistryKey* key) {
 }
 
 bool QueryRegistryValue(RegistryKey* key, const char* name, void* data, std::size_t& size) {
+  assert(data != nullptr || size == 0);
   // What the system leaves in the buffer when a value does not fit is undefined.
   std::vector<BYTE> bytes(size);
   auto count = static_cast<DWORD>(size);
@@ -39,6 +42,7 @@ bool QueryRegistryValue(RegistryKey* key, const char* name, void* data, std::siz
 
 bool SetRegistryValue(RegistryKey* key, const char* name, RegistryType type, const void* data,
                       std::size_t size) {
+  assert(data != nullptr || size == 0);
   return RegSetValueExA(HandleOf(key), name, 0, static_cast<DWORD>(type),
                         static_cast<const BYTE*>(data), static_cast<DWORD>(size)) == ERROR_SUCCESS;
 }

@@ -1,6 +1,7 @@
 #include "host/desktop/portable/open_dialog.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstring>
 #include <iterator>
 #include <utility>
@@ -49,6 +50,7 @@ void OpenDialog::SetText(int control, const char* text) {
 }
 
 std::size_t OpenDialog::GetText(int control, char* buffer, std::size_t size) {
+  assert(buffer != nullptr && size > 0);
   const OpenControl* const found = Find(control);
   const std::size_t length = found == nullptr ? 0 : std::min(found->state.text.size(), size - 1);
   if (length > 0) std::memcpy(buffer, found->state.text.data(), length);

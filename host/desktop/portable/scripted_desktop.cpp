@@ -1,5 +1,6 @@
 #include "host/desktop/scripted_desktop.h"
 
+#include <cassert>
 #include <cstddef>
 #include <optional>
 #include <set>
@@ -22,7 +23,10 @@ class ScriptedDesktop::Body final : public platform::Desktop {
   Body() { platform::InstallDesktop(this); }
   Body(const Body&) = delete;
   Body& operator=(const Body&) = delete;
-  ~Body() { platform::InstallDesktop(previous_); }
+  ~Body() {
+    assert(platform::CurrentDesktop() == this);
+    platform::InstallDesktop(previous_);
+  }
 
   UserScript& Script() { return script_; }
   void RefuseDialog(int dialog_id) { refused_dialogs_.insert(dialog_id); }

@@ -1,6 +1,7 @@
 #include "host/gltf/file/binary_data.h"
 
 #include <algorithm>
+#include <cassert>
 
 namespace host::gltf {
 
@@ -80,11 +81,13 @@ int BinaryData::AddKeyRotations(const std::vector<float>& rotations) {
 }
 
 void BinaryData::Append(std::string_view bytes) {
+  assert(!views_.empty());
   bytes_ += bytes;
   views_.back().size += bytes.size();
 }
 
 std::optional<int> BinaryData::AddViewAccessor(const ElementForm& form) {
+  assert(!views_.empty());
   const std::size_t size = views_.back().size;
   if (size == 0) {
     views_.pop_back();
@@ -108,6 +111,7 @@ void BinaryData::KeyView() {
 
 template <typename Number>
 int BinaryData::Add(const std::vector<Number>& numbers, const ElementForm& form) {
+  assert(!numbers.empty() && numbers.size() * sizeof numbers[0] % form.bytes == 0);
   const std::size_t offset = views_.back().size;
   AppendNumbers(numbers);
   return accessors_.Add(
@@ -115,6 +119,7 @@ int BinaryData::Add(const std::vector<Number>& numbers, const ElementForm& form)
 }
 
 int BinaryData::AddWithBounds(const std::vector<float>& numbers, const ElementForm& form) {
+  assert(!numbers.empty() && numbers.size() * sizeof numbers[0] % form.bytes == 0);
   const std::size_t offset = views_.back().size;
   AppendNumbers(numbers);
   json record = AccessorRecord(views_.size() - 1, offset, views_.back().size - offset, form);

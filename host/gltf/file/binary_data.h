@@ -39,7 +39,8 @@ struct BufferView {
 // each.
 class BinaryData {
  public:
-  // Every one of these returns the accessor's index, and none may be given an empty list.
+  // Every one of these returns the accessor's index.
+  // REQUIRES: the list holds whole elements, at least one.
   //
   // Of vertices: x, y and z each; four joints each; four weights each.
   int AddPositions(const std::vector<float>& positions);
@@ -60,6 +61,7 @@ class BinaryData {
 
   // What viewers have no use for: begins a view, whose index is returned, and appends to the view
   // that was begun last.
+  // REQUIRES of Append: there is such a view.
   int BeginView() { return OwnView(0); }
   void Append(std::string_view bytes);
   template <typename Numbers>
@@ -69,6 +71,7 @@ class BinaryData {
 
   // An accessor for all elements of that form in the view that was begun last. Without any there is
   // no accessor, and no view either.
+  // REQUIRES: there is such a view.
   std::optional<int> AddViewAccessor(const ElementForm& form);
 
   const std::string& Bytes() const { return bytes_; }

@@ -1,5 +1,6 @@
 #include "host/gltf/file/json_field.h"
 
+#include <cassert>
 #include <cmath>
 #include <limits>
 
@@ -32,6 +33,7 @@ std::size_t JsonField::Size() const {
 }
 
 JsonField JsonField::Element(std::size_t index) const {
+  assert(value_->is_array() && index < value_->size());
   return {(*value_)[index], path_ + "[" + std::to_string(index) + "]"};
 }
 

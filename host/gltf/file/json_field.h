@@ -26,6 +26,8 @@ class JsonField {
 
   // Elements of an array.
   std::size_t Size() const;
+
+  // REQUIRES: `index` is less than Size().
   JsonField Element(std::size_t index) const;
 
   bool Bool() const;

@@ -1,6 +1,7 @@
 #include "host/gltf/kept/stored_keys.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <cstring>
 #include <functional>
@@ -88,6 +89,7 @@ StoredKeys::StoredKeys(const FileParts& file, const JsonField& extension)
       angles_(Accessor(file, extension, field::kAngles, kWordForm)) {}
 
 std::vector<float> StoredKeys::TakeValues(const JsonField& count, std::size_t width) {
+  assert(width == 3 || width == 4);
   return TakeNumbers<float>(count, width, width == 3 ? vectors_ : rotations_);
 }
 

@@ -24,8 +24,9 @@ class StoredKeys {
   // Looks up the accessors that `extension`, the one of `file`, names. `file` outlives this.
   StoredKeys(const FileParts& file, const JsonField& extension);
 
-  // The components of the next values, `width` (3 or 4) for each key. `count` is the field with the
-  // number of keys.
+  // The components of the next values, `width` for each key. `count` is the field with the number
+  // of keys.
+  // REQUIRES: `width` is 3 or 4.
   std::vector<float> TakeValues(const JsonField& count, std::size_t width);
 
   // The same of angles, three for each key, in radians.

@@ -1,5 +1,6 @@
 #include "host/gltf/viewer/geometry.h"
 
+#include <cassert>
 #include <cstddef>
 #include <utility>
 
@@ -42,6 +43,7 @@ void Geometry::AddWithJoint(const Shape& shape, const ViewerSpace& space, const 
 }
 
 nlohmann::json Geometry::StoreIn(BinaryData& data, int material) const {
+  assert(!triangles_.empty());
   nlohmann::json attributes = {{"POSITION", data.AddPositions(positions_)}};
   if (!joints_.empty()) {
     attributes["JOINTS_0"] = data.AddJoints(joints_);

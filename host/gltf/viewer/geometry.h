@@ -26,7 +26,8 @@ class Geometry {
   void AddWithJoint(const Shape& shape, const ViewerSpace& space, const Node& node, TimeValue time,
                     std::uint16_t joint);
 
-  // Stores what was collected, at least one shape, in `data`, and returns the primitive.
+  // Stores what was collected in `data`, and returns the primitive.
+  // REQUIRES: that is at least one shape.
   nlohmann::json StoreIn(BinaryData& data, int material) const;
 
  private:

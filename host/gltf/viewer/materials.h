@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <map>
 
 #include "host/gltf/file/json_list.h"
@@ -12,8 +13,9 @@ namespace host::gltf {
 // The materials of a glTF file: one for each wire colour, dull and in that colour.
 class Materials {
  public:
-  // `list`, the file's materials, is empty and outlives this.
-  explicit Materials(JsonList& list) : list_(list) {}
+  // `list`, the file's materials, outlives this.
+  // REQUIRES: it is empty.
+  explicit Materials(JsonList& list) : list_(list) { assert(list.IsEmpty()); }
 
   // The index of the material in `color`.
   int Of(WireColor color);

@@ -1,5 +1,6 @@
 #include "host/gltf/viewer/shown_scene.h"
 
+#include <cassert>
 #include <cstddef>
 #include <vector>
 
@@ -59,6 +60,7 @@ void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
 }  // namespace
 
 void ShowScene(const Scene& scene, const NodeTree& tree, Document& document) {
+  assert(document.nodes.IsEmpty());
   const ViewerSpace space(scene.MillimetersPerUnit());
   const TimeValue time = scene.Animation().Time();
   Materials materials(document.materials);

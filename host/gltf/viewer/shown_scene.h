@@ -9,8 +9,9 @@
 
 namespace host::gltf {
 
-// Adds `scene`, whose nodes are `tree`, to `document`, which has no nodes yet. Throws a Refusal
-// when a number is not finite.
+// Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
+// finite.
+// REQUIRES: `document` has no nodes yet.
 void ShowScene(const Scene& scene, const NodeTree& tree, Document& document);
 
 }  // namespace host::gltf

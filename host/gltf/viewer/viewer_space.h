@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cassert>
 #include <cstddef>
 
 #include "sdk/geom/matrix3.h"
@@ -19,7 +20,10 @@ namespace host::gltf {
 class ViewerSpace {
  public:
   // `millimeters` is the length of one system unit.
-  explicit ViewerSpace(double millimeters) : millimeters_(millimeters) {}
+  // REQUIRES: it is positive.
+  explicit ViewerSpace(double millimeters) : millimeters_(millimeters) {
+    assert(millimeters > 0.0);
+  }
 
   std::array<double, 3> Position(const Point3& position) const;
 
