@@ -18,13 +18,13 @@ bool StandsBefore(const Finding& left, const Finding& right) {
   return std::tie(left.line, left.column) < std::tie(right.line, right.column);
 }
 
-Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingTexts texts) {
+Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
   return {rule,
           place.line,
           place.column,
-          std::move(texts.found),
-          std::move(texts.expected),
-          std::move(texts.effect)};
+          std::move(words.found),
+          std::move(words.expected),
+          std::move(words.effect)};
 }
 
 }  // namespace
@@ -46,20 +46,20 @@ bool FindingList::CountAndAskForMore(const FindingRule& rule) {
   return ++total.count <= kMostKeptOfARule;
 }
 
-void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, FindingTexts texts) {
+void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
   assert(place.line >= 1 && place.column >= 1);
-  kept_.push_back(NewFinding(rule, place, std::move(texts)));
+  kept_.push_back(NewFinding(rule, place, std::move(words)));
 }
 
 void FindingList::ExplainErrors(const FindingRule& cause, const FindingPlace& place,
-                                FindingTexts texts) {
+                                FindingWords words) {
   std::erase_if(kept_, [](const Finding& finding) {
     return finding.rule.severity != FindingSeverity::kError;
   });
   std::erase_if(totals_,
                 [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
   ++totals_.try_emplace(cause.code, Total{cause.severity}).first->second.count;
-  kept_.insert(kept_.begin(), NewFinding(cause, place, std::move(texts)));
+  kept_.insert(kept_.begin(), NewFinding(cause, place, std::move(words)));
 }
 
 std::vector<Finding> FindingList::Sorted() const {

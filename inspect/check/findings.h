@@ -49,7 +49,7 @@ struct FindingPlace {
 // Behind the last of `bytes`, which are a whole file.
 [[nodiscard]] FindingPlace EndOf(std::string_view bytes);
 
-struct FindingTexts {
+struct FindingWords {
   std::string found;
   std::string expected;
   std::string effect;  // what the import makes of it
@@ -59,7 +59,7 @@ struct Finding {
   FindingRule rule;
   std::size_t line = 0;  // as in FindingPlace
   std::size_t column = 0;
-  std::string found;  // as in FindingTexts
+  std::string found;  // as in FindingWords
   std::string expected;
   std::string effect;
 };
@@ -71,21 +71,21 @@ class FindingList {
   static constexpr std::size_t kMostKeptOfARule = 20;
 
   // Adds what `rule` says of `place`, which is anything with a line and a column as FindingPlace
-  // has them. REQUIRES: both are 1 or more. `make_texts` is called only when the finding is kept: a
+  // has them. REQUIRES: both are 1 or more. `make_words` is called only when the finding is kept: a
   // file may have one in every cell, and most of them are only counted.
-  template <typename Place, std::invocable MakeTexts>
-  void Add(const FindingRule& rule, const Place& place, const MakeTexts& make_texts) {
-    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_texts());
+  template <typename Place, std::invocable MakeWords>
+  void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
+    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_words());
   }
 
-  // The same where the texts are at hand, or made but a few times in a file.
+  // The same where the words are at hand, or made but a few times in a file.
   template <typename Place>
-  void Add(const FindingRule& rule, const Place& place, FindingTexts texts) {
-    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(texts));
+  void Add(const FindingRule& rule, const Place& place, FindingWords words) {
+    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(words));
   }
 
   // Puts an error before those that follow from it, and drops all that is none.
-  void ExplainErrors(const FindingRule& cause, const FindingPlace& place, FindingTexts texts);
+  void ExplainErrors(const FindingRule& cause, const FindingPlace& place, FindingWords words);
 
   // Those that are kept, by line and column.
   [[nodiscard]] std::vector<Finding> Sorted() const;
@@ -106,7 +106,7 @@ class FindingList {
  private:
   // Counts a finding. Returns whether it is to be kept.
   [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule);
-  void Keep(const FindingRule& rule, const FindingPlace& place, FindingTexts texts);
+  void Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words);
 
   std::vector<Finding> kept_;
   std::map<std::string_view, Total> totals_;

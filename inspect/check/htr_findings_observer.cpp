@@ -94,7 +94,7 @@ void HtrFindingsObserver::AddKeyword(const HtrCell& keyword) {
   const bool is_misspelled = meant != kKeywords.end();
   findings_.Add(
       is_misspelled ? Rule("htr-keyword-misspelt") : Rule("htr-keyword-unknown"), keyword, [&] {
-        return FindingTexts{Quote(keyword.text),
+        return FindingWords{Quote(keyword.text),
                             is_misspelled ? std::string(meant->name) : "a keyword of HTR files",
                             "The line is ignored."};
       });
@@ -102,7 +102,7 @@ void HtrFindingsObserver::AddKeyword(const HtrCell& keyword) {
 
 void HtrFindingsObserver::AddRateCut(const HtrCell& rate) {
   findings_.Add(Rule("htr-rate-cut"), rate, [&rate] {
-    return FindingTexts{Quote(rate.text), "a whole number for DataFrameRate",
+    return FindingWords{Quote(rate.text), "a whole number for DataFrameRate",
                         EffectOfCutRate(rate.text)};
   });
 }
@@ -132,7 +132,7 @@ void HtrFindingsObserver::OnSection(HtrSection section, const HtrCell& name) {
 void HtrFindingsObserver::CheckHeaderPlace(const HtrCell& name) {
   if (parts_.base_sections == 0) return;
   findings_.Add(Rule("htr-header-late"), name, [] {
-    return FindingTexts{"[Header] behind [BasePosition]", "[Header] first",
+    return FindingWords{"[Header] behind [BasePosition]", "[Header] first",
                         "Angles stay in the unit that was in force before."};
   });
 }
@@ -145,7 +145,7 @@ void HtrFindingsObserver::EnterMotion(const HtrCell& name) {
   if (segment_->motion) {
     next_frame_number_.reset();
     findings_.Add(Rule("htr-motion-repeated"), name, [&name] {
-      return FindingTexts{"a second section of " + Quote(name.text), "one for every segment",
+      return FindingWords{"a second section of " + Quote(name.text), "one for every segment",
                           "Its frames are put behind those of the first."};
     });
   }
@@ -164,7 +164,7 @@ void HtrFindingsObserver::AddSkippedSection(const HtrCell& name) {
   const bool is_misspelled = !meant.empty();
   findings_.Add(
       is_misspelled ? Rule("htr-section-misspelt") : Rule("htr-section-unknown"), name, [&] {
-        return FindingTexts{
+        return FindingWords{
             Quote(name.text),
             is_misspelled ? "[" + std::string(meant) + "]" : ExpectedSegment(name.text, parts_),
             "It is taken for the motion of an unknown segment: " + CountOf(skipped_lines_, "line") +
@@ -178,7 +178,7 @@ void HtrFindingsObserver::OnHeaderField(const HtrCell& keyword, const HtrCell& v
   std::optional<HtrCell>& last = parts_.values[index];
   if (last) {
     findings_.Add(Rule("htr-keyword-repeated"), keyword, [&] {
-      return FindingTexts{std::string(keyword.text) + " again", "it once; " + LineHasIt(*last),
+      return FindingWords{std::string(keyword.text) + " again", "it once; " + LineHasIt(*last),
                           "The later value counts: " + Quote(value.text) + "."};
     });
   }
@@ -191,7 +191,7 @@ void HtrFindingsObserver::OnHeaderField(const HtrCell& keyword, const HtrCell& v
 void HtrFindingsObserver::CheckGravity(const HtrCell& value) {
   if (FindAxis(value.text) != orvane::kAxisZ) return;
   findings_.Add(Rule("htr-axis-ignored"), value, [&value] {
-    return FindingTexts{Quote(value.text), "Y",
+    return FindingWords{Quote(value.text), "Y",
                         "The import takes Y for up all the same: the skeleton will lie down."};
   });
 }
@@ -199,7 +199,7 @@ void HtrFindingsObserver::CheckGravity(const HtrCell& value) {
 void HtrFindingsObserver::CheckRate(const HtrCell& value) {
   if (IsRate(ParseInt(value.text))) return;
   findings_.Add(Rule("htr-rate-out-of-range"), value,
-                [&value] { return TextsOfRateOutOfRange(value.text); });
+                [&value] { return WordsOfRateOutOfRange(value.text); });
 }
 
 void HtrFindingsObserver::OnSegment(const HtrCell& name, const HtrCell& parent) {
@@ -212,7 +212,7 @@ void HtrFindingsObserver::CheckName(const HtrCell& name) {
   const std::string reason = WhyUnusable(name.text);
   if (reason.empty()) return;
   findings_.Add(Rule("htr-name-unusable"), name, [&] {
-    return FindingTexts{Quote(name.text),
+    return FindingWords{Quote(name.text),
                         "a name that can be read back: no ], no [ in front, no word of the format",
                         reason};
   });
@@ -224,7 +224,7 @@ void HtrFindingsObserver::OnBasePosition(const HtrCell& name) {
   if (segment == nullptr) return;
   if (segment->base_section == parts_.base_sections) {
     findings_.Add(Rule("htr-base-line-repeated"), name, [&name] {
-      return FindingTexts{Quote(name.text) + " again", "one line for every segment",
+      return FindingWords{Quote(name.text) + " again", "one line for every segment",
                           "The later line counts."};
     });
   }
@@ -241,7 +241,7 @@ void HtrFindingsObserver::OnFrame(const HtrCell& number) {
   if (!start_frame_) start_frame_ = value;
   if (next_frame_number_ && value != *next_frame_number_) {
     findings_.Add(Rule("htr-frame-number"), number, [&] {
-      return FindingTexts{Quote(number.text), FormatInt(*next_frame_number_),
+      return FindingWords{Quote(number.text), FormatInt(*next_frame_number_),
                           "The number is ignored: frames follow each other as their lines do."};
     });
   }

@@ -74,7 +74,7 @@ class MappingComparison {
 
   void AddUnused(const MappingEntry& entry, FindingList& findings) const {
     findings.Add(mnm::Rule("mnm-entry-unused"), entry, [&] {
-      return FindingTexts{Quote(entry.trc_name), ExpectedFor(entry),
+      return FindingWords{Quote(entry.trc_name), ExpectedFor(entry),
                           "The capture has no such marker: the line changes nothing."};
     });
   }
@@ -83,7 +83,7 @@ class MappingComparison {
     const bool cannot = CannotBeMapped(marker.name);
     findings.Add(cannot ? mnm::Rule("mnm-marker-unmappable") : mnm::Rule("mnm-marker-unmapped"),
                  marker.place, [&] {
-                   return FindingTexts{Quote(marker.name),
+                   return FindingWords{Quote(marker.name),
                                        cannot ? "a name of one word, which a mapping can name"
                                               : ExpectedFor(marker),
                                        "The marker is dropped."};

@@ -64,26 +64,26 @@ void MappingEntries::CheckBytes() {
   const std::string_view text = line_.Text();
   if (const std::string_view mark = line_.ByteOrderMark(); !mark.empty()) {
     findings_.Add(Rule("mnm-byte-order-mark"), PlaceOf(mark), [] {
-      return FindingTexts{"a byte-order mark", "text without one, in ASCII or UTF-8",
+      return FindingWords{"a byte-order mark", "text without one, in ASCII or UTF-8",
                           "It belongs to the first name, which is then not what it looks like."};
     });
   }
   if (line_.Continues()) {
     findings_.Add(Rule("mnm-line-cut"), PlaceOf(text), [] {
-      return FindingTexts{"a line of more than 1022 bytes", "shorter lines",
+      return FindingWords{"a line of more than 1022 bytes", "shorter lines",
                           "It is read as several lines, of which one starts here."};
     });
   }
   if (line_.IsCutByNul()) {
     findings_.Add(Rule("mnm-nul"), PlaceOf(text.substr(text.size())), [] {
-      return FindingTexts{"a NUL byte", "text", "The rest of its line is not read."};
+      return FindingWords{"a NUL byte", "text", "The rest of its line is not read."};
     });
   }
 }
 
 void MappingEntries::AddBlank(const MappingLine& line) {
   findings_.Add(Rule("mnm-line-blank"), PlaceOf(line.line.text), [this] {
-    return FindingTexts{"a blank line", "an entry",
+    return FindingWords{"a blank line", "an entry",
                         lines_ == 1 ? "It maps a marker without a name to nothing."
                                     : "It repeats the entry before it, which changes nothing."};
   });
@@ -91,7 +91,7 @@ void MappingEntries::AddBlank(const MappingLine& line) {
 
 void MappingEntries::AddNameMissing(const MappingLine& line) {
   findings_.Add(Rule("mnm-name-missing"), PlaceOf(line.given_standard_name), [this, &line] {
-    return FindingTexts{"the one word " + Quote(line.given_standard_name),
+    return FindingWords{"the one word " + Quote(line.given_standard_name),
                         "a standard marker and the capture's name for it",
                         last_trc_name_.empty()
                             ? "It maps a marker without a name."
@@ -102,7 +102,7 @@ void MappingEntries::AddNameMissing(const MappingLine& line) {
 
 void MappingEntries::AddRestIgnored(const MappingLine& line) {
   findings_.Add(Rule("mnm-rest-ignored"), PlaceOf(line.rest), [&line] {
-    return FindingTexts{
+    return FindingWords{
         Quote(line.rest), "the end of the line",
         "It is ignored: names end at the first blank, so that one with blanks cannot be mapped."};
   });
@@ -111,7 +111,7 @@ void MappingEntries::AddRestIgnored(const MappingLine& line) {
 void MappingEntries::CheckStandardName(const MappingLine& line) {
   if (IsStandardMarker(line.given_standard_name)) return;
   findings_.Add(Rule("mnm-standard-unknown"), PlaceOf(line.given_standard_name), [&line] {
-    return FindingTexts{Quote(line.given_standard_name), ExpectedStandardName(line),
+    return FindingWords{Quote(line.given_standard_name), ExpectedStandardName(line),
                         "The converted file has a marker of this name all the same."};
   });
 }
@@ -139,7 +139,7 @@ void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t c
   if (taken == by_standard_name_.end()) return;
   const MappingEntry& first = in_force_[taken->second];
   findings_.Add(Rule("mnm-standard-twice"), FindingPlace{entry.line, column}, [&] {
-    return FindingTexts{
+    return FindingWords{
         Quote(entry.standard_name) + " again", "it once; " + LineNumber(first.line) + " has it",
         "A capture with " + Quote(first.trc_name) + " and " + Quote(entry.trc_name) +
             " becomes a file with two markers of this name."};
@@ -149,7 +149,7 @@ void MappingEntries::CheckStandardTaken(const MappingEntry& entry, std::size_t c
 void MappingEntries::AddSuperfluous(const MappingEntry& entry, const MappingEntry& first) {
   const bool is_same = entry.standard_name == first.standard_name;
   findings_.Add(is_same ? Rule("mnm-entry-doubled") : Rule("mnm-entry-shadowed"), entry, [&] {
-    return FindingTexts{Quote(entry.trc_name) + " again",
+    return FindingWords{Quote(entry.trc_name) + " again",
                         "it once; " + LineNumber(first.line) + " has it",
                         is_same ? "The line changes nothing."
                                 : "The line is ignored: the marker is " +

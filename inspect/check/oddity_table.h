@@ -16,19 +16,19 @@ namespace orvane {
 
 // A text of a finding: the same wherever the oddity is met, or made of what was met.
 template <typename Met>
-using OddityText = std::variant<const char*, std::string (*)(const Met& met)>;
+using FindingText = std::variant<const char*, std::string (*)(const Met& met)>;
 
 template <typename Oddity, typename Met>
 struct OddityRow {
   Oddity oddity;
   FindingRule rule;
-  OddityText<Met> found;
-  OddityText<Met> expected;
-  OddityText<Met> effect;
+  FindingText<Met> found;
+  FindingText<Met> expected;
+  FindingText<Met> effect;
 };
 
 template <typename Met>
-[[nodiscard]] std::string TextOf(const OddityText<Met>& text, const Met& met) {
+[[nodiscard]] std::string TextOf(const FindingText<Met>& text, const Met& met) {
   const auto* const same = std::get_if<const char*>(&text);
   return same != nullptr ? *same : std::get<std::string (*)(const Met&)>(text)(met);
 }
@@ -41,7 +41,7 @@ void AddOddity(const std::array<OddityRow<Oddity, Met>, kRows>& rows, const Met&
                                 [&met](const auto& each) { return each.oddity == met.oddity; });
   if (row == rows.end()) return;
   findings.Add(row->rule, place, [&met, &row] {
-    return FindingTexts{TextOf(row->found, met), TextOf(row->expected, met),
+    return FindingWords{TextOf(row->found, met), TextOf(row->expected, met),
                         TextOf(row->effect, met)};
   });
 }

@@ -8,7 +8,7 @@ bool IsRate(std::int32_t frames_per_second) {
   return frames_per_second >= kLowestRate && frames_per_second <= kHighestRate;
 }
 
-FindingTexts TextsOfRateOutOfRange(std::string_view cell) {
+FindingWords WordsOfRateOutOfRange(std::string_view cell) {
   return {Quote(cell),
           FormatInt(kLowestRate) + " to " + FormatInt(kHighestRate) + " frames per second",
           "The nearest rate that there is is set, unless --frame-rate keep is given."};

@@ -19,7 +19,7 @@ inline constexpr std::int32_t kHighestRate = 4800;
 [[nodiscard]] bool IsRate(std::int32_t frames_per_second);
 
 // What is told of the rate in `cell`, which is none that a scene can have.
-[[nodiscard]] FindingTexts TextsOfRateOutOfRange(std::string_view cell);
+[[nodiscard]] FindingWords WordsOfRateOutOfRange(std::string_view cell);
 
 // How long a minute lasts when the fraction of the rate is left out.
 [[nodiscard]] std::string EffectOfCutRate(std::string_view cell);

@@ -61,7 +61,7 @@ void TrcFindingsObserver::AddRefusal(TRCPlace place, std::string_view coordinate
 void TrcFindingsObserver::AddRepeatedName(TRCPlace place, std::string_view name) {
   findings_.Add(Rule("trc-column-repeated"), place, [&] {
     const auto column = static_cast<std::int64_t>(columns_[name]);
-    return FindingTexts{Quote(name) + " again",
+    return FindingWords{Quote(name) + " again",
                         "a name of its own; column " + FormatInt(column) + " has it",
                         kColumnsShift};
   });
@@ -84,7 +84,7 @@ void TrcFindingsObserver::CheckFileType(TRCPlace path_type) {
 
 void TrcFindingsObserver::CheckRate(TRCPlace place, std::string_view rate) {
   if (IsRate(ParseInt(rate))) return;
-  findings_.Add(Rule("trc-rate-out-of-range"), place, TextsOfRateOutOfRange(rate));
+  findings_.Add(Rule("trc-rate-out-of-range"), place, WordsOfRateOutOfRange(rate));
 }
 
 void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate) {

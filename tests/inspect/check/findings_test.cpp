@@ -11,12 +11,12 @@ using orvane::FindingList;
 using orvane::FindingPlace;
 using orvane::FindingRule;
 using orvane::FindingSeverity;
-using orvane::FindingTexts;
+using orvane::FindingWords;
 using testing::ElementsAre;
 
 constexpr FindingRule kRule = {"a-rule", FindingSeverity::kWarning};
 constexpr FindingRule kOther = {"another-rule", FindingSeverity::kNote};
-constexpr FindingTexts (*kTextless)() = [] { return FindingTexts{}; };
+constexpr FindingWords (*kWordless)() = [] { return FindingWords{}; };
 
 TEST(FindingList, IsSortedByPlaceAndKeepsTheOrderOfEquals) {
   FindingList findings;
@@ -32,7 +32,7 @@ TEST(FindingList, IsSortedByPlaceAndKeepsTheOrderOfEquals) {
 TEST(FindingList, KeepsTheWholeFinding) {
   FindingList findings;
   findings.Add(kRule, FindingPlace{3, 7}, [] {
-    return FindingTexts{"found", "expected", "effect"};
+    return FindingWords{"found", "expected", "effect"};
   });
   const std::vector<orvane::Finding> sorted = findings.Sorted();
   ASSERT_EQ(sorted.size(), 1U);
@@ -49,11 +49,11 @@ TEST(FindingList, KeepsTwentyOfARuleAndCountsThemAll) {
   FindingList findings;
   EXPECT_TRUE(findings.IsEmpty());
   for (std::size_t line = 1; line <= 20; ++line)
-    findings.Add(kRule, FindingPlace{line, 1}, kTextless);
+    findings.Add(kRule, FindingPlace{line, 1}, kWordless);
   EXPECT_EQ(findings.Totals().at("a-rule").LeftOut(), 0U);
-  findings.Add(kRule, FindingPlace{21, 1}, kTextless);
-  findings.Add(kRule, FindingPlace{22, 1}, FindingTexts{});
-  findings.Add(kOther, FindingPlace{21, 1}, kTextless);
+  findings.Add(kRule, FindingPlace{21, 1}, kWordless);
+  findings.Add(kRule, FindingPlace{22, 1}, FindingWords{});
+  findings.Add(kOther, FindingPlace{21, 1}, kWordless);
   EXPECT_EQ(findings.Totals().at("a-rule").count, 22U);
   EXPECT_EQ(findings.Totals().at("a-rule").LeftOut(), 2U);
   EXPECT_EQ(findings.Sorted().size(), 21U);
@@ -62,13 +62,13 @@ TEST(FindingList, KeepsTwentyOfARuleAndCountsThemAll) {
   EXPECT_EQ(findings.Count(FindingSeverity::kError), 0U);
 }
 
-TEST(FindingList, MakesNoTextsForWhatItDoesNotKeep) {
+TEST(FindingList, MakesNoWordsForWhatItDoesNotKeep) {
   FindingList findings;
   int made = 0;
   for (int count = 0; count < 30; ++count) {
     findings.Add(kRule, FindingPlace{1, 1}, [&made] {
       ++made;
-      return FindingTexts{};
+      return FindingWords{};
     });
   }
   EXPECT_EQ(made, 20);
@@ -78,8 +78,8 @@ TEST(FindingList, ExplainsErrorsAndDropsTheRest) {
   constexpr FindingRule kError = {"an-error", FindingSeverity::kError};
   constexpr FindingRule kCause = {"a-cause", FindingSeverity::kError};
   FindingList findings;
-  for (int count = 0; count < 30; ++count) findings.Add(kRule, FindingPlace{1, 1}, kTextless);
-  for (int count = 0; count < 21; ++count) findings.Add(kError, FindingPlace{1, 1}, kTextless);
+  for (int count = 0; count < 30; ++count) findings.Add(kRule, FindingPlace{1, 1}, kWordless);
+  for (int count = 0; count < 21; ++count) findings.Add(kError, FindingPlace{1, 1}, kWordless);
   findings.ExplainErrors(kCause, {1, 1}, {"found", "expected", "effect"});
   EXPECT_EQ(findings.Sorted().front().rule.code, "a-cause");
   EXPECT_EQ(findings.Sorted().front().effect, "effect");
