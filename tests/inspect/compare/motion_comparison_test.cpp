@@ -175,7 +175,7 @@ TEST_F(MotionComparisonTest, AnotherSplitOfBaseAndFrameIsNoDifference) {
   EXPECT_LT(result.overall.orientation_deg.largest, 1e-9);
 }
 
-TEST_F(MotionComparisonTest, LengthsAreComparedInMillimetres) {
+TEST_F(MotionComparisonTest, LengthsAreComparedInMillimeters) {
   AddFrame(Add(a_, "Hips", nullptr), {1, 2, 3});
   AddFrame(Add(b_, "Hips", nullptr), {100, 200, 300.5});
   a_.SetCalibrationUnits(2);
