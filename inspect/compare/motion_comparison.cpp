@@ -12,7 +12,7 @@ namespace {
 
 constexpr std::size_t kNoPair = std::numeric_limits<std::size_t>::max();
 
-double MillimetresPerUnit(const HtrDocument& document) {
+double MillimetersPerUnit(const HtrDocument& document) {
   return LengthFactor(document.GetCalibrationUnits(), orvane::kMillimeters);
 }
 
@@ -54,8 +54,8 @@ class Comparison {
         walk_b_(structure.hierarchy_b),
         start_a_(a.GetStartFrame()),
         start_b_(b.GetStartFrame()),
-        mm_per_unit_a_(MillimetresPerUnit(a)),
-        mm_per_unit_b_(MillimetresPerUnit(b)),
+        mm_per_unit_a_(MillimetersPerUnit(a)),
+        mm_per_unit_b_(MillimetersPerUnit(b)),
         pair_of_(structure.hierarchy_a.size(), kNoPair) {
     for (std::size_t pair = 0; pair < structure.pairs.size(); ++pair) {
       pair_of_[structure.pairs[pair].in_a] = pair;
@@ -101,7 +101,7 @@ class Comparison {
   void ComparePair(std::size_t entry_a, std::size_t entry_b, std::int64_t number,
                    MotionDifference& difference) const {
     const double distance_mm =
-        MillimetresBetween(walk_a_.PositionOf(entry_a), walk_b_.PositionOf(entry_b));
+        MillimetersBetween(walk_a_.PositionOf(entry_a), walk_b_.PositionOf(entry_b));
     const double angle_deg =
         NumberOrInfinity(DegreesBetween(walk_a_.RotationOf(entry_a), walk_b_.RotationOf(entry_b)));
     Add(distance_mm, number, difference.position_mm);
@@ -110,7 +110,7 @@ class Comparison {
     if (is_beyond && !difference.first_beyond) difference.first_beyond = number;
   }
 
-  double MillimetresBetween(const Point& a, const Point& b) const {
+  double MillimetersBetween(const Point& a, const Point& b) const {
     std::array<double, 3> offset{};
     for (std::size_t axis = 0; axis < 3; ++axis) {
       offset[axis] = a[axis] * mm_per_unit_a_ - b[axis] * mm_per_unit_b_;
