@@ -81,11 +81,11 @@ std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control) {
   return wish == nullptr ? std::nullopt : std::optional(orvane::ParseInt(wish->text));
 }
 
-std::optional<FrameSpan> TypedRange(const Wishes& wishes, int from, int to) {
+std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to) {
   const auto first = TypedInt(wishes, from);
   const auto last = TypedInt(wishes, to);
   if (!first || !last) return std::nullopt;
-  return FrameSpan{*first, *last};
+  return FrameInterval{*first, *last};
 }
 
 std::optional<bool> WishedState(const Wishes& wishes, int control) {

@@ -49,7 +49,7 @@ void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
               const std::string& range_help);
 
 // Frames in a row, by their numbers, both ends included; none when the last comes before the first.
-struct FrameSpan {
+struct FrameInterval {
   std::int64_t first = 1;
   std::int64_t last = 0;
 
@@ -57,14 +57,14 @@ struct FrameSpan {
 };
 
 // The frames that are in both.
-inline FrameSpan Overlap(const FrameSpan& left, const FrameSpan& right) {
+inline FrameInterval Overlap(const FrameInterval& left, const FrameInterval& right) {
   return {std::max(left.first, right.first), std::min(left.last, right.last)};
 }
 
 // What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
 // the number that they type into a text field, the numbers of two, and the state of a check box.
 std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
-std::optional<FrameSpan> TypedRange(const Wishes& wishes, int from, int to);
+std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to);
 std::optional<bool> WishedState(const Wishes& wishes, int control);
 
 }  // namespace cli

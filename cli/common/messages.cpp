@@ -8,13 +8,13 @@
 namespace cli {
 namespace {
 
-bool UseColour() {
+bool UseColor() {
   const char* no_color = std::getenv("NO_COLOR");
   return (no_color == nullptr || *no_color == '\0') && platform::ErrorIsTerminal();
 }
 
 std::string ProgramName(Severity severity) {
-  if (!UseColour()) return "orvane: ";
+  if (!UseColor()) return "orvane: ";
   return severity == Severity::kError ? "\033[1;31morvane:\033[0m " : "\033[1;33morvane:\033[0m ";
 }
 

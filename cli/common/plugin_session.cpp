@@ -44,9 +44,9 @@ int PressOk(const host::UserMessage&) { return platform::kMessageBoxOk; }
 
 }  // namespace
 
-PluginSession::PluginSession(const std::string& module_path, Settings settings) {
+PluginSession::PluginSession(const std::string& module_path, SettingsSource settings) {
   platform::WorkUnseen();
-  if (settings == Settings::kUser) {
+  if (settings == SettingsSource::kUser) {
     user_settings_ = OpenUserSettings();
   } else {
     fresh_settings_.emplace();

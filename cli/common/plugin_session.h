@@ -19,14 +19,14 @@
 namespace cli {
 
 // Whose settings the plug-in finds: its documented defaults, or what the user chose last.
-enum class Settings { kFresh, kUser };
+enum class SettingsSource { kFresh, kUser };
 
 class PluginSession {
  public:
   // Starts the host with a new scene and loads the module in the file `module_path`, which finds
   // the clock at the moment of the environment variable SOURCE_DATE_EPOCH when that is a number of
   // seconds. Throws a Failure when that cannot be done. There is one session at a time.
-  PluginSession(const std::string& module_path, Settings settings);
+  PluginSession(const std::string& module_path, SettingsSource settings);
   ~PluginSession();
   PluginSession(const PluginSession&) = delete;
   PluginSession& operator=(const PluginSession&) = delete;

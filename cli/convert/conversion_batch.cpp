@@ -143,7 +143,7 @@ class BatchConversion {
   }
 
   void UsePanel(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
-    PluginSession session(order_.module, Settings::kFresh);
+    PluginSession session(order_.module, SettingsSource::kFresh);
     ConverterPanel panel(session, {MappingFile(scratch), !order_.mapping.empty(), order_.offset});
     if (order_.single) {
       ConvertSingle(panel, *run.front(), scratch);

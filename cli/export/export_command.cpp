@@ -28,7 +28,7 @@ struct ExportArguments {
   std::string module = DefaultModulePath();
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
-  Settings settings = Settings::kFresh;
+  SettingsSource settings = SettingsSource::kFresh;
   bool strict = false;
   bool quiet = false;
   bool force = false;
@@ -111,7 +111,8 @@ void AddRunFlags(CLI::App& verb, ExportArguments& arguments) {
   AddChoice(verb, "--settings", {"fresh", "user"},
             "Start from the documented defaults, or from what the user chose last (fresh)",
             [&arguments](const std::string& choice) {
-              arguments.settings = choice == "user" ? Settings::kUser : Settings::kFresh;
+              arguments.settings =
+                  choice == "user" ? SettingsSource::kUser : SettingsSource::kFresh;
             });
   verb.add_flag("--strict", arguments.strict, "Take every warning as a refusal");
   verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");

@@ -37,7 +37,7 @@ struct ImportArguments {
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
-  Settings settings = Settings::kFresh;
+  SettingsSource settings = SettingsSource::kFresh;
   ReportManner report;
   bool quiet = false;
   bool force = false;
@@ -48,7 +48,7 @@ struct ImportArguments {
 std::vector<ControlWish> AllWishes(const ImportArguments& arguments) {
   std::vector<ControlWish> wishes = arguments.wishes;
   const bool is_new = arguments.into.empty();
-  if (is_new && arguments.settings == Settings::kFresh && !MentionFrameRate(wishes)) {
+  if (is_new && arguments.settings == SettingsSource::kFresh && !MentionFrameRate(wishes)) {
     wishes.push_back(FrameRateFromFile());
   }
   return wishes;
@@ -205,7 +205,8 @@ void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
   AddChoice(verb, "--settings", {"fresh", "user"},
             "Start from the documented defaults, or from what the user chose last (fresh)",
             [&arguments](const std::string& choice) {
-              arguments.settings = choice == "user" ? Settings::kUser : Settings::kFresh;
+              arguments.settings =
+                  choice == "user" ? SettingsSource::kUser : SettingsSource::kFresh;
             });
   AddReportFlags(verb, arguments.report);
   verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");

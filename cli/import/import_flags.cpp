@@ -85,7 +85,7 @@ bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
                      [](const ControlWish& wish) { return wish.control == IDC_SET_FRAME_RATE; });
 }
 
-FrameSpan ImportChoices::Keyed(const FrameSpan& announced) const {
+FrameInterval ImportChoices::Keyed(const FrameInterval& announced) const {
   if (!animation) return {};
   return range ? Overlap(*range, announced) : announced;
 }

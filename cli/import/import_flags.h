@@ -34,12 +34,12 @@ struct ImportChoices {
   bool animation = true;       // set keys for the frames
   bool selected_only = false;  // apply to nothing but what is selected
   bool frame_rate_from_file = false;
-  std::int32_t offset = 0;         // frames that keys are moved by
-  std::optional<FrameSpan> range;  // as typed; nothing for all frames
+  std::int32_t offset = 0;             // frames that keys are moved by
+  std::optional<FrameInterval> range;  // as typed; nothing for all frames
 
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.
-  FrameSpan Keyed(const FrameSpan& announced) const;
+  FrameInterval Keyed(const FrameInterval& announced) const;
 };
 
 // What comes of `wishes`, and without one of what the dialog for files of that `kind` finds in

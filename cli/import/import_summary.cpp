@@ -14,14 +14,14 @@ using orvane::FormatInt;
 std::string Count(std::size_t number) { return FormatInt(static_cast<std::int64_t>(number)); }
 
 // The keys of a scene.
-struct Keys {
+struct KeySummary {
   std::size_t count = 0;
   TimeValue first = std::numeric_limits<TimeValue>::max();  // of them all, in ticks
   TimeValue last = std::numeric_limits<TimeValue>::min();
 };
 
 template <typename Controller>
-void Include(const Controller& controller, Keys& keys) {
+void Include(const Controller& controller, KeySummary& keys) {
   const std::size_t count = controller.KeyCount();
   if (count == 0) return;
   keys.count += count;
@@ -29,8 +29,8 @@ void Include(const Controller& controller, Keys& keys) {
   keys.last = std::max(keys.last, controller.KeyTick(count - 1));
 }
 
-Keys KeysBelow(const host::Node& root) {
-  Keys keys;
+KeySummary KeysBelow(const host::Node& root) {
+  KeySummary keys;
   std::vector<const host::Node*> waiting = {&root};
   while (!waiting.empty()) {
     const host::Node* node = waiting.back();
@@ -46,7 +46,7 @@ Keys KeysBelow(const host::Node& root) {
 }
 
 // Where the keys are, when the animation range leaves some of them out.
-std::string Place(const Keys& keys, const host::AnimationState& animation) {
+std::string Place(const KeySummary& keys, const host::AnimationState& animation) {
   const Interval range = animation.Range();
   if (keys.count == 0 || (keys.first >= range.Start() && keys.last <= range.End())) return "";
   const int ticks = animation.TicksPerFrame();
@@ -63,7 +63,7 @@ std::string Range(const host::AnimationState& animation) {
 }  // namespace
 
 void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std::ostream& out) {
-  const Keys keys = KeysBelow(scene.Root());
+  const KeySummary keys = KeysBelow(scene.Root());
   out << "Imported " << Printable(file.input) << '\n'
       << "  Nodes   " << Count(scene.NodeCount()) << '\n'
       << "  Keys    " << Count(keys.count) << Place(keys, scene.Animation()) << '\n'

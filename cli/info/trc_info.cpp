@@ -13,9 +13,9 @@ constexpr std::size_t kDataRateField = 1;
 constexpr std::size_t kCameraRateField = 2;
 
 // Keeps rates that lost something in reading.
-class RateListener final : public orvane::TRCReadObserver {
+class RateObserver final : public orvane::TRCReadObserver {
  public:
-  explicit RateListener(TrcInfoReport& report) : report_(report) {}
+  explicit RateObserver(TrcInfoReport& report) : report_(report) {}
 
   void OnOddity(orvane::TRCOddity oddity, orvane::TRCPlace place, std::string_view text) override {
     if (oddity != orvane::TRCOddity::kRateTruncated) return;
@@ -42,9 +42,9 @@ std::string_view RateLines(std::string_view bytes) {
 // Reads the rates once more, for what their texts lose: the checks have an observer of their own.
 void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
   orvane::TRCDocument header;
-  RateListener listener(report);
+  RateObserver observer(report);
   // What is missing behind the rates has been told, or refused.
-  (void)header.ReadBytes(RateLines(bytes), false, &listener);
+  (void)header.ReadBytes(RateLines(bytes), false, &observer);
 }
 
 }  // namespace

@@ -95,7 +95,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
     throw CannotWrite(arguments.output, output, reason);
   }
-  PluginSession session(arguments.module, Settings::kFresh);
+  PluginSession session(arguments.module, SettingsSource::kFresh);
   RequireInProportion(input, session.scene());
   ImportCloud(session, input);
   const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
