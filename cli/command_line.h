@@ -8,6 +8,6 @@ namespace cli {
 
 // Reads the arguments of `main`. Throws a Failure when they are wrong. `--help` and `--version` are
 // work too.
-Work ReadCommandLine(int argument_count, const char* const* arguments);
+[[nodiscard]] Work ReadCommandLine(int argument_count, const char* const* arguments);
 
 }  // namespace cli

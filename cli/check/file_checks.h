@@ -12,11 +12,11 @@ namespace cli {
 // The files that `input` stands for: of a folder those directly in it that have an extension of a
 // known kind, in the order of their names; otherwise `input` itself. Throws a Failure when there
 // are none.
-std::vector<std::string> FilesToCheck(const std::string& input);
+[[nodiscard]] std::vector<std::string> FilesToCheck(const std::string& input);
 
 // Checks the file `name` as one of `kind`, which is an extension without its point; when that is
 // empty, by its own extension, as an HTR file when that is unknown. Throws a Failure when it cannot
 // be read.
-orvane::CheckedFile CheckFile(const std::string& name, const std::string& kind);
+[[nodiscard]] orvane::CheckedFile CheckFile(const std::string& name, const std::string& kind);
 
 }  // namespace cli

@@ -34,8 +34,9 @@ class CheckResults {
   // A file that could not be checked.
   void Add(const Failure& failure);
 
-  // Called once, when all files are told of. Returns the status to end with.
-  ExitStatus Finish();
+  // Returns the status to end with.
+  // REQUIRES: all files are told of, and it has not been called before.
+  [[nodiscard]] ExitStatus Finish();
 
  private:
   void Raise(ExitStatus status) { status_ = std::max(status_, status); }

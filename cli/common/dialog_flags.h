@@ -53,18 +53,18 @@ struct FrameInterval {
   std::int64_t first = 1;
   std::int64_t last = 0;
 
-  std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
+  [[nodiscard]] std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
 };
 
 // The frames that are in both.
-inline FrameInterval Overlap(const FrameInterval& left, const FrameInterval& right) {
+[[nodiscard]] inline FrameInterval Overlap(const FrameInterval& left, const FrameInterval& right) {
   return {std::max(left.first, right.first), std::min(left.last, right.last)};
 }
 
 // What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
 // the number that they type into a text field, the numbers of two, and the state of a check box.
-std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
-std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to);
-std::optional<bool> WishedState(const Wishes& wishes, int control);
+[[nodiscard]] std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
+[[nodiscard]] std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to);
+[[nodiscard]] std::optional<bool> WishedState(const Wishes& wishes, int control);
 
 }  // namespace cli

@@ -14,15 +14,15 @@ namespace cli {
 enum class FileKind { kHtr, kTrc };
 
 // The kind of the file `name`: TRC by its extension in either case, otherwise HTR.
-FileKind KindOf(const std::string& name);
+[[nodiscard]] FileKind KindOf(const std::string& name);
 
 // The extension as classes of the plug-in give it: "HTR".
-const char* ExtensionOf(FileKind kind);
+[[nodiscard]] const char* ExtensionOf(FileKind kind);
 
 // The file that the user means by `name`, as the reader of that kind takes it: with ".htr" or
 // ".TRC" behind it unless it has an extension of three letters. Throws a Failure that says why when
 // it cannot be read.
-std::string ReadableFile(const std::string& name, FileKind kind);
+[[nodiscard]] std::string ReadableFile(const std::string& name, FileKind kind);
 
 // Adds the option "--as" to `verb`, which sets `kind`; it must outlive the parsing.
 void AddKindChoice(CLI::App& verb, std::optional<FileKind>& kind);

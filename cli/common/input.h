@@ -14,30 +14,30 @@ namespace cli {
 
 // The file that the user means by `name`, as the reader takes it: with ".htr" behind it unless it
 // has an extension of three letters. Throws a Failure that says why when it cannot be read.
-std::string ReadableHtrFile(const std::string& name);
+[[nodiscard]] std::string ReadableHtrFile(const std::string& name);
 
 // `text` about what is in `file`, with the advice that fits it.
-Complaint ComplainAbout(const std::string& file, const std::string& text);
+[[nodiscard]] Complaint ComplainAbout(const std::string& file, const std::string& text);
 
 // `flaw` of `file`, with advice.
-Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw);
+[[nodiscard]] Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw);
 
 // What is wrong with all of the text of `file`, where that can be seen.
-std::optional<Complaint> FindCause(const std::string& file, FileKind kind);
+[[nodiscard]] std::optional<Complaint> FindCause(const std::string& file, FileKind kind);
 
 // Puts before `complaints` about what is in `file`, if there are any, what is wrong with all of its
 // text, when that can be seen and does not stand there.
 void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints);
 
 // `text`, for which `file` is refused, with advice, and with its cause first.
-std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
-                                            const std::string& text);
+[[nodiscard]] std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+                                                          const std::string& text);
 
 // Looks in `file` for a reason why the plug-in made nothing of it, beside what it said itself.
 // Returns a complaint without text when there is none to see.
-Complaint FindFlaw(const std::string& file, FileKind kind);
+[[nodiscard]] Complaint FindFlaw(const std::string& file, FileKind kind);
 
 // All bytes of `file`. Throws a Failure that says why when it cannot be read to its end.
-std::string FileBytes(const std::string& file);
+[[nodiscard]] std::string FileBytes(const std::string& file);
 
 }  // namespace cli

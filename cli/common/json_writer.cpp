@@ -1,5 +1,6 @@
 #include "cli/common/json_writer.h"
 
+#include <cassert>
 #include <cmath>
 #include <nlohmann/json.hpp>
 #include <string>
@@ -17,6 +18,7 @@ std::string Quoted(std::string_view text) {
 }  // namespace
 
 void JsonWriter::Key(std::string_view name) {
+  assert(!levels_.empty() && !after_key_);
   StartMember();
   out_ << Quoted(name) << ": ";
   after_key_ = true;
@@ -57,6 +59,7 @@ void JsonWriter::Begin(char bracket, Layout layout) {
 }
 
 void JsonWriter::End(char bracket) {
+  assert(!levels_.empty() && !after_key_);
   const Level level = levels_.back();
   levels_.pop_back();
   if (level.layout == Layout::kLines && !level.empty) BreakLine();

@@ -6,9 +6,8 @@
 #include <vector>
 
 // Writes JSON as it comes, so that a document of any size needs no memory, with every number in its
-// shortest form; the JSON library builds a tree first and does not always find that form. The
-// caller opens and closes what it writes in the right order; commas and line breaks come by
-// themselves.
+// shortest form; the JSON library builds a tree first and does not always find that form. Commas
+// and line breaks come by themselves.
 
 namespace cli {
 
@@ -20,12 +19,14 @@ class JsonWriter {
   // `out` must outlive the writer.
   explicit JsonWriter(std::ostream& out) : out_(out) {}
 
+  // REQUIRES: what was begun last ends first, and no key waits for its value.
   void BeginObject() { Begin('{', Layout::kLines); }
   void EndObject() { End('}'); }
   void BeginArray(Layout layout) { Begin('[', layout); }
   void EndArray() { End(']'); }
 
   // The name of the object's next member.
+  // REQUIRES: an object is open, and no key waits for its value.
   void Key(std::string_view name);
 
   // Bytes that are not UTF-8 are replaced by U+FFFD.

@@ -17,7 +17,7 @@ enum class Severity { kWarning, kError };
 void Print(Severity severity, const Complaint& complaint);
 
 // `text` with every control character written as an escape, so that no file can steer a terminal.
-std::string Printable(std::string_view text);
+[[nodiscard]] std::string Printable(std::string_view text);
 
 // Prints `complaints`, told on the way to something that succeeded, as warnings. When the user is
 // `strict` they are reasons against it: throws a Failure if there are any.

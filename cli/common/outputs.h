@@ -18,19 +18,20 @@ namespace cli {
 
 // What is said of an output that would take the place of what is read: --force is for what an
 // earlier run has made.
-Complaint ReplacesInput(const std::string& output);
+[[nodiscard]] Complaint ReplacesInput(const std::string& output);
 
 // Throws a Failure for wrong usage when the file to make, `output`, is one of `inputs`, however
 // their paths are spelled.
 void RequireNoInput(const std::string& output, const std::vector<std::string>& inputs);
 
 // What to tell of the output `path`, which `file` makes, when it does not come about for `reason`.
-Complaint ComplainAboutOutput(const std::string& path, const platform::OutputFile& file,
-                              const std::string& reason);
+[[nodiscard]] Complaint ComplainAboutOutput(const std::string& path,
+                                            const platform::OutputFile& file,
+                                            const std::string& reason);
 
 // That what was written for the file `name` could not be looked at, and why.
-Failure NotReadBack(const std::string& name, const std::string& reason);
-Failure NotReadBackForMemory(const std::string& name);
+[[nodiscard]] Failure NotReadBack(const std::string& name, const std::string& reason);
+[[nodiscard]] Failure NotReadBackForMemory(const std::string& name);
 
 // Returns what `read` does, which reads the file that the user knows as `name`. Throws a Failure in
 // place of what `read` throws when it runs out of memory or meets an error of the system's.
@@ -48,6 +49,6 @@ auto ReadBack(const std::string& name, const Read& read) {
 }
 
 // All bytes of the file `path`; none when it is not there. Throws as `read` does above.
-std::string BytesWritten(const std::string& path);
+[[nodiscard]] std::string BytesWritten(const std::string& path);
 
 }  // namespace cli

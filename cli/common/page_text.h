@@ -12,10 +12,10 @@ namespace cli {
 inline constexpr std::size_t kWidestNames = 60;
 
 // Characters of a UTF-8 text.
-std::size_t Width(std::string_view text);
+[[nodiscard]] std::size_t Width(std::string_view text);
 
 // `text` with blanks behind or before it, so that it is at least `width` characters wide.
-std::string PadRight(std::string text, std::size_t width);
-std::string PadLeft(const std::string& text, std::size_t width);
+[[nodiscard]] std::string PadRight(std::string text, std::size_t width);
+[[nodiscard]] std::string PadLeft(const std::string& text, std::size_t width);
 
 }  // namespace cli

@@ -25,7 +25,8 @@ class PluginSession {
  public:
   // Starts the host with a new scene and loads the module in the file `module_path`, which finds
   // the clock at the moment of the environment variable SOURCE_DATE_EPOCH when that is a number of
-  // seconds. Throws a Failure when that cannot be done. There is one session at a time.
+  // seconds. Throws a Failure when that cannot be done.
+  // REQUIRES: there is no other session.
   PluginSession(const std::string& module_path, SettingsSource settings);
   ~PluginSession();
   PluginSession(const PluginSession&) = delete;
@@ -43,12 +44,12 @@ class PluginSession {
   // the program, the import is cancelled. Returns whether the import was carried out to its end.
   // Throws a Failure when a wish cannot be fulfilled, or when the plug-in has no importer for such
   // files.
-  bool Import(const std::string& file, const std::string& extension,
-              const std::vector<ControlWish>& wishes, bool show_progress);
+  [[nodiscard]] bool Import(const std::string& file, const std::string& extension,
+                            const std::vector<ControlWish>& wishes, bool show_progress);
 
   // Lets the plug-in export to `file`, in the same way. An export cannot be cancelled.
-  bool ExportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
-                 bool show_progress);
+  [[nodiscard]] bool ExportHtr(const std::string& file, const std::vector<ControlWish>& wishes,
+                               bool show_progress);
 
   // What the plug-in told its user, in its own words.
   [[nodiscard]] std::vector<std::string> Messages() const;
@@ -64,8 +65,8 @@ class PluginSession {
   };
 
   // Calls `entry`, which lets the plug-in do it.
-  bool Run(const Task& task, const std::vector<ControlWish>& wishes, bool show_progress,
-           const Entry& entry);
+  [[nodiscard]] bool Run(const Task& task, const std::vector<ControlWish>& wishes,
+                         bool show_progress, const Entry& entry);
 
   // One of the settings. What stands below is destroyed before.
   std::optional<host::FreshSettings> fresh_settings_;
@@ -77,6 +78,6 @@ class PluginSession {
 };
 
 // The file of the module: it lies beside the program.
-std::string DefaultModulePath();
+[[nodiscard]] std::string DefaultModulePath();
 
 }  // namespace cli

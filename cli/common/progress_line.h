@@ -35,9 +35,9 @@ class ProgressLine {
 
 // `title` as it fits before percent and time on a line of `columns`, without its start if need be:
 // a line that wraps could not be wiped. All of it when `columns` is 0, which means unknown.
-std::string FittingTitle(const std::string& title, int columns);
+[[nodiscard]] std::string FittingTitle(const std::string& title, int columns);
 
 // "0:07" for seven seconds, "1:02:03" for more than an hour.
-std::string ClockTime(std::chrono::seconds time);
+[[nodiscard]] std::string ClockTime(std::chrono::seconds time);
 
 }  // namespace cli

@@ -7,9 +7,9 @@
 namespace cli {
 
 // Whether the object of `node` is a bone.
-bool IsBone(const host::Node& node);
+[[nodiscard]] bool IsBone(const host::Node& node);
 
 // The first bone among the children of `node`; null when there is none.
-const host::Node* FirstBoneChild(const host::Node& node);
+[[nodiscard]] const host::Node* FirstBoneChild(const host::Node& node);
 
 }  // namespace cli

@@ -1,5 +1,6 @@
 #include "cli/common/scene_input.h"
 
+#include <cassert>
 #include <optional>
 
 #include "cli/common/failure.h"
@@ -26,6 +27,7 @@ std::vector<host::Node*> NodesNamed(host::Scene& scene, const std::string& name)
 }  // namespace
 
 void ReadSceneFile(const std::string& path, host::Scene& scene) {
+  assert(scene.NodeCount() == 0);
   const std::string reason = platform::WhyUnreadable(path);
   if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
   const std::optional<std::string> bytes = orvane::ReadFileBytes(path);

@@ -17,15 +17,15 @@ class StoredOptions {
   StoredOptions(const host::Settings& settings, unsigned int class_id);
 
   // Nothing when there is no such value.
-  std::optional<bool> Flag(const std::string& name) const;
+  [[nodiscard]] std::optional<bool> Flag(const std::string& name) const;
   // Nothing when there is no such value, or one of another size.
-  std::optional<std::int32_t> Int(const std::string& name) const;
-  std::optional<float> Float(const std::string& name) const;
-  std::optional<double> Double(const std::string& name) const;
+  [[nodiscard]] std::optional<std::int32_t> Int(const std::string& name) const;
+  [[nodiscard]] std::optional<float> Float(const std::string& name) const;
+  [[nodiscard]] std::optional<double> Double(const std::string& name) const;
 
  private:
   template <typename Value>
-  std::optional<Value> Read(const std::string& name) const;
+  [[nodiscard]] std::optional<Value> Read(const std::string& name) const;
 
   const host::Settings& settings_;
   const std::string path_;

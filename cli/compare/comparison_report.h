@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cassert>
 #include <ostream>
 #include <string>
 
@@ -26,14 +27,16 @@ struct ComparisonReport {
   orvane::MotionComparison motion;        // of `structure`
 
   // Nothing is beyond the tolerance, and the structure is the same.
-  bool SaysTheSame() const {
+  [[nodiscard]] bool SaysTheSame() const {
     return !structure.differences.Any() && !motion.overall.first_beyond.has_value();
   }
 
-  std::string NameOf(std::size_t pair) const {
+  // REQUIRES: `pair` is the index of one in `structure`.
+  [[nodiscard]] std::string NameOf(std::size_t pair) const {
+    assert(pair < structure.pairs.size());
     return structure.hierarchy_a[structure.pairs[pair].in_a].segment->GetName();
   }
-  const std::string& FileName(orvane::WhichFile file) const {
+  [[nodiscard]] const std::string& FileName(orvane::WhichFile file) const {
     return file == orvane::WhichFile::kA ? file_a : file_b;
   }
 };

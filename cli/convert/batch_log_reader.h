@@ -17,10 +17,11 @@ struct LoggedFile {
 
 // The files that `log` says were handled, which are the first ones of `sources`: the paths that the
 // plug-in was given, in order.
-std::vector<LoggedFile> ReadBatchLog(std::string_view log, const std::vector<std::string>& sources);
+[[nodiscard]] std::vector<LoggedFile> ReadBatchLog(std::string_view log,
+                                                   const std::vector<std::string>& sources);
 
 // The reader's words in `report`, which is the path of a file (or what a log makes of it), ": ",
 // and the words.
-std::string ReaderMessage(std::string_view report);
+[[nodiscard]] std::string ReaderMessage(std::string_view report);
 
 }  // namespace cli

@@ -43,12 +43,13 @@ struct Conversion {
 };
 
 // As the table and JSON give it: "converted".
-std::string_view NameOf(ConversionStatus status);
+[[nodiscard]] std::string_view NameOf(ConversionStatus status);
 
-ExitStatus ExitStatusOf(ConversionStatus status);
+[[nodiscard]] ExitStatus ExitStatusOf(ConversionStatus status);
 
 // The conversions in a form that passes between processes, and back.
-std::string PackConversions(const std::vector<Conversion>& conversions);
-std::vector<Conversion> UnpackConversions(std::string_view bytes);
+// REQUIRES: `bytes` are of PackConversions.
+[[nodiscard]] std::string PackConversions(const std::vector<Conversion>& conversions);
+[[nodiscard]] std::vector<Conversion> UnpackConversions(std::string_view bytes);
 
 }  // namespace cli

@@ -1,6 +1,7 @@
 #include "cli/convert/conversion_batch.h"
 
 #include <algorithm>
+#include <cassert>
 #include <filesystem>
 #include <fstream>
 #include <iterator>
@@ -283,6 +284,10 @@ class BatchConversion {
 }  // namespace
 
 ConvertedBatch ConvertBatch(const ConversionOrder& order, std::vector<Conversion> conversions) {
+  assert(!conversions.empty());
+  assert(std::all_of(conversions.begin(), conversions.end(), [](const Conversion& each) {
+    return each.status == ConversionStatus::kPlanned;
+  }));
   return BatchConversion(order, std::move(conversions)).Run();
 }
 

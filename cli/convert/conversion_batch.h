@@ -29,7 +29,9 @@ struct ConvertedBatch {
   std::string log;
 };
 
-// Carries `conversions` out, which are planned and make a batch.
-ConvertedBatch ConvertBatch(const ConversionOrder& order, std::vector<Conversion> conversions);
+// Carries `conversions` out, which make a batch.
+// REQUIRES: there are some, and they are planned.
+[[nodiscard]] ConvertedBatch ConvertBatch(const ConversionOrder& order,
+                                          std::vector<Conversion> conversions);
 
 }  // namespace cli

@@ -1,6 +1,7 @@
 #include "cli/convert/conversion_plan.h"
 
 #include <algorithm>
+#include <cassert>
 #include <cstdint>
 #include <filesystem>
 #include <map>
@@ -169,6 +170,7 @@ class BatchMaker {
 
 std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
                                         const OutputWishes& wishes) {
+  assert(wishes.file.empty() || inputs.size() == 1);
   std::vector<Conversion> conversions;
   conversions.reserve(inputs.size());
   for (const std::string& input : inputs) conversions.push_back(Plan(input, wishes));
@@ -182,6 +184,7 @@ bool IsBvkFileName(const std::string& name) {
 }
 
 std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs) {
+  assert(jobs > 0);
   std::vector<std::string> folders;  // in the order in which they are met
   std::map<std::string, std::vector<std::size_t>> files;
   std::uintmax_t work = 0;

@@ -22,12 +22,13 @@ struct OutputWishes {
 // input is missing or the output exists, have their status and complaint already. Throws a Failure
 // for wrong usage: two inputs with one output; an output, or a log that replaces what is there,
 // that is an input or the mapping.
-std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
-                                        const OutputWishes& wishes);
+// REQUIRES: no file is wished for, or there is one input.
+[[nodiscard]] std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
+                                                      const OutputWishes& wishes);
 
 // Whether `name` can be that of the file to make: it ends in ".bvk", in either case, or has no
 // extension and gets this one.
-bool IsBvkFileName(const std::string& name);
+[[nodiscard]] bool IsBvkFileName(const std::string& name);
 
 // Indices of conversions that the plug-in carries out in one run, in order: their inputs lie in one
 // folder, and so do their outputs.
@@ -35,17 +36,19 @@ using Batch = std::vector<std::size_t>;
 
 // The planned ones of `conversions` as batches, small enough for the file dialog and to keep `jobs`
 // processes busy.
-std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions, std::size_t jobs);
+// REQUIRES: there is a job.
+[[nodiscard]] std::vector<Batch> MakeBatches(const std::vector<Conversion>& conversions,
+                                             std::size_t jobs);
 
 // The path under which the panel's dialogs find the file `name`: absolute, and with the folder that
 // the system comes to. The dialogs themselves take "link/.." for nothing. The file's own name
 // stays, because the plug-in names the output after it.
-std::string PathForPanel(const std::string& name);
+[[nodiscard]] std::string PathForPanel(const std::string& name);
 
 // The folder that `path` lies in; "." for a name alone.
-std::string FolderOf(const std::string& path);
+[[nodiscard]] std::string FolderOf(const std::string& path);
 
 // The log of the conversions whose outputs lie in `folder`.
-std::string LogIn(const std::string& folder);
+[[nodiscard]] std::string LogIn(const std::string& folder);
 
 }  // namespace cli

@@ -1,5 +1,6 @@
 #include "cli/convert/converter_panel.h"
 
+#include <cassert>
 #include <utility>
 
 #include "cli/common/failure.h"
@@ -42,6 +43,7 @@ ConverterPanel::~ConverterPanel() {
 
 void ConverterPanel::ConvertBatch(const std::vector<std::string>& sources,
                                   const std::string& target) {
+  assert(!sources.empty());
   sources_ = sources;
   target_folder_ = target;
   SetCheckBox(IDC_BATCH, true);

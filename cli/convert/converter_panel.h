@@ -40,12 +40,13 @@ class ConverterPanel {
   // interrupts the program cancels.
 
   // The files `sources` of one folder, into the folder `target`.
+  // REQUIRES: there are some.
   void ConvertBatch(const std::vector<std::string>& sources, const std::string& target);
   // The file `source` to the file `target`.
   void ConvertOne(const std::string& source, const std::string& target);
 
   // What the plug-in has told its user since the last time, in its own words.
-  std::vector<std::string> TakeMessages();
+  [[nodiscard]] std::vector<std::string> TakeMessages();
 
  private:
   host::FileChoice ChooseFiles(const host::ShownFileDialog& dialog) const;

@@ -25,6 +25,6 @@ struct ExportChoices {
 };
 
 // What comes of `wishes`, and without one of what the dialog finds in `settings`.
-ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings);
+[[nodiscard]] ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settings);
 
 }  // namespace cli

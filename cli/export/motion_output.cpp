@@ -1,6 +1,7 @@
 #include "cli/export/motion_output.h"
 
 #include <algorithm>
+#include <cassert>
 #include <filesystem>
 
 #include "cli/common/failure.h"
@@ -31,6 +32,7 @@ MotionOutput::MotionOutput(const std::string& name, bool replace)
 }
 
 std::string MotionOutput::MakeRoom() {
+  assert(!room_);
   platform::HoldInterrupts();
   room_.emplace(file_.Folder());
   if (!room_->Error().empty()) throw CannotWrite(room_->Error());
@@ -39,6 +41,7 @@ std::string MotionOutput::MakeRoom() {
 }
 
 void MotionOutput::Deliver() {
+  assert(room_);
   std::string error = file_.TakeOver(written_);
   StopIfInterrupted();
   if (error.empty()) error = file_.Deliver();

@@ -14,7 +14,7 @@ namespace cli {
 
 // The file that the user means by `name`, as the writer takes it: with ".htr" behind it unless its
 // last part has a full stop as its fourth character from the end.
-std::string MotionFilePath(const std::string& name);
+[[nodiscard]] std::string MotionFilePath(const std::string& name);
 
 class MotionOutput {
  public:
@@ -22,15 +22,17 @@ class MotionOutput {
   // it exists and `replace` is not set.
   MotionOutput(const std::string& name, bool replace);
 
-  const std::string& Path() const { return path_; }
+  [[nodiscard]] const std::string& Path() const { return path_; }
 
   // Where the plug-in is to write the file: under its own name, in a new folder beside its place.
   // From now on the program puts that away before it ends, a second interruption or not. Throws a
-  // Failure when there cannot be one. Call it once.
-  std::string MakeRoom();
+  // Failure when there cannot be one.
+  // REQUIRES: it has not been called before.
+  [[nodiscard]] std::string MakeRoom();
 
   // Gives what was written there its place. Throws a Failure when that cannot be done, or when the
   // user has interrupted the program.
+  // REQUIRES: there is room, and the plug-in has written the file.
   void Deliver();
 
  private:
@@ -44,6 +46,6 @@ class MotionOutput {
 
 // Whether `name` means a motion file: its name ends in ".htr", in either case, as the writer
 // completes it.
-bool IsMotionFileName(const std::string& name);
+[[nodiscard]] bool IsMotionFileName(const std::string& name);
 
 }  // namespace cli

@@ -23,10 +23,10 @@ namespace cli {
 void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
 
 // The wish of "--frame-rate file".
-ControlWish FrameRateFromFile();
+[[nodiscard]] ControlWish FrameRateFromFile();
 
 // Whether `wishes` say anything of the scene's frame rate.
-bool MentionFrameRate(const std::vector<ControlWish>& wishes);
+[[nodiscard]] bool MentionFrameRate(const std::vector<ControlWish>& wishes);
 
 // What an import is told to do by its dialog, as far as it decides how much there is to do.
 struct ImportChoices {
@@ -39,11 +39,12 @@ struct ImportChoices {
 
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.
-  FrameInterval Keyed(const FrameInterval& announced) const;
+  [[nodiscard]] FrameInterval Keyed(const FrameInterval& announced) const;
 };
 
 // What comes of `wishes`, and without one of what the dialog for files of that `kind` finds in
 // `settings`.
-ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind, const host::Settings& settings);
+[[nodiscard]] ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind,
+                                      const host::Settings& settings);
 
 }  // namespace cli

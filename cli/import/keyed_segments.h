@@ -13,7 +13,7 @@ namespace cli {
 // they `apply` to the skeleton that is selected in `scene`, those that find their bones there. A
 // segment that is listed more than once among its parent's children counts as often, up to two
 // million repetitions in all.
-std::int64_t CountKeyedSegments(orvane::HtrDocument& document, bool apply,
-                                const host::Scene& scene);
+[[nodiscard]] std::int64_t CountKeyedSegments(orvane::HtrDocument& document, bool apply,
+                                              const host::Scene& scene);
 
 }  // namespace cli

@@ -13,7 +13,8 @@ namespace cli {
 
 // Looks at what is selected in `scene` before `file` is imported by `choices`. Returns what becomes
 // of markers that match none of it; nothing when objects are not applied to, but created.
-std::vector<Complaint> InspectMarkerTargets(const std::string& file, const ImportChoices& choices,
-                                            const host::Scene& scene);
+[[nodiscard]] std::vector<Complaint> InspectMarkerTargets(const std::string& file,
+                                                          const ImportChoices& choices,
+                                                          const host::Scene& scene);
 
 }  // namespace cli

@@ -19,7 +19,7 @@ class SceneOutput {
   // Failure when the scene cannot be written (`source` is the file that it came from), when the
   // disk does not take it, or when the user has interrupted the program. Returns the size of the
   // file in bytes.
-  std::size_t Deliver(const host::Scene& scene, const std::string& source);
+  [[nodiscard]] std::size_t Deliver(const host::Scene& scene, const std::string& source);
 
  private:
   [[nodiscard]] Failure CannotWrite(const std::string& reason) const;
@@ -29,6 +29,6 @@ class SceneOutput {
 };
 
 // Whether `path` is named as a scene file: ".glb" or ".gltf" in either case.
-bool IsSceneFileName(const std::string& path);
+[[nodiscard]] bool IsSceneFileName(const std::string& path);
 
 }  // namespace cli

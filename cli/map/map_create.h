@@ -22,6 +22,6 @@ struct MapCreateArguments {
 
 // Imports the marker file into a new scene, lets the creator ask for each marker, picks it or skips
 // it by the table, and delivers the mapping that the plug-in has written. Throws a Failure.
-ExitStatus CreateMapping(const MapCreateArguments& arguments);
+[[nodiscard]] ExitStatus CreateMapping(const MapCreateArguments& arguments);
 
 }  // namespace cli

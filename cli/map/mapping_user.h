@@ -16,13 +16,14 @@ class MappingUser {
   MappingUser(PluginSession& session, const PicksTable& picks, const orvane::WristSticks& sticks)
       : session_(session), picks_(picks), sticks_(sticks) {}
 
-  // Opens the panel, presses "Create", answers and picks, and saves to `path`, which does not exist
-  // yet. When the user interrupts the program, the creation is aborted. Throws a Failure when the
-  // plug-in lets something not be done.
+  // Opens the panel, presses "Create", answers and picks, and saves to `path`. When the user
+  // interrupts the program, the creation is aborted. Throws a Failure when the plug-in lets
+  // something not be done.
+  // REQUIRES: there is no file `path`.
   void Create(const std::string& path);
 
  private:
-  int Answer(const host::UserMessage& message) const;
+  [[nodiscard]] int Answer(const host::UserMessage& message) const;
   void Act();
 
   PluginSession& session_;

@@ -27,12 +27,12 @@ class PicksTable {
              const orvane::WristSticks& sticks);
 
   // The marker to pick for `standard_name`; nothing when that is to be skipped.
-  std::optional<std::string> PickFor(const std::string& standard_name) const;
+  [[nodiscard]] std::optional<std::string> PickFor(const std::string& standard_name) const;
 
-  std::size_t Count() const { return picks_.size(); }
+  [[nodiscard]] std::size_t Count() const { return picks_.size(); }
 
   // Whether `mapping` has an entry for each pick.
-  bool AreIn(const orvane::MarkerNameMap& mapping) const;
+  [[nodiscard]] bool AreIn(const orvane::MarkerNameMap& mapping) const;
 
  private:
   void Read(const std::string& path);

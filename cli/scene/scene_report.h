@@ -20,7 +20,7 @@ struct SceneTreeEntry {
 
 // All nodes of `scene` but its root: parents before their children, siblings in their order. Takes
 // any depth.
-std::vector<SceneTreeEntry> ListScene(const host::Scene& scene);
+[[nodiscard]] std::vector<SceneTreeEntry> ListScene(const host::Scene& scene);
 
 void PrintScenePage(const std::string& file, const host::Scene& scene, std::ostream& out);
 void PrintSceneJson(const std::string& file, const host::Scene& scene, std::ostream& out);
