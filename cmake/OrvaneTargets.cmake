@@ -116,14 +116,14 @@ endfunction()
 # program per folder. A program that runs tests of another one says with PREFIX how theirs are told
 # apart.
 # The label "large" is for those that take seconds, which have a program of their own; ctest
-# --label-exclude large leaves them out. For Windows they are not built: they would say the same of
-# the same code.
+# --label-exclude large leaves them out. For other systems they are not built: they would say the
+# same of the same code.
 function(orvane_test name)
   cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;LABELS" ${ARGN})
   if(NOT ARG_SOURCES)
     message(FATAL_ERROR "${name} has no sources: it would run no test, and pass.")
   endif()
-  if(WIN32 AND "large" IN_LIST ARG_LABELS)
+  if((WIN32 OR EMSCRIPTEN) AND "large" IN_LIST ARG_LABELS)
     return()
   endif()
   add_executable(${name} ${ARG_SOURCES})

@@ -3,7 +3,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -11,6 +10,8 @@
 #include <random>
 #include <string>
 #include <string_view>
+
+#include "tests/support/bits.h"
 
 namespace decimal {
 namespace {
@@ -132,7 +133,7 @@ TEST(DecimalWriteFixed, PrintsWhatIsNoNumberToo) {
 TEST(DecimalWriteFixed, AgreesWithTheCLibrary) {
   std::mt19937_64 random(20241101);
   for (int round = 0; round < 20000; ++round) {
-    const double value = std::bit_cast<double>(random());
+    const double value = test::BitCast<double>(random());
     if (!std::isfinite(value)) continue;
     const int decimals = static_cast<int>(random() % 21);
     std::array<char, 400> expected;
@@ -191,11 +192,11 @@ TEST(DecimalWriteShortest, CountsTheDigitsOfItsOwnType) {
 
 template <typename Real, typename Bits>
 void ExpectSameAgain(Bits bits) {
-  const Real value = std::bit_cast<Real>(bits);
+  const Real value = test::BitCast<Real>(bits);
   if (!std::isfinite(value)) return;
   const std::string text = Shortest(value);
   const Reading<Real> reading = Read<Real>(text.data(), text.data() + text.size());
-  ASSERT_EQ(std::bit_cast<Bits>(reading.value), bits) << text;
+  ASSERT_EQ(test::BitCast<Bits>(reading.value), bits) << text;
 }
 
 TEST(DecimalWriteShortest, ReadsBackAsTheSameValue) {

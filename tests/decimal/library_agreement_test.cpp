@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <bit>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -10,6 +9,7 @@
 #include <string_view>
 
 #include "decimal/decimal.h"
+#include "tests/support/bits.h"
 
 // What does without the C++ library's functions for real numbers, beside a library that has them.
 namespace decimal {
@@ -29,9 +29,9 @@ class Values {
       case 1:
         return whole / std::pow(10.0, static_cast<double>(bits >> 8U & 15U));
       case 2:
-        return std::bit_cast<double>((bits & 0xFFF0'0000'0000'0000U) + (bits & 1U));
+        return test::BitCast<double>((bits & 0xFFF0'0000'0000'0000U) + (bits & 1U));
       default:
-        return std::bit_cast<double>(bits);
+        return test::BitCast<double>(bits);
     }
   }
 

@@ -1,12 +1,13 @@
 #pragma once
 
 #include <array>
-#include <bit>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
 #include <random>
 #include <string>
+
+#include "tests/support/bits.h"
 
 // Numbers to print in tests, and what they have to look like.
 namespace test {
@@ -43,7 +44,7 @@ class PrintedValues {
       case 6:
         return sign * Uniform();
       default:
-        return std::bit_cast<double>(random_());
+        return BitCast<double>(random_());
     }
   }
 

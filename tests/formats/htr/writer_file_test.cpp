@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <filesystem>
+#include <fstream>
 #include <string>
 #include <vector>
 
@@ -125,7 +126,12 @@ TEST_F(WriteFile, FailsWhereNoFileCanBe) {
   std::filesystem::create_directory(folder_.Path() / "folder.htr");
   EXPECT_EQ(Write({"Hips"}, "no/such/folder.htr"), "The file could not be opened");
   EXPECT_EQ(Write({"Hips"}, "folder.htr"), "The file could not be opened");
-  EXPECT_EQ(Write({"Hips"}, std::string(10'000, 'x')), "The file could not be opened");
+}
+
+TEST_F(WriteFile, FailsForANameThatIsTooLong) {
+  const std::string name(10'000, 'x');
+  if (std::ofstream(folder_.File(name))) GTEST_SKIP() << "this system shortens names";
+  EXPECT_EQ(Write({"Hips"}, name), "The file could not be opened");
 }
 
 }  // namespace

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -11,6 +10,8 @@
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "tests/support/bits.h"
 
 namespace orvane {
 namespace {
@@ -157,8 +158,8 @@ TEST(ParseDouble, RoundsCorrectly) {
       {"90071992547409.93", 90071992547409.93},
   };
   for (const DoubleCase& c : cases) {
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(ParseDouble(c.text)),
-              std::bit_cast<std::uint64_t>(c.value))
+    EXPECT_EQ(test::BitCast<std::uint64_t>(ParseDouble(c.text)),
+              test::BitCast<std::uint64_t>(c.value))
         << c.text;
   }
 }
@@ -171,8 +172,8 @@ double StandardValue(const std::string& text) {
 }
 
 void ExpectLikeTheStandardLibrary(const std::string& text) {
-  ASSERT_EQ(std::bit_cast<std::uint64_t>(ParseDouble(text)),
-            std::bit_cast<std::uint64_t>(StandardValue(text)))
+  ASSERT_EQ(test::BitCast<std::uint64_t>(ParseDouble(text)),
+            test::BitCast<std::uint64_t>(StandardValue(text)))
       << text;
 }
 
@@ -191,7 +192,7 @@ TEST(ParseDouble, AgreesWithTheStandardLibraryOnAnyBits) {
   std::mt19937_64 random(20240602);
   std::uniform_int_distribution<int> digits(1, 40);
   for (int round = 0; round < 20000; ++round) {
-    const double value = std::bit_cast<double>(random());
+    const double value = test::BitCast<double>(random());
     if (!std::isfinite(value)) continue;
     char text[128];
     std::snprintf(text, sizeof text, "%.*e", digits(random), value);
@@ -290,7 +291,7 @@ TEST(FormatDouble, AgreesWithTheStandardLibrary) {
   std::mt19937_64 random(20240604);
   std::uniform_int_distribution<int> decimals(0, 20);
   for (int round = 0; round < 20000; ++round) {
-    const double value = std::bit_cast<double>(random());
+    const double value = test::BitCast<double>(random());
     if (!std::isfinite(value)) continue;
     const int count = decimals(random);
     char text[400];
@@ -333,10 +334,10 @@ TEST(FormatShortest, NeedsFewerDigitsInSinglePrecision) {
 TEST(FormatShortest, ReadsBackAsTheSameValue) {
   std::mt19937_64 random(20240606);
   for (int round = 0; round < 20000; ++round) {
-    const double value = std::bit_cast<double>(random());
+    const double value = test::BitCast<double>(random());
     if (!std::isfinite(value)) continue;
     const std::string text = FormatShortest(value);
-    ASSERT_EQ(std::bit_cast<std::uint64_t>(ParseDouble(text)), std::bit_cast<std::uint64_t>(value))
+    ASSERT_EQ(test::BitCast<std::uint64_t>(ParseDouble(text)), test::BitCast<std::uint64_t>(value))
         << text;
   }
 }
