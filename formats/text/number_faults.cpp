@@ -21,6 +21,7 @@ bool FitsSinglePrecision(double value) {
 }
 
 NumberFault FaultOfNumber(std::string_view cell) {
+  if (IsPlainDecimal(cell)) return NumberFault::kNone;
   if (cell.empty()) return NumberFault::kMissing;
   const char* const end = cell.data() + cell.size();
   const LeadingDouble number = ReadDouble(cell.data(), end);

@@ -59,7 +59,7 @@ class TRCOddities {
 
   // Reports a field that is missing, or that is more or other than one number and blanks.
   void CheckNumber(std::size_t field, std::string_view text) const {
-    if (observer_ != nullptr) ReportFault(FaultOfNumber, field, text);
+    if (observer_ != nullptr && !IsPlainDecimal(text)) ReportFault(FaultOfNumber, field, text);
   }
   // The same for one that is to be a whole number.
   void CheckWholeNumber(std::size_t field, std::string_view text) const {

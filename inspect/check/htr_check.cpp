@@ -40,8 +40,7 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
-  const FindingPlace end = EndOf(bytes);
-  parts.end = {{}, end.line, end.column};
+  parts.bytes = bytes;
   htr::HtrFindingsObserver observer(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &observer);
   observer.LeaveSection();

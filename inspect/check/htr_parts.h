@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "formats/htr/read_observer.h"
+#include "inspect/check/findings.h"
 
 // What the header of an HTR file may say, and where the parts of a file stand, as far as it was
 // read. Lines and columns count from 1, and texts lie in the bytes of the file, which must outlive
@@ -70,7 +71,13 @@ struct HtrParts {
   std::vector<SegmentLines> segments;  // in the document's order
   std::unordered_map<std::string_view, std::size_t> segment_by_name;
 
-  HtrCell end;  // behind the last byte; empty
+  std::string_view bytes;  // the whole file
+
+  // The place behind the last byte.
+  [[nodiscard]] HtrCell End() const {
+    const FindingPlace end = EndOf(bytes);
+    return {{}, end.line, end.column};
+  }
 
   // Null when there is no such segment. It stays where it is until the next one is added.
   [[nodiscard]] SegmentLines* Find(std::string_view name) {

@@ -80,12 +80,12 @@ void Structure::CheckScaleFactor() {
 void Structure::CheckEnd() {
   if (parts_.has_end) return;
   findings_.Add(
-      Rule("htr-end-missing"), parts_.end,
+      Rule("htr-end-missing"), parts_.End(),
       {"the end of the file", "[EndOfFile]", "Nothing is lost, unless the file was cut short."});
 }
 
 void Structure::AddSegmentsMissing() {
-  findings_.Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.end),
+  findings_.Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.End()),
                 {"no segments", "their lines in [SegmentNames&Hierarchy]",
                  "There is nothing to import. Is it an HTR file?"});
 }
@@ -93,7 +93,7 @@ void Structure::AddSegmentsMissing() {
 void Structure::CheckBasePosition() {
   if (!parts_.base_position) {
     return findings_.Add(
-        Rule("htr-base-missing"), parts_.motion.value_or(parts_.end),
+        Rule("htr-base-missing"), parts_.motion.value_or(parts_.End()),
         {"no [BasePosition] before this", "[BasePosition] between the hierarchy and the motion",
          "No segment has a parent, none is a root, and angles are not converted: there is "
          "nothing to import."});
@@ -119,7 +119,7 @@ void Structure::CheckBaseLines() {
 
 void Structure::CheckMotion() {
   if (const auto frames = CountFrames(document_); IsOutOfProportion(frames.announced, frames)) {
-    findings_.Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.end),
+    findings_.Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.End()),
                   {FormatInt(frames.announced),
                    "about " + FormatInt(frames.most_held) + ", as many as there are",
                    "The import is refused, unless --range FROM:TO takes a part of them."});
@@ -179,7 +179,7 @@ void Structure::CheckRoots() {
          "A new skeleton goes without it and its children."});
   }
   if (first != nullptr) return;
-  findings_.Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.end),
+  findings_.Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.End()),
                 {"no root", "a segment with the parent GLOBAL",
                  "There is nothing that a new skeleton could start from."});
 }

@@ -30,7 +30,7 @@ class WholeFile {
 
  private:
   void AddMarkersMissing() {
-    findings_.Add(trc::Rule("trc-markers-missing"), parts_.end,
+    findings_.Add(trc::Rule("trc-markers-missing"), parts_.End(),
                   {"no marker", "names in the fourth line, a tab behind each",
                    "The import makes nothing of the file."});
   }
@@ -38,7 +38,8 @@ class WholeFile {
   void CheckFrameCount() {
     const auto held = static_cast<std::int64_t>(document_.MarkerAt(0)->SampleCount());
     const std::int64_t announced = document_.NumFrames();
-    const TRCPlace place = parts_.Value(TRCHeaderValue::kNumFrames).value_or(parts_.end);
+    const auto& announcement = parts_.Value(TRCHeaderValue::kNumFrames);
+    const TRCPlace place = announcement ? *announcement : parts_.End();
     if (announced <= 0) return AddFramesUnannounced(place);
     if (held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
@@ -124,8 +125,7 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
-  const FindingPlace end = EndOf(bytes);
-  parts.end = {end.line, end.column, 0};
+  parts.bytes = bytes;
   trc::TrcFindingsObserver observer(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
   if (observer.HasRefused()) checked.refusal = message;

@@ -3,9 +3,11 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <string_view>
 #include <vector>
 
 #include "formats/trc/read_observer.h"
+#include "inspect/check/findings.h"
 
 // Where the parts of a TRC file stand, as far as it was read. Lines, columns and fields count from
 // 1, frames from 0; nothing fails but for want of memory.
@@ -18,7 +20,13 @@ struct TrcParts {
   // By TRCHeaderValue.
   std::array<std::optional<TRCPlace>, kHeaderValues> values;
   std::vector<TRCPlace> markers;  // their names, in the document's order
-  TRCPlace end;                   // behind the last byte
+  std::string_view bytes;         // the whole file
+
+  // The place behind the last byte.
+  [[nodiscard]] TRCPlace End() const {
+    const FindingPlace end = EndOf(bytes);
+    return {end.line, end.column, 0};
+  }
 
   // The last place of a value; nothing when it was not there.
   [[nodiscard]] const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {

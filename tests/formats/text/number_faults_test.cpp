@@ -13,6 +13,18 @@ struct FaultCase {
   NumberFault as_whole_number;
 };
 
+TEST(NumberFaults, AreNotLookedForInPlainDecimals) {
+  const std::string longest = "-123456789012345.678901234567890";
+  for (const std::string cell : {"0", "12", "-12", "12.5", "-.5", "5.", longest.c_str() + 1}) {
+    EXPECT_TRUE(IsPlainDecimal(cell)) << cell;
+    EXPECT_EQ(FaultOfNumber(cell), NumberFault::kNone) << cell;
+  }
+  for (const std::string cell : {"", "-", ".", "-.", "+1", "--1", "1-", "1.2.3", "1e3", "1,5", " 1",
+                                 "1 ", "nan", longest.c_str()}) {
+    EXPECT_FALSE(IsPlainDecimal(cell)) << cell;
+  }
+}
+
 TEST(NumberFaults, AreToldOfRealAndOfWholeNumbers) {
   using enum NumberFault;
   for (const FaultCase& c : {
