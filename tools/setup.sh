@@ -46,6 +46,11 @@ path    /usr/lib/wine/wine64                      wine64
 path    /usr/share/wine/fonts/tahoma.ttf          fonts-wine
 command Xvfb                                      xvfb
 '
+readonly emscripten_needs='
+command em++                                      emscripten
+command node                                      nodejs
+path    /usr/src/googletest/googlemock            googletest
+'
 readonly package_needs='
 command dpkg-shlibdeps                            dpkg-dev
 command file                                      file
@@ -103,8 +108,8 @@ need() {
 }
 
 need_everything() {
-  need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" "$package_needs" \
-    "$sanitize_needs"
+  need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" \
+    "$emscripten_needs" "$package_needs" "$sanitize_needs"
 }
 
 # The npm packages of package-lock.json, installed again only when that file has changed.

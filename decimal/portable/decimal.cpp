@@ -65,10 +65,10 @@ char* WriteWithExponent(const Scientific& number, char* first) {
 char* WriteFraction(const Scientific& number, char* first) {
   const std::string_view digits = number.digits;
   if (number.exponent < 0) {
-    const std::string zeros(static_cast<std::size_t>(-number.exponent - 1), '0');
+    const std::string zeros(static_cast<std::size_t>(-number.exponent) - 1, '0');
     return fmt::format_to(first, "0.{}{}", zeros, digits);
   }
-  const auto whole = static_cast<std::size_t>(number.exponent + 1);
+  const auto whole = static_cast<std::size_t>(number.exponent) + 1;
   return fmt::format_to(first, "{}.{}", digits.substr(0, whole), digits.substr(whole));
 }
 
