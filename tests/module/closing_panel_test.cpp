@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/utility_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/hooked_interface.h"
@@ -205,7 +206,7 @@ class ClosingCreatorTest : public ClosingPanelTest {
     if (button == buttons_.end()) {
       application_.picking().Click(node_);
     } else {
-      desk_.desktop().ShownDialog(117)->Click(button->second);
+      desk_.desktop().ShownDialog(IDD_MAPPING_CREATOR)->Click(button->second);
     }
   }
 
@@ -228,7 +229,7 @@ class ClosingCreatorTest : public ClosingPanelTest {
   }
 
   void ExpectNothingLeft() {
-    EXPECT_EQ(desk_.desktop().ShownDialog(117), nullptr);
+    EXPECT_EQ(desk_.desktop().ShownDialog(IDD_MAPPING_CREATOR), nullptr);
     EXPECT_FALSE(application_.picking().IsActive());
     EXPECT_TRUE(application_.callbacks().ExitCallbacks().empty());
   }
@@ -241,8 +242,8 @@ class ClosingCreatorTest : public ClosingPanelTest {
 TEST_P(ClosingCreatorTest, EndsDuringAnyCall) { EXPECT_GT(CloseDuringCalls(), 45); }
 
 TEST_P(ClosingCreatorTest, EndsDuringAnyCallOfGoingBackAndAborting) {
-  constexpr int kBack = 1152;
-  constexpr int kAbort = 1154;
+  constexpr int kBack = IDC_BACK;
+  constexpr int kAbort = IDC_ABORT;
   buttons_ = {{3, kBack}, {6, kAbort}};
   EXPECT_GT(CloseDuringCalls(), 6);
   EXPECT_FALSE(std::filesystem::exists(folder_.File("made.mnm")));

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/forwarding_desktop.h"
@@ -12,9 +13,9 @@
 namespace test {
 namespace {
 
-constexpr int kAbout = 1103;
-constexpr int kCancel = 1098;
-constexpr int kOk = 1097;
+constexpr int kAbout = IDC_ABOUT;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kOk = IDC_OK;
 
 using DesktopTest = ModuleTest;
 
@@ -31,7 +32,7 @@ class AboutDesktop final : public ForwardingDesktop {
  public:
   int RunDialog(HINSTANCE module, int dialog_id, HWND parent,
                 platform::DialogHandler& handler) override {
-    if (dialog_id != 107) {
+    if (dialog_id != IDD_IMPORT_HTR) {
       return ForwardingDesktop::RunDialog(module, dialog_id, parent, handler);
     }
     FakeDialog dialog;

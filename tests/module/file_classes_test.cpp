@@ -2,12 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 
 namespace test {
 namespace {
 
-constexpr int kOk = 1097;
+constexpr int kOk = IDC_OK;
 
 // The operations that SceneImport and SceneExport have in common, asked of either.
 template <typename Plugin>

@@ -3,19 +3,20 @@
 #include <gtest/gtest.h>
 
 #include "host/base/heap_control.h"
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/htr_text.h"
 
 namespace test {
 namespace {
 
-constexpr int kEndEffectors = 1019;
-constexpr int kTcb = 1052;
-constexpr int kApply = 1086;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kEndEffectors = IDC_END_EFFECTORS;
+constexpr int kTcb = IDC_TCB;
+constexpr int kApply = IDC_APPLY;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 HtrText TwoBones() {
   HtrText file;

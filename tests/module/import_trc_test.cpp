@@ -5,25 +5,26 @@
 #include <optional>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/trc_text.h"
 
 namespace test {
 namespace {
 
-constexpr int kRange = 1068;
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kApply = 1086;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kSize = 1104;
-constexpr int kSetFrameRate = 1140;
-constexpr int kPoint = 1142;
-constexpr int kSelectedOnly = 1143;
-constexpr int kRootNode = 1144;
+constexpr int kRange = IDC_RANGE;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kApply = IDC_APPLY;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kSize = IDC_OBJECT_SIZE;
+constexpr int kSetFrameRate = IDC_SET_FRAME_RATE;
+constexpr int kPoint = IDC_POINT;
+constexpr int kSelectedOnly = IDC_SELECTED_ONLY;
+constexpr int kRootNode = IDC_ROOT_NODE;
 
 // Two markers in centimetres, from frame 11 on; the second drops out once.
 TrcText TwoMarkers() {

@@ -4,10 +4,12 @@
 #include <stdexcept>
 #include <utility>
 
+#include "plugin/resources/resource.h"
+
 namespace test {
 namespace {
 
-constexpr int kOk = 1097;
+constexpr int kOk = IDC_OK;
 
 }  // namespace
 

@@ -8,6 +8,7 @@
 #include <filesystem>
 
 #include "formats/htr/reader.h"
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/htr_skeleton_pose.h"
 #include "tests/support/tolerances.h"
@@ -50,7 +51,7 @@ TEST_F(RecordingTest, TheExamplePutsEveryJointWhereItsFileSays) {
   ASSERT_EQ(orvane::ReadHtrFile(document, path, true), "");
   EXPECT_EQ(Import(path,
                    [](host::ScriptedDialog& dialog) {
-                     dialog.Click(1140);  // the frame rate of the file
+                     dialog.Click(IDC_SET_FRAME_RATE);  // the frame rate of the file
                      PressOk(dialog);
                    }),
             1);
@@ -71,7 +72,7 @@ TEST_F(RecordingTest, TheWalkPutsFeetAndHandsWhereTheyWere) {
   if (!std::filesystem::exists(path)) GTEST_SKIP() << path << " is not here";
   EXPECT_EQ(Import(path.string(),
                    [](host::ScriptedDialog& dialog) {
-                     dialog.Click(1140);  // the frame rate of the file
+                     dialog.Click(IDC_SET_FRAME_RATE);  // the frame rate of the file
                      PressOk(dialog);
                    }),
             1);

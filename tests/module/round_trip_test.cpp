@@ -13,6 +13,7 @@
 #include "formats/math/rotation_matrix3.h"
 #include "host/gltf/reader.h"
 #include "host/gltf/writer.h"
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/htr_skeleton_pose.h"
@@ -26,12 +27,12 @@ using orvane::HtrDocument;
 using orvane::HtrSegment;
 using orvane::Vector3;
 
-constexpr int kTcb = 1052;
-constexpr int kCreate = 1085;
-constexpr int kApply = 1086;
-constexpr int kOk = 1097;
-constexpr int kCurrentPose = 1107;
-constexpr int kSetFrameRate = 1140;
+constexpr int kTcb = IDC_TCB;
+constexpr int kCreate = IDC_CREATE;
+constexpr int kApply = IDC_APPLY;
+constexpr int kOk = IDC_OK;
+constexpr int kCurrentPose = IDC_CURRENT_POSE;
+constexpr int kSetFrameRate = IDC_SET_FRAME_RATE;
 
 // A random skeleton with a motion of two frames.
 class RandomMotion {

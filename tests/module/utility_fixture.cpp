@@ -3,6 +3,8 @@
 #include <cstring>
 #include <stdexcept>
 
+#include "plugin/resources/resource.h"
+
 namespace test {
 namespace {
 
@@ -25,7 +27,7 @@ void UtilityTest::Open() {
 }
 
 host::ScriptedDialog& UtilityTest::Page() {
-  host::ScriptedDialog* const page = desk_.desktop().ShownDialog(116);
+  host::ScriptedDialog* const page = desk_.desktop().ShownDialog(IDD_UTILITIES);
   if (page == nullptr) throw std::runtime_error("The panel is not open");
   return *page;
 }

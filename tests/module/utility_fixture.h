@@ -5,27 +5,28 @@
 #include <string>
 
 #include "host/application/utility_panel.h"
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 
 namespace test {
 
 // The controls of the utility panel.
 enum PanelControl : int {
-  kTrcSpace = 1124,
-  kSkelderSpace = 1125,
-  kBrowseMapping = 1132,
-  kBrowseOutput = 1134,
-  kMappingFile = 1137,
-  kOutputFolder = 1138,
-  kConvert = 1200,
-  kBatch = 1201,
-  kTrcName = 1202,
-  kCreateMapping = 1203,
-  kFilter = 1204,
-  kEnableOffset = 1205,
-  kOffsetX = 1206,
-  kOffsetY = 1207,
-  kOffsetZ = 1208
+  kTrcSpace = IDC_TRC_SPACE,
+  kSkelderSpace = IDC_SKELDER_SPACE,
+  kBrowseMapping = IDC_BROWSE_MAPPING,
+  kBrowseOutput = IDC_BROWSE_OUTPUT,
+  kMappingFile = IDC_MAPPING_FILE,
+  kOutputFolder = IDC_OUTPUT_FOLDER,
+  kConvert = IDC_CONVERT,
+  kBatch = IDC_BATCH,
+  kTrcName = IDC_TRC_NAME,
+  kCreateMapping = IDC_CREATE_MAPPING,
+  kFilter = IDC_FILTER,
+  kEnableOffset = IDC_ENABLE_OFFSET,
+  kOffsetX = IDC_OFFSET_X,
+  kOffsetY = IDC_OFFSET_Y,
+  kOffsetZ = IDC_OFFSET_Z
 };
 
 // The utility panel of the module, which a test opens. Every test ends with the panel deleted and

@@ -3,6 +3,7 @@
 #include <string>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/utility_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/trc_text.h"
@@ -174,7 +175,7 @@ TEST_F(UtilityPanelTest, WorksWithoutAPlaceForItsSettings) {
 }
 
 TEST_F(UtilityPanelTest, WithoutADialogThereIsNoPage) {
-  desk_.desktop().RefuseDialog(116);
+  desk_.desktop().RefuseDialog(IDD_UTILITIES);
   Open();
   EXPECT_TRUE(application_.rollup_pages().Open().empty());
   panel_->Close();

@@ -5,6 +5,7 @@
 #include "host/application/application.h"
 #include "platform/module.h"
 #include "plugin/import_htr/import_htr.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/desk.h"
 #include "tests/support/htr_text.h"
 #include "tests/support/temporary_folder.h"
@@ -15,7 +16,7 @@ namespace orvane {
 namespace {
 
 TEST(ImportHTROptionsTest, ADialogWithoutMemoryIsAFailureThatIsToldAndNoCancellation) {
-  constexpr int kOk = 1097;
+  constexpr int kOk = IDC_OK;
   test::HtrText file;
   file.segments = {{"Hips", "GLOBAL", "1 2 3 0 0 0 10", {"10 0 0 0 0 0"}}};
   const test::TemporaryFolder folder;

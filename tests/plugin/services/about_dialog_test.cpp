@@ -4,13 +4,14 @@
 
 #include "host/desktop/top_level_window.h"
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/desk.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kAboutDialog = 114;
-constexpr int kOk = 1097;
+constexpr int kAboutDialog = IDD_ABOUT;
+constexpr int kOk = IDC_OK;
 
 bool HasText(const host::ScriptedDialog& dialog, const std::string& text) {
   for (const host::DialogControl& control : dialog.Controls()) {

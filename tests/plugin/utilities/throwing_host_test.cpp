@@ -8,6 +8,7 @@
 
 #include "host/application/application.h"
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "plugin/utilities/mapping_creator.h"
 #include "plugin/utilities/orvane_utilities.h"
 #include "tests/support/desk.h"
@@ -27,13 +28,13 @@ using test::ThrowNumber;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-constexpr int kPage = 116;
-constexpr int kCreator = 117;
-constexpr int kBrowseMapping = 1132;
-constexpr int kBrowseOutput = 1134;
-constexpr int kConvert = 1200;
-constexpr int kFilter = 1204;
-constexpr int kCreateMapping = 1203;
+constexpr int kPage = IDD_UTILITIES;
+constexpr int kCreator = IDD_MAPPING_CREATOR;
+constexpr int kBrowseMapping = IDC_BROWSE_MAPPING;
+constexpr int kBrowseOutput = IDC_BROWSE_OUTPUT;
+constexpr int kConvert = IDC_CONVERT;
+constexpr int kFilter = IDC_FILTER;
+constexpr int kCreateMapping = IDC_CREATE_MAPPING;
 constexpr char kKey[] = "Software\\Orvane\\OrvaneFileIO\\Skelder\\ConvertBVK";
 
 constexpr WireColor kMarkerColor = 0x3333CC;
@@ -211,7 +212,7 @@ class ThrowingCreatorTest : public ThrowingHostTest {
 };
 
 TEST_F(ThrowingCreatorTest, UndoesWhatWasDoneAndTellsWhy) {
-  constexpr int kAbort = 1154;
+  constexpr int kAbort = IDC_ABORT;
   int waits = 0;
   desk_.Act([&] {
     if (++waits < 4) {

@@ -2,6 +2,7 @@
 
 #include "platform/module.h"
 #include "plugin/export_htr/export_htr.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
 #include "tests/support/posix/journal/each_call_failing.h"
@@ -15,13 +16,13 @@ namespace {
 using test::Append;
 using test::JournalLines;
 
-constexpr int kCurrentPose = 1107;
-constexpr int kRange = 1068;
-constexpr int kFrom = 1065;
-constexpr int kOffset = 1089;
-constexpr int kGlobal = 1088;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kCurrentPose = IDC_CURRENT_POSE;
+constexpr int kRange = IDC_RANGE;
+constexpr int kFrom = IDC_FROM;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 void Expect(const std::string& name, const JournalLines& lines) {
   test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/export_htr/posix/journals/" + name + ".txt",

@@ -2,6 +2,7 @@
 
 #include "platform/module.h"
 #include "plugin/import_htr/import_htr.h"
+#include "plugin/resources/resource.h"
 #include "tests/plugin/import_htr/posix/two_bones.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
@@ -18,12 +19,12 @@ using test::HtrText;
 using test::JournalLines;
 using test::TwoBones;
 
-constexpr int kApply = 1086;
-constexpr int kSetFrameRate = 1140;
-constexpr int kFrom = 1065;
-constexpr int kRange = 1068;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kApply = IDC_APPLY;
+constexpr int kSetFrameRate = IDC_SET_FRAME_RATE;
+constexpr int kFrom = IDC_FROM;
+constexpr int kRange = IDC_RANGE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 void Expect(const std::string& name, const JournalLines& lines) {
   test::ExpectJournal(ORVANE_SOURCE_DIR "/tests/plugin/import_htr/posix/journals/" + name + ".txt",

@@ -6,6 +6,7 @@
 #include "host/application/application.h"
 #include "platform/module.h"
 #include "plugin/import_htr/import_htr.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/desk.h"
 #include "tests/support/htr_text.h"
 #include "tests/support/posix/memory_in_use.h"
@@ -16,8 +17,8 @@
 namespace orvane {
 namespace {
 
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 constexpr int kFrames = 5000;
 constexpr std::size_t kLittle = 50'000;  // bytes; the document of the file takes more

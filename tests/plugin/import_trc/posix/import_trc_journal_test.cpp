@@ -2,6 +2,7 @@
 
 #include "platform/module.h"
 #include "plugin/import_trc/import_trc.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/bone_nodes.h"
 #include "tests/support/posix/journal/disturbed.h"
 #include "tests/support/posix/journal/each_call_failing.h"
@@ -17,13 +18,13 @@ using test::Append;
 using test::JournalLines;
 using test::TrcText;
 
-constexpr int kRange = 1068;
-constexpr int kFrom = 1065;
-constexpr int kApply = 1086;
-constexpr int kPoint = 1142;
-constexpr int kGlobal = 1088;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kRange = IDC_RANGE;
+constexpr int kFrom = IDC_FROM;
+constexpr int kApply = IDC_APPLY;
+constexpr int kPoint = IDC_POINT;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 // Two markers, two frames; the second marker drops out once.
 TrcText TwoMarkers() {

@@ -4,6 +4,7 @@
 #include <functional>
 #include <string>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 
 // Closing the utility panel, or deleting it, in the middle of what it does with the host's edit
@@ -17,7 +18,7 @@ using testing::Each;
 using testing::Not;
 using testing::StartsWith;
 
-constexpr int kConvert = 1200;
+constexpr int kConvert = IDC_CONVERT;
 
 enum class Ending { kClosed, kDeleted };
 

@@ -3,6 +3,7 @@
 #include <utility>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 #include "tests/support/trc_text.h"
 
@@ -11,7 +12,7 @@
 namespace test {
 namespace {
 
-constexpr int kConvert = 1200;
+constexpr int kConvert = IDC_CONVERT;
 
 // A panel that is open, and takes to convert. All outputs are watched.
 struct Stage : UtilitiesStage {

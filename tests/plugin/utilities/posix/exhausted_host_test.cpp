@@ -2,6 +2,7 @@
 
 #include <new>
 
+#include "plugin/resources/resource.h"
 #include "plugin/utilities/convert_bvk.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 #include "tests/support/bone_nodes.h"
@@ -13,10 +14,10 @@
 namespace test {
 namespace {
 
-constexpr int kBrowseMapping = 1132;
-constexpr int kCreateMapping = 1203;
-constexpr int kAbort = 1154;
-constexpr int kConvert = 1200;
+constexpr int kBrowseMapping = IDC_BROWSE_MAPPING;
+constexpr int kCreateMapping = IDC_CREATE_MAPPING;
+constexpr int kAbort = IDC_ABORT;
+constexpr int kConvert = IDC_CONVERT;
 
 // Has no memory for its messages, or for saying which its window is.
 class ExhaustedHost final : public ForwardingInterface {
@@ -98,7 +99,7 @@ struct BusyStage : UtilitiesStage {
       if (++waits < 4) {
         application.picking().Click(scene().FindByName("Thing"));
       } else {
-        desk.desktop().ShownDialog(117)->Click(kAbort);
+        desk.desktop().ShownDialog(IDD_MAPPING_CREATOR)->Click(kAbort);
       }
       return true;
     });
@@ -121,13 +122,13 @@ TEST(ExhaustedHost, NothingThrownLeavesThePanel) {
   const int calls = EachCallFailing<BusyStage>([](BusyStage& stage) {
     stage.Open();
     for (const int button : {kBrowseMapping, kCreateMapping, kConvert}) {
-      host::ScriptedDialog* const page = stage.desk.desktop().ShownDialog(116);
+      host::ScriptedDialog* const page = stage.desk.desktop().ShownDialog(IDD_UTILITIES);
       if (page != nullptr) page->Click(button);
     }
     stage.Close();
     EXPECT_EQ(stage.application.rollup_pages().Open().size(), 0U);
     EXPECT_EQ(stage.application.HeldCustomEdits(), 0);
-    EXPECT_EQ(stage.desk.desktop().ShownDialog(117), nullptr);
+    EXPECT_EQ(stage.desk.desktop().ShownDialog(IDD_MAPPING_CREATOR), nullptr);
     EXPECT_FALSE(stage.application.picking().IsActive());
     EXPECT_TRUE(stage.application.callbacks().ExitCallbacks().empty());
   });

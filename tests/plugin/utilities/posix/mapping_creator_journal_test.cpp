@@ -4,6 +4,7 @@
 #include <functional>
 #include <utility>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 #include "tests/support/bone_nodes.h"
 
@@ -12,10 +13,10 @@
 namespace test {
 namespace {
 
-constexpr int kCreateMapping = 1203;
-constexpr int kBack = 1152;
-constexpr int kSkip = 1153;
-constexpr int kAbort = 1154;
+constexpr int kCreateMapping = IDC_CREATE_MAPPING;
+constexpr int kBack = IDC_BACK;
+constexpr int kSkip = IDC_SKIP;
+constexpr int kAbort = IDC_ABORT;
 
 // A panel that is open, an object to pick for everything, and a user who does one thing after the
 // other, then picks, and chooses the file made.mnm. He has a left wrist stick and no right one.
@@ -44,7 +45,7 @@ struct Stage : UtilitiesStage {
 
   void Pick() { application.picking().Click(scene().FindByName("Thing")); }
   void RightClick() { application.picking().RightClick(); }
-  void Press(int button) { desk.desktop().ShownDialog(117)->Click(button); }
+  void Press(int button) { desk.desktop().ShownDialog(IDD_MAPPING_CREATOR)->Click(button); }
 
   host::FileChoice choice;
   std::deque<std::function<void()>> planned;

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/utilities/posix/utilities_stage.h"
 
 // What the utility panel asks of its host, call by call.
@@ -7,17 +8,17 @@
 namespace test {
 namespace {
 
-constexpr int kSkelderSpace = 1125;
-constexpr int kTrcSpace = 1124;
-constexpr int kBrowseMapping = 1132;
-constexpr int kBrowseOutput = 1134;
-constexpr int kConvert = 1200;
-constexpr int kBatch = 1201;
-constexpr int kTrcName = 1202;
-constexpr int kFilter = 1204;
-constexpr int kEnableOffset = 1205;
-constexpr int kOffsetX = 1206;
-constexpr int kOffsetY = 1207;
+constexpr int kSkelderSpace = IDC_SKELDER_SPACE;
+constexpr int kTrcSpace = IDC_TRC_SPACE;
+constexpr int kBrowseMapping = IDC_BROWSE_MAPPING;
+constexpr int kBrowseOutput = IDC_BROWSE_OUTPUT;
+constexpr int kConvert = IDC_CONVERT;
+constexpr int kBatch = IDC_BATCH;
+constexpr int kTrcName = IDC_TRC_NAME;
+constexpr int kFilter = IDC_FILTER;
+constexpr int kEnableOffset = IDC_ENABLE_OFFSET;
+constexpr int kOffsetX = IDC_OFFSET_X;
+constexpr int kOffsetY = IDC_OFFSET_Y;
 
 TEST(PanelJournal, OpenedAndClosed) {
   UtilitiesStage stage;

@@ -2,6 +2,8 @@
 
 #include <stdexcept>
 
+#include "plugin/resources/resource.h"
+
 namespace test {
 
 UtilitiesStage::UtilitiesStage() {
@@ -29,7 +31,7 @@ void UtilitiesStage::Make() {
 }
 
 host::ScriptedDialog& UtilitiesStage::Page() {
-  host::ScriptedDialog* const page = desk.desktop().ShownDialog(116);
+  host::ScriptedDialog* const page = desk.desktop().ShownDialog(IDD_UTILITIES);
   if (page == nullptr) throw std::runtime_error("The panel is not open");
   return *page;
 }
