@@ -94,6 +94,7 @@ def change_all(changed):
 
 DAMAGES = [
     # The whole file
+    ("c3d", "trc-other-kind", damages.of_bytes(lambda text: b"\x02\x50" + bytes(510))),
     ("empty-file", "trc-empty", damages.empty),
     ("utf-16", "trc-encoding", damages.encode("utf-16")),
     ("returns-alone", "trc-line-ends", damages.end_lines_with_returns),
@@ -162,6 +163,7 @@ DAMAGES = [
 ]
 
 MAPPING_DAMAGES = [
+    ("bvk", "mnm-other-kind", damages.of_bytes(lambda text: b"$Comments\tof a BVK file\r\n")),
     ("utf-16", "mnm-encoding", damages.encode("utf-16-be")),
     ("returns-alone", "mnm-line-ends", damages.end_lines_with_returns),
     ("marked", "mnm-byte-order-mark", change_line(0, lambda line: b"\xef\xbb\xbf" + line)),

@@ -106,6 +106,7 @@ def base_position_over_and_over(lines):
 
 DAMAGES = [
     # The whole file
+    ("bvh", "htr-other-kind", damages.of_bytes(lambda text: b"HIERARCHY\nROOT Hips\n")),
     ("empty", "htr-empty", damages.empty),
     ("utf-16", "htr-encoding", damages.encode("utf-16-le")),
     ("returns-alone", "htr-line-ends", damages.end_lines_with_returns),

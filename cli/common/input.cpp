@@ -10,6 +10,7 @@
 #include "cli/common/known_messages.h"
 #include "formats/htr/reader.h"
 #include "formats/text/files.h"
+#include "inspect/check/content_kind.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
 
@@ -44,8 +45,13 @@ Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
   const std::optional<std::string> bytes = ReadStart(file);
   if (!bytes) return std::nullopt;
-  const auto flaw =
-      kind == FileKind::kHtr ? orvane::FindHtrTextFlaw(*bytes) : orvane::FindTextFlaw(*bytes);
+  const bool is_htr = kind == FileKind::kHtr;
+  const auto wanted = is_htr ? orvane::ContentKind::kHtr : orvane::ContentKind::kTrc;
+  if (const auto other = orvane::FindOtherKind(*bytes, wanted)) {
+    return Complaint{file, orvane::DescribeOtherKind(*other, is_htr ? "an HTR file" : "a TRC file"),
+                     orvane::WordsFor(*other).advice};
+  }
+  const auto flaw = is_htr ? orvane::FindHtrTextFlaw(*bytes) : orvane::FindTextFlaw(*bytes);
   if (!flaw) return std::nullopt;
   return ComplainAboutFlaw(file, *flaw);
 }

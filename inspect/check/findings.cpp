@@ -51,15 +51,11 @@ void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, Findi
   kept_.push_back(NewFinding(rule, place, std::move(words)));
 }
 
-void FindingList::ExplainErrors(const FindingRule& cause, const FindingPlace& place,
-                                FindingWords words) {
-  std::erase_if(kept_, [](const Finding& finding) {
-    return finding.rule.severity != FindingSeverity::kError;
-  });
-  std::erase_if(totals_,
-                [](const auto& total) { return total.second.severity != FindingSeverity::kError; });
-  ++totals_.try_emplace(cause.code, Total{cause.severity}).first->second.count;
-  kept_.insert(kept_.begin(), NewFinding(cause, place, std::move(words)));
+void FindingList::ReplaceAll(const FindingRule& cause, const FindingPlace& place,
+                             FindingWords words) {
+  kept_.clear();
+  totals_.clear();
+  Add(cause, place, std::move(words));
 }
 
 std::vector<Finding> FindingList::Sorted() const {

@@ -84,8 +84,8 @@ class FindingList {
     if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(words));
   }
 
-  // Puts an error before those that follow from it, and drops all that is none.
-  void ExplainErrors(const FindingRule& cause, const FindingPlace& place, FindingWords words);
+  // Puts the cause of all findings in their place.
+  void ReplaceAll(const FindingRule& cause, const FindingPlace& place, FindingWords words);
 
   // Those that are kept, by line and column.
   [[nodiscard]] std::vector<Finding> Sorted() const;

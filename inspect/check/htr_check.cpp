@@ -4,6 +4,7 @@
 
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
+#include "inspect/check/content_kind.h"
 #include "inspect/check/htr_findings_observer.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/htr_structure.h"
@@ -18,10 +19,14 @@ constexpr std::array<FindingRule, 4> kFlawRules = {
     htr::Rule("htr-first-section-lost")};
 
 // A mark that keeps nothing from being read is no more than what the observer has told.
-void NameFlaw(std::string_view bytes, FindingList& findings) {
+void NameWhatItIs(std::string_view bytes, FindingList& findings) {
+  if (const auto kind = FindOtherKind(bytes, ContentKind::kHtr)) {
+    return NameKindAlone(*kind, htr::Rule("htr-other-kind"), "an HTR file", WordsFor(*kind).advice,
+                         findings);
+  }
   const auto flaw = FindHtrTextFlaw(bytes);
   if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
-  NameFlawFirst(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
+  NameFlawAlone(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
                 "The import refuses the file; what else is odd about it is not told.", findings);
 }
 
@@ -48,7 +53,7 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocumen
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
-  NameFlaw(bytes, checked.findings);
+  NameWhatItIs(bytes, checked.findings);
   checked.contents = Contents(document);
   return checked;
 }

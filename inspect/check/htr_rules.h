@@ -12,6 +12,7 @@ namespace orvane::htr {
 
 inline constexpr auto kRules = std::to_array<FindingRule>({
     // The whole file
+    {"htr-other-kind", FindingSeverity::kError},
     {"htr-empty", FindingSeverity::kError},
     {"htr-encoding", FindingSeverity::kError},
     {"htr-line-ends", FindingSeverity::kError},

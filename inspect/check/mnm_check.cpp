@@ -5,6 +5,7 @@
 
 #include "formats/mnm/mapping_lines.h"
 #include "formats/trc/document.h"
+#include "inspect/check/content_kind.h"
 #include "inspect/check/mnm_entries.h"
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/similar_words.h"
@@ -36,13 +37,18 @@ class MarkerObserver final : public TRCReadObserver {
 };
 
 // An empty file is told as one without entries.
-void NameFlaw(std::string_view bytes, FindingList& findings) {
+void NameWhatItIs(std::string_view bytes, FindingList& findings) {
+  if (const auto kind = FindContentKind(bytes)) {
+    return NameKindAlone(*kind, mnm::Rule("mnm-other-kind"), "a mapping",
+                         "No marker has its entry; \"orvane map create\" makes a mapping.",
+                         findings);
+  }
   const auto flaw = FindTextFlaw(bytes);
   if (flaw == TextFlaw::kUtf16) {
-    NameFlawFirst(*flaw, mnm::Rule("mnm-encoding"),
+    NameFlawAlone(*flaw, mnm::Rule("mnm-encoding"),
                   "No marker has its entry: those of a capture are dropped.", findings);
   } else if (flaw == TextFlaw::kCarriageReturns) {
-    NameFlawFirst(*flaw, mnm::Rule("mnm-line-ends"),
+    NameFlawAlone(*flaw, mnm::Rule("mnm-line-ends"),
                   "Up to an LF only the first two words are read.", findings);
   }
 }
@@ -119,7 +125,7 @@ class MappingComparison {
 CheckedFile CheckMapping(const std::string& file, std::string_view bytes) {
   FindingList findings;
   const MappingEntries entries(bytes, findings);
-  NameFlaw(bytes, findings);
+  NameWhatItIs(bytes, findings);
   CheckedFile checked = NewReport(file, entries);
   checked.findings = std::move(findings);
   return checked;
@@ -137,7 +143,7 @@ std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view 
   const MappingEntries entries(bytes, findings);
   const MappingComparison comparison(file, entries, capture.markers);
   comparison.CheckEntries(findings);
-  NameFlaw(bytes, findings);
+  NameWhatItIs(bytes, findings);
 
   CheckedFile mapping = NewReport(file, entries);
   mapping.findings = std::move(findings);

@@ -12,6 +12,7 @@ namespace orvane::mnm {
 
 inline constexpr auto kRules = std::to_array<FindingRule>({
     // The whole file
+    {"mnm-other-kind", FindingSeverity::kError},
     {"mnm-encoding", FindingSeverity::kError},
     {"mnm-line-ends", FindingSeverity::kError},
 

@@ -97,10 +97,10 @@ std::optional<TextFlaw> FindMappingTextFlaw(std::string_view bytes) {
 
 const TextFlawWords& WordsFor(TextFlaw flaw) { return kWords[static_cast<std::size_t>(flaw)]; }
 
-void NameFlawFirst(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
+void NameFlawAlone(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
                    FindingList& findings) {
   const TextFlawWords& words = WordsFor(flaw);
-  findings.ExplainErrors(rule, {1, 1}, {words.found, words.expected, effect});
+  findings.ReplaceAll(rule, {1, 1}, {words.found, words.expected, effect});
 }
 
 }  // namespace orvane

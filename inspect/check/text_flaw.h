@@ -41,9 +41,9 @@ struct TextFlawWords {
 };
 [[nodiscard]] const TextFlawWords& WordsFor(TextFlaw flaw);
 
-// Puts `flaw` before the errors of `findings`, by `rule`, and drops what is no error: it follows
-// from the flaw, or is told when that is mended. `effect` ends the finding.
-void NameFlawFirst(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
+// Puts `flaw`, by `rule`, in the place of all `findings`: they follow from it, or are told when it
+// is mended. `effect` ends the finding.
+void NameFlawAlone(TextFlaw flaw, const FindingRule& rule, const std::string& effect,
                    FindingList& findings);
 
 }  // namespace orvane

@@ -5,6 +5,7 @@
 
 #include "formats/text/numbers.h"
 #include "formats/trc/document_checker.h"
+#include "inspect/check/content_kind.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
 #include "inspect/check/trc_parts.h"
@@ -105,13 +106,17 @@ constexpr std::array<FindingRule, 3> kFlawRules = {
     trc::Rule("trc-empty"), trc::Rule("trc-encoding"), trc::Rule("trc-line-ends")};
 
 // The pieces of one long line may pass for the lines of a marker file.
-void NameFlaw(std::string_view bytes, FindingList& findings) {
+void NameWhatItIs(std::string_view bytes, FindingList& findings) {
+  if (const auto kind = FindOtherKind(bytes, ContentKind::kTrc)) {
+    return NameKindAlone(*kind, trc::Rule("trc-other-kind"), "a TRC file", WordsFor(*kind).advice,
+                         findings);
+  }
   const auto flaw = FindTextFlaw(bytes);
   if (!flaw) return;
   const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
   const std::string effect =
       is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
-  NameFlawFirst(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
+  NameFlawAlone(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
                 effect + "; what else is odd about it is not told.", findings);
 }
 
@@ -132,7 +137,7 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (checked.refusal.empty()) WholeFile(document, parts, checked.findings).Check();
-  NameFlaw(bytes, checked.findings);
+  NameWhatItIs(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
   return checked;

@@ -12,6 +12,7 @@ namespace orvane::trc {
 
 inline constexpr auto kRules = std::to_array<FindingRule>({
     // The whole file
+    {"trc-other-kind", FindingSeverity::kError},
     {"trc-empty", FindingSeverity::kError},
     {"trc-encoding", FindingSeverity::kError},
     {"trc-line-ends", FindingSeverity::kError},

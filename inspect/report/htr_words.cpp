@@ -6,6 +6,7 @@ namespace {
 using enum FindingSeverity;
 
 constexpr FindingMeaning kWords[] = {
+    {"htr-other-kind", "The file is {found}, not {expected}", nullptr, InMotion(kError)},
     {"htr-empty", "The file is empty", nullptr, InMotion(kError, "Nothing is imported.")},
     {"htr-encoding", "The file is UTF-16 text", nullptr,
      InMotion(kError, "None of it is read; save it as UTF-8 or ASCII.")},

@@ -6,6 +6,9 @@ namespace {
 using enum FindingSeverity;
 
 constexpr FindingMeaning kWords[] = {
+    {"mnm-other-kind", "The file is {found}, not {expected}", nullptr,
+     InMappings(kError).But(Action::kConvert, kWarning,
+                            "No marker has its entry, and all are dropped.")},
     {"mnm-encoding", "The mapping is UTF-16 text", nullptr,
      InMappings(kError, "No marker has its entry, and all are dropped.")
          .But(Action::kConvert, kWarning, "No marker has its entry, and all are dropped.")},

@@ -6,6 +6,7 @@ namespace {
 using enum FindingSeverity;
 
 constexpr FindingMeaning kWords[] = {
+    {"trc-other-kind", "The file is {found}, not {expected}", nullptr, InMarkers(kError)},
     {"trc-empty", "The file is empty", nullptr, InMarkers(kError, "Nothing is read.")},
     {"trc-encoding", "The file is UTF-16 text", nullptr,
      InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},

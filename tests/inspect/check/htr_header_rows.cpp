@@ -14,6 +14,9 @@ constexpr const char* kRefusedWhole =
 
 const std::vector<CheckRow> kHtrHeaderRows = {
     // The whole file
+    {"OtherKind",
+     "PK\x03\x04",
+     {"1:1 error htr-other-kind", "a zip archive", "an HTR file", "Unpack it first."}},
     {"Empty", "", {"1:1 error htr-empty", "an empty file", "text", kRefusedWhole}},
     {"Utf16",
      LittleEndian(Walk().Text()),

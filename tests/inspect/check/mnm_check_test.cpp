@@ -31,6 +31,10 @@ std::vector<test::Told> ToldOfBoth(const std::string& bytes) {
 }
 
 const std::vector<CheckRow> kMappingRows = {
+    {"OtherKind",
+     "PK\x03\x04",
+     {"1:1 error mnm-other-kind", "a zip archive", "a mapping",
+      "No marker has its entry; \"orvane map create\" makes a mapping."}},
     {"Utf16",
      "\xFF\xFE" + LittleEndian("C7 B\n"),
      {"1:1 error mnm-encoding", "UTF-16 text", "ASCII or UTF-8",

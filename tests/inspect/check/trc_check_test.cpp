@@ -54,6 +54,9 @@ constexpr const char* kColumnsShift =
 
 const std::vector<CheckRow> kRows = {
     // The whole file
+    {"OtherKind",
+     "PK\x03\x04",
+     {"1:1 error trc-other-kind", "a zip archive", "a TRC file", "Unpack it first."}},
     {"Empty", "", {"1:1 error trc-empty", "an empty file", "text", kRefusedWhole}},
     {"Utf16",
      LittleEndian(Capture().Text()),
