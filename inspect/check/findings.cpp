@@ -47,7 +47,7 @@ bool FindingList::CountAndAskForMore(const FindingRule& rule) {
 }
 
 void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
-  assert(place.line >= 1 && place.column >= 1);
+  assert((place.line == 0) == (place.column == 0));
   kept_.push_back(NewFinding(rule, place, std::move(words)));
 }
 

@@ -71,8 +71,8 @@ class FindingList {
   static constexpr std::size_t kMostKeptOfARule = 20;
 
   // Adds what `rule` says of `place`, which is anything with a line and a column as FindingPlace
-  // has them. REQUIRES: both are 1 or more. `make_words` is called only when the finding is kept: a
-  // file may have one in every cell, and most of them are only counted.
+  // has them, or both 0 for what has no place in the file. `make_words` is called only when the
+  // finding is kept: a file may have one in every cell, and most of them are only counted.
   template <typename Place, std::invocable MakeWords>
   void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
     if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_words());

@@ -84,6 +84,9 @@ std::span<const FindingMeaning> HtrFindingMeanings();
 std::span<const FindingMeaning> TrcFindingMeanings();
 std::span<const FindingMeaning> MnmFindingMeanings();
 
+// Those of a file and the scene that it is applied to.
+std::span<const FindingMeaning> ApplyFindingMeanings();
+
 // Those of `code`; null when no finding has it.
 const FindingMeaning* FindMeaning(std::string_view code);
 

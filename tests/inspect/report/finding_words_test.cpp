@@ -10,6 +10,7 @@
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/trc_rules.h"
+#include "inspect/report/apply_rules.h"
 #include "tests/support/files.h"
 
 namespace {
@@ -30,10 +31,15 @@ std::vector<FindingRule> AllRules() {
   return all;
 }
 
+// Of what is found in a file and a scene together.
+std::vector<FindingRule> RulesOfScenes() {
+  return {orvane::apply::kRules.begin(), orvane::apply::kRules.end()};
+}
+
 std::vector<FindingMeaning> AllWords() {
   std::vector<FindingMeaning> all;
-  for (const auto& words :
-       {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(), orvane::MnmFindingMeanings()}) {
+  for (const auto& words : {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(),
+                            orvane::MnmFindingMeanings(), orvane::ApplyFindingMeanings()}) {
     all.insert(all.end(), words.begin(), words.end());
   }
   return all;
@@ -42,6 +48,10 @@ std::vector<FindingMeaning> AllWords() {
 TEST(FindingMeanings, AreThereForEveryCodeAndForNoOther) {
   std::set<std::string_view> codes;
   for (const FindingRule& rule : AllRules()) {
+    EXPECT_NE(FindMeaning(rule.code), nullptr) << rule.code;
+    codes.insert(rule.code);
+  }
+  for (const FindingRule& rule : RulesOfScenes()) {
     EXPECT_NE(FindMeaning(rule.code), nullptr) << rule.code;
     codes.insert(rule.code);
   }
@@ -55,6 +65,12 @@ TEST(FindingMeanings, OfALookAtAFileAreAsBadAsTheCheckSays) {
   for (const FindingRule& rule : AllRules()) {
     EXPECT_EQ(FindMeaning(rule.code)->effects[Action::kInspect].severity, rule.severity)
         << rule.code;
+  }
+}
+
+TEST(FindingMeanings, OfScenesAreAsBadAsTheCheckSays) {
+  for (const FindingRule& rule : RulesOfScenes()) {
+    EXPECT_EQ(FindMeaning(rule.code)->effects[Action::kApply].severity, rule.severity) << rule.code;
   }
 }
 

@@ -1,0 +1,193 @@
+#include "inspect/report/apply_check.h"
+
+#include <algorithm>
+#include <cmath>
+#include <tuple>
+#include <utility>
+
+#include "formats/text/numbers.h"
+#include "inspect/compare/motion_comparison.h"
+#include "inspect/report/apply_rules.h"
+
+namespace orvane {
+namespace {
+
+using Start = ApplyPlan::Start;
+
+constexpr FindingPlace kNoPlace{0, 0};
+
+double Distance(const Vector3& a, const Vector3& b) {
+  return std::hypot(a.x() - b.x(), a.y() - b.y(), a.z() - b.z());
+}
+
+BoneDifference Compare(const ApplyPair& pair, const BoneShape& segment, const BoneShape& bone) {
+  BoneDifference difference{pair, std::abs(segment.length - bone.length), 0.0};
+  if (segment.base && bone.base) {
+    difference.millimeters = std::max(difference.millimeters,
+                                      Distance(segment.base->translation, bone.base->translation));
+    difference.degrees = DegreesBetween(segment.base->rotation, bone.base->rotation);
+  }
+  return difference;
+}
+
+bool AnyNameMatches(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan) {
+  return std::any_of(plan.pairs.begin(), plan.pairs.end(), [&](const ApplyPair& pair) {
+    return file.items[pair.item].name == scene.nodes[pair.node].name;
+  });
+}
+
+// "half speed", or how many times its speed.
+std::string SpeedOf(std::int32_t file_rate, std::int32_t scene_rate) {
+  if (2 * std::int64_t{scene_rate} == file_rate) return "half speed";
+  if (scene_rate == 2 * std::int64_t{file_rate}) return "double speed";
+  return FormatDouble(static_cast<double>(scene_rate) / file_rate, 2) + " times its speed";
+}
+
+// Gathers what is found of one file.
+class ApplyCheck {
+ public:
+  ApplyCheck(const std::string& name, std::string_view kind) : checked_{name, kind, "", {}} {}
+
+  void CheckNames(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan,
+                  bool selected_only) {
+    const bool is_motion = checked_.kind == "HTR";
+    if (plan.start != Start::kFound) {
+      // Of a skeleton the plug-in says so itself, and imports nothing.
+      if (!is_motion) AddNothingSelected(selected_only);
+      return;
+    }
+    if (!plan.file_only.empty()) {
+      const std::string effect = LeftOut(file, scene, plan, selected_only);
+      if (!AnyNameMatches(file, scene, plan)) {
+        return Add(FindRule(apply::kRules, "apply-nothing-matches"), "", "", effect);
+      }
+      AddMissing(file, plan, effect);
+    }
+    for (const std::size_t node : plan.scene_only) {
+      Add(FindRule(apply::kRules, "apply-name-missing-in-file"), Quote(scene.nodes[node].name));
+    }
+    if (is_motion && !plan.pairs.empty()) CompareRoot(file, scene, plan);
+  }
+
+  void CompareAll(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan) {
+    for (const BoneDifference& each : CompareBones(file, scene, plan)) {
+      Add(FindRule(apply::kRules, "apply-bone-differs"), Quote(scene.nodes[each.pair.node].name),
+          Describe(each));
+    }
+  }
+
+  void CompareRates(const ApplyCircumstances& how) {
+    if (how.file_rate == how.scene_rate || how.file_rate <= 0) return;
+    Add(FindRule(apply::kRules, "apply-rate-differs"), FormatInt(how.file_rate),
+        FormatInt(how.scene_rate),
+        "The motion plays at " + SpeedOf(how.file_rate, how.scene_rate) +
+            "; --frame-rate file gives the scene the rate of the file.");
+  }
+
+  void CheckRange(const ApplyCircumstances& how) {
+    if (!how.range_from || *how.range_from == how.first_frame) return;
+    const std::string from = FormatInt(*how.range_from);
+    const std::string first = FormatInt(how.first_frame);
+    Add(FindRule(apply::kRules, "apply-range-moves"), from, first,
+        "A range of a motion file says when, and not what: frame " + first + " is keyed in frame " +
+            from + ", and those behind it follow.");
+  }
+
+  CheckedFile Finish() { return std::move(checked_); }
+
+ private:
+  void Add(const FindingRule& rule, std::string found, std::string expected = "",
+           std::string effect = "") {
+    checked_.findings.Add(rule, kNoPlace,
+                          {std::move(found), std::move(expected), std::move(effect)});
+  }
+
+  void AddNothingSelected(bool selected_only) {
+    Add(FindRule(apply::kRules, "apply-nothing-selected"), "", "",
+        std::string(selected_only ? "Nothing is imported" : "Every marker gets a new object") +
+            "; --into SCENE --select NAME selects in a scene of yours.");
+  }
+
+  // What becomes of names that are not in the scene.
+  std::string LeftOut(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan,
+                      bool selected_only) const {
+    if (checked_.kind == "HTR") {
+      if (AnyNameMatches(file, scene, plan)) {
+        return "Their motion is left out; a bone counts below the bone of its parent, and the case "
+               "of letters counts.";
+      }
+      return "The motion of " + Quote(file.items[plan.pairs.front().item].name) +
+             " goes to the node that is selected, and all other motion is left out.";
+    }
+    const std::string looked_at = "; selected objects and their children are looked at.";
+    if (!selected_only) return "They get new objects" + looked_at;
+    return "They all move the last selected object, " +
+           Quote(scene.nodes[scene.selected.back()].name) + looked_at;
+  }
+
+  void AddMissing(const AppliedFile& file, const ApplyPlan& plan, const std::string& effect) {
+    for (const std::size_t item : plan.file_only) {
+      Add(FindRule(apply::kRules, "apply-name-missing-in-scene"), Quote(file.items[item].name), "",
+          effect);
+    }
+  }
+
+  void CompareRoot(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan) {
+    const ApplyPair& root = plan.pairs.front();
+    const std::string& name = file.items[root.item].name;
+    if (name == scene.nodes[root.node].name) return;
+    Add(FindRule(apply::kRules, "apply-root-name-differs"), Quote(scene.nodes[root.node].name),
+        Quote(name));
+  }
+
+  CheckedFile checked_;
+};
+
+}  // namespace
+
+std::vector<BoneDifference> CompareBones(const AppliedFile& file, const ApplyScene& scene,
+                                         const ApplyPlan& plan) {
+  std::vector<BoneDifference> differences;
+  for (const ApplyPair& pair : plan.pairs) {
+    const auto& segment = file.items[pair.item].shape;
+    const auto& bone = scene.nodes[pair.node].shape;
+    if (!segment || !bone) continue;
+    const BoneDifference difference = Compare(pair, *segment, *bone);
+    const bool is_same =
+        difference.millimeters <= kSameMillimeters && difference.degrees <= kSameDegrees;
+    if (!is_same) differences.push_back(difference);
+  }
+  std::stable_sort(differences.begin(), differences.end(),
+                   [](const BoneDifference& left, const BoneDifference& right) {
+                     return std::tie(left.millimeters, left.degrees) >
+                            std::tie(right.millimeters, right.degrees);
+                   });
+  return differences;
+}
+
+std::string Describe(const BoneDifference& difference) {
+  const std::string length = FormatDouble(difference.millimeters, 1) + " mm";
+  const std::string angle = FormatDouble(difference.degrees, 1) + " degrees";
+  if (difference.degrees <= kSameDegrees) return length;
+  return difference.millimeters <= kSameMillimeters ? angle : length + " and " + angle;
+}
+
+CheckedFile CheckApply(const std::string& name, std::string_view kind, const AppliedFile& file,
+                       const ApplyScene& scene, const ApplyPlan& plan,
+                       const ApplyCircumstances& how) {
+  ApplyCheck check(name, kind);
+  check.CheckNames(file, scene, plan, how.selected_only);
+  check.CompareAll(file, scene, plan);
+  if (!plan.pairs.empty()) check.CompareRates(how);
+  check.CheckRange(how);
+  return check.Finish();
+}
+
+CheckedFile CheckRange(const std::string& name, std::string_view kind,
+                       const ApplyCircumstances& how) {
+  ApplyCheck check(name, kind);
+  check.CheckRange(how);
+  return check.Finish();
+}
+
+}  // namespace orvane

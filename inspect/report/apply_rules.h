@@ -1,0 +1,22 @@
+#pragma once
+
+#include <array>
+
+#include "inspect/check/findings.h"
+
+// What can be said of a file and the scene that it is applied to, and how bad each is.
+
+namespace orvane::apply {
+
+inline constexpr std::array kRules = {
+    FindingRule{"apply-nothing-selected", FindingSeverity::kWarning},
+    FindingRule{"apply-nothing-matches", FindingSeverity::kWarning},
+    FindingRule{"apply-name-missing-in-scene", FindingSeverity::kWarning},
+    FindingRule{"apply-name-missing-in-file", FindingSeverity::kNote},
+    FindingRule{"apply-root-name-differs", FindingSeverity::kNote},
+    FindingRule{"apply-bone-differs", FindingSeverity::kNote},
+    FindingRule{"apply-rate-differs", FindingSeverity::kWarning},
+    FindingRule{"apply-range-moves", FindingSeverity::kWarning},
+};
+
+}  // namespace orvane::apply

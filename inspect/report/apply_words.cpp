@@ -1,0 +1,39 @@
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+using enum FindingSeverity;
+
+constexpr FindingEffects Applied(FindingSeverity severity, const char* consequence = nullptr) {
+  return {std::array{Action::kApply}, {severity, consequence}};
+}
+
+constexpr FindingMeaning kWords[] = {
+    {"apply-nothing-selected", "Nothing is selected in the scene", nullptr, Applied(kWarning)},
+    {"apply-nothing-matches", "No name of the file is among what it is applied to", nullptr,
+     Applied(kWarning)},
+    {"apply-name-missing-in-scene", "A name of the file is not among what it is applied to",
+     "{count} names of the file are not among what it is applied to", Applied(kWarning)},
+    {"apply-name-missing-in-file", "A name of the scene is not in the file",
+     "{count} names of the scene are not in the file",
+     Applied(kNote, "What has such a name is not keyed, and stays as it is.")},
+    {"apply-root-name-differs", "The motion of {expected} goes to a node of another name", nullptr,
+     Applied(kNote, "The node that is selected takes it, whatever its name.")},
+    {"apply-bone-differs", "A bone differs from the file's in length or base, by {expected}",
+     "{count} bones differ from the file's in length or base, by {expected} at the most",
+     Applied(kNote, "Joints move as in the file, and bones keep the lengths that they have.")},
+    {"apply-rate-differs",
+     "There are {found} frames per second in the file, {expected} in the scene", nullptr,
+     Applied(kWarning)},
+    {"apply-range-moves",
+     "--range begins in frame {found}, and the file in frame {expected}",
+     nullptr,
+     {std::array{Action::kImport, Action::kApply}, {kWarning, nullptr}}},
+};
+
+}  // namespace
+
+std::span<const FindingMeaning> ApplyFindingMeanings() { return kWords; }
+
+}  // namespace orvane
