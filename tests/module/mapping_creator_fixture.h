@@ -11,15 +11,16 @@
 #include <utility>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/utility_fixture.h"
 #include "tests/support/files.h"
 
 namespace test {
 
-inline constexpr int kDescription = 1151;
-inline constexpr int kBack = 1152;
-inline constexpr int kSkip = 1153;
-inline constexpr int kAbort = 1154;
+inline constexpr int kDescription = IDC_MARKER_DESCRIPTION;
+inline constexpr int kBack = IDC_BACK;
+inline constexpr int kSkip = IDC_SKIP;
+inline constexpr int kAbort = IDC_ABORT;
 
 inline constexpr WireColor kMarkerColor = 204U | 51U << 8U | 51U << 16U;
 inline constexpr WireColor kPickedColor = 25U | 25U << 8U | 204U << 16U;

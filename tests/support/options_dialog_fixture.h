@@ -4,6 +4,7 @@
 
 #include "host/desktop/top_level_window.h"
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "plugin/services/message_sink.h"
 #include "tests/support/desk.h"
 
@@ -31,7 +32,7 @@ class OptionsDialogFixture : public testing::Test {
 
   // Shows the dialog to `user`; a dialog that the user leaves open is cancelled.
   bool Show(const Desk::DialogAnswer& user) {
-    constexpr int kCancel = 1098;
+    constexpr int kCancel = IDC_CANCEL;
     desk_.Expect([&user](host::ScriptedDialog& dialog) {
       user(dialog);
       if (!dialog.HasEnded()) dialog.Click(kCancel);

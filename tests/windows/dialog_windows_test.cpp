@@ -11,6 +11,7 @@
 #include <string>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/utility_fixture.h"
 #include "tests/windows/picture.h"
 #include "tests/windows/window_layout.h"
@@ -25,11 +26,11 @@ using testing::IsEmpty;
 using testing::IsSupersetOf;
 using testing::Not;
 
-constexpr int kCreate = 1085;
-constexpr int kApply = 1086;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kAbort = 1154;
+constexpr int kCreate = IDC_CREATE;
+constexpr int kApply = IDC_APPLY;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kAbort = IDC_ABORT;
 
 // What a test does with an open dialog.
 using Look = Desk::DialogAnswer;

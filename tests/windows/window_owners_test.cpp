@@ -5,6 +5,7 @@
 
 #include <string>
 
+#include "plugin/resources/resource.h"
 #include "tests/module/module_fixture.h"
 #include "tests/windows/window_layout.h"
 
@@ -12,10 +13,10 @@ namespace test {
 namespace {
 
 constexpr char kWalk[] = ORVANE_SOURCE_DIR "/examples/walk.htr";
-constexpr int kGlobal = 1088;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kAbout = 1103;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kAbout = IDC_ABOUT;
 
 class WindowOwnersTest : public ModuleTest {
  protected:

@@ -6,6 +6,7 @@
 #include "plugin/export_htr/options_dialog.h"
 #include "plugin/import_htr/options_dialog.h"
 #include "plugin/import_trc/options_dialog.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
 
@@ -14,16 +15,16 @@
 namespace orvane {
 namespace {
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kAll = 1067;  // "Slider" of the exporter
-constexpr int kRange = 1068;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kAbout = 1103;
-constexpr int kSize = 1104;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kAll = IDC_ALL;  // "Slider" of the exporter
+constexpr int kRange = IDC_RANGE;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kAbout = IDC_ABOUT;
+constexpr int kSize = IDC_OBJECT_SIZE;
 
 using Radios = std::vector<std::pair<int, int>>;
 
@@ -34,7 +35,7 @@ struct ImportHTR {
   static constexpr int kId = 107;
   static constexpr char kName[] = "ImportHTR";
   static constexpr char kStoredValue[] = "Apply";
-  static constexpr int kSwitch = 1086;  // a radio that is not selected at first
+  static constexpr int kSwitch = IDC_APPLY;  // a radio that is not selected at first
   static bool IsSwitched(const Options& options) { return options.apply; }
   // Each pair with the one first that a new user finds selected.
   static Radios Pairs() { return {{1085, 1086}, {kAll, kRange}, {1051, 1052}}; }
@@ -48,7 +49,7 @@ struct ImportTRC {
   static constexpr int kId = 108;
   static constexpr char kName[] = "ImportTRC";
   static constexpr char kStoredValue[] = "Apply";
-  static constexpr int kSwitch = 1086;
+  static constexpr int kSwitch = IDC_APPLY;
   static bool IsSwitched(const Options& options) { return options.apply; }
   static Radios Pairs() { return {{1085, 1086}, {kAll, kRange}, {1141, 1142}}; }
   static std::vector<int> Ignored() { return {1, 2, kAbout, 1050, 1140, 1143, 1144}; }
@@ -61,7 +62,7 @@ struct ExportHTR {
   static constexpr int kId = 126;
   static constexpr char kName[] = "ExportHTR";
   static constexpr char kStoredValue[] = "Pose";
-  static constexpr int kSwitch = 1107;
+  static constexpr int kSwitch = IDC_CURRENT_POSE;
   static bool IsSwitched(const Options& options) { return !options.savedPose; }
   static Radios Pairs() { return {{1106, 1107}, {kAll, kRange}}; }
   static std::vector<int> Ignored() { return {1, 2, kFrom, kTo, 1108, 1109}; }

@@ -3,6 +3,7 @@
 #include <new>
 #include <string>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/export_htr/export_fixture.h"
 #include "tests/support/files.h"
 #include "tests/support/forwarding_interface.h"
@@ -12,15 +13,15 @@ namespace {
 
 using host::ProgressEvent;
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kSlider = 1067;
-constexpr int kRange = 1068;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kCurrentPose = 1107;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kSlider = IDC_SLIDER;
+constexpr int kRange = IDC_RANGE;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kCurrentPose = IDC_CURRENT_POSE;
 
 TEST_F(ExportHTRTest, WritesTheSelectedSkeleton) {
   MakeSkeleton();

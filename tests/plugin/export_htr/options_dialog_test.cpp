@@ -6,23 +6,24 @@
 #include <vector>
 
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kSlider = 1067;
-constexpr int kRange = 1068;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kAnimation = 1105;
-constexpr int kSavedPose = 1106;
-constexpr int kCurrentPose = 1107;
-constexpr int kParentTransforms = 1109;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kSlider = IDC_SLIDER;
+constexpr int kRange = IDC_RANGE;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kAnimation = IDC_EXPORT_ANIMATION;
+constexpr int kSavedPose = IDC_SAVED_POSE;
+constexpr int kCurrentPose = IDC_CURRENT_POSE;
+constexpr int kParentTransforms = IDC_PARENT_TRANSFORMS;
 
 class ExportHTROptionsDialogTest
     : public test::OptionsDialogFixture<ExportHTROptionsDialog, ExportHTROptions> {

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include "host/scene/box_object.h"
+#include "plugin/resources/resource.h"
 #include "tests/plugin/import_htr/import_fixture.h"
 #include "tests/support/forwarding_interface.h"
 
@@ -15,12 +16,12 @@ using test::HtrText;
 using test::KeyTicks;
 using Ticks = std::vector<TimeValue>;
 
-constexpr int kGlobal = 1088;
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kRange = 1068;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kRange = IDC_RANGE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 TEST_F(ImportHTRTest, CreatesASkeletonUnderADummyNamedAfterTheFile) {
   options_.size = 2;

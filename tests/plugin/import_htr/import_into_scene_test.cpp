@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/import_htr/import_fixture.h"
 #include "tests/support/forwarding_interface.h"
 
@@ -11,10 +12,10 @@ using test::HtrText;
 using test::KeyTicks;
 using Ticks = std::vector<TimeValue>;
 
-constexpr int kApply = 1086;
-constexpr int kTo = 1066;
-constexpr int kRange = 1068;
-constexpr int kOk = 1097;
+constexpr int kApply = IDC_APPLY;
+constexpr int kTo = IDC_TO;
+constexpr int kRange = IDC_RANGE;
+constexpr int kOk = IDC_OK;
 
 // --- Create mode ---
 

@@ -6,31 +6,32 @@
 #include <vector>
 
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kBasePosition = 1017;
-constexpr int kEndEffectors = 1019;
-constexpr int kSpare = 1023;
-constexpr int kEuler = 1051;
-constexpr int kTcb = 1052;
-constexpr int kAnimation = 1063;
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kAll = 1067;
-constexpr int kRange = 1068;
-constexpr int kCreate = 1085;
-constexpr int kApply = 1086;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
-constexpr int kAbout = 1103;
-constexpr int kSegmentSize = 1104;
-constexpr int kSetFrameRate = 1140;
+constexpr int kBasePosition = IDC_BASE_POSITION;
+constexpr int kEndEffectors = IDC_END_EFFECTORS;
+constexpr int kSpare = IDC_SPARE;
+constexpr int kEuler = IDC_EULER;
+constexpr int kTcb = IDC_TCB;
+constexpr int kAnimation = IDC_ANIMATION;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kAll = IDC_ALL;
+constexpr int kRange = IDC_RANGE;
+constexpr int kCreate = IDC_CREATE;
+constexpr int kApply = IDC_APPLY;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
+constexpr int kAbout = IDC_ABOUT;
+constexpr int kSegmentSize = IDC_OBJECT_SIZE;
+constexpr int kSetFrameRate = IDC_SET_FRAME_RATE;
 
 class ImportHTROptionsDialogTest
     : public test::OptionsDialogFixture<ImportHTROptionsDialog, ImportHTROptions> {

@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "plugin/resources/resource.h"
 #include "tests/plugin/import_trc/import_fixture.h"
 #include "tests/support/forwarding_interface.h"
 
@@ -16,12 +17,12 @@ using test::TrcText;
 using Ticks = std::vector<TimeValue>;
 using Counts = std::pair<std::size_t, std::size_t>;
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kRange = 1068;
-constexpr int kGlobal = 1088;
-constexpr int kOk = 1097;
-constexpr int kCancel = 1098;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kRange = IDC_RANGE;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOk = IDC_OK;
+constexpr int kCancel = IDC_CANCEL;
 
 // --- The order of work ---
 

@@ -9,6 +9,7 @@
 #include "host/scene/box_object.h"
 #include "host/scene/point_helper.h"
 #include "host/scene/sphere_object.h"
+#include "plugin/resources/resource.h"
 #include "tests/plugin/import_trc/import_fixture.h"
 
 namespace orvane {
@@ -18,10 +19,10 @@ using test::TrcText;
 using Ticks = std::vector<TimeValue>;
 using Counts = std::pair<std::size_t, std::size_t>;
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kRange = 1068;
-constexpr int kOk = 1097;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kRange = IDC_RANGE;
+constexpr int kOk = IDC_OK;
 
 // --- The cloud ---
 

@@ -6,27 +6,28 @@
 #include <vector>
 
 #include "platform/module.h"
+#include "plugin/resources/resource.h"
 #include "tests/support/fake_dialog.h"
 #include "tests/support/options_dialog_fixture.h"
 
 namespace orvane {
 namespace {
 
-constexpr int kFrom = 1065;
-constexpr int kTo = 1066;
-constexpr int kAll = 1067;
-constexpr int kRange = 1068;
-constexpr int kCreate = 1085;
-constexpr int kApply = 1086;
-constexpr int kGlobal = 1088;
-constexpr int kOffset = 1089;
-constexpr int kOk = 1097;
-constexpr int kSize = 1104;
-constexpr int kSetFrameRate = 1140;
-constexpr int kSphere = 1141;
-constexpr int kPoint = 1142;
-constexpr int kSelectedOnly = 1143;
-constexpr int kRootNode = 1144;
+constexpr int kFrom = IDC_FROM;
+constexpr int kTo = IDC_TO;
+constexpr int kAll = IDC_ALL;
+constexpr int kRange = IDC_RANGE;
+constexpr int kCreate = IDC_CREATE;
+constexpr int kApply = IDC_APPLY;
+constexpr int kGlobal = IDC_GLOBAL_SCALE;
+constexpr int kOffset = IDC_OFFSET;
+constexpr int kOk = IDC_OK;
+constexpr int kSize = IDC_OBJECT_SIZE;
+constexpr int kSetFrameRate = IDC_SET_FRAME_RATE;
+constexpr int kSphere = IDC_SPHERE;
+constexpr int kPoint = IDC_POINT;
+constexpr int kSelectedOnly = IDC_SELECTED_ONLY;
+constexpr int kRootNode = IDC_ROOT_NODE;
 
 class ImportTRCOptionsDialogTest
     : public test::OptionsDialogFixture<ImportTRCOptionsDialog, ImportTRCOptions> {
