@@ -11,6 +11,7 @@
 #include "cli/common/outputs.h"
 #include "cli/common/report.h"
 #include "inspect/report/finding_words.h"
+#include "platform/file_place.h"
 #include "platform/output_file.h"
 
 namespace cli {
@@ -63,7 +64,8 @@ std::string WhyNoCode(const std::string& code) {
 void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
   CLI::Option* report =
       RequireName(verb.add_option("--report", manner.file,
-                                  "Write what is found in the files to this file, as JSON"))
+                                  "Write what is found in the files to this file, as JSON; one "
+                                  "that is there is replaced"))
           ->type_name("FILE.json");
   verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")->excludes(report);
 }
@@ -110,6 +112,18 @@ bool Forbids(const ReportManner& manner, const FileReport& report) {
 
 Failure ForbiddenByStrict() {
   return {ExitStatus::kRefused, {{"--strict", "nothing was written because of this", ""}}};
+}
+
+void RequireReportApart(const ReportManner& manner, const std::vector<std::string>& inputs,
+                        const std::vector<std::string>& outputs) {
+  if (manner.file.empty()) return;
+  RequireNoInput(manner.file, inputs);
+  const std::string place = platform::PlaceOf(manner.file);
+  for (const std::string& output : outputs) {
+    if (platform::PlaceOf(output) != place) continue;
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{manner.file, "would be the report and another output too", ""}}};
+  }
 }
 
 void WriteReportFile(const std::vector<FileReport>& reports, const ReportManner& manner) {

@@ -41,8 +41,13 @@ void TellAll(const std::vector<orvane::FileReport>& reports, const ReportManner&
 // That nothing comes of the work because of that.
 [[nodiscard]] Failure ForbiddenByStrict();
 
+// Throws a Failure for wrong usage when the report would take the place of one of `inputs`, which
+// are read, or of `outputs`, which are made.
+void RequireReportApart(const ReportManner& manner, const std::vector<std::string>& inputs,
+                        const std::vector<std::string>& outputs);
+
 // Writes `reports` to the file that `manner` names, if it names one. Throws a Failure when that
-// cannot be written; one that is there is replaced.
+// cannot be written; a file that is there is replaced.
 void WriteReportFile(const std::vector<orvane::FileReport>& reports, const ReportManner& manner);
 
 }  // namespace cli

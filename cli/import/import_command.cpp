@@ -1,6 +1,7 @@
 #include "cli/import/import_command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <map>
 #include <memory>
@@ -10,6 +11,7 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/plugin_session.h"
@@ -103,24 +105,49 @@ ReportManner ReportMannerOf(const ImportArguments& arguments) {
   return manner;
 }
 
-// Tells what is odd in `input`, and what the import will make of that. Returns what is to be told
-// of the file and the scene together. Throws a Failure when nothing is to be imported.
-std::vector<Complaint> TellOfFile(const std::string& input, FileKind kind,
-                                  const ImportChoices& choices, const host::Scene& scene,
-                                  const ImportArguments& arguments) {
+// What was found in a file that is to be imported.
+struct Told {
+  std::vector<Complaint> complaints;  // of the file and the scene together, to be told
+  bool has_errors = false;
+};
+
+// Tells what is odd in `input`, and what the import will make of that. Throws a Failure when
+// nothing is to be imported.
+Told TellOfFile(const std::string& input, FileKind kind, const ImportChoices& choices,
+                const host::Scene& scene, const ImportArguments& arguments) {
   const ReportManner manner = ReportMannerOf(arguments);
   Inspection inspection = Inspect(input, kind, choices, scene, kImportLess, !manner.omitted);
   orvane::FileReport report =
       ReportOn(inspection.checked, choices.apply ? orvane::Action::kApply : orvane::Action::kImport,
-               {choices.frame_rate_from_file, inspection.as_announced});
+               {choices.frame_rate_from_file, inspection.asked});
   WriteReportFile({report}, manner);
   if (inspection.refusal) {
-    Tell(report.Without(inspection.refused_code), manner);
+    for (const std::string_view code : inspection.refused_codes) report = report.Without(code);
+    Tell(report, manner);
     throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   }
   Tell(report, manner);
   if (Forbids(manner, report)) throw ForbiddenByStrict();
-  return std::move(inspection.complaints);
+  return {std::move(inspection.complaints), report.Count(orvane::FindingSeverity::kError) > 0};
+}
+
+// The plug-in warns of a scale factor in its own words, which are no reason against the import when
+// the finding is none.
+void TellAllowed(const ReportManner& manner, std::vector<Complaint>& complaints) {
+  const auto& allowed = manner.allowed;
+  if (std::find(allowed.begin(), allowed.end(), "htr-scale-factor") == allowed.end()) return;
+  std::erase_if(complaints, [](const Complaint& complaint) {
+    if (Recognize(complaint.text) != KnownMessage::kScaleFactorIgnored) return false;
+    Print(Severity::kWarning, complaint);
+    return true;
+  });
+}
+
+// The plug-in takes some files that nothing good comes of.
+Failure RefusedForError(const std::string& file, std::vector<Complaint> complaints) {
+  complaints.push_back(
+      {file, "nothing was written because of this error", "--no-report imports it anyway."});
+  return {ExitStatus::kRefused, std::move(complaints)};
 }
 
 ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArguments& arguments) {
@@ -130,7 +157,8 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
   const std::vector<ControlWish> wishes = AllWishes(arguments);
   const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
-  Append(TellOfFile(input, kind, choices, session.scene(), arguments), complaints);
+  const Told told = TellOfFile(input, kind, choices, session.scene(), arguments);
+  Append(told.complaints, complaints);
   if (kind == FileKind::kTrc) {
     Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
   }
@@ -143,13 +171,22 @@ ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArgum
   StopIfInterrupted();
   AddMessages(input, session, HiddenNumbers(wishes, kind, session.settings()), complaints);
   if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
+  if (told.has_errors) throw RefusedForError(input, std::move(complaints));
   AddReversedRange(input, range, session.scene().Animation(), complaints);
+  TellAllowed(arguments.report, complaints);
   Warn(std::move(complaints), arguments.report.strict);
   const std::size_t size = output.Deliver(session.scene(), input);
   if (!arguments.quiet) {
-    PrintImportSummary({input, arguments.output, size}, session.scene(), std::cout);
+    PrintImportSummary({input, arguments.output, size, arguments.report.omitted}, session.scene(),
+                       std::cout);
   }
   return ExitStatus::kDone;
+}
+
+std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
+  std::vector<std::string> inputs = {input};
+  if (!arguments.into.empty()) inputs.push_back(arguments.into);
+  return inputs;
 }
 
 ExitStatus Import(const ImportArguments& arguments) {
@@ -157,6 +194,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
   const std::string input = ReadableFile(arguments.input, kind);
   RequireNoInput(arguments.output, {input});
+  RequireReportApart(arguments.report, InputsOf(arguments, input), {arguments.output});
   return ImportFile(input, kind, arguments);
 }
 

@@ -69,6 +69,7 @@ void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std:
       << "  Keys    " << Count(keys.count) << Place(keys, scene.Animation()) << '\n'
       << "  Frames  " << Range(scene.Animation()) << '\n'
       << "  Scene   " << Printable(file.output) << " (" << Count(file.output_bytes) << " bytes)\n";
+  if (file.unreported) out << "  Report  none: --no-report\n";
 }
 
 }  // namespace cli

@@ -10,6 +10,7 @@
 namespace cli {
 namespace {
 
+using orvane::AskedFrames;
 using orvane::FormatInt;
 using orvane::FrameCounts;
 using orvane::MadeUpFrames;
@@ -41,10 +42,12 @@ MadeUpFrames MadeUp(const ImportedFrames& frames, std::int64_t offset, int ticks
           receivers.held, ticks_per_frame * receivers.controllers};
 }
 
-// Whether it matters that the header and the file differ.
-bool IsAsAnnounced(const ImportedFrames& frames, bool is_part) {
+// What is asked for, unless it is far too much.
+AskedFrames Asked(const ImportedFrames& frames, bool is_part) {
   const FrameCounts& counts = frames.counts;
-  return frames.end > counts.fewest_held || (counts.announced < counts.most_held && !is_part);
+  if (frames.end > counts.fewest_held) return AskedFrames::kMissing;
+  const bool are_left_out = counts.announced < counts.most_held && !is_part;
+  return are_left_out ? AskedFrames::kAnnounced : AskedFrames::kHeld;
 }
 
 std::optional<Complaint> FindLost(const std::string& file, const FrameInterval& moved,
@@ -67,10 +70,12 @@ FramesVerdict JudgeFrames(const std::string& file, const ImportedFrames& frames,
                           const ImportChoices& choices, const host::AnimationState& animation) {
   const int ticks_per_frame =
       choices.frame_rate_from_file ? host::TicksPerFrame(frames.rate) : animation.TicksPerFrame();
-  return {WhyOutOfProportion(frames.keyed.Count(), frames.counts,
-                             MadeUp(frames, choices.offset, ticks_per_frame)),
-          FindLost(file, Moved(frames.keyed, choices.offset), ticks_per_frame),
-          IsAsAnnounced(frames, IsPart(frames, choices))};
+  std::string excess = WhyOutOfProportion(frames.keyed.Count(), frames.counts,
+                                          MadeUp(frames, choices.offset, ticks_per_frame));
+  const AskedFrames asked =
+      excess.empty() ? Asked(frames, IsPart(frames, choices)) : AskedFrames::kAnnounced;
+  return {std::move(excess), FindLost(file, Moved(frames.keyed, choices.offset), ticks_per_frame),
+          asked};
 }
 
 }  // namespace cli

@@ -7,6 +7,7 @@
 #include "cli/import/import_flags.h"
 #include "host/animation/animation_state.h"
 #include "inspect/counts/frame_counts.h"
+#include "inspect/report/report.h"
 
 // The frames of a file as an import takes them: whether it makes too many up, and what becomes of
 // those that it cannot take.
@@ -33,7 +34,7 @@ struct ImportedFrames {
 struct FramesVerdict {
   std::string excess;  // why the import takes far more frames than are held; empty when it does not
   std::optional<Complaint> lost;  // frames that come to lie outside the host's time
-  bool as_announced = false;  // whether frames that are announced and not there matter, or others
+  orvane::AskedFrames asked = orvane::AskedFrames::kAnnounced;
 };
 
 // What is to be said of `frames` of `file` before they are imported by `choices` into a scene with

@@ -92,6 +92,8 @@ Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::strin
   return {std::move(checked), is_refused};
 }
 
+using Codes = std::vector<std::string_view>;
+
 class Inspecting {
  public:
   Inspecting(const std::string& file, const ImportChoices& choices, const host::Scene& scene)
@@ -110,7 +112,7 @@ class Inspecting {
  private:
   void Judge(orvane::HtrDocument& document, std::size_t /*bytes*/, const std::string& advice) {
     if (document.segments().empty()) return;  // which the plug-in tells
-    JudgeAll(FramesOf(document, choices_, scene_), "htr-frames-too-many",
+    JudgeAll(FramesOf(document, choices_, scene_), {"htr-frames-too-many", "htr-frame-count"},
              ListsSegmentsAgain(document)
                  ? "[BasePosition] comes again, so that segments are listed more than once."
                  : advice);
@@ -118,27 +120,27 @@ class Inspecting {
 
   void Judge(const orvane::TRCDocument& document, std::size_t bytes, const std::string& advice) {
     if (document.MarkerCount() == 0) {
-      return Refuse(ComplainAbout(file_, kNoMarkers), "trc-markers-missing");
+      return Refuse(ComplainAbout(file_, kNoMarkers), {"trc-markers-missing"});
     }
     const ImportedFrames frames = FramesOf(document, choices_, scene_);
-    JudgeAll(frames, "trc-frames-too-many", advice);
+    JudgeAll(frames, {"trc-frames-too-many", "trc-frame-count"}, advice);
     const std::string why = orvane::WhyTooShort(static_cast<std::int64_t>(bytes),
                                                 frames.keyed.Count(), frames.receivers.count);
     if (result_.refusal || why.empty()) return;
     Refuse({file_, why, "Do its lines hold all columns? --range FROM:TO imports a part of them."},
-           "");
+           {});
   }
 
-  void JudgeAll(const ImportedFrames& frames, std::string_view code, const std::string& advice) {
+  void JudgeAll(const ImportedFrames& frames, const Codes& codes, const std::string& advice) {
     const FramesVerdict verdict = JudgeFrames(file_, frames, choices_, scene_.Animation());
-    result_.as_announced = verdict.as_announced;
+    result_.asked = verdict.asked;
     if (verdict.lost) result_.complaints.push_back(*verdict.lost);
-    if (!verdict.excess.empty()) Refuse({file_, verdict.excess, advice}, code);
+    if (!verdict.excess.empty()) Refuse({file_, verdict.excess, advice}, codes);
   }
 
-  void Refuse(Complaint refusal, std::string_view code) {
+  void Refuse(Complaint refusal, const Codes& codes) {
     result_.refusal = std::move(refusal);
-    result_.refused_code = code;
+    result_.refused_codes = codes;
   }
 
   const std::string& file_;

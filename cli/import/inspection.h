@@ -9,6 +9,7 @@
 #include "cli/import/import_flags.h"
 #include "host/scene/scene.h"
 #include "inspect/check/checked_file.h"
+#include "inspect/report/report.h"
 
 // What the program sees in a file before the plug-in imports it.
 
@@ -20,11 +21,11 @@ inline constexpr char kImportLess[] =
 
 struct Inspection {
   orvane::CheckedFile checked;  // nothing is found when that is not asked for
-  bool as_announced = true;     // whether frames that are announced and not there matter, or others
+  orvane::AskedFrames asked = orvane::AskedFrames::kAnnounced;
   std::optional<Complaint>
-      refusal;                    // why the import would make nothing of the file, or far too much
-  std::string_view refused_code;  // of the finding that says the same
-  std::vector<Complaint> complaints;  // of the file and the scene together
+      refusal;  // why the import would make nothing of the file, or far too much
+  std::vector<std::string_view> refused_codes;  // of the findings that the refusal stands for
+  std::vector<Complaint> complaints;            // of the file and the scene together
 };
 
 // Reads `file` before it is imported by `choices` into `scene`, and finds what is odd in it if

@@ -67,6 +67,7 @@ enum class Concern {
   kFile,    // what every action asks for
   kRate,    // the frame rate
   kFrames,  // frames that are announced and not there, or the other way round
+  kExcess,  // far more frames announced than are there
 };
 
 struct FindingMeaning {

@@ -18,6 +18,15 @@ void ReplaceAll(std::string& text, std::string_view what, std::string_view by) {
   }
 }
 
+// "NumFrames" in "no NumFrames" and "NumFrames again": words of the format have no quotation marks.
+std::string_view WordIn(std::string_view found) {
+  constexpr std::string_view kNo = "no ";
+  constexpr std::string_view kAgain = " again";
+  if (found.starts_with(kNo)) return found.substr(kNo.size());
+  return found.ends_with(kAgain) ? found.substr(0, found.size() - kAgain.size())
+                                 : std::string_view();
+}
+
 // The name or value that a finding is about, without its quotation marks: what is quoted first.
 std::string_view NameIn(std::string_view found) {
   const std::size_t begin = found.find('"');
@@ -51,12 +60,27 @@ std::string CauseOf(const FindingMeaning& words, const Finding& first, std::size
   return cause;
 }
 
+bool IsOfFrames(Concern concern) {
+  return concern == Concern::kFrames || concern == Concern::kExcess;
+}
+
+// With what flags do about it.
+std::string Joined(const std::vector<std::string>& effects, Concern concern, AskedFrames frames) {
+  std::string text;
+  for (const std::string& effect : effects) text += (text.empty() ? "" : " ") + effect;
+  if (!IsOfFrames(concern) || frames != AskedFrames::kMissing) return text;
+  return text + " --range FROM:TO leaves them out.";
+}
+
 FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionOptions& options) {
   if (words.concern == Concern::kRate && !options.rate) {
     return {FindingSeverity::kNote, "The frame rate of the file is not asked for."};
   }
-  if (words.concern == Concern::kFrames && !options.all_frames) {
+  if (IsOfFrames(words.concern) && options.frames == AskedFrames::kHeld) {
     return {FindingSeverity::kNote, "Only frames that are there are asked for."};
+  }
+  if (words.concern == Concern::kExcess && options.frames == AskedFrames::kMissing) {
+    return {FindingSeverity::kWarning, "Frames that are not there are made up."};
   }
   return words.effects[action];
 }
@@ -91,6 +115,7 @@ FileReport FileReport::Without(std::string_view code) const {
 FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptions& options) {
   FileReport report{checked.file, checked.kind, action, {}};
   std::map<std::string_view, std::size_t> places;  // in report.findings, by code
+  std::vector<std::vector<std::string>> effects;   // of each of them
   for (const Finding& finding : checked.findings.Sorted()) {
     const FindingMeaning* const words = FindMeaning(finding.rule.code);
     if (words == nullptr || !words->effects[action].severity) continue;
@@ -98,18 +123,24 @@ FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptio
     const auto [place, is_new] = places.emplace(finding.rule.code, report.findings.size());
     if (is_new) {
       const std::size_t count = checked.findings.Totals().at(finding.rule.code).count;
-      report.findings.push_back(
-          {finding.rule.code,
-           *words->effects[action].severity,
-           count,
-           finding.line,
-           finding.column,
-           {},
-           CauseOf(*words, finding, count),
-           effect.consequence == nullptr ? finding.effect : effect.consequence});
+      report.findings.push_back({finding.rule.code,
+                                 *effect.severity,
+                                 count,
+                                 finding.line,
+                                 finding.column,
+                                 {},
+                                 CauseOf(*words, finding, count),
+                                 ""});
+      effects.emplace_back();
     }
     ReportedFinding& reported = report.findings[place->second];
-    if (!TellsWhatIsFound(*words, reported.count)) AddName(NameIn(finding.found), reported.names);
+    std::vector<std::string>& told = effects[place->second];
+    AddName(effect.consequence == nullptr ? finding.effect : effect.consequence, told);
+    reported.consequence = Joined(told, words->concern, options.frames);
+    if (TellsWhatIsFound(*words, reported.count)) continue;
+    const std::string_view name = NameIn(finding.found);
+    const bool may_be_word = name.empty() && words->many != nullptr;
+    AddName(may_be_word ? WordIn(finding.found) : name, reported.names);
   }
   std::stable_sort(report.findings.begin(), report.findings.end(), ComesBefore);
   return report;

@@ -42,10 +42,17 @@ struct FileReport {
   FileReport Without(std::string_view code) const;
 };
 
+// Which frames of a file an action asks for.
+enum class AskedFrames {
+  kAnnounced,  // all that its header announces, or nobody has said which
+  kMissing,    // some that are not there, but not too many to make them up
+  kHeld,       // none but those that are there
+};
+
 // What of the file the action asks for.
 struct ActionOptions {
-  bool rate = true;        // its frame rate
-  bool all_frames = true;  // all that are announced, whether they are there or not
+  bool rate = true;  // its frame rate
+  AskedFrames frames = AskedFrames::kAnnounced;
 };
 
 // What the findings of `checked` mean to `action`. What is wrong with something that is not asked

@@ -7,7 +7,8 @@ using enum FindingSeverity;
 
 constexpr FindingMeaning kWords[] = {
     {"trc-other-kind", "The file is {found}, not {expected}", nullptr, InMarkers(kError)},
-    {"trc-empty", "The file is empty", nullptr, InMarkers(kError, "Nothing is read.")},
+    {"trc-empty", "The file is empty", nullptr,
+     InMarkers(kError, "Nothing is read; was it saved, or copied, to its end?")},
     {"trc-encoding", "The file is UTF-16 text", nullptr,
      InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},
     {"trc-line-ends", "Lines end with carriage returns alone", nullptr,
@@ -25,7 +26,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-carriage-return-spare", "Lines end with several carriage returns", nullptr,
      InMarkers(kNote, "They do not count.")},
     {"trc-comment", "A line starts with #", "{count} lines start with #",
-     InMarkers(kWarning, "It is read as any other, and the next line is thrown away.")},
+     InMarkers(kWarning, "Such a line is read as any other, and the next line is thrown away.")},
     {"trc-end-unfinished", "The last line has no end", nullptr,
      InMarkers(kNote, "It is read as it stands; was the file cut short?")},
     {"trc-file-type-unknown", "The file does not begin with PathFileType", nullptr,
@@ -46,22 +47,28 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kConvert, kNote, "The converted file tells it.")},
     {"trc-unit-unknown", "The unit is unknown", nullptr,
-     InMarkers(kWarning, "Millimeters are taken.")},
+     InMarkers(kWarning, "Millimeters are taken; mm, cm, m, in, ft and yd are known.")},
     {"trc-unit-ends-line", "The unit ends its line", nullptr,
      InMarkers(kWarning, "Millimeters are taken; a tab behind the unit makes it count.")},
     {"trc-name-lost", "The last name has no tab behind it", nullptr,
-     InMarkers(kWarning, "It makes no marker, and its values are not read.")},
+     InMarkers(
+         kWarning,
+         "It makes no marker, and its values are not read; a tab behind the name makes it count.")},
     {"trc-name-empty", "A marker has no name", "{count} markers have no name",
-     InMarkers(kWarning, "It is a marker all the same.")},
+     InMarkers(kWarning, "Such a column is a marker all the same.")
+         .But(Action::kImport, kWarning, "Such a marker makes an object without a name.")
+         .But(Action::kApply, kWarning, "Such a marker makes an object without a name.")},
     {"trc-column-unnamed", "A column has no name of its own",
      "{count} columns have no name of their own",
      InMarkers(
          kWarning,
-         "It makes no marker, and its values go to the next one: all columns behind it shift.")},
+         "Such a column makes no marker, and its values go to the next one: all columns behind it "
+         "shift, unless it gets a name or stands last.")},
     {"trc-column-repeated", "Two columns have one name", "{count} columns have the names of others",
-     InMarkers(kWarning,
-               "The second makes no marker, and its values go to the next one: all columns behind "
-               "it shift.")},
+     InMarkers(
+         kWarning,
+         "The later one makes no marker, and its values go to the next one: all columns behind "
+         "it shift, unless it gets a name of its own or stands last.")},
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
          .But(Action::kConvert, kWarning, "The converted file holds none.")},
@@ -71,7 +78,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
      InMarkers(kWarning, "The frame in its place is lost.")},
     {"trc-number-missing", "A value is missing", "{count} values are missing",
-     InMarkers(kWarning, "0 is taken.")},
+     InMarkers(kWarning, "0 is taken; a gap has nothing at all for X, not even a blank.")},
     {"trc-number-unreadable", "A value is not a number", "{count} values are not numbers",
      InMarkers(kWarning, "What it starts with is taken, or 0.")},
     {"trc-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
@@ -103,15 +110,16 @@ constexpr FindingMeaning kWords[] = {
     {"trc-frames-too-many", "NumFrames announces {found} frames, and {expected} are there", nullptr,
      InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
          .But(Action::kConvert, kError, "It is refused."),
-     Concern::kFrames},
+     Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
      InMarkers(kWarning, "In its gaps the marker goes to the origin.")
          .But(Action::kInspect, kNote, "In its gaps the marker goes to the origin.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
-     InMarkers(kWarning, "It makes an object that stays at the origin.")
-         .But(Action::kConvert, kNote, "It is written as DROPOUT throughout.")},
+     InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
+         .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
+         .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
 };
 
 }  // namespace

@@ -11,17 +11,19 @@ using test::SmallMotion;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-// Both verbs, which say the same of a file that cannot be read or is refused.
+// Both verbs, which say the same of a file that cannot be read or is refused; of one that can be
+// read the import tells before what is `found` in it.
 class BadInputTest : public test::OrvaneTest {
  protected:
-  void ExpectRefusal(const std::string& file, int status, const std::string& complaint) const {
+  void ExpectRefusal(const std::string& file, int status, const std::string& complaint,
+                     const std::string& found = "") const {
     const std::string expected = "orvane: " + file + ": " + complaint;
     for (const auto& arguments : {std::vector<std::string>{"info", file},
                                   std::vector<std::string>{"import", file, "-o", "scene.glb"}}) {
       const ProgramResult result = Orvane(arguments);
       EXPECT_EQ(result.status, status) << arguments.front();
       EXPECT_THAT(result.output, IsEmpty());
-      EXPECT_EQ(result.error, expected) << arguments.front();
+      EXPECT_EQ(result.error, arguments.front() == "info" ? expected : found + expected);
       EXPECT_FALSE(Exists("scene.glb"));
     }
   }
@@ -57,12 +59,17 @@ TEST_P(FileWithoutSegmentsTest, IsNoMotion) {
   EXPECT_EQ(info.error, kNoSegments);
   const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
   EXPECT_EQ(import.status, 1);
-  EXPECT_EQ(import.error,
-            std::string("orvane: walk.htr: Please choose a start frame that is less than the end "
-                        "frame.\n"
-                        "  Is --range in order, and does \"NumFrames\" in the header announce any "
-                        "frames?\n") +
-                kNoSegments);
+  EXPECT_THAT(import.error,
+              testing::StartsWith("orvane: walk.htr: error: The file holds no segments "
+                                  "(line "));
+  EXPECT_THAT(
+      import.error,
+      testing::EndsWith(
+          std::string("\norvane: walk.htr: Please choose a start frame that is less than the "
+                      "end frame.\n"
+                      "  Is --range in order, and does \"NumFrames\" in the header announce "
+                      "any frames?\n") +
+          kNoSegments));
   EXPECT_THAT(Names(), ElementsAre("walk.htr"));
 }
 
@@ -79,6 +86,7 @@ struct Damage {
   std::string name;
   std::string from;
   std::string to;
+  std::string finding;  // a line or several, without the file
   std::string complaint;
 };
 
@@ -86,42 +94,70 @@ class DamagedFileTest : public BadInputTest, public testing::WithParamInterface<
 
 TEST_P(DamagedFileTest, IsRefusedInTheReadersWordsWithAdvice) {
   Write("walk.htr", Replaced(SmallMotion(), GetParam().from, GetParam().to));
-  ExpectRefusal("walk.htr", 1, GetParam().complaint);
+  ExpectRefusal("walk.htr", 1, GetParam().complaint,
+                "orvane: walk.htr: error: " + GetParam().finding + "\n");
 }
 
 INSTANTIATE_TEST_SUITE_P(
     All, DamagedFileTest,
     testing::Values(
-        Damage{"FileType", "FileType HTR", "FileType TRC",
-               "The file does not have a compatible \"FileType\" header state\n"
-               "  The header of an HTR file says \"FileType HTR\".\n"},
+        Damage{
+            "FileType", "FileType HTR", "FileType TRC",
+            "The header has \"TRC\" in place of HTR, Htr or htr for FileType (line 2, column 10). "
+            "The file is refused. [htr-value-refused]",
+            "The file does not have a compatible \"FileType\" header state\n"
+            "  The header of an HTR file says \"FileType HTR\".\n"},
         Damage{"DataType", "HTRS", "ABS",
+               "The header has \"ABS\" in place of HTRS, Htrs or htrs for DataType (line 3, column "
+               "10). "
+               "The file is refused. [htr-value-refused]",
                "The file does not have a compatible \"DataType\" header state\n"
                "  Only files with \"DataType HTRS\" in the header can be read.\n"},
         Damage{"FileVersion", "FileVersion 1", "FileVersion 2",
+               "The header has \"2\" in place of 1 for FileVersion (line 4, column 13). "
+               "The file is refused. [htr-value-refused]",
                "The file does not have a compatible \"FileVersion\" header state\n"
                "  Only files with \"FileVersion 1\" in the header can be read.\n"},
         Damage{"EulerRotationOrder", "ZYX", "XYZ",
+               "The header has \"XYZ\" in place of ZYX for EulerRotationOrder (line 8, column 20). "
+               "The file is refused. [htr-value-refused]",
                "The file does not have a compatible \"EulerRotationOrder\" header state\n"
                "  Only files with \"EulerRotationOrder ZYX\" in the header can be read.\n"},
-        Damage{"GlobalAxisofGravity", "GlobalAxisofGravity Y", "GlobalAxisofGravity X",
-               "The file does not have a compatible \"GlobalAxisofGravity\" header state\n"
-               "  The axis of gravity may be Y or Z.\n"},
+        Damage{
+            "GlobalAxisofGravity", "GlobalAxisofGravity Y", "GlobalAxisofGravity X",
+            "The header has \"X\" in place of Y or Z for GlobalAxisofGravity (line 11, column 21). "
+            "The file is refused. [htr-value-refused]",
+            "The file does not have a compatible \"GlobalAxisofGravity\" header state\n"
+            "  The axis of gravity may be Y or Z.\n"},
         Damage{"BoneLengthAxis", "BoneLengthAxis Y", "BoneLengthAxis Z",
+               "The header has \"Z\" in place of Y for BoneLengthAxis (line 12, column 16). "
+               "The file is refused. [htr-value-refused]",
                "The file does not have a compatible \"BoneLengthAxis\" header state\n"
                "  Only files with \"BoneLengthAxis Y\" in the header can be read.\n"},
         Damage{"DuplicateName", "Spine Hips", "Hips Hips",
+               "Two segments have one name: \"Hips\" (line 16, column 1). The file is refused. "
+               "[htr-name-taken]",
                "The file has duplicate segment names: Hips\n"
                "  Every line of [SegmentNames&Hierarchy] needs a name of its own, without "
                "blanks.\n"},
         Damage{"UnknownName", "Spine 0 100", "Spin 1.5 100",
+               "[BasePosition] names a segment that there is not: \"Spin\" (line 19, column 1). "
+               "The file is "
+               "refused. [htr-base-name-unknown]",
                "Segment name not found: 1.5\n"
                "  A line of [BasePosition] starts with a name that [SegmentNames&Hierarchy] does "
                "not list; the message shows what follows that name.\n"},
-        Damage{"SegmentCount", "NumSegments 2", "NumSegments 3",
-               "Incorrect number of segments defined in file\n"
-               "  \"NumSegments\" in the header must be the number of lines in [BasePosition]. A "
-               "file that was cut short says this too.\n"}),
+        Damage{
+            "SegmentCount", "NumSegments 2", "NumSegments 3",
+            "There are 2 lines in [BasePosition], and NumSegments announces 3 (line 5, column 13). "
+            "The "
+            "file is refused. [htr-segment-count]\n"
+            "orvane: walk.htr: warning: There are 2 lines in [SegmentNames&Hierarchy], and "
+            "NumSegments announces 3 (line 5, column 13). The segments that are there are taken. "
+            "[htr-hierarchy-count]",
+            "Incorrect number of segments defined in file\n"
+            "  \"NumSegments\" in the header must be the number of lines in [BasePosition]. A "
+            "file that was cut short says this too.\n"}),
     [](const auto& test_case) { return test_case.param.name; });
 
 TEST_F(BadInputTest, ControlCharactersOfTheFileDoNotReachTheTerminal) {
@@ -137,9 +173,14 @@ TEST_F(BadInputTest, ParentsInACircleAreNoSkeleton) {
   Write("walk.htr", Replaced(SmallMotion(), "Hips GLOBAL", "Hips Spine"));
   const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
   EXPECT_EQ(import.status, 1);
-  EXPECT_EQ(import.error,
-            "orvane: walk.htr: The file has no root segment\n"
-            "  In [SegmentNames&Hierarchy] a root has the parent GLOBAL.\n");
+  EXPECT_EQ(
+      import.error,
+      "orvane: walk.htr: error: No segment has the parent GLOBAL (line 14, column 2). There "
+      "is nothing that a skeleton could start from. [htr-root-missing]\n"
+      "orvane: walk.htr: warning: Segments are their own ancestors: \"Hips\" (line 15, column "
+      "6). A new skeleton goes without them and what hangs from them. [htr-parent-circle]\n"
+      "orvane: walk.htr: The file has no root segment\n"
+      "  In [SegmentNames&Hierarchy] a root has the parent GLOBAL.\n");
   EXPECT_FALSE(Exists("scene.glb"));
   const ProgramResult info = Orvane({"info", "walk.htr"});
   EXPECT_EQ(info.status, 0);
@@ -153,7 +194,9 @@ TEST_F(BadInputTest, EveryTruncationEndsWithAMessageOrAScene) {
     const ProgramResult result = Orvane({"import", "walk.htr", "-o", "scene.glb", "--force"});
     if (size > whole.find("3 0 0 0 10 0 0 1")) {
       EXPECT_EQ(result.status, 0) << size;
-      EXPECT_THAT(result.error, IsEmpty()) << size;
+      EXPECT_THAT(result.error, testing::HasSubstr("note: [EndOfFile] is missing")) << size;
+      const bool is_cut = size < whole.find("[EndOfFile]") - 1;
+      EXPECT_EQ(result.error.find("[htr-number-missing]") != std::string::npos, is_cut) << size;
     } else {
       EXPECT_THAT(result.status, testing::AnyOf(0, 1)) << size;
       EXPECT_THAT(result.error, testing::StartsWith("orvane: walk.htr: ")) << size;
@@ -179,7 +222,11 @@ TEST_F(BadInputTest, ANumberTooLargeIsShownAsNullAndCannotBeSaved) {
   const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
   EXPECT_EQ(import.status, 1);
   EXPECT_THAT(import.error,
-              testing::StartsWith("orvane: walk.htr: Node \"Hips\" cannot be saved: "));
+              testing::StartsWith(
+                  "orvane: walk.htr: warning: A number is out of range: \"1e999\" (line 22, column "
+                  "3). It is taken as infinite: a scene that it gets into cannot be saved. "
+                  "[htr-number-out-of-range]\n"
+                  "orvane: walk.htr: Node \"Hips\" cannot be saved: "));
   EXPECT_THAT(import.error,
               testing::EndsWith("\n  A number of the file, or that of --scale, --size or "
                                 "--segment-size, is too large.\n"));

@@ -11,7 +11,7 @@ using testing::IsEmpty;
 class InterruptTest : public test::OrvaneTest {
  protected:
   ProgramResult Import(const std::string& wish, const std::vector<std::string>& flags = {}) const {
-    Write(wish + ".htr", "");
+    Write(wish + ".htr", test::SmallMotion());
     std::vector<std::string> arguments = {"import",    wish + ".htr", "-o",
                                           "scene.glb", "--module",    test::HurriedModule()};
     arguments.insert(arguments.end(), flags.begin(), flags.end());
@@ -52,19 +52,21 @@ TEST_F(InterruptTest, KeepsTheExistingOutput) {
 }
 
 TEST_F(InterruptTest, IsNotMixedUpWithARefusalWithoutAMessage) {
-  const ProgramResult result = Import("silent");
+  Write("silent.htr", "");
+  const ProgramResult result =
+      Orvane({"import", "silent.htr", "-o", "scene.glb", "--module", test::HurriedModule()});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: silent.htr: The file is empty\n"
-            "  Was it saved, or copied, to its end?\n"
+            "orvane: silent.htr: error: The file is empty (line 1, column 1). Nothing is imported; "
+            "was it saved, or copied, to its end? [htr-empty]\n"
+            "orvane: silent.htr: error: The file holds no segments (line 1, column 1). There is "
+            "nothing to import. [htr-segments-missing]\n"
             "orvane: silent.htr: The file holds no segments\n"
             "  Is it an HTR file? A file of 0 segments may also have been cut short.\n");
 }
 
 TEST_F(InterruptTest, ARefusalWithoutAnyReasonIsSaidToBeOne) {
-  Write("silent.htr", test::SmallMotion());
-  const ProgramResult result =
-      Orvane({"import", "silent.htr", "-o", "scene.glb", "--module", test::HurriedModule()});
+  const ProgramResult result = Import("silent");
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error, "orvane: silent.htr: The plug-in gave up without a message\n");
 }

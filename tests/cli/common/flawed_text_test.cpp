@@ -33,6 +33,7 @@ struct Flaw {
   std::string (*damage)(const std::string& text);
   std::string complaint;
   std::string finding;  // without the format in its code
+  std::string told;     // before an import, the same
 };
 
 std::ostream& operator<<(std::ostream& out, const Flaw& flaw) { return out << flaw.name; }
@@ -40,22 +41,34 @@ std::ostream& operator<<(std::ostream& out, const Flaw& flaw) { return out << fl
 const Flaw kFlaws[] = {
     {"Empty", [](const std::string&) { return ""s; },
      "The file is empty\n  Was it saved, or copied, to its end?\n",
-     "found an empty file, expected text [FORMAT-empty]\n"},
+     "found an empty file, expected text [FORMAT-empty]\n",
+     "The file is empty (line 1, column 1). Nothing is VERB; was it saved, or copied, to its end? "
+     "[FORMAT-empty]\n"},
     {"LittleEndian", LittleEndian, "The file is UTF-16 text\n  Save it as UTF-8 or ASCII.\n",
-     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n"},
+     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n",
+     "The file is UTF-16 text (line 1, column 1). None of it is read; save it as UTF-8 or ASCII. "
+     "[FORMAT-encoding]\n"},
     {"BigEndian", BigEndian, "The file is UTF-16 text\n  Save it as UTF-8 or ASCII.\n",
-     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n"},
+     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n",
+     "The file is UTF-16 text (line 1, column 1). None of it is read; save it as UTF-8 or ASCII. "
+     "[FORMAT-encoding]\n"},
     {"MarkedLittleEndian", [](const std::string& text) { return "\xFF\xFE" + LittleEndian(text); },
      "The file is UTF-16 text\n  Save it as UTF-8 or ASCII.\n",
-     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n"},
+     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n",
+     "The file is UTF-16 text (line 1, column 1). None of it is read; save it as UTF-8 or ASCII. "
+     "[FORMAT-encoding]\n"},
     {"MarkedBigEndian", [](const std::string& text) { return "\xFE\xFF" + BigEndian(text); },
      "The file is UTF-16 text\n  Save it as UTF-8 or ASCII.\n",
-     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n"},
+     "found UTF-16 text, expected ASCII or UTF-8 [FORMAT-encoding]\n",
+     "The file is UTF-16 text (line 1, column 1). None of it is read; save it as UTF-8 or ASCII. "
+     "[FORMAT-encoding]\n"},
     {"CarriageReturns", WithReturns,
      "Lines end with carriage returns alone, which end no line\n"
      "  Save it with LF or CR LF where lines end.\n",
      "found lines that end with carriage returns alone, expected LF or CR LF where lines end "
-     "[FORMAT-line-ends]\n"},
+     "[FORMAT-line-ends]\n",
+     "Lines end with carriage returns alone (line 1, column 1). No line ends there for the reader; "
+     "save it with LF or CR LF. [FORMAT-line-ends]\n"},
 };
 
 class FlawedTextTest : public test::OrvaneTest, public testing::WithParamInterface<Flaw> {
@@ -66,6 +79,17 @@ class FlawedTextTest : public test::OrvaneTest, public testing::WithParamInterfa
     const std::string cause = "orvane: " + file + ": " + GetParam().complaint;
     EXPECT_EQ(result.status, 1) << arguments.front();
     EXPECT_THAT(result.error, StartsWith(cause + "orvane: " + file + ": ")) << arguments.front();
+  }
+
+  // That an import is refused, and tells the flaw before what follows from it.
+  void ExpectCauseTold(const std::string& file, const std::string& format,
+                       const std::string& verb) const {
+    const ProgramResult result = Orvane({"import", file, "-o", "walk.glb"});
+    std::string told = Replaced(GetParam().told, "FORMAT", format);
+    if (GetParam().name == "Empty") told = Replaced(told, "VERB", verb);
+    EXPECT_EQ(result.status, 1);
+    EXPECT_THAT(result.error,
+                StartsWith("orvane: " + file + ": error: " + told + "orvane: " + file + ": "));
   }
 
   void ExpectCauseFound(const std::string& file, const std::string& format) const {
@@ -82,7 +106,7 @@ class FlawedTextTest : public test::OrvaneTest, public testing::WithParamInterfa
 TEST_P(FlawedTextTest, OfAMotionFileIsTheCauseThatIsNamedFirst) {
   Write("walk.htr", GetParam().damage(SmallMotion()));
   ExpectCauseFirst({"info", "walk.htr"}, "walk.htr");
-  ExpectCauseFirst({"import", "walk.htr", "-o", "walk.glb"}, "walk.htr");
+  ExpectCauseTold("walk.htr", "htr", "imported");
   ExpectCauseFound("walk.htr", "htr");
   EXPECT_THAT(Orvane({"check", "walk.htr"}).output, EndsWith("\nwalk.htr: 1 error\n"));
 }
@@ -90,7 +114,7 @@ TEST_P(FlawedTextTest, OfAMotionFileIsTheCauseThatIsNamedFirst) {
 TEST_P(FlawedTextTest, OfAMarkerFileIsTheCauseThatIsNamedFirst) {
   Write("walk.trc", GetParam().damage(Markers()));
   ExpectCauseFirst({"info", "walk.trc"}, "walk.trc");
-  ExpectCauseFirst({"import", "walk.trc", "-o", "walk.glb"}, "walk.trc");
+  ExpectCauseTold("walk.trc", "trc", "read");
   ExpectCauseFound("walk.trc", "trc");
   for (const std::string& flag : {"--quiet"s, "--dry-run"s}) {
     EXPECT_THAT(Orvane({"convert", "walk.trc", "--force", flag}).error,
@@ -140,7 +164,7 @@ TEST_F(CauseTest, IsPutBeforeComplaintsOnce) {
 class LongTextTest : public test::OrvaneTest {};
 
 // Its pieces pass for lines, and numbers for names.
-TEST_F(LongTextTest, WithoutLineFeedsIsNamedThoughItIsTaken) {
+TEST_F(LongTextTest, WithoutLineFeedsIsNamedThoughItsReaderTakesIt) {
   std::string line(10239, '\t');
   std::string bytes;
   for (const std::string& start :
@@ -151,14 +175,19 @@ TEST_F(LongTextTest, WithoutLineFeedsIsNamedThoughItIsTaken) {
   }
   Write("walk.trc", bytes);
   const std::string cause = "orvane: walk.trc: Lines end with carriage returns alone";
-  const std::vector<std::string> import = {"import", "walk.trc", "-o", "walk.glb", "--force"};
-  EXPECT_EQ(Orvane(import).status, 0);
-  EXPECT_THAT(Orvane(import).error, StartsWith(cause));
   EXPECT_THAT(Orvane({"info", "walk.trc"}).error, StartsWith(cause));
-  std::vector<std::string> strict = import;
-  strict.push_back("--strict");
-  EXPECT_THAT(Orvane(strict).error, StartsWith(cause));
-  EXPECT_THAT(Orvane(strict).error.substr(cause.size()), Not(HasSubstr(cause))) << "once";
+  const std::vector<std::string> import = {"import", "walk.trc", "-o", "walk.glb"};
+  const ProgramResult result = Orvane(import);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: error: Lines end with carriage returns alone (line 1, column 1). No "
+            "line ends there for the reader; save it with LF or CR LF. [trc-line-ends]\n"
+            "orvane: walk.trc: nothing was written because of this error\n"
+            "  --no-report imports it anyway.\n");
+  EXPECT_FALSE(Exists("walk.glb"));
+  std::vector<std::string> anyway = import;
+  anyway.push_back("--no-report");
+  EXPECT_EQ(Orvane(anyway).status, 0);
   EXPECT_THAT(Orvane({"check", "walk.trc"}).output,
               EndsWith("The import makes markers of what holds none; what else is odd about it is "
                        "not told.\nwalk.trc: 1 error\n"));
@@ -173,7 +202,14 @@ TEST_F(MarkedTextTest, BeforeTheFirstSectionIsTheCauseThatIsNamedFirst) {
       "  Save it without a byte-order mark.\n"
       "orvane: walk.htr: Incorrect number of segments defined in file\n";
   EXPECT_THAT(Orvane({"info", "walk.htr"}).error, StartsWith(cause));
-  EXPECT_THAT(Orvane({"import", "walk.htr", "-o", "walk.glb"}).error, StartsWith(cause));
+  const std::string import = Orvane({"import", "walk.htr", "-o", "walk.glb"}).error;
+  EXPECT_THAT(
+      import,
+      StartsWith("orvane: walk.htr: error: A byte-order mark stands before the first section "
+                 "line (line 1, column 1). That section is not read; save the file without "
+                 "the mark. [htr-first-section-lost]\n"));
+  EXPECT_THAT(import,
+              HasSubstr("orvane: walk.htr: Incorrect number of segments defined in file\n"));
   EXPECT_THAT(Orvane({"check", "walk.htr"}).output,
               StartsWith("walk.htr:1:1: error: found a byte-order mark before a section line, "
                          "expected [ as the first character [htr-first-section-lost]\n"));
@@ -186,7 +222,13 @@ TEST_F(MarkedTextTest, ThatHarmsNothingIsANote) {
                 EndsWith("[htr-byte-order-mark]\n  It belongs to the first line, which does not "
                          "count.\nwalk.htr: 1 note\n"))
         << line;
-    EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb", "--force"}).error, "");
+    const std::vector<std::string> import = {"import",  "walk.htr", "-o",     "walk.glb",
+                                             "--force", "--strict", "--quiet"};
+    EXPECT_EQ(Orvane(import).error, "");
+    EXPECT_EQ(Orvane({import.begin(), import.end() - 1}).error,
+              "orvane: walk.htr: note: A byte-order mark stands at the start of the file (line 1, "
+              "column 1). It belongs to the first line, which does not count. "
+              "[htr-byte-order-mark]\n");
   }
 }
 

@@ -7,6 +7,7 @@ using test::Replaced;
 using test::SmallMotion;
 using testing::ElementsAre;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 class FrameCountsTest : public test::OrvaneTest {
@@ -24,7 +25,15 @@ class FrameCountsTest : public test::OrvaneTest {
   }
 };
 
-constexpr char kMissing[] = "  Missing frames are set to zero; --range FROM:TO leaves them out.\n";
+constexpr char kMissing[] =
+    "In the missing frames the segment goes to its parent's origin, unturned. --range FROM:TO "
+    "leaves them out. [htr-frame-count]\n";
+
+// That both segments hold 3 frames in place of `announced`.
+std::string BothHoldThree(const std::string& announced) {
+  return "orvane: walk.htr: warning: 2 segments hold another number of frames than the " +
+         announced + " that NumFrames announces, the first one 3 frames (line 20, column 2). ";
+}
 
 TEST_F(FrameCountsTest, NothingIsSaidWhenTheyAgree) {
   const ProgramResult result = Import("3");
@@ -35,28 +44,27 @@ TEST_F(FrameCountsTest, NothingIsSaidWhenTheyAgree) {
 TEST_F(FrameCountsTest, MoreAnnouncedThanHeldIsAWarning) {
   const ProgramResult result = Import("4");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            std::string("orvane: walk.htr: The header announces 4 frames, but the file holds 3\n") +
-                kMissing);
+  EXPECT_EQ(result.error, BothHoldThree("4") + kMissing);
   EXPECT_TRUE(Exists("walk.glb"));
 }
 
 TEST_F(FrameCountsTest, FewerAnnouncedThanHeldIsAWarning) {
   const ProgramResult result = Import("2");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: walk.htr: The header announces 2 frames, but the file holds 3\n"
-            "  Only the announced frames are imported.\n");
+  EXPECT_EQ(result.error, BothHoldThree("2") + "Only 2 are imported. [htr-frame-count]\n");
 }
 
 TEST_F(FrameCountsTest, WithoutAnyAnnouncedNothingIsImported) {
-  for (const char* none : {"0", "-5"}) {
+  for (const std::string none : {"0", "-5"}) {
     const ProgramResult result = Import(none);
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.error,
-                StartsWith("orvane: walk.htr: The header announces 0 frames, but the file holds 3\n"
-                           "  None of them is imported.\n"
-                           "orvane: walk.htr: Please choose a start frame that is less than"));
+                StartsWith("orvane: walk.htr: error: The header announces no frames: \"" + none +
+                           "\" (line 6, column 11). The file is refused: its last frame would come "
+                           "before its first. [htr-frames-unannounced]\n"));
+    EXPECT_THAT(
+        result.error,
+        testing::HasSubstr("\norvane: walk.htr: Please choose a start frame that is less than"));
   }
 }
 
@@ -65,8 +73,19 @@ TEST_F(FrameCountsTest, SegmentsThatDifferAreAWarning) {
   const ProgramResult result = ImportFile();
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
-            std::string(
-                "orvane: walk.htr: The header announces 3 frames, but its segments hold 2 to 3\n") +
+            std::string("orvane: walk.htr: warning: A segment holds 2 frames, and NumFrames "
+                        "announces 3 (line 24, column 2). ") +
+                kMissing);
+}
+
+TEST_F(FrameCountsTest, OfSegmentsThatHoldFewerAndMoreBothConsequencesAreTold) {
+  Write("walk.htr", Replaced(Replaced(SmallMotion(), "3 0 0 0 10 0 0 1\n", ""),
+                             "3 20 0 0 0 0 0 1\n", "3 20 0 0 0 0 0 1\n4 20 0 0 0 0 0 1\n"));
+  const ProgramResult result = ImportFile();
+  EXPECT_EQ(result.error,
+            std::string("orvane: walk.htr: warning: 2 segments hold another number of frames than "
+                        "the 3 that NumFrames announces, the first one 4 frames (line 20, column "
+                        "2). Only 3 are imported. ") +
                 kMissing);
 }
 
@@ -80,9 +99,7 @@ TEST_F(FrameCountsTest, WithStrictTheWarningIsARefusal) {
 TEST_F(FrameCountsTest, WhenThePlugInRefusesTheyAreToldFirst) {
   const ProgramResult result = Import("4", {"--segment-size", "0"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(
-      result.error,
-      StartsWith("orvane: walk.htr: The header announces 4 frames, but the file holds 3\n"));
+  EXPECT_THAT(result.error, StartsWith(BothHoldThree("4") + kMissing));
   EXPECT_THAT(result.error, testing::HasSubstr("non-zero size"));
 }
 
@@ -115,6 +132,26 @@ TEST_F(FrameCountsTest, NothingIsSaidOfFramesThatARangeLeavesOut) {
   EXPECT_EQ(Import("2", {"--range", "1:2", "--strict", "--force"}).status, 0);
 }
 
+// Nothing is asked of the header then.
+TEST_F(FrameCountsTest, OfFramesThatARangeLeavesOutANoteIsTold) {
+  Write("walk.htr", Replaced(SmallMotion(), "NumFrames 3", "NumFrames 4"));
+  const ProgramResult result =
+      Orvane({"import", "walk.htr", "-o", "walk.glb", "--range", "1:3", "--strict"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error, Replaced(BothHoldThree("4"), "warning", "note") +
+                              "Only frames that are there are asked for. [htr-frame-count]\n");
+}
+
+TEST_F(FrameCountsTest, FarTooManyAnnouncedAreAWarningWhenARangeMakesUpAFew) {
+  const ProgramResult result = Import("2147483647", {"--range", "1:4"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: warning: NumFrames announces 2147483647 frames, and about 3 are "
+            "there (line 6, column 11). Frames that are not there are made up. --range FROM:TO "
+            "leaves them out. [htr-frames-too-many]\n" +
+                BothHoldThree("2147483647") + kMissing);
+}
+
 TEST_F(FrameCountsTest, NothingIsSaidOfThemWhenNoneAreImported) {
   for (const char* count : {"2147483647", "4", "2"}) {
     const ProgramResult result = Import(count, {"--no-animation", "--strict", "--force"});
@@ -126,9 +163,7 @@ TEST_F(FrameCountsTest, NothingIsSaidOfThemWhenNoneAreImported) {
 TEST_F(FrameCountsTest, MissingFramesInARangeAreAWarning) {
   const ProgramResult result = Import("5", {"--range", "1:4"});
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            std::string("orvane: walk.htr: The header announces 5 frames, but the file holds 3\n") +
-                kMissing);
+  EXPECT_EQ(result.error, BothHoldThree("5") + kMissing);
 }
 
 TEST_F(FrameCountsTest, ARangeThatIsAsWideBoundsNothing) {
@@ -151,14 +186,15 @@ TEST_F(FrameCountsTest, ARangeOfFramesThatAreNotAnnouncedIsAWarningToo) {
   const ProgramResult result = Import("2", {"--range", "1:3"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error,
-              StartsWith("orvane: walk.htr: The header announces 2 frames, but the file holds 3\n"
-                         "  Only the announced frames are imported.\n"));
+              StartsWith(BothHoldThree("2") + "Only 2 are imported. [htr-frame-count]\n"));
 }
 
 TEST_F(FrameCountsTest, FramesHaveTheNumbersOfTheFile) {
   const std::string file = Replaced(SmallMotion(), "[Hips]\n1 ", "[Hips]\n2000001 ");
   Write("walk.htr", Replaced(file, "NumFrames 3", "NumFrames 4"));
-  EXPECT_EQ(ImportFile({"--range", "2000001:2000003", "--strict"}).status, 0);
+  const std::vector<std::string> flags = {"--range", "2000001:2000003", "--strict", "--allow",
+                                          "htr-frame-number"};
+  EXPECT_EQ(ImportFile(flags).status, 0);
 }
 
 TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {
@@ -171,8 +207,9 @@ TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {
   const ProgramResult result = ImportFile({"--force"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error,
-              StartsWith("orvane: walk.htr: The header announces 100041 frames, but its segments "
-                         "hold 3 to 10004\n"));
+              testing::HasSubstr("\norvane: walk.htr: The header announces 100041 frames, but its "
+                                 "segments hold 3 to 10004\n"));
+  EXPECT_THAT(result.error, Not(testing::HasSubstr("[htr-frame-count]"))) << "which says the same";
 }
 
 // --- The host's time, which is 32 bits of ticks: 80 are a frame here ---

@@ -214,20 +214,23 @@ TEST_F(ImportFlagsTest, TheScaleFactorWarningDoesNotStopTheImport) {
   Write("walk.htr", Replaced(SmallMotion(), "ScaleFactor 1.0", "ScaleFactor 2"));
   const ProgramResult result = Import({});
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: walk.htr: ScaleFactor is not 1.0, this plugin does not support the "
-            "ScaleFactor header variable.\n"
-            "  Lengths are taken as they stand; --scale multiplies them.\n");
+  EXPECT_EQ(
+      result.error,
+      "orvane: walk.htr: warning: ScaleFactor is not 1: \"2\" (line 13, column 13). Nothing is "
+      "multiplied by it; --scale multiplies. [htr-scale-factor]\n"
+      "orvane: walk.htr: ScaleFactor is not 1.0, this plugin does not support the "
+      "ScaleFactor header variable.\n"
+      "  Lengths are taken as they stand; --scale multiplies them.\n");
   EXPECT_TRUE(Exists("walk.glb"));
 }
 
 TEST_F(ImportFlagsTest, StrictTakesWarningsAsRefusals) {
   Write("walk.htr", Replaced(SmallMotion(), "ScaleFactor 1.0", "ScaleFactor 2"));
-  ExpectRefusal({"--strict"},
-                "ScaleFactor is not 1.0, this plugin does not support the ScaleFactor header "
-                "variable.\n"
-                "  Lengths are taken as they stand; --scale multiplies them.\n"
-                "orvane: --strict: nothing was written because of this\n");
+  ExpectRefusal(
+      {"--strict"},
+      "warning: ScaleFactor is not 1: \"2\" (line 13, column 13). Nothing is multiplied by "
+      "it; --scale multiplies. [htr-scale-factor]\n"
+      "orvane: --strict: nothing was written because of this\n");
 }
 
 TEST_F(ImportFlagsTest, StrictDoesNotMindACleanFile) {

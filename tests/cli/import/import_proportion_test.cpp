@@ -49,9 +49,11 @@ class ImportProportionTest : public test::OrvaneTest {
     return Orvane(arguments);
   }
 
-  static void ExpectRefused(const ProgramResult& result, const std::string& error) {
+  // `told` is what is said of the file before.
+  static void ExpectRefused(const ProgramResult& result, const std::string& error,
+                            const std::string& told = "") {
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.error, "orvane: " + error + "\n" + kAdvice);
+    EXPECT_EQ(result.error, told + "orvane: " + error + "\n" + kAdvice);
   }
 
   // A scene with the hand and so many of its segments.
@@ -86,7 +88,8 @@ TEST_F(ImportProportionTest, SegmentsThatHoldLessThanTheLongestAreNotMadeUp) {
   text.segments.front().frames.assign(20'000, "0 0 0 0 0 0");
   const ProgramResult result = Import(text.Text());
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.error, HasSubstr("its segments hold 1 to 20000\n"));
+  EXPECT_THAT(result.error, HasSubstr("100 segments hold another number of frames than the 20000 "
+                                      "that NumFrames announces, the first one 1 frame (line "));
 }
 
 TEST_F(ImportProportionTest, SegmentsThatGetNoKeysDoNotCount) {
@@ -95,9 +98,13 @@ TEST_F(ImportProportionTest, SegmentsThatGetNoKeysDoNotCount) {
   EXPECT_EQ(Import(text.Text()).status, 0);
   text.segments.back().parent = "Hand";
   for (std::size_t i = 5; i < 15; ++i) text.segments[i].parent = "Hand";
-  ExpectRefused(Import(text.Text()),
-                "hand.htr: The header announces 100000 frames, but the file holds 1: 1599984 "
-                "frames of 16 segments would be made up, and 100 are held");
+  ExpectRefused(
+      Import(text.Text()),
+      "hand.htr: The header announces 100000 frames, but the file holds 1: 1599984 "
+      "frames of 16 segments would be made up, and 100 are held",
+      "orvane: hand.htr: warning: The parents of 84 segments are unknown: \"Nobody\", ... "
+      "(line 30, column 10). A new skeleton goes without such a segment and what hangs "
+      "from it. [htr-parent-unknown]\n");
 }
 
 // Every bone is made as often as its segment is listed.
@@ -112,6 +119,11 @@ TEST_F(ImportProportionTest, SegmentsThatAreListedTwiceCountTwice) {
   const ProgramResult result = Import(bytes + text.Motion() + "[EndOfFile]\n");
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
+            "orvane: hand.htr: warning: There are 3 lines in [SegmentNames&Hierarchy], and "
+            "NumSegments announces 18 (line 5, column 13). The segments that are there are taken. "
+            "[htr-hierarchy-count]\n"
+            "orvane: hand.htr: warning: [BasePosition] comes again (line 22, column 2). The last "
+            "one counts, and a new skeleton has bones more than once. [htr-base-repeated]\n"
             "orvane: hand.htr: The header announces 90000 frames, but the file holds 1: 1169987 "
             "frames of 13 segments would be made up, and 3 are held\n"
             "  [BasePosition] comes again, so that segments are listed more than once.\n");

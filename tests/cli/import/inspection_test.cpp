@@ -1,4 +1,7 @@
+#include <ostream>
+
 #include "tests/cli/orvane_test.h"
+#include "tests/cli/scene/scene_file.h"
 #include "tests/support/trc_text.h"
 #include "tests/support/user_settings.h"
 
@@ -8,60 +11,91 @@ using test::ProgramResult;
 using test::Replaced;
 using test::SmallMotion;
 
-// Files whose import leaves out segments without a word of the plug-in's.
-class LeftOutSegmentsTest : public test::OrvaneTest,
-                            public testing::WithParamInterface<std::string> {
+// A file whose import leaves out a segment without a word of the plug-in's.
+struct LeftOut {
+  std::string name;
+  std::string parent;  // of the spine
+  std::string cause;
+  std::string skeleton;  // what becomes of the spine in a new one
+  std::string code;
+};
+
+std::ostream& operator<<(std::ostream& out, const LeftOut& left_out) {
+  return out << left_out.name;
+}
+
+class LeftOutSegmentsTest : public test::OrvaneTest, public testing::WithParamInterface<LeftOut> {
  protected:
   LeftOutSegmentsTest() {
-    Write("walk.htr", Replaced(SmallMotion(), "Spine Hips", "Spine " + GetParam()));
+    Write("sound.htr", SmallMotion());
+    Write("walk.htr", Replaced(SmallMotion(), "Spine Hips", "Spine " + GetParam().parent));
+  }
+
+  static std::string Told(const std::string& consequence) {
+    return "orvane: walk.htr: warning: " + GetParam().cause + ". " + consequence + " [" +
+           GetParam().code + "]\n";
+  }
+
+  // Onto the bones of a sound file, which have no keys.
+  ProgramResult Apply(const std::vector<std::string>& flags = {}) const {
+    EXPECT_EQ(
+        Orvane({"import", "sound.htr", "-o", "bones.glb", "--no-animation", "--force"}).status, 0);
+    std::vector<std::string> arguments = {"import",    "walk.htr", "-o",   "more.glb", "--into",
+                                          "bones.glb", "--select", "Hips", "--force"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
   }
 };
 
-constexpr char kWarning[] =
-    "orvane: walk.htr: 1 of 2 segments do not hang from the first root, Hips\n"
-    "  A new skeleton goes without them; \"orvane info\" lists them all.\n";
+constexpr char kNoKeys[] =
+    "Bones of such segments, and those below, get no keys, unless one is selected itself.";
 
 TEST_P(LeftOutSegmentsTest, AreAWarning) {
   const ProgramResult result = Orvane({"import", "walk.htr", "-o", "walk.glb"});
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.output, testing::HasSubstr("  Nodes   2\n"));
-  EXPECT_EQ(result.error, kWarning);
+  EXPECT_EQ(result.error, Told(GetParam().skeleton));
 }
 
 TEST_P(LeftOutSegmentsTest, AreARefusalWithStrict) {
   const ProgramResult result = Orvane({"import", "walk.htr", "-o", "walk.glb", "--strict"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.error, testing::StartsWith(kWarning));
+  EXPECT_THAT(result.error, testing::StartsWith(Told(GetParam().skeleton)));
   EXPECT_FALSE(Exists("walk.glb"));
 }
 
-// No skeleton is made; what the selected one has no bones for is no loss.
-TEST_P(LeftOutSegmentsTest, AreNotMentionedWhenMotionIsApplied) {
-  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
-  const ProgramResult result = Orvane({"import", "walk.htr", "-o", "more.glb", "--into", "walk.glb",
-                                       "--apply", "--select", "Hips", "--strict"});
+TEST_P(LeftOutSegmentsTest, KeyNoBonesWhenMotionIsApplied) {
+  const ProgramResult result = Apply({"--apply"});
   EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.error, testing::IsEmpty());
+  EXPECT_EQ(result.error, Told(kNoKeys));
+  const test::SceneFile scene(folder_.File("more.glb"));
+  EXPECT_THAT(scene.KeyTimes("Hips"), testing::SizeIs(3));
+  EXPECT_THAT(scene.KeyTimes("Spine"), testing::IsEmpty());
+  EXPECT_EQ(Apply({"--apply", "--strict"}).status, 1);
+  EXPECT_EQ(Apply({"--apply", "--strict", "--allow", GetParam().code}).status, 0);
 }
 
-TEST_P(LeftOutSegmentsTest, AreNotMentionedWhenMotionWasAppliedLast) {
+TEST_P(LeftOutSegmentsTest, AreToldAsWhatWasChosenLastMakesOfThem) {
   const test::NoUserSettings none(folder_.File("config"));
-  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
-  std::vector<std::string> apply = {"import", "walk.htr", "--into",     "walk.glb", "--select",
-                                    "Hips",   "--strict", "--settings", "user",     "-o"};
-  const auto import = [&](const std::string& output, const std::vector<std::string>& flags) {
-    std::vector<std::string> arguments = apply;
-    arguments.push_back(output);
-    arguments.insert(arguments.end(), flags.begin(), flags.end());
-    return Orvane(arguments).status;
-  };
-  EXPECT_EQ(import("first.glb", {"--apply"}), 0);
-  EXPECT_EQ(import("second.glb", {}), 0);
-  EXPECT_EQ(import("third.glb", {"--create"}), 1);
+  EXPECT_EQ(Apply({"--settings", "user", "--apply"}).status, 0);
+  EXPECT_EQ(Apply({"--settings", "user"}).error, Told(kNoKeys));
+  EXPECT_EQ(Apply({"--settings", "user", "--create"}).error, Told(GetParam().skeleton));
 }
 
-// A second root, a parent that is missing, and a circle.
-INSTANTIATE_TEST_SUITE_P(All, LeftOutSegmentsTest, testing::Values("GLOBAL", "Hip", "Spine"));
+INSTANTIATE_TEST_SUITE_P(
+    All, LeftOutSegmentsTest,
+    testing::Values(
+        LeftOut{"SecondRoot", "GLOBAL", "There is a second root: \"Spine\" (line 16, column 1)",
+                "A new skeleton is made of the first root and what hangs from it alone.",
+                "htr-root-second"},
+        LeftOut{"UnknownParent", "Hip",
+                "A segment's parent is unknown: \"Hip\" (line 16, column 7)",
+                "A new skeleton goes without such a segment and what hangs from it.",
+                "htr-parent-unknown"},
+        LeftOut{"Circle", "Spine",
+                "Segments are their own ancestors: \"Spine\" (line 16, column 7)",
+                "A new skeleton goes without them and what hangs from them.", "htr-parent-circle"}),
+    [](const auto& each) { return each.param.name; });
 
 class InspectionTest : public test::OrvaneTest {
  protected:
@@ -81,14 +115,19 @@ class InspectionTest : public test::OrvaneTest {
   test::NoUserSettings none_{folder_.File("config")};
 };
 
+const std::string kCounted =
+    "orvane: walk.htr: warning: There are 2 lines in [SegmentNames&Hierarchy], and NumSegments "
+    "announces 4 (line 5, column 13). The segments that are there are taken. "
+    "[htr-hierarchy-count]\n"
+    "orvane: walk.htr: warning: [BasePosition] comes again (line 20, column 2). ";
+
 TEST_F(InspectionTest, BasePositionsThatComeAgainAreAWarning) {
   Write("walk.htr", BaseTwice());
   const ProgramResult result = Import("walk.htr");
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: walk.htr: [BasePosition] comes again, so that segments are listed more than "
-            "once\n"
-            "  The last one counts, and a new skeleton has bones more than once.\n");
+  EXPECT_EQ(result.error, kCounted +
+                              "The last one counts, and a new skeleton has bones more than once. "
+                              "[htr-base-repeated]\n");
   EXPECT_EQ(Import("walk.htr", {"--strict"}).status, 1);
 }
 
@@ -97,9 +136,7 @@ TEST_F(InspectionTest, SoTheyAreWhenMotionIsApplied) {
   EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
   Write("walk.htr", BaseTwice());
   EXPECT_EQ(Import("walk.htr", {"--into", "walk.glb", "--apply", "--select", "Hips"}).error,
-            "orvane: walk.htr: [BasePosition] comes again, so that segments are listed more than "
-            "once\n"
-            "  The last one counts.\n");
+            kCounted + "The last one counts. [htr-base-repeated]\n");
 }
 
 // --- An animation range that ends before it begins ---
