@@ -72,7 +72,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
          .But(Action::kConvert, kWarning, "The converted file holds none.")},
-    {"trc-marker-count", "There are {found}, and NumMarkers announces {expected}", nullptr,
+    {"trc-marker-count", "The file holds {found}, and NumMarkers announces {expected}", nullptr,
      InMarkers(kNote, "The markers that are there are taken.")
          .But(Action::kInspect, kWarning, "The markers that are there are taken.")},
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
@@ -102,12 +102,12 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kWarning, "Frames follow each other as their lines do.")
          .But(Action::kConvert, kNote,
               "A BVK file has no frame numbers; frames follow each other as their lines do.")},
-    {"trc-frame-count", "NumFrames announces {found} frames, and {expected} are there", nullptr,
+    {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kWarning), Concern::kFrames},
     {"trc-frames-unannounced", "The header announces no frames", nullptr,
      InMarkers(kError, "The file is refused: its last frame would come before its first.")
          .But(Action::kConvert, kWarning, "The converted file has no frames.")},
-    {"trc-frames-too-many", "NumFrames announces {found} frames, and {expected} are there", nullptr,
+    {"trc-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
          .But(Action::kConvert, kError, "It is refused."),
      Concern::kExcess},

@@ -149,10 +149,11 @@ INSTANTIATE_TEST_SUITE_P(
                "not list; the message shows what follows that name.\n"},
         Damage{
             "SegmentCount", "NumSegments 2", "NumSegments 3",
-            "There are 2 lines in [BasePosition], and NumSegments announces 3 (line 5, column 13). "
+            "The file holds 2 lines in [BasePosition], and NumSegments announces 3 (line 5, column "
+            "13). "
             "The "
             "file is refused. [htr-segment-count]\n"
-            "orvane: walk.htr: warning: There are 2 lines in [SegmentNames&Hierarchy], and "
+            "orvane: walk.htr: warning: The file holds 2 lines in [SegmentNames&Hierarchy], and "
             "NumSegments announces 3 (line 5, column 13). The segments that are there are taken. "
             "[htr-hierarchy-count]",
             "Incorrect number of segments defined in file\n"

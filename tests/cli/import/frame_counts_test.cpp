@@ -146,8 +146,8 @@ TEST_F(FrameCountsTest, FarTooManyAnnouncedAreAWarningWhenARangeMakesUpAFew) {
   const ProgramResult result = Import("2147483647", {"--range", "1:4"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
-            "orvane: walk.htr: warning: NumFrames announces 2147483647 frames, and about 3 are "
-            "there (line 6, column 11). Frames that are not there are made up. --range FROM:TO "
+            "orvane: walk.htr: warning: NumFrames announces 2147483647, and the file holds about "
+            "3 (line 6, column 11). Frames that are not there are made up. --range FROM:TO "
             "leaves them out. [htr-frames-too-many]\n" +
                 BothHoldThree("2147483647") + kMissing);
 }

@@ -119,7 +119,7 @@ TEST_F(ImportProportionTest, SegmentsThatAreListedTwiceCountTwice) {
   const ProgramResult result = Import(bytes + text.Motion() + "[EndOfFile]\n");
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: hand.htr: warning: There are 3 lines in [SegmentNames&Hierarchy], and "
+            "orvane: hand.htr: warning: The file holds 3 lines in [SegmentNames&Hierarchy], and "
             "NumSegments announces 18 (line 5, column 13). The segments that are there are taken. "
             "[htr-hierarchy-count]\n"
             "orvane: hand.htr: warning: [BasePosition] comes again (line 22, column 2). The last "

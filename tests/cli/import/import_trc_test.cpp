@@ -36,7 +36,7 @@ constexpr char kGaps[] =
 // That 3 frames are there, and more announced.
 std::string Announced(const std::string& count) {
   return "orvane: walk.trc: warning: NumFrames announces " + count +
-         " frames, and 3 are there (line 3, column 8). The import sets the missing frames to the "
+         ", and the file holds 3 (line 3, column 8). The import sets the missing frames to the "
          "origin; a converted file has dropouts. --range FROM:TO leaves them out. "
          "[trc-frame-count]\n";
 }
@@ -204,7 +204,7 @@ TEST_F(ImportTrcTest, FarMoreAnnouncedThanHeldIsRefused) {
   EXPECT_EQ(Import({"--range", "1:3"}).status, 0);
   EXPECT_THAT(
       Import({"--range", "1:4", "--force"}).error,
-      HasSubstr("warning: NumFrames announces 2147483647 frames, and about 3 are there "
+      HasSubstr("warning: NumFrames announces 2147483647, and the file holds about 3 "
                 "(line 3, column 8). Frames that are not there are made up. --range FROM:TO "
                 "leaves them out. [trc-frames-too-many]\n"));
 }
@@ -240,10 +240,9 @@ TEST_F(ImportTrcTest, NothingIsSaidOfMissingFramesThatARangeLeavesOut) {
   const ProgramResult result = ImportText(text.Text(), {"--range", "12:13", "--strict", "--quiet"});
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.error, IsEmpty());
-  EXPECT_EQ(
-      Import({"--range", "12:13", "--strict", "--force"}).error,
-      "orvane: walk.trc: note: NumFrames announces 900 frames, and 3 are there (line 3, column "
-      "8). Only frames that are there are asked for. [trc-frame-count]\n");
+  EXPECT_EQ(Import({"--range", "12:13", "--strict", "--force"}).error,
+            "orvane: walk.trc: note: NumFrames announces 900, and the file holds 3 (line 3, column "
+            "8). Only frames that are there are asked for. [trc-frame-count]\n");
   EXPECT_EQ(Import({"--range", "13:14", "--force"}).error, Announced("900"));
 }
 
@@ -332,10 +331,11 @@ INSTANTIATE_TEST_SUITE_P(
                "warning: The line of X1, Y1, Z1 is missing: \"1\" (line 5, column 1). The frame in "
                "its "
                "place is lost. [trc-sub-header-missing]"},
-        Oddity{"MarkerCount", "3\t2\tmm", "3\t7\tmm",
-               "note: There are 2 markers, and NumMarkers announces 7 (line 3, column 10). The "
-               "markers "
-               "that are there are taken. [trc-marker-count]"}),
+        Oddity{
+            "MarkerCount", "3\t2\tmm", "3\t7\tmm",
+            "note: The file holds 2 markers, and NumMarkers announces 7 (line 3, column 10). The "
+            "markers "
+            "that are there are taken. [trc-marker-count]"}),
     [](const auto& oddity) { return oddity.param.name; });
 
 TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {

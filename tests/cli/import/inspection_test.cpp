@@ -116,7 +116,8 @@ class InspectionTest : public test::OrvaneTest {
 };
 
 const std::string kCounted =
-    "orvane: walk.htr: warning: There are 2 lines in [SegmentNames&Hierarchy], and NumSegments "
+    "orvane: walk.htr: warning: The file holds 2 lines in [SegmentNames&Hierarchy], and "
+    "NumSegments "
     "announces 4 (line 5, column 13). The segments that are there are taken. "
     "[htr-hierarchy-count]\n"
     "orvane: walk.htr: warning: [BasePosition] comes again (line 20, column 2). ";

@@ -15,7 +15,7 @@ class TerminalTest : public test::OrvaneTest {
  protected:
   // An import that takes some tenths of a second.
   PosixRun SlowImport() const {
-    Write("slow.htr", "");
+    Write("slow.htr", test::SmallMotion());
     return {Command({"import", "slow.htr", "-o", "scene.glb", "--module", test::HurriedModule()})};
   }
 };

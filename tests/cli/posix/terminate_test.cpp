@@ -21,7 +21,7 @@ class TerminateTest : public test::OrvaneTest {
 };
 
 TEST_F(TerminateTest, EndsAnImport) {
-  Write("terminate.htr", "");
+  Write("terminate.htr", test::SmallMotion());
   ExpectNothingWritten({"import", "terminate.htr", "-o", "scene.glb"});
 }
 

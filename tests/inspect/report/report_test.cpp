@@ -5,12 +5,16 @@
 
 #include <string>
 
+#include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
 #include "tests/support/trc_text.h"
 
 namespace {
 
 using orvane::Action;
+using orvane::ActionOptions;
+using orvane::AskedFrames;
+using orvane::CheckHtr;
 using orvane::CheckTrc;
 using orvane::FileReport;
 using orvane::FindingSeverity;
@@ -82,6 +86,77 @@ TEST(Report, PutsTheWorstFirst) {
     EXPECT_GE(report.findings[at - 1].severity, report.findings[at].severity);
   }
   EXPECT_GT(report.findings.size(), 1U);
+}
+
+TEST(Report, TellsEachConsequenceOnceAndThreeAtMost) {
+  const TrcText text{.markers = {"Head"},
+                     .frames = {{"1e999\t2\t3"}, {"1\t1e999\t3"}},
+                     .data_rate = "60",
+                     .camera_rate = "60"};
+  std::string bytes = text.Text();
+  bytes.replace(bytes.find("\t2\t1\tmm"), 4, "\t6e9\t7e9");
+  const ReportedFinding finding =
+      Find(ReportOn(CheckTrc("walk.trc", bytes), Action::kImport), "trc-number-out-of-range");
+  EXPECT_EQ(finding.count, 4U);
+  EXPECT_EQ(finding.consequence,
+            "6 is taken. 7 is taken. It is taken as infinite: a scene that it gets into cannot be "
+            "saved.");
+}
+
+// --- What is not asked for ---
+
+std::string AskedAndTold(const TrcText& text, const ActionOptions& options, std::string_view code) {
+  const FileReport report = ReportOn(CheckTrc("walk.trc", text.Text()), Action::kImport, options);
+  const ReportedFinding finding = Find(report, code);
+  return std::string(SeverityName(finding.severity)) + ": " + finding.consequence;
+}
+
+TEST(Report, TakesARateThatIsNotAskedForAsANote) {
+  const TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}, .data_rate = "59.94"};
+  EXPECT_EQ(AskedAndTold(text, {}, "trc-rate-cut"),
+            "warning: 59 is taken: a minute lasts 60.96 s.");
+  EXPECT_EQ(AskedAndTold(text, {.rate = false}, "trc-rate-cut"),
+            "note: The frame rate of the file is not asked for.");
+}
+
+TEST(Report, TakesFramesByThoseThatAreAskedFor) {
+  TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
+  text.frame_count = 2;
+  const std::string missing =
+      "warning: The import sets the missing frames to the origin; a converted file has dropouts.";
+  EXPECT_EQ(AskedAndTold(text, {}, "trc-frame-count"), missing);
+  EXPECT_EQ(AskedAndTold(text, {.frames = AskedFrames::kMissing}, "trc-frame-count"),
+            missing + " --range FROM:TO leaves them out.");
+  EXPECT_EQ(AskedAndTold(text, {.frames = AskedFrames::kHeld}, "trc-frame-count"),
+            "note: Only frames that are there are asked for.");
+}
+
+TEST(Report, TakesFarTooManyFramesByThoseThatAreAskedFor) {
+  TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
+  text.frame_count = 2'000'000'000;
+  EXPECT_EQ(AskedAndTold(text, {}, "trc-frames-too-many"),
+            "error: It is refused; --range FROM:TO takes a part of them.");
+  EXPECT_EQ(AskedAndTold(text, {.frames = AskedFrames::kMissing}, "trc-frames-too-many"),
+            "warning: Frames that are not there are made up. --range FROM:TO leaves them out.");
+  EXPECT_EQ(AskedAndTold(text, {.frames = AskedFrames::kHeld}, "trc-frames-too-many"),
+            "note: Only frames that are there are asked for.");
+}
+
+// --- Motion files ---
+
+FileReport MotionReport(const std::string& text) {
+  return ReportOn(CheckHtr("walk.htr", text), Action::kImport);
+}
+
+TEST(Report, NamesKeywordsWithoutTheirQuotationMarks) {
+  const FileReport report = MotionReport(
+      "[Header]\nNumSegments 0\nNumSegments 0\nNumFrames 1\n"
+      "NumFrames 1\n");
+  EXPECT_THAT(Find(report, "htr-keyword-missing").names,
+              ElementsAre("DataFrameRate", "CalibrationUnits", "RotationUnits"));
+  EXPECT_EQ(Find(report, "htr-keyword-missing").cause, "3 keywords are missing from the header");
+  EXPECT_THAT(Find(report, "htr-keyword-repeated").names, ElementsAre("NumSegments", "NumFrames"));
+  EXPECT_THAT(Find(report, "htr-segments-missing").names, IsEmpty());
 }
 
 TEST(Report, IsEmptyForASoundFile) {
