@@ -125,6 +125,8 @@ DAMAGES = [
     ("unit-at-the-end", "trc-unit-ends-line",
      change_line(VALUES, lambda line: b"\t".join(line.split(b"\t")[:5]))),
     # Columns
+    ("names-two-tabs-apart", "trc-names-misplaced",
+     change_line(NAMES, lambda line: line.replace(b"\t\t\t", b"\t\t"))),
     ("last-name-lost", "trc-name-lost", change_line(NAMES, lambda line: line.rstrip(b"\t"))),
     ("empty-name", "trc-name-empty", change_field(NAMES, name_field(3), b"")),
     ("unnamed-column", "trc-column-unnamed", change_field(NAMES, name_field(3), b"Unnamed 4")),
@@ -141,6 +143,8 @@ DAMAGES = [
     ("frame-with-fraction", "trc-number-cut", change_field(FIRST_FRAME + 3, 0, b"4.5")),
     ("huge-number", "trc-number-out-of-range", change_field(FIRST_FRAME + 3, 5, b"1e999")),
     # Frames
+    ("tabs-for-the-blank-line", "trc-blank-line-tabs",
+     change_line(FIRST_FRAME - 1, lambda line: b"\t" * 124)),
     ("blank-frame", "trc-frame-blank", change_line(FIRST_FRAME + 9, lambda line: b"")),
     ("blank-line-at-the-end", "trc-frame-blank", add_at_end(b"")),
     ("columns-lost", "trc-frame-short",

@@ -4,6 +4,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/failure.h"
+#include "cli/common/input.h"
 #include "formats/text/files.h"
 #include "host/application/extension_match.h"
 #include "platform/input_file.h"
@@ -24,6 +25,9 @@ std::string ReadableFile(const std::string& name, FileKind kind) {
   const std::string extension = kind == FileKind::kTrc ? ".TRC" : ".htr";
   const std::string file = orvane::WithExtension(name, extension);
   const std::string reason = platform::WhyUnreadable(file);
+  if (!reason.empty() && file != name) {
+    if (auto cause = FindCause(name, kind)) throw Failure{ExitStatus::kInputOutput, {*cause}};
+  }
   const std::string advice =
       file == name ? ""
                    : "A name without an extension of three letters gets \"" + extension + "\".";

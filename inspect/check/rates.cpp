@@ -1,5 +1,7 @@
 #include "inspect/check/rates.h"
 
+#include <algorithm>
+
 #include "formats/text/numbers.h"
 
 namespace orvane {
@@ -11,7 +13,8 @@ bool IsRate(std::int32_t frames_per_second) {
 FindingWords WordsOfRateOutOfRange(std::string_view cell) {
   return {Quote(cell),
           FormatInt(kLowestRate) + " to " + FormatInt(kHighestRate) + " frames per second",
-          "The nearest rate that there is is set, unless --frame-rate keep is given."};
+          FormatInt(std::clamp(ParseInt(cell), kLowestRate, kHighestRate)) +
+              " is set, unless --frame-rate keep is given."};
 }
 
 std::string EffectOfCutRate(std::string_view cell) {

@@ -8,6 +8,7 @@
 #include "inspect/check/content_kind.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
+#include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/counts/frame_counts.h"
@@ -18,18 +19,58 @@ namespace {
 // What can be said of a file only when all of it has been read.
 class WholeFile {
  public:
-  WholeFile(const TRCDocument& document, const trc::TrcParts& parts, FindingList& findings)
-      : document_(document), parts_(parts), findings_(findings) {}
+  WholeFile(const TRCDocument& document, const trc::TrcLayout& layout, const trc::TrcParts& parts,
+            FindingList& findings)
+      : document_(document), layout_(layout), parts_(parts), findings_(findings) {}
 
   void Check() {
+    CheckLayout();
+    if (parts_.FrameCount() > 0) CheckFirstFrame();
     if (document_.MarkerCount() == 0) return AddMarkersMissing();
     CheckFrameCount();
+    if (layout_.misplaced_name) return;  // from which gaps follow
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
       CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
     }
   }
 
  private:
+  void CheckLayout() {
+    if (const auto& name = layout_.misplaced_name) {
+      findings_.Add(
+          trc::Rule("trc-names-misplaced"), name->place,
+          {Quote(name->name) + ", " + CountOf(name->tabs, "tab") + " behind " +
+               Quote(name->previous),
+           "three tabs from each name to the next",
+           "A name is taken every three tabs: markers get other names and other values."});
+    }
+    if (const auto& line = layout_.frame_of_tabs) {
+      findings_.Add(trc::Rule("trc-blank-line-tabs"), *line,
+                    {"a line of tabs", "a blank line, or the first frame",
+                     "It is the first frame, without positions: every sample comes a frame late."});
+    }
+  }
+
+  void CheckFirstFrame() {
+    const std::int64_t taken = document_.FirstFrame();
+    if (layout_.frame_of_tabs || parts_.first_number.empty()) return;
+    const std::int64_t first = ParseInt(parts_.first_number);
+    if (first == taken) return;
+    const auto frames = static_cast<std::int64_t>(parts_.FrameCount());
+    const bool is_announced = parts_.Value(TRCHeaderValue::kFirstFrame).has_value();
+    findings_.Add(trc::Rule("trc-first-frame"), parts_.PlaceOfFrame(0),
+                  {NumbersOf(first, ParseInt(parts_.last_number)),
+                   NumbersOf(taken, taken + frames - 1) +
+                       (is_announced ? ", as OrigDataStartFrame says"
+                                     : ", as the path type is neither 3 nor 4"),
+                   FormatInt(taken) + " is taken for the number of the first frame."});
+  }
+
+  // "185 to 257".
+  static std::string NumbersOf(std::int64_t first, std::int64_t last) {
+    return first == last ? FormatInt(first) : FormatInt(first) + " to " + FormatInt(last);
+  }
+
   void AddMarkersMissing() {
     findings_.Add(trc::Rule("trc-markers-missing"), parts_.End(),
                   {"no marker", "names in the fourth line, a tab behind each",
@@ -42,7 +83,7 @@ class WholeFile {
     const auto& announcement = parts_.Value(TRCHeaderValue::kNumFrames);
     const TRCPlace place = announcement ? *announcement : parts_.End();
     if (announced <= 0) return AddFramesUnannounced(place);
-    if (held == announced) return;
+    if (held - (layout_.frame_of_tabs ? 1 : 0) == announced || held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
       return findings_.Add(
           trc::Rule("trc-frames-too-many"), place,
@@ -72,7 +113,7 @@ class WholeFile {
   // One finding for a marker, however often it drops out.
   void CheckGaps(const TRCMarker& marker, TRCPlace name) {
     const auto gaps = marker.Gaps();
-    if (gaps.empty()) return;
+    if (gaps.empty() || IsTheFrameOfTabs(gaps)) return;
     if (marker.Positions().empty()) {
       return findings_.Add(trc::Rule("trc-marker-never-seen"), name,
                            {"no position of " + Quote(marker.Name()), "one in every frame",
@@ -87,6 +128,11 @@ class WholeFile {
                    "The import sets those frames to the origin; a converted file has dropouts."});
   }
 
+  template <typename Gaps>
+  bool IsTheFrameOfTabs(const Gaps& gaps) const {
+    return layout_.frame_of_tabs && gaps.size() == 1 && gaps[0].begin == 0 && gaps[0].end == 1;
+  }
+
   static std::string DescribeGaps(const TRCMarker& marker, std::size_t longest) {
     const std::size_t missing = marker.SampleCount() - marker.Positions().size();
     std::string text =
@@ -97,6 +143,7 @@ class WholeFile {
   }
 
   const TRCDocument& document_;
+  const trc::TrcLayout& layout_;
   const trc::TrcParts& parts_;
   FindingList& findings_;
 };
@@ -131,12 +178,13 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
   parts.bytes = bytes;
-  trc::TrcFindingsObserver observer(document, parts, checked.findings);
+  const trc::TrcLayout layout = trc::FindLayout(bytes);
+  trc::TrcFindingsObserver observer(document, layout, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
-  if (checked.refusal.empty()) WholeFile(document, parts, checked.findings).Check();
+  if (checked.refusal.empty()) WholeFile(document, layout, parts, checked.findings).Check();
   NameWhatItIs(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");

@@ -22,6 +22,7 @@ std::string WhereFieldsBelong(std::string_view line) {
 }  // namespace
 
 void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) {
+  if (FollowsFromLayout(oddity, place)) return;
   switch (oddity) {
     case TRCOddity::kSpareCarriageReturns:
       if (std::exchange(has_spare_returns_, true)) return;  // told once for all lines
@@ -41,6 +42,28 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
       break;
   }
   AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, findings_);
+}
+
+bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) const {
+  if (layout_.frame_of_tabs) {
+    const std::size_t line = layout_.frame_of_tabs->line;
+    if (place.line == line) return true;
+    if (oddity == TRCOddity::kFrameNumberSkips && place.line == line + 1) return true;
+  }
+  if (!layout_.misplaced_name) return false;
+  switch (oddity) {
+    case TRCOddity::kMarkerNameLost:
+    case TRCOddity::kUnnamedColumnDropped:
+    case TRCOddity::kMarkerNameRepeated:
+    case TRCOddity::kMarkerNameEmpty:
+    case TRCOddity::kMarkerCountMismatch:
+    case TRCOddity::kShortFrame:
+    case TRCOddity::kSurplusValue:
+    case TRCOddity::kSampleWithoutX:
+      return true;
+    default:
+      return false;
+  }
 }
 
 bool TrcFindingsObserver::LacksTabs(TRCPlace place) const {
@@ -101,19 +124,9 @@ void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
 
 void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
   parts_.AddFrame(place);
-  if (frames_++ == 0) CheckFirstFrame(place, number);
-}
-
-void TrcFindingsObserver::CheckFirstFrame(TRCPlace place, std::string_view number) {
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
-  if (cell.empty() || ParseInt(cell) == document_.FirstFrame()) return;
-  const std::string taken = FormatInt(document_.FirstFrame());
-  const bool is_announced = parts_.Value(TRCHeaderValue::kFirstFrame).has_value();
-  findings_.Add(Rule("trc-first-frame"), place,
-                {Quote(number),
-                 taken + (is_announced ? ", as OrigDataStartFrame says"
-                                       : ", as the path type is neither 3 nor 4"),
-                 taken + " is taken for the number of the first frame."});
+  if (frames_++ == 0) parts_.first_number = cell;
+  parts_.last_number = cell;
 }
 
 }  // namespace orvane::trc

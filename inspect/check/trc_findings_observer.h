@@ -7,6 +7,7 @@
 #include "formats/trc/document.h"
 #include "formats/trc/read_observer.h"
 #include "inspect/check/findings.h"
+#include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
 
 // Watches the reader of TRC files: turns what it meets into findings, and keeps where the parts of
@@ -17,10 +18,11 @@ namespace orvane::trc {
 
 class TrcFindingsObserver final : public TRCReadObserver {
  public:
-  // `document` is what is read into, and `parts` is empty. All three must outlive the observer, and
-  // so must the bytes that are read.
-  TrcFindingsObserver(const TRCDocument& document, TrcParts& parts, FindingList& findings)
-      : document_(document), parts_(parts), findings_(findings) {}
+  // `document` is what is read into, `layout` is that of the bytes, and `parts` is empty. All must
+  // outlive the observer, and so must the bytes that are read.
+  TrcFindingsObserver(const TRCDocument& document, const TrcLayout& layout, TrcParts& parts,
+                      FindingList& findings)
+      : document_(document), layout_(layout), parts_(parts), findings_(findings) {}
 
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
   void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
@@ -36,12 +38,14 @@ class TrcFindingsObserver final : public TRCReadObserver {
   void CheckFileType(TRCPlace path_type);
   void CheckRate(TRCPlace place, std::string_view rate);
   void CheckCameraRate(TRCPlace place, std::string_view rate);
-  void CheckFirstFrame(TRCPlace place, std::string_view number);
 
+  // Whether the oddity there follows from the layout of the file, which is told.
+  [[nodiscard]] bool FollowsFromLayout(TRCOddity oddity, TRCPlace place) const;
   // Whether the first line has no tab, by the place of what is missing then.
   [[nodiscard]] bool LacksTabs(TRCPlace place) const;
 
   const TRCDocument& document_;
+  const TrcLayout& layout_;
   TrcParts& parts_;
   FindingList& findings_;
 

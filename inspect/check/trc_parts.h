@@ -20,7 +20,10 @@ struct TrcParts {
   // By TRCHeaderValue.
   std::array<std::optional<TRCPlace>, kHeaderValues> values;
   std::vector<TRCPlace> markers;  // their names, in the document's order
-  std::string_view bytes;         // the whole file
+  // What the first and the last frame are numbered, without blanks; empty without frames.
+  std::string_view first_number;
+  std::string_view last_number;
+  std::string_view bytes;  // the whole file
 
   // The place behind the last byte.
   [[nodiscard]] TRCPlace End() const {
@@ -32,6 +35,8 @@ struct TrcParts {
   [[nodiscard]] const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {
     return values[static_cast<std::size_t>(value)];
   }
+
+  [[nodiscard]] std::size_t FrameCount() const { return frames_; }
 
   // Keeps where the next frame starts.
   void AddFrame(TRCPlace place);

@@ -38,6 +38,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-unit-ends-line", FindingSeverity::kWarning},
 
     // Columns
+    {"trc-names-misplaced", FindingSeverity::kWarning},
     {"trc-name-lost", FindingSeverity::kWarning},
     {"trc-name-empty", FindingSeverity::kWarning},
     {"trc-column-unnamed", FindingSeverity::kWarning},
@@ -53,6 +54,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-number-out-of-range", FindingSeverity::kWarning},
 
     // Frames
+    {"trc-blank-line-tabs", FindingSeverity::kWarning},
     {"trc-frame-blank", FindingSeverity::kWarning},
     {"trc-frame-short", FindingSeverity::kWarning},
     {"trc-value-extra", FindingSeverity::kWarning},

@@ -211,7 +211,7 @@ const std::vector<CheckRow> kHtrHeaderRows = {
     {"RateZero",
      DamagedWalk("DataFrameRate 30", "DataFrameRate 0"),
      {"7:15 warning htr-rate-out-of-range", "\"0\"", "1 to 4800 frames per second",
-      "The nearest rate that there is is set, unless --frame-rate keep is given."}},
+      "1 is set, unless --frame-rate keep is given."}},
     {"ScaleFactor",
      DamagedWalk("ScaleFactor 1.0", "ScaleFactor 0.999"),
      {"13:13 warning htr-scale-factor", "\"0.999\"", "1",

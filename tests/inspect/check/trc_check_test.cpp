@@ -129,7 +129,7 @@ const std::vector<CheckRow> kRows = {
     {"RateAboveTheScene",
      Damaged("60\t60\t3", "4801\t60\t3"),
      {"3:1 warning trc-rate-out-of-range", "\"4801\"", "1 to 4800 frames per second",
-      "The nearest rate that there is is set, unless --frame-rate keep is given."}},
+      "4800 is set, unless --frame-rate keep is given."}},
     {"NoCameraRate",
      Damaged("60\t60\t3", "60\t0\t3"),
      {"3:4 note trc-camera-rate", "\"0\"", "the rate of the cameras",
@@ -148,6 +148,11 @@ const std::vector<CheckRow> kRows = {
      Damaged("RFHD\t\t\t", "RFHD"),
      {"4:20 warning trc-name-lost", "\"RFHD\"", "a tab behind the name",
       "It makes no marker, and its values are not read."}},
+    {"NamesTwoTabsApart",
+     Damaged("LFHD\t\t\tRFHD\t\t\t", "LFHD\t\tRFHD\t\t"),
+     {"4:19 warning trc-names-misplaced", "\"RFHD\", 2 tabs behind \"LFHD\"",
+      "three tabs from each name to the next",
+      "A name is taken every three tabs: markers get other names and other values."}},
     {"EmptyName",
      Damaged("LFHD", ""),
      {"4:13 warning trc-name-empty", "an empty name", "a name",
@@ -201,6 +206,10 @@ const std::vector<CheckRow> kRows = {
       "2147483647 is taken."}},
 
     // Frames
+    {"TabsForTheBlankLine",
+     Damaged("Z2\n\n", "Z2\n\t\t\t\n"),
+     {"6:1 warning trc-blank-line-tabs", "a line of tabs", "a blank line, or the first frame",
+      "It is the first frame, without positions: every sample comes a frame late."}},
     {"Blank",
      Damaged("3\t0.000\t7\t8\t9\t4\t5\t6", ""),
      {"9:1 warning trc-frame-blank", "a blank line", "a frame",
@@ -219,11 +228,11 @@ const std::vector<CheckRow> kRows = {
       "It is ignored: the marker has no position in this frame."}},
     {"FirstNumberThatIsNotAnnounced",
      Damaged("1\t0.000", "7\t0.000"),
-     {"7:1 warning trc-first-frame", "\"7\"", "1, as OrigDataStartFrame says",
+     {"7:1 warning trc-first-frame", "7 to 3", "1 to 3, as OrigDataStartFrame says",
       "1 is taken for the number of the first frame."}},
     {"FirstNumberOfAnotherPathType",
      Replaced(Damaged("Type\t4", "Type\t5"), "1\t0.000", "7\t0.000"),
-     {"7:1 warning trc-first-frame", "\"7\"", "1, as the path type is neither 3 nor 4",
+     {"7:1 warning trc-first-frame", "7 to 3", "1 to 3, as the path type is neither 3 nor 4",
       "1 is taken for the number of the first frame."}},
     {"NumberThatDoesNotFollow",
      Damaged("3\t0.000", "5\t0.000"),
@@ -269,6 +278,45 @@ TEST(TrcCheck, FindsNothingInASoundFile) {
   EXPECT_EQ(checked.kind, "TRC");
   EXPECT_EQ(checked.contents, "2 markers, 3 frames");
   EXPECT_THAT(test::AllTold(checked.findings), testing::IsEmpty());
+}
+
+TEST(TrcCheck, TellsTheCauseAloneOfNamesThatStandElsewhere) {
+  for (const char* const names :
+       {"LFHD\t\tRFHD\t\t", "LFHD\t\t\t\tRFHD\t\t\t", "\tLFHD\t\t\tRFHD\t\t\t"}) {
+    const auto told = ToldOf(Damaged("LFHD\t\t\tRFHD\t\t\t", names));
+    EXPECT_THAT(told, testing::ElementsAre(testing::Contains(testing::EndsWith("-misplaced"))))
+        << names;
+  }
+}
+
+TEST(TrcCheck, TakesNoTextBesideANameForAMisplacedOne) {
+  EXPECT_THAT(ToldOf(Damaged("LFHD\t\t\tRFHD\t\t\t", "LFHD\tmm\t\tRFHD\tmm\t\t")),
+              testing::IsEmpty());
+}
+
+TEST(TrcCheck, TellsTheCauseAloneOfALineOfTabs) {
+  for (const std::string line : {"\t", "\t\t\t\t\t\t\t"}) {
+    for (const std::string first : {"1", "7"}) {
+      const std::string numbered =
+          Replaced(Capture().Text(), "\n1\t0.000", "\n" + first + "\t0.000");
+      EXPECT_THAT(ToldOf(Replaced(numbered, "Z2\n\n", "Z2\n" + line + "\n")),
+                  testing::Contains(testing::Contains(testing::EndsWith("-line-tabs"))))
+          << line;
+    }
+    EXPECT_EQ(ToldOf(Damaged("Z2\n\n", "Z2\n" + line + "\n")).size(), 1U) << line;
+  }
+}
+
+TEST(TrcCheck, TellsHowFramesAreNumberedAndTaken) {
+  std::string bytes = Capture().Text();
+  for (const char* const number : {"1", "2", "3"}) {
+    bytes = Replaced(bytes, std::string("\n") + number + "\t0.0",
+                     std::string("\n18") + number + "\t0.0");
+  }
+  EXPECT_THAT(ToldOf(bytes),
+              testing::ElementsAre(test::Told{"7:1 warning trc-first-frame", "181 to 183",
+                                              "1 to 3, as OrigDataStartFrame says",
+                                              "1 is taken for the number of the first frame."}));
 }
 
 TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }

@@ -1,0 +1,62 @@
+#include "inspect/check/trc_layout.h"
+
+#include "formats/text/lines.h"
+#include "formats/text/tokens.h"
+#include "formats/trc/fields.h"
+#include "formats/trc/line_rules.h"
+
+namespace orvane::trc {
+namespace {
+
+constexpr std::size_t kFirstName = 3;
+constexpr std::size_t kFieldsOfAMarker = 3;
+
+bool IsLookedAt(std::size_t field) {
+  return field >= kFirstName && (field - kFirstName) % kFieldsOfAMarker == 0;
+}
+
+// Walks the line of names once: names that are missing where they are looked for, and the first
+// that stands elsewhere.
+std::optional<MisplacedName> FindMisplacedName(const Line& line) {
+  std::optional<MisplacedName> first;
+  bool is_one_missing = false;
+  std::string_view previous;
+  std::size_t previous_field = 0;
+  for (TRCFields fields(line); !fields.AtEnd(); fields.Drop()) {
+    const std::string_view name = fields.Get();
+    const std::size_t field = fields.Number();
+    if (SkipSeparators(name).empty()) {
+      is_one_missing = is_one_missing || (IsLookedAt(field) && fields.HasTab());
+      continue;
+    }
+    if (!first && field > kFirstName && !IsLookedAt(field)) {
+      const auto column = static_cast<std::size_t>(name.data() - line.text.data()) + 1;
+      first = {{line.number, column, field}, name, previous, field - previous_field};
+    }
+    previous = name;
+    previous_field = field;
+  }
+  return is_one_missing ? first : std::nullopt;
+}
+
+bool HoldsTabsAlone(const Line& line) {
+  return !line.text.empty() && line.text.find_first_not_of('\t') == std::string_view::npos;
+}
+
+}  // namespace
+
+TrcLayout FindLayout(std::string_view bytes) {
+  TrcLayout layout;
+  LineReader lines(bytes);
+  Line line;
+  for (std::size_t number = 0; number <= kPerhapsBlankLine && lines.Next(line); ++number) {
+    if (number == kMarkerNamesLine) layout.misplaced_name = FindMisplacedName(line);
+    if (number == kPerhapsBlankLine && HoldsTabsAlone(line)) {
+      layout.frame_of_tabs = TRCPlace{line.number, 1, 0};
+    }
+    if (Line thrown_away; ReplacesNextLine(line) && !lines.Next(thrown_away)) break;
+  }
+  return layout;
+}
+
+}  // namespace orvane::trc

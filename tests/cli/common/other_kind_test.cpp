@@ -1,0 +1,80 @@
+#include <gmock/gmock.h>
+
+#include <algorithm>
+
+#include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using test::ProgramResult;
+using test::SmallMotion;
+using test::TrcText;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+// Files of other kinds than those that verbs read.
+class OtherKindTest : public test::OrvaneTest {
+ protected:
+  OtherKindTest() {
+    Write("walk.htr", SmallMotion());
+    Write("walk.trc", TrcText{.markers = {"Head"}, .frames = {{"1\t2\t3"}, {"4\t5\t6"}}}.Text());
+    EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.glb"}).status, 0);
+    EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "walk.gltf"}).status, 0);
+    EXPECT_EQ(Orvane({"convert", "walk.trc", "-o", "walk.bvk"}).status, 0);
+  }
+
+  // That the verb refuses what it gets, and tells the kind first and no other finding.
+  void ExpectOneFinding(const std::vector<std::string>& arguments, const std::string& told) const {
+    const ProgramResult result = Orvane(arguments);
+    EXPECT_NE(result.status, 0) << arguments.front();
+    EXPECT_THAT(result.error, StartsWith("orvane: " + told)) << arguments.front();
+    EXPECT_EQ(std::count(result.error.begin(), result.error.end(), '['), 1) << result.error;
+  }
+};
+
+TEST_F(OtherKindTest, IsToldInOneLineByACheck) {
+  EXPECT_EQ(Orvane({"check", "walk.glb"}).output,
+            "walk.glb:1:1: error: found an orvane scene, expected an HTR file [htr-other-kind]\n"
+            "  \"orvane scene\" shows it.\n"
+            "walk.glb: 1 error\n");
+  EXPECT_THAT(Orvane({"check", "--for", "import", "walk.glb"}).output,
+              StartsWith("walk.glb: error: The file is an orvane scene, not an HTR file (line 1, "
+                         "column 1). \"orvane scene\" shows it. [htr-other-kind]\n"));
+  EXPECT_THAT(Orvane({"map", "lint", "walk.trc"}).output,
+              StartsWith("walk.trc:1:1: error: found a TRC file, expected a mapping "
+                         "[mnm-other-kind]\n"));
+}
+
+TEST_F(OtherKindTest, IsTheOneFindingOfEveryVerb) {
+  const std::string motion = "walk.glb: error: The file is an orvane scene, not an HTR file";
+  ExpectOneFinding({"info", "walk.glb"}, motion);
+  ExpectOneFinding({"import", "walk.glb", "-o", "other.glb"}, motion);
+  ExpectOneFinding({"compare", "walk.glb", "walk.htr"}, motion);
+  const std::string markers = ": error: The file is ";
+  ExpectOneFinding({"convert", "walk.glb", "-o", "other.bvk"},
+                   "walk.glb" + markers + "an orvane scene, not a TRC file");
+  ExpectOneFinding({"convert", "walk.bvk", "-o", "other.bvk"},
+                   "walk.bvk" + markers + "a BVK file, not a TRC file");
+  ExpectOneFinding({"import", "walk.htr", "--as", "trc", "-o", "other.glb"},
+                   "walk.htr" + markers + "an HTR file, not a TRC file");
+}
+
+TEST_F(OtherKindTest, OfACaptureIsNamedBeforeItsRefusal) {
+  Write("map.mnm", "LFHD\tHead\n");
+  const ProgramResult result = Orvane({"map", "lint", "map.mnm", "walk.bvk"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              StartsWith("orvane: walk.bvk: The file is a BVK file, not a TRC file\n"));
+}
+
+TEST_F(OtherKindTest, IsNamedThoughTheReaderWouldTakeAnotherFile) {
+  const ProgramResult result = Orvane({"check", "walk.gltf"});
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error, StartsWith("orvane: walk.gltf: The file is an orvane scene, not an HTR "
+                                       "file\n  \"orvane scene\" shows it.\n"));
+  EXPECT_THAT(result.error, Not(HasSubstr("walk.gltf.htr")));
+}
+
+}  // namespace
