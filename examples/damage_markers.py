@@ -92,6 +92,16 @@ def change_all(changed):
     return edit
 
 
+def lay_down(lines):
+    """Every sample changes its Y and its Z."""
+    for frame in range(FIRST_FRAME, len(lines)):
+        fields = lines[frame].split(b"\t")
+        for y in range(3, len(fields), 3):
+            fields[y:y + 2] = fields[y:y + 2][::-1]
+        lines[frame] = b"\t".join(fields)
+    return FIRST_FRAME
+
+
 DAMAGES = [
     # The whole file
     ("c3d", "trc-other-kind", damages.of_bytes(lambda text: b"\x02\x50" + bytes(510))),
@@ -164,6 +174,8 @@ DAMAGES = [
     ("too-many-announced", "trc-frames-too-many", change_field(VALUES, 2, b"2000000000")),
     ("gap", "trc-marker-gaps", without_sample(0, range(30, 60))),
     ("never-seen", "trc-marker-never-seen", shows_at(NAMES, without_sample(2, range(120)))),
+    # What moves
+    ("heights-along-z", "trc-up-axis", lay_down),
 ]
 
 MAPPING_DAMAGES = [

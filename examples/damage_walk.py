@@ -104,6 +104,23 @@ def base_position_over_and_over(lines):
     return at + max(1 << 20, size) // SEGMENTS
 
 
+def lay_down(lines):
+    """The skeleton hangs from a root that is turned about X, and moves in the place of its hips."""
+    change(b"NumSegments", b"NumSegments 22")(lines)
+    change(b"Hips\tGLOBAL", b"Hips\tWorld")(lines)
+    insert_before(b"Hips\tWorld", b"World\tGLOBAL")(lines)
+    insert_before(b"Hips\t0", b"World\t0\t0\t0\t90\t0\t0\t0")(lines)
+    world = []
+    first = find(lines, b"[Hips]") + 1
+    for index in range(first, find(lines, b"[Spine]")):
+        cells = lines[index].split(b"\t")
+        if len(cells) == 8:
+            turned = [cells[1], b"%.6f" % -float(cells[3]), cells[2]]
+            world.append(b"\t".join([cells[0], *turned, *[b"0"] * 3, b"1"]))
+            lines[index] = b"\t".join([cells[0], *[b"0"] * 3, *cells[4:]])
+    return insert_before(b"[Hips]", b"[World]", *world)(lines)
+
+
 DAMAGES = [
     # The whole file
     ("bvh", "htr-other-kind", damages.of_bytes(lambda text: b"HIERARCHY\nROOT Hips\n")),
@@ -196,6 +213,8 @@ DAMAGES = [
      change_cell(b"[Spine]", 50, 0, b"52")),
     ("no-motion", "htr-motion-missing", remove_section(b"[Neck]", b"Neck\tChest")),
     ("repeated-motion", "htr-motion-repeated", change(b"[Neck]", b"[Chest]")),
+    # What moves
+    ("heights-along-z", "htr-up-axis", lay_down),
 ]
 
 

@@ -31,7 +31,9 @@ void Read(const std::string& file, const InfoArguments& arguments, InfoReport& r
   report.findings = ReadAndTell(report.document, file, motion, arguments.report);
   if (report.document.segments().empty()) throw Refused(file, kNoSegments);
   report.hierarchy = ListHierarchy(report.document);
-  if (motion == Motion::kRead) report.motion = SummarizeMotion(report.document, report.hierarchy);
+  if (motion == Motion::kLeftOut) return;
+  report.subject = orvane::MeasureSubject(report.document);
+  report.motion = SummarizeMotion(report.document, report.hierarchy);
 }
 
 ExitStatus ShowTrcInfo(const InfoArguments& arguments) {

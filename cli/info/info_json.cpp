@@ -1,6 +1,7 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
 #include "cli/info/info_report.h"
+#include "cli/info/subject_json.h"
 #include "formats/units/units.h"
 
 namespace cli {
@@ -48,7 +49,8 @@ void WriteBounds(JsonWriter& json, const std::optional<Bounds>& bounds) {
   json.EndObject();
 }
 
-void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSummary& motion) {
+void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSummary& motion,
+                 const std::optional<orvane::Subject>& subject) {
   json.BeginObject();
   json.Key("frames_found_fewest");
   json.Integer(static_cast<std::int64_t>(motion.fewest_frames));
@@ -63,6 +65,7 @@ void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSumm
     json.Null();
   }
   WriteBounds(json, motion.bounds);
+  WriteSubject(json, subject, document.GetCalibrationUnits());
   json.EndObject();
 }
 
@@ -121,7 +124,7 @@ void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out
   WriteFindings(json, report.findings);
   json.Key("motion");
   if (report.motion) {
-    WriteMotion(json, report.document, *report.motion);
+    WriteMotion(json, report.document, *report.motion, report.subject);
   } else {
     json.Null();
   }

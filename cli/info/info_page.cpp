@@ -75,6 +75,11 @@ void PrintHeader(const InfoReport& report, std::ostream& out) {
   if (report.motion->length_seconds) {
     PrintLine(out, "Length", FormatDouble(*report.motion->length_seconds, kDecimals) + " s");
   }
+  if (report.subject) {
+    PrintLine(out, "Subject",
+              DescribeSubject(*report.subject, document.GetCalibrationUnits(),
+                              report.motion->length_seconds));
+  }
   if (report.motion->bounds) PrintBounds(report, *report.motion->bounds, out);
 }
 

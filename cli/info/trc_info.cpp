@@ -55,6 +55,7 @@ void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoRep
   report.findings = ReadAndTell(report.document, file, bytes, manner);
   if (report.document.MarkerCount() == 0) throw Refused(file, kNoMarkers);
   ReadRateTexts(bytes, report);
+  report.subject = orvane::MeasureSubject(report.document);
   report.summary = SummarizeTrc(report.document);
 }
 

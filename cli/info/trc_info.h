@@ -5,6 +5,7 @@
 
 #include "cli/common/report_flags.h"
 #include "formats/trc/document.h"
+#include "inspect/summary/subject.h"
 #include "inspect/summary/trc_summary.h"
 
 // What `orvane info` tells of a marker file: as a page for a person, or as JSON for a program.
@@ -18,6 +19,7 @@ struct TrcInfoReport {
   orvane::TRCDocument document;
   orvane::TrcSummary summary;
   orvane::FileReport findings;
+  std::optional<orvane::Subject> subject;  // nothing when no frame has two positions
 
   // Rates as the file has them, when reading took something off; else empty.
   std::string data_rate_text;

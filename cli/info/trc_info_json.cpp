@@ -1,5 +1,6 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
+#include "cli/info/subject_json.h"
 #include "cli/info/trc_info.h"
 #include "formats/units/units.h"
 
@@ -115,6 +116,7 @@ void PrintTrcInfoJson(const TrcInfoReport& report, bool with_frames, std::ostrea
   json.Key("findings");
   WriteFindings(json, report.findings);
   WriteBounds(json, report.summary.bounds);
+  WriteSubject(json, report.subject, static_cast<std::uint32_t>(report.document.Units()));
   WriteMarkers(json, report, with_frames);
   json.EndObject();
 }

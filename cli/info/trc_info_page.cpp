@@ -86,6 +86,11 @@ void PrintTrcInfoPage(const TrcInfoReport& report, std::ostream& out) {
   if (report.summary.length_seconds) {
     PrintLine(out, "Length", FormatDouble(*report.summary.length_seconds, kDecimals) + " s");
   }
+  if (report.subject) {
+    PrintLine(out, "Subject",
+              DescribeSubject(*report.subject, static_cast<std::uint32_t>(document.Units()),
+                              report.summary.length_seconds));
+  }
   PrintBounds(report, out);
   PrintMarkers(report, out);
 }

@@ -89,6 +89,9 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-frame-number", FindingSeverity::kWarning},
     {"htr-motion-missing", FindingSeverity::kWarning},
     {"htr-motion-repeated", FindingSeverity::kWarning},
+
+    // What moves
+    {"htr-up-axis", FindingSeverity::kNote},
 });
 
 // The one of `code`.

@@ -7,8 +7,10 @@
 
 #include "formats/htr/sections.h"
 #include "formats/text/numbers.h"
+#include "formats/units/units.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/counts/frame_counts.h"
+#include "inspect/summary/subject.h"
 
 namespace orvane::htr {
 namespace {
@@ -29,6 +31,7 @@ class Structure {
     CheckLinks();
     CheckRoots();
     CheckCircles();
+    CheckUpAxis();
   }
 
  private:
@@ -39,6 +42,7 @@ class Structure {
   void CheckBasePosition();
   void CheckBaseLines();
   void CheckMotion();
+  void CheckUpAxis();
   void AddFramesUnannounced();
   void CheckFrames(const SegmentLines& segment);
   void CheckLinks();
@@ -126,6 +130,17 @@ void Structure::CheckMotion() {
   }
   if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
   for (const SegmentLines& segment : parts_.segments) CheckFrames(segment);
+}
+
+// A header that says so is told of by itself.
+void Structure::CheckUpAxis() {
+  if (!parts_.motion || document_.GetGlobalAxisofGravity() == kAxisZ) return;
+  const auto subject = MeasureSubject(document_);
+  if (!subject || !SeemsToStandAlongZ(*subject)) return;
+  findings_.Add(
+      Rule("htr-up-axis"), *parts_.motion,
+      {"heights along Z: " + DescribeHeights(subject->bounds, document_.GetCalibrationUnits()),
+       "heights along Y", "The file is taken as Y up."});
 }
 
 void Structure::AddFramesUnannounced() {

@@ -12,6 +12,8 @@
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/counts/frame_counts.h"
+#include "inspect/summary/subject.h"
+#include "inspect/summary/trc_summary.h"
 
 namespace orvane {
 namespace {
@@ -29,6 +31,7 @@ class WholeFile {
     if (document_.MarkerCount() == 0) return AddMarkersMissing();
     CheckFrameCount();
     if (layout_.misplaced_name) return;  // from which gaps follow
+    CheckUpAxis();
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
       CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
     }
@@ -101,6 +104,15 @@ class WholeFile {
         {FormatInt(document_.NumFrames()) + ", as NumFrames says", "a whole number of 1 or more",
          "The import refuses the file: its last frame would come before its first. A converted "
          "file has no frames."});
+  }
+
+  void CheckUpAxis() {
+    const auto subject = MeasureSubject(document_);
+    if (!subject || !SeemsToStandAlongZ(*subject)) return;
+    const auto unit = static_cast<std::uint32_t>(document_.Units());
+    findings_.Add(trc::Rule("trc-up-axis"), parts_.PlaceOfFrame(0),
+                  {"heights along Z: " + DescribeHeights(*SummarizeTrc(document_).bounds, unit),
+                   "heights along Y", "The file is taken as Y up."});
   }
 
   static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {

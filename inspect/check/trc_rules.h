@@ -66,6 +66,9 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-frames-too-many", FindingSeverity::kError},
     {"trc-marker-gaps", FindingSeverity::kNote},
     {"trc-marker-never-seen", FindingSeverity::kWarning},
+
+    // What moves
+    {"trc-up-axis", FindingSeverity::kNote},
 });
 
 // The one of `code`.

@@ -176,6 +176,8 @@ constexpr FindingMeaning kWords[] = {
     {"htr-motion-repeated", "A segment has two sections of motion",
      "{count} segments have several sections of motion",
      InMotion(kWarning, "Their frames follow each other.")},
+    {"htr-up-axis", "The file seems to have {found}", nullptr,
+     InMotion(kNote, "It is taken as Y up.")},
 };
 
 }  // namespace

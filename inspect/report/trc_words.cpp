@@ -126,6 +126,8 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
          .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
+    {"trc-up-axis", "The file seems to have {found}", nullptr,
+     InMarkers(kNote, "It is taken as Y up.")},
 };
 
 }  // namespace

@@ -40,6 +40,7 @@ TEST_F(InfoTest, PageTellsWhatAPersonWantsToKnow) {
             "  Frame rate      60 frames per second\n"
             "  Frames          3 announced, 3 found, numbered 1 to 3\n"
             "  Length          0.050 s\n"
+            "  Subject         0.10 m tall, moves 0.1 m, 0.1 s\n"
             "  Bounding box    X     -90.000 to      20.000 mm\n"
             "                  Y     900.000 to    1000.000 mm\n"
             "                  Z       0.000 to       0.000 mm\n"
@@ -111,7 +112,8 @@ TEST_F(InfoTest, JsonHasTheDocumentedFields) {
       "frames_found_most": 3,
       "first_frame": 1,
       "length_seconds": 0.05,
-      "bounding_box": {"min": [-90, 900, 0], "max": [20, 1000, 0]}
+      "bounding_box": {"min": [-90, 900, 0], "max": [20, 1000, 0]},
+      "subject": {"height_meters": 0.1, "way_meters": 0.13453624047073712}
     },
     "segments": [
       {"name": "Hips", "root": true, "parent": null, "length": 100,

@@ -39,6 +39,7 @@ TEST_F(TrcInfoTest, ShowsAPage) {
             "  Camera rate     120 frames per second\n"
             "  Frames          5 announced, 4 found, numbered 10 to 13\n"
             "  Length          0.068 s\n"
+            "  Subject         0.01 m tall, moves 0.3 m, 0.1 s\n"
             "  Bounding box    X      -4.000 to       1.000 cm\n"
             "                  Y       1.000 to       5.000 cm\n"
             "                  Z       1.000 to      30.000 cm\n"
@@ -73,6 +74,7 @@ TEST_F(TrcInfoTest, WritesJson) {
     "frames_announced": 5, "frames_found": 4, "first_frame": 10,
     "length_seconds": 0.06779661016949153,
     "bounding_box": {"min": [-4.0, 1.0, 1.0], "max": [1.0, 5.0, 30.0]},
+    "subject": {"height_meters": 0.01, "way_meters": 0.27},
     "markers": [
       {"name": "LFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2},
       {"name": "RFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2}

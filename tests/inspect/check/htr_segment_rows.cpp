@@ -22,6 +22,19 @@ std::string LinkedOverAndOver() {
   return text.Header() + text.Hierarchy() + text.BasePosition() + sections;
 }
 
+// Eight joints above each other along Z, from 50 on, in front of a wall.
+std::string StandingAlongZ() {
+  HtrText text;
+  for (int joint = 0; joint < 8; ++joint) {
+    const bool is_root = joint == 0;
+    text.segments.push_back({.name = "joint" + std::to_string(joint),
+                             .parent = is_root ? "GLOBAL" : "joint" + std::to_string(joint - 1),
+                             .base = is_root ? "0 900 50 0 0 0 1" : "0 0 200 0 0 0 1",
+                             .frames = {"0 0 0 0 0 0"}});
+  }
+  return text.Text();
+}
+
 }  // namespace
 
 const std::vector<CheckRow> kHtrSegmentRows = {
@@ -223,6 +236,12 @@ const std::vector<CheckRow> kHtrSegmentRows = {
      DamagedWalk("[EndOfFile]", "[Hips]\n9 0 0 0 0 0 0 1\n[EndOfFile]"),
      {"28:2 warning htr-motion-repeated", "a second section of \"Hips\"", "one for every segment",
       "Its frames are put behind those of the first."}},
+
+    // What moves
+    {"HeightsAlongZ",
+     StandingAlongZ(),
+     {"32:2 note htr-up-axis", "heights along Z: 50 to 1450 mm", "heights along Y",
+      "The file is taken as Y up."}},
 };
 
 }  // namespace test

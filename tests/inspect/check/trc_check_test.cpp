@@ -39,6 +39,17 @@ std::string WithoutTheSecondMarker() {
   return text.Text();
 }
 
+// Eight markers above each other along Z, from 50 on, in front of a wall.
+std::string StandingAlongZ() {
+  TrcText text;
+  text.frames.emplace_back();
+  for (int marker = 0; marker < 8; ++marker) {
+    text.markers.push_back("M" + std::to_string(marker));
+    text.frames[0].push_back("0\t900\t" + std::to_string(50 + 200 * marker));
+  }
+  return text.Text();
+}
+
 std::vector<test::Told> ToldOf(const std::string& bytes) {
   return test::AllTold(CheckTrc("walk.trc", bytes).findings);
 }
@@ -270,6 +281,12 @@ const std::vector<CheckRow> kRows = {
      WithoutTheSecondMarker(),
      {"4:20 warning trc-marker-never-seen", "no position of \"RFHD\"", "one in every frame",
       "The import makes an object that stays at the origin."}},
+
+    // What moves
+    {"HeightsAlongZ",
+     StandingAlongZ(),
+     {"7:1 note trc-up-axis", "heights along Z: 50 to 1450 mm", "heights along Y",
+      "The file is taken as Y up."}},
 };
 
 TEST(TrcCheck, FindsNothingInASoundFile) {
