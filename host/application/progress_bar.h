@@ -37,8 +37,7 @@ class SKELDER_API ProgressBar {
   // Opens the bar at 0 percent. `callback` (null: none) is polled with `argument` at every update
   // until the bar is closed.
   // Returns false, changing nothing, when the bar is open already: a misuse.
-  bool Start(const char* title, bool show_bar, ProgressCallback callback,
-                           void* argument);
+  bool Start(const char* title, bool show_bar, ProgressCallback callback, void* argument);
 
   // Shows `percent`, and `title` unless it is null, then polls the callback.
   // Returns false when the callback asks to stop. Does nothing when no bar is open: a misuse.

@@ -1,6 +1,7 @@
+#include "cli/common/outputs.h"
+
 #include <gtest/gtest.h>
 
-#include "cli/common/outputs.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 
