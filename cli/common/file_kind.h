@@ -19,11 +19,6 @@ enum class FileKind { kHtr, kTrc };
 // The extension as classes of the plug-in give it: "HTR".
 [[nodiscard]] const char* ExtensionOf(FileKind kind);
 
-// The file that the user means by `name`, as the reader of that kind takes it: with ".htr" or
-// ".TRC" behind it unless it has an extension of three letters. Throws a Failure that says why when
-// it cannot be read.
-[[nodiscard]] std::string ReadableFile(const std::string& name, FileKind kind);
-
 // Adds the option "--as" to `verb`, which sets `kind`; it must outlive the parsing.
 void AddKindChoice(CLI::App& verb, std::optional<FileKind>& kind);
 

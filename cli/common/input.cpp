@@ -29,19 +29,7 @@ std::optional<std::string> ReadStart(const std::string& file) {
   return bytes;
 }
 
-}  // namespace
-
-std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }
-
-Complaint ComplainAbout(const std::string& file, const std::string& text) {
-  return {file, text, AdviceFor(text)};
-}
-
-Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
-  const orvane::TextFlawWords& words = orvane::WordsFor(flaw);
-  return {file, words.text, words.advice};
-}
-
+// What is wrong with all of the text of `file`, where that can be seen.
 std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
   const std::optional<std::string> bytes = ReadStart(file);
   if (!bytes) return std::nullopt;
@@ -56,19 +44,39 @@ std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
   return ComplainAboutFlaw(file, *flaw);
 }
 
-void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints) {
-  if (complaints.empty()) return;
-  const std::optional<Complaint> cause = FindCause(file, kind);
-  if (!cause) return;
-  const Complaint& first = complaints.front();
-  if (first.subject == cause->subject && first.text == cause->text) return;
-  complaints.insert(complaints.begin(), *cause);
+}  // namespace
+
+std::string ReadableFile(const std::string& name, FileKind kind) {
+  // The readers differ in the case of what they append.
+  const std::string extension = kind == FileKind::kTrc ? ".TRC" : ".htr";
+  const std::string file = orvane::WithExtension(name, extension);
+  const std::string reason = platform::WhyUnreadable(file);
+  if (!reason.empty() && file != name) {
+    if (auto cause = FindCause(name, kind)) throw Failure{ExitStatus::kInputOutput, {*cause}};
+  }
+  const std::string advice =
+      file == name ? ""
+                   : "A name without an extension of three letters gets \"" + extension + "\".";
+  if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{file, reason, advice}}};
+  return file;
+}
+
+std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }
+
+Complaint ComplainAbout(const std::string& file, const std::string& text) {
+  return {file, text, AdviceFor(text)};
+}
+
+Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
+  const orvane::TextFlawWords& words = orvane::WordsFor(flaw);
+  return {file, words.text, words.advice};
 }
 
 std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
                                             const std::string& text) {
-  std::vector<Complaint> complaints = {ComplainAbout(file, text)};
-  PutCauseFirst(file, kind, complaints);
+  std::vector<Complaint> complaints;
+  if (const auto cause = FindCause(file, kind)) complaints.push_back(*cause);
+  complaints.push_back(ComplainAbout(file, text));
   return complaints;
 }
 

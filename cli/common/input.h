@@ -1,6 +1,5 @@
 #pragma once
 
-#include <optional>
 #include <string>
 #include <vector>
 
@@ -12,8 +11,12 @@
 
 namespace cli {
 
-// The file that the user means by `name`, as the reader takes it: with ".htr" behind it unless it
-// has an extension of three letters. Throws a Failure that says why when it cannot be read.
+// The file that the user means by `name`, as the reader of that kind takes it: with ".htr" or
+// ".TRC" behind it unless it has an extension of three letters. Throws a Failure that says why when
+// it cannot be read.
+[[nodiscard]] std::string ReadableFile(const std::string& name, FileKind kind);
+
+// The same for an HTR file.
 [[nodiscard]] std::string ReadableHtrFile(const std::string& name);
 
 // `text` about what is in `file`, with the advice that fits it.
@@ -22,14 +25,8 @@ namespace cli {
 // `flaw` of `file`, with advice.
 [[nodiscard]] Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw);
 
-// What is wrong with all of the text of `file`, where that can be seen.
-[[nodiscard]] std::optional<Complaint> FindCause(const std::string& file, FileKind kind);
-
-// Puts before `complaints` about what is in `file`, if there are any, what is wrong with all of its
-// text, when that can be seen and does not stand there.
-void PutCauseFirst(const std::string& file, FileKind kind, std::vector<Complaint>& complaints);
-
-// `text`, for which `file` is refused, with advice, and with its cause first.
+// `text`, for which `file` is refused, with advice, behind what is wrong with all of its text, when
+// that can be seen. For files of which nothing else is told.
 [[nodiscard]] std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
                                                           const std::string& text);
 

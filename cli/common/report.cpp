@@ -98,16 +98,17 @@ void WriteFindings(JsonWriter& json, const FileReport& report) {
   json.EndArray();
 }
 
-void WriteReport(JsonWriter& json, const FileReport& report) {
+void WriteReport(JsonWriter& json, const std::optional<FileReport>& report) {
+  if (!report) return json.Null();
   json.BeginObject();
-  WriteText(json, "file", report.file);
-  WriteText(json, "file_type", report.kind);
-  WriteText(json, "action", NameOf(report.action));
-  WriteCount(json, "errors", report.Count(FindingSeverity::kError));
-  WriteCount(json, "warnings", report.Count(FindingSeverity::kWarning));
-  WriteCount(json, "notes", report.Count(FindingSeverity::kNote));
+  WriteText(json, "file", report->file);
+  WriteText(json, "file_type", report->kind);
+  WriteText(json, "action", NameOf(report->action));
+  WriteCount(json, "errors", report->Count(FindingSeverity::kError));
+  WriteCount(json, "warnings", report->Count(FindingSeverity::kWarning));
+  WriteCount(json, "notes", report->Count(FindingSeverity::kNote));
   json.Key("findings");
-  WriteFindings(json, report);
+  WriteFindings(json, *report);
   json.EndObject();
 }
 

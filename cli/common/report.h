@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -21,8 +22,8 @@ void PrintReport(const orvane::FileReport& report, std::ostream& out);
 // What was found, as an array.
 void WriteFindings(JsonWriter& json, const orvane::FileReport& report);
 
-// The report as an object.
-void WriteReport(JsonWriter& json, const orvane::FileReport& report);
+// The report as an object; null when there is none.
+void WriteReport(JsonWriter& json, const std::optional<orvane::FileReport>& report);
 
 // A whole document of reports.
 void PrintReportsJson(const std::vector<orvane::FileReport>& reports, std::ostream& out);

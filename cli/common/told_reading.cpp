@@ -1,6 +1,10 @@
 #include "cli/common/told_reading.h"
 
+#include <utility>
+
+#include "cli/common/failure.h"
 #include "cli/common/input.h"
+#include "cli/common/known_messages.h"
 #include "formats/htr/reader.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
@@ -11,45 +15,63 @@ namespace {
 using orvane::Action;
 using orvane::CheckedFile;
 using orvane::FileReport;
+using orvane::HtrDocument;
+using orvane::TRCDocument;
 
-// Tells of what `check` finds in `file`.
-template <typename Check>
-FileReport CheckAndTell(const std::string& file, const ReportManner& manner, const Check& check) {
+// What the file of `document`, which its reader takes, is refused for all the same.
+std::string WhyEmpty(const HtrDocument& document) {
+  return document.segments().empty() ? kNoSegments : "";
+}
+std::string WhyEmpty(const TRCDocument& document) {
+  return document.MarkerCount() == 0 ? kNoMarkers : "";
+}
+
+CheckedFile Check(const std::string& file, std::string_view bytes, HtrDocument& document) {
+  return orvane::CheckHtr(file, bytes, document);
+}
+CheckedFile Check(const std::string& file, std::string_view bytes, TRCDocument& document) {
+  return orvane::CheckTrc(file, bytes, document);
+}
+
+template <typename Document>
+FileReport CheckAndTell(Document& document, const std::string& file, std::string_view bytes,
+                        const ReportManner& manner, std::vector<FileReport> reports = {}) {
   try {
-    const CheckedFile checked = check();
-    FileReport report = ReportOn(checked, Action::kInspect);
-    Tell(report, manner);
-    if (!checked.refusal.empty()) throw Refused(file, checked.refusal);
-    return report;
+    const CheckedFile checked = Check(file, bytes, document);
+    reports.push_back(ReportOn(checked, Action::kInspect));
+    Tell(reports.back(), manner);
+    const std::string why = checked.refusal.empty() ? WhyEmpty(document) : checked.refusal;
+    if (why.empty()) return reports.back();
+    WriteReportFile(reports, manner);
+    throw Failure{ExitStatus::kRefused, {ComplainAbout(file, why)}};
   } catch (const orvane::CheckFailure& failure) {
     throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
   }
 }
 
-}  // namespace
-
-Failure Refused(const std::string& file, const std::string& text) {
-  return {ExitStatus::kRefused, {ComplainAbout(file, text)}};
+// Of a file of which nothing has been told.
+void RequireTaken(const std::string& file, FileKind kind, const std::string& why) {
+  if (!why.empty()) throw Failure{ExitStatus::kRefused, ComplainAboutRefusal(file, kind, why)};
 }
 
-FileReport ReadAndTell(orvane::HtrDocument& document, const std::string& file, Motion motion,
-                       const ReportManner& manner) {
+}  // namespace
+
+FileReport ReadAndTell(HtrDocument& document, const std::string& file, Motion motion,
+                       const ReportManner& manner, std::vector<FileReport> reports) {
   const std::string bytes = FileBytes(file);
   if (motion == Motion::kRead && !manner.omitted) {
-    return CheckAndTell(file, manner, [&] { return orvane::CheckHtr(file, bytes, document); });
+    return CheckAndTell(document, file, bytes, manner, std::move(reports));
   }
   const std::string error = orvane::ReadHtrBytes(document, bytes, motion == Motion::kRead);
-  if (!error.empty()) throw Refused(file, error);
+  RequireTaken(file, FileKind::kHtr, error.empty() ? WhyEmpty(document) : error);
   return {};
 }
 
-FileReport ReadAndTell(orvane::TRCDocument& document, const std::string& file,
-                       std::string_view bytes, const ReportManner& manner) {
-  if (!manner.omitted) {
-    return CheckAndTell(file, manner, [&] { return orvane::CheckTrc(file, bytes, document); });
-  }
+FileReport ReadAndTell(TRCDocument& document, const std::string& file, std::string_view bytes,
+                       const ReportManner& manner) {
+  if (!manner.omitted) return CheckAndTell(document, file, bytes, manner);
   const std::string error = document.ReadBytes(bytes, false);
-  if (!error.empty()) throw Refused(file, error);
+  RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
   return {};
 }
 

@@ -2,8 +2,8 @@
 
 #include <string>
 #include <string_view>
+#include <vector>
 
-#include "cli/common/failure.h"
 #include "cli/common/report_flags.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
@@ -13,17 +13,16 @@
 
 namespace cli {
 
-// That `file` is refused, as `text` says, with advice.
-[[nodiscard]] Failure Refused(const std::string& file, const std::string& text);
-
 // Reads `file` into `document`, which is empty, tells what is odd in it, and returns that. Throws a
-// Failure when it cannot be read or is refused. Without its motion it is not looked for, and
-// nothing when `manner` says so.
+// Failure when it cannot be read, is refused or holds no segments; the file of reports that
+// `manner` may name then has this one behind the `reports` of files before it. Without its motion
+// what is odd is not looked for, nor when `manner` says so.
 enum class Motion { kRead, kLeftOut };
 orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const std::string& file,
-                               Motion motion, const ReportManner& manner);
+                               Motion motion, const ReportManner& manner,
+                               std::vector<orvane::FileReport> reports = {});
 
-// The same of the marker file `file`, whose `bytes` these are.
+// The same of the marker file `file`, whose `bytes` these are, and which is to hold markers.
 orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const std::string& file,
                                std::string_view bytes, const ReportManner& manner);
 

@@ -4,9 +4,10 @@
 #include <cmath>
 #include <iostream>
 #include <memory>
+#include <utility>
+#include <vector>
 
 #include "cli/common/input.h"
-#include "cli/common/known_messages.h"
 #include "cli/common/told_reading.h"
 #include "cli/compare/comparison_report.h"
 #include "formats/text/numbers.h"
@@ -29,11 +30,10 @@ struct CompareArguments {
 // Reads `file` into `document` and tells of it. A file that is refused is trouble, not a
 // difference.
 orvane::FileReport Read(const std::string& file, const ReportManner& manner,
-                        orvane::HtrDocument& document) {
+                        orvane::HtrDocument& document,
+                        std::vector<orvane::FileReport> reports = {}) {
   try {
-    orvane::FileReport report = ReadAndTell(document, file, Motion::kRead, manner);
-    if (document.segments().empty()) throw Refused(file, kNoSegments);
-    return report;
+    return ReadAndTell(document, file, Motion::kRead, manner, std::move(reports));
   } catch (Failure& failure) {
     failure.status = ExitStatus::kInputOutput;
     throw;
@@ -43,9 +43,11 @@ orvane::FileReport Read(const std::string& file, const ReportManner& manner,
 ExitStatus Compare(const CompareArguments& arguments) {
   ComparisonReport report;
   report.file_a = ReadableHtrFile(arguments.file_a);
-  report.findings_a = Read(report.file_a, arguments.report, report.a);
   report.file_b = ReadableHtrFile(arguments.file_b);
-  report.findings_b = Read(report.file_b, arguments.report, report.b);
+  RequireReportApart(arguments.report, {report.file_a, report.file_b}, {});
+  report.findings_a = Read(report.file_a, arguments.report, report.a);
+  report.findings_b = Read(report.file_b, arguments.report, report.b, {report.findings_a});
+  WriteReportFile({report.findings_a, report.findings_b}, arguments.report);
   report.tolerance = arguments.tolerance;
   report.structure = CompareStructure(report.a, report.b);
   report.motion = CompareMotion(report.structure, report.a, report.b, report.tolerance);
@@ -54,7 +56,6 @@ ExitStatus Compare(const CompareArguments& arguments) {
   } else {
     PrintComparisonPage(report, std::cout);
   }
-  WriteReportFile({report.findings_a, report.findings_b}, arguments.report);
   return report.SaysTheSame() ? ExitStatus::kDone : ExitStatus::kDifferent;
 }
 

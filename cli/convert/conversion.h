@@ -39,7 +39,8 @@ struct Conversion {
 
   std::vector<Complaint> errors;
   std::vector<Complaint> warnings;
-  orvane::FileReport report;  // what is odd in the input; empty when that is not looked for
+  orvane::FileReport report;        // what is odd in the input; empty when that is not looked for
+  bool announces_too_much = false;  // refused for that, as an error says in place of the report
 };
 
 // As the table and JSON give it: "converted".

@@ -56,7 +56,9 @@ class BatchConversion {
     platform::HoldInterrupts();  // what is unfinished has to be put away
     MarkerNaming naming;
     LoadMapping(order_.mapping, naming);
-    for (Conversion& conversion : result_.conversions) Judge(conversion, naming);
+    for (Conversion& conversion : result_.conversions) {
+      if (!platform::Interrupted()) Judge(conversion, naming);
+    }
     while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
   }

@@ -18,7 +18,7 @@ struct ConversionOrder {
   std::optional<OffsetWish> offset;
   bool replace = false;      // outputs that exist
   bool keep_broken = false;  // deliver what the plug-in makes of files that the reader refuses
-  ReportManner report;
+  ReportManner report{};
   bool single = false;  // one file, which the panel converts without a batch
 };
 

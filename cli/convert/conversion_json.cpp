@@ -64,7 +64,8 @@ void WriteFile(JsonWriter& json, const Conversion& conversion) {
 }  // namespace
 
 void PrintConversionJson(const std::vector<Conversion>& conversions,
-                         const std::vector<std::string>& logs, std::ostream& out) {
+                         const std::vector<std::string>& logs,
+                         const std::optional<orvane::FileReport>& mapping, std::ostream& out) {
   JsonWriter json(out);
   json.BeginObject();
   json.Key("version");
@@ -77,6 +78,8 @@ void PrintConversionJson(const std::vector<Conversion>& conversions,
   json.BeginArray(Layout::kLines);
   for (const std::string& log : logs) json.String(log);
   json.EndArray();
+  json.Key("mapping");
+  WriteReport(json, mapping);
   json.EndObject();
 }
 

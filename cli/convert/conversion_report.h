@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 #include <vector>
@@ -13,8 +14,10 @@ namespace cli {
 // A table with a line for each file, and how many were converted.
 void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out);
 
-// `logs` are the files that hold the plug-in's own logs.
+// `logs` are the files that hold the plug-in's own logs; `mapping` is the report on the mapping, if
+// there is one.
 void PrintConversionJson(const std::vector<Conversion>& conversions,
-                         const std::vector<std::string>& logs, std::ostream& out);
+                         const std::vector<std::string>& logs,
+                         const std::optional<orvane::FileReport>& mapping, std::ostream& out);
 
 }  // namespace cli

@@ -30,6 +30,7 @@ namespace cli {
 namespace {
 
 using orvane::Action;
+using orvane::FileReport;
 
 struct ConvertArguments {
   std::vector<std::string> inputs;
@@ -71,6 +72,17 @@ Failure WrongUsage(const std::string& flag, const std::string& text) {
   return {ExitStatus::kWrongUsage, {{flag, text, ""}}};
 }
 
+// The report on an input, without what an error of its conversion says.
+FileReport WithoutErrorsOf(const Conversion& conversion) {
+  FileReport report = conversion.report;
+  if (conversion.announces_too_much) {
+    std::erase_if(report.findings, [](const orvane::ReportedFinding& finding) {
+      return finding.code == "trc-frames-too-many" || finding.code == "trc-frame-count";
+    });
+  }
+  return report;
+}
+
 class Converting {
  public:
   explicit Converting(const ConvertArguments& arguments)
@@ -80,17 +92,19 @@ class Converting {
     platform::CatchInterrupts();
     Prepare();
     conversions_ = PlanConversions(arguments_.inputs, wishes_);
+    RequireReportApart();
+    CheckMapping();
     if (arguments_.dry_run) return ShowPreview();
     RequireFolder(arguments_.output.folder);
     CarryOut(MakeBatches(conversions_, arguments_.jobs));
     DeliverLogs();
     Complain();
-    WriteReports();
     if (arguments_.json) {
-      PrintConversionJson(conversions_, delivered_logs_, std::cout);
+      PrintConversionJson(conversions_, delivered_logs_, mapping_report_, std::cout);
     } else if (!arguments_.quiet) {
       PrintConversionPage(conversions_, std::cout);
     }
+    WriteReports();
     return Status();
   }
 
@@ -110,14 +124,29 @@ class Converting {
     order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
     wishes_.mapping = order_.mapping;
     wishes_.logged = !order_.single;
+  }
+
+  void RequireReportApart() const {
+    std::vector<std::string> inputs;
+    std::vector<std::string> outputs;
+    if (!order_.mapping.empty()) inputs.push_back(order_.mapping);
+    for (const Conversion& conversion : conversions_) {
+      inputs.push_back(conversion.input);
+      outputs.push_back(conversion.output);
+      if (wishes_.logged) outputs.push_back(LogIn(FolderOf(conversion.output)));
+    }
+    cli::RequireReportApart(order_.report, inputs, outputs);
+  }
+
+  void CheckMapping() {
     if (order_.mapping.empty()) return;
     const std::string bytes = FileBytes(order_.mapping);
     if (order_.report.omitted) return;
     mapping_report_ = ReportOn(orvane::CheckMapping(order_.mapping, bytes), Action::kConvert);
-    if (Forbids(order_.report, *mapping_report_)) {
-      Tell(*mapping_report_, order_.report);
-      throw ForbiddenByStrict();
-    }
+    if (!Forbids(order_.report, *mapping_report_)) return;
+    Tell(*mapping_report_, order_.report);
+    WriteReportFile({*mapping_report_}, order_.report);
+    throw ForbiddenByStrict();
   }
 
   static void RequireFolder(const std::string& folder) {
@@ -130,12 +159,12 @@ class Converting {
   ExitStatus ShowPreview() {
     const auto previews = PreviewConversions(conversions_, order_.mapping, order_.report);
     Complain();
-    WriteReports();
     if (arguments_.json) {
-      PrintPreviewJson(previews, std::cout);
+      PrintPreviewJson(previews, mapping_report_, std::cout);
     } else {
       PrintPreviewPage(previews, std::cout);
     }
+    WriteReports();
     return Status();
   }
 
@@ -218,20 +247,24 @@ class Converting {
     }
   }
 
-  // What is odd in the mapping, and in each input that was looked at.
-  std::vector<orvane::FileReport> Reports() const {
-    std::vector<orvane::FileReport> reports;
+  // What is odd in the mapping, and in each input that was looked at, as `report_of` has it.
+  template <typename ReportOf>
+  std::vector<FileReport> Reports(const ReportOf& report_of) const {
+    std::vector<FileReport> reports;
     if (mapping_report_) reports.push_back(*mapping_report_);
     for (const Conversion& conversion : conversions_) {
-      if (!conversion.report.file.empty()) reports.push_back(conversion.report);
+      if (!conversion.report.file.empty()) reports.push_back(report_of(conversion));
     }
     return reports;
   }
 
-  void WriteReports() const { WriteReportFile(Reports(), order_.report); }
+  void WriteReports() const {
+    WriteReportFile(Reports([](const Conversion& conversion) { return conversion.report; }),
+                    order_.report);
+  }
 
   void Complain() const {
-    TellAll(Reports(), order_.report);
+    TellAll(Reports(WithoutErrorsOf), order_.report);
     for (const Conversion& conversion : conversions_) {
       for (const Complaint& warning : conversion.warnings) Print(Severity::kWarning, warning);
       for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
@@ -256,7 +289,7 @@ class Converting {
   std::vector<Conversion> conversions_;
   std::vector<std::pair<std::string, std::string>> logs_;  // by folder, in the order of the inputs
   std::vector<std::string> delivered_logs_;
-  std::optional<orvane::FileReport> mapping_report_;
+  std::optional<FileReport> mapping_report_;
 };
 
 void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {

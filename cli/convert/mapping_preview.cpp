@@ -2,6 +2,7 @@
 
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
+#include "cli/common/report.h"
 #include "cli/convert/trc_worth.h"
 #include "formats/trc/document.h"
 #include "inspect/check/marker_naming.h"
@@ -15,7 +16,7 @@ using orvane::OutlineTrcFile;
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 1;
+constexpr int kVersion = 2;
 
 // An output that exists keeps nothing from being shown.
 bool IsReadable(const Conversion& conversion) {
@@ -96,6 +97,8 @@ void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
   json.BeginArray(Layout::kLines);
   for (const MarkerFate& marker : preview.markers) WriteMarker(json, marker);
   json.EndArray();
+  json.Key("findings");
+  WriteFindings(json, preview.conversion->report);
   json.EndObject();
 }
 
@@ -108,6 +111,7 @@ std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conve
   std::vector<ConversionPreview> previews;
   previews.reserve(conversions.size());
   for (Conversion& conversion : conversions) {
+    StopIfInterrupted();
     previews.push_back(previewer.Preview(conversion));
   }
   return previews;
@@ -121,7 +125,8 @@ void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostre
   }
 }
 
-void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out) {
+void PrintPreviewJson(const std::vector<ConversionPreview>& previews,
+                      const std::optional<orvane::FileReport>& mapping, std::ostream& out) {
   JsonWriter json(out);
   json.BeginObject();
   json.Key("version");
@@ -130,6 +135,8 @@ void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostre
   json.BeginArray(Layout::kLines);
   for (const ConversionPreview& preview : previews) WritePreview(json, preview);
   json.EndArray();
+  json.Key("mapping");
+  WriteReport(json, mapping);
   json.EndObject();
 }
 

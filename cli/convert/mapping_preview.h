@@ -24,11 +24,13 @@ struct ConversionPreview {
 
 // Reads the headers of the inputs that are planned, notes in `conversions` which of them the reader
 // refuses, and looks the names up in the file `mapping`; when that is empty all markers keep their
-// names. The previews refer to `conversions`. Throws a Failure when the mapping cannot be read.
+// names. The previews refer to `conversions`. Throws a Failure when the mapping cannot be read, and
+// when the user interrupts.
 [[nodiscard]] std::vector<ConversionPreview> PreviewConversions(
     std::vector<Conversion>& conversions, const std::string& mapping, const ReportManner& manner);
 
 void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out);
-void PrintPreviewJson(const std::vector<ConversionPreview>& previews, std::ostream& out);
+void PrintPreviewJson(const std::vector<ConversionPreview>& previews,
+                      const std::optional<orvane::FileReport>& mapping, std::ostream& out);
 
 }  // namespace cli

@@ -50,13 +50,17 @@ std::int64_t CountKept(const orvane::TRCDocument& document, const MarkerNaming& 
   });
 }
 
-// Why the frames of `counts` are too much to write of the file, and what to do about it.
+// Why the header announces too much to write of the file, and what to do about it.
 Complaint FindExcess(const std::string& file, const FrameCounts& counts, std::int64_t markers,
                      std::int64_t kept) {
   const MadeUpFrames behind_last = {std::max<std::int64_t>(counts.announced - counts.most_held, 0),
                                     "marker", kept, counts.most_held * markers, 0};
-  const std::string why = WhyOutOfProportion(counts.announced, counts, behind_last);
-  if (!why.empty()) return {file, why, "Is \"NumFrames\" right?"};
+  return {file, WhyOutOfProportion(counts.announced, counts, behind_last),
+          "Is \"NumFrames\" right?"};
+}
+
+// Why the file is too short for what would be written of it, and what to do about it.
+Complaint FindShortness(const std::string& file, const FrameCounts& counts, std::int64_t kept) {
   std::error_code error;
   const std::uintmax_t bytes = std::filesystem::file_size(platform::PathOf(file), error);
   if (error) return {};
@@ -69,11 +73,13 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
   conversion.markers_dropped = document.MarkerCount();
   const auto held = static_cast<std::int64_t>(outline.Frames());
   const FrameCounts counts{document.NumFrames(), held, held};
-  const Complaint excess =
-      FindExcess(conversion.input, counts, document.MarkerCount(), CountKept(document, naming));
-  if (!excess.text.empty()) {
+  const std::int64_t kept = CountKept(document, naming);
+  Complaint refusal = FindExcess(conversion.input, counts, document.MarkerCount(), kept);
+  conversion.announces_too_much = !refusal.text.empty();
+  if (refusal.text.empty()) refusal = FindShortness(conversion.input, counts, kept);
+  if (!refusal.text.empty()) {
     conversion.status = ConversionStatus::kRefused;
-    conversion.errors.push_back(excess);
+    conversion.errors.push_back(refusal);
     return;
   }
   WarnOfMarkers(conversion, document, naming);
@@ -99,6 +105,10 @@ FileReport ReportOnFile(const std::string& mapping, const std::string& file,
   FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert);
   if (!mapping.empty()) report.Take(ReportOnMarkers(mapping, file, bytes));
   return report;
+}
+
+bool IsForbidden(const Conversion& conversion, const ReportManner& manner) {
+  return Forbids(manner, conversion.report) || (manner.strict && !conversion.warnings.empty());
 }
 
 }  // namespace
@@ -140,13 +150,18 @@ RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
 }
 
 void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner) {
-  const bool is_refused = conversion.status == ConversionStatus::kRefused;
-  if (conversion.status != ConversionStatus::kPlanned && !is_refused) return;
+  const bool is_planned = conversion.status == ConversionStatus::kPlanned;
+  if (!is_planned && conversion.status != ConversionStatus::kRefused) return;
   const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
-  if (!bytes) return;  // which the plug-in tells
-  conversion.report = ReportOnFile(mapping, conversion.input, *bytes);
-  if (is_refused) conversion.report = conversion.report.Without("trc-frames-too-many");
-  if (is_refused || !Forbids(manner, conversion.report)) return;
+  if (!bytes) return RequireInput(conversion);
+  try {
+    conversion.report = ReportOnFile(mapping, conversion.input, *bytes);
+  } catch (const orvane::CheckFailure& failure) {
+    conversion.status = ConversionStatus::kUnreadable;
+    conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
+    return;
+  }
+  if (!is_planned || !IsForbidden(conversion, manner)) return;
   conversion.status = ConversionStatus::kRefused;
   conversion.errors.push_back(
       {conversion.input, "The file is not converted, as --strict wishes", ""});

@@ -34,8 +34,9 @@ void RefuseForeignRate(Conversion& conversion);
 RateSource JudgeInput(Conversion& conversion, const orvane::MarkerNaming& naming);
 
 // Finds what is odd in the input of `conversion`, and in its markers against the file `mapping`,
-// unless that is empty, and keeps it as the conversion's report. What is refused already is not
-// said again. When `manner` forbids what is found, the conversion is settled as refused.
+// unless that is empty, and keeps it as the conversion's report. When `manner` forbids what is
+// found, or the conversion has a warning and the user is strict, it is settled as refused; and as
+// unreadable when its input cannot be checked.
 void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner);
 
 }  // namespace cli

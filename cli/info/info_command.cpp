@@ -5,7 +5,7 @@
 #include <memory>
 
 #include "cli/common/file_kind.h"
-#include "cli/common/known_messages.h"
+#include "cli/common/input.h"
 #include "cli/common/told_reading.h"
 #include "cli/info/info_report.h"
 #include "cli/info/trc_info.h"
@@ -29,7 +29,6 @@ void Read(const std::string& file, const InfoArguments& arguments, InfoReport& r
   report.file = file;
   const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
   report.findings = ReadAndTell(report.document, file, motion, arguments.report);
-  if (report.document.segments().empty()) throw Refused(file, kNoSegments);
   report.hierarchy = ListHierarchy(report.document);
   if (motion == Motion::kLeftOut) return;
   report.subject = orvane::MeasureSubject(report.document);
@@ -41,25 +40,29 @@ ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
     throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
   }
   TrcInfoReport report;
-  ReadTrcInfo(ReadableFile(arguments.input, FileKind::kTrc), arguments.report, report);
+  const std::string file = ReadableFile(arguments.input, FileKind::kTrc);
+  RequireReportApart(arguments.report, {file}, {});
+  ReadTrcInfo(file, arguments.report, report);
+  WriteReportFile({report.findings}, arguments.report);
   if (arguments.json) {
     PrintTrcInfoJson(report, arguments.frames, std::cout);
   } else {
     PrintTrcInfoPage(report, std::cout);
   }
-  WriteReportFile({report.findings}, arguments.report);
   return ExitStatus::kDone;
 }
 
 ExitStatus ShowHtrInfo(const InfoArguments& arguments) {
   InfoReport report;
-  Read(ReadableFile(arguments.input, FileKind::kHtr), arguments, report);
+  const std::string file = ReadableFile(arguments.input, FileKind::kHtr);
+  RequireReportApart(arguments.report, {file}, {});
+  Read(file, arguments, report);
+  WriteReportFile({report.findings}, arguments.report);
   if (arguments.json) {
     PrintInfoJson(report, arguments.frames, std::cout);
   } else {
     PrintInfoPage(report, std::cout);
   }
-  WriteReportFile({report.findings}, arguments.report);
   return ExitStatus::kDone;
 }
 
@@ -78,6 +81,7 @@ void AddInfoCommand(CLI::App& app, Work& work) {
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
                                           "HTR: read the header and the hierarchy, not the motion");
   AddTellingFlags(*verb, arguments->report);
+  hierarchy->excludes(verb->get_option("--report"));
   CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");
   verb->add_flag("--frames", arguments->frames, "With --json: every value of every frame")
       ->needs(json)

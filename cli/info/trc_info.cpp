@@ -1,8 +1,8 @@
 #include "cli/info/trc_info.h"
 
 #include "cli/common/input.h"
-#include "cli/common/known_messages.h"
 #include "cli/common/told_reading.h"
+#include "formats/trc/outline.h"
 
 namespace cli {
 namespace {
@@ -28,23 +28,14 @@ class RateObserver final : public orvane::TRCReadObserver {
   TrcInfoReport& report_;
 };
 
-// The start of a file that tells its rates: three lines.
-std::string_view RateLines(std::string_view bytes) {
-  constexpr int kLines = 3;
-  std::size_t end = 0;
-  for (int line = 0; line < kLines && end != std::string_view::npos; ++line) {
-    end = bytes.find('\n', end);
-    if (end != std::string_view::npos) ++end;
-  }
-  return bytes.substr(0, end);
-}
-
 // Reads the rates once more, for what their texts lose: the checks have an observer of their own.
 void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
+  orvane::TRCOutliner outliner;
+  outliner.Take(bytes);
   orvane::TRCDocument header;
   RateObserver observer(report);
-  // What is missing behind the rates has been told, or refused.
-  (void)header.ReadBytes(RateLines(bytes), false, &observer);
+  // What the header lacks has been told.
+  (void)header.ReadBytes(outliner.Header(), false, &observer);
 }
 
 }  // namespace
@@ -53,7 +44,6 @@ void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoRep
   report.file = file;
   const std::string bytes = FileBytes(file);
   report.findings = ReadAndTell(report.document, file, bytes, manner);
-  if (report.document.MarkerCount() == 0) throw Refused(file, kNoMarkers);
   ReadRateTexts(bytes, report);
   report.subject = orvane::MeasureSubject(report.document);
   report.summary = SummarizeTrc(report.document);

@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <unordered_map>
 
-#include "formats/text/files.h"
 #include "formats/text/numbers.h"
 
 namespace orvane {
@@ -34,10 +33,8 @@ struct Namesakes {
 }  // namespace
 
 bool MarkerNaming::Load(const std::string& path) {
-  const std::optional<std::string> bytes = ReadFileBytes(path);
-  if (!bytes || !mapping_.Load(path)) return false;
+  if (!mapping_.Load(path)) return false;
   file_ = path;
-  flaw_ = FindMappingTextFlaw(*bytes);
   return true;
 }
 

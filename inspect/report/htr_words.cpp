@@ -12,7 +12,8 @@ constexpr char kUnreached[] =
 constexpr FindingMeaning kWords[] = {
     {"htr-other-kind", "The file is {found}, not {expected}", nullptr, InMotion(kError)},
     {"htr-empty", "The file is empty", nullptr,
-     InMotion(kError, "Nothing is imported; was it saved, or copied, to its end?")},
+     InMotion(kError, "Nothing is imported; was it saved, or copied, to its end?")
+         .But(Action::kInspect, kError, "Nothing is read.")},
     {"htr-encoding", "The file is UTF-16 text", nullptr,
      InMotion(kError, "None of it is read; save it as UTF-8 or ASCII.")},
     {"htr-line-ends", "Lines end with carriage returns alone", nullptr,
@@ -90,13 +91,15 @@ constexpr FindingMeaning kWords[] = {
     {"htr-axis-unknown", "The axis is unknown", "The axis is unknown, {count} times",
      InMotion(kWarning, "Y is taken.")},
     {"htr-axis-ignored", "The axis of gravity is Z", "The axis of gravity is Z, {count} times",
-     InMotion(kWarning, "Y is taken for up all the same: the skeleton will lie down.")},
+     InMotion(kWarning, "Y is taken for up all the same: the skeleton will lie down.")
+         .But(Action::kInspect, kWarning, "Y is taken for up all the same.")},
     {"htr-rate-cut", "The frame rate has a fraction", "Frame rates have fractions",
      InMotion(kWarning), Concern::kRate},
     {"htr-rate-out-of-range", "There is no such frame rate", "There are no such frame rates",
-     InMotion(kWarning), Concern::kRate},
+     InMotion(kWarning).But(Action::kInspect, kWarning, "It is shown as it is."), Concern::kRate},
     {"htr-scale-factor", "ScaleFactor is not 1", nullptr,
-     InMotion(kWarning, "Nothing is multiplied by it; --scale multiplies.")},
+     InMotion(kWarning, "Nothing is multiplied by it; --scale multiplies.")
+         .But(Action::kInspect, kWarning, "Nothing is multiplied by it.")},
     {"htr-number-missing", "A number is missing", "{count} numbers are missing",
      InMotion(kWarning, "0 is taken.")},
     {"htr-number-unreadable", "A value is not a number", "{count} values are not numbers",
@@ -104,9 +107,11 @@ constexpr FindingMeaning kWords[] = {
     {"htr-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
      InMotion(kWarning, "The fraction is cut off.")},
     {"htr-number-out-of-range", "A number is out of range", "{count} numbers are out of range",
-     InMotion(kWarning)},
+     InMotion(kWarning).But(Action::kInspect, kWarning,
+                            "The nearest number that there is is taken, or an infinite one.")},
     {"htr-segments-missing", "The file holds no segments", nullptr,
-     InMotion(kError, "There is nothing to import.")},
+     InMotion(kError, "There is nothing to import.")
+         .But(Action::kInspect, kError, "There is nothing to show.")},
     {"htr-name-taken", "Two segments have one name", nullptr,
      InMotion(kError, "The file is refused.")},
     {"htr-name-in-words", "A line of the hierarchy holds more than a name and its parent",
@@ -117,33 +122,41 @@ constexpr FindingMeaning kWords[] = {
     {"htr-parent-unknown", "A segment's parent is unknown",
      "The parents of {count} segments are unknown",
      InMotion(kWarning, "A new skeleton goes without such a segment and what hangs from it.")
+         .But(Action::kInspect, kWarning, "Such a segment hangs from no root.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-parent-circle", "Segments are their own ancestors",
      "Segments are their own ancestors, in {count} circles",
      InMotion(kWarning, "A new skeleton goes without them and what hangs from them.")
+         .But(Action::kInspect, kWarning, "They hang from no root.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-root-missing", "No segment has the parent GLOBAL", nullptr,
      InMotion(kError, "There is nothing that a skeleton could start from.")
+         .But(Action::kInspect, kError, "All segments hang from no root.")
          .But(Action::kApply, kWarning,
               "Only a bone that is selected itself gets keys, with those below; as a root, it lies "
               "down.")},
     {"htr-root-second", "There is a second root", "There are {count} more roots",
      InMotion(kWarning, "A new skeleton is made of the first root and what hangs from it alone.")
+         .But(Action::kInspect, kWarning, "All of them are shown.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-segment-unlinked", "A segment stands behind [BasePosition]",
      "{count} segments stand behind [BasePosition]",
      InMotion(
          kWarning,
          "Such a segment has no parent: a new skeleton goes without it and what hangs from it.")
+         .But(Action::kInspect, kWarning, "Such a segment has no parent, and hangs from no root.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-base-missing", "There is no [BasePosition] before the motion", nullptr,
      InMotion(kError, "No segment has a parent: there is nothing to import.")
+         .But(Action::kInspect, kError,
+              "No segment has a parent, none is a root, and angles are taken as radians.")
          .But(Action::kApply, kWarning,
               "Only a bone that is selected itself gets keys, with angles taken as radians.")},
     {"htr-base-late", "[BasePosition] stands behind motion", nullptr,
      InMotion(kWarning, "Angles before it are taken as radians.")},
     {"htr-base-repeated", "[BasePosition] comes again", nullptr,
      InMotion(kWarning, "The last one counts, and a new skeleton has bones more than once.")
+         .But(Action::kInspect, kWarning, "The last one counts.")
          .But(Action::kApply, kWarning, "The last one counts.")},
     {"htr-base-links-stopped", "[BasePosition] comes over and over", nullptr,
      InMotion(kWarning, "The hierarchy is linked no more.")},
@@ -163,16 +176,23 @@ constexpr FindingMeaning kWords[] = {
     {"htr-frame-count", "A segment holds {found}, and NumFrames announces {expected}",
      "{count} segments hold another number of frames than the {expected} that NumFrames announces, "
      "the first one {found}",
-     InMotion(kWarning), Concern::kFrames},
+     InMotion(kWarning).But(Action::kInspect, kWarning, "The frames that are there are shown."),
+     Concern::kFrames},
     {"htr-frames-unannounced", "The header announces no frames", nullptr,
-     InMotion(kError, "The file is refused: its last frame would come before its first.")},
+     InMotion(kError, "The file is refused: its last frame would come before its first.")
+         .But(Action::kInspect, kError,
+              "An import refuses the file; the frames that are there are shown.")},
     {"htr-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
-     InMotion(kError, "It is refused; --range FROM:TO takes a part of them."), Concern::kExcess},
+     InMotion(kError, "It is refused; --range FROM:TO takes a part of them.")
+         .But(Action::kInspect, kError,
+              "An import refuses the file; the frames that are there are shown."),
+     Concern::kExcess},
     {"htr-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
      InMotion(kWarning, "Frames follow each other as their lines do.")},
     {"htr-motion-missing", "A segment has no motion", "{count} segments have no motion",
-     InMotion(kWarning, "In every frame such a segment stands at its parent's origin, unturned.")},
+     InMotion(kWarning, "In every frame such a segment stands at its parent's origin, unturned.")
+         .But(Action::kInspect, kWarning, "There are no frames of such a segment.")},
     {"htr-motion-repeated", "A segment has two sections of motion",
      "{count} segments have several sections of motion",
      InMotion(kWarning, "Their frames follow each other.")},

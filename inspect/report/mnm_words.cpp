@@ -35,27 +35,26 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kWarning, "Every marker is dropped.")},
     {"mnm-standard-unknown", "A name of the mapping is no standard marker",
      "{count} names of the mapping are no standard markers",
-     InMappings(kWarning, "The converted file has a marker of this name all the same.")
-         .But(Action::kConvert, kNote,
-              "The converted file has a marker of this name all the same.")},
+     InMappings(kWarning, "Such a name is written all the same.")
+         .But(Action::kConvert, kNote, "Such a name is written all the same.")},
     {"mnm-standard-twice", "A standard marker stands in the mapping again",
      "Standard markers stand in the mapping again, {count} times", InMappings(kWarning)},
     {"mnm-entry-doubled", "An entry of the mapping stands there again",
      "{count} entries of the mapping stand there again",
-     InMappings(kNote, "The line changes nothing.")},
+     InMappings(kNote, "Such a line changes nothing.")},
     {"mnm-entry-shadowed", "A marker has two entries in the mapping",
      "{count} markers have several entries in the mapping",
-     InMappings(kWarning, "The first one counts.")},
+     InMappings(kWarning, "The first of its entries counts.")},
     {"mnm-entry-unused", "An entry of the mapping is of no marker of the capture",
      "{count} entries of the mapping are of no marker of the capture",
-     InMappings(kWarning, "It changes nothing.")
-         .But(Action::kConvert, kNote, "It changes nothing.")},
+     FindingEffects(std::array{Action::kInspect}, {kWarning, "Such an entry changes nothing."})},
     {"mnm-marker-unmapped", "A marker has no entry in the mapping",
      "{count} markers have no entry in the mapping",
-     InMappings(kWarning, "It is dropped.").But(Action::kConvert, kNote, "It is dropped.")},
+     InMappings(kWarning, "Such a marker is dropped.")
+         .But(Action::kConvert, kNote, "Such a marker is dropped.")},
     {"mnm-marker-unmappable", "A marker's name cannot stand in a mapping",
      "{count} markers have names that cannot stand in a mapping",
-     InMappings(kWarning, "It is dropped.")},
+     InMappings(kWarning, "Such a marker is dropped.")},
 };
 
 }  // namespace

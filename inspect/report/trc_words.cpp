@@ -12,7 +12,9 @@ constexpr FindingMeaning kWords[] = {
     {"trc-encoding", "The file is UTF-16 text", nullptr,
      InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},
     {"trc-line-ends", "Lines end with carriage returns alone", nullptr,
-     InMarkers(kError, "No line ends there for the reader; save it with LF or CR LF.")},
+     InMarkers(kError, "No line ends there for the reader; save it with LF or CR LF.")
+         .But(Action::kConvert, kWarning,
+              "No line ends there for the reader: what is written is not what the file says.")},
     {"trc-byte-order-mark", "A byte-order mark stands at the start of the file", nullptr,
      InMarkers(kNote, "It belongs to the first word, which does not count.")},
     {"trc-nul", "A line holds a NUL byte", "{count} lines hold NUL bytes",
@@ -41,15 +43,19 @@ constexpr FindingMeaning kWords[] = {
     {"trc-rate-cut", "A rate has a fraction", "{count} rates have fractions", InMarkers(kWarning),
      Concern::kRate},
     {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
-     InMarkers(kWarning).But(Action::kConvert, kNote, "The converted file has it as it is."),
+     InMarkers(kWarning)
+         .But(Action::kInspect, kWarning, "It is shown as it is.")
+         .But(Action::kConvert, kNote, "The converted file has it as it is."),
      Concern::kRate},
     {"trc-camera-rate", "The camera rate is odd", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kConvert, kNote, "The converted file tells it.")},
     {"trc-unit-unknown", "The unit is unknown", nullptr,
-     InMarkers(kWarning, "Millimeters are taken; mm, cm, m, in, ft and yd are known.")},
+     InMarkers(kWarning, "Millimeters are taken; mm, cm, m, in, ft and yd are known.")
+         .But(Action::kConvert, kNote, "A BVK file tells no unit.")},
     {"trc-unit-ends-line", "The unit ends its line", nullptr,
-     InMarkers(kWarning, "Millimeters are taken; a tab behind the unit makes it count.")},
+     InMarkers(kWarning, "Millimeters are taken; a tab behind the unit makes it count.")
+         .But(Action::kConvert, kNote, "A BVK file tells no unit.")},
     {"trc-names-misplaced", "Names are not three tabs apart", nullptr,
      InMarkers(kWarning,
                "A name is taken every three tabs: markers get other names and other values.")},
@@ -60,7 +66,10 @@ constexpr FindingMeaning kWords[] = {
     {"trc-name-empty", "A marker has no name", "{count} markers have no name",
      InMarkers(kWarning, "Such a column is a marker all the same.")
          .But(Action::kImport, kWarning, "Such a marker makes an object without a name.")
-         .But(Action::kApply, kWarning, "Such a marker makes an object without a name.")},
+         .But(Action::kApply, kWarning, "Such a marker makes an object without a name.")
+         .But(Action::kConvert, kWarning,
+              "Such a marker is written without a name: in $Order the next name seems to be its "
+              "own.")},
     {"trc-column-unnamed", "A column has no name of its own",
      "{count} columns have no name of their own",
      InMarkers(
@@ -74,10 +83,11 @@ constexpr FindingMeaning kWords[] = {
          "it shift, unless it gets a name of its own or stands last.")},
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
-         .But(Action::kConvert, kWarning, "The converted file holds none.")},
+         .But(Action::kInspect, kError, "There is nothing to show.")
+         .But(Action::kConvert, kWarning, "No marker is written.")},
     {"trc-marker-count", "The file holds {found}, and NumMarkers announces {expected}", nullptr,
      InMarkers(kNote, "The markers that are there are taken.")
-         .But(Action::kInspect, kWarning, "The markers that are there are taken.")},
+         .But(Action::kInspect, kWarning, "The markers that are there are shown.")},
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
      InMarkers(kWarning, "The frame in its place is lost.")},
     {"trc-number-missing", "A value is missing", "{count} values are missing",
@@ -87,7 +97,12 @@ constexpr FindingMeaning kWords[] = {
     {"trc-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
      InMarkers(kWarning, "The fraction is cut off.")},
     {"trc-number-out-of-range", "A number is out of range", "{count} numbers are out of range",
-     InMarkers(kWarning)},
+     InMarkers(kWarning)
+         .But(Action::kInspect, kWarning,
+              "The nearest number that there is is taken, or an infinite one.")
+         .But(Action::kConvert, kWarning,
+              "The nearest whole number is taken; a position is written in all its digits, or as "
+              "inf.")},
     {"trc-blank-line-tabs", "A line of tabs stands where the blank line belongs", nullptr,
      InMarkers(kWarning,
                "It is the first frame, without positions: every sample comes a frame late.")},
@@ -109,21 +124,31 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kNote,
               "A BVK file has no frame numbers; frames follow each other as their lines do.")},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
-     InMarkers(kWarning), Concern::kFrames},
+     InMarkers(kWarning)
+         .But(Action::kInspect, kWarning, "The frames that are there are shown.")
+         .But(Action::kConvert, kWarning,
+              "As many are written as announced: missing ones as DROPOUT, surplus ones not at "
+              "all."),
+     Concern::kFrames},
     {"trc-frames-unannounced", "The header announces no frames", nullptr,
      InMarkers(kError, "The file is refused: its last frame would come before its first.")
-         .But(Action::kConvert, kWarning, "The converted file has no frames.")},
+         .But(Action::kInspect, kError,
+              "An import refuses the file; the frames that are there are shown.")
+         .But(Action::kConvert, kWarning, "No frame is written.")},
     {"trc-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
+         .But(Action::kInspect, kError,
+              "An import refuses the file; the frames that are there are shown.")
          .But(Action::kConvert, kError, "It is refused."),
      Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
      InMarkers(kWarning, "In its gaps the marker goes to the origin.")
-         .But(Action::kInspect, kNote, "In its gaps the marker goes to the origin.")
+         .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
      InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
+         .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
          .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
     {"trc-up-axis", "The file seems to have {found}", nullptr,

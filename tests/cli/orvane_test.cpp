@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <regex>
+#include <sstream>
 
 namespace test {
 
@@ -34,6 +35,17 @@ std::string SmallMotion() {
 
 std::string HurriedModule() {
   return ORVANE_BINARY_DIR "/tests/hurried_module" ORVANE_MODULE_SUFFIX;
+}
+
+std::vector<std::string> CodesIn(const std::string& error) {
+  static const std::regex finding("orvane: .*: (?:note|warning|error): .* \\[([a-z-]+)\\]");
+  std::vector<std::string> codes;
+  std::istringstream lines(error);
+  std::smatch match;
+  for (std::string line; std::getline(lines, line);) {
+    codes.push_back(std::regex_match(line, match, finding) ? std::string(match[1]) : line);
+  }
+  return codes;
 }
 
 std::string Slashed(std::string text) {

@@ -50,6 +50,10 @@ std::string SmallMotion();
 // The module of the tests, which is loaded in the plug-in's place.
 std::string HurriedModule();
 
+// The codes of what is told of files in `error`, which the program has written, in order; a line
+// that is not of a finding stands for itself.
+std::vector<std::string> CodesIn(const std::string& error);
+
 // `text` with the slashes of paths as POSIX systems write them.
 std::string Slashed(std::string text);
 

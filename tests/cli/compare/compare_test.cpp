@@ -24,10 +24,11 @@ class CompareTest : public test::OrvaneTest {
     return Orvane(arguments);
   }
 
+  // Expects that the codes `told_` are all that is told.
   std::string Page(int status, const std::vector<std::string>& flags = {}) const {
     const ProgramResult result = Compare(flags);
     EXPECT_EQ(result.status, status);
-    EXPECT_THAT(result.error, IsEmpty());
+    EXPECT_EQ(test::CodesIn(result.error), told_);
     return result.output;
   }
 
@@ -35,6 +36,8 @@ class CompareTest : public test::OrvaneTest {
     flags.push_back("--json");
     return json::parse(Page(status, flags));
   }
+
+  std::vector<std::string> told_;
 };
 
 // The hips are 3 mm off in frame 2, and the spine hangs from them.
@@ -104,6 +107,8 @@ TEST_F(CompareTest, PageOfFilesOfDifferentStructure) {
   other = Replaced(other, "Spine 0 100 0 0 0 0 250.5", "Spine 0 100 0 0 0 0 1\nTail 0 0 0 0 0 0 1");
   other = Replaced(other, "[Spine]\n1 0 0 0 0 0 0 1\n", "[Spine]\n");
   Write("b.htr", other);
+  told_ = {"htr-root-second", "htr-motion-missing", "htr-parent-unknown", "htr-frame-count",
+           "htr-frame-number"};
   EXPECT_THAT(Page(1), HasSubstr("\nDifferent structure\n"
                                  "  frame rate 60 in A, 30 in B\n"
                                  "  Tail: only in B\n"
@@ -130,6 +135,7 @@ TEST_F(CompareTest, FilesWithoutACommonFrameAreDifferent) {
   std::string other = SmallMotion();
   other = Replaced(other, "[Hips]\n1 ", "[Hips]\n9 ");
   Write("b.htr", other);
+  told_ = {"htr-frame-number"};
   EXPECT_THAT(Page(1), EndsWith("  frames 1 to 3 only in A\n  frames 9 to 11 only in B\n"
                                 "\n"
                                 "Difference of nothing, as no frame is in both files\n"));
@@ -160,6 +166,7 @@ TEST_F(CompareTest, FilesWithoutFramesAreComparedInTheirBasePosition) {
   const std::string still = SmallMotion().substr(0, SmallMotion().find("[Hips]"));
   Write("a.htr", still);
   Write("b.htr", still);
+  told_ = {"htr-motion-missing", "htr-end-missing", "htr-motion-missing", "htr-end-missing"};
   EXPECT_THAT(Page(0), HasSubstr("Difference of 2 segments in the base position, as there are no "
                                  "frames\n"));
   Write("b.htr", Replaced(still, "Hips 0 900 0", "Hips 0 901 0"));
@@ -179,6 +186,7 @@ TEST_F(CompareTest, TheSameMotionInOtherWordsIsTheSame) {
         "[Spine]\n1 0 10 0 0 0 0 1\n2 0 10 0 0 0 0 1\n3 0 10 0 0.17453292519943295 0 0 1\n"
         "[Hips]\n1 0 90 0 0 0 0 1\n2 1 90 0 0 0 1.5707963267948966 1\n3 2 90 0 0 0 0 1\n"
         "[EndOfFile]\n");
+  told_ = {"htr-keyword-left-out"};
   EXPECT_THAT(Page(0, {"--tolerance-mm", "1e-9", "--tolerance-deg", "1e-9"}),
               EndsWith("degrees: kept\n"));
 }
@@ -191,8 +199,9 @@ TEST_F(CompareTest, AFileAgainstItselfIsTheSame) {
 
 TEST_F(CompareTest, JsonHasTheDocumentedFields) {
   Write("b.htr", Replaced(MovedMotion(), "Spine Hips", "Spine GLOBAL"));
+  told_ = {"htr-root-second"};
   EXPECT_EQ(Json(1, {"--tolerance-deg", "0.25"}), json::parse(R"({
-    "version": 1,
+    "version": 2,
     "file_a": "a.htr",
     "file_b": "b.htr",
     "same": false,
@@ -215,7 +224,13 @@ TEST_F(CompareTest, JsonHasTheDocumentedFields) {
        "position_mm": {"largest": 3, "largest_frame": 2, "mean": 1},
        "orientation_deg": {"largest": 0, "largest_frame": 1, "mean": 0},
        "first_beyond": 2}
-    ]})"));
+    ],
+    "findings_a": [],
+    "findings_b": [{
+      "code": "htr-root-second", "severity": "warning", "count": 1, "line": 16, "column": 1,
+      "names": ["Spine"], "cause": "There is a second root",
+      "consequence": "All of them are shown."
+    }]})"));
 }
 
 TEST_F(CompareTest, JsonTellsEveryDifferenceOfTheStructure) {
@@ -224,6 +239,7 @@ TEST_F(CompareTest, JsonTellsEveryDifferenceOfTheStructure) {
   other = Replaced(other, "Hips GLOBAL\n", "Hips GLOBAL\nTail Nobody\n");
   Write("b.htr", Replaced(Replaced(other, "NumSegments 2", "NumSegments 3"), "[Hips]",
                           "Tail 0 0 0 0 0 0 1\n[Hips]"));
+  told_ = {"htr-motion-missing", "htr-parent-unknown", "htr-frame-count", "htr-frame-number"};
   EXPECT_EQ(Json(1)["structure"], json::parse(R"({
     "frame_rate": [60, 30],
     "segments": [{"name": "Tail", "only_in": "b"}],
@@ -234,6 +250,7 @@ TEST_F(CompareTest, JsonTellsEveryDifferenceOfTheStructure) {
 TEST_F(CompareTest, WhatIsNoNumberIsADifference) {
   Write("a.htr", Replaced(SmallMotion(), "2 10 0 0 0 0 90 1", "2 1e999 0 0 0 0 90 1"));
   Write("b.htr", Read("a.htr"));
+  told_ = {"htr-number-out-of-range", "htr-number-out-of-range"};
   EXPECT_THAT(Page(1), HasSubstr("inf mm at the most, inf on average; Hips in frame 2\n"));
   EXPECT_TRUE(Json(1)["position_mm"]["largest"].is_null());
 }
@@ -245,7 +262,10 @@ TEST_F(CompareTest, NamesCannotSteerATerminal) {
   }
   Write("a.htr", motion);
   Write("b.htr", Replaced(motion, "S\x1b[1m Hips", "S\x1b[1m GLOBAL"));
+  told_ = {"htr-root-second"};
   EXPECT_THAT(Page(1), HasSubstr("S\\x1b"));
+  EXPECT_THAT(Compare().error, HasSubstr("S\\x1b"));
+  EXPECT_THAT(Compare().error, Not(HasSubstr("\x1b")));
   EXPECT_THAT(Page(1), Not(HasSubstr("\x1b")));
 }
 
@@ -268,6 +288,7 @@ struct Trouble {
   std::string first;
   std::string second;
   std::string complaint;
+  std::vector<std::string> told{};  // before it: codes
 };
 
 class CompareTroubleTest : public test::OrvaneTest, public testing::WithParamInterface<Trouble> {};
@@ -285,7 +306,10 @@ TEST_P(CompareTroubleTest, EndsWithStatusThree) {
     const ProgramResult result = Orvane(arguments);
     EXPECT_EQ(result.status, 3);
     EXPECT_THAT(result.output, IsEmpty());
-    EXPECT_EQ(result.error, "orvane: " + GetParam().complaint + "\n");
+    EXPECT_THAT(result.error, EndsWith("orvane: " + GetParam().complaint + "\n"));
+    const std::string told =
+        result.error.substr(0, result.error.size() - GetParam().complaint.size() - 9);
+    EXPECT_EQ(test::CodesIn(told), GetParam().told);
   }
 }
 
@@ -298,18 +322,26 @@ INSTANTIATE_TEST_SUITE_P(
                 "none.htr: No such file or directory\n"
                 "  A name without an extension of three letters gets \".htr\"."},
         Trouble{"Folder", "folder.htr", "good.htr", "folder.htr: Is a directory"},
-        Trouble{"Refused", "good.htr", "refused.htr",
+        Trouble{"Refused",
+                "good.htr",
+                "refused.htr",
                 "refused.htr: The file does not have a compatible \"FileVersion\" header state\n"
-                "  Only files with \"FileVersion 1\" in the header can be read."},
-        Trouble{"CutShort", "short.htr", "good.htr",
+                "  Only files with \"FileVersion 1\" in the header can be read.",
+                {"htr-value-refused"}},
+        Trouble{"CutShort",
+                "short.htr",
+                "good.htr",
                 "short.htr: Incorrect number of segments defined in file\n"
                 "  \"NumSegments\" in the header must be the number of lines in [BasePosition]. A "
-                "file that was cut short says this too."},
-        Trouble{"Empty", "good.htr", "empty.htr",
-                "empty.htr: The file is empty\n"
-                "  Was it saved, or copied, to its end?\n"
-                "orvane: empty.htr: The file holds no segments\n"
-                "  Is it an HTR file? A file of 0 segments may also have been cut short."}),
+                "file that was cut short says this too.",
+                {"htr-segment-count", "htr-motion-missing", "htr-base-line-missing",
+                 "htr-end-missing"}},
+        Trouble{"Empty",
+                "good.htr",
+                "empty.htr",
+                "empty.htr: The file holds no segments\n"
+                "  Is it an HTR file? A file of 0 segments may also have been cut short.",
+                {"htr-empty", "htr-segments-missing"}}),
     [](const auto& test_case) { return test_case.param.name; });
 
 }  // namespace

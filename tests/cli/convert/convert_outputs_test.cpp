@@ -39,7 +39,7 @@ TEST_F(ConvertOutputsTest, KeepsALogThatExists) {
   Write("a.trc", Take());
   Write("b.trc", Take());
   Write("ConvertBVKLog.txt", "mine");
-  const ProgramResult result = Convert({"a.trc", "b.trc"});
+  const ProgramResult result = Convert({"a.trc", "b.trc", "--quiet"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
             "orvane: ConvertBVKLog.txt: File exists\n  It is kept; --force replaces it.\n");

@@ -31,6 +31,8 @@ class TrcInfoTest : public test::OrvaneTest {
 TEST_F(TrcInfoTest, ShowsAPage) {
   const ProgramResult result = Info(Gaps().Text());
   EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(test::CodesIn(result.error),
+              testing::ElementsAre("trc-rate-cut", "trc-frame-count", "trc-marker-gaps"));
   EXPECT_EQ(result.output,
             "walk.trc\n"
             "  Markers         2\n"
@@ -66,9 +68,11 @@ TEST_F(TrcInfoTest, LeavesOutWhatAFileWithoutFramesLacks) {
 }
 
 TEST_F(TrcInfoTest, WritesJson) {
-  const auto json = nlohmann::json::parse(Info(Gaps().Text(), {"--json"}).output);
+  auto json = nlohmann::json::parse(Info(Gaps().Text(), {"--json"}).output);
+  EXPECT_EQ(json["findings"].size(), 3U);
+  json.erase("findings");
   EXPECT_EQ(json, nlohmann::json::parse(R"({
-    "version": 1, "file": "walk.trc", "file_type": "TRC", "length_unit": "cm",
+    "version": 2, "file": "walk.trc", "file_type": "TRC", "length_unit": "cm",
     "data_rate": 59, "data_rate_in_file": "59.94",
     "camera_rate": 120, "camera_rate_in_file": null,
     "frames_announced": 5, "frames_found": 4, "first_frame": 10,
@@ -90,8 +94,13 @@ TEST_F(TrcInfoTest, WritesEverySampleAsJson) {
 TEST_F(TrcInfoTest, IsRefusedWithTheReadersWords) {
   const ProgramResult result = Info("nonsense");
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.error, testing::StartsWith("orvane: walk.trc: The file is does not have a "
-                                                "compatible \"(X/Y/Z)\" header state\n"));
+  EXPECT_THAT(
+      test::CodesIn(result.error),
+      testing::ElementsAre(
+          "trc-tabs-missing", "trc-end-unfinished",
+          "orvane: walk.trc: The file is does not have a compatible \"(X/Y/Z)\" header state",
+          "  The first line of a TRC file is PathFileType, a number, (X/Y/Z) and a file name, with "
+          "tabs between them."));
   EXPECT_EQ(Info("").status, 1);
   EXPECT_EQ(Orvane({"info", "missing.trc"}).status, 3);
 }
