@@ -139,6 +139,7 @@ DAMAGES = [
      change_line(NAMES, lambda line: line.replace(b"\t\t\t", b"\t\t"))),
     ("last-name-lost", "trc-name-lost", change_line(NAMES, lambda line: line.rstrip(b"\t"))),
     ("empty-name", "trc-name-empty", change_field(NAMES, name_field(3), b"")),
+    ("name-with-blank", "trc-name-with-blank", change_field(NAMES, name_field(3), b"left hip")),
     ("unnamed-column", "trc-column-unnamed", change_field(NAMES, name_field(3), b"Unnamed 4")),
     ("repeated-column", "trc-column-repeated", change_field(NAMES, name_field(3), b"walker:LFHD")),
     ("no-names", "trc-markers-missing",

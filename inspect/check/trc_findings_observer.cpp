@@ -120,6 +120,15 @@ void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate)
 void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
   columns_.emplace(name, place.column);
   parts_.markers.push_back(place);
+  CheckName(place, name);
+}
+
+void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
+  if (layout_.misplaced_name || name.find_first_of(" \v\f\r") == std::string_view::npos) return;
+  findings_.Add(Rule("trc-name-with-blank"), place, [name] {
+    return FindingWords{Quote(name), "a name of one word",
+                        "It is kept; in a converted file it reads as several names."};
+  });
 }
 
 void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {

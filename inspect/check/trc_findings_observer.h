@@ -36,6 +36,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
   void AddRefusal(TRCPlace place, std::string_view coordinates);
   void AddRepeatedName(TRCPlace place, std::string_view name);
   void CheckFileType(TRCPlace path_type);
+  void CheckName(TRCPlace place, std::string_view name);
   void CheckRate(TRCPlace place, std::string_view rate);
   void CheckCameraRate(TRCPlace place, std::string_view rate);
 

@@ -41,6 +41,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-names-misplaced", FindingSeverity::kWarning},
     {"trc-name-lost", FindingSeverity::kWarning},
     {"trc-name-empty", FindingSeverity::kWarning},
+    {"trc-name-with-blank", FindingSeverity::kNote},
     {"trc-column-unnamed", FindingSeverity::kWarning},
     {"trc-column-repeated", FindingSeverity::kWarning},
     {"trc-markers-missing", FindingSeverity::kError},

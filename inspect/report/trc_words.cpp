@@ -70,6 +70,11 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kWarning,
               "Such a marker is written without a name: in $Order the next name seems to be its "
               "own.")},
+    {"trc-name-with-blank", "A name holds blanks", "{count} names hold blanks",
+     InMarkers(kNote, "They are kept.")
+         .But(Action::kConvert, kWarning,
+              "In $Order such a name reads as several: whoever reads it gives all names behind it "
+              "to other markers.")},
     {"trc-column-unnamed", "A column has no name of its own",
      "{count} columns have no name of their own",
      InMarkers(

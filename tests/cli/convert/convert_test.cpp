@@ -13,6 +13,7 @@ using test::TrcText;
 using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
+using testing::Not;
 using testing::StartsWith;
 
 constexpr char kRefused[] = "The file is does not have a compatible \"(X/Y/Z)\" header state";
@@ -231,7 +232,7 @@ TEST_F(ConvertTest, WarnsOfFramesThatAreMissing) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.error,
-      "orvane: walk.trc: warning: NumFrames announces 3 frames, and 1 are there (line 3, "
+      "orvane: walk.trc: warning: NumFrames announces 3, and the file holds 1 (line 3, "
       "column 7). As many are written as announced: missing ones as DROPOUT, surplus ones not "
       "at all. [trc-frame-count]\n");
   EXPECT_THAT(result.output,
@@ -341,6 +342,16 @@ TEST_F(ConvertTest, TellsWhatItCannotReadOrWrite) {
   EXPECT_EQ(result.status, 3);
   EXPECT_THAT(result.error, HasSubstr("run.TRC: No such file or directory\n"));
   EXPECT_THAT(Names(), ElementsAre("walk.trc"));
+}
+
+// A mapping cannot name such a marker, so that it is not in the file.
+TEST_F(ConvertTest, WarnsOfNamesWithBlanksThatGetIntoTheFile) {
+  Write("walk.trc", Replaced(Take(), "Toe", "left toe"));
+  Write("map.mnm", "LFHD\tHead1\n");
+  EXPECT_THAT(Convert({"walk.trc"}).error,
+              HasSubstr("warning: A name holds blanks: \"left toe\" (line 4, column 21)"));
+  EXPECT_THAT(Convert({"walk.trc", "--mapping", "map.mnm", "--force"}).error,
+              Not(HasSubstr("holds blanks")));
 }
 
 }  // namespace

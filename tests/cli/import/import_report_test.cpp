@@ -284,7 +284,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(OddRate{"Fraction", "59.94", "The frame rate has a fraction",
                             "59 is taken: a minute lasts 60.96 s.", "htr-rate-cut"},
                     OddRate{"OutOfRange", "0", "There is no such frame rate",
-                            "The nearest rate that there is is set, unless --frame-rate keep is "
+                            "1 is set, unless --frame-rate keep is "
                             "given.",
                             "htr-rate-out-of-range"}),
     [](const auto& each) { return each.param.name; });

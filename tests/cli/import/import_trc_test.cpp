@@ -282,10 +282,9 @@ INSTANTIATE_TEST_SUITE_P(
         Oddity{"CameraRateOf0", "120\t60\t", "120\t0\t",
                "note: The camera rate is odd: \"0\" (line 3, column 5). Nothing depends on it. "
                "[trc-camera-rate]"},
-        Oddity{
-            "RateOf0", "120\t60\t", "0\t60\t",
-            "warning: There is no such frame rate: \"0\" (line 3, column 1). The nearest rate that "
-            "there is is set, unless --frame-rate keep is given. [trc-rate-out-of-range]"},
+        Oddity{"RateOf0", "120\t60\t", "0\t60\t",
+               "warning: There is no such frame rate: \"0\" (line 3, column 1). 1 "
+               "is set, unless --frame-rate keep is given. [trc-rate-out-of-range]"},
         Oddity{
             "FractionOfARate", "120\t60\t", "119.88\t60\t",
             "warning: A rate has a fraction: \"119.88\" (line 3, column 1). 119 is taken: a minute "

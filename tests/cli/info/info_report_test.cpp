@@ -54,7 +54,7 @@ TEST_F(InfoReportTest, TellsOfAMarkerFileBesideItsPage) {
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(
       result.error,
-      "orvane: walk.trc: warning: NumFrames announces 3 frames, and 2 are there (line 3, column "
+      "orvane: walk.trc: warning: NumFrames announces 3, and the file holds 2 (line 3, column "
       "7). The frames that are there are shown. [trc-frame-count]\n"
       "orvane: walk.trc: warning: A value is not a number: \"1,5\" (line 7, column 9). What it "
       "starts with is taken, or 0. [trc-number-unreadable]\n"

@@ -79,6 +79,22 @@ TEST(Report, JudgesByTheAction) {
   EXPECT_THAT(converted.names, ElementsAre("Hand"));
 }
 
+TEST(Report, TellsWhatNamesMakeOfAConvertedFile) {
+  const TrcText text{.markers = {"left head", ""}, .frames = {{"1\t2\t3", "1\t2\t3"}}};
+  const FileReport imported = ReportFor(text, Action::kImport);
+  EXPECT_EQ(Find(imported, "trc-name-with-blank").severity, FindingSeverity::kNote);
+  const FileReport converted = ReportFor(text, Action::kConvert);
+  const auto blank = Find(converted, "trc-name-with-blank");
+  EXPECT_EQ(blank.severity, FindingSeverity::kWarning);
+  EXPECT_EQ(blank.cause, "A name holds blanks");
+  EXPECT_EQ(blank.consequence,
+            "In $Order such a name reads as several: whoever reads it gives all names behind it to "
+            "other markers.");
+  EXPECT_EQ(Find(converted, "trc-name-empty").consequence,
+            "Its name is missing in $Order: whoever reads it gives all names behind it to other "
+            "markers.");
+}
+
 TEST(Report, PutsTheWorstFirst) {
   const TrcText text{.markers = {"Head", ""}, .frames = {{"1\t2\t3", "1\t2\tx"}}};
   const FileReport report = ReportFor(text, Action::kConvert);
