@@ -60,9 +60,11 @@ class WholeFile {
     const std::int64_t first = ParseInt(parts_.first_number);
     if (first == taken) return;
     const auto frames = static_cast<std::int64_t>(parts_.FrameCount());
+    const std::int64_t last = ParseInt(parts_.last_number);
+    const bool follow = last - first + 1 == frames;
     const bool is_announced = parts_.Value(TRCHeaderValue::kFirstFrame).has_value();
     findings_.Add(trc::Rule("trc-first-frame"), parts_.PlaceOfFrame(0),
-                  {NumbersOf(first, ParseInt(parts_.last_number)),
+                  {follow ? NumbersOf(first, last) : "from " + FormatInt(first) + " on",
                    NumbersOf(taken, taken + frames - 1) +
                        (is_announced ? ", as OrigDataStartFrame says"
                                      : ", as the path type is neither 3 nor 4"),
