@@ -68,8 +68,8 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kImport, kWarning, "Such a marker makes an object without a name.")
          .But(Action::kApply, kWarning, "Such a marker makes an object without a name.")
          .But(Action::kConvert, kWarning,
-              "Such a marker is written without a name: in $Order the next name seems to be its "
-              "own.")},
+              "Its name is missing in $Order: whoever reads it gives all names behind it to other "
+              "markers.")},
     {"trc-name-with-blank", "A name holds blanks", "{count} names hold blanks",
      InMarkers(kNote, "They are kept.")
          .But(Action::kConvert, kWarning,

@@ -108,7 +108,7 @@ TEST_F(PermissionsTest, WhatNobodyMayWriteIsNotReplaced) {
   }
   Write("ConvertBVKLog.txt", "mine");
   SetPermissions("ConvertBVKLog.txt", 0444);
-  EXPECT_EQ(Orvane({"convert", "walk.trc", "run.trc", "--force"}).error,
+  EXPECT_EQ(Orvane({"convert", "walk.trc", "run.trc", "--force", "--no-report"}).error,
             "orvane: ConvertBVKLog.txt: it is read-only\n"
             "  It is kept, also with --force; make it writable first.\n");
   EXPECT_EQ(Read("ConvertBVKLog.txt"), "mine");
