@@ -6,6 +6,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <utility>
 
 #include "cli/common/choice.h"
 #include "cli/common/failure.h"
@@ -20,9 +21,9 @@
 #include "cli/import/hidden_numbers.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"
-#include "cli/import/inspection.h"
-#include "cli/import/marker_targets.h"
+#include "cli/import/key_counts.h"
 #include "cli/import/scene_output.h"
+#include "cli/import/told_import.h"
 #include "formats/text/numbers.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
@@ -42,6 +43,8 @@ struct ImportArguments {
   SettingsSource settings = SettingsSource::kFresh;
   ReportManner report;
   bool quiet = false;
+  bool json = false;
+  bool dry_run = false;
   bool force = false;
 };
 
@@ -105,32 +108,6 @@ ReportManner ReportMannerOf(const ImportArguments& arguments) {
   return manner;
 }
 
-// What was found in a file that is to be imported.
-struct Told {
-  std::vector<Complaint> complaints;  // of the file and the scene together, to be told
-  bool has_errors = false;
-};
-
-// Tells what is odd in `input`, and what the import will make of that. Throws a Failure when
-// nothing is to be imported.
-Told TellOfFile(const std::string& input, FileKind kind, const ImportChoices& choices,
-                const host::Scene& scene, const ImportArguments& arguments) {
-  const ReportManner manner = ReportMannerOf(arguments);
-  Inspection inspection = Inspect(input, kind, choices, scene, kImportLess, !manner.omitted);
-  orvane::FileReport report =
-      ReportOn(inspection.checked, choices.apply ? orvane::Action::kApply : orvane::Action::kImport,
-               {choices.frame_rate_from_file, inspection.asked});
-  WriteReportFile({report}, manner);
-  if (inspection.refusal) {
-    for (const std::string_view code : inspection.refused_codes) report = report.Without(code);
-    Tell(report, manner);
-    throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
-  }
-  Tell(report, manner);
-  if (Forbids(manner, report)) throw ForbiddenByStrict();
-  return {std::move(inspection.complaints), report.Count(orvane::FindingSeverity::kError) > 0};
-}
-
 // The plug-in warns of a scale factor in its own words, which are no reason against the import when
 // the finding is none.
 void TellAllowed(const ReportManner& manner, std::vector<Complaint>& complaints) {
@@ -150,37 +127,75 @@ Failure RefusedForError(const std::string& file, std::vector<Complaint> complain
   return {ExitStatus::kRefused, std::move(complaints)};
 }
 
-ExitStatus ImportFile(const std::string& input, FileKind kind, const ImportArguments& arguments) {
-  SceneOutput output(arguments.output, arguments.force);
-  PluginSession session(arguments.module, arguments.settings);
-  PrepareScene(arguments, session.scene());
-  std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  const std::vector<ControlWish> wishes = AllWishes(arguments);
-  const ImportChoices choices = ChoicesOf(wishes, kind, session.settings());
-  const Told told = TellOfFile(input, kind, choices, session.scene(), arguments);
-  Append(told.complaints, complaints);
-  if (kind == FileKind::kTrc) {
-    Append(InspectMarkerTargets(input, choices, session.scene()), complaints);
+// One file on its way into a scene.
+class Importing {
+ public:
+  Importing(std::string input, FileKind kind, const ImportArguments& arguments)
+      : input_(std::move(input)),
+        kind_(kind),
+        arguments_(arguments),
+        output_(arguments.output, arguments.force),
+        session_(arguments.module, arguments.settings),
+        wishes_(AllWishes(arguments)) {}
+
+  ExitStatus Run() {
+    host::Scene& scene = session_.scene();
+    PrepareScene(arguments_, scene);
+    Append(Select(scene, arguments_.selection), complaints_);
+    const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    ToldImport told = TellOfImport(input_, kind_, choices, scene, ReportMannerOf(arguments_));
+    Append(told.complaints, complaints_);
+    StopIfInterrupted();
+    SetKeys keys(scene);
+    if (told.application)
+      keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
+    LetPluginImport();
+    if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
+    ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
+    file.is_checked = !arguments_.report.omitted;
+    file.keys_set = keys.Count(choices, told.keyed);
+    file.report = std::move(told.report);
+    file.application = std::move(told.application);
+    file.warnings = complaints_;
+    TellAllowed(arguments_.report, complaints_);
+    Warn(std::move(complaints_), arguments_.report.strict);
+    if (file.is_delivered) file.output_bytes = output_.Deliver(scene, input_);
+    Show(file);
+    return ExitStatus::kDone;
   }
-  StopIfInterrupted();
-  const Interval range = session.scene().Animation().Range();
-  const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
-  // Without a word from the user, the host goes by the name.
-  const std::string extension = arguments.kind ? ExtensionOf(*arguments.kind) : "";
-  const bool carried_out = session.Import(input, extension, wishes, show_progress);
-  StopIfInterrupted();
-  AddMessages(input, session, HiddenNumbers(wishes, kind, session.settings()), complaints);
-  if (!carried_out) throw NotCarriedOut(input, kind, std::move(complaints));
-  if (told.has_errors) throw RefusedForError(input, std::move(complaints));
-  AddReversedRange(input, range, session.scene().Animation(), complaints);
-  TellAllowed(arguments.report, complaints);
-  Warn(std::move(complaints), arguments.report.strict);
-  const std::size_t size = output.Deliver(session.scene(), input);
-  if (!arguments.quiet) {
-    PrintImportSummary({input, arguments.output, size, arguments.report.omitted}, session.scene(),
-                       std::cout);
+
+ private:
+  void LetPluginImport() {
+    const Interval range = session_.scene().Animation().Range();
+    const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
+    // Without a word from the user, the host goes by the name.
+    const std::string extension = arguments_.kind ? ExtensionOf(*arguments_.kind) : "";
+    const bool carried_out = session_.Import(input_, extension, wishes_, show_progress);
+    StopIfInterrupted();
+    AddMessages(input_, session_, HiddenNumbers(wishes_, kind_, session_.settings()), complaints_);
+    if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
+    AddReversedRange(input_, range, session_.scene().Animation(), complaints_);
   }
-  return ExitStatus::kDone;
+
+  void Show(const ImportedFile& file) {
+    if (arguments_.json) return PrintImportJson(file, session_.scene(), std::cout);
+    if (!arguments_.quiet) PrintImportSummary(file, session_.scene(), std::cout);
+  }
+
+  const std::string input_;
+  const FileKind kind_;
+  const ImportArguments& arguments_;
+  SceneOutput output_;
+  PluginSession session_;
+  const std::vector<ControlWish> wishes_;
+  std::vector<Complaint> complaints_;
+};
+
+// The dialog stores what was chosen in it.
+void RequireNothingStored(const ImportArguments& arguments) {
+  if (!arguments.dry_run || arguments.settings == SettingsSource::kFresh) return;
+  throw Failure{ExitStatus::kWrongUsage,
+                {{"--dry-run", "the dialog would store what --settings user lets it store", ""}}};
 }
 
 std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
@@ -191,11 +206,12 @@ std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::s
 
 ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
+  RequireNothingStored(arguments);
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
   const std::string input = ReadableFile(arguments.input, kind);
   RequireNoInput(arguments.output, {input});
   RequireReportApart(arguments.report, InputsOf(arguments, input), {arguments.output});
-  return ImportFile(input, kind, arguments);
+  return Importing(input, kind, arguments).Run();
 }
 
 double MillimetersPer(const std::string& unit) {
@@ -246,7 +262,10 @@ void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
               arguments.settings =
                   choice == "user" ? SettingsSource::kUser : SettingsSource::kFresh;
             });
+  verb.add_flag("--dry-run", arguments.dry_run,
+                "Show what the import would make, and write no scene");
   AddReportFlags(verb, arguments.report);
+  verb.add_flag("--json", arguments.json, "Write JSON");
   verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
 }
 

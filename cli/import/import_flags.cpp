@@ -57,7 +57,9 @@ void AddCloudFlags(CLI::App& verb, Wishes& wishes) {
 
 void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
   AddRange(verb, wishes, {IDC_ALL, IDC_RANGE, IDC_FROM, IDC_TO}, "--all",
-           "Import all frames (the default)", "Import the frames FROM to TO");
+           "Import all frames (the default)",
+           "Import the frames FROM to TO of a TRC file; key the first frames of an HTR file "
+           "there");
   AddText(verb, wishes, "--offset", IDC_OFFSET, "Number of frames to move the keys by (0)");
   AddChoice(
       verb, "--frame-rate", {"file", "keep"},
@@ -102,6 +104,7 @@ ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind, const host::Setting
       WishedState(wishes, IDC_APPLY) || (applied_last && !WishedState(wishes, IDC_CREATE));
   if (is_htr) {
     choices.animation = choice(IDC_ANIMATION, "Animate", true);
+    choices.base_position = choice(IDC_BASE_POSITION, "KeyBasePosition", false);
   } else {
     choices.selected_only = choice(IDC_SELECTED_ONLY, "SelectedOnly", false);
   }

@@ -32,6 +32,7 @@ void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes);
 struct ImportChoices {
   bool apply = false;          // to objects of the scene, and make none
   bool animation = true;       // set keys for the frames
+  bool base_position = false;  // and for the base position
   bool selected_only = false;  // apply to nothing but what is selected
   bool frame_rate_from_file = false;
   std::int32_t offset = 0;             // frames that keys are moved by

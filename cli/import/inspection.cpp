@@ -2,7 +2,7 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
-#include "cli/import/imported_frames.h"
+#include "cli/import/application.h"
 #include "cli/import/keyed_segments.h"
 #include "formats/htr/reader.h"
 #include "formats/trc/document.h"
@@ -105,7 +105,10 @@ class Inspecting {
     Document document;
     Read read = ReadInto(document, file_, bytes, is_checked);
     result_.checked = std::move(read.checked);
-    if (!read.is_refused) Judge(document, bytes.size(), advice);
+    if (!read.is_refused) {
+      Judge(document, bytes.size(), advice);
+      if (choices_.apply) result_.applied = DescribeFile(document);
+    }
     return std::move(result_);
   }
 
@@ -132,6 +135,7 @@ class Inspecting {
   }
 
   void JudgeAll(const ImportedFrames& frames, const Codes& codes, const std::string& advice) {
+    result_.frames = frames;
     const FramesVerdict verdict = JudgeFrames(file_, frames, choices_, scene_.Animation());
     result_.asked = verdict.asked;
     if (verdict.lost) result_.complaints.push_back(*verdict.lost);

@@ -7,8 +7,10 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/import/import_flags.h"
+#include "cli/import/imported_frames.h"
 #include "host/scene/scene.h"
 #include "inspect/check/checked_file.h"
+#include "inspect/report/apply_plan.h"
 #include "inspect/report/report.h"
 
 // What the program sees in a file before the plug-in imports it.
@@ -26,6 +28,9 @@ struct Inspection {
       refusal;  // why the import would make nothing of the file, or far too much
   std::vector<std::string_view> refused_codes;  // of the findings that the refusal stands for
   std::vector<Complaint> complaints;            // of the file and the scene together
+  ImportedFrames frames;
+  // The names in the file, when it can be read and they are applied to a scene.
+  std::optional<orvane::AppliedFile> applied{};
 };
 
 // Reads `file` before it is imported by `choices` into `scene`, and finds what is odd in it if

@@ -111,17 +111,19 @@ class ApplyCheck {
   // What becomes of names that are not in the scene.
   std::string LeftOut(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan,
                       bool selected_only) const {
+    const bool any_matches = AnyNameMatches(file, scene, plan);
     if (checked_.kind == "HTR") {
-      if (AnyNameMatches(file, scene, plan)) {
-        return "Their motion is left out; a bone counts below the bone of its parent, and the case "
-               "of letters counts.";
+      if (any_matches) {
+        return "What has such a name is left out; a bone counts below the bone of its parent, and "
+               "the case of letters counts.";
       }
       return "The motion of " + Quote(file.items[plan.pairs.front().item].name) +
              " goes to the node that is selected, and all other motion is left out.";
     }
+    const std::string marker = any_matches ? "Such a marker " : "Every marker ";
     const std::string looked_at = "; selected objects and their children are looked at.";
-    if (!selected_only) return "They get new objects" + looked_at;
-    return "They all move the last selected object, " +
+    if (!selected_only) return marker + "gets a new object" + looked_at;
+    return marker + "moves the last selected object, " +
            Quote(scene.nodes[scene.selected.back()].name) + looked_at;
   }
 

@@ -1,7 +1,9 @@
 #include "inspect/report/apply_plan.h"
 
+#include <algorithm>
 #include <string_view>
 #include <unordered_map>
+#include <unordered_set>
 #include <utility>
 
 namespace orvane {
@@ -28,7 +30,9 @@ class MotionPlan {
         scene_(scene),
         segments_below_(ChildrenOf(file.items)),
         nodes_below_(ChildrenOf(scene.nodes)),
-        seen_(file.items.size()) {}
+        seen_(file.items.size()) {
+    for (const ApplyItem& segment : file.items) names_.insert(segment.name);
+  }
 
   ApplyPlan Make() {
     const ApplyPair first = FindStart();
@@ -40,6 +44,7 @@ class MotionPlan {
       waiting.pop_back();
       PairChildren(parent, waiting);
     }
+    SortByFile();
     return std::move(plan_);
   }
 
@@ -93,6 +98,14 @@ class MotionPlan {
     }
   }
 
+  // Behind the first, which is where the user has the motion start.
+  void SortByFile() {
+    std::sort(plan_.pairs.begin() + 1, plan_.pairs.end(),
+              [](const ApplyPair& left, const ApplyPair& right) { return left.item < right.item; });
+    std::sort(plan_.file_only.begin(), plan_.file_only.end());
+    std::sort(plan_.scene_only.begin(), plan_.scene_only.end());
+  }
+
   // Segments may be their own ancestors.
   void MissBranch(std::size_t segment) {
     Indices waiting = {segment};
@@ -112,7 +125,8 @@ class MotionPlan {
       const std::size_t next = waiting.back();
       waiting.pop_back();
       if (!IsBone(next)) continue;
-      if (!IsEffector(scene_.nodes[next])) plan_.scene_only.push_back(next);
+      const ApplyItem& bone = scene_.nodes[next];
+      if (!IsEffector(bone) && names_.count(bone.name) == 0) plan_.scene_only.push_back(next);
       waiting.insert(waiting.end(), nodes_below_[next].rbegin(), nodes_below_[next].rend());
     }
   }
@@ -121,7 +135,8 @@ class MotionPlan {
   const ApplyScene& scene_;
   const std::vector<Indices> segments_below_;
   const std::vector<Indices> nodes_below_;
-  std::vector<bool> seen_;  // segments
+  std::unordered_set<std::string_view> names_;  // of all segments
+  std::vector<bool> seen_;                      // segments
   ApplyPlan plan_;
 };
 

@@ -59,9 +59,9 @@ struct ApplyPlan {
   };
 
   Start start = Start::kFound;
-  std::vector<ApplyPair> pairs;         // the first one by what is selected, the others by names
+  std::vector<ApplyPair> pairs;         // the first by what is selected, the others by names
   std::vector<std::size_t> file_only;   // items whose names no node has where it would count
-  std::vector<std::size_t> scene_only;  // nodes that could have been keyed, and have no such name
+  std::vector<std::size_t> scene_only;  // nodes that could be keyed, of names that the file has not
 };
 
 // Segments go to bones: from the bone that is selected first, or the first below what is, each to

@@ -96,61 +96,6 @@ TEST_F(ImportTrcTest, AppliesToObjectsOfAScene) {
               testing::Not(testing::Contains("LFHD001")));
 }
 
-class ImportTrcTargetTest : public ImportTrcTest {
- protected:
-  // Applies two markers to a scene that holds both.
-  ProgramResult Apply(const std::vector<std::string>& flags) const {
-    EXPECT_EQ(ImportText(Seen().Text(), {"--quiet", "--force"}).status, 0);
-    std::vector<std::string> arguments = {"import",   "walk.trc", "-o",      "more.glb", "--into",
-                                          "walk.glb", "--quiet",  "--force", "--apply"};
-    arguments.insert(arguments.end(), flags.begin(), flags.end());
-    return Orvane(arguments);
-  }
-};
-
-TEST_F(ImportTrcTargetTest, MarkersThatAllFindTheirObjectsAreNotMentioned) {
-  const ProgramResult result = Apply({"--select", "LFHD", "--select", "RFHD"});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.error, IsEmpty());
-}
-
-TEST_F(ImportTrcTargetTest, ChildrenOfSelectedObjectsAreFound) {
-  ASSERT_EQ(ImportText(Seen().Text(), {"--root-node"}).status, 0);
-  const ProgramResult result = Orvane({"import", "walk.trc", "-o", "more.glb", "--into", "walk.glb",
-                                       "--select", "TRCCloud", "--apply", "--quiet"});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_THAT(result.error, IsEmpty());
-}
-
-TEST_F(ImportTrcTargetTest, TellsWhichMarkersGetNewObjects) {
-  const ProgramResult result = Apply({"--select", "LFHD"});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: walk.trc: 1 of 2 markers gets a new object, because no selected one has its "
-            "name: RFHD\n"
-            "  Selected objects and their children are looked at.\n");
-}
-
-TEST_F(ImportTrcTargetTest, TellsWhichMarkersAllMoveOneObject) {
-  const ProgramResult result = Apply({"--select", "RFHD", "--selected-only"});
-  EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(result.error,
-            "orvane: walk.trc: 1 of 2 markers moves the last selected object, RFHD, because no "
-            "selected one has its name: LFHD\n"
-            "  Selected objects and their children are looked at.\n");
-}
-
-TEST_F(ImportTrcTargetTest, TellsThatNothingIsSelected) {
-  const std::string advice = "  --into SCENE --select NAME selects in a scene of yours.\n";
-  EXPECT_EQ(Apply({}).error,
-            "orvane: --apply: nothing is selected, so every marker gets a new object\n" + advice);
-  EXPECT_EQ(Apply({"--no-selected-only"}).error,
-            "orvane: --apply: nothing is selected, so every marker gets a new object\n" + advice);
-  EXPECT_EQ(Apply({"--selected-only"}).error,
-            "orvane: --selected-only: nothing is selected, so nothing is imported\n" + advice);
-  EXPECT_EQ(Apply({"--selected-only", "--strict"}).status, 1);
-}
-
 TEST_F(ImportTrcTest, AFlagOfTheOtherDialogIsWrongUsage) {
   EXPECT_EQ(ImportText(Seen().Text(), {"--tcb"}).error,
             "orvane: --tcb: the dialog \"ImportTRC\" has no such control\n");
@@ -163,9 +108,9 @@ TEST_F(ImportTrcTest, AFlagOfTheOtherDialogIsWrongUsage) {
 TEST_F(ImportTrcTest, ADisabledControlIsWrongUsage) {
   const ProgramResult result = ImportText(Seen().Text(), {"--apply", "--root-node"});
   EXPECT_EQ(result.status, 2);
-  EXPECT_EQ(result.error,
-            "orvane: --root-node: the dialog has this control disabled while \"Apply\" is chosen; "
-            "--create enables it\n");
+  EXPECT_THAT(result.error,
+              testing::EndsWith("orvane: --root-node: the dialog has this control disabled while "
+                                "\"Apply\" is chosen; --create enables it\n"));
   EXPECT_EQ(Import({"--selected-only"}).error,
             "orvane: --selected-only: the dialog has this control disabled while \"Create\" is "
             "chosen; --apply enables it\n");

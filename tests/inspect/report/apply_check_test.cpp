@@ -101,10 +101,10 @@ TEST(ApplyMotion, ASegmentWithoutItsBoneIsLeftOutWithAllBelowIt) {
   EXPECT_THAT(missing.names, ElementsAre("Spine", "Head"));
   EXPECT_EQ(missing.cause, "2 names of the file are not among what it is applied to");
   EXPECT_EQ(missing.consequence,
-            "Their motion is left out; a bone counts below the bone of its parent, and the case of "
-            "letters counts.");
+            "What has such a name is left out; a bone counts below the bone of its parent, and the "
+            "case of letters counts.");
   EXPECT_EQ(report.findings[1].severity, FindingSeverity::kNote);
-  EXPECT_THAT(report.findings[1].names, ElementsAre("spine", "Head"));
+  EXPECT_THAT(report.findings[1].names, ElementsAre("spine"));
 }
 
 TEST(ApplyMotion, EffectorsAreNotMissed) {
@@ -194,7 +194,7 @@ TEST(ApplyMarkers, TheOthersGetNewObjects) {
               ElementsAre("apply-name-missing-in-scene", "apply-name-missing-in-file"));
   EXPECT_THAT(report.findings[0].names, ElementsAre("RFHD"));
   EXPECT_EQ(report.findings[0].consequence,
-            "They get new objects; selected objects and their children are looked at.");
+            "Such a marker gets a new object; selected objects and their children are looked at.");
   EXPECT_THAT(report.findings[1].names, ElementsAre("Spare"));
 }
 
@@ -203,8 +203,8 @@ TEST(ApplyMarkers, OrAllMoveTheLastSelectedObject) {
   how.selected_only = true;
   const ApplyScene scene{{{"LFHD"}, {"Box"}}, {0, 1}};
   EXPECT_EQ(ReportOnMarkers(Markers({"LFHD", "RFHD"}), scene, how).findings[0].consequence,
-            "They all move the last selected object, \"Box\"; selected objects and their children "
-            "are looked at.");
+            "Such a marker moves the last selected object, \"Box\"; selected objects and their "
+            "children are looked at.");
 }
 
 TEST(ApplyMarkers, NothingSelectedIsOneFinding) {
@@ -222,7 +222,10 @@ TEST(ApplyMarkers, NothingSelectedIsOneFinding) {
 
 TEST(ApplyMarkers, ThatNoNameMatchesIsToldOnce) {
   const ApplyScene scene{{{"Cloud"}, {"a", 0}}, {0}};
-  EXPECT_EQ(Only(ReportOnMarkers(Markers({"LFHD", "RFHD"}), scene)).code, "apply-nothing-matches");
+  const FileReport report = ReportOnMarkers(Markers({"LFHD", "RFHD"}), scene);
+  EXPECT_EQ(Only(report).code, "apply-nothing-matches");
+  EXPECT_EQ(Only(report).consequence,
+            "Every marker gets a new object; selected objects and their children are looked at.");
 }
 
 // --- Time ---

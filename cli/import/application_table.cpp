@@ -1,0 +1,92 @@
+#include <string>
+
+#include "cli/common/messages.h"
+#include "cli/import/application.h"
+#include "formats/text/numbers.h"
+
+namespace cli {
+namespace {
+
+using orvane::ApplyItem;
+using orvane::ApplyPair;
+using orvane::BoneDifference;
+using orvane::FormatInt;
+
+using Layout = JsonWriter::Layout;
+
+std::vector<std::string> NamesOf(const std::vector<ApplyItem>& items,
+                                 const std::vector<std::size_t>& indices) {
+  std::vector<std::string> names;
+  for (const std::size_t index : indices) names.push_back(items[index].name);
+  return names;
+}
+
+// "  In the file only   2  Tail, Ear"
+void PrintRow(std::ostream& out, const char* title, const std::vector<std::string>& names) {
+  out << title << FormatInt(static_cast<std::int64_t>(names.size()));
+  const char* between = "  ";
+  for (const std::string& name : names) {
+    out << between << Printable(name);
+    between = ", ";
+  }
+  out << '\n';
+}
+
+void WriteNames(JsonWriter& json, const char* key, const std::vector<std::string>& names) {
+  json.Key(key);
+  json.BeginArray(Layout::kOneLine);
+  for (const std::string& name : names) json.String(name);
+  json.EndArray();
+}
+
+}  // namespace
+
+void PrintTable(const Application& application, std::ostream& out) {
+  const auto& [file, scene, nodes, plan, differences] = application;
+  std::vector<std::string> matched;
+  for (const ApplyPair& pair : plan.pairs) {
+    const std::string& item = file.items[pair.item].name;
+    const std::string& node = scene.nodes[pair.node].name;
+    matched.push_back(item == node ? item : item + " to " + node);
+  }
+  std::vector<std::string> differing;
+  for (const BoneDifference& each : differences) {
+    differing.push_back(scene.nodes[each.pair.node].name + " by " + Describe(each));
+  }
+  PrintRow(out, "  Names matched      ", matched);
+  PrintRow(out, "  In the file only   ", NamesOf(file.items, plan.file_only));
+  PrintRow(out, "  In the scene only  ", NamesOf(scene.nodes, plan.scene_only));
+  PrintRow(out, "  Bones that differ  ", differing);
+}
+
+void WriteTable(JsonWriter& json, const Application& application) {
+  const auto& [file, scene, nodes, plan, differences] = application;
+  json.BeginObject();
+  json.Key("matched");
+  json.BeginArray(Layout::kLines);
+  for (const ApplyPair& pair : plan.pairs) {
+    json.BeginArray(Layout::kOneLine);
+    json.String(file.items[pair.item].name);
+    json.String(scene.nodes[pair.node].name);
+    json.EndArray();
+  }
+  json.EndArray();
+  WriteNames(json, "file_only", NamesOf(file.items, plan.file_only));
+  WriteNames(json, "scene_only", NamesOf(scene.nodes, plan.scene_only));
+  json.Key("bones_that_differ");
+  json.BeginArray(Layout::kLines);
+  for (const BoneDifference& each : differences) {
+    json.BeginObject();
+    json.Key("name");
+    json.String(scene.nodes[each.pair.node].name);
+    json.Key("millimeters");
+    json.Number(each.millimeters);
+    json.Key("degrees");
+    json.Number(each.degrees);
+    json.EndObject();
+  }
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace cli

@@ -1,0 +1,71 @@
+#include "cli/import/told_import.h"
+
+#include <utility>
+
+#include "cli/import/inspection.h"
+
+namespace cli {
+namespace {
+
+using orvane::Action;
+using orvane::ApplyCircumstances;
+using orvane::CheckedFile;
+using orvane::FileReport;
+
+ApplyCircumstances CircumstancesOf(const ImportedFrames& frames, FileKind kind,
+                                   const ImportChoices& choices, const host::Scene& scene) {
+  ApplyCircumstances how;
+  how.selected_only = choices.selected_only;
+  how.first_frame = frames.announced.first;
+  if (!choices.animation) return how;
+  how.file_rate = frames.rate;
+  how.scene_rate = choices.frame_rate_from_file ? frames.rate : scene.Animation().FrameRate();
+  // The dialog refuses a range that reaches beyond the file, and one without frames.
+  const bool is_taken = choices.range && choices.range->Count() > 0 &&
+                        frames.announced.first <= choices.range->first &&
+                        choices.range->last <= frames.announced.last;
+  if (kind == FileKind::kHtr && is_taken) how.range_from = choices.range->first;
+  return how;
+}
+
+FileReport ReportOnScene(const CheckedFile& checked, const ApplyCircumstances& how,
+                         const std::optional<Application>& application) {
+  if (!application) {
+    return ReportOn(CheckRange(checked.file, checked.kind, how), Action::kImport);
+  }
+  return ReportOn(CheckApply(checked.file, checked.kind, application->file, application->scene,
+                             application->plan, how),
+                  Action::kApply);
+}
+
+}  // namespace
+
+ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoices& choices,
+                        const host::Scene& scene, const ReportManner& manner) {
+  Inspection inspection = Inspect(file, kind, choices, scene, kImportLess, !manner.omitted);
+  ToldImport told;
+  told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
+                         {choices.frame_rate_from_file, inspection.asked});
+  told.keyed = inspection.frames.keyed;
+  if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
+  if (!manner.omitted && !inspection.refusal) {
+    told.report.Take(ReportOnScene(inspection.checked,
+                                   CircumstancesOf(inspection.frames, kind, choices, scene),
+                                   told.application));
+  }
+  WriteReportFile({told.report}, manner);
+  if (inspection.refusal) {
+    for (const std::string_view code : inspection.refused_codes) {
+      told.report = told.report.Without(code);
+    }
+    Tell(told.report, manner);
+    throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
+  }
+  Tell(told.report, manner);
+  if (Forbids(manner, told.report)) throw ForbiddenByStrict();
+  told.has_errors = told.report.Count(orvane::FindingSeverity::kError) > 0;
+  told.complaints = std::move(inspection.complaints);
+  return told;
+}
+
+}  // namespace cli

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/common/failure.h"
+#include "cli/common/file_kind.h"
+#include "cli/common/report_flags.h"
+#include "cli/import/application.h"
+#include "cli/import/import_flags.h"
+#include "host/scene/scene.h"
+#include "inspect/report/report.h"
+
+// What the user is told of a file, and of the scene that it is applied to, before an import.
+
+namespace cli {
+
+struct ToldImport {
+  orvane::FileReport report;
+  bool has_errors = false;                   // though the plug-in may take the file
+  std::vector<Complaint> complaints;         // of the file and the scene together, not told yet
+  FrameInterval keyed;                       // the frames of the file that get keys
+  std::optional<Application> application{};  // when it is applied to nodes that are there
+};
+
+// Tells what is odd in `file`, and what an import by `choices` into `scene` will make of that. A
+// finding that says the same as a refusal is left to that. Throws a Failure when nothing is to be
+// imported.
+[[nodiscard]] ToldImport TellOfImport(const std::string& file, FileKind kind,
+                                      const ImportChoices& choices, const host::Scene& scene,
+                                      const ReportManner& manner);
+
+}  // namespace cli
