@@ -1,21 +1,26 @@
 #include "cli/export/export_command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
 #include "cli/common/advice.h"
 #include "cli/common/choice.h"
 #include "cli/common/failure.h"
+#include "cli/common/known_messages.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
 #include "cli/export/export_htr_flags.h"
 #include "cli/export/export_range.h"
+#include "cli/export/export_summary.h"
 #include "cli/export/exported_motion.h"
+#include "cli/export/exported_nodes.h"
 #include "cli/export/motion_output.h"
-#include "formats/text/numbers.h"
+#include "inspect/report/export_check.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
 
@@ -29,7 +34,8 @@ struct ExportArguments {
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   SettingsSource settings = SettingsSource::kFresh;
-  bool strict = false;
+  ReportManner report;
+  bool json = false;
   bool quiet = false;
   bool force = false;
 };
@@ -48,27 +54,52 @@ Failure NotCarriedOut(const std::string& scene_file, std::vector<Complaint> comp
   return {ExitStatus::kRefused, complaints};
 }
 
-void PrintSummary(const ExportArguments& arguments, const MotionOutput& output,
-                  const ExportedMotion& motion) {
-  using orvane::FormatInt;
-  std::cout << "Exported " << Printable(arguments.input) << '\n'
-            << "  Segments  " << FormatInt(motion.segments) << '\n'
-            << "  Frames    " << FormatInt(motion.first_frame) << " to "
-            << FormatInt(motion.first_frame + motion.frames - 1) << " at "
-            << FormatInt(motion.frame_rate) << " frames per second\n"
-            << "  File      " << Printable(output.Path()) << " ("
-            << FormatInt(static_cast<std::int64_t>(motion.bytes)) << " bytes)\n";
+// Tells what the motion file will not hold of the scene. Returns it. Throws a Failure when that is
+// a reason against the export.
+orvane::FileReport TellOfScene(const host::Scene& scene, const ExportChoices& choices,
+                               const ExportArguments& arguments) {
+  ReportManner manner = arguments.report;
+  manner.only_warnings = arguments.quiet;
+  if (manner.omitted) return {};
+  orvane::FileReport report =
+      ReportOn(orvane::CheckExport(arguments.input, DescribeExport(scene, choices)),
+               orvane::Action::kExport);
+  WriteReportFile({report}, manner);
+  Tell(report, manner);
+  if (Forbids(manner, report)) throw ForbiddenByStrict();
+  return report;
+}
+
+// The plug-in tells of names that it refuses in its own words, which are no reason against the
+// export when the finding is none.
+void TellAllowed(const ReportManner& manner, std::vector<Complaint>& complaints) {
+  const auto& allowed = manner.allowed;
+  if (std::find(allowed.begin(), allowed.end(), "export-name-refused") == allowed.end()) return;
+  std::erase_if(complaints, [](const Complaint& complaint) {
+    if (Recognize(complaint.text) != KnownMessage::kIdenticalNames) return false;
+    Print(Severity::kWarning, complaint);
+    return true;
+  });
+}
+
+void Show(const ExportedFile& file, const ExportArguments& arguments) {
+  if (arguments.json) return PrintExportJson(file, std::cout);
+  if (!arguments.quiet) PrintExportSummary(file, std::cout);
 }
 
 ExitStatus Export(const ExportArguments& arguments) {
   platform::CatchInterrupts();
   RequireNoInput(MotionFilePath(arguments.output), {arguments.input});
+  RequireReportApart(arguments.report, {arguments.input}, {MotionFilePath(arguments.output)});
   MotionOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
+  const host::Scene& scene = session.scene();
   ReadSceneFile(arguments.input, session.scene());
   std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
-  RequireSensibleRange(arguments.input, session.scene(),
-                       ExportChoicesOf(arguments.wishes, session.settings()));
+  const ExportChoices choices = ExportChoicesOf(arguments.wishes, session.settings());
+  RequireSensibleRange(arguments.input, scene, choices);
+  ExportedFile file{arguments.input, output.Path(), {}, !arguments.report.omitted};
+  file.report = TellOfScene(scene, choices, arguments);
   StopIfInterrupted();
   const std::string place = output.MakeRoom();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
@@ -76,10 +107,12 @@ ExitStatus Export(const ExportArguments& arguments) {
   StopIfInterrupted();
   AddMessages(arguments.input, session, complaints);
   if (!carried_out) throw NotCarriedOut(arguments.input, std::move(complaints));
-  Warn(std::move(complaints), arguments.strict);
-  const ExportedMotion motion = CheckExport(place, output.Path(), session.scene());
+  file.warnings = complaints;
+  TellAllowed(arguments.report, complaints);
+  Warn(std::move(complaints), arguments.report.strict);
+  file.motion = CheckExport(place, output.Path(), scene);
   output.Deliver();
-  if (!arguments.quiet) PrintSummary(arguments, output, motion);
+  Show(file, arguments);
   return ExitStatus::kDone;
 }
 
@@ -114,7 +147,8 @@ void AddRunFlags(CLI::App& verb, ExportArguments& arguments) {
               arguments.settings =
                   choice == "user" ? SettingsSource::kUser : SettingsSource::kFresh;
             });
-  verb.add_flag("--strict", arguments.strict, "Take every warning as a refusal");
+  AddReportFlags(verb, arguments.report);
+  verb.add_flag("--json", arguments.json, "Write JSON");
   verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
 }
 

@@ -27,6 +27,8 @@ ExportChoices ExportChoicesOf(const Wishes& wishes, const host::Settings& settin
   ExportChoices choices;
   choices.animation =
       WishedState(wishes, IDC_EXPORT_ANIMATION).value_or(stored.Flag("Animate").value_or(true));
+  choices.parent_transforms = WishedState(wishes, IDC_PARENT_TRANSFORMS)
+                                  .value_or(stored.Flag("ParentTransforms").value_or(true));
   choices.range = TypedRange(wishes, IDC_FROM, IDC_TO);
   choices.offset = TypedInt(wishes, IDC_OFFSET).value_or(stored.Int("Offset").value_or(0));
   return choices;

@@ -88,6 +88,9 @@ std::span<const FindingMeaning> MnmFindingMeanings();
 // Those of a file and the scene that it is applied to.
 std::span<const FindingMeaning> ApplyFindingMeanings();
 
+// Those of a skeleton that becomes a motion file.
+std::span<const FindingMeaning> ExportFindingMeanings();
+
 // Those of `code`; null when no finding has it.
 const FindingMeaning* FindMeaning(std::string_view code);
 

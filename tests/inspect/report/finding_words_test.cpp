@@ -6,11 +6,14 @@
 #include <algorithm>
 #include <set>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/report/apply_rules.h"
+#include "inspect/report/export_rules.h"
 #include "tests/support/files.h"
 
 namespace {
@@ -31,15 +34,21 @@ std::vector<FindingRule> AllRules() {
   return all;
 }
 
-// Of what is found in a file and a scene together.
-std::vector<FindingRule> RulesOfScenes() {
-  return {orvane::apply::kRules.begin(), orvane::apply::kRules.end()};
+// Of what is found in a scene, and the action that it is found for.
+std::vector<std::pair<FindingRule, Action>> RulesOfScenes() {
+  std::vector<std::pair<FindingRule, Action>> rules;
+  for (const FindingRule& rule : orvane::apply::kRules) rules.emplace_back(rule, Action::kApply);
+  for (const FindingRule& rule : orvane::exporting::kRules) {
+    rules.emplace_back(rule, Action::kExport);
+  }
+  return rules;
 }
 
 std::vector<FindingMeaning> AllWords() {
   std::vector<FindingMeaning> all;
-  for (const auto& words : {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(),
-                            orvane::MnmFindingMeanings(), orvane::ApplyFindingMeanings()}) {
+  for (const auto& words :
+       {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(), orvane::MnmFindingMeanings(),
+        orvane::ApplyFindingMeanings(), orvane::ExportFindingMeanings()}) {
     all.insert(all.end(), words.begin(), words.end());
   }
   return all;
@@ -51,7 +60,7 @@ TEST(FindingMeanings, AreThereForEveryCodeAndForNoOther) {
     EXPECT_NE(FindMeaning(rule.code), nullptr) << rule.code;
     codes.insert(rule.code);
   }
-  for (const FindingRule& rule : RulesOfScenes()) {
+  for (const auto& [rule, action] : RulesOfScenes()) {
     EXPECT_NE(FindMeaning(rule.code), nullptr) << rule.code;
     codes.insert(rule.code);
   }
@@ -69,8 +78,8 @@ TEST(FindingMeanings, OfALookAtAFileAreAsBadAsTheCheckSays) {
 }
 
 TEST(FindingMeanings, OfScenesAreAsBadAsTheCheckSays) {
-  for (const FindingRule& rule : RulesOfScenes()) {
-    EXPECT_EQ(FindMeaning(rule.code)->effects[Action::kApply].severity, rule.severity) << rule.code;
+  for (const auto& [rule, action] : RulesOfScenes()) {
+    EXPECT_EQ(FindMeaning(rule.code)->effects[action].severity, rule.severity) << rule.code;
   }
 }
 

@@ -1,0 +1,67 @@
+#include "cli/export/export_summary.h"
+
+#include "cli/common/json_writer.h"
+#include "cli/common/messages.h"
+#include "cli/common/report.h"
+#include "formats/text/numbers.h"
+
+namespace cli {
+namespace {
+
+using orvane::FormatInt;
+
+using Layout = JsonWriter::Layout;
+
+constexpr int kVersion = 2;
+
+void WriteNumber(JsonWriter& json, std::string_view key, std::int64_t number) {
+  json.Key(key);
+  json.Integer(number);
+}
+
+void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
+  json.Key(key);
+  json.String(text);
+}
+
+std::int64_t LastFrame(const ExportedMotion& motion) {
+  return motion.first_frame + motion.frames - 1;
+}
+
+}  // namespace
+
+void PrintExportSummary(const ExportedFile& file, std::ostream& out) {
+  const ExportedMotion& motion = file.motion;
+  out << "Exported " << Printable(file.input) << '\n'
+      << "  Segments  " << FormatInt(motion.segments) << '\n'
+      << "  Frames    " << FormatInt(motion.first_frame) << " to " << FormatInt(LastFrame(motion))
+      << " at " << FormatInt(motion.frame_rate) << " frames per second\n"
+      << "  File      " << Printable(file.output) << " ("
+      << FormatInt(static_cast<std::int64_t>(motion.bytes)) << " bytes)\n";
+  if (!file.is_checked) out << "  Report    none: --no-report\n";
+}
+
+void PrintExportJson(const ExportedFile& file, std::ostream& out) {
+  JsonWriter json(out);
+  json.BeginObject();
+  WriteNumber(json, "version", kVersion);
+  WriteText(json, "scene", file.input);
+  WriteNumber(json, "segments", file.motion.segments);
+  json.Key("frames");
+  json.BeginArray(Layout::kOneLine);
+  json.Integer(file.motion.first_frame);
+  json.Integer(LastFrame(file.motion));
+  json.EndArray();
+  WriteNumber(json, "frame_rate", file.motion.frame_rate);
+  WriteText(json, "file", file.output);
+  WriteNumber(json, "bytes", static_cast<std::int64_t>(file.motion.bytes));
+  json.Key("findings");
+  WriteFindings(json, file.report);
+  json.Key("warnings");
+  json.BeginArray(Layout::kLines);
+  for (const Complaint& warning : file.warnings) json.String(warning.text);
+  json.EndArray();
+  json.EndObject();
+}
+
+}  // namespace cli

@@ -1,0 +1,44 @@
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+using enum FindingSeverity;
+
+constexpr FindingEffects Exported(FindingSeverity severity, const char* consequence) {
+  return {std::array{Action::kExport}, {severity, consequence}};
+}
+
+constexpr FindingMeaning kWords[] = {
+    {"export-name-changed", "A bone has a name that means something else in a motion file",
+     "{count} bones have names that mean something else in a motion file",
+     Exported(kError, "The file would not read back, and is refused; rename the bone.")},
+    {"export-name-refused", "A bone has a blank in its name, or the name of another",
+     "{count} bones have blanks in their names, or the names of others",
+     Exported(kWarning, "Such a bone is left out, with all below it.")},
+    {"export-below-helper", "A bone hangs from a node that is no bone",
+     "{count} bones hang from nodes that are no bones",
+     Exported(kWarning, "Such a bone is left out.")},
+    {"export-below-effector", "A bone hangs from an effector", "{count} bones hang from effectors",
+     Exported(kWarning, "Such a bone is left out; what has \"Effector\" in its name is one.")},
+    {"export-scale-keyed", "The scale of a bone changes", "The scales of {count} bones change",
+     Exported(kWarning,
+              "The file tells it along X alone, and no import brings it back; what hangs from the "
+              "bone stands as along X.")},
+    {"export-scale-uneven", "A bone is not scaled alike along its axes",
+     "{count} bones are not scaled alike along their axes",
+     Exported(kWarning, "The scale along X is taken for all: what hangs from the bone is moved.")},
+    {"export-shear", "The axes of a bone are not at right angles",
+     "The axes of {count} bones are not at right angles",
+     Exported(kWarning, "The file holds turns alone, and not the shear.")},
+    {"export-helper-skipped", "A node of the skeleton is no bone",
+     "{count} nodes of the skeleton are no bones", Exported(kNote, "It is left out.")},
+    {"export-effector", "An effector ends a chain", "{count} effectors end chains",
+     Exported(kNote, "It is left out; the bone before it has its length.")},
+};
+
+}  // namespace
+
+std::span<const FindingMeaning> ExportFindingMeanings() { return kWords; }
+
+}  // namespace orvane
