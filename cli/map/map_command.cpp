@@ -24,7 +24,9 @@ void AddCreate(CLI::App& map, Work& work) {
   verb->add_flag("--force", arguments->force, "Replace the mapping file if it exists");
   verb->add_option("--module", arguments->module, "The plug-in to load (the one beside orvane)")
       ->type_name("PATH");
-  verb->add_flag("--quiet", arguments->quiet, "No summary");
+  AddReportFlags(*verb, arguments->report);
+  verb->add_flag("--json", arguments->json, "Write JSON");
+  verb->add_flag("--quiet", arguments->quiet, "No summary; warnings are still told");
   verb->callback([arguments, &work] { work = [arguments] { return CreateMapping(*arguments); }; });
 }
 

@@ -7,8 +7,10 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
+#include "cli/common/report.h"
 #include "cli/import/inspection.h"
 #include "cli/map/mapping_user.h"
 #include "cli/map/picks_table.h"
@@ -77,12 +79,55 @@ std::string FolderOf(const std::string& path) {
   return folder.empty() ? "." : folder;
 }
 
-// Throws a Failure when the import of `input` into `scene` would make nothing of it, or far too
-// much.
-void RequireInProportion(const std::string& input, const host::Scene& scene) {
+// Tells what is odd in `input`, and returns it. Throws a Failure when its import into `scene` would
+// make nothing of it, or far too much, and when a strict user does not take it.
+orvane::FileReport TellOfMarkers(const std::string& input, const host::Scene& scene,
+                                 const MapCreateArguments& arguments) {
+  ReportManner manner = arguments.report;
+  manner.only_warnings = arguments.quiet;
   const Inspection inspection =
-      Inspect(input, FileKind::kTrc, {}, scene, "Is \"NumFrames\" right?", false);
+      Inspect(input, FileKind::kTrc, {}, scene, "Is \"NumFrames\" right?", !manner.omitted);
+  orvane::FileReport report;
+  if (!manner.omitted) {
+    report = ReportOn(inspection.checked, orvane::Action::kInspect);
+    WriteReportFile({report}, manner);
+  }
+  if (inspection.refusal) {
+    for (const std::string_view code : inspection.refused_codes) report = report.Without(code);
+  }
+  Tell(report, manner);
   if (inspection.refusal) throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
+  if (Forbids(manner, report)) throw ForbiddenByStrict();
+  return report;
+}
+
+void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
+  json.Key(key);
+  json.String(text);
+}
+
+void PrintJson(const MapCreateArguments& arguments, const std::string& input, std::size_t mapped,
+               const orvane::FileReport& report) {
+  constexpr int kVersion = 2;
+  JsonWriter json(std::cout);
+  json.BeginObject();
+  json.Key("version");
+  json.Integer(kVersion);
+  WriteText(json, "file", input);
+  WriteText(json, "mapping", arguments.output);
+  json.Key("markers_mapped");
+  json.Integer(static_cast<std::int64_t>(mapped));
+  json.Key("findings");
+  WriteFindings(json, report);
+  json.EndObject();
+}
+
+void Show(const MapCreateArguments& arguments, const std::string& input, std::size_t mapped,
+          const orvane::FileReport& report) {
+  if (arguments.json) return PrintJson(arguments, input, mapped, report);
+  if (arguments.quiet) return;
+  std::cout << Printable(arguments.output) << ": " << CountOf(mapped, "marker") << " mapped\n";
+  if (arguments.report.omitted) std::cout << "  Report  none: --no-report\n";
 }
 
 }  // namespace
@@ -91,12 +136,13 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   platform::CatchInterrupts();
   const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
   RequireNoInput(arguments.output, {input, arguments.picks});
+  RequireReportApart(arguments.report, {input, arguments.picks}, {arguments.output});
   platform::OutputFile output(arguments.output, arguments.force);
   if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
     throw CannotWrite(arguments.output, output, reason);
   }
   PluginSession session(arguments.module, SettingsSource::kFresh);
-  RequireInProportion(input, session.scene());
+  const orvane::FileReport report = TellOfMarkers(input, session.scene(), arguments);
   ImportCloud(session, input);
   const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
 
@@ -114,10 +160,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
     return written;
   });
   Deliver(arguments.output, output, bytes);
-  if (!arguments.quiet) {
-    std::cout << Printable(arguments.output) << ": " << CountOf(picks.Count(), "marker")
-              << " mapped\n";
-  }
+  Show(arguments, input, picks.Count(), report);
   return ExitStatus::kDone;
 }
 

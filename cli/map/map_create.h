@@ -4,6 +4,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/report_flags.h"
 #include "formats/mnm/standard_markers.h"
 
 // `orvane map create`: the plug-in's mapping creator, used by somebody who picks by a table.
@@ -16,6 +17,8 @@ struct MapCreateArguments {
   std::string picks;
   std::string module = DefaultModulePath();
   orvane::WristSticks sticks;
+  ReportManner report;
+  bool json = false;
   bool force = false;
   bool quiet = false;
 };
