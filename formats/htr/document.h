@@ -45,10 +45,10 @@ class HtrDocument {
   std::int32_t GetStartFrame() const { return start_frame_; }
   void SetStartFrame(std::int32_t number) { start_frame_ = number; }
   // Whether a writer prints the frames' scales, or 1 in their place.
-  bool GetWriteBoneScale() const { return write_bone_scale_; }
+  [[nodiscard]] bool GetWriteBoneScale() const { return write_bone_scale_; }
   void SetWriteBoneScale(bool write) { write_bone_scale_ = write; }
   // Whether a writer divides the frames' scales by the segment's reference length.
-  bool GetNormalizeBoneScale() const { return normalize_bone_scale_; }
+  [[nodiscard]] bool GetNormalizeBoneScale() const { return normalize_bone_scale_; }
   void SetNormalizeBoneScale(bool normalize) { normalize_bone_scale_ = normalize; }
   // The header's value as read; nothing here is multiplied by it.
   double GetScaleFactor() const { return scale_factor_; }
@@ -76,7 +76,7 @@ class HtrDocument {
 
  private:
   void RefreshNames();
-  bool IsExpected(std::string_view name) const;
+  [[nodiscard]] bool IsExpected(std::string_view name) const;
 
   std::deque<HtrSegment> segments_;
   std::uint32_t calibration_units_ = 0;

@@ -50,7 +50,9 @@ class HtrOddities {
   }
 
   // The end of the current line.
-  std::string_view EndOfLine() const { return line_.Text().substr(line_.Text().size()); }
+  [[nodiscard]] std::string_view EndOfLine() const {
+    return line_.Text().substr(line_.Text().size());
+  }
 
   // Reports what `text` holds besides separators, if anything.
   void ReportWords(HtrOddity oddity, std::string_view text) const;

@@ -28,10 +28,10 @@ class HtrSegment {
   explicit HtrSegment(std::string name) : name_(std::move(name)) {}
 
   // True when the file names the global frame as this segment's parent.
-  bool GetIsRoot() const { return is_root_; }
+  [[nodiscard]] bool GetIsRoot() const { return is_root_; }
   void SetIsRoot(bool is_root) { is_root_ = is_root; }
 
-  std::string GetName() const { return name_.Get(); }
+  [[nodiscard]] std::string GetName() const { return name_.Get(); }
   // Renames the segment, one stored in a document too: the document finds it by its new name.
   void SetName(std::string name) { name_.Set(std::move(name)); }
 
@@ -70,7 +70,7 @@ class HtrSegment {
   EulerRotation GetFrameRotation(std::size_t index) const;
   double GetFrameScale(std::size_t index) const;
   // Returns false, changing nothing, at or past the end.
-  bool SetFrameTranslation(std::size_t index, double x, double y, double z);
+  [[nodiscard]] bool SetFrameTranslation(std::size_t index, double x, double y, double z);
 
   // The frame with its base: base translation plus frame translation. At or past the end: zero.
   Vector3 GetFramePosition(std::size_t index) const;

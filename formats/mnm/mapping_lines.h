@@ -41,6 +41,6 @@ class MappingLineReader {
 
 // Whether no mapping can name the marker `name`: a word is not empty, holds no white space and no
 // NUL, and fits into a line.
-bool CannotBeMapped(std::string_view name);
+[[nodiscard]] bool CannotBeMapped(std::string_view name);
 
 }  // namespace orvane

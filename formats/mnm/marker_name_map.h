@@ -33,15 +33,15 @@ class MarkerNameMap {
   // formats/mnm/mapping_lines.h reads it. Returns false when the file cannot be read; the entries
   // are then those from before.
   // Intended: what was there stays in front, so the entries of an earlier file go first.
-  bool Load(const std::string& path);
+  [[nodiscard]] bool Load(const std::string& path);
 
   // Writes the entries to the file `path` (UTF-8), one a line: standard name, tab, marker name,
   // tab. Returns false when the file cannot be opened.
-  bool Save(const std::string& path) const;
+  [[nodiscard]] bool Save(const std::string& path) const;
 
   // Replaces the marker name `name` by the standard name of the first entry that has it, in
   // constant time. Returns false, leaving `name` alone, when there is none. Case counts.
-  bool Lookup(std::string& name) const;
+  [[nodiscard]] bool Lookup(std::string& name) const;
 
  private:
   // Texts by number. Files may repeat an entry with every byte, so each text is kept once.

@@ -37,6 +37,6 @@ struct WristSticks {
 const MarkerStep& MarkerStepAt(std::size_t index, const WristSticks& sticks);
 
 // Whether a step asks for `name`, with or without sticks.
-bool IsStandardMarker(std::string_view name);
+[[nodiscard]] bool IsStandardMarker(std::string_view name);
 
 }  // namespace orvane

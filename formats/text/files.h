@@ -15,11 +15,11 @@ inline constexpr char kNotOpened[] = "The file could not be opened";
 // Returns `name` itself when its fourth character from the end is a full stop, whatever the letters
 // behind it are; otherwise, and when it is shorter than four characters, `name` with `extension`
 // (such as ".htr") behind it.
-std::string WithExtension(std::string_view name, std::string_view extension);
+[[nodiscard]] std::string WithExtension(std::string_view name, std::string_view extension);
 
 // Returns all bytes of the file, or nothing when it is missing, may not be read, is no file (a
 // directory or a device), cannot be read to its end, or does not fit into memory.
-std::optional<std::string> ReadFileBytes(const std::string& name);
+[[nodiscard]] std::optional<std::string> ReadFileBytes(const std::string& name);
 
 // Makes the file, or empties the one that is there, and returns a stream that writes bytes to it as
 // they are. The stream is not open when that fails.

@@ -30,7 +30,7 @@ class LineReader {
   [[nodiscard]] bool Next(Line& line);
 
  private:
-  bool StartLine();
+  [[nodiscard]] bool StartLine();
 
   std::string_view rest_;  // behind the current line's break
   std::size_t longest_piece_;

@@ -31,12 +31,12 @@ enum class NumberFault {
 }
 
 // Whether `value` is finite in single precision, which lengths have in a scene.
-bool FitsSinglePrecision(double value);
+[[nodiscard]] bool FitsSinglePrecision(double value);
 
 // `cell` is what should be one real number, without anything around it.
-NumberFault FaultOfNumber(std::string_view cell);
+[[nodiscard]] NumberFault FaultOfNumber(std::string_view cell);
 
 // The same for a whole number of 32 bits.
-NumberFault FaultOfWholeNumber(std::string_view cell);
+[[nodiscard]] NumberFault FaultOfWholeNumber(std::string_view cell);
 
 }  // namespace orvane

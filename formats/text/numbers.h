@@ -28,18 +28,18 @@ struct LeadingDouble {
 
 // As ParseDouble, on the characters from `first` up to `last`, without skipping blanks, and telling
 // where the number ended. For readers of long columns: plain decimals take a short way.
-LeadingDouble ReadDouble(const char* first, const char* last);
+[[nodiscard]] LeadingDouble ReadDouble(const char* first, const char* last);
 
 // `value` as "%d" prints it.
-std::string FormatInt(std::int64_t value);
+[[nodiscard]] std::string FormatInt(std::int64_t value);
 
 // `value` as "%.nf" prints it: in fixed notation with `decimals` (0 to 20) digits behind the point,
 // correctly rounded. The default is that of "%f".
-std::string FormatDouble(double value, int decimals = 6);
+[[nodiscard]] std::string FormatDouble(double value, int decimals = 6);
 
 // `value` in the shortest form that reads back as the same value of its type, with an exponent
 // where that is shorter: "0.1", "1e+22".
-std::string FormatShortest(double value);
-std::string FormatShortest(float value);
+[[nodiscard]] std::string FormatShortest(double value);
+[[nodiscard]] std::string FormatShortest(float value);
 
 }  // namespace orvane

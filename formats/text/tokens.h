@@ -8,20 +8,22 @@
 namespace orvane {
 
 // True for the two characters that separate tokens, blank and tab.
-constexpr bool IsSeparator(char character) { return character == ' ' || character == '\t'; }
+[[nodiscard]] constexpr bool IsSeparator(char character) {
+  return character == ' ' || character == '\t';
+}
 
 // Returns `line` without the separators at its start.
-std::string_view SkipSeparators(std::string_view line);
+[[nodiscard]] std::string_view SkipSeparators(std::string_view line);
 
 // Returns `line` without the separators at its end.
-std::string_view TrimTrailingSeparators(std::string_view line);
+[[nodiscard]] std::string_view TrimTrailingSeparators(std::string_view line);
 
 // Takes the first token off `line`, which then starts at the separator behind that token.
 // Returns an empty view, and leaves `line` empty, when it holds no token.
-std::string_view TakeFirstToken(std::string_view& line);
+[[nodiscard]] std::string_view TakeFirstToken(std::string_view& line);
 
 // Takes the last token off `line`, which then ends before the separator in front of that token.
 // Returns an empty view, and leaves `line` empty, when it holds no token.
-std::string_view TakeLastToken(std::string_view& line);
+[[nodiscard]] std::string_view TakeLastToken(std::string_view& line);
 
 }  // namespace orvane

@@ -18,20 +18,20 @@ class WatchedLine {
   void Set(const Line& line);
 
   std::size_t Number() const { return line_.number; }
-  std::string_view Text() const { return line_.text; }
+  [[nodiscard]] std::string_view Text() const { return line_.text; }
   // The column, in bytes from 1, at which `text` starts in its line. `text` is a part of the piece.
   std::size_t ColumnOf(std::string_view text) const {
     return 1 + static_cast<std::size_t>(text.data() - line_begin_);
   }
 
   // Whether the line began in a piece before this one.
-  bool Continues() const { return continues_; }
+  [[nodiscard]] bool Continues() const { return continues_; }
   // The mark that the file starts with, in UTF-8 or UTF-16; empty in any other line than the first.
-  std::string_view ByteOrderMark() const;
+  [[nodiscard]] std::string_view ByteOrderMark() const;
   // Whether a NUL hides what follows in the piece.
-  bool IsCutByNul() const;
+  [[nodiscard]] bool IsCutByNul() const;
   // Whether the file ends with this line, and the line without a line feed.
-  bool EndsUnfinished() const;
+  [[nodiscard]] bool EndsUnfinished() const;
   // How many carriage returns stand between the text and its line feed.
   std::size_t CarriageReturns() const;
 

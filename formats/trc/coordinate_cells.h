@@ -18,9 +18,9 @@ class TRCCoordinateCells {
       : cursor_(text.data()), end_(text.data() + text.size()) {}
 
   // Whether nothing of the line is left: all fields from here on are empty.
-  bool AtEnd() const { return cursor_ == end_; }
+  [[nodiscard]] bool AtEnd() const { return cursor_ == end_; }
   // Whether the current field is empty.
-  bool IsEmpty() const { return cursor_ == end_ || *cursor_ == '\t'; }
+  [[nodiscard]] bool IsEmpty() const { return cursor_ == end_ || *cursor_ == '\t'; }
 
   // Goes on behind the next tab; when there is none, nothing is left.
   void Drop() {

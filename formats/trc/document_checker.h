@@ -8,6 +8,6 @@ namespace orvane {
 
 // Walks everything that holds for a marker document that was read, whatever the bytes. Returns an
 // empty text, or what is wrong with it.
-std::string FindFault(const TRCDocument& document);
+[[nodiscard]] std::string FindFault(const TRCDocument& document);
 
 }  // namespace orvane

@@ -14,7 +14,7 @@ class TRCFields {
   explicit TRCFields(const Line& line) : rest_(line.text), has_break_(line.ends_with_break) {}
 
   // The current field, up to the next tab or the end of the line, without the line break.
-  std::string_view Get() const { return rest_.substr(0, rest_.find('\t')); }
+  [[nodiscard]] std::string_view Get() const { return rest_.substr(0, rest_.find('\t')); }
 
   // Goes on behind the next tab; when there is none, nothing of the line is left.
   void Drop() {
@@ -30,18 +30,18 @@ class TRCFields {
   }
 
   // Returns the current field and drops it.
-  std::string_view Take() {
+  [[nodiscard]] std::string_view Take() {
     const std::string_view field = Get();
     Drop();
     return field;
   }
 
   // Whether the current field is followed by another.
-  bool HasTab() const { return rest_.find('\t') != std::string_view::npos; }
+  [[nodiscard]] bool HasTab() const { return rest_.find('\t') != std::string_view::npos; }
   // Whether the line break belongs to the current field.
-  bool CarriesBreak() const { return has_break_ && !HasTab(); }
+  [[nodiscard]] bool CarriesBreak() const { return has_break_ && !HasTab(); }
   // Whether nothing is left, a line break aside.
-  bool AtEnd() const { return rest_.empty(); }
+  [[nodiscard]] bool AtEnd() const { return rest_.empty(); }
   // The number of the current field, counted from 1.
   std::size_t Number() const { return number_; }
 

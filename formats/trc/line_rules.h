@@ -17,14 +17,16 @@ inline constexpr std::size_t kPerhapsBlankLine = 5;
 
 // A comment, or a line without any character, not even a line break, as a NUL leaves it.
 // Intended: a comment is no comment, but takes the place of the line behind it.
-inline bool ReplacesNextLine(const Line& line) {
+[[nodiscard]] inline bool ReplacesNextLine(const Line& line) {
   return line.text.starts_with('#') || (line.text.empty() && !line.ends_with_break);
 }
 
-inline bool IsBreakAlone(const Line& line) { return line.text.empty() && line.ends_with_break; }
+[[nodiscard]] inline bool IsBreakAlone(const Line& line) {
+  return line.text.empty() && line.ends_with_break;
+}
 
 // Whether `line`, which is number `number`, holds a frame.
-inline bool IsFrame(const Line& line, std::size_t number) {
+[[nodiscard]] inline bool IsFrame(const Line& line, std::size_t number) {
   return number > kPerhapsBlankLine || (number == kPerhapsBlankLine && !IsBreakAlone(line));
 }
 

@@ -34,7 +34,7 @@ class TRCMarker {
   explicit TRCMarker(std::string name) : name_(std::move(name)) {}
 
   // Whether the marker is to be written to marker files. It starts enabled.
-  bool IsEnabled() const { return enabled_; }
+  [[nodiscard]] bool IsEnabled() const { return enabled_; }
   void SetEnabled(bool enabled) { enabled_ = enabled; }
 
   const std::string& Name() const { return name_.Get(); }
@@ -55,10 +55,10 @@ class TRCMarker {
   std::size_t SampleCount() const { return sample_count_; }
   // Puts the sample's position into `x`, `y`, `z` and returns whether it is present. Zeros for a
   // dropout, and past the end, where nothing is present.
-  bool GetSample(std::size_t index, double& x, double& y, double& z) const;
+  [[nodiscard]] bool GetSample(std::size_t index, double& x, double& y, double& z) const;
   // Overwrites a sample and makes it present. Returns false, changing nothing, past the end. Takes
   // time in proportion to what is behind the sample when it was a dropout, else constant time.
-  bool SetSample(std::size_t index, double x, double y, double z);
+  [[nodiscard]] bool SetSample(std::size_t index, double x, double y, double z);
 
   // Multiplies all coordinates.
   // Intended: every dropout so far becomes a sample that is present, at the origin. Whoever needs

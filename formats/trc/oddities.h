@@ -17,7 +17,9 @@ class TRCOddities {
       : observer_(observer), line_(bytes) {}
 
   // Whether anybody wants to know of frames.
-  bool AreOfFramesWanted() const { return observer_ != nullptr && observer_->WatchesFrames(); }
+  [[nodiscard]] bool AreOfFramesWanted() const {
+    return observer_ != nullptr && observer_->WatchesFrames();
+  }
 
   // `line` is the one that all texts below are part of, unless another is named.
   void StartLine(const Line& line) {

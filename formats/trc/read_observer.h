@@ -82,7 +82,7 @@ class TRCReadObserver {
 
   // Whether the lines of frames are looked over too, which takes longer than reading them. When
   // not, nothing is told of them but their count.
-  virtual bool WatchesFrames() const { return true; }
+  [[nodiscard]] virtual bool WatchesFrames() const { return true; }
 };
 
 }  // namespace orvane

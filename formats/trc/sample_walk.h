@@ -18,7 +18,7 @@ class TRCSampleWalk {
 
   // Puts the position of the next sample into `position` and returns whether it is present, as
   // TRCMarker::GetSample does; past the end none is.
-  bool Next(TRCPosition& position) {
+  [[nodiscard]] bool Next(TRCPosition& position) {
     const std::size_t index = index_++;
     if (gap_ != gaps_end_ && index == gap_->end) ++gap_;
     const bool in_gap = gap_ != gaps_end_ && index >= gap_->begin;

@@ -24,7 +24,7 @@ constexpr std::array<LengthUnit, 6> kLengthUnits = {{
     {"yd", "YD", 0.7055555555555555, 1.4173228331999999},
 }};
 
-struct Keyword {
+struct UnitKeyword {
   std::string_view word;
   std::uint32_t code;
 };
@@ -32,7 +32,7 @@ struct Keyword {
 constexpr std::uint32_t kRadians = 1;
 
 // Intended: "RADIAN" is missing, so that it reads as degrees like every unknown word.
-constexpr std::array<Keyword, 11> kRotationKeywords = {{
+constexpr std::array<UnitKeyword, 11> kRotationKeywords = {{
     {"Degrees", kDegrees},
     {"degrees", kDegrees},
     {"DEGREES", kDegrees},
@@ -46,7 +46,7 @@ constexpr std::array<Keyword, 11> kRotationKeywords = {{
     {"radian", kRadians},
 }};
 
-constexpr std::array<Keyword, 6> kAxisKeywords = {{
+constexpr std::array<UnitKeyword, 6> kAxisKeywords = {{
     {"X", kAxisX},
     {"x", kAxisX},
     {"Y", kAxisY},
@@ -59,9 +59,9 @@ constexpr std::array<std::string_view, 2> kRotationNames = {"Degrees", "Radians"
 constexpr std::array<std::string_view, 3> kAxisNames = {"X", "Y", "Z"};
 
 template <std::size_t size>
-std::optional<std::uint32_t> Find(const std::array<Keyword, size>& keywords,
+std::optional<std::uint32_t> Find(const std::array<UnitKeyword, size>& keywords,
                                   std::string_view word) {
-  for (const Keyword& keyword : keywords) {
+  for (const UnitKeyword& keyword : keywords) {
     if (keyword.word == word) return keyword.code;
   }
   return std::nullopt;

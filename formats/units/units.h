@@ -24,9 +24,9 @@ inline constexpr std::uint32_t kAxisZ = 2;
 inline constexpr double kRadiansPerDegree = 0.017453292519943295;
 inline constexpr double kDegreesPerRadian = 57.29577951308232;
 
-std::optional<std::uint32_t> FindCalibrationUnits(std::string_view keyword);
-std::optional<std::uint32_t> FindRotationUnits(std::string_view keyword);
-std::optional<std::uint32_t> FindAxis(std::string_view keyword);
+[[nodiscard]] std::optional<std::uint32_t> FindCalibrationUnits(std::string_view keyword);
+[[nodiscard]] std::optional<std::uint32_t> FindRotationUnits(std::string_view keyword);
+[[nodiscard]] std::optional<std::uint32_t> FindAxis(std::string_view keyword);
 
 // Default: millimetres.
 std::uint32_t ParseCalibrationUnits(std::string_view keyword);
@@ -36,9 +36,9 @@ std::uint32_t ParseRotationUnits(std::string_view keyword);
 std::uint32_t ParseAxis(std::string_view keyword);
 
 // The keyword as it is written to files.
-std::string_view CalibrationUnitsName(std::uint32_t code);
-std::string_view RotationUnitsName(std::uint32_t code);
-std::string_view AxisName(std::uint32_t code);
+[[nodiscard]] std::string_view CalibrationUnitsName(std::uint32_t code);
+[[nodiscard]] std::string_view RotationUnitsName(std::uint32_t code);
+[[nodiscard]] std::string_view AxisName(std::uint32_t code);
 
 // Multiplies a length in `from_code` units into one in `to_code` units: the factor to millimetres
 // of the one times the factor from millimetres of the other.

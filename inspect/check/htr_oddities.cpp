@@ -32,19 +32,19 @@ bool IsLength(std::string_view field) {
 }
 
 // Whether a number that is too large for a length is an angle or a factor, which may be so large.
-bool MayBeSoLarge(const MetOddity& met) {
+bool MayBeSoLarge(const MetHtrOddity& met) {
   return !IsWhole(met.field) && !IsLength(met.field) && std::isfinite(ParseDouble(met.cell.text));
 }
 
-std::string Quoted(const MetOddity& met) { return Quote(met.cell.text); }
+std::string Quoted(const MetHtrOddity& met) { return Quote(met.cell.text); }
 
-std::string QuotedAgain(const MetOddity& met) { return Quote(met.cell.text) + " again"; }
+std::string QuotedAgain(const MetHtrOddity& met) { return Quote(met.cell.text) + " again"; }
 
-std::string ExpectedNumber(const MetOddity& met) {
+std::string ExpectedNumber(const MetHtrOddity& met) {
   return (IsWhole(met.field) ? "a whole number for " : "a number for ") + std::string(met.field);
 }
 
-std::string ExpectedInRange(const MetOddity& met) {
+std::string ExpectedInRange(const MetHtrOddity& met) {
   using Limits = std::numeric_limits<std::int32_t>;
   const std::string field(met.field);
   if (!IsWhole(met.field)) return "a finite number for " + field;
@@ -52,12 +52,12 @@ std::string ExpectedInRange(const MetOddity& met) {
          FormatInt(Limits::max()) + " for " + field;
 }
 
-std::string TakenWhole(const MetOddity& met) {
+std::string TakenWhole(const MetHtrOddity& met) {
   const std::int32_t value = ParseInt(met.cell.text);
   return FormatInt(met.field == "NumFrames" ? std::max(value, 0) : value) + " is taken";
 }
 
-std::string TakenNumber(const MetOddity& met) {
+std::string TakenNumber(const MetHtrOddity& met) {
   if (met.field == kFrameColumn) {
     return TakenWhole(met) + "; only the first frame number of a file is used.";
   }
@@ -69,40 +69,40 @@ std::string TakenNumber(const MetOddity& met) {
   return "It is taken as infinite: a scene that it gets into cannot be saved.";
 }
 
-std::string ExpectedValue(const MetOddity& met) {
+std::string ExpectedValue(const MetHtrOddity& met) {
   return std::string(kKeywords[KeywordIndex(met.field)].values) + " for " + std::string(met.field);
 }
 
-std::string ExpectedOwnName(const MetOddity& met) {
+std::string ExpectedOwnName(const MetHtrOddity& met) {
   const SegmentLines* const first = met.parts.Find(met.cell.text);
   const std::string expected = "a name of its own for every segment";
   if (first == nullptr) return expected;
   return expected + "; line " + FormatInt(static_cast<std::int64_t>(first->name.line)) + " has it";
 }
 
-std::string ExpectedKnownSegment(const MetOddity& met) {
+std::string ExpectedKnownSegment(const MetHtrOddity& met) {
   return ExpectedSegment(met.cell.text, met.parts);
 }
 
-std::string ExpectedParent(const MetOddity& met) {
+std::string ExpectedParent(const MetHtrOddity& met) {
   return "GLOBAL or " + ExpectedSegment(met.cell.text, met.parts);
 }
 
-std::string HierarchyLines(const MetOddity& met) {
+std::string HierarchyLines(const MetHtrOddity& met) {
   return CountOf(met.parts.segments.size(), "line") + " in [SegmentNames&Hierarchy]";
 }
 
-std::string BaseLines(const MetOddity& met) {
+std::string BaseLines(const MetHtrOddity& met) {
   return CountOf(met.parts.base_lines, "line") + " in [BasePosition]";
 }
 
-std::string AnnouncedSegments(const MetOddity& met) {
+std::string AnnouncedSegments(const MetHtrOddity& met) {
   const auto& announced = met.parts.Value("NumSegments");
   const std::int32_t count = announced ? ParseInt(announced->text) : 0;
   return FormatInt(count) + (announced ? ", as NumSegments says" : ", as NumSegments is missing");
 }
 
-constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetOddity>>({
+constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetHtrOddity>>({
     // Numbers, of which every cell of a file may be a bad one
     {HtrOddity::kUnreadableNumber, Rule("htr-number-unreadable"), Quoted, ExpectedNumber,
      TakenNumber},
@@ -174,7 +174,7 @@ constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetOddity>>({
 });
 
 // A count that differs is told of where it is announced.
-const HtrCell& PlaceOf(const MetOddity& met) {
+const HtrCell& PlaceOf(const MetHtrOddity& met) {
   const bool is_count = met.oddity == HtrOddity::kSegmentCountMismatch ||
                         met.oddity == HtrOddity::kRefusedBasePositionCount;
   const auto& announced = met.parts.Value("NumSegments");
@@ -183,7 +183,7 @@ const HtrCell& PlaceOf(const MetOddity& met) {
 
 }  // namespace
 
-void AddOddity(const MetOddity& met, FindingList& findings) {
+void AddOddity(const MetHtrOddity& met, FindingList& findings) {
   if (met.oddity == HtrOddity::kNumberOutOfBounds && MayBeSoLarge(met)) return;
   orvane::AddOddity(kRows, met, PlaceOf(met), findings);
 }

@@ -14,7 +14,7 @@
 namespace orvane::htr {
 
 // An oddity as the reader tells of it, and where the parts of the file stand so far.
-struct MetOddity {
+struct MetHtrOddity {
   HtrOddity oddity;
   const HtrCell& cell;
   std::string_view field;  // a keyword of the header or the name of a column; else empty
@@ -22,7 +22,7 @@ struct MetOddity {
 };
 
 // Adds what is told of `met`; nothing when that depends on more than what is met.
-void AddOddity(const MetOddity& met, FindingList& findings);
+void AddOddity(const MetHtrOddity& met, FindingList& findings);
 
 // The segment that `name` is likely to mean, in words.
 [[nodiscard]] std::string ExpectedSegment(std::string_view name, const HtrParts& parts);

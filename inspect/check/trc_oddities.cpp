@@ -13,18 +13,18 @@
 namespace orvane::trc {
 namespace {
 
-bool IsFrameNumber(const MetOddity& met) { return met.in_frames && met.place.field == 1; }
+bool IsFrameNumber(const MetTrcOddity& met) { return met.in_frames && met.place.field == 1; }
 
-bool IsWhole(const MetOddity& met) { return !met.in_frames || IsFrameNumber(met); }
+bool IsWhole(const MetTrcOddity& met) { return !met.in_frames || IsFrameNumber(met); }
 
-std::string Quoted(const MetOddity& met) { return Quote(met.text); }
+std::string Quoted(const MetTrcOddity& met) { return Quote(met.text); }
 
-std::string ExpectedNumber(const MetOddity& met) {
+std::string ExpectedNumber(const MetTrcOddity& met) {
   if (IsFrameNumber(met)) return "a whole number, the frame's";
   return IsWhole(met) ? "a whole number" : "a number";
 }
 
-std::string TakenNumber(const MetOddity& met) {
+std::string TakenNumber(const MetTrcOddity& met) {
   if (IsFrameNumber(met)) {
     return FormatInt(ParseInt(met.text)) + " is taken; only the first of a file is used.";
   }
@@ -34,26 +34,26 @@ std::string TakenNumber(const MetOddity& met) {
   return "It is taken as infinite: a scene that it gets into cannot be saved.";
 }
 
-std::string TakenRate(const MetOddity& met) { return EffectOfCutRate(met.text); }
+std::string TakenRate(const MetTrcOddity& met) { return EffectOfCutRate(met.text); }
 
-std::string MarkersHeld(const MetOddity& met) { return CountOf(met.markers, "marker"); }
+std::string MarkersHeld(const MetTrcOddity& met) { return CountOf(met.markers, "marker"); }
 
-std::string AnnouncedMarkers(const MetOddity& met) {
+std::string AnnouncedMarkers(const MetTrcOddity& met) {
   return std::string(met.text) + ", as NumMarkers says";
 }
 
-std::string FieldsHeld(const MetOddity& met) { return CountOf(met.place.field - 1, "field"); }
+std::string FieldsHeld(const MetTrcOddity& met) { return CountOf(met.place.field - 1, "field"); }
 
-std::string ExpectedFields(const MetOddity& met) {
+std::string ExpectedFields(const MetTrcOddity& met) {
   const std::size_t fields = 2 + 3 * met.markers;
   return FormatInt(static_cast<std::int64_t>(fields)) + ": frame, time and " + MarkersHeld(met);
 }
 
-std::string EndBehindMarkers(const MetOddity& met) {
+std::string EndBehindMarkers(const MetTrcOddity& met) {
   return "the end of the line, behind " + MarkersHeld(met);
 }
 
-constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetOddity>>({
+constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetTrcOddity>>({
     // Numbers, of which every cell of a file may be a bad one
     {TRCOddity::kUnreadableNumber, Rule("trc-number-unreadable"), Quoted, ExpectedNumber,
      TakenNumber},
@@ -116,7 +116,7 @@ constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetOddity>>({
 
 }  // namespace
 
-void AddOddity(const MetOddity& met, FindingList& findings) {
+void AddOddity(const MetTrcOddity& met, FindingList& findings) {
   orvane::AddOddity(kRows, met, met.place, findings);
 }
 

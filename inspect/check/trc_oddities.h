@@ -13,7 +13,7 @@
 namespace orvane::trc {
 
 // An oddity as the reader tells of it, and what has been read by then.
-struct MetOddity {
+struct MetTrcOddity {
   TRCOddity oddity;
   TRCPlace place;
   std::string_view text;
@@ -22,7 +22,7 @@ struct MetOddity {
 };
 
 // Adds what is told of `met`; nothing when that depends on more than what is met.
-void AddOddity(const MetOddity& met, FindingList& findings);
+void AddOddity(const MetTrcOddity& met, FindingList& findings);
 
 // What becomes of a column whose name makes no marker.
 inline constexpr char kColumnsShift[] =

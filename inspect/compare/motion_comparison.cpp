@@ -44,10 +44,10 @@ bool Merge(const Spread& from, Spread& into) {
   return takes_over;
 }
 
-class Comparison {
+class MotionComparer {
  public:
-  Comparison(const StructureComparison& structure, const HtrDocument& a, const HtrDocument& b,
-             const Tolerance& tolerance)
+  MotionComparer(const StructureComparison& structure, const HtrDocument& a, const HtrDocument& b,
+                 const Tolerance& tolerance)
       : structure_(structure),
         tolerance_(tolerance),
         walk_a_(structure.hierarchy_a),
@@ -161,7 +161,7 @@ MotionComparison CompareMotion(const StructureComparison& structure, const HtrDo
   assert(tolerance.mm >= 0 && tolerance.deg >= 0);
   assert(structure.hierarchy_a.size() == a.segments().size());
   assert(structure.hierarchy_b.size() == b.segments().size());
-  return Comparison(structure, a, b, tolerance).Run();
+  return MotionComparer(structure, a, b, tolerance).Run();
 }
 
 }  // namespace orvane

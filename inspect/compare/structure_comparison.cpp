@@ -60,9 +60,9 @@ void AddOnlyFrames(WhichFile file, const Side& own, const Side& other,
   }
 }
 
-class Comparison {
+class StructureComparer {
  public:
-  Comparison(HtrDocument& a, HtrDocument& b) : a_(Survey(a)), b_(Survey(b)) {}
+  StructureComparer(HtrDocument& a, HtrDocument& b) : a_(Survey(a)), b_(Survey(b)) {}
 
   StructureComparison Run() {
     CompareFrames();
@@ -132,7 +132,7 @@ class Comparison {
 }  // namespace
 
 StructureComparison CompareStructure(HtrDocument& a, HtrDocument& b) {
-  return Comparison(a, b).Run();
+  return StructureComparer(a, b).Run();
 }
 
 }  // namespace orvane

@@ -34,8 +34,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-file-type-unknown", "The file does not begin with PathFileType", nullptr,
      InMarkers(kNote, "The word does not count.")},
     {"trc-path-type-unknown", "The path type is neither 3 nor 4", nullptr,
-     InMarkers(kWarning, "The first frame is number 1.")
-         .But(Action::kConvert, kNote, "A BVK file has no frame numbers.")},
+     InMarkers(kWarning, "The first frame is number 1.")},
     {"trc-tabs-missing", "The first line has no tabs", nullptr,
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
@@ -122,12 +121,10 @@ constexpr FindingMeaning kWords[] = {
      "{count} samples do not begin with X",
      InMarkers(kWarning, "The marker has no position there.")},
     {"trc-first-frame", "The frames are numbered {found}, and taken as {expected}", nullptr,
-     InMarkers(kWarning).But(Action::kConvert, kNote, "A BVK file has no frame numbers.")},
+     InMarkers(kWarning)},
     {"trc-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
-     InMarkers(kWarning, "Frames follow each other as their lines do.")
-         .But(Action::kConvert, kNote,
-              "A BVK file has no frame numbers; frames follow each other as their lines do.")},
+     InMarkers(kWarning, "Frames follow each other as their lines do.")},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kWarning)
          .But(Action::kInspect, kWarning, "The frames that are there are shown.")

@@ -12,7 +12,6 @@ using nlohmann::json;
 using test::ProgramResult;
 using test::Replaced;
 using test::SmallMotion;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 

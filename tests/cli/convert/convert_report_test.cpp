@@ -16,7 +16,6 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::Not;
 
 // With one value that is not a number, and one gap.
 std::string CommaTake() {

@@ -15,7 +15,6 @@ using test::Replaced;
 using test::SmallMotion;
 using test::TrcText;
 using testing::ElementsAre;
-using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::StartsWith;

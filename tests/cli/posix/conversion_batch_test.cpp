@@ -2,6 +2,10 @@
 
 #include <gmock/gmock.h>
 
+#include <csignal>
+#include <cstdlib>
+
+#include "platform/interrupt.h"
 #include "tests/support/files.h"
 #include "tests/support/temporary_folder.h"
 #include "tests/support/trc_text.h"
@@ -45,6 +49,20 @@ TEST_F(ConversionBatchTest, KeepsOutputsApartThatHaveOneName) {
   EXPECT_THAT(test::ReadFile(folder_.File("jump.bvk")), HasSubstr("\n1\t5.000000\t"));
   EXPECT_THAT(batch.log, testing::ContainsRegex("2 files(.|\n)*walk.trc done(.|\n)*2 files"));
   EXPECT_THAT(test::NamesIn(folder_.Path()), testing::SizeIs(8));
+}
+
+// The look at many files takes its time.
+TEST_F(ConversionBatchTest, LooksAtNoFileWhenTheUserHasInterrupted) {
+  const auto convert = [this] {
+    platform::CatchInterrupts();
+    (void)std::raise(SIGINT);
+    const cli::ConvertedBatch batch = ConvertBatch(order_, {Plan("walk.trc", "1,5", "walk.bvk")});
+    const Conversion& conversion = batch.conversions.front();
+    const bool is_left = conversion.status == ConversionStatus::kInterrupted &&
+                         conversion.report.findings.empty() && conversion.markers_dropped == 0;
+    std::_Exit(is_left ? 0 : 1);
+  };
+  EXPECT_EXIT(convert(), testing::ExitedWithCode(0), "");
 }
 
 }  // namespace
