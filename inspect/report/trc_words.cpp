@@ -144,7 +144,7 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kError, "It is refused."),
      Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
-     InMarkers(kWarning, "In its gaps the marker goes to the origin.")
+     InMarkers(kWarning, "In its gaps such a marker goes to the origin.")
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
     {"trc-marker-never-seen", "A marker has no position in any frame",

@@ -28,8 +28,8 @@ TEST_F(CheckForTest, TellsWhatAnActionMakesOfAFile) {
   EXPECT_THAT(imported.error, IsEmpty());
   EXPECT_EQ(
       imported.output,
-      "gaps.trc: warning: A marker has gaps: \"Hand\" (line 7, column 1). In its gaps the "
-      "marker goes to the origin. [trc-marker-gaps]\n"
+      "gaps.trc: warning: A marker has gaps: \"Hand\" (line 7, column 1). In its gaps such "
+      "a marker goes to the origin. [trc-marker-gaps]\n"
       "gaps.trc: warning: A value is not a number: \"1,5\" (line 8, column 9). What it starts "
       "with is taken, or 0. [trc-number-unreadable]\n"
       "gaps.trc: 2 warnings for import\n");
@@ -67,7 +67,7 @@ TEST_F(CheckForTest, WritesTheReportAsJson) {
   EXPECT_EQ(finding["column"], 1);
   EXPECT_EQ(finding["names"], nlohmann::json::array({"Hand"}));
   EXPECT_EQ(finding["cause"], "A marker has gaps");
-  EXPECT_EQ(finding["consequence"], "In its gaps the marker goes to the origin.");
+  EXPECT_EQ(finding["consequence"], "In its gaps such a marker goes to the origin.");
 }
 
 TEST_F(CheckForTest, RefusesWhatIsNotDoneWithSuchAFile) {

@@ -73,7 +73,7 @@ TEST(Report, JudgesByTheAction) {
   const auto converted = Find(ReportFor(text, Action::kConvert), "trc-marker-gaps");
   EXPECT_EQ(looked_at.severity, FindingSeverity::kNote);
   EXPECT_EQ(imported.severity, FindingSeverity::kWarning);
-  EXPECT_EQ(imported.consequence, "In its gaps the marker goes to the origin.");
+  EXPECT_EQ(imported.consequence, "In its gaps such a marker goes to the origin.");
   EXPECT_EQ(converted.severity, FindingSeverity::kNote);
   EXPECT_EQ(converted.consequence, "A gap is written as DROPOUT.");
   EXPECT_THAT(converted.names, ElementsAre("Hand"));
