@@ -17,7 +17,7 @@ namespace platform {
 [[nodiscard]] std::string Utf8FromUtf16(std::span<const std::byte> utf16);
 
 // Reads a text that ends with a zero, and the zero. On failure the text is what there was of it.
-[[nodiscard]] std::string ReadText(ByteReader& reader);
+std::string ReadText(ByteReader& reader);
 
 // What names a resource, a window class or a picture: a number, or else a text.
 struct ResourceName {

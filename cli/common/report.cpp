@@ -77,7 +77,8 @@ void WriteFinding(JsonWriter& json, const ReportedFinding& finding) {
 }  // namespace
 
 std::string LineOf(const ReportedFinding& finding) {
-  return finding.cause + Names(finding) + Place(finding) + ". " + finding.consequence + " [" +
+  const std::string cause = finding.cause + Names(finding) + Place(finding);
+  return cause + (cause.ends_with("...") ? " " : ". ") + finding.consequence + " [" +
          std::string(finding.code) + "]";
 }
 

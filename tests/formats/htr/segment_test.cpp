@@ -242,7 +242,7 @@ TEST(HtrSegment, CopiesItsFrames) {
   HtrSegment original("Hips");
   original.AddFrame(Vector3(1, 2, 3), Vector3(), 1);
   HtrSegment copy = original;
-  copy.SetFrameTranslation(0, 9, 9, 9);
+  ASSERT_TRUE(copy.SetFrameTranslation(0, 9, 9, 9));
   copy.SetName("Copy");
   ExpectVector(original.GetFrameTranslation(0), 1, 2, 3);
   EXPECT_EQ(original.GetName(), "Hips");
