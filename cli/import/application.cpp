@@ -13,7 +13,6 @@ namespace {
 
 using orvane::AppliedFile;
 using orvane::ApplyItem;
-using orvane::ApplyScene;
 using orvane::BasePose;
 using orvane::BoneShape;
 using orvane::EulerRotation;

@@ -17,6 +17,7 @@ using Layout = JsonWriter::Layout;
 std::vector<std::string> NamesOf(const std::vector<ApplyItem>& items,
                                  const std::vector<std::size_t>& indices) {
   std::vector<std::string> names;
+  names.reserve(indices.size());
   for (const std::size_t index : indices) names.push_back(items[index].name);
   return names;
 }
@@ -44,12 +45,14 @@ void WriteNames(JsonWriter& json, const char* key, const std::vector<std::string
 void PrintTable(const Application& application, std::ostream& out) {
   const auto& [file, scene, nodes, plan, differences] = application;
   std::vector<std::string> matched;
+  matched.reserve(plan.pairs.size());
   for (const ApplyPair& pair : plan.pairs) {
     const std::string& item = file.items[pair.item].name;
     const std::string& node = scene.nodes[pair.node].name;
     matched.push_back(item == node ? item : item + " to " + node);
   }
   std::vector<std::string> differing;
+  differing.reserve(differences.size());
   for (const BoneDifference& each : differences) {
     differing.push_back(scene.nodes[each.pair.node].name + " by " + Describe(each));
   }

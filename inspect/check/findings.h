@@ -80,7 +80,7 @@ class FindingList {
 
   // The same where the words are at hand, or made but a few times in a file.
   template <typename Place>
-  void Add(const FindingRule& rule, const Place& place, FindingWords words) {
+  void Add(const FindingRule& rule, const Place& place, FindingWords&& words) {
     if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(words));
   }
 
