@@ -21,10 +21,14 @@ using DesktopTest = ModuleTest;
 
 TEST_F(DesktopTest, WithoutADesktopTheModuleLoadsAllTheSame) {
   module_.reset();
+  platform::Desktop* const desktop = platform::CurrentDesktop();
+  platform::Registry* const registry = platform::CurrentRegistry();
   platform::InstallDesktop(nullptr);
   platform::InstallRegistry(nullptr);
   SetUp();
   EXPECT_EQ(module_->NumberOfClasses(), 4);
+  platform::InstallRegistry(registry);
+  platform::InstallDesktop(desktop);
 }
 
 // Hands the options dialog's handler a command that no control of the dialog sends.

@@ -116,7 +116,8 @@ class SaidFindingsTest : public test::OrvaneTest, public testing::WithParamInter
     }
     arguments.insert(arguments.end(), files_.begin(), files_.end());
     std::map<std::string, std::map<std::string, std::string>> found;
-    for (const json& file : json::parse(Orvane(arguments).output)["files"]) {
+    const json listing = json::parse(Orvane(arguments).output);
+    for (const json& file : listing["files"]) {
       for (const json& finding : file["findings"]) {
         found[file["file"]][finding["code"]] = finding["severity"];
       }
