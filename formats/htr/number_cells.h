@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "formats/math/vector.h"
+#include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 
@@ -24,10 +25,15 @@ class NumberCells {
     const char* const last = first + rest_.size();
     const LeadingDouble number = ReadDouble(first, last);
     const bool fills_cell = number.end != first && (number.end == last || IsSeparator(*number.end));
-    if (!fills_cell) return ParseDouble(TakeFirstToken(rest_));
+    if (!fills_cell) return TakeOdd();
+    is_ordinary_ = is_ordinary_ && FitsSinglePrecision(number.value);
     rest_.remove_prefix(static_cast<std::size_t>(number.end - first));
     return number.value;
   }
+
+  // Whether all that Take took were numbers and nothing else, each finite in single precision, and
+  // nothing but separators is left. False says nothing.
+  [[nodiscard]] bool AreOrdinary() const { return is_ordinary_ && SkipSeparators(rest_).empty(); }
 
   // As Take, whole.
   std::int32_t TakeInt() { return ParseInt(TakeFirstToken(rest_)); }
@@ -41,7 +47,13 @@ class NumberCells {
   }
 
  private:
+  double TakeOdd() {
+    is_ordinary_ = false;
+    return ParseDouble(TakeFirstToken(rest_));
+  }
+
   std::string_view rest_;
+  bool is_ordinary_ = true;
 };
 
 }  // namespace orvane

@@ -90,6 +90,7 @@ class HtrReader {
   std::string ReadBasePositionLine(std::string_view line);
   void ReadMotionLine(std::string_view line);
   void TellFrame(std::string_view line);
+  void CheckMotionLine(std::string_view line) const;
   void CountFrame(std::string_view line);
   void TakeStartFrame(std::int32_t frame_number);
   void ReserveFor(std::int32_t frame_number);
@@ -312,12 +313,18 @@ void HtrReader::ReadMotionLine(std::string_view line) {
   const Vector3 translation = cells.TakeVector(1.0);
   const Vector3 angles = cells.TakeVector(angle_factor_);
   segment_->AddFrame(translation, angles, cells.Take());
+  if (oddities_.Observer() != nullptr && !cells.AreOrdinary()) CheckMotionLine(line);
 }
 
 void HtrReader::TellFrame(std::string_view line) {
   const std::string_view number = TakeFirstToken(line);
   oddities_.Observer()->OnFrame(oddities_.CellOf(number));
   oddities_.CheckWholeNumber(number, kFrameColumn);
+}
+
+// A second look, so that reading need not wonder what is odd.
+void HtrReader::CheckMotionLine(std::string_view line) const {
+  static_cast<void>(TakeFirstToken(line));  // the frame number
   oddities_.CheckNumbers(line, kMotionColumns);
 }
 

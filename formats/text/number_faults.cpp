@@ -1,6 +1,7 @@
 #include "formats/text/number_faults.h"
 
-#include <cmath>
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 
@@ -9,16 +10,20 @@
 namespace orvane {
 namespace {
 
+// Nine digits always fit 32 bits.
+bool IsShortWholeNumber(std::string_view cell) {
+  constexpr std::size_t kMostDigits = 9;
+  return !cell.empty() && cell.size() <= kMostDigits &&
+         std::all_of(cell.begin(), cell.end(),
+                     [](char character) { return character >= '0' && character <= '9'; });
+}
+
 bool FitsInt(double value) {
   return value >= std::numeric_limits<std::int32_t>::min() &&
          value <= std::numeric_limits<std::int32_t>::max();
 }
 
 }  // namespace
-
-bool FitsSinglePrecision(double value) {
-  return std::abs(value) <= double{std::numeric_limits<float>::max()};
-}
 
 NumberFault FaultOfNumber(std::string_view cell) {
   if (IsPlainDecimal(cell)) return NumberFault::kNone;
@@ -30,6 +35,7 @@ NumberFault FaultOfNumber(std::string_view cell) {
 }
 
 NumberFault FaultOfWholeNumber(std::string_view cell) {
+  if (IsShortWholeNumber(cell)) return NumberFault::kNone;
   const NumberFault fault = FaultOfNumber(cell);
   if (fault != NumberFault::kNone) return fault;
   const double value = ReadDouble(cell.data(), cell.data() + cell.size()).value;

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cmath>
 #include <cstddef>
+#include <limits>
 #include <string_view>
 
 // What reading numbers lets pass, for those who watch a reader.
@@ -31,7 +33,9 @@ enum class NumberFault {
 }
 
 // Whether `value` is finite in single precision, which lengths have in a scene.
-[[nodiscard]] bool FitsSinglePrecision(double value);
+[[nodiscard]] inline bool FitsSinglePrecision(double value) {
+  return std::abs(value) <= double{std::numeric_limits<float>::max()};
+}
 
 // `cell` is what should be one real number, without anything around it.
 [[nodiscard]] NumberFault FaultOfNumber(std::string_view cell);

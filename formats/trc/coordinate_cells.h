@@ -4,6 +4,7 @@
 #include <cstring>
 #include <string_view>
 
+#include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 
 // The coordinates on one line of a marker file, taken from left to right. Belongs to the reader,
@@ -33,9 +34,22 @@ class TRCCoordinateCells {
     const LeadingDouble number = ReadDouble(cursor_, end_);
     const bool fills_field = number.end != cursor_ && (number.end == end_ || *number.end == '\t');
     if (!fills_field) return TakeOdd();
+    is_ordinary_ = is_ordinary_ && FitsSinglePrecision(number.value);
     cursor_ = number.end == end_ ? end_ : number.end + 1;
     return number.value;
   }
+
+  // Drops the three fields of a sample whose first one is empty.
+  void DropSample() {
+    const bool is_empty = Left() >= 2 && cursor_[0] == '\t' && cursor_[1] == '\t' &&
+                          (Left() == 2 || cursor_[2] == '\t');
+    is_ordinary_ = is_ordinary_ && is_empty;
+    for (int coordinate = 0; coordinate < 3; ++coordinate) Drop();
+  }
+
+  // Whether what was taken were numbers and nothing else, each finite in single precision, and what
+  // was dropped as samples were three empty fields each. False says nothing.
+  [[nodiscard]] bool IsOrdinary() const { return is_ordinary_; }
 
  private:
   const char* FindTab() const {
@@ -47,12 +61,14 @@ class TRCCoordinateCells {
 
   double TakeOdd() {
     const std::string_view field(cursor_, static_cast<std::size_t>(FindTab() - cursor_));
+    is_ordinary_ = false;
     Drop();
     return ParseDouble(field);
   }
 
   const char* cursor_;
   const char* end_;
+  bool is_ordinary_ = true;
 };
 
 }  // namespace orvane

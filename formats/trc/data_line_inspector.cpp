@@ -18,7 +18,7 @@ bool IsBlank(std::string_view field) { return SkipSeparators(field).empty(); }
 void TRCDataLineInspector::Inspect(const Line& line, std::size_t marker_count) {
   if (line.text.empty()) return oddities_.ReportLine(TRCOddity::kBlankFrame, line.text);
   TRCFields fields(line);
-  InspectFrameNumber(fields.Take());
+  fields.Drop();  // the frame number
   fields.Drop();  // the time
   for (std::size_t marker = 0; marker < marker_count && !fields.AtEnd(); ++marker) {
     InspectSample(fields);

@@ -10,7 +10,7 @@
 #include "formats/trc/oddities.h"
 
 // Looks a frame's line over for what the reader lets pass. A second look at the line, made only for
-// an observer, so that reading need not wonder about any of it.
+// an observer and where reading met something odd, so that reading need not wonder what it is.
 namespace orvane {
 
 class TRCDataLineInspector {
@@ -18,11 +18,12 @@ class TRCDataLineInspector {
   // `oddities` knows the line and must outlive this object.
   explicit TRCDataLineInspector(const TRCOddities& oddities) : oddities_(oddities) {}
 
-  // Reports what is odd about a line that holds one frame of `marker_count` markers.
+  // Reports what is odd about `field`, the frame number of the next line.
+  void InspectFrameNumber(std::string_view field);
+  // Reports what else is odd about a line that holds one frame of `marker_count` markers.
   void Inspect(const Line& line, std::size_t marker_count);
 
  private:
-  void InspectFrameNumber(std::string_view field);
   void InspectSample(TRCFields& fields);
   void InspectRest(TRCFields& fields);
 

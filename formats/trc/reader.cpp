@@ -49,6 +49,7 @@ class TRCReader {
   std::string ReadLine(const Line& line, std::size_t number);
   std::string ReadColumns(const Line& line);
   void ReadFrame(const Line& line);
+  bool ReadSamples(const Line& line);
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
   void Finish();
@@ -131,17 +132,28 @@ void TRCReader::ReserveFrames() {
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
   if (watches_frames_) {
-    oddities_.TellFrame(TRCFields(line).Get());
-    inspector_.Inspect(line, document_.markers().size());
+    const std::string_view number = TRCFields(line).Get();
+    oddities_.TellFrame(number);
+    if (!line.text.empty()) inspector_.InspectFrameNumber(number);
   }
+  const bool is_ordinary = ReadSamples(line);
+  if (watches_frames_ && !is_ordinary) inspector_.Inspect(line, document_.markers().size());
+  ++frames_read_;
+}
 
+// Returns true when nothing about the samples is odd. False says nothing.
+bool TRCReader::ReadSamples(const Line& line) {
   TRCCoordinateCells cells(line.text);
   cells.Drop();  // the frame number
   cells.Drop();  // the time
+  bool has_all = !document_.markers().empty();
   for (TRCMarker& marker : document_.markers()) {
-    if (cells.AtEnd()) break;
+    if (cells.AtEnd()) {
+      has_all = false;
+      break;
+    }
     if (cells.IsEmpty()) {
-      for (int coordinate = 0; coordinate < 3; ++coordinate) cells.Drop();
+      cells.DropSample();
       continue;
     }
     const double x = cells.Take();
@@ -150,7 +162,7 @@ void TRCReader::ReadFrame(const Line& line) {
     marker.AppendDropouts(frames_read_ - marker.SampleCount());
     marker.AppendPosition(x, y, z);
   }
-  ++frames_read_;
+  return has_all && cells.AtEnd() && cells.IsOrdinary();
 }
 
 void TRCReader::ReadFirstFrameNumber(const Line& line) {
