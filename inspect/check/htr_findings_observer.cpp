@@ -6,6 +6,7 @@
 #include <string>
 
 #include "formats/htr/sections.h"
+#include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
 #include "inspect/check/htr_oddities.h"
@@ -235,7 +236,8 @@ void HtrFindingsObserver::OnFrame(const HtrCell& number) {
   assert(segment_ != nullptr);
   ++segment_->frames;
   const char* const end = number.text.data() + number.text.size();
-  const bool is_number = ReadDouble(number.text.data(), end).end == end;
+  const bool is_number =
+      IsPlainDecimal(number.text) || ReadDouble(number.text.data(), end).end == end;
   const std::int64_t value =
       is_number || !next_frame_number_ ? ParseInt(number.text) : *next_frame_number_;
   if (!start_frame_) start_frame_ = value;

@@ -44,7 +44,7 @@ class Structure {
   void CheckMotion();
   void CheckUpAxis();
   void AddFramesUnannounced();
-  void CheckFrames(const SegmentLines& segment);
+  void CheckFrames(const SegmentLines& segment, std::int64_t expected);
   void CheckLinks();
   void CheckRoots();
   void CheckCircles();
@@ -122,14 +122,17 @@ void Structure::CheckBaseLines() {
 }
 
 void Structure::CheckMotion() {
-  if (const auto frames = CountFrames(document_); IsOutOfProportion(frames.announced, frames)) {
+  if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
+  const auto frames = CountFrames(document_);
+  std::int64_t expected = frames.announced;
+  if (IsOutOfProportion(frames.announced, frames)) {
     findings_.Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.End()),
                   {FormatInt(frames.announced),
                    "about " + FormatInt(frames.most_held) + ", as many as there are",
                    "The import is refused, unless --range FROM:TO takes a part of them."});
+    expected = frames.most_held;
   }
-  if (document_.GetNumFrames() == 0) return AddFramesUnannounced();
-  for (const SegmentLines& segment : parts_.segments) CheckFrames(segment);
+  for (const SegmentLines& segment : parts_.segments) CheckFrames(segment, expected);
 }
 
 // A header that says so is told of by itself.
@@ -151,7 +154,8 @@ void Structure::AddFramesUnannounced() {
        "The import refuses the file: its last frame would come before its first."});
 }
 
-void Structure::CheckFrames(const SegmentLines& segment) {
+// `expected` is what the header announces, or what the others hold when it is far from that.
+void Structure::CheckFrames(const SegmentLines& segment, std::int64_t expected) {
   if (!segment.motion) {
     return findings_.Add(
         Rule("htr-motion-missing"), segment.name,
@@ -159,7 +163,7 @@ void Structure::CheckFrames(const SegmentLines& segment) {
          "In every frame the segment goes to its parent's origin, unturned."});
   }
   const std::size_t announced = document_.GetNumFrames();
-  if (segment.frames == announced) return;
+  if (static_cast<std::int64_t>(segment.frames) == expected || segment.frames == announced) return;
   const std::string number = FormatInt(static_cast<std::int64_t>(announced));
   findings_.Add(Rule("htr-frame-count"), *segment.motion,
                 {CountOf(segment.frames, "frame"), number + ", as NumFrames says",
