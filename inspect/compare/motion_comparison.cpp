@@ -16,34 +16,6 @@ double MillimetersPerUnit(const HtrDocument& document) {
   return LengthFactor(document.GetCalibrationUnits(), orvane::kMillimeters);
 }
 
-double NumberOrInfinity(double difference) {
-  return std::isnan(difference) ? std::numeric_limits<double>::infinity() : difference;
-}
-
-void Add(double difference, std::int64_t frame, Spread& spread) {
-  if (spread.count == 0 || difference > spread.largest) {
-    spread.largest = difference;
-    spread.largest_frame = frame;
-  }
-  spread.sum += difference;
-  ++spread.count;
-}
-
-// The later spread is of a pair further down. Returns whether it has the larger difference; of
-// equal ones the first frame wins, then the first pair.
-bool Merge(const Spread& from, Spread& into) {
-  if (from.count == 0) return false;
-  const bool takes_over = into.count == 0 || from.largest > into.largest ||
-                          (from.largest == into.largest && from.largest_frame < into.largest_frame);
-  if (takes_over) {
-    into.largest = from.largest;
-    into.largest_frame = from.largest_frame;
-  }
-  into.sum += from.sum;
-  into.count += from.count;
-  return takes_over;
-}
-
 class MotionComparer {
  public:
   MotionComparer(const StructureComparison& structure, const HtrDocument& a, const HtrDocument& b,

@@ -2,16 +2,16 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <optional>
 #include <vector>
 
 #include "formats/htr/document.h"
 #include "formats/math/rotation_matrix3.h"
+#include "inspect/compare/spread.h"
 #include "inspect/compare/structure_comparison.h"
 
 // How far the joints of two motions are from each other, frame by frame: in the world and in
-// millimetres, and in degrees between their rotations against the parent. Base and frame are put
+// millimeters, and in degrees between their rotations against the parent. Base and frame are put
 // together first, so that files which say the same in different words do not differ. Frames are
 // told by their numbers in the files. Nothing fails but for want of memory.
 
@@ -20,23 +20,6 @@ namespace orvane {
 // Angle between two rotations, 0 to 180 degrees. Angles down to the last bits of a double come out
 // right, which the cosine alone would lose.
 [[nodiscard]] double DegreesBetween(const RotationMatrix3& a, const RotationMatrix3& b);
-
-// Differences beyond these count. Not negative.
-struct Tolerance {
-  double mm = 0.001;
-  double deg = 0.001;
-};
-
-// The differences of one quantity. One that is no number, because a file's numbers are too large,
-// counts as infinite.
-struct Spread {
-  double largest = 0.0;
-  std::int64_t largest_frame = 0;  // number of the first frame that has it
-  double sum = 0.0;
-  std::size_t count = 0;
-
-  [[nodiscard]] double Mean() const { return count == 0 ? 0.0 : sum / static_cast<double>(count); }
-};
 
 // Of one segment, or of all.
 struct MotionDifference {

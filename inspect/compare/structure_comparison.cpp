@@ -15,10 +15,9 @@ struct Side {
   std::vector<HierarchyEntry> hierarchy{};
   std::unordered_map<const HtrSegment*, std::size_t> entries{};
   std::size_t attached = 0;  // entries before this hang from a root
-  FrameNumbers frames{};     // empty, with its last before its first, when none is held
+  FrameNumbers frames{};     // those that some segment holds
 
   bool IsAttached(const HtrSegment* segment) const { return entries.at(segment) < attached; }
-  bool HasFrames() const { return frames.first <= frames.last; }
 };
 
 Side Survey(HtrDocument& document) {
@@ -48,18 +47,6 @@ std::int64_t LastFrame(const HtrSegment& segment, const Side& side) {
   return side.frames.first + static_cast<std::int64_t>(segment.GetNumFrames()) - 1;
 }
 
-// Adds what of `own` is not in `other`; either may be empty.
-void AddOnlyFrames(WhichFile file, const Side& own, const Side& other,
-                   std::vector<OnlyFrames>& result) {
-  if (!own.HasFrames()) return;
-  if (!other.HasFrames()) return result.push_back({file, "", own.frames});
-  const FrameNumbers before{own.frames.first, std::min(own.frames.last, other.frames.first - 1)};
-  const FrameNumbers after{std::max(own.frames.first, other.frames.last + 1), own.frames.last};
-  for (const FrameNumbers& range : {before, after}) {
-    if (range.first <= range.last) result.push_back({file, "", range});
-  }
-}
-
 class StructureComparer {
  public:
   StructureComparer(HtrDocument& a, HtrDocument& b) : a_(Survey(a)), b_(Survey(b)) {}
@@ -77,12 +64,11 @@ class StructureComparer {
 
  private:
   void CompareFrames() {
-    AddOnlyFrames(WhichFile::kA, a_, b_, result_.differences.frames);
-    AddOnlyFrames(WhichFile::kB, b_, a_, result_.differences.frames);
-    result_.at_rest = !a_.HasFrames() && !b_.HasFrames();
-    const FrameNumbers common{std::max(a_.frames.first, b_.frames.first),
-                              std::min(a_.frames.last, b_.frames.last)};
-    if (common.first <= common.last) result_.common_frames = common;
+    for (const FramesOfOne& only : FramesOfOneAlone(a_.frames, b_.frames)) {
+      result_.differences.frames.push_back({only.file, "", only.frames});
+    }
+    result_.at_rest = a_.frames.IsEmpty() && b_.frames.IsEmpty();
+    result_.common_frames = CommonFrames(a_.frames, b_.frames);
   }
 
   void CompareSegment(const HtrSegment& in_a) {

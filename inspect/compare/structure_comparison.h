@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "formats/htr/document.h"
+#include "inspect/compare/sides.h"
 #include "inspect/summary/hierarchy.h"
 
 // What two motion files hold, as opposed to where it moves: the segments by their names, what each
@@ -13,14 +14,6 @@
 // Nothing fails but for want of memory.
 
 namespace orvane {
-
-// Numbers of frames, both ends included.
-struct FrameNumbers {
-  std::int64_t first = 0;
-  std::int64_t last = 0;
-};
-
-enum class WhichFile { kA, kB };
 
 struct OnlySegment {
   WhichFile file = WhichFile::kA;
