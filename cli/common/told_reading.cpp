@@ -68,8 +68,8 @@ FileReport ReadAndTell(HtrDocument& document, const std::string& file, Motion mo
 }
 
 FileReport ReadAndTell(TRCDocument& document, const std::string& file, std::string_view bytes,
-                       const ReportManner& manner) {
-  if (!manner.omitted) return CheckAndTell(document, file, bytes, manner);
+                       const ReportManner& manner, std::vector<FileReport> reports) {
+  if (!manner.omitted) return CheckAndTell(document, file, bytes, manner, std::move(reports));
   const std::string error = document.ReadBytes(bytes, false);
   RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
   return {};

@@ -24,6 +24,7 @@ orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const std::string&
 
 // The same of the marker file `file`, whose `bytes` these are, and which is to hold markers.
 orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const std::string& file,
-                               std::string_view bytes, const ReportManner& manner);
+                               std::string_view bytes, const ReportManner& manner,
+                               std::vector<orvane::FileReport> reports = {});
 
 }  // namespace cli

@@ -2,8 +2,8 @@
 
 #include "cli/common/failure.h"
 
-// `orvane compare`: tells how far two motion files are from each other. It reads the files alone
-// and needs no host.
+// `orvane compare`: tells how far two motion files, or two marker files, are from each other. It
+// reads the files alone and needs no host.
 
 namespace CLI {
 class App;

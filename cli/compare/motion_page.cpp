@@ -1,8 +1,7 @@
-#include <algorithm>
-
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
-#include "cli/compare/comparison_report.h"
+#include "cli/compare/comparison_text.h"
+#include "cli/compare/motion_report.h"
 #include "formats/text/numbers.h"
 
 namespace cli {
@@ -11,7 +10,6 @@ namespace {
 using orvane::DifferentParent;
 using orvane::FormatDouble;
 using orvane::FormatInt;
-using orvane::FrameNumbers;
 using orvane::MotionComparison;
 using orvane::MotionDifference;
 using orvane::OnlyFrames;
@@ -19,29 +17,12 @@ using orvane::OnlySegment;
 using orvane::Spread;
 using orvane::StructureComparison;
 using orvane::StructureDifferences;
-using orvane::WhichFile;
-
-constexpr std::size_t kNarrowestNames = 16;
-constexpr std::size_t kNumberWidth = 15;
-
-std::string Count(std::size_t count, const std::string& noun) {
-  return FormatInt(static_cast<std::int64_t>(count)) + " " + noun + (count == 1 ? "" : "s");
-}
-
-std::string Frames(const FrameNumbers& frames) {
-  if (frames.first == frames.last) return "frame " + FormatInt(frames.first);
-  return "frames " + FormatInt(frames.first) + " to " + FormatInt(frames.last);
-}
 
 std::string Parent(const std::string& name) {
   return name.empty() ? "no parent" : "parent " + Printable(name);
 }
 
-void PrintFiles(const ComparisonReport& report, std::ostream& out) {
-  out << "A  " << Printable(report.file_a) << "\nB  " << Printable(report.file_b) << '\n';
-}
-
-std::string WhatIsCompared(const ComparisonReport& report) {
+std::string WhatIsCompared(const MotionReport& report) {
   const StructureComparison& structure = report.structure;
   if (structure.pairs.empty()) return "nothing, as no segment is in both files under one parent";
   const std::string segments = Count(structure.pairs.size(), "segment");
@@ -57,17 +38,15 @@ void PrintRow(const std::string& name, std::size_t width, const MotionDifference
     out << PadLeft(FormatDouble(spread->largest), kNumberWidth)
         << PadLeft(FormatDouble(spread->Mean()), kNumberWidth);
   }
-  const auto& beyond = difference.first_beyond;
-  out << PadLeft(beyond ? FormatInt(*beyond) : "-", kNumberWidth) << '\n';
+  out << FrameCell(difference.first_beyond) << '\n';
 }
 
-void PrintSegments(const ComparisonReport& report, std::ostream& out) {
+void PrintSegments(const MotionReport& report, std::ostream& out) {
   std::vector<std::string> names;
-  std::size_t width = kNarrowestNames;
   for (std::size_t pair = 0; pair < report.structure.pairs.size(); ++pair) {
     names.push_back(Printable(report.NameOf(pair)));
-    width = std::max(width, std::min(Width(names.back()), kWidestNames));
   }
+  const std::size_t width = WidthOf(names);
   out << "\n  " << PadRight("Segment", width);
   for (const char* heading : {"largest mm", "mean mm", "largest deg", "mean deg", "first beyond"}) {
     out << PadLeft(heading, kNumberWidth);
@@ -79,17 +58,16 @@ void PrintSegments(const ComparisonReport& report, std::ostream& out) {
   }
 }
 
-void PrintStructure(const ComparisonReport& report, std::ostream& out) {
+void PrintStructure(const MotionReport& report, std::ostream& out) {
   const StructureDifferences& differences = report.structure.differences;
   if (!differences.Any()) return;
-  const auto letter = [](WhichFile file) { return file == WhichFile::kA ? "A" : "B"; };
   out << "\nDifferent structure\n";
   if (differences.frame_rate) {
     out << "  frame rate " << FormatInt(report.a.GetDataFrameRate()) << " in A, "
         << FormatInt(report.b.GetDataFrameRate()) << " in B\n";
   }
   for (const OnlySegment& segment : differences.segments) {
-    out << "  " << Printable(segment.name) << ": only in " << letter(segment.file) << '\n';
+    out << "  " << Printable(segment.name) << ": only in " << FileLetter(segment.file) << '\n';
   }
   for (const DifferentParent& parent : differences.parents) {
     out << "  " << Printable(parent.name) << ": " << Parent(parent.in_a) << " in A, "
@@ -97,11 +75,11 @@ void PrintStructure(const ComparisonReport& report, std::ostream& out) {
   }
   for (const OnlyFrames& only : differences.frames) {
     out << "  " << (only.segment.empty() ? "" : Printable(only.segment) + ": ")
-        << Frames(only.frames) << " only in " << letter(only.file) << '\n';
+        << Frames(only.frames) << " only in " << FileLetter(only.file) << '\n';
   }
 }
 
-void PrintLargest(const ComparisonReport& report, const char* label, const Spread& spread,
+void PrintLargest(const MotionReport& report, const char* label, const Spread& spread,
                   std::size_t pair, const char* unit, std::ostream& out) {
   out << "  " << PadRight(label, kNarrowestNames) << FormatDouble(spread.largest) << " " << unit
       << " at the most, " << FormatDouble(spread.Mean()) << " on average";
@@ -112,7 +90,7 @@ void PrintLargest(const ComparisonReport& report, const char* label, const Sprea
   out << '\n';
 }
 
-std::string Verdict(const ComparisonReport& report) {
+std::string Verdict(const MotionReport& report) {
   const auto& beyond = report.motion.overall.first_beyond;
   if (!beyond && !report.structure.differences.Any()) return "kept";
   if (!beyond) return "kept, but the structure differs";
@@ -121,7 +99,7 @@ std::string Verdict(const ComparisonReport& report) {
   return "exceeded, first in frame " + FormatInt(*beyond) + " by " + segment;
 }
 
-void PrintOverall(const ComparisonReport& report, std::ostream& out) {
+void PrintOverall(const MotionReport& report, std::ostream& out) {
   const MotionComparison& motion = report.motion;
   out << "\nDifference of " << WhatIsCompared(report) << '\n';
   if (motion.overall.position_mm.count == 0) return;
@@ -135,8 +113,8 @@ void PrintOverall(const ComparisonReport& report, std::ostream& out) {
 
 }  // namespace
 
-void PrintComparisonPage(const ComparisonReport& report, std::ostream& out) {
-  PrintFiles(report, out);
+void PrintMotionPage(const MotionReport& report, std::ostream& out) {
+  out << FileLines(report.file_a, report.file_b);
   if (report.motion.overall.position_mm.count > 0) PrintSegments(report, out);
   PrintStructure(report, out);
   PrintOverall(report, out);

@@ -15,7 +15,7 @@
 
 namespace cli {
 
-struct ComparisonReport {
+struct MotionReport {
   std::string file_a;
   std::string file_b;
   orvane::HtrDocument a;
@@ -41,7 +41,7 @@ struct ComparisonReport {
   }
 };
 
-void PrintComparisonPage(const ComparisonReport& report, std::ostream& out);
-void PrintComparisonJson(const ComparisonReport& report, std::ostream& out);
+void PrintMotionPage(const MotionReport& report, std::ostream& out);
+void PrintMotionJson(const MotionReport& report, std::ostream& out);
 
 }  // namespace cli

@@ -1,111 +1,46 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
-#include "cli/compare/comparison_report.h"
+#include "cli/compare/comparison_members.h"
+#include "cli/compare/motion_report.h"
 
 namespace cli {
 namespace {
 
 using orvane::DifferentParent;
-using orvane::FrameNumbers;
 using orvane::MotionComparison;
 using orvane::MotionDifference;
 using orvane::OnlyFrames;
 using orvane::OnlySegment;
-using orvane::Spread;
 using orvane::StructureComparison;
 using orvane::StructureDifferences;
-using orvane::WhichFile;
 
 using Layout = JsonWriter::Layout;
 
-constexpr int kVersion = 2;
-
-const char* Letter(WhichFile file) { return file == WhichFile::kA ? "a" : "b"; }
-
-void WriteText(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  json.String(text);
-}
-
-// A text that may be missing.
-void WriteOptional(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  if (text.empty()) return json.Null();
-  json.String(text);
-}
-
-void WriteNumber(JsonWriter& json, const char* key, double number) {
-  json.Key(key);
-  json.Number(number);
-}
-
-void WriteInteger(JsonWriter& json, const char* key, std::int64_t number) {
-  json.Key(key);
-  json.Integer(number);
-}
-
-void WriteRange(JsonWriter& json, const FrameNumbers& range) {
-  json.BeginArray(Layout::kOneLine);
-  json.Integer(range.first);
-  json.Integer(range.last);
-  json.EndArray();
-}
-
-void WriteSpread(JsonWriter& json, const char* key, const Spread& spread,
-                 const std::string* segment) {
-  json.Key(key);
-  if (spread.count == 0) return json.Null();
-  json.BeginObject();
-  WriteNumber(json, "largest", spread.largest);
-  WriteInteger(json, "largest_frame", spread.largest_frame);
-  if (segment != nullptr) WriteText(json, "largest_segment", *segment);
-  WriteNumber(json, "mean", spread.Mean());
-  json.EndObject();
-}
-
-void WriteFirstBeyond(JsonWriter& json, const MotionDifference& difference) {
-  json.Key("first_beyond");
-  if (!difference.first_beyond) return json.Null();
-  json.Integer(*difference.first_beyond);
-}
-
-void WriteOverall(JsonWriter& json, const ComparisonReport& report) {
+void WriteOverall(JsonWriter& json, const MotionReport& report) {
   const MotionComparison& motion = report.motion;
   const bool compared = motion.overall.position_mm.count > 0;
   const std::string position = compared ? report.NameOf(motion.position_pair) : "";
   const std::string orientation = compared ? report.NameOf(motion.orientation_pair) : "";
-  WriteSpread(json, "position_mm", motion.overall.position_mm, &position);
-  WriteSpread(json, "orientation_deg", motion.overall.orientation_deg, &orientation);
-  WriteFirstBeyond(json, motion.overall);
+  WriteSpread(json, "position_mm", motion.overall.position_mm, "largest_segment", &position);
+  WriteSpread(json, "orientation_deg", motion.overall.orientation_deg, "largest_segment",
+              &orientation);
+  WriteFirstBeyond(json, motion.overall.first_beyond);
   const bool is_beyond = motion.overall.first_beyond.has_value();
   WriteOptional(json, "first_beyond_segment", is_beyond ? report.NameOf(motion.beyond_pair) : "");
 }
 
 void WriteFrames(JsonWriter& json, const StructureComparison& structure) {
-  json.Key("frames");
-  if (structure.common_frames) {
-    WriteRange(json, *structure.common_frames);
-  } else {
-    json.Null();
-  }
+  WriteCommonFrames(json, structure.common_frames);
   json.Key("base_position_only");
   json.Bool(structure.at_rest);
 }
 
-void WriteFrameRate(JsonWriter& json, const ComparisonReport& report) {
-  json.Key("frame_rate");
-  if (!report.structure.differences.frame_rate) return json.Null();
-  json.BeginArray(Layout::kOneLine);
-  json.Integer(report.a.GetDataFrameRate());
-  json.Integer(report.b.GetDataFrameRate());
-  json.EndArray();
-}
-
-void WriteStructure(JsonWriter& json, const ComparisonReport& report) {
+void WriteStructure(JsonWriter& json, const MotionReport& report) {
   const StructureDifferences& differences = report.structure.differences;
   json.Key("structure");
   json.BeginObject();
-  WriteFrameRate(json, report);
+  WriteFrameRates(json, differences.frame_rate, report.a.GetDataFrameRate(),
+                  report.b.GetDataFrameRate());
   json.Key("segments");
   json.BeginArray(Layout::kLines);
   for (const OnlySegment& segment : differences.segments) {
@@ -139,7 +74,7 @@ void WriteStructure(JsonWriter& json, const ComparisonReport& report) {
   json.EndObject();
 }
 
-void WriteSegments(JsonWriter& json, const ComparisonReport& report) {
+void WriteSegments(JsonWriter& json, const MotionReport& report) {
   json.Key("segments");
   json.BeginArray(Layout::kLines);
   for (std::size_t pair = 0; pair < report.motion.segments.size(); ++pair) {
@@ -147,9 +82,9 @@ void WriteSegments(JsonWriter& json, const ComparisonReport& report) {
     json.BeginObject();
     WriteText(json, "name", report.NameOf(pair));
     WriteInteger(json, "frame_count", static_cast<std::int64_t>(difference.position_mm.count));
-    WriteSpread(json, "position_mm", difference.position_mm, nullptr);
-    WriteSpread(json, "orientation_deg", difference.orientation_deg, nullptr);
-    WriteFirstBeyond(json, difference);
+    WriteSpread(json, "position_mm", difference.position_mm);
+    WriteSpread(json, "orientation_deg", difference.orientation_deg);
+    WriteFirstBeyond(json, difference.first_beyond);
     json.EndObject();
   }
   json.EndArray();
@@ -157,10 +92,10 @@ void WriteSegments(JsonWriter& json, const ComparisonReport& report) {
 
 }  // namespace
 
-void PrintComparisonJson(const ComparisonReport& report, std::ostream& out) {
+void PrintMotionJson(const MotionReport& report, std::ostream& out) {
   JsonWriter json(out);
   json.BeginObject();
-  WriteInteger(json, "version", kVersion);
+  WriteInteger(json, "version", kComparisonVersion);
   WriteText(json, "file_a", report.file_a);
   WriteText(json, "file_b", report.file_b);
   json.Key("same");

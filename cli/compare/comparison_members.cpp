@@ -1,0 +1,72 @@
+#include "cli/compare/comparison_members.h"
+
+namespace cli {
+
+using orvane::FrameNumbers;
+using orvane::Spread;
+using orvane::WhichFile;
+
+const char* Letter(WhichFile file) { return file == WhichFile::kA ? "a" : "b"; }
+
+void WriteText(JsonWriter& json, const char* key, const std::string& text) {
+  json.Key(key);
+  json.String(text);
+}
+
+void WriteOptional(JsonWriter& json, const char* key, const std::string& text) {
+  json.Key(key);
+  if (text.empty()) return json.Null();
+  json.String(text);
+}
+
+void WriteNumber(JsonWriter& json, const char* key, double number) {
+  json.Key(key);
+  json.Number(number);
+}
+
+void WriteInteger(JsonWriter& json, const char* key, std::int64_t number) {
+  json.Key(key);
+  json.Integer(number);
+}
+
+void WriteRange(JsonWriter& json, const FrameNumbers& range) {
+  json.BeginArray(JsonWriter::Layout::kOneLine);
+  json.Integer(range.first);
+  json.Integer(range.last);
+  json.EndArray();
+}
+
+void WriteCommonFrames(JsonWriter& json, const std::optional<FrameNumbers>& frames) {
+  json.Key("frames");
+  if (!frames) return json.Null();
+  WriteRange(json, *frames);
+}
+
+void WriteSpread(JsonWriter& json, const char* key, const Spread& spread, const char* name_key,
+                 const std::string* name) {
+  json.Key(key);
+  if (spread.count == 0) return json.Null();
+  json.BeginObject();
+  WriteNumber(json, "largest", spread.largest);
+  WriteInteger(json, "largest_frame", spread.largest_frame);
+  if (name != nullptr) WriteText(json, name_key, *name);
+  WriteNumber(json, "mean", spread.Mean());
+  json.EndObject();
+}
+
+void WriteFirstBeyond(JsonWriter& json, const std::optional<std::int64_t>& frame) {
+  json.Key("first_beyond");
+  if (!frame) return json.Null();
+  json.Integer(*frame);
+}
+
+void WriteFrameRates(JsonWriter& json, bool differ, std::int32_t in_a, std::int32_t in_b) {
+  json.Key("frame_rate");
+  if (!differ) return json.Null();
+  json.BeginArray(JsonWriter::Layout::kOneLine);
+  json.Integer(in_a);
+  json.Integer(in_b);
+  json.EndArray();
+}
+
+}  // namespace cli

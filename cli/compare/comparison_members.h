@@ -1,0 +1,40 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "cli/common/json_writer.h"
+#include "inspect/compare/sides.h"
+#include "inspect/compare/spread.h"
+
+// Members of the JSON of a comparison, whatever is compared.
+
+namespace cli {
+
+inline constexpr int kComparisonVersion = 2;
+
+// "a" or "b".
+[[nodiscard]] const char* Letter(orvane::WhichFile file);
+
+void WriteText(JsonWriter& json, const char* key, const std::string& text);
+// A text that may be missing.
+void WriteOptional(JsonWriter& json, const char* key, const std::string& text);
+void WriteNumber(JsonWriter& json, const char* key, double number);
+void WriteInteger(JsonWriter& json, const char* key, std::int64_t number);
+
+// The value of a member: the first and the last number.
+void WriteRange(JsonWriter& json, const orvane::FrameNumbers& range);
+// The member "frames", null when there are none.
+void WriteCommonFrames(JsonWriter& json, const std::optional<orvane::FrameNumbers>& frames);
+
+// Null when nothing was compared. `name` is of the thing that the largest difference is of, in the
+// member `name_key`; it may be null.
+void WriteSpread(JsonWriter& json, const char* key, const orvane::Spread& spread,
+                 const char* name_key = nullptr, const std::string* name = nullptr);
+void WriteFirstBeyond(JsonWriter& json, const std::optional<std::int64_t>& frame);
+
+// The member "frame_rate", null when both are the same.
+void WriteFrameRates(JsonWriter& json, bool differ, std::int32_t in_a, std::int32_t in_b);
+
+}  // namespace cli
