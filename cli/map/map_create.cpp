@@ -12,12 +12,12 @@
 #include "cli/common/outputs.h"
 #include "cli/common/report.h"
 #include "cli/import/inspection.h"
+#include "cli/map/mapping_output.h"
 #include "cli/map/mapping_user.h"
 #include "cli/map/picks_table.h"
 #include "formats/mnm/marker_name_map.h"
 #include "inspect/check/findings.h"
 #include "platform/interrupt.h"
-#include "platform/output_file.h"
 #include "platform/path_text.h"
 #include "platform/scratch_folder.h"
 
@@ -27,11 +27,6 @@ namespace {
 using orvane::CountOf;
 
 constexpr char kMappingName[] = "/mapping.mnm";
-
-Failure CannotWrite(const std::string& path, const platform::OutputFile& file,
-                    const std::string& reason) {
-  return {ExitStatus::kInputOutput, {ComplainAboutOutput(path, file, reason)}};
-}
 
 // The last of what the plug-in has told, as the reason why `file` came to nothing.
 Failure Refused(const std::string& file, const PluginSession& session) {
@@ -64,19 +59,6 @@ void RequirePicks(const std::string& made, const std::string& bytes, const Picks
   if (bytes.ends_with('\n') && mapping.Count() == picks.Count() && picks.AreIn(mapping)) return;
   throw Failure{ExitStatus::kInputOutput,
                 {{output, "The plug-in could not write all of the file", "Is the disk full?"}}};
-}
-
-void Deliver(const std::string& path, platform::OutputFile& file, const std::string& bytes) {
-  platform::HoldInterrupts();
-  std::string error = file.Write(bytes);
-  StopIfInterrupted();
-  if (error.empty()) error = file.Deliver();
-  if (!error.empty()) throw CannotWrite(path, file, error);
-}
-
-std::string FolderOf(const std::string& path) {
-  const std::string folder = platform::TextOf(platform::PathOf(path).parent_path());
-  return folder.empty() ? "." : folder;
 }
 
 // Tells what is odd in `input`, and returns it. Throws a Failure when its import into `scene` would
@@ -137,18 +119,15 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
   RequireNoInput(arguments.output, {input, arguments.picks});
   RequireReportApart(arguments.report, {input, arguments.picks}, {arguments.output});
-  platform::OutputFile output(arguments.output, arguments.force);
-  if (const std::string reason = output.WhyImpossible(); !reason.empty()) {
-    throw CannotWrite(arguments.output, output, reason);
-  }
+  MappingOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, SettingsSource::kFresh);
   const orvane::FileReport report = TellOfMarkers(input, session.scene(), arguments);
   ImportCloud(session, input);
   const PicksTable picks(arguments.picks, NamesIn(session.scene()), arguments.sticks);
 
-  const platform::ScratchFolder scratch(FolderOf(arguments.output));
+  const platform::ScratchFolder scratch(output.Folder());
   if (!scratch.Error().empty()) {
-    throw Failure{ExitStatus::kInputOutput, {{FolderOf(arguments.output), scratch.Error(), ""}}};
+    throw Failure{ExitStatus::kInputOutput, {{output.Folder(), scratch.Error(), ""}}};
   }
   const std::string made = scratch.Path() + kMappingName;
   MappingUser(session, picks, arguments.sticks).Create(made);
@@ -159,7 +138,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
     RequirePicks(made, written, picks, arguments.output);
     return written;
   });
-  Deliver(arguments.output, output, bytes);
+  output.Deliver(bytes);
   Show(arguments, input, picks.Count(), report);
   return ExitStatus::kDone;
 }

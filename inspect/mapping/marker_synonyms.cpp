@@ -28,8 +28,9 @@ constexpr Place kSidedPlaces[] = {
     {"sho", {"shoulder", "acromion", "acromium", "acr", "shouldertop"}},
     {"elb", {"elbow", "lateralelbow", "outerelbow", "elblat", "elbowlat", "lelbow", "lepicondyle"}},
     {"ilb", {"medialelbow", "innerelbow", "elbmed", "elbowmed", "melb", "mepicondyle"}},
-    {"wra", {"wristthumb", "radialwrist", "innerwrist", "radialstyloid", "wristrad", "wristmed"}},
-    {"wrb", {"wristpinky", "ulnarwrist", "outerwrist", "ulnarstyloid", "wristuln", "wristlat"}},
+    // "Inner" and "medial" are the thumb's side to some and the little finger's to others.
+    {"wra", {"wristthumb", "thumbwrist", "radialwrist", "radialstyloid", "wristrad"}},
+    {"wrb", {"wristpinky", "pinkywrist", "ulnarwrist", "ulnarstyloid", "wristuln"}},
     {"fin", {"finger", "hand", "knuckle", "handtop"}},
     {"fwt", {"asis", "asi", "frontwaist", "waistfront", "frontpelvis", "pelvisfront"}},
     {"bwt", {"psis", "psi", "backwaist", "waistback", "backpelvis", "pelvisback"}},

@@ -53,7 +53,8 @@ INSTANTIATE_TEST_SUITE_P(
         // What names no place for sure.
         Named{"", ""}, Named{"Head", ""}, Named{"L", ""}, Named{"Left", ""}, Named{"M001", ""},
         Named{"RAJC", ""}, Named{"V_R.Knee_JC_Static", ""}, Named{"LWrist", ""},
-        Named{"walker:", ""}, Named{"Knee", ""}, Named{"LTHI", ""}, Named{"lamp", ""}));
+        Named{"R.Wrist.Med", ""}, Named{"LWristThumb", "LWRA"}, Named{"walker:", ""},
+        Named{"Knee", ""}, Named{"LTHI", ""}, Named{"lamp", ""}));
 
 TEST(NameSuggestionTest, TellsHowANameSaysSo) {
   const NameSuggestion suggestion =

@@ -1,0 +1,35 @@
+#include "cli/map/mapping_output.h"
+
+#include <utility>
+
+#include "cli/common/failure.h"
+#include "cli/common/outputs.h"
+#include "platform/interrupt.h"
+#include "platform/path_text.h"
+
+namespace cli {
+
+MappingOutput::MappingOutput(std::string path, bool replace)
+    : path_(std::move(path)), file_(path_, replace) {
+  RequireNone(file_.WhyImpossible());
+}
+
+std::string MappingOutput::Folder() const {
+  const std::string folder = platform::TextOf(platform::PathOf(path_).parent_path());
+  return folder.empty() ? "." : folder;
+}
+
+void MappingOutput::Deliver(const std::string& bytes) {
+  platform::HoldInterrupts();
+  std::string error = file_.Write(bytes);
+  StopIfInterrupted();
+  if (error.empty()) error = file_.Deliver();
+  RequireNone(error);
+}
+
+void MappingOutput::RequireNone(const std::string& error) const {
+  if (error.empty()) return;
+  throw Failure{ExitStatus::kInputOutput, {ComplainAboutOutput(path_, file_, error)}};
+}
+
+}  // namespace cli

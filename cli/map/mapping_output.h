@@ -1,0 +1,30 @@
+#pragma once
+
+#include <string>
+
+#include "platform/output_file.h"
+
+// The mapping file that a verb makes: it appears when all is well, and not at all otherwise.
+
+namespace cli {
+
+class MappingOutput {
+ public:
+  // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set.
+  MappingOutput(std::string path, bool replace);
+
+  // The folder that the file is to lie in.
+  [[nodiscard]] std::string Folder() const;
+
+  // Puts `bytes` in the file's place. Throws a Failure when the disk does not take them, or when
+  // the user has interrupted the program.
+  void Deliver(const std::string& bytes);
+
+ private:
+  void RequireNone(const std::string& error) const;
+
+  std::string path_;
+  platform::OutputFile file_;
+};
+
+}  // namespace cli

@@ -1,0 +1,155 @@
+#include <algorithm>
+#include <nlohmann/json.hpp>
+#include <sstream>
+
+#include "formats/text/files.h"
+#include "tests/cli/orvane_test.h"
+#include "tests/support/replaced_text.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using nlohmann::json;
+using test::ProgramResult;
+using test::ReadFile;
+using test::TrcText;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::StartsWith;
+
+class MapSuggestTest : public test::OrvaneTest {
+ protected:
+  void WriteMarkers(const std::vector<std::string>& names) const {
+    TrcText text;
+    text.markers = names;
+    text.frames = {TrcText::Frame(names.size(), "1\t2\t3")};
+    Write("take.trc", text.Text());
+  }
+
+  ProgramResult Suggest(std::vector<std::string> flags = {}) const {
+    flags.insert(flags.begin(), {"map", "suggest", "take.trc"});
+    return Orvane(flags);
+  }
+
+  // The lines of a mapping, in order of their letters.
+  static std::vector<std::string> LinesOf(const std::string& mapping) {
+    std::istringstream text(mapping);
+    std::vector<std::string> lines;
+    for (std::string line; std::getline(text, line);) {
+      lines.push_back(line.substr(0, line.find('\r')));
+    }
+    std::sort(lines.begin(), lines.end());
+    return lines;
+  }
+};
+
+// The example's own names, by another subject and in another case.
+class MapSuggestExampleTest : public MapSuggestTest,
+                              public testing::WithParamInterface<std::pair<const char*, bool>> {};
+
+TEST_P(MapSuggestExampleTest, FindsAll39) {
+  const auto& [subject, is_small] = GetParam();
+  const std::string examples = ORVANE_SOURCE_DIR "/examples/";
+  std::string capture = ReadFile(examples + "walk.trc");
+  std::string mapping = ReadFile(examples + "walk.mnm");
+  const auto rename = [&, small = is_small](std::string& text) {
+    std::string result;
+    for (std::size_t at = 0; at < text.size();) {
+      if (text.compare(at, 7, "walker:") != 0) {
+        result += text[at++];
+        continue;
+      }
+      result += subject;
+      for (at += 7; at < text.size() && text[at] != '\t'; ++at) {
+        result += small && 'A' <= text[at] && text[at] <= 'Z'
+                      ? static_cast<char>(text[at] - 'A' + 'a')
+                      : text[at];
+      }
+    }
+    text = result;
+  };
+  rename(capture);
+  rename(mapping);
+  Write("take.trc", capture);
+  const ProgramResult result = Suggest({"-o", "take.mnm", "--no-report"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(result.output, HasSubstr("39 of 41 markers suggested: take.mnm\n"));
+  EXPECT_EQ(LinesOf(Read("take.mnm")), LinesOf(mapping));
+}
+
+INSTANTIATE_TEST_SUITE_P(Names, MapSuggestExampleTest,
+                         testing::Values(std::pair("walker:", false), std::pair("anna:", false),
+                                         std::pair("", false), std::pair("walker:", true),
+                                         std::pair("B0b_2:", true)));
+
+TEST_F(MapSuggestTest, PageTellsWhyAndWhatIsLeftOut) {
+  WriteMarkers({"LFHD", "anna:C7", "rheel", "anna:LToe", "bob:LToe", "M001"});
+  const ProgramResult result = Suggest();
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.output, StartsWith("LFHD    LFHD     the same name\n"
+                                        "C7      anna:C7  the same name behind \"anna:\"\n"
+                                        "RHEL    rheel    a usual name of the same place\n"
+                                        "LTOE    left out: one of anna:LToe, bob:LToe\n"
+                                        "No role by their names: M001\n"
+                                        "Needed, and not found: LBHD, RBHD, RFHD, CLAV, "));
+  EXPECT_THAT(result.output, HasSubstr("\n3 of 6 markers suggested; no mapping written\n"));
+}
+
+TEST_F(MapSuggestTest, NamesThatSayNothingAreRefused) {
+  WriteMarkers({"M001", "M002"});
+  const ProgramResult result = Suggest({"-o", "take.mnm"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.output, IsEmpty());
+  EXPECT_EQ(result.error,
+            "orvane: take.trc: No name of its markers says what place of the body it is of for "
+            "sure\n"
+            "  \"orvane map create\" makes a mapping of what you know: which marker sits where.\n");
+  EXPECT_FALSE(Exists("take.mnm"));
+}
+
+TEST_F(MapSuggestTest, ASubjectIsChosenAmongSeveral) {
+  WriteMarkers({"anna:LFHD", "bob:LFHD"});
+  const ProgramResult several = Suggest({"-o", "take.mnm"});
+  EXPECT_EQ(several.status, 1);
+  EXPECT_THAT(several.error, HasSubstr("\n  --subject NAME looks at one of its subjects alone.\n"));
+  EXPECT_EQ(Suggest({"-o", "take.mnm", "--subject", "bob"}).status, 0);
+  EXPECT_THAT(Read("take.mnm"), StartsWith("LFHD\tbob:LFHD\t"));
+}
+
+TEST_F(MapSuggestTest, NothingIsEverReplaced) {
+  WriteMarkers({"LFHD"});
+  Write("take.mnm", "mine");
+  EXPECT_EQ(Suggest({"-o", "take.mnm"}).status, 3);
+  EXPECT_EQ(Read("take.mnm"), "mine");
+  EXPECT_EQ(Suggest({"-o", "take.mnm", "--force"}).status, 2);
+  EXPECT_EQ(Suggest({"-o", "take.trc"}).status, 2);
+}
+
+TEST_F(MapSuggestTest, StrictTakesNoFileWithAWarning) {
+  TrcText text;
+  text.markers = {"LFHD"};
+  text.frames = {{"1\tx\t3"}};
+  Write("take.trc", text.Text());
+  EXPECT_EQ(Suggest({"-o", "take.mnm", "--strict"}).status, 1);
+  EXPECT_FALSE(Exists("take.mnm"));
+  EXPECT_EQ(Suggest({"-o", "take.mnm"}).status, 0);
+}
+
+TEST_F(MapSuggestTest, JsonTellsAllOfIt) {
+  WriteMarkers({"LFHD", "anna:C7", "rheel", "anna:CLAV", "bob:CLAV", "M001", "a b"});
+  const ProgramResult result = Suggest({"--json"});
+  json told = json::parse(result.output);
+  EXPECT_THAT(told["missing"].size(), 27U);
+  EXPECT_EQ(told["missing"][0], "LBHD");
+  told.erase("missing");
+  told.erase("findings");
+  EXPECT_EQ(told, json::parse(R"({
+    "version": 2, "file": "take.trc", "mapping": null,
+    "suggested": [{"standard": "LFHD", "marker": "LFHD", "reason": "same"},
+                  {"standard": "C7", "marker": "anna:C7", "reason": "subject"},
+                  {"standard": "RHEL", "marker": "rheel", "reason": "synonym"}],
+    "ambiguous": [{"standard": "CLAV", "markers": ["anna:CLAV", "bob:CLAV"]}],
+    "without_role": ["M001"], "unmappable": ["a b"], "subjects": ["anna", "bob"]})"));
+}
+
+}  // namespace
