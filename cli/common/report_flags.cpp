@@ -70,18 +70,21 @@ void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
   verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")->excludes(report);
 }
 
-void AddReportFlags(CLI::App& verb, ReportManner& manner) {
+void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& beside) {
   AddTellingFlags(verb, manner);
   CLI::Option* strict = verb.add_flag("--strict", manner.strict, "Take every warning as a refusal");
   strict->excludes(verb.get_option("--no-report"));
-  verb.add_option("--allow", manner.allowed, "Codes of findings that --strict lets pass")
-      ->delimiter(',')
-      ->expected(1)
-      ->allow_extra_args(false)
-      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-      ->check(WhyNoCode, "")
-      ->needs(strict)
-      ->type_name("CODE,...");
+  CLI::Option* allow =
+      verb.add_option("--allow", manner.allowed, "Codes of findings that --strict lets pass")
+          ->delimiter(',')
+          ->expected(1)
+          ->allow_extra_args(false)
+          ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
+          ->check(
+              [beside](const std::string& code) { return code == beside ? "" : WhyNoCode(code); },
+              "")
+          ->type_name("CODE,...");
+  if (beside.empty()) allow->needs(strict);
 }
 
 void Tell(const FileReport& report, const ReportManner& manner) {

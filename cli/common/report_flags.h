@@ -25,7 +25,9 @@ struct ReportManner {
 
 // Adds the flags to `verb` that set `manner`, which must outlive the parsing: all of them to one
 // that makes something of files, and to one that only tells of them those that do not forbid.
-void AddReportFlags(CLI::App& verb, ReportManner& manner);
+// `beside` is a word that --allow takes beside codes; a verb that has one looks itself whether the
+// codes have --strict.
+void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& beside = "");
 void AddTellingFlags(CLI::App& verb, ReportManner& manner);
 
 // Tells of `report` on standard error, a line a code.

@@ -46,19 +46,13 @@ FileReport UnpackReport(const json& packed, const std::string& file) {
 }
 
 json Pack(const Conversion& conversion) {
-  return {conversion.input,
-          conversion.source,
-          conversion.output,
-          static_cast<int>(conversion.status),
-          conversion.delivered,
-          conversion.frames,
-          conversion.markers_kept,
-          conversion.markers_dropped,
-          conversion.dropouts,
-          Pack(conversion.errors),
-          Pack(conversion.warnings),
-          Pack(conversion.report),
-          conversion.announces_too_much};
+  return {conversion.input,          conversion.source,
+          conversion.output,         static_cast<int>(conversion.status),
+          conversion.delivered,      conversion.frames,
+          conversion.markers_kept,   conversion.markers_dropped,
+          conversion.dropouts,       Pack(conversion.errors),
+          Pack(conversion.warnings), Pack(conversion.report),
+          conversion.told,           conversion.is_empty};
 }
 
 Conversion Unpack(const json& packed) {
@@ -74,7 +68,8 @@ Conversion Unpack(const json& packed) {
           UnpackComplaints(packed.at(9)),
           UnpackComplaints(packed.at(10)),
           UnpackReport(packed.at(11), packed.at(0)),
-          packed.at(12)};
+          packed.at(12),
+          packed.at(13)};
 }
 
 }  // namespace
@@ -89,6 +84,8 @@ std::string_view NameOf(ConversionStatus status) {
       return "broken";
     case ConversionStatus::kRefused:
       return "refused";
+    case ConversionStatus::kEmpty:
+      return "empty";
     case ConversionStatus::kExists:
       return "exists";
     case ConversionStatus::kUnreadable:
@@ -108,6 +105,7 @@ ExitStatus ExitStatusOf(ConversionStatus status) {
       return ExitStatus::kDone;
     case ConversionStatus::kBroken:
     case ConversionStatus::kRefused:
+    case ConversionStatus::kEmpty:
       return ExitStatus::kRefused;
     case ConversionStatus::kExists:
     case ConversionStatus::kUnreadable:

@@ -18,6 +18,7 @@ enum class ConversionStatus {
   kConverted,    // the output is delivered
   kBroken,       // the reader refused the file
   kRefused,      // the program did, before the plug-in was asked
+  kEmpty,        // no marker is left to write, and the user has not said that none need be
   kExists,       // the output is there already and is kept
   kUnreadable,   // there is no such file, or it may not be read
   kFailed,       // the output could not be written
@@ -39,8 +40,9 @@ struct Conversion {
 
   std::vector<Complaint> errors;
   std::vector<Complaint> warnings;
-  orvane::FileReport report;        // what is odd in the input; empty when that is not looked for
-  bool announces_too_much = false;  // refused for that, as an error says in place of the report
+  orvane::FileReport report;      // what is odd in the input; empty when that is not looked for
+  std::vector<std::string> told;  // codes in it that an error tells of in their place
+  bool is_empty = false;          // no marker is left to write
 };
 
 // As the table and JSON give it: "converted".

@@ -66,8 +66,7 @@ class BatchConversion {
   // What is delivered of a file depends on no other. One that the reader refuses before its rates
   // has a run of the plug-in begin.
   void Judge(Conversion& conversion, const MarkerNaming& naming) {
-    const RateSource rate = JudgeInput(conversion, naming);
-    if (!order_.report.omitted) ReportOnInput(conversion, order_.mapping, order_.report);
+    const RateSource rate = JudgeInput(conversion, order_, naming);
     if (!order_.keep_broken || conversion.status != ConversionStatus::kPlanned) return;
     if (rate == RateSource::kOthersShort) RefuseForeignRate(conversion);
     if (rate == RateSource::kOthers) first_in_run_.insert(&conversion);
@@ -261,7 +260,8 @@ class BatchConversion {
     if (error.empty()) {
       conversion.delivered = true;
       if (conversion.status == ConversionStatus::kPlanned) {
-        conversion.status = ConversionStatus::kConverted;
+        const bool is_wanted = !conversion.is_empty || order_.allow_empty;
+        conversion.status = is_wanted ? ConversionStatus::kConverted : ConversionStatus::kEmpty;
       }
       return;
     }

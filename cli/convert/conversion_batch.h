@@ -3,24 +3,13 @@
 #include <string>
 #include <vector>
 
-#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
-#include "cli/convert/converter_panel.h"
+#include "cli/convert/conversion_order.h"
 
 // The conversion of some files by one run of the plug-in, or several where one gives up, from the
 // look at the inputs to the delivery of the outputs.
 
 namespace cli {
-
-struct ConversionOrder {
-  std::string module;
-  std::string mapping;  // the mapping file; empty: every marker is kept under its name
-  std::optional<OffsetWish> offset;
-  bool replace = false;      // outputs that exist
-  bool keep_broken = false;  // deliver what the plug-in makes of files that the reader refuses
-  ReportManner report{};
-  bool single = false;  // one file, which the panel converts without a batch
-};
 
 struct ConvertedBatch {
   std::vector<Conversion> conversions;

@@ -18,14 +18,16 @@ constexpr std::size_t kFindings = 5;
 bool IsNumber(std::size_t column) { return column >= kFirstNumber && column < kFindings; }
 
 // "1e 2w 40n", or "-" where nothing was found.
-std::string Findings(const orvane::FileReport& report) {
+std::string Findings(const orvane::FileReport& report,
+                     const std::optional<orvane::FileReport>& mapping) {
   constexpr std::pair<orvane::FindingSeverity, char> kLetters[] = {
       {orvane::FindingSeverity::kError, 'e'},
       {orvane::FindingSeverity::kWarning, 'w'},
       {orvane::FindingSeverity::kNote, 'n'}};
+  if (report.file.empty()) return "-";
   std::string text;
   for (const auto& [severity, letter] : kLetters) {
-    const std::size_t count = report.Count(severity);
+    const std::size_t count = report.Count(severity) + (mapping ? mapping->Count(severity) : 0);
     if (count == 0) continue;
     text +=
         (text.empty() ? "" : " ") + orvane::FormatInt(static_cast<std::int64_t>(count)) + letter;
@@ -33,13 +35,13 @@ std::string Findings(const orvane::FileReport& report) {
   return text.empty() ? "-" : text;
 }
 
-Row RowOf(const Conversion& conversion) {
+Row RowOf(const Conversion& conversion, const std::optional<orvane::FileReport>& mapping) {
   const auto number = [&conversion](std::int64_t value) {
     return conversion.delivered ? orvane::FormatInt(value) : "-";
   };
   return {Printable(conversion.input),     number(conversion.frames),
           number(conversion.markers_kept), number(conversion.markers_dropped),
-          number(conversion.dropouts),     Findings(conversion.report),
+          number(conversion.dropouts),     Findings(conversion.report, mapping),
           Printable(conversion.output),    std::string(NameOf(conversion.status))};
 }
 
@@ -65,10 +67,11 @@ void PrintRow(const Row& row, const std::array<std::size_t, kColumns>& widths, s
 
 }  // namespace
 
-void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out) {
+void PrintConversionPage(const std::vector<Conversion>& conversions,
+                         const std::optional<orvane::FileReport>& mapping, std::ostream& out) {
   std::vector<Row> rows = {
       {"File", "Frames", "Kept", "Dropped", "Dropouts", "Found", "Output", "Status"}};
-  for (const Conversion& conversion : conversions) rows.push_back(RowOf(conversion));
+  for (const Conversion& conversion : conversions) rows.push_back(RowOf(conversion, mapping));
   const auto widths = WidthsOf(rows);
   for (const Row& row : rows) PrintRow(row, widths, out);
   const auto done =

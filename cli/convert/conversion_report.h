@@ -11,8 +11,10 @@
 
 namespace cli {
 
-// A table with a line for each file, and how many were converted.
-void PrintConversionPage(const std::vector<Conversion>& conversions, std::ostream& out);
+// A table with a line for each file, and how many were converted. What the report on the mapping
+// has found, if there is one, is counted with each file that was looked at.
+void PrintConversionPage(const std::vector<Conversion>& conversions,
+                         const std::optional<orvane::FileReport>& mapping, std::ostream& out);
 
 // `logs` are the files that hold the plug-in's own logs; `mapping` is the report on the mapping, if
 // there is one.

@@ -32,6 +32,11 @@ namespace {
 using orvane::Action;
 using orvane::FileReport;
 
+// Those of files, and of mappings, that leave no marker.
+constexpr const char* kCodesOfEmpty[] = {"mnm-entries-missing", "mnm-fits-nothing",
+                                         "trc-markers-missing"};
+constexpr char kEmpty[] = "empty";  // what --allow takes beside codes
+
 struct ConvertArguments {
   std::vector<std::string> inputs;
   OutputWishes output;
@@ -75,11 +80,7 @@ Failure WrongUsage(const std::string& flag, const std::string& text) {
 // The report on an input, without what an error of its conversion says.
 FileReport WithoutErrorsOf(const Conversion& conversion) {
   FileReport report = conversion.report;
-  if (conversion.announces_too_much) {
-    std::erase_if(report.findings, [](const orvane::ReportedFinding& finding) {
-      return finding.code == "trc-frames-too-many" || finding.code == "trc-frame-count";
-    });
-  }
+  for (const std::string& code : conversion.told) report = report.Without(code);
   return report;
 }
 
@@ -102,7 +103,7 @@ class Converting {
     if (arguments_.json) {
       PrintConversionJson(conversions_, delivered_logs_, mapping_report_, std::cout);
     } else if (!arguments_.quiet) {
-      PrintConversionPage(conversions_, std::cout);
+      PrintConversionPage(conversions_, mapping_report_, std::cout);
     }
     WriteReports();
     return Status();
@@ -118,12 +119,24 @@ class Converting {
       if (!order_.offset) throw WrongUsage("--offset", "takes three numbers, such as 0,0,12.5");
       order_.offset->in_trc_space = arguments_.offset_in_trc_space;
     }
+    AllowEmpty();
     order_.replace = arguments_.output.replace;
     order_.report.only_warnings = arguments_.quiet;
     // The plug-in makes nothing of a broken file that is alone.
     order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
     wishes_.mapping = order_.mapping;
     wishes_.logged = !order_.single;
+  }
+
+  // A strict user's files may be without markers then, too.
+  void AllowEmpty() {
+    std::vector<std::string>& allowed = order_.report.allowed;
+    order_.allow_empty = std::erase(allowed, kEmpty) > 0;
+    if (!allowed.empty() && !order_.report.strict) {
+      throw WrongUsage("--allow", "lets codes pass that --strict would refuse; it is missing");
+    }
+    if (!order_.allow_empty) return;
+    allowed.insert(allowed.end(), std::begin(kCodesOfEmpty), std::end(kCodesOfEmpty));
   }
 
   void RequireReportApart() const {
@@ -142,10 +155,15 @@ class Converting {
     if (order_.mapping.empty()) return;
     const std::string bytes = FileBytes(order_.mapping);
     if (order_.report.omitted) return;
-    mapping_report_ = ReportOn(orvane::CheckMapping(order_.mapping, bytes), Action::kConvert);
-    if (!Forbids(order_.report, *mapping_report_)) return;
+    orvane::ActionOptions options;
+    options.markers = order_.NeedsMarkers();
+    mapping_report_ =
+        ReportOn(orvane::CheckMapping(order_.mapping, bytes), Action::kConvert, options);
+    const bool is_mapping = mapping_report_->Count(orvane::FindingSeverity::kError) == 0;
+    if (is_mapping && !Forbids(order_.report, *mapping_report_)) return;
     Tell(*mapping_report_, order_.report);
     WriteReportFile({*mapping_report_}, order_.report);
+    if (!is_mapping) throw Failure{};  // that has been said
     throw ForbiddenByStrict();
   }
 
@@ -157,7 +175,7 @@ class Converting {
   }
 
   ExitStatus ShowPreview() {
-    const auto previews = PreviewConversions(conversions_, order_.mapping, order_.report);
+    const auto previews = PreviewConversions(conversions_, order_);
     Complain();
     if (arguments_.json) {
       PrintPreviewJson(previews, mapping_report_, std::cout);
@@ -334,7 +352,9 @@ void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
       ->type_name("N");
   verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
       ->type_name("PATH");
-  AddReportFlags(verb, arguments.order.report);
+  AddReportFlags(verb, arguments.order.report, kEmpty);
+  verb.get_option("--allow")->description(
+      "Codes of findings that --strict lets pass; empty: write files without markers, too");
   verb.add_flag("--json", arguments.json, "Write JSON");
   verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
 }

@@ -18,17 +18,17 @@ using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 2;
 
-// An output that exists keeps nothing from being shown.
+// Neither an output that exists nor one without markers keeps anything from being shown.
 bool IsReadable(const Conversion& conversion) {
   return conversion.status == ConversionStatus::kPlanned ||
-         conversion.status == ConversionStatus::kExists;
+         conversion.status == ConversionStatus::kExists ||
+         conversion.status == ConversionStatus::kEmpty;
 }
 
 class Previewer {
  public:
-  Previewer(const std::string& mapping, const ReportManner& manner)
-      : mapping_(mapping), manner_(manner) {
-    LoadMapping(mapping, naming_);
+  explicit Previewer(const ConversionOrder& order) : order_(order) {
+    LoadMapping(order.mapping, naming_);
   }
 
   ConversionPreview Preview(Conversion& conversion) const {
@@ -51,12 +51,14 @@ class Previewer {
 
  private:
   void Judge(Conversion& conversion) const {
-    JudgeInput(conversion, naming_);
-    if (!manner_.omitted) ReportOnInput(conversion, mapping_, manner_);
+    (void)JudgeInput(conversion, order_, naming_);  // each file would get its own rate
+    const bool is_unwanted = conversion.is_empty && !order_.allow_empty;
+    if (is_unwanted && conversion.status == ConversionStatus::kPlanned) {
+      conversion.status = ConversionStatus::kEmpty;
+    }
   }
 
-  const std::string& mapping_;
-  const ReportManner& manner_;
+  const ConversionOrder& order_;
   MarkerNaming naming_;
 };
 
@@ -105,9 +107,8 @@ void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
 }  // namespace
 
 std::vector<ConversionPreview> PreviewConversions(std::vector<Conversion>& conversions,
-                                                  const std::string& mapping,
-                                                  const ReportManner& manner) {
-  const Previewer previewer(mapping, manner);
+                                                  const ConversionOrder& order) {
+  const Previewer previewer(order);
   std::vector<ConversionPreview> previews;
   previews.reserve(conversions.size());
   for (Conversion& conversion : conversions) {

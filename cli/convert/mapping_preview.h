@@ -5,8 +5,8 @@
 #include <string>
 #include <vector>
 
-#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
+#include "cli/convert/conversion_order.h"
 
 // What a conversion would make of the markers of its files, found out without converting them.
 
@@ -23,11 +23,11 @@ struct ConversionPreview {
 };
 
 // Reads the headers of the inputs that are planned, notes in `conversions` which of them the reader
-// refuses, and looks the names up in the file `mapping`; when that is empty all markers keep their
-// names. The previews refer to `conversions`. Throws a Failure when the mapping cannot be read, and
-// when the user interrupts.
+// refuses and which would be empty, and looks the names up in the mapping of `order`. The previews
+// refer to `conversions`. Throws a Failure when the mapping cannot be read, and when the user
+// interrupts.
 [[nodiscard]] std::vector<ConversionPreview> PreviewConversions(
-    std::vector<Conversion>& conversions, const std::string& mapping, const ReportManner& manner);
+    std::vector<Conversion>& conversions, const ConversionOrder& order);
 
 void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostream& out);
 void PrintPreviewJson(const std::vector<ConversionPreview>& previews,

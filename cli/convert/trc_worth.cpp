@@ -32,10 +32,6 @@ using orvane::WhyTooShort;
 
 void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
                    const MarkerNaming& naming) {
-  if (document.MarkerCount() > 0 && !naming.KeepsAny(document)) {
-    conversion.warnings.push_back({conversion.input, "The mapping has none of the file's markers",
-                                   "\"orvane map lint\" compares the two."});
-  }
   for (const std::string& clash : naming.DescribeClashes(document)) {
     conversion.warnings.push_back(
         {conversion.input, clash, "Who reads the output cannot tell them apart."});
@@ -75,13 +71,14 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
   const FrameCounts counts{document.NumFrames(), held, held};
   const std::int64_t kept = CountKept(document, naming);
   Complaint refusal = FindExcess(conversion.input, counts, document.MarkerCount(), kept);
-  conversion.announces_too_much = !refusal.text.empty();
+  if (!refusal.text.empty()) conversion.told = {"trc-frames-too-many", "trc-frame-count"};
   if (refusal.text.empty()) refusal = FindShortness(conversion.input, counts, kept);
   if (!refusal.text.empty()) {
     conversion.status = ConversionStatus::kRefused;
     conversion.errors.push_back(refusal);
     return;
   }
+  conversion.is_empty = kept == 0;
   WarnOfMarkers(conversion, document, naming);
 }
 
@@ -93,24 +90,88 @@ RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& m
 
 // What the markers of the capture `file`, whose `bytes` these are, are to `mapping`.
 FileReport ReportOnMarkers(const std::string& mapping, const std::string& file,
-                           const std::string& bytes) {
+                           const std::string& bytes, const orvane::ActionOptions& options) {
   orvane::MappedCapture capture{file, {}};
   const std::optional<std::string> entries = orvane::ReadFileBytes(mapping);
   if (!entries || !orvane::ListTrcMarkers(bytes, capture.markers).empty()) return {};
-  return ReportOn(orvane::CheckMapping(mapping, *entries, capture).back(), Action::kConvert);
+  const auto checked = orvane::CheckMapping(mapping, *entries, capture);
+  return ReportOn(checked.back(), Action::kConvert, options);
 }
 
-FileReport ReportOnFile(const std::string& mapping, const std::string& file,
+// A cause hides what follows from it.
+FileReport WithoutConsequences(const FileReport& report) {
+  const bool fits_nothing = std::any_of(
+      report.findings.begin(), report.findings.end(),
+      [](const orvane::ReportedFinding& finding) { return finding.code == "mnm-fits-nothing"; });
+  if (!fits_nothing) return report;
+  return report.Without("mnm-marker-unmapped").Without("mnm-marker-unmappable");
+}
+
+FileReport ReportOnFile(const ConversionOrder& order, const std::string& file,
                         const std::string& bytes) {
-  FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert);
-  if (mapping.empty()) return report;
+  orvane::ActionOptions options;
+  options.markers = order.NeedsMarkers();
+  FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert, options);
+  if (order.mapping.empty()) return report;
   report = report.Without("trc-name-with-blank");  // no entry can name such a marker: it is dropped
-  report.Take(ReportOnMarkers(mapping, file, bytes));
-  return report;
+  report.Take(ReportOnMarkers(order.mapping, file, bytes, options));
+  return WithoutConsequences(report);
 }
 
 bool IsForbidden(const Conversion& conversion, const ReportManner& manner) {
   return Forbids(manner, conversion.report) || (manner.strict && !conversion.warnings.empty());
+}
+
+void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
+  const bool is_planned = conversion.status == ConversionStatus::kPlanned;
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
+  if (!bytes) return RequireInput(conversion);
+  try {
+    conversion.report = ReportOnFile(order, conversion.input, *bytes);
+  } catch (const orvane::CheckFailure& failure) {
+    conversion.status = ConversionStatus::kUnreadable;
+    conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
+    return;
+  }
+  if (!is_planned || !IsForbidden(conversion, order.report)) return;
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back(
+      {conversion.input, "The file is not converted, as --strict wishes", ""});
+}
+
+// Looks at the header of the input.
+RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming) {
+  RequireInput(conversion);
+  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
+  if (!outline) return RateSource::kFile;
+  orvane::TRCDocument document;
+  const std::string message = document.ReadBytes(outline->Header(), false);
+  const RateSource rate = RateSourceOf(*outline, message);
+  if (!message.empty()) return rate;
+  if (rate == RateSource::kFile) {
+    JudgeFrames(conversion, document, *outline, naming);
+  } else {
+    RefuseForeignRate(conversion);
+  }
+  return rate;
+}
+
+// Without a report nothing else says why.
+void SettleEmpty(Conversion& conversion, const ConversionOrder& order) {
+  conversion.status = ConversionStatus::kEmpty;
+  if (!order.report.omitted) return;
+  conversion.errors.push_back({conversion.input, "No marker is left to write",
+                               "--allow empty writes the file all the same."});
+}
+
+// Why a file ends too early, when the report knows: what whole file it is.
+bool NamesWhy(const Conversion& conversion) {
+  const auto& findings = conversion.report.findings;
+  return std::any_of(findings.begin(), findings.end(), [&conversion](const auto& finding) {
+    const auto& told = conversion.told;
+    return finding.severity == orvane::FindingSeverity::kError &&
+           std::find(told.begin(), told.end(), finding.code) == told.end();
+  });
 }
 
 }  // namespace
@@ -130,43 +191,22 @@ void RequireInput(Conversion& conversion) {
 
 void RefuseForeignRate(Conversion& conversion) {
   conversion.status = ConversionStatus::kRefused;
+  conversion.told = {"trc-markers-missing"};
   conversion.errors.push_back({conversion.input,
                                "The file ends before its third line, which tells its rates",
                                "It would be written with a camera rate that is not its own."});
 }
 
-RateSource JudgeInput(Conversion& conversion, const MarkerNaming& naming) {
-  RequireInput(conversion);
-  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
-  if (!outline) return RateSource::kFile;
-  orvane::TRCDocument document;
-  const std::string message = document.ReadBytes(outline->Header(), false);
-  const RateSource rate = RateSourceOf(*outline, message);
-  if (!message.empty()) return rate;
-  if (rate == RateSource::kFile) {
-    JudgeFrames(conversion, document, *outline, naming);
-  } else {
-    RefuseForeignRate(conversion);
-  }
+RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
+                      const MarkerNaming& naming) {
+  const RateSource rate = JudgeHeader(conversion, naming);
+  const bool is_settled = conversion.status != ConversionStatus::kPlanned;
+  if (!is_settled && conversion.is_empty && order.NeedsMarkers()) SettleEmpty(conversion, order);
+  const bool is_unreadable = conversion.status == ConversionStatus::kUnreadable;
+  if (!order.report.omitted && !is_unreadable) ReportOnInput(conversion, order);
+  const bool ends_early = rate == RateSource::kOthersShort && is_settled;
+  if (ends_early && NamesWhy(conversion)) conversion.errors.clear();
   return rate;
-}
-
-void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner) {
-  const bool is_planned = conversion.status == ConversionStatus::kPlanned;
-  if (!is_planned && conversion.status != ConversionStatus::kRefused) return;
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
-  if (!bytes) return RequireInput(conversion);
-  try {
-    conversion.report = ReportOnFile(mapping, conversion.input, *bytes);
-  } catch (const orvane::CheckFailure& failure) {
-    conversion.status = ConversionStatus::kUnreadable;
-    conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
-    return;
-  }
-  if (!is_planned || !IsForbidden(conversion, manner)) return;
-  conversion.status = ConversionStatus::kRefused;
-  conversion.errors.push_back(
-      {conversion.input, "The file is not converted, as --strict wishes", ""});
 }
 
 }  // namespace cli

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "cli/common/report_flags.h"
 #include "cli/convert/conversion.h"
+#include "cli/convert/conversion_order.h"
 #include "inspect/check/marker_naming.h"
 
 // Whether a marker file is worth converting: the plug-in writes a block for every frame that the
@@ -26,17 +26,15 @@ enum class RateSource {
 // Settles `conversion` as refused, because its output would have the rate of another file.
 void RefuseForeignRate(Conversion& conversion);
 
-// Looks at the input of `conversion` and notes in it how many markers it has, as dropped ones. When
-// frames are missing out of proportion it is refused; so is a file that is too short for a rate. It
-// gets a warning when `naming` leaves no marker to write, or makes one name of several. A file that
+// Looks at the input of `conversion`, whose markers get their names by `naming`, and notes in it
+// how many markers it has, as dropped ones, and whether any is left. When frames are missing out of
+// proportion it is refused; so is a file that is too short for a rate. One without markers to write
+// is settled as empty when `order` needs some. Where a report is wished for, what is odd in the
+// input, and in its markers against the mapping, is kept as the conversion's; when that is
+// forbidden or one name is made of several, a strict user's conversion is refused. A file that
 // cannot be read is settled; one that the reader refuses is left to the plug-in, which tells that.
 // Returns kFile when nothing is to be read.
-RateSource JudgeInput(Conversion& conversion, const orvane::MarkerNaming& naming);
-
-// Finds what is odd in the input of `conversion`, and in its markers against the file `mapping`,
-// unless that is empty, and keeps it as the conversion's report. When `manner` forbids what is
-// found, or the conversion has a warning and the user is strict, it is settled as refused; and as
-// unreadable when its input cannot be checked.
-void ReportOnInput(Conversion& conversion, const std::string& mapping, const ReportManner& manner);
+RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
+                      const orvane::MarkerNaming& naming);
 
 }  // namespace cli

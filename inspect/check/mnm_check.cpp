@@ -69,6 +69,9 @@ class MappingComparison {
   }
 
   void CheckMarkers(FindingList& findings) const {
+    const bool fits_nothing = std::none_of(markers_.begin(), markers_.end(),
+                                           [this](const auto& marker) { return IsMapped(marker); });
+    if (fits_nothing && !markers_.empty()) AddFitsNothing(findings);
     for (const TrcMarkerName& marker : markers_) {
       if (!IsMapped(marker)) AddUnmapped(marker, findings);
     }
@@ -82,6 +85,16 @@ class MappingComparison {
     findings.Add(mnm::Rule("mnm-entry-unused"), entry, [&] {
       return FindingWords{Quote(entry.trc_name), ExpectedFor(entry),
                           "The capture has no such marker: the line changes nothing."};
+    });
+  }
+
+  void AddFitsNothing(FindingList& findings) const {
+    findings.Add(mnm::Rule("mnm-fits-nothing"), markers_.front().place, [this] {
+      const std::string markers = markers_.size() == 1
+                                      ? "the file's only marker"
+                                      : "any of the file's " + CountOf(markers_.size(), "marker");
+      return FindingWords{"no entry for " + markers, "entries for its markers in " + mapping_,
+                          "Every marker is dropped."};
     });
   }
 

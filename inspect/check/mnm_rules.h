@@ -32,6 +32,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"mnm-entry-shadowed", FindingSeverity::kWarning},
 
     // Entries and the markers of a capture
+    {"mnm-fits-nothing", FindingSeverity::kError},
     {"mnm-entry-unused", FindingSeverity::kWarning},
     {"mnm-marker-unmapped", FindingSeverity::kWarning},
     {"mnm-marker-unmappable", FindingSeverity::kWarning},

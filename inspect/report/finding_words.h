@@ -64,10 +64,11 @@ constexpr FindingEffects InMappings(FindingSeverity severity, const char* conseq
 
 // What a finding is about, as far as an action may not ask for it.
 enum class Concern {
-  kFile,    // what every action asks for
-  kRate,    // the frame rate
-  kFrames,  // frames that are announced and not there, or the other way round
-  kExcess,  // far more frames announced than are there
+  kFile,     // what every action asks for
+  kRate,     // the frame rate
+  kFrames,   // frames that are announced and not there, or the other way round
+  kExcess,   // far more frames announced than are there
+  kMarkers,  // that no marker is left
 };
 
 struct FindingMeaning {

@@ -7,14 +7,17 @@ using enum FindingSeverity;
 
 constexpr FindingMeaning kWords[] = {
     {"mnm-other-kind", "The file is {found}, not {expected}", nullptr,
-     InMappings(kError).But(Action::kConvert, kWarning,
-                            "No marker has its entry, and all are dropped.")},
+     InMappings(kError).But(Action::kConvert, kError,
+                            "Nothing is converted; \"orvane map create\" makes a mapping.")},
     {"mnm-encoding", "The mapping is UTF-16 text", nullptr,
      InMappings(kError, "No marker has its entry, and all are dropped.")
-         .But(Action::kConvert, kWarning, "No marker has its entry, and all are dropped.")},
+         .But(Action::kConvert, kError,
+              "No entry can be read, and nothing is converted; save it as UTF-8 or ASCII.")},
     {"mnm-line-ends", "Lines of the mapping end with carriage returns alone", nullptr,
      InMappings(kError, "Up to an LF only the first two words are read.")
-         .But(Action::kConvert, kWarning, "Up to an LF only the first two words are read.")},
+         .But(Action::kConvert, kError,
+              "Only its first two words can be read, and nothing is converted; save it with LF or "
+              "CR LF.")},
     {"mnm-byte-order-mark", "A byte-order mark stands at the start of the mapping", nullptr,
      InMappings(kWarning, "It belongs to the first name, which is then not what it looks like.")},
     {"mnm-nul", "A line of the mapping holds a NUL byte",
@@ -32,7 +35,10 @@ constexpr FindingMeaning kWords[] = {
      InMappings(kWarning, "What stands behind the second is not read.")},
     {"mnm-entries-missing", "The mapping has no entries", nullptr,
      InMappings(kError, "Every marker is dropped.")
-         .But(Action::kConvert, kWarning, "Every marker is dropped.")},
+         .But(Action::kConvert, kError,
+              "Every marker would be dropped, and nothing is converted; --allow empty converts all "
+              "the same."),
+     Concern::kMarkers},
     {"mnm-standard-unknown", "A name of the mapping is no standard marker",
      "{count} names of the mapping are no standard markers",
      InMappings(kWarning, "Such a name is written all the same.")
@@ -45,6 +51,12 @@ constexpr FindingMeaning kWords[] = {
     {"mnm-entry-shadowed", "A marker has two entries in the mapping",
      "{count} markers have several entries in the mapping",
      InMappings(kWarning, "The first of its entries counts.")},
+    {"mnm-fits-nothing", "The mapping has {found}", nullptr,
+     InMappings(kError, "Every marker is dropped.")
+         .But(Action::kConvert, kError,
+              "Every marker would be dropped, and nothing is written; --allow empty writes it all "
+              "the same."),
+     Concern::kMarkers},
     {"mnm-entry-unused", "An entry of the mapping is of no marker of the capture",
      "{count} entries of the mapping are of no marker of the capture",
      FindingEffects(std::array{Action::kInspect}, {kWarning, "Such an entry changes nothing."})},

@@ -82,6 +82,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   if (words.concern == Concern::kExcess && options.frames == AskedFrames::kMissing) {
     return {FindingSeverity::kWarning, "Frames that are not there are made up."};
   }
+  if (words.concern == Concern::kMarkers && !options.markers) {
+    return {FindingSeverity::kWarning, "No marker is written."};
+  }
   return words.effects[action];
 }
 

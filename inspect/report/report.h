@@ -53,6 +53,7 @@ enum class AskedFrames {
 struct ActionOptions {
   bool rate = true;  // its frame rate
   AskedFrames frames = AskedFrames::kAnnounced;
+  bool markers = true;  // at least one marker
 };
 
 // What the findings of `checked` mean to `action`. What is wrong with something that is not asked

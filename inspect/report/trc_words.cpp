@@ -88,7 +88,9 @@ constexpr FindingMeaning kWords[] = {
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
          .But(Action::kInspect, kError, "There is nothing to show.")
-         .But(Action::kConvert, kWarning, "No marker is written.")},
+         .But(Action::kConvert, kError,
+              "Nothing is written; --allow empty writes it without markers."),
+     Concern::kMarkers},
     {"trc-marker-count", "The file holds {found}, and NumMarkers announces {expected}", nullptr,
      InMarkers(kNote, "The markers that are there are taken.")
          .But(Action::kInspect, kWarning, "The markers that are there are shown.")},

@@ -105,8 +105,8 @@ INSTANTIATE_TEST_SUITE_P(All, DamagedFilesTest,
                                                 "mappings.tsv",
                                                 "inspect/check/mnm_rules.h",
                                                 "docs/formats/mnm.md",
-                                                {"mnm-entry-unused", "mnm-marker-unmapped",
-                                                 "mnm-marker-unmappable"}}),
+                                                {"mnm-entry-unused", "mnm-fits-nothing",
+                                                 "mnm-marker-unmapped", "mnm-marker-unmappable"}}),
                          [](const auto& each) { return each.param.prefix; });
 
 }  // namespace
