@@ -103,18 +103,33 @@ void TellAll(const std::vector<FileReport>& reports, const ReportManner& manner)
   }
 }
 
-bool Forbids(const ReportManner& manner, const FileReport& report) {
-  if (!manner.strict) return false;
-  return std::any_of(
-      report.findings.begin(), report.findings.end(), [&manner](const ReportedFinding& finding) {
-        const auto& allowed = manner.allowed;
-        return finding.severity != FindingSeverity::kNote &&
-               std::find(allowed.begin(), allowed.end(), finding.code) == allowed.end();
-      });
+std::vector<std::string_view> ForbiddingCodes(const ReportManner& manner,
+                                              const FileReport& report) {
+  std::vector<std::string_view> codes;
+  if (!manner.strict) return codes;
+  const auto& allowed = manner.allowed;
+  for (const ReportedFinding& finding : report.findings) {
+    const bool is_allowed =
+        std::find(allowed.begin(), allowed.end(), finding.code) != allowed.end();
+    if (finding.severity != FindingSeverity::kNote && !is_allowed) codes.push_back(finding.code);
+  }
+  return codes;
 }
 
-Failure ForbiddenByStrict() {
-  return {ExitStatus::kRefused, {{"--strict", "nothing was written because of this", ""}}};
+bool Forbids(const ReportManner& manner, const FileReport& report) {
+  return !ForbiddingCodes(manner, report).empty();
+}
+
+std::string ListOf(const std::vector<std::string_view>& codes) {
+  std::string list;
+  for (const std::string_view code : codes) list.append(list.empty() ? "" : ", ").append(code);
+  return list;
+}
+
+Failure ForbiddenByStrict(const ReportManner& manner, const FileReport& report) {
+  const std::string nothing = manner.dry_run ? "nothing would be written" : "nothing was written";
+  const std::string codes = ListOf(ForbiddingCodes(manner, report));
+  return {ExitStatus::kRefused, {{"--strict", nothing + " because of " + codes, ""}}};
 }
 
 void RequireReportApart(const ReportManner& manner, const std::vector<std::string>& inputs,

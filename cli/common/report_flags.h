@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/common/failure.h"
@@ -21,6 +22,7 @@ struct ReportManner {
   std::vector<std::string> allowed;  // codes that are none even then
   std::string file;                  // to write the report to; empty for none
   bool only_warnings = false;        // and errors are told, no notes
+  bool dry_run = false;              // nothing is written, whatever is found
 };
 
 // Adds the flags to `verb` that set `manner`, which must outlive the parsing: all of them to one
@@ -37,11 +39,21 @@ void Tell(const orvane::FileReport& report, const ReportManner& manner);
 // number of files and the first.
 void TellAll(const std::vector<orvane::FileReport>& reports, const ReportManner& manner);
 
-// Whether something in `report` keeps a strict user's file from being worked on.
+// What in `report` keeps a strict user's file from being worked on, each code once, the worst
+// first; none when he is not strict. The codes live as long as the program.
+[[nodiscard]] std::vector<std::string_view> ForbiddingCodes(const ReportManner& manner,
+                                                            const orvane::FileReport& report);
+
+// Whether there are any.
 [[nodiscard]] bool Forbids(const ReportManner& manner, const orvane::FileReport& report);
 
-// That nothing comes of the work because of that.
-[[nodiscard]] Failure ForbiddenByStrict();
+// "trc-number-missing, trc-frame-count".
+[[nodiscard]] std::string ListOf(const std::vector<std::string_view>& codes);
+
+// That nothing comes of the work because of those in `report`.
+// REQUIRES: there are any.
+[[nodiscard]] Failure ForbiddenByStrict(const ReportManner& manner,
+                                        const orvane::FileReport& report);
 
 // Throws a Failure for wrong usage when the report would take the place of one of `inputs`, which
 // are read, or of `outputs`, which are made.

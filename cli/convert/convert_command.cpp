@@ -164,7 +164,7 @@ class Converting {
     Tell(*mapping_report_, order_.report);
     WriteReportFile({*mapping_report_}, order_.report);
     if (!is_mapping) throw Failure{};  // that has been said
-    throw ForbiddenByStrict();
+    throw ForbiddenByStrict(order_.report, *mapping_report_);
   }
 
   static void RequireFolder(const std::string& folder) {

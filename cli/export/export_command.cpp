@@ -66,7 +66,7 @@ orvane::FileReport TellOfScene(const host::Scene& scene, const ExportChoices& ch
                orvane::Action::kExport);
   WriteReportFile({report}, manner);
   Tell(report, manner);
-  if (Forbids(manner, report)) throw ForbiddenByStrict();
+  if (Forbids(manner, report)) throw ForbiddenByStrict(manner, report);
   return report;
 }
 

@@ -105,6 +105,7 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
 ReportManner ReportMannerOf(const ImportArguments& arguments) {
   ReportManner manner = arguments.report;
   manner.only_warnings = arguments.quiet;
+  manner.dry_run = arguments.dry_run;
   return manner;
 }
 

@@ -62,7 +62,7 @@ ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoi
     throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   }
   Tell(told.report, manner);
-  if (Forbids(manner, told.report)) throw ForbiddenByStrict();
+  if (Forbids(manner, told.report)) throw ForbiddenByStrict(manner, told.report);
   told.has_errors = told.report.Count(orvane::FindingSeverity::kError) > 0;
   told.complaints = std::move(inspection.complaints);
   return told;

@@ -79,7 +79,7 @@ orvane::FileReport TellOfMarkers(const std::string& input, const host::Scene& sc
   }
   Tell(report, manner);
   if (inspection.refusal) throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
-  if (Forbids(manner, report)) throw ForbiddenByStrict();
+  if (Forbids(manner, report)) throw ForbiddenByStrict(manner, report);
   return report;
 }
 

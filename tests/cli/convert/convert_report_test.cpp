@@ -153,7 +153,8 @@ TEST_F(ConvertReportTest, StrictRefusesAllForTheMapping) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.output, "");
   EXPECT_THAT(result.error, HasSubstr(" [mnm-rest-ignored]\n"));
-  EXPECT_THAT(result.error, EndsWith("orvane: --strict: nothing was written because of this\n"));
+  EXPECT_THAT(result.error,
+              EndsWith("orvane: --strict: nothing was written because of mnm-rest-ignored\n"));
   EXPECT_FALSE(Exists("walk.bvk"));
   EXPECT_EQ(json::parse(Read("report.json"))["files"][0]["findings"][0]["code"],
             "mnm-rest-ignored");

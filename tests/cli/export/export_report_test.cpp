@@ -130,7 +130,7 @@ TEST_F(ExportReportTest, StrictRefusesUnlessItIsAllowed) {
   EXPECT_EQ(refused.error,
             "orvane: scene.glb: warning: A bone has a blank in its name, or the name of another: "
             "\"The head\". Such a bone is left out, with all below it. [export-name-refused]\n"
-            "orvane: --strict: nothing was written because of this\n");
+            "orvane: --strict: nothing was written because of export-name-refused\n");
   EXPECT_FALSE(Exists("out.htr"));
   EXPECT_EQ(Export({"--strict", "--allow", "export-name-refused"}).status, 0);
 }

@@ -169,7 +169,10 @@ TEST_F(ApplyMotionReportTest, ADryRunOfNewBonesShowsWhatWouldBeMade) {
 
 TEST_F(ApplyMotionReportTest, ADryRunIsRefusedWhereTheImportWouldBe) {
   EXPECT_EQ(Apply(SmallMotion(), {"--dry-run", "--scale", "0"}).status, 1);
-  EXPECT_EQ(Apply(OtherNames(), {"--dry-run", "--strict"}).status, 1);
+  const ProgramResult strict = Apply(OtherNames(), {"--dry-run", "--strict"});
+  EXPECT_EQ(strict.status, 1);
+  EXPECT_THAT(strict.error, testing::EndsWith("orvane: --strict: nothing would be written because "
+                                              "of apply-name-missing-in-scene\n"));
 }
 
 TEST_F(ApplyMotionReportTest, ADryRunStoresNothing) {

@@ -92,7 +92,8 @@ TEST_F(FrameCountsTest, OfSegmentsThatHoldFewerAndMoreBothConsequencesAreTold) {
 TEST_F(FrameCountsTest, WithStrictTheWarningIsARefusal) {
   const ProgramResult result = Import("4", {"--strict"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.error, testing::EndsWith("nothing was written because of this\n"));
+  EXPECT_THAT(result.error, testing::EndsWith("orvane: --strict: nothing was written because of "
+                                              "htr-frame-count\n"));
   EXPECT_THAT(Names(), ElementsAre("walk.htr"));
 }
 

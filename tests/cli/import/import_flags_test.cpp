@@ -230,7 +230,7 @@ TEST_F(ImportFlagsTest, StrictTakesWarningsAsRefusals) {
       {"--strict"},
       "warning: ScaleFactor is not 1: \"2\" (line 13, column 13). Nothing is multiplied by "
       "it; --scale multiplies. [htr-scale-factor]\n"
-      "orvane: --strict: nothing was written because of this\n");
+      "orvane: --strict: nothing was written because of htr-scale-factor\n");
 }
 
 TEST_F(ImportFlagsTest, StrictDoesNotMindACleanFile) {

@@ -98,8 +98,8 @@ TEST_F(RigTest, WithoutParentTransformsTheYardDoesNotCount) {
 TEST_F(RigTest, StrictRefusesWhatIsWarnedOf) {
   const test::ProgramResult result = Export("Mast", {"--strict"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.error,
-              testing::EndsWith("orvane: --strict: nothing was written because of this\n"));
+  EXPECT_THAT(result.error, testing::EndsWith("orvane: --strict: nothing was written because of "
+                                              "export-below-helper, export-name-refused\n"));
   EXPECT_FALSE(Exists("rig.htr"));
 }
 

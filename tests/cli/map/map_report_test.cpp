@@ -65,7 +65,8 @@ TEST_F(MapReportTest, WithoutAReportNothingIsSaidOfIt) {
 TEST_F(MapReportTest, StrictRefusesUnlessItIsAllowed) {
   const ProgramResult result = Create({"--strict"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_EQ(result.error, warning_ + "orvane: --strict: nothing was written because of this\n");
+  EXPECT_EQ(result.error,
+            warning_ + "orvane: --strict: nothing was written because of trc-unit-unknown\n");
   EXPECT_THAT(Names(), ElementsAre("picks", "walk.trc"));
   EXPECT_EQ(Create({"--strict", "--allow", "trc-unit-unknown"}).status, 0);
 }
