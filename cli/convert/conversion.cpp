@@ -46,13 +46,13 @@ FileReport UnpackReport(const json& packed, const std::string& file) {
 }
 
 json Pack(const Conversion& conversion) {
-  return {conversion.input,          conversion.source,
-          conversion.output,         static_cast<int>(conversion.status),
-          conversion.delivered,      conversion.frames,
-          conversion.markers_kept,   conversion.markers_dropped,
-          conversion.dropouts,       Pack(conversion.errors),
-          Pack(conversion.warnings), Pack(conversion.report),
-          conversion.told,           conversion.is_empty};
+  return {conversion.input,        conversion.source,
+          conversion.output,       static_cast<int>(conversion.status),
+          conversion.delivered,    conversion.frames,
+          conversion.markers_kept, conversion.markers_dropped,
+          conversion.dropouts,     Pack(conversion.errors),
+          Pack(conversion.report), conversion.told,
+          conversion.is_empty};
 }
 
 Conversion Unpack(const json& packed) {
@@ -66,10 +66,9 @@ Conversion Unpack(const json& packed) {
           packed.at(7),
           packed.at(8),
           UnpackComplaints(packed.at(9)),
-          UnpackComplaints(packed.at(10)),
-          UnpackReport(packed.at(11), packed.at(0)),
-          packed.at(12),
-          packed.at(13)};
+          UnpackReport(packed.at(10), packed.at(0)),
+          packed.at(11),
+          packed.at(12)};
 }
 
 }  // namespace

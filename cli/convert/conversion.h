@@ -39,7 +39,6 @@ struct Conversion {
   std::int64_t dropouts = 0;  // of the markers that are kept
 
   std::vector<Complaint> errors;
-  std::vector<Complaint> warnings;
   orvane::FileReport report;      // what is odd in the input; empty when that is not looked for
   std::vector<std::string> told;  // codes in it that an error tells of in their place
   bool is_empty = false;          // no marker is left to write

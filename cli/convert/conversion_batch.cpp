@@ -233,7 +233,6 @@ class BatchConversion {
   void Finish(Conversion& conversion, const std::string& made, const std::string& message) {
     if (!message.empty()) {
       Settle(conversion, ConversionStatus::kBroken, conversion.input, message);
-      conversion.warnings.clear();
       if (!order_.keep_broken || !platform::WhyUnreadable(conversion.source).empty()) return;
     }
     std::optional<BvkSummary> summary;

@@ -25,21 +25,27 @@ void WriteCount(JsonWriter& json, std::string_view key, const Conversion& conver
   }
 }
 
-void WriteTexts(JsonWriter& json, std::string_view key, const std::vector<Complaint>& complaints) {
+void WriteTexts(JsonWriter& json, std::string_view key, const std::vector<std::string>& texts) {
   json.Key(key);
   json.BeginArray(Layout::kOneLine);
-  for (const Complaint& complaint : complaints) json.String(complaint.text);
+  for (const std::string& text : texts) json.String(text);
   json.EndArray();
 }
 
-// Those of the program, and what was found in the file.
-std::vector<Complaint> WarningsOf(const Conversion& conversion) {
-  std::vector<Complaint> warnings;
+std::vector<std::string> ErrorsOf(const Conversion& conversion) {
+  std::vector<std::string> errors;
+  for (const Complaint& complaint : conversion.errors) errors.push_back(complaint.text);
+  return errors;
+}
+
+// What was found in the file.
+std::vector<std::string> WarningsOf(const Conversion& conversion) {
+  std::vector<std::string> warnings;
   for (const orvane::ReportedFinding& finding : conversion.report.findings) {
     if (finding.severity == orvane::FindingSeverity::kNote) continue;
-    warnings.push_back({"", finding.cause + ". " + finding.consequence, ""});
+    warnings.push_back(finding.cause + (finding.cause.ends_with("...") ? " " : ". ") +
+                       finding.consequence);
   }
-  warnings.insert(warnings.end(), conversion.warnings.begin(), conversion.warnings.end());
   return warnings;
 }
 
@@ -54,7 +60,7 @@ void WriteFile(JsonWriter& json, const Conversion& conversion) {
   WriteCount(json, "markers_kept", conversion, conversion.markers_kept);
   WriteCount(json, "markers_dropped", conversion, conversion.markers_dropped);
   WriteCount(json, "dropouts", conversion, conversion.dropouts);
-  WriteTexts(json, "errors", conversion.errors);
+  WriteTexts(json, "errors", ErrorsOf(conversion));
   WriteTexts(json, "warnings", WarningsOf(conversion));
   json.Key("findings");
   WriteFindings(json, conversion.report);

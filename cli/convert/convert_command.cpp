@@ -3,12 +3,12 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <iostream>
 #include <limits>
 #include <map>
 #include <memory>
 
-#include "cli/common/choice.h"
 #include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
@@ -16,12 +16,14 @@
 #include "cli/convert/conversion_batch.h"
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/conversion_report.h"
+#include "cli/convert/convert_flags.h"
 #include "cli/convert/mapping_preview.h"
 #include "formats/text/numbers.h"
 #include "inspect/check/mnm_check.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
 #include "platform/output_file.h"
+#include "platform/path_text.h"
 #include "platform/scratch_folder.h"
 #include "platform/side_by_side.h"
 #include "platform/terminal.h"
@@ -35,19 +37,6 @@ using orvane::FileReport;
 // Those of files, and of mappings, that leave no marker.
 constexpr const char* kCodesOfEmpty[] = {"mnm-entries-missing", "mnm-fits-nothing",
                                          "trc-markers-missing"};
-constexpr char kEmpty[] = "empty";  // what --allow takes beside codes
-
-struct ConvertArguments {
-  std::vector<std::string> inputs;
-  OutputWishes output;
-  ConversionOrder order;
-  std::string offset;
-  bool offset_in_trc_space = true;
-  std::size_t jobs = platform::ProcessorCount();
-  bool dry_run = false;
-  bool json = false;
-  bool quiet = false;
-};
 
 // Whether the panel takes `text` for a number; it passes over what is none without a word.
 bool IsOffset(const std::string& text) {
@@ -82,6 +71,13 @@ FileReport WithoutErrorsOf(const Conversion& conversion) {
   FileReport report = conversion.report;
   for (const std::string& code : conversion.told) report = report.Without(code);
   return report;
+}
+
+// Whether nothing new has taken the place of the output that was there.
+bool HasOlderOutput(const Conversion& conversion) {
+  std::error_code error;  // such as that a path is too long
+  return !conversion.delivered && conversion.status != ConversionStatus::kFailed &&
+         std::filesystem::is_regular_file(platform::PathOf(conversion.output), error);
 }
 
 class Converting {
@@ -122,6 +118,7 @@ class Converting {
     AllowEmpty();
     order_.replace = arguments_.output.replace;
     order_.report.only_warnings = arguments_.quiet;
+    order_.report.dry_run = arguments_.dry_run;
     // The plug-in makes nothing of a broken file that is alone.
     order_.single = arguments_.inputs.size() == 1 && !order_.keep_broken;
     wishes_.mapping = order_.mapping;
@@ -131,7 +128,7 @@ class Converting {
   // A strict user's files may be without markers then, too.
   void AllowEmpty() {
     std::vector<std::string>& allowed = order_.report.allowed;
-    order_.allow_empty = std::erase(allowed, kEmpty) > 0;
+    order_.allow_empty = std::erase(allowed, kAllowEmpty) > 0;
     if (!allowed.empty() && !order_.report.strict) {
       throw WrongUsage("--allow", "lets codes pass that --strict would refuse; it is missing");
     }
@@ -163,6 +160,7 @@ class Converting {
     if (is_mapping && !Forbids(order_.report, *mapping_report_)) return;
     Tell(*mapping_report_, order_.report);
     WriteReportFile({*mapping_report_}, order_.report);
+    TellOfOlderOutputs();
     if (!is_mapping) throw Failure{};  // that has been said
     throw ForbiddenByStrict(order_.report, *mapping_report_);
   }
@@ -284,12 +282,27 @@ class Converting {
   void Complain() const {
     TellAll(Reports(WithoutErrorsOf), order_.report);
     for (const Conversion& conversion : conversions_) {
-      for (const Complaint& warning : conversion.warnings) Print(Severity::kWarning, warning);
       for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
     }
+    TellOfOlderOutputs();
     if (platform::Interrupted()) {
       Print(Severity::kError, {"", "interrupted; what was converted stays", ""});
     }
+  }
+
+  // A user who has wished for others could take them for new ones.
+  void TellOfOlderOutputs() const {
+    if (arguments_.dry_run || !order_.replace) return;
+    std::vector<std::string> older;
+    for (const Conversion& conversion : conversions_) {
+      if (HasOlderOutput(conversion)) older.push_back(conversion.output);
+    }
+    if (older.empty()) return;
+    const std::string text = older.size() == 1
+                                 ? "is still the older one"
+                                 : "is the first of " + orvane::CountOf(older.size(), "output") +
+                                       " that are still the older ones";
+    Print(Severity::kWarning, {older.front(), text, ""});
   }
 
   // That of the worst file.
@@ -310,64 +323,12 @@ class Converting {
   std::optional<FileReport> mapping_report_;
 };
 
-void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
-  verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
-  CLI::Option* output =
-      verb.add_option("-o,--output", arguments.output.file, "The BVK file to write, for one FILE")
-          ->check(
-              [](const std::string& path) {
-                return IsBvkFileName(path) ? "" : path + " does not end in .bvk";
-              },
-              "")
-          ->type_name("OUT");
-  RequireName(verb.add_option("--output-dir", arguments.output.folder,
-                              "The folder to write to (each beside its FILE)"))
-      ->type_name("DIR")
-      ->excludes(output);
-  verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
-  // What is kept is made by a batch, which names its outputs after its inputs.
-  verb.add_flag("--keep-broken", arguments.order.keep_broken,
-                "Deliver what the plug-in makes of files that its reader refuses")
-      ->excludes(output);
-  verb.add_flag("--dry-run", arguments.dry_run,
-                "Show what would become of the files and their markers; write nothing");
-}
-
-void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
-  RequireName(verb.add_option("--mapping", arguments.order.mapping,
-                              "The mapping file: rename the markers it lists, drop the others"))
-      ->type_name("M.mnm");
-  CLI::Option* offset =
-      verb.add_option("--offset", arguments.offset, "Add X, Y and Z to every position")
-          ->type_name("X,Y,Z");
-  AddChoice(
-      verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
-      [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
-      ->needs(offset);
-}
-
-void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
-  verb.add_option("--jobs", arguments.jobs, "How many processes run side by side (one a processor)")
-      ->check(CLI::Range(1, 256))
-      ->type_name("N");
-  verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
-      ->type_name("PATH");
-  AddReportFlags(verb, arguments.order.report, kEmpty);
-  verb.get_option("--allow")->description(
-      "Codes of findings that --strict lets pass; empty: write files without markers, too");
-  verb.add_flag("--json", arguments.json, "Write JSON");
-  verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
-}
-
 }  // namespace
 
 void AddConvertCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<ConvertArguments>();
-  arguments->order.module = DefaultModulePath();
   CLI::App* verb = app.add_subcommand("convert", "Convert TRC marker files to BVK files");
-  AddFileArguments(*verb, *arguments);
-  AddPanelFlags(*verb, *arguments);
-  AddRunFlags(*verb, *arguments);
+  AddConvertFlags(*verb, *arguments);
   verb->callback(
       [arguments, &work] { work = [arguments] { return Converting(*arguments).Run(); }; });
 }

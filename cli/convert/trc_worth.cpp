@@ -30,14 +30,6 @@ using orvane::OutlineTrcFile;
 using orvane::WhyOutOfProportion;
 using orvane::WhyTooShort;
 
-void WarnOfMarkers(Conversion& conversion, const orvane::TRCDocument& document,
-                   const MarkerNaming& naming) {
-  for (const std::string& clash : naming.DescribeClashes(document)) {
-    conversion.warnings.push_back(
-        {conversion.input, clash, "Who reads the output cannot tell them apart."});
-  }
-}
-
 // How many of the markers are written.
 std::int64_t CountKept(const orvane::TRCDocument& document, const MarkerNaming& naming) {
   const auto& markers = document.markers();
@@ -79,7 +71,6 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
     return;
   }
   conversion.is_empty = kept == 0;
-  WarnOfMarkers(conversion, document, naming);
 }
 
 RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& message) {
@@ -118,8 +109,12 @@ FileReport ReportOnFile(const ConversionOrder& order, const std::string& file,
   return WithoutConsequences(report);
 }
 
-bool IsForbidden(const Conversion& conversion, const ReportManner& manner) {
-  return Forbids(manner, conversion.report) || (manner.strict && !conversion.warnings.empty());
+void RefuseStrictly(Conversion& conversion, const ConversionOrder& order) {
+  const std::string codes = ListOf(ForbiddingCodes(order.report, conversion.report));
+  const std::string verb = order.report.dry_run ? "would not be converted" : "is not converted";
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back(
+      {conversion.input, "With --strict the file " + verb + " because of " + codes, ""});
 }
 
 void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
@@ -133,10 +128,7 @@ void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
     conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
     return;
   }
-  if (!is_planned || !IsForbidden(conversion, order.report)) return;
-  conversion.status = ConversionStatus::kRefused;
-  conversion.errors.push_back(
-      {conversion.input, "The file is not converted, as --strict wishes", ""});
+  if (is_planned && Forbids(order.report, conversion.report)) RefuseStrictly(conversion, order);
 }
 
 // Looks at the header of the input.

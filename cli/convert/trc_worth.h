@@ -30,10 +30,9 @@ void RefuseForeignRate(Conversion& conversion);
 // how many markers it has, as dropped ones, and whether any is left. When frames are missing out of
 // proportion it is refused; so is a file that is too short for a rate. One without markers to write
 // is settled as empty when `order` needs some. Where a report is wished for, what is odd in the
-// input, and in its markers against the mapping, is kept as the conversion's; when that is
-// forbidden or one name is made of several, a strict user's conversion is refused. A file that
-// cannot be read is settled; one that the reader refuses is left to the plug-in, which tells that.
-// Returns kFile when nothing is to be read.
+// input, and in its markers against the mapping, is kept as the conversion's; when `order` forbids
+// that, the conversion is refused. A file that cannot be read is settled; one that the reader
+// refuses is left to the plug-in, which tells that. Returns kFile when nothing is to be read.
 RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
                       const orvane::MarkerNaming& naming);
 

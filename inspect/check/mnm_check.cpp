@@ -1,6 +1,7 @@
 #include "inspect/check/mnm_check.h"
 
 #include <algorithm>
+#include <map>
 #include <unordered_set>
 
 #include "formats/mnm/mapping_lines.h"
@@ -53,6 +54,35 @@ void NameWhatItIs(std::string_view bytes, FindingList& findings) {
   }
 }
 
+// The markers of a capture that get one name.
+class Namesakes {
+ public:
+  void Add(const TrcMarkerName& marker) {
+    ++count_;
+    if (count_ == 2) second_ = marker.place;
+    if (count_ > kMostNamed + 1) return;
+    if (count_ > 1) names_ += ", ";
+    names_ += count_ > kMostNamed ? "..." : marker.name;
+  }
+
+  // That they are written as `name`, when there are several.
+  void Tell(std::string_view name, FindingList& findings) const {
+    if (count_ < 2) return;
+    findings.Add(mnm::Rule("mnm-name-shared"), second_, [this, name] {
+      return FindingWords{Quote(name) + " for " + CountOf(count_, "marker") + ": " + names_,
+                          "a name for each of them",
+                          "Who reads the converted file cannot tell them apart."};
+    });
+  }
+
+ private:
+  static constexpr std::size_t kMostNamed = 3;
+
+  std::size_t count_ = 0;
+  TRCPlace second_;
+  std::string names_;  // of the first of them
+};
+
 // What a mapping and the markers of a capture are to each other.
 class MappingComparison {
  public:
@@ -72,9 +102,16 @@ class MappingComparison {
     const bool fits_nothing = std::none_of(markers_.begin(), markers_.end(),
                                            [this](const auto& marker) { return IsMapped(marker); });
     if (fits_nothing && !markers_.empty()) AddFitsNothing(findings);
+    std::map<std::string_view, Namesakes> namesakes;
     for (const TrcMarkerName& marker : markers_) {
-      if (!IsMapped(marker)) AddUnmapped(marker, findings);
+      const MappingEntry* const entry = entries_.Find(marker.name);
+      if (entry == nullptr) {
+        AddUnmapped(marker, findings);
+      } else {
+        namesakes[entry->standard_name].Add(marker);
+      }
     }
+    for (const auto& [name, markers] : namesakes) markers.Tell(name, findings);
   }
 
  private:

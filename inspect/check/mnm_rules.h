@@ -33,6 +33,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
 
     // Entries and the markers of a capture
     {"mnm-fits-nothing", FindingSeverity::kError},
+    {"mnm-name-shared", FindingSeverity::kWarning},
     {"mnm-entry-unused", FindingSeverity::kWarning},
     {"mnm-marker-unmapped", FindingSeverity::kWarning},
     {"mnm-marker-unmappable", FindingSeverity::kWarning},

@@ -57,6 +57,9 @@ constexpr FindingMeaning kWords[] = {
               "Every marker would be dropped, and nothing is written; --allow empty writes it all "
               "the same."),
      Concern::kMarkers},
+    {"mnm-name-shared", "The mapping has {found}",
+     "The mapping has one name for several markers, {count} times",
+     InMappings(kWarning, "Who reads the converted file cannot tell them apart.")},
     {"mnm-entry-unused", "An entry of the mapping is of no marker of the capture",
      "{count} entries of the mapping are of no marker of the capture",
      FindingEffects(std::array{Action::kInspect}, {kWarning, "Such an entry changes nothing."})},

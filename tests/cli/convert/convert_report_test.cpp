@@ -16,6 +16,7 @@ using testing::ElementsAre;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 
 // With one value that is not a number, and one gap.
 std::string CommaTake() {
@@ -33,7 +34,8 @@ constexpr char kComma[] =
 constexpr char kGap[] =
     "A marker has gaps: \"Toe\" (line 8, column 1). A gap is written as DROPOUT. "
     "[trc-marker-gaps]\n";
-constexpr char kNotConverted[] = "The file is not converted, as --strict wishes";
+constexpr char kNotConverted[] =
+    "With --strict the file is not converted because of trc-number-unreadable\n";
 
 class ConvertReportTest : public ConvertTest {
  protected:
@@ -84,7 +86,7 @@ TEST_F(ConvertReportTest, StrictRefusesFileByFile) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error, std::string("orvane: bad.trc: warning: ") + kComma +
                               "orvane: bad.trc: note: the first of 2 files: " + kGap +
-                              "orvane: bad.trc: " + kNotConverted + "\n");
+                              "orvane: bad.trc: " + kNotConverted);
   EXPECT_THAT(result.output, HasSubstr("bad.bvk    refused\n"));
   EXPECT_THAT(result.output, EndsWith("2 of 3 converted\n"));
   EXPECT_THAT(Names(), ElementsAre("ConvertBVKLog.txt", "bad.trc", "clean.bvk", "clean.trc",
@@ -140,8 +142,48 @@ TEST_F(ConvertReportTest, StrictRefusesWhatComesOutWithTwoOfAName) {
   const ProgramResult result =
       Convert({"walk.trc", "--mapping", "twice.mnm", "--strict", "--allow", "mnm-standard-twice"});
   EXPECT_EQ(result.status, 1) << "a mapping may be so for captures that hold one of the two";
-  EXPECT_THAT(result.error, HasSubstr("orvane: walk.trc: 2 markers are written as HEAD: "));
+  EXPECT_THAT(result.error, EndsWith("because of mnm-name-shared\n"));
   EXPECT_FALSE(Exists("walk.bvk"));
+  EXPECT_EQ(Convert({"walk.trc", "--mapping", "twice.mnm", "--strict", "--allow",
+                     "mnm-standard-twice,mnm-name-shared"})
+                .status,
+            0);
+}
+
+TEST_F(ConvertReportTest, StrictNamesEveryCodeThatItIsFor) {
+  Write("walk.trc", TrcText{.markers = {"Head1", ""}, .frames = {{"1,5\t2\t3", "4\t5\t6"}}}.Text());
+  EXPECT_THAT(Convert({"walk.trc", "--strict"}).error,
+              EndsWith("orvane: walk.trc: With --strict the file is not converted because of "
+                       "trc-name-empty, trc-number-unreadable\n"));
+  EXPECT_THAT(Convert({"walk.trc", "--strict", "--dry-run", "--allow", "trc-name-empty"}).error,
+              EndsWith("orvane: walk.trc: With --strict the file would not be converted because of "
+                       "trc-number-unreadable\n"));
+  Write("map.mnm", "LFHD\tHead1 or so\n");
+  EXPECT_THAT(Convert({"walk.trc", "--strict", "--dry-run", "--mapping", "map.mnm"}).error,
+              EndsWith("orvane: --strict: nothing would be written because of "
+                       "mnm-rest-ignored\n"));
+}
+
+TEST_F(ConvertReportTest, AnOlderOutputThatStaysIsTold) {
+  Write("a.trc", CommaTake());
+  Write("b.trc", CommaTake());
+  Write("odd.mnm", "LFHD\tHead1 or so\n");
+  Write("none.mnm", "BVK");
+  Write("a.bvk", "older");
+  const std::string older = "orvane: a.bvk: is still the older one\n";
+  EXPECT_THAT(Convert({"a.trc", "--strict", "--force"}).error, EndsWith(kNotConverted + older));
+  EXPECT_THAT(Convert({"a.trc", "b.trc", "--strict", "--force"}).error,
+              EndsWith(kNotConverted + older));
+  EXPECT_THAT(Convert({"a.trc", "--strict", "--force", "--dry-run"}).error,
+              Not(HasSubstr("older")));
+  EXPECT_THAT(Convert({"a.trc", "--strict"}).error, Not(HasSubstr("older")));
+  EXPECT_THAT(Convert({"a.trc", "--strict", "--force", "--mapping", "odd.mnm"}).error,
+              HasSubstr(older));
+  EXPECT_THAT(Convert({"a.trc", "--force", "--mapping", "none.mnm"}).error, EndsWith(older));
+  Write("b.bvk", "older");
+  EXPECT_THAT(Convert({"a.trc", "b.trc", "--strict", "--force"}).error,
+              EndsWith("orvane: a.bvk: is the first of 2 outputs that are still the older ones\n"));
+  EXPECT_EQ(Read("a.bvk"), "older");
 }
 
 TEST_F(ConvertReportTest, StrictRefusesAllForTheMapping) {

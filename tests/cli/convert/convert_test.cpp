@@ -67,8 +67,8 @@ TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
       "orvane: map.mnm: warning: A standard marker stands in the mapping again: \"HEAD\" (line 3, "
       "column 1). A capture with \"Head1\" and \"Head2\" becomes a file with two markers of this "
       "name. [mnm-standard-twice]\n"
-      "orvane: walk.trc: 2 markers are written as HEAD: Head1, Head2\n"
-      "  Who reads the output cannot tell them apart.\n";
+      "orvane: walk.trc: warning: The mapping has \"HEAD\" for 2 markers: Head1, Head2 (line 4, "
+      "column 27). Who reads the converted file cannot tell them apart. [mnm-name-shared]\n";
   ProgramResult result = Convert({"walk.trc", "--mapping", "map.mnm", "--dry-run", "--quiet"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error, warning);
@@ -82,7 +82,8 @@ TEST_F(ConvertTest, WarnsOfMarkersThatGetOneName) {
   Write("map.mnm", "C7 a\nC7 b\nC7 c\nLTOE Toe\nC7 d\nT10 Head\nC7 e\n");
   result = Convert({"walk.trc", "--mapping", "map.mnm", "--json", "--force"});
   EXPECT_EQ(json::parse(result.output)["files"][0]["warnings"],
-            json::array({"5 markers are written as C7: a, b, c, ..."}));
+            json::array({"The mapping has \"C7\" for 5 markers: a, b, c, ... Who reads the "
+                         "converted file cannot tell them apart."}));
 }
 
 TEST_F(ConvertTest, AddsTheOffsetInEitherSpace) {

@@ -106,7 +106,8 @@ INSTANTIATE_TEST_SUITE_P(All, DamagedFilesTest,
                                                 "inspect/check/mnm_rules.h",
                                                 "docs/formats/mnm.md",
                                                 {"mnm-entry-unused", "mnm-fits-nothing",
-                                                 "mnm-marker-unmapped", "mnm-marker-unmappable"}}),
+                                                 "mnm-name-shared", "mnm-marker-unmapped",
+                                                 "mnm-marker-unmappable"}}),
                          [](const auto& each) { return each.param.prefix; });
 
 }  // namespace

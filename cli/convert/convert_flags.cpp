@@ -1,0 +1,69 @@
+#include "cli/convert/convert_flags.h"
+
+#include <CLI/CLI.hpp>
+
+#include "cli/common/choice.h"
+#include "cli/common/plugin_session.h"
+
+namespace cli {
+namespace {
+
+void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
+  verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
+  CLI::Option* output =
+      verb.add_option("-o,--output", arguments.output.file, "The BVK file to write, for one FILE")
+          ->check(
+              [](const std::string& path) {
+                return IsBvkFileName(path) ? "" : path + " does not end in .bvk";
+              },
+              "")
+          ->type_name("OUT");
+  RequireName(verb.add_option("--output-dir", arguments.output.folder,
+                              "The folder to write to (each beside its FILE)"))
+      ->type_name("DIR")
+      ->excludes(output);
+  verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
+  // What is kept is made by a batch, which names its outputs after its inputs.
+  verb.add_flag("--keep-broken", arguments.order.keep_broken,
+                "Deliver what the plug-in makes of files that its reader refuses")
+      ->excludes(output);
+  verb.add_flag("--dry-run", arguments.dry_run,
+                "Show what would become of the files and their markers; write nothing");
+}
+
+void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
+  RequireName(verb.add_option("--mapping", arguments.order.mapping,
+                              "The mapping file: rename the markers it lists, drop the others"))
+      ->type_name("M.mnm");
+  CLI::Option* offset =
+      verb.add_option("--offset", arguments.offset, "Add X, Y and Z to every position")
+          ->type_name("X,Y,Z");
+  AddChoice(
+      verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
+      [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
+      ->needs(offset);
+}
+
+void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
+  verb.add_option("--jobs", arguments.jobs, "How many processes run side by side (one a processor)")
+      ->check(CLI::Range(1, 256))
+      ->type_name("N");
+  verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
+      ->type_name("PATH");
+  AddReportFlags(verb, arguments.order.report, kAllowEmpty);
+  verb.get_option("--allow")->description(
+      "Codes of findings that --strict lets pass; empty: write files without markers, too");
+  verb.add_flag("--json", arguments.json, "Write JSON");
+  verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
+}
+
+}  // namespace
+
+void AddConvertFlags(CLI::App& verb, ConvertArguments& arguments) {
+  arguments.order.module = DefaultModulePath();
+  AddFileArguments(verb, arguments);
+  AddPanelFlags(verb, arguments);
+  AddRunFlags(verb, arguments);
+}
+
+}  // namespace cli
