@@ -1,8 +1,10 @@
 #include "cli/common/input.h"
 
+#include <filesystem>
 #include <fstream>
 #include <ios>
 #include <optional>
+#include <system_error>
 
 #include "cli/common/advice.h"
 #include "cli/common/failure.h"
@@ -46,19 +48,28 @@ std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
 
 }  // namespace
 
+Complaint FindWhyUnreadable(const std::string& name, const std::string& file) {
+  const std::string reason = platform::WhyUnreadable(file);
+  if (reason.empty()) return {};
+  std::error_code error;  // such as that a path is too long
+  if (std::filesystem::is_directory(platform::PathOf(name), error)) {
+    return {name, platform::WhyUnreadable(name), ""};
+  }
+  if (file == name) return {file, reason, ""};
+  return {file, reason,
+          "A name without an extension of three letters gets \"" + file.substr(name.size()) + "\"."};
+}
+
 std::string ReadableFile(const std::string& name, FileKind kind) {
   // The readers differ in the case of what they append.
   const std::string extension = kind == FileKind::kTrc ? ".TRC" : ".htr";
   const std::string file = orvane::WithExtension(name, extension);
-  const std::string reason = platform::WhyUnreadable(file);
-  if (!reason.empty() && file != name) {
+  const Complaint complaint = FindWhyUnreadable(name, file);
+  if (complaint.text.empty()) return file;
+  if (complaint.subject != name) {
     if (auto cause = FindCause(name, kind)) throw Failure{ExitStatus::kInputOutput, {*cause}};
   }
-  const std::string advice =
-      file == name ? ""
-                   : "A name without an extension of three letters gets \"" + extension + "\".";
-  if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{file, reason, advice}}};
-  return file;
+  throw Failure{ExitStatus::kInputOutput, {complaint}};
 }
 
 std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }

@@ -19,6 +19,10 @@ namespace cli {
 // The same for an HTR file.
 [[nodiscard]] std::string ReadableHtrFile(const std::string& name);
 
+// Why what the user means by `name`, which the reader takes for `file`, cannot be read: a folder, or
+// no such file, with advice. Returns a complaint without text when it can.
+[[nodiscard]] Complaint FindWhyUnreadable(const std::string& name, const std::string& file);
+
 // `text` about what is in `file`, with the advice that fits it.
 [[nodiscard]] Complaint ComplainAbout(const std::string& file, const std::string& text);
 

@@ -30,6 +30,7 @@ struct CodeInFiles {
   const ReportedFinding* first = nullptr;
   std::string file;  // that the first is in
   std::size_t files = 0;
+  std::size_t count = 0;  // over all of them
 };
 
 // The worst first, and else in the order of their first files.
@@ -39,8 +40,9 @@ std::vector<CodeInFiles> GatherByCode(const std::vector<FileReport>& reports) {
   for (const FileReport& report : reports) {
     for (const ReportedFinding& finding : report.findings) {
       const auto [place, is_new] = places.emplace(finding.code, all.size());
-      if (is_new) all.push_back({&finding, report.file, 0});
+      if (is_new) all.push_back({&finding, report.file, 0, 0});
       ++all[place->second].files;
+      all[place->second].count += finding.count;
     }
   }
   std::stable_sort(all.begin(), all.end(), [](const CodeInFiles& left, const CodeInFiles& right) {
@@ -49,10 +51,17 @@ std::vector<CodeInFiles> GatherByCode(const std::vector<FileReport>& reports) {
   return all;
 }
 
+// "30 times in 3 files, first here: ", for the file that is named in front of it.
+std::string Extent(const CodeInFiles& each) {
+  if (each.files == 1) return "";
+  const std::string times =
+      each.count == each.files ? "" : orvane::CountOf(each.count, "time") + " ";
+  return times + "in " + orvane::CountOf(each.files, "file") + ", first here: ";
+}
+
 std::string LineOver(const CodeInFiles& each) {
-  std::string line = std::string(SeverityName(each.first->severity)) + ": ";
-  if (each.files > 1) line += "the first of " + orvane::CountOf(each.files, "file") + ": ";
-  return line + LineOf(*each.first);
+  return std::string(SeverityName(each.first->severity)) + ": " + Extent(each) +
+         LineOf(*each.first);
 }
 
 std::string WhyNoCode(const std::string& code) {

@@ -36,7 +36,7 @@ void AddTellingFlags(CLI::App& verb, ReportManner& manner);
 void Tell(const orvane::FileReport& report, const ReportManner& manner);
 
 // Tells of `reports`: of one as above, of several a line for each code over all of them, with the
-// number of files and the first.
+// numbers of times and of files, and the first.
 void TellAll(const std::vector<orvane::FileReport>& reports, const ReportManner& manner);
 
 // What in `report` keeps a strict user's file from being worked on, each code once, the worst

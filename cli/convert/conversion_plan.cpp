@@ -11,11 +11,11 @@
 #include <unordered_set>
 #include <utility>
 
+#include "cli/common/input.h"
 #include "cli/common/outputs.h"
 #include "formats/text/files.h"
 #include "host/application/extension_match.h"
 #include "platform/file_place.h"
-#include "platform/input_file.h"
 #include "platform/output_file.h"
 #include "platform/path_text.h"
 
@@ -63,11 +63,10 @@ void Settle(Conversion& conversion, ConversionStatus status, Complaint complaint
 }
 
 void CheckInput(Conversion& conversion, const std::string& name) {
-  const std::string reason = platform::WhyUnreadable(conversion.input);
-  if (reason.empty()) return;
-  const std::string advice =
-      conversion.input == name ? "" : "A name without an extension of three letters gets \".TRC\".";
-  Settle(conversion, ConversionStatus::kUnreadable, {conversion.input, reason, advice});
+  Complaint complaint = FindWhyUnreadable(name, conversion.input);
+  if (complaint.text.empty()) return;
+  conversion.input = complaint.subject;
+  Settle(conversion, ConversionStatus::kUnreadable, std::move(complaint));
 }
 
 void CheckOutput(Conversion& conversion, bool replace) {

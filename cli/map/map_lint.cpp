@@ -39,18 +39,25 @@ MappedCapture ReadCapture(const std::string& file) {
   return capture;
 }
 
-std::vector<CheckedFile> Lint(const LintArguments& arguments) {
-  if (arguments.capture.empty())
-    return {CheckMapping(arguments.mapping, FileBytes(arguments.mapping))};
-  const std::string capture = ReadableFile(arguments.capture, FileKind::kTrc);
+// A capture that is refused keeps nothing of the mapping from being told.
+void Lint(const LintArguments& arguments, CheckResults& results) {
   const std::string bytes = FileBytes(arguments.mapping);
-  return CheckMapping(arguments.mapping, bytes, ReadCapture(capture));
+  if (arguments.capture.empty()) return results.Add(CheckMapping(arguments.mapping, bytes));
+  try {
+    const MappedCapture capture = ReadCapture(ReadableFile(arguments.capture, FileKind::kTrc));
+    for (CheckedFile& file : CheckMapping(arguments.mapping, bytes, capture)) {
+      results.Add(std::move(file));
+    }
+  } catch (const Failure& failure) {
+    results.Add(CheckMapping(arguments.mapping, bytes));
+    results.Add(failure);
+  }
 }
 
 ExitStatus Run(const LintArguments& arguments) {
   CheckResults results(arguments.manner);
   try {
-    for (CheckedFile& file : Lint(arguments)) results.Add(std::move(file));
+    Lint(arguments, results);
   } catch (const Failure& failure) {
     results.Add(failure);
   }

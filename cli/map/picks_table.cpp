@@ -9,6 +9,9 @@
 #include "formats/text/lines.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
+#include "inspect/check/content_kind.h"
+#include "inspect/check/findings.h"
+#include "inspect/check/text_flaw.h"
 #include "platform/input_file.h"
 
 namespace cli {
@@ -18,6 +21,9 @@ using orvane::FindMappingTextFlaw;
 
 // What fits into one line of a mapping, whose tabs and break count, too; a bit less.
 constexpr std::size_t kMostLetters = 1000;
+
+// Of what is wrong with a table.
+constexpr std::size_t kMostTold = 10;
 
 std::string LineName(std::size_t number) {
   return "line " + orvane::FormatInt(static_cast<std::int64_t>(number));
@@ -31,9 +37,19 @@ PicksTable::PicksTable(const std::string& path, const std::vector<std::string>& 
   Read(path);
   CheckSteps(sticks);
   CheckMarkers(names);
-  if (complaints_.empty()) return;
-  if (flaw_) complaints_.insert(complaints_.begin(), ComplainAboutFlaw(path_, *flaw_));
-  throw Failure{ExitStatus::kRefused, complaints_};
+  if (!complaints_.empty()) throw Failure{ExitStatus::kRefused, Told()};
+}
+
+// A file that is no table has more that is wrong than anybody reads.
+std::vector<Complaint> PicksTable::Told() const {
+  if (what_it_is_) return {*what_it_is_};
+  const std::size_t most = lines_.empty() ? 1 : kMostTold;
+  if (complaints_.size() <= most) return complaints_;
+  std::vector<Complaint> told(complaints_.begin(),
+                              complaints_.begin() + static_cast<std::ptrdiff_t>(most));
+  told.back().advice = "There are " + orvane::CountOf(complaints_.size() - most, "further problem") +
+                       ". Is it a table of picks?";
+  return told;
 }
 
 std::optional<std::string> PicksTable::PickFor(const std::string& standard_name) const {
@@ -54,7 +70,11 @@ void PicksTable::Read(const std::string& path) {
       reason.empty() ? orvane::ReadFileBytes(path) : std::nullopt;
   if (reason.empty() && !bytes) reason = "The file cannot be read to its end";
   if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
-  flaw_ = FindMappingTextFlaw(*bytes);
+  if (const auto kind = orvane::FindContentKind(*bytes)) {
+    what_it_is_ = {path_, orvane::DescribeOtherKind(*kind, "a table of picks"), ""};
+  } else if (const auto flaw = FindMappingTextFlaw(*bytes)) {
+    what_it_is_ = ComplainAboutFlaw(path_, *flaw);
+  }
   orvane::LineReader reader(*bytes);
   orvane::Line line;
   while (reader.Next(line)) ReadLine(line.text, line.number);

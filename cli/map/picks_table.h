@@ -8,7 +8,6 @@
 #include "cli/common/failure.h"
 #include "formats/mnm/marker_name_map.h"
 #include "formats/mnm/standard_markers.h"
-#include "inspect/check/text_flaw.h"
 
 // The table of picks for `orvane map create`: which marker plays the role of which standard marker.
 // One line each: the standard name, white space, the marker name or a `-` for none; blank lines and
@@ -19,8 +18,8 @@ namespace cli {
 class PicksTable {
  public:
   // Reads the table in the file `path`. Throws a Failure when it cannot be read, or when the table
-  // cannot be carried out on the markers `names`, with `sticks` or without: then all that is wrong
-  // is named. A marker is wrong when there is none or several of that name, or when it is to be
+  // cannot be carried out on the markers `names`, with `sticks` or without: then what is wrong is
+  // named, up to ten things, and of a file that is no table one. A marker is wrong when there is none or several of that name, or when it is to be
   // picked twice; a standard marker when it is none, comes twice, or is left out though it cannot
   // be skipped.
   PicksTable(const std::string& path, const std::vector<std::string>& names,
@@ -39,13 +38,14 @@ class PicksTable {
   void ReadLine(std::string_view line, std::size_t number);
   void CheckMarkers(const std::vector<std::string>& names);
   void CheckSteps(const orvane::WristSticks& sticks);
+  std::vector<Complaint> Told() const;
   void Complain(const std::string& text) { complaints_.push_back({path_, text, ""}); }
 
   std::string path_;
   std::map<std::string, std::string> picks_;  // by standard name, without those to skip
   std::map<std::string, std::size_t> lines_;  // by standard name
   std::vector<Complaint> complaints_;
-  std::optional<orvane::TextFlaw> flaw_;
+  std::optional<Complaint> what_it_is_;  // where it is not what it looks like
 };
 
 }  // namespace cli

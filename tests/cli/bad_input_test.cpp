@@ -48,6 +48,24 @@ TEST_F(BadInputTest, Directory) {
   ExpectRefusal("walk.htr", 3, "Is a directory\n");
 }
 
+TEST_F(BadInputTest, DirectoryWhoseNameHasNoExtension) {
+  std::filesystem::create_directory(folder_.File("walk"));
+  Write("other.htr", test::SmallMotion());
+  for (const auto& arguments : std::vector<std::vector<std::string>>{
+           {"info", "walk"},
+           {"info", "walk", "--as", "trc"},
+           {"import", "walk", "-o", "scene.glb"},
+           {"compare", "walk", "other.htr"},
+           {"convert", "walk", "--quiet"},
+           {"convert", "walk", "--quiet", "--dry-run"}}) {
+    const ProgramResult result = Orvane(arguments);
+    EXPECT_EQ(result.status, 3) << arguments.front();
+    EXPECT_EQ(result.error, "orvane: walk: Is a directory\n") << arguments.front();
+  }
+  Write("walk.htr", test::SmallMotion());
+  EXPECT_EQ(Orvane({"info", "walk"}).status, 0) << "the reader's file is there";
+}
+
 constexpr char kNoSegments[] =
     "orvane: walk.htr: The file holds no segments\n"
     "  Is it an HTR file? A file of 0 segments may also have been cut short.\n";

@@ -262,7 +262,7 @@ TEST_F(MarkedTextTest, IsTheCauseOfWhatATableOfPicksIsRefusedFor) {
         Orvane({"map", "create", "walk.trc", "-o", "map.mnm", "--picks", "picks"});
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.error, StartsWith("orvane: picks: " + cause));
-    EXPECT_THAT(result.error, HasSubstr("orvane: picks: LFHD cannot be skipped"));
+    EXPECT_THAT(result.error, Not(HasSubstr("LFHD")));
   }
 }
 

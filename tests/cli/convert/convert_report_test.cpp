@@ -71,10 +71,19 @@ TEST_F(ConvertReportTest, OverSeveralFilesEachCodeIsALine) {
   for (const char* jobs : {"1", "2"}) {
     const ProgramResult result = Convert({"a.trc", "b.trc", "c.trc", "--force", "--jobs", jobs});
     EXPECT_EQ(result.status, 0);
-    EXPECT_EQ(result.error, std::string("orvane: b.trc: warning: the first of 2 files: ") + kComma +
-                                "orvane: a.trc: note: the first of 3 files: " + kGap);
+    EXPECT_EQ(result.error, std::string("orvane: b.trc: warning: in 2 files, first here: ") +
+                                kComma + "orvane: a.trc: note: in 3 files, first here: " + kGap);
     EXPECT_THAT(result.output, HasSubstr("c.trc       2     2        0         1  1w 1n  c.bvk"));
   }
+}
+
+TEST_F(ConvertReportTest, OverSeveralFilesAllTimesCount) {
+  TrcText take{.markers = {"Head1", "Toe"}, .frames = {{"1,5\t2\t3", "4\t5\t6"}}};
+  Write("a.trc", take.Text());
+  take.frames.assign(3, {"1,5\t2,5\t3", "4\t5\t6"});
+  Write("b.trc", take.Text());
+  EXPECT_EQ(Convert({"a.trc", "b.trc"}).error,
+            std::string("orvane: a.trc: warning: 7 times in 2 files, first here: ") + kComma);
 }
 
 TEST_F(ConvertReportTest, StrictRefusesFileByFile) {
@@ -85,7 +94,7 @@ TEST_F(ConvertReportTest, StrictRefusesFileByFile) {
   const ProgramResult result = Convert(arguments);
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error, std::string("orvane: bad.trc: warning: ") + kComma +
-                              "orvane: bad.trc: note: the first of 2 files: " + kGap +
+                              "orvane: bad.trc: note: in 2 files, first here: " + kGap +
                               "orvane: bad.trc: " + kNotConverted);
   EXPECT_THAT(result.output, HasSubstr("bad.bvk    refused\n"));
   EXPECT_THAT(result.output, EndsWith("2 of 3 converted\n"));
@@ -214,7 +223,7 @@ TEST_F(ConvertReportTest, TheMappingIsToldOfOnceForAllFiles) {
             "orvane: map.mnm: note: A name of the mapping is no standard marker: \"HEAD\" (line 1, "
             "column 1). Such a name is written all the same. "
             "[mnm-standard-unknown]\n"
-            "orvane: a.trc: note: the first of 2 files: A marker has no entry in the mapping: "
+            "orvane: a.trc: note: in 2 files, first here: A marker has no entry in the mapping: "
             "\"Toe\" (line 4, column 21). Such a marker is dropped. [mnm-marker-unmapped]\n");
   for (const auto& flags : {std::vector<std::string>{"--force"}, {"--dry-run"}}) {
     std::vector<std::string> arguments = {"a.trc", "b.trc", "--mapping", "map.mnm", "--force"};

@@ -114,7 +114,7 @@ TEST_F(ConvertTest, ConvertsABatchAndGoesOnAfterABadFile) {
             "c.trc             2     2        0         1  1n     out/c.bvk        converted\n"
             "2 of 4 converted\n");
   EXPECT_EQ(result.error, std::string("orvane: 50%done.trc: error: ") + kBroken +
-                              "orvane: a.trc: note: the first of 2 files: " + kGap +
+                              "orvane: a.trc: note: in 2 files, first here: " + kGap +
                               "orvane: 50%done.trc: " + kRefused +
                               "\norvane: nowhere.trc: No such file or directory\n");
   EXPECT_THAT(NamesOf("out"), ElementsAre("ConvertBVKLog.txt", "a.bvk", "c.bvk"));
@@ -189,7 +189,7 @@ TEST_F(ConvertTest, TellsTheReadersWordsWhateverTheLogMakesOfTheName) {
   }
   const ProgramResult result = Convert(arguments);
   EXPECT_EQ(result.status, 1);
-  EXPECT_EQ(result.error, std::string("orvane: %s%s%n.trc: error: the first of 3 files: ") +
+  EXPECT_EQ(result.error, std::string("orvane: %s%s%n.trc: error: in 3 files, first here: ") +
                               kBroken + "orvane: %s%s%n.trc: " + kRefused +
                               "\norvane: %999999999d.trc: " + kRefused +
                               "\norvane: 50%done.trc: " + kRefused + "\n");

@@ -159,6 +159,18 @@ TEST_F(MapLintTest, NeedsReadableFiles) {
               HasSubstr("The file holds no markers"));
 }
 
+TEST_F(MapLintTest, TellsOfTheMappingWhateverBecomesOfTheCapture) {
+  Write("m.mnm", "LFHD\tHead1\nlfhd\tHead2\n");
+  Write("bad.trc", "PathFileType 4 (X/Y/Z)\n");
+  const ProgramResult alone = Orvane({"map", "lint", "m.mnm"});
+  for (const auto& [capture, status] : {std::pair{"bad.trc", 1}, {"none.trc", 3}}) {
+    const ProgramResult result = Orvane({"map", "lint", "m.mnm", capture});
+    EXPECT_EQ(result.output, alone.output);
+    EXPECT_EQ(result.status, status);
+    EXPECT_THAT(result.error, HasSubstr(capture));
+  }
+}
+
 TEST_F(MapLintTest, IsAVerbOfTheVerbMap) {
   EXPECT_EQ(Orvane({"map"}).status, 2);
   const ProgramResult nameless = Orvane({"map", "lint"});

@@ -87,6 +87,31 @@ TEST_F(MapCreateTest, TakesOptionalMarkersAndSticks) {
   EXPECT_EQ(ReadText("set.mnm"), MappingOf(codes));
 }
 
+TEST_F(MapCreateTest, OfAFileThatIsNoTableOneThingIsTold) {
+  Write("walk.trc", MarkerFile(kNeeded));
+  std::string poem = "a poem\nof many\nlines\n";
+  Write("picks", poem);
+  const std::string count = std::to_string(kNeeded.size() + 2);
+  EXPECT_EQ(Create().error, "orvane: picks: line 1: a is no standard marker\n  There are " + count +
+                                " further problems. Is it a table of picks?\n");
+  Write("picks", MarkerFile(kNeeded));
+  const ProgramResult result = Create();
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error, "orvane: picks: The file is a TRC file, not a table of picks\n");
+  ExpectNothingWritten();
+}
+
+TEST_F(MapCreateTest, OfATableOfOtherMarkersTenThingsAreTold) {
+  std::vector<std::string> codes = kNeeded;
+  for (std::string& code : codes) code += "x";
+  Write("walk.trc", MarkerFile(codes));
+  Write("picks", Table(kNeeded));
+  const std::string error = Create().error;
+  EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 11);
+  EXPECT_THAT(error, testing::EndsWith("\n  There are " + std::to_string(kNeeded.size() - 10) +
+                                       " further problems. Is it a table of picks?\n"));
+}
+
 TEST_F(MapCreateTest, NamesAllThatIsWrongWithTheTableAtOnce) {
   std::vector<std::string> codes = kNeeded;
   Write("walk.trc", MarkerFile(codes));
