@@ -4,6 +4,7 @@
 #include <memory>
 
 #include "cli/check/file_checks.h"
+#include "cli/check/scene_check.h"
 #include "cli/common/check_results.h"
 #include "cli/common/choice.h"
 
@@ -12,7 +13,8 @@ namespace {
 
 struct CheckArguments {
   std::vector<std::string> inputs;
-  std::string kind;  // of all files; empty for what their names say
+  std::string kind;                    // of all files; empty for what their names say
+  std::vector<std::string> selection;  // in scenes
   CheckManner manner;
 };
 
@@ -29,7 +31,8 @@ class Checking {
  private:
   void CheckAll(const std::string& input) {
     try {
-      for (const std::string& file : FilesToCheck(input)) CheckOne(file);
+      const auto kinds = IsForExport() ? CheckedKinds::kScenes : CheckedKinds::kFiles;
+      for (const std::string& file : FilesToCheck(input, kinds)) CheckOne(file);
     } catch (const Failure& failure) {
       results_.Add(failure);
     }
@@ -38,6 +41,7 @@ class Checking {
   // One file that cannot be read does not keep the others from being checked.
   void CheckOne(const std::string& name) {
     try {
+      if (IsForExport()) return results_.Add(CheckSceneForExport(name, arguments_.selection));
       const orvane::CheckedFile checked = CheckFile(name, arguments_.kind);
       RequireAction(checked);
       results_.Add(checked);
@@ -45,6 +49,8 @@ class Checking {
       results_.Add(failure);
     }
   }
+
+  bool IsForExport() const { return arguments_.manner.action == orvane::Action::kExport; }
 
   // Throws a Failure when what is asked about cannot be done with such a file.
   void RequireAction(const orvane::CheckedFile& checked) const {
@@ -61,22 +67,44 @@ class Checking {
   CheckResults results_;
 };
 
+void RequireUse(const CheckArguments& arguments) {
+  const bool is_for_export = arguments.manner.action == orvane::Action::kExport;
+  const auto complain = [](const std::string& flag, const std::string& text) {
+    throw Failure{ExitStatus::kWrongUsage, {{flag, text, ""}}};
+  };
+  if (!is_for_export && !arguments.selection.empty()) complain("--select", "needs --for export");
+  if (is_for_export && !arguments.kind.empty()) {
+    complain("--as", "is for files that are read, and --for export takes scenes");
+  }
+}
+
+ExitStatus Check(const CheckArguments& arguments) {
+  RequireUse(arguments);
+  return Checking(arguments).Run();
+}
+
 }  // namespace
 
 void AddCheckCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<CheckArguments>();
   CLI::App* verb = app.add_subcommand("check", "Name everything that is odd in files");
-  verb->add_option("FILE", arguments->inputs, "HTR, TRC and MNM files, and folders of them")
+  verb->add_option("FILE", arguments->inputs,
+                   "HTR, TRC and MNM files, and folders of them; with --for export scene files")
       ->required()
       ->type_name("");
   AddChoice(*verb, "--as", {"htr", "trc", "mnm"}, "What the files are (what their names say)",
             [arguments](const std::string& kind) { arguments->kind = kind; });
   AddChoice(
-      *verb, "--for", {"import", "apply", "convert"},
+      *verb, "--for", {"import", "apply", "convert", "export"},
       "Tell what the findings mean to that (what is odd in the file alone)",
       [arguments](const std::string& name) { arguments->manner.action = orvane::ActionOf(name); });
+  verb->add_option("--select", arguments->selection,
+                   "With --for export: the node of each scene to export the skeleton of (what "
+                   "is selected in it)")
+      ->expected(1)
+      ->type_name("NAME");
   AddCheckManner(*verb, arguments->manner);
-  verb->callback([arguments, &work] { work = [arguments] { return Checking(*arguments).Run(); }; });
+  verb->callback([arguments, &work] { work = [arguments] { return Check(*arguments); }; });
 }
 
 }  // namespace cli

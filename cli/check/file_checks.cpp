@@ -65,39 +65,51 @@ const FileCheck* FindFileCheck(std::string_view extension) {
   return check == kFileChecks.end() ? nullptr : &*check;
 }
 
-std::string KnownExtensions() {
-  std::string extensions;
-  for (const FileCheck& check : kFileChecks) {
-    const bool is_last = check.extension == kFileChecks.back().extension;
-    if (!extensions.empty()) extensions += is_last ? " or " : ", ";
-    extensions += check.extension;
-  }
+std::vector<std::string_view> ExtensionsOf(CheckedKinds kinds) {
+  if (kinds == CheckedKinds::kScenes) return {".glb", ".gltf"};
+  std::vector<std::string_view> extensions;
+  for (const FileCheck& check : kFileChecks) extensions.push_back(check.extension);
   return extensions;
 }
 
-bool IsToBeChecked(const fs::directory_entry& entry) {
+// ".htr, .trc or .mnm"
+std::string ListOf(const std::vector<std::string_view>& extensions) {
+  std::string list;
+  for (const std::string_view extension : extensions) {
+    if (!list.empty()) list += extension == extensions.back() ? " or " : ", ";
+    list += extension;
+  }
+  return list;
+}
+
+bool IsToBeChecked(const fs::directory_entry& entry,
+                   const std::vector<std::string_view>& extensions) {
   std::error_code ignored;
-  return FindFileCheck(platform::TextOf(entry.path().extension())) != nullptr &&
-         !entry.is_directory(ignored);
+  const std::string own = platform::TextOf(entry.path().extension());
+  return !entry.is_directory(ignored) &&
+         std::any_of(extensions.begin(), extensions.end(), [&own](std::string_view extension) {
+           return host::SameButForCase(extension, own);
+         });
 }
 
 }  // namespace
 
-std::vector<std::string> FilesToCheck(const std::string& input) {
+std::vector<std::string> FilesToCheck(const std::string& input, CheckedKinds kinds) {
   std::error_code error;
   const fs::path path = platform::PathOf(input);
   if (!fs::is_directory(path, error)) return {input};
+  const std::vector<std::string_view> extensions = ExtensionsOf(kinds);
   std::vector<std::string> files;
   fs::directory_iterator entry(path, error);
   for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    if (IsToBeChecked(*entry)) files.push_back(platform::TextOf(entry->path()));
+    if (IsToBeChecked(*entry, extensions)) files.push_back(platform::TextOf(entry->path()));
   }
   if (error) throw Failure{ExitStatus::kInputOutput, {{input, error.message(), ""}}};
   if (files.empty()) {
     throw Failure{
         ExitStatus::kInputOutput,
         {{input, "The folder holds no file to check",
-          "Of a folder, files are checked whose names end in " + KnownExtensions() + "."}}};
+          "Of a folder, files are checked whose names end in " + ListOf(extensions) + "."}}};
   }
   std::sort(files.begin(), files.end());
   return files;

@@ -9,10 +9,16 @@
 
 namespace cli {
 
-// The files that `input` stands for: of a folder those directly in it that have an extension of a
-// known kind, in the order of their names; otherwise `input` itself. Throws a Failure when there
+// The kinds that there are checks for.
+enum class CheckedKinds {
+  kFiles,   // motion files, marker files and mappings
+  kScenes,  // what is exported from
+};
+
+// The files that `input` stands for: of a folder those directly in it that have an extension of one
+// of `kinds`, in the order of their names; otherwise `input` itself. Throws a Failure when there
 // are none.
-[[nodiscard]] std::vector<std::string> FilesToCheck(const std::string& input);
+[[nodiscard]] std::vector<std::string> FilesToCheck(const std::string& input, CheckedKinds kinds);
 
 // Checks the file `name` as one of `kind`, which is an extension without its point; when that is
 // empty, by its own extension, as an HTR file when that is unknown. Throws a Failure when it cannot

@@ -31,6 +31,9 @@ class CheckResults {
   explicit CheckResults(const CheckManner& manner) : manner_(manner) {}
 
   void Add(orvane::CheckedFile file);
+  // What an action is told before it.
+  // REQUIRES: `manner` names the action.
+  void Add(const orvane::FileReport& report);
   // A file that could not be checked.
   void Add(const Failure& failure);
 
@@ -41,7 +44,6 @@ class CheckResults {
  private:
   void Raise(ExitStatus status) { status_ = std::max(status_, status); }
 
-  void Add(const orvane::FileReport& report);
   void PrintJson() const;
 
   const CheckManner& manner_;

@@ -64,6 +64,11 @@ std::string LineOver(const CodeInFiles& each) {
          LineOf(*each.first);
 }
 
+std::string NothingWritten(const ReportManner& manner, const std::vector<std::string_view>& codes) {
+  const std::string nothing = manner.dry_run ? "nothing would be written" : "nothing was written";
+  return nothing + " because of " + ListOf(codes);
+}
+
 std::string WhyNoCode(const std::string& code) {
   return orvane::FindMeaning(code) != nullptr ? "" : "no finding has the code " + code;
 }
@@ -135,10 +140,19 @@ std::string ListOf(const std::vector<std::string_view>& codes) {
   return list;
 }
 
+Failure RefusedForErrors(const ReportManner& manner, const FileReport& report,
+                         std::vector<Complaint> complaints, const std::string& advice) {
+  std::vector<std::string_view> codes;
+  for (const ReportedFinding& finding : report.findings) {
+    if (finding.severity == FindingSeverity::kError) codes.push_back(finding.code);
+  }
+  complaints.push_back({report.file, NothingWritten(manner, codes), advice});
+  return {ExitStatus::kRefused, std::move(complaints)};
+}
+
 Failure ForbiddenByStrict(const ReportManner& manner, const FileReport& report) {
-  const std::string nothing = manner.dry_run ? "nothing would be written" : "nothing was written";
-  const std::string codes = ListOf(ForbiddingCodes(manner, report));
-  return {ExitStatus::kRefused, {{"--strict", nothing + " because of " + codes, ""}}};
+  return {ExitStatus::kRefused,
+          {{"--strict", NothingWritten(manner, ForbiddingCodes(manner, report)), ""}}};
 }
 
 void RequireReportApart(const ReportManner& manner, const std::vector<std::string>& inputs,

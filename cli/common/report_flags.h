@@ -55,6 +55,11 @@ void TellAll(const std::vector<orvane::FileReport>& reports, const ReportManner&
 [[nodiscard]] Failure ForbiddenByStrict(const ReportManner& manner,
                                         const orvane::FileReport& report);
 
+// The same because of the errors in `report`, behind what else is to be told of it.
+[[nodiscard]] Failure RefusedForErrors(const ReportManner& manner, const orvane::FileReport& report,
+                                       std::vector<Complaint> complaints,
+                                       const std::string& advice = "");
+
 // Throws a Failure for wrong usage when the report would take the place of one of `inputs`, which
 // are read, or of `outputs`, which are made.
 void RequireReportApart(const ReportManner& manner, const std::vector<std::string>& inputs,

@@ -1,7 +1,9 @@
 #include "cli/common/scene_input.h"
 
+#include <algorithm>
 #include <cassert>
 #include <optional>
+#include <utility>
 
 #include "cli/common/failure.h"
 #include "formats/text/files.h"
@@ -11,17 +13,38 @@
 namespace cli {
 namespace {
 
+using orvane::UnknownName;
+
 // In the order of `orvane scene`: each node before its children, and those in their order.
-std::vector<host::Node*> NodesNamed(host::Scene& scene, const std::string& name) {
-  std::vector<host::Node*> found;
+std::vector<host::Node*> NodesOf(host::Scene& scene) {
+  std::vector<host::Node*> nodes;
   std::vector<host::Node*> waiting = {&scene.Root()};
   while (!waiting.empty()) {
     host::Node* node = waiting.back();
     waiting.pop_back();
-    if (!node->IsRoot() && node->Name() == name) found.push_back(node);
+    if (!node->IsRoot()) nodes.push_back(node);
     waiting.insert(waiting.end(), node->Children().rbegin(), node->Children().rend());
   }
-  return found;
+  return nodes;
+}
+
+std::vector<host::Node*> NodesNamed(host::Scene& scene, const std::string& name) {
+  std::vector<host::Node*> nodes = NodesOf(scene);
+  std::erase_if(nodes, [&name](const host::Node* node) { return node->Name() != name; });
+  return nodes;
+}
+
+std::vector<std::string> NamesIn(host::Scene& scene) {
+  std::vector<std::string> names;
+  for (const host::Node* node : NodesOf(scene)) names.push_back(node->Name());
+  return names;
+}
+
+void AddOnce(UnknownName name, std::vector<UnknownName>& names) {
+  const bool is_there = std::any_of(names.begin(), names.end(), [&name](const UnknownName& each) {
+    return each.name == name.name;
+  });
+  if (!is_there) names.push_back(std::move(name));
 }
 
 }  // namespace
@@ -36,21 +59,29 @@ void ReadSceneFile(const std::string& path, host::Scene& scene) {
   if (!refusal.empty()) throw Failure{ExitStatus::kRefused, {{path, refusal, ""}}};
 }
 
-std::vector<Complaint> Select(host::Scene& scene, const std::vector<std::string>& names) {
-  std::vector<Complaint> complaints;
+SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names) {
+  SelectionMade made;
   if (!names.empty()) scene.ClearSelection();
   for (const std::string& name : names) {
     const std::vector<host::Node*> nodes = NodesNamed(scene, name);
     if (nodes.empty()) {
-      complaints.push_back({"--select", "nothing in the scene is named " + name, ""});
+      AddOnce({name, orvane::FindSimilar(name, NamesIn(scene))}, made.unknown);
       continue;
     }
     if (nodes.size() > 1) {
-      complaints.push_back({"--select",
-                            std::to_string(nodes.size()) + " nodes of the scene are named " + name,
-                            "The first is taken, in the order of \"orvane scene\"."});
+      made.complaints.push_back(
+          {"--select", std::to_string(nodes.size()) + " nodes of the scene are named " + name,
+           "The first is taken, in the order of \"orvane scene\"."});
     }
     scene.Select(*nodes.front());
+  }
+  return made;
+}
+
+std::vector<Complaint> ComplainAbout(const std::vector<UnknownName>& unknown) {
+  std::vector<Complaint> complaints;
+  for (const UnknownName& each : unknown) {
+    complaints.push_back({"--select", "nothing in the scene is named " + each.name, ""});
   }
   return complaints;
 }

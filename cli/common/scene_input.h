@@ -5,6 +5,7 @@
 
 #include "cli/common/failure.h"
 #include "host/scene/scene.h"
+#include "inspect/report/selection_check.h"
 
 // The scene file that a verb starts from, and what the user selects in it before the plug-in is
 // asked.
@@ -16,10 +17,16 @@ namespace cli {
 // REQUIRES: `scene` is new.
 void ReadSceneFile(const std::string& path, host::Scene& scene);
 
+struct SelectionMade {
+  std::vector<orvane::UnknownName> unknown;  // names that no node bears, each once
+  std::vector<Complaint> complaints;         // of names that several nodes bear
+};
+
 // Selects the nodes of these names, each the first of its name in the order of `orvane scene`. What
-// was selected stays so unless there are names. Returns what to tell the user: of names that no
-// node bears, and of such that several do.
-[[nodiscard]] std::vector<Complaint> Select(host::Scene& scene,
-                                            const std::vector<std::string>& names);
+// was selected stays so unless there are names. Returns what to tell the user.
+[[nodiscard]] SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names);
+
+// The names that no node bears, for a user who wants no report.
+[[nodiscard]] std::vector<Complaint> ComplainAbout(const std::vector<orvane::UnknownName>& unknown);
 
 }  // namespace cli

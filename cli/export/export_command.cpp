@@ -18,9 +18,8 @@
 #include "cli/export/export_range.h"
 #include "cli/export/export_summary.h"
 #include "cli/export/exported_motion.h"
-#include "cli/export/exported_nodes.h"
 #include "cli/export/motion_output.h"
-#include "inspect/report/export_check.h"
+#include "cli/export/told_export.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
 
@@ -57,15 +56,20 @@ Failure NotCarriedOut(const std::string& scene_file, std::vector<Complaint> comp
 // Tells what the motion file will not hold of the scene. Returns it. Throws a Failure when that is
 // a reason against the export.
 orvane::FileReport TellOfScene(const host::Scene& scene, const ExportChoices& choices,
+                               const std::vector<orvane::UnknownName>& unknown,
                                const ExportArguments& arguments) {
   ReportManner manner = arguments.report;
   manner.only_warnings = arguments.quiet;
-  if (manner.omitted) return {};
-  orvane::FileReport report =
-      ReportOn(orvane::CheckExport(arguments.input, DescribeExport(scene, choices)),
-               orvane::Action::kExport);
+  if (manner.omitted) {
+    RequireSensibleRange(arguments.input, scene, choices);
+    return {};
+  }
+  orvane::FileReport report = ReportOnExport(arguments.input, scene, choices, unknown);
   WriteReportFile({report}, manner);
+  // Of these the plug-in says so itself.
+  report = report.Without("export-root-missing").Without("export-root-effector");
   Tell(report, manner);
+  if (!unknown.empty()) throw RefusedForErrors(manner, report, {});
   if (Forbids(manner, report)) throw ForbiddenByStrict(manner, report);
   return report;
 }
@@ -95,11 +99,13 @@ ExitStatus Export(const ExportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   const host::Scene& scene = session.scene();
   ReadSceneFile(arguments.input, session.scene());
-  std::vector<Complaint> complaints = Select(session.scene(), arguments.selection);
+  const SelectionMade selection = Select(session.scene(), arguments.selection);
+  std::vector<Complaint> complaints = selection.complaints;
+  const std::vector<Complaint> unknown = ComplainAbout(selection.unknown);
+  if (arguments.report.omitted) complaints.insert(complaints.end(), unknown.begin(), unknown.end());
   const ExportChoices choices = ExportChoicesOf(arguments.wishes, session.settings());
-  RequireSensibleRange(arguments.input, scene, choices);
   ExportedFile file{arguments.input, output.Path(), {}, !arguments.report.omitted};
-  file.report = TellOfScene(scene, choices, arguments);
+  file.report = TellOfScene(scene, choices, selection.unknown, arguments);
   StopIfInterrupted();
   const std::string place = output.MakeRoom();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();

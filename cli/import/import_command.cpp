@@ -121,13 +121,6 @@ void TellAllowed(const ReportManner& manner, std::vector<Complaint>& complaints)
   });
 }
 
-// The plug-in takes some files that nothing good comes of.
-Failure RefusedForError(const std::string& file, std::vector<Complaint> complaints) {
-  complaints.push_back(
-      {file, "nothing was written because of this error", "--no-report imports it anyway."});
-  return {ExitStatus::kRefused, std::move(complaints)};
-}
-
 // One file on its way into a scene.
 class Importing {
  public:
@@ -142,16 +135,23 @@ class Importing {
   ExitStatus Run() {
     host::Scene& scene = session_.scene();
     PrepareScene(arguments_, scene);
-    Append(Select(scene, arguments_.selection), complaints_);
+    const SelectionMade selection = Select(scene, arguments_.selection);
+    Append(selection.complaints, complaints_);
+    if (arguments_.report.omitted) Append(ComplainAbout(selection.unknown), complaints_);
     const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
-    ToldImport told = TellOfImport(input_, kind_, choices, scene, ReportMannerOf(arguments_));
+    const ReportManner manner = ReportMannerOf(arguments_);
+    ToldImport told = TellOfImport({input_, kind_, choices, selection.unknown}, scene, manner);
     Append(told.complaints, complaints_);
     StopIfInterrupted();
     SetKeys keys(scene);
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     LetPluginImport();
-    if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
+    // The plug-in takes some files that nothing good comes of.
+    if (told.has_errors) {
+      throw RefusedForErrors(manner, told.report, std::move(complaints_),
+                             "--no-report imports it anyway.");
+    }
     ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
     file.keys_set = keys.Count(choices, told.keyed);

@@ -2,7 +2,9 @@
 
 #include <utility>
 
+#include "cli/import/asked_frames.h"
 #include "cli/import/inspection.h"
+#include "inspect/report/frame_check.h"
 
 namespace cli {
 namespace {
@@ -12,46 +14,64 @@ using orvane::ApplyCircumstances;
 using orvane::CheckedFile;
 using orvane::FileReport;
 
-ApplyCircumstances CircumstancesOf(const ImportedFrames& frames, FileKind kind,
-                                   const ImportChoices& choices, const host::Scene& scene) {
+ApplyCircumstances HowApplied(const ImportedFrames& frames, FileKind kind,
+                              const ImportChoices& choices, const host::Scene& scene) {
   ApplyCircumstances how;
   how.selected_only = choices.selected_only;
   how.first_frame = frames.announced.first;
   if (!choices.animation) return how;
   how.file_rate = frames.rate;
   how.scene_rate = choices.frame_rate_from_file ? frames.rate : scene.Animation().FrameRate();
-  // The dialog refuses a range that reaches beyond the file, and one without frames.
-  const bool is_taken = choices.range && choices.range->Count() > 0 &&
-                        frames.announced.first <= choices.range->first &&
-                        choices.range->last <= frames.announced.last;
-  if (kind == FileKind::kHtr && is_taken) how.range_from = choices.range->first;
+  if (kind == FileKind::kHtr && choices.range && IsRangeTaken(frames, choices)) {
+    how.range_from = choices.range->first;
+  }
   return how;
 }
 
-FileReport ReportOnScene(const CheckedFile& checked, const ApplyCircumstances& how,
+// What is found in the file and the scene together.
+FileReport ReportOnScene(const CheckedFile& checked, const ImportedFrames& frames,
+                         const ImportOrder& order, const host::Scene& scene,
                          const std::optional<Application>& application) {
-  if (!application) {
-    return ReportOn(CheckRange(checked.file, checked.kind, how), Action::kImport);
-  }
-  return ReportOn(CheckApply(checked.file, checked.kind, application->file, application->scene,
-                             application->plan, how),
-                  Action::kApply);
+  const Action action = order.choices.apply ? Action::kApply : Action::kImport;
+  const ApplyCircumstances how = HowApplied(frames, order.kind, order.choices, scene);
+  const std::string& name = checked.file;
+  const std::string_view kind = checked.kind;
+  FileReport report = ReportOn(application ? CheckApply(name, kind, application->file,
+                                                        application->scene, application->plan, how)
+                                           : CheckRange(name, kind, how),
+                               action);
+  report.Take(ReportOn(
+      CheckFrames(name, kind, CircumstancesOf(frames, order.choices, order.kind, scene)), action));
+  return report;
+}
+
+FileReport ReportOnSelection(const CheckedFile& checked, const ImportOrder& order,
+                             const host::Scene& scene) {
+  const Action action = order.choices.apply ? Action::kApply : Action::kImport;
+  return ReportOn(CheckSelection(checked.file, checked.kind, action, order.unknown_names,
+                                 !scene.Selection().empty()),
+                  action);
 }
 
 }  // namespace
 
-ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoices& choices,
-                        const host::Scene& scene, const ReportManner& manner) {
-  Inspection inspection = Inspect(file, kind, choices, scene, kImportLess, !manner.omitted);
+ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
+                        const ReportManner& manner) {
+  const ImportChoices& choices = order.choices;
+  Inspection inspection =
+      Inspect(order.file, order.kind, choices, scene, kImportLess, !manner.omitted);
   ToldImport told;
   told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
                          {choices.frame_rate_from_file, inspection.asked});
   told.keyed = inspection.frames.keyed;
-  if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
+  if (inspection.applied) {
+    told.application = Apply(std::move(*inspection.applied), order.kind, scene);
+  }
+  FileReport of_scene;
   if (!manner.omitted && !inspection.refusal) {
-    told.report.Take(ReportOnScene(inspection.checked,
-                                   CircumstancesOf(inspection.frames, kind, choices, scene),
-                                   told.application));
+    of_scene = ReportOnScene(inspection.checked, inspection.frames, order, scene, told.application);
+    of_scene.Take(ReportOnSelection(inspection.checked, order, scene));
+    told.report.Take(of_scene);
   }
   WriteReportFile({told.report}, manner);
   if (inspection.refusal) {
@@ -62,6 +82,10 @@ ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoi
     throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   }
   Tell(told.report, manner);
+  // The plug-in would not see them, or make nothing of them.
+  if (of_scene.Count(orvane::FindingSeverity::kError) > 0) {
+    throw RefusedForErrors(manner, told.report, {});
+  }
   if (Forbids(manner, told.report)) throw ForbiddenByStrict(manner, told.report);
   told.has_errors = told.report.Count(orvane::FindingSeverity::kError) > 0;
   told.complaints = std::move(inspection.complaints);

@@ -11,6 +11,7 @@
 #include "cli/import/import_flags.h"
 #include "host/scene/scene.h"
 #include "inspect/report/report.h"
+#include "inspect/report/selection_check.h"
 
 // What the user is told of a file, and of the scene that it is applied to, before an import.
 
@@ -24,11 +25,18 @@ struct ToldImport {
   std::optional<Application> application{};  // when it is applied to nodes that are there
 };
 
-// Tells what is odd in `file`, and what an import by `choices` into `scene` will make of that. A
+// What is imported, and how.
+struct ImportOrder {
+  const std::string& file;
+  FileKind kind = FileKind::kHtr;
+  const ImportChoices& choices;
+  const std::vector<orvane::UnknownName>& unknown_names;  // that were to be selected
+};
+
+// Tells what is odd in the file of `order`, and what its import into `scene` will make of that. A
 // finding that says the same as a refusal is left to that. Throws a Failure when nothing is to be
 // imported.
-[[nodiscard]] ToldImport TellOfImport(const std::string& file, FileKind kind,
-                                      const ImportChoices& choices, const host::Scene& scene,
+[[nodiscard]] ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
                                       const ReportManner& manner);
 
 }  // namespace cli

@@ -38,12 +38,17 @@ constexpr std::optional<Action> ActionOf(std::string_view name) {
   return std::nullopt;
 }
 
-// Whether it is done with files of `kind`: "HTR", "TRC" or "MNM". A mapping is looked at, and used
-// for converting.
+// What reports call the file that is exported from.
+inline constexpr std::string_view kSceneKind = "scene";
+
+// Whether it is done with files of `kind`: "HTR", "TRC", "MNM" or that of scenes. A mapping is
+// looked at, and used for converting.
 constexpr bool Takes(Action action, std::string_view kind) {
   if (action == Action::kInspect) return true;
-  if (action == Action::kConvert) return kind != "HTR";
-  return kind != "MNM" && action != Action::kExport;
+  if (action == Action::kExport || kind == kSceneKind) {
+    return action == Action::kExport && kind == kSceneKind;
+  }
+  return action == Action::kConvert ? kind != "HTR" : kind != "MNM";
 }
 
 }  // namespace orvane

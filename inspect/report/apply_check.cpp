@@ -69,6 +69,22 @@ class ApplyCheck {
     if (is_motion && !plan.pairs.empty()) CompareRoot(file, scene, plan);
   }
 
+  // The object that markers without one of their names are given, when that is several.
+  void CheckSharedNode(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan) {
+    if (plan.file_only.empty() || scene.selected.empty()) return;
+    std::vector<std::size_t> sharers = plan.file_only;
+    for (const ApplyPair& pair : plan.pairs) {
+      if (pair.node == scene.selected.back()) sharers.push_back(pair.item);
+    }
+    if (sharers.size() < 2) return;
+    const std::string& node = scene.nodes[scene.selected.back()].name;
+    const std::size_t last = *std::max_element(sharers.begin(), sharers.end());
+    Add(FindRule(apply::kRules, "apply-markers-share-node"),
+        FormatInt(static_cast<std::int64_t>(sharers.size())), Quote(node),
+        "Each takes the place of the one before it, so that the node moves as " +
+            Quote(file.items[last].name) + ", the last of them in the file.");
+  }
+
   void CompareAll(const AppliedFile& file, const ApplyScene& scene, const ApplyPlan& plan) {
     for (const BoneDifference& each : CompareBones(file, scene, plan)) {
       Add(FindRule(apply::kRules, "apply-bone-differs"), Quote(scene.nodes[each.pair.node].name),
@@ -179,6 +195,7 @@ CheckedFile CheckApply(const std::string& name, std::string_view kind, const App
                        const ApplyCircumstances& how) {
   ApplyCheck check(name, kind);
   check.CheckNames(file, scene, plan, how.selected_only);
+  if (kind == "TRC" && how.selected_only) check.CheckSharedNode(file, scene, plan);
   check.CompareAll(file, scene, plan);
   if (!plan.pairs.empty()) check.CompareRates(how);
   check.CheckRange(how);

@@ -9,12 +9,27 @@ constexpr FindingEffects Applied(FindingSeverity severity, const char* consequen
   return {std::array{Action::kApply}, {severity, consequence}};
 }
 
+constexpr FindingEffects Imported(FindingSeverity severity, const char* consequence = nullptr) {
+  return {std::array{Action::kImport, Action::kApply}, {severity, consequence}};
+}
+
+constexpr char kNotPlayed[] =
+    "The motion is neither played nor exported until the range is set to its frames.";
+
 constexpr FindingMeaning kWords[] = {
+    {"apply-select-nothing", "The scene has no node of the name that --select gives",
+     "The scene has no nodes of the {count} names that --select gives", Applied(kError)},
+    {"apply-range-outside", "--range asks for the frames {found}, and the file has {expected}",
+     nullptr, Imported(kError)},
+    {"apply-select-unknown", "The scene has no node of a name that --select gives",
+     "The scene has no nodes of {count} names that --select gives", Imported(kWarning)},
     {"apply-nothing-selected", "Nothing is selected in the scene", nullptr, Applied(kWarning)},
     {"apply-nothing-matches", "No name of the file is among what it is applied to", nullptr,
      Applied(kWarning)},
     {"apply-name-missing-in-scene", "A name of the file is not among what it is applied to",
      "{count} names of the file are not among what it is applied to", Applied(kWarning)},
+    {"apply-markers-share-node", "{found} markers key one node, {expected}", nullptr,
+     Applied(kWarning)},
     {"apply-name-missing-in-file", "A name of the scene is not in the file",
      "{count} names of the scene are not in the file",
      Applied(kNote, "What has such a name is not keyed, and stays as it is.")},
@@ -26,10 +41,19 @@ constexpr FindingMeaning kWords[] = {
     {"apply-rate-differs",
      "There are {found} frames per second in the file, {expected} in the scene", nullptr,
      Applied(kWarning)},
-    {"apply-range-moves",
-     "--range begins in frame {found}, and the file in frame {expected}",
+    {"apply-range-moves", "--range begins in frame {found}, and the file in frame {expected}",
+     nullptr, Imported(kWarning)},
+    {"apply-range-partly",
+     "{found} of the {expected} frames that --range asks for are not in the file", nullptr,
+     Imported(kWarning)},
+    {"apply-keys-outside-range",
+     "Keys come to lie in the frames {found}, and the scene's animation range is then {expected}",
+     nullptr, Applied(kWarning, kNotPlayed).But(Action::kImport, kNote, kNotPlayed)},
+    {"apply-range-shortened", "The scene's animation range was {found}, and is then {expected}",
      nullptr,
-     {std::array{Action::kImport, Action::kApply}, {kWarning, nullptr}}},
+     Imported(
+         kWarning,
+         "Keys outside the new range stay in the scene, and are neither played nor exported.")},
 };
 
 }  // namespace

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "formats/htr/sections.h"
+#include "inspect/report/action.h"
 #include "inspect/report/export_rules.h"
 
 namespace orvane {
@@ -30,7 +31,7 @@ enum class Fate { kExported, kHelper, kEffector, kBelowHelper, kBelowEffector, k
 class ExportCheck {
  public:
   ExportCheck(const std::string& name, const std::vector<ExportNode>& nodes)
-      : nodes_(nodes), has_bones_below_(nodes.size()), checked_{name, "scene", "", {}} {
+      : nodes_(nodes), has_bones_below_(nodes.size()), checked_{name, kSceneKind, "", {}} {
     for (std::size_t index = nodes.size(); index-- > 1;) {
       const bool leads_to_bones = nodes[index].is_bone || has_bones_below_[index];
       if (leads_to_bones) has_bones_below_[nodes[index].parent] = true;
@@ -38,6 +39,7 @@ class ExportCheck {
   }
 
   CheckedFile Run() {
+    if (nodes_.empty()) checked_.findings.Add(Rule("export-root-missing"), kNoPlace, {"", "", ""});
     for (std::size_t index = 0; index < nodes_.size(); ++index) {
       fates_.push_back(FateOf(index));
       Tell(index);
@@ -68,8 +70,8 @@ class ExportCheck {
         if (!has_bones_below_[index]) Add(Rule("export-helper-skipped"), node);
         return;
       case Fate::kEffector:
-        // Of a root the plug-in says so itself, and exports nothing.
-        if (index != 0 && !has_bones_below_[index]) Add(Rule("export-effector"), node);
+        if (index == 0) return Add(Rule("export-root-effector"), node);
+        if (!has_bones_below_[index]) Add(Rule("export-effector"), node);
         return;
       case Fate::kBelowHelper:
         if (node.is_bone) Add(Rule("export-below-helper"), node);

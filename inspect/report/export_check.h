@@ -22,7 +22,8 @@ struct ExportNode {
 };
 
 // The findings of the codes "export-..." of `nodes`, the root first and each node before its
-// children; without a root there are none. `name` is what their scene is known as.
+// children; none of them for a scene in which no skeleton is selected. `name` is what their scene
+// is known as.
 [[nodiscard]] CheckedFile CheckExport(const std::string& name,
                                       const std::vector<ExportNode>& nodes);
 

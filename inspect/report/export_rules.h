@@ -9,6 +9,9 @@
 namespace orvane::exporting {
 
 inline constexpr std::array kRules = {
+    FindingRule{"export-select-unknown", FindingSeverity::kError},
+    FindingRule{"export-root-missing", FindingSeverity::kError},
+    FindingRule{"export-root-effector", FindingSeverity::kError},
     FindingRule{"export-name-changed", FindingSeverity::kError},
     FindingRule{"export-name-refused", FindingSeverity::kWarning},
     FindingRule{"export-below-helper", FindingSeverity::kWarning},

@@ -10,6 +10,16 @@ constexpr FindingEffects Exported(FindingSeverity severity, const char* conseque
 }
 
 constexpr FindingMeaning kWords[] = {
+    {"export-select-unknown", "The scene has no node of the name that --select gives", nullptr,
+     Exported(kError, nullptr)},
+    {"export-root-missing", "No skeleton of the scene is selected", nullptr,
+     Exported(kError,
+              "Nothing is exported; --select NAME takes a bone, or a node that is the parent of "
+              "one.")},
+    {"export-root-effector", "The skeleton begins with an effector", nullptr,
+     Exported(kError,
+              "Nothing is exported: what has \"Effector\" in its name is left out, and all below "
+              "it.")},
     {"export-name-changed", "A bone has a name that means something else in a motion file",
      "{count} bones have names that mean something else in a motion file",
      Exported(kError, "The file would not read back, and is refused; rename the bone.")},

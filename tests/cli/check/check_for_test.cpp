@@ -2,7 +2,9 @@
 
 #include <nlohmann/json.hpp>
 
+#include "host/gltf/writer.h"
 #include "tests/cli/orvane_test.h"
+#include "tests/support/bone_nodes.h"
 #include "tests/support/trc_text.h"
 
 namespace {
@@ -79,6 +81,57 @@ TEST_F(CheckForTest, RefusesWhatIsNotDoneWithSuchAFile) {
   Write("map.mnm", "LFHD\tHead\n");
   EXPECT_THAT(Orvane({"check", "--for", "import", "map.mnm"}).error,
               HasSubstr("orvane: map.mnm: \"import\" takes no MNM files\n"));
+}
+
+// --- Of a scene, for an export ---
+
+TEST_F(CheckForTest, OfASceneTellsWhatAnExportTells) {
+  host::Scene scene;
+  host::Node& hips = test::AddBone(scene, "Hips");
+  test::AddBone(scene, "The head", &hips);
+  Write("scene.glb", host::gltf::WriteScene(scene, {}).bytes);
+  const std::string finding =
+      "scene.glb: warning: A bone has a blank in its name, or the name of another: \"The head\". "
+      "Such a bone is left out, with all below it. [export-name-refused]\n";
+  const ProgramResult checked =
+      Orvane({"check", "--for", "export", "scene.glb", "--select", "Hips"});
+  EXPECT_EQ(checked.status, 1);
+  EXPECT_THAT(checked.error, IsEmpty());
+  EXPECT_EQ(checked.output, finding + "scene.glb: 1 warning for export\n");
+  EXPECT_THAT(Orvane({"export", "scene.glb", "--select", "Hips", "-o", "out.htr"}).error,
+              HasSubstr("orvane: " + finding));
+}
+
+TEST_F(CheckForTest, OfASceneWithoutASelectionSaysSo) {
+  host::Scene scene;
+  test::AddBone(scene, "Hips");
+  Write("scene.glb", host::gltf::WriteScene(scene, {}).bytes);
+  EXPECT_EQ(Orvane({"check", "--for", "export", "scene.glb"}).output,
+            "scene.glb: error: No skeleton of the scene is selected. Nothing is exported; --select "
+            "NAME takes a bone, or a node that is the parent of one. [export-root-missing]\n"
+            "scene.glb: 1 error for export\n");
+  EXPECT_EQ(Orvane({"check", "--for", "export", "scene.glb", "--select", "Hisp"}).output,
+            "scene.glb: error: The scene has no node of the name that --select gives: \"Hisp\". "
+            "Nothing is exported; \"orvane scene\" lists the names. [export-select-unknown]\n"
+            "scene.glb: 1 error for export\n");
+}
+
+TEST_F(CheckForTest, OfAFolderChecksTheScenesInIt) {
+  host::Scene scene;
+  test::AddBone(scene, "Hips");
+  Write("scene.glb", host::gltf::WriteScene(scene, {}).bytes);
+  const ProgramResult result =
+      Orvane({"check", "--for", "export", ".", "--select", "Hips", "--json"});
+  EXPECT_EQ(result.status, 0);
+  const auto files = nlohmann::json::parse(result.output)["files"];
+  ASSERT_EQ(files.size(), 1U);
+  EXPECT_EQ(files[0]["file_type"], "scene");
+  EXPECT_EQ(files[0]["action"], "export");
+}
+
+TEST_F(CheckForTest, TakesANodeForAnExportAlone) {
+  EXPECT_EQ(Orvane({"check", "gaps.trc", "--select", "Hips"}).status, 2);
+  EXPECT_EQ(Orvane({"check", "--for", "export", "gaps.trc", "--as", "trc"}).status, 2);
 }
 
 }  // namespace

@@ -67,7 +67,7 @@ TEST_F(ExportProportionTest, OnlyBonesThatAreExportedCount) {
   EXPECT_EQ(Export({}, "Hand").status, 1);
   EXPECT_EQ(Export({}, "in").status, 1) << "whose first bone is the hand";
   EXPECT_EQ(Export({}, "Finger7").status, kAsked);
-  EXPECT_EQ(Export({}, "nobody").status, kAsked) << "which the plug-in refuses";
+  EXPECT_THAT(Export({}, "nobody").error, testing::HasSubstr("[export-select-unknown]"));
 }
 
 TEST_F(ExportProportionTest, ARangeBoundsWhatIsMadeUp) {

@@ -160,8 +160,13 @@ TEST_F(ExportTest, NothingSelected) {
 }
 
 TEST_F(ExportTest, ANameThatNobodyBears) {
+  ExpectRefused(Export({}, "Nobody"), 1,
+                "orvane: scene.glb: error: The scene has no node of the name that --select gives: "
+                "\"Nobody\". Nothing is exported; \"orvane scene\" lists the names. "
+                "[export-select-unknown]\n"
+                "orvane: scene.glb: nothing was written because of export-select-unknown\n");
   ExpectRefused(
-      Export({}, "Nobody"), 1,
+      Export({"--no-report"}, "Nobody"), 1,
       "orvane: --select: nothing in the scene is named Nobody\n"
       "orvane: scene.glb: Please select the root bone of the skeleton you wish to export\n"
       "  --select NAME selects a bone; \"orvane scene SCENE\" lists the names.\n");

@@ -194,18 +194,19 @@ TEST_F(ImportFlagsTest, ANewSceneHasNothingToSelect) {
   const ProgramResult result = Import({"--apply", "--select", "Hips"});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: --select: nothing in the scene is named Hips\n"
-            "orvane: walk.htr: Please select the root of a skeleton before applying animation.\n"
-            "  --into SCENE --select NAME selects in a scene of yours; --create builds a new "
-            "skeleton.\n");
+            "orvane: walk.htr: error: The scene has no node of the name that --select gives: "
+            "\"Hips\". Nothing is imported; \"orvane scene\" lists the names. "
+            "[apply-select-nothing]\n"
+            "orvane: walk.htr: nothing was written because of apply-select-nothing\n");
 }
 
 TEST_F(ImportFlagsTest, SelectMayBeRepeatedAndTakesNamesAsTheyAre) {
   const ProgramResult result = Import({"--select", "[a]", "--select", "-b"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
-            "orvane: --select: nothing in the scene is named [a]\n"
-            "orvane: --select: nothing in the scene is named -b\n");
+            "orvane: walk.htr: warning: The scene has no nodes of 2 names that --select gives: "
+            "\"[a]\", \"-b\". New nodes are made all the same; \"orvane scene\" lists the names. "
+            "[apply-select-unknown]\n");
 }
 
 // --- Warnings ---

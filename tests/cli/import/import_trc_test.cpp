@@ -183,10 +183,47 @@ TEST_F(ImportTrcTest, NothingIsSaidOfMissingFramesThatARangeLeavesOut) {
   text.first_frame = 11;
   text.frames = {{"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}};
   EXPECT_EQ(ImportText(text.Text(), {"--range", "12:13", "--strict", "--quiet"}).error, "");
-  EXPECT_EQ(Import({"--range", "12:13", "--strict", "--force"}).error,
-            "orvane: walk.trc: note: NumFrames announces 900, and the file holds 3 (line 3, column "
-            "8). Only frames that are there are asked for. [trc-frame-count]\n");
-  EXPECT_EQ(Import({"--range", "13:14", "--force"}).error, Announced("900"));
+  EXPECT_THAT(test::CodesIn(Import({"--range", "12:13", "--strict", "--force"}).error),
+              ElementsAre("apply-keys-outside-range", "trc-frame-count"));
+  EXPECT_THAT(Import({"--range", "12:13", "--strict", "--force"}).error,
+              HasSubstr("orvane: walk.trc: note: NumFrames announces 900, and the file holds 3 "
+                        "(line 3, column 8). Only frames that are there are asked for. "
+                        "[trc-frame-count]\n"));
+  EXPECT_THAT(Import({"--range", "13:14", "--force"}).error, HasSubstr(Announced("900")));
+}
+
+TEST_F(ImportTrcTest, ARangeThatIsPartlyInTheFileIsAWarningWithACount) {
+  TrcText text = TwoMarkers();
+  text.frame_count = 900;
+  text.frames = {{"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}};
+  const ProgramResult result = ImportText(text.Text(), {"--range", "2:6"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error,
+              HasSubstr("orvane: walk.trc: warning: 3 of the 5 frames that --range asks for are "
+                        "not in the file. There every marker goes to the origin; the file has the "
+                        "frames 1 to 3. [apply-range-partly]\n"));
+}
+
+// The numbers at the starts of lines are not looked at.
+TEST_F(ImportTrcTest, ARangeOfWhichNothingIsInTheFileIsRefused) {
+  for (const int announced : {900, 3}) {
+    TrcText text = TwoMarkers();
+    text.frame_count = announced;
+    text.frames = {{"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}, {"1\t2\t3", "4\t5\t6"}};
+    const ProgramResult result = ImportText(text.Text(), {"--range", "185:257"});
+    EXPECT_EQ(result.status, 1) << announced;
+    EXPECT_THAT(result.error,
+                testing::StartsWith(
+                    "orvane: walk.trc: error: --range asks for the frames 185 to 257, and the file "
+                    "has 1 to 3. Nothing is imported; the first line of the file counts as frame "
+                    "1, and --range 1:3 takes all of it. [apply-range-outside]\n"))
+        << announced;
+    EXPECT_THAT(
+        result.error,
+        testing::EndsWith("orvane: walk.trc: nothing was written because of apply-range-outside\n"))
+        << announced;
+    EXPECT_FALSE(Exists("walk.glb")) << announced;
+  }
 }
 
 TEST_F(ImportTrcTest, FramesOutsideTheHostsTimeAreAWarning) {

@@ -158,7 +158,12 @@ TEST_F(SceneTest, TheFrameRateOfTheSceneIsKeptUnlessAsked) {
   Import({"-o", "scene.glb", "--frame-rate", "keep"});
   Import({"-o", "kept.glb", "--into", "scene.glb"});
   EXPECT_EQ(Scene("kept.glb")["frame_rate"], 30);
-  Import({"-o", "set.glb", "--into", "scene.glb", "--frame-rate", "file"});
+  const ProgramResult result = Orvane({"import", "walk.htr", "-o", "set.glb", "--into", "scene.glb",
+                                       "--frame-rate", "file", "--quiet"});
+  EXPECT_EQ(result.error,
+            "orvane: walk.htr: warning: The scene's animation range was 2 to 6 at the new frame "
+            "rate, and is then 1 to 3. Keys outside the new range stay in the scene, and are "
+            "neither played nor exported. [apply-range-shortened]\n");
   EXPECT_EQ(Scene("set.glb")["frame_rate"], 60);
 }
 

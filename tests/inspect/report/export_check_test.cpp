@@ -104,6 +104,11 @@ INSTANTIATE_TEST_SUITE_P(
              "export-effector",
              kNote,
              {"Hips_Effector"}},
+        Case{"AnEffectorAlone",
+             {{"Hook_Effector"}},
+             "export-root-effector",
+             kError,
+             {"Hook_Effector"}},
         Case{"BonesBelowAnEffector",
              {{"Hips"}, {"Effector1", 0}, {"Tail", 1}},
              "export-below-effector",
@@ -132,9 +137,14 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& each) { return each.param.name; });
 
 TEST(ExportCheck, WhatFitsIsNotMentioned) {
-  EXPECT_THAT(ReportOf({}).findings, IsEmpty());
-  EXPECT_THAT(ReportOf({{"Hook_Effector"}}).findings, IsEmpty());  // the exporter refuses it
   EXPECT_THAT(ReportOf({{"Hips"}, {"Spine", 0}, {"Head", 1}}).findings, IsEmpty());
+}
+
+TEST(ExportCheck, NoSkeletonIsAnError) {
+  const FileReport report = ReportOf({});
+  ASSERT_EQ(report.findings.size(), 1U);
+  EXPECT_EQ(report.findings.front().code, "export-root-missing");
+  EXPECT_EQ(report.findings.front().severity, kError);
 }
 
 TEST(ExportCheck, WhatIsLeftOutIsNotJudged) {
