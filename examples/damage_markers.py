@@ -92,6 +92,14 @@ def change_all(changed):
     return edit
 
 
+def change_all_frames(changed):
+    def edit(lines):
+        lines[FIRST_FRAME:] = [changed(line) for line in lines[FIRST_FRAME:]]
+        return FIRST_FRAME
+
+    return edit
+
+
 def lay_down(lines):
     """Every sample changes its Y and its Z."""
     for frame in range(FIRST_FRAME, len(lines)):
@@ -131,7 +139,7 @@ DAMAGES = [
     ("rate-too-high", "trc-rate-out-of-range", change_field(VALUES, 0, b"10000")),
     ("camera-rate-zero", "trc-camera-rate", change_field(VALUES, 1, b"0")),
     ("unknown-unit", "trc-unit-unknown", change_field(VALUES, 4, b"Mm")),
-    ("unit-with-blank", "trc-unit-unknown", change_field(VALUES, 4, b"mm ")),
+    ("unit-with-blank", "trc-unit-blanks", change_field(VALUES, 4, b"mm ")),
     ("unit-at-the-end", "trc-unit-ends-line",
      change_line(VALUES, lambda line: b"\t".join(line.split(b"\t")[:5]))),
     # Columns
@@ -142,6 +150,11 @@ DAMAGES = [
     ("name-with-blank", "trc-name-with-blank", change_field(NAMES, name_field(3), b"left hip")),
     ("unnamed-column", "trc-column-unnamed", change_field(NAMES, name_field(3), b"Unnamed 4")),
     ("repeated-column", "trc-column-repeated", change_field(NAMES, name_field(3), b"walker:LFHD")),
+    ("headings-for-names", "trc-names-headings",
+     change_line(NAMES, lambda line: b"Frame#\tTime" + b"\tX1\tY1\tZ1" + line[12:] + b"\t\t\t")),
+    ("other-encoding", "trc-name-encoding", change_field(NAMES, name_field(3), b"t\xeate")),
+    ("repeated-column-without-values", "trc-column-repeated-blank",
+     change_line(NAMES, lambda line: line.rstrip(b"\t") + b"\t\t\twalker:LFHD\t\t\t")),
     ("no-names", "trc-markers-missing",
      both(change_line(NAMES, lambda line: b"Frame#\tTime"), delete_lines(7, None, 7))),
     ("marker-count", "trc-marker-count", change_field(VALUES, 3, b"40")),
@@ -149,7 +162,7 @@ DAMAGES = [
     # Numbers
     ("y-missing", "trc-number-missing", change_field(FIRST_FRAME + 3, 6, b"")),
     ("not-a-number", "trc-number-unreadable", change_field(FIRST_FRAME + 3, 5, b"NaN")),
-    ("decimal-comma", "trc-number-unreadable", change_field(FIRST_FRAME + 3, 5, b"170,5")),
+    ("decimal-comma", "trc-decimal-commas", change_field(FIRST_FRAME + 3, 5, b"170,5")),
     ("count-in-words", "trc-number-unreadable", change_field(VALUES, 2, b"many")),
     ("frame-with-fraction", "trc-number-cut", change_field(FIRST_FRAME + 3, 0, b"4.5")),
     ("huge-number", "trc-number-out-of-range", change_field(FIRST_FRAME + 3, 5, b"1e999")),
@@ -157,9 +170,12 @@ DAMAGES = [
     ("tabs-for-the-blank-line", "trc-blank-line-tabs",
      change_line(FIRST_FRAME - 1, lambda line: b"\t" * 124)),
     ("blank-frame", "trc-frame-blank", change_line(FIRST_FRAME + 9, lambda line: b"")),
-    ("blank-line-at-the-end", "trc-frame-blank", add_at_end(b"")),
+    ("blank-line-at-the-end", "trc-lines-at-end", add_at_end(b"")),
     ("columns-lost", "trc-frame-short",
      change_line(FIRST_FRAME + 9, lambda line: b"\t".join(line.split(b"\t")[:-6]))),
+    ("cells-lost", "trc-frame-narrow",
+     both(change_all_frames(lambda line: line + b"\t\t\t"),
+          change_line(FIRST_FRAME + 9, lambda line: line.replace(b"\t", b"", 3)))),
     ("columns-too-many", "trc-value-extra",
      change_line(FIRST_FRAME + 9, lambda line: line + b"\t1\t2\t3")),
     ("columns-shifted", "trc-value-extra",
@@ -176,6 +192,8 @@ DAMAGES = [
     ("gap", "trc-marker-gaps", without_sample(0, range(30, 60))),
     ("never-seen", "trc-marker-never-seen", shows_at(NAMES, without_sample(2, range(120)))),
     # What moves
+    ("nines", "trc-position-far", change_field(FIRST_FRAME + 3, 5, b"9999999")),
+    ("inches", "trc-size", change_field(VALUES, 4, b"in")),
     ("heights-along-z", "trc-up-axis", lay_down),
 ]
 

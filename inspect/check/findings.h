@@ -52,7 +52,8 @@ struct FindingPlace {
 struct FindingWords {
   std::string found;
   std::string expected;
-  std::string effect;  // what the import makes of it
+  std::string effect;            // what the import makes of it
+  std::string when_converted{};  // what a conversion does; empty when that is the same
 };
 
 struct Finding {
@@ -62,6 +63,7 @@ struct Finding {
   std::string found;  // as in FindingWords
   std::string expected;
   std::string effect;
+  std::string when_converted;
 };
 
 // Counts all findings and keeps the first ones of every rule, so that a file with an oddity in

@@ -142,7 +142,7 @@ constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetHtrOddity>>({
     {HtrOddity::kExtraHeaderWords, Rule("htr-value-extra"), Quoted, "a keyword and one value",
      "It is ignored: the last word of the line is the value."},
     {HtrOddity::kUnknownCalibrationUnits, Rule("htr-length-unit-unknown"), Quoted,
-     "mm, cm, m, in, ft or yd, or the same in capitals", "Millimetres are taken."},
+     "mm, cm, m, in, ft or yd, or the same in capitals", "Millimeters are taken."},
     {HtrOddity::kUnknownRotationUnits, Rule("htr-angle-unit-unknown"), Quoted, "Degrees or Radians",
      "Degrees are taken."},
     {HtrOddity::kUnknownAxis, Rule("htr-axis-unknown"), Quoted, "Y or Z", "Y is taken."},

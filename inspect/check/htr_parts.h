@@ -33,7 +33,7 @@ inline constexpr std::array<Keyword, 12> kKeywords = {{
     {"NumFrames", "a whole number", "0 is taken.", true},
     {"DataFrameRate", "a whole number", "60 is taken.", true},
     {"EulerRotationOrder", "ZYX", "ZYX is taken.", false},
-    {"CalibrationUnits", "mm, cm, m, in, ft or yd", "Millimetres are taken.", true},
+    {"CalibrationUnits", "mm, cm, m, in, ft or yd", "Millimeters are taken.", true},
     {"RotationUnits", "Degrees or Radians", "Degrees are taken.", true},
     {"GlobalAxisofGravity", "Y or Z", "Y is taken.", false},
     {"BoneLengthAxis", "Y", "Y is taken.", false},

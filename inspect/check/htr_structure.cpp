@@ -60,7 +60,7 @@ void Structure::CheckHeader() {
     return findings_.Add(
         Rule("htr-header-missing"), FindingPlace{1, 1},
         {"no [Header]", "[Header] first",
-         "Nothing is announced: lengths are millimetres, angles degrees, and the rate is 60."});
+         "Nothing is announced: lengths are millimeters, angles degrees, and the rate is 60."});
   }
   for (std::size_t index = 0; index < kKeywords.size(); ++index) {
     if (parts_.values[index]) continue;
@@ -143,7 +143,7 @@ void Structure::CheckUpAxis() {
   findings_.Add(
       Rule("htr-up-axis"), *parts_.motion,
       {"heights along Z: " + DescribeHeights(subject->bounds, document_.GetCalibrationUnits()),
-       "heights along Y", "The file is taken as Y up."});
+       "heights along Y", "The file is taken as Y up: what stands lies on its side."});
 }
 
 void Structure::AddFramesUnannounced() {

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <vector>
 
 #include "formats/text/numbers.h"
 #include "formats/trc/document_checker.h"
@@ -10,20 +11,23 @@
 #include "inspect/check/trc_findings_observer.h"
 #include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
+#include "inspect/check/trc_positions.h"
 #include "inspect/check/trc_rules.h"
+#include "inspect/check/trc_widths.h"
 #include "inspect/counts/frame_counts.h"
-#include "inspect/summary/subject.h"
-#include "inspect/summary/trc_summary.h"
 
 namespace orvane {
 namespace {
 
+constexpr const char* kHeadingsAreNames =
+    "They are the names of the markers: X1, X2 and so on; the next line is not read.";
+
 // What can be said of a file only when all of it has been read.
 class WholeFile {
  public:
-  WholeFile(const TRCDocument& document, const trc::TrcLayout& layout, const trc::TrcParts& parts,
-            FindingList& findings)
-      : document_(document), layout_(layout), parts_(parts), findings_(findings) {}
+  WholeFile(const TRCDocument& document, const trc::TrcLayout& layout, const trc::TrcWidths& widths,
+            const trc::TrcParts& parts, FindingList& findings)
+      : document_(document), layout_(layout), widths_(widths), parts_(parts), findings_(findings) {}
 
   void Check() {
     CheckLayout();
@@ -31,7 +35,8 @@ class WholeFile {
     if (document_.MarkerCount() == 0) return AddMarkersMissing();
     CheckFrameCount();
     if (layout_.misplaced_name) return;  // from which gaps follow
-    CheckUpAxis();
+    trc::CheckNarrowFrames(widths_, document_.MarkerCount(), findings_);
+    trc::CheckPositions(document_, parts_, findings_);
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
       CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
     }
@@ -52,6 +57,17 @@ class WholeFile {
                     {"a line of tabs", "a blank line, or the first frame",
                      "It is the first frame, without positions: every sample comes a frame late."});
     }
+    if (const auto& name = layout_.headings_for_names) {
+      findings_.Add(trc::Rule("trc-names-headings"), *name,
+                    {"X1, Y1 and so on", "the names of the markers", kHeadingsAreNames});
+    }
+    if (parts_.frames_before_end) {
+      const std::size_t blank = SamplesRead() - Held();
+      findings_.Add(trc::Rule("trc-lines-at-end"), *widths_.blank_end,
+                    {CountOf(blank, "blank line") + " at the end",
+                     "the end of the file behind the last frame",
+                     "No more frames are announced than stand before: none is taken from there."});
+    }
   }
 
   void CheckFirstFrame() {
@@ -68,7 +84,8 @@ class WholeFile {
                    NumbersOf(taken, taken + frames - 1) +
                        (is_announced ? ", as OrigDataStartFrame says"
                                      : ", as the path type is neither 3 nor 4"),
-                   FormatInt(taken) + " is taken for the number of the first frame."});
+                   "--range takes them by these numbers: " + FormatInt(taken) + ":" +
+                       FormatInt(taken + frames - 1) + " for all."});
   }
 
   // "185 to 257".
@@ -82,8 +99,15 @@ class WholeFile {
                    "The import makes nothing of the file."});
   }
 
+  std::size_t SamplesRead() const {
+    return document_.MarkerCount() == 0 ? 0 : document_.MarkerAt(0)->SampleCount();
+  }
+
+  // Without blank lines at the end that do not count.
+  std::size_t Held() const { return parts_.frames_before_end.value_or(SamplesRead()); }
+
   void CheckFrameCount() {
-    const auto held = static_cast<std::int64_t>(document_.MarkerAt(0)->SampleCount());
+    const auto held = static_cast<std::int64_t>(Held());
     const std::int64_t announced = document_.NumFrames();
     const auto& announcement = parts_.Value(TRCHeaderValue::kNumFrames);
     const TRCPlace place = announcement ? *announcement : parts_.End();
@@ -95,9 +119,10 @@ class WholeFile {
           {FormatInt(announced), "about " + FormatInt(held) + ", as many as there are",
            "The import is refused, unless --range FROM:TO takes a part of them."});
     }
-    findings_.Add(trc::Rule("trc-frame-count"), place,
-                  {FormatInt(announced) + ", as NumFrames says",
-                   FormatInt(held) + ", as many as there are", EffectOfCount(announced, held)});
+    findings_.Add(
+        trc::Rule("trc-frame-count"), place,
+        {FormatInt(announced) + ", as NumFrames says", FormatInt(held) + ", as many as there are",
+         EffectOfCount(announced, held), ConvertedCount(announced, held)});
   }
 
   void AddFramesUnannounced(TRCPlace place) {
@@ -108,25 +133,26 @@ class WholeFile {
          "file has no frames."});
   }
 
-  void CheckUpAxis() {
-    const auto subject = MeasureSubject(document_);
-    if (!subject || !SeemsToStandAlongZ(*subject)) return;
-    const auto unit = static_cast<std::uint32_t>(document_.Units());
-    findings_.Add(trc::Rule("trc-up-axis"), parts_.PlaceOfFrame(0),
-                  {"heights along Z: " + DescribeHeights(*SummarizeTrc(document_).bounds, unit),
-                   "heights along Y", "The file is taken as Y up."});
+  static std::string FirstFrames(std::int64_t announced, std::int64_t held) {
+    return "Only the first " + FormatInt(announced) + " of " +
+           CountOf(static_cast<std::size_t>(held), "frame");
   }
 
   static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
-    if (announced > held) {
-      return "The import sets the missing frames to the origin; a converted file has dropouts.";
-    }
-    return "Only the announced frames are imported.";
+    if (announced <= held) return FirstFrames(announced, held) + " are imported.";
+    const std::string held_frames = held == 1 ? "frame" : FormatInt(held) + " frames";
+    return "Behind the first " + held_frames + " every marker goes to the origin.";
+  }
+
+  static std::string ConvertedCount(std::int64_t announced, std::int64_t held) {
+    if (announced <= held) return FirstFrames(announced, held) + " are written.";
+    return "DROPOUT is written for " +
+           CountOf(static_cast<std::size_t>(announced - held), "missing frame") + ".";
   }
 
   // One finding for a marker, however often it drops out.
   void CheckGaps(const TRCMarker& marker, TRCPlace name) {
-    const auto gaps = marker.Gaps();
+    const auto gaps = GapsOf(marker);
     if (gaps.empty() || IsTheFrameOfTabs(gaps)) return;
     if (marker.Positions().empty()) {
       return findings_.Add(trc::Rule("trc-marker-never-seen"), name,
@@ -138,26 +164,37 @@ class WholeFile {
           return left.end - left.begin < right.end - right.begin;
         });
     findings_.Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(longest->begin),
-                  {DescribeGaps(marker, longest->end - longest->begin), "one in every frame",
+                  {DescribeGaps(marker, gaps, longest->end - longest->begin), "one in every frame",
                    "The import sets those frames to the origin; a converted file has dropouts."});
   }
 
-  template <typename Gaps>
+  using Gaps = std::vector<TRCMarker::Gap>;
+
+  // Those in the frames that are held.
+  Gaps GapsOf(const TRCMarker& marker) const {
+    Gaps gaps(marker.Gaps().begin(), marker.Gaps().end());
+    if (!gaps.empty()) gaps.back().end = std::min(gaps.back().end, Held());
+    if (!gaps.empty() && gaps.back().begin >= gaps.back().end) gaps.pop_back();
+    return gaps;
+  }
+
   bool IsTheFrameOfTabs(const Gaps& gaps) const {
     return layout_.frame_of_tabs && gaps.size() == 1 && gaps[0].begin == 0 && gaps[0].end == 1;
   }
 
-  static std::string DescribeGaps(const TRCMarker& marker, std::size_t longest) {
-    const std::size_t missing = marker.SampleCount() - marker.Positions().size();
+  static std::string DescribeGaps(const TRCMarker& marker, const Gaps& gaps, std::size_t longest) {
+    std::size_t missing = 0;
+    for (const TRCMarker::Gap& gap : gaps) missing += gap.end - gap.begin;
     std::string text =
         "no position of " + Quote(marker.Name()) + " in " + CountOf(missing, "frame");
-    if (marker.Gaps().size() == 1) return text + " from here on";
-    return text + ": " + CountOf(marker.Gaps().size(), "gap") + ", the longest of " +
+    if (gaps.size() == 1) return text + " from here on";
+    return text + ": " + CountOf(gaps.size(), "gap") + ", the longest of " +
            CountOf(longest, "frame") + " from here on";
   }
 
   const TRCDocument& document_;
   const trc::TrcLayout& layout_;
+  const trc::TrcWidths& widths_;
   const trc::TrcParts& parts_;
   FindingList& findings_;
 };
@@ -193,12 +230,16 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   trc::TrcParts parts;
   parts.bytes = bytes;
   const trc::TrcLayout layout = trc::FindLayout(bytes);
-  trc::TrcFindingsObserver observer(document, layout, parts, checked.findings);
+  const trc::TrcWidths widths = trc::MeasureWidths(bytes);
+  trc::TrcFindingsObserver observer(document, layout, widths, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
+  observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
-  if (checked.refusal.empty()) WholeFile(document, layout, parts, checked.findings).Check();
+  if (checked.refusal.empty()) {
+    WholeFile(document, layout, widths, parts, checked.findings).Check();
+  }
   NameWhatItIs(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");

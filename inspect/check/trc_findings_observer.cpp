@@ -6,7 +6,9 @@
 
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
+#include "formats/units/units.h"
 #include "inspect/check/rates.h"
+#include "inspect/check/text_encoding.h"
 #include "inspect/check/trc_oddities.h"
 #include "inspect/check/trc_rules.h"
 
@@ -38,6 +40,11 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
       return AddRefusal(place, text);
     case TRCOddity::kMarkerNameRepeated:
       return AddRepeatedName(place, text);
+    case TRCOddity::kUnknownUnits:
+      return AddUnknownUnit(place, text);
+    case TRCOddity::kUnreadableNumber:
+      if (commas_.Take(text, place)) return;  // told once for all
+      break;
     default:
       break;
   }
@@ -50,6 +57,7 @@ bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) co
     if (place.line == line) return true;
     if (oddity == TRCOddity::kFrameNumberSkips && place.line == line + 1) return true;
   }
+  if (StandsBehindFrames(place)) return true;
   if (!layout_.misplaced_name) return false;
   switch (oddity) {
     case TRCOddity::kMarkerNameLost:
@@ -64,6 +72,10 @@ bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) co
     default:
       return false;
   }
+}
+
+bool TrcFindingsObserver::StandsBehindFrames(TRCPlace place) const {
+  return parts_.frames_before_end && place.line >= widths_.blank_end->line;
 }
 
 bool TrcFindingsObserver::LacksTabs(TRCPlace place) const {
@@ -82,13 +94,28 @@ void TrcFindingsObserver::AddRefusal(TRCPlace place, std::string_view coordinate
 }
 
 void TrcFindingsObserver::AddRepeatedName(TRCPlace place, std::string_view name) {
-  findings_.Add(Rule("trc-column-repeated"), place, [&] {
-    const auto column = static_cast<std::int64_t>(columns_[name]);
-    return FindingWords{Quote(name) + " again",
-                        "a name of its own; column " + FormatInt(column) + " has it",
-                        kColumnsShift};
-  });
+  const bool is_blank = place.field > widths_.last_value;
+  findings_.Add(
+      is_blank ? Rule("trc-column-repeated-blank") : Rule("trc-column-repeated"), place, [&] {
+        const auto column = static_cast<std::int64_t>(columns_[name]);
+        return FindingWords{
+            Quote(name) + " again", "a name of its own; column " + FormatInt(column) + " has it",
+            is_blank ? "It makes no marker; neither it nor a column behind it holds a value."
+                     : kColumnsShift};
+      });
 }
+
+// An unknown unit means millimeters: these are meant.
+void TrcFindingsObserver::AddUnknownUnit(TRCPlace place, std::string_view unit) {
+  const std::string_view trimmed = TrimTrailingSeparators(SkipSeparators(unit));
+  if (trimmed == unit || FindCalibrationUnits(trimmed) != kMillimeters) {
+    return AddOddity({TRCOddity::kUnknownUnits, place, unit}, findings_);
+  }
+  findings_.Add(Rule("trc-unit-blanks"), place,
+                {Quote(unit), "no blanks beside the unit", "Millimeters are taken, as it says."});
+}
+
+void TrcFindingsObserver::Finish() { commas_.AddTo(findings_, Rule("trc-decimal-commas")); }
 
 void TrcFindingsObserver::OnHeaderValue(TRCHeaderValue value, TRCPlace place,
                                         std::string_view text) {
@@ -124,6 +151,12 @@ void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
 }
 
 void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
+  if (!IsUtf8(name)) {
+    findings_.Add(Rule("trc-name-encoding"), place, [name] {
+      return FindingWords{Quote(name), "a name in ASCII or UTF-8",
+                          "Its bytes are kept, and most programs will not show them as letters."};
+    });
+  }
   if (layout_.misplaced_name || name.find_first_of(" \v\f\r") == std::string_view::npos) return;
   findings_.Add(Rule("trc-name-with-blank"), place, [name] {
     return FindingWords{Quote(name), "a name of one word",
@@ -132,6 +165,11 @@ void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
 }
 
 void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
+  if (frames_ > 0 && widths_.blank_end && place.line == widths_.blank_end->line &&
+      document_.NumFrames() > 0 && static_cast<std::int64_t>(frames_) >= document_.NumFrames()) {
+    parts_.frames_before_end = frames_;
+  }
+  if (StandsBehindFrames(place)) return;
   parts_.AddFrame(place);
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
   if (frames_++ == 0) parts_.first_number = cell;

@@ -6,9 +6,11 @@
 
 #include "formats/trc/document.h"
 #include "formats/trc/read_observer.h"
+#include "inspect/check/decimal_commas.h"
 #include "inspect/check/findings.h"
 #include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
+#include "inspect/check/trc_widths.h"
 
 // Watches the reader of TRC files: turns what it meets into findings, and keeps where the parts of
 // the file stand. Every finding has the reader's line and column, counted from 1. Nothing fails but
@@ -18,22 +20,26 @@ namespace orvane::trc {
 
 class TrcFindingsObserver final : public TRCReadObserver {
  public:
-  // `document` is what is read into, `layout` is that of the bytes, and `parts` is empty. All must
-  // outlive the observer, and so must the bytes that are read.
-  TrcFindingsObserver(const TRCDocument& document, const TrcLayout& layout, TrcParts& parts,
-                      FindingList& findings)
-      : document_(document), layout_(layout), parts_(parts), findings_(findings) {}
+  // `document` is what is read into, `layout` and `widths` are those of the bytes, and `parts` is
+  // empty. All must outlive the observer, and so must the bytes that are read.
+  TrcFindingsObserver(const TRCDocument& document, const TrcLayout& layout, const TrcWidths& widths,
+                      TrcParts& parts, FindingList& findings)
+      : document_(document), layout_(layout), widths_(widths), parts_(parts), findings_(findings) {}
 
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
   void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
   void OnMarker(TRCPlace place, std::string_view name) override;
   void OnFrame(TRCPlace place, std::string_view number) override;
 
+  // Adds what is told once of the whole file, when reading has ended.
+  void Finish();
+
   // Whether the reader has refused the file.
   [[nodiscard]] bool HasRefused() const { return has_refused_; }
 
  private:
   void AddRefusal(TRCPlace place, std::string_view coordinates);
+  void AddUnknownUnit(TRCPlace place, std::string_view unit);
   void AddRepeatedName(TRCPlace place, std::string_view name);
   void CheckFileType(TRCPlace path_type);
   void CheckName(TRCPlace place, std::string_view name);
@@ -42,11 +48,14 @@ class TrcFindingsObserver final : public TRCReadObserver {
 
   // Whether the oddity there follows from the layout of the file, which is told.
   [[nodiscard]] bool FollowsFromLayout(TRCOddity oddity, TRCPlace place) const;
+  // Whether what is there is a line at the end, behind all frames that are announced.
+  [[nodiscard]] bool StandsBehindFrames(TRCPlace place) const;
   // Whether the first line has no tab, by the place of what is missing then.
   [[nodiscard]] bool LacksTabs(TRCPlace place) const;
 
   const TRCDocument& document_;
   const TrcLayout& layout_;
+  const TrcWidths& widths_;
   TrcParts& parts_;
   FindingList& findings_;
 
@@ -55,6 +64,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
   std::string_view file_type_;                                 // when it is not the usual one
   std::unordered_map<std::string_view, std::size_t> columns_;  // of markers, by name
   std::size_t frames_ = 0;
+  DecimalCommas commas_;
 };
 
 }  // namespace orvane::trc

@@ -39,6 +39,19 @@ std::optional<MisplacedName> FindMisplacedName(const Line& line) {
   return is_one_missing ? first : std::nullopt;
 }
 
+// "X1" as the first name, and "Y1" behind it.
+std::optional<TRCPlace> FindHeadings(const Line& line) {
+  constexpr std::string_view kX = "X1";
+  constexpr std::string_view kY = "Y1";
+  TRCFields fields(line);
+  while (!fields.AtEnd() && fields.Number() < kFirstName) fields.Drop();
+  if (fields.AtEnd() || fields.Get() != kX) return std::nullopt;
+  const auto column = static_cast<std::size_t>(fields.Get().data() - line.text.data()) + 1;
+  fields.Drop();
+  if (fields.AtEnd() || fields.Get() != kY) return std::nullopt;
+  return TRCPlace{line.number, column, kFirstName};
+}
+
 bool HoldsTabsAlone(const Line& line) {
   return !line.text.empty() && line.text.find_first_not_of('\t') == std::string_view::npos;
 }
@@ -50,7 +63,10 @@ TrcLayout FindLayout(std::string_view bytes) {
   LineReader lines(bytes);
   Line line;
   for (std::size_t number = 0; number <= kPerhapsBlankLine && lines.Next(line); ++number) {
-    if (number == kMarkerNamesLine) layout.misplaced_name = FindMisplacedName(line);
+    if (number == kMarkerNamesLine) {
+      layout.misplaced_name = FindMisplacedName(line);
+      layout.headings_for_names = FindHeadings(line);
+    }
     if (number == kPerhapsBlankLine && HoldsTabsAlone(line)) {
       layout.frame_of_tabs = TRCPlace{line.number, 1, 0};
     }

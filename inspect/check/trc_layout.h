@@ -25,6 +25,8 @@ struct TrcLayout {
   // The first one, when names are missing where they are looked for: one that stands beside a good
   // name is a remark.
   std::optional<MisplacedName> misplaced_name;
+  // The first name, when it is a heading of coordinates, as the next field is.
+  std::optional<TRCPlace> headings_for_names;
   // The line where the blank one belongs, when it holds but tabs: the reader takes it for a
   // frame.
   std::optional<TRCPlace> frame_of_tabs;

@@ -84,9 +84,9 @@ constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetTrcOddity>>({
      "The first frame is number 1."},
     {TRCOddity::kRateTruncated, Rule("trc-rate-cut"), Quoted, "a whole number", TakenRate},
     {TRCOddity::kUnknownUnits, Rule("trc-unit-unknown"), Quoted,
-     "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimetres are taken."},
+     "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimeters are taken."},
     {TRCOddity::kUnitsEndTheLine, Rule("trc-unit-ends-line"), Quoted, "a tab behind the unit",
-     "Millimetres are taken."},
+     "Millimeters are taken."},
 
     // Columns
     {TRCOddity::kMarkerNameLost, Rule("trc-name-lost"), Quoted, "a tab behind the name",

@@ -24,6 +24,8 @@ struct TrcParts {
   std::string_view first_number;
   std::string_view last_number;
   std::string_view bytes;  // the whole file
+  // How many frames there are before blank lines at the end, when no more are announced.
+  std::optional<std::size_t> frames_before_end{};
 
   // The place behind the last byte.
   [[nodiscard]] TRCPlace End() const {

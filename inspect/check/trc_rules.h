@@ -35,20 +35,25 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-rate-out-of-range", FindingSeverity::kWarning},
     {"trc-camera-rate", FindingSeverity::kNote},
     {"trc-unit-unknown", FindingSeverity::kWarning},
+    {"trc-unit-blanks", FindingSeverity::kNote},
     {"trc-unit-ends-line", FindingSeverity::kWarning},
 
     // Columns
     {"trc-names-misplaced", FindingSeverity::kWarning},
+    {"trc-names-headings", FindingSeverity::kWarning},
     {"trc-name-lost", FindingSeverity::kWarning},
     {"trc-name-empty", FindingSeverity::kWarning},
     {"trc-name-with-blank", FindingSeverity::kNote},
+    {"trc-name-encoding", FindingSeverity::kWarning},
     {"trc-column-unnamed", FindingSeverity::kWarning},
     {"trc-column-repeated", FindingSeverity::kWarning},
+    {"trc-column-repeated-blank", FindingSeverity::kNote},
     {"trc-markers-missing", FindingSeverity::kError},
     {"trc-marker-count", FindingSeverity::kWarning},
     {"trc-sub-header-missing", FindingSeverity::kWarning},
 
     // Numbers
+    {"trc-decimal-commas", FindingSeverity::kWarning},
     {"trc-number-missing", FindingSeverity::kWarning},
     {"trc-number-unreadable", FindingSeverity::kWarning},
     {"trc-number-cut", FindingSeverity::kWarning},
@@ -57,7 +62,9 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     // Frames
     {"trc-blank-line-tabs", FindingSeverity::kWarning},
     {"trc-frame-blank", FindingSeverity::kWarning},
+    {"trc-lines-at-end", FindingSeverity::kNote},
     {"trc-frame-short", FindingSeverity::kWarning},
+    {"trc-frame-narrow", FindingSeverity::kWarning},
     {"trc-value-extra", FindingSeverity::kWarning},
     {"trc-sample-without-x", FindingSeverity::kWarning},
     {"trc-first-frame", FindingSeverity::kWarning},
@@ -69,6 +76,8 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-marker-never-seen", FindingSeverity::kWarning},
 
     // What moves
+    {"trc-position-far", FindingSeverity::kWarning},
+    {"trc-size", FindingSeverity::kNote},
     {"trc-up-axis", FindingSeverity::kNote},
 });
 

@@ -17,7 +17,8 @@ namespace orvane {
 struct FindingEffect {
   // Nothing when the action never meets the code, or nothing is told of it there.
   std::optional<FindingSeverity> severity;
-  // One sentence; null for the one that the check has written for this finding.
+  // One sentence, with {found} and {expected} as in a cause; null for the one that the check has
+  // written for this finding.
   const char* consequence = nullptr;
 };
 

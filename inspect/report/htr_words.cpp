@@ -197,7 +197,8 @@ constexpr FindingMeaning kWords[] = {
      "{count} segments have several sections of motion",
      InMotion(kWarning, "Their frames follow each other.")},
     {"htr-up-axis", "The file seems to have {found}", nullptr,
-     InMotion(kNote, "It is taken as Y up.")},
+     InMotion(kNote, "It is taken as Y up: what stands lies on its side.")
+         .But(Action::kInspect, kNote, "It is taken as Y up.")},
 };
 
 }  // namespace

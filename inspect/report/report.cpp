@@ -52,12 +52,22 @@ bool TellsWhatIsFound(const FindingMeaning& words, std::size_t count) {
   return std::string_view(CauseFor(words, count)).find("{found}") != std::string_view::npos;
 }
 
+std::string Filled(std::string text, const Finding& finding) {
+  ReplaceAll(text, "{found}", Shortened(finding.found));
+  ReplaceAll(text, "{expected}", Shortened(finding.expected));
+  return text;
+}
+
 std::string CauseOf(const FindingMeaning& words, const Finding& first, std::size_t count) {
-  std::string cause = CauseFor(words, count);
+  std::string cause = Filled(CauseFor(words, count), first);
   ReplaceAll(cause, "{count}", FormatInt(static_cast<std::int64_t>(count)));
-  ReplaceAll(cause, "{found}", Shortened(first.found));
-  ReplaceAll(cause, "{expected}", Shortened(first.expected));
   return cause;
+}
+
+std::string ConsequenceOf(const FindingEffect& effect, const Finding& finding, Action action) {
+  if (effect.consequence != nullptr) return Filled(effect.consequence, finding);
+  const bool is_other = action == Action::kConvert && !finding.when_converted.empty();
+  return is_other ? finding.when_converted : finding.effect;
 }
 
 bool IsOfFrames(Concern concern) {
@@ -138,7 +148,7 @@ FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptio
     }
     ReportedFinding& reported = report.findings[place->second];
     std::vector<std::string>& told = effects[place->second];
-    AddName(effect.consequence == nullptr ? finding.effect : effect.consequence, told);
+    AddName(ConsequenceOf(effect, finding, action), told);
     reported.consequence = Joined(told, words->concern, options.frames);
     if (TellsWhatIsFound(*words, reported.count)) continue;
     const std::string_view name = NameIn(finding.found);

@@ -35,7 +35,7 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kNote, "The word does not count.")},
     {"trc-path-type-unknown", "The path type is neither 3 nor 4", nullptr,
      InMarkers(kWarning, "The first frame is number 1.")},
-    {"trc-tabs-missing", "The first line has no tabs", nullptr,
+    {"trc-tabs-missing", "The first line needs {expected}", nullptr,
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
      InMarkers(kError, "The file is refused.")},
@@ -52,12 +52,18 @@ constexpr FindingMeaning kWords[] = {
     {"trc-unit-unknown", "The unit is unknown", nullptr,
      InMarkers(kWarning, "Millimeters are taken; mm, cm, m, in, ft and yd are known.")
          .But(Action::kConvert, kNote, "A BVK file tells no unit.")},
+    {"trc-unit-blanks", "Blanks stand beside the unit", nullptr,
+     InMarkers(kNote, "Millimeters are taken, as it says.")
+         .But(Action::kConvert, kNote, "A BVK file tells no unit.")},
     {"trc-unit-ends-line", "The unit ends its line", nullptr,
      InMarkers(kWarning, "Millimeters are taken; a tab behind the unit makes it count.")
          .But(Action::kConvert, kNote, "A BVK file tells no unit.")},
     {"trc-names-misplaced", "Names are not three tabs apart", nullptr,
      InMarkers(kWarning,
                "A name is taken every three tabs: markers get other names and other values.")},
+    {"trc-names-headings", "The line of names holds {found} in place of {expected}", nullptr,
+     InMarkers(kWarning,
+               "They are the names of the markers: X1, X2 and so on; the next line is not read.")},
     {"trc-name-lost", "The last name has no tab behind it", nullptr,
      InMarkers(
          kWarning,
@@ -74,6 +80,10 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kWarning,
               "In $Order such a name reads as several: whoever reads it gives all names behind it "
               "to other markers.")},
+    {"trc-name-encoding", "A name is not UTF-8 text", "{count} names are not UTF-8 text",
+     InMarkers(kWarning, "Such a byte is replaced where text is shown; save the file as UTF-8.")
+         .But(Action::kConvert, kWarning,
+              "Its bytes are written as they are; save the file as UTF-8.")},
     {"trc-column-unnamed", "A column has no name of its own",
      "{count} columns have no name of their own",
      InMarkers(
@@ -85,6 +95,9 @@ constexpr FindingMeaning kWords[] = {
          kWarning,
          "The later one makes no marker, and its values go to the next one: all columns behind "
          "it shift, unless it gets a name of its own or stands last.")},
+    {"trc-column-repeated-blank", "A column without values has the name of another",
+     "{count} columns without values have the names of others",
+     InMarkers(kNote, "Such a column makes no marker, and no values shift.")},
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
          .But(Action::kInspect, kError, "There is nothing to show.")
@@ -96,6 +109,7 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kInspect, kWarning, "The markers that are there are shown.")},
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
      InMarkers(kWarning, "The frame in its place is lost.")},
+    {"trc-decimal-commas", "Numbers are written with decimal commas", nullptr, InMarkers(kWarning)},
     {"trc-number-missing", "A value is missing", "{count} values are missing",
      InMarkers(kWarning, "0 is taken; a gap has nothing at all for X, not even a blank.")},
     {"trc-number-unreadable", "A value is not a number", "{count} values are not numbers",
@@ -115,24 +129,28 @@ constexpr FindingMeaning kWords[] = {
     {"trc-frame-blank", "A line is blank where a frame belongs",
      "{count} lines are blank where frames belong",
      InMarkers(kWarning, "Each is a frame in which no marker has a position.")},
+    {"trc-lines-at-end", "The file has {found}", nullptr,
+     InMarkers(kNote, "They are behind the frames that the header announces, and do not count.")},
     {"trc-frame-short", "A frame has too few columns", "{count} frames have too few columns",
      InMarkers(kWarning, "The markers that are missing have no position there.")},
+    {"trc-frame-narrow", "A frame has fewer columns than most: {found}, not {expected}",
+     "{count} frames have fewer columns than most, which have {expected}",
+     InMarkers(kWarning,
+               "Values behind a cell that was lost go to other coordinates and markers.")},
     {"trc-value-extra", "A frame has too many columns", "{count} frames have too many columns",
      InMarkers(kWarning, "What stands behind the last marker is not read.")},
     {"trc-sample-without-x", "A sample does not begin with X",
      "{count} samples do not begin with X",
      InMarkers(kWarning, "The marker has no position there.")},
     {"trc-first-frame", "The frames are numbered {found}, and taken as {expected}", nullptr,
-     InMarkers(kWarning)},
+     InMarkers(kWarning)
+         .But(Action::kInspect, kWarning, "They are shown as {expected}.")
+         .But(Action::kConvert, kWarning, "They are written as {expected}.")},
     {"trc-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
      InMarkers(kWarning, "Frames follow each other as their lines do.")},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
-     InMarkers(kWarning)
-         .But(Action::kInspect, kWarning, "The frames that are there are shown.")
-         .But(Action::kConvert, kWarning,
-              "As many are written as announced: missing ones as DROPOUT, surplus ones not at "
-              "all."),
+     InMarkers(kWarning).But(Action::kInspect, kWarning, "The frames that are there are shown."),
      Concern::kFrames},
     {"trc-frames-unannounced", "The header announces no frames", nullptr,
      InMarkers(kError, "The file is refused: its last frame would come before its first.")
@@ -155,8 +173,16 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
          .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
+    {"trc-position-far", "A position is more than 1 km away",
+     "{count} positions are more than 1 km away",
+     InMarkers(kWarning,
+               "Such a number is taken for a position, even if it stands for a missing one.")},
+    {"trc-size", "What the file holds would be {found} large", nullptr,
+     InMarkers(kNote).But(Action::kConvert, kNote,
+                          "Positions are written as they stand; a BVK file tells no unit.")},
     {"trc-up-axis", "The file seems to have {found}", nullptr,
-     InMarkers(kNote, "It is taken as Y up.")},
+     InMarkers(kNote, "It is taken as Y up: what stands lies on its side.")
+         .But(Action::kInspect, kNote, "It is taken as Y up.")},
 };
 
 }  // namespace

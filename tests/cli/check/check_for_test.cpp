@@ -19,7 +19,7 @@ class CheckForTest : public test::OrvaneTest {
  protected:
   CheckForTest() {
     Write("gaps.trc", TrcText{.markers = {"Head", "Hand"},
-                              .frames = {{"1\t2\t3", "\t\t"}, {"1,5\t2\t3", "1\t2\t3"}}}
+                              .frames = {{"1\t2\t3", "\t\t"}, {"1x5\t2\t3", "1\t2\t3"}}}
                           .Text());
   }
 };
@@ -32,7 +32,7 @@ TEST_F(CheckForTest, TellsWhatAnActionMakesOfAFile) {
       imported.output,
       "gaps.trc: warning: A marker has gaps: \"Hand\" (line 7, column 1). In its gaps such "
       "a marker goes to the origin. [trc-marker-gaps]\n"
-      "gaps.trc: warning: A value is not a number: \"1,5\" (line 8, column 9). What it starts "
+      "gaps.trc: warning: A value is not a number: \"1x5\" (line 8, column 9). What it starts "
       "with is taken, or 0. [trc-number-unreadable]\n"
       "gaps.trc: 2 warnings for import\n");
   const ProgramResult converted = Orvane({"check", "--for", "convert", "gaps.trc"});

@@ -72,7 +72,7 @@ INSTANTIATE_TEST_SUITE_P(
                "59.94\t0\t4\t3\tMM \t60\t7",
                {"3:1 warning trc-rate-cut", "3:7 note trc-camera-rate",
                 "3:9 warning trc-frame-count", "3:11 warning trc-marker-count",
-                "3:13 warning trc-unit-unknown", "7:1 warning trc-first-frame"}},
+                "3:13 note trc-unit-blanks", "7:1 warning trc-first-frame"}},
         Damage{"NoFrames", "60\t3\t2", "60\t0\t2", {"3:7 error trc-frames-unannounced"}},
         Damage{"FewerThanNoFrames", "60\t3\t2", "60\t-3\t2", {"3:7 error trc-frames-unannounced"}},
         Damage{"NoFrameCount",
@@ -183,21 +183,23 @@ TEST_F(TrcCheckTest, TellsWhatTheImportMakesOfIt) {
   text.frames[0] = {"", "4\t5\t6"};
   text.frames[2] = {"", "4,5\t5\t6"};
   Write("walk.trc", text.Text());
-  EXPECT_EQ(Orvane({"check", "walk.trc"}).output,
-            "walk.trc:3:1: warning: found \"59.94\", expected a whole number [trc-rate-cut]\n"
-            "  59 is taken: a minute lasts 60.96 s.\n"
-            "walk.trc:3:10: warning: found 900, as NumFrames says, expected 3, as many as there "
-            "are [trc-frame-count]\n"
-            "  The import sets the missing frames to the origin; a converted file has dropouts.\n"
-            "walk.trc:3:14: warning: found 2 markers, expected 3, as NumMarkers says "
-            "[trc-marker-count]\n"
-            "  The import takes the markers that are there.\n"
-            "walk.trc:7:1: note: found no position of \"LFHD\" in 2 frames: 2 gaps, the longest of "
-            "1 frame from here on, expected one in every frame [trc-marker-gaps]\n"
-            "  The import sets those frames to the origin; a converted file has dropouts.\n"
-            "walk.trc:9:12: warning: found \"4,5\", expected a number [trc-number-unreadable]\n"
-            "  4 is taken.\n"
-            "walk.trc: 4 warnings, 1 note\n");
+  EXPECT_EQ(
+      Orvane({"check", "walk.trc"}).output,
+      "walk.trc:3:1: warning: found \"59.94\", expected a whole number [trc-rate-cut]\n"
+      "  59 is taken: a minute lasts 60.96 s.\n"
+      "walk.trc:3:10: warning: found 900, as NumFrames says, expected 3, as many as there "
+      "are [trc-frame-count]\n"
+      "  Behind the first 3 frames every marker goes to the origin.\n"
+      "walk.trc:3:14: warning: found 2 markers, expected 3, as NumMarkers says "
+      "[trc-marker-count]\n"
+      "  The import takes the markers that are there.\n"
+      "walk.trc:7:1: note: found no position of \"LFHD\" in 2 frames: 2 gaps, the longest of "
+      "1 frame from here on, expected one in every frame [trc-marker-gaps]\n"
+      "  The import sets those frames to the origin; a converted file has dropouts.\n"
+      "walk.trc:9:12: warning: found \"4,5\" in 1 cell, expected a point in numbers, no comma "
+      "[trc-decimal-commas]\n"
+      "  A number ends at the comma: 4 is taken for 4,5.\n"
+      "walk.trc: 4 warnings, 1 note\n");
 }
 
 TEST_F(TrcCheckTest, TextIsQuotedAsItStands) {

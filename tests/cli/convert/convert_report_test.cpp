@@ -20,7 +20,7 @@ using testing::Not;
 
 // With one value that is not a number, and one gap.
 std::string CommaTake() {
-  return TrcText{.markers = {"Head1", "Toe"}, .frames = {{"1,5\t2\t3", "4\t5\t6"}, {"1\t2\t3", ""}}}
+  return TrcText{.markers = {"Head1", "Toe"}, .frames = {{"1x5\t2\t3", "4\t5\t6"}, {"1\t2\t3", ""}}}
       .Text();
 }
 
@@ -29,7 +29,7 @@ std::string CleanTake() {
 }
 
 constexpr char kComma[] =
-    "A value is not a number: \"1,5\" (line 7, column 9). What it starts with is taken, or 0. "
+    "A value is not a number: \"1x5\" (line 7, column 9). What it starts with is taken, or 0. "
     "[trc-number-unreadable]\n";
 constexpr char kGap[] =
     "A marker has gaps: \"Toe\" (line 8, column 1). A gap is written as DROPOUT. "
@@ -111,7 +111,7 @@ TEST_F(ConvertReportTest, StrictRefusesAFileAloneAndOneThatIsToBeKept) {
 }
 
 TEST_F(ConvertReportTest, AllowLetsCodesPass) {
-  Write("walk.trc", TrcText{.markers = {"Head1", ""}, .frames = {{"1,5\t2\t3", "4\t5\t6"}}}.Text());
+  Write("walk.trc", TrcText{.markers = {"Head1", ""}, .frames = {{"1x5\t2\t3", "4\t5\t6"}}}.Text());
   EXPECT_EQ(Convert({"walk.trc", "--strict", "--allow", "trc-number-unreadable"}).status, 1);
   EXPECT_FALSE(Exists("walk.bvk"));
   const ProgramResult result =
@@ -296,7 +296,7 @@ TEST_F(ConvertReportTest, JsonHasTheFindingsOfEachFile) {
             json::array({"A value is not a number. What it starts with is taken, or 0."}));
   EXPECT_EQ(report["files"][0]["findings"][0], json::parse(R"({
     "code": "trc-number-unreadable", "severity": "warning", "count": 1, "line": 7, "column": 9,
-    "names": ["1,5"], "cause": "A value is not a number",
+    "names": ["1x5"], "cause": "A value is not a number",
     "consequence": "What it starts with is taken, or 0."})"));
   EXPECT_EQ(report["files"][0]["findings"][1]["code"], "trc-marker-gaps");
   EXPECT_EQ(JsonOf({"walk.trc", "--dry-run", "--force"})["files"][0]["findings"],
@@ -323,7 +323,8 @@ TEST_F(ConvertReportTest, AFileThatItsReaderRefusesIsReportedBeforeItsWords) {
   const ProgramResult result = Convert({"poem.trc"});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: poem.trc: error: The first line has no tabs: \"a poem\" (line 1, column 1). "
+            "orvane: poem.trc: error: The first line needs tabs between fields, not blanks: \"a "
+            "poem\" (line 1, column 1). "
             "The file is refused. [trc-tabs-missing]\n"
             "orvane: poem.trc: The file is does not have a compatible \"(X/Y/Z)\" header state\n");
   EXPECT_THAT(result.output, HasSubstr("-  1e     poem.bvk  broken\n"));

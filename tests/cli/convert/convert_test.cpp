@@ -25,7 +25,8 @@ constexpr char kGap[] =
     "A marker has gaps: \"Toe\" (line 8, column 1). A gap is written as DROPOUT. "
     "[trc-marker-gaps]\n";
 constexpr char kBroken[] =
-    "The first line has no tabs: \"a poem\" (line 1, column 1). The file is refused. "
+    "The first line needs tabs between fields, not blanks: \"a poem\" (line 1, column 1). The file "
+    "is refused. "
     "[trc-tabs-missing]\n";
 
 TEST_F(ConvertTest, ConvertsOneFileBesideItself) {
@@ -217,11 +218,9 @@ TEST_F(ConvertTest, WarnsOfFramesThatAreMissing) {
   Write("walk.trc", take.Text());
   ProgramResult result = Convert({"walk.trc"});
   EXPECT_EQ(result.status, 0);
-  EXPECT_EQ(
-      result.error,
-      "orvane: walk.trc: warning: NumFrames announces 3, and the file holds 1 (line 3, "
-      "column 7). As many are written as announced: missing ones as DROPOUT, surplus ones not "
-      "at all. [trc-frame-count]\n");
+  EXPECT_EQ(result.error,
+            "orvane: walk.trc: warning: NumFrames announces 3, and the file holds 1 (line 3, "
+            "column 7). DROPOUT is written for 2 missing frames. [trc-frame-count]\n");
   EXPECT_THAT(result.output,
               HasSubstr("walk.trc       3     1        0         2  1w     walk.bvk"));
   take.frame_count = 0;

@@ -36,9 +36,8 @@ constexpr char kGaps[] =
 // That 3 frames are there, and more announced.
 std::string Announced(const std::string& count) {
   return "orvane: walk.trc: warning: NumFrames announces " + count +
-         ", and the file holds 3 (line 3, column 8). The import sets the missing frames to the "
-         "origin; a converted file has dropouts. --range FROM:TO leaves them out. "
-         "[trc-frame-count]\n";
+         ", and the file holds 3 (line 3, column 8). Behind the first 3 frames every "
+         "marker goes to the origin. --range FROM:TO leaves them out. [trc-frame-count]\n";
 }
 
 class ImportTrcTest : public test::OrvaneTest {
@@ -322,7 +321,8 @@ TEST_F(ImportTrcTest, WhatIsNoMarkerFileIsRefused) {
   EXPECT_EQ(commas.status, 1);
   EXPECT_EQ(
       commas.error,
-      "orvane: walk.trc: error: The first line has no tabs: \"PathFileType,4,(X/Y/Z),walk.trc\" "
+      "orvane: walk.trc: error: The first line needs tabs between fields, not commas: "
+      "\"PathFileType,4,(X/Y/Z),walk.trc\" "
       "(line 1, column 1). The file is refused. [trc-tabs-missing]\n"
       "orvane: walk.trc: The file is does not have a compatible \"(X/Y/Z)\" header state\n"
       "  The first line of a TRC file is PathFileType, a number, (X/Y/Z) and a file name, with "

@@ -55,8 +55,8 @@ TEST_F(InfoReportTest, TellsOfAMarkerFileBesideItsPage) {
       result.error,
       "orvane: walk.trc: warning: NumFrames announces 3, and the file holds 2 (line 3, column "
       "7). The frames that are there are shown. [trc-frame-count]\n"
-      "orvane: walk.trc: warning: A value is not a number: \"1,5\" (line 7, column 9). What it "
-      "starts with is taken, or 0. [trc-number-unreadable]\n"
+      "orvane: walk.trc: warning: Numbers are written with decimal commas: \"1,5\" (line 7, "
+      "column 9). A number ends at the comma: 1 is taken for 1,5. [trc-decimal-commas]\n"
       "orvane: walk.trc: note: A marker has gaps: \"Toe\" (line 7, column 1). A marker has no "
       "position in its gaps. [trc-marker-gaps]\n");
   EXPECT_THAT(result.output, HasSubstr("  Frames          3 announced, 2 found"));

@@ -241,7 +241,7 @@ const std::vector<CheckRow> kHtrSegmentRows = {
     {"HeightsAlongZ",
      StandingAlongZ(),
      {"32:2 note htr-up-axis", "heights along Z: 50 to 1450 mm", "heights along Y",
-      "The file is taken as Y up."}},
+      "The file is taken as Y up: what stands lies on its side."}},
 };
 
 }  // namespace test

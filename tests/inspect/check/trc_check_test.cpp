@@ -40,13 +40,21 @@ std::string WithoutTheSecondMarker() {
 }
 
 // Eight markers above each other along Z, from 50 on, in front of a wall.
-std::string StandingAlongZ() {
+std::string StandingAlongZ(int step = 200) {
   TrcText text;
   text.frames.emplace_back();
   for (int marker = 0; marker < 8; ++marker) {
     text.markers.push_back("M" + std::to_string(marker));
-    text.frames[0].push_back("0\t900\t" + std::to_string(50 + 200 * marker));
+    text.frames[0].push_back("0\t900\t" + std::to_string(50 + step * marker));
   }
+  return text.Text();
+}
+
+// Twenty frames with room for a third marker that has no name; one has lost three cells.
+std::string NarrowFrame() {
+  TrcText text = Capture();
+  text.frames.assign(20, {"1\t2\t3", "4\t5\t6\t\t\t"});
+  text.frames[3] = {"1\t2\t3", "4\t5\t"};
   return text.Text();
 }
 
@@ -148,11 +156,19 @@ const std::vector<CheckRow> kRows = {
     {"OtherUnit",
      Damaged("\tmm\t", "\tMm\t"),
      {"3:11 warning trc-unit-unknown", "\"Mm\"",
-      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimetres are taken."}},
+      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimeters are taken."}},
+    {"UnitWithBlanks",
+     Damaged("\tmm\t", "\tmm  \t"),
+     {"3:11 note trc-unit-blanks", "\"mm  \"", "no blanks beside the unit",
+      "Millimeters are taken, as it says."}},
+    {"OtherUnitWithBlanks",
+     Damaged("\tmm\t", "\tcm \t"),
+     {"3:11 warning trc-unit-unknown", "\"cm \"",
+      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimeters are taken."}},
     {"UnitAtTheEnd",
      Damaged("mm\t60\t1\t3", "mm"),
      {"3:11 warning trc-unit-ends-line", "\"mm\"", "a tab behind the unit",
-      "Millimetres are taken."}},
+      "Millimeters are taken."}},
 
     // Columns
     {"LastNameLost",
@@ -179,6 +195,19 @@ const std::vector<CheckRow> kRows = {
      Damaged("RFHD", "LFHD"),
      {"4:20 warning trc-column-repeated", "\"LFHD\" again", "a name of its own; column 13 has it",
       kColumnsShift}},
+    {"HeadingsForNames",
+     Damaged("LFHD\t\t\tRFHD\t\t\t", "X1\tY1\tZ1\tX2\tY2\tZ2\t"),
+     {"4:13 warning trc-names-headings", "X1, Y1 and so on", "the names of the markers",
+      "They are the names of the markers: X1, X2 and so on; the next line is not read."}},
+    {"NameInAnotherEncoding",
+     Damaged("LFHD", "t\xEAte"),
+     {"4:13 warning trc-name-encoding", "\"t\xEAte\"", "a name in ASCII or UTF-8",
+      "Its bytes are kept, and most programs will not show them as letters."}},
+    {"RepeatedNameWithoutValues",
+     Damaged("RFHD\t\t\t", "RFHD\t\t\tLFHD\t\t\t"),
+     {"4:27 note trc-column-repeated-blank", "\"LFHD\" again",
+      "a name of its own; column 13 has it",
+      "It makes no marker; neither it nor a column behind it holds a value."}},
     {"NoMarkers",
      Damaged("LFHD\t\t\tRFHD\t\t\t", ""),
      {"10:1 error trc-markers-missing", "no marker", "names in the fourth line, a tab behind each",
@@ -193,6 +222,13 @@ const std::vector<CheckRow> kRows = {
       "The frame on this line is lost."}},
 
     // Numbers
+    {"DecimalCommas",
+     Replaced(Damaged("7\t8\t9", "7,5\t-8,25\t9"), "60\t60\t3", "60\t59,94\t3"),
+     {"3:4 warning trc-decimal-commas", "\"59,94\" in 3 cells", "a point in numbers, no comma",
+      "A number ends at the comma: 59 is taken for 59,94."}},
+    {"TwoCommas",
+     Damaged("7\t8\t9", "7,5,5\t8\t9"),
+     {"9:9 warning trc-number-unreadable", "\"7,5,5\"", "a number", "7 is taken."}},
     {"MissingHeaderNumber",
      Damaged("60\t3\t2", "60\t\t2"),
      {"3:7 warning trc-number-missing", "nothing", "a whole number", "0 is taken."}},
@@ -225,6 +261,11 @@ const std::vector<CheckRow> kRows = {
      Damaged("Z2\n\n", "Z2\n\t\t\t\n"),
      {"6:1 warning trc-blank-line-tabs", "a line of tabs", "a blank line, or the first frame",
       "It is the first frame, without positions: every sample comes a frame late."}},
+    {"BlankAtTheEnd",
+     Capture().Text() + "\n \t\n",
+     {"10:1 note trc-lines-at-end", "2 blank lines at the end",
+      "the end of the file behind the last frame",
+      "No more frames are announced than stand before: none is taken from there."}},
     {"Blank",
      Damaged("3\t0.000\t7\t8\t9\t4\t5\t6", ""),
      {"9:1 warning trc-frame-blank", "a blank line", "a frame",
@@ -233,6 +274,10 @@ const std::vector<CheckRow> kRows = {
      Damaged("7\t8\t9\t4\t5\t6", "7\t8\t9"),
      {"9:14 warning trc-frame-short", "5 fields", "8: frame, time and 2 markers",
       "The markers that are missing have no position in this frame."}},
+    {"CellsLost",
+     NarrowFrame(),
+     {"10:1 warning trc-frame-narrow", "8 fields", "11, as in most frames",
+      "Values behind a cell that was lost go to other coordinates and markers."}},
     {"ValueBehindTheLast",
      Damaged("9\t4\t5\t6", "9\t4\t5\t6\t7"),
      {"9:21 warning trc-value-extra", "\"7\"", "the end of the line, behind 2 markers",
@@ -244,11 +289,11 @@ const std::vector<CheckRow> kRows = {
     {"FirstNumberThatIsNotAnnounced",
      Damaged("1\t0.000", "7\t0.000"),
      {"7:1 warning trc-first-frame", "from 7 on", "1 to 3, as OrigDataStartFrame says",
-      "1 is taken for the number of the first frame."}},
+      "--range takes them by these numbers: 1:3 for all."}},
     {"FirstNumberOfAnotherPathType",
      Replaced(Damaged("Type\t4", "Type\t5"), "1\t0.000", "7\t0.000"),
      {"7:1 warning trc-first-frame", "from 7 on", "1 to 3, as the path type is neither 3 nor 4",
-      "1 is taken for the number of the first frame."}},
+      "--range takes them by these numbers: 1:3 for all."}},
     {"NumberThatDoesNotFollow",
      Damaged("3\t0.000", "5\t0.000"),
      {"9:1 warning trc-frame-number", "\"5\"", "the number behind that of the frame before",
@@ -256,11 +301,11 @@ const std::vector<CheckRow> kRows = {
     {"MoreAnnounced",
      Damaged("60\t3\t2", "60\t4\t2"),
      {"3:7 warning trc-frame-count", "4, as NumFrames says", "3, as many as there are",
-      "The import sets the missing frames to the origin; a converted file has dropouts."}},
+      "Behind the first 3 frames every marker goes to the origin."}},
     {"FewerAnnounced",
      Damaged("60\t3\t2", "60\t2\t2"),
      {"3:7 warning trc-frame-count", "2, as NumFrames says", "3, as many as there are",
-      "Only the announced frames are imported."}},
+      "Only the first 2 of 3 frames are imported."}},
     {"NoneAnnounced",
      Damaged("60\t3\t2", "60\t0\t2"),
      {"3:7 error trc-frames-unannounced", "0, as NumFrames says", "a whole number of 1 or more",
@@ -287,10 +332,22 @@ const std::vector<CheckRow> kRows = {
       "The import makes an object that stays at the origin."}},
 
     // What moves
+    {"OutOfSight",
+     Damaged("7\t8\t9", "7\t-9999999\t9"),
+     {"9:1 warning trc-position-far", "\"LFHD\" 10 km away", "a position within 1 km, or none",
+      "It is taken for a position all the same."}},
+    {"Giant",
+     Replaced(StandingAlongZ(), "\tmm\t", "\tcm\t"),
+     {"3:11 note trc-size", "14.0 m", "the size of a body",
+      "Lengths are taken in cm all the same; is that their unit?"}},
+    {"Dwarf",
+     StandingAlongZ(1),
+     {"3:11 note trc-size", "0.0070 m", "the size of a body",
+      "Lengths are taken in mm all the same; is that their unit?"}},
     {"HeightsAlongZ",
      StandingAlongZ(),
      {"7:1 note trc-up-axis", "heights along Z: 50 to 1450 mm", "heights along Y",
-      "The file is taken as Y up."}},
+      "The file is taken as Y up: what stands lies on its side."}},
 };
 
 TEST(TrcCheck, FindsNothingInASoundFile) {
@@ -328,6 +385,23 @@ TEST(TrcCheck, TellsTheCauseAloneOfALineOfTabs) {
   }
 }
 
+TEST(TrcCheck, TellsTheCauseAloneOfBlankLinesAtTheEnd) {
+  EXPECT_EQ(ToldOf(Capture().Text() + "\n\n").size(), 1U);
+  EXPECT_EQ(ToldOf(Damaged("60\t3\t2", "60\t2\t2") + "\n").size(), 2U) << "and the count";
+}
+
+TEST(TrcCheck, TakesABlankLineAtTheEndForAFrameThatIsAnnounced) {
+  EXPECT_THAT(ToldOf(Damaged("60\t3\t2", "60\t4\t2") + "\n"),
+              testing::Contains(testing::Contains("10:1 warning trc-frame-blank")));
+}
+
+TEST(TrcCheck, FindsNothingInFramesThatLeaveOutTheirLastCells) {
+  TrcText text = Capture();
+  text.frames.assign(20, {"1\t2\t3", "4\t5\t6\t\t\t"});
+  text.frames[3] = {"1\t2\t3", "4\t5\t6"};
+  EXPECT_THAT(ToldOf(text.Text()), testing::IsEmpty());
+}
+
 TEST(TrcCheck, TellsHowFramesAreNumberedAndTaken) {
   std::string bytes = Capture().Text();
   for (const char* const number : {"1", "2", "3"}) {
@@ -335,9 +409,9 @@ TEST(TrcCheck, TellsHowFramesAreNumberedAndTaken) {
                      std::string("\n18") + number + "\t0.0");
   }
   EXPECT_THAT(ToldOf(bytes),
-              testing::ElementsAre(test::Told{"7:1 warning trc-first-frame", "181 to 183",
-                                              "1 to 3, as OrigDataStartFrame says",
-                                              "1 is taken for the number of the first frame."}));
+              testing::ElementsAre(test::Told{
+                  "7:1 warning trc-first-frame", "181 to 183", "1 to 3, as OrigDataStartFrame says",
+                  "--range takes them by these numbers: 1:3 for all."}));
 }
 
 TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }

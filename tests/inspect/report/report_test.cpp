@@ -35,11 +35,11 @@ ReportedFinding Find(const FileReport& report, std::string_view code) {
   throw std::out_of_range(std::string(code));
 }
 
-const TrcText kCommas{.markers = {"Head"},
-                      .frames = {{"1,5\t2,5\t3"}, {"1,5\t2\t3"}, {"4,5\t5,5\t7,5"}}};
+const TrcText kUnreadable{.markers = {"Head"},
+                          .frames = {{"1x5\t2x5\t3"}, {"1x5\t2\t3"}, {"4x5\t5x5\t7x5"}}};
 
 TEST(Report, TellsEachCodeOnceWithItsCountAndFirstPlace) {
-  const FileReport report = ReportFor(kCommas, Action::kImport);
+  const FileReport report = ReportFor(kUnreadable, Action::kImport);
   EXPECT_EQ(report.file, "walk.trc");
   EXPECT_EQ(report.kind, "TRC");
   ASSERT_EQ(report.findings.size(), 1U);
@@ -55,12 +55,45 @@ TEST(Report, TellsEachCodeOnceWithItsCountAndFirstPlace) {
 }
 
 TEST(Report, NamesUpToThreeValuesOnce) {
-  EXPECT_THAT(Find(ReportFor(kCommas, Action::kImport), "trc-number-unreadable").names,
-              ElementsAre("1,5", "2,5", "4,5"));
+  EXPECT_THAT(Find(ReportFor(kUnreadable, Action::kImport), "trc-number-unreadable").names,
+              ElementsAre("1x5", "2x5", "4x5"));
+}
+
+TEST(Report, TellsWhatAConversionDoesWhereThatIsSomethingElse) {
+  TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
+  text.frame_count = 4;
+  EXPECT_EQ(Find(ReportFor(text, Action::kConvert), "trc-frame-count").consequence,
+            "DROPOUT is written for 3 missing frames.");
+  EXPECT_EQ(Find(ReportFor(text, Action::kApply), "trc-frame-count").consequence,
+            "Behind the first frame every marker goes to the origin.");
+}
+
+TEST(Report, TellsNumbersInConsequences) {
+  const TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}, {"1\t2\t3"}}, .first_frame = 185};
+  std::string bytes = text.Text();
+  bytes.replace(bytes.find("\t185\t"), 5, "\t1\t");
+  const auto told = [&bytes](Action action) {
+    const auto found =
+        Find(ReportOn(orvane::CheckTrc("walk.trc", bytes), action), "trc-first-frame");
+    EXPECT_EQ(found.cause, "The frames are numbered 185 to 186, and taken as 1 to 2");
+    return found.consequence;
+  };
+  EXPECT_EQ(told(Action::kImport), "--range takes them by these numbers: 1:2 for all.");
+  EXPECT_EQ(told(Action::kConvert), "They are written as 1 to 2.");
+  EXPECT_EQ(told(Action::kInspect), "They are shown as 1 to 2.");
+}
+
+TEST(Report, TellsOnceOfDecimalCommas) {
+  const TrcText text{.markers = {"Head"}, .frames = {{"1,5\t2,5\t3"}, {"4,5\t2\t3"}}};
+  const FileReport report = ReportFor(text, Action::kImport);
+  ASSERT_EQ(report.findings.size(), 1U);
+  EXPECT_EQ(report.findings[0].cause, "Numbers are written with decimal commas");
+  EXPECT_EQ(report.findings[0].consequence, "A number ends at the comma: 1 is taken for 1,5.");
+  EXPECT_THAT(report.findings[0].names, ElementsAre("1,5"));
 }
 
 TEST(Report, SpeaksOfOneFindingInTheSingular) {
-  const TrcText text{.markers = {"Head"}, .frames = {{"1,5\t2\t3"}}};
+  const TrcText text{.markers = {"Head"}, .frames = {{"1x5\t2\t3"}}};
   const FileReport report = ReportFor(text, Action::kImport);
   EXPECT_EQ(Find(report, "trc-number-unreadable").cause, "A value is not a number");
 }
@@ -138,8 +171,7 @@ TEST(Report, TakesARateThatIsNotAskedForAsANote) {
 TEST(Report, TakesFramesByThoseThatAreAskedFor) {
   TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
   text.frame_count = 2;
-  const std::string missing =
-      "warning: The import sets the missing frames to the origin; a converted file has dropouts.";
+  const std::string missing = "warning: Behind the first frame every marker goes to the origin.";
   EXPECT_EQ(AskedAndTold(text, {}, "trc-frame-count"), missing);
   EXPECT_EQ(AskedAndTold(text, {.frames = AskedFrames::kMissing}, "trc-frame-count"),
             missing + " --range FROM:TO leaves them out.");

@@ -1,0 +1,61 @@
+#include "inspect/check/trc_positions.h"
+
+#include <optional>
+#include <string>
+
+#include "formats/text/numbers.h"
+#include "inspect/check/plausibility.h"
+#include "inspect/check/trc_rules.h"
+#include "inspect/summary/subject.h"
+#include "inspect/summary/trc_summary.h"
+
+namespace orvane::trc {
+namespace {
+
+void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const TrcParts& parts,
+                       FindingList& findings) {
+  std::size_t frame = 0;
+  auto gap = marker.Gaps().begin();
+  for (std::size_t index = 0; index < marker.Positions().size(); ++index, ++frame) {
+    for (; gap != marker.Gaps().end() && gap->begin == frame; ++gap) frame = gap->end;
+    const TRCPosition& position = marker.Positions()[index];
+    const Point point{position.x, position.y, position.z};
+    if (!IsOutOfSight(point, unit)) continue;
+    findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame),
+                 [&] { return WordsOfOutOfSight(marker.Name(), point, unit); });
+  }
+}
+
+}  // namespace
+
+void CheckNarrowFrames(const TrcWidths& widths, std::int64_t markers, FindingList& findings) {
+  const auto needed = static_cast<std::size_t>(2 + 3 * markers);
+  for (const TrcWidths::NarrowFrame& frame : widths.narrow) {
+    if (frame.fields < needed) continue;  // which is told of as too short
+    findings.Add(Rule("trc-frame-narrow"), frame.place, [&] {
+      return FindingWords{
+          CountOf(frame.fields, "field"),
+          FormatInt(static_cast<std::int64_t>(widths.usual)) + ", as in most frames",
+          "Values behind a cell that was lost go to other coordinates and markers."};
+    });
+  }
+}
+
+void CheckPositions(const TRCDocument& document, const TrcParts& parts, FindingList& findings) {
+  const auto unit = static_cast<std::uint32_t>(document.Units());
+  const auto subject = MeasureSubject(document);
+  if (auto words = WordsOfOddSize(subject, unit)) {
+    findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.End()),
+                 std::move(*words));
+  } else {
+    for (const TRCMarker& marker : document.markers()) {
+      CheckFarPositions(marker, unit, parts, findings);
+    }
+  }
+  if (!subject || !SeemsToStandAlongZ(*subject)) return;
+  findings.Add(Rule("trc-up-axis"), parts.PlaceOfFrame(0),
+               {"heights along Z: " + DescribeHeights(*SummarizeTrc(document).bounds, unit),
+                "heights along Y", "The file is taken as Y up: what stands lies on its side."});
+}
+
+}  // namespace orvane::trc
