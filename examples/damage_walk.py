@@ -104,6 +104,11 @@ def base_position_over_and_over(lines):
     return at + max(1 << 20, size) // SEGMENTS
 
 
+def commas_for_tabs(lines):
+    lines[:] = [line.replace(b"\t", b",") for line in lines]
+    return find(lines, b"Hips")
+
+
 def lay_down(lines):
     """The skeleton hangs from a root that is turned about X, and moves in the place of its hips."""
     change(b"NumSegments", b"NumSegments 22")(lines)
@@ -173,11 +178,13 @@ DAMAGES = [
     # Numbers
     ("missing-cell", "htr-number-missing", change_cell(b"[Spine]", 10, 7, None)),
     ("word-for-number", "htr-number-unreadable", change_cell(b"[Spine]", 10, 4, b"nan")),
-    ("decimal-comma", "htr-number-unreadable", change_cell(b"[BasePosition]", 2, 2, b"170,5")),
+    ("decimal-comma", "htr-decimal-commas", change_cell(b"[BasePosition]", 2, 2, b"170,5")),
     ("frame-with-fraction", "htr-number-cut", change_cell(b"[Spine]", 10, 0, b"11.5")),
     ("huge-number", "htr-number-out-of-range", change_cell(b"[Spine]", 10, 1, b"1e999")),
     # Hierarchy
     ("no-segments", "htr-segments-missing", cut_behind(b"[SegmentNames", 0, b"[SegmentNames")),
+    ("commas", "htr-tabs-missing", commas_for_tabs),
+    ("other-encoding", "htr-name-encoding", rename_segment(b"Head", b"T\xeate")),
     ("repeated-name", "htr-name-taken", change(b"RightHand\tRight", b"LeftHand\tRightForeArm")),
     ("name-with-blank", "htr-name-in-words", change(b"Head\tNeck", b"Head of Neck")),
     ("name-with-bracket", "htr-name-unusable", rename_segment(b"Head", b"Head]1")),
@@ -214,6 +221,10 @@ DAMAGES = [
     ("no-motion", "htr-motion-missing", remove_section(b"[Neck]", b"Neck\tChest")),
     ("repeated-motion", "htr-motion-repeated", change(b"[Neck]", b"[Chest]")),
     # What moves
+    ("nines", "htr-position-far", both(change_cell(b"[Spine]", 10, 1, b"9999999"),
+                                       lambda lines: find(lines, b"[Spine]"))),
+    ("radians", "htr-angles-large", change(b"RotationUnits", b"RotationUnits Radians")),
+    ("inches", "htr-size", change(b"CalibrationUnits", b"CalibrationUnits in")),
     ("heights-along-z", "htr-up-axis", lay_down),
 ]
 

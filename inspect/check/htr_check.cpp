@@ -30,6 +30,20 @@ void NameWhatItIs(std::string_view bytes, FindingList& findings) {
                 "The import refuses the file; what else is odd about it is not told.", findings);
 }
 
+// A line of the hierarchy is one word then: the name of a segment without a parent.
+void NameOtherSeparators(const htr::HtrParts& parts, FindingList& findings) {
+  if (parts.segments.empty()) return;
+  const htr::SegmentLines& first = parts.segments.front();
+  const std::size_t separator = first.name.text.find_first_of(",;");
+  if (!first.parent.text.empty() || separator == std::string_view::npos) return;
+  const bool are_commas = first.name.text[separator] == ',';
+  findings.ReplaceAll(
+      htr::Rule("htr-tabs-missing"), {first.name.line, first.name.column},
+      {Quote(first.name.text),
+       std::string("tabs between cells, not ") + (are_commas ? "commas" : "semicolons"),
+       "The import refuses the file; the rest of it is not checked."});
+}
+
 std::string Contents(const HtrDocument& document) {
   return CountOf(document.segments().size(), "segment") + ", " +
          CountOf(document.GetNumFrames(), "frame");
@@ -48,11 +62,12 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocumen
   parts.bytes = bytes;
   htr::HtrFindingsObserver observer(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &observer);
-  observer.LeaveSection();
+  observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
+  if (observer.HasRefused()) NameOtherSeparators(parts, checked.findings);
   NameWhatItIs(bytes, checked.findings);
   checked.contents = Contents(document);
   return checked;

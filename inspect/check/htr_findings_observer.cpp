@@ -13,6 +13,7 @@
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/rates.h"
 #include "inspect/check/similar_words.h"
+#include "inspect/check/text_encoding.h"
 
 namespace orvane::htr {
 namespace {
@@ -67,6 +68,9 @@ void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::s
       return AddKeyword(cell);
     case HtrOddity::kCutNumber:
       if (field == "DataFrameRate") return AddRateCut(cell);
+      break;
+    case HtrOddity::kUnreadableNumber:
+      if (commas_.Take(cell.text, cell)) return;  // told once for all
       break;
     case HtrOddity::kHierarchyLinkedAgain:
       linked_again_ = true;
@@ -153,6 +157,11 @@ void HtrFindingsObserver::EnterMotion(const HtrCell& name) {
   segment_->motion = name;
 }
 
+void HtrFindingsObserver::Finish() {
+  LeaveSection();
+  commas_.AddTo(findings_, Rule("htr-decimal-commas"));
+}
+
 void HtrFindingsObserver::LeaveSection() {
   if (skipped_section_) AddSkippedSection(*skipped_section_);
   skipped_section_.reset();
@@ -210,6 +219,12 @@ void HtrFindingsObserver::OnSegment(const HtrCell& name, const HtrCell& parent) 
 }
 
 void HtrFindingsObserver::CheckName(const HtrCell& name) {
+  if (!IsUtf8(name.text)) {
+    findings_.Add(Rule("htr-name-encoding"), name, [&name] {
+      return FindingWords{Quote(name.text), "a name in ASCII or UTF-8",
+                          "Its bytes are kept, and most programs will not show them as letters."};
+    });
+  }
   const std::string reason = WhyUnusable(name.text);
   if (reason.empty()) return;
   findings_.Add(Rule("htr-name-unusable"), name, [&] {

@@ -6,6 +6,7 @@
 #include <string_view>
 
 #include "formats/htr/read_observer.h"
+#include "inspect/check/decimal_commas.h"
 #include "inspect/check/findings.h"
 #include "inspect/check/htr_parts.h"
 
@@ -29,8 +30,8 @@ class HtrFindingsObserver final : public HtrReadObserver {
   void OnBasePosition(const HtrCell& name) override;
   void OnFrame(const HtrCell& number) override;
 
-  // Ends the last section, when reading has ended.
-  void LeaveSection();
+  // Ends the last section, and adds what is told once of the whole file, when reading has ended.
+  void Finish();
 
   // Whether the reader has refused the file, and whether it did so before the end.
   [[nodiscard]] bool HasRefused() const { return has_refused_; }
@@ -39,6 +40,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
  private:
   void AddKeyword(const HtrCell& keyword);
   void AddRateCut(const HtrCell& rate);
+  void LeaveSection();
   void AddSkippedSection(const HtrCell& name);
   void CheckHeaderPlace(const HtrCell& name);
   void EnterMotion(const HtrCell& name);
@@ -58,6 +60,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
   SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion
   std::optional<std::int64_t> next_frame_number_;
   std::optional<std::int64_t> start_frame_;
+  DecimalCommas commas_;
 };
 
 }  // namespace orvane::htr

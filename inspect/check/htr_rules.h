@@ -55,6 +55,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-scale-factor", FindingSeverity::kWarning},
 
     // Numbers
+    {"htr-decimal-commas", FindingSeverity::kWarning},
     {"htr-number-missing", FindingSeverity::kWarning},
     {"htr-number-unreadable", FindingSeverity::kWarning},
     {"htr-number-cut", FindingSeverity::kWarning},
@@ -62,8 +63,10 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
 
     // Hierarchy
     {"htr-segments-missing", FindingSeverity::kError},
+    {"htr-tabs-missing", FindingSeverity::kError},
     {"htr-name-taken", FindingSeverity::kError},
     {"htr-name-in-words", FindingSeverity::kWarning},
+    {"htr-name-encoding", FindingSeverity::kWarning},
     {"htr-name-unusable", FindingSeverity::kWarning},
     {"htr-parent-unknown", FindingSeverity::kWarning},
     {"htr-parent-circle", FindingSeverity::kWarning},
@@ -91,6 +94,9 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-motion-repeated", FindingSeverity::kWarning},
 
     // What moves
+    {"htr-position-far", FindingSeverity::kWarning},
+    {"htr-angles-large", FindingSeverity::kNote},
+    {"htr-size", FindingSeverity::kNote},
     {"htr-up-axis", FindingSeverity::kNote},
 });
 

@@ -1,6 +1,9 @@
 #include "inspect/check/htr_structure.h"
 
+#include <algorithm>
 #include <cassert>
+#include <cmath>
+#include <numbers>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -9,6 +12,7 @@
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
 #include "inspect/check/htr_rules.h"
+#include "inspect/check/plausibility.h"
 #include "inspect/counts/frame_counts.h"
 #include "inspect/summary/subject.h"
 
@@ -31,7 +35,8 @@ class Structure {
     CheckLinks();
     CheckRoots();
     CheckCircles();
-    CheckUpAxis();
+    CheckSubject();
+    CheckAngles();
   }
 
  private:
@@ -42,7 +47,10 @@ class Structure {
   void CheckBasePosition();
   void CheckBaseLines();
   void CheckMotion();
-  void CheckUpAxis();
+  void CheckSubject();
+  void CheckUpAxis(const Subject& subject);
+  void CheckFarPositions();
+  void CheckAngles();
   void AddFramesUnannounced();
   void CheckFrames(const SegmentLines& segment, std::int64_t expected);
   void CheckLinks();
@@ -135,15 +143,59 @@ void Structure::CheckMotion() {
   for (const SegmentLines& segment : parts_.segments) CheckFrames(segment, expected);
 }
 
-// A header that says so is told of by itself.
-void Structure::CheckUpAxis() {
-  if (!parts_.motion || document_.GetGlobalAxisofGravity() == kAxisZ) return;
+void Structure::CheckSubject() {
+  const std::uint32_t unit = document_.GetCalibrationUnits();
   const auto subject = MeasureSubject(document_);
-  if (!subject || !SeemsToStandAlongZ(*subject)) return;
+  if (auto words = WordsOfOddSize(subject, unit)) {
+    findings_.Add(Rule("htr-size"), parts_.Value("CalibrationUnits").value_or(parts_.End()),
+                  std::move(*words));
+  } else {
+    CheckFarPositions();
+  }
+  if (subject) CheckUpAxis(*subject);
+}
+
+// A header that says so is told of by itself.
+void Structure::CheckUpAxis(const Subject& subject) {
+  if (!parts_.motion || document_.GetGlobalAxisofGravity() == kAxisZ) return;
+  if (!SeemsToStandAlongZ(subject)) return;
   findings_.Add(
       Rule("htr-up-axis"), *parts_.motion,
-      {"heights along Z: " + DescribeHeights(subject->bounds, document_.GetCalibrationUnits()),
+      {"heights along Z: " + DescribeHeights(subject.bounds, document_.GetCalibrationUnits()),
        "heights along Y", "The file is taken as Y up: what stands lies on its side."});
+}
+
+// One finding for a segment.
+void Structure::CheckFarPositions() {
+  const std::uint32_t unit = document_.GetCalibrationUnits();
+  for (std::size_t index = 0; index < parts_.segments.size(); ++index) {
+    const HtrSegment& segment = document_.segments()[index];
+    for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
+      const Vector3 offset = segment.GetFrameTranslation(frame);
+      const Point point{offset.x(), offset.y(), offset.z()};
+      if (!IsOutOfSight(point, unit)) continue;
+      findings_.Add(Rule("htr-position-far"), *parts_.segments[index].motion,
+                    WordsOfOutOfSight(segment.GetName(), point, unit));
+      break;
+    }
+  }
+}
+
+// Two turns in either direction are more than any joint makes between two frames of a file.
+void Structure::CheckAngles() {
+  constexpr double kMostTurned = 4.0 * std::numbers::pi;
+  if (document_.GetRotationUnits() == kDegrees) return;
+  double largest = 0.0;
+  for (const HtrSegment& segment : document_.segments()) {
+    for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
+      const EulerRotation turned = segment.GetFrameRotation(frame);
+      largest = std::max({largest, std::abs(turned[0]), std::abs(turned[1]), std::abs(turned[2])});
+    }
+  }
+  if (largest <= kMostTurned || !std::isfinite(largest)) return;
+  findings_.Add(Rule("htr-angles-large"), parts_.Value("RotationUnits").value_or(parts_.End()),
+                {FormatDouble(largest, 1), "angles in radians",
+                 "They are taken as radians all the same; are they degrees?"});
 }
 
 void Structure::AddFramesUnannounced() {

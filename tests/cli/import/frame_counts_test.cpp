@@ -149,8 +149,7 @@ TEST_F(FrameCountsTest, FarTooManyAnnouncedAreAWarningWhenARangeMakesUpAFew) {
   EXPECT_EQ(result.error,
             "orvane: walk.htr: warning: NumFrames announces 2147483647, and the file holds about "
             "3 (line 6, column 11). Frames that are not there are made up. --range FROM:TO "
-            "leaves them out. [htr-frames-too-many]\n" +
-                BothHoldThree("2147483647") + kMissing);
+            "leaves them out. [htr-frames-too-many]\n");
 }
 
 TEST_F(FrameCountsTest, NothingIsSaidOfThemWhenNoneAreImported) {

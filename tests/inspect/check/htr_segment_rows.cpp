@@ -1,4 +1,7 @@
+#include <algorithm>
+
 #include "tests/inspect/check/htr_rows.h"
+#include "tests/support/replaced_text.h"
 
 namespace test {
 namespace {
@@ -35,10 +38,21 @@ std::string StandingAlongZ() {
   return text.Text();
 }
 
+std::string WithCommas() {
+  std::string text = Walk().Text();
+  const auto rows = static_cast<std::ptrdiff_t>(text.find("[SegmentNames"));
+  std::replace(text.begin() + rows, text.end(), ' ', ',');
+  return text;
+}
+
 }  // namespace
 
 const std::vector<CheckRow> kHtrSegmentRows = {
     // Numbers
+    {"DecimalCommas",
+     DamagedWalk("2 10 0 0 0 0 90 1", "2 10,25 0 0 0 0 90,5 1"),
+     {"22:3 warning htr-decimal-commas", "\"10,25\" in 2 cells", "a point in numbers, no comma",
+      "A number ends at the comma: 10 is taken for 10,25."}},
     {"MissingCell",
      DamagedWalk("2 10 0 0 0 0 90 1", "2 10 0 0 0 0 90"),
      {"22:16 warning htr-number-missing", "nothing", "a number for BoneScaleFactor",
@@ -95,6 +109,14 @@ const std::vector<CheckRow> kHtrSegmentRows = {
      HtrText{}.Text(),
      {"14:2 error htr-segments-missing", "no segments", "their lines in [SegmentNames&Hierarchy]",
       "There is nothing to import. Is it an HTR file?"}},
+    {"CommasForTabs",
+     WithCommas(),
+     {"15:1 error htr-tabs-missing", "\"Hips,GLOBAL\"", "tabs between cells, not commas",
+      kRefused}},
+    {"NameInAnotherEncoding",
+     DamagedWalk("Spine Hips", "T\xEAte Hips"),
+     {"16:1 warning htr-name-encoding", "\"T\xEAte\"", "a name in ASCII or UTF-8",
+      "Its bytes are kept, and most programs will not show them as letters."}},
     {"RepeatedName",
      DamagedWalk("Spine Hips", "Hips Hips"),
      {"16:1 error htr-name-taken", "\"Hips\" again",
@@ -238,6 +260,18 @@ const std::vector<CheckRow> kHtrSegmentRows = {
       "Its frames are put behind those of the first."}},
 
     // What moves
+    {"OutOfSight",
+     DamagedWalk("2 10 0 0", "2 10 0 9999999"),
+     {"20:2 warning htr-position-far", "\"Hips\" 10 km away", "a position within 1 km, or none",
+      "It is taken for a position all the same."}},
+    {"AnglesInDegrees",
+     DamagedWalk("RotationUnits Degrees", "RotationUnits Radians"),
+     {"10:15 note htr-angles-large", "90.0", "angles in radians",
+      "They are taken as radians all the same; are they degrees?"}},
+    {"Giant",
+     Replaced(StandingAlongZ(), "Units mm", "Units cm"),
+     {"9:18 note htr-size", "14.0 m", "the size of a body",
+      "Lengths are taken in cm all the same; is that their unit?"}},
     {"HeightsAlongZ",
      StandingAlongZ(),
      {"32:2 note htr-up-axis", "heights along Z: 50 to 1450 mm", "heights along Y",
