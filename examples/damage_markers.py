@@ -206,6 +206,7 @@ MAPPING_DAMAGES = [
     ("long-line", "mnm-line-cut", change(b"C7\t", b"C7\twalker:C7" + b" " * 1100 + b"x")),
     ("blank-line", "mnm-line-blank", insert_before(b"C7\t", b"")),
     ("one-word", "mnm-name-missing", change(b"C7\t", b"C7")),
+    ("other-encoding", "mnm-name-encoding", change(b"C7\t", b"C7\twalker:C7\xe9")),
     ("name-with-blank", "mnm-rest-ignored", change(b"C7\t", b"C7\twalker C7")),
     ("empty", "mnm-entries-missing", damages.empty),
     ("lower-case", "mnm-standard-unknown", change(b"C7\t", b"c7\twalker:C7")),

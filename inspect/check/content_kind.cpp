@@ -4,6 +4,9 @@
 #include <array>
 #include <span>
 
+#include "formats/mnm/mapping_lines.h"
+#include "formats/mnm/standard_markers.h"
+
 namespace orvane {
 namespace {
 
@@ -91,13 +94,28 @@ bool IsTrc(std::string_view bytes) {
   return HasLineOfAny(bytes, kStarts);
 }
 
+// The first lines pair standard markers with other names, one with one.
+bool IsMnm(std::string_view bytes) {
+  constexpr int kLinesThatShowIt = 3;
+  MappingLineReader reader(TextOf(bytes));
+  MappingLine line;
+  int pairs = 0;
+  while (pairs < kLinesThatShowIt && reader.Next(line)) {
+    if (line.given_standard_name.empty()) continue;
+    const bool is_pair = !line.given_trc_name.empty() && line.rest.empty();
+    if (!is_pair || !IsStandardMarker(line.given_standard_name)) return false;
+    ++pairs;
+  }
+  return pairs > 0;
+}
+
 struct KnownKind {
   bool (*is)(std::string_view bytes);
   ContentKindWords words;
 };
 
 // By ContentKind; the first that fits is taken.
-constexpr std::array<KnownKind, 9> kKinds = {{
+constexpr std::array<KnownKind, 10> kKinds = {{
     {IsOrvaneScene, {"an orvane scene", "\"orvane scene\" shows it."}},
     {IsGltf, {"a glTF file", "It is for viewers, and no motion or marker file can be made of it."}},
     {IsBvk, {"a BVK file", "It is what \"orvane convert\" makes of a TRC file, and is not read."}},
@@ -107,6 +125,8 @@ constexpr std::array<KnownKind, 9> kKinds = {{
     {IsZip, {"a zip archive", "Unpack it first."}},
     {IsHtr, {"an HTR file", "Give it a name that ends in .htr, or say \"--as htr\"."}},
     {IsTrc, {"a TRC file", "Give it a name that ends in .trc, or say \"--as trc\"."}},
+    {IsMnm,
+     {"a mapping", "\"orvane map lint\" checks it, and \"orvane convert --mapping\" takes it."}},
 }};
 
 const KnownKind& Known(ContentKind kind) { return kKinds[static_cast<std::size_t>(kind)]; }

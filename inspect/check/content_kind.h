@@ -24,13 +24,14 @@ enum class ContentKind {
   kZip,
   kHtr,
   kTrc,
+  kMnm,
 };
 
 // As many bytes from the start of a file as show it: what is behind them is not looked at.
 inline constexpr std::size_t kBytesThatShowKind = std::size_t{64} << 10U;
 
-// The kind of a file that has, or starts with, these `bytes`; nothing when they show none. An HTR
-// or a TRC file with damage may show none: it is its reader that says whether it is one.
+// The kind of a file that has, or starts with, these `bytes`; nothing when they show none. An HTR,
+// a TRC or a mapping file with damage may show none: it is its reader that says whether it is one.
 [[nodiscard]] std::optional<ContentKind> FindContentKind(std::string_view bytes);
 
 // The same where a file of kind `wanted` is to be read: nothing, too, when it may be one.

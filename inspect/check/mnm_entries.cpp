@@ -7,6 +7,7 @@
 #include "formats/text/numbers.h"
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/similar_words.h"
+#include "inspect/check/text_encoding.h"
 
 namespace orvane::mnm {
 namespace {
@@ -56,6 +57,8 @@ void MappingEntries::ReadLine(const MappingLine& line) {
   CheckBytes();
   if (line.given_standard_name.empty()) return AddBlank(line);
   CheckStandardName(line);
+  CheckEncoding(line.given_standard_name);
+  CheckEncoding(line.given_trc_name);
   if (!line.rest.empty()) AddRestIgnored(line);
   AddEntry(line);
 }
@@ -105,6 +108,14 @@ void MappingEntries::AddRestIgnored(const MappingLine& line) {
     return FindingWords{
         Quote(line.rest), "the end of the line",
         "It is ignored: names end at the first blank, so that one with blanks cannot be mapped."};
+  });
+}
+
+void MappingEntries::CheckEncoding(std::string_view name) {
+  if (IsUtf8(name)) return;
+  findings_.Add(Rule("mnm-name-encoding"), PlaceOf(name), [name] {
+    return FindingWords{Quote(name), "a name in ASCII or UTF-8",
+                        "It is of no marker but one that is written in these very bytes."};
   });
 }
 

@@ -39,6 +39,7 @@ class MappingEntries {
   void AddBlank(const MappingLine& line);
   void AddNameMissing(const MappingLine& line);
   void AddRestIgnored(const MappingLine& line);
+  void CheckEncoding(std::string_view name);
   void CheckStandardName(const MappingLine& line);
   void AddEntry(const MappingLine& line);
   void CheckStandardTaken(const MappingEntry& entry, std::size_t column);

@@ -22,6 +22,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"mnm-line-cut", FindingSeverity::kWarning},
     {"mnm-line-blank", FindingSeverity::kNote},
     {"mnm-name-missing", FindingSeverity::kWarning},
+    {"mnm-name-encoding", FindingSeverity::kWarning},
     {"mnm-rest-ignored", FindingSeverity::kWarning},
     {"mnm-entries-missing", FindingSeverity::kError},
 

@@ -61,6 +61,33 @@ TEST_F(OtherKindTest, IsTheOneFindingOfEveryVerb) {
                    "walk.htr" + markers + "an HTR file, not a TRC file");
 }
 
+TEST_F(OtherKindTest, AMappingIsTheOneFindingOfEveryVerb) {
+  for (const char* const name : {"map.trc", "map.htr", "map.mnm"}) Write(name, "LFHD\tHead\t\r\n");
+  Write("picks.tsv", "LFHD\tHead\n");
+  const std::string markers = "map.trc: error: The file is a mapping, not a TRC file";
+  ExpectOneFinding({"info", "map.trc"}, markers);
+  ExpectOneFinding({"import", "map.trc", "-o", "other.glb"}, markers);
+  ExpectOneFinding({"convert", "map.trc", "-o", "other.bvk"}, markers);
+  ExpectOneFinding({"map", "create", "map.trc", "-o", "other.mnm", "--picks", "picks.tsv"},
+                   markers);
+  const std::string motion = "map.htr: error: The file is a mapping, not an HTR file";
+  ExpectOneFinding({"info", "map.htr"}, motion);
+  ExpectOneFinding({"import", "map.htr", "-o", "other.glb"}, motion);
+  ExpectOneFinding({"compare", "map.htr", "walk.htr"}, motion);
+  ExpectOneFinding({"info", "map.mnm"}, "map.mnm: error: The file is a mapping, not an HTR file");
+}
+
+TEST_F(OtherKindTest, ACaptureInThePlaceOfAMappingIsTheOneFinding) {
+  const ProgramResult linted = Orvane({"map", "lint", "walk.trc", "walk.trc"});
+  EXPECT_THAT(linted.output, HasSubstr("found a TRC file, expected a mapping"));
+  EXPECT_THAT(linted.output, Not(HasSubstr("mnm-marker-unmapped")));
+  const ProgramResult converted =
+      Orvane({"convert", "walk.trc", "-o", "other.bvk", "--mapping", "walk.htr"});
+  EXPECT_THAT(converted.error, StartsWith("orvane: walk.htr: warning: The file is an HTR file, not "
+                                          "a mapping (line 1, column 1). No marker has its entry"));
+  EXPECT_THAT(converted.error, Not(HasSubstr("mnm-marker-unmapped")));
+}
+
 TEST_F(OtherKindTest, OfACaptureIsNamedBeforeItsRefusal) {
   Write("map.mnm", "LFHD\tHead\n");
   const ProgramResult result = Orvane({"map", "lint", "map.mnm", "walk.bvk"});

@@ -54,7 +54,11 @@ const Bytes kAll[] = {
     {kMark + "PathFileType,4,"s, ContentKind::kTrc},
     {"a\nb\n1\nFrame#\tTime\t", ContentKind::kTrc},
     {"PathFileTypes\n", std::nullopt},
-    {"LFHD\tHat\n", std::nullopt},
+    {"LFHD\tHat\n", ContentKind::kMnm},
+    {"\r\nLFHD\twalker:LFHD\t\r\nC7 walker:C7\r\n", ContentKind::kMnm},
+    {"LFHD\tHat\tCap\n", std::nullopt},
+    {"LFHD\n", std::nullopt},
+    {"LFHD\tHat\nHat\tLFHD\n", std::nullopt},
     {"", std::nullopt},
     {std::string(65'536, '\n') + "[Header]", std::nullopt},  // behind what is looked at
 };
@@ -117,7 +121,7 @@ TEST(ContentKind, OfSoundFilesIsWhatTheirNamesSay) {
   EXPECT_EQ(
       orvane::CheckTrc("walk", Example("walk.trc")).findings.Count(orvane::FindingSeverity::kError),
       0U);
-  EXPECT_EQ(FindContentKind(Example("walk.mnm")), std::nullopt);
+  EXPECT_EQ(FindContentKind(Example("walk.mnm")), ContentKind::kMnm);
 }
 
 }  // namespace

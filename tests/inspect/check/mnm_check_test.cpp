@@ -72,6 +72,10 @@ const std::vector<CheckRow> kMappingRows = {
       "a standard marker and the capture's name for it",
       "The marker of the line before is taken, \"Head1\", which has its entry already: the line "
       "changes nothing."}},
+    {"NameInAnotherEncoding",
+     "C7\tt\xEAte\n",
+     {"1:4 warning mnm-name-encoding", "\"t\xEAte\"", "a name in ASCII or UTF-8",
+      "It is of no marker but one that is written in these very bytes."}},
     {"NameWithBlank",
      "C7\tUpper Back\t\n",
      {"1:10 warning mnm-rest-ignored", "\"Back\t\"", "the end of the line",
