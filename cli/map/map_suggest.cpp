@@ -87,7 +87,7 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
   orvane::TRCDocument document;
   report.findings = ReadAndTell(document, report.file, FileBytes(report.file), manner);
   WriteReportFile({report.findings}, manner);
-  if (Forbids(manner, report.findings)) throw ForbiddenByStrict();
+  if (Forbids(manner, report.findings)) throw ForbiddenByStrict(manner, report.findings);
   report.markers = NamesOf(document);
   report.suggestion = orvane::SuggestByNames(report.markers, arguments.subject);
   RequireAny(report);
