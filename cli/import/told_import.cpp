@@ -64,6 +64,7 @@ ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
   told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
                          {choices.frame_rate_from_file, inspection.asked});
   told.keyed = inspection.frames.keyed;
+  told.marker_size = inspection.marker_size;
   if (inspection.applied) {
     told.application = Apply(std::move(*inspection.applied), order.kind, scene);
   }
