@@ -66,9 +66,8 @@ std::string ReadableFile(const std::string& name, FileKind kind) {
   const std::string file = orvane::WithExtension(name, extension);
   const Complaint complaint = FindWhyUnreadable(name, file);
   if (complaint.text.empty()) return file;
-  if (complaint.subject != name) {
-    if (auto cause = FindCause(name, kind)) throw Failure{ExitStatus::kInputOutput, {*cause}};
-  }
+  // The user means this one, and is told what it is.
+  if (complaint.subject != name && FindCause(name, kind)) return name;
   throw Failure{ExitStatus::kInputOutput, {complaint}};
 }
 

@@ -12,8 +12,8 @@
 namespace cli {
 
 // The file that the user means by `name`, as the reader of that kind takes it: with ".htr" or
-// ".TRC" behind it unless it has an extension of three letters. Throws a Failure that says why when
-// it cannot be read.
+// ".TRC" behind it unless it has an extension of three letters, or is a file of another kind under
+// any name. Throws a Failure that says why when it cannot be read.
 [[nodiscard]] std::string ReadableFile(const std::string& name, FileKind kind);
 
 // The same for an HTR file.

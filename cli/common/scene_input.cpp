@@ -8,6 +8,7 @@
 #include "cli/common/failure.h"
 #include "formats/text/files.h"
 #include "host/gltf/reader.h"
+#include "inspect/check/content_kind.h"
 #include "platform/input_file.h"
 
 namespace cli {
@@ -40,6 +41,17 @@ std::vector<std::string> NamesIn(host::Scene& scene) {
   return names;
 }
 
+// What the file is, when that can be seen, and else why it is `refused`.
+Complaint ComplainAboutScene(const std::string& path, std::string_view bytes,
+                             const std::string& refusal) {
+  using enum orvane::ContentKind;
+  const auto kind = orvane::FindOtherKind(bytes, kOrvaneScene);
+  if (!kind || *kind == kGltf) return {path, refusal, ""};
+  const bool is_taken = *kind == kHtr || *kind == kTrc;
+  return {path, orvane::DescribeOtherKind(*kind, "an orvane scene"),
+          is_taken ? "\"orvane import\" makes a scene of it." : orvane::WordsFor(*kind).advice};
+}
+
 void AddOnce(UnknownName name, std::vector<UnknownName>& names) {
   const bool is_there = std::any_of(names.begin(), names.end(), [&name](const UnknownName& each) {
     return each.name == name.name;
@@ -56,7 +68,8 @@ void ReadSceneFile(const std::string& path, host::Scene& scene) {
   const std::optional<std::string> bytes = orvane::ReadFileBytes(path);
   if (!bytes) throw Failure{ExitStatus::kInputOutput, {{path, "could not be read", ""}}};
   const std::string refusal = host::gltf::ReadScene(*bytes, scene);
-  if (!refusal.empty()) throw Failure{ExitStatus::kRefused, {{path, refusal, ""}}};
+  if (!refusal.empty())
+    throw Failure{ExitStatus::kRefused, {ComplainAboutScene(path, *bytes, refusal)}};
 }
 
 SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names) {

@@ -18,6 +18,8 @@ using orvane::FileReport;
 using orvane::HtrDocument;
 using orvane::TRCDocument;
 
+constexpr auto kError = orvane::FindingSeverity::kError;
+
 // What the file of `document`, which its reader takes, is refused for all the same.
 std::string WhyEmpty(const HtrDocument& document) {
   return document.segments().empty() ? kNoSegments : "";
@@ -43,6 +45,9 @@ FileReport CheckAndTell(Document& document, const std::string& file, std::string
     const std::string why = checked.refusal.empty() ? WhyEmpty(document) : checked.refusal;
     if (why.empty()) return reports.back();
     WriteReportFile(reports, manner);
+    // An error that has been told is why nothing was found.
+    const bool is_told = checked.refusal.empty() && reports.back().Count(kError) > 0;
+    if (is_told) throw Failure{ExitStatus::kRefused, {}};
     throw Failure{ExitStatus::kRefused, {ComplainAbout(file, why)}};
   } catch (const orvane::CheckFailure& failure) {
     throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};

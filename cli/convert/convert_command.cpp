@@ -283,6 +283,14 @@ class Converting {
     TellAll(Reports(WithoutErrorsOf), order_.report);
     for (const Conversion& conversion : conversions_) {
       for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
+      if (conversion.status == ConversionStatus::kBroken && conversion.delivered) {
+        Print(Severity::kWarning,
+              {conversion.output,
+               "delivered all the same, for --keep-broken: " +
+                   orvane::CountOf(static_cast<std::size_t>(conversion.frames), "frame") + " of " +
+                   orvane::CountOf(static_cast<std::size_t>(conversion.markers_kept), "marker"),
+               ""});
+      }
     }
     TellOfOlderOutputs();
     if (platform::Interrupted()) {

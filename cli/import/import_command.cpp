@@ -7,6 +7,7 @@
 #include <optional>
 #include <utility>
 
+#include "cli/common/advice.h"
 #include "cli/common/choice.h"
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
@@ -72,13 +73,21 @@ void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complain
   complaints.insert(complaints.end(), more.begin(), more.end());
 }
 
-void AddMessages(const std::string& file, const PluginSession& session, const HiddenNumbers& hidden,
-                 std::vector<Complaint>& complaints) {
-  for (const std::string& text : session.Messages()) {
-    const std::string advice = hidden.AdviceFor(text);
-    complaints.push_back(advice.empty() ? ComplainAbout(file, text)
-                                        : Complaint{file, text, advice});
+// Whether the dialog has found fault with its frame numbers.
+bool IsAboutRange(const std::string& text) {
+  const std::optional<KnownMessage> known = Recognize(text);
+  return known == KnownMessage::kStartFrameTooLow || known == KnownMessage::kEndFrameTooHigh ||
+         known == KnownMessage::kFramesOutOfOrder;
+}
+
+// Frame numbers that nobody has typed come from the header.
+std::string AdviceFor(const std::string& text, const ImportChoices& choices,
+                      const HiddenNumbers& hidden) {
+  if (IsAboutRange(text) && !choices.range) {
+    return "Does \"NumFrames\" in the header announce any frames?";
   }
+  const std::string advice = hidden.AdviceFor(text);
+  return advice.empty() ? cli::AdviceFor(text) : advice;
 }
 
 // When the import has made `range` another one, that ends before it begins.
@@ -92,6 +101,14 @@ void AddReversedRange(const std::string& file, const Interval& range,
                             orvane::FormatInt(now.Start() / ticks) + " and ends in frame " +
                             orvane::FormatInt(now.End() / ticks),
                         "--offset moves its end alone."});
+}
+
+// Behind the errors of `report` the dialog finds fault with what follows from them.
+Failure NotCarriedOut(const ReportManner& manner, const orvane::FileReport& report,
+                      std::vector<Complaint> complaints) {
+  std::erase_if(complaints, [](const Complaint& each) { return IsAboutRange(each.text); });
+  if (complaints.empty()) return RefusedForErrors(manner, report, {});
+  return {ExitStatus::kRefused, std::move(complaints)};
 }
 
 Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Complaint> complaints) {
@@ -150,7 +167,11 @@ class Importing {
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     const std::optional<double> chosen_size = ChooseSize(told, units);
-    LetPluginImport();
+    const bool carried_out = LetPluginImport(choices);
+    if (!carried_out && told.has_errors) {
+      throw NotCarriedOut(manner, told.report, std::move(complaints_));
+    }
+    if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
     // The plug-in takes some files that nothing good comes of.
     if (told.has_errors) {
       throw RefusedForErrors(manner, told.report, std::move(complaints_),
@@ -179,16 +200,20 @@ class Importing {
     return told.marker_size;
   }
 
-  void LetPluginImport() {
+  // Returns whether it was carried out to its end.
+  bool LetPluginImport(const ImportChoices& choices) {
     const Interval range = session_.scene().Animation().Range();
     const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
     // Without a word from the user, the host goes by the name.
     const std::string extension = arguments_.kind ? ExtensionOf(*arguments_.kind) : "";
     const bool carried_out = session_.Import(input_, extension, wishes_, show_progress);
     StopIfInterrupted();
-    AddMessages(input_, session_, HiddenNumbers(wishes_, kind_, session_.settings()), complaints_);
-    if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
-    AddReversedRange(input_, range, session_.scene().Animation(), complaints_);
+    const HiddenNumbers hidden(wishes_, kind_, session_.settings());
+    for (const std::string& text : session_.Messages()) {
+      complaints_.push_back({input_, text, AdviceFor(text, choices, hidden)});
+    }
+    if (carried_out) AddReversedRange(input_, range, session_.scene().Animation(), complaints_);
+    return carried_out;
   }
 
   void Show(const ImportedFile& file) {

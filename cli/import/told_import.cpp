@@ -1,5 +1,6 @@
 #include "cli/import/told_import.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "cli/import/asked_frames.h"
@@ -26,6 +27,11 @@ ApplyCircumstances HowApplied(const ImportedFrames& frames, FileKind kind,
     how.range_from = choices.range->first;
   }
   return how;
+}
+
+bool IsOfOtherKind(const FileReport& report) {
+  return std::any_of(report.findings.begin(), report.findings.end(),
+                     [](const auto& finding) { return finding.code.ends_with("-other-kind"); });
 }
 
 // What is found in the file and the scene together.
@@ -83,8 +89,8 @@ ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
     throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   }
   Tell(told.report, manner);
-  // The plug-in would not see them, or make nothing of them.
-  if (of_scene.Count(orvane::FindingSeverity::kError) > 0) {
+  // The plug-in would not see the errors, or has nobody for such a file.
+  if (of_scene.Count(orvane::FindingSeverity::kError) > 0 || IsOfOtherKind(told.report)) {
     throw RefusedForErrors(manner, told.report, {});
   }
   if (Forbids(manner, told.report)) throw ForbiddenByStrict(manner, told.report);

@@ -123,8 +123,9 @@ constexpr std::array<KnownKind, 10> kKinds = {{
     {IsC3d, {"a C3D file", "Save the markers as TRC in the program that it comes from."}},
     {IsGzip, {"a gzip archive", "Unpack it first."}},
     {IsZip, {"a zip archive", "Unpack it first."}},
-    {IsHtr, {"an HTR file", "Give it a name that ends in .htr, or say \"--as htr\"."}},
-    {IsTrc, {"a TRC file", "Give it a name that ends in .trc, or say \"--as trc\"."}},
+    {IsHtr,
+     {"an HTR file", "\"orvane import\", \"info\" and \"check\" take it with \"--as htr\"."}},
+    {IsTrc, {"a TRC file", "\"orvane import\", \"info\" and \"check\" take it with \"--as trc\"."}},
     {IsMnm,
      {"a mapping", "\"orvane map lint\" checks it, and \"orvane convert --mapping\" takes it."}},
 }};

@@ -79,16 +79,20 @@ TEST_P(FileWithoutSegmentsTest, IsNoMotion) {
   const ProgramResult info = Orvane({"info", "walk.htr"});
   EXPECT_EQ(info.status, 1);
   EXPECT_THAT(info.error, HasSubstr(" [htr-segments-missing]\n"));
-  EXPECT_THAT(info.error, EndsWith(std::string("]\n") + kNoSegments));
+  EXPECT_THAT(info.error, Not(HasSubstr(kNoSegments)));
+  EXPECT_THAT(Orvane({"info", "walk.htr", "--no-report"}).error, EndsWith(kNoSegments));
   const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
   EXPECT_EQ(import.status, 1);
   EXPECT_THAT(import.error, HasSubstr(" [htr-segments-missing]\n"));
-  EXPECT_THAT(import.error,
-              EndsWith(std::string("orvane: walk.htr: Please choose a start frame that is less "
-                                   "than the end frame.\n"
-                                   "  Is --range in order, and does \"NumFrames\" in the header "
-                                   "announce any frames?\n") +
-                       kNoSegments));
+  EXPECT_THAT(import.error, HasSubstr("orvane: walk.htr: nothing was written because of htr-"));
+  EXPECT_THAT(import.error, Not(HasSubstr("Please choose")));
+  EXPECT_THAT(import.error, Not(HasSubstr(kNoSegments)));
+  const ProgramResult unreported = Orvane({"import", "walk.htr", "-o", "scene.glb", "--no-report"});
+  EXPECT_EQ(unreported.error,
+            std::string("orvane: walk.htr: Please choose a start frame that is less than the end "
+                        "frame.\n"
+                        "  Does \"NumFrames\" in the header announce any frames?\n") +
+                kNoSegments);
   EXPECT_THAT(Names(), ElementsAre("walk.htr"));
 }
 
@@ -176,8 +180,7 @@ TEST_F(BadInputTest, ParentsInACircleAreNoSkeleton) {
   EXPECT_EQ(import.status, 1);
   EXPECT_THAT(test::CodesIn(import.error),
               ElementsAre("htr-root-missing", "htr-parent-circle",
-                          "orvane: walk.htr: The file has no root segment",
-                          "  In [SegmentNames&Hierarchy] a root has the parent GLOBAL."));
+                          "orvane: walk.htr: nothing was written because of htr-root-missing"));
   EXPECT_FALSE(Exists("scene.glb"));
   const ProgramResult info = Orvane({"info", "walk.htr"});
   EXPECT_EQ(info.status, 0);

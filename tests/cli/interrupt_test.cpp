@@ -59,8 +59,7 @@ TEST_F(InterruptTest, IsNotMixedUpWithARefusalWithoutAMessage) {
   EXPECT_EQ(result.error,
             "orvane: silent.htr: error: The file is empty (line 1, column 1). Nothing is imported; "
             "was it saved, or copied, to its end? [htr-empty]\n"
-            "orvane: silent.htr: The file holds no segments\n"
-            "  Is it an HTR file? A file of 0 segments may also have been cut short.\n");
+            "orvane: silent.htr: nothing was written because of htr-empty\n");
 }
 
 TEST_F(InterruptTest, ARefusalWithoutAnyReasonIsSaidToBeOne) {

@@ -75,8 +75,8 @@ class FlawedTextTest : public test::OrvaneTest, public testing::WithParamInterfa
     EXPECT_THAT(result.error, StartsWith(cause + "orvane: " + file + ": ")) << arguments.front();
   }
 
-  // That the program refuses the file, reports the flaw first and ends with the reason in the words
-  // of who refuses it.
+  // That the program refuses the file, reports the flaw first, and says nothing of what follows
+  // from it but in the words of a reader that refuses the file.
   void ExpectCauseReported(const std::vector<std::string>& arguments, const std::string& file,
                            const std::string& severity = "error") const {
     const ProgramResult result = Orvane(arguments);
@@ -87,7 +87,9 @@ class FlawedTextTest : public test::OrvaneTest, public testing::WithParamInterfa
                                   " (line 1, column 1). "))
         << arguments.front();
     EXPECT_THAT(first, EndsWith(" [" + format + "-" + GetParam().code + "]"));
-    EXPECT_THAT(result.error, HasSubstr("\norvane: " + file + ": The file "));
+    for (const char* const follows : {"holds no segments", "has no root", "Please choose"}) {
+      EXPECT_THAT(result.error, Not(HasSubstr(follows))) << arguments.front();
+    }
   }
 
   void ExpectCauseFound(const std::string& file, const std::string& format) const {

@@ -97,11 +97,49 @@ TEST_F(OtherKindTest, OfACaptureIsNamedBeforeItsRefusal) {
 }
 
 TEST_F(OtherKindTest, IsNamedThoughTheReaderWouldTakeAnotherFile) {
-  const ProgramResult result = Orvane({"check", "walk.gltf"});
-  EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.error, StartsWith("orvane: walk.gltf: The file is an orvane scene, not an HTR "
-                                       "file\n  \"orvane scene\" shows it.\n"));
-  EXPECT_THAT(result.error, Not(HasSubstr("walk.gltf.htr")));
+  EXPECT_THAT(Orvane({"check", "walk.gltf"}).output,
+              StartsWith("walk.gltf:1:1: error: found an orvane scene, expected an HTR file "
+                         "[htr-other-kind]\n"));
+  Write("walk.trc.gz", "\x1F\x8B\x08");
+  const std::string packed = "walk.trc.gz: error: The file is a gzip archive, not an HTR file";
+  ExpectOneFinding({"info", "walk.trc.gz"}, packed);
+  ExpectOneFinding({"import", "walk.trc.gz", "-o", "other.glb"}, packed);
+  ExpectOneFinding({"compare", "walk.trc.gz", "walk.htr"}, packed);
+}
+
+TEST_F(OtherKindTest, IsRefusedBeforeThePluginIsAsked) {
+  for (const char* const name : {"walk.glb", "walk.gltf", "walk.bvk"}) {
+    const ProgramResult result = Orvane({"import", name, "-o", "other.glb"});
+    EXPECT_EQ(result.status, 1) << name;
+    EXPECT_THAT(result.error,
+                testing::EndsWith(std::string("orvane: ") + name +
+                                  ": nothing was written because of htr-other-kind\n"))
+        << name;
+  }
+}
+
+TEST_F(OtherKindTest, IsNamedWithAdviceThatHoldsForEveryVerb) {
+  Write("walk.txt", Read("walk.trc"));
+  EXPECT_THAT(Orvane({"compare", "walk.txt", "walk.htr"}).error,
+              HasSubstr("\"orvane import\", \"info\" and \"check\" take it with \"--as trc\"."));
+  for (const char* const verb : {"info", "check"}) {
+    EXPECT_NE(Orvane({verb, "walk.txt", "--as", "trc"}).output, "") << verb;
+  }
+  EXPECT_EQ(Orvane({"import", "walk.txt", "--as", "trc", "-o", "other.glb"}).status, 0);
+}
+
+TEST_F(OtherKindTest, OfAFolderIsToldUnderTheNameThatTheUserGave) {
+  std::filesystem::create_directory(folder_.File("takes"));
+  for (const std::vector<std::string>& arguments :
+       {std::vector<std::string>{"info", "takes"},
+        {"import", "takes", "-o", "other.glb"},
+        {"compare", "takes", "walk.htr"},
+        {"map", "create", "takes", "-o", "map.mnm", "--picks", "picks"},
+        {"scene", "takes"}}) {
+    const ProgramResult result = Orvane(arguments);
+    EXPECT_EQ(result.status, 3) << arguments.front();
+    EXPECT_EQ(result.error, "orvane: takes: Is a directory\n") << arguments.front();
+  }
 }
 
 }  // namespace

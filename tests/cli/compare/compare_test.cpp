@@ -336,12 +336,9 @@ INSTANTIATE_TEST_SUITE_P(
                 "file that was cut short says this too.",
                 {"htr-segment-count", "htr-motion-missing", "htr-base-line-missing",
                  "htr-end-missing"}},
-        Trouble{"Empty",
-                "good.htr",
-                "empty.htr",
-                "empty.htr: The file holds no segments\n"
-                "  Is it an HTR file? A file of 0 segments may also have been cut short.",
-                {"htr-empty"}}),
+        Trouble{"Empty", "good.htr", "empty.htr",
+                "empty.htr: error: The file is empty (line 1, column 1). Nothing is read. "
+                "[htr-empty]"}),
     [](const auto& test_case) { return test_case.param.name; });
 
 }  // namespace

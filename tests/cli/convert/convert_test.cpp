@@ -179,6 +179,10 @@ TEST_F(ConvertTest, DeliversBrokenFilesOnlyWhenAsked) {
   result = Convert({"poem.trc", "--keep-broken"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.output, HasSubstr("poem.bvk  broken\n0 of 1 converted\n"));
+  EXPECT_THAT(result.error,
+              EndsWith(std::string("orvane: poem.trc: ") + kRefused +
+                       "\norvane: poem.bvk: delivered all the same, for --keep-broken: 0 frames of "
+                       "0 markers\n"));
   EXPECT_THAT(ReadText("poem.bvk"), EndsWith("$Order\n"));
 }
 

@@ -117,7 +117,8 @@ TEST_F(ImportTrcTest, ADisabledControlIsWrongUsage) {
 
 TEST_F(ImportTrcTest, TheUserMaySayWhatAFileIs) {
   Write("walk.txt", TwoMarkers().Text());
-  EXPECT_EQ(Import({}, "walk.txt").status, 2);
+  EXPECT_EQ(Import({}, "walk.txt").status, 1);
+  EXPECT_EQ(Import({"--no-report"}, "walk.txt").status, 2) << "nobody has looked";
   EXPECT_EQ(Import({"--as", "trc"}, "walk.txt").status, 0);
   Write("walk.TRC", TwoMarkers().Text());
   EXPECT_EQ(Import({"--as", "trc", "--force"}, "walk").status, 0);

@@ -111,7 +111,14 @@ TEST_F(SceneTest, OtherFilesAreRefused) {
   const ProgramResult motion = Orvane({"scene", "walk.htr"});
   EXPECT_EQ(motion.status, 1);
   EXPECT_EQ(motion.error,
-            "orvane: walk.htr: The file is no glTF file, or it is damaged or cut short.\n");
+            "orvane: walk.htr: The file is an HTR file, not an orvane scene\n"
+            "  \"orvane import\" makes a scene of it.\n");
+  for (const std::vector<std::string>& others :
+       {std::vector<std::string>{"export", "walk.htr", "-o", "out.htr"},
+        {"import", "walk.htr", "-o", "out.glb", "--into", "walk.htr"},
+        {"check", "--for", "export", "walk.htr"}}) {
+    EXPECT_EQ(Orvane(others).error, motion.error) << others.front();
+  }
   Write("other.gltf", "{\"asset\": {\"version\": \"2.0\"}}");
   const ProgramResult other = Orvane({"scene", "other.gltf", "--json"});
   EXPECT_EQ(other.status, 1);
