@@ -47,7 +47,8 @@ std::vector<Complaint> PicksTable::Told() const {
   if (complaints_.size() <= most) return complaints_;
   std::vector<Complaint> told(complaints_.begin(),
                               complaints_.begin() + static_cast<std::ptrdiff_t>(most));
-  told.back().advice = "There are " + orvane::CountOf(complaints_.size() - most, "further problem") +
+  told.back().advice = "There are " +
+                       orvane::CountOf(complaints_.size() - most, "further problem") +
                        ". Is it a table of picks?";
   return told;
 }
@@ -70,7 +71,8 @@ void PicksTable::Read(const std::string& path) {
       reason.empty() ? orvane::ReadFileBytes(path) : std::nullopt;
   if (reason.empty() && !bytes) reason = "The file cannot be read to its end";
   if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
-  if (const auto kind = orvane::FindContentKind(*bytes)) {
+  // A mapping has the form of a table of picks.
+  if (const auto kind = orvane::FindOtherKind(*bytes, orvane::ContentKind::kMnm)) {
     what_it_is_ = {path_, orvane::DescribeOtherKind(*kind, "a table of picks"), ""};
   } else if (const auto flaw = FindMappingTextFlaw(*bytes)) {
     what_it_is_ = ComplainAboutFlaw(path_, *flaw);

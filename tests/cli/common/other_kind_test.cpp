@@ -83,8 +83,8 @@ TEST_F(OtherKindTest, ACaptureInThePlaceOfAMappingIsTheOneFinding) {
   EXPECT_THAT(linted.output, Not(HasSubstr("mnm-marker-unmapped")));
   const ProgramResult converted =
       Orvane({"convert", "walk.trc", "-o", "other.bvk", "--mapping", "walk.htr"});
-  EXPECT_THAT(converted.error, StartsWith("orvane: walk.htr: warning: The file is an HTR file, not "
-                                          "a mapping (line 1, column 1). No marker has its entry"));
+  EXPECT_THAT(converted.error, StartsWith("orvane: walk.htr: error: The file is an HTR file, not "
+                                          "a mapping (line 1, column 1). Nothing is converted"));
   EXPECT_THAT(converted.error, Not(HasSubstr("mnm-marker-unmapped")));
 }
 

@@ -78,9 +78,9 @@ TEST_F(ConvertReportTest, OverSeveralFilesEachCodeIsALine) {
 }
 
 TEST_F(ConvertReportTest, OverSeveralFilesAllTimesCount) {
-  TrcText take{.markers = {"Head1", "Toe"}, .frames = {{"1,5\t2\t3", "4\t5\t6"}}};
+  TrcText take{.markers = {"Head1", "Toe"}, .frames = {{"1x5\t2\t3", "4\t5\t6"}}};
   Write("a.trc", take.Text());
-  take.frames.assign(3, {"1,5\t2,5\t3", "4\t5\t6"});
+  take.frames.assign(3, {"1x5\t2x5\t3", "4\t5\t6"});
   Write("b.trc", take.Text());
   EXPECT_EQ(Convert({"a.trc", "b.trc"}).error,
             std::string("orvane: a.trc: warning: 7 times in 2 files, first here: ") + kComma);
@@ -160,7 +160,7 @@ TEST_F(ConvertReportTest, StrictRefusesWhatComesOutWithTwoOfAName) {
 }
 
 TEST_F(ConvertReportTest, StrictNamesEveryCodeThatItIsFor) {
-  Write("walk.trc", TrcText{.markers = {"Head1", ""}, .frames = {{"1,5\t2\t3", "4\t5\t6"}}}.Text());
+  Write("walk.trc", TrcText{.markers = {"Head1", ""}, .frames = {{"1x5\t2\t3", "4\t5\t6"}}}.Text());
   EXPECT_THAT(Convert({"walk.trc", "--strict"}).error,
               EndsWith("orvane: walk.trc: With --strict the file is not converted because of "
                        "trc-name-empty, trc-number-unreadable\n"));
