@@ -123,10 +123,15 @@ class Inspecting {
 
   void Judge(orvane::HtrDocument& document, std::size_t /*bytes*/, const std::string& advice) {
     if (document.segments().empty()) return;  // which the plug-in tells
-    JudgeAll(FramesOf(document, choices_, scene_), {"htr-frames-too-many", "htr-frame-count"},
-             ListsSegmentsAgain(document)
-                 ? "[BasePosition] comes again, so that segments are listed more than once."
-                 : advice);
+    constexpr const char* kListedAgain =
+        "[BasePosition] comes again, so that segments are listed more than once.";
+    const ImportedFrames frames = FramesOf(document, choices_, scene_);
+    JudgeAll(frames, {"htr-frames-too-many", "htr-frame-count"},
+             ListsSegmentsAgain(document) ? kListedAgain : advice);
+    if (choices_.apply || result_.refusal) return;
+    const std::string why =
+        orvane::WhyListedTooOften(document.GetNumSegments(), frames.receivers.count);
+    if (!why.empty()) Refuse({file_, why, kListedAgain}, {});
   }
 
   void Judge(const orvane::TRCDocument& document, std::size_t bytes, const std::string& advice) {

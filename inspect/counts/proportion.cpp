@@ -12,6 +12,7 @@ namespace {
 constexpr std::int64_t kAlwaysAllowed = 1'000'000;
 constexpr std::int64_t kTimesHeld = 10;
 constexpr std::int64_t kMostDeletions = 500'000'000;
+constexpr std::int64_t kMostBonesAgain = 10'000;
 constexpr std::int64_t kSamplesAlwaysAllowed = 5'000'000;
 
 // The largest number where the product is larger still.
@@ -40,6 +41,12 @@ std::string WhyOutOfProportion(const MadeUpFrames& made_up) {
            ", and " + FormatInt(kMostDeletions) + " are the most";
   }
   return "";
+}
+
+std::string WhyListedTooOften(std::int64_t segments, std::int64_t listed) {
+  if (listed - segments <= kMostBonesAgain) return "";
+  return "The hierarchy would become " + FormatInt(listed) + " or more bones of " +
+         FormatInt(segments) + " segments";
 }
 
 std::string WhyTooShort(std::int64_t bytes, std::int64_t frames, std::int64_t markers) {

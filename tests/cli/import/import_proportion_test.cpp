@@ -129,6 +129,25 @@ TEST_F(ImportProportionTest, SegmentsThatAreListedTwiceCountTwice) {
             "  [BasePosition] comes again, so that segments are listed more than once.\n");
 }
 
+// At every level the bones double: a kilobyte would ask for gigabytes.
+TEST_F(ImportProportionTest, AHierarchyThatIsListedAgainIsRefusedBeforeItGrows) {
+  HtrText text;
+  for (int level = 0; level < 18; ++level) {
+    const std::string parent = level == 0 ? "GLOBAL" : "bone" + std::to_string(level - 1);
+    text.segments.push_back(
+        {.name = "bone" + std::to_string(level), .parent = parent, .frames = {"0 0 0 0 0 0"}});
+  }
+  const std::string bytes =
+      test::Replaced(text.Text(), "[BasePosition]", "[BasePosition]\n[BasePosition]");
+  const ProgramResult result = Import(bytes);
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(
+      result.error,
+      testing::EndsWith(
+          "orvane: hand.htr: The hierarchy would become 262143 or more bones of 18 segments\n"
+          "  [BasePosition] comes again, so that segments are listed more than once.\n"));
+}
+
 TEST_F(ImportProportionTest, ARangeBoundsWhatIsMadeUp) {
   const std::string text = Hand(50, 100'000).Text();
   EXPECT_EQ(Import(text, {"--range", "1:1"}).status, 0);

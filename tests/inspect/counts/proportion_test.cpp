@@ -63,4 +63,12 @@ INSTANTIATE_TEST_SUITE_P(
              "are the most"}),
     [](const auto& test_case) { return test_case.param.name; });
 
+TEST(Proportion, TenThousandBonesMoreThanSegmentsMayBeMade) {
+  EXPECT_EQ(orvane::WhyListedTooOften(18, 18), "");
+  EXPECT_EQ(orvane::WhyListedTooOften(18, 10'018), "");
+  EXPECT_EQ(orvane::WhyListedTooOften(18, 10'019),
+            "The hierarchy would become 10019 or more bones of 18 segments");
+  EXPECT_EQ(orvane::WhyListedTooOften(1'000'000, 1'000'000), "");
+}
+
 }  // namespace
