@@ -25,6 +25,8 @@ import tempfile
 import typing
 
 import further_damages
+import marker_damages
+import motion_damages
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 EXAMPLES = [ROOT / "examples" / name for name in ("walk.trc", "walk.htr", "walk.mnm")]
@@ -104,7 +106,7 @@ def first_name(data, kind):
     """Of the root of a motion file."""
     if kind != ".htr":
         return ""
-    return further_damages.segments_of(data)[0].decode("latin-1")
+    return motion_damages.segments_of(data)[0].decode("latin-1")
 
 
 class Trial:
@@ -125,7 +127,7 @@ class Trial:
     def first_marker(self):
         if self.kind != ".trc":
             return ""
-        return self.data.splitlines()[further_damages.NAMES].split(b"\t")[2].decode("latin-1")
+        return self.data.splitlines()[marker_damages.NAMES].split(b"\t")[2].decode("latin-1")
 
     def actions(self):
         return [action for action in ACTIONS
