@@ -54,6 +54,14 @@ std::string Explain(const CLI::App& app, const CLI::ParseError& error, int argum
   return "there is no verb or flag \"" + std::string(arguments[1]) + "\"";
 }
 
+// As the documentation calls them.
+void NameVerbs(CLI::App& app) {
+  for (CLI::App* const verb : app.get_subcommands({})) {
+    verb->group("Verbs");
+    NameVerbs(*verb);
+  }
+}
+
 }  // namespace
 
 Work ReadCommandLine(int argument_count, const char* const* arguments) {
@@ -61,6 +69,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   CLI::App app(
       "Brings motion-capture files into scenes that any glTF viewer plays, and skeletons out.",
       "orvane");
+  app.get_formatter()->label("SUBCOMMAND", "VERB");
   app.set_version_flag("--version", "orvane " ORVANE_VERSION);
   app.require_subcommand(1);
   app.allow_windows_style_options(false);  // "/takes/walk.htr" is a file on every system
@@ -72,6 +81,7 @@ Work ReadCommandLine(int argument_count, const char* const* arguments) {
   AddCompareCommand(app, work);
   AddMapCommand(app, work);
   AddSceneCommand(app, work);
+  NameVerbs(app);
   try {
     app.parse(argument_count, arguments);
   } catch (const CLI::CallForHelp&) {

@@ -78,7 +78,7 @@ std::string WhyNoCode(const std::string& code) {
 void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
   CLI::Option* report =
       RequireName(verb.add_option("--report", manner.file,
-                                  "Write what is found in the files to this file, as JSON; one "
+                                  "Write what is found to this file too, as JSON; one "
                                   "that is there is replaced"))
           ->type_name("FILE.json");
   verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")->excludes(report);
@@ -86,10 +86,12 @@ void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
 
 void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& beside) {
   AddTellingFlags(verb, manner);
-  CLI::Option* strict = verb.add_flag("--strict", manner.strict, "Take every warning as a refusal");
+  CLI::Option* strict =
+      verb.add_flag("--strict", manner.strict, "A warning is a refusal: status 1");
   strict->excludes(verb.get_option("--no-report"));
   CLI::Option* allow =
-      verb.add_option("--allow", manner.allowed, "Codes of findings that --strict lets pass")
+      verb.add_option("--allow", manner.allowed,
+                      "With --strict: codes that are no reason to refuse; may be repeated")
           ->delimiter(',')
           ->expected(1)
           ->allow_extra_args(false)

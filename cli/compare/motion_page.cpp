@@ -25,9 +25,14 @@ std::string Parent(const std::string& name) {
 std::string WhatIsCompared(const MotionReport& report) {
   const StructureComparison& structure = report.structure;
   if (structure.pairs.empty()) return "nothing, as no segment is in both files under one parent";
-  const std::string segments = Count(structure.pairs.size(), "segment");
+  const auto& differences = report.motion.segments;
+  const auto compared = static_cast<std::size_t>(
+      std::count_if(differences.begin(), differences.end(),
+                    [](const auto& each) { return each.position_mm.count > 0; }));
+  const std::string segments = Count(compared, "segment");
   if (structure.at_rest) return segments + " in the base position, as there are no frames";
   if (!structure.common_frames) return "nothing, as no frame is in both files";
+  if (compared == 0) return "nothing, as no segment has a frame in both files";
   return segments + " in " + Frames(*structure.common_frames);
 }
 

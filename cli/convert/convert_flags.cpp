@@ -11,7 +11,9 @@ namespace {
 void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
   verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
   CLI::Option* output =
-      verb.add_option("-o,--output", arguments.output.file, "The BVK file to write, for one FILE")
+      verb.add_option("-o,--output", arguments.output.file,
+                      "The file to write, for one FILE; its name ends in .bvk, which is "
+                      "added to one without an extension")
           ->check(
               [](const std::string& path) {
                 return IsBvkFileName(path) ? "" : path + " does not end in .bvk";
@@ -19,13 +21,14 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
               "")
           ->type_name("OUT");
   RequireName(verb.add_option("--output-dir", arguments.output.folder,
-                              "The folder to write to (each beside its FILE)"))
+                              "The folder to write to, which exists (each beside its FILE)"))
       ->type_name("DIR")
       ->excludes(output);
   verb.add_flag("--force", arguments.output.replace, "Replace outputs that exist");
   // What is kept is made by a batch, which names its outputs after its inputs.
   verb.add_flag("--keep-broken", arguments.order.keep_broken,
-                "Deliver what the plug-in makes of files that its reader refuses")
+                "Deliver what the plug-in makes of files that its reader refuses, and of those of "
+                "which no marker is left; the status is 1 all the same")
       ->excludes(output);
   verb.add_flag("--dry-run", arguments.dry_run,
                 "Show what would become of the files and their markers; write nothing");
@@ -35,9 +38,9 @@ void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
   RequireName(verb.add_option("--mapping", arguments.order.mapping,
                               "The mapping file: rename the markers it lists, drop the others"))
       ->type_name("M.mnm");
-  CLI::Option* offset =
-      verb.add_option("--offset", arguments.offset, "Add X, Y and Z to every position")
-          ->type_name("X,Y,Z");
+  CLI::Option* offset = verb.add_option("--offset", arguments.offset,
+                                        "Add X, Y and Z to every position, in the file's unit")
+                            ->type_name("X,Y,Z");
   AddChoice(
       verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
       [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
@@ -52,9 +55,11 @@ void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
       ->type_name("PATH");
   AddReportFlags(verb, arguments.order.report, kAllowEmpty);
   verb.get_option("--allow")->description(
-      "Codes of findings that --strict lets pass; empty: write files without markers, too");
+      "With --strict: codes that are no reason to refuse; may be repeated. empty, also without "
+      "--strict: convert files of which no marker is left, too");
   verb.add_flag("--json", arguments.json, "Write JSON");
-  verb.add_flag("--quiet", arguments.quiet, "No table and no progress");
+  verb.add_flag("--quiet", arguments.quiet,
+                "No table, no progress and no notes; warnings and errors are still told");
 }
 
 }  // namespace

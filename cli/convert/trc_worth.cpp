@@ -89,12 +89,18 @@ FileReport ReportOnMarkers(const std::string& mapping, const std::string& file,
   return ReportOn(checked.back(), Action::kConvert, options);
 }
 
-// A cause hides what follows from it.
-FileReport WithoutConsequences(const FileReport& report) {
-  const bool fits_nothing = std::any_of(
+// Of a file that nothing is made of it does not matter what else is odd, nor of markers that are
+// all dropped which they are.
+FileReport WithoutConsequences(FileReport report) {
+  const auto cause = std::find_if(
       report.findings.begin(), report.findings.end(),
       [](const orvane::ReportedFinding& finding) { return finding.code == "mnm-fits-nothing"; });
-  if (!fits_nothing) return report;
+  if (cause == report.findings.end()) return report;
+  if (cause->severity == orvane::FindingSeverity::kError) {
+    std::erase_if(report.findings, [](const orvane::ReportedFinding& finding) {
+      return finding.severity != orvane::FindingSeverity::kError;
+    });
+  }
   return report.Without("mnm-marker-unmapped").Without("mnm-marker-unmappable");
 }
 
@@ -102,6 +108,7 @@ FileReport ReportOnFile(const ConversionOrder& order, const std::string& file,
                         const std::string& bytes) {
   orvane::ActionOptions options;
   options.markers = order.NeedsMarkers();
+  options.all_markers = order.mapping.empty();
   FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert, options);
   if (order.mapping.empty()) return report;
   report = report.Without("trc-name-with-blank");  // no entry can name such a marker: it is dropped

@@ -1,6 +1,7 @@
 #include "cli/map/picks_table.h"
 
 #include <algorithm>
+#include <limits>
 #include <set>
 #include <string_view>
 
@@ -21,6 +22,9 @@ using orvane::FindMappingTextFlaw;
 
 // What fits into one line of a mapping, whose tabs and break count, too; a bit less.
 constexpr std::size_t kMostLetters = 1000;
+
+// Of what is missing from all of a table.
+constexpr std::size_t kNoLine = std::numeric_limits<std::size_t>::max();
 
 // Of what is wrong with a table.
 constexpr std::size_t kMostTold = 10;
@@ -43,13 +47,15 @@ PicksTable::PicksTable(const std::string& path, const std::vector<std::string>& 
 // A file that is no table has more that is wrong than anybody reads.
 std::vector<Complaint> PicksTable::Told() const {
   if (what_it_is_) return {*what_it_is_};
+  std::vector<Complaint> told;
+  for (const auto& [line, complaint] : complaints_) told.push_back(complaint);
   const std::size_t most = lines_.empty() ? 1 : kMostTold;
-  if (complaints_.size() <= most) return complaints_;
-  std::vector<Complaint> told(complaints_.begin(),
-                              complaints_.begin() + static_cast<std::ptrdiff_t>(most));
-  told.back().advice = "There are " +
-                       orvane::CountOf(complaints_.size() - most, "further problem") +
-                       ". Is it a table of picks?";
+  if (told.size() <= most) return told;
+  const std::size_t others = told.size() - most;
+  told.resize(most);
+  told.back().advice =
+      "And " + orvane::CountOf(others, "further problem") + ". " +
+      (lines_.empty() ? "Is it a table of picks?" : "Is it the table of this file?");
   return told;
 }
 
@@ -86,21 +92,25 @@ void PicksTable::ReadLine(std::string_view line, std::size_t number) {
   const std::string standard(orvane::TakeFirstToken(line));
   if (standard.empty() || standard[0] == '#') return;
   const std::string marker(orvane::TrimTrailingSeparators(orvane::SkipSeparators(line)));
-  const std::string place = LineName(number) + ": ";
   if (!orvane::IsStandardMarker(standard)) {
-    return Complain(place + standard + " is no standard marker");
+    return Complain(number, standard + " is no standard marker");
   }
   if (!lines_.emplace(standard, number).second) {
-    return Complain(place + standard + " is there already, on " + LineName(lines_[standard]));
+    return Complain(number, standard + " is there already, on " + LineName(lines_[standard]));
   }
-  if (marker.empty()) return Complain(place + standard + " has no marker; - skips it");
+  if (marker.empty()) return Complain(number, standard + " has no marker; - skips it");
   if (marker.find_first_of(" \t\v\f\r") != std::string::npos) {
-    return Complain(place + "a name with blanks cannot be mapped: " + marker);
+    return Complain(number, "a name with blanks cannot be mapped: " + marker);
   }
   if (standard.size() + marker.size() > kMostLetters) {
-    return Complain(place + "a name of more than a thousand letters cannot be mapped");
+    return Complain(number, "a name of more than a thousand letters cannot be mapped");
   }
   if (marker != "-") picks_[standard] = marker;
+}
+
+void PicksTable::Complain(std::size_t line, const std::string& text) {
+  const std::string place = line == kNoLine ? "" : LineName(line) + ": ";
+  complaints_.insert({line, {path_, place + text, ""}});
 }
 
 void PicksTable::CheckSteps(const orvane::WristSticks& sticks) {
@@ -112,14 +122,13 @@ void PicksTable::CheckSteps(const orvane::WristSticks& sticks) {
       asked.insert(name);
       const bool is_skipped = picks_.count(name) == 0;
       if (is_skipped && !step.may_be_skipped) {
-        Complain(name + " cannot be skipped, and there is no marker for it");
+        Complain(kNoLine, name + " cannot be skipped, and there is no marker for it");
       }
     }
   }
   for (const auto& [name, line] : lines_) {
     if (picks_.count(name) == 0 || asked.count(name) > 0) continue;
-    Complain(LineName(line) + ": " + name +
-             " is not asked for; --left-stick and --right-stick decide that");
+    Complain(line, name + " is not asked for; --left-stick and --right-stick decide that");
   }
 }
 
@@ -128,15 +137,15 @@ void PicksTable::CheckMarkers(const std::vector<std::string>& names) {
   for (const std::string& name : names) ++counts[name];
   std::map<std::string, std::string> roles;
   for (const auto& [standard, marker] : picks_) {
-    const std::string place = LineName(lines_[standard]) + ": ";
+    const std::size_t line = lines_[standard];
     const auto count = counts.find(marker);
     if (count == counts.end()) {
-      Complain(place + "there is no marker " + marker);
+      Complain(line, "there is no marker " + marker);
     } else if (count->second > 1) {
-      Complain(place + "there are several markers " + marker);
+      Complain(line, "there are several markers " + marker);
     }
     const auto [role, is_first] = roles.emplace(marker, standard);
-    if (!is_first) Complain(place + marker + " is to be picked for " + role->second + " too");
+    if (!is_first) Complain(line, marker + " is to be picked for " + role->second + " too");
   }
 }
 

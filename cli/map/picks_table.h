@@ -19,9 +19,9 @@ class PicksTable {
  public:
   // Reads the table in the file `path`. Throws a Failure when it cannot be read, or when the table
   // cannot be carried out on the markers `names`, with `sticks` or without: then what is wrong is
-  // named, up to ten things, and of a file that is no table one. A marker is wrong when there is none or several of that name, or when it is to be
-  // picked twice; a standard marker when it is none, comes twice, or is left out though it cannot
-  // be skipped.
+  // named, up to ten things, and of a file that is no table one. A marker is wrong when there is
+  // none or several of that name, or when it is to be picked twice; a standard marker when it is
+  // none, comes twice, or is left out though it cannot be skipped.
   PicksTable(const std::string& path, const std::vector<std::string>& names,
              const orvane::WristSticks& sticks);
 
@@ -39,13 +39,13 @@ class PicksTable {
   void CheckMarkers(const std::vector<std::string>& names);
   void CheckSteps(const orvane::WristSticks& sticks);
   std::vector<Complaint> Told() const;
-  void Complain(const std::string& text) { complaints_.push_back({path_, text, ""}); }
+  void Complain(std::size_t line, const std::string& text);
 
   std::string path_;
-  std::map<std::string, std::string> picks_;  // by standard name, without those to skip
-  std::map<std::string, std::size_t> lines_;  // by standard name
-  std::vector<Complaint> complaints_;
-  std::optional<Complaint> what_it_is_;  // where it is not what it looks like
+  std::map<std::string, std::string> picks_;          // by standard name, without those to skip
+  std::map<std::string, std::size_t> lines_;          // by standard name
+  std::multimap<std::size_t, Complaint> complaints_;  // by line
+  std::optional<Complaint> what_it_is_;               // where it is not what it looks like
 };
 
 }  // namespace cli

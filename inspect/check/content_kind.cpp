@@ -124,8 +124,13 @@ constexpr std::array<KnownKind, 10> kKinds = {{
     {IsGzip, {"a gzip archive", "Unpack it first."}},
     {IsZip, {"a zip archive", "Unpack it first."}},
     {IsHtr,
-     {"an HTR file", "\"orvane import\", \"info\" and \"check\" take it with \"--as htr\"."}},
-    {IsTrc, {"a TRC file", "\"orvane import\", \"info\" and \"check\" take it with \"--as trc\"."}},
+     {"an HTR file",
+      "\"orvane import\" and \"orvane info\" take it, by a name that ends in .htr or with \"--as "
+      "htr\"."}},
+    {IsTrc,
+     {"a TRC file",
+      "\"orvane import\" and \"orvane info\" take it, by a name that ends in .trc or with \"--as "
+      "trc\"."}},
     {IsMnm,
      {"a mapping", "\"orvane map lint\" checks it, and \"orvane convert --mapping\" takes it."}},
 }};

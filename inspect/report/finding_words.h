@@ -70,6 +70,7 @@ enum class Concern {
   kFrames,   // frames that are announced and not there, or the other way round
   kExcess,   // far more frames announced than are there
   kMarkers,  // that no marker is left
+  kSamples,  // of a marker that may be dropped
 };
 
 struct FindingMeaning {

@@ -95,6 +95,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   if (words.concern == Concern::kMarkers && !options.markers) {
     return {FindingSeverity::kWarning, "No marker is written."};
   }
+  if (words.concern == Concern::kSamples && !options.all_markers) {
+    return {words.effects[action].severity, "Where such a marker is kept, DROPOUT is written."};
+  }
   return words.effects[action];
 }
 

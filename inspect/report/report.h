@@ -53,7 +53,8 @@ enum class AskedFrames {
 struct ActionOptions {
   bool rate = true;  // its frame rate
   AskedFrames frames = AskedFrames::kAnnounced;
-  bool markers = true;  // at least one marker
+  bool markers = true;      // at least one marker
+  bool all_markers = true;  // every marker: none is dropped
 };
 
 // What the findings of `checked` mean to `action`. What is wrong with something that is not asked

@@ -166,13 +166,15 @@ constexpr FindingMeaning kWords[] = {
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
      InMarkers(kWarning, "In its gaps such a marker goes to the origin.")
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
-         .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
+         .But(Action::kConvert, kNote, "A gap is written as DROPOUT."),
+     Concern::kSamples},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
      InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
          .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
-         .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
+         .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
+     Concern::kSamples},
     {"trc-position-far", "A position is more than 1 km away",
      "{count} positions are more than 1 km away",
      InMarkers(kWarning,

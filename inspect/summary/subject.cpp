@@ -184,11 +184,18 @@ double InMeters(double length, std::uint32_t length_unit) {
   return length * LengthFactor(length_unit, kMillimeters) * kMetersPerMillimeter;
 }
 
+namespace {
+
+// So small a number would else be 0.
+std::string Briefly(double number) { return FormatDouble(number, number < 0.095 ? 2 : 1); }
+
+}  // namespace
+
 std::string DescribeSubject(const Subject& subject, std::uint32_t length_unit,
                             const std::optional<double>& seconds) {
   std::string text = FormatDouble(InMeters(HeightOf(subject), length_unit), 2) + " m tall, moves " +
-                     FormatDouble(InMeters(subject.way, length_unit), 1) + " m";
-  if (seconds) text += ", " + FormatDouble(*seconds, 1) + " s";
+                     Briefly(InMeters(subject.way, length_unit)) + " m";
+  if (seconds) text += ", " + Briefly(*seconds) + " s";
   return text;
 }
 

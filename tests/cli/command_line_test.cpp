@@ -5,6 +5,7 @@ namespace {
 using test::ProgramResult;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::StartsWith;
 
 using CommandLineTest = test::OrvaneTest;
@@ -24,6 +25,45 @@ TEST_F(CommandLineTest, HelpNamesEveryVerb) {
   EXPECT_THAT(result.output, HasSubstr("check"));
   EXPECT_THAT(result.output, HasSubstr("compare"));
   EXPECT_THAT(result.error, IsEmpty());
+}
+
+TEST_F(CommandLineTest, HelpSpeaksOfVerbs) {
+  for (const auto& arguments : {std::vector<std::string>{"--help"}, {"map", "--help"}}) {
+    const std::string help = Orvane(arguments).output;
+    EXPECT_THAT(help, HasSubstr(" [OPTIONS] VERB\n"));
+    EXPECT_THAT(help, HasSubstr("\nVerbs:\n"));
+    EXPECT_THAT(help, Not(HasSubstr("ubcommand")));
+    EXPECT_THAT(help, Not(HasSubstr("SUBCOMMAND")));
+  }
+}
+
+TEST_F(CommandLineTest, HelpSaysWhatTheDocumentationSays) {
+  struct Said {
+    std::vector<std::string> verb;
+    std::vector<std::string> texts;
+  };
+  const std::string strict = "A warning is a refusal: status 1";
+  const std::string allow = "With --strict: codes that are no reason to refuse; may be repeated";
+  const std::string report =
+      "Write what is found to this file too, as JSON; one that is there is replaced";
+  const std::vector<Said> all = {
+      {{"convert"},
+       {strict, allow, report,
+        "The file to write, for one FILE; its name ends in .bvk, which is added to one without an "
+        "extension",
+        "Add X, Y and Z to every position, in the file's unit",
+        "empty, also without --strict: convert files of which no marker is left, too",
+        "No table, no progress and no notes; warnings and errors are still told"}},
+      {{"map", "create"},
+       {strict, allow, report, "No summary and no notes; warnings are still told"}},
+      {{"info"}, {report}},
+      {{"compare"}, {report}}};
+  for (const Said& said : all) {
+    std::vector<std::string> arguments = said.verb;
+    arguments.emplace_back("--help");
+    const std::string help = Orvane(arguments).output;
+    for (const std::string& text : said.texts) EXPECT_THAT(help, HasSubstr(text));
+  }
 }
 
 TEST_F(CommandLineTest, HelpOfAVerbNamesItsFlags) {

@@ -121,7 +121,8 @@ TEST_F(OtherKindTest, IsRefusedBeforeThePluginIsAsked) {
 TEST_F(OtherKindTest, IsNamedWithAdviceThatHoldsForEveryVerb) {
   Write("walk.txt", Read("walk.trc"));
   EXPECT_THAT(Orvane({"compare", "walk.txt", "walk.htr"}).error,
-              HasSubstr("\"orvane import\", \"info\" and \"check\" take it with \"--as trc\"."));
+              HasSubstr("\"orvane import\" and \"orvane info\" take it, by a name that ends in "
+                        ".trc or with \"--as trc\"."));
   for (const char* const verb : {"info", "check"}) {
     EXPECT_NE(Orvane({verb, "walk.txt", "--as", "trc"}).output, "") << verb;
   }

@@ -42,6 +42,14 @@ TEST_F(CompareReportTest, TellsOfEachFileBesideTheComparison) {
   EXPECT_EQ(result.error, std::string(kLetter) + kLetter);
 }
 
+TEST_F(CompareReportTest, SegmentsWithoutFramesInBothFilesAreNotCompared) {
+  const std::string whole = SmallMotion();
+  Write("b.htr", whole.substr(0, whole.find("[Spine]")));
+  const ProgramResult result = Compare({"a.htr", "b.htr"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.output, HasSubstr("Difference of 1 segment in frames 1 to 3\n"));
+}
+
 TEST_F(CompareReportTest, JsonHasTheFindingsOfBothFiles) {
   const ProgramResult result = Compare({"a.htr", "b.htr", "--json"});
   EXPECT_EQ(result.error, kLetter);

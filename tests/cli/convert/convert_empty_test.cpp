@@ -68,6 +68,16 @@ TEST_F(ConvertEmptyTest, AFileWithoutMarkersDeliversNothingWhateverTheMapping) {
   }
 }
 
+TEST_F(ConvertEmptyTest, WhatElseIsOddInAFileThatFitsNothingIsNotTold) {
+  Write("walk.trc",
+        TrcText{.markers = {"Head1", "Toe"}, .frames = {{"1\t2\t3", "4x5\t5\t6"}, {"1\t2\t3", ""}}}
+            .Text());
+  EXPECT_EQ(Convert({"walk.trc", "--mapping", "other.mnm"}).error, kFitsNothing);
+  const ProgramResult allowed =
+      Convert({"walk.trc", "--mapping", "other.mnm", "--allow", "empty", "--quiet"});
+  EXPECT_THAT(allowed.error, HasSubstr("[trc-number-unreadable]"));
+}
+
 TEST_F(ConvertEmptyTest, InABatchTheOthersAreConverted) {
   const std::vector<std::string> arguments = {"bare.trc", "walk.trc", "--mapping", "fitting.mnm"};
   const ProgramResult result = Convert(arguments);

@@ -21,6 +21,9 @@ constexpr char kRefused[] = "The file is does not have a compatible \"(X/Y/Z)\" 
 std::string BrokenTake() { return "a poem\n"; }
 
 // What is told of a take, and of a broken one.
+constexpr char kGapWithMapping[] =
+    "A marker has gaps: \"Toe\" (line 8, column 1). Where such a marker is kept, DROPOUT is "
+    "written. [trc-marker-gaps]\n";
 constexpr char kGap[] =
     "A marker has gaps: \"Toe\" (line 8, column 1). A gap is written as DROPOUT. "
     "[trc-marker-gaps]\n";
@@ -270,7 +273,7 @@ TEST_F(ConvertTest, ShowsWhatItWouldDo) {
                 "\"Toe\" (line 1, column 1). Such a name is written all the same. "
                 "[mnm-standard-unknown]\n"
                 "orvane: walk.trc: note: " +
-                kGap + "orvane: poem.trc: " + kRefused + "\n");
+                kGapWithMapping + "orvane: poem.trc: " + kRefused + "\n");
   result = Convert({"walk.trc", "--mapping", "less.mnm", "--dry-run"});
   EXPECT_THAT(result.output, HasSubstr("  drop    Toe\n"));
   result = Convert({"walk.trc", "--dry-run", "--json"});

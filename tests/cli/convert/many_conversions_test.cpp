@@ -37,7 +37,9 @@ TEST_F(ManyConversionsTest, ConvertsTwelveHundredFilesOfWhichThirtyAreBroken) {
   MakeFolder("out");
   std::vector<std::string> arguments = {"--output-dir", "out", "--jobs", "2"};
   std::string expected_errors =
-      "orvane: in/10007.trc: error: in 30 files, first here: The first line has no tabs: \"a poem\" "
+      "orvane: in/10007.trc: error: in 30 files, first here: The first line needs tabs between "
+      "fields, not blanks: \"a "
+      "poem\" "
       "(line 1, column 1). The file is refused. [trc-tabs-missing]\n";
   for (int number = 0; number < 1200; ++number) {
     const std::string name = "in/" + std::to_string(10'000 + number) + ".trc";

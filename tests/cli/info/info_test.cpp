@@ -42,7 +42,7 @@ TEST_F(InfoTest, PageTellsWhatAPersonWantsToKnow) {
             "  Frame rate      60 frames per second\n"
             "  Frames          3 announced, 3 found, numbered 1 to 3\n"
             "  Length          0.050 s\n"
-            "  Subject         0.10 m tall, moves 0.1 m, 0.1 s\n"
+            "  Subject         0.10 m tall, moves 0.1 m, 0.05 s\n"
             "  Bounding box    X     -90.000 to      20.000 mm\n"
             "                  Y     900.000 to    1000.000 mm\n"
             "                  Z       0.000 to       0.000 mm\n"

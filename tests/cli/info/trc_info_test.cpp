@@ -42,7 +42,7 @@ TEST_F(TrcInfoTest, ShowsAPage) {
       "  Camera rate     120 frames per second\n"
       "  Frames          5 announced, 4 found, numbered 10 to 13\n"
       "  Length          0.068 s\n"
-      "  Subject         0.01 m tall, moves 0.3 m, 0.1 s\n"
+      "  Subject         0.01 m tall, moves 0.3 m, 0.07 s\n"
       "  Bounding box    X      -4.000 to       1.000 cm\n"
       "                  Y       1.000 to       5.000 cm\n"
       "                  Z       1.000 to      30.000 cm\n"

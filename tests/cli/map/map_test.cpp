@@ -16,6 +16,7 @@ using test::ProgramResult;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::Not;
+using testing::StartsWith;
 
 // The standard markers that have to be picked, without sticks, and those that may be skipped.
 const std::vector<std::string> kNeeded = {
@@ -92,7 +93,7 @@ TEST_F(MapCreateTest, OfAFileThatIsNoTableOneThingIsTold) {
   std::string poem = "a poem\nof many\nlines\n";
   Write("picks", poem);
   const std::string count = std::to_string(kNeeded.size() + 2);
-  EXPECT_EQ(Create().error, "orvane: picks: line 1: a is no standard marker\n  There are " + count +
+  EXPECT_EQ(Create().error, "orvane: picks: line 1: a is no standard marker\n  And " + count +
                                 " further problems. Is it a table of picks?\n");
   Write("picks", MarkerFile(kNeeded));
   const ProgramResult result = Create();
@@ -108,8 +109,10 @@ TEST_F(MapCreateTest, OfATableOfOtherMarkersTenThingsAreTold) {
   Write("picks", Table(kNeeded));
   const std::string error = Create().error;
   EXPECT_EQ(std::count(error.begin(), error.end(), '\n'), 11);
-  EXPECT_THAT(error, testing::EndsWith("\n  There are " + std::to_string(kNeeded.size() - 10) +
-                                       " further problems. Is it a table of picks?\n"));
+  EXPECT_THAT(error, testing::EndsWith("\n  And " + std::to_string(kNeeded.size() - 10) +
+                                       " further problems. Is it the table of this file?\n"));
+  EXPECT_THAT(error, StartsWith("orvane: picks: line 1: there is no marker m-LFHD\n"
+                                "orvane: picks: line 2: there is no marker m-LBHD\n"));
 }
 
 TEST_F(MapCreateTest, NamesAllThatIsWrongWithTheTableAtOnce) {

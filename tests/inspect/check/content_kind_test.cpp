@@ -102,10 +102,12 @@ TEST(ContentKind, IsTheOneFindingOfAFileOfAnother) {
   const std::string markers = Example("walk.trc");
   EXPECT_THAT(test::AllTold(orvane::CheckHtr("walk", markers).findings),
               ElementsAre(test::Told{"1:1 error htr-other-kind", "a TRC file", "an HTR file",
-                                     "\"orvane import\", \"info\" and \"check\" take it with \"--as trc\"."}));
+                                     "\"orvane import\" and \"orvane info\" take it, by a name "
+                                     "that ends in .trc or with \"--as trc\"."}));
   EXPECT_THAT(test::AllTold(orvane::CheckTrc("walk", motion).findings),
               ElementsAre(test::Told{"1:1 error trc-other-kind", "an HTR file", "a TRC file",
-                                     "\"orvane import\", \"info\" and \"check\" take it with \"--as htr\"."}));
+                                     "\"orvane import\" and \"orvane info\" take it, by a name "
+                                     "that ends in .htr or with \"--as htr\"."}));
   for (const auto& [bytes, kind] : {std::pair{motion, "an HTR file"},
                                     {markers, "a TRC file"},
                                     {Example("walk.bvk"), "a BVK file"}}) {

@@ -51,7 +51,7 @@ Subject MeasuredBody(const std::function<Point(const Point&)>& placed, std::size
 }
 
 TEST(Subject, HasItsHeightAndItsWay) {
-  const Subject subject = MeasuredBody(Upright);
+  Subject subject = MeasuredBody(Upright);
   EXPECT_EQ(subject.points, 8U);
   EXPECT_DOUBLE_EQ(HeightOf(subject), 1700.0);
   EXPECT_DOUBLE_EQ(subject.way, 1980.0);
@@ -59,6 +59,9 @@ TEST(Subject, HasItsHeightAndItsWay) {
             "1.70 m tall, moves 2.0 m, 1.6 s");
   EXPECT_EQ(DescribeSubject(subject, orvane::ParseCalibrationUnits("cm"), {}),
             "17.00 m tall, moves 19.8 m");
+  subject.way = 3.0;
+  EXPECT_EQ(DescribeSubject(subject, orvane::kMillimeters, 0.04),
+            "1.70 m tall, moves 0.00 m, 0.04 s");
 }
 
 TEST(Subject, OfALongFileIsToldByAPartOfIt) {
