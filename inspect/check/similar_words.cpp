@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cstddef>
+#include <optional>
 
 namespace orvane {
 namespace {
@@ -34,15 +35,43 @@ std::size_t Distance(std::string_view left, std::string_view right) {
   return row[right.size()];
 }
 
+// How many letters of `meant` are wrong in `word`; nothing when it is that very word, or not like
+// it.
+std::optional<std::size_t> MistakesIn(std::string_view word, std::string_view meant) {
+  if (word == meant || word.size() > kLongestWord || meant.size() > kLongestWord) return {};
+  if (word.size() > meant.size() + kMostMistakes || meant.size() > word.size() + kMostMistakes) {
+    return {};
+  }
+  const std::size_t distance = Distance(word, meant);
+  const bool is_like =
+      distance == 0 || (distance <= kMostMistakes && meant.size() >= kShortestWord);
+  return is_like ? std::optional(distance) : std::nullopt;
+}
+
+bool IsBeginningOf(std::string_view word, std::string_view meant) {
+  return word != meant && 2 * word.size() >= meant.size() && meant.substr(0, word.size()) == word;
+}
+
 }  // namespace
 
 bool LooksLike(std::string_view word, std::string_view meant) {
-  if (word == meant || word.size() > kLongestWord || meant.size() > kLongestWord) return false;
-  if (word.size() > meant.size() + kMostMistakes || meant.size() > word.size() + kMostMistakes) {
-    return false;
+  return MistakesIn(word, meant).has_value();
+}
+
+std::string_view MostSimilar(std::string_view word, const std::vector<std::string>& words) {
+  std::string_view best;
+  std::size_t fewest = kMostMistakes + 1;
+  for (const std::string& meant : words) {
+    const std::size_t mistakes = MistakesIn(word, meant).value_or(fewest);
+    if (mistakes >= fewest) continue;
+    fewest = mistakes;
+    best = meant;
   }
-  const std::size_t distance = Distance(word, meant);
-  return distance == 0 || (distance <= kMostMistakes && meant.size() >= kShortestWord);
+  if (!best.empty()) return best;
+  const auto longer = std::find_if(words.begin(), words.end(), [word](const std::string& meant) {
+    return IsBeginningOf(word, meant);
+  });
+  return longer == words.end() ? std::string_view() : *longer;
 }
 
 }  // namespace orvane

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <string>
 #include <string_view>
+#include <vector>
 
 // Whether a word is another one, mistyped. Words are ASCII, or bytes that are compared as they are;
 // one of more than 40 bytes is like none.
@@ -10,5 +12,11 @@ namespace orvane {
 // Whether `word` is likely to be `meant`, mistyped: the same but for the case of letters, or with
 // up to two letters wrong, missing, or too many. False for the very same word.
 [[nodiscard]] bool LooksLike(std::string_view word, std::string_view meant);
+
+// The one of `words` that `word` is most likely to be: the first of those that it is with the
+// fewest wrong letters, as above, or else the first that it is the beginning of, half of it at
+// least. A view into `words`; empty for none.
+[[nodiscard]] std::string_view MostSimilar(std::string_view word,
+                                           const std::vector<std::string>& words);
 
 }  // namespace orvane

@@ -7,6 +7,7 @@
 namespace {
 
 using orvane::LooksLike;
+using orvane::MostSimilar;
 
 TEST(SimilarWords, DifferInCaseOrByTwoLetters) {
   EXPECT_TRUE(LooksLike("EndOFFile", "EndOfFile"));
@@ -31,5 +32,23 @@ TEST(SimilarWords, AreNotLong) {
   EXPECT_FALSE(LooksLike(longest, longest + 'a'));
   EXPECT_FALSE(LooksLike("", ""));
 }
+
+TEST(SimilarWords, OfSeveralTheOneWithTheFewestWrongLettersIsMeant) {
+  const std::vector<std::string> verbs = {"import", "export", "convert", "compare"};
+  EXPECT_EQ(MostSimilar("imprt", verbs), "import");
+  EXPECT_EQ(MostSimilar("xport", verbs), "export");
+  EXPECT_EQ(MostSimilar("Convert", verbs), "convert");
+  EXPECT_EQ(MostSimilar("list", verbs), "");
+  EXPECT_EQ(MostSimilar("", verbs), "");
+}
+
+TEST(SimilarWords, ABeginningStandsForTheFirstWordThatHasIt) {
+  const std::vector<std::string> flags = {"--output", "--output-dir", "--offset"};
+  EXPECT_EQ(MostSimilar("--out", flags), "--output");
+  EXPECT_EQ(MostSimilar("--output-", flags), "--output");
+  EXPECT_EQ(MostSimilar("--o", flags), "");
+}
+
+TEST(SimilarWords, TheWordItselfIsNotMeant) { EXPECT_EQ(MostSimilar("import", {"import"}), ""); }
 
 }  // namespace
