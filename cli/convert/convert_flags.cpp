@@ -49,7 +49,7 @@ void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
 
 void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {
   verb.add_option("--jobs", arguments.jobs, "How many processes run side by side (one a processor)")
-      ->check(CLI::Range(1, 256))
+      ->check(CLI::Range(1, 256).description(""))
       ->type_name("N");
   verb.add_option("--module", arguments.order.module, "The plug-in to load (the one beside orvane)")
       ->type_name("PATH");
