@@ -31,7 +31,8 @@ bool IsTolerable(const FindingList& findings, FindingSeverity tolerated) {
 
 void AddCheckManner(CLI::App& verb, CheckManner& manner) {
   AddChoice(verb, "--max-severity", {"note", "warning", "error"},
-            "The worst finding that still ends with status 0 (note)",
+            "The worst finding that still ends with status 0: \"warning\" tolerates warnings too, "
+            "\"error\" everything (note)",
             [&manner](const std::string& name) { manner.tolerated = SeverityOf(name); });
   verb.add_flag("--json", manner.json, "Write JSON");
 }

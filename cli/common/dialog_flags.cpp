@@ -2,6 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <charconv>
+#include <system_error>
 
 #include "formats/text/numbers.h"
 
@@ -10,10 +12,25 @@ namespace {
 
 using Kind = ControlWish::Kind;
 
+// Why the dialog would take another number than the one that `text` starts with; empty when it
+// would not. Without any number it takes 0.
+std::string WhyOutOfBounds(const std::string& text) {
+  const std::size_t first = std::min(text.find_first_not_of(" \t"), text.size());
+  const char* const begin = text.data() + first + (text.substr(first, 1) == "+" ? 1 : 0);
+  std::int32_t number = 0;
+  const auto result = std::from_chars(begin, text.data() + text.size(), number);
+  if (result.ec != std::errc::result_out_of_range) return "";
+  return text + " is not within -2147483648 and 2147483647";
+}
+
 void WishForRange(Wishes& wishes, const RangeControls& controls, const std::string& range) {
   const std::size_t colon = range.find(':');
   if (colon == std::string::npos) {
     throw CLI::ValidationError("--range", "FROM:TO is expected, not " + range);
+  }
+  for (const std::string& number : {range.substr(0, colon), range.substr(colon + 1)}) {
+    const std::string why = WhyOutOfBounds(number);
+    if (!why.empty()) throw CLI::ValidationError("--range", why);
   }
   wishes.push_back({Kind::kRadio, controls.range, "--range", "", false, {}});
   wishes.push_back({Kind::kText, controls.from, "--range", range.substr(0, colon), false, {}});
@@ -62,6 +79,11 @@ CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, in
           },
           help)
       ->type_name("NUMBER");
+}
+
+CLI::Option* AddInteger(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                        const std::string& help) {
+  return AddText(verb, wishes, flag, control, help)->check(WhyOutOfBounds, "");
 }
 
 void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,

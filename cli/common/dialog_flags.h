@@ -36,8 +36,13 @@ void AddCheckBox(CLI::App& verb, Wishes& wishes, const std::string& name, int co
 CLI::Option* AddText(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
                      const std::string& help, const Disabler& disabled_by = {});
 
+// The same of a field for a whole number. One that does not fit 32 bits, which the dialog would
+// take for another one, is wrong usage.
+CLI::Option* AddInteger(CLI::App& verb, Wishes& wishes, const std::string& flag, int control,
+                        const std::string& help);
+
 // The radio buttons of all frames, as `all_flag`, and of a range of them, with its two text fields,
-// as "--range FROM:TO".
+// as "--range FROM:TO"; they take whole numbers as above.
 struct RangeControls {
   int all = 0;
   int range = 0;

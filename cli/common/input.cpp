@@ -84,10 +84,11 @@ Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
 
 std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
                                             const std::string& text) {
-  std::vector<Complaint> complaints;
-  if (const auto cause = FindCause(file, kind)) complaints.push_back(*cause);
-  complaints.push_back(ComplainAbout(file, text));
-  return complaints;
+  const std::optional<Complaint> cause = FindCause(file, kind);
+  if (!cause) return {ComplainAbout(file, text)};
+  // That nothing is found in such a file is no news.
+  if (text == kNoSegments || text == kNoMarkers) return {*cause};
+  return {*cause, ComplainAbout(file, text)};
 }
 
 Complaint FindFlaw(const std::string& file, FileKind kind) {

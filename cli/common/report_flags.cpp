@@ -78,8 +78,8 @@ std::string WhyNoCode(const std::string& code) {
 void AddTellingFlags(CLI::App& verb, ReportManner& manner) {
   CLI::Option* report =
       RequireName(verb.add_option("--report", manner.file,
-                                  "Write what is found to this file too, as JSON; one "
-                                  "that is there is replaced"))
+                                  "Write what is found in the files to this file too, as JSON; one "
+                                  "that is there is replaced, but none that is read or made"))
           ->type_name("FILE.json");
   verb.add_flag("--no-report", manner.omitted, "Look for nothing in the files")->excludes(report);
 }

@@ -123,10 +123,11 @@ ExitStatus Export(const ExportArguments& arguments) {
 }
 
 void AddFileArguments(CLI::App& verb, ExportArguments& arguments) {
-  verb.add_option("SCENE", arguments.input, "The scene file: .glb or .gltf")
+  verb.add_option("SCENE", arguments.input,
+                  "The scene file, which orvane has written: .glb or .gltf")
       ->required()
       ->type_name("");
-  verb.add_option("-o,--output", arguments.output, "The HTR file to write")
+  verb.add_option("-o,--output", arguments.output, "The HTR file to write, whose name ends in .htr")
       ->required()
       ->check(
           [](const std::string& path) {
@@ -155,7 +156,8 @@ void AddRunFlags(CLI::App& verb, ExportArguments& arguments) {
             });
   AddReportFlags(verb, arguments.report);
   verb.add_flag("--json", arguments.json, "Write JSON");
-  verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
+  verb.add_flag("--quiet", arguments.quiet,
+                "No summary, no progress and no notes; warnings and errors are still told");
 }
 
 }  // namespace

@@ -18,7 +18,8 @@ void AddExportHtrFlags(CLI::App& verb, Wishes& wishes) {
               "Keep what the nodes above the root do in the root's motion (yes)");
   AddRange(verb, wishes, {IDC_SLIDER, IDC_RANGE, IDC_FROM, IDC_TO}, "--slider",
            "Export the animation range of the scene (the default)", "Export the frames FROM to TO");
-  AddText(verb, wishes, "--offset", IDC_OFFSET, "Add this to the frame numbers in the file (0)");
+  AddInteger(verb, wishes, "--offset", IDC_OFFSET,
+             "Add this to the frame numbers in the file, a whole number of 32 bits (0)");
   AddText(verb, wishes, "--scale", IDC_GLOBAL_SCALE, "Multiply all lengths by this (1)");
 }
 

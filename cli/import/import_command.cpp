@@ -262,7 +262,8 @@ std::vector<std::string> LengthUnitNames() {
 void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
   verb.add_option("FILE", arguments.input, "The HTR or TRC file")->required()->type_name("");
   AddKindChoice(verb, arguments.kind);
-  verb.add_option("-o,--output", arguments.output, "The scene to write: .glb or .gltf")
+  verb.add_option("-o,--output", arguments.output,
+                  "The scene to write: binary to a name in .glb, text to one in .gltf")
       ->required()
       ->check(
           [](const std::string& path) {
@@ -300,11 +301,13 @@ void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
               arguments.settings =
                   choice == "user" ? SettingsSource::kUser : SettingsSource::kFresh;
             });
-  verb.add_flag("--dry-run", arguments.dry_run,
-                "Show what the import would make, and write no scene");
+  verb.add_flag(
+      "--dry-run", arguments.dry_run,
+      "Do all of it but write the scene, and show what would be made; not with --settings user");
   AddReportFlags(verb, arguments.report);
   verb.add_flag("--json", arguments.json, "Write JSON");
-  verb.add_flag("--quiet", arguments.quiet, "No summary and no progress; warnings are still told");
+  verb.add_flag("--quiet", arguments.quiet,
+                "No summary, no progress and no notes; warnings and errors are still told");
 }
 
 }  // namespace

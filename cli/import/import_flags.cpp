@@ -60,7 +60,8 @@ void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
            "Import all frames (the default)",
            "Import the frames FROM to TO of a TRC file; key the first frames of an HTR file "
            "there");
-  AddText(verb, wishes, "--offset", IDC_OFFSET, "Number of frames to move the keys by (0)");
+  AddInteger(verb, wishes, "--offset", IDC_OFFSET,
+             "Number of frames to move the keys by, a whole number of 32 bits (0)");
   AddChoice(
       verb, "--frame-rate", {"file", "keep"},
       "Set the scene's frame rate from the file, or keep the scene's (file; keep with --into)",

@@ -27,7 +27,8 @@ void AddCreate(CLI::App& map, Work& work) {
       ->type_name("PATH");
   AddReportFlags(*verb, arguments->report);
   verb->add_flag("--json", arguments->json, "Write JSON");
-  verb->add_flag("--quiet", arguments->quiet, "No summary and no notes; warnings are still told");
+  verb->add_flag("--quiet", arguments->quiet,
+                 "No summary and no notes; warnings and errors are still told");
   verb->callback([arguments, &work] { work = [arguments] { return CreateMapping(*arguments); }; });
 }
 

@@ -31,7 +31,8 @@ ExitStatus ShowScene(const SceneArguments& arguments) {
 void AddSceneCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<SceneArguments>();
   CLI::App* verb = app.add_subcommand("scene", "Tell what a scene file holds");
-  verb->add_option("SCENE", arguments->input, "The scene file: .glb or .gltf")
+  verb->add_option("SCENE", arguments->input,
+                   "The scene file, which orvane has written: .glb or .gltf")
       ->required()
       ->type_name("");
   verb->add_flag("--json", arguments->json, "Write JSON, with every key");

@@ -74,6 +74,22 @@ TEST_F(CommandLineTest, HelpOfAVerbNamesItsFlags) {
   EXPECT_THAT(result.output, HasSubstr("--system-unit mm|cm|m|in|ft"));
 }
 
+TEST_F(CommandLineTest, TheHelpOfAVerbSaysWhatItsFlagsDo) {
+  const std::pair<const char*, const char*> rows[] = {
+      {"import", "No summary, no progress and no notes; warnings and errors are still told"},
+      {"import", "Do all of it but write the scene, and show what would be made"},
+      {"import", "Number of frames to move the keys by, a whole number of 32 bits (0)"},
+      {"import", "binary to a name in .glb, text to one in .gltf"},
+      {"export", "Take every warning as a refusal: nothing is written, and the status is 1"},
+      {"export", "codes of findings that are no reason to refuse; may be repeated"},
+      {"export", "one that is there is replaced, but none that is read or made"},
+      {"scene", "The scene file, which orvane has written: .glb or .gltf"},
+      {"check", "import|apply|convert|export"}};
+  for (const auto& [verb, text] : rows) {
+    EXPECT_THAT(Orvane({verb, "--help"}).output, HasSubstr(text)) << verb;
+  }
+}
+
 TEST_F(CommandLineTest, ASlashBeginsAPathAndNoFlag) {
   const ProgramResult result = Orvane({"info", "/missing/walk.htr"});
   EXPECT_EQ(result.status, 3);

@@ -147,6 +147,23 @@ TEST_F(ImportFlagsTest, RangeInTheWrongOrder) {
                 "frames?\n");
 }
 
+// The dialog would take the nearest number that fits.
+TEST_F(ImportFlagsTest, WholeNumbersThatDoNotFitAreWrongUsage) {
+  const std::pair<const char*, const char*> rows[] = {{"--offset", "-2147483649"},
+                                                      {"--offset", "2147483648"},
+                                                      {"--range", "1:99999999999"},
+                                                      {"--range", "-2147483649:3"},
+                                                      {"--offset", "+3000000000"}};
+  for (const auto& [flag, number] : rows) {
+    const ProgramResult result = Import({flag, number});
+    EXPECT_EQ(result.status, 2) << number;
+    EXPECT_THAT(result.error, testing::HasSubstr(" is not within -2147483648 and 2147483647\n"))
+        << number;
+  }
+  EXPECT_EQ(Orvane({"export", "a.glb", "-o", "a.htr", "--offset", "-2147483649"}).status, 2);
+  EXPECT_EQ(Import({"--offset", "1.5 frames"}).status, 0) << "the dialog reads what it can";
+}
+
 TEST_F(ImportFlagsTest, SizesThatAreZeroOrNoNumber) {
   for (const std::string size : {"0", "abc", "nan", "--5", "", "1e-999"}) {
     ExpectRefusal(

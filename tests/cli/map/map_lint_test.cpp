@@ -156,7 +156,7 @@ TEST_F(MapLintTest, NeedsReadableFiles) {
   EXPECT_EQ(refused.status, 1);
   Write("empty.trc", "");
   EXPECT_THAT(Orvane({"map", "lint", "m.mnm", "empty.trc"}).error,
-              HasSubstr("The file holds no markers"));
+              HasSubstr("empty.trc: The file is empty\n"));
 }
 
 TEST_F(MapLintTest, TellsOfTheMappingWhateverBecomesOfTheCapture) {
