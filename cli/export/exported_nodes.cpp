@@ -1,6 +1,7 @@
 #include "cli/export/exported_nodes.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstdint>
 #include <utility>
@@ -59,12 +60,53 @@ bool IsSheared(const Matrix3& transform) {
   return !AreAtRightAngles(x, y) || !AreAtRightAngles(y, z) || !AreAtRightAngles(z, x);
 }
 
+FrameInterval FramesOf(const host::AnimationState& animation, const ExportChoices& choices) {
+  if (!choices.animation) return {};
+  const int ticks = animation.TicksPerFrame();
+  const FrameInterval all = {animation.Range().Start() / ticks, animation.Range().End() / ticks};
+  return choices.range ? Overlap(*choices.range, all) : all;
+}
+
+// Null when no skeleton is selected.
+const host::Node* RootOf(const host::Scene& scene) {
+  if (scene.Selection().empty()) return nullptr;
+  const host::Node* const selected = scene.Selection().front();
+  return IsBone(*selected) ? selected : FirstBoneChild(*selected);
+}
+
+// From the first to the last key of nodes.
+class KeySpan {
+ public:
+  void Include(const host::Node& node) {
+    if (node.Transform() == nullptr) return;
+    const host::TransformController& transform = *node.Transform();
+    const std::array<const host::Controller*, 3> controllers = {
+        &transform.Position(), &transform.Rotation(), &transform.Scale()};
+    for (const host::Controller* controller : controllers) {
+      const std::size_t count = controller->KeyCount();
+      if (count == 0) continue;
+      first_ = std::min<std::int64_t>(first_, controller->KeyTick(0));
+      last_ = std::max<std::int64_t>(last_, controller->KeyTick(count - 1));
+    }
+  }
+
+  // Nothing without a key. A frame that a key is in counts.
+  std::optional<std::pair<std::int64_t, std::int64_t>> InFrames(int ticks) const {
+    if (first_ > last_) return std::nullopt;
+    return std::pair(first_ / ticks, (last_ + ticks - 1) / ticks);
+  }
+
+ private:
+  std::int64_t first_ = INT64_MAX;
+  std::int64_t last_ = INT64_MIN;
+};
+
 class Describing {
  public:
   Describing(const host::Scene& scene, const ExportChoices& choices, const host::Node& root)
       : animation_(scene.Animation()),
         ticks_(animation_.TicksPerFrame()),
-        frames_(FramesOf(choices)),
+        frames_(FramesOf(animation_, choices)),
         above_(choices.parent_transforms ? nullptr : root.Parent()) {
     bool is_uneven_above = false;
     for (const host::Node* node = root.Parent(); above_ == nullptr && node != nullptr;
@@ -95,13 +137,6 @@ class Describing {
     std::size_t parent;
     bool is_uneven_above;
   };
-
-  FrameInterval FramesOf(const ExportChoices& choices) const {
-    if (!choices.animation) return {};
-    const FrameInterval all = {animation_.Range().Start() / ticks_,
-                               animation_.Range().End() / ticks_};
-    return choices.range ? Overlap(*choices.range, all) : all;
-  }
 
   ExportNode Describe(const Waiting& next) const {
     const host::ScaleController& scale = next.node->Transform()->Scale();
@@ -136,11 +171,29 @@ class Describing {
 }  // namespace
 
 std::vector<ExportNode> DescribeExport(const host::Scene& scene, const ExportChoices& choices) {
-  if (scene.Selection().empty()) return {};
-  const host::Node* const selected = scene.Selection().front();
-  const host::Node* const root = IsBone(*selected) ? selected : FirstBoneChild(*selected);
+  const host::Node* const root = RootOf(scene);
   if (root == nullptr) return {};
   return Describing(scene, choices, *root).Run();
+}
+
+std::optional<orvane::ExportFrames> DescribeFrames(const host::Scene& scene,
+                                                   const ExportChoices& choices) {
+  const host::Node* const root = RootOf(scene);
+  const FrameInterval frames = FramesOf(scene.Animation(), choices);
+  if (root == nullptr || frames.Count() == 0) return std::nullopt;
+  KeySpan keys;
+  for (const host::Node* node = root->Parent(); node != nullptr; node = node->Parent()) {
+    keys.Include(*node);
+  }
+  std::vector<const host::Node*> waiting = {root};
+  while (!waiting.empty()) {
+    const host::Node* const node = waiting.back();
+    waiting.pop_back();
+    keys.Include(*node);
+    waiting.insert(waiting.end(), node->Children().begin(), node->Children().end());
+  }
+  return orvane::ExportFrames{frames.first, frames.last,
+                              keys.InFrames(scene.Animation().TicksPerFrame())};
 }
 
 }  // namespace cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <vector>
 
 #include "cli/export/export_htr_flags.h"
@@ -15,5 +16,10 @@ namespace cli {
 // are looked at frame by frame.
 [[nodiscard]] std::vector<orvane::ExportNode> DescribeExport(const host::Scene& scene,
                                                              const ExportChoices& choices);
+
+// The frames that are exported, and those of the keys that move the skeleton, which are those of
+// its nodes and of the ones above it; nothing when none are exported.
+[[nodiscard]] std::optional<orvane::ExportFrames> DescribeFrames(const host::Scene& scene,
+                                                                 const ExportChoices& choices);
 
 }  // namespace cli

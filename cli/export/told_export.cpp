@@ -14,7 +14,9 @@ orvane::FileReport ReportOnExport(const std::string& file, const host::Scene& sc
     return ReportOn(CheckSelection(file, orvane::kSceneKind, kAction, unknown, false), kAction);
   }
   RequireSensibleRange(file, scene, choices);
-  return ReportOn(orvane::CheckExport(file, DescribeExport(scene, choices)), kAction);
+  return ReportOn(
+      orvane::CheckExport(file, DescribeExport(scene, choices), DescribeFrames(scene, choices)),
+      kAction);
 }
 
 }  // namespace cli

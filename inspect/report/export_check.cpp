@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "formats/htr/sections.h"
+#include "formats/text/numbers.h"
 #include "inspect/report/action.h"
 #include "inspect/report/export_rules.h"
 
@@ -110,8 +111,16 @@ class ExportCheck {
 
 }  // namespace
 
-CheckedFile CheckExport(const std::string& name, const std::vector<ExportNode>& nodes) {
-  return ExportCheck(name, nodes).Run();
+CheckedFile CheckExport(const std::string& name, const std::vector<ExportNode>& nodes,
+                        const std::optional<ExportFrames>& frames) {
+  CheckedFile checked = ExportCheck(name, nodes).Run();
+  if (!frames || !frames->keyed) return checked;
+  const auto& [first, last] = *frames->keyed;
+  if (first <= frames->first && frames->last <= last) return checked;
+  checked.findings.Add(Rule("export-frames-unkeyed"), kNoPlace,
+                       {FormatInt(frames->first) + " to " + FormatInt(frames->last),
+                        FormatInt(first) + " to " + FormatInt(last), ""});
+  return checked;
 }
 
 }  // namespace orvane

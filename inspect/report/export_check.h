@@ -1,7 +1,10 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "inspect/check/checked_file.h"
@@ -21,10 +24,18 @@ struct ExportNode {
   bool is_sheared = false;     // its axes are not at right angles, in some frame
 };
 
+// The frames of an export, by the numbers of the scene, both ends included.
+struct ExportFrames {
+  std::int64_t first = 0;
+  std::int64_t last = 0;
+  // From the first to the last key of what moves the skeleton; nothing when it stands still.
+  std::optional<std::pair<std::int64_t, std::int64_t>> keyed{};
+};
+
 // The findings of the codes "export-..." of `nodes`, the root first and each node before its
 // children; none of them for a scene in which no skeleton is selected. `name` is what their scene
-// is known as.
-[[nodiscard]] CheckedFile CheckExport(const std::string& name,
-                                      const std::vector<ExportNode>& nodes);
+// is known as. `frames`: nothing when none are exported.
+[[nodiscard]] CheckedFile CheckExport(const std::string& name, const std::vector<ExportNode>& nodes,
+                                      const std::optional<ExportFrames>& frames = {});
 
 }  // namespace orvane

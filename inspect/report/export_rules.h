@@ -21,6 +21,7 @@ inline constexpr std::array kRules = {
     FindingRule{"export-shear", FindingSeverity::kWarning},
     FindingRule{"export-helper-skipped", FindingSeverity::kNote},
     FindingRule{"export-effector", FindingSeverity::kNote},
+    FindingRule{"export-frames-unkeyed", FindingSeverity::kNote},
 };
 
 }  // namespace orvane::exporting

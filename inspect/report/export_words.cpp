@@ -45,6 +45,9 @@ constexpr FindingMeaning kWords[] = {
      "{count} nodes of the skeleton are no bones", Exported(kNote, "It is left out.")},
     {"export-effector", "An effector ends a chain", "{count} effectors end chains",
      Exported(kNote, "It is left out; the bone before it has its length.")},
+    {"export-frames-unkeyed",
+     "The frames {found} are exported, and the keys of the skeleton are in {expected}", nullptr,
+     Exported(kNote, "In the others it stands still; --range FROM:TO leaves them out.")},
 };
 
 }  // namespace

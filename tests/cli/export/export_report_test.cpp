@@ -121,6 +121,30 @@ TEST_F(ExportReportTest, ANameThatTheFileReadsOtherwiseIsNamedBeforeTheRefusal) 
                                 "back, and is refused; rename the bone. [export-name-changed]\n"));
 }
 
+// --- Frames ---
+
+// The animation range is exported, whatever it was set for.
+TEST_F(ExportReportTest, FramesWithoutKeysOfTheSkeletonAreANote) {
+  head_.Transform()->Position().SetKey(0, Point3(1, 2, 3));
+  head_.Transform()->Position().SetKey(160, Point3(1, 2, 4));
+  AddDummy(scene_, "Prop").Transform()->Position().SetKey(16000, Point3(1, 2, 3));
+  EXPECT_EQ(Export().error,
+            "orvane: scene.glb: note: The frames 0 to 2 are exported, and the keys of the skeleton "
+            "are in 0 to 1. In the others it stands still; --range FROM:TO leaves them out. "
+            "[export-frames-unkeyed]\n");
+  head_.Transform()->Position().SetKey(320, Point3(1, 2, 5));
+  EXPECT_THAT(Codes(), IsEmpty());
+  EXPECT_THAT(Codes({"--no-animation"}), IsEmpty());
+}
+
+TEST_F(ExportReportTest, KeysAboveTheSkeletonMoveIt) {
+  host::Node& yard = AddDummy(scene_, "Yard");
+  yard.AttachChild(&hips_, false);
+  yard.Transform()->Position().SetKey(0, Point3(1, 2, 3));
+  yard.Transform()->Position().SetKey(320, Point3(1, 2, 4));
+  EXPECT_THAT(Codes(), IsEmpty());
+}
+
 // --- Flags ---
 
 TEST_F(ExportReportTest, StrictRefusesUnlessItIsAllowed) {
