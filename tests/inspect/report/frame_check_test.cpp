@@ -1,0 +1,105 @@
+#include "inspect/report/frame_check.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <string>
+#include <vector>
+
+#include "inspect/report/report.h"
+
+namespace {
+
+using orvane::Action;
+using orvane::CheckFrames;
+using orvane::FrameCircumstances;
+using orvane::FrameSpan;
+using orvane::ReportedFinding;
+
+// Frames 1 to 73 of a file, all of them keyed, in a scene that they fill.
+FrameCircumstances Usual() {
+  FrameCircumstances frames;
+  frames.held = FrameSpan{1, 73};
+  frames.keyed = FrameSpan{1, 73};
+  frames.range_before = {1, 73};
+  frames.range_after = {1, 73};
+  frames.played = FrameSpan{1, 73};
+  return frames;
+}
+
+struct Row {
+  std::string name;
+  void (*change)(FrameCircumstances& frames);
+  std::vector<std::string> causes;
+};
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.name; }
+
+class FrameCheckTest : public testing::TestWithParam<Row> {};
+
+TEST_P(FrameCheckTest, TellsWhichFramesAreMissed) {
+  FrameCircumstances frames = Usual();
+  GetParam().change(frames);
+  std::vector<std::string> causes;
+  for (const ReportedFinding& finding :
+       ReportOn(CheckFrames("a.trc", "TRC", frames), Action::kApply).findings) {
+    causes.push_back(finding.cause);
+  }
+  EXPECT_EQ(causes, GetParam().causes);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, FrameCheckTest,
+    testing::Values(Row{"Usual", [](FrameCircumstances&) {}, {}},
+                    Row{"AllThatIsHeld",
+                        [](FrameCircumstances& frames) {
+                          frames.asked = FrameSpan{1, 73};
+                        },
+                        {}},
+                    Row{"NoneThatIsHeld",
+                        [](FrameCircumstances& frames) {
+                          frames.asked = FrameSpan{74, 80};
+                        },
+                        {"--range asks for the frames 74 to 80, and the file has 1 to 73"}},
+                    Row{"OneThatIsHeld",
+                        [](FrameCircumstances& frames) {
+                          frames.asked = FrameSpan{73, 80};
+                        },
+                        {"7 of the 8 frames that --range asks for are not in the file"}},
+                    Row{"NothingHeld",
+                        [](FrameCircumstances& frames) {
+                          frames.held.reset();
+                          frames.asked = FrameSpan{1, 2};
+                        },
+                        {}},
+                    Row{"KeysBehindTheRange",
+                        [](FrameCircumstances& frames) {
+                          frames.keyed = FrameSpan{74, 80};
+                        },
+                        {"Keys come to lie in the frames 74 to 80, and the scene's animation range "
+                         "is then 1 to "
+                         "73"}},
+                    Row{"OneKeyInTheRange",
+                        [](FrameCircumstances& frames) {
+                          frames.keyed = FrameSpan{73, 80};
+                        },
+                        {}},
+                    Row{"RangeShortened",
+                        [](FrameCircumstances& frames) {
+                          frames.range_after = {1, 72};
+                        },
+                        {"The scene's animation range was 1 to 73, and is then 1 to 72"}},
+                    Row{"RangeShortenedWhereNothingIsKeyed",
+                        [](FrameCircumstances& frames) {
+                          frames.range_before = {0, 200};
+                        },
+                        {}},
+                    Row{"RangeThatEndsBeforeItBegins",
+                        [](FrameCircumstances& frames) {
+                          frames.range_after = {1, 0};
+                        },
+                        {}}),
+    [](const auto& row) { return row.param.name; });
+
+}  // namespace
