@@ -7,7 +7,7 @@ Not among them is what no program can see in the file alone: a position that is 
 might be, markers whose names are swapped or changed to other sound names, a rate that is doubled,
 frames that are swapped and numbered anew, a marker taken out with its columns and its count, radians
 that are called degrees, which a quiet take may be, and a unit beside the right one that leaves a
-body the size of a child or a hand.
+body the size of a child or a hand, or that few markers are in.
 """
 
 import base64

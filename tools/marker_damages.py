@@ -58,6 +58,14 @@ def header_value(column, text):
     return lambda data: cells_edited(data, VALUES, with_cell(column, text))
 
 
+def unit_of_another_file(data):
+    """Of as many markers as a body has: fewer may be anything."""
+    cells = lines_of(data)[middle(data)].rstrip(b"\r\n").split(b"\t")
+    if sum(cell.strip() != b"" for cell in cells[2::3]) < 8:
+        return None
+    return header_value(4, lambda cell: b"mm" if cell.strip() == b"m" else b"in")(data)
+
+
 def frames_moved(move):
     """`move` gets the lines of the frames, and returns them as they shall stand."""
 
@@ -129,7 +137,7 @@ MARKERS = {
     "unit-in-words": header_value(4, b"millimeters"),
     "unit-with-blanks": header_value(4, lambda cell: cell.strip() + b"  "),
     "unit-empty": header_value(4, b""),
-    "unit-of-another-file": header_value(4, lambda cell: b"mm" if cell.strip() == b"m" else b"in"),
+    "unit-of-another-file": unit_of_another_file,
     "nan": in_all_cells_of_middle_marker(b"NaN"),
     "infinite": in_middle_frame(b"inf"),
     "indeterminate": in_all_cells_of_middle_marker(b"-1.#IND"),

@@ -15,6 +15,10 @@ bool DecimalCommas::IsOne(std::string_view cell) {
   return ends_in_digit && FaultOfNumber(with_point) == NumberFault::kNone;
 }
 
+bool DecimalCommas::LosesAny(std::string_view cell) {
+  return cell.find_first_not_of('0', cell.find(',') + 1) != std::string_view::npos;
+}
+
 void DecimalCommas::Keep(std::string_view cell, const FindingPlace& place) {
   first_ = cell;
   place_ = place;

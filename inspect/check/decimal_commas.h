@@ -19,15 +19,20 @@ class DecimalCommas {
   template <typename Place>
   bool Take(std::string_view cell, const Place& place) {
     if (!IsOne(cell)) return false;
-    if (count_++ == 0) Keep(cell, {place.line, place.column});
+    if (count_++ == 0 || (!LosesAny(first_) && LosesAny(cell))) {
+      Keep(cell, {place.line, place.column});
+    }
     return true;
   }
 
-  // Adds one finding by `rule` for all that were taken; none when there was none.
+  // Adds one finding by `rule` for all that were taken, where the first that loses something is;
+  // none when there was none.
   void AddTo(FindingList& findings, const FindingRule& rule) const;
 
  private:
   [[nodiscard]] static bool IsOne(std::string_view cell);
+  // Whether there is more than zeros behind the comma.
+  [[nodiscard]] static bool LosesAny(std::string_view cell);
   void Keep(std::string_view cell, const FindingPlace& place);
 
   std::size_t count_ = 0;

@@ -130,7 +130,7 @@ constexpr FindingMeaning kWords[] = {
      "{count} lines are blank where frames belong",
      InMarkers(kWarning, "Each is a frame in which no marker has a position.")},
     {"trc-lines-at-end", "The file has {found}", nullptr,
-     InMarkers(kNote, "They are behind the frames that the header announces, and do not count.")},
+     InMarkers(kNote, "The header announces no more frames than stand before: it does not count.")},
     {"trc-frame-short", "A frame has too few columns", "{count} frames have too few columns",
      InMarkers(kWarning, "The markers that are missing have no position there.")},
     {"trc-frame-narrow", "A frame has fewer columns than most: {found}, not {expected}",
