@@ -76,6 +76,12 @@ const std::vector<VerbGuide>& AllGuides() {
        {{{"orvane map create walk.trc --picks picks.txt -o mine.mnm", "a new mapping"},
          {"orvane map create walk.trc --picks picks.txt -o mine.mnm --force",
           "make it once more"}}}},
+      {"map suggest",
+       "Suggests which marker of a TRC file is which standard marker, by their names, each with "
+       "its "
+       "reason. What is not sure is left out and listed. A mapping file that exists is kept.",
+       {{{"orvane map suggest walk.trc", "what the names say"},
+         {"orvane map suggest walk.trc -o suggested.mnm", "a mapping of it"}}}},
       {"map lint",
        "Names what is odd in a mapping file and, when a TRC file is given too, where the two do "
        "not fit. "

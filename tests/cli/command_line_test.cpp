@@ -1,3 +1,7 @@
+#include <sstream>
+#include <string>
+#include <vector>
+
 #include "tests/cli/orvane_test.h"
 
 namespace {
@@ -30,11 +34,19 @@ TEST_F(CommandLineTest, HelpNamesEveryVerb) {
 TEST_F(CommandLineTest, HelpSpeaksOfVerbs) {
   for (const auto& arguments : {std::vector<std::string>{"--help"}, {"map", "--help"}}) {
     const std::string help = Orvane(arguments).output;
-    EXPECT_THAT(help, HasSubstr(" [OPTIONS] VERB\n"));
+    EXPECT_THAT(help, HasSubstr(" VERB ...\n"));
     EXPECT_THAT(help, HasSubstr("\nVerbs:\n"));
     EXPECT_THAT(help, Not(HasSubstr("ubcommand")));
     EXPECT_THAT(help, Not(HasSubstr("SUBCOMMAND")));
   }
+}
+
+// Pages break lines where the words of a flag are many.
+std::string OnOneLine(const std::string& page) {
+  std::istringstream words(page);
+  std::string line;
+  for (std::string word; words >> word;) line += (line.empty() ? "" : " ") + word;
+  return line;
 }
 
 TEST_F(CommandLineTest, HelpSaysWhatTheDocumentationSays) {
@@ -45,8 +57,17 @@ TEST_F(CommandLineTest, HelpSaysWhatTheDocumentationSays) {
   const std::string strict = "A warning is a refusal: status 1";
   const std::string allow = "With --strict: codes that are no reason to refuse; may be repeated";
   const std::string report =
-      "Write what is found to this file too, as JSON; one that is there is replaced";
+      "Write what is found in the files to this file too, as JSON; one that is there is replaced, "
+      "but none that is read or made";
+  const std::string quiet =
+      "No summary, no progress and no notes; warnings and errors are still told";
   const std::vector<Said> all = {
+      {{"import"},
+       {strict, allow, report, quiet,
+        "Do all of it but write the scene, and show what would be made",
+        "Number of frames to move the keys by, a whole number of 32 bits (0)",
+        "binary to a name in .glb, text to one in .gltf"}},
+      {{"export"}, {strict, allow, report, quiet}},
       {{"convert"},
        {strict, allow, report,
         "The file to write, for one FILE; its name ends in .bvk, which is added to one without an "
@@ -55,13 +76,15 @@ TEST_F(CommandLineTest, HelpSaysWhatTheDocumentationSays) {
         "empty, also without --strict: convert files of which no marker is left, too",
         "No table, no progress and no notes; warnings and errors are still told"}},
       {{"map", "create"},
-       {strict, allow, report, "No summary and no notes; warnings are still told"}},
+       {strict, allow, report, "No summary and no notes; warnings and errors are still told"}},
+      {{"scene"}, {"The scene file, which orvane has written: .glb or .gltf"}},
+      {{"check"}, {"import|apply|convert|export"}},
       {{"info"}, {report}},
       {{"compare"}, {report}}};
   for (const Said& said : all) {
     std::vector<std::string> arguments = said.verb;
     arguments.emplace_back("--help");
-    const std::string help = Orvane(arguments).output;
+    const std::string help = OnOneLine(Orvane(arguments).output);
     for (const std::string& text : said.texts) EXPECT_THAT(help, HasSubstr(text));
   }
 }
@@ -72,22 +95,6 @@ TEST_F(CommandLineTest, HelpOfAVerbNamesItsFlags) {
   EXPECT_THAT(result.output, HasSubstr("--segment-size NUMBER"));
   EXPECT_THAT(result.output, HasSubstr("--range FROM:TO"));
   EXPECT_THAT(result.output, HasSubstr("--system-unit mm|cm|m|in|ft"));
-}
-
-TEST_F(CommandLineTest, TheHelpOfAVerbSaysWhatItsFlagsDo) {
-  const std::pair<const char*, const char*> rows[] = {
-      {"import", "No summary, no progress and no notes; warnings and errors are still told"},
-      {"import", "Do all of it but write the scene, and show what would be made"},
-      {"import", "Number of frames to move the keys by, a whole number of 32 bits (0)"},
-      {"import", "binary to a name in .glb, text to one in .gltf"},
-      {"export", "Take every warning as a refusal: nothing is written, and the status is 1"},
-      {"export", "codes of findings that are no reason to refuse; may be repeated"},
-      {"export", "one that is there is replaced, but none that is read or made"},
-      {"scene", "The scene file, which orvane has written: .glb or .gltf"},
-      {"check", "import|apply|convert|export"}};
-  for (const auto& [verb, text] : rows) {
-    EXPECT_THAT(Orvane({verb, "--help"}).output, HasSubstr(text)) << verb;
-  }
 }
 
 TEST_F(CommandLineTest, ASlashBeginsAPathAndNoFlag) {
