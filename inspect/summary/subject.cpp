@@ -37,9 +37,22 @@ struct FrameBox {
   }
 };
 
+// How far the points that are in a frame and in the one before have got between them.
+struct Step {
+  Point sum{};
+  std::size_t points = 0;
+
+  void Include(const Point& from, const Point& to) {
+    ++points;
+    for (std::size_t axis = 0; axis < to.size(); ++axis) sum[axis] += to[axis] - from[axis];
+  }
+};
+
 struct Track {
   std::optional<Point> start;
   double way = 0.0;
+  Point last{};
+  std::size_t last_index = 0;
 
   void Include(const Point& point) {
     if (!start) start = point;
@@ -61,6 +74,7 @@ class Measuring {
   Measuring(std::size_t frames, std::size_t tracks)
       : step_(std::max<std::size_t>(1, (frames + kMostFrames - 1) / kMostFrames)),
         boxes_((frames + step_ - 1) / step_),
+        steps_(boxes_.size()),
         tracks_(tracks) {}
 
   // Counted from 0.
@@ -70,16 +84,23 @@ class Measuring {
   void Take(std::size_t index, std::size_t track, const Point& point) {
     if (!std::isfinite(point[0] + point[1] + point[2])) return;
     boxes_[index].Include(point);
-    tracks_[track].Include(point);
+    Track& taken = tracks_[track];
+    if (taken.start && taken.last_index + 1 == index) steps_[index].Include(taken.last, point);
+    taken.Include(point);
+    taken.last = point;
+    taken.last_index = index;
   }
 
   [[nodiscard]] std::optional<Subject> Finish();
 
  private:
   void MeasureAxis(std::size_t axis, Subject& subject) const;
+  double WayOfSteps() const;
+  static double RoomFor(const Subject& subject, const FrameBox& all);
 
   std::size_t step_;
   std::vector<FrameBox> boxes_;
+  std::vector<Step> steps_;
   std::vector<Track> tracks_;
 };
 
@@ -87,6 +108,12 @@ std::optional<Subject> Measuring::Finish() {
   Subject subject;
   for (const FrameBox& box : boxes_) subject.points = std::max(subject.points, box.points);
   if (subject.points < kFewestPoints) return std::nullopt;
+  FrameBox all;
+  for (const FrameBox& box : boxes_) {
+    if (box.points == 0) continue;
+    all.Include(box.least);
+    all.Include(box.most);
+  }
   std::erase_if(boxes_, [&subject](const FrameBox& box) { return box.points < subject.points; });
   for (std::size_t axis = 0; axis < 3; ++axis) MeasureAxis(axis, subject);
 
@@ -94,8 +121,31 @@ std::optional<Subject> Measuring::Finish() {
   for (const Track& track : tracks_) {
     if (track.start) ways.push_back(track.way);
   }
-  subject.way = Median(std::move(ways));
+  // Points that come and go are not there from start to end. Their steps add up; but so does what
+  // is wrong with them, which the room that there is for the subject bounds.
+  subject.way = std::max(Median(std::move(ways)), std::min(WayOfSteps(), RoomFor(subject, all)));
   return subject;
+}
+
+double Measuring::WayOfSteps() const {
+  Point at{};
+  double way = 0.0;
+  for (const Step& step : steps_) {
+    if (step.points == 0) continue;
+    for (std::size_t axis = 0; axis < at.size(); ++axis) {
+      at[axis] += step.sum[axis] / static_cast<double>(step.points);
+    }
+    way = std::max(way, std::hypot(at[0], at[1], at[2]));
+  }
+  return way;
+}
+
+// How far it can get within the bounds of `all` that there is.
+double Measuring::RoomFor(const Subject& subject, const FrameBox& all) {
+  const auto room = [&](std::size_t axis) {
+    return std::max(0.0, all.most[axis] - all.least[axis] - subject.extent[axis]);
+  };
+  return std::hypot(room(0), room(1), room(2));
 }
 
 void Measuring::MeasureAxis(std::size_t axis, Subject& subject) const {

@@ -28,6 +28,7 @@ struct Subject {
   Point floor_change{};  // along each axis: by how much the lowest point of a frame rises and falls
 
   // How far from where it starts a point gets: the distance that half of the points do not exceed.
+  // Where points come and go it is as far as their steps add up to, if that is more.
   double way = 0.0;
 };
 

@@ -127,6 +127,23 @@ TEST(Subject, DoesNotSeemToStandAlongZOtherwise) {
   EXPECT_FALSE(SeemsToStandAlongZ(prop)) << "a prop";
 }
 
+// Each marker is seen in 30 frames of the 100, in which it gets 580 far.
+TEST(Subject, WhosePointsComeAndGoMovesAsFarAsTheyDoTogether) {
+  TRCDocument document;
+  for (int number = 0; number < 8; ++number) {
+    TRCMarker marker("marker " + std::to_string(number));
+    for (int frame = 0; frame < 100; ++frame) {
+      if (frame >= 10 * number && frame < 10 * number + 30) {
+        marker.AppendPosition(20.0 * frame, 200.0 * number, 0.0);
+      } else {
+        marker.AppendDropout();
+      }
+    }
+    EXPECT_NE(document.AddMarker(std::move(marker)), nullptr);
+  }
+  EXPECT_DOUBLE_EQ(Measured(document).way, 1980.0);
+}
+
 TEST(Subject, OfTheExamplesStandsUpright) {
   HtrDocument motion;
   ASSERT_EQ(orvane::ReadHtrFile(motion, ORVANE_SOURCE_DIR "/examples/walk.htr", true), "");
