@@ -29,6 +29,8 @@ readonly test_needs='
 command git                                       git
 command node                                      nodejs
 command npm                                       npm
+command man                                       man-db
+command groff                                     groff-base
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
 path    /usr/share/i18n/locales/de_DE             locales
 '

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <set>
 
 namespace cli {
 namespace {
@@ -17,8 +18,12 @@ std::vector<std::string> NamesOf(const CLI::Option& option) {
   return names;
 }
 
+bool IsIn(const std::set<CLI::Option*>& options, const CLI::Option* option) {
+  return std::find(options.begin(), options.end(), option) != options.end();
+}
+
 bool Excludes(const CLI::Option& option, const CLI::Option* other) {
-  return option.get_excludes().count(const_cast<CLI::Option*>(other)) > 0;
+  return IsIn(option.get_excludes(), other);
 }
 
 // The flag among `earlier` that `option` is the opposite of; null for none.
@@ -50,9 +55,8 @@ std::string TextOf(const CLI::Option& option, const Options& all, const Options&
   if (option.get_required()) text += " (required)";
   const std::string not_with =
       Untold(earlier, text, [&](const CLI::Option* each) { return Excludes(option, each); });
-  const std::string with = Untold(all, text, [&](const CLI::Option* each) {
-    return option.get_needs().count(const_cast<CLI::Option*>(each)) > 0;
-  });
+  const std::string with =
+      Untold(all, text, [&](const CLI::Option* each) { return IsIn(option.get_needs(), each); });
   if (!not_with.empty()) text += " (not with " + not_with + ")";
   if (!with.empty()) text += " (only with " + with + ")";
   return text;

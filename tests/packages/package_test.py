@@ -4,6 +4,7 @@ ORVANE_PACKAGES names the folders that they lie in, separated by colons, and ORV
 programs for Windows.
 """
 
+import gzip
 import os
 import pathlib
 import re
@@ -76,9 +77,20 @@ class LinuxTest(PackageTest):
                      "docs/formats/htr.md"):
             self.assertTrue((documents / name).is_file(), name)
         self.check_notices((documents / "THIRD-PARTY-NOTICES").read_text())
+        self.check_manual(root / "share")
         self.check_no_foreign_folder(root)
         self.assertEqual({path.name: run_paths.entries(path) for path in run_paths.binaries(root)},
                          {"orvane": ["$ORIGIN"], "OrvaneFileIO.so": ["$ORIGIN"], "libskelder.so": []})
+
+    def check_manual(self, share):
+        """Pages compressed as well as can be, without a name and a moment, and the completion."""
+        pages = {path.name: path.read_bytes() for path in (share / "man/man1").iterdir()}
+        self.assertLessEqual({"orvane.1.gz", "orvane-import.1.gz", "orvane-map-create.1.gz"}, set(pages))
+        for name, page in pages.items():
+            self.assertEqual(page[:9], b"\x1f\x8b\x08" + bytes(5) + b"\x02", name)
+            self.assertIn(f"orvane {self.version()}".encode(), gzip.decompress(page), name)
+        completion = (share / "bash-completion/completions/orvane").read_text()
+        self.assertIn("complete -o bashdefault -o default -F _orvane orvane", completion)
 
     @staticmethod
     def version():
