@@ -168,14 +168,15 @@ void Structure::CheckUpAxis(const Subject& subject) {
 // One finding for a segment.
 void Structure::CheckFarPositions() {
   const std::uint32_t unit = document_.GetCalibrationUnits();
+  const Horizon horizon(unit);
   for (std::size_t index = 0; index < parts_.segments.size(); ++index) {
     const HtrSegment& segment = document_.segments()[index];
     for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
       const Vector3 offset = segment.GetFrameTranslation(frame);
-      const Point point{offset.x(), offset.y(), offset.z()};
-      if (!IsOutOfSight(point, unit)) continue;
-      findings_.Add(Rule("htr-position-far"), *parts_.segments[index].motion,
-                    WordsOfOutOfSight(segment.GetName(), point, unit));
+      if (!horizon.Hides(offset.x(), offset.y(), offset.z())) continue;
+      findings_.Add(
+          Rule("htr-position-far"), *parts_.segments[index].motion,
+          WordsOfOutOfSight(segment.GetName(), {offset.x(), offset.y(), offset.z()}, unit));
       break;
     }
   }

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cmath>
 
-#include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
 
@@ -34,11 +33,7 @@ std::optional<FindingWords> WordsOfOddSize(const std::optional<Subject>& subject
                       "Lengths are taken in " + unit + " all the same; is that their unit?"};
 }
 
-bool IsOutOfSight(const Point& point, std::uint32_t length_unit) {
-  const double farthest = FarthestCoordinate(point);
-  // What is infinite in a scene is told of by its cell.
-  return FitsSinglePrecision(farthest) && InMeters(farthest, length_unit) > kFarthest;
-}
+Horizon::Horizon(std::uint32_t length_unit) : distance_(kFarthest / InMeters(1.0, length_unit)) {}
 
 FindingWords WordsOfOutOfSight(const std::string& name, const Point& point,
                                std::uint32_t length_unit) {

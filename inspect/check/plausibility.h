@@ -1,10 +1,12 @@
 #pragma once
 
-#include <cstddef>
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
 #include <optional>
 #include <string>
 
+#include "formats/text/number_faults.h"
 #include "inspect/check/findings.h"
 #include "inspect/summary/motion_summary.h"
 #include "inspect/summary/subject.h"
@@ -20,9 +22,21 @@ namespace orvane {
 [[nodiscard]] std::optional<FindingWords> WordsOfOddSize(const std::optional<Subject>& subject,
                                                          std::uint32_t length_unit);
 
-// Whether `point` is farther from the origin than anything that is captured: such a number stands
-// for a position that is missing.
-[[nodiscard]] bool IsOutOfSight(const Point& point, std::uint32_t length_unit);
+// The distance from the origin, along an axis, beyond which nothing is captured: a number like that
+// stands for a position that is missing. What is infinite in a scene is told of by its cell.
+class Horizon {
+ public:
+  explicit Horizon(std::uint32_t length_unit);
+
+  // Whether a coordinate of the point is beyond that, and none is infinite.
+  [[nodiscard]] bool Hides(double x, double y, double z) const {
+    const double farthest = std::max({std::abs(x), std::abs(y), std::abs(z)});
+    return farthest > distance_ && FitsSinglePrecision(farthest);
+  }
+
+ private:
+  double distance_;
+};
 
 // What is told of one; `name` is whose position it is.
 [[nodiscard]] FindingWords WordsOfOutOfSight(const std::string& name, const Point& point,

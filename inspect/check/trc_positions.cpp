@@ -14,15 +14,16 @@ namespace {
 
 void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const TrcParts& parts,
                        FindingList& findings) {
+  const Horizon horizon(unit);
   std::size_t frame = 0;
   auto gap = marker.Gaps().begin();
   for (std::size_t index = 0; index < marker.Positions().size(); ++index, ++frame) {
     for (; gap != marker.Gaps().end() && gap->begin == frame; ++gap) frame = gap->end;
     const TRCPosition& position = marker.Positions()[index];
-    const Point point{position.x, position.y, position.z};
-    if (!IsOutOfSight(point, unit)) continue;
-    findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame),
-                 [&] { return WordsOfOutOfSight(marker.Name(), point, unit); });
+    if (!horizon.Hides(position.x, position.y, position.z)) continue;
+    findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame), [&] {
+      return WordsOfOutOfSight(marker.Name(), {position.x, position.y, position.z}, unit);
+    });
   }
 }
 

@@ -1,6 +1,7 @@
 #include "inspect/check/trc_widths.h"
 
 #include <algorithm>
+#include <cstdint>
 #include <map>
 #include <tuple>
 
@@ -25,8 +26,18 @@ struct Width {
 // Of lines with values: how many have each width.
 using WidthCounts = std::map<Width, std::size_t>;
 
+// By pieces whose tabs a byte can count, so that sixteen bytes are compared at once.
 std::size_t CountFields(std::string_view text) {
-  return static_cast<std::size_t>(std::count(text.begin(), text.end(), '\t')) + 1;
+  constexpr std::size_t kPiece = 255;
+  std::size_t fields = 1;
+  for (; !text.empty(); text.remove_prefix(std::min(kPiece, text.size()))) {
+    std::uint8_t tabs = 0;
+    for (const char character : text.substr(0, kPiece)) {
+      tabs = static_cast<std::uint8_t>(tabs + (character == '\t' ? 1 : 0));
+    }
+    fields += tabs;
+  }
+  return fields;
 }
 
 Width WidthOf(std::string_view text) {
