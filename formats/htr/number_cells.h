@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <cstdint>
 #include <string_view>
 
 #include "formats/math/vector.h"
@@ -35,8 +34,8 @@ class NumberCells {
   // nothing but separators is left. False says nothing.
   [[nodiscard]] bool AreOrdinary() const { return is_ordinary_ && SkipSeparators(rest_).empty(); }
 
-  // As Take, whole.
-  std::int32_t TakeInt() { return ParseInt(TakeFirstToken(rest_)); }
+  // The next cell as it stands; empty when there is none.
+  [[nodiscard]] std::string_view TakeWord() { return TakeFirstToken(rest_); }
 
   // The next three cells, each times `factor`.
   Vector3 TakeVector(double factor) {

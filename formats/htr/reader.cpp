@@ -15,6 +15,7 @@
 #include "formats/htr/sections.h"
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
+#include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/units/units.h"
 
@@ -93,7 +94,7 @@ class HtrReader {
   void CheckMotionLine(std::string_view line) const;
   void CountFrame(std::string_view line);
   void TakeStartFrame(std::int32_t frame_number);
-  void ReserveFor(std::int32_t frame_number);
+  void ReserveFor(std::string_view frame_number);
   std::string Finish();
   void LookBehindTheEnd();
 
@@ -309,7 +310,7 @@ void HtrReader::ReadMotionLine(std::string_view line) {
   if (frames_counted_ != nullptr) return CountFrame(line);
   if (oddities_.Observer() != nullptr) TellFrame(line);
   NumberCells cells(line);
-  ReserveFor(cells.TakeInt());
+  ReserveFor(cells.TakeWord());
   const Vector3 translation = cells.TakeVector(1.0);
   const Vector3 angles = cells.TakeVector(angle_factor_);
   segment_->AddFrame(translation, angles, cells.Take());
@@ -329,7 +330,7 @@ void HtrReader::CheckMotionLine(std::string_view line) const {
 }
 
 void HtrReader::CountFrame(std::string_view line) {
-  if (!first_frame_read_) TakeStartFrame(NumberCells(line).TakeInt());
+  if (!first_frame_read_) TakeStartFrame(ParseInt(TakeFirstToken(line)));
   ++*frames_counted_;
 }
 
@@ -341,9 +342,9 @@ void HtrReader::TakeStartFrame(std::int32_t frame_number) {
 
 // Makes room before the first line of a segment. Later segments follow what the last section really
 // held, so that room grows with the file and not with what it announces.
-void HtrReader::ReserveFor(std::int32_t frame_number) {
+void HtrReader::ReserveFor(std::string_view frame_number) {
   if (!first_frame_read_) {
-    TakeStartFrame(frame_number);
+    TakeStartFrame(ParseInt(frame_number));
     segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
   } else if (segment_->GetNumFrames() == 0) {
     segment_->ReserveFrames(frames_in_last_section_);
