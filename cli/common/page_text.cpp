@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "formats/text/numbers.h"
+
 namespace cli {
 
 std::size_t Width(std::string_view text) {
@@ -20,5 +22,11 @@ std::string PadLeft(const std::string& text, std::size_t width) {
   const std::size_t used = Width(text);
   return used < width ? std::string(width - used, ' ') + text : text;
 }
+
+std::string Counted(std::int64_t count, std::string_view noun) {
+  return orvane::FormatInt(count) + " " + std::string(noun) + (count == 1 ? "" : "s");
+}
+
+std::string FramesPerSecond(std::int64_t rate) { return Counted(rate, "frame") + " per second"; }
 
 }  // namespace cli

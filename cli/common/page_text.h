@@ -1,10 +1,11 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
-// Columns of the pages that the program shows.
+// Columns of the pages that the program shows, and what it counts there.
 
 namespace cli {
 
@@ -17,5 +18,11 @@ inline constexpr std::size_t kWidestNames = 60;
 // `text` with blanks behind or before it, so that it is at least `width` characters wide.
 [[nodiscard]] std::string PadRight(std::string text, std::size_t width);
 [[nodiscard]] std::string PadLeft(const std::string& text, std::size_t width);
+
+// A count and what is counted, in the number that goes with it: "1 frame", "2 frames".
+[[nodiscard]] std::string Counted(std::int64_t count, std::string_view noun);
+
+// "25 frames per second".
+[[nodiscard]] std::string FramesPerSecond(std::int64_t rate);
 
 }  // namespace cli

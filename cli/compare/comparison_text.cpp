@@ -11,7 +11,7 @@ namespace cli {
 using orvane::FormatInt;
 
 std::string Count(std::size_t count, const std::string& noun) {
-  return FormatInt(static_cast<std::int64_t>(count)) + " " + noun + (count == 1 ? "" : "s");
+  return Counted(static_cast<std::int64_t>(count), noun);
 }
 
 std::string Frames(const orvane::FrameNumbers& frames) {

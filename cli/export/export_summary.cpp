@@ -2,6 +2,7 @@
 
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
+#include "cli/common/page_text.h"
 #include "cli/common/report.h"
 #include "formats/text/numbers.h"
 
@@ -35,7 +36,7 @@ void PrintExportSummary(const ExportedFile& file, std::ostream& out) {
   out << "Exported " << Printable(file.input) << '\n'
       << "  Segments  " << FormatInt(motion.segments) << '\n'
       << "  Frames    " << FormatInt(motion.first_frame) << " to " << FormatInt(LastFrame(motion))
-      << " at " << FormatInt(motion.frame_rate) << " frames per second\n"
+      << " at " << FramesPerSecond(motion.frame_rate) << '\n'
       << "  File      " << Printable(file.output) << " ("
       << FormatInt(static_cast<std::int64_t>(motion.bytes)) << " bytes)\n";
   if (!file.is_checked) out << "  Report    none: --no-report\n";

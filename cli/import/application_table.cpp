@@ -1,6 +1,8 @@
+#include <algorithm>
 #include <string>
 
 #include "cli/common/messages.h"
+#include "cli/common/page_text.h"
 #include "cli/import/application.h"
 #include "formats/text/numbers.h"
 
@@ -14,6 +16,8 @@ using orvane::FormatInt;
 
 using Layout = JsonWriter::Layout;
 
+constexpr std::size_t kTitleWidth = 19;
+
 std::vector<std::string> NamesOf(const std::vector<ApplyItem>& items,
                                  const std::vector<std::size_t>& indices) {
   std::vector<std::string> names;
@@ -22,11 +26,20 @@ std::vector<std::string> NamesOf(const std::vector<ApplyItem>& items,
   return names;
 }
 
+struct Row {
+  const char* title;
+  std::vector<std::string> names;
+};
+
+std::string CountIn(const Row& row) {
+  return FormatInt(static_cast<std::int64_t>(row.names.size()));
+}
+
 // "  In the file only   2  Tail, Ear"
-void PrintRow(std::ostream& out, const char* title, const std::vector<std::string>& names) {
-  out << title << FormatInt(static_cast<std::int64_t>(names.size()));
+void PrintRow(std::ostream& out, const Row& row, std::size_t width) {
+  out << "  " << PadRight(row.title, kTitleWidth) << PadLeft(CountIn(row), width);
   const char* between = "  ";
-  for (const std::string& name : names) {
+  for (const std::string& name : row.names) {
     out << between << Printable(name);
     between = ", ";
   }
@@ -56,10 +69,13 @@ void PrintTable(const Application& application, std::ostream& out) {
   for (const BoneDifference& each : differences) {
     differing.push_back(scene.nodes[each.pair.node].name + " by " + Describe(each));
   }
-  PrintRow(out, "  Names matched      ", matched);
-  PrintRow(out, "  In the file only   ", NamesOf(file.items, plan.file_only));
-  PrintRow(out, "  In the scene only  ", NamesOf(scene.nodes, plan.scene_only));
-  PrintRow(out, "  Bones that differ  ", differing);
+  const Row rows[] = {{"Names matched", std::move(matched)},
+                      {"In the file only", NamesOf(file.items, plan.file_only)},
+                      {"In the scene only", NamesOf(scene.nodes, plan.scene_only)},
+                      {"Bones that differ", std::move(differing)}};
+  std::size_t width = 0;
+  for (const Row& row : rows) width = std::max(width, CountIn(row).size());
+  for (const Row& row : rows) PrintRow(out, row, width);
 }
 
 void WriteTable(JsonWriter& json, const Application& application) {

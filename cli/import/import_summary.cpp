@@ -1,6 +1,7 @@
 #include "cli/import/import_summary.h"
 
 #include "cli/common/messages.h"
+#include "cli/common/page_text.h"
 #include "cli/import/key_counts.h"
 #include "formats/text/numbers.h"
 
@@ -22,8 +23,8 @@ std::string Place(const SceneKeys& keys, const host::AnimationState& animation) 
 std::string Range(const host::AnimationState& animation) {
   const int ticks = animation.TicksPerFrame();
   return FormatInt(animation.Range().Start() / ticks) + " to " +
-         FormatInt(animation.Range().End() / ticks) + " at " + FormatInt(animation.FrameRate()) +
-         " frames per second";
+         FormatInt(animation.Range().End() / ticks) + " at " +
+         FramesPerSecond(animation.FrameRate());
 }
 
 // How many were set, unless that is all of them.

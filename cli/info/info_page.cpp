@@ -69,7 +69,7 @@ void PrintHeader(const InfoReport& report, std::ostream& out) {
   PrintLine(out, "Segments", FormatInt(document.GetNumSegments()));
   PrintLine(out, "Lengths", UnitName(document));
   PrintLine(out, "Angles", std::string(orvane::RotationUnitsName(document.GetRotationUnits())));
-  PrintLine(out, "Frame rate", FormatInt(document.GetDataFrameRate()) + " frames per second");
+  PrintLine(out, "Frame rate", FramesPerSecond(document.GetDataFrameRate()));
   PrintLine(out, "Frames", Frames(report));
   if (!report.motion) return;
   if (report.motion->length_seconds) {

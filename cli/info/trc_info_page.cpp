@@ -32,7 +32,7 @@ std::string UnitName(const orvane::TRCDocument& document) {
 }
 
 std::string Rate(std::int32_t rate, const std::string& text) {
-  const std::string read = FormatInt(rate) + " frames per second";
+  const std::string read = FramesPerSecond(rate);
   return text.empty() ? read : read + " (the whole part of " + Printable(text) + ")";
 }
 
@@ -77,8 +77,9 @@ void PrintMarkers(const TrcInfoReport& report, std::ostream& out) {
   for (const orvane::TRCMarker& marker : report.document.markers()) {
     width = std::max(width, std::min(Width(Printable(marker.Name())), kWidestNames));
   }
-  out << "\nMarkers, the part of the frames that they are present in, their longest gap, and where "
-         "the three longest are\n";
+  out << "\nMarkers, the part of the frames that they are present in, their longest gap in frames, "
+         "and "
+         "where the three longest are\n";
   for (std::size_t index = 0; index < report.summary.markers.size(); ++index) {
     const TrcMarkerSummary& summary = report.summary.markers[index];
     const orvane::TRCMarker& marker = *report.document.MarkerAt(index);

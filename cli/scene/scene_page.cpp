@@ -2,6 +2,7 @@
 #include <unordered_set>
 
 #include "cli/common/messages.h"
+#include "cli/common/page_text.h"
 #include "cli/scene/scene_report.h"
 #include "formats/text/numbers.h"
 
@@ -15,17 +16,19 @@ constexpr std::size_t kDeepestIndent = 30;
 
 std::string Count(std::size_t number) { return FormatInt(static_cast<std::int64_t>(number)); }
 
+std::string Times(std::size_t number) { return Counted(static_cast<std::int64_t>(number), "time"); }
+
 void PrintHeader(const host::Scene& scene, std::ostream& out) {
   const host::AnimationState& animation = scene.Animation();
   out << "  Nodes       " << Count(scene.NodeCount()) << '\n'
       << "  Unit        " << orvane::FormatShortest(scene.MillimetersPerUnit()) << " mm\n"
-      << "  Frame rate  " << FormatInt(animation.FrameRate()) << " frames per second, "
-      << FormatInt(animation.TicksPerFrame()) << " ticks each\n"
+      << "  Frame rate  " << FramesPerSecond(animation.FrameRate()) << ", "
+      << Counted(animation.TicksPerFrame(), "tick") << " each\n"
       << "  Range       ticks " << FormatInt(animation.Range().Start()) << " to "
       << FormatInt(animation.Range().End()) << '\n'
       << "  Time        tick " << FormatInt(animation.Time()) << '\n'
-      << "  Suspended   animate mode " << Count(animation.AnimateMode().SuspendDepth())
-      << ", set-key mode " << Count(animation.SetKeyMode().SuspendDepth()) << " times\n";
+      << "  Suspended   animate mode " << Times(animation.AnimateMode().SuspendDepth())
+      << ", set-key mode " << Times(animation.SetKeyMode().SuspendDepth()) << '\n';
 }
 
 std::string Keys(const host::Node& node) {

@@ -21,9 +21,12 @@ std::int64_t Product(std::int64_t left, std::int64_t right) {
   return right != 0 && left > kLargest / right ? kLargest : left * right;
 }
 
+std::string Counted(std::int64_t count, const std::string& noun) {
+  return FormatInt(count) + " " + noun + (count == 1 ? "" : "s");
+}
+
 std::string Of(std::int64_t frames, const MadeUpFrames& made_up) {
-  return FormatInt(frames) + " frames of " + FormatInt(made_up.receivers) + " " + made_up.receiver +
-         (made_up.receivers == 1 ? "" : "s");
+  return Counted(frames, "frame") + " of " + Counted(made_up.receivers, made_up.receiver);
 }
 
 }  // namespace
@@ -51,8 +54,8 @@ std::string WhyListedTooOften(std::int64_t segments, std::int64_t listed) {
 
 std::string WhyTooShort(std::int64_t bytes, std::int64_t frames, std::int64_t markers) {
   if (Product(frames, markers) <= std::max(kSamplesAlwaysAllowed, bytes)) return "";
-  return "The file is far too short for " + FormatInt(frames) + " frames of " + FormatInt(markers) +
-         " markers";
+  return "The file is far too short for " + Counted(frames, "frame") + " of " +
+         Counted(markers, "marker");
 }
 
 }  // namespace orvane

@@ -47,8 +47,8 @@ TEST_F(TrcInfoTest, ShowsAPage) {
       "                  Y       1.000 to       5.000 cm\n"
       "                  Z       1.000 to      30.000 cm\n"
       "\n"
-      "Markers, the part of the frames that they are present in, their longest gap, and where "
-      "the three longest are\n"
+      "Markers, the part of the frames that they are present in, their longest gap in frames, and "
+      "where the three longest are\n"
       "  LFHD                    50.0 %           2  11 to 12\n"
       "  RFHD                    50.0 %           2  10 to 11\n");
 }
@@ -66,8 +66,8 @@ TEST_F(TrcInfoTest, LeavesOutWhatAFileWithoutFramesLacks) {
       "  Camera rate     60 frames per second\n"
       "  Frames          0 announced, none found\n"
       "\n"
-      "Markers, the part of the frames that they are present in, their longest gap, and where "
-      "the three longest are\n"
+      "Markers, the part of the frames that they are present in, their longest gap in frames, and "
+      "where the three longest are\n"
       "  a                        0.0 %           0\n");
 }
 

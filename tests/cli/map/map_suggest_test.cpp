@@ -48,11 +48,12 @@ class MapSuggestExampleTest : public MapSuggestTest,
                               public testing::WithParamInterface<std::pair<const char*, bool>> {};
 
 TEST_P(MapSuggestExampleTest, FindsAll39) {
-  const auto& [subject, is_small] = GetParam();
+  const std::string subject = GetParam().first;
+  const bool is_small = GetParam().second;
   const std::string examples = ORVANE_SOURCE_DIR "/examples/";
   std::string capture = ReadFile(examples + "walk.trc");
   std::string mapping = ReadFile(examples + "walk.mnm");
-  const auto rename = [&, small = is_small](std::string& text) {
+  const auto rename = [&](std::string& text) {
     std::string result;
     for (std::size_t at = 0; at < text.size();) {
       if (text.compare(at, 7, "walker:") != 0) {
@@ -61,7 +62,7 @@ TEST_P(MapSuggestExampleTest, FindsAll39) {
       }
       result += subject;
       for (at += 7; at < text.size() && text[at] != '\t'; ++at) {
-        result += small && 'A' <= text[at] && text[at] <= 'Z'
+        result += is_small && 'A' <= text[at] && text[at] <= 'Z'
                       ? static_cast<char>(text[at] - 'A' + 'a')
                       : text[at];
       }

@@ -59,7 +59,7 @@ TEST_F(SceneTest, ThePageShowsTheTree) {
             "  Frame rate  60 frames per second, 80 ticks each\n"
             "  Range       ticks 80 to 240\n"
             "  Time        tick 0\n"
-            "  Suspended   animate mode 0, set-key mode 0 times\n"
+            "  Suspended   animate mode 0 times, set-key mode 0 times\n"
             "\n"
             "Nodes\n"
             "  walk (Dummy, euler)\n"

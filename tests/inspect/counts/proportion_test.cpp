@@ -32,6 +32,10 @@ INSTANTIATE_TEST_SUITE_P(
         Case{"OneMoreThanAMillion",
              {1'000'001, "bone", 1, 3, 0},
              "1000001 frames of 1 bone would be made up, and 3 are held"},
+        Case{"OneFrame",
+             {1, "marker", 600'000, 0, 900},
+             "540000000 deletions of keys would clear 1 frame of 600000 markers, and 500000000 "
+             "are the most"},
         Case{"MoreThanAMillion",
              {20'001, "segment", 50, 50, 0},
              "1000050 frames of 50 segments would be made up, and 50 are held"},
@@ -69,6 +73,13 @@ TEST(Proportion, TenThousandBonesMoreThanSegmentsMayBeMade) {
   EXPECT_EQ(orvane::WhyListedTooOften(18, 10'019),
             "The hierarchy would become 10019 or more bones of 18 segments");
   EXPECT_EQ(orvane::WhyListedTooOften(1'000'000, 1'000'000), "");
+}
+
+TEST(ProportionOfBytesTest, CountsOneFrameAndOneMarker) {
+  EXPECT_EQ(orvane::WhyTooShort(10, 1, 5'000'001),
+            "The file is far too short for 1 frame of 5000001 markers");
+  EXPECT_EQ(orvane::WhyTooShort(10, 5'000'001, 1),
+            "The file is far too short for 5000001 frames of 1 marker");
 }
 
 }  // namespace
