@@ -1,8 +1,8 @@
 #pragma once
 
 #include <array>
+#include <span>
 #include <string_view>
-#include <vector>
 
 // What every verb is for, in a few sentences and two commands that do it: the help begins with
 // them, and the manual tells them.
@@ -22,7 +22,7 @@ struct VerbGuide {
 
 // Of all verbs. The examples, carried out in this order in a folder with the motion file, the
 // marker file and the mapping that come with the program, find what they need.
-[[nodiscard]] const std::vector<VerbGuide>& AllGuides();
+[[nodiscard]] std::span<const VerbGuide> AllGuides();
 
 // That of `verb`. Throws std::out_of_range when it has none.
 [[nodiscard]] const VerbGuide& GuideOf(std::string_view verb);
