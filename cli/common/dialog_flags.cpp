@@ -81,6 +81,11 @@ std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control) {
   return wish == nullptr ? std::nullopt : std::optional(orvane::ParseInt(wish->text));
 }
 
+std::optional<double> TypedDouble(const Wishes& wishes, int control) {
+  const ControlWish* wish = FindWish(wishes, control);
+  return wish == nullptr ? std::nullopt : std::optional(orvane::ParseDouble(wish->text));
+}
+
 std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to) {
   const auto first = TypedInt(wishes, from);
   const auto last = TypedInt(wishes, to);

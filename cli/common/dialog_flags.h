@@ -62,8 +62,10 @@ struct FrameInterval {
 }
 
 // What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
-// the number that they type into a text field, the numbers of two, and the state of a check box.
+// the number that they type into a text field, whole or real, the numbers of two, and the state of
+// a check box.
 [[nodiscard]] std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
+[[nodiscard]] std::optional<double> TypedDouble(const Wishes& wishes, int control);
 [[nodiscard]] std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to);
 [[nodiscard]] std::optional<bool> WishedState(const Wishes& wishes, int control);
 

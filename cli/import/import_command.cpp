@@ -3,7 +3,6 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
-#include <map>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -22,7 +21,9 @@
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"
 #include "cli/import/key_counts.h"
+#include "cli/import/length_unit.h"
 #include "cli/import/scene_output.h"
+#include "cli/import/size_wish.h"
 #include "cli/import/told_import.h"
 #include "formats/text/numbers.h"
 #include "platform/interrupt.h"
@@ -143,17 +144,21 @@ class Importing {
     PrepareScene(arguments_, scene);
     Append(Select(scene, arguments_.selection), complaints_);
     const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    const SizeUnits units{scene.MillimetersPerUnit(), choices.scale};
+    ConvertSize(wishes_, kind_, units);
     ToldImport told = TellOfImport(input_, kind_, choices, scene, ReportMannerOf(arguments_));
     Append(told.complaints, complaints_);
     StopIfInterrupted();
     SetKeys keys(scene);
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
+    const std::optional<double> chosen_size = ChooseSize(told, units);
     LetPluginImport();
     if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
     ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
     file.keys_set = keys.Count(choices, told.keyed);
+    file.chosen_size = chosen_size;
     file.report = std::move(told.report);
     file.application = std::move(told.application);
     file.warnings = complaints_;
@@ -165,6 +170,14 @@ class Importing {
   }
 
  private:
+  // The command line's own default for one control, in the place of the dialog's; in millimeters.
+  std::optional<double> ChooseSize(const ToldImport& told, const SizeUnits& units) {
+    const bool is_left = arguments_.settings == SettingsSource::kFresh && !MentionSize(wishes_);
+    if (!is_left || !told.marker_size) return std::nullopt;
+    wishes_.push_back(SizeOf(*told.marker_size, units));
+    return told.marker_size;
+  }
+
   void LetPluginImport() {
     const Interval range = session_.scene().Animation().Range();
     const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
@@ -187,7 +200,7 @@ class Importing {
   const ImportArguments& arguments_;
   SceneOutput output_;
   PluginSession session_;
-  const std::vector<ControlWish> wishes_;
+  Wishes wishes_;
   std::vector<Complaint> complaints_;
 };
 
@@ -214,10 +227,10 @@ ExitStatus Import(const ImportArguments& arguments) {
   return Importing(input, kind, arguments).Run();
 }
 
-double MillimetersPer(const std::string& unit) {
-  static const std::map<std::string, double> millimeters = {
-      {"mm", 1.0}, {"cm", 10.0}, {"m", 1000.0}, {"in", 25.4}, {"ft", 304.8}};
-  return millimeters.at(unit);
+std::vector<std::string> LengthUnitNames() {
+  std::vector<std::string> names;
+  for (const LengthUnit& unit : kLengthUnits) names.emplace_back(unit.name);
+  return names;
 }
 
 void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
@@ -245,10 +258,9 @@ void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
       ->allow_extra_args(false)
       ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
       ->type_name("NAME");
-  AddChoice(verb, "--system-unit", {"mm", "cm", "m", "in", "ft"},
-            "The length that 1 means in the scene (mm)",
+  AddChoice(verb, "--system-unit", LengthUnitNames(), "The length that 1 means in the scene (mm)",
             [&arguments](const std::string& unit) {
-              arguments.millimeters_per_unit = MillimetersPer(unit);
+              arguments.millimeters_per_unit = FindLengthUnit(unit)->millimeters;
             })
       ->excludes(into);
   verb.add_option("--module", arguments.module, "The plug-in to load (the one beside orvane)")

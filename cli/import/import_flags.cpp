@@ -71,9 +71,10 @@ void AddTimeFlags(CLI::App& verb, Wishes& wishes) {
 
 void AddImportFlags(CLI::App& verb, std::vector<ControlWish>& wishes) {
   AddTargetFlags(verb, wishes);
-  CLI::Option* size =
-      AddText(verb, wishes, "--size", IDC_OBJECT_SIZE,
-              "Size of new objects, twice the radius of a marker (1)", kWhileApplying);
+  CLI::Option* size = AddText(
+      verb, wishes, "--size", IDC_OBJECT_SIZE,
+      "Size of new objects, twice the radius of a marker, such as 2 or 25mm (TRC: what fits them)",
+      kWhileApplying);
   AddSkeletonFlags(verb, wishes, size);
   AddCloudFlags(verb, wishes);
   AddTimeFlags(verb, wishes);
@@ -109,6 +110,8 @@ ImportChoices ChoicesOf(const Wishes& wishes, FileKind kind, const host::Setting
     choices.selected_only = choice(IDC_SELECTED_ONLY, "SelectedOnly", false);
   }
   choices.frame_rate_from_file = choice(IDC_SET_FRAME_RATE, "FPS", false);
+  choices.scale = TypedDouble(wishes, IDC_GLOBAL_SCALE)
+                      .value_or(stored.Double("ScaleFactor").value_or(choices.scale));
   choices.offset = TypedInt(wishes, IDC_OFFSET).value_or(0);
   choices.range = TypedRange(wishes, IDC_FROM, IDC_TO);
   return choices;

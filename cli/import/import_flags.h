@@ -35,6 +35,7 @@ struct ImportChoices {
   bool base_position = false;  // and for the base position
   bool selected_only = false;  // apply to nothing but what is selected
   bool frame_rate_from_file = false;
+  double scale = 1.0;                  // that lengths are multiplied by
   std::int32_t offset = 0;             // frames that keys are moved by
   std::optional<FrameInterval> range;  // as typed; nothing for all frames
 

@@ -48,6 +48,15 @@ void WriteTime(JsonWriter& json, const host::AnimationState& animation) {
   json.Integer(animation.FrameRate());
 }
 
+void WriteSize(JsonWriter& json, const std::optional<double>& chosen_size) {
+  json.Key("chosen_size_mm");
+  if (chosen_size) {
+    json.Number(*chosen_size);
+  } else {
+    json.Null();
+  }
+}
+
 void WriteSceneFile(JsonWriter& json, const ImportedFile& file) {
   WriteText(json, "scene", file.output);
   json.Key("delivered");
@@ -86,6 +95,7 @@ void PrintImportJson(const ImportedFile& file, const host::Scene& scene, std::os
   WriteCount(json, "nodes", scene.NodeCount());
   WriteKeys(json, file, scene);
   WriteTime(json, scene.Animation());
+  WriteSize(json, file.chosen_size);
   WriteSceneFile(json, file);
   WriteApplication(json, file.application);
   json.Key("findings");

@@ -47,8 +47,12 @@ void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std:
   if (!file.is_delivered && file.application) PrintTable(*file.application, out);
   out << "  Nodes   " << Count(scene.NodeCount()) << '\n'
       << "  Keys    " << keys << '\n'
-      << "  Frames  " << Range(scene.Animation()) << '\n'
-      << "  Scene   " << SceneFile(file) << '\n';
+      << "  Frames  " << Range(scene.Animation()) << '\n';
+  if (file.chosen_size) {
+    out << "  Size    " << orvane::FormatShortest(*file.chosen_size)
+        << " mm, chosen; --size sets it, the dialog's own is 1\n";
+  }
+  out << "  Scene   " << SceneFile(file) << '\n';
   if (!file.is_checked) out << "  Report  none: --no-report\n";
 }
 

@@ -21,7 +21,8 @@ struct ImportedFile {
   bool is_delivered = true;      // not in a dry run
   std::size_t output_bytes = 0;  // of the scene file, when it is delivered
   std::size_t keys_set = 0;
-  bool is_checked = true;  // whether anything was looked for in the file
+  std::optional<double> chosen_size{};  // of markers, in millimeters; nothing when nobody chose
+  bool is_checked = true;               // whether anything was looked for in the file
   orvane::FileReport report{};
   std::vector<Complaint> warnings{};         // apart from that
   std::optional<Application> application{};  // when it was applied to nodes that were there

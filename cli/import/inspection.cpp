@@ -12,6 +12,7 @@
 #include "inspect/check/rates.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/proportion.h"
+#include "inspect/summary/marker_size.h"
 
 namespace cli {
 namespace {
@@ -108,11 +109,18 @@ class Inspecting {
     if (!read.is_refused) {
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
+      if (!choices_.apply) result_.marker_size = SizeFor(document);
     }
     return std::move(result_);
   }
 
  private:
+  static std::optional<double> SizeFor(const orvane::HtrDocument& /*document*/) { return {}; }
+
+  [[nodiscard]] std::optional<double> SizeFor(const orvane::TRCDocument& document) const {
+    return orvane::ChooseMarkerSize(document, choices_.scale);
+  }
+
   void Judge(orvane::HtrDocument& document, std::size_t /*bytes*/, const std::string& advice) {
     if (document.segments().empty()) return;  // which the plug-in tells
     JudgeAll(FramesOf(document, choices_, scene_), {"htr-frames-too-many", "htr-frame-count"},

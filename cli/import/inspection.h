@@ -31,6 +31,8 @@ struct Inspection {
   ImportedFrames frames;
   // The names in the file, when it can be read and they are applied to a scene.
   std::optional<orvane::AppliedFile> applied{};
+  // The size in millimeters that fits the markers, when new ones are made.
+  std::optional<double> marker_size{};
 };
 
 // Reads `file` before it is imported by `choices` into `scene`, and finds what is odd in it if

@@ -47,6 +47,7 @@ ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoi
   told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
                          {choices.frame_rate_from_file, inspection.asked});
   told.keyed = inspection.frames.keyed;
+  told.marker_size = inspection.marker_size;
   if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
   if (!manner.omitted && !inspection.refusal) {
     told.report.Take(ReportOnScene(inspection.checked,

@@ -22,6 +22,7 @@ struct ToldImport {
   std::vector<Complaint> complaints;         // of the file and the scene together, not told yet
   FrameInterval keyed;                       // the frames of the file that get keys
   std::optional<Application> application{};  // when it is applied to nodes that are there
+  std::optional<double> marker_size{};       // in millimeters, that fits the markers which it makes
 };
 
 // Tells what is odd in `file`, and what an import by `choices` into `scene` will make of that. A
