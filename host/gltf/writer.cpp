@@ -16,14 +16,19 @@ namespace {
 
 constexpr const char* kNamelessScene = "Scene";
 
-Document DocumentOf(const Scene& scene, const std::string& name) {
+Document DocumentOf(const Scene& scene, const WriteOptions& options) {
+  const std::string& name = options.name;
   Document document;
   document.scene_name = name.empty() ? kNamelessScene : ViewerName(name);
   document.animation_name = ViewerName(name);
 
   const NodeTree tree = NodeTreeOf(scene);
   ShowScene(scene, tree, document);
-  KeepScene(scene, tree, document);
+  if (options.plain) {
+    LeaveSceneOut(document);
+  } else {
+    KeepScene(scene, tree, document);
+  }
   return document;
 }
 
@@ -31,7 +36,7 @@ Document DocumentOf(const Scene& scene, const std::string& name) {
 
 WrittenScene WriteScene(const Scene& scene, const WriteOptions& options) {
   try {
-    Document document = DocumentOf(scene, options.name);
+    Document document = DocumentOf(scene, options);
     return {options.container == Container::kBinary ? BinaryFile(std::move(document))
                                                     : TextFile(std::move(document)),
             ""};

@@ -34,6 +34,9 @@ struct WriteOptions {
 
   // The name of the scene and of its animation; may be empty.
   std::string name;
+
+  // Whether the file holds nothing but what viewers see: no scene can be read back from it.
+  bool plain = false;
 };
 
 struct WrittenScene {

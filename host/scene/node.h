@@ -5,11 +5,13 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/animation/animation_state.h"
 #include "host/animation/transform_controller.h"
 #include "host/base/misuse_log.h"
+#include "host/scene/measured.h"
 #include "host/scene/name_table.h"
 #include "host/scene/scene_object.h"
 #include "host/scene/world_memory.h"
@@ -98,6 +100,12 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   const std::optional<Matrix3>& ObjectOffset() const { return object_offset_; }
   void SetObjectOffset(const std::optional<Matrix3>& offset) { object_offset_ = offset; }
 
+  // What is known of the measurement behind the position; nothing at first.
+  const std::optional<Measured>& Measurement() const { return measurement_; }
+  void SetMeasurement(std::optional<Measured> measurement) {
+    measurement_ = std::move(measurement);
+  }
+
   const UserProperties& Properties() const { return properties_; }
 
   ::WireColor WireColor() const { return wire_color_; }
@@ -184,6 +192,7 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   std::unique_ptr<SceneObject> object_;
   std::unique_ptr<TransformController> transform_;
   std::optional<Matrix3> object_offset_;
+  std::optional<Measured> measurement_;
   UserProperties properties_;
   ::WireColor wire_color_;
   int bone_display_ = 1;

@@ -3,7 +3,9 @@
 #include <cassert>
 #include <cstddef>
 #include <memory>
+#include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "host/animation/animation_state.h"
@@ -13,6 +15,7 @@
 #include "host/scene/name_table.h"
 #include "host/scene/node.h"
 #include "host/scene/node_selection.h"
+#include "host/scene/recording.h"
 #include "host/scene/world_memory.h"
 #include "platform/export.h"
 
@@ -91,6 +94,10 @@ class SKELDER_API Scene {
     millimeters_per_unit_ = millimeters;
   }
 
+  // The recording that the motion is from, as far as it is known; nothing at first.
+  const std::optional<host::Recording>& Recording() const { return recording_; }
+  void SetRecording(std::optional<host::Recording> recording) { recording_ = std::move(recording); }
+
   // How often the views were redrawn.
   std::size_t RedrawCount() const { return redraws_; }
   void Redraw() { ++redraws_; }
@@ -111,6 +118,7 @@ class SKELDER_API Scene {
   std::size_t node_count_ = 0;
   NodeSelection selection_;
   double millimeters_per_unit_ = 1.0;
+  std::optional<host::Recording> recording_;
   std::size_t redraws_ = 0;
 };
 

@@ -66,7 +66,7 @@ std::string_view TakeChunk(std::string_view& bytes, std::uint32_t type) {
 }
 
 nlohmann::json ParsedDocument(std::string_view text) {
-  return ParsedMembers(text, {"accessors", "buffers", "bufferViews", "extensions"});
+  return ParsedMembers(text, {"accessors", "asset", "buffers", "bufferViews", "extensions"});
 }
 
 FileParts TakeBinaryApart(std::string_view bytes) {
@@ -103,10 +103,12 @@ std::string BinaryFile(Document document) {
   AppendText(document, "", bytes);
   EndChunk(kHeaderSize, kJsonChunk, ' ', bytes);
 
-  const std::size_t data_start = bytes.size();
-  bytes.resize(data_start + kChunkHeaderSize);
-  bytes += document.data.Bytes();
-  EndChunk(data_start, kBinaryChunk, '\0', bytes);
+  if (!document.data.Bytes().empty()) {
+    const std::size_t data_start = bytes.size();
+    bytes.resize(data_start + kChunkHeaderSize);
+    bytes += document.data.Bytes();
+    EndChunk(data_start, kBinaryChunk, '\0', bytes);
+  }
 
   RequireRoom(bytes.size());
   bytes.replace(0, kGlbMagic.size(), kGlbMagic);

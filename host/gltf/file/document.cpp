@@ -49,6 +49,12 @@ json NamesIn(const json& object) {
   return names;
 }
 
+json AssetRecord(const Document& document) {
+  json asset = {{"generator", kGenerator}, {"version", "2.0"}};
+  if (!document.asset_extras.empty()) asset["extras"] = document.asset_extras;
+  return asset;
+}
+
 json SceneRecord(const Document& document) {
   json scene = {{"name", document.scene_name}};
   if (!document.roots.empty()) scene["nodes"] = document.roots;
@@ -96,9 +102,11 @@ std::size_t Document::Size() const {
 void AppendText(Document& document, const std::string& uri, std::string& text) {
   BinaryData& data = document.data;
   ObjectText file(text);
-  file.Add("asset", json({{"generator", kGenerator}, {"version", "2.0"}}).dump());
-  file.Add("extensionsUsed", NamesIn(document.extensions).dump());
-  file.Add("extensions", document.extensions.dump());
+  file.Add("asset", AssetRecord(document).dump());
+  if (!document.extensions.empty()) {
+    file.Add("extensionsUsed", NamesIn(document.extensions).dump());
+    file.Add("extensions", document.extensions.dump());
+  }
   file.Add("scene", "0");
   file.Add("scenes", json::array({SceneRecord(document)}).dump());
   file.MoveList("nodes", document.nodes);
@@ -108,7 +116,7 @@ void AppendText(Document& document, const std::string& uri, std::string& text) {
   AddAnimation(document, file, text);
   file.MoveList("accessors", data.Accessors());
   file.AddList("bufferViews", Views(data));
-  file.Add("buffers", "[" + BufferText(data, uri) + "]");
+  if (!data.Bytes().empty()) file.Add("buffers", "[" + BufferText(data, uri) + "]");
   file.End();
 }
 

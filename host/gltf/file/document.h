@@ -28,7 +28,8 @@ struct Document {
   JsonList samplers;  // of the one animation, as are the channels
   JsonList channels;
   BinaryData data;
-  nlohmann::json extensions;  // an object, by name
+  nlohmann::json extensions;    // an object, by name
+  nlohmann::json asset_extras;  // what is to be known of the file as a whole, by name
 };
 
 // Appends `document` as JSON to `text`. `uri` tells where its data is; it is empty when that stands

@@ -253,4 +253,8 @@ void KeepScene(const Scene& scene, const NodeTree& tree, Document& document) {
   document.extensions[kExtensionName] = Keeper(tree, document.data).Extension(scene);
 }
 
+void LeaveSceneOut(Document& document) {
+  document.asset_extras[field::kLeftOut] = json::array({kExtensionName});
+}
+
 }  // namespace host::gltf

@@ -4,6 +4,9 @@
 
 namespace host::gltf::field {
 
+// Of the extras of the file's asset: the names of the extensions that were left out.
+inline constexpr char kLeftOut[] = "leftOut";
+
 // Of the extension.
 inline constexpr char kVersion[] = "version";
 inline constexpr char kScene[] = "scene";

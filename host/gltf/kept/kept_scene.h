@@ -20,6 +20,9 @@ inline constexpr std::uint32_t kExtensionVersion = 2;
 // finite.
 void KeepScene(const Scene& scene, const NodeTree& tree, Document& document);
 
+// Says in `document` that it keeps no scene, and that it is meant not to.
+void LeaveSceneOut(Document& document);
+
 // Builds the scene that `file` keeps in `scene`, a new one. Throws a Refusal when there is none or
 // it is damaged; `scene` then holds a part of it.
 void RestoreScene(const FileParts& file, Scene& scene);

@@ -176,11 +176,22 @@ void RestoreUnit(const JsonField& millimeters, Scene& scene) {
   scene.SetMillimetersPerUnit(millimeters.Number());
 }
 
+// Whether the file says that whoever wrote it left the scene out.
+bool IsPlain(const nlohmann::json& document) {
+  return document.contains(
+      nlohmann::json::json_pointer(std::string("/asset/extras/") + field::kLeftOut));
+}
+
 // The part of the file that is ours.
-JsonField Extension(const JsonField& document) {
-  const auto extensions = document.FindMember("extensions");
+JsonField Extension(const nlohmann::json& document) {
+  const auto extensions = JsonField(document, "").FindMember("extensions");
   const auto own = extensions ? extensions->FindMember(kExtensionName) : std::nullopt;
   if (!own) {
+    if (IsPlain(document)) {
+      throw Refusal(
+          "The file was written with --plain: it shows a scene to viewers and keeps none to go on "
+          "with. Make it again without --plain.");
+    }
     throw Refusal(
         "The file was not saved by this program, or another has saved it since: the extension "
         "ORVANE_scene is missing.");
@@ -198,7 +209,7 @@ void RequireOurVersion(std::uint32_t version) {
 }  // namespace
 
 void RestoreScene(const FileParts& file, Scene& scene) {
-  const JsonField extension = Extension(JsonField(file.document, ""));
+  const JsonField extension = Extension(file.document);
   RequireOurVersion(extension.Member(field::kVersion).Word());
   std::string_view lines = StoredView(file, extension.Member(field::kScene));
   const nlohmann::json kept = ParsedJson(TakeLine(lines));
