@@ -80,6 +80,19 @@ void WriteFrames(JsonWriter& json, const orvane::TRCMarker& marker) {
   json.EndArray();
 }
 
+// The first and the last frame of each.
+void WriteGaps(JsonWriter& json, const orvane::TRCMarker& marker, std::int64_t first_frame) {
+  json.Key("gaps");
+  json.BeginArray(Layout::kOneLine);
+  for (const orvane::TRCMarker::Gap& gap : marker.Gaps()) {
+    json.BeginArray(Layout::kOneLine);
+    json.Integer(first_frame + static_cast<std::int64_t>(gap.begin));
+    json.Integer(first_frame + static_cast<std::int64_t>(gap.end) - 1);
+    json.EndArray();
+  }
+  json.EndArray();
+}
+
 void WriteMarkers(JsonWriter& json, const TrcInfoReport& report, bool with_frames) {
   json.Key("markers");
   json.BeginArray(Layout::kLines);
@@ -95,6 +108,7 @@ void WriteMarkers(JsonWriter& json, const TrcInfoReport& report, bool with_frame
     json.Number(Coverage(summary, report.summary.frames));
     json.Key("longest_gap");
     json.Integer(static_cast<std::int64_t>(summary.longest_gap));
+    WriteGaps(json, marker, report.document.FirstFrame());
     if (with_frames) WriteFrames(json, marker);
     json.EndObject();
   }

@@ -38,6 +38,17 @@ TrcSummary SummarizeTrc(const TRCDocument& document) {
   return summary;
 }
 
+std::vector<TRCMarker::Gap> LongestGaps(const TRCMarker& marker, std::size_t most) {
+  const auto all = marker.Gaps();
+  std::vector<TRCMarker::Gap> gaps(all.begin(), all.end());
+  const auto is_longer = [](const TRCMarker::Gap& left, const TRCMarker::Gap& right) {
+    return left.end - left.begin > right.end - right.begin;
+  };
+  std::stable_sort(gaps.begin(), gaps.end(), is_longer);
+  gaps.resize(std::min(most, gaps.size()));
+  return gaps;
+}
+
 double Coverage(const TrcMarkerSummary& marker, std::size_t frames) {
   assert(marker.present <= frames);
   return frames == 0 ? 0.0 : static_cast<double>(marker.present) / static_cast<double>(frames);

@@ -30,6 +30,9 @@ struct TrcSummary {
 
 [[nodiscard]] TrcSummary SummarizeTrc(const TRCDocument& document);
 
+// The `most` longest gaps of `marker`, the longest first, and as they come of one length.
+[[nodiscard]] std::vector<TRCMarker::Gap> LongestGaps(const TRCMarker& marker, std::size_t most);
+
 // The part of `frames` that `marker` is present in, 0 to 1; 0 when there are none.
 // REQUIRES: `frames` are those of the file, so that `marker` is present in no more.
 [[nodiscard]] double Coverage(const TrcMarkerSummary& marker, std::size_t frames);

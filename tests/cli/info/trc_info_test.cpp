@@ -33,38 +33,42 @@ TEST_F(TrcInfoTest, ShowsAPage) {
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(test::CodesIn(result.error),
               testing::ElementsAre("trc-rate-cut", "trc-frame-count", "trc-marker-gaps"));
-  EXPECT_EQ(result.output,
-            "walk.trc\n"
-            "  Markers         2\n"
-            "  Lengths         cm\n"
-            "  Data rate       59 frames per second (the whole part of 59.94)\n"
-            "  Camera rate     120 frames per second\n"
-            "  Frames          5 announced, 4 found, numbered 10 to 13\n"
-            "  Length          0.068 s\n"
-            "  Subject         0.01 m tall, moves 0.3 m, 0.1 s\n"
-            "  Bounding box    X      -4.000 to       1.000 cm\n"
-            "                  Y       1.000 to       5.000 cm\n"
-            "                  Z       1.000 to      30.000 cm\n"
-            "\n"
-            "Markers, the part of the frames that they are present in, and their longest gaps\n"
-            "  LFHD                    50.0 %           2\n"
-            "  RFHD                    50.0 %           2\n");
+  EXPECT_EQ(
+      result.output,
+      "walk.trc\n"
+      "  Markers         2\n"
+      "  Lengths         cm\n"
+      "  Data rate       59 frames per second (the whole part of 59.94)\n"
+      "  Camera rate     120 frames per second\n"
+      "  Frames          5 announced, 4 found, numbered 10 to 13\n"
+      "  Length          0.068 s\n"
+      "  Subject         0.01 m tall, moves 0.3 m, 0.1 s\n"
+      "  Bounding box    X      -4.000 to       1.000 cm\n"
+      "                  Y       1.000 to       5.000 cm\n"
+      "                  Z       1.000 to      30.000 cm\n"
+      "\n"
+      "Markers, the part of the frames that they are present in, their longest gap, and where "
+      "the three longest are\n"
+      "  LFHD                    50.0 %           2  11 to 12\n"
+      "  RFHD                    50.0 %           2  10 to 11\n");
 }
 
 TEST_F(TrcInfoTest, LeavesOutWhatAFileWithoutFramesLacks) {
   TrcText text{.markers = {"a"}};
   text.data_rate = "0";
   const ProgramResult result = Info(text.Text());
-  EXPECT_EQ(result.output,
-            "walk.trc\n"
-            "  Markers         1\n"
-            "  Lengths         mm\n"
-            "  Data rate       0 frames per second\n"
-            "  Camera rate     60 frames per second\n"
-            "  Frames          0 announced, none found\n"
-            "\n"
-            "Markers, the part of the frames that they are present in, and their longest gaps\n"
-            "  a                        0.0 %           0\n");
+  EXPECT_EQ(
+      result.output,
+      "walk.trc\n"
+      "  Markers         1\n"
+      "  Lengths         mm\n"
+      "  Data rate       0 frames per second\n"
+      "  Camera rate     60 frames per second\n"
+      "  Frames          0 announced, none found\n"
+      "\n"
+      "Markers, the part of the frames that they are present in, their longest gap, and where "
+      "the three longest are\n"
+      "  a                        0.0 %           0\n");
 }
 
 TEST_F(TrcInfoTest, WritesJson) {
@@ -80,8 +84,8 @@ TEST_F(TrcInfoTest, WritesJson) {
     "bounding_box": {"min": [-4.0, 1.0, 1.0], "max": [1.0, 5.0, 30.0]},
     "subject": {"height_meters": 0.01, "way_meters": 0.27},
     "markers": [
-      {"name": "LFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2},
-      {"name": "RFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2}
+      {"name": "LFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2, "gaps": [[11, 12]]},
+      {"name": "RFHD", "samples_present": 2, "coverage": 0.5, "longest_gap": 2, "gaps": [[10, 11]]}
     ]})"));
 }
 
@@ -89,6 +93,33 @@ TEST_F(TrcInfoTest, WritesEverySampleAsJson) {
   const auto json = nlohmann::json::parse(Info(Gaps().Text(), {"--json", "--frames"}).output);
   EXPECT_EQ(json["markers"][0]["frames"],
             nlohmann::json::parse("[[1.0, 2.0, 3.0], null, null, [1.0, 2.0, 30.0]]"));
+}
+
+// "x" for a frame in which the marker is measured, "." for one in which it is not.
+TrcText Seen(const std::string& frames) {
+  TrcText text{.markers = {"LFHD"}};
+  for (const char frame : frames) {
+    text.frames.push_back({frame == 'x' ? "1\t2\t3" : ""});
+  }
+  return text;
+}
+
+TEST_F(TrcInfoTest, ListsTheThreeLongestGapsOfAMarkerAndAllAsJson) {
+  const struct {
+    std::string frames;
+    std::string page;
+    std::string json;
+  } rows[] = {{"xxx", " 0\n", "[]"},
+              {"..x", " 2  1 to 2\n", "[[1, 2]]"},
+              {"x.x.", " 1  2, 4\n", "[[2, 2], [4, 4]]"},
+              {"...", " 3  1 to 3\n", "[[1, 3]]"},
+              {"x.x..x...x", " 3  7 to 9, 4 to 5, 2\n", "[[2, 2], [4, 5], [7, 9]]"},
+              {".x..x.x.x", " 2  3 to 4, 1, 6, and 1 more\n", "[[1, 1], [3, 4], [6, 6], [8, 8]]"}};
+  for (const auto& [frames, page, json] : rows) {
+    EXPECT_THAT(Info(Seen(frames).Text()).output, testing::EndsWith(page)) << frames;
+    const auto document = nlohmann::json::parse(Info(Seen(frames).Text(), {"--json"}).output);
+    EXPECT_EQ(document["markers"][0]["gaps"], nlohmann::json::parse(json)) << frames;
+  }
 }
 
 TEST_F(TrcInfoTest, IsRefusedWithTheReadersWords) {
