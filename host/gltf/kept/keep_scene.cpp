@@ -12,7 +12,9 @@
 #include "host/gltf/file/names.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/kept/kept_fields.h"
+#include "host/gltf/kept/kept_recording.h"
 #include "host/gltf/kept/kept_scene.h"
+#include "host/gltf/kept/kept_text.h"
 
 namespace host::gltf {
 
@@ -27,25 +29,6 @@ std::array<float, 4> Components(const Quat& rotation) {
 }
 
 json ClassRecord(ClassId class_id) { return {class_id.part_a, class_id.part_b}; }
-
-std::string Hexadecimal(const std::string& bytes) {
-  constexpr char kDigits[] = "0123456789abcdef";
-  std::string digits;
-  for (const char byte : bytes) {
-    const auto code = static_cast<unsigned char>(byte);
-    digits += {kDigits[code >> 4U], kDigits[code & 15U]};
-  }
-  return digits;
-}
-
-// JSON holds nothing but UTF-8.
-void SetText(json& record, const std::string& field, const std::string& bytes) {
-  if (ViewerName(bytes) == bytes) {
-    record[field] = bytes;
-  } else {
-    record[field + field::kBytes] = Hexadecimal(bytes);
-  }
-}
 
 json ModeRecord(const SuspendableMode& mode) {
   return {{field::kOn, mode.IsOn()},
@@ -144,6 +127,7 @@ json NodeRecord(const PlacedNode& placed, TickLists& ticks) {
   record[field::kRotation] = ControllerRecord(transform.Rotation(), node, "rotation", ticks);
   record[field::kRotation][field::kKind] = transform.Rotation().KindName();
   record[field::kScale] = ControllerRecord(transform.Scale(), node, "scale", ticks);
+  if (node.Measurement()) record[field::kMeasurement] = MeasurementRecord(*node.Measurement());
   return record;
 }
 
@@ -157,14 +141,16 @@ json SelectionRecord(const Scene& scene, const NodeTree& tree) {
 
 json SceneRecord(const Scene& scene, const NodeTree& tree) {
   const AnimationState& animation = scene.Animation();
-  return {{field::kFrameRate, animation.FrameRate()},
-          {field::kRange, {animation.Range().Start(), animation.Range().End()}},
-          {field::kTime, animation.Time()},
-          {field::kMillimetersPerUnit, scene.MillimetersPerUnit()},
-          {field::kAnimateMode, ModeRecord(animation.AnimateMode())},
-          {field::kSetKeyMode, ModeRecord(animation.SetKeyMode())},
-          {field::kSelection, SelectionRecord(scene, tree)},
-          {field::kRoot, CommonRecord(scene.Root())}};
+  json record = {{field::kFrameRate, animation.FrameRate()},
+                 {field::kRange, {animation.Range().Start(), animation.Range().End()}},
+                 {field::kTime, animation.Time()},
+                 {field::kMillimetersPerUnit, scene.MillimetersPerUnit()},
+                 {field::kAnimateMode, ModeRecord(animation.AnimateMode())},
+                 {field::kSetKeyMode, ModeRecord(animation.SetKeyMode())},
+                 {field::kSelection, SelectionRecord(scene, tree)},
+                 {field::kRoot, CommonRecord(scene.Root())}};
+  if (scene.Recording()) record[field::kRecording] = RecordingRecord(*scene.Recording());
+  return record;
 }
 
 // --- Keys, controller by controller. That they are finite has been seen to for the viewers. ---

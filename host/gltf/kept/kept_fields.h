@@ -24,6 +24,14 @@ inline constexpr char kAnimateMode[] = "animateMode";
 inline constexpr char kSetKeyMode[] = "setKeyMode";
 inline constexpr char kSelection[] = "selection";
 inline constexpr char kRoot[] = "root";
+inline constexpr char kRecording[] = "recording";
+
+// Of a recording.
+inline constexpr char kRate[] = "rate";
+inline constexpr char kFirstFrame[] = "firstFrame";
+inline constexpr char kUnit[] = "unit";
+inline constexpr char kSource[] = "source";
+inline constexpr char kTurnedUp[] = "turnedUp";
 
 // Of a mode.
 inline constexpr char kOn[] = "on";
@@ -49,6 +57,13 @@ inline constexpr char kTransformClass[] = "transformClass";
 inline constexpr char kPosition[] = "position";
 inline constexpr char kRotation[] = "rotation";
 inline constexpr char kScale[] = "scale";
+
+inline constexpr char kMeasurement[] = "measurement";
+
+// Of a measurement.
+inline constexpr char kMadeByImport[] = "madeByImport";
+inline constexpr char kManner[] = "manner";
+inline constexpr char kGaps[] = "gaps";
 
 // Of an object or a controller.
 inline constexpr char kSuperClass[] = "superClass";

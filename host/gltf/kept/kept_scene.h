@@ -14,7 +14,10 @@ namespace host::gltf {
 
 // The extension that it is known by.
 inline constexpr char kExtensionName[] = "ORVANE_scene";
-inline constexpr std::uint32_t kExtensionVersion = 2;
+inline constexpr std::uint32_t kExtensionVersion = 3;
+
+// The oldest that is still read: it has no record of the recording and of what was measured.
+inline constexpr std::uint32_t kOldestVersion = 2;
 
 // Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
 // finite.

@@ -8,7 +8,9 @@
 #include "host/gltf/file/parsed_json.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/kept/kept_fields.h"
+#include "host/gltf/kept/kept_recording.h"
 #include "host/gltf/kept/kept_scene.h"
+#include "host/gltf/kept/kept_text.h"
 #include "host/gltf/kept/kept_values.h"
 #include "host/gltf/kept/restore_transform.h"
 #include "host/gltf/kept/stored_keys.h"
@@ -16,37 +18,6 @@
 namespace host::gltf {
 
 namespace {
-
-// --- Texts ---
-
-int DigitValue(char digit) {
-  if ('0' <= digit && digit <= '9') return digit - '0';
-  if ('a' <= digit && digit <= 'f') return digit - 'a' + 10;
-  return -1;
-}
-
-std::string BytesIn(const JsonField& field) {
-  const std::string& digits = field.Text();
-  if (digits.size() % 2 != 0) field.Refuse("no bytes in hexadecimal");
-  std::string bytes;
-  for (std::size_t i = 0; i < digits.size(); i += 2) {
-    const int high = DigitValue(digits[i]);
-    const int low = DigitValue(digits[i + 1]);
-    if (high < 0 || low < 0) field.Refuse("no bytes in hexadecimal");
-    bytes += static_cast<char>(high * 16 + low);
-  }
-  return bytes;
-}
-
-// The text that a record has under `name`, in either form. Texts of the host end at a zero byte.
-std::string TextOf(const JsonField& record, const std::string& name) {
-  const auto bytes = record.FindMember(name + field::kBytes);
-  std::string text = bytes ? BytesIn(*bytes) : record.Member(name).Text();
-  if (text.find('\0') != std::string::npos) {
-    (bytes ? *bytes : record.Member(name)).Refuse("a text with a zero byte in it");
-  }
-  return text;
-}
 
 // --- Time ---
 
@@ -143,6 +114,9 @@ Node& RestoreNode(const JsonField& record, const std::vector<Node*>& nodes, Stor
   ParentIn(record, nodes, scene).AttachChild(&node, false);
   RestoreCommon(record, node);
   RestoreTransform(record, keys, scene, *node.Transform());
+  if (const auto measurement = record.FindMember(field::kMeasurement)) {
+    node.SetMeasurement(MeasurementIn(*measurement));
+  }
   return node;
 }
 
@@ -200,9 +174,10 @@ JsonField Extension(const nlohmann::json& document) {
 }
 
 void RequireOurVersion(std::uint32_t version) {
-  if (version == kExtensionVersion) return;
+  if (kOldestVersion <= version && version <= kExtensionVersion) return;
   throw Refusal("The scene in the file is kept in form " + std::to_string(version) +
-                ", and this program reads form " + std::to_string(kExtensionVersion) +
+                ", and this program reads forms " + std::to_string(kOldestVersion) + " to " +
+                std::to_string(kExtensionVersion) +
                 ": read the file with the program that wrote it, or make it again.");
 }
 
@@ -216,6 +191,9 @@ void RestoreScene(const FileParts& file, Scene& scene) {
   const JsonField record(kept, "");
   RestoreTime(record, scene.Animation());
   RestoreUnit(record.Member(field::kMillimetersPerUnit), scene);
+  if (const auto recording = record.FindMember(field::kRecording)) {
+    scene.SetRecording(RecordingIn(*recording));
+  }
   RestoreCommon(record.Member(field::kRoot), scene.Root());
   const std::vector<Node*> nodes = RestoreNodes(lines, StoredKeys(file, extension), scene);
   RestoreSelection(record.Member(field::kSelection), nodes, scene);

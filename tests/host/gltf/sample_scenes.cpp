@@ -1,5 +1,8 @@
 #include "tests/host/gltf/sample_scenes.h"
 
+#include <utility>
+#include <vector>
+
 #include "sdk/core/object.h"
 #include "sdk/paramblk2/parameter_block.h"
 #include "tests/host/gltf/test_scene.h"
@@ -172,6 +175,37 @@ void BuildEverything(host::Scene& scene) {
   scene.Select(top);
 }
 
+// A marker of an import, with a key at each of ten frames.
+host::Node& AddMarker(host::Scene& scene, const char* name, host::GapManner manner,
+                      std::vector<host::Gap> gaps) {
+  host::Node& marker = AddSphere(scene, nullptr, name, 10.0F);
+  marker.SetMeasurement(host::Measured{true, manner, std::move(gaps)});
+  for (int frame = 0; frame < 10; ++frame) {
+    const TimeValue tick = frame * 80;
+    const bool missing = marker.Measurement()->IsMissing(tick);
+    const auto place = static_cast<float>(100 + frame);
+    marker.Transform()->Position().SetKey(tick,
+                                          missing ? Point3() : Point3(place, place, place / 2.0F));
+  }
+  return marker;
+}
+
+// Markers with gaps at both ends and in between, shown in every manner, one that is never measured,
+// and one that others hang below.
+void BuildRecorded(host::Scene& scene) {
+  scene.SetRecording(host::Recording{host::Rate{2997, 50}, 101, "mm", EveryByte(), true});
+  scene.Animation().SetFrameRate(60);
+  scene.Animation().SetTime(400);
+  const std::vector<host::Gap> gaps = {{0, 80}, {240, 320}, {640, 720}};
+  AddMarker(scene, "whole", host::GapManner::kHide, {});
+  AddMarker(scene, "hidden", host::GapManner::kHide, gaps);
+  AddMarker(scene, "held", host::GapManner::kHold, gaps);
+  AddMarker(scene, "at the origin", host::GapManner::kOrigin, gaps);
+  AddMarker(scene, "never", host::GapManner::kHide, {{0, 720}});
+  host::Node& parent = AddMarker(scene, "parent", host::GapManner::kHide, gaps);
+  AddDummy(scene, &parent, "child").SetMeasurement(host::Measured{});
+}
+
 }  // namespace
 
 const std::vector<SampleScene>& SampleScenes() {
@@ -186,6 +220,7 @@ const std::vector<SampleScene>& SampleScenes() {
       {"wide_times", BuildWideTimes},
       {"strange_names", BuildStrangeNames},
       {"everything", BuildEverything},
+      {"recorded", BuildRecorded},
   };
   return scenes;
 }

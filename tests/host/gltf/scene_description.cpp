@@ -61,6 +61,19 @@ void PrintTransform(std::ostream& out, host::TransformController& transform) {
   PrintController(out, transform.Scale());
 }
 
+void PrintRecording(std::ostream& out, const host::Recording& recording) {
+  const host::Rate rate = recording.rate.value_or(host::Rate{0, 0});
+  out << "recorded " << rate.numerator << "/" << rate.denominator << " from "
+      << recording.first_frame << " in " << recording.unit << " as '" << recording.source << "' "
+      << recording.turned_up << "\n";
+}
+
+void PrintMeasurement(std::ostream& out, const host::Measured& measured) {
+  out << "  measured " << measured.made_by_import << " " << static_cast<int>(measured.manner);
+  for (const host::Gap& gap : measured.gaps) out << " " << gap.first << ":" << gap.last;
+  out << "\n";
+}
+
 void PrintNode(std::ostream& out, const host::Node& node) {
   out << "node '" << node.Name() << "' below '"
       << (node.Parent() == nullptr ? "" : node.Parent()->Name()) << "' color " << node.WireColor()
@@ -70,6 +83,7 @@ void PrintNode(std::ostream& out, const host::Node& node) {
     for (int row = 0; row < 4; ++row) Print(out, node.ObjectOffset()->GetRow(row));
   }
   for (const auto& [key, value] : node.Properties()) out << "  " << key << "=" << value << "\n";
+  if (node.Measurement()) PrintMeasurement(out, *node.Measurement());
   if (node.ShownObject() != nullptr) PrintObject(out, *node.ShownObject());
   if (node.Transform() != nullptr) PrintTransform(out, *node.Transform());
 }
@@ -82,6 +96,7 @@ std::string Description(const host::Scene& scene) {
   const host::AnimationState& animation = scene.Animation();
   out << animation.FrameRate() << " " << animation.Range().Start() << " " << animation.Range().End()
       << " " << animation.Time() << " " << scene.MillimetersPerUnit() << "\n";
+  if (scene.Recording()) PrintRecording(out, *scene.Recording());
   PrintMode(out, animation.AnimateMode());
   PrintMode(out, animation.SetKeyMode());
   for (const host::Node* node : scene.Selection()) out << "selected '" << node->Name() << "'\n";

@@ -36,7 +36,8 @@ TEST_P(KeptVersions, AreTheScenesThatWereWritten) {
 
 INSTANTIATE_TEST_SUITE_P(All, KeptVersions,
                          testing::Values(KeptScene{"version-2-everything.glb", "everything"},
-                                         KeptScene{"version-2-wide-times.gltf", "wide_times"}),
+                                         KeptScene{"version-2-wide-times.gltf", "wide_times"},
+                                         KeptScene{"version-3-recorded.glb", "recorded"}),
                          [](const auto& kept) { return kept.param.sample; });
 
 }  // namespace
