@@ -15,8 +15,9 @@
 // is also the pose that the bones are bound in.
 //
 // The animation has the keys as they are, joined linearly, in seconds from the earliest key of the
-// scene. Of keys that fall on one second in single precision only the first is kept. What is
-// between keys of a smooth or an Euler controller is not sampled.
+// scene: those of the recording, if its rate is known, and otherwise the host's. Of keys that fall
+// on one second in single precision only the first is kept. What is between keys of a smooth or an
+// Euler controller is not sampled.
 //
 // Names that are not UTF-8 have the bytes in question replaced.
 //

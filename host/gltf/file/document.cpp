@@ -58,6 +58,7 @@ json AssetRecord(const Document& document) {
 json SceneRecord(const Document& document) {
   json scene = {{"name", document.scene_name}};
   if (!document.roots.empty()) scene["nodes"] = document.roots;
+  if (!document.recording.empty()) scene["extras"] = document.recording;
   return scene;
 }
 
@@ -66,6 +67,7 @@ void AddAnimation(Document& document, ObjectText& file, std::string& text) {
   file.Add("animations", "[");
   ObjectText animation(text);
   if (!document.animation_name.empty()) animation.Add("name", json(document.animation_name).dump());
+  if (!document.recording.empty()) animation.Add("extras", document.recording.dump());
   animation.MoveList("samplers", document.samplers);
   animation.MoveList("channels", document.channels);
   animation.End();

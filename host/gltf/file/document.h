@@ -20,7 +20,8 @@ struct Document {
 
   std::string scene_name;
   std::string animation_name;
-  std::vector<int> roots;  // nodes of the scene that have no parent
+  nlohmann::json recording;  // extras of the scene and of its animation: an object, or nothing
+  std::vector<int> roots;    // nodes of the scene that have no parent
   JsonList nodes;
   JsonList meshes;
   JsonList materials;

@@ -1,9 +1,6 @@
 #include "host/gltf/viewer/animation.h"
 
-#include <algorithm>
 #include <cstddef>
-#include <cstdint>
-#include <limits>
 #include <map>
 #include <vector>
 
@@ -18,28 +15,6 @@ struct ViewerKeys {
   std::vector<float> seconds;
   std::vector<float> values;  // all components of the first key, then those of the second, ...
 };
-
-constexpr TimeValue kNoKey = std::numeric_limits<TimeValue>::max();
-
-TimeValue FirstTick(const Controller& controller) {
-  return controller.KeyCount() == 0 ? kNoKey : controller.KeyTick(0);
-}
-
-// The tick of the earliest key of all, or kNoKey, at which there may be one as well.
-TimeValue EarliestTick(const NodeTree& tree) {
-  TimeValue earliest = kNoKey;
-  for (const PlacedNode& placed : tree) {
-    const TransformController& transform = *placed.node->Transform();
-    earliest = std::min({earliest, FirstTick(transform.Position()), FirstTick(transform.Rotation()),
-                         FirstTick(transform.Scale())});
-  }
-  return earliest;
-}
-
-float SecondsBetween(TimeValue start, TimeValue tick) {
-  const std::int64_t ticks = std::int64_t{tick} - start;
-  return static_cast<float>(static_cast<double>(ticks) / kTicksPerSecond);
-}
 
 // Of the two quaternions of each rotation takes the one nearer to the rotation before, so that
 // viewers turn the shorter way.
@@ -56,8 +31,8 @@ void TakeNearerSigns(std::vector<float>& rotations) {
 
 class AnimationBuilder {
  public:
-  AnimationBuilder(const ViewerSpace& space, TimeValue start, Document& document)
-      : space_(space), start_(start), document_(document), data_(document.data) {}
+  AnimationBuilder(const ViewerSpace& space, const ViewerTime& time, Document& document)
+      : space_(space), time_(time), document_(document), data_(document.data) {}
 
   // Adds the keys of `node`, which has that index in the file.
   void AddNode(const Node& node, int index);
@@ -71,7 +46,7 @@ class AnimationBuilder {
   void AddChannel(const std::vector<float>& seconds, int output, int node, const char* path);
 
   const ViewerSpace& space_;
-  TimeValue start_;
+  const ViewerTime& time_;
   Document& document_;
   BinaryData& data_;
   std::map<std::vector<float>, int> inputs_;  // accessors by the times in them
@@ -103,7 +78,7 @@ ViewerKeys AnimationBuilder::KeysOf(const KeyedController& controller, const Nod
     const TimeValue tick = controller.KeyTick(key);
     const auto value = Rounded(convert(controller.KeyValue(key)));
     RequireFinite(value, node, what, tick);
-    const float second = SecondsBetween(start_, tick);
+    const float second = time_.Second(tick);
     if (!keys.seconds.empty() && keys.seconds.back() == second) continue;
     keys.seconds.push_back(second);
     keys.values.insert(keys.values.end(), value.begin(), value.end());
@@ -123,8 +98,9 @@ void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output,
 
 }  // namespace
 
-void AddAnimation(const NodeTree& tree, const ViewerSpace& space, Document& document) {
-  AnimationBuilder builder(space, EarliestTick(tree), document);
+void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const ViewerTime& time,
+                  Document& document) {
+  AnimationBuilder builder(space, time, document);
   for (std::size_t index = 0; index < tree.size(); ++index) {
     builder.AddNode(*tree[index].node, static_cast<int>(index));
   }

@@ -3,6 +3,7 @@
 #include "host/gltf/file/document.h"
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/viewer/viewer_space.h"
+#include "host/gltf/viewer/viewer_time.h"
 
 // Keys as viewers see them; the pose at one time is shown_scene.h's business.
 
@@ -10,6 +11,7 @@ namespace host::gltf {
 
 // Adds the keys of all controllers in `tree` to the animation of `document`. Throws a Refusal when
 // a key is not finite.
-void AddAnimation(const NodeTree& tree, const ViewerSpace& space, Document& document);
+void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const ViewerTime& time,
+                  Document& document);
 
 }  // namespace host::gltf

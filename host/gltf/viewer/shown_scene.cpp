@@ -11,6 +11,7 @@
 #include "host/gltf/viewer/object_meshes.h"
 #include "host/gltf/viewer/skins.h"
 #include "host/gltf/viewer/viewer_space.h"
+#include "host/gltf/viewer/viewer_time.h"
 
 namespace host::gltf {
 
@@ -43,9 +44,6 @@ std::vector<std::vector<int>> ChildrenIn(const NodeTree& tree) {
 // Adds the nodes of `tree`, as they stand at `time` (ticks), to `document`; `meshes` are the
 // indices of their meshes, -1 for none. Throws a Refusal when a transform is not finite.
 void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
-              const std::vector<int>& meshes, Document& document);
-
-void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
               const std::vector<int>& meshes, Document& document) {
   const std::vector<std::vector<int>> children = ChildrenIn(tree);
   for (std::size_t index = 0; index < tree.size(); ++index) {
@@ -57,14 +55,28 @@ void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
   }
 }
 
+// What other programs may want to know of `recording`, so as to set their own time and units.
+nlohmann::json ToldOf(const Recording& recording) {
+  nlohmann::json told = {{"firstFrame", recording.first_frame},
+                         {"source", ViewerName(recording.source)},
+                         {"turnedFromZUp", recording.turned_up},
+                         {"unit", ViewerName(recording.unit)}};
+  if (recording.rate) {
+    told["frameRate"] = {{"numerator", recording.rate->numerator},
+                         {"denominator", recording.rate->denominator}};
+  }
+  return told;
+}
+
 }  // namespace
 
 void ShowScene(const Scene& scene, const NodeTree& tree, Document& document) {
   assert(document.nodes.IsEmpty());
   const ViewerSpace space(scene.MillimetersPerUnit());
   const TimeValue time = scene.Animation().Time();
+  if (scene.Recording()) document.recording = ToldOf(*scene.Recording());
   Materials materials(document.materials);
-  AddAnimation(tree, space, document);
+  AddAnimation(tree, space, ViewerTime(scene, tree), document);
   const std::vector<int> meshes = AddObjectMeshes(tree, space, time, materials, document);
   AddNodes(tree, space, time, meshes, document);
   AddSkins(tree, space, time, materials, document);
