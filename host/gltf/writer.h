@@ -15,7 +15,8 @@
 // is also the pose that the bones are bound in.
 //
 // The animation has the keys as they are, joined linearly, in seconds from the earliest key of the
-// scene: those of the recording, if its rate is known, and otherwise the host's. Of keys that fall
+// scene: those of the recording, if its rate is known, and otherwise the host's. Where a node was
+// not measured it is hidden, held or left at the origin (host/scene/measured.h). Of keys that fall
 // on one second in single precision only the first is kept. What is between keys of a smooth or an
 // Euler controller is not sampled.
 //

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "host/gltf/file/refusal.h"
+#include "host/gltf/viewer/shown_position.h"
 
 namespace host::gltf {
 
@@ -38,12 +39,21 @@ class AnimationBuilder {
   void AddNode(const Node& node, int index);
 
  private:
-  // The keys of `controller`, the one of the node's `what`, as `convert` makes them the viewer's.
-  template <typename KeyedController, typename Convert>
-  ViewerKeys KeysOf(const KeyedController& controller, const Node& node, const char* what,
-                    const Convert& convert) const;
+  void AddPosition(const Node& node, int index);
+  void AddRotation(const Node& node, int index);
+  void AddScale(const Node& node, int index);
 
-  void AddChannel(const std::vector<float>& seconds, int output, int node, const char* path);
+  // Hides the node of `position` where it was not measured.
+  void AddVisibility(const Node& node, const ShownPosition& position, int index);
+
+  // The keys of `controller`, the one of the node's `what`, as `convert` makes them the viewer's.
+  // Key number n gets the value of number `shown`(n).
+  template <typename KeyedController, typename Convert, typename Shown>
+  ViewerKeys KeysOf(const KeyedController& controller, const Node& node, const char* what,
+                    const Convert& convert, const Shown& shown) const;
+
+  void AddChannel(const std::vector<float>& seconds, int output, int node, const char* path,
+                  const char* interpolation = nullptr);
 
   const ViewerSpace& space_;
   const ViewerTime& time_;
@@ -52,48 +62,89 @@ class AnimationBuilder {
   std::map<std::vector<float>, int> inputs_;  // accessors by the times in them
 };
 
+constexpr auto kAsKeyed = [](std::size_t key) { return key; };
+
 void AnimationBuilder::AddNode(const Node& node, int index) {
-  const TransformController& transform = *node.Transform();
-  const ViewerKeys positions = KeysOf(transform.Position(), node, "position",
-                                      [&](const Point3& value) { return space_.Position(value); });
-  if (!positions.seconds.empty()) {
-    AddChannel(positions.seconds, data_.AddKeyVectors(positions.values), index, "translation");
-  }
-  ViewerKeys rotations = KeysOf(transform.Rotation(), node, "rotation", ViewerSpace::Rotation);
-  if (!rotations.seconds.empty()) {
-    TakeNearerSigns(rotations.values);
-    AddChannel(rotations.seconds, data_.AddKeyRotations(rotations.values), index, "rotation");
-  }
-  const ViewerKeys scales = KeysOf(transform.Scale(), node, "scale", ViewerSpace::Scale);
-  if (!scales.seconds.empty()) {
-    AddChannel(scales.seconds, data_.AddKeyVectors(scales.values), index, "scale");
-  }
+  AddPosition(node, index);
+  AddRotation(node, index);
+  AddScale(node, index);
 }
 
-template <typename KeyedController, typename Convert>
+void AnimationBuilder::AddPosition(const Node& node, int index) {
+  const ShownPosition shown(node);
+  const ViewerKeys keys = KeysOf(
+      node.Transform()->Position(), node, "position",
+      [&](const Point3& value) { return space_.Position(value); },
+      [&](std::size_t key) { return shown.PlaceAtKey(key); });
+  if (!shown.IsAnimated()) return;
+  AddChannel(keys.seconds, data_.AddKeyVectors(keys.values), index, "translation");
+  AddVisibility(node, shown, index);
+}
+
+void AnimationBuilder::AddVisibility(const Node& node, const ShownPosition& position, int index) {
+  const TransformController& transform = *node.Transform();
+  const auto visible = Rounded(ViewerSpace::Scale(transform.Scale().Constant()));
+  ViewerKeys keys;
+  for (const std::size_t change : position.Changes()) {
+    const float second = time_.Second(transform.Position().KeyTick(change));
+    // What is too short for single precision is not seen, and what follows it is.
+    if (!keys.seconds.empty() && keys.seconds.back() == second) {
+      keys.seconds.pop_back();
+      keys.values.resize(keys.values.size() - visible.size());
+    }
+    keys.seconds.push_back(second);
+    for (const float factor : visible) {
+      keys.values.push_back(position.IsHiddenAtKey(change) ? 0.0F : factor);
+    }
+  }
+  if (keys.seconds.empty()) return;
+  AddChannel(keys.seconds, data_.AddKeyVectors(keys.values), index, "scale", "STEP");
+}
+
+void AnimationBuilder::AddRotation(const Node& node, int index) {
+  ViewerKeys keys =
+      KeysOf(node.Transform()->Rotation(), node, "rotation", ViewerSpace::Rotation, kAsKeyed);
+  if (keys.seconds.empty()) return;
+  TakeNearerSigns(keys.values);
+  AddChannel(keys.seconds, data_.AddKeyRotations(keys.values), index, "rotation");
+}
+
+void AnimationBuilder::AddScale(const Node& node, int index) {
+  const ViewerKeys keys =
+      KeysOf(node.Transform()->Scale(), node, "scale", ViewerSpace::Scale, kAsKeyed);
+  if (keys.seconds.empty()) return;
+  AddChannel(keys.seconds, data_.AddKeyVectors(keys.values), index, "scale");
+}
+
+template <typename KeyedController, typename Convert, typename Shown>
 ViewerKeys AnimationBuilder::KeysOf(const KeyedController& controller, const Node& node,
-                                    const char* what, const Convert& convert) const {
+                                    const char* what, const Convert& convert,
+                                    const Shown& shown) const {
   ViewerKeys keys;
   for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
     const TimeValue tick = controller.KeyTick(key);
-    const auto value = Rounded(convert(controller.KeyValue(key)));
+    auto value = Rounded(convert(controller.KeyValue(key)));
     RequireFinite(value, node, what, tick);
     const float second = time_.Second(tick);
     if (!keys.seconds.empty() && keys.seconds.back() == second) continue;
     keys.seconds.push_back(second);
+    const std::size_t shown_key = shown(key);
+    if (shown_key != key) value = Rounded(convert(controller.KeyValue(shown_key)));
     keys.values.insert(keys.values.end(), value.begin(), value.end());
   }
   return keys;
 }
 
 void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output, int node,
-                                  const char* path) {
+                                  const char* path, const char* interpolation) {
   const auto known = inputs_.find(seconds);
   const int input = known != inputs_.end() ? known->second : data_.AddKeyTimes(seconds);
   inputs_.try_emplace(seconds, input);
 
-  const int sampler = document_.samplers.Add({{"input", input}, {"output", output}});
-  document_.channels.Add({{"sampler", sampler}, {"target", {{"node", node}, {"path", path}}}});
+  nlohmann::json sampler = {{"input", input}, {"output", output}};
+  if (interpolation != nullptr) sampler["interpolation"] = interpolation;
+  document_.channels.Add(
+      {{"sampler", document_.samplers.Add(sampler)}, {"target", {{"node", node}, {"path", path}}}});
 }
 
 }  // namespace

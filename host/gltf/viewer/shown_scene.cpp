@@ -1,5 +1,6 @@
 #include "host/gltf/viewer/shown_scene.h"
 
+#include <array>
 #include <cassert>
 #include <cstddef>
 #include <vector>
@@ -9,6 +10,7 @@
 #include "host/gltf/viewer/animation.h"
 #include "host/gltf/viewer/materials.h"
 #include "host/gltf/viewer/object_meshes.h"
+#include "host/gltf/viewer/shown_position.h"
 #include "host/gltf/viewer/skins.h"
 #include "host/gltf/viewer/viewer_space.h"
 #include "host/gltf/viewer/viewer_time.h"
@@ -17,9 +19,12 @@ namespace host::gltf {
 
 namespace {
 
+constexpr std::array<double, 3> kHidden = {0.0, 0.0, 0.0};
+
 nlohmann::json ViewerNode(const Node& node, const ViewerSpace& space, TimeValue time) {
   const TransformController& transform = *node.Transform();
-  const auto position = space.Position(transform.Position().ValueAt(time));
+  const ShownPosition shown(node);
+  const auto position = space.Position(shown.PlaceAt(time));
   const auto rotation = ViewerSpace::Rotation(transform.Rotation().ValueAt(time));
   const auto scale = ViewerSpace::Scale(transform.Scale().ValueAt(time));
   RequireFinite(position, node, "position", time);
@@ -28,7 +33,7 @@ nlohmann::json ViewerNode(const Node& node, const ViewerSpace& space, TimeValue 
   return {{"name", ViewerName(node.Name())},
           {"translation", position},
           {"rotation", rotation},
-          {"scale", scale}};
+          {"scale", shown.IsHiddenAt(time) ? kHidden : scale}};
 }
 
 // The indices of the nodes below each node of `tree`.

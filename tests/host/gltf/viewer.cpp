@@ -61,9 +61,10 @@ double Component(const unsigned char* bytes, int type) {
   return number;
 }
 
-// Of `values` with that many components a key, the ones at `second`.
+// Of `values` with that many components a key, the ones at `second`, joined linearly unless
+// `in_steps`.
 std::vector<double> Interpolated(const std::vector<double>& seconds,
-                                 const std::vector<double>& values, double second) {
+                                 const std::vector<double>& values, double second, bool in_steps) {
   const std::size_t width = values.size() / seconds.size();
   const auto later = std::lower_bound(seconds.begin(), seconds.end(), second);
   const auto at = [&](std::size_t key) {
@@ -73,6 +74,7 @@ std::vector<double> Interpolated(const std::vector<double>& seconds,
   if (later == seconds.end()) return at(seconds.size() - 1);
   const auto to = static_cast<std::size_t>(later - seconds.begin());
   if (to == 0 || *later == second) return at(to);
+  if (in_steps) return at(to - 1);
   const double fraction = (second - seconds[to - 1]) / (seconds[to] - seconds[to - 1]);
   std::vector<double> mixed = at(to - 1);
   const std::vector<double> next = at(to);
@@ -157,7 +159,7 @@ Matrix4 Viewer::LocalAt(std::size_t node, double second) const {
   const tinygltf::Node& rest = model_.nodes.at(node);
   const auto value = [&](const char* path, const std::vector<double>& otherwise) {
     if (ChannelOf(node, path) == nullptr) return otherwise;
-    return Interpolated(Seconds(node, path), Values(node, path), second);
+    return Interpolated(Seconds(node, path), Values(node, path), second, GoesInSteps(node, path));
   };
   return Composed(value("translation", Or(rest.translation, {0, 0, 0})),
                   value("rotation", Or(rest.rotation, {0, 0, 0, 1})),
@@ -217,6 +219,11 @@ std::vector<double> Viewer::Seconds(std::size_t node, const std::string& path) c
 std::vector<double> Viewer::Values(std::size_t node, const std::string& path) const {
   const auto sampler = static_cast<std::size_t>(ChannelOf(node, path)->sampler);
   return Numbers(model_.animations.front().samplers.at(sampler).output);
+}
+
+bool Viewer::GoesInSteps(std::size_t node, const std::string& path) const {
+  const auto sampler = static_cast<std::size_t>(ChannelOf(node, path)->sampler);
+  return model_.animations.front().samplers.at(sampler).interpolation == "STEP";
 }
 
 std::vector<Vector3> Viewer::Corners(std::size_t node) const {

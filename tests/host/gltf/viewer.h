@@ -51,6 +51,7 @@ class Viewer {
   const tinygltf::AnimationChannel* ChannelOf(std::size_t node, const std::string& path) const;
   std::vector<double> Seconds(std::size_t node, const std::string& path) const;
   std::vector<double> Values(std::size_t node, const std::string& path) const;
+  bool GoesInSteps(std::size_t node, const std::string& path) const;
 
   // The corners of all parts of the mesh of `node` in the mesh's own space, and as they are drawn
   // at `second`: skinned where the mesh is.
