@@ -38,6 +38,7 @@ struct ImportArguments {
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
+  std::optional<ShownTime> time;  // nothing: as the scene has it
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
@@ -103,9 +104,9 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
   return {ExitStatus::kRefused, complaints};
 }
 
-ReportManner ReportMannerOf(const ImportArguments& arguments) {
-  ReportManner manner = arguments.report;
-  manner.only_warnings = arguments.quiet;
+ImportManner MannerOf(const ImportArguments& arguments) {
+  ImportManner manner{arguments.report, arguments.time};
+  manner.report.only_warnings = arguments.quiet;
   return manner;
 }
 
@@ -146,7 +147,7 @@ class Importing {
     const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
     const SizeUnits units{scene.MillimetersPerUnit(), choices.scale};
     ConvertSize(wishes_, kind_, units);
-    ToldImport told = TellOfImport(input_, kind_, choices, scene, ReportMannerOf(arguments_));
+    ToldImport told = TellOfImport(input_, kind_, choices, scene, MannerOf(arguments_));
     Append(told.complaints, complaints_);
     StopIfInterrupted();
     SetKeys keys(scene);
@@ -154,6 +155,7 @@ class Importing {
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     const std::optional<double> chosen_size = ChooseSize(told, units);
     LetPluginImport();
+    scene.SetRecording(std::move(told.recording));
     if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
     ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
@@ -267,6 +269,14 @@ void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
       ->type_name("PATH");
 }
 
+void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--time", {"file", "host"},
+            "Show viewers the rate of the file, or the host's time (file in a new scene)",
+            [&arguments](const std::string& choice) {
+              arguments.time = choice == "file" ? ShownTime::kFile : ShownTime::kHost;
+            });
+}
+
 void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
   AddChoice(verb, "--settings", {"fresh", "user"},
             "Start from the documented defaults, or from what the user chose last (fresh)",
@@ -289,6 +299,7 @@ void AddImportCommand(CLI::App& app, Work& work) {
   AddFileArguments(*verb, *arguments);
   AddImportFlags(*verb, arguments->wishes);
   AddHostFlags(*verb, *arguments);
+  AddViewFlags(*verb, *arguments);
   AddRunFlags(*verb, *arguments);
   verb->callback([arguments, &work] { work = [arguments] { return Import(*arguments); }; });
 }

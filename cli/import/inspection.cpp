@@ -6,13 +6,16 @@
 #include "cli/import/keyed_segments.h"
 #include "formats/htr/reader.h"
 #include "formats/trc/document.h"
+#include "formats/units/units.h"
 #include "host/animation/animation_state.h"
 #include "inspect/check/checked_file.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/rates.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/proportion.h"
+#include "inspect/summary/frame_rate.h"
 #include "inspect/summary/marker_size.h"
+#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -93,6 +96,29 @@ Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::strin
   return {std::move(checked), is_refused};
 }
 
+std::optional<host::Rate> HostRate(const std::optional<orvane::FrameRate>& rate) {
+  if (!rate) return std::nullopt;
+  return host::Rate{rate->numerator, rate->denominator};
+}
+
+std::string NameOfFile(const std::string& file) {
+  return platform::TextOf(platform::PathOf(file).filename());
+}
+
+host::Recording RecordingOf(const orvane::HtrDocument& document, std::string_view bytes,
+                            const std::string& file) {
+  return {HostRate(orvane::FrameRateOfHtr(bytes)), document.GetStartFrame(),
+          std::string(orvane::CalibrationUnitsName(document.GetCalibrationUnits())),
+          NameOfFile(file)};
+}
+
+host::Recording RecordingOf(const orvane::TRCDocument& document, std::string_view bytes,
+                            const std::string& file) {
+  const auto unit = static_cast<std::uint32_t>(document.Units());
+  return {HostRate(orvane::FrameRateOfTrc(bytes)), document.FirstFrame(),
+          std::string(orvane::CalibrationUnitsName(unit)), NameOfFile(file)};
+}
+
 using Codes = std::vector<std::string_view>;
 
 class Inspecting {
@@ -107,6 +133,7 @@ class Inspecting {
     Read read = ReadInto(document, file_, bytes, is_checked);
     result_.checked = std::move(read.checked);
     if (!read.is_refused) {
+      result_.recording = RecordingOf(document, bytes, file_);
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
       if (!choices_.apply) result_.marker_size = SizeFor(document);

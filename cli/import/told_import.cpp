@@ -31,7 +31,7 @@ ApplyCircumstances CircumstancesOf(const ImportedFrames& frames, FileKind kind,
 FileReport ReportOnScene(const CheckedFile& checked, const ApplyCircumstances& how,
                          const std::optional<Application>& application) {
   if (!application) {
-    return ReportOn(CheckRange(checked.file, checked.kind, how), Action::kImport);
+    return ReportOn(CheckTimes(checked.file, checked.kind, how), Action::kImport);
   }
   return ReportOn(CheckApply(checked.file, checked.kind, application->file, application->scene,
                              application->plan, how),
@@ -41,18 +41,24 @@ FileReport ReportOnScene(const CheckedFile& checked, const ApplyCircumstances& h
 }  // namespace
 
 ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoices& choices,
-                        const host::Scene& scene, const ReportManner& manner) {
+                        const host::Scene& scene, const ImportManner& wishes) {
+  const ReportManner& manner = wishes.report;
   Inspection inspection = Inspect(file, kind, choices, scene, kImportLess, !manner.omitted);
   ToldImport told;
+  SceneTime time;
+  if (inspection.recording) {
+    time = PlanTime(*inspection.recording, inspection.frames.rate, choices, scene, wishes.time);
+  }
   told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
-                         {choices.frame_rate_from_file, inspection.asked});
+                         {choices.frame_rate_from_file, time.is_own, inspection.asked});
+  told.recording = std::move(time.recording);
   told.keyed = inspection.frames.keyed;
   told.marker_size = inspection.marker_size;
   if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
   if (!manner.omitted && !inspection.refusal) {
-    told.report.Take(ReportOnScene(inspection.checked,
-                                   CircumstancesOf(inspection.frames, kind, choices, scene),
-                                   told.application));
+    ApplyCircumstances how = CircumstancesOf(inspection.frames, kind, choices, scene);
+    how.time_change = time.change;
+    told.report.Take(ReportOnScene(inspection.checked, how, told.application));
   }
   WriteReportFile({told.report}, manner);
   if (inspection.refusal) {

@@ -9,6 +9,7 @@
 #include "cli/common/report_flags.h"
 #include "cli/import/application.h"
 #include "cli/import/import_flags.h"
+#include "cli/import/scene_time.h"
 #include "host/scene/scene.h"
 #include "inspect/report/report.h"
 
@@ -18,11 +19,18 @@ namespace cli {
 
 struct ToldImport {
   orvane::FileReport report;
-  bool has_errors = false;                   // though the plug-in may take the file
-  std::vector<Complaint> complaints;         // of the file and the scene together, not told yet
-  FrameInterval keyed;                       // the frames of the file that get keys
-  std::optional<Application> application{};  // when it is applied to nodes that are there
-  std::optional<double> marker_size{};       // in millimeters, that fits the markers which it makes
+  bool has_errors = false;                     // though the plug-in may take the file
+  std::vector<Complaint> complaints;           // of the file and the scene together, not told yet
+  FrameInterval keyed;                         // the frames of the file that get keys
+  std::optional<Application> application{};    // when it is applied to nodes that are there
+  std::optional<host::Recording> recording{};  // of the scene, when the import is done
+  std::optional<double> marker_size{};  // in millimeters, that fits the markers which it makes
+};
+
+// What the user has said that no dialog asks for.
+struct ImportManner {
+  ReportManner report;
+  std::optional<ShownTime> time{};
 };
 
 // Tells what is odd in `file`, and what an import by `choices` into `scene` will make of that. A
@@ -30,6 +38,6 @@ struct ToldImport {
 // imported.
 [[nodiscard]] ToldImport TellOfImport(const std::string& file, FileKind kind,
                                       const ImportChoices& choices, const host::Scene& scene,
-                                      const ReportManner& manner);
+                                      const ImportManner& manner);
 
 }  // namespace cli

@@ -24,7 +24,8 @@ Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWo
           place.column,
           std::move(words.found),
           std::move(words.expected),
-          std::move(words.effect)};
+          std::move(words.effect),
+          std::move(words.in_scene)};
 }
 
 }  // namespace

@@ -53,6 +53,8 @@ struct FindingWords {
   std::string found;
   std::string expected;
   std::string effect;  // what the import makes of it
+  // What a scene makes of it, where that is more than one can see in the file; may be empty.
+  std::string in_scene{};
 };
 
 struct Finding {
@@ -62,6 +64,7 @@ struct Finding {
   std::string found;  // as in FindingWords
   std::string expected;
   std::string effect;
+  std::string in_scene;
 };
 
 // Counts all findings and keeps the first ones of every rule, so that a file with an oddity in

@@ -35,6 +35,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
  private:
   void AddRefusal(TRCPlace place, std::string_view coordinates);
   void AddRepeatedName(TRCPlace place, std::string_view name);
+  void AddRateCut(TRCPlace place, std::string_view rate);
   void CheckFileType(TRCPlace path_type);
   void CheckName(TRCPlace place, std::string_view name);
   void CheckRate(TRCPlace place, std::string_view rate);

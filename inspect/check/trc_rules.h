@@ -33,7 +33,9 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-coordinates-refused", FindingSeverity::kError},
     {"trc-rate-cut", FindingSeverity::kWarning},
     {"trc-rate-out-of-range", FindingSeverity::kWarning},
+    {"trc-rate-inexact", FindingSeverity::kNote},
     {"trc-camera-rate", FindingSeverity::kNote},
+    {"trc-camera-rate-cut", FindingSeverity::kWarning},
     {"trc-unit-unknown", FindingSeverity::kWarning},
     {"trc-unit-ends-line", FindingSeverity::kWarning},
 

@@ -17,6 +17,7 @@ inline constexpr std::array kRules = {
     FindingRule{"apply-bone-differs", FindingSeverity::kNote},
     FindingRule{"apply-rate-differs", FindingSeverity::kWarning},
     FindingRule{"apply-range-moves", FindingSeverity::kWarning},
+    FindingRule{"apply-scene-time", FindingSeverity::kWarning},
 };
 
 }  // namespace orvane::apply

@@ -17,7 +17,8 @@ namespace orvane {
 struct FindingEffect {
   // Nothing when the action never meets the code, or nothing is told of it there.
   std::optional<FindingSeverity> severity;
-  // One sentence; null for the one that the check has written for this finding.
+  // One sentence; null for the one that the check has written for this finding. {scene} stands for
+  // what it has written of scenes.
   const char* consequence = nullptr;
 };
 
@@ -66,9 +67,19 @@ constexpr FindingEffects InMappings(FindingSeverity severity, const char* conseq
 enum class Concern {
   kFile,    // what every action asks for
   kRate,    // the frame rate
+  kTime,    // what the host's time makes of the frame rate, where viewers may be told it
   kFrames,  // frames that are announced and not there, or the other way round
   kExcess,  // far more frames announced than are there
 };
+
+// Of a rate that viewers are told, and the host's time does not hold.
+inline constexpr char kShownOwnRate[] = "{scene} Viewers play the rate of the file.";
+
+// Such a rate: the file may be looked at as it is; what it is applied to keeps the host's time.
+constexpr FindingEffects InTime(const FindingEffects& others) {
+  return others.But(Action::kImport, FindingSeverity::kNote, kShownOwnRate)
+      .But(Action::kApply, FindingSeverity::kWarning, "{scene}");
+}
 
 struct FindingMeaning {
   std::string_view code;

@@ -60,6 +60,13 @@ std::string CauseOf(const FindingMeaning& words, const Finding& first, std::size
   return cause;
 }
 
+std::string ConsequenceOf(const FindingEffect& effect, const Finding& finding) {
+  if (effect.consequence == nullptr) return finding.effect;
+  std::string consequence = effect.consequence;
+  ReplaceAll(consequence, "{scene}", finding.in_scene);
+  return consequence;
+}
+
 bool IsOfFrames(Concern concern) {
   return concern == Concern::kFrames || concern == Concern::kExcess;
 }
@@ -72,10 +79,18 @@ std::string Joined(const std::vector<std::string>& effects, Concern concern, Ask
   return text + " --range FROM:TO leaves them out.";
 }
 
+// What is made of a rate that the host's time does not hold.
+FindingEffect EffectInTime(bool is_own_time) {
+  if (is_own_time) return {FindingSeverity::kNote, kShownOwnRate};
+  return {FindingSeverity::kWarning, "{scene}"};
+}
+
 FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionOptions& options) {
-  if (words.concern == Concern::kRate && !options.rate) {
+  const bool is_of_rate = words.concern == Concern::kRate || words.concern == Concern::kTime;
+  if (is_of_rate && !options.rate) {
     return {FindingSeverity::kNote, "The frame rate of the file is not asked for."};
   }
+  if (words.concern == Concern::kTime && options.own_time) return EffectInTime(*options.own_time);
   if (IsOfFrames(words.concern) && options.frames == AskedFrames::kHeld) {
     return {FindingSeverity::kNote, "Only frames that are there are asked for."};
   }
@@ -135,7 +150,7 @@ FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptio
     }
     ReportedFinding& reported = report.findings[place->second];
     std::vector<std::string>& told = effects[place->second];
-    AddName(effect.consequence == nullptr ? finding.effect : effect.consequence, told);
+    AddName(ConsequenceOf(effect, finding), told);
     reported.consequence = Joined(told, words->concern, options.frames);
     if (TellsWhatIsFound(*words, reported.count)) continue;
     const std::string_view name = NameIn(finding.found);

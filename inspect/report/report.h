@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -52,6 +53,8 @@ enum class AskedFrames {
 // What of the file the action asks for.
 struct ActionOptions {
   bool rate = true;  // its frame rate
+  // Whether viewers are shown its own rate, and not the host's; nothing when nobody has said.
+  std::optional<bool> own_time{};
   AskedFrames frames = AskedFrames::kAnnounced;
 };
 

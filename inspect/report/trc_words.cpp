@@ -39,13 +39,19 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
      InMarkers(kError, "The file is refused.")},
-    {"trc-rate-cut", "A rate has a fraction", "{count} rates have fractions", InMarkers(kWarning),
-     Concern::kRate},
+    {"trc-rate-cut", "The frame rate has a fraction", nullptr, InTime(InMarkers(kWarning)),
+     Concern::kTime},
     {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
      InMarkers(kWarning)
          .But(Action::kInspect, kWarning, "It is shown as it is.")
          .But(Action::kConvert, kNote, "The converted file has it as it is."),
      Concern::kRate},
+    {"trc-rate-inexact", "The host has no such frame rate", nullptr,
+     InTime(InMotion(kNote, "It is shown as it is.")), Concern::kTime},
+    {"trc-camera-rate-cut", "The rate of the cameras has a fraction", nullptr,
+     InMarkers(kNote, "Nothing depends on it.")
+         .But(Action::kInspect, kWarning, "Its whole part is shown.")
+         .But(Action::kConvert, kWarning, "The converted file tells its whole part.")},
     {"trc-camera-rate", "The camera rate is odd", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kConvert, kNote, "The converted file tells it.")},

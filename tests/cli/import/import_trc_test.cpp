@@ -230,8 +230,9 @@ INSTANTIATE_TEST_SUITE_P(
                "is set, unless --frame-rate keep is given. [trc-rate-out-of-range]"},
         Oddity{
             "FractionOfARate", "120\t60\t", "119.88\t60\t",
-            "warning: A rate has a fraction: \"119.88\" (line 3, column 1). 119 is taken: a minute "
-            "lasts 60.44 s. [trc-rate-cut]"},
+            "note: The frame rate has a fraction: \"119.88\" (line 3, column 1). 119.88 a second "
+            "become 120 in the host: a minute lasts 59.9 s there. Viewers play the rate of the "
+            "file. [trc-rate-cut]"},
         Oddity{
             "NoStartFrame", "mm\t120\t1\t3", "mm",
             "warning: A value is missing (line 3, column 14). 0 is taken; a gap has nothing at all "

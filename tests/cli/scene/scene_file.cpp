@@ -46,9 +46,9 @@ std::vector<std::string> SceneFile::NodeNames() const {
   return names;
 }
 
-std::vector<double> SceneFile::KeyTimes(const std::string& name) const {
+std::vector<double> SceneFile::KeyTimes(const std::string& name, const std::string& path) const {
   std::vector<double> times;
-  const nlohmann::json* sampler = SamplerOf(Find(name), "rotation");
+  const nlohmann::json* sampler = SamplerOf(Find(name), path);
   if (sampler == nullptr) return times;
   const std::size_t input = (*sampler)["input"];
   const std::size_t count = json_["accessors"][input]["count"];

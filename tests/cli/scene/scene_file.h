@@ -17,8 +17,9 @@ class SceneFile {
   // The names of all nodes, in the file's order.
   std::vector<std::string> NodeNames() const;
 
-  // When the node `name` has rotation keys, in seconds; empty when it has none.
-  std::vector<double> KeyTimes(const std::string& name) const;
+  // When the node `name` has keys of its rotation, or of what `path` says, in seconds; empty when
+  // it has none.
+  std::vector<double> KeyTimes(const std::string& name, const std::string& path = "rotation") const;
 
   // Where the origin of the node `name` stands, in metres, Y up, at key number `key` of every
   // animated node on the way.
