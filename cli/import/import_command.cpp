@@ -22,6 +22,7 @@
 #include "cli/import/import_summary.h"
 #include "cli/import/key_counts.h"
 #include "cli/import/length_unit.h"
+#include "cli/import/measured_nodes.h"
 #include "cli/import/scene_output.h"
 #include "cli/import/size_wish.h"
 #include "cli/import/told_import.h"
@@ -38,7 +39,8 @@ struct ImportArguments {
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
-  std::optional<ShownTime> time;  // nothing: as the scene has it
+  std::optional<ShownTime> time;        // nothing: as the scene has it
+  std::optional<host::GapManner> gaps;  // nothing: they are hidden
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
@@ -104,8 +106,12 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
   return {ExitStatus::kRefused, complaints};
 }
 
+host::GapManner GapsOf(const ImportArguments& arguments) {
+  return arguments.gaps.value_or(host::GapManner::kHide);
+}
+
 ImportManner MannerOf(const ImportArguments& arguments) {
-  ImportManner manner{arguments.report, arguments.time};
+  ImportManner manner{arguments.report, arguments.time, GapsOf(arguments)};
   manner.report.only_warnings = arguments.quiet;
   return manner;
 }
@@ -151,16 +157,22 @@ class Importing {
     Append(told.complaints, complaints_);
     StopIfInterrupted();
     SetKeys keys(scene);
+    const MeasuredNodes measured(scene);
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     const std::optional<double> chosen_size = ChooseSize(told, units);
     LetPluginImport();
     scene.SetRecording(std::move(told.recording));
+    if (told.samples) {
+      measured.Tell(GapsOf(arguments_), *told.samples, told.keyed, choices, told.application);
+    }
     if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
     ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
     file.keys_set = keys.Count(choices, told.keyed);
     file.chosen_size = chosen_size;
+    if (told.samples) file.samples = CountSamples(*told.samples, told.keyed);
+    file.gaps = told.gaps;
     file.report = std::move(told.report);
     file.application = std::move(told.application);
     file.warnings = complaints_;
@@ -213,6 +225,12 @@ void RequireNothingStored(const ImportArguments& arguments) {
                 {{"--dry-run", "the dialog would store what --settings user lets it store", ""}}};
 }
 
+// What is asked of markers alone.
+void RequireForMarkers(const ImportArguments& arguments, FileKind kind) {
+  if (kind == FileKind::kTrc || !arguments.gaps) return;
+  throw Failure{ExitStatus::kWrongUsage, {{"--gaps", "a motion file has no gaps", ""}}};
+}
+
 std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
   std::vector<std::string> inputs = {input};
   if (!arguments.into.empty()) inputs.push_back(arguments.into);
@@ -223,6 +241,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
   RequireNothingStored(arguments);
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  RequireForMarkers(arguments, kind);
   const std::string input = ReadableFile(arguments.input, kind);
   RequireNoInput(arguments.output, {input});
   RequireReportApart(arguments.report, InputsOf(arguments, input), {arguments.output});
@@ -269,7 +288,16 @@ void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
       ->type_name("PATH");
 }
 
+host::GapManner GapMannerNamed(const std::string& name) {
+  if (name == "hold") return host::GapManner::kHold;
+  return name == "origin" ? host::GapManner::kOrigin : host::GapManner::kHide;
+}
+
 void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--gaps", {"hide", "hold", "origin"},
+            "TRC: hide markers from viewers where they were not measured, hold them at their last "
+            "places, or show them at the origin (hide)",
+            [&arguments](const std::string& choice) { arguments.gaps = GapMannerNamed(choice); });
   AddChoice(verb, "--time", {"file", "host"},
             "Show viewers the rate of the file, or the host's time (file in a new scene)",
             [&arguments](const std::string& choice) {

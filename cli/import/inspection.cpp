@@ -136,12 +136,20 @@ class Inspecting {
       result_.recording = RecordingOf(document, bytes, file_);
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
+      result_.samples = SamplesIn(document);
       if (!choices_.apply) result_.marker_size = SizeFor(document);
     }
     return std::move(result_);
   }
 
  private:
+  static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {
+    return {};
+  }
+  static std::optional<MarkerSamples> SamplesIn(const orvane::TRCDocument& document) {
+    return SamplesOf(document);
+  }
+
   static std::optional<double> SizeFor(const orvane::HtrDocument& /*document*/) { return {}; }
 
   [[nodiscard]] std::optional<double> SizeFor(const orvane::TRCDocument& document) const {

@@ -8,6 +8,7 @@
 #include "cli/common/file_kind.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/imported_frames.h"
+#include "cli/import/marker_gaps.h"
 #include "host/scene/recording.h"
 #include "host/scene/scene.h"
 #include "inspect/check/checked_file.h"
@@ -33,6 +34,7 @@ struct Inspection {
   // The names in the file, when it can be read and they are applied to a scene.
   std::optional<orvane::AppliedFile> applied{};
   std::optional<host::Recording> recording{};  // by the file; nothing when it cannot be read
+  std::optional<MarkerSamples> samples{};      // of a marker file
   // The size in millimeters that fits the markers, when new ones are made.
   std::optional<double> marker_size{};
 };

@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "cli/import/inspection.h"
+#include "cli/import/measured_nodes.h"
 
 namespace cli {
 namespace {
@@ -38,28 +39,39 @@ FileReport ReportOnScene(const CheckedFile& checked, const ApplyCircumstances& h
                   Action::kApply);
 }
 
+// What the import will make of what was seen of the file, and what is to be told of it.
+ToldImport Foresee(Inspection& inspection, FileKind kind, const ImportChoices& choices,
+                   const host::Scene& scene, const ImportManner& manner) {
+  ToldImport told;
+  SceneTime time;
+  if (inspection.recording) {
+    time = PlanTime(*inspection.recording, inspection.frames.rate, choices, scene, manner.time);
+  }
+  told.recording = std::move(time.recording);
+  told.keyed = inspection.frames.keyed;
+  told.marker_size = inspection.marker_size;
+  told.samples = std::move(inspection.samples);
+  if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
+  if (told.samples) {
+    told.gaps = ShowGaps(manner.gaps, *told.samples, told.keyed, choices, told.application);
+  }
+  told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
+                         {choices.frame_rate_from_file, time.is_own, inspection.asked, told.gaps});
+  if (!manner.report.omitted && !inspection.refusal) {
+    ApplyCircumstances how = CircumstancesOf(inspection.frames, kind, choices, scene);
+    how.time_change = time.change;
+    told.report.Take(ReportOnScene(inspection.checked, how, told.application));
+  }
+  return told;
+}
+
 }  // namespace
 
 ToldImport TellOfImport(const std::string& file, FileKind kind, const ImportChoices& choices,
                         const host::Scene& scene, const ImportManner& wishes) {
   const ReportManner& manner = wishes.report;
   Inspection inspection = Inspect(file, kind, choices, scene, kImportLess, !manner.omitted);
-  ToldImport told;
-  SceneTime time;
-  if (inspection.recording) {
-    time = PlanTime(*inspection.recording, inspection.frames.rate, choices, scene, wishes.time);
-  }
-  told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
-                         {choices.frame_rate_from_file, time.is_own, inspection.asked});
-  told.recording = std::move(time.recording);
-  told.keyed = inspection.frames.keyed;
-  told.marker_size = inspection.marker_size;
-  if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
-  if (!manner.omitted && !inspection.refusal) {
-    ApplyCircumstances how = CircumstancesOf(inspection.frames, kind, choices, scene);
-    how.time_change = time.change;
-    told.report.Take(ReportOnScene(inspection.checked, how, told.application));
-  }
+  ToldImport told = Foresee(inspection, kind, choices, scene, wishes);
   WriteReportFile({told.report}, manner);
   if (inspection.refusal) {
     for (const std::string_view code : inspection.refused_codes) {

@@ -9,7 +9,9 @@
 #include "cli/common/report_flags.h"
 #include "cli/import/application.h"
 #include "cli/import/import_flags.h"
+#include "cli/import/marker_gaps.h"
 #include "cli/import/scene_time.h"
+#include "host/scene/measured.h"
 #include "host/scene/scene.h"
 #include "inspect/report/report.h"
 
@@ -22,6 +24,8 @@ struct ToldImport {
   bool has_errors = false;                     // though the plug-in may take the file
   std::vector<Complaint> complaints;           // of the file and the scene together, not told yet
   FrameInterval keyed;                         // the frames of the file that get keys
+  std::optional<MarkerSamples> samples{};      // of a marker file
+  orvane::ShownGaps gaps{};                    // what viewers are shown of the missing ones
   std::optional<Application> application{};    // when it is applied to nodes that are there
   std::optional<host::Recording> recording{};  // of the scene, when the import is done
   std::optional<double> marker_size{};  // in millimeters, that fits the markers which it makes
@@ -31,6 +35,7 @@ struct ToldImport {
 struct ImportManner {
   ReportManner report;
   std::optional<ShownTime> time{};
+  host::GapManner gaps = host::GapManner::kHide;
 };
 
 // Tells what is odd in `file`, and what an import by `choices` into `scene` will make of that. A

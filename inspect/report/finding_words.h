@@ -81,6 +81,10 @@ constexpr FindingEffects InTime(const FindingEffects& others) {
       .But(Action::kApply, FindingSeverity::kWarning, "{scene}");
 }
 
+// How a code stands to an action that puts a file into a scene, by what viewers are shown of gaps:
+// hidden, held, at the origin.
+using GapEffects = std::array<FindingEffect, 3>;
+
 struct FindingMeaning {
   std::string_view code;
   // The cause, one sentence without its full stop. {found} and {expected} stand for those of the
@@ -89,6 +93,7 @@ struct FindingMeaning {
   const char* many;  // null for a code that one file has once at most
   FindingEffects effects;
   Concern concern = Concern::kFile;
+  const GapEffects* by_gaps = nullptr;  // in the place of the effects, where that is said
 };
 
 // Those of all codes, by kind of file.

@@ -97,6 +97,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   if (words.concern == Concern::kExcess && options.frames == AskedFrames::kMissing) {
     return {FindingSeverity::kWarning, "Frames that are not there are made up."};
   }
+  if (words.by_gaps != nullptr && options.gaps) {
+    return (*words.by_gaps)[static_cast<std::size_t>(*options.gaps)];
+  }
   return words.effects[action];
 }
 

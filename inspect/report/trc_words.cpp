@@ -5,6 +5,28 @@ namespace {
 
 using enum FindingSeverity;
 
+// By what viewers are shown of them; the host has keys at the origin in any case.
+constexpr GapEffects kShownGaps = {
+    {{kNote,
+      "Viewers do not see such a marker in its gaps; in the host its keys go to the origin."},
+     {kWarning,
+      "In its gaps viewers see such a marker at its last place; in the host its keys go to the "
+      "origin."},
+     {kWarning, "In its gaps such a marker goes to the origin."}}};
+constexpr GapEffects kShownWithoutPosition = {
+    {{kNote, "Viewers never see such a marker; in the host its keys are at the origin."},
+     {kWarning,
+      "There is no place to hold such a marker at: a new one is not seen by viewers, and another "
+      "keeps its place; in the host its keys are at the origin."},
+     {kWarning, "Such a marker stays at the origin."}}};
+
+// New nodes are hidden, and those that are there held, unless something else is said.
+constexpr FindingEffects InGaps(const GapEffects& effects) {
+  return InMarkers(kWarning)
+      .But(Action::kImport, kNote, effects[0].consequence)
+      .But(Action::kApply, kWarning, effects[1].consequence);
+}
+
 constexpr FindingMeaning kWords[] = {
     {"trc-other-kind", "The file is {found}, not {expected}", nullptr, InMarkers(kError)},
     {"trc-empty", "The file is empty", nullptr,
@@ -150,15 +172,16 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kError, "It is refused."),
      Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
-     InMarkers(kWarning, "In its gaps such a marker goes to the origin.")
+     InGaps(kShownGaps)
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
-         .But(Action::kConvert, kNote, "A gap is written as DROPOUT.")},
+         .But(Action::kConvert, kNote, "A gap is written as DROPOUT."),
+     Concern::kFile, &kShownGaps},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
-     InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
+     InGaps(kShownWithoutPosition)
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
-         .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
-         .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout.")},
+         .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
+     Concern::kFile, &kShownWithoutPosition},
     {"trc-up-axis", "The file seems to have {found}", nullptr,
      InMarkers(kNote, "It is taken as Y up.")},
 };

@@ -34,6 +34,7 @@ TEST_F(ImportJsonTest, HoldsWhatTheSummarySays) {
                             {"key_frames", {1, 3}},
                             {"frames", {1, 3}},
                             {"frame_rate", 60},
+                            {"samples", nullptr},
                             {"chosen_size_mm", nullptr},
                             {"scene", "walk.glb"},
                             {"delivered", true},

@@ -56,6 +56,22 @@ std::vector<double> SceneFile::KeyTimes(const std::string& name, const std::stri
   return times;
 }
 
+std::optional<std::array<double, 3>> SceneFile::SeenAt(const std::string& name,
+                                                       double seconds) const {
+  std::size_t node = Find(name);
+  const Vector scale = ValueAt(node, "scale", {1, 1, 1, 0}, seconds);
+  if (scale[0] == 0.0 && scale[1] == 0.0 && scale[2] == 0.0) return std::nullopt;
+  Vector point = ValueAt(node, "translation", {0, 0, 0, 0}, seconds);
+  for (node = ParentOf(node); node != kNone; node = ParentOf(node)) {
+    const Vector stretch = Property(node, "scale", {1, 1, 1, 0}, 0);
+    const Vector move = Property(node, "translation", {0, 0, 0, 0}, 0);
+    for (std::size_t i = 0; i < 3; ++i) point[i] *= stretch[i];
+    point = Turn(Property(node, "rotation", {0, 0, 0, 1}, 0), point);
+    for (std::size_t i = 0; i < 3; ++i) point[i] += move[i];
+  }
+  return std::array<double, 3>{point[0], point[1], point[2]};
+}
+
 std::array<double, 3> SceneFile::Position(const std::string& name, std::size_t key) const {
   Vector point = {0, 0, 0, 0};
   for (std::size_t node = Find(name); node != kNone; node = ParentOf(node)) {
@@ -112,6 +128,26 @@ SceneFile::Vector SceneFile::Element(std::size_t accessor_index, std::size_t ind
     element[i] = number;
   }
   return element;
+}
+
+// As a viewer reads it: by the sampler's interpolation between the keys around the time.
+SceneFile::Vector SceneFile::ValueAt(std::size_t node, const std::string& path, Vector otherwise,
+                                     double seconds) const {
+  const nlohmann::json* const sampler = SamplerOf(node, path);
+  if (sampler == nullptr) return Property(node, path, otherwise, 0);
+  const std::size_t input = (*sampler)["input"];
+  const std::size_t output = (*sampler)["output"];
+  const std::size_t count = json_["accessors"][input]["count"];
+  std::size_t after = 0;
+  while (after < count && Element(input, after)[0] <= seconds) ++after;
+  if (after == 0) return Element(output, 0);
+  Vector value = Element(output, after - 1);
+  if (after == count || sampler->value("interpolation", "LINEAR") == "STEP") return value;
+  const double start = Element(input, after - 1)[0];
+  const double part = (seconds - start) / (Element(input, after)[0] - start);
+  const Vector next = Element(output, after);
+  for (std::size_t i = 0; i < 3; ++i) value[i] += part * (next[i] - value[i]);
+  return value;
 }
 
 SceneFile::Vector SceneFile::Property(std::size_t node, const std::string& path, Vector otherwise,

@@ -2,6 +2,7 @@
 
 #include <array>
 #include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -21,6 +22,10 @@ class SceneFile {
   // it has none.
   std::vector<double> KeyTimes(const std::string& name, const std::string& path = "rotation") const;
 
+  // Where a node without animated nodes above it is seen at a time in seconds, in metres, Y up;
+  // nothing when its scale is 0 then.
+  std::optional<std::array<double, 3>> SeenAt(const std::string& name, double seconds) const;
+
   // Where the origin of the node `name` stands, in metres, Y up, at key number `key` of every
   // animated node on the way.
   std::array<double, 3> Position(const std::string& name, std::size_t key) const;
@@ -32,6 +37,7 @@ class SceneFile {
   std::size_t ParentOf(std::size_t node) const;
   const nlohmann::json* SamplerOf(std::size_t node, const std::string& path) const;
   Vector Element(std::size_t accessor, std::size_t index) const;
+  Vector ValueAt(std::size_t node, const std::string& path, Vector otherwise, double seconds) const;
   Vector Property(std::size_t node, const std::string& path, Vector otherwise,
                   std::size_t key) const;
 

@@ -20,6 +20,7 @@ using orvane::FileReport;
 using orvane::FindingSeverity;
 using orvane::ReportedFinding;
 using orvane::ReportOn;
+using orvane::ShownGaps;
 using test::TrcText;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -72,8 +73,9 @@ TEST(Report, JudgesByTheAction) {
   const auto imported = Find(ReportFor(text, Action::kImport), "trc-marker-gaps");
   const auto converted = Find(ReportFor(text, Action::kConvert), "trc-marker-gaps");
   EXPECT_EQ(looked_at.severity, FindingSeverity::kNote);
-  EXPECT_EQ(imported.severity, FindingSeverity::kWarning);
-  EXPECT_EQ(imported.consequence, "In its gaps such a marker goes to the origin.");
+  EXPECT_EQ(imported.severity, FindingSeverity::kNote);
+  EXPECT_EQ(imported.consequence,
+            "Viewers do not see such a marker in its gaps; in the host its keys go to the origin.");
   EXPECT_EQ(converted.severity, FindingSeverity::kNote);
   EXPECT_EQ(converted.consequence, "A gap is written as DROPOUT.");
   EXPECT_THAT(converted.names, ElementsAre("Hand"));
@@ -141,6 +143,29 @@ struct RateInHost {
   const char* code;
   const char* in_host;
 };
+
+TEST(Report, TakesGapsByWhatViewersAreShownOfThem) {
+  const TrcText text{.markers = {"Head", "Hand"}, .frames = {{"1\t2\t3", ""}, {"", ""}}};
+  const struct {
+    ShownGaps shown;
+    std::string gaps;
+    std::string never_seen;
+  } rows[] = {
+      {ShownGaps::kHidden,
+       "note: Viewers do not see such a marker in its gaps; in the host its keys go to the origin.",
+       "note: Viewers never see such a marker; in the host its keys are at the origin."},
+      {ShownGaps::kHeld,
+       "warning: In its gaps viewers see such a marker at its last place; in the host its keys go "
+       "to the origin.",
+       "warning: There is no place to hold such a marker at: a new one is not seen by viewers, and "
+       "another keeps its place; in the host its keys are at the origin."},
+      {ShownGaps::kAtOrigin, "warning: In its gaps such a marker goes to the origin.",
+       "warning: Such a marker stays at the origin."}};
+  for (const auto& [shown, gaps, never_seen] : rows) {
+    EXPECT_EQ(AskedAndTold(text, {.gaps = shown}, "trc-marker-gaps"), gaps);
+    EXPECT_EQ(AskedAndTold(text, {.gaps = shown}, "trc-marker-never-seen"), never_seen);
+  }
+}
 
 TEST(Report, TakesARateThatTheHostDoesNotHoldByWhatViewersAreShown) {
   const RateInHost rows[] = {
