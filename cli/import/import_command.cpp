@@ -17,6 +17,7 @@
 #include "cli/common/plugin_session.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
+#include "cli/common/scratch_copy.h"
 #include "cli/import/hidden_numbers.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"
@@ -41,6 +42,7 @@ struct ImportArguments {
   std::string module = DefaultModulePath();
   std::optional<ShownTime> time;        // nothing: as the scene has it
   std::optional<host::GapManner> gaps;  // nothing: they are hidden
+  bool z_up = false;                    // the heights in the file lie along Z
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
@@ -150,7 +152,8 @@ class Importing {
     host::Scene& scene = session_.scene();
     PrepareScene(arguments_, scene);
     Append(Select(scene, arguments_.selection), complaints_);
-    const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    choices.turned_up = arguments_.z_up;
     const SizeUnits units{scene.MillimetersPerUnit(), choices.scale};
     ConvertSize(wishes_, kind_, units);
     ToldImport told = TellOfImport(input_, kind_, choices, scene, MannerOf(arguments_));
@@ -161,7 +164,7 @@ class Importing {
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     const std::optional<double> chosen_size = ChooseSize(told, units);
-    LetPluginImport();
+    LetPluginImport(told.turned);
     scene.SetRecording(std::move(told.recording));
     if (told.samples) {
       measured.Tell(GapsOf(arguments_), *told.samples, told.keyed, choices, told.application);
@@ -192,12 +195,16 @@ class Importing {
     return told.marker_size;
   }
 
-  void LetPluginImport() {
+  // Of the file, or of these bytes in its place when there are any.
+  void LetPluginImport(const std::string& bytes) {
+    std::optional<ScratchCopy> copy;
+    if (!bytes.empty()) copy.emplace(output_.Folder(), input_, bytes);
     const Interval range = session_.scene().Animation().Range();
     const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
     // Without a word from the user, the host goes by the name.
     const std::string extension = arguments_.kind ? ExtensionOf(*arguments_.kind) : "";
-    const bool carried_out = session_.Import(input_, extension, wishes_, show_progress);
+    const bool carried_out =
+        session_.Import(copy ? copy->Path() : input_, extension, wishes_, show_progress);
     StopIfInterrupted();
     AddMessages(input_, session_, HiddenNumbers(wishes_, kind_, session_.settings()), complaints_);
     if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
@@ -227,8 +234,17 @@ void RequireNothingStored(const ImportArguments& arguments) {
 
 // What is asked of markers alone.
 void RequireForMarkers(const ImportArguments& arguments, FileKind kind) {
-  if (kind == FileKind::kTrc || !arguments.gaps) return;
-  throw Failure{ExitStatus::kWrongUsage, {{"--gaps", "a motion file has no gaps", ""}}};
+  if (kind == FileKind::kTrc) return;
+  if (arguments.gaps) {
+    throw Failure{ExitStatus::kWrongUsage, {{"--gaps", "a motion file has no gaps", ""}}};
+  }
+  if (arguments.z_up) {
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{"--up z",
+                    "only marker files are turned: the bones of a motion file have axes "
+                    "of their own, which would turn with it",
+                    "Turn the skeleton in the scene."}}};
+  }
 }
 
 std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
@@ -294,6 +310,8 @@ host::GapManner GapMannerNamed(const std::string& name) {
 }
 
 void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--up", {"y", "z"}, "TRC: the axis that the heights in the file lie along (y)",
+            [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
   AddChoice(verb, "--gaps", {"hide", "hold", "origin"},
             "TRC: hide markers from viewers where they were not measured, hold them at their last "
             "places, or show them at the origin (hide)",

@@ -2,6 +2,7 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/scratch_copy.h"
 #include "cli/import/application.h"
 #include "cli/import/keyed_segments.h"
 #include "formats/htr/reader.h"
@@ -132,8 +133,10 @@ class Inspecting {
     Document document;
     Read read = ReadInto(document, file_, bytes, is_checked);
     result_.checked = std::move(read.checked);
+    if (!read.is_refused && choices_.turned_up) Turn(bytes, document);
     if (!read.is_refused) {
       result_.recording = RecordingOf(document, bytes, file_);
+      result_.recording->turned_up = choices_.turned_up;
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
       result_.samples = SamplesIn(document);
@@ -143,6 +146,14 @@ class Inspecting {
   }
 
  private:
+  // What is odd has been looked for in the file as it is.
+  void Turn(std::string_view /*bytes*/, orvane::HtrDocument& /*document*/) {}
+  void Turn(std::string_view bytes, orvane::TRCDocument& document) {
+    result_.turned = TurnedUp(file_, bytes);
+    // As the reader takes the file, it takes it turned.
+    (void)document.ReadBytes(result_.turned, false);
+  }
+
   static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {
     return {};
   }

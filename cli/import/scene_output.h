@@ -15,6 +15,9 @@ class SceneOutput {
   // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set.
   SceneOutput(std::string path, bool replace);
 
+  // The folder that the file is to lie in.
+  [[nodiscard]] std::string Folder() const { return file_.Folder(); }
+
   // Writes `scene` as glTF: as text to a name that ends in ".gltf", in binary otherwise. Throws a
   // Failure when the scene cannot be written (`source` is the file that it came from), when the
   // disk does not take it, or when the user has interrupted the program. Returns the size of the

@@ -51,12 +51,14 @@ ToldImport Foresee(Inspection& inspection, FileKind kind, const ImportChoices& c
   told.keyed = inspection.frames.keyed;
   told.marker_size = inspection.marker_size;
   told.samples = std::move(inspection.samples);
+  told.turned = std::move(inspection.turned);
   if (inspection.applied) told.application = Apply(std::move(*inspection.applied), kind, scene);
   if (told.samples) {
     told.gaps = ShowGaps(manner.gaps, *told.samples, told.keyed, choices, told.application);
   }
   told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
                          {choices.frame_rate_from_file, time.is_own, inspection.asked, told.gaps});
+  if (choices.turned_up) told.report = told.report.Without("trc-up-axis");
   if (!manner.report.omitted && !inspection.refusal) {
     ApplyCircumstances how = CircumstancesOf(inspection.frames, kind, choices, scene);
     how.time_change = time.change;

@@ -183,7 +183,8 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
      Concern::kFile, &kShownWithoutPosition},
     {"trc-up-axis", "The file seems to have {found}", nullptr,
-     InMarkers(kNote, "It is taken as Y up.")},
+     InMarkers(kNote, "It is taken as Y up; --up z turns it.")
+         .But(Action::kInspect, kNote, "It is taken as Y up.")},
 };
 
 }  // namespace
