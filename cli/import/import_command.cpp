@@ -42,6 +42,7 @@ struct ImportArguments {
   std::string module = DefaultModulePath();
   std::optional<ShownTime> time;        // nothing: as the scene has it
   std::optional<host::GapManner> gaps;  // nothing: they are hidden
+  bool plain = false;                   // a scene for viewers alone
   bool z_up = false;                    // the heights in the file lie along Z
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
@@ -144,7 +145,7 @@ class Importing {
       : input_(std::move(input)),
         kind_(kind),
         arguments_(arguments),
-        output_(arguments.output, arguments.force),
+        output_(arguments.output, arguments.force, arguments.plain),
         session_(arguments.module, arguments.settings),
         wishes_(AllWishes(arguments)) {}
 
@@ -172,6 +173,7 @@ class Importing {
     if (told.has_errors) throw RefusedForError(input_, std::move(complaints_));
     ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
+    file.is_plain = arguments_.plain;
     file.keys_set = keys.Count(choices, told.keyed);
     file.chosen_size = chosen_size;
     if (told.samples) file.samples = CountSamples(*told.samples, told.keyed);
@@ -324,6 +326,8 @@ void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
 }
 
 void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
+  verb.add_flag("--plain", arguments.plain,
+                "Write a scene for viewers alone, which nothing can be added to or exported from");
   AddChoice(verb, "--settings", {"fresh", "user"},
             "Start from the documented defaults, or from what the user chose last (fresh)",
             [&arguments](const std::string& choice) {

@@ -74,6 +74,8 @@ void WriteSceneFile(JsonWriter& json, const ImportedFile& file) {
   WriteText(json, "scene", file.output);
   json.Key("delivered");
   json.Bool(file.is_delivered);
+  json.Key("plain");
+  json.Bool(file.is_plain);
   json.Key("bytes");
   if (file.is_delivered) {
     json.Integer(static_cast<std::int64_t>(file.output_bytes));

@@ -37,8 +37,9 @@ std::string Keys(std::size_t set, const SceneKeys& keys, const host::AnimationSt
 
 std::string SceneFile(const ImportedFile& file) {
   const std::string name = Printable(file.output);
-  return name +
-         (file.is_delivered ? " (" + Count(file.output_bytes) + " bytes)" : " is not written");
+  const std::string kept = file.is_plain ? ", for viewers alone" : "";
+  return name + (file.is_delivered ? " (" + Count(file.output_bytes) + " bytes" + kept + ")"
+                                   : " is not written");
 }
 
 // "4,920".

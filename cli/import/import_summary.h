@@ -20,6 +20,7 @@ struct ImportedFile {
   std::string input;
   std::string output;
   bool is_delivered = true;      // not in a dry run
+  bool is_plain = false;         // for viewers alone
   std::size_t output_bytes = 0;  // of the scene file, when it is delivered
   std::size_t keys_set = 0;
   SampleCounts samples{};               // of a marker file, in the frames that got keys

@@ -38,6 +38,7 @@ TEST_F(ImportJsonTest, HoldsWhatTheSummarySays) {
                             {"chosen_size_mm", nullptr},
                             {"scene", "walk.glb"},
                             {"delivered", true},
+                            {"plain", false},
                             {"bytes", Read("walk.glb").size()},
                             {"applied", nullptr},
                             {"findings", json::array()},
