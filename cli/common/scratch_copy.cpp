@@ -25,11 +25,15 @@ ScratchCopy::ScratchCopy(const std::string& place, const std::string& file, std:
     throw Failure{ExitStatus::kInputOutput, {{place, folder_.Error(), ""}}};
   }
   path_ = platform::TextOf(platform::PathOf(folder_.Path()) / platform::PathOf(file).filename());
-  std::ofstream stream = orvane::CreateFileForBytes(path_);
+  WriteCopy(path_, file, bytes);
+}
+
+void WriteCopy(const std::string& path, const std::string& file, std::string_view bytes) {
+  std::ofstream stream = orvane::CreateFileForBytes(path);
   stream << bytes << std::flush;
   if (stream) return;
   throw Failure{ExitStatus::kInputOutput,
-                {{file, "The copy that is to be imported could not be written",
+                {{file, "The copy that the plug-in is to be given could not be written",
                   "Is the disk full, or is the name too long?"}}};
 }
 

@@ -24,6 +24,9 @@ class ScratchCopy {
   std::string path_;
 };
 
+// Writes `bytes` to `path`, a copy of `file`. Throws a Failure about that when it cannot be done.
+void WriteCopy(const std::string& path, const std::string& file, std::string_view bytes);
+
 // The file `bytes` of markers, whose heights lie along Z, as it is with heights along Y. Throws a
 // Failure about `file` when it cannot be turned.
 [[nodiscard]] std::string TurnedUp(const std::string& file, std::string_view bytes);

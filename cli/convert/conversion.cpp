@@ -58,7 +58,8 @@ json Pack(const Conversion& conversion) {
           Pack(conversion.errors),
           Pack(conversion.warnings),
           Pack(conversion.report),
-          conversion.announces_too_much};
+          conversion.announces_too_much,
+          conversion.z_up};
 }
 
 Conversion Unpack(const json& packed) {
@@ -74,7 +75,8 @@ Conversion Unpack(const json& packed) {
           UnpackComplaints(packed.at(9)),
           UnpackComplaints(packed.at(10)),
           UnpackReport(packed.at(11), packed.at(0)),
-          packed.at(12)};
+          packed.at(12),
+          packed.at(13)};
 }
 
 }  // namespace

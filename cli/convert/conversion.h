@@ -41,6 +41,7 @@ struct Conversion {
   std::vector<Complaint> warnings;
   orvane::FileReport report;        // what is odd in the input; empty when that is not looked for
   bool announces_too_much = false;  // refused for that, as an error says in place of the report
+  bool z_up = false;                // its heights lie along Z: it is turned before
 };
 
 // As the table and JSON give it: "converted".

@@ -38,6 +38,7 @@ struct ConvertArguments {
   ConversionOrder order;
   std::string offset;
   bool offset_in_trc_space = true;
+  bool z_up = false;
   std::size_t jobs = platform::ProcessorCount();
   bool dry_run = false;
   bool json = false;
@@ -92,6 +93,7 @@ class Converting {
     platform::CatchInterrupts();
     Prepare();
     conversions_ = PlanConversions(arguments_.inputs, wishes_);
+    for (Conversion& conversion : conversions_) conversion.z_up = arguments_.z_up;
     RequireReportApart();
     CheckMapping();
     if (arguments_.dry_run) return ShowPreview();
@@ -326,6 +328,8 @@ void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
       verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
       [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
       ->needs(offset);
+  AddChoice(verb, "--up", {"y", "z"}, "The axis that the heights in the files lie along (y)",
+            [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
 }
 
 void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {

@@ -163,6 +163,7 @@ void ReportOnInput(Conversion& conversion, const std::string& mapping, const Rep
     conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
     return;
   }
+  if (conversion.z_up) conversion.report = conversion.report.Without("trc-up-axis");
   if (!is_planned || !IsForbidden(conversion, manner)) return;
   conversion.status = ConversionStatus::kRefused;
   conversion.errors.push_back(
