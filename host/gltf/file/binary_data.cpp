@@ -45,6 +45,11 @@ int BinaryData::AddPositions(const std::vector<float>& positions) {
   return AddWithBounds(positions, kThreeNumbersForm);
 }
 
+int BinaryData::AddNormals(const std::vector<float>& normals) {
+  OwnView(kVertexTarget);
+  return Add(normals, kThreeNumbersForm);
+}
+
 int BinaryData::AddJoints(const std::vector<std::uint16_t>& joints) {
   OwnView(kVertexTarget);
   return Add(joints, kJointsForm);

@@ -42,8 +42,10 @@ class BinaryData {
   // Every one of these returns the accessor's index.
   // REQUIRES: the list holds whole elements, at least one.
   //
-  // Of vertices: x, y and z each; four joints each; four weights each.
+  // Of vertices: x, y and z each; the same of the direction they face; four joints each; four
+  // weights each.
   int AddPositions(const std::vector<float>& positions);
+  int AddNormals(const std::vector<float>& normals);
   int AddJoints(const std::vector<std::uint16_t>& joints);
   int AddWeights(const std::vector<float>& weights);
 

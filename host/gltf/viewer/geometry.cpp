@@ -29,6 +29,10 @@ void Geometry::Add(const Shape& shape, const ViewerSpace& space, const Node& nod
     RequireFinite(position, node, "shape", time);
     positions_.insert(positions_.end(), position.begin(), position.end());
   }
+  for (const Point3& normal : shape.normals) {
+    const auto direction = Rounded(ViewerSpace::Direction(normal));
+    normals_.insert(normals_.end(), direction.begin(), direction.end());
+  }
   for (const Triangle& triangle : shape.triangles) {
     for (const std::uint32_t corner : triangle) triangles_.push_back(first + corner);
   }
@@ -44,7 +48,8 @@ void Geometry::AddWithJoint(const Shape& shape, const ViewerSpace& space, const 
 
 nlohmann::json Geometry::StoreIn(BinaryData& data, int material) const {
   assert(!triangles_.empty());
-  nlohmann::json attributes = {{"POSITION", data.AddPositions(positions_)}};
+  nlohmann::json attributes = {{"POSITION", data.AddPositions(positions_)},
+                               {"NORMAL", data.AddNormals(normals_)}};
   if (!joints_.empty()) {
     attributes["JOINTS_0"] = data.AddJoints(joints_);
     attributes["WEIGHTS_0"] = data.AddWeights(FirstJointWeights(joints_.size() / kJointsOfVertex));

@@ -32,6 +32,7 @@ class Geometry {
 
  private:
   std::vector<float> positions_;
+  std::vector<float> normals_;
   std::vector<std::uint16_t> joints_;
   std::vector<std::uint32_t> triangles_;
 };

@@ -7,8 +7,7 @@
 #include "sdk/geom/matrix3.h"
 #include "sdk/geom/point3.h"
 
-// What objects look like, in the node's own space (host axes, system units): few triangles, without
-// normals, so that viewers draw flat faces.
+// What objects look like, in the node's own space (host axes, system units), in few triangles.
 
 namespace host::gltf {
 
@@ -17,21 +16,26 @@ using Triangle = std::array<std::uint32_t, 3>;
 
 struct Shape {
   std::vector<Point3> corners;
+
+  // The direction that the surface faces at each corner, outwards and of unit length.
+  std::vector<Point3> normals;
+
   std::vector<Triangle> triangles;
 };
 
 // An octahedron from the origin to (`length`, 0, 0), `width` wide along Y and `height` high along
 // Z at its waist. One too thin to be seen is drawn a little thicker. A bone without length is drawn
-// as a mark of radius `mark_radius`.
+// as a mark of radius `mark_radius`. Its faces are flat.
 Shape BoneShape(float width, float height, float length, float mark_radius);
 
-// An octahedron about the origin, its corners on the axes.
+// An octahedron about the origin, its corners on the axes and its faces flat.
 Shape MarkShape(float radius);
 
-// A ball of 128 triangles about the origin.
+// A ball of 320 triangles about the origin, its surface smooth.
 Shape BallShape(float radius);
 
-// `shape` with its corners where `transform` takes them.
+// `shape` with its corners where `transform` takes them. What is outside stays outside if that
+// mirrors.
 Shape Transformed(Shape shape, const Matrix3& transform);
 
 }  // namespace host::gltf

@@ -18,6 +18,10 @@ std::array<double, 3> ViewerSpace::Position(const Point3& position) const {
   return {Meters(x), Meters(y), Meters(z)};
 }
 
+std::array<double, 3> ViewerSpace::Direction(const Point3& direction) {
+  return OnViewerAxes(direction);
+}
+
 std::array<double, 4> ViewerSpace::Rotation(const Quat& rotation) {
   const double x = rotation.x;
   const double y = rotation.y;

@@ -27,6 +27,9 @@ class ViewerSpace {
 
   std::array<double, 3> Position(const Point3& position) const;
 
+  // Of any length, which stays.
+  static std::array<double, 3> Direction(const Point3& direction);
+
   // `meters` in system units.
   float HostLength(double meters) const {
     return static_cast<float>(meters * 1000.0 / millimeters_);

@@ -226,11 +226,15 @@ bool Viewer::GoesInSteps(std::size_t node, const std::string& path) const {
   return model_.animations.front().samplers.at(sampler).interpolation == "STEP";
 }
 
-std::vector<Vector3> Viewer::Corners(std::size_t node) const {
+std::vector<Vector3> Viewer::Corners(std::size_t node) const { return Vectors(node, "POSITION"); }
+
+std::vector<Vector3> Viewer::Normals(std::size_t node) const { return Vectors(node, "NORMAL"); }
+
+std::vector<Vector3> Viewer::Vectors(std::size_t node, const std::string& attribute) const {
   std::vector<Vector3> corners;
   const auto mesh = static_cast<std::size_t>(model_.nodes.at(node).mesh);
   for (const tinygltf::Primitive& part : model_.meshes.at(mesh).primitives) {
-    const std::vector<double> numbers = Numbers(part.attributes.at("POSITION"));
+    const std::vector<double> numbers = Numbers(part.attributes.at(attribute));
     for (std::size_t i = 0; i < numbers.size(); i += 3) {
       corners.push_back({numbers[i], numbers[i + 1], numbers[i + 2]});
     }

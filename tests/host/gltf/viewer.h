@@ -58,6 +58,9 @@ class Viewer {
   std::vector<Vector3> Corners(std::size_t node) const;
   std::vector<Vector3> DrawnCorners(std::size_t node, double second) const;
 
+  // The direction that the surface faces at each corner, in the mesh's own space.
+  std::vector<Vector3> Normals(std::size_t node) const;
+
   // The joint that each of these corners follows, as a node.
   std::vector<std::size_t> JointNodes(std::size_t node) const;
 
@@ -65,6 +68,7 @@ class Viewer {
   std::vector<std::size_t> Triangles(std::size_t node) const;
 
  private:
+  std::vector<Vector3> Vectors(std::size_t node, const std::string& attribute) const;
   Matrix4 LocalAtRest(std::size_t node) const;
   Matrix4 LocalAt(std::size_t node, double second) const;
   Matrix4 JointMatrix(const tinygltf::Skin& skin, std::size_t joint, double second) const;

