@@ -1,14 +1,15 @@
 #include "host/gltf/writer.h"
 
-#include <utility>
-
 #include "host/gltf/file/container.h"
 #include "host/gltf/file/document.h"
+#include "host/gltf/file/key_counts.h"
 #include "host/gltf/file/names.h"
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/kept/kept_scene.h"
+#include "host/gltf/viewer/animation.h"
 #include "host/gltf/viewer/shown_scene.h"
+#include "host/gltf/viewer/viewer_time.h"
 
 namespace host::gltf {
 
@@ -16,13 +17,20 @@ namespace {
 
 constexpr const char* kNamelessScene = "Scene";
 
-Document DocumentOf(const Scene& scene, const WriteOptions& options) {
-  const std::string& name = options.name;
-  Document document;
-  document.scene_name = name.empty() ? kNamelessScene : ViewerName(name);
-  document.animation_name = ViewerName(name);
+// Throws a Refusal when the keys alone are more than the file may have.
+void RequireRoomForKeys(const Scene& scene, const NodeTree& tree, const WriteOptions& options) {
+  const KeyCounts shown = ShownKeys(tree, ViewerTime(scene, tree));
+  const KeyCounts kept = options.plain ? KeyCounts() : KeptKeys(tree);
+  RequireRoom(LeastSize(shown, kept), options.most_bytes);
+}
 
+Document DocumentOf(const Scene& scene, const WriteOptions& options) {
   const NodeTree tree = NodeTreeOf(scene);
+  RequireRoomForKeys(scene, tree, options);
+
+  Document document;
+  document.scene_name = options.name.empty() ? kNamelessScene : ViewerName(options.name);
+  document.animation_name = ViewerName(options.name);
   ShowScene(scene, tree, document);
   if (options.plain) {
     LeaveSceneOut(document);
@@ -36,10 +44,8 @@ Document DocumentOf(const Scene& scene, const WriteOptions& options) {
 
 WrittenScene WriteScene(const Scene& scene, const WriteOptions& options) {
   try {
-    Document document = DocumentOf(scene, options);
-    return {options.container == Container::kBinary ? BinaryFile(std::move(document))
-                                                    : TextFile(std::move(document)),
-            ""};
+    const auto file = options.container == Container::kBinary ? BinaryFile : TextFile;
+    return {file(DocumentOf(scene, options), options.most_bytes), ""};
   } catch (const Refusal& refusal) {
     return {"", refusal.what()};
   }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <cstdint>
+#include <limits>
 #include <string>
 
 #include "host/scene/scene.h"
@@ -39,6 +41,9 @@ struct WriteOptions {
 
   // Whether the file holds nothing but what viewers see: no scene can be read back from it.
   bool plain = false;
+
+  // Refused is what takes more bytes; the binary container counts no more.
+  std::uint32_t most_bytes = std::numeric_limits<std::uint32_t>::max();
 };
 
 struct WrittenScene {
@@ -46,7 +51,8 @@ struct WrittenScene {
   std::string bytes;
 
   // Why the scene cannot be written, as a sentence for the user; empty when it was. Refused is what
-  // glTF cannot hold: numbers that are not finite, and more than 4 GiB.
+  // glTF cannot hold: numbers that are not finite, and more than 4 GiB, which is nearly always seen
+  // before any work is done.
   std::string refusal;
 };
 

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
-#include <limits>
 
 #include "host/gltf/file/base64.h"
 #include "host/gltf/file/json_field.h"
@@ -21,13 +20,6 @@ constexpr std::uint32_t kBinaryChunk = 0x004E4942;
 constexpr std::size_t kHeaderSize = 12;
 constexpr std::size_t kChunkHeaderSize = 8;
 constexpr std::size_t kChunkAlignment = 4;
-
-// The binary container counts bytes with 32 bits.
-void RequireRoom(std::size_t bytes) {
-  if (bytes > std::numeric_limits<std::uint32_t>::max()) {
-    throw Refusal("The scene cannot be saved: glTF holds no more than 4 GiB.");
-  }
-}
 
 void SetWord(std::size_t number, std::size_t offset, std::string& bytes) {
   const auto word = static_cast<std::uint32_t>(number);
@@ -94,8 +86,12 @@ std::string EmbeddedData(const JsonField& document) {
 
 }  // namespace
 
-std::string BinaryFile(Document document) {
-  RequireRoom(document.data.Bytes().size());
+void RequireRoom(std::uint64_t bytes, std::uint64_t most) {
+  if (bytes > most) throw Refusal("The scene cannot be saved: glTF holds no more than 4 GiB.");
+}
+
+std::string BinaryFile(Document document, std::uint64_t most) {
+  RequireRoom(document.data.Bytes().size(), most);
   constexpr std::size_t kRoomForTheRest = 1 << 16;
   std::string bytes;
   bytes.reserve(document.Size() + kRoomForTheRest);
@@ -110,15 +106,15 @@ std::string BinaryFile(Document document) {
     EndChunk(data_start, kBinaryChunk, '\0', bytes);
   }
 
-  RequireRoom(bytes.size());
+  RequireRoom(bytes.size(), most);
   bytes.replace(0, kGlbMagic.size(), kGlbMagic);
   SetWord(kGlbVersion, 4, bytes);
   SetWord(bytes.size(), 8, bytes);
   return bytes;
 }
 
-std::string TextFile(Document document) {
-  RequireRoom(document.data.Bytes().size());
+std::string TextFile(Document document, std::uint64_t most) {
+  RequireRoom(document.data.Bytes().size(), most);
   std::string text;
   AppendText(document, std::string(kDataPrefix) + EncodedBase64(document.data.Bytes()), text);
   return text;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <string_view>
@@ -13,10 +14,13 @@
 
 namespace host::gltf {
 
-// The bytes of the file with `document` in it, in either form. Throw a Refusal when they are more
-// than it can hold.
-std::string BinaryFile(Document document);
-std::string TextFile(Document document);
+// Throws a Refusal when `bytes` are more than `most`, which a file may have.
+void RequireRoom(std::uint64_t bytes, std::uint64_t most);
+
+// The bytes of the file with `document` in it, in either form. Throw a Refusal when they, or the
+// data embedded in text, are more than `most`. REQUIRES: `most` is no more than 32 bits count.
+std::string BinaryFile(Document document, std::uint64_t most);
+std::string TextFile(Document document, std::uint64_t most);
 
 // A glTF file taken apart: what the reader looks at.
 struct FileParts {

@@ -239,6 +239,19 @@ void KeepScene(const Scene& scene, const NodeTree& tree, Document& document) {
   document.extensions[kExtensionName] = Keeper(tree, document.data).Extension(scene);
 }
 
+KeyCounts KeptKeys(const NodeTree& tree) {
+  KeyCounts keys;
+  for (const PlacedNode& placed : tree) {
+    const TransformController& transform = *placed.node->Transform();
+    const std::size_t rotations = transform.Rotation().KeyCount();
+    keys.vectors += transform.Position().KeyCount() + transform.Scale().KeyCount();
+    keys.rotations += rotations;
+    const bool is_euler = dynamic_cast<const EulerController*>(&transform.Rotation()) != nullptr;
+    if (is_euler) keys.angles += rotations;
+  }
+  return keys;
+}
+
 void LeaveSceneOut(Document& document) {
   document.asset_extras[field::kLeftOut] = json::array({kExtensionName});
 }

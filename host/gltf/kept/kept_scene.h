@@ -4,6 +4,7 @@
 
 #include "host/gltf/file/container.h"
 #include "host/gltf/file/document.h"
+#include "host/gltf/file/key_counts.h"
 #include "host/gltf/file/node_tree.h"
 #include "host/scene/scene.h"
 
@@ -22,6 +23,9 @@ inline constexpr std::uint32_t kOldestVersion = 2;
 // Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
 // finite.
 void KeepScene(const Scene& scene, const NodeTree& tree, Document& document);
+
+// The keys of all controllers in `tree`, which KeepScene keeps.
+KeyCounts KeptKeys(const NodeTree& tree);
 
 // Says in `document` that it keeps no scene, and that it is meant not to.
 void LeaveSceneOut(Document& document);

@@ -1,6 +1,7 @@
 #include "host/gltf/viewer/animation.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <map>
 #include <vector>
 
@@ -28,6 +29,17 @@ void TakeNearerSigns(std::vector<float>& rotations) {
     if (dot >= 0.0F) continue;
     for (int component = 0; component < 4; ++component) rotation[component] *= -1.0F;
   }
+}
+
+// On how many seconds the keys of `controller` fall.
+std::uint64_t SecondsOf(const Controller& controller, const ViewerTime& time) {
+  std::uint64_t seconds = 0;
+  for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
+    const bool is_new = key == 0 || time.Second(controller.KeyTick(key)) !=
+                                        time.Second(controller.KeyTick(key - 1));
+    if (is_new) ++seconds;
+  }
+  return seconds;
 }
 
 class AnimationBuilder {
@@ -155,6 +167,19 @@ void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const ViewerTi
   for (std::size_t index = 0; index < tree.size(); ++index) {
     builder.AddNode(*tree[index].node, static_cast<int>(index));
   }
+}
+
+KeyCounts ShownKeys(const NodeTree& tree, const ViewerTime& time) {
+  KeyCounts keys;
+  for (const PlacedNode& placed : tree) {
+    const TransformController& transform = *placed.node->Transform();
+    if (ShownPosition(*placed.node).IsAnimated()) {
+      keys.vectors += SecondsOf(transform.Position(), time);
+    }
+    keys.vectors += SecondsOf(transform.Scale(), time);
+    keys.rotations += SecondsOf(transform.Rotation(), time);
+  }
+  return keys;
 }
 
 }  // namespace host::gltf

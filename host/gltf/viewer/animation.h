@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/gltf/file/document.h"
+#include "host/gltf/file/key_counts.h"
 #include "host/gltf/file/node_tree.h"
 #include "host/gltf/viewer/viewer_space.h"
 #include "host/gltf/viewer/viewer_time.h"
@@ -13,5 +14,8 @@ namespace host::gltf {
 // a key is not finite.
 void AddAnimation(const NodeTree& tree, const ViewerSpace& space, const ViewerTime& time,
                   Document& document);
+
+// The keys that AddAnimation adds to the animation, but for those that hide a node.
+KeyCounts ShownKeys(const NodeTree& tree, const ViewerTime& time);
 
 }  // namespace host::gltf
