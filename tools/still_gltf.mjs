@@ -1,27 +1,18 @@
 // Makes a still of an animated .glb file: shapes alone, without nodes' tree, skins and animation,
-// standing where the animation has them at each of the seconds given.
+// standing where the animation has them at each of the seconds given. What is hidden then is left
+// out.
 //
 //   node tools/still_gltf.mjs ANIMATED.glb STILL.glb SECOND...
 //
-// For viewers that draw a file but cannot be told at which time. It knows what our own files hold:
-// one scene and one binary chunk, animations joined linearly, vertices that follow one joint.
-import { readFileSync, writeFileSync } from "node:fs";
+// For viewers that draw a file but cannot be told at which time.
+import { writeFileSync } from "node:fs";
 import process from "node:process";
+import { applied, elements, isHidden, product, readGlb, worldsAt } from "./gltf_scene.mjs";
 
 const JSON_CHUNK = 0x4e4f534a;
 const BINARY_CHUNK = 0x004e4942;
-const WIDTHS = { SCALAR: 1, VEC3: 3, VEC4: 4, MAT4: 16 };
-const READERS = { 5123: ["readUInt16LE", 2], 5125: ["readUInt32LE", 4], 5126: ["readFloatLE", 4] };
-const IDENTITY = [1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1, 0, 0, 0, 0, 1];
 
 // --- The file ---
-
-function readGlb(path) {
-  const bytes = readFileSync(path);
-  const jsonLength = bytes.readUInt32LE(12);
-  const gltf = JSON.parse(bytes.subarray(20, 20 + jsonLength).toString());
-  return { ...gltf, binary: bytes.subarray(28 + jsonLength) };
-}
 
 function chunk(type, content, padding) {
   const padded = Buffer.alloc(Math.ceil(content.length / 4) * 4, padding);
@@ -40,78 +31,30 @@ function writeGlb(path, { binary, ...gltf }) {
   writeFileSync(path, Buffer.concat([head, body]));
 }
 
-// The elements of an accessor, each an array of its components.
-function elements(file, index) {
-  const { bufferView, byteOffset = 0, componentType, count, type } = file.accessors[index];
-  const start = (file.bufferViews[bufferView].byteOffset ?? 0) + byteOffset;
-  const [read, size] = READERS[componentType];
-  const width = WIDTHS[type];
-  const component = (i) => file.binary[read](start + size * i);
-  return Array.from({ length: count }, (_, element) =>
-    Array.from({ length: width }, (_, i) => component(element * width + i)));
-}
-
 // --- Where things are ---
 
-function product(a, b) {
-  return IDENTITY.map((_, i) =>
-    [0, 1, 2, 3].reduce((sum, k) => sum + a[4 * k + (i % 4)] * b[4 * (i >> 2) + k], 0));
-}
-
-function applied(m, [x, y, z]) {
-  return [0, 1, 2].map((i) => m[i] * x + m[4 + i] * y + m[8 + i] * z + m[12 + i]);
-}
-
-function composed({ translation: t = [0, 0, 0], rotation = [0, 0, 0, 1], scale: s = [1, 1, 1] }) {
-  const [x, y, z, w] = rotation;
-  const axes = [
-    [1 - 2 * (y * y + z * z), 2 * (x * y + z * w), 2 * (x * z - y * w)],
-    [2 * (x * y - z * w), 1 - 2 * (x * x + z * z), 2 * (y * z + x * w)],
-    [2 * (x * z + y * w), 2 * (y * z - x * w), 1 - 2 * (x * x + y * y)],
-  ];
-  return [...axes.flatMap((axis, i) => [...axis.map((component) => component * s[i]), 0]), ...t, 1];
-}
-
-function valueAt(times, values, second) {
-  const next = times.findIndex(([time]) => time >= second);
-  if (next === -1) return values.at(-1);
-  if (next === 0) return values[0];
-  const fraction = (second - times[next - 1][0]) / (times[next][0] - times[next - 1][0]);
-  const mixed = values[next].map((to, i) => values[next - 1][i] * (1 - fraction) + to * fraction);
-  const length = mixed.length === 4 ? Math.hypot(...mixed) : 1;
-  return mixed.map((component) => component / length);
-}
-
-// The world transforms of all nodes at `second`.
-function worldsAt(file, second) {
-  const nodes = structuredClone(file.nodes);
-  for (const { channels, samplers } of file.animations ?? []) {
-    for (const { sampler, target } of channels) {
-      const { input, output } = samplers[sampler];
-      nodes[target.node][target.path] =
-        valueAt(elements(file, input), elements(file, output), second);
-    }
-  }
-  const worlds = [];
-  const pending = file.scenes[0].nodes.map((node) => [node, IDENTITY]);
-  while (pending.length > 0) {
-    const [node, parent] = pending.pop();
-    worlds[node] = product(parent, composed(nodes[node]));
-    for (const child of nodes[node].children ?? []) pending.push([child, worlds[node]]);
-  }
-  return worlds;
-}
-
-// The world places of a primitive's corners, which follow node number `index` or their joints.
-function placed(file, index, { attributes }, worlds) {
-  const corners = elements(file, attributes.POSITION);
+// The transforms that a primitive's corners follow: those of node number `index`, or of joints.
+function transformsOf(file, index, { attributes }, worlds) {
   const { skin } = file.nodes[index];
-  if (skin === undefined) return corners.map((corner) => applied(worlds[index], corner));
+  if (skin === undefined) return elements(file, attributes.POSITION).map(() => worlds[index]);
   const { joints, inverseBindMatrices } = file.skins[skin];
   const inverses = elements(file, inverseBindMatrices);
   const places = joints.map((joint, i) => product(worlds[joint], inverses[i]));
   const followed = elements(file, attributes.JOINTS_0);
-  return corners.map((corner, i) => applied(places[followed[i][0]], corner));
+  return followed.map(([joint]) => places[joint]);
+}
+
+function cross([a, b, c], [d, e, f]) {
+  return [b * f - c * e, c * d - a * f, a * e - b * d];
+}
+
+// Where a surface that faces along `normal` faces behind a transform, which keeps it across.
+function turned(m, normal) {
+  const [x, y, z] = [0, 4, 8].map((column) => m.slice(column, column + 3));
+  const across = [cross(y, z), cross(z, x), cross(x, y)];
+  const sum = [0, 1, 2].map((i) => normal.reduce((part, n, axis) => part + n * across[axis][i], 0));
+  const length = Math.hypot(...sum);
+  return length === 0 ? [0, 0, 1] : sum.map((component) => component / length);
 }
 
 // --- The still ---
@@ -132,13 +75,17 @@ class Still {
     return accessors.length - 1;
   }
 
+  addVectors(vectors, bounds = {}) {
+    const bytes = Buffer.from(Float32Array.from(vectors.flat()).buffer);
+    const accessor = { componentType: 5126, count: vectors.length, type: "VEC3", ...bounds };
+    return this.addAccessor(bytes, accessor, 34962);
+  }
+
   addCorners(corners) {
-    const bytes = Buffer.from(Float32Array.from(corners.flat()).buffer);
     const rounded = corners.map((corner) => corner.map(Math.fround));
     const [min, max] = [Math.min, Math.max].map((bound) =>
       [0, 1, 2].map((i) => rounded.map((corner) => corner[i]).reduce((a, b) => bound(a, b))));
-    const accessor = { componentType: 5126, count: corners.length, type: "VEC3", min, max };
-    return this.addAccessor(bytes, accessor, 34962);
+    return this.addVectors(corners, { min, max });
   }
 
   addTriangles(indices) {
@@ -150,14 +97,24 @@ class Still {
   addScene(file, second) {
     const worlds = worldsAt(file, second);
     file.nodes.forEach(({ mesh }, index) => {
-      if (mesh === undefined) return;
+      if (mesh === undefined || isHidden(worlds[index])) return;
       const primitives = file.meshes[mesh].primitives.map((part) => ({
-        attributes: { POSITION: this.addCorners(placed(file, index, part, worlds)) },
+        attributes: this.addAttributes(file, part, transformsOf(file, index, part, worlds)),
         indices: this.addTriangles(elements(file, part.indices)),
         material: part.material,
       }));
       this.gltf.meshes.push({ primitives });
     });
+  }
+
+  addAttributes(file, { attributes }, transforms) {
+    const vectors = (accessor, change) =>
+      elements(file, accessor).map((vector, i) => change(transforms[i], vector));
+    const added = { POSITION: this.addCorners(vectors(attributes.POSITION, applied)) };
+    if (attributes.NORMAL !== undefined) {
+      added.NORMAL = this.addVectors(vectors(attributes.NORMAL, turned));
+    }
+    return added;
   }
 
   finished() {
