@@ -52,6 +52,18 @@ class SeenTest(unittest.TestCase):
         self.assertEqual(self.seen(gltf, "0"),
                          [{"second": 0, "seen": [], "hidden": ["hiding"], "nearest": None}])
 
+    def test_our_own_scenes_are_told_by_what_was_measured(self):
+        scene = ROOT / "tests/data/scenes/version-3-recorded.glb"
+        result = self.run_tool(str(scene), "0", "0.06", "0.1")
+        self.assertEqual(result.stderr, "")
+        first, later, measured = json.loads(result.stdout)
+        self.assertEqual(first["hidden"], ["hidden", "never"])
+        self.assertEqual(first["nearest"], 0)  # of the one that is left at the origin
+        self.assertEqual(later["hidden"], ["hidden", "never"])
+        self.assertEqual(measured["hidden"], ["never"])
+        self.assertEqual(measured["seen"], ["whole", "hidden", "held", "at the origin", "parent"])
+        self.assertGreater(measured["nearest"], 0.1)
+
     def test_no_second_is_wrong_usage(self):
         result = self.run_tool("in.glb")
         self.assertEqual(result.returncode, 2)

@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include "host/gltf/file/refusal.h"
@@ -34,10 +35,11 @@ void TakeNearerSigns(std::vector<float>& rotations) {
 // On how many seconds the keys of `controller` fall.
 std::uint64_t SecondsOf(const Controller& controller, const ViewerTime& time) {
   std::uint64_t seconds = 0;
+  std::optional<float> last;
   for (std::size_t key = 0; key < controller.KeyCount(); ++key) {
-    const bool is_new = key == 0 || time.Second(controller.KeyTick(key)) !=
-                                        time.Second(controller.KeyTick(key - 1));
-    if (is_new) ++seconds;
+    const float second = time.Second(controller.KeyTick(key));
+    if (last != second) ++seconds;
+    last = second;
   }
   return seconds;
 }
