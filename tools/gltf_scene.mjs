@@ -1,6 +1,6 @@
 // What the tools know of .glb files: how to read our own, and where an animation has its nodes. Our
 // own hold one scene and one binary chunk, animations whose keys are joined linearly or in steps,
-// and vertices that follow one joint. Times are in single precision, as they are in the file.
+// and vertices that follow one joint.
 import { readFileSync } from "node:fs";
 
 const WIDTHS = { SCALAR: 1, VEC3: 3, VEC4: 4, MAT4: 16 };
@@ -71,7 +71,7 @@ export function worldsAt(file, second) {
       const { input, output, interpolation } = samplers[sampler];
       const inSteps = interpolation === "STEP";
       nodes[target.node][target.path] =
-        valueAt(elements(file, input), elements(file, output), inSteps, Math.fround(second));
+        valueAt(elements(file, input), elements(file, output), inSteps, second);
     }
   }
   const worlds = [];

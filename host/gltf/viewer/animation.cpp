@@ -1,5 +1,6 @@
 #include "host/gltf/viewer/animation.h"
 
+#include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -100,7 +101,8 @@ void AnimationBuilder::AddVisibility(const Node& node, const ShownPosition& posi
   const auto visible = Rounded(ViewerSpace::Scale(transform.Scale().Constant()));
   ViewerKeys keys;
   for (const std::size_t change : position.Changes()) {
-    const float second = time_.Second(transform.Position().KeyTick(change));
+    // A step that is rounded to a later time would come a frame late for who asks at the exact one.
+    const float second = std::nextafter(time_.Second(transform.Position().KeyTick(change)), 0.0F);
     // What is too short for single precision is not seen, and what follows it is.
     if (!keys.seconds.empty() && keys.seconds.back() == second) {
       keys.seconds.pop_back();
