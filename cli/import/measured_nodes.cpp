@@ -39,7 +39,8 @@ std::vector<const host::Node*> PlannedReceivers(std::size_t markers, const Impor
 }
 
 bool MayBeHidden(const host::Node& node) {
-  return node.Measurement() && node.Measurement()->made_by_import && node.Children().empty();
+  return node.Measurement() && node.Measurement()->made_by_import && node.Children().empty() &&
+         node.Transform()->Scale().KeyCount() == 0;
 }
 
 // The ticks of `frames`, as far as the host's time of 32 bits reaches.

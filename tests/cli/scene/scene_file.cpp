@@ -38,6 +38,7 @@ SceneFile::SceneFile(const std::string& path) {
   const std::size_t json_size = ReadSize(bytes, kFileHeader);
   json_ = nlohmann::json::parse(bytes.substr(kFileHeader + kChunkHeader, json_size));
   binary_ = bytes.substr(kFileHeader + 2 * kChunkHeader + json_size);
+  Index();
 }
 
 std::vector<std::string> SceneFile::NodeNames() const {
@@ -84,32 +85,36 @@ std::array<double, 3> SceneFile::Position(const std::string& name, std::size_t k
   return {point[0], point[1], point[2]};
 }
 
-std::size_t SceneFile::Find(const std::string& name) const {
-  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
-    if (json_["nodes"][i].value("name", "") == name) return i;
+void SceneFile::Index() {
+  for (std::size_t node = 0; node < json_["nodes"].size(); ++node) {
+    nodes_.emplace(json_["nodes"][node].value("name", ""), node);
+    for (const std::size_t child :
+         json_["nodes"][node].value("children", std::vector<std::size_t>())) {
+      parents_[child] = node;
+    }
   }
-  throw std::runtime_error("no node " + name);
+  if (!json_.contains("animations")) return;
+  for (const auto& channel : json_["animations"][0]["channels"]) {
+    const auto& target = channel["target"];
+    samplers_[{target["node"], target["path"]}] = channel["sampler"];
+  }
+}
+
+std::size_t SceneFile::Find(const std::string& name) const {
+  const auto node = nodes_.find(name);
+  if (node == nodes_.end()) throw std::runtime_error("no node " + name);
+  return node->second;
 }
 
 std::size_t SceneFile::ParentOf(std::size_t node) const {
-  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
-    for (const std::size_t child :
-         json_["nodes"][i].value("children", std::vector<std::size_t>())) {
-      if (child == node) return i;
-    }
-  }
-  return kNone;
+  const auto parent = parents_.find(node);
+  return parent == parents_.end() ? kNone : parent->second;
 }
 
 const nlohmann::json* SceneFile::SamplerOf(std::size_t node, const std::string& path) const {
-  if (!json_.contains("animations")) return nullptr;
-  const nlohmann::json& animation = json_["animations"][0];
-  for (const auto& channel : animation["channels"]) {
-    if (channel["target"]["node"] == node && channel["target"]["path"] == path) {
-      return &animation["samplers"][channel["sampler"].get<std::size_t>()];
-    }
-  }
-  return nullptr;
+  const auto sampler = samplers_.find({node, path});
+  return sampler == samplers_.end() ? nullptr
+                                    : &json_["animations"][0]["samplers"][sampler->second];
 }
 
 SceneFile::Vector SceneFile::Element(std::size_t accessor_index, std::size_t index) const {
@@ -139,7 +144,12 @@ SceneFile::Vector SceneFile::ValueAt(std::size_t node, const std::string& path, 
   const std::size_t output = (*sampler)["output"];
   const std::size_t count = json_["accessors"][input]["count"];
   std::size_t after = 0;
-  while (after < count && Element(input, after)[0] <= seconds) ++after;
+  for (std::size_t left = count; left > 0;) {
+    const std::size_t half = left / 2;
+    const bool is_before = Element(input, after + half)[0] <= seconds;
+    after += is_before ? half + 1 : 0;
+    left = is_before ? left - half - 1 : half;
+  }
   if (after == 0) return Element(output, 0);
   Vector value = Element(output, after - 1);
   if (after == count || sampler->value("interpolation", "LINEAR") == "STEP") return value;

@@ -1,9 +1,11 @@
 #pragma once
 
 #include <array>
+#include <map>
 #include <nlohmann/json.hpp>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A scene file as the tests look at it: independent of the code that wrote it.
@@ -33,6 +35,7 @@ class SceneFile {
  private:
   using Vector = std::array<double, 4>;
 
+  void Index();
   std::size_t Find(const std::string& name) const;
   std::size_t ParentOf(std::size_t node) const;
   const nlohmann::json* SamplerOf(std::size_t node, const std::string& path) const;
@@ -41,6 +44,10 @@ class SceneFile {
   Vector Property(std::size_t node, const std::string& path, Vector otherwise,
                   std::size_t key) const;
 
+  // By name, the first of it; by node; and by node and path of what is animated.
+  std::map<std::string, std::size_t> nodes_;
+  std::map<std::size_t, std::size_t> parents_;
+  std::map<std::pair<std::size_t, std::string>, std::size_t> samplers_;
   nlohmann::json json_;
   std::string binary_;
 };
