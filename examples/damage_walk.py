@@ -173,6 +173,7 @@ DAMAGES = [
     ("unknown-axis", "htr-axis-unknown", change(b"GlobalAxis", b"GlobalAxisofGravity up")),
     ("rate-with-fraction", "htr-rate-cut", change(b"DataFrameRate", b"DataFrameRate 59.94")),
     ("gravity-along-z", "htr-axis-ignored", change(b"GlobalAxis", b"GlobalAxisofGravity Z")),
+    ("rate-between-ticks", "htr-rate-inexact", change(b"DataFrameRate", b"DataFrameRate 250")),
     ("rate-zero", "htr-rate-out-of-range", change(b"DataFrameRate", b"DataFrameRate 0")),
     ("scale-factor", "htr-scale-factor", change(b"ScaleFactor", b"ScaleFactor 2.54")),
     # Numbers

@@ -52,7 +52,7 @@ json Pack(const Conversion& conversion) {
           conversion.markers_kept, conversion.markers_dropped,
           conversion.dropouts,     Pack(conversion.errors),
           Pack(conversion.report), conversion.told,
-          conversion.is_empty};
+          conversion.is_empty,     conversion.z_up};
 }
 
 Conversion Unpack(const json& packed) {
@@ -68,7 +68,8 @@ Conversion Unpack(const json& packed) {
           UnpackComplaints(packed.at(9)),
           UnpackReport(packed.at(10), packed.at(0)),
           packed.at(11),
-          packed.at(12)};
+          packed.at(12),
+          packed.at(13)};
 }
 
 }  // namespace

@@ -42,6 +42,7 @@ struct Conversion {
   orvane::FileReport report;      // what is odd in the input; empty when that is not looked for
   std::vector<std::string> told;  // codes in it that an error tells of in their place
   bool is_empty = false;          // no marker is left to write
+  bool z_up = false;              // its heights lie along Z: it is turned before
 };
 
 // As the table and JSON give it: "converted".

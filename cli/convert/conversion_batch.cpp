@@ -10,8 +10,10 @@
 #include <system_error>
 #include <utility>
 
+#include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
+#include "cli/common/scratch_copy.h"
 #include "cli/convert/batch_log_reader.h"
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/trc_worth.h"
@@ -33,6 +35,7 @@ using orvane::SummarizeBvk;
 namespace fs = std::filesystem;
 
 constexpr char kEmptyMapping[] = "/nothing.mnm";
+constexpr char kTurnedFolder[] = "/turned";
 constexpr char kNamesFolder[] = "/names";  // one folder for each output, named like it
 
 // A file of the plug-in's, whatever line ends the system has; empty when it cannot be read.
@@ -134,7 +137,9 @@ class BatchConversion {
   }
 
   // A file that vanishes before the plug-in's dialog has chosen it cannot be chosen.
-  void Convert(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
+  void Convert(std::vector<Conversion*> run, const platform::ScratchFolder& scratch) {
+    TurnInputs(run, scratch);
+    if (run.empty()) return;
     try {
       UsePanel(run, scratch);
     } catch (const host::ScriptError&) {
@@ -142,6 +147,46 @@ class BatchConversion {
       for (Conversion* conversion : run) RequireInput(*conversion);
       if (Waiting().size() == waiting) throw;
     }
+  }
+
+  // Makes turned copies of inputs that are to be turned. What cannot be is settled, and no more in
+  // `run`.
+  static void TurnInputs(std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
+    std::erase_if(run, [&scratch](Conversion* conversion) {
+      if (!conversion->z_up) return false;
+      try {
+        const std::string turned = TurnedUp(conversion->input, FileBytes(conversion->input));
+        const std::string copy = SourceOf(*conversion, scratch);
+        std::error_code error;  // is met again by whoever writes into it
+        fs::create_directory(platform::PathOf(copy).parent_path(), error);
+        WriteCopy(copy, conversion->input, turned);
+        return false;
+      } catch (const Failure& failure) {
+        conversion->status = failure.status == ExitStatus::kRefused ? ConversionStatus::kRefused
+                                                                    : ConversionStatus::kFailed;
+        conversion->errors = failure.complaints;
+        return true;
+      }
+    });
+  }
+
+  // What the plug-in reads: the input, or its copy that is turned.
+  static std::string SourceOf(const Conversion& conversion,
+                              const platform::ScratchFolder& scratch) {
+    if (!conversion.z_up) return conversion.source;
+    const fs::path name = platform::PathOf(conversion.source).filename();
+    return platform::TextOf(platform::PathOf(scratch.Path() + kTurnedFolder) / name);
+  }
+
+  // `log` with the user's own file where a copy is named.
+  static std::string WithInput(std::string log, const Conversion& conversion,
+                               const platform::ScratchFolder& scratch) {
+    const std::string copy = SourceOf(conversion, scratch);
+    for (std::size_t at = log.find(copy); at != std::string::npos && conversion.z_up;
+         at = log.find(copy, at + conversion.source.size())) {
+      log.replace(at, copy.size(), conversion.source);
+    }
+    return log;
   }
 
   void UsePanel(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
@@ -165,7 +210,7 @@ class BatchConversion {
   void ConvertSingle(ConverterPanel& panel, Conversion& conversion,
                      const platform::ScratchFolder& scratch) {
     const std::string made = MadeFile(conversion, scratch);
-    panel.ConvertOne(conversion.source, made);
+    panel.ConvertOne(SourceOf(conversion, scratch), made);
     if (platform::Interrupted()) return;
     const std::vector<std::string> messages = panel.TakeMessages();
     Finish(conversion, made, messages.empty() ? "" : ReaderMessage(messages.front()));
@@ -177,14 +222,15 @@ class BatchConversion {
                        const platform::ScratchFolder& scratch) {
     std::vector<std::string> sources;
     sources.reserve(run.size());
-    for (const Conversion* conversion : run) sources.push_back(conversion->source);
+    for (const Conversion* conversion : run) sources.push_back(SourceOf(*conversion, scratch));
     panel.ConvertBatch(sources, scratch.Path());
     const std::string log = ReadText(LogIn(scratch.Path()));
     const std::vector<LoggedFile> files = ReadBatchLog(log, sources);
     std::size_t told = 0;
     for (std::size_t at = 0; at < files.size(); ++at) {
       Finish(*run[at], MadeFile(*run[at], scratch), files[at].message);
-      result_.log += log.substr(told, files[at].end - told) + Correction(*run[at]);
+      result_.log += WithInput(log.substr(told, files[at].end - told), *run[at], scratch) +
+                     Correction(*run[at]);
       told = files[at].end;
     }
     result_.log += log.substr(told);

@@ -89,6 +89,7 @@ class Converting {
     platform::CatchInterrupts();
     Prepare();
     conversions_ = PlanConversions(arguments_.inputs, wishes_);
+    for (Conversion& conversion : conversions_) conversion.z_up = arguments_.z_up;
     RequireReportApart();
     CheckMapping();
     if (arguments_.dry_run) return ShowPreview();

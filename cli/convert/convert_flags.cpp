@@ -12,7 +12,7 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
   verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
   CLI::Option* output =
       verb.add_option("-o,--output", arguments.output.file,
-                      "The file to write, for one FILE; its name ends in .bvk, which is "
+                      "The BVK file to write, for one FILE; its name ends in .bvk, which is "
                       "added to one without an extension")
           ->check(
               [](const std::string& path) {
@@ -45,6 +45,8 @@ void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
       verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
       [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
       ->needs(offset);
+  AddChoice(verb, "--up", {"y", "z"}, "The axis that the heights in the files lie along (y)",
+            [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
 }
 
 void AddRunFlags(CLI::App& verb, ConvertArguments& arguments) {

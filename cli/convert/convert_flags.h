@@ -25,6 +25,7 @@ struct ConvertArguments {
   ConversionOrder order;
   std::string offset;
   bool offset_in_trc_space = true;
+  bool z_up = false;  // heights lie along Z: files are turned before
   std::size_t jobs = platform::ProcessorCount();
   bool dry_run = false;
   bool json = false;

@@ -18,11 +18,13 @@
 #include "cli/common/plugin_session.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
+#include "cli/common/scratch_copy.h"
 #include "cli/import/hidden_numbers.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/import_summary.h"
 #include "cli/import/key_counts.h"
 #include "cli/import/length_unit.h"
+#include "cli/import/measured_nodes.h"
 #include "cli/import/scene_output.h"
 #include "cli/import/size_wish.h"
 #include "cli/import/told_import.h"
@@ -39,6 +41,10 @@ struct ImportArguments {
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
+  std::optional<ShownTime> time;        // nothing: as the scene has it
+  std::optional<host::GapManner> gaps;  // nothing: they are hidden
+  bool plain = false;                   // a scene for viewers alone
+  bool z_up = false;                    // the heights in the file lie along Z
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
@@ -120,10 +126,14 @@ Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Compla
   return {ExitStatus::kRefused, complaints};
 }
 
-ReportManner ReportMannerOf(const ImportArguments& arguments) {
-  ReportManner manner = arguments.report;
-  manner.only_warnings = arguments.quiet;
-  manner.dry_run = arguments.dry_run;
+host::GapManner GapsOf(const ImportArguments& arguments) {
+  return arguments.gaps.value_or(host::GapManner::kHide);
+}
+
+ImportManner MannerOf(const ImportArguments& arguments) {
+  ImportManner manner{arguments.report, arguments.time, GapsOf(arguments)};
+  manner.report.only_warnings = arguments.quiet;
+  manner.report.dry_run = arguments.dry_run;
   return manner;
 }
 
@@ -146,7 +156,7 @@ class Importing {
       : input_(std::move(input)),
         kind_(kind),
         arguments_(arguments),
-        output_(arguments.output, arguments.force),
+        output_(arguments.output, arguments.force, arguments.plain),
         session_(arguments.module, arguments.settings),
         wishes_(AllWishes(arguments)) {}
 
@@ -156,33 +166,28 @@ class Importing {
     const SelectionMade selection = Select(scene, arguments_.selection);
     Append(selection.complaints, complaints_);
     if (arguments_.report.omitted) Append(ComplainAbout(selection.unknown), complaints_);
-    const ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
+    choices.turned_up = arguments_.z_up;
     const SizeUnits units{scene.MillimetersPerUnit(), choices.scale};
     ConvertSize(wishes_, kind_, units);
-    const ReportManner manner = ReportMannerOf(arguments_);
+    const ImportManner manner = MannerOf(arguments_);
     ToldImport told = TellOfImport({input_, kind_, choices, selection.unknown}, scene, manner);
     Append(told.complaints, complaints_);
     StopIfInterrupted();
     SetKeys keys(scene);
+    const MeasuredNodes measured(scene);
     if (told.application)
       keys.Expect(told.application->KeyedNodes(choices), kind_ == FileKind::kHtr);
     const std::optional<double> chosen_size = ChooseSize(told, units);
-    const bool carried_out = LetPluginImport(choices);
-    if (!carried_out && told.has_errors) {
-      throw NotCarriedOut(manner, told.report, std::move(complaints_));
+    ImportOrRefuse(choices, manner.report, told);
+    scene.SetRecording(std::move(told.recording));
+    if (told.samples) {
+      measured.Tell(GapsOf(arguments_), *told.samples, told.keyed, choices, told.application);
     }
-    if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
-    // The plug-in takes some files that nothing good comes of.
-    if (told.has_errors) {
-      throw RefusedForErrors(manner, told.report, std::move(complaints_),
-                             "--no-report imports it anyway.");
-    }
-    ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
-    file.is_checked = !arguments_.report.omitted;
-    file.keys_set = keys.Count(choices, told.keyed);
+    const std::size_t keys_set = keys.Count(choices, told.keyed);
+    ImportedFile file = Describe(std::move(told));
+    file.keys_set = keys_set;
     file.chosen_size = chosen_size;
-    file.report = std::move(told.report);
-    file.application = std::move(told.application);
     file.warnings = complaints_;
     TellAllowed(arguments_.report, complaints_);
     Warn(std::move(complaints_), arguments_.report.strict);
@@ -200,13 +205,42 @@ class Importing {
     return told.marker_size;
   }
 
-  // Returns whether it was carried out to its end.
-  bool LetPluginImport(const ImportChoices& choices) {
+  // Throws a Failure when the plug-in does not do it, and for errors that it does not see: it takes
+  // some files that nothing good comes of.
+  void ImportOrRefuse(const ImportChoices& choices, const ReportManner& manner,
+                      const ToldImport& told) {
+    const bool carried_out = LetPluginImport(choices, told.turned);
+    if (!carried_out && told.has_errors) {
+      throw NotCarriedOut(manner, told.report, std::move(complaints_));
+    }
+    if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
+    if (!told.has_errors) return;
+    throw RefusedForErrors(manner, told.report, std::move(complaints_),
+                           "--no-report imports it anyway.");
+  }
+
+  ImportedFile Describe(ToldImport told) const {
+    ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
+    file.is_checked = !arguments_.report.omitted;
+    file.is_plain = arguments_.plain;
+    if (told.samples) file.samples = CountSamples(*told.samples, told.keyed);
+    file.gaps = told.gaps;
+    file.report = std::move(told.report);
+    file.application = std::move(told.application);
+    return file;
+  }
+
+  // Of the file, or of these bytes in its place when there are any. Returns whether it was carried
+  // out to its end.
+  bool LetPluginImport(const ImportChoices& choices, const std::string& bytes) {
+    std::optional<ScratchCopy> copy;
+    if (!bytes.empty()) copy.emplace(output_.Folder(), input_, bytes);
     const Interval range = session_.scene().Animation().Range();
     const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
     // Without a word from the user, the host goes by the name.
     const std::string extension = arguments_.kind ? ExtensionOf(*arguments_.kind) : "";
-    const bool carried_out = session_.Import(input_, extension, wishes_, show_progress);
+    const bool carried_out =
+        session_.Import(copy ? copy->Path() : input_, extension, wishes_, show_progress);
     StopIfInterrupted();
     const HiddenNumbers hidden(wishes_, kind_, session_.settings());
     for (const std::string& text : session_.Messages()) {
@@ -237,6 +271,21 @@ void RequireNothingStored(const ImportArguments& arguments) {
                 {{"--dry-run", "the dialog would store what --settings user lets it store", ""}}};
 }
 
+// What is asked of markers alone.
+void RequireForMarkers(const ImportArguments& arguments, FileKind kind) {
+  if (kind == FileKind::kTrc) return;
+  if (arguments.gaps) {
+    throw Failure{ExitStatus::kWrongUsage, {{"--gaps", "a motion file has no gaps", ""}}};
+  }
+  if (arguments.z_up) {
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{"--up z",
+                    "only marker files are turned: the bones of a motion file have axes "
+                    "of their own, which would turn with it",
+                    "Turn the skeleton in the scene."}}};
+  }
+}
+
 std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
   std::vector<std::string> inputs = {input};
   if (!arguments.into.empty()) inputs.push_back(arguments.into);
@@ -247,6 +296,7 @@ ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
   RequireNothingStored(arguments);
   const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  RequireForMarkers(arguments, kind);
   const std::string input = ReadableFile(arguments.input, kind);
   RequireNoInput(arguments.output, {input});
   RequireReportApart(arguments.report, InputsOf(arguments, input), {arguments.output});
@@ -294,7 +344,28 @@ void AddHostFlags(CLI::App& verb, ImportArguments& arguments) {
       ->type_name("PATH");
 }
 
+host::GapManner GapMannerNamed(const std::string& name) {
+  if (name == "hold") return host::GapManner::kHold;
+  return name == "origin" ? host::GapManner::kOrigin : host::GapManner::kHide;
+}
+
+void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddChoice(verb, "--up", {"y", "z"}, "TRC: the axis that the heights in the file lie along (y)",
+            [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
+  AddChoice(verb, "--gaps", {"hide", "hold", "origin"},
+            "TRC: hide markers from viewers where they were not measured, hold them at their last "
+            "places, or show them at the origin (hide)",
+            [&arguments](const std::string& choice) { arguments.gaps = GapMannerNamed(choice); });
+  AddChoice(verb, "--time", {"file", "host"},
+            "Show viewers the rate of the file, or the host's time (file in a new scene)",
+            [&arguments](const std::string& choice) {
+              arguments.time = choice == "file" ? ShownTime::kFile : ShownTime::kHost;
+            });
+}
+
 void AddRunFlags(CLI::App& verb, ImportArguments& arguments) {
+  verb.add_flag("--plain", arguments.plain,
+                "Write a scene for viewers alone, which nothing can be added to or exported from");
   AddChoice(verb, "--settings", {"fresh", "user"},
             "Start from the documented defaults, or from what the user chose last (fresh)",
             [&arguments](const std::string& choice) {
@@ -318,6 +389,7 @@ void AddImportCommand(CLI::App& app, Work& work) {
   AddFileArguments(*verb, *arguments);
   AddImportFlags(*verb, arguments->wishes);
   AddHostFlags(*verb, *arguments);
+  AddViewFlags(*verb, *arguments);
   AddRunFlags(*verb, *arguments);
   verb->callback([arguments, &work] { work = [arguments] { return Import(*arguments); }; });
 }

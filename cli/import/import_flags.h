@@ -38,6 +38,7 @@ struct ImportChoices {
   double scale = 1.0;                  // that lengths are multiplied by
   std::int32_t offset = 0;             // frames that keys are moved by
   std::optional<FrameInterval> range;  // as typed; nothing for all frames
+  bool turned_up = false;              // no dialog asks: heights lie along Z, and are turned before
 
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.

@@ -57,10 +57,25 @@ void WriteSize(JsonWriter& json, const std::optional<double>& chosen_size) {
   }
 }
 
+// Null where there are no samples, as of a motion file.
+void WriteSamples(JsonWriter& json, const ImportedFile& file) {
+  json.Key("samples");
+  if (file.samples.all == 0) return json.Null();
+  json.BeginObject();
+  json.Key("all");
+  json.Integer(file.samples.all);
+  json.Key("missing");
+  json.Integer(file.samples.missing);
+  WriteText(json, "missing_are", NameOf(file.gaps));
+  json.EndObject();
+}
+
 void WriteSceneFile(JsonWriter& json, const ImportedFile& file) {
   WriteText(json, "scene", file.output);
   json.Key("delivered");
   json.Bool(file.is_delivered);
+  json.Key("plain");
+  json.Bool(file.is_plain);
   json.Key("bytes");
   if (file.is_delivered) {
     json.Integer(static_cast<std::int64_t>(file.output_bytes));
@@ -95,6 +110,7 @@ void PrintImportJson(const ImportedFile& file, const host::Scene& scene, std::os
   WriteCount(json, "nodes", scene.NodeCount());
   WriteKeys(json, file, scene);
   WriteTime(json, scene.Animation());
+  WriteSamples(json, file);
   WriteSize(json, file.chosen_size);
   WriteSceneFile(json, file);
   WriteApplication(json, file.application);

@@ -1,5 +1,7 @@
 #include "cli/import/import_summary.h"
 
+#include <array>
+
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
 #include "cli/import/key_counts.h"
@@ -36,11 +38,25 @@ std::string Keys(std::size_t set, const SceneKeys& keys, const host::AnimationSt
 
 std::string SceneFile(const ImportedFile& file) {
   const std::string name = Printable(file.output);
-  return name +
-         (file.is_delivered ? " (" + Count(file.output_bytes) + " bytes)" : " is not written");
+  const std::string kept = file.is_plain ? ", for viewers alone" : "";
+  return name + (file.is_delivered ? " (" + Count(file.output_bytes) + " bytes" + kept + ")"
+                                   : " is not written");
+}
+
+// "4,920".
+std::string Grouped(std::int64_t number) {
+  constexpr std::size_t kGroup = 3;
+  std::string text = FormatInt(number);
+  for (std::size_t at = text.size(); at > kGroup; at -= kGroup) text.insert(at - kGroup, 1, ',');
+  return text;
 }
 
 }  // namespace
+
+const char* NameOf(orvane::ShownGaps gaps) {
+  constexpr std::array kNames = {"hidden", "held", "at the origin"};
+  return kNames[static_cast<std::size_t>(gaps)];
+}
 
 void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std::ostream& out) {
   const std::string keys = Keys(file.keys_set, KeysIn(scene), scene.Animation());
@@ -49,6 +65,10 @@ void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std:
   out << "  Nodes   " << Count(scene.NodeCount()) << '\n'
       << "  Keys    " << keys << '\n'
       << "  Frames  " << Range(scene.Animation()) << '\n';
+  if (file.samples.missing > 0) {
+    out << "  Gaps    " << Grouped(file.samples.missing) << " of " << Grouped(file.samples.all)
+        << " samples missing: " << NameOf(file.gaps) << '\n';
+  }
   if (file.chosen_size) {
     out << "  Size    " << orvane::FormatShortest(*file.chosen_size)
         << " mm, chosen; --size sets it, the dialog's own is 1\n";

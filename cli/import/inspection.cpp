@@ -2,17 +2,21 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/scratch_copy.h"
 #include "cli/import/application.h"
 #include "cli/import/keyed_segments.h"
 #include "formats/htr/reader.h"
 #include "formats/trc/document.h"
+#include "formats/units/units.h"
 #include "host/animation/animation_state.h"
 #include "inspect/check/checked_file.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/rates.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/proportion.h"
+#include "inspect/summary/frame_rate.h"
 #include "inspect/summary/marker_size.h"
+#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -93,6 +97,29 @@ Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::strin
   return {std::move(checked), is_refused};
 }
 
+std::optional<host::Rate> HostRate(const std::optional<orvane::FrameRate>& rate) {
+  if (!rate) return std::nullopt;
+  return host::Rate{rate->numerator, rate->denominator};
+}
+
+std::string NameOfFile(const std::string& file) {
+  return platform::TextOf(platform::PathOf(file).filename());
+}
+
+host::Recording RecordingOf(const orvane::HtrDocument& document, std::string_view bytes,
+                            const std::string& file) {
+  return {HostRate(orvane::FrameRateOfHtr(bytes)), document.GetStartFrame(),
+          std::string(orvane::CalibrationUnitsName(document.GetCalibrationUnits())),
+          NameOfFile(file)};
+}
+
+host::Recording RecordingOf(const orvane::TRCDocument& document, std::string_view bytes,
+                            const std::string& file) {
+  const auto unit = static_cast<std::uint32_t>(document.Units());
+  return {HostRate(orvane::FrameRateOfTrc(bytes)), document.FirstFrame(),
+          std::string(orvane::CalibrationUnitsName(unit)), NameOfFile(file)};
+}
+
 using Codes = std::vector<std::string_view>;
 
 class Inspecting {
@@ -106,15 +133,34 @@ class Inspecting {
     Document document;
     Read read = ReadInto(document, file_, bytes, is_checked);
     result_.checked = std::move(read.checked);
+    if (!read.is_refused && choices_.turned_up) Turn(bytes, document);
     if (!read.is_refused) {
+      result_.recording = RecordingOf(document, bytes, file_);
+      result_.recording->turned_up = choices_.turned_up;
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
+      result_.samples = SamplesIn(document);
       if (!choices_.apply) result_.marker_size = SizeFor(document);
     }
     return std::move(result_);
   }
 
  private:
+  // What is odd has been looked for in the file as it is.
+  void Turn(std::string_view /*bytes*/, orvane::HtrDocument& /*document*/) {}
+  void Turn(std::string_view bytes, orvane::TRCDocument& document) {
+    result_.turned = TurnedUp(file_, bytes);
+    // As the reader takes the file, it takes it turned.
+    (void)document.ReadBytes(result_.turned, false);
+  }
+
+  static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {
+    return {};
+  }
+  static std::optional<MarkerSamples> SamplesIn(const orvane::TRCDocument& document) {
+    return SamplesOf(document);
+  }
+
   static std::optional<double> SizeFor(const orvane::HtrDocument& /*document*/) { return {}; }
 
   [[nodiscard]] std::optional<double> SizeFor(const orvane::TRCDocument& document) const {

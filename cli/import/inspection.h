@@ -8,6 +8,8 @@
 #include "cli/common/file_kind.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/imported_frames.h"
+#include "cli/import/marker_gaps.h"
+#include "host/scene/recording.h"
 #include "host/scene/scene.h"
 #include "inspect/check/checked_file.h"
 #include "inspect/report/apply_plan.h"
@@ -31,6 +33,9 @@ struct Inspection {
   ImportedFrames frames;
   // The names in the file, when it can be read and they are applied to a scene.
   std::optional<orvane::AppliedFile> applied{};
+  std::optional<host::Recording> recording{};  // by the file; nothing when it cannot be read
+  std::string turned{};                        // the bytes to import, when they are turned
+  std::optional<MarkerSamples> samples{};      // of a marker file
   // The size in millimeters that fits the markers, when new ones are made.
   std::optional<double> marker_size{};
 };

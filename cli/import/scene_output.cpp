@@ -23,21 +23,21 @@ std::string Extension(const std::string& path) {
   return extension;
 }
 
-host::gltf::WriteOptions OptionsFor(const std::string& path) {
+host::gltf::WriteOptions OptionsFor(const std::string& path, bool plain) {
   const Container container = Extension(path) == ".gltf" ? Container::kText : Container::kBinary;
-  return {container, platform::TextOf(platform::PathOf(path).stem())};
+  return {container, platform::TextOf(platform::PathOf(path).stem()), plain};
 }
 
 }  // namespace
 
-SceneOutput::SceneOutput(std::string path, bool replace)
-    : path_(std::move(path)), file_(path_, replace) {
+SceneOutput::SceneOutput(std::string path, bool replace, bool plain)
+    : path_(std::move(path)), plain_(plain), file_(path_, replace) {
   const std::string reason = file_.WhyImpossible();
   if (!reason.empty()) throw CannotWrite(reason);
 }
 
 std::size_t SceneOutput::Deliver(const host::Scene& scene, const std::string& source) {
-  const host::gltf::WrittenScene written = host::gltf::WriteScene(scene, OptionsFor(path_));
+  const host::gltf::WrittenScene written = host::gltf::WriteScene(scene, OptionsFor(path_, plain_));
   if (!written.refusal.empty()) {
     throw Failure{ExitStatus::kRefused, {ComplainAbout(source, written.refusal)}};
   }

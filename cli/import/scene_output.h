@@ -13,7 +13,11 @@ namespace cli {
 class SceneOutput {
  public:
   // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set.
-  SceneOutput(std::string path, bool replace);
+  // A `plain` one is for viewers alone: no scene can be read back from it.
+  SceneOutput(std::string path, bool replace, bool plain = false);
+
+  // The folder that the file is to lie in.
+  [[nodiscard]] std::string Folder() const { return file_.Folder(); }
 
   // Writes `scene` as glTF: as text to a name that ends in ".gltf", in binary otherwise. Throws a
   // Failure when the scene cannot be written (`source` is the file that it came from), when the
@@ -25,6 +29,7 @@ class SceneOutput {
   [[nodiscard]] Failure CannotWrite(const std::string& reason) const;
 
   std::string path_;
+  bool plain_;
   platform::OutputFile file_;
 };
 

@@ -5,6 +5,7 @@
 
 #include "cli/import/asked_frames.h"
 #include "cli/import/inspection.h"
+#include "cli/import/measured_nodes.h"
 #include "inspect/report/frame_check.h"
 
 namespace cli {
@@ -16,8 +17,10 @@ using orvane::CheckedFile;
 using orvane::FileReport;
 
 ApplyCircumstances HowApplied(const ImportedFrames& frames, FileKind kind,
-                              const ImportChoices& choices, const host::Scene& scene) {
+                              const ImportChoices& choices, const host::Scene& scene,
+                              const std::optional<orvane::TimeChange>& change) {
   ApplyCircumstances how;
+  how.time_change = change;
   how.selected_only = choices.selected_only;
   how.first_frame = frames.announced.first;
   if (!choices.animation) return how;
@@ -37,14 +40,15 @@ bool IsOfOtherKind(const FileReport& report) {
 // What is found in the file and the scene together.
 FileReport ReportOnScene(const CheckedFile& checked, const ImportedFrames& frames,
                          const ImportOrder& order, const host::Scene& scene,
+                         const std::optional<orvane::TimeChange>& change,
                          const std::optional<Application>& application) {
   const Action action = order.choices.apply ? Action::kApply : Action::kImport;
-  const ApplyCircumstances how = HowApplied(frames, order.kind, order.choices, scene);
+  const ApplyCircumstances how = HowApplied(frames, order.kind, order.choices, scene, change);
   const std::string& name = checked.file;
   const std::string_view kind = checked.kind;
   FileReport report = ReportOn(application ? CheckApply(name, kind, application->file,
                                                         application->scene, application->plan, how)
-                                           : CheckRange(name, kind, how),
+                                           : CheckTimes(name, kind, how),
                                action);
   report.Take(ReportOn(
       CheckFrames(name, kind, CircumstancesOf(frames, order.choices, order.kind, scene)), action));
@@ -59,27 +63,51 @@ FileReport ReportOnSelection(const CheckedFile& checked, const ImportOrder& orde
                   action);
 }
 
-}  // namespace
-
-ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
-                        const ReportManner& manner) {
+// What the import will make of what was seen of the file, and what is to be told of it; of the file
+// and the scene together in `of_scene`, too.
+ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host::Scene& scene,
+                   const ImportManner& manner, FileReport& of_scene) {
   const ImportChoices& choices = order.choices;
-  Inspection inspection =
-      Inspect(order.file, order.kind, choices, scene, kImportLess, !manner.omitted);
   ToldImport told;
-  told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
-                         {choices.frame_rate_from_file, inspection.asked});
+  SceneTime time;
+  if (inspection.recording) {
+    time = PlanTime(*inspection.recording, inspection.frames.rate, choices, scene, manner.time);
+  }
+  told.recording = std::move(time.recording);
   told.keyed = inspection.frames.keyed;
   told.marker_size = inspection.marker_size;
+  told.samples = std::move(inspection.samples);
+  told.turned = std::move(inspection.turned);
   if (inspection.applied) {
     told.application = Apply(std::move(*inspection.applied), order.kind, scene);
   }
-  FileReport of_scene;
-  if (!manner.omitted && !inspection.refusal) {
-    of_scene = ReportOnScene(inspection.checked, inspection.frames, order, scene, told.application);
+  if (told.samples) {
+    told.gaps = ShowGaps(manner.gaps, *told.samples, told.keyed, choices, told.application);
+  }
+  told.report = ReportOn(inspection.checked, choices.apply ? Action::kApply : Action::kImport,
+                         {.rate = choices.frame_rate_from_file,
+                          .own_time = time.is_own,
+                          .frames = inspection.asked,
+                          .gaps = told.gaps});
+  if (choices.turned_up) told.report = told.report.Without("trc-up-axis");
+  if (!manner.report.omitted && !inspection.refusal) {
+    of_scene = ReportOnScene(inspection.checked, inspection.frames, order, scene, time.change,
+                             told.application);
     of_scene.Take(ReportOnSelection(inspection.checked, order, scene));
     told.report.Take(of_scene);
   }
+  return told;
+}
+
+}  // namespace
+
+ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
+                        const ImportManner& wishes) {
+  const ReportManner& manner = wishes.report;
+  Inspection inspection =
+      Inspect(order.file, order.kind, order.choices, scene, kImportLess, !manner.omitted);
+  FileReport of_scene;
+  ToldImport told = Foresee(inspection, order, scene, wishes, of_scene);
   WriteReportFile({told.report}, manner);
   if (inspection.refusal) {
     for (const std::string_view code : inspection.refused_codes) {

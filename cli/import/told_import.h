@@ -9,6 +9,9 @@
 #include "cli/common/report_flags.h"
 #include "cli/import/application.h"
 #include "cli/import/import_flags.h"
+#include "cli/import/marker_gaps.h"
+#include "cli/import/scene_time.h"
+#include "host/scene/measured.h"
 #include "host/scene/scene.h"
 #include "inspect/report/report.h"
 #include "inspect/report/selection_check.h"
@@ -19,11 +22,22 @@ namespace cli {
 
 struct ToldImport {
   orvane::FileReport report;
-  bool has_errors = false;                   // though the plug-in may take the file
-  std::vector<Complaint> complaints;         // of the file and the scene together, not told yet
-  FrameInterval keyed;                       // the frames of the file that get keys
-  std::optional<Application> application{};  // when it is applied to nodes that are there
-  std::optional<double> marker_size{};       // in millimeters, that fits the markers which it makes
+  bool has_errors = false;            // though the plug-in may take the file
+  std::vector<Complaint> complaints;  // of the file and the scene together, not told yet
+  FrameInterval keyed;                // the frames of the file that get keys
+  std::string turned;                 // the bytes to import, when they are not those of the file
+  std::optional<MarkerSamples> samples{};      // of a marker file
+  orvane::ShownGaps gaps{};                    // what viewers are shown of the missing ones
+  std::optional<Application> application{};    // when it is applied to nodes that are there
+  std::optional<host::Recording> recording{};  // of the scene, when the import is done
+  std::optional<double> marker_size{};  // in millimeters, that fits the markers which it makes
+};
+
+// What the user has said that no dialog asks for.
+struct ImportManner {
+  ReportManner report;
+  std::optional<ShownTime> time{};
+  host::GapManner gaps = host::GapManner::kHide;
 };
 
 // What is imported, and how.
@@ -38,6 +52,6 @@ struct ImportOrder {
 // finding that says the same as a refusal is left to that. Throws a Failure when nothing is to be
 // imported.
 [[nodiscard]] ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
-                                      const ReportManner& manner);
+                                      const ImportManner& manner);
 
 }  // namespace cli

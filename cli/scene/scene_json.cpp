@@ -1,3 +1,4 @@
+#include <array>
 #include <unordered_map>
 
 #include "cli/common/json_writer.h"
@@ -19,6 +20,9 @@ class SceneJson {
 
  private:
   void WriteTime(const host::AnimationState& animation);
+  void WriteRecording(const std::optional<host::Recording>& recording);
+  void WriteMeasurement(const std::optional<host::Measured>& measured);
+  void WriteIntegers(std::int64_t first, std::int64_t second);
   void WriteMode(const char* key, const host::SuspendableMode& mode);
   void WriteSelection(const host::Scene& scene, const std::vector<SceneTreeEntry>& tree);
   void WriteNode(const SceneTreeEntry& entry, std::size_t index, TimeValue time);
@@ -55,6 +59,7 @@ void SceneJson::Write(const std::string& file, const host::Scene& scene) {
   json_.Key("millimeters_per_unit");
   json_.Number(scene.MillimetersPerUnit());
   WriteTime(scene.Animation());
+  WriteRecording(scene.Recording());
   WriteSelection(scene, tree);
   json_.Key("nodes");
   json_.BeginArray(Layout::kLines);
@@ -67,13 +72,53 @@ void SceneJson::WriteTime(const host::AnimationState& animation) {
   WriteInteger("frame_rate", animation.FrameRate());
   WriteInteger("ticks_per_frame", animation.TicksPerFrame());
   json_.Key("range");
-  json_.BeginArray(Layout::kOneLine);
-  json_.Integer(animation.Range().Start());
-  json_.Integer(animation.Range().End());
-  json_.EndArray();
+  WriteIntegers(animation.Range().Start(), animation.Range().End());
   WriteInteger("time", animation.Time());
   WriteMode("animate_mode", animation.AnimateMode());
   WriteMode("set_key_mode", animation.SetKeyMode());
+}
+
+void SceneJson::WriteIntegers(std::int64_t first, std::int64_t second) {
+  json_.BeginArray(Layout::kOneLine);
+  json_.Integer(first);
+  json_.Integer(second);
+  json_.EndArray();
+}
+
+void SceneJson::WriteRecording(const std::optional<host::Recording>& recording) {
+  json_.Key("recording");
+  if (!recording) return json_.Null();
+  json_.BeginObject();
+  json_.Key("rate");
+  if (recording->rate) {
+    WriteIntegers(recording->rate->numerator, recording->rate->denominator);
+  } else {
+    json_.Null();
+  }
+  WriteInteger("first_frame", recording->first_frame);
+  json_.Key("unit");
+  json_.String(recording->unit);
+  json_.Key("source");
+  json_.String(recording->source);
+  json_.Key("turned_up");
+  json_.Bool(recording->turned_up);
+  json_.EndObject();
+}
+
+void SceneJson::WriteMeasurement(const std::optional<host::Measured>& measured) {
+  constexpr std::array kManners = {"hide", "hold", "origin"};
+  json_.Key("measured");
+  if (!measured) return json_.Null();
+  json_.BeginObject();
+  json_.Key("made_by_import");
+  json_.Bool(measured->made_by_import);
+  json_.Key("gap_manner");
+  json_.String(kManners[static_cast<std::size_t>(measured->manner)]);
+  json_.Key("gaps");
+  json_.BeginArray(Layout::kLines);
+  for (const host::Gap& gap : measured->gaps) WriteIntegers(gap.first, gap.last);
+  json_.EndArray();
+  json_.EndObject();
 }
 
 void SceneJson::WriteMode(const char* key, const host::SuspendableMode& mode) {
@@ -114,6 +159,7 @@ void SceneJson::WriteNode(const SceneTreeEntry& entry, std::size_t index, TimeVa
   WriteController("position", "linear", transform.Position(), time);
   WriteController("rotation", transform.Rotation().KindName(), transform.Rotation(), time);
   WriteController("scale", "linear", transform.Scale(), time);
+  WriteMeasurement(node.Measurement());
   json_.EndObject();
 }
 

@@ -18,6 +18,24 @@ std::string Count(std::size_t number) { return FormatInt(static_cast<std::int64_
 
 std::string Times(std::size_t number) { return Counted(static_cast<std::int64_t>(number), "time"); }
 
+// "59.94 (2997/50) frames per second".
+std::string RateText(const std::optional<host::Rate>& rate) {
+  if (!rate) return "the host's time";
+  const auto& [numerator, denominator] = *rate;
+  const std::string text =
+      orvane::FormatShortest(static_cast<double>(numerator) / static_cast<double>(denominator));
+  const std::string fraction =
+      denominator == 1 ? "" : " (" + FormatInt(numerator) + "/" + FormatInt(denominator) + ")";
+  return text + fraction + " frames per second";
+}
+
+void PrintRecording(const host::Recording& recording, std::ostream& out) {
+  out << "  Recording   " << Printable(recording.source) << ", in " << Printable(recording.unit)
+      << (recording.turned_up ? ", turned to Y up" : "") << ", from frame "
+      << FormatInt(recording.first_frame) << " on; viewers are shown " << RateText(recording.rate)
+      << '\n';
+}
+
 void PrintHeader(const host::Scene& scene, std::ostream& out) {
   const host::AnimationState& animation = scene.Animation();
   out << "  Nodes       " << Count(scene.NodeCount()) << '\n'
@@ -29,6 +47,7 @@ void PrintHeader(const host::Scene& scene, std::ostream& out) {
       << "  Time        tick " << FormatInt(animation.Time()) << '\n'
       << "  Suspended   animate mode " << Times(animation.AnimateMode().SuspendDepth())
       << ", set-key mode " << Times(animation.SetKeyMode().SuspendDepth()) << '\n';
+  if (scene.Recording()) PrintRecording(*scene.Recording(), out);
 }
 
 std::string Keys(const host::Node& node) {
@@ -44,11 +63,17 @@ std::string Keys(const host::Node& node) {
   return keys;
 }
 
+std::string Gaps(const host::Node& node) {
+  const std::size_t count = node.Measurement() ? node.Measurement()->gaps.size() : 0;
+  if (count == 0) return "";
+  return "; " + Count(count) + (count == 1 ? " gap" : " gaps");
+}
+
 std::string Line(const SceneTreeEntry& entry, bool selected) {
   const host::Node& node = *entry.node;
   std::string line(2 * std::min(entry.depth, kDeepestIndent), ' ');
   line += Printable(node.Name()) + " (" + node.ShownObject()->KindName() + ", " +
-          node.Transform()->Rotation().KindName() + Keys(node) + ")";
+          node.Transform()->Rotation().KindName() + Keys(node) + Gaps(node) + ")";
   if (entry.depth > kDeepestIndent) line += " at depth " + Count(entry.depth);
   if (selected) line += " selected";
   return line;

@@ -25,7 +25,8 @@ Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWo
           std::move(words.found),
           std::move(words.expected),
           std::move(words.effect),
-          std::move(words.when_converted)};
+          std::move(words.when_converted),
+          std::move(words.in_scene)};
 }
 
 }  // namespace

@@ -54,6 +54,8 @@ struct FindingWords {
   std::string expected;
   std::string effect;            // what the import makes of it
   std::string when_converted{};  // what a conversion does; empty when that is the same
+  // What a scene makes of it, where that is more than one can see in the file; may be empty.
+  std::string in_scene{};
 };
 
 struct Finding {
@@ -64,6 +66,7 @@ struct Finding {
   std::string expected;
   std::string effect;
   std::string when_converted;
+  std::string in_scene;
 };
 
 // Counts all findings and keeps the first ones of every rule, so that a file with an oddity in

@@ -107,8 +107,10 @@ void HtrFindingsObserver::AddKeyword(const HtrCell& keyword) {
 
 void HtrFindingsObserver::AddRateCut(const HtrCell& rate) {
   findings_.Add(Rule("htr-rate-cut"), rate, [&rate] {
-    return FindingWords{Quote(rate.text), "a whole number for DataFrameRate",
-                        EffectOfCutRate(rate.text)};
+    return FindingWords{.found = Quote(rate.text),
+                        .expected = "a whole number for DataFrameRate",
+                        .effect = EffectOfCutRate(rate.text),
+                        .in_scene = EffectOfRateInHost(rate.text)};
   });
 }
 
@@ -207,9 +209,14 @@ void HtrFindingsObserver::CheckGravity(const HtrCell& value) {
 }
 
 void HtrFindingsObserver::CheckRate(const HtrCell& value) {
-  if (IsRate(ParseInt(value.text))) return;
-  findings_.Add(Rule("htr-rate-out-of-range"), value,
-                [&value] { return WordsOfRateOutOfRange(value.text); });
+  const std::int32_t rate = ParseInt(value.text);
+  if (!IsRate(rate)) {
+    return findings_.Add(Rule("htr-rate-out-of-range"), value,
+                         [&value] { return WordsOfRateOutOfRange(value.text); });
+  }
+  if (LastsWholeTicks(rate) || FaultOfWholeNumber(value.text) != NumberFault::kNone) return;
+  findings_.Add(Rule("htr-rate-inexact"), value,
+                [&value] { return WordsOfInexactRate(value.text); });
 }
 
 void HtrFindingsObserver::OnSegment(const HtrCell& name, const HtrCell& parent) {

@@ -52,6 +52,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-axis-ignored", FindingSeverity::kWarning},
     {"htr-rate-cut", FindingSeverity::kWarning},
     {"htr-rate-out-of-range", FindingSeverity::kWarning},
+    {"htr-rate-inexact", FindingSeverity::kNote},
     {"htr-scale-factor", FindingSeverity::kWarning},
 
     // Numbers

@@ -4,6 +4,7 @@
 #include <string>
 #include <utility>
 
+#include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/units/units.h"
@@ -14,6 +15,8 @@
 
 namespace orvane::trc {
 namespace {
+
+constexpr std::size_t kDataRateField = 1;
 
 std::string WhereFieldsBelong(std::string_view line) {
   if (line.find(',') != std::string_view::npos) return "tabs between fields, not commas";
@@ -33,6 +36,8 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
     case TRCOddity::kUnknownPathType:
       if (LacksTabs(place)) return;  // from which it follows
       break;
+    case TRCOddity::kRateTruncated:
+      return AddRateCut(place, text);
     case TRCOddity::kUnknownFileType:
       file_type_ = text;
       return;
@@ -133,8 +138,26 @@ void TrcFindingsObserver::CheckFileType(TRCPlace path_type) {
 }
 
 void TrcFindingsObserver::CheckRate(TRCPlace place, std::string_view rate) {
-  if (IsRate(ParseInt(rate))) return;
-  findings_.Add(Rule("trc-rate-out-of-range"), place, WordsOfRateOutOfRange(rate));
+  const std::string_view cell = TrimTrailingSeparators(SkipSeparators(rate));
+  if (!IsRate(ParseInt(rate))) {
+    return findings_.Add(Rule("trc-rate-out-of-range"), place, WordsOfRateOutOfRange(rate));
+  }
+  if (LastsWholeTicks(ParseInt(rate)) || FaultOfWholeNumber(cell) != NumberFault::kNone) return;
+  findings_.Add(Rule("trc-rate-inexact"), place, WordsOfInexactRate(cell));
+}
+
+void TrcFindingsObserver::AddRateCut(TRCPlace place, std::string_view rate) {
+  if (place.field == kDataRateField) {
+    return findings_.Add(Rule("trc-rate-cut"), place,
+                         {.found = Quote(rate),
+                          .expected = "a whole number",
+                          .effect = EffectOfCutRate(rate),
+                          .in_scene = EffectOfRateInHost(rate)});
+  }
+  findings_.Add(
+      Rule("trc-camera-rate-cut"), place,
+      {Quote(rate), "a whole number",
+       FormatInt(ParseInt(rate)) + " is taken: nothing depends on it; a converted file tells it."});
 }
 
 void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate) {

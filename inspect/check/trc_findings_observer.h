@@ -41,6 +41,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
   void AddRefusal(TRCPlace place, std::string_view coordinates);
   void AddUnknownUnit(TRCPlace place, std::string_view unit);
   void AddRepeatedName(TRCPlace place, std::string_view name);
+  void AddRateCut(TRCPlace place, std::string_view rate);
   void CheckFileType(TRCPlace path_type);
   void CheckName(TRCPlace place, std::string_view name);
   void CheckRate(TRCPlace place, std::string_view rate);

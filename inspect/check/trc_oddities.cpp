@@ -7,7 +7,6 @@
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "inspect/check/oddity_table.h"
-#include "inspect/check/rates.h"
 #include "inspect/check/trc_rules.h"
 
 namespace orvane::trc {
@@ -33,8 +32,6 @@ std::string TakenNumber(const MetTrcOddity& met) {
   if (FitsSinglePrecision(value)) return FormatShortest(value) + " is taken.";
   return "It is taken as infinite: a scene that it gets into cannot be saved.";
 }
-
-std::string TakenRate(const MetTrcOddity& met) { return EffectOfCutRate(met.text); }
 
 std::string MarkersHeld(const MetTrcOddity& met) { return CountOf(met.markers, "marker"); }
 
@@ -82,7 +79,6 @@ constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetTrcOddity>>({
     // Header
     {TRCOddity::kUnknownPathType, Rule("trc-path-type-unknown"), Quoted, "3 or 4",
      "The first frame is number 1."},
-    {TRCOddity::kRateTruncated, Rule("trc-rate-cut"), Quoted, "a whole number", TakenRate},
     {TRCOddity::kUnknownUnits, Rule("trc-unit-unknown"), Quoted,
      "mm, cm, m, in, ft or yd, or the same in capitals, and a tab", "Millimeters are taken."},
     {TRCOddity::kUnitsEndTheLine, Rule("trc-unit-ends-line"), Quoted, "a tab behind the unit",

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "formats/text/numbers.h"
+#include "inspect/check/rates.h"
 #include "inspect/compare/motion_comparison.h"
 #include "inspect/report/apply_rules.h"
 
@@ -109,6 +110,18 @@ class ApplyCheck {
             from + ", and those behind it follow.");
   }
 
+  void CheckTimeChange(const ApplyCircumstances& how) {
+    if (!how.time_change || how.time_change->host_rate == how.time_change->scene_rate) return;
+    const TimeChange& change = *how.time_change;
+    constexpr double kMinute = 60.0;
+    const double minute = kMinute * change.scene_rate / change.host_rate;
+    Add(FindRule(apply::kRules, "apply-scene-time"), FormatShortest(change.scene_rate),
+        change.file_rate ? "the file has " + FormatShortest(*change.file_rate)
+                         : std::string("the host's time is asked for"),
+        "All of the scene goes by the host's time: a minute of what was there lasts " +
+            TellApart(minute, kMinute) + " s.");
+  }
+
   CheckedFile Finish() { return std::move(checked_); }
 
  private:
@@ -199,13 +212,15 @@ CheckedFile CheckApply(const std::string& name, std::string_view kind, const App
   check.CompareAll(file, scene, plan);
   if (!plan.pairs.empty()) check.CompareRates(how);
   check.CheckRange(how);
+  check.CheckTimeChange(how);
   return check.Finish();
 }
 
-CheckedFile CheckRange(const std::string& name, std::string_view kind,
+CheckedFile CheckTimes(const std::string& name, std::string_view kind,
                        const ApplyCircumstances& how) {
   ApplyCheck check(name, kind);
   check.CheckRange(how);
+  check.CheckTimeChange(how);
   return check.Finish();
 }
 

@@ -35,6 +35,15 @@ struct BoneDifference {
 // "12.5 mm", "3.2 degrees" or "12.5 mm and 3.2 degrees".
 [[nodiscard]] std::string Describe(const BoneDifference& difference);
 
+// The motion that is in a scene no longer plays at its own rate, in frames per second, but by the
+// host's time.
+struct TimeChange {
+  double scene_rate = 0.0;  // its own
+  double host_rate = 0.0;   // what that is in the host
+  std::optional<double>
+      file_rate{};  // which does not go with it; nothing when the host's is wished
+};
+
 // How a file is applied, or imported.
 struct ApplyCircumstances {
   bool selected_only = false;                // markers make no objects
@@ -42,6 +51,7 @@ struct ApplyCircumstances {
   std::int32_t scene_rate = 0;               // of the scene as it will be
   std::int64_t first_frame = 1;              // the number of the file's first frame
   std::optional<std::int64_t> range_from{};  // of a motion file, where the range begins
+  std::optional<TimeChange> time_change{};
 };
 
 // The findings of the codes "apply-...", of the file known as `name` of that `kind`.
@@ -50,7 +60,7 @@ struct ApplyCircumstances {
                                      const ApplyPlan& plan, const ApplyCircumstances& how);
 
 // Those of them that are met where new nodes are made, too.
-[[nodiscard]] CheckedFile CheckRange(const std::string& name, std::string_view kind,
+[[nodiscard]] CheckedFile CheckTimes(const std::string& name, std::string_view kind,
                                      const ApplyCircumstances& how);
 
 }  // namespace orvane

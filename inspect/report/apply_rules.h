@@ -24,6 +24,7 @@ inline constexpr std::array kRules = {
     FindingRule{"apply-range-partly", FindingSeverity::kWarning},
     FindingRule{"apply-keys-outside-range", FindingSeverity::kWarning},
     FindingRule{"apply-range-shortened", FindingSeverity::kWarning},
+    FindingRule{"apply-scene-time", FindingSeverity::kWarning},
 };
 
 }  // namespace orvane::apply

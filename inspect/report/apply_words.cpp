@@ -41,6 +41,8 @@ constexpr FindingMeaning kWords[] = {
     {"apply-rate-differs",
      "There are {found} frames per second in the file, {expected} in the scene", nullptr,
      Applied(kWarning)},
+    {"apply-scene-time", "Viewers are shown {found} frames per second of the scene, and {expected}",
+     nullptr, Imported(kWarning)},
     {"apply-range-moves", "--range begins in frame {found}, and the file in frame {expected}",
      nullptr, Imported(kWarning)},
     {"apply-range-partly",

@@ -17,8 +17,8 @@ namespace orvane {
 struct FindingEffect {
   // Nothing when the action never meets the code, or nothing is told of it there.
   std::optional<FindingSeverity> severity;
-  // One sentence, with {found} and {expected} as in a cause; null for the one that the check has
-  // written for this finding.
+  // One sentence, with {found} and {expected} as in a cause, and {scene} for what the check has
+  // written of scenes; null for the one that it has written for this finding.
   const char* consequence = nullptr;
 };
 
@@ -67,11 +67,25 @@ constexpr FindingEffects InMappings(FindingSeverity severity, const char* conseq
 enum class Concern {
   kFile,     // what every action asks for
   kRate,     // the frame rate
+  kTime,     // what the host's time makes of the frame rate, where viewers may be told it
   kFrames,   // frames that are announced and not there, or the other way round
   kExcess,   // far more frames announced than are there
   kMarkers,  // that no marker is left
   kSamples,  // of a marker that may be dropped
 };
+
+// Of a rate that viewers are told, and the host's time does not hold.
+inline constexpr char kShownOwnRate[] = "{scene} Viewers play the rate of the file.";
+
+// Such a rate: the file may be looked at as it is; what it is applied to keeps the host's time.
+constexpr FindingEffects InTime(const FindingEffects& others) {
+  return others.But(Action::kImport, FindingSeverity::kNote, kShownOwnRate)
+      .But(Action::kApply, FindingSeverity::kWarning, "{scene}");
+}
+
+// How a code stands to an action that puts a file into a scene, by what viewers are shown of gaps:
+// hidden, held, at the origin.
+using GapEffects = std::array<FindingEffect, 3>;
 
 struct FindingMeaning {
   std::string_view code;
@@ -81,6 +95,7 @@ struct FindingMeaning {
   const char* many;  // null for a code that one file has once at most
   FindingEffects effects;
   Concern concern = Concern::kFile;
+  const GapEffects* by_gaps = nullptr;  // in the place of the effects, where that is said
 };
 
 // Those of all codes, by kind of file.

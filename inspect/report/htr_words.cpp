@@ -94,7 +94,9 @@ constexpr FindingMeaning kWords[] = {
      InMotion(kWarning, "Y is taken for up all the same: the skeleton will lie down.")
          .But(Action::kInspect, kWarning, "Y is taken for up all the same.")},
     {"htr-rate-cut", "The frame rate has a fraction", "Frame rates have fractions",
-     InMotion(kWarning), Concern::kRate},
+     InTime(InMotion(kWarning)), Concern::kTime},
+    {"htr-rate-inexact", "The host has no such frame rate", "The host has no such frame rates",
+     InTime(InMotion(kNote, "It is shown as it is.")), Concern::kTime},
     {"htr-rate-out-of-range", "There is no such frame rate", "There are no such frame rates",
      InMotion(kWarning).But(Action::kInspect, kWarning, "It is shown as it is."), Concern::kRate},
     {"htr-scale-factor", "ScaleFactor is not 1", nullptr,

@@ -55,6 +55,7 @@ bool TellsWhatIsFound(const FindingMeaning& words, std::size_t count) {
 std::string Filled(std::string text, const Finding& finding) {
   ReplaceAll(text, "{found}", Shortened(finding.found));
   ReplaceAll(text, "{expected}", Shortened(finding.expected));
+  ReplaceAll(text, "{scene}", finding.in_scene);
   return text;
 }
 
@@ -82,10 +83,18 @@ std::string Joined(const std::vector<std::string>& effects, Concern concern, Ask
   return text + " --range FROM:TO leaves them out.";
 }
 
+// What is made of a rate that the host's time does not hold.
+FindingEffect EffectInTime(bool is_own_time) {
+  if (is_own_time) return {FindingSeverity::kNote, kShownOwnRate};
+  return {FindingSeverity::kWarning, "{scene}"};
+}
+
 FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionOptions& options) {
-  if (words.concern == Concern::kRate && !options.rate) {
+  const bool is_of_rate = words.concern == Concern::kRate || words.concern == Concern::kTime;
+  if (is_of_rate && !options.rate) {
     return {FindingSeverity::kNote, "The frame rate of the file is not asked for."};
   }
+  if (words.concern == Concern::kTime && options.own_time) return EffectInTime(*options.own_time);
   if (IsOfFrames(words.concern) && options.frames == AskedFrames::kHeld) {
     return {FindingSeverity::kNote, "Only frames that are there are asked for."};
   }
@@ -97,6 +106,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   }
   if (words.concern == Concern::kSamples && !options.all_markers) {
     return {words.effects[action].severity, "Where such a marker is kept, DROPOUT is written."};
+  }
+  if (words.by_gaps != nullptr && options.gaps) {
+    return (*words.by_gaps)[static_cast<std::size_t>(*options.gaps)];
   }
   return words.effects[action];
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -49,12 +50,22 @@ enum class AskedFrames {
   kHeld,       // none but those that are there
 };
 
-// What of the file the action asks for.
+// How viewers are shown the samples that a marker file does not have.
+enum class ShownGaps {
+  kHidden,
+  kHeld,  // at the last place that is there
+  kAtOrigin,
+};
+
+// What of the file the action asks for, and what it shows of it.
 struct ActionOptions {
   bool rate = true;  // its frame rate
+  // Whether viewers are shown its own rate, and not the host's; nothing when nobody has said.
+  std::optional<bool> own_time{};
   AskedFrames frames = AskedFrames::kAnnounced;
-  bool markers = true;      // at least one marker
-  bool all_markers = true;  // every marker: none is dropped
+  bool markers = true;              // at least one marker
+  bool all_markers = true;          // every marker: none is dropped
+  std::optional<ShownGaps> gaps{};  // nothing when nobody has said
 };
 
 // What the findings of `checked` mean to `action`. What is wrong with something that is not asked

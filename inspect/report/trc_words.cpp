@@ -5,6 +5,28 @@ namespace {
 
 using enum FindingSeverity;
 
+// By what viewers are shown of them; the host has keys at the origin in any case.
+constexpr GapEffects kShownGaps = {
+    {{kNote,
+      "Viewers do not see such a marker in its gaps; in the host its keys go to the origin."},
+     {kWarning,
+      "In its gaps viewers see such a marker at its last place; in the host its keys go to the "
+      "origin."},
+     {kWarning, "In its gaps such a marker goes to the origin."}}};
+constexpr GapEffects kShownWithoutPosition = {
+    {{kNote, "Viewers never see such a marker; in the host its keys are at the origin."},
+     {kWarning,
+      "There is no place to hold such a marker at: a new one is not seen by viewers, and another "
+      "keeps its place; in the host its keys are at the origin."},
+     {kWarning, "Such a marker stays at the origin."}}};
+
+// New nodes are hidden, and those that are there held, unless something else is said.
+constexpr FindingEffects InGaps(const GapEffects& effects) {
+  return InMarkers(kWarning)
+      .But(Action::kImport, kNote, effects[0].consequence)
+      .But(Action::kApply, kWarning, effects[1].consequence);
+}
+
 constexpr FindingMeaning kWords[] = {
     {"trc-other-kind", "The file is {found}, not {expected}", nullptr, InMarkers(kError)},
     {"trc-empty", "The file is empty", nullptr,
@@ -39,13 +61,19 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
      InMarkers(kError, "The file is refused.")},
-    {"trc-rate-cut", "A rate has a fraction", "{count} rates have fractions", InMarkers(kWarning),
-     Concern::kRate},
+    {"trc-rate-cut", "The frame rate has a fraction", nullptr, InTime(InMarkers(kWarning)),
+     Concern::kTime},
     {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
      InMarkers(kWarning)
          .But(Action::kInspect, kWarning, "It is shown as it is.")
          .But(Action::kConvert, kNote, "The converted file has it as it is."),
      Concern::kRate},
+    {"trc-rate-inexact", "The host has no such frame rate", nullptr,
+     InTime(InMotion(kNote, "It is shown as it is.")), Concern::kTime},
+    {"trc-camera-rate-cut", "The rate of the cameras has a fraction", nullptr,
+     InMarkers(kNote, "Nothing depends on it.")
+         .But(Action::kInspect, kWarning, "Its whole part is shown.")
+         .But(Action::kConvert, kWarning, "The converted file tells its whole part.")},
     {"trc-camera-rate", "The camera rate is odd", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kConvert, kNote, "The converted file tells it.")},
@@ -164,17 +192,16 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kConvert, kError, "It is refused."),
      Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
-     InMarkers(kWarning, "In its gaps such a marker goes to the origin.")
+     InGaps(kShownGaps)
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT."),
-     Concern::kSamples},
+     Concern::kSamples, &kShownGaps},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
-     InMarkers(kWarning, "Such a marker makes an object that stays at the origin.")
+     InGaps(kShownWithoutPosition)
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
-         .But(Action::kApply, kWarning, "The object of such a marker goes to the origin.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
-     Concern::kSamples},
+     Concern::kSamples, &kShownWithoutPosition},
     {"trc-position-far", "A position is more than 1 km away",
      "{count} positions are more than 1 km away",
      InMarkers(kWarning,
@@ -183,7 +210,7 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kNote).But(Action::kConvert, kNote,
                           "Positions are written as they stand; a BVK file tells no unit.")},
     {"trc-up-axis", "The file seems to have {found}", nullptr,
-     InMarkers(kNote, "It is taken as Y up: what stands lies on its side.")
+     InMarkers(kNote, "It is taken as Y up: what stands lies on its side; --up z turns it.")
          .But(Action::kInspect, kNote, "It is taken as Y up.")},
 };
 

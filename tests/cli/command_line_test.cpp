@@ -70,7 +70,8 @@ TEST_F(CommandLineTest, HelpSaysWhatTheDocumentationSays) {
       {{"export"}, {strict, allow, report, quiet}},
       {{"convert"},
        {strict, allow, report,
-        "The file to write, for one FILE; its name ends in .bvk, which is added to one without an "
+        "The BVK file to write, for one FILE; its name ends in .bvk, which is added to one without "
+        "an "
         "extension",
         "Add X, Y and Z to every position, in the file's unit",
         "empty, also without --strict: convert files of which no marker is left, too",

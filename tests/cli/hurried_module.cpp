@@ -42,8 +42,8 @@ int Hurry(const char* name, Interface* host) {
 
 class Importer final : public SceneImport {
  public:
-  int ExtCount() override { return 1; }
-  const char* Ext(int /*n*/) override { return "HTR"; }
+  int ExtCount() override { return 2; }
+  const char* Ext(int n) override { return n == 0 ? "HTR" : "TRC"; }
   const char* LongDesc() override { return ""; }
   const char* ShortDesc() override { return ""; }
   const char* AuthorName() override { return ""; }

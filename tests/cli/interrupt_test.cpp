@@ -1,4 +1,5 @@
 #include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
 
 namespace {
 
@@ -43,6 +44,18 @@ TEST_F(InterruptTest, ASecondOneEndsTheProgramAtOnce) {
   EXPECT_EQ(result.status, 130);
   EXPECT_THAT(result.error, IsEmpty());
   EXPECT_THAT(Names(), ElementsAre("interrupt-twice.htr"));
+}
+
+TEST_F(InterruptTest, LeavesNoTurnedCopyBehind) {
+  std::filesystem::create_directory(folder_.Path() / "takes");
+  const test::TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
+  for (const std::string wish : {"interrupt", "interrupt-unheard", "interrupt-twice"}) {
+    Write("takes/" + wish + ".trc", text.Text());
+    const ProgramResult result = Orvane({"import", "takes/" + wish + ".trc", "-o", "scene.glb",
+                                         "--up", "z", "--module", test::HurriedModule()});
+    EXPECT_EQ(result.status, 130) << wish;
+    EXPECT_THAT(Names(), ElementsAre("takes")) << wish;
+  }
 }
 
 TEST_F(InterruptTest, KeepsTheExistingOutput) {

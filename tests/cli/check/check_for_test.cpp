@@ -30,11 +30,11 @@ TEST_F(CheckForTest, TellsWhatAnActionMakesOfAFile) {
   EXPECT_THAT(imported.error, IsEmpty());
   EXPECT_EQ(
       imported.output,
-      "gaps.trc: warning: A marker has gaps: \"Hand\" (line 7, column 1). In its gaps such "
-      "a marker goes to the origin. [trc-marker-gaps]\n"
       "gaps.trc: warning: A value is not a number: \"1x5\" (line 8, column 9). What it starts "
       "with is taken, or 0. [trc-number-unreadable]\n"
-      "gaps.trc: 2 warnings for import\n");
+      "gaps.trc: note: A marker has gaps: \"Hand\" (line 7, column 1). Viewers do not see such a "
+      "marker in its gaps; in the host its keys go to the origin. [trc-marker-gaps]\n"
+      "gaps.trc: 1 warning, 1 note for import\n");
   const ProgramResult converted = Orvane({"check", "--for", "convert", "gaps.trc"});
   EXPECT_THAT(converted.output, HasSubstr("note: A marker has gaps: \"Hand\" (line 7, column 1). A "
                                           "gap is written as DROPOUT. [trc-marker-gaps]\n"));
@@ -58,18 +58,19 @@ TEST_F(CheckForTest, WritesTheReportAsJson) {
   EXPECT_EQ(file["file"], "gaps.trc");
   EXPECT_EQ(file["file_type"], "TRC");
   EXPECT_EQ(file["action"], "import");
-  EXPECT_EQ(file["warnings"], 2);
+  EXPECT_EQ(file["warnings"], 1);
   EXPECT_EQ(file["errors"], 0);
-  EXPECT_EQ(file["notes"], 0);
-  const auto& finding = file["findings"][0];
+  EXPECT_EQ(file["notes"], 1);
+  const auto& finding = file["findings"][1];
   EXPECT_EQ(finding["code"], "trc-marker-gaps");
-  EXPECT_EQ(finding["severity"], "warning");
+  EXPECT_EQ(finding["severity"], "note");
   EXPECT_EQ(finding["count"], 1);
   EXPECT_EQ(finding["line"], 7);
   EXPECT_EQ(finding["column"], 1);
   EXPECT_EQ(finding["names"], nlohmann::json::array({"Hand"}));
   EXPECT_EQ(finding["cause"], "A marker has gaps");
-  EXPECT_EQ(finding["consequence"], "In its gaps such a marker goes to the origin.");
+  EXPECT_EQ(finding["consequence"],
+            "Viewers do not see such a marker in its gaps; in the host its keys go to the origin.");
 }
 
 TEST_F(CheckForTest, RefusesWhatIsNotDoneWithSuchAFile) {

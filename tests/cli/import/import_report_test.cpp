@@ -273,9 +273,9 @@ class OddRateTest : public ImportReportTest, public testing::WithParamInterface<
 };
 
 TEST_P(OddRateTest, IsAWarningWhenItIsAskedFor) {
-  const ProgramResult result = Import();
+  const ProgramResult result = Import({"--time", "host"});
   EXPECT_EQ(result.error, Line("warning", GetParam().effect));
-  EXPECT_EQ(Import({"--strict", "--force"}).status, 1);
+  EXPECT_EQ(Import({"--strict", "--force", "--time", "host"}).status, 1);
 }
 
 TEST_P(OddRateTest, IsANoteWhenTheScenesIsKept) {
@@ -287,7 +287,8 @@ TEST_P(OddRateTest, IsANoteWhenTheScenesIsKept) {
 INSTANTIATE_TEST_SUITE_P(
     All, OddRateTest,
     testing::Values(OddRate{"Fraction", "59.94", "The frame rate has a fraction",
-                            "59 is taken: a minute lasts 60.96 s.", "htr-rate-cut"},
+                            "59.94 a second become 59.3 in the host: a minute lasts 60.7 s there.",
+                            "htr-rate-cut"},
                     OddRate{"OutOfRange", "0", "There is no such frame rate",
                             "1 is set, unless --frame-rate keep is "
                             "given.",

@@ -172,8 +172,9 @@ INSTANTIATE_TEST_SUITE_P(
                 "walk.htr.glb", {"--select", "Hips"}),
         Use{"MotionShown", "damage_walk.py", "damages.tsv", "inspect", {"info"}, {}},
         Use{"MarkersImported", "damage_markers.py", "damages.tsv", "import", {"import"}, kToScene},
+        // As onto nodes that are not hidden in gaps.
         Applied({"MarkersApplied", "damage_markers.py", "damages.tsv", "apply", {"import"}, {}},
-                "walk.trc.glb", {}),
+                "walk.trc.glb", {"--gaps", "hold"}),
         Use{"MarkersConverted",
             "damage_markers.py",
             "damages.tsv",

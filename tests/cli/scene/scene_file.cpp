@@ -38,6 +38,7 @@ SceneFile::SceneFile(const std::string& path) {
   const std::size_t json_size = ReadSize(bytes, kFileHeader);
   json_ = nlohmann::json::parse(bytes.substr(kFileHeader + kChunkHeader, json_size));
   binary_ = bytes.substr(kFileHeader + 2 * kChunkHeader + json_size);
+  Index();
 }
 
 std::vector<std::string> SceneFile::NodeNames() const {
@@ -46,14 +47,30 @@ std::vector<std::string> SceneFile::NodeNames() const {
   return names;
 }
 
-std::vector<double> SceneFile::KeyTimes(const std::string& name) const {
+std::vector<double> SceneFile::KeyTimes(const std::string& name, const std::string& path) const {
   std::vector<double> times;
-  const nlohmann::json* sampler = SamplerOf(Find(name), "rotation");
+  const nlohmann::json* sampler = SamplerOf(Find(name), path);
   if (sampler == nullptr) return times;
   const std::size_t input = (*sampler)["input"];
   const std::size_t count = json_["accessors"][input]["count"];
   for (std::size_t i = 0; i < count; ++i) times.push_back(Element(input, i)[0]);
   return times;
+}
+
+std::optional<std::array<double, 3>> SceneFile::SeenAt(const std::string& name,
+                                                       double seconds) const {
+  std::size_t node = Find(name);
+  const Vector scale = ValueAt(node, "scale", {1, 1, 1, 0}, seconds);
+  if (scale[0] == 0.0 && scale[1] == 0.0 && scale[2] == 0.0) return std::nullopt;
+  Vector point = ValueAt(node, "translation", {0, 0, 0, 0}, seconds);
+  for (node = ParentOf(node); node != kNone; node = ParentOf(node)) {
+    const Vector stretch = Property(node, "scale", {1, 1, 1, 0}, 0);
+    const Vector move = Property(node, "translation", {0, 0, 0, 0}, 0);
+    for (std::size_t i = 0; i < 3; ++i) point[i] *= stretch[i];
+    point = Turn(Property(node, "rotation", {0, 0, 0, 1}, 0), point);
+    for (std::size_t i = 0; i < 3; ++i) point[i] += move[i];
+  }
+  return std::array<double, 3>{point[0], point[1], point[2]};
 }
 
 std::array<double, 3> SceneFile::Position(const std::string& name, std::size_t key) const {
@@ -68,32 +85,36 @@ std::array<double, 3> SceneFile::Position(const std::string& name, std::size_t k
   return {point[0], point[1], point[2]};
 }
 
-std::size_t SceneFile::Find(const std::string& name) const {
-  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
-    if (json_["nodes"][i].value("name", "") == name) return i;
+void SceneFile::Index() {
+  for (std::size_t node = 0; node < json_["nodes"].size(); ++node) {
+    nodes_.emplace(json_["nodes"][node].value("name", ""), node);
+    for (const std::size_t child :
+         json_["nodes"][node].value("children", std::vector<std::size_t>())) {
+      parents_[child] = node;
+    }
   }
-  throw std::runtime_error("no node " + name);
+  if (!json_.contains("animations")) return;
+  for (const auto& channel : json_["animations"][0]["channels"]) {
+    const auto& target = channel["target"];
+    samplers_[{target["node"], target["path"]}] = channel["sampler"];
+  }
+}
+
+std::size_t SceneFile::Find(const std::string& name) const {
+  const auto node = nodes_.find(name);
+  if (node == nodes_.end()) throw std::runtime_error("no node " + name);
+  return node->second;
 }
 
 std::size_t SceneFile::ParentOf(std::size_t node) const {
-  for (std::size_t i = 0; i < json_["nodes"].size(); ++i) {
-    for (const std::size_t child :
-         json_["nodes"][i].value("children", std::vector<std::size_t>())) {
-      if (child == node) return i;
-    }
-  }
-  return kNone;
+  const auto parent = parents_.find(node);
+  return parent == parents_.end() ? kNone : parent->second;
 }
 
 const nlohmann::json* SceneFile::SamplerOf(std::size_t node, const std::string& path) const {
-  if (!json_.contains("animations")) return nullptr;
-  const nlohmann::json& animation = json_["animations"][0];
-  for (const auto& channel : animation["channels"]) {
-    if (channel["target"]["node"] == node && channel["target"]["path"] == path) {
-      return &animation["samplers"][channel["sampler"].get<std::size_t>()];
-    }
-  }
-  return nullptr;
+  const auto sampler = samplers_.find({node, path});
+  return sampler == samplers_.end() ? nullptr
+                                    : &json_["animations"][0]["samplers"][sampler->second];
 }
 
 SceneFile::Vector SceneFile::Element(std::size_t accessor_index, std::size_t index) const {
@@ -112,6 +133,31 @@ SceneFile::Vector SceneFile::Element(std::size_t accessor_index, std::size_t ind
     element[i] = number;
   }
   return element;
+}
+
+// As a viewer reads it: by the sampler's interpolation between the keys around the time.
+SceneFile::Vector SceneFile::ValueAt(std::size_t node, const std::string& path, Vector otherwise,
+                                     double seconds) const {
+  const nlohmann::json* const sampler = SamplerOf(node, path);
+  if (sampler == nullptr) return Property(node, path, otherwise, 0);
+  const std::size_t input = (*sampler)["input"];
+  const std::size_t output = (*sampler)["output"];
+  const std::size_t count = json_["accessors"][input]["count"];
+  std::size_t after = 0;
+  for (std::size_t left = count; left > 0;) {
+    const std::size_t half = left / 2;
+    const bool is_before = Element(input, after + half)[0] <= seconds;
+    after += is_before ? half + 1 : 0;
+    left = is_before ? left - half - 1 : half;
+  }
+  if (after == 0) return Element(output, 0);
+  Vector value = Element(output, after - 1);
+  if (after == count || sampler->value("interpolation", "LINEAR") == "STEP") return value;
+  const double start = Element(input, after - 1)[0];
+  const double part = (seconds - start) / (Element(input, after)[0] - start);
+  const Vector next = Element(output, after);
+  for (std::size_t i = 0; i < 3; ++i) value[i] += part * (next[i] - value[i]);
+  return value;
 }
 
 SceneFile::Vector SceneFile::Property(std::size_t node, const std::string& path, Vector otherwise,

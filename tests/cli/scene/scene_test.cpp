@@ -1,6 +1,7 @@
 #include <nlohmann/json.hpp>
 
 #include "tests/cli/orvane_test.h"
+#include "tests/support/trc_text.h"
 
 namespace {
 
@@ -60,11 +61,38 @@ TEST_F(SceneTest, ThePageShowsTheTree) {
             "  Range       ticks 80 to 240\n"
             "  Time        tick 0\n"
             "  Suspended   animate mode 0 times, set-key mode 0 times\n"
+            "  Recording   walk.htr, in mm, from frame 1 on; viewers are shown 60 frames per "
+            "second\n"
             "\n"
             "Nodes\n"
             "  walk (Dummy, euler)\n"
             "    Hips (Bone, tcb; keys: 3 position, 3 rotation)\n"
             "      Spine (Bone, tcb; keys: 3 position, 3 rotation)\n");
+}
+
+TEST_F(SceneTest, TellsWhatWasRecordedAndWhatWasNot) {
+  test::TrcText text{.markers = {"a", "b"},
+                     .frames = {{"1\t2\t3", ""}, {"1\t2\t3", ""}, {"", "1\t2\t3"}}};
+  text.data_rate = "59.94";
+  text.units = "cm";
+  text.first_frame = 185;
+  Write("cloud.trc", text.Text());
+  ASSERT_EQ(Orvane({"import", "cloud.trc", "-o", "cloud.glb", "--up", "z", "--quiet"}).status, 0);
+  const std::string page = Orvane({"scene", "cloud.glb"}).output;
+  EXPECT_THAT(page, HasSubstr("  Recording   cloud.trc, in cm, turned to Y up, from frame 185 on; "
+                              "viewers are shown 59.94 (2997/50) frames per second\n"));
+  EXPECT_THAT(page, HasSubstr("  a (Sphere, euler; keys: 3 position; 1 gap)\n"));
+  const json scene = Scene("cloud.glb");
+  EXPECT_EQ(scene["recording"], json::parse(R"({"rate": [2997, 50], "first_frame": 185,
+      "unit": "cm", "source": "cloud.trc", "turned_up": true})"));
+  EXPECT_EQ(NodeNamed(scene, "b")["measured"],
+            json::parse(R"({"made_by_import": true, "gap_manner": "hide",
+                            "gaps": [[14985, 15066]]})"));
+  Import({"-o", "walk.glb", "--time", "host"});
+  EXPECT_EQ(Scene("walk.glb")["recording"]["rate"], nullptr);
+  EXPECT_EQ(NodeNamed(Scene("walk.glb"), "Hips")["measured"], nullptr);
+  EXPECT_THAT(Orvane({"scene", "walk.glb"}).output,
+              HasSubstr("viewers are shown the host's time\n"));
 }
 
 TEST_F(SceneTest, JsonHoldsTheScene) {

@@ -259,10 +259,10 @@ TEST(ApplyRange, ThatDoesNotBeginWithTheFileMovesItsFirstFrames) {
   ApplyCircumstances how = kSameRate;
   how.first_frame = 1;
   how.range_from = 1;
-  EXPECT_THAT(CheckRange("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
+  EXPECT_THAT(CheckTimes("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
   how.range_from = 11;
   for (const Action action : {Action::kImport, Action::kApply}) {
-    const ReportedFinding finding = Only(ReportOn(CheckRange("a.htr", "HTR", how), action));
+    const ReportedFinding finding = Only(ReportOn(CheckTimes("a.htr", "HTR", how), action));
     EXPECT_EQ(finding.code, "apply-range-moves");
     EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
     EXPECT_EQ(finding.cause, "--range begins in frame 11, and the file in frame 1");
@@ -270,6 +270,39 @@ TEST(ApplyRange, ThatDoesNotBeginWithTheFileMovesItsFirstFrames) {
               "A range of a motion file says when, and not what: frame 1 is keyed in frame 11, and "
               "those behind it follow.");
   }
+}
+
+TEST(ApplyTime, ThatTakesTheScenesOwnAwayTellsHowLongItLastsThen) {
+  const struct {
+    orvane::TimeChange change;
+    std::string cause;
+    std::string minute;
+  } rows[] = {
+      {{59.94, 4800.0 / 81, 60.0},
+       "Viewers are shown 59.94 frames per second of the scene, and the file has 60",
+       "60.7"},
+      {{250.0, 4800.0 / 19, {}},
+       "Viewers are shown 250 frames per second of the scene, and the host's time is asked for",
+       "59.4"}};
+  for (const auto& [change, cause, minute] : rows) {
+    ApplyCircumstances how = kSameRate;
+    how.time_change = change;
+    for (const Action action : {Action::kImport, Action::kApply}) {
+      const ReportedFinding finding = Only(ReportOn(CheckTimes("a.htr", "HTR", how), action));
+      EXPECT_EQ(finding.code, "apply-scene-time");
+      EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
+      EXPECT_EQ(finding.cause, cause);
+      EXPECT_EQ(finding.consequence,
+                "All of the scene goes by the host's time: a minute of what was there lasts " +
+                    minute + " s.");
+    }
+  }
+}
+
+TEST(ApplyTime, ThatChangesNothingIsNotTold) {
+  ApplyCircumstances how = kSameRate;
+  how.time_change = {60.0, 60.0, 120.0};
+  EXPECT_THAT(CheckTimes("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
 }
 
 }  // namespace

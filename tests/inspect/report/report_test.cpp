@@ -20,6 +20,7 @@ using orvane::FileReport;
 using orvane::FindingSeverity;
 using orvane::ReportedFinding;
 using orvane::ReportOn;
+using orvane::ShownGaps;
 using test::TrcText;
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -105,8 +106,9 @@ TEST(Report, JudgesByTheAction) {
   const auto imported = Find(ReportFor(text, Action::kImport), "trc-marker-gaps");
   const auto converted = Find(ReportFor(text, Action::kConvert), "trc-marker-gaps");
   EXPECT_EQ(looked_at.severity, FindingSeverity::kNote);
-  EXPECT_EQ(imported.severity, FindingSeverity::kWarning);
-  EXPECT_EQ(imported.consequence, "In its gaps such a marker goes to the origin.");
+  EXPECT_EQ(imported.severity, FindingSeverity::kNote);
+  EXPECT_EQ(imported.consequence,
+            "Viewers do not see such a marker in its gaps; in the host its keys go to the origin.");
   EXPECT_EQ(converted.severity, FindingSeverity::kNote);
   EXPECT_EQ(converted.consequence, "A gap is written as DROPOUT.");
   EXPECT_THAT(converted.names, ElementsAre("Hand"));
@@ -162,10 +164,71 @@ std::string AskedAndTold(const TrcText& text, const ActionOptions& options, std:
 
 TEST(Report, TakesARateThatIsNotAskedForAsANote) {
   const TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}, .data_rate = "59.94"};
-  EXPECT_EQ(AskedAndTold(text, {}, "trc-rate-cut"),
-            "warning: 59 is taken: a minute lasts 60.96 s.");
+  EXPECT_EQ(AskedAndTold(text, {.own_time = false}, "trc-rate-cut"),
+            "warning: 59.94 a second become 59.3 in the host: a minute lasts 60.7 s there.");
   EXPECT_EQ(AskedAndTold(text, {.rate = false}, "trc-rate-cut"),
             "note: The frame rate of the file is not asked for.");
+}
+
+// What is told of a rate when viewers are shown it, and when they go by the host's time.
+struct RateInHost {
+  const char* rate;
+  const char* code;
+  const char* in_host;
+};
+
+TEST(Report, TakesGapsByWhatViewersAreShownOfThem) {
+  const TrcText text{.markers = {"Head", "Hand"}, .frames = {{"1\t2\t3", ""}, {"", ""}}};
+  const struct {
+    ShownGaps shown;
+    std::string gaps;
+    std::string never_seen;
+  } rows[] = {
+      {ShownGaps::kHidden,
+       "note: Viewers do not see such a marker in its gaps; in the host its keys go to the origin.",
+       "note: Viewers never see such a marker; in the host its keys are at the origin."},
+      {ShownGaps::kHeld,
+       "warning: In its gaps viewers see such a marker at its last place; in the host its keys go "
+       "to the origin.",
+       "warning: There is no place to hold such a marker at: a new one is not seen by viewers, and "
+       "another keeps its place; in the host its keys are at the origin."},
+      {ShownGaps::kAtOrigin, "warning: In its gaps such a marker goes to the origin.",
+       "warning: Such a marker stays at the origin."}};
+  for (const auto& [shown, gaps, never_seen] : rows) {
+    EXPECT_EQ(AskedAndTold(text, {.gaps = shown}, "trc-marker-gaps"), gaps);
+    EXPECT_EQ(AskedAndTold(text, {.gaps = shown}, "trc-marker-never-seen"), never_seen);
+  }
+}
+
+TEST(Report, TakesARateThatTheHostDoesNotHoldByWhatViewersAreShown) {
+  const RateInHost rows[] = {
+      {"59.94", "trc-rate-cut", "59.94 a second become 59.3 in the host: a minute lasts 60.7 s"},
+      {"119.88", "trc-rate-cut", "119.88 a second become 120 in the host: a minute lasts 59.9 s"},
+      {"250", "trc-rate-inexact", "250 a second become 252.6 in the host: a minute lasts 59.4 s"},
+      {"500", "trc-rate-inexact", "500 a second become 533.3 in the host: a minute lasts 56.2 s"},
+      {"1000", "trc-rate-inexact", "1000 a second become 1200 in the host: a minute lasts 50 s"},
+      {"11", "trc-rate-inexact", "11 a second become 11.01 in the host: a minute lasts 59.95 s"}};
+  for (const auto& [rate, code, in_host] : rows) {
+    const TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}, .data_rate = rate};
+    const std::string effect = std::string(in_host) + " there.";
+    EXPECT_EQ(AskedAndTold(text, {}, code),
+              "note: " + effect + " Viewers play the rate of the file.");
+    EXPECT_EQ(AskedAndTold(text, {.own_time = true}, code),
+              "note: " + effect + " Viewers play the rate of the file.");
+    EXPECT_EQ(AskedAndTold(text, {.own_time = false}, code), "warning: " + effect);
+    EXPECT_EQ(AskedAndTold(text, {.rate = false, .own_time = false}, code),
+              "note: The frame rate of the file is not asked for.");
+    const FileReport applied = ReportOn(CheckTrc("walk.trc", text.Text()), Action::kApply);
+    EXPECT_EQ(Find(applied, code).severity, FindingSeverity::kWarning);
+    EXPECT_EQ(Find(applied, code).consequence, effect);
+  }
+}
+
+TEST(Report, SaysNothingOfARateThatTheHostHolds) {
+  for (const char* rate : {"1", "60", "120", "240.0", "4800"}) {
+    const TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}, .data_rate = rate};
+    EXPECT_TRUE(ReportFor(text, Action::kImport).findings.empty()) << rate;
+  }
 }
 
 TEST(Report, TakesFramesByThoseThatAreAskedFor) {

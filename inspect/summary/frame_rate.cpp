@@ -1,0 +1,114 @@
+#include "inspect/summary/frame_rate.h"
+
+#include <numeric>
+#include <string>
+
+#include "formats/htr/reader.h"
+#include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
+#include "formats/trc/document.h"
+
+namespace orvane {
+namespace {
+
+constexpr std::int64_t kLargest = std::int64_t{1} << 53U;
+constexpr std::int64_t kBase = 10;
+
+// Where the header of a marker file ends in any case, unless it is full of comments.
+constexpr std::size_t kHeaderBytes = std::size_t{1} << 16U;
+
+// `digits` times ten to the power of `exponent`.
+struct Decimal {
+  std::int64_t digits = 0;
+  std::int64_t exponent = 0;
+};
+
+bool HasRoom(std::int64_t number) { return number <= (kLargest - (kBase - 1)) / kBase; }
+
+// Takes one more digit; one in the fraction that does not fit is left out, another ends it all.
+bool TakeDigit(char digit, bool in_fraction, Decimal& number) {
+  if (!HasRoom(number.digits)) return in_fraction;
+  number.digits = number.digits * kBase + (digit - '0');
+  if (in_fraction) --number.exponent;
+  return true;
+}
+
+// `number` is one as ReadDouble takes it.
+std::optional<Decimal> ReadDecimal(std::string_view number) {
+  Decimal decimal;
+  bool in_fraction = false;
+  for (std::size_t index = 0; index < number.size(); ++index) {
+    const char character = number[index];
+    if (character == '-') return std::nullopt;
+    if (character == 'e' || character == 'E') {
+      decimal.exponent += ParseInt(number.substr(index + 1));
+      break;
+    }
+    if (character == '.') in_fraction = true;
+    if (character < '0' || character > '9') continue;
+    if (!TakeDigit(character, in_fraction, decimal)) return std::nullopt;
+  }
+  return decimal;
+}
+
+std::optional<FrameRate> Reduced(const Decimal& decimal) {
+  if (decimal.digits <= 0) return std::nullopt;
+  FrameRate rate{decimal.digits, 1};
+  std::int64_t exponent = decimal.exponent;
+  for (; exponent < 0 && rate.numerator % kBase == 0; ++exponent) rate.numerator /= kBase;
+  for (; exponent != 0; exponent += exponent < 0 ? 1 : -1) {
+    std::int64_t& number = exponent < 0 ? rate.denominator : rate.numerator;
+    if (!HasRoom(number)) return std::nullopt;
+    number *= kBase;
+  }
+  const std::int64_t common = std::gcd(rate.numerator, rate.denominator);
+  return FrameRate{rate.numerator / common, rate.denominator / common};
+}
+
+class HtrRateObserver final : public HtrReadObserver {
+ public:
+  void OnOddity(HtrOddity /*oddity*/, const HtrCell& /*cell*/,
+                std::string_view /*field*/) override {}
+  void OnHeaderField(const HtrCell& keyword, const HtrCell& value) override {
+    if (keyword.text == "DataFrameRate") rate = ParseFrameRate(value.text);
+  }
+
+  std::optional<FrameRate> rate;  // the last one
+};
+
+class TrcRateObserver final : public TRCReadObserver {
+ public:
+  void OnOddity(TRCOddity /*oddity*/, TRCPlace /*place*/, std::string_view /*text*/) override {}
+  void OnHeaderValue(TRCHeaderValue value, TRCPlace /*place*/, std::string_view text) override {
+    if (value == TRCHeaderValue::kDataRate) rate = ParseFrameRate(text);
+  }
+  bool WatchesFrames() const override { return false; }
+
+  std::optional<FrameRate> rate;
+};
+
+}  // namespace
+
+std::optional<FrameRate> ParseFrameRate(std::string_view text) {
+  text = SkipSeparators(text);
+  const char* const end = ReadDouble(text.data(), text.data() + text.size()).end;
+  const auto decimal = ReadDecimal(text.substr(0, static_cast<std::size_t>(end - text.data())));
+  return decimal ? Reduced(*decimal) : std::nullopt;
+}
+
+std::optional<FrameRate> FrameRateOfHtr(std::string_view bytes) {
+  HtrDocument document;
+  HtrRateObserver observer;
+  // A refusal comes behind the header, or is told by whoever reads the file.
+  (void)ReadHtrBytes(document, bytes, false, &observer);
+  return observer.rate;
+}
+
+std::optional<FrameRate> FrameRateOfTrc(std::string_view bytes) {
+  TRCDocument document;
+  TrcRateObserver observer;
+  (void)document.ReadBytes(bytes.substr(0, kHeaderBytes), false, &observer);
+  return observer.rate;
+}
+
+}  // namespace orvane
