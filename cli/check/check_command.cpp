@@ -7,6 +7,7 @@
 #include "cli/check/scene_check.h"
 #include "cli/common/check_results.h"
 #include "cli/common/choice.h"
+#include "cli/common/found_files.h"
 
 namespace cli {
 namespace {
@@ -15,27 +16,34 @@ struct CheckArguments {
   std::vector<std::string> inputs;
   std::string kind;                    // of all files; empty for what their names say
   std::vector<std::string> selection;  // in scenes
+  bool recursive = false;
+  bool verbose = false;
   CheckManner manner;
 };
 
 class Checking {
  public:
   explicit Checking(const CheckArguments& arguments)
-      : arguments_(arguments), results_(arguments.manner) {}
+      : arguments_(arguments), found_(Find(arguments)), results_(MannerFor(arguments, found_)) {}
 
   ExitStatus Run() {
-    for (const std::string& input : arguments_.inputs) CheckAll(input);
+    if (!arguments_.manner.quiet) PrintNotes(found_);
+    if (!found_.errors.empty()) results_.Complain({ExitStatus::kInputOutput, found_.errors});
+    for (const std::string& file : found_.names) CheckOne(file);
     return results_.Finish();
   }
 
  private:
-  void CheckAll(const std::string& input) {
-    try {
-      const auto kinds = IsForExport() ? CheckedKinds::kScenes : CheckedKinds::kFiles;
-      for (const std::string& file : FilesToCheck(input, kinds)) CheckOne(file);
-    } catch (const Failure& failure) {
-      results_.Add(failure);
-    }
+  static FoundFiles Find(const CheckArguments& arguments) {
+    const bool is_for_export = arguments.manner.action == orvane::Action::kExport;
+    const auto kinds = is_for_export ? CheckedKinds::kScenes : CheckedKinds::kFiles;
+    return FindFiles(arguments.inputs, SearchFor(kinds, arguments.recursive));
+  }
+
+  static CheckManner MannerFor(const CheckArguments& arguments, const FoundFiles& found) {
+    CheckManner manner = arguments.manner;
+    manner.by_code = found.names.size() > 1 && !arguments.verbose;
+    return manner;
   }
 
   // One file that cannot be read does not keep the others from being checked.
@@ -64,6 +72,7 @@ class Checking {
   }
 
   const CheckArguments& arguments_;
+  const FoundFiles found_;
   CheckResults results_;
 };
 
@@ -103,7 +112,15 @@ void AddCheckCommand(CLI::App& app, Work& work) {
                    "is selected in it)")
       ->expected(1)
       ->type_name("NAME");
+  AddRecursive(*verb, arguments->recursive);
+  CLI::Option* verbose =
+      verb->add_flag("--verbose", arguments->verbose,
+                     "Tell of several files with all places, too (one line a code)");
   AddCheckManner(*verb, arguments->manner);
+  verb->add_flag("--quiet", arguments->manner.quiet,
+                 "Write nothing of what is found: the status says it")
+      ->excludes(verbose)
+      ->excludes(verb->get_option("--json"));
   verb->callback([arguments, &work] { work = [arguments] { return Check(*arguments); }; });
 }
 

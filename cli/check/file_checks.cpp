@@ -2,9 +2,7 @@
 
 #include <algorithm>
 #include <array>
-#include <filesystem>
 #include <string_view>
-#include <system_error>
 
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
@@ -22,8 +20,6 @@ using orvane::CheckFailure;
 using orvane::CheckHtr;
 using orvane::CheckMapping;
 using orvane::CheckTrc;
-
-namespace fs = std::filesystem;
 
 // `check` by the bytes of `file`. Throws a Failure when it cannot be read, or nothing can be said.
 CheckedFile CheckBytes(const std::string& file,
@@ -72,47 +68,10 @@ std::vector<std::string_view> ExtensionsOf(CheckedKinds kinds) {
   return extensions;
 }
 
-// ".htr, .trc or .mnm"
-std::string ListOf(const std::vector<std::string_view>& extensions) {
-  std::string list;
-  for (const std::string_view extension : extensions) {
-    if (!list.empty()) list += extension == extensions.back() ? " or " : ", ";
-    list += extension;
-  }
-  return list;
-}
-
-bool IsToBeChecked(const fs::directory_entry& entry,
-                   const std::vector<std::string_view>& extensions) {
-  std::error_code ignored;
-  const std::string own = platform::TextOf(entry.path().extension());
-  return !entry.is_directory(ignored) &&
-         std::any_of(extensions.begin(), extensions.end(), [&own](std::string_view extension) {
-           return host::SameButForCase(extension, own);
-         });
-}
-
 }  // namespace
 
-std::vector<std::string> FilesToCheck(const std::string& input, CheckedKinds kinds) {
-  std::error_code error;
-  const fs::path path = platform::PathOf(input);
-  if (!fs::is_directory(path, error)) return {input};
-  const std::vector<std::string_view> extensions = ExtensionsOf(kinds);
-  std::vector<std::string> files;
-  fs::directory_iterator entry(path, error);
-  for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-    if (IsToBeChecked(*entry, extensions)) files.push_back(platform::TextOf(entry->path()));
-  }
-  if (error) throw Failure{ExitStatus::kInputOutput, {{input, error.message(), ""}}};
-  if (files.empty()) {
-    throw Failure{
-        ExitStatus::kInputOutput,
-        {{input, "The folder holds no file to check",
-          "Of a folder, files are checked whose names end in " + ListOf(extensions) + "."}}};
-  }
-  std::sort(files.begin(), files.end());
-  return files;
+FileSearch SearchFor(CheckedKinds kinds, bool recursive) {
+  return {ExtensionsOf(kinds), "check", "checked", recursive};
 }
 
 CheckedFile CheckFile(const std::string& name, const std::string& kind) {

@@ -1,11 +1,11 @@
 #pragma once
 
 #include <string>
-#include <vector>
 
+#include "cli/common/found_files.h"
 #include "inspect/check/checked_file.h"
 
-// The kinds of files that `orvane check` knows, and which files its user means.
+// The kinds of files that `orvane check` knows, and how they are found in folders.
 
 namespace cli {
 
@@ -15,10 +15,8 @@ enum class CheckedKinds {
   kScenes,  // what is exported from
 };
 
-// The files that `input` stands for: of a folder those directly in it that have an extension of one
-// of `kinds`, in the order of their names; otherwise `input` itself. Throws a Failure when there
-// are none.
-[[nodiscard]] std::vector<std::string> FilesToCheck(const std::string& input, CheckedKinds kinds);
+// Finds those of `kinds` in folders, by their extensions.
+[[nodiscard]] FileSearch SearchFor(CheckedKinds kinds, bool recursive);
 
 // Checks the file `name` as one of `kind`, which is an extension without its point; when that is
 // empty, by its own extension, as an HTR file when that is unknown. Throws a Failure when it cannot

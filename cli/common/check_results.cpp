@@ -40,8 +40,10 @@ void AddCheckManner(CLI::App& verb, CheckManner& manner) {
 void CheckResults::Add(CheckedFile file) {
   if (manner_.action) return Add(ReportOn(file, *manner_.action));
   if (!IsTolerable(file.findings, manner_.tolerated)) Raise(ExitStatus::kRefused);
-  if (!manner_.json) return PrintCheckedFile(file, std::cout);
-  files_.push_back(std::move(file));
+  if (manner_.quiet) return;
+  if (manner_.json) return files_.push_back(std::move(file));
+  if (manner_.by_code) return codes_.Add(file);
+  PrintCheckedFile(file, std::cout);
 }
 
 void CheckResults::Add(const FileReport& report) {
@@ -50,17 +52,25 @@ void CheckResults::Add(const FileReport& report) {
     return each.severity <= manner_.tolerated;
   });
   if (!is_tolerable) Raise(ExitStatus::kRefused);
-  if (!manner_.json) return PrintReport(report, std::cout);
-  reports_.push_back(report);
+  if (manner_.quiet) return;
+  if (manner_.json) return reports_.push_back(report);
+  if (manner_.by_code) return codes_.Add(report);
+  PrintReport(report, std::cout);
 }
 
 void CheckResults::Add(const Failure& failure) {
+  codes_.AddUnchecked();
+  Complain(failure);
+}
+
+void CheckResults::Complain(const Failure& failure) {
   for (const Complaint& complaint : failure.complaints) Print(Severity::kError, complaint);
   Raise(failure.status);
 }
 
 ExitStatus CheckResults::Finish() {
   if (manner_.json) PrintJson();
+  if (manner_.by_code && !manner_.json && !manner_.quiet) codes_.Print(std::cout);
   return status_;
 }
 

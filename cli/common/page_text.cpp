@@ -5,6 +5,11 @@
 #include "formats/text/numbers.h"
 
 namespace cli {
+namespace {
+
+constexpr std::size_t kMostNames = 3;
+
+}  // namespace
 
 std::size_t Width(std::string_view text) {
   return static_cast<std::size_t>(std::count_if(text.begin(), text.end(), [](char character) {
@@ -28,5 +33,17 @@ std::string Counted(std::int64_t count, std::string_view noun) {
 }
 
 std::string FramesPerSecond(std::int64_t rate) { return Counted(rate, "frame") + " per second"; }
+
+std::string FewOf(const std::vector<std::string>& names) {
+  const std::size_t told = std::min(names.size(), kMostNames);
+  const std::size_t left_out = names.size() - told;
+  std::string list;
+  for (std::size_t at = 0; at < told; ++at) {
+    const bool is_last = at + 1 == names.size();
+    list += (at == 0 ? "" : is_last ? " and " : ", ") + names[at];
+  }
+  if (left_out == 0) return list;
+  return list + " and " + orvane::FormatInt(static_cast<std::int64_t>(left_out)) + " more";
+}
 
 }  // namespace cli

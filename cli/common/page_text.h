@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // Columns of the pages that the program shows, and what it counts there.
 
@@ -24,5 +25,8 @@ inline constexpr std::size_t kWidestNames = 60;
 
 // "25 frames per second".
 [[nodiscard]] std::string FramesPerSecond(std::int64_t rate);
+
+// "a, b and c", or "a, b, c and 4 more".
+[[nodiscard]] std::string FewOf(const std::vector<std::string>& names);
 
 }  // namespace cli

@@ -78,7 +78,9 @@ TEST_F(CheckForTest, RefusesWhatIsNotDoneWithSuchAFile) {
   const ProgramResult result = Orvane({"check", "--for", "convert", "walk.htr", "gaps.trc"});
   EXPECT_EQ(result.status, 2);
   EXPECT_THAT(result.error, HasSubstr("orvane: walk.htr: \"convert\" takes no HTR files\n"));
-  EXPECT_THAT(result.output, HasSubstr("gaps.trc: 1 warning, 1 note for convert\n"));
+  EXPECT_THAT(
+      result.output,
+      HasSubstr("1 of 2 files has warnings for convert, 1 has notes, 1 could not be checked\n"));
   Write("map.mnm", "LFHD\tHead\n");
   EXPECT_THAT(Orvane({"check", "--for", "import", "map.mnm"}).error,
               HasSubstr("orvane: map.mnm: \"import\" takes no MNM files\n"));

@@ -13,7 +13,6 @@ using testing::ElementsAreArray;
 using testing::EndsWith;
 using testing::HasSubstr;
 using testing::IsEmpty;
-using testing::StartsWith;
 
 // One damage of the small motion, and all that is said of it: line, column, severity and code.
 struct Damage {
@@ -349,15 +348,13 @@ TEST_F(CheckTest, TheWorstFindingThatIsToleratedCanBeChosen) {
 TEST_F(CheckTest, SeveralFilesAreCheckedAndTheWorstCounts) {
   const ProgramResult result = Orvane({"check", "walk.htr", "warning.htr", "note.htr"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.output, StartsWith("walk.htr: clean: 2 segments, 3 frames\n"));
-  EXPECT_THAT(result.output, HasSubstr("\nwarning.htr: 1 warning\n"));
-  EXPECT_THAT(result.output, HasSubstr("\nnote.htr: 1 note\n"));
+  EXPECT_THAT(result.output, EndsWith("\n1 of 3 files has warnings, 1 has notes, 1 is clean\n"));
 }
 
 TEST_F(CheckTest, AFileThatCannotBeReadKeepsNoOtherFromBeingChecked) {
   const ProgramResult result = Orvane({"check", "nowhere.htr", "warning.htr"});
   EXPECT_EQ(result.status, 3);
-  EXPECT_THAT(result.output, HasSubstr("warning.htr: 1 warning\n"));
+  EXPECT_THAT(result.output, HasSubstr("1 of 2 files has warnings, 1 could not be checked\n"));
   EXPECT_EQ(result.error, "orvane: nowhere.htr: No such file or directory\n");
 }
 
@@ -367,14 +364,13 @@ TEST_F(CheckTest, AFolderStandsForTheFilesInItInTheOrderOfTheirNames) {
     Write(std::string("take/") + name, SmallMotion());
   }
   Write("take.htr", "");
-  const ProgramResult result = Orvane({"check", "warning.htr", "take", "walk.htr"});
+  const ProgramResult result = Orvane({"check", "--verbose", "warning.htr", "take", "walk.htr"});
   EXPECT_EQ(result.status, 1);
-  EXPECT_THAT(result.error, IsEmpty());
   EXPECT_THAT(test::Slashed(result.output), EndsWith("warning.htr: 1 warning\n"
                                                      "take/a.HTR: clean: 2 segments, 3 frames\n"
                                                      "take/b.htr: clean: 2 segments, 3 frames\n"
                                                      "walk.htr: clean: 2 segments, 3 frames\n"));
-  EXPECT_EQ(test::Slashed(Orvane({"check", "take/"}).output),
+  EXPECT_EQ(test::Slashed(Orvane({"check", "--verbose", "take/"}).output),
             "take/a.HTR: clean: 2 segments, 3 frames\n"
             "take/b.htr: clean: 2 segments, 3 frames\n");
 }

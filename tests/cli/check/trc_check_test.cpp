@@ -156,7 +156,7 @@ TEST_F(TrcCheckTest, AFileWithoutFindingsIsOneLine) {
   TrcText text = TwoMarkers();
   text.line_end = "\r\n";
   Write("take.TRC", text.Text());
-  EXPECT_EQ(Orvane({"check", "walk.trc", "take.TRC"}).output,
+  EXPECT_EQ(Orvane({"check", "--verbose", "walk.trc", "take.TRC"}).output,
             "walk.trc: clean: 2 markers, 3 frames\ntake.TRC: clean: 2 markers, 3 frames\n");
   EXPECT_EQ(Orvane({"check", "take", "--as", "trc"}).output,
             "take.TRC: clean: 2 markers, 3 frames\n");
