@@ -56,14 +56,18 @@ Complaint FindWhyUnreadable(const std::string& name, const std::string& file) {
     return {name, platform::WhyUnreadable(name), ""};
   }
   if (file == name) return {file, reason, ""};
-  return {file, reason,
-          "A name without an extension of three letters gets \"" + file.substr(name.size()) + "\"."};
+  return {
+      file, reason,
+      "A name without an extension of three letters gets \"" + file.substr(name.size()) + "\"."};
+}
+
+std::string FileMeantBy(const std::string& name, FileKind kind) {
+  // The readers differ in the case of what they append.
+  return orvane::WithExtension(name, kind == FileKind::kTrc ? ".TRC" : ".htr");
 }
 
 std::string ReadableFile(const std::string& name, FileKind kind) {
-  // The readers differ in the case of what they append.
-  const std::string extension = kind == FileKind::kTrc ? ".TRC" : ".htr";
-  const std::string file = orvane::WithExtension(name, extension);
+  const std::string file = FileMeantBy(name, kind);
   const Complaint complaint = FindWhyUnreadable(name, file);
   if (complaint.text.empty()) return file;
   // The user means this one, and is told what it is.

@@ -11,6 +11,10 @@
 
 namespace cli {
 
+// The file that the reader of `kind` takes `name` for: with ".htr" or ".TRC" behind it unless it
+// has an extension of three letters.
+[[nodiscard]] std::string FileMeantBy(const std::string& name, FileKind kind);
+
 // The file that the user means by `name`, as the reader of that kind takes it: with ".htr" or
 // ".TRC" behind it unless it has an extension of three letters, or is a file of another kind under
 // any name. Throws a Failure that says why when it cannot be read.
@@ -19,8 +23,8 @@ namespace cli {
 // The same for an HTR file.
 [[nodiscard]] std::string ReadableHtrFile(const std::string& name);
 
-// Why what the user means by `name`, which the reader takes for `file`, cannot be read: a folder, or
-// no such file, with advice. Returns a complaint without text when it can.
+// Why what the user means by `name`, which the reader takes for `file`, cannot be read: a folder,
+// or no such file, with advice. Returns a complaint without text when it can.
 [[nodiscard]] Complaint FindWhyUnreadable(const std::string& name, const std::string& file);
 
 // `text` about what is in `file`, with the advice that fits it.

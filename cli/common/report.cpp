@@ -93,6 +93,16 @@ void PrintReport(const FileReport& report, std::ostream& out) {
       << '\n';
 }
 
+std::string BriefCounts(const FileReport& report) {
+  std::string counts;
+  for (const FindingSeverity severity : kWorstFirst) {
+    const std::size_t count = report.Count(severity);
+    if (count == 0) continue;
+    counts += (counts.empty() ? "" : " ") + Number(count) + SeverityName(severity).front();
+  }
+  return counts.empty() ? "-" : counts;
+}
+
 void WriteFindings(JsonWriter& json, const FileReport& report) {
   json.BeginArray(Layout::kLines);
   for (const ReportedFinding& finding : report.findings) WriteFinding(json, finding);

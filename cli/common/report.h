@@ -19,6 +19,9 @@ namespace cli {
 // A line for each finding, and a last one that counts them; one line where there is none.
 void PrintReport(const orvane::FileReport& report, std::ostream& out);
 
+// "1e 2w 40n": how many errors, warnings and notes; "-" where there are none.
+[[nodiscard]] std::string BriefCounts(const orvane::FileReport& report);
+
 // What was found, as an array.
 void WriteFindings(JsonWriter& json, const orvane::FileReport& report);
 

@@ -104,6 +104,7 @@ void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& bes
 }
 
 void Tell(const FileReport& report, const ReportManner& manner) {
+  if (manner.gathered != nullptr) return manner.gathered->push_back(report);
   for (const ReportedFinding& finding : report.findings) {
     if (manner.only_warnings && finding.severity == FindingSeverity::kNote) continue;
     Print(SeverityOf(finding),

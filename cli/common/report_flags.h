@@ -23,6 +23,8 @@ struct ReportManner {
   std::string file;                  // to write the report to; empty for none
   bool only_warnings = false;        // and errors are told, no notes
   bool dry_run = false;              // nothing is written, whatever is found
+  // Where reports go that are told later, together; null when each is told at once.
+  std::vector<orvane::FileReport>* gathered = nullptr;
 };
 
 // Adds the flags to `verb` that set `manner`, which must outlive the parsing: all of them to one
@@ -32,7 +34,7 @@ struct ReportManner {
 void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& beside = "");
 void AddTellingFlags(CLI::App& verb, ReportManner& manner);
 
-// Tells of `report` on standard error, a line a code.
+// Tells of `report` on standard error, a line a code, or puts it where `manner` gathers them.
 void Tell(const orvane::FileReport& report, const ReportManner& manner);
 
 // Tells of `reports`: of one as above, of several a line for each code over all of them, with the

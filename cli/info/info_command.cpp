@@ -1,13 +1,18 @@
 #include "cli/info/info_command.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 
 #include "cli/common/file_kind.h"
+#include "cli/common/found_files.h"
 #include "cli/common/input.h"
+#include "cli/common/json_writer.h"
+#include "cli/common/messages.h"
 #include "cli/common/told_reading.h"
 #include "cli/info/info_report.h"
+#include "cli/info/info_table.h"
 #include "cli/info/trc_info.h"
 
 namespace cli {
@@ -17,67 +22,142 @@ using orvane::ListHierarchy;
 using orvane::SummarizeMotion;
 
 struct InfoArguments {
-  std::string input;
-  std::optional<FileKind> kind;  // nothing: by its name
+  std::vector<std::string> inputs;
+  std::optional<FileKind> kind;  // nothing: by their names
+  bool recursive = false;
   bool hierarchy_only = false;
   bool json = false;
   bool frames = false;
   ReportManner report;
+
+  FileKind KindOf(const std::string& name) const { return kind.value_or(cli::KindOf(name)); }
 };
 
-void Read(const std::string& file, const InfoArguments& arguments, InfoReport& report) {
+void ReadInfo(const std::string& file, const InfoArguments& arguments, const ReportManner& manner,
+              InfoReport& report) {
   report.file = file;
   const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
-  report.findings = ReadAndTell(report.document, file, motion, arguments.report);
+  report.findings = ReadAndTell(report.document, file, motion, manner);
   report.hierarchy = ListHierarchy(report.document);
   if (motion == Motion::kLeftOut) return;
   report.subject = orvane::MeasureSubject(report.document);
   report.motion = SummarizeMotion(report.document, report.hierarchy);
 }
 
-ExitStatus ShowTrcInfo(const InfoArguments& arguments) {
-  if (arguments.hierarchy_only) {
+// Reads the file that the user means by `name` and has `use` take the report on it, of either kind.
+template <typename Use>
+void ReadAndUse(const std::string& name, const InfoArguments& arguments, const ReportManner& manner,
+                const Use& use) {
+  const FileKind kind = arguments.KindOf(name);
+  if (kind == FileKind::kTrc && arguments.hierarchy_only) {
     throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
   }
-  TrcInfoReport report;
-  const std::string file = ReadableFile(arguments.input, FileKind::kTrc);
-  RequireReportApart(arguments.report, {file}, {});
-  ReadTrcInfo(file, arguments.report, report);
-  WriteReportFile({report.findings}, arguments.report);
-  if (arguments.json) {
-    PrintTrcInfoJson(report, arguments.frames, std::cout);
-  } else {
-    PrintTrcInfoPage(report, std::cout);
+  const std::string file = ReadableFile(name, kind);
+  RequireReportApart(manner, {file}, {});
+  if (kind == FileKind::kTrc) {
+    TrcInfoReport report;
+    ReadTrcInfo(file, manner, report);
+    return use(report);
   }
+  InfoReport report;
+  ReadInfo(file, arguments, manner, report);
+  use(report);
+}
+
+ExitStatus ShowOne(const InfoArguments& arguments) {
+  ReadAndUse(arguments.inputs.front(), arguments, arguments.report, [&](const auto& report) {
+    WriteReportFile({report.findings}, arguments.report);
+    if (!arguments.json) return PrintInfoPage(report, std::cout);
+    JsonWriter json(std::cout);
+    WriteInfo(json, report, arguments.frames);
+  });
   return ExitStatus::kDone;
 }
 
-ExitStatus ShowHtrInfo(const InfoArguments& arguments) {
-  InfoReport report;
-  const std::string file = ReadableFile(arguments.input, FileKind::kHtr);
-  RequireReportApart(arguments.report, {file}, {});
-  Read(file, arguments, report);
-  WriteReportFile({report.findings}, arguments.report);
-  if (arguments.json) {
-    PrintInfoJson(report, arguments.frames, std::cout);
-  } else {
-    PrintInfoPage(report, std::cout);
+class ShowingMany {
+ public:
+  explicit ShowingMany(const InfoArguments& arguments)
+      : arguments_(arguments), manner_(arguments.report), json_(std::cout) {
+    manner_.file.clear();
+    manner_.gathered = &reports_;
   }
-  return ExitStatus::kDone;
-}
+
+  ExitStatus Run() {
+    const FoundFiles found = FindFiles(arguments_.inputs, Search());
+    RequireReportApart(arguments_.report, FilesMeantBy(found.names), {});
+    PrintNotes(found);
+    if (!found.errors.empty()) failures_.push_back({ExitStatus::kInputOutput, found.errors});
+    if (arguments_.json) BeginInfos(json_);
+    for (const std::string& name : found.names) Show(name);
+    if (arguments_.json) EndInfos(json_);
+    table_.Print(std::cout);
+    WriteReportFile(reports_, arguments_.report);
+    return Complain();
+  }
+
+ private:
+  FileSearch Search() const {
+    std::vector<std::string_view> extensions = {".htr"};
+    if (!arguments_.hierarchy_only) extensions.push_back(".trc");
+    return {extensions, "show", "shown", arguments_.recursive};
+  }
+
+  // Their names with and without what the readers append.
+  std::vector<std::string> FilesMeantBy(const std::vector<std::string>& names) const {
+    std::vector<std::string> files = names;
+    for (const std::string& name : names) {
+      files.push_back(FileMeantBy(name, arguments_.KindOf(name)));
+    }
+    return files;
+  }
+
+  void Show(const std::string& name) {
+    try {
+      ReadAndUse(name, arguments_, manner_, [this](const auto& report) {
+        if (!arguments_.json) return table_.Add(report);
+        WriteInfo(json_, report, arguments_.frames);
+      });
+    } catch (const Failure& failure) {
+      failures_.push_back(failure);
+      if (!arguments_.json) table_.Add(name, arguments_.KindOf(name), failure.status);
+    }
+  }
+
+  // What is odd in all files, and which could not be shown. Returns the status of the worst.
+  ExitStatus Complain() const {
+    std::cout.flush();
+    TellAll(reports_, arguments_.report);
+    ExitStatus status = ExitStatus::kDone;
+    for (const Failure& failure : failures_) {
+      for (const Complaint& complaint : failure.complaints) Print(Severity::kError, complaint);
+      status = std::max(status, failure.status);
+    }
+    return status;
+  }
+
+  const InfoArguments& arguments_;
+  ReportManner manner_;  // of one file among them
+  JsonWriter json_;
+  InfoTable table_;
+  std::vector<orvane::FileReport> reports_;
+  std::vector<Failure> failures_;
+};
 
 ExitStatus ShowInfo(const InfoArguments& arguments) {
-  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
-  return kind == FileKind::kTrc ? ShowTrcInfo(arguments) : ShowHtrInfo(arguments);
+  const bool is_one = arguments.inputs.size() == 1 && !IsFolder(arguments.inputs.front());
+  return is_one ? ShowOne(arguments) : ShowingMany(arguments).Run();
 }
 
 }  // namespace
 
 void AddInfoCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<InfoArguments>();
-  CLI::App* verb = app.add_subcommand("info", "Tell what a motion or marker file holds");
-  verb->add_option("FILE", arguments->input, "The HTR or TRC file")->required()->type_name("");
+  CLI::App* verb = app.add_subcommand("info", "Tell what motion and marker files hold");
+  verb->add_option("FILE", arguments->inputs, "HTR and TRC files, and folders of them")
+      ->required()
+      ->type_name("");
   AddKindChoice(*verb, arguments->kind);
+  AddRecursive(*verb, arguments->recursive);
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
                                           "HTR: read the header and the hierarchy, not the motion");
   AddTellingFlags(*verb, arguments->report);

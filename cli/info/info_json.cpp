@@ -110,8 +110,7 @@ void WriteSegment(JsonWriter& json, const HtrSegment& segment, bool with_frames)
 
 }  // namespace
 
-void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out) {
-  JsonWriter json(out);
+void WriteInfo(JsonWriter& json, const InfoReport& report, bool with_frames) {
   json.BeginObject();
   json.Key("version");
   json.Integer(kVersion);
@@ -133,6 +132,19 @@ void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out
   for (const HtrSegment& segment : report.document.segments()) {
     WriteSegment(json, segment, with_frames);
   }
+  json.EndArray();
+  json.EndObject();
+}
+
+void BeginInfos(JsonWriter& json) {
+  json.BeginObject();
+  json.Key("version");
+  json.Integer(kVersion);
+  json.Key("files");
+  json.BeginArray(Layout::kLines);
+}
+
+void EndInfos(JsonWriter& json) {
   json.EndArray();
   json.EndObject();
 }

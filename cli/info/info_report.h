@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/json_writer.h"
 #include "formats/htr/document.h"
 #include "inspect/report/report.h"
 #include "inspect/summary/motion_summary.h"
@@ -26,7 +27,11 @@ struct InfoReport {
 
 void PrintInfoPage(const InfoReport& report, std::ostream& out);
 
-// `with_frames` adds every value of every frame.
-void PrintInfoJson(const InfoReport& report, bool with_frames, std::ostream& out);
+// The object of one file. `with_frames` adds every value of every frame.
+void WriteInfo(JsonWriter& json, const InfoReport& report, bool with_frames);
+
+// What stands before and behind the objects of several files.
+void BeginInfos(JsonWriter& json);
+void EndInfos(JsonWriter& json);
 
 }  // namespace cli

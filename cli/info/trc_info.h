@@ -3,6 +3,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/json_writer.h"
 #include "cli/common/report_flags.h"
 #include "formats/trc/document.h"
 #include "inspect/summary/subject.h"
@@ -29,9 +30,9 @@ struct TrcInfoReport {
 // Reads `file` into `report`. Throws a Failure when it is refused or holds no markers.
 void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoReport& report);
 
-void PrintTrcInfoPage(const TrcInfoReport& report, std::ostream& out);
+void PrintInfoPage(const TrcInfoReport& report, std::ostream& out);
 
-// `with_frames` adds every sample.
-void PrintTrcInfoJson(const TrcInfoReport& report, bool with_frames, std::ostream& out);
+// The object of one file. `with_frames` adds every sample.
+void WriteInfo(JsonWriter& json, const TrcInfoReport& report, bool with_frames);
 
 }  // namespace cli

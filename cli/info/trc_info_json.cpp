@@ -117,8 +117,7 @@ void WriteMarkers(JsonWriter& json, const TrcInfoReport& report, bool with_frame
 
 }  // namespace
 
-void PrintTrcInfoJson(const TrcInfoReport& report, bool with_frames, std::ostream& out) {
-  JsonWriter json(out);
+void WriteInfo(JsonWriter& json, const TrcInfoReport& report, bool with_frames) {
   json.BeginObject();
   json.Key("version");
   json.Integer(kVersion);

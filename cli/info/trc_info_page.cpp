@@ -93,7 +93,7 @@ void PrintMarkers(const TrcInfoReport& report, std::ostream& out) {
 
 }  // namespace
 
-void PrintTrcInfoPage(const TrcInfoReport& report, std::ostream& out) {
+void PrintInfoPage(const TrcInfoReport& report, std::ostream& out) {
   const orvane::TRCDocument& document = report.document;
   out << Printable(report.file) << '\n';
   PrintLine(out, "Markers", FormatInt(document.MarkerCount()));
