@@ -5,13 +5,13 @@
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
 #include "cli/common/report.h"
+#include "cli/common/tally.h"
 #include "formats/text/numbers.h"
 
 namespace cli {
 namespace {
 
 using orvane::CheckedFile;
-using orvane::CountOf;
 using orvane::FileReport;
 using orvane::Finding;
 using orvane::FindingSeverity;
@@ -27,17 +27,6 @@ std::string SentenceOf(const Finding& finding) {
                                                     Number(finding.column) + ")";
   return "found " + finding.found + ", expected " + finding.expected + place + ". " +
          finding.effect + " [" + std::string(finding.rule.code) + "]";
-}
-
-// Appends "4 have warnings" to `line`, or "4 of 6 files have warnings" when that comes first.
-void AppendPart(std::string& line, std::size_t count, std::size_t files, const char* singular,
-                const char* plural, const std::string& purpose) {
-  if (count == 0) return;
-  const bool is_first = line.empty();
-  line += (is_first ? "" : ", ") + Number(count);
-  if (is_first) line += " of " + CountOf(files, "file");
-  line += std::string(" ") + (count == 1 ? singular : plural);
-  if (is_first) line += purpose;
 }
 
 }  // namespace
@@ -107,16 +96,14 @@ void CodesOverFiles::PrintTotal(std::ostream& out) const {
   const auto with = [this](FindingSeverity severity) {
     return with_severity_[static_cast<std::size_t>(severity)];
   };
-  std::string line;
-  const auto append = [&](std::size_t count, const char* singular, const char* plural) {
-    AppendPart(line, count, files_, singular, plural, purpose_);
-  };
-  append(with(FindingSeverity::kError), "has errors", "have errors");
-  append(with(FindingSeverity::kWarning), "has warnings", "have warnings");
-  append(with(FindingSeverity::kNote), "has notes", "have notes");
-  append(clean_, "is clean", "are clean");
-  append(unchecked_, "could not be checked", "could not be checked");
-  out << line << '\n';
+  out << TallyOf(files_,
+                 {{with(FindingSeverity::kError), "has errors", "have errors"},
+                  {with(FindingSeverity::kWarning), "has warnings", "have warnings"},
+                  {with(FindingSeverity::kNote), "has notes", "have notes"},
+                  {clean_, "is clean", "are clean"},
+                  {unchecked_, "could not be checked", "could not be checked"}},
+                 purpose_)
+      << '\n';
 }
 
 }  // namespace cli

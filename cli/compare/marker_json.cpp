@@ -76,8 +76,7 @@ void WriteMarkers(JsonWriter& json, const MarkerComparison& comparison) {
 
 }  // namespace
 
-void PrintMarkerJson(const MarkerReport& report, std::ostream& out) {
-  JsonWriter json(out);
+void WriteComparison(JsonWriter& json, const MarkerReport& report) {
   json.BeginObject();
   WriteInteger(json, "version", kComparisonVersion);
   WriteText(json, "file_a", report.file_a);

@@ -98,7 +98,7 @@ void PrintOverall(const MarkerReport& report, std::ostream& out) {
 
 }  // namespace
 
-void PrintMarkerPage(const MarkerReport& report, std::ostream& out) {
+void PrintComparison(const MarkerReport& report, std::ostream& out) {
   const MarkerComparison& comparison = report.comparison;
   out << FileLines(report.file_a, report.file_b);
   if (!comparison.markers.empty() && comparison.frames) PrintMarkers(comparison, out);

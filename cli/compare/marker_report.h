@@ -3,6 +3,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/json_writer.h"
 #include "formats/trc/document.h"
 #include "inspect/compare/marker_comparison.h"
 #include "inspect/report/report.h"
@@ -29,7 +30,7 @@ struct MarkerReport {
   }
 };
 
-void PrintMarkerPage(const MarkerReport& report, std::ostream& out);
-void PrintMarkerJson(const MarkerReport& report, std::ostream& out);
+void PrintComparison(const MarkerReport& report, std::ostream& out);
+void WriteComparison(JsonWriter& json, const MarkerReport& report);
 
 }  // namespace cli

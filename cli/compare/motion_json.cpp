@@ -92,8 +92,7 @@ void WriteSegments(JsonWriter& json, const MotionReport& report) {
 
 }  // namespace
 
-void PrintMotionJson(const MotionReport& report, std::ostream& out) {
-  JsonWriter json(out);
+void WriteComparison(JsonWriter& json, const MotionReport& report) {
   json.BeginObject();
   WriteInteger(json, "version", kComparisonVersion);
   WriteText(json, "file_a", report.file_a);

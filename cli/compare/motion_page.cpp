@@ -118,7 +118,7 @@ void PrintOverall(const MotionReport& report, std::ostream& out) {
 
 }  // namespace
 
-void PrintMotionPage(const MotionReport& report, std::ostream& out) {
+void PrintComparison(const MotionReport& report, std::ostream& out) {
   out << FileLines(report.file_a, report.file_b);
   if (report.motion.overall.position_mm.count > 0) PrintSegments(report, out);
   PrintStructure(report, out);

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/json_writer.h"
 #include "formats/htr/document.h"
 #include "inspect/compare/motion_comparison.h"
 #include "inspect/compare/structure_comparison.h"
@@ -41,7 +42,7 @@ struct MotionReport {
   }
 };
 
-void PrintMotionPage(const MotionReport& report, std::ostream& out);
-void PrintMotionJson(const MotionReport& report, std::ostream& out);
+void PrintComparison(const MotionReport& report, std::ostream& out);
+void WriteComparison(JsonWriter& json, const MotionReport& report);
 
 }  // namespace cli

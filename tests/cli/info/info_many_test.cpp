@@ -125,6 +125,12 @@ TEST_F(InfoManyTest, OfHierarchiesTakesTheMotionFilesOfAFolder) {
   EXPECT_THAT(result.output, Not(HasSubstr("b.trc")));
 }
 
+TEST_F(InfoManyTest, AFolderIsMeantByItsWholeName) {
+  Write("takes.htr", SmallMotion());
+  EXPECT_EQ(json::parse(Orvane({"info", "--json", "takes"}).output)["files"].size(), 2U);
+  EXPECT_EQ(json::parse(Orvane({"info", "--json", "takes.htr"}).output)["file"], "takes.htr");
+}
+
 TEST_F(InfoManyTest, AFolderWithoutFilesToShowIsSaidToBeOne) {
   std::filesystem::create_directories(folder_.Path() / "empty");
   const ProgramResult result = Orvane({"info", "empty"});
