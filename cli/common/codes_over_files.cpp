@@ -77,13 +77,17 @@ void CodesOverFiles::Add(const FileReport& report) {
   }
 }
 
-void CodesOverFiles::Print(std::ostream& out) const {
+std::vector<const CodesOverFiles::Code*> CodesOverFiles::WorstFirst() const {
   std::vector<const Code*> worst_first;
   for (const Code& code : codes_) worst_first.push_back(&code);
   std::stable_sort(worst_first.begin(), worst_first.end(), [](const Code* left, const Code* right) {
     return left->severity > right->severity;
   });
-  for (const Code* code : worst_first) {
+  return worst_first;
+}
+
+void CodesOverFiles::Print(std::ostream& out) const {
+  for (const Code* code : WorstFirst()) {
     const bool is_told = code->count == 1 || (code->tells_count && code->files.size() == 1);
     out << Printable(FewOf(code->files)) << ": " << SeverityName(code->severity) << ": "
         << (is_told ? "" : Number(code->count) + " times, first: ") << Printable(code->first)

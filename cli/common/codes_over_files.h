@@ -16,17 +16,6 @@ namespace cli {
 
 class CodesOverFiles {
  public:
-  // What was found in a file, whatever is done with it.
-  void Add(const orvane::CheckedFile& file);
-  // What an action is told of a file; all are of one action.
-  void Add(const orvane::FileReport& report);
-  // A file that could not be checked.
-  void AddUnchecked() { ++files_, ++unchecked_; }
-
-  // The worst codes come first, and else those of the first files.
-  void Print(std::ostream& out) const;
-
- private:
   struct Code {
     orvane::FindingSeverity severity;
     std::string first;               // what is said of it in the first file
@@ -35,11 +24,26 @@ class CodesOverFiles {
     bool tells_count = false;        // `first` says how often the first file has it
   };
 
+  // What was found in a file, whatever is done with it.
+  void Add(const orvane::CheckedFile& file);
+  // What an action is told of a file; all are of one action.
+  void Add(const orvane::FileReport& report);
+  // A file that could not be checked.
+  void AddUnchecked() { ++files_, ++unchecked_; }
+
+  // The worst codes first, and else those of the first files. They live as long as this does and
+  // nothing is added.
+  [[nodiscard]] std::vector<const Code*> WorstFirst() const;
+
+  // Those, and the total.
+  void Print(std::ostream& out) const;
+
+ private:
   // Notes that `code` was found in `file`. Returns it for what is said of it when that is new.
   Code* Meet(std::string_view code, orvane::FindingSeverity severity, const std::string& file,
              std::size_t count);
-  template <typename HasSeverity>
-  void CountFile(const HasSeverity& findings);
+  template <typename Findings>
+  void CountFile(const Findings& findings);
   void PrintTotal(std::ostream& out) const;
 
   std::vector<Code> codes_;

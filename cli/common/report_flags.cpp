@@ -2,10 +2,10 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <map>
 #include <sstream>
 
 #include "cli/common/choice.h"
+#include "cli/common/codes_over_files.h"
 #include "cli/common/failure.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
@@ -21,47 +21,16 @@ using orvane::FileReport;
 using orvane::FindingSeverity;
 using orvane::ReportedFinding;
 
-Severity SeverityOf(const ReportedFinding& finding) {
-  return finding.severity == FindingSeverity::kError ? Severity::kError : Severity::kWarning;
-}
-
-// A code that was found in one file or several.
-struct CodeInFiles {
-  const ReportedFinding* first = nullptr;
-  std::string file;  // that the first is in
-  std::size_t files = 0;
-  std::size_t count = 0;  // over all of them
-};
-
-// The worst first, and else in the order of their first files.
-std::vector<CodeInFiles> GatherByCode(const std::vector<FileReport>& reports) {
-  std::vector<CodeInFiles> all;
-  std::map<std::string_view, std::size_t> places;
-  for (const FileReport& report : reports) {
-    for (const ReportedFinding& finding : report.findings) {
-      const auto [place, is_new] = places.emplace(finding.code, all.size());
-      if (is_new) all.push_back({&finding, report.file, 0, 0});
-      ++all[place->second].files;
-      all[place->second].count += finding.count;
-    }
-  }
-  std::stable_sort(all.begin(), all.end(), [](const CodeInFiles& left, const CodeInFiles& right) {
-    return left.first->severity > right.first->severity;
-  });
-  return all;
+Severity SeverityOf(FindingSeverity severity) {
+  return severity == FindingSeverity::kError ? Severity::kError : Severity::kWarning;
 }
 
 // "30 times in 3 files, first here: ", for the file that is named in front of it.
-std::string Extent(const CodeInFiles& each) {
-  if (each.files == 1) return "";
-  const std::string times =
-      each.count == each.files ? "" : orvane::CountOf(each.count, "time") + " ";
-  return times + "in " + orvane::CountOf(each.files, "file") + ", first here: ";
-}
-
-std::string LineOver(const CodeInFiles& each) {
-  return std::string(SeverityName(each.first->severity)) + ": " + Extent(each) +
-         LineOf(*each.first);
+std::string Extent(const CodesOverFiles::Code& code) {
+  const std::size_t files = code.files.size();
+  if (files == 1) return "";
+  const std::string times = code.count == files ? "" : orvane::CountOf(code.count, "time") + " ";
+  return times + "in " + orvane::CountOf(files, "file") + ", first here: ";
 }
 
 std::string NothingWritten(const ReportManner& manner, const std::vector<std::string_view>& codes) {
@@ -107,16 +76,20 @@ void Tell(const FileReport& report, const ReportManner& manner) {
   if (manner.gathered != nullptr) return manner.gathered->push_back(report);
   for (const ReportedFinding& finding : report.findings) {
     if (manner.only_warnings && finding.severity == FindingSeverity::kNote) continue;
-    Print(SeverityOf(finding),
+    Print(SeverityOf(finding.severity),
           {report.file, std::string(SeverityName(finding.severity)) + ": " + LineOf(finding), ""});
   }
 }
 
 void TellAll(const std::vector<FileReport>& reports, const ReportManner& manner) {
   if (reports.size() == 1) return Tell(reports.front(), manner);
-  for (const CodeInFiles& each : GatherByCode(reports)) {
-    if (manner.only_warnings && each.first->severity == FindingSeverity::kNote) continue;
-    Print(SeverityOf(*each.first), {each.file, LineOver(each), ""});
+  CodesOverFiles codes;
+  for (const FileReport& report : reports) codes.Add(report);
+  for (const CodesOverFiles::Code* code : codes.WorstFirst()) {
+    if (manner.only_warnings && code->severity == FindingSeverity::kNote) continue;
+    Print(SeverityOf(code->severity),
+          {code->files.front(),
+           std::string(SeverityName(code->severity)) + ": " + Extent(*code) + code->first, ""});
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <ostream>
 #include <string>
+#include <utility>
 #include <vector>
 
 // A table of a page: headings, and below them rows of the same columns, two blanks apart.

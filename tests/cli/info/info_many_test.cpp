@@ -79,7 +79,8 @@ TEST_F(InfoManyTest, AFileThatIsRefusedKeepsNoOtherFromBeingShown) {
 }
 
 TEST_F(InfoManyTest, JsonHasWhatIsToldOfEachFileAlone) {
-  for (const auto& [name, frames] : {std::pair{"takes/a.htr", false}, {"takes/b.trc", true}}) {
+  for (const auto& [name, frames] :
+       {std::pair{"takes/a.htr", false}, std::pair{"takes/b.trc", true}}) {
     std::vector<std::string> alone = {"info", "--json", name};
     std::vector<std::string> together = {"info", "--json", "takes/june/c.htr", name, "no.htr"};
     if (frames) {

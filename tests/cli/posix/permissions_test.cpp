@@ -53,6 +53,21 @@ TEST_F(PermissionsTest, AFolderThatMayNotBeReadIsSaidToBeOne) {
   SetPermissions("take", 0700);
 }
 
+TEST_F(PermissionsTest, AFolderBelowThatMayNotBeReadKeepsNoOtherFromBeingLookedInto) {
+  MakeFolder("takes", 0755);
+  MakeFolder("takes/open", 0755);
+  MakeFolder("takes/shut", 0);
+  Write("takes/open/a.htr", test::SmallMotion());
+  PosixRun run{Command({"check", "--recursive", "takes"})};
+  run.unprivileged = true;
+  const ProgramResult result = RunProgram(run);
+  SetPermissions("takes/shut", 0700);
+  if (result.status == test::kNotStarted) GTEST_SKIP() << "others may not run the program";
+  EXPECT_EQ(result.status, 3);
+  EXPECT_EQ(result.output, "takes/open/a.htr: clean: 2 segments, 3 frames\n");
+  EXPECT_EQ(result.error, "orvane: takes/shut: Permission denied\n");
+}
+
 TEST_F(PermissionsTest, AReadOnlyFolderTakesNoScene) {
   MakeFolder("scenes", 0755);
   Write("scenes/old.glb", "the old scene");
