@@ -1,9 +1,18 @@
 #include "inspect/check/marker_naming.h"
 
+#include "formats/mnm/mapping_lines.h"
+#include "formats/text/files.h"
+
 namespace orvane {
+
 bool MarkerNaming::Load(const std::string& path) {
-  if (!mapping_.Load(path)) return false;
+  const std::optional<std::string> bytes = ReadFileBytes(path);
+  if (!bytes || !mapping_.Load(path)) return false;
   file_ = path;
+  bytes_ = *bytes;
+  names_.clear();
+  MappingLineReader reader(bytes_);
+  for (MappingLine line; reader.Next(line);) names_.push_back(line.trc_name);
   return true;
 }
 
@@ -11,6 +20,19 @@ std::optional<std::string> MarkerNaming::NameFor(const std::string& marker) cons
   std::string name = marker;
   if (!file_.empty() && !mapping_.Lookup(name)) return std::nullopt;
   return name;
+}
+
+NameMatch MarkerNaming::Match(std::span<const std::string> markers, NameMatching how) const {
+  return MatchNames(names_, markers, how);
+}
+
+std::string MarkerNaming::MappingFor(const NameMatch& match) const {
+  std::string bytes = bytes_;
+  if (!bytes.empty() && !bytes.ends_with('\n')) bytes += '\n';
+  for (const auto& [marker, mapped] : match.taken) {
+    bytes += NameFor(mapped).value_or(mapped) + '\t' + marker + "\t\n";
+  }
+  return bytes;
 }
 
 }  // namespace orvane

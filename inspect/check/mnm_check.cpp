@@ -11,6 +11,7 @@
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/similar_words.h"
 #include "inspect/check/text_flaw.h"
+#include "inspect/mapping/name_suggestion.h"
 
 namespace orvane {
 namespace {
@@ -90,13 +91,27 @@ bool IsNoMapping(const FindingList& findings) {
          totals.count(mnm::Rule("mnm-encoding").code) > 0;
 }
 
+// What would have entries for the markers `names` of a mapping that names `mapped`; empty for
+// nothing that is known.
+std::string WhatWouldFit(const std::vector<std::string>& mapped,
+                         const std::vector<std::string>& names) {
+  for (const auto& [how, flag] : {std::pair(NameMatching::kCase, "--names case"),
+                                  std::pair(NameMatching::kSubject, "--names subject")}) {
+    const NameMatch match = MatchNames(mapped, names, how);
+    if (match.taken.empty() || !match.ambiguous.empty()) continue;
+    return flag + (" takes " + CountOf(match.taken.size(), "name")) + " for those of the mapping";
+  }
+  if (SuggestByNames(names).sure.empty()) return "";
+  return "\"orvane map suggest\" makes a mapping of what their names say";
+}
+
 // What a mapping and the markers of a capture are to each other.
 class MappingComparison {
  public:
   MappingComparison(const std::string& mapping, const MappingEntries& entries,
-                    const std::vector<TrcMarkerName>& markers)
-      : mapping_(mapping), entries_(entries), markers_(markers) {
-    for (const TrcMarkerName& marker : markers) names_.insert(marker.name);
+                    const MappedCapture& capture)
+      : mapping_(mapping), entries_(entries), markers_(capture.markers), match_(capture.match) {
+    for (const TrcMarkerName& marker : markers_) names_.insert(NameInMapping(marker));
   }
 
   void CheckEntries(FindingList& findings) const {
@@ -111,7 +126,7 @@ class MappingComparison {
     if (fits_nothing && !markers_.empty()) AddFitsNothing(findings);
     std::map<std::string_view, Namesakes> namesakes;
     for (const TrcMarkerName& marker : markers_) {
-      const MappingEntry* const entry = entries_.Find(marker.name);
+      const MappingEntry* const entry = entries_.Find(NameInMapping(marker));
       if (entry == nullptr) {
         AddUnmapped(marker, findings);
       } else {
@@ -123,7 +138,12 @@ class MappingComparison {
 
  private:
   bool IsUsed(const MappingEntry& entry) const { return names_.count(entry.trc_name) > 0; }
-  bool IsMapped(const TrcMarkerName& marker) const { return entries_.Find(marker.name) != nullptr; }
+  bool IsMapped(const TrcMarkerName& marker) const {
+    return entries_.Find(NameInMapping(marker)) != nullptr;
+  }
+  const std::string& NameInMapping(const TrcMarkerName& marker) const {
+    return match_.NameInMapping(marker.name);
+  }
 
   void AddUnused(const MappingEntry& entry, FindingList& findings) const {
     findings.Add(mnm::Rule("mnm-entry-unused"), entry, [&] {
@@ -137,9 +157,25 @@ class MappingComparison {
       const std::string markers = markers_.size() == 1
                                       ? "the file's only marker"
                                       : "any of the file's " + CountOf(markers_.size(), "marker");
+      const std::string help = WhatWouldFit(NamesInMapping(), NamesOfMarkers());
       return FindingWords{"no entry for " + markers, "entries for its markers in " + mapping_,
-                          "Every marker is dropped."};
+                          "Every marker is dropped" + (help.empty() ? "." : "; " + help + "."),
+                          "Every marker would be dropped, and nothing is written; " +
+                              (help.empty() ? "" : help + ", and ") +
+                              "--allow empty writes it all the same."};
     });
+  }
+
+  std::vector<std::string> NamesInMapping() const {
+    std::vector<std::string> names;
+    for (const MappingEntry& entry : entries_.InForce()) names.emplace_back(entry.trc_name);
+    return names;
+  }
+
+  std::vector<std::string> NamesOfMarkers() const {
+    std::vector<std::string> names;
+    for (const TrcMarkerName& marker : markers_) names.push_back(marker.name);
+    return names;
   }
 
   void AddUnmapped(const TrcMarkerName& marker, FindingList& findings) const {
@@ -174,7 +210,8 @@ class MappingComparison {
   const std::string& mapping_;
   const MappingEntries& entries_;
   const std::vector<TrcMarkerName>& markers_;
-  std::unordered_set<std::string_view> names_;  // of the markers
+  const NameMatch& match_;
+  std::unordered_set<std::string_view> names_;  // of the markers, in the mapping
 };
 
 }  // namespace
@@ -198,7 +235,7 @@ std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view 
                                       const MappedCapture& capture) {
   FindingList findings;
   const MappingEntries entries(bytes, findings);
-  const MappingComparison comparison(file, entries, capture.markers);
+  const MappingComparison comparison(file, entries, capture);
   comparison.CheckEntries(findings);
   NameWhatItIs(bytes, findings);
 

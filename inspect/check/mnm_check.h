@@ -6,6 +6,7 @@
 
 #include "formats/trc/read_observer.h"
 #include "inspect/check/checked_file.h"
+#include "inspect/mapping/name_matching.h"
 
 // The check of mapping files, alone and against the markers of a capture. The reader reads them as
 // it always does; docs/formats/mnm.md lists the codes. Lines and columns, in bytes, count from 1.
@@ -33,10 +34,12 @@ struct TrcMarkerName {
 struct MappedCapture {
   std::string file;  // the name it is known as
   std::vector<TrcMarkerName> markers;
+  NameMatch
+      match{};  // the names that are taken for those of the mapping; none: as they are written
 };
 
 // Checks the mapping file as above, and what it makes of the markers of `capture`. Returns what is
-// found in either, in that order.
+// found in either, in that order. What would help a mapping that fits nothing is told, too.
 [[nodiscard]] std::vector<CheckedFile> CheckMapping(const std::string& file, std::string_view bytes,
                                                     const MappedCapture& capture);
 

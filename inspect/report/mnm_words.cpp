@@ -55,12 +55,7 @@ constexpr FindingMeaning kWords[] = {
     {"mnm-entry-shadowed", "A marker has two entries in the mapping",
      "{count} markers have several entries in the mapping",
      InMappings(kWarning, "The first of its entries counts.")},
-    {"mnm-fits-nothing", "The mapping has {found}", nullptr,
-     InMappings(kError, "Every marker is dropped.")
-         .But(Action::kConvert, kError,
-              "Every marker would be dropped, and nothing is written; --allow empty writes it all "
-              "the same."),
-     Concern::kMarkers},
+    {"mnm-fits-nothing", "The mapping has {found}", nullptr, InMappings(kError), Concern::kMarkers},
     {"mnm-name-shared", "The mapping has {found}",
      "The mapping has one name for several markers, {count} times",
      InMappings(kWarning, "Who reads the converted file cannot tell them apart.")},

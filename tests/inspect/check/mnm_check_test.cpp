@@ -160,6 +160,52 @@ TEST(MappingCheck, TellsOfACaptureWhoseMarkersAreMapped) {
   EXPECT_THAT(AllTold(files[1].findings), IsEmpty());
 }
 
+// The names of another subject are those of the mapping.
+TEST(MappingCheck, TellsOfTheMappingAsItIsTaken) {
+  const orvane::MappedCapture capture{"take.trc",
+                                      {{"anna:Head", {4, 13, 3}}, {"anna:Toe", {4, 25, 6}}},
+                                      {{{"anna:Head", "walker:Head"}}, {}}};
+  std::vector<std::string> told;
+  for (const auto& file : CheckMapping("m.mnm", "LFHD walker:Head\nC7 walker:C7\n", capture)) {
+    for (const orvane::Finding& finding : file.findings.Sorted()) {
+      told.push_back(std::string(finding.rule.code) + " " + finding.found);
+    }
+  }
+  EXPECT_THAT(told, testing::ElementsAre("mnm-entry-unused \"walker:C7\"",
+                                         "mnm-marker-unmapped \"anna:Toe\""));
+}
+
+struct HelpRow {
+  std::string mapping;
+  std::string effect;
+  std::string when_converted;
+};
+
+TEST(MappingCheck, TellsWhatHelpsAMappingThatFitsNothing) {
+  const orvane::MappedCapture capture{
+      "take.trc", {{"anna:Toe", {4, 13, 3}}, {"bob:Toe", {4, 22, 6}}, {"bob:LFHD", {4, 30, 9}}}};
+  const HelpRow rows[] = {
+      {"LTOE Anna:TOE\n",
+       "Every marker is dropped; --names case takes 1 name for those of the mapping.",
+       "Every marker would be dropped, and nothing is written; --names case takes 1 name for those "
+       "of the mapping, and --allow empty writes it all the same."},
+      {"LFHD walker:LFHD\n",
+       "Every marker is dropped; --names subject takes 1 name for those of the mapping.",
+       "Every marker would be dropped, and nothing is written; --names subject takes 1 name for "
+       "those of the mapping, and --allow empty writes it all the same."},
+      {"LTOE walker:Toe\nC7 walker:LFHD\n",
+       "Every marker is dropped; \"orvane map suggest\" makes a mapping of what their names say.",
+       "Every marker would be dropped, and nothing is written; \"orvane map suggest\" makes a "
+       "mapping of what their names say, and --allow empty writes it all the same."}};
+  for (const HelpRow& row : rows) {
+    const auto files = CheckMapping("m.mnm", row.mapping, capture);
+    const orvane::Finding finding = files[1].findings.Sorted().front();
+    EXPECT_EQ(finding.rule.code, "mnm-fits-nothing");
+    EXPECT_EQ(finding.effect, row.effect);
+    EXPECT_EQ(finding.when_converted, row.when_converted);
+  }
+}
+
 TEST(MappingCheck, TellsOfEachOddity) {
   test::ExpectTold(kMappingRows, ToldOf);
   test::ExpectTold(kCaptureRows, ToldOfBoth);
