@@ -45,6 +45,19 @@ FileReport UnpackReport(const json& packed, const std::string& file) {
   return report;
 }
 
+// What is ambiguous is among the errors.
+json Pack(const orvane::NameMatch& match) {
+  json packed = json::array();
+  for (const auto& [marker, mapped] : match.taken) packed.push_back({marker, mapped});
+  return packed;
+}
+
+orvane::NameMatch UnpackMatch(const json& packed) {
+  orvane::NameMatch match;
+  for (const json& one : packed) match.taken.emplace(one.at(0), one.at(1));
+  return match;
+}
+
 json Pack(const Conversion& conversion) {
   return {conversion.input,        conversion.source,
           conversion.output,       static_cast<int>(conversion.status),
@@ -52,7 +65,8 @@ json Pack(const Conversion& conversion) {
           conversion.markers_kept, conversion.markers_dropped,
           conversion.dropouts,     Pack(conversion.errors),
           Pack(conversion.report), conversion.told,
-          conversion.is_empty,     conversion.z_up};
+          conversion.is_empty,     conversion.z_up,
+          Pack(conversion.match)};
 }
 
 Conversion Unpack(const json& packed) {
@@ -69,7 +83,8 @@ Conversion Unpack(const json& packed) {
           UnpackReport(packed.at(10), packed.at(0)),
           packed.at(11),
           packed.at(12),
-          packed.at(13)};
+          packed.at(13),
+          UnpackMatch(packed.at(14))};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
+#include "inspect/mapping/name_matching.h"
 #include "inspect/report/report.h"
 
 // One marker file of `orvane convert`: what is to become of it, and what became of it.
@@ -43,6 +44,7 @@ struct Conversion {
   std::vector<std::string> told;  // codes in it that an error tells of in their place
   bool is_empty = false;          // no marker is left to write
   bool z_up = false;              // its heights lie along Z: it is turned before
+  orvane::NameMatch match;        // the markers that are taken for others of the mapping
 };
 
 // As the table and JSON give it: "converted".

@@ -34,8 +34,8 @@ using orvane::SummarizeBvk;
 
 namespace fs = std::filesystem;
 
-constexpr char kEmptyMapping[] = "/nothing.mnm";
 constexpr char kTurnedFolder[] = "/turned";
+constexpr char kMadeMapping[] = "/mapping.mnm";
 constexpr char kNamesFolder[] = "/names";  // one folder for each output, named like it
 
 // A file of the plug-in's, whatever line ends the system has; empty when it cannot be read.
@@ -57,10 +57,9 @@ class BatchConversion {
  private:
   void ConvertAll() {
     platform::HoldInterrupts();  // what is unfinished has to be put away
-    MarkerNaming naming;
-    LoadMapping(order_.mapping, naming);
+    LoadMapping(order_.mapping, naming_);
     for (Conversion& conversion : result_.conversions) {
-      if (!platform::Interrupted()) Judge(conversion, naming);
+      if (!platform::Interrupted()) Judge(conversion);
     }
     while (!Waiting().empty() && !platform::Interrupted()) ConvertNext();
     for (Conversion* conversion : Waiting()) conversion->status = ConversionStatus::kInterrupted;
@@ -68,8 +67,8 @@ class BatchConversion {
 
   // What is delivered of a file depends on no other. One that the reader refuses before its rates
   // has a run of the plug-in begin.
-  void Judge(Conversion& conversion, const MarkerNaming& naming) {
-    const RateSource rate = JudgeInput(conversion, order_, naming);
+  void Judge(Conversion& conversion) {
+    const RateSource rate = JudgeInput(conversion, order_, naming_);
     if (!order_.keep_broken || conversion.status != ConversionStatus::kPlanned) return;
     if (rate == RateSource::kOthersShort) RefuseForeignRate(conversion);
     if (rate == RateSource::kOthers) first_in_run_.insert(&conversion);
@@ -114,7 +113,8 @@ class BatchConversion {
   }
 
   // As many of the first of `waiting` as the plug-in may convert in one run: it begins with those
-  // that have to, and their outputs lie on one disk and have files of their own in `scratch`.
+  // that have to, one mapping names their markers, and their outputs lie on one disk and have files
+  // of their own in `scratch`.
   std::vector<Conversion*> NextRun(std::vector<Conversion*> waiting,
                                    const platform::ScratchFolder& scratch) const {
     const auto last =
@@ -122,6 +122,7 @@ class BatchConversion {
           const bool has_to_begin = first_in_run_.count(conversion) != 0;
           return (has_to_begin && conversion != waiting.front()) ||
                  LinkedPlaceFor(*conversion) != LinkedPlaceFor(*waiting.front()) ||
+                 conversion->match.taken != waiting.front()->match.taken ||
                  IsTaken(*conversion, scratch);
         });
     waiting.erase(last, waiting.end());
@@ -190,8 +191,16 @@ class BatchConversion {
   }
 
   void UsePanel(const std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
+    const std::string mapping = MappingFile(run.front()->match, scratch);
+    if (mapping.empty()) {
+      for (Conversion* conversion : run) {
+        Settle(*conversion, ConversionStatus::kFailed, conversion->output,
+               "The mapping for its markers could not be written", "Is the disk full?");
+      }
+      return;
+    }
     PluginSession session(order_.module, SettingsSource::kFresh);
-    ConverterPanel panel(session, {MappingFile(scratch), !order_.mapping.empty(), order_.offset});
+    ConverterPanel panel(session, {mapping, !order_.mapping.empty(), order_.offset});
     if (order_.single) {
       ConvertSingle(panel, *run.front(), scratch);
     } else {
@@ -199,12 +208,17 @@ class BatchConversion {
     }
   }
 
-  // The panel needs a mapping file even when it is not to use one.
-  std::string MappingFile(const platform::ScratchFolder& scratch) const {
-    if (!order_.mapping.empty()) return PathForPanel(order_.mapping);
-    const std::string path = scratch.Path() + kEmptyMapping;
-    orvane::CreateFileForBytes(path);
-    return path;
+  // The panel needs a mapping file even when it is not to use one, and one of its own for markers
+  // that are taken for others. Returns an empty text when that cannot be written.
+  std::string MappingFile(const orvane::NameMatch& match,
+                          const platform::ScratchFolder& scratch) const {
+    const bool is_users = !order_.mapping.empty();
+    if (is_users && match.taken.empty()) return PathForPanel(order_.mapping);
+    const std::string path = scratch.Path() + kMadeMapping;
+    std::ofstream file = orvane::CreateFileForBytes(path);
+    if (is_users) file << naming_.MappingFor(match);
+    file.close();
+    return file.fail() && is_users ? "" : path;
   }
 
   void ConvertSingle(ConverterPanel& panel, Conversion& conversion,
@@ -324,6 +338,7 @@ class BatchConversion {
   }
 
   const ConversionOrder& order_;
+  MarkerNaming naming_;
   ConvertedBatch result_;
   std::set<const Conversion*> first_in_run_;
 };

@@ -1,5 +1,6 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
+#include "cli/common/taken_names.h"
 #include "cli/convert/conversion_report.h"
 
 namespace cli {
@@ -62,6 +63,8 @@ void WriteFile(JsonWriter& json, const Conversion& conversion) {
   WriteCount(json, "dropouts", conversion, conversion.dropouts);
   WriteTexts(json, "errors", ErrorsOf(conversion));
   WriteTexts(json, "warnings", WarningsOf(conversion));
+  json.Key("names_taken");
+  WriteTaken(json, conversion.match);
   json.Key("findings");
   WriteFindings(json, conversion.report);
   json.EndObject();

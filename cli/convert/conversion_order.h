@@ -5,6 +5,7 @@
 
 #include "cli/common/report_flags.h"
 #include "cli/convert/converter_panel.h"
+#include "inspect/mapping/name_matching.h"
 
 // How the files of `orvane convert` are to be converted, which is the same for all of them.
 
@@ -13,6 +14,7 @@ namespace cli {
 struct ConversionOrder {
   std::string module;
   std::string mapping;  // the mapping file; empty: every marker is kept under its name
+  orvane::NameMatching names = orvane::NameMatching::kExact;  // those that are the mapping's
   std::optional<OffsetWish> offset;
   bool replace = false;      // outputs that exist
   bool keep_broken = false;  // deliver what the plug-in makes of bad files, too

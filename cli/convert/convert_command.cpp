@@ -13,6 +13,7 @@
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/progress_line.h"
+#include "cli/common/taken_names.h"
 #include "cli/convert/conversion_batch.h"
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/conversion_report.h"
@@ -280,7 +281,22 @@ class Converting {
                     order_.report);
   }
 
+  // What is told of several files stands there once.
+  void TellOfTaken() const {
+    if (arguments_.quiet) return;
+    std::vector<const Conversion*> firsts;
+    std::map<std::string, std::size_t> files;  // by what is told
+    for (const Conversion& conversion : conversions_) {
+      const std::string taken = DescribeTaken(conversion.match);
+      if (!taken.empty() && ++files[taken] == 1) firsts.push_back(&conversion);
+    }
+    for (const Conversion* first : firsts) {
+      cli::TellOfTaken(first->input, first->match, files[DescribeTaken(first->match)]);
+    }
+  }
+
   void Complain() const {
+    TellOfTaken();
     TellAll(Reports(WithoutErrorsOf), order_.report);
     for (const Conversion& conversion : conversions_) {
       for (const Complaint& error : conversion.errors) Print(Severity::kError, error);

@@ -4,6 +4,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/taken_names.h"
 
 namespace cli {
 namespace {
@@ -35,9 +36,11 @@ void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
 }
 
 void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
-  RequireName(verb.add_option("--mapping", arguments.order.mapping,
-                              "The mapping file: rename the markers it lists, drop the others"))
-      ->type_name("M.mnm");
+  CLI::Option* mapping =
+      RequireName(verb.add_option("--mapping", arguments.order.mapping,
+                                  "The mapping file: rename the markers it lists, drop the others"))
+          ->type_name("M.mnm");
+  AddNamesFlag(verb, arguments.order.names)->needs(mapping);
   CLI::Option* offset = verb.add_option("--offset", arguments.offset,
                                         "Add X, Y and Z to every position, in the file's unit")
                             ->type_name("X,Y,Z");

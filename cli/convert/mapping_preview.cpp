@@ -3,6 +3,7 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/report.h"
+#include "cli/common/taken_names.h"
 #include "cli/convert/trc_worth.h"
 #include "formats/trc/document.h"
 #include "inspect/check/marker_naming.h"
@@ -43,8 +44,10 @@ class Previewer {
       conversion.errors.push_back({conversion.input, message, ""});
       return preview;
     }
+    MatchNames(conversion, document, naming_, order_.names);
     for (const orvane::TRCMarker& marker : document.markers()) {
-      preview.markers.push_back({marker.Name(), naming_.NameFor(marker.Name())});
+      const std::string& name = conversion.match.NameInMapping(marker.Name());
+      preview.markers.push_back({marker.Name(), naming_.NameFor(name)});
     }
     return preview;
   }
@@ -99,6 +102,8 @@ void WritePreview(JsonWriter& json, const ConversionPreview& preview) {
   json.BeginArray(Layout::kLines);
   for (const MarkerFate& marker : preview.markers) WriteMarker(json, marker);
   json.EndArray();
+  json.Key("names_taken");
+  WriteTaken(json, preview.conversion->match);
   json.Key("findings");
   WriteFindings(json, preview.conversion->report);
   json.EndObject();

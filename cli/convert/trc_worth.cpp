@@ -9,8 +9,8 @@
 
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/taken_names.h"
 #include "formats/text/files.h"
-#include "formats/trc/document.h"
 #include "inspect/check/mnm_check.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/frame_counts.h"
@@ -31,10 +31,11 @@ using orvane::WhyOutOfProportion;
 using orvane::WhyTooShort;
 
 // How many of the markers are written.
-std::int64_t CountKept(const orvane::TRCDocument& document, const MarkerNaming& naming) {
+std::int64_t CountKept(const orvane::TRCDocument& document, const orvane::NameMatch& match,
+                       const MarkerNaming& naming) {
   const auto& markers = document.markers();
   return std::count_if(markers.begin(), markers.end(), [&](const auto& marker) {
-    return naming.NameFor(marker.Name()).has_value();
+    return naming.NameFor(match.NameInMapping(marker.Name())).has_value();
   });
 }
 
@@ -61,7 +62,7 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
   conversion.markers_dropped = document.MarkerCount();
   const auto held = static_cast<std::int64_t>(outline.Frames());
   const FrameCounts counts{document.NumFrames(), held, held};
-  const std::int64_t kept = CountKept(document, naming);
+  const std::int64_t kept = CountKept(document, conversion.match, naming);
   Complaint refusal = FindExcess(conversion.input, counts, document.MarkerCount(), kept);
   if (!refusal.text.empty()) conversion.told = {"trc-frames-too-many", "trc-frame-count"};
   if (refusal.text.empty()) refusal = FindShortness(conversion.input, counts, kept);
@@ -79,10 +80,12 @@ RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& m
   return message.empty() ? RateSource::kFile : RateSource::kOthers;
 }
 
-// What the markers of the capture `file`, whose `bytes` these are, are to `mapping`.
-FileReport ReportOnMarkers(const std::string& mapping, const std::string& file,
+// What the markers of a capture, whose `bytes` these are, are to `mapping`. It is not taken when it
+// is ambiguous.
+FileReport ReportOnMarkers(const std::string& mapping, const Conversion& conversion,
                            const std::string& bytes, const orvane::ActionOptions& options) {
-  orvane::MappedCapture capture{file, {}};
+  if (!conversion.match.ambiguous.empty()) return {};
+  orvane::MappedCapture capture{conversion.input, {}, conversion.match};
   const std::optional<std::string> entries = orvane::ReadFileBytes(mapping);
   if (!entries || !orvane::ListTrcMarkers(bytes, capture.markers).empty()) return {};
   const auto checked = orvane::CheckMapping(mapping, *entries, capture);
@@ -104,15 +107,16 @@ FileReport WithoutConsequences(FileReport report) {
   return report.Without("mnm-marker-unmapped").Without("mnm-marker-unmappable");
 }
 
-FileReport ReportOnFile(const ConversionOrder& order, const std::string& file,
+FileReport ReportOnFile(const ConversionOrder& order, const Conversion& conversion,
                         const std::string& bytes) {
   orvane::ActionOptions options;
   options.markers = order.NeedsMarkers();
   options.all_markers = order.mapping.empty();
-  FileReport report = ReportOn(orvane::CheckTrc(file, bytes), Action::kConvert, options);
+  FileReport report =
+      ReportOn(orvane::CheckTrc(conversion.input, bytes), Action::kConvert, options);
   if (order.mapping.empty()) return report;
   report = report.Without("trc-name-with-blank");  // no entry can name such a marker: it is dropped
-  report.Take(ReportOnMarkers(order.mapping, file, bytes, options));
+  report.Take(ReportOnMarkers(order.mapping, conversion, bytes, options));
   return WithoutConsequences(report);
 }
 
@@ -129,7 +133,7 @@ void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
   const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
   if (!bytes) return RequireInput(conversion);
   try {
-    conversion.report = ReportOnFile(order, conversion.input, *bytes);
+    conversion.report = ReportOnFile(order, conversion, *bytes);
   } catch (const orvane::CheckFailure& failure) {
     conversion.status = ConversionStatus::kUnreadable;
     conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
@@ -139,7 +143,8 @@ void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
 }
 
 // Looks at the header of the input.
-RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming) {
+RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming,
+                       orvane::NameMatching names) {
   RequireInput(conversion);
   const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
   if (!outline) return RateSource::kFile;
@@ -147,6 +152,8 @@ RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming) {
   const std::string message = document.ReadBytes(outline->Header(), false);
   const RateSource rate = RateSourceOf(*outline, message);
   if (!message.empty()) return rate;
+  MatchNames(conversion, document, naming, names);
+  if (conversion.status == ConversionStatus::kRefused) return rate;
   if (rate == RateSource::kFile) {
     JudgeFrames(conversion, document, *outline, naming);
   } else {
@@ -180,6 +187,19 @@ void LoadMapping(const std::string& mapping, MarkerNaming& naming) {
   throw Failure{ExitStatus::kInputOutput, {{mapping, orvane::kNotOpened, ""}}};
 }
 
+void MatchNames(Conversion& conversion, const orvane::TRCDocument& document,
+                const MarkerNaming& naming, orvane::NameMatching how) {
+  std::vector<std::string> names;
+  for (const orvane::TRCMarker& marker : document.markers()) names.push_back(marker.Name());
+  conversion.match = naming.Match(names, how);
+  const std::optional<Complaint> ambiguity = FindAmbiguity(conversion.input, conversion.match);
+  if (!ambiguity) return;
+  conversion.match.taken.clear();
+  if (conversion.status != ConversionStatus::kPlanned) return;
+  conversion.status = ConversionStatus::kRefused;
+  conversion.errors.push_back(*ambiguity);
+}
+
 void RequireInput(Conversion& conversion) {
   if (conversion.status != ConversionStatus::kPlanned) return;
   const std::string reason = platform::WhyUnreadable(conversion.input);
@@ -198,7 +218,7 @@ void RefuseForeignRate(Conversion& conversion) {
 
 RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
                       const MarkerNaming& naming) {
-  const RateSource rate = JudgeHeader(conversion, naming);
+  const RateSource rate = JudgeHeader(conversion, naming, order.names);
   const bool is_settled = conversion.status != ConversionStatus::kPlanned;
   if (!is_settled && conversion.is_empty && order.NeedsMarkers()) SettleEmpty(conversion, order);
   const bool is_unreadable = conversion.status == ConversionStatus::kUnreadable;

@@ -1,0 +1,151 @@
+#include <gmock/gmock.h>
+
+#include <nlohmann/json.hpp>
+
+#include "tests/cli/convert/convert_test.h"
+
+// Conversions by a mapping whose names differ from those of the markers.
+
+namespace {
+
+using nlohmann::json;
+using test::ConvertTest;
+using test::ProgramResult;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::EndsWith;
+using testing::HasSubstr;
+using testing::Not;
+using testing::StartsWith;
+
+class NamesOfMappingTest : public ConvertTest {
+ protected:
+  NamesOfMappingTest() {
+    Write("walker.mnm", "LFHD\twalker:LFHD\nC7\twalker:C7\n");
+    WriteMarkers("anna.trc", {"anna:LFHD", "anna:C7", "anna:LTHI"});
+    WriteMarkers("small.trc", {"Walker:lfhd", "walker:C7"});
+    WriteMarkers("two.trc", {"anna:LFHD", "bob:LFHD", "anna:C7", "bob:C7"});
+  }
+
+  void WriteMarkers(const std::string& name, const std::vector<std::string>& markers) const {
+    TrcText text;
+    text.markers = markers;
+    text.frames = {TrcText::Frame(markers.size(), "1\t2\t3")};
+    Write(name, text.Text());
+  }
+
+  ProgramResult ConvertBy(const std::string& names, std::vector<std::string> arguments) const {
+    arguments.insert(arguments.end(), {"--mapping", "walker.mnm", "--names", names});
+    return Convert(arguments);
+  }
+};
+
+TEST_F(NamesOfMappingTest, AnotherSubjectIsTakenForThatOfTheMappingAndSaid) {
+  const ProgramResult result = ConvertBy("subject", {"anna.trc"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(result.error,
+            "orvane: anna.trc: note: 2 names of \"anna:\" are taken for those of \"walker:\"\n"
+            "orvane: anna.trc: note: A marker has no entry in the mapping: \"anna:LTHI\" (line 4, "
+            "column 35). Such a marker is dropped. [mnm-marker-unmapped]\n");
+  EXPECT_EQ(result.output,
+            "File      Frames  Kept  Dropped  Dropouts  Found  Output    Status\n"
+            "anna.trc       1     2        1         0  1n     anna.bvk  converted\n"
+            "1 of 1 converted\n");
+  EXPECT_THAT(ReadText("anna.bvk"), HasSubstr("LFHD"));
+  EXPECT_THAT(ReadText("anna.bvk"), HasSubstr("C7"));
+  EXPECT_THAT(ReadText("anna.bvk"), Not(HasSubstr("anna:")));
+  EXPECT_EQ(Read("walker.mnm"), "LFHD\twalker:LFHD\nC7\twalker:C7\n");
+  EXPECT_THAT(Names(), ElementsAre("anna.bvk", "anna.trc", "small.trc", "two.trc", "walker.mnm"));
+}
+
+TEST_F(NamesOfMappingTest, OnlyAsFarAsTheFlagSays) {
+  struct Row {
+    std::string file;
+    std::string names;
+    std::string told;
+    std::string kept;
+  };
+  const Row rows[] = {
+      {"anna.trc", "exact", "--names subject takes 2 names for those of the mapping, and", "-"},
+      {"anna.trc", "case", "--names subject takes 2 names for those of the mapping, and", "-"},
+      {"small.trc", "exact", "\"Walker:lfhd\"", "1"},
+      {"small.trc", "case", "note: 1 name is taken for that in another case of letters\n", "2"},
+      {"small.trc", "subject", "note: 1 name is taken for that in another case of letters\n", "2"}};
+  for (const Row& row : rows) {
+    const ProgramResult result = ConvertBy(row.names, {row.file, "--force", "--json"});
+    EXPECT_THAT(result.error, HasSubstr(row.told)) << row.file << ' ' << row.names;
+    const json kept = json::parse(result.output)["files"][0]["markers_kept"];
+    EXPECT_EQ(kept.is_null() ? "-" : std::to_string(kept.get<int>()), row.kept);
+  }
+}
+
+TEST_F(NamesOfMappingTest, WhatIsAmbiguousIsRefusedFileByFile) {
+  const ProgramResult result = ConvertBy("subject", {"two.trc", "anna.trc", "small.trc"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              HasSubstr("orvane: two.trc: \"walker:LFHD\" of the mapping could be \"anna:LFHD\" or "
+                        "\"bob:LFHD\", the first of 2 such cases\n"
+                        "  An entry for one of them in the mapping says which; \"orvane map "
+                        "suggest --subject NAME\" makes a mapping of one subject.\n"));
+  EXPECT_THAT(result.error, Not(HasSubstr("mnm-fits-nothing")));
+  EXPECT_THAT(result.output, HasSubstr("two.bvk    refused\n"));
+  EXPECT_THAT(result.output, EndsWith("2 of 3 converted\n"));
+  EXPECT_FALSE(Exists("two.bvk"));
+  for (const std::string file : {"anna.bvk", "small.bvk"}) {
+    EXPECT_THAT(ReadText(file), HasSubstr("$NumMarkers 2\n"));
+  }
+}
+
+TEST_F(NamesOfMappingTest, OfManyFilesIsSaidOnce) {
+  WriteMarkers("again.trc", {"anna:LFHD", "anna:C7"});
+  const ProgramResult result = ConvertBy("subject", {"anna.trc", "again.trc"});
+  EXPECT_THAT(result.error, StartsWith("orvane: anna.trc: note: in 2 files, first here: 2 names of "
+                                       "\"anna:\" are taken for those of \"walker:\"\n"));
+  EXPECT_THAT(ConvertBy("subject", {"anna.trc", "again.trc", "--force", "--quiet"}).error,
+              Not(HasSubstr("taken for")));
+}
+
+TEST_F(NamesOfMappingTest, ADryRunSaysTheSameOfFilesAndMarkers) {
+  for (const bool is_there : {false, true}) {
+    if (is_there) Write("anna.bvk", "");
+    const ProgramResult result = ConvertBy("subject", {"anna.trc", "--dry-run"});
+    EXPECT_THAT(result.error, StartsWith("orvane: anna.trc: note: 2 names of \"anna:\""));
+    EXPECT_THAT(result.output, EndsWith("  rename  anna:LFHD to LFHD\n"
+                                        "  rename  anna:C7 to C7\n"
+                                        "  drop    anna:LTHI\n"));
+  }
+  EXPECT_EQ(ConvertBy("subject", {"two.trc", "--dry-run"}).status, 1);
+}
+
+TEST_F(NamesOfMappingTest, JsonAndTheReportHaveIt) {
+  for (const auto& flags : {std::vector<std::string>{}, {"--dry-run"}}) {
+    std::vector<std::string> arguments = {"anna.trc", "two.trc",  "--force",
+                                          "--json",   "--report", "all.json"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    const json report = json::parse(ConvertBy("subject", arguments).output);
+    EXPECT_EQ(report["files"][0]["names_taken"], json::parse(R"([
+      {"marker": "anna:C7", "taken_for": "walker:C7"},
+      {"marker": "anna:LFHD", "taken_for": "walker:LFHD"}])"));
+    EXPECT_EQ(report["files"][0]["findings"][0]["names"], json::array({"anna:LTHI"}));
+    EXPECT_EQ(report["files"][1]["names_taken"], json::array());
+    EXPECT_EQ(report["files"][1]["status"], "refused");
+    EXPECT_THAT(Read("all.json"), HasSubstr("\"anna:LTHI\""));
+    EXPECT_THAT(Read("all.json"), Not(HasSubstr("mnm-fits-nothing")));
+  }
+}
+
+TEST_F(NamesOfMappingTest, TheSubjectThatTheMappingMeansGoesFirst) {
+  WriteMarkers("both.trc", {"anna:LFHD", "walker:LFHD", "anna:C7"});
+  const ProgramResult result = ConvertBy("subject", {"both.trc", "--dry-run"});
+  EXPECT_THAT(result.error, Not(HasSubstr("taken for")));
+  EXPECT_THAT(result.output, EndsWith("  drop    anna:LFHD\n"
+                                      "  rename  walker:LFHD to LFHD\n"
+                                      "  drop    anna:C7\n"));
+}
+
+TEST_F(NamesOfMappingTest, NeedsAMappingAndAWordThatItKnows) {
+  EXPECT_EQ(Convert({"anna.trc", "--names", "case"}).status, 2);
+  EXPECT_EQ(ConvertBy("alike", {"anna.trc"}).status, 2);
+}
+
+}  // namespace
