@@ -66,6 +66,12 @@ constexpr VerbGuide kGuides[] = {
      "reason. What is not sure is left out and listed. A mapping file that exists is kept.",
      {{{"orvane map suggest walk.trc", "what the names say"},
        {"orvane map suggest walk.trc -o suggested.mnm", "a mapping of it"}}}},
+    {"map show",
+     "Shows a mapping in the order of the standard markers, with what is missing, and with a TRC "
+     "file which of its markers are there and in how much of the frames.",
+     {{{"orvane map show walk.mnm", "which marker is which"},
+       {"orvane map show walk.mnm walk.trc --names subject",
+        "and what of it a file of another subject has"}}}},
     {"map lint",
      "Names what is odd in a mapping file and, when a TRC file is given too, where the two do "
      "not fit. The exit status says whether there was a warning.",

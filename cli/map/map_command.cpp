@@ -5,6 +5,7 @@
 
 #include "cli/map/map_create.h"
 #include "cli/map/map_lint.h"
+#include "cli/map/map_show.h"
 #include "cli/map/map_suggest.h"
 
 namespace cli {
@@ -35,10 +36,11 @@ void AddCreate(CLI::App& map, Work& work) {
 }  // namespace
 
 void AddMapCommand(CLI::App& app, Work& work) {
-  CLI::App* map = app.add_subcommand("map", "Make, suggest and check marker name mappings");
+  CLI::App* map = app.add_subcommand("map", "Make, suggest, show and check marker name mappings");
   map->require_subcommand(1);
   AddCreate(*map, work);
   AddMapSuggest(*map, work);
+  AddMapShow(*map, work);
   AddMapLint(*map, work);
 }
 

@@ -7,7 +7,9 @@
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/taken_names.h"
 #include "inspect/check/mnm_check.h"
+#include "inspect/mapping/mapping_roles.h"
 #include "inspect/summary/trc_outline.h"
 
 namespace cli {
@@ -22,6 +24,7 @@ using orvane::OutlineTrcFile;
 struct LintArguments {
   std::string mapping;
   std::string capture;  // empty for none
+  orvane::NameMatching names = orvane::NameMatching::kExact;
   CheckManner manner;
 };
 
@@ -39,12 +42,25 @@ MappedCapture ReadCapture(const std::string& file) {
   return capture;
 }
 
+// Takes names of `capture` for those of the mapping, whose `bytes` these are, and tells which.
+// Throws a Failure when that is ambiguous.
+void MatchCapture(MappedCapture& capture, const std::string& bytes, orvane::NameMatching how) {
+  std::vector<std::string> markers;
+  for (const orvane::TrcMarkerName& marker : capture.markers) markers.push_back(marker.name);
+  capture.match = MatchNames(orvane::MarkersIn(bytes), markers, how);
+  if (const auto ambiguity = FindAmbiguity(capture.file, capture.match)) {
+    throw Failure{ExitStatus::kRefused, {*ambiguity}};
+  }
+  TellOfTaken(capture.file, capture.match);
+}
+
 // A capture that is refused keeps nothing of the mapping from being told.
 void Lint(const LintArguments& arguments, CheckResults& results) {
   const std::string bytes = FileBytes(arguments.mapping);
   if (arguments.capture.empty()) return results.Add(CheckMapping(arguments.mapping, bytes));
   try {
-    const MappedCapture capture = ReadCapture(ReadableFile(arguments.capture, FileKind::kTrc));
+    MappedCapture capture = ReadCapture(ReadableFile(arguments.capture, FileKind::kTrc));
+    MatchCapture(capture, bytes, arguments.names);
     for (CheckedFile& file : CheckMapping(arguments.mapping, bytes, capture)) {
       results.Add(std::move(file));
     }
@@ -70,8 +86,10 @@ void AddMapLint(CLI::App& map, Work& work) {
   auto arguments = std::make_shared<LintArguments>();
   CLI::App* verb = map.add_subcommand("lint", "Name everything that is odd in a mapping");
   verb->add_option("MAPPING", arguments->mapping, "The MNM file")->required()->type_name("");
-  verb->add_option("FILE", arguments->capture, "A TRC file whose markers are to be mapped")
-      ->type_name("");
+  CLI::Option* file =
+      verb->add_option("FILE", arguments->capture, "A TRC file whose markers are to be mapped")
+          ->type_name("");
+  AddNamesFlag(*verb, arguments->names)->needs(file);
   AddCheckManner(*verb, arguments->manner);
   verb->callback([arguments, &work] { work = [arguments] { return Run(*arguments); }; });
 }

@@ -1,7 +1,7 @@
 #include "inspect/check/marker_naming.h"
 
-#include "formats/mnm/mapping_lines.h"
 #include "formats/text/files.h"
+#include "inspect/mapping/mapping_roles.h"
 
 namespace orvane {
 
@@ -10,9 +10,7 @@ bool MarkerNaming::Load(const std::string& path) {
   if (!bytes || !mapping_.Load(path)) return false;
   file_ = path;
   bytes_ = *bytes;
-  names_.clear();
-  MappingLineReader reader(bytes_);
-  for (MappingLine line; reader.Next(line);) names_.push_back(line.trc_name);
+  names_ = MarkersIn(bytes_);
   return true;
 }
 

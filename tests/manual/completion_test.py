@@ -47,7 +47,7 @@ class CompletionTest(unittest.TestCase):
 
     def test_verbs(self):
         self.assertEqual(self.complete("co"), ["compare", "convert"])
-        self.assertEqual(self.complete("map", ""), ["create", "lint", "suggest"])
+        self.assertEqual(self.complete("map", ""), ["create", "lint", "show", "suggest"])
         self.assertIn("import", self.complete(""))
 
     def test_verbs_behind_the_verb_help(self):

@@ -12,7 +12,9 @@ namespace {
 using nlohmann::json;
 using test::ProgramResult;
 using testing::ElementsAreArray;
+using testing::EndsWith;
 using testing::HasSubstr;
+using testing::StartsWith;
 using namespace std::string_literals;
 
 // What is found in each file: line, column, severity and code.
@@ -169,6 +171,34 @@ TEST_F(MapLintTest, TellsOfTheMappingWhateverBecomesOfTheCapture) {
     EXPECT_EQ(result.status, status);
     EXPECT_THAT(result.error, HasSubstr(capture));
   }
+}
+
+TEST_F(MapLintTest, TakesNamesForThoseOfTheMapping) {
+  Write("m.mnm", "LFHD\twalker:LFHD\nLBHD\twalker:LBHD\n");
+  Write("take.trc",
+        test::TrcText{.markers = {"anna:LFHD", "Toe"}, .frames = {{"1\t2\t3", "1\t2\t3"}}}.Text());
+  EXPECT_THAT(Orvane({"map", "lint", "m.mnm", "take.trc"}).output,
+              HasSubstr("[mnm-fits-nothing]\n  Every marker is dropped; --names subject takes 1 "
+                        "name for those of the mapping.\n"));
+  const ProgramResult result = Orvane({"map", "lint", "m.mnm", "take.trc", "--names", "subject"});
+  EXPECT_EQ(result.error,
+            "orvane: take.trc: note: 1 name of \"anna:\" is taken for that of \"walker:\"\n");
+  EXPECT_THAT(result.output, StartsWith("m.mnm:2:6: warning: found \"walker:LBHD\", expected a "
+                                        "marker of the capture [mnm-entry-unused]\n"));
+  EXPECT_THAT(result.output, HasSubstr("take.trc:4:25: warning: found \"Toe\", "));
+  EXPECT_THAT(result.output, EndsWith("take.trc: 1 warning\n"));
+  EXPECT_EQ(Orvane({"map", "lint", "m.mnm", "--names", "case"}).status, 2);
+}
+
+TEST_F(MapLintTest, RefusesNamesThatCouldBeSeveral) {
+  Write("m.mnm", "LFHD\twalker:LFHD\n");
+  Write("take.trc",
+        test::TrcText{.markers = {"a:LFHD", "b:LFHD"}, .frames = {{"1\t2\t3", "1\t2\t3"}}}.Text());
+  const ProgramResult result = Orvane({"map", "lint", "m.mnm", "take.trc", "--names", "subject"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.output, "m.mnm: clean: 1 marker mapped\n");
+  EXPECT_THAT(result.error, HasSubstr("\"walker:LFHD\" of the mapping could be \"a:LFHD\" or "
+                                      "\"b:LFHD\"\n"));
 }
 
 TEST_F(MapLintTest, IsAVerbOfTheVerbMap) {
