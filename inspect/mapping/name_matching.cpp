@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <iterator>
 #include <set>
 #include <string_view>
 #include <unordered_map>
@@ -22,6 +23,11 @@ bool IsSideOfTheBody(std::string_view prefix) {
   return WordsOf(std::string(prefix) + "x").place == "x";
 }
 
+// What is a marker by itself: a number behind an underscore is that of one of several.
+bool HasLetter(std::string_view rest) {
+  return rest.find_first_not_of("0123456789_") != std::string_view::npos;
+}
+
 // What stands before the first underscore of `name`, with it; empty when that is no subject.
 std::string_view FirstPrefixOf(std::string_view name) {
   const std::string_view prefix = name.substr(0, name.find(kUnderscore) + 1);
@@ -34,6 +40,7 @@ struct Name {
   std::size_t subject;  // how much of it is the subject for sure, with what ends it
   bool is_free = true;  // whether it is neither taken nor ambiguous
 
+  [[nodiscard]] bool HasColon() const { return subject > 0 && small[subject - 1] == kColon; }
   [[nodiscard]] std::string Marker() const { return small.substr(subject); }
   [[nodiscard]] std::string Subject() const {
     return subject == 0 ? "" : small.substr(0, subject - 1);
@@ -63,9 +70,11 @@ class Side {
     }
     if (undivided.size() < 2) return;
     const std::string prefix(FirstPrefixOf(undivided.front()->small));
-    const bool is_shared = std::all_of(
-        undivided.begin(), undivided.end(),
-        [&prefix](const Name* name) { return std::string_view(name->small).starts_with(prefix); });
+    const bool is_shared =
+        std::all_of(undivided.begin(), undivided.end(), [&prefix](const Name* name) {
+          const std::string_view small = name->small;
+          return small.starts_with(prefix) && HasLetter(small.substr(prefix.size()));
+        });
     if (!is_shared) return;
     for (Name* name : undivided) name->subject = prefix.size();
   }
@@ -84,18 +93,21 @@ Keys MarkerKeys(const Name& name, bool /*is_mapped*/) {
   return name.Marker().empty() ? Keys() : Keys{name.Marker()};
 }
 
-// Of two names one is divided behind an underscore, and the other one is not.
+// Of two names one is divided behind an underscore, and the other one is not: the letter in front
+// says which.
 Keys UnderscoreKeys(const Name& name, bool is_mapped) {
   constexpr std::size_t kMostWords = 4;  // of a subject
   constexpr char kUndivided[] = {'m', 'c'};
   Keys keys = {kUndivided[is_mapped ? 0 : 1] + name.Marker()};
-  if (name.subject > 0) return keys;
-  std::size_t at = name.small.find(kUnderscore);
-  for (std::size_t words = 0; words < kMostWords && at != std::string::npos; ++words) {
-    if (at > 0 && !IsSideOfTheBody(name.small.substr(0, at + 1))) {
-      keys.push_back(kUndivided[is_mapped ? 1 : 0] + name.small.substr(at + 1));
-    }
-    at = name.small.find(kUnderscore, at + 1);
+  if (name.HasColon()) return keys;
+  std::size_t begin = 0;
+  for (std::size_t words = 0; words < kMostWords; ++words) {
+    const std::size_t end = name.small.find(kUnderscore, begin);
+    if (end == std::string::npos) break;
+    const std::string rest = name.small.substr(end + 1);
+    if (IsSideOfTheBody(name.small.substr(begin, end + 1 - begin))) break;
+    if (end > 0 && HasLetter(rest)) keys.push_back(kUndivided[is_mapped ? 1 : 0] + rest);
+    begin = end + 1;
   }
   return keys;
 }
@@ -223,15 +235,17 @@ class Matching {
       if (subject.empty()) continue;
       subjects[Mapped(pair.mapped).Subject()].emplace(subject, pair);
     }
+    std::set<std::string> refused;
     for (const auto& [subject, of_capture] : subjects) {
       if (of_capture.size() < 2) continue;
       const Pair& one = of_capture.begin()->second;
       const Pair& other = std::next(of_capture.begin())->second;
       AddAmbiguous({one.mapped, other.mapped}, {one.marker, other.marker});
-      std::erase_if(pairs_, [this, name = subject](const Pair& pair) {
-        return Mapped(pair.mapped).Subject() == name && !SubjectOfMarkerIn(pair).empty();
-      });
+      refused.insert(subject);
     }
+    std::erase_if(pairs_, [this, &refused](const Pair& pair) {
+      return refused.contains(Mapped(pair.mapped).Subject()) && !SubjectOfMarkerIn(pair).empty();
+    });
   }
 
   // Without what ends it; empty where it is the mapping's or there is none.

@@ -58,6 +58,21 @@ TEST_F(NamesOfMappingTest, AnotherSubjectIsTakenForThatOfTheMappingAndSaid) {
   EXPECT_THAT(Names(), ElementsAre("anna.bvk", "anna.trc", "small.trc", "two.trc", "walker.mnm"));
 }
 
+// But for the moment at which it was made.
+TEST_F(NamesOfMappingTest, WhatIsWrittenIsWhatTheMappingsOwnSubjectWouldGet) {
+  const auto written = [this](const std::string& subject) {
+    WriteMarkers("take.trc", {subject + "C7", subject + "LTHI", subject + "LFHD"});
+    EXPECT_EQ(ConvertBy("subject", {"take.trc", "--force", "--quiet"}).status, 0);
+    std::string text = ReadText("take.bvk");
+    const std::size_t moment = text.find("$DateTime");
+    return text.erase(moment, text.find('\n', moment) - moment);
+  };
+  const std::string own = written("walker:");
+  for (const std::string subject : {"anna:", "Anna:Lee:", "", "anna_", "Anna_Lee_"}) {
+    EXPECT_EQ(written(subject), own) << subject;
+  }
+}
+
 TEST_F(NamesOfMappingTest, OnlyAsFarAsTheFlagSays) {
   struct Row {
     std::string file;
@@ -98,7 +113,7 @@ TEST_F(NamesOfMappingTest, WhatIsAmbiguousIsRefusedFileByFile) {
 
 TEST_F(NamesOfMappingTest, OfManyFilesIsSaidOnce) {
   WriteMarkers("again.trc", {"anna:LFHD", "anna:C7"});
-  const ProgramResult result = ConvertBy("subject", {"anna.trc", "again.trc"});
+  const ProgramResult result = ConvertBy("subject", {"anna.trc", "again.trc", "--jobs", "2"});
   EXPECT_THAT(result.error, StartsWith("orvane: anna.trc: note: in 2 files, first here: 2 names of "
                                        "\"anna:\" are taken for those of \"walker:\"\n"));
   EXPECT_THAT(ConvertBy("subject", {"anna.trc", "again.trc", "--force", "--quiet"}).error,

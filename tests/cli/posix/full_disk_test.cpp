@@ -57,6 +57,23 @@ TEST_F(FullDiskTest, LeavesNoHalfMarkers) {
   EXPECT_THAT(Names(), ElementsAre("walk.trc"));
 }
 
+// The plug-in would convert by a part of it.
+TEST_F(FullDiskTest, ConvertsByNoHalfMapping) {
+  std::string mapping = "LFHD\twalker:LFHD\n";
+  for (int line = 0; line < 500; ++line) mapping += "C7\tmarker" + std::to_string(line) + "\n";
+  Write("walker.mnm", mapping);
+  Write("walk.trc", test::TrcText{.markers = {"anna:LFHD"}, .frames = {{"1\t2\t3"}}}.Text());
+  PosixRun run{Command(
+      {"convert", "walk.trc", "--mapping", "walker.mnm", "--names", "subject", "--no-report"})};
+  run.largest_file = 5000;
+  const ProgramResult result = RunProgram(run);
+  EXPECT_EQ(result.status, 3);
+  EXPECT_THAT(result.error,
+              testing::HasSubstr("orvane: walk.bvk: The mapping for its markers could not be "
+                                 "written\n  Is the disk full?\n"));
+  EXPECT_THAT(Names(), ElementsAre("walk.trc", "walker.mnm"));
+}
+
 // The plug-in's log says that all of them are done.
 TEST_F(FullDiskTest, TheLogOfABatchTellsWhatWasNotWritten) {
   test::TrcText take{.markers = {"Head1"}};
