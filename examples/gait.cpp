@@ -10,7 +10,6 @@ namespace {
 
 // A phase counts cycles of one leg from its heel strike: 0 to kToeOff the foot is on the floor,
 // then it swings forward. The right leg is half a cycle behind the left.
-constexpr double kFirstPhase = 0.15;
 constexpr double kMidStance = 0.28;  // the ankle passes below the hips
 constexpr double kHeelRise = 0.36;
 constexpr double kToeOff = 0.62;
@@ -63,13 +62,13 @@ Vector3 AnkleInStance(double phase, double side) {
 }
 
 // As above, in the air: from where the foot leaves the floor to its next footprint.
-Vector3 AnkleInSwing(double phase, double side) {
+Vector3 AnkleInSwing(double phase, double side, double stride_mm) {
   constexpr double kStep = 1e-4;
   constexpr double kWidth = 1 - kToeOff;
   const Vector3 leave = AnkleInStance(kToeOff, side);
   const Vector3 leave_slope =
       Scaled(Difference(leave, AnkleInStance(kToeOff - kStep, side)), kWidth / kStep);
-  const Vector3 strike = Sum(AnkleInStance(0, side), Vector3(0, 0, kStride_mm));
+  const Vector3 strike = Sum(AnkleInStance(0, side), Vector3(0, 0, stride_mm));
   const Vector3 strike_slope =
       Scaled(Difference(AnkleInStance(kStep, side), AnkleInStance(0, side)), kWidth / kStep);
   const double u = (phase - kToeOff) / kWidth;
@@ -93,12 +92,13 @@ constexpr Leg kLeftLeg = {BoneId::kLeftUpLeg, 1, 0};
 constexpr Leg kRightLeg = {BoneId::kRightUpLeg, -1, 0.5};
 
 // Each cycle of the leg begins with a new footprint.
-Vector3 Ankle(const Leg& leg, double left_cycles) {
+Vector3 Ankle(const Walker& walker, const Leg& leg, double left_cycles) {
   const double footprint = std::floor(left_cycles - leg.behind);
   const double phase = left_cycles - leg.behind - footprint;
-  const Vector3 ankle =
-      phase < kToeOff ? AnkleInStance(phase, leg.side) : AnkleInSwing(phase, leg.side);
-  const double ahead_mm = (footprint + leg.behind + kMidStance - kFirstPhase) * kStride_mm;
+  const Vector3 ankle = phase < kToeOff ? AnkleInStance(phase, leg.side)
+                                        : AnkleInSwing(phase, leg.side, walker.stride_mm);
+  const double ahead_mm =
+      (footprint + leg.behind + kMidStance - walker.first_phase) * walker.stride_mm;
   return Sum(ankle, Vector3(leg.side * kFootTrack_mm, 0, ahead_mm));
 }
 
@@ -110,8 +110,8 @@ BoneId Next(BoneId bone, std::size_t steps) {
   return static_cast<BoneId>(static_cast<std::size_t>(bone) + steps);
 }
 
-Vector3 HipJoint(const Pose& pose, BoneId up_leg) {
-  const std::vector<Bone>& bones = Skeleton();
+Vector3 HipJoint(const Walker& walker, const Pose& pose, BoneId up_leg) {
+  const std::vector<Bone>& bones = walker.bones;
   const Bone& leg = bones[static_cast<std::size_t>(up_leg)];
   const Vector3 offset = Difference(leg.joint_mm, bones.front().joint_mm);
   return Sum(pose.hips_mm, Rotated(pose.rotations.front(), offset));
@@ -119,22 +119,25 @@ Vector3 HipJoint(const Pose& pose, BoneId up_leg) {
 
 // Bends hip and knee so that the ankle comes to its place, the knee forward: two bones and the way
 // between their ends make a triangle.
-void PoseLeg(Pose& pose, const Leg& leg, double left_cycles) {
+void PoseLeg(Pose& pose, const Walker& walker, const Leg& leg, double left_cycles) {
+  const double thigh_mm = kThigh_mm * walker.proportions.thigh;
+  const double shank_mm = kShank_mm * walker.proportions.shank;
   const double cycles = left_cycles - leg.behind;
   const double phase = cycles - std::floor(cycles);
   const BoneId up_leg = leg.up_leg;
   const RotationMatrix3 yaw = AboutY(leg.side * kToeOut_deg);
-  const Vector3 to_ankle = Difference(Ankle(leg, left_cycles), HipJoint(pose, up_leg));
-  const double reach = std::min(Length(to_ankle), kThigh_mm + kShank_mm);
+  const Vector3 to_ankle =
+      Difference(Ankle(walker, leg, left_cycles), HipJoint(walker, pose, up_leg));
+  const double reach = std::min(Length(to_ankle), thigh_mm + shank_mm);
   const double cosine =
-      (kThigh_mm * kThigh_mm + reach * reach - kShank_mm * kShank_mm) / (2 * kThigh_mm * reach);
+      (thigh_mm * thigh_mm + reach * reach - shank_mm * shank_mm) / (2 * thigh_mm * reach);
   const double sine = std::sqrt(std::max(0.0, 1 - cosine * cosine));
 
   const Vector3 along = Normalised(to_ankle);
   const Vector3 hinge = Normalised(Cross(yaw[2], along));
   const Vector3 ahead = Cross(along, hinge);
   const Vector3 thigh = Sum(Scaled(along, cosine), Scaled(ahead, sine));
-  const Vector3 shank = Normalised(Difference(Scaled(along, reach), Scaled(thigh, kThigh_mm)));
+  const Vector3 shank = Normalised(Difference(Scaled(along, reach), Scaled(thigh, thigh_mm)));
   At(pose, up_leg) = FromAxes(hinge, thigh);
   At(pose, Next(up_leg, 1)) = FromAxes(hinge, shank);
   At(pose, Next(up_leg, 2)) = FootRotation(phase, leg.side);
@@ -171,15 +174,17 @@ void PoseTrunk(Pose& pose, double left_cycles) {
 
 }  // namespace
 
-Pose WalkAt(double time_s) {
-  const double left_cycles = time_s / kCycle_s + kFirstPhase;
+Pose WalkAt(double time_s, const Walker& walker) {
+  const double left_cycles = time_s / kCycle_s + walker.first_phase;
+  const Vector3 hip =
+      Fitted(Skeleton()[static_cast<std::size_t>(BoneId::kLeftUpLeg)].joint_mm, walker.proportions);
   Pose pose;
   // Highest and furthest to the side over the leg that stands.
-  pose.hips_mm = Vector3(18 * Wave(left_cycles - 0.3), 940 + 18 * Wave(2 * (left_cycles - 0.3)),
-                         kStride_mm * time_s / kCycle_s);
+  pose.hips_mm = Vector3(18 * Wave(left_cycles - 0.3), hip.y() + 18 * Wave(2 * (left_cycles - 0.3)),
+                         walker.stride_mm * time_s / kCycle_s);
   PoseTrunk(pose, left_cycles);
-  PoseLeg(pose, kLeftLeg, left_cycles);
-  PoseLeg(pose, kRightLeg, left_cycles);
+  PoseLeg(pose, walker, kLeftLeg, left_cycles);
+  PoseLeg(pose, walker, kRightLeg, left_cycles);
   PoseArm(pose, BoneId::kLeftShoulder, left_cycles, 1);
   PoseArm(pose, BoneId::kRightShoulder, left_cycles - 0.5, -1);
   return pose;

@@ -11,22 +11,22 @@ namespace {
 constexpr double kHidingDistance_mm = 70;
 
 // Where the point at `rest_mm` goes that `bone`, whose joint is at `joint_mm` now, carries along.
-Vector3 Carried(std::size_t bone, const Vector3& joint_mm, const Vector3& rest_mm,
-                const Pose& pose) {
-  const Bone& carrier = Skeleton()[bone];
+Vector3 Carried(std::size_t bone, const Vector3& joint_mm, const Vector3& rest_mm, const Pose& pose,
+                const std::vector<Bone>& bones) {
+  const Bone& carrier = bones[bone];
   const Vector3 in_bone = Rotated(carrier.rest.Transposed(), Difference(rest_mm, carrier.joint_mm));
   return Sum(joint_mm, Rotated(pose.rotations[bone], in_bone));
 }
 
-Vector3 JointOf(std::size_t bone, const Pose& pose) {
-  const int parent = Skeleton()[bone].parent;
+Vector3 JointOf(std::size_t bone, const Pose& pose, const std::vector<Bone>& bones) {
+  const int parent = bones[bone].parent;
   if (parent < 0) return pose.hips_mm;
   const auto carrier = static_cast<std::size_t>(parent);
-  return Carried(carrier, JointOf(carrier, pose), Skeleton()[bone].joint_mm, pose);
+  return Carried(carrier, JointOf(carrier, pose, bones), bones[bone].joint_mm, pose, bones);
 }
 
-Vector3 JointOf(BoneId bone, const Pose& pose) {
-  return JointOf(static_cast<std::size_t>(bone), pose);
+Vector3 JointOf(BoneId bone, const Pose& pose, const std::vector<Bone>& bones) {
+  return JointOf(static_cast<std::size_t>(bone), pose, bones);
 }
 
 // The bones of one side of the body.
@@ -146,11 +146,12 @@ const std::vector<Marker>& Markers() {
   return markers;
 }
 
-std::optional<Vector3> PositionOf(const Marker& marker, const Pose& pose) {
+std::optional<Vector3> PositionOf(const Marker& marker, const Pose& pose,
+                                  const std::vector<Bone>& bones) {
   const Vector3 position = Carried(static_cast<std::size_t>(marker.bone),
-                                   JointOf(marker.bone, pose), marker.rest_mm, pose);
+                                   JointOf(marker.bone, pose, bones), marker.rest_mm, pose, bones);
   if (!marker.hidden_by) return position;
-  const double distance = std::abs(JointOf(*marker.hidden_by, pose).z() - position.z());
+  const double distance = std::abs(JointOf(*marker.hidden_by, pose, bones).z() - position.z());
   if (distance < kHidingDistance_mm) return std::nullopt;
   return position;
 }

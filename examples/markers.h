@@ -20,7 +20,9 @@ struct Marker {
 // In the order of the marker file's columns.
 const std::vector<Marker>& Markers();
 
-// Where `marker` is in file space; nothing while it is hidden.
-std::optional<Vector3> PositionOf(const Marker& marker, const Pose& pose);
+// Where `marker` is in file space; nothing while it is hidden. `bones` are those of the body that
+// is in `pose`, and that the marker's place at rest is of.
+std::optional<Vector3> PositionOf(const Marker& marker, const Pose& pose,
+                                  const std::vector<Bone>& bones = Skeleton());
 
 }  // namespace examples

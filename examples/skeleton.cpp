@@ -8,7 +8,9 @@ namespace {
 constexpr double kHipHeight_mm = kAnkleHeight_mm + kShank_mm + kThigh_mm;
 constexpr double kPelvisHeight_mm = kHipHeight_mm + 40;
 constexpr double kHalfHipWidth_mm = 95;
+constexpr double kHalfShoulderWidth_mm = 180;
 constexpr double kShoulderHeight_mm = 1420;
+constexpr double kTopOfChest_mm = 1500;
 constexpr double kBallDrop_mm = kAnkleHeight_mm - kBallHeight_mm;
 
 int Index(BoneId bone) { return static_cast<int>(bone); }
@@ -21,7 +23,8 @@ void AddArm(std::vector<Bone>& bones, double side) {
   const auto joint = [side](double x) { return Vector3(side * x, kShoulderHeight_mm, 0); };
   bones.push_back(
       {left ? "LeftShoulder" : "RightShoulder", Index(BoneId::kChest), joint(30), outwards, 150});
-  bones.push_back({left ? "LeftArm" : "RightArm", first, joint(180), outwards, 290});
+  bones.push_back(
+      {left ? "LeftArm" : "RightArm", first, joint(kHalfShoulderWidth_mm), outwards, 290});
   bones.push_back({left ? "LeftForeArm" : "RightForeArm", first + 1, joint(470), outwards, 250});
   bones.push_back({left ? "LeftHand" : "RightHand", first + 2, joint(720), outwards, 170});
 }
@@ -58,7 +61,44 @@ std::vector<Bone> MakeSkeleton() {
   return bones;
 }
 
+// Above the feet, which are the same on all bodies.
+double FittedHeight(double y, const Proportions& proportions) {
+  const double knee = kAnkleHeight_mm + kShank_mm * proportions.shank;
+  const double hip = knee + kThigh_mm * proportions.thigh;
+  if (y < kAnkleHeight_mm) return y;
+  if (y < kAnkleHeight_mm + kShank_mm) {
+    return kAnkleHeight_mm + (y - kAnkleHeight_mm) * proportions.shank;
+  }
+  if (y < kHipHeight_mm) return knee + (y - kAnkleHeight_mm - kShank_mm) * proportions.thigh;
+  return hip + (y - kHipHeight_mm) * proportions.trunk;
+}
+
+// How far from the middle a point is that is `x` from it; `y` says of which part of the body.
+double FittedWidth(double x, double y, const Proportions& proportions) {
+  constexpr double kTopOfPelvis_mm = 1060;
+  const double more_hips = kHalfHipWidth_mm * (proportions.hips - 1);
+  if (y < kHipHeight_mm) return x + more_hips;
+  if (y < kTopOfPelvis_mm) return x * proportions.hips;
+  if (x < kHalfShoulderWidth_mm) {
+    return y > kTopOfChest_mm ? x : x * proportions.shoulders;
+  }
+  return kHalfShoulderWidth_mm * proportions.shoulders +
+         (x - kHalfShoulderWidth_mm) * proportions.arm;
+}
+
 }  // namespace
+
+Vector3 Fitted(const Vector3& rest_mm, const Proportions& proportions) {
+  const double width = FittedWidth(std::abs(rest_mm.x()), rest_mm.y(), proportions);
+  return Vector3(rest_mm.x() == 0 ? 0 : std::copysign(width, rest_mm.x()),
+                 FittedHeight(rest_mm.y(), proportions), rest_mm.z());
+}
+
+std::vector<Bone> FittedSkeleton(const Proportions& proportions) {
+  std::vector<Bone> bones = Skeleton();
+  for (Bone& bone : bones) bone.joint_mm = Fitted(bone.joint_mm, proportions);
+  return bones;
+}
 
 const std::vector<Bone>& Skeleton() {
   static const std::vector<Bone> bones = MakeSkeleton();

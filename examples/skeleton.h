@@ -6,7 +6,8 @@
 
 #include "examples/geometry.h"
 
-// The body of the walker: an adult of 1.76 m, standing with its arms held out to the sides.
+// The body of the walker: an adult of 1.76 m, standing with its arms held out to the sides; and
+// bodies of other proportions.
 namespace examples {
 
 // The bones in file order; each stands behind its parent.
@@ -45,10 +46,24 @@ struct Bone {
   double length_mm;
 };
 
-// One per BoneId, in that order.
-const std::vector<Bone>& Skeleton();
+// How many times as long as the walker's the parts of a body are.
+struct Proportions {
+  double thigh = 1;
+  double shank = 1;
+  double trunk = 1;  // from the hips up, with neck and head
+  double arm = 1;
+  double shoulders = 1;  // their width
+  double hips = 1;       // their width
+};
 
-// Measures that the gait needs too.
+// Where the point at `rest_mm` of the walker is on a body of such proportions, both at rest.
+Vector3 Fitted(const Vector3& rest_mm, const Proportions& proportions);
+
+// One per BoneId, in that order: the walker's, and those of another body.
+const std::vector<Bone>& Skeleton();
+std::vector<Bone> FittedSkeleton(const Proportions& proportions);
+
+// Measures of the walker that the gait needs too.
 inline constexpr double kThigh_mm = 430;
 inline constexpr double kShank_mm = 430;
 inline constexpr double kAnkleHeight_mm = 80;
