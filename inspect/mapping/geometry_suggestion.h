@@ -1,0 +1,40 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "formats/trc/document.h"
+#include "inspect/mapping/place_board.h"
+
+// Which marker of a capture plays the role of which standard marker, by where it sits on a body
+// that walks upright, and how it moves. Names are not looked at. What the body is seen from, and
+// its measures, is told in walk_tracks.h and marker_places.h, and how its parts are known in
+// body_parts.h.
+//
+// A marker is suggested only when all of its part is as it is on a body, when its partner on the
+// other side is too, and when the two are mirrored. Nothing is when nobody walks, when what is
+// highest is no head, when there is more than one body, or when it does not face the way it goes.
+// Left and right are those of a right-handed space: a capture that is mirrored as a whole cannot be
+// told from one that is not. Sticks are not looked for.
+//
+// Takes time in proportion to the frames, and to the square of the markers, of which 120 are too
+// many. Nothing fails but for want of memory.
+
+namespace orvane {
+
+struct GeometrySuggestion {
+  // In the order in which the mapping creator asks for them.
+  std::vector<PlacedMarker> sure;
+  std::vector<UnsurePlace> unsure;   // what is left out, from the head down
+  std::vector<std::string> missing;  // standard markers that are needed, and that none plays
+
+  // Markers that play no role; indices, rising.
+  std::vector<std::size_t> without_role;
+
+  // Why nothing is suggested, as a sentence without its full stop; empty otherwise.
+  std::string problem;
+};
+
+[[nodiscard]] GeometrySuggestion SuggestByGeometry(const TRCDocument& document);
+
+}  // namespace orvane

@@ -1,0 +1,100 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "inspect/mapping/marker_places.h"
+
+// What is found out about the markers of a body, part by part: which of them plays which standard
+// marker's role, and which parts are left out. Lengths are those of MarkerPlaces.
+
+namespace orvane {
+
+// A marker that sits where a standard marker does.
+struct PlacedMarker {
+  std::string standard;
+  std::size_t marker = 0;
+  std::string place;  // in words: "front left of the four markers of the head"
+};
+
+// A part of the body of which not all is sure.
+struct UnsurePlace {
+  std::string part;    // "the head"
+  std::string reason;  // "5 markers in place of 4"
+};
+
+struct Side {
+  char letter;       // that names of standard markers begin with
+  double sign;       // of what is to the left
+  const char* word;  // "left"
+};
+
+inline constexpr Side kLeftSide{'L', 1.0, "left"};
+inline constexpr Side kRightSide{'R', -1.0, "right"};
+
+// Where to look for markers: heights, and how far from the middle of the body.
+struct Region {
+  double lowest;
+  double highest;
+  double inner;  // to either side; below 0 is beyond the middle
+  double outer;
+};
+
+class PlaceBoard {
+ public:
+  explicit PlaceBoard(const MarkerPlaces& places) : places_(places) {}
+
+  [[nodiscard]] const MarkerPlaces& Places() const { return places_; }
+
+  // Those in the region on one side, or on both sides, that have no role yet.
+  [[nodiscard]] std::vector<std::size_t> MarkersIn(const Region& region, const Side& side) const;
+  [[nodiscard]] std::vector<std::size_t> MarkersIn(const Region& region) const;
+
+  void Give(const std::string& standard, std::size_t marker, const std::string& place) {
+    placed_.push_back({standard, marker, place});
+  }
+  // "LFHD" and "left" for the side and "FHD".
+  void Give(const Side& side, const std::string& standard, std::size_t marker,
+            const std::string& place) {
+    Give(side.letter + standard, marker, place);
+  }
+  void LeaveOut(const std::string& part, const std::string& reason) {
+    unsure_.push_back({part, reason});
+  }
+  // As given, without those that `is_wrong`; `reason` is told of them.
+  void TakeBack(const std::string& standard, const std::string& reason);
+
+  [[nodiscard]] std::optional<std::size_t> MarkerOf(std::string_view standard) const;
+  [[nodiscard]] std::optional<std::size_t> MarkerOf(const Side& side,
+                                                    const std::string& standard) const {
+    return MarkerOf(side.letter + standard);
+  }
+  [[nodiscard]] const std::vector<PlacedMarker>& Placed() const { return placed_; }
+  [[nodiscard]] const std::vector<UnsurePlace>& Unsure() const { return unsure_; }
+
+ private:
+  [[nodiscard]] bool HasRole(std::size_t marker) const;
+
+  const MarkerPlaces& places_;
+  std::vector<PlacedMarker> placed_;
+  std::vector<UnsurePlace> unsure_;
+};
+
+// How far a marker is from the middle, to the side.
+[[nodiscard]] inline double Outward(const MarkerPlaces& places, const Side& side,
+                                    std::size_t marker) {
+  return side.sign * places.At(marker).left;
+}
+
+// Whether two markers are mirrored, so far as that: a place's height and way forward may differ by
+// `tolerance`, and its way to the side.
+[[nodiscard]] bool AreMirrored(const MarkerPlaces& places, std::size_t left, std::size_t right,
+                               double tolerance);
+
+// "5 markers where 4 are expected"
+[[nodiscard]] std::string CountReason(std::size_t found, const std::string& expected);
+
+}  // namespace orvane
