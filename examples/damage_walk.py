@@ -144,7 +144,8 @@ DAMAGES = [
     ("comment-in-word", "htr-comment-in-word", change(b"Head\tNeck", b"Head\tNeck#2")),
     ("before-header", "htr-line-before-section", insert_before(b"[Header]", b"captured on a Monday")),
     ("after-end", "htr-after-end", add_at_end(b"[Hips]")),
-    ("too-many-cells", "htr-cells-extra", change_cell(b"[Hips]", 3, 7, b"1.000000\t0.5")),
+    ("too-many-cells", "htr-cells-extra", change_cell(b"[Hips]", 3, 7, b"1.000000\tslow")),
+    ("too-many-numbers", "htr-numbers-extra", change_cell(b"[Hips]", 3, 2, b"0.5\t980")),
     ("no-end", "htr-end-missing", remove_end),
     # Section lines
     ("indented-section", "htr-section-indented", change(b"[Neck]", b"  [Neck]")),
@@ -177,6 +178,7 @@ DAMAGES = [
     ("rate-zero", "htr-rate-out-of-range", change(b"DataFrameRate", b"DataFrameRate 0")),
     ("scale-factor", "htr-scale-factor", change(b"ScaleFactor", b"ScaleFactor 2.54")),
     # Numbers
+    ("empty-cell", "htr-cell-empty", change_cell(b"[Spine]", 10, 4, b"")),
     ("missing-cell", "htr-number-missing", change_cell(b"[Spine]", 10, 7, None)),
     ("word-for-number", "htr-number-unreadable", change_cell(b"[Spine]", 10, 4, b"nan")),
     ("decimal-comma", "htr-decimal-commas", change_cell(b"[BasePosition]", 2, 2, b"170,5")),

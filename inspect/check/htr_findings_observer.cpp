@@ -9,6 +9,7 @@
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
+#include "inspect/check/htr_cells.h"
 #include "inspect/check/htr_oddities.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/rates.h"
@@ -50,6 +51,7 @@ std::string_view SectionLikelyMeant(std::string_view name) {
 }  // namespace
 
 void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
+  if (IsToldOfItsLine(oddity, cell, field)) return;
   switch (oddity) {
     case HtrOddity::kByteOrderMark:
       byte_order_mark_ = cell.text;
@@ -90,6 +92,35 @@ void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::s
       break;
   }
   AddOddity({oddity, cell, field, parts_}, findings_);
+}
+
+bool HtrFindingsObserver::IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell,
+                                          std::string_view field) {
+  if (oddity == HtrOddity::kMissingNumber && KeywordIndex(field) == kKeywords.size()) {
+    return AddEmptyCell(cell);
+  }
+  if (oddity != HtrOddity::kExtraCells || !StartsWithNumber(cell.text)) return false;
+  findings_.Add(Rule("htr-numbers-extra"), cell, [&cell] {
+    return FindingWords{
+        Quote(cell.text), "the end of the line",
+        "It is not read, and if a number before it is too many, those behind that are in other "
+        "columns than they belong to."};
+  });
+  return true;
+}
+
+// Once for a line, whose last numbers are missing then.
+bool HtrFindingsObserver::AddEmptyCell(const HtrCell& missing) {
+  if (missing.line == line_of_empty_cell_) return true;
+  const auto place = FindEmptyCell(missing);
+  if (!place) return false;
+  line_of_empty_cell_ = missing.line;
+  findings_.Add(Rule("htr-cell-empty"), *place, [] {
+    return FindingWords{"an empty cell", "a number in every cell",
+                        "The values behind it are taken a column too early, and 0 where the line "
+                        "ends."};
+  });
+  return true;
 }
 
 void HtrFindingsObserver::AddKeyword(const HtrCell& keyword) {

@@ -38,6 +38,9 @@ class HtrFindingsObserver final : public HtrReadObserver {
   [[nodiscard]] bool WasStopped() const { return was_stopped_; }
 
  private:
+  // Whether the oddity is told of, now or before, as one of the cells of its line.
+  [[nodiscard]] bool IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell, std::string_view field);
+  [[nodiscard]] bool AddEmptyCell(const HtrCell& missing);
   void AddKeyword(const HtrCell& keyword);
   void AddRateCut(const HtrCell& rate);
   void LeaveSection();
@@ -55,6 +58,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
   bool was_stopped_ = false;
   bool linked_again_ = false;
   std::string_view byte_order_mark_;
+  std::size_t line_of_empty_cell_ = 0;      // the last one that was told of
   std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
   std::size_t skipped_lines_ = 0;
   SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion

@@ -102,11 +102,19 @@ std::string AnnouncedSegments(const MetHtrOddity& met) {
   return FormatInt(count) + (announced ? ", as NumSegments says" : ", as NumSegments is missing");
 }
 
+// A cell that was lost looks as one at the end of its line.
+std::string TakenForMissing(const MetHtrOddity& met) {
+  if (KeywordIndex(met.field) < kKeywords.size()) return TakenNumber(met);
+  return "0 is taken where the line ends; if a cell is lost before, the values behind it are in "
+         "other columns than they belong to.";
+}
+
 constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetHtrOddity>>({
     // Numbers, of which every cell of a file may be a bad one
     {HtrOddity::kUnreadableNumber, Rule("htr-number-unreadable"), Quoted, ExpectedNumber,
      TakenNumber},
-    {HtrOddity::kMissingNumber, Rule("htr-number-missing"), Quoted, ExpectedNumber, TakenNumber},
+    {HtrOddity::kMissingNumber, Rule("htr-number-missing"), Quoted, ExpectedNumber,
+     TakenForMissing},
     {HtrOddity::kCutNumber, Rule("htr-number-cut"), Quoted, ExpectedNumber, TakenNumber},
     {HtrOddity::kNumberOutOfBounds, Rule("htr-number-out-of-range"), Quoted, ExpectedInRange,
      TakenNumber},

@@ -27,6 +27,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-line-before-section", FindingSeverity::kWarning},
     {"htr-after-end", FindingSeverity::kWarning},
     {"htr-cells-extra", FindingSeverity::kNote},
+    {"htr-numbers-extra", FindingSeverity::kWarning},
     {"htr-end-missing", FindingSeverity::kNote},
 
     // Section lines
@@ -57,6 +58,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
 
     // Numbers
     {"htr-decimal-commas", FindingSeverity::kWarning},
+    {"htr-cell-empty", FindingSeverity::kWarning},
     {"htr-number-missing", FindingSeverity::kWarning},
     {"htr-number-unreadable", FindingSeverity::kWarning},
     {"htr-number-cut", FindingSeverity::kWarning},

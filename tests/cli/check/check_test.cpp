@@ -80,7 +80,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"ExtraCell",
                "2 10 0 0 0 0 90 1",
                "2 10 0 0 0 0 90 1 5",
-               {"22:19 note htr-cells-extra"}}));
+               {"22:19 warning htr-numbers-extra"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Sections, CheckedDamageTest,
