@@ -160,6 +160,10 @@ DAMAGES = [
     ("no-names", "trc-markers-missing",
      both(change_line(NAMES, lambda line: b"Frame#\tTime"), delete_lines(7, None, 7))),
     ("marker-count", "trc-marker-count", change_field(VALUES, 3, b"40")),
+    ("time-lost", "trc-columns-misfit",
+     change_all_frames(lambda line: b"\t".join(line.split(b"\t")[:1] + line.split(b"\t")[2:]))),
+    ("name-lost", "trc-columns-misfit",
+     shows_at(FIRST_FRAME, change_line(NAMES, lambda line: line.replace(b"walker:RFHD\t\t\t", b"")))),
     ("no-headings", "trc-sub-header-missing", delete_lines(HEADINGS, HEADINGS + 2, HEADINGS)),
     # Numbers
     ("y-missing", "trc-number-missing", change_field(FIRST_FRAME + 3, 6, b"")),

@@ -35,6 +35,7 @@ class WholeFile {
     if (document_.MarkerCount() == 0) return AddMarkersMissing();
     CheckFrameCount();
     if (layout_.misplaced_name) return;  // from which gaps follow
+    if (parts_.misfit) return AddMisfit(*parts_.misfit);
     trc::CheckNarrowFrames(widths_, document_.MarkerCount(), findings_);
     trc::CheckPositions(document_, parts_, findings_);
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
@@ -97,6 +98,14 @@ class WholeFile {
     findings_.Add(trc::Rule("trc-markers-missing"), parts_.End(),
                   {"no marker", "names in the fourth line, a tab behind each",
                    "The import makes nothing of the file."});
+  }
+
+  // What markers hold then tells nothing of them.
+  void AddMisfit(std::size_t fields) {
+    const auto named = static_cast<std::int64_t>(parts_.named_fields);
+    findings_.Add(trc::Rule("trc-columns-misfit"), parts_.PlaceOfFrame(0),
+                  {CountOf(fields, "field"), FormatInt(named) + ", as frame, time and markers have",
+                   "Values may belong to other markers than those that get them."});
   }
 
   std::size_t SamplesRead() const {

@@ -11,6 +11,7 @@
 #include "inspect/check/rates.h"
 #include "inspect/check/text_encoding.h"
 #include "inspect/check/trc_oddities.h"
+#include "inspect/check/trc_row_fit.h"
 #include "inspect/check/trc_rules.h"
 
 namespace orvane::trc {
@@ -24,9 +25,16 @@ std::string WhereFieldsBelong(std::string_view line) {
   return "tabs between fields, not blanks";
 }
 
+// Whether a column with a name makes no marker.
+bool DropsColumn(TRCOddity oddity) {
+  return oddity == TRCOddity::kMarkerNameLost || oddity == TRCOddity::kUnnamedColumnDropped ||
+         oddity == TRCOddity::kMarkerNameRepeated;
+}
+
 }  // namespace
 
 void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) {
+  if (DropsColumn(oddity) && place.field <= widths_.last_value) parts_.AddColumn(place.field);
   if (FollowsFromLayout(oddity, place)) return;
   switch (oddity) {
     case TRCOddity::kSpareCarriageReturns:
@@ -63,6 +71,7 @@ bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) co
     if (oddity == TRCOddity::kFrameNumberSkips && place.line == line + 1) return true;
   }
   if (StandsBehindFrames(place)) return true;
+  if (parts_.misfit && FollowsFromMisfit(oddity)) return true;
   if (!layout_.misplaced_name) return false;
   switch (oddity) {
     case TRCOddity::kMarkerNameLost:
@@ -77,6 +86,11 @@ bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) co
     default:
       return false;
   }
+}
+
+bool TrcFindingsObserver::FollowsFromMisfit(TRCOddity oddity) {
+  return oddity == TRCOddity::kShortFrame || oddity == TRCOddity::kSurplusValue ||
+         oddity == TRCOddity::kSampleWithoutX || oddity == TRCOddity::kMissingNumber;
 }
 
 bool TrcFindingsObserver::StandsBehindFrames(TRCPlace place) const {
@@ -170,6 +184,7 @@ void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate)
 void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
   columns_.emplace(name, place.column);
   parts_.markers.push_back(place);
+  if (!name.empty() || place.field <= widths_.last_value) parts_.AddColumn(place.field);
   CheckName(place, name);
 }
 
@@ -193,6 +208,9 @@ void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
     parts_.frames_before_end = frames_;
   }
   if (StandsBehindFrames(place)) return;
+  if (frames_ == 0 && !layout_.misplaced_name) {
+    parts_.misfit = FieldsThatMisfit(widths_, parts_.named_fields);
+  }
   parts_.AddFrame(place);
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
   if (frames_++ == 0) parts_.first_number = cell;

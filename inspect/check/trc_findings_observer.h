@@ -49,6 +49,8 @@ class TrcFindingsObserver final : public TRCReadObserver {
 
   // Whether the oddity there follows from the layout of the file, which is told.
   [[nodiscard]] bool FollowsFromLayout(TRCOddity oddity, TRCPlace place) const;
+  // The same of rows that do not have the columns which the names ask for.
+  [[nodiscard]] static bool FollowsFromMisfit(TRCOddity oddity);
   // Whether what is there is a line at the end, behind all frames that are announced.
   [[nodiscard]] bool StandsBehindFrames(TRCPlace place) const;
   // Whether the first line has no tab, by the place of what is missing then.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
@@ -24,8 +25,15 @@ struct TrcParts {
   std::string_view first_number;
   std::string_view last_number;
   std::string_view bytes;  // the whole file
+  // The last field of the last column that has a name or a value; 0 without any.
+  std::size_t named_fields = 0;
+  // How many fields the rows have, when these are others than the names ask for.
+  std::optional<std::size_t> misfit{};
   // How many frames there are before blank lines at the end, when no more are announced.
   std::optional<std::size_t> frames_before_end{};
+
+  // Such a column begins at `field`.
+  void AddColumn(std::size_t field) { named_fields = std::max(named_fields, field + 2); }
 
   // The place behind the last byte.
   [[nodiscard]] TRCPlace End() const {

@@ -37,7 +37,7 @@ void CheckNarrowFrames(const TrcWidths& widths, std::int64_t markers, FindingLis
       return FindingWords{
           CountOf(frame.fields, "field"),
           FormatInt(static_cast<std::int64_t>(widths.usual)) + ", as in most frames",
-          "Values behind a cell that was lost go to other coordinates and markers."};
+          "If a cell was lost, the values behind it go to other coordinates and markers."};
     });
   }
 }

@@ -52,6 +52,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-column-repeated-blank", FindingSeverity::kNote},
     {"trc-markers-missing", FindingSeverity::kError},
     {"trc-marker-count", FindingSeverity::kWarning},
+    {"trc-columns-misfit", FindingSeverity::kWarning},
     {"trc-sub-header-missing", FindingSeverity::kWarning},
 
     // Numbers

@@ -14,6 +14,8 @@ namespace {
 // More frames than one in so many are no accident.
 constexpr std::size_t kFewOf = 10;
 
+constexpr std::size_t kFieldsBeforeMarkers = 2;
+
 struct Width {
   std::size_t fields = 0;      // that the line has
   std::size_t last_value = 0;  // of its fields; 0 for a blank line
@@ -74,6 +76,7 @@ TrcWidths MeasureWidths(std::string_view bytes) {
   ForEachFrame(bytes, [&](const Line& line, const Width& width) {
     all.last_value = std::max(all.last_value, width.last_value);
     if (width.last_value > 0) {
+      all.widest = std::max(all.widest, width.fields);
       ++counts[width];
       all.blank_end.reset();
     } else if (!all.blank_end && !counts.empty()) {
@@ -82,8 +85,9 @@ TrcWidths MeasureWidths(std::string_view bytes) {
   });
   const Width usual = {MostCommon(counts, &Width::fields), MostCommon(counts, &Width::last_value)};
   all.usual = usual.fields;
+  all.usual_last_value = usual.last_value;
   const auto is_narrow = [&usual](const Width& width) {
-    return width.last_value > 0 && width.fields < usual.fields &&
+    return width.last_value > kFieldsBeforeMarkers && width.fields < usual.fields &&
            width.last_value < usual.last_value;
   };
   std::size_t frames = 0;
@@ -94,7 +98,8 @@ TrcWidths MeasureWidths(std::string_view bytes) {
   }
   if (narrow == 0 || narrow * kFewOf > frames) return all;
   ForEachFrame(bytes, [&](const Line& line, const Width& width) {
-    if (is_narrow(width)) all.narrow.push_back({{line.number, 1, 0}, width.fields});
+    const bool is_cut = !line.ends_with_break;
+    if (is_narrow(width) && !is_cut) all.narrow.push_back({{line.number, 1, 0}, width.fields});
   });
   return all;
 }

@@ -135,6 +135,8 @@ constexpr FindingMeaning kWords[] = {
     {"trc-marker-count", "The file holds {found}, and NumMarkers announces {expected}", nullptr,
      InMarkers(kNote, "The markers that are there are taken.")
          .But(Action::kInspect, kWarning, "The markers that are there are shown.")},
+    {"trc-columns-misfit", "The rows have {found}, and the names ask for {expected}", nullptr,
+     InMarkers(kWarning, "Values may belong to other markers than those that get them.")},
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
      InMarkers(kWarning, "The frame in its place is lost.")},
     {"trc-decimal-commas", "Numbers are written with decimal commas", nullptr, InMarkers(kWarning)},
@@ -160,13 +162,18 @@ constexpr FindingMeaning kWords[] = {
     {"trc-lines-at-end", "The file has {found}", nullptr,
      InMarkers(kNote, "The header announces no more frames than stand before: it does not count.")},
     {"trc-frame-short", "A frame has too few columns", "{count} frames have too few columns",
-     InMarkers(kWarning, "The markers that are missing have no position there.")},
+     InMarkers(
+         kWarning,
+         "The markers that are missing have no position there; if cells were lost, the values "
+         "behind them go to other markers.")},
     {"trc-frame-narrow", "A frame has fewer columns than most: {found}, not {expected}",
      "{count} frames have fewer columns than most, which have {expected}",
      InMarkers(kWarning,
-               "Values behind a cell that was lost go to other coordinates and markers.")},
+               "If a cell was lost, the values behind it go to other coordinates and markers.")},
     {"trc-value-extra", "A frame has too many columns", "{count} frames have too many columns",
-     InMarkers(kWarning, "What stands behind the last marker is not read.")},
+     InMarkers(kWarning,
+               "What stands behind the last marker is not read; if a cell was put in, the values "
+               "behind it go to other markers.")},
     {"trc-sample-without-x", "A sample does not begin with X",
      "{count} samples do not begin with X",
      InMarkers(kWarning, "The marker has no position there.")},

@@ -58,6 +58,17 @@ std::string NarrowFrame() {
   return text.Text();
 }
 
+// The time is gone in every frame, and `end` stands behind the last value of it.
+std::string WithoutTime(const std::string& end = "") {
+  TrcText text = Capture();
+  text.frames = {};
+  std::string bytes = text.Text();
+  for (const char* const number : {"1", "2", "3"}) {
+    bytes += std::string(number) + "\t1\t2\t3\t4\t5\t6" + end + "\n";
+  }
+  return Replaced(bytes, "60\t0\t2", "60\t3\t2");
+}
+
 std::vector<test::Told> ToldOf(const std::string& bytes) {
   return test::AllTold(CheckTrc("walk.trc", bytes).findings);
 }
@@ -208,6 +219,10 @@ const std::vector<CheckRow> kRows = {
      Damaged("LFHD\t\t\tRFHD\t\t\t", "X1\tY1\tZ1\tX2\tY2\tZ2\t"),
      {"4:13 warning trc-names-headings", "X1, Y1 and so on", "the names of the markers",
       "They are the names of the markers: X1, X2 and so on; the next line is not read."}},
+    {"TimeLostInAllFrames",
+     WithoutTime(),
+     {"7:1 warning trc-columns-misfit", "7 fields", "8, as frame, time and markers have",
+      "Values may belong to other markers than those that get them."}},
     {"NameInAnotherEncoding",
      Damaged("LFHD", "t\xEAte"),
      {"4:13 warning trc-name-encoding", "\"t\xEAte\"", "a name in ASCII or UTF-8",
@@ -290,7 +305,7 @@ const std::vector<CheckRow> kRows = {
     {"CellsLost",
      NarrowFrame(),
      {"10:1 warning trc-frame-narrow", "8 fields", "11, as in most frames",
-      "Values behind a cell that was lost go to other coordinates and markers."}},
+      "If a cell was lost, the values behind it go to other coordinates and markers."}},
     {"ValueBehindTheLast",
      Damaged("9\t4\t5\t6", "9\t4\t5\t6\t7"),
      {"9:21 warning trc-value-extra", "\"7\"", "the end of the line, behind 2 markers",
@@ -425,6 +440,33 @@ TEST(TrcCheck, TellsHowFramesAreNumberedAndTaken) {
               testing::ElementsAre(test::Told{
                   "7:1 warning trc-first-frame", "181 to 183", "1 to 3, as OrigDataStartFrame says",
                   "--range takes them by these numbers: 1:3 for all."}));
+}
+
+TEST(TrcCheck, TellsTheCauseAloneOfColumnsThatDoNotFitTheNames) {
+  TrcText narrow = Capture();
+  for (TrcText::Frame& frame : narrow.frames) frame.pop_back();
+  TrcText wide = Capture();
+  for (TrcText::Frame& frame : wide.frames) frame.insert(frame.begin(), "0");
+  const std::string without_name = Replaced(Damaged("LFHD\t\t\t", ""), "60\t3\t2\t", "60\t3\t1\t");
+  for (const std::string& bytes :
+       {narrow.Text(), wide.Text(), without_name, WithoutTime(), WithoutTime("\t")}) {
+    EXPECT_THAT(
+        ToldOf(bytes),
+        testing::ElementsAre(testing::Contains(testing::EndsWith(" warning trc-columns-misfit"))))
+        << bytes;
+  }
+}
+
+TEST(TrcCheck, FindsNoNarrowFrameInALineThatTheEndOfTheFileCuts) {
+  TrcText text = Capture();
+  text.frames.assign(20, {"1\t2\t3", "4\t5\t6\t"});
+  std::string bytes = text.Text();
+  bytes.resize(bytes.size() - std::string("6\t\n").size());
+  EXPECT_THAT(
+      ToldOf(bytes),
+      testing::Not(testing::Contains(testing::Contains(testing::EndsWith("trc-frame-narrow")))));
+  EXPECT_THAT(ToldOf(bytes + "\n"),
+              testing::Contains(testing::Contains(testing::EndsWith("trc-frame-narrow"))));
 }
 
 TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }
