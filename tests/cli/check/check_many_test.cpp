@@ -67,12 +67,13 @@ TEST_F(CheckManyTest, TellsAllPlacesWhenAskedTo) {
 
 TEST_F(CheckManyTest, TellsWhatItMeansToAnAction) {
   Write("b.htr", OddRate());
-  EXPECT_EQ(Orvane({"check", "--for", "import", "rate.htr", "b.htr", "note.htr"}).output,
+  EXPECT_EQ(Orvane({"check", "--for", "apply", "rate.htr", "b.htr", "note.htr"}).output,
             "rate.htr and b.htr: warning: 2 times, first: The frame rate has a fraction: \"59.94\" "
-            "(line 7, column 15). 59 is taken: a minute lasts 60.96 s. [htr-rate-cut]\n"
+            "(line 7, column 15). 59.94 a second become 59.3 in the host: a minute lasts 60.7 s "
+            "there. [htr-rate-cut]\n"
             "note.htr: note: [EndOfFile] is missing (line 28, column 1). Nothing is lost, unless "
             "the file was cut short. [htr-end-missing]\n"
-            "2 of 3 files have warnings for import, 1 has notes\n");
+            "2 of 3 files have warnings for apply, 1 has notes\n");
 }
 
 TEST_F(CheckManyTest, CountsTheFilesThatCouldNotBeChecked) {
