@@ -79,6 +79,7 @@ class CompletionTest(unittest.TestCase):
             (["check", "walk"], ["walk.htr", "walk.mnm", "walk.trc"]),
             (["compare", "walk.htr", "walk"], ["walk.htr", "walk.trc"]),
             (["map", "lint", "walk"], ["walk.mnm", "walk.trc"]),
+            (["map", "show", "walk"], ["walk.mnm", "walk.trc"]),
         )
         for words, files in cases:
             with self.subTest(words=words):
