@@ -95,7 +95,8 @@ TEST_F(NamesOfMappingTest, OnlyAsFarAsTheFlagSays) {
 }
 
 TEST_F(NamesOfMappingTest, WhatIsAmbiguousIsRefusedFileByFile) {
-  const ProgramResult result = ConvertBy("subject", {"two.trc", "anna.trc", "small.trc"});
+  const ProgramResult result =
+      ConvertBy("subject", {"two.trc", "anna.trc", "small.trc", "--jobs", "1"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error,
               HasSubstr("orvane: two.trc: \"walker:LFHD\" of the mapping could be \"anna:LFHD\" or "
