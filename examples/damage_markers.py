@@ -63,17 +63,22 @@ def name_field(marker):
     return 2 + 3 * marker
 
 
-def without_sample(marker, frames):
-    """The marker, counted from 0, drops out in these frames."""
+def with_sample(marker, frames, cell):
+    """The marker, counted from 0, has `cell` for X, Y and Z in these frames."""
 
     def edit(lines):
         for frame in frames:
             fields = lines[FIRST_FRAME + frame].split(b"\t")
-            fields[name_field(marker):name_field(marker) + 3] = [b"", b"", b""]
+            fields[name_field(marker):name_field(marker) + 3] = [cell] * 3
             lines[FIRST_FRAME + frame] = b"\t".join(fields)
         return FIRST_FRAME + frames[0]
 
     return edit
+
+
+def without_sample(marker, frames):
+    """The marker drops out."""
+    return with_sample(marker, frames, b"")
 
 
 def shows_at(line, edit):
@@ -198,6 +203,8 @@ DAMAGES = [
     ("gap", "trc-marker-gaps", without_sample(0, range(30, 60))),
     ("never-seen", "trc-marker-never-seen", shows_at(NAMES, without_sample(2, range(120)))),
     # What moves
+    ("zeros-for-gaps", "trc-position-zero", with_sample(0, range(30, 60), b"0.000")),
+    ("nines-for-gaps", "trc-position-stand-in", with_sample(0, range(30, 60), b"9999.99")),
     ("nines", "trc-position-far", change_field(FIRST_FRAME + 3, 5, b"9999999")),
     ("inches", "trc-size", change_field(VALUES, 4, b"in")),
     ("heights-along-z", "trc-up-axis", lay_down),

@@ -34,6 +34,9 @@ class Horizon {
     return farthest > distance_ && FitsSinglePrecision(farthest);
   }
 
+  // Whether that may be so of a point among others, of which the farthest coordinate is `farthest`.
+  [[nodiscard]] bool MayHide(double farthest) const { return farthest > distance_; }
+
  private:
   double distance_;
 };

@@ -2,18 +2,22 @@
 
 #include <optional>
 #include <string>
+#include <utility>
+#include <vector>
 
 #include "formats/text/numbers.h"
 #include "inspect/check/plausibility.h"
 #include "inspect/check/trc_rules.h"
+#include "inspect/check/trc_stand_ins.h"
 #include "inspect/summary/subject.h"
 #include "inspect/summary/trc_summary.h"
 
 namespace orvane::trc {
 namespace {
 
-void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const TrcParts& parts,
-                       FindingList& findings) {
+// Where a marker is that is beyond the horizon, but for positions that stand for missing ones.
+void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const StandIns& stand_ins,
+                       const TrcParts& parts, FindingList& findings) {
   const Horizon horizon(unit);
   std::size_t frame = 0;
   auto gap = marker.Gaps().begin();
@@ -21,10 +25,31 @@ void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const TrcPar
     for (; gap != marker.Gaps().end() && gap->begin == frame; ++gap) frame = gap->end;
     const TRCPosition& position = marker.Positions()[index];
     if (!horizon.Hides(position.x, position.y, position.z)) continue;
+    if (stand_ins.AreAt(DistanceOf(position))) continue;
     findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame), [&] {
       return WordsOfOutOfSight(marker.Name(), {position.x, position.y, position.z}, unit);
     });
   }
+}
+
+void CheckSubject(const TRCDocument& document, const std::vector<PositionExtremes>& extremes,
+                  const StandIns& stand_ins, const TrcParts& parts, FindingList& findings) {
+  const auto unit = static_cast<std::uint32_t>(document.Units());
+  const auto subject = MeasureSubject(document);
+  if (auto words = WordsOfOddSize(subject, unit); words && !stand_ins.AreFar()) {
+    findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.End()),
+                 std::move(*words));
+  } else {
+    const Horizon horizon(unit);
+    for (std::size_t index = 0; index < extremes.size(); ++index) {
+      if (!horizon.MayHide(extremes[index].farthest)) continue;
+      CheckFarPositions(*document.MarkerAt(index), unit, stand_ins, parts, findings);
+    }
+  }
+  if (!subject || stand_ins.AreFar() || !SeemsToStandAlongZ(*subject)) return;
+  findings.Add(Rule("trc-up-axis"), parts.PlaceOfFrame(0),
+               {"heights along Z: " + DescribeHeights(*SummarizeTrc(document).bounds, unit),
+                "heights along Y", "The file is taken as Y up: what stands lies on its side."});
 }
 
 }  // namespace
@@ -43,20 +68,12 @@ void CheckNarrowFrames(const TrcWidths& widths, std::int64_t markers, FindingLis
 }
 
 void CheckPositions(const TRCDocument& document, const TrcParts& parts, FindingList& findings) {
-  const auto unit = static_cast<std::uint32_t>(document.Units());
-  const auto subject = MeasureSubject(document);
-  if (auto words = WordsOfOddSize(subject, unit)) {
-    findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.End()),
-                 std::move(*words));
-  } else {
-    for (const TRCMarker& marker : document.markers()) {
-      CheckFarPositions(marker, unit, parts, findings);
-    }
-  }
-  if (!subject || !SeemsToStandAlongZ(*subject)) return;
-  findings.Add(Rule("trc-up-axis"), parts.PlaceOfFrame(0),
-               {"heights along Z: " + DescribeHeights(*SummarizeTrc(document).bounds, unit),
-                "heights along Y", "The file is taken as Y up: what stands lies on its side."});
+  std::vector<PositionExtremes> extremes;
+  extremes.reserve(document.MarkerCount());
+  for (const TRCMarker& marker : document.markers()) extremes.push_back(FindExtremes(marker));
+  const StandIns stand_ins(document, extremes);
+  stand_ins.AddTo(findings, parts);
+  CheckSubject(document, extremes, stand_ins, parts, findings);
 }
 
 }  // namespace orvane::trc

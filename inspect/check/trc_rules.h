@@ -79,6 +79,8 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-marker-never-seen", FindingSeverity::kWarning},
 
     // What moves
+    {"trc-position-zero", FindingSeverity::kWarning},
+    {"trc-position-stand-in", FindingSeverity::kWarning},
     {"trc-position-far", FindingSeverity::kWarning},
     {"trc-size", FindingSeverity::kNote},
     {"trc-up-axis", FindingSeverity::kNote},

@@ -209,6 +209,10 @@ constexpr FindingMeaning kWords[] = {
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
      Concern::kSamples, &kShownWithoutPosition},
+    {"trc-position-zero", "A marker stands at exactly 0 0 0 in some of its frames",
+     "{count} markers stand at exactly 0 0 0 in some of their frames", InMarkers(kWarning)},
+    {"trc-position-stand-in", "A marker jumps far away, to the very same place each time",
+     "{count} markers jump far away, to the very same place each time", InMarkers(kWarning)},
     {"trc-position-far", "A position is more than 1 km away",
      "{count} positions are more than 1 km away",
      InMarkers(kWarning,

@@ -58,6 +58,16 @@ std::string NarrowFrame() {
   return text.Text();
 }
 
+// The second marker is at `sample` in so many frames from the second one on, behind a gap of the
+// first marker; then it is elsewhere.
+std::string AtFrames(std::size_t frames, const std::string& sample) {
+  TrcText text = Capture();
+  text.frames.assign(frames + 2, {"", sample});
+  text.frames.front() = {"1\t2\t3", "4\t5\t6"};
+  text.frames.back() = {"1\t2\t3", "7\t8\t9"};
+  return text.Text();
+}
+
 // The time is gone in every frame, and `end` stands behind the last value of it.
 std::string WithoutTime(const std::string& end = "") {
   TrcText text = Capture();
@@ -360,6 +370,17 @@ const std::vector<CheckRow> kRows = {
       "The import makes an object that stays at the origin."}},
 
     // What moves
+    {"ZerosForAGap",
+     AtFrames(2, "0.00\t0\t-0"),
+     {"8:1 warning trc-position-zero", "\"RFHD\" at 0 0 0 in 2 frames",
+      "nothing for X where a position is missing",
+      "It is taken for a position, and no gap is seen: 2 samples in all."}},
+    {"NinesForAGap",
+     AtFrames(3, "-9999.99\t9999.99\t0"),
+     {"8:1 warning trc-position-stand-in", "\"RFHD\" at 9999.99 in 3 frames",
+      "nothing for X where a position is missing",
+      "9999.99 seems to stand for a missing position; it is taken for one, and no gap is seen: 3 "
+      "samples in all."}},
     {"OutOfSight",
      Damaged("7\t8\t9", "7\t-9999999\t9"),
      {"9:1 warning trc-position-far", "\"LFHD\" 10 km away", "a position within 1 km, or none",
@@ -467,6 +488,24 @@ TEST(TrcCheck, FindsNoNarrowFrameInALineThatTheEndOfTheFileCuts) {
       testing::Not(testing::Contains(testing::Contains(testing::EndsWith("trc-frame-narrow")))));
   EXPECT_THAT(ToldOf(bytes + "\n"),
               testing::Contains(testing::Contains(testing::EndsWith("trc-frame-narrow"))));
+}
+
+TEST(TrcCheck, TakesPositionsThatMayBeMeasuredForNothingElse) {
+  constexpr const char* kZero = "trc-position-zero";
+  constexpr const char* kStandIn = "trc-position-stand-in";
+  const auto tells = [](const std::string& code) {
+    return testing::Contains(testing::Contains(testing::EndsWith(code)));
+  };
+  EXPECT_THAT(ToldOf(AtFrames(1, "0\t0\t0")), testing::Not(tells(kZero))) << "one sample";
+  EXPECT_THAT(ToldOf(AtFrames(2, "999\t999\t999")), testing::Not(tells(kStandIn))) << "twice";
+  EXPECT_THAT(ToldOf(AtFrames(5, "4\t14\t6")), testing::Not(tells(kStandIn))) << "near";
+  EXPECT_THAT(ToldOf(AtFrames(5, "4\t1e39\t6")), testing::Not(tells(kStandIn))) << "infinite";
+  EXPECT_THAT(ToldOf(AtFrames(3, "9999999\t9999999\t9999999")),
+              testing::Not(tells("trc-position-far")))
+      << "told as what it stands for";
+  TrcText still = Capture();
+  still.frames.assign(5, {"0\t0\t0", "4\t5\t6"});
+  EXPECT_THAT(ToldOf(still.Text()), testing::IsEmpty()) << "never elsewhere";
 }
 
 TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }
