@@ -93,6 +93,7 @@ SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names) 
 
 std::vector<Complaint> ComplainAbout(const std::vector<UnknownName>& unknown) {
   std::vector<Complaint> complaints;
+  complaints.reserve(unknown.size());
   for (const UnknownName& each : unknown) {
     complaints.push_back({"--select", "nothing in the scene is named " + each.name, ""});
   }

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <iostream>
+#include <iterator>
 #include <memory>
 #include <optional>
 #include <utility>
@@ -305,6 +306,7 @@ ExitStatus Import(const ImportArguments& arguments) {
 
 std::vector<std::string> LengthUnitNames() {
   std::vector<std::string> names;
+  names.reserve(std::size(kLengthUnits));
   for (const LengthUnit& unit : kLengthUnits) names.emplace_back(unit.name);
   return names;
 }

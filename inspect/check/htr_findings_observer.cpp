@@ -52,10 +52,8 @@ std::string_view SectionLikelyMeant(std::string_view name) {
 
 void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
   if (IsToldOfItsLine(oddity, cell, field)) return;
+  Remember(oddity, cell);
   switch (oddity) {
-    case HtrOddity::kByteOrderMark:
-      byte_order_mark_ = cell.text;
-      break;
     case HtrOddity::kLineBeforeFirstSection:
       // A mark alone, or before a comment, has been told.
       if (cell.text.data() == byte_order_mark_.data() && cell.text == byte_order_mark_) return;
@@ -74,11 +72,22 @@ void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::s
     case HtrOddity::kUnreadableNumber:
       if (commas_.Take(cell.text, cell)) return;  // told once for all
       break;
-    case HtrOddity::kHierarchyLinkedAgain:
-      linked_again_ = true;
-      break;
     case HtrOddity::kParentNotFound:
       if (linked_again_) return;  // a second base-position section looks for the same parents
+      break;
+    default:
+      break;
+  }
+  AddOddity({oddity, cell, field, parts_}, findings_);
+}
+
+void HtrFindingsObserver::Remember(HtrOddity oddity, const HtrCell& cell) {
+  switch (oddity) {
+    case HtrOddity::kByteOrderMark:
+      byte_order_mark_ = cell.text;
+      break;
+    case HtrOddity::kHierarchyLinkedAgain:
+      linked_again_ = true;
       break;
     case HtrOddity::kRefusedHeaderValue:
     case HtrOddity::kRefusedSegmentName:
@@ -91,7 +100,6 @@ void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::s
     default:
       break;
   }
-  AddOddity({oddity, cell, field, parts_}, findings_);
 }
 
 bool HtrFindingsObserver::IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell,

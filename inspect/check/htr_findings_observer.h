@@ -39,6 +39,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
 
  private:
   // Whether the oddity is told of, now or before, as one of the cells of its line.
+  void Remember(HtrOddity oddity, const HtrCell& cell);
   [[nodiscard]] bool IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell, std::string_view field);
   [[nodiscard]] bool AddEmptyCell(const HtrCell& missing);
   void AddKeyword(const HtrCell& keyword);

@@ -24,9 +24,9 @@ struct MadeUpFrames {
 // or more.
 [[nodiscard]] std::string WhyOutOfProportion(const MadeUpFrames& made_up);
 
-// Why a hierarchy of `segments` that lists them `listed` times in all asks for too many bones; empty
-// when it does not. One that is listed again doubles at every level: ten thousand bones more than
-// there are segments may be made.
+// Why a hierarchy of `segments` that lists them `listed` times in all asks for too many bones;
+// empty when it does not. One that is listed again doubles at every level: ten thousand bones more
+// than there are segments may be made.
 [[nodiscard]] std::string WhyListedTooOften(std::int64_t segments, std::int64_t listed);
 
 // Why a marker file of `bytes` is far too short for `frames` of `markers`; empty when it is not. A
