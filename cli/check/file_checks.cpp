@@ -64,6 +64,7 @@ const FileCheck* FindFileCheck(std::string_view extension) {
 std::vector<std::string_view> ExtensionsOf(CheckedKinds kinds) {
   if (kinds == CheckedKinds::kScenes) return {".glb", ".gltf"};
   std::vector<std::string_view> extensions;
+  extensions.reserve(kFileChecks.size());
   for (const FileCheck& check : kFileChecks) extensions.push_back(check.extension);
   return extensions;
 }

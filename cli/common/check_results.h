@@ -32,7 +32,7 @@ void AddCheckManner(CLI::App& verb, CheckManner& manner);
 // Tells of files as they come, or of all at the end when that is JSON or goes by codes.
 class CheckResults {
  public:
-  explicit CheckResults(CheckManner manner) : manner_(std::move(manner)) {}
+  explicit CheckResults(const CheckManner& manner) : manner_(manner) {}
 
   void Add(orvane::CheckedFile file);
   // What an action is told before it.

@@ -102,26 +102,26 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
 }  // namespace
 
 ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
-                        const ImportManner& wishes) {
-  const ReportManner& manner = wishes.report;
+                        const ImportManner& manner) {
+  const ReportManner& telling = manner.report;
   Inspection inspection =
-      Inspect(order.file, order.kind, order.choices, scene, kImportLess, !manner.omitted);
+      Inspect(order.file, order.kind, order.choices, scene, kImportLess, !telling.omitted);
   FileReport of_scene;
-  ToldImport told = Foresee(inspection, order, scene, wishes, of_scene);
-  WriteReportFile({told.report}, manner);
+  ToldImport told = Foresee(inspection, order, scene, manner, of_scene);
+  WriteReportFile({told.report}, telling);
   if (inspection.refusal) {
     for (const std::string_view code : inspection.refused_codes) {
       told.report = told.report.Without(code);
     }
-    Tell(told.report, manner);
+    Tell(told.report, telling);
     throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   }
-  Tell(told.report, manner);
+  Tell(told.report, telling);
   // The plug-in would not see the errors, or has nobody for such a file.
   if (of_scene.Count(orvane::FindingSeverity::kError) > 0 || IsOfOtherKind(told.report)) {
-    throw RefusedForErrors(manner, told.report, {});
+    throw RefusedForErrors(telling, told.report, {});
   }
-  if (Forbids(manner, told.report)) throw ForbiddenByStrict(manner, told.report);
+  if (Forbids(telling, told.report)) throw ForbiddenByStrict(telling, told.report);
   told.has_errors = told.report.Count(orvane::FindingSeverity::kError) > 0;
   told.complaints = std::move(inspection.complaints);
   return told;
