@@ -13,10 +13,6 @@ Failure CannotShowFileTime(const std::string& text) {
   return {ExitStatus::kWrongUsage, {{"--time file", text, ""}}};
 }
 
-double Value(const host::Rate& rate) {
-  return static_cast<double>(rate.numerator) / static_cast<double>(rate.denominator);
-}
-
 // What a scene without motion is shown at.
 SceneTime TimeOfNewMotion(const host::Recording& file, const ImportChoices& choices,
                           std::optional<ShownTime> wished) {
@@ -46,6 +42,10 @@ orvane::TimeChange ChangeOf(const host::Rate& rate, const host::Recording& file,
 }
 
 }  // namespace
+
+double Value(const host::Rate& rate) {
+  return static_cast<double>(rate.numerator) / static_cast<double>(rate.denominator);
+}
 
 SceneTime PlanTime(const host::Recording& file, std::int32_t taken_rate,
                    const ImportChoices& choices, const host::Scene& scene,

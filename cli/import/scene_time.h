@@ -25,6 +25,9 @@ struct SceneTime {
   std::optional<orvane::TimeChange> change{};
 };
 
+// Frames per second.
+[[nodiscard]] double Value(const host::Rate& rate);
+
 // The time of `scene` when `file`, whose rate the plug-in takes for `taken_rate`, has been imported
 // into it by `choices`, as the user `wished` it or for want of a word: a scene without motion takes
 // the file's, and another keeps its own as long as what comes to it has the same. Throws a Failure

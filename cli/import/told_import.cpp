@@ -16,16 +16,26 @@ using orvane::ApplyCircumstances;
 using orvane::CheckedFile;
 using orvane::FileReport;
 
+// The frames per second at which the scene plays motion that has others in the file; nothing where
+// those play, and in a scene without nodes, which has nothing to keep its own for.
+std::optional<double> OtherRate(const ImportedFrames& frames, const ImportChoices& choices,
+                                const host::Scene& scene, bool is_own_time) {
+  const int ticks = scene.Animation().TicksPerFrame();
+  const bool is_same = is_own_time || host::TicksPerFrame(frames.rate) == ticks;
+  if (choices.frame_rate_from_file || is_same || scene.Root().Children().empty()) return {};
+  return static_cast<double>(kTicksPerSecond) / ticks;
+}
+
 ApplyCircumstances HowApplied(const ImportedFrames& frames, FileKind kind,
                               const ImportChoices& choices, const host::Scene& scene,
-                              const std::optional<orvane::TimeChange>& change) {
+                              const std::optional<host::Rate>& file_rate, const SceneTime& time) {
   ApplyCircumstances how;
-  how.time_change = change;
+  how.time_change = time.change;
   how.selected_only = choices.selected_only;
   how.first_frame = frames.announced.first;
   if (!choices.animation) return how;
-  how.file_rate = frames.rate;
-  how.scene_rate = choices.frame_rate_from_file ? frames.rate : scene.Animation().FrameRate();
+  how.file_rate = file_rate ? Value(*file_rate) : static_cast<double>(frames.rate);
+  how.scene_rate = OtherRate(frames, choices, scene, time.is_own);
   if (kind == FileKind::kHtr && choices.range && IsRangeTaken(frames, choices)) {
     how.range_from = choices.range->first;
   }
@@ -38,17 +48,19 @@ bool IsOfOtherKind(const FileReport& report) {
 }
 
 // What is found in the file and the scene together.
-FileReport ReportOnScene(const CheckedFile& checked, const ImportedFrames& frames,
-                         const ImportOrder& order, const host::Scene& scene,
-                         const std::optional<orvane::TimeChange>& change,
+FileReport ReportOnScene(const Inspection& inspection, const ImportOrder& order,
+                         const host::Scene& scene, const SceneTime& time,
                          const std::optional<Application>& application) {
+  const ImportedFrames& frames = inspection.frames;
   const Action action = order.choices.apply ? Action::kApply : Action::kImport;
-  const ApplyCircumstances how = HowApplied(frames, order.kind, order.choices, scene, change);
-  const std::string& name = checked.file;
-  const std::string_view kind = checked.kind;
+  const auto file_rate = inspection.recording ? inspection.recording->rate : std::nullopt;
+  const ApplyCircumstances how =
+      HowApplied(frames, order.kind, order.choices, scene, file_rate, time);
+  const std::string& name = inspection.checked.file;
+  const std::string_view kind = inspection.checked.kind;
   FileReport report = ReportOn(application ? CheckApply(name, kind, application->file,
                                                         application->scene, application->plan, how)
-                                           : CheckTimes(name, kind, how),
+                                           : CheckImport(name, kind, how),
                                action);
   report.Take(ReportOn(
       CheckFrames(name, kind, CircumstancesOf(frames, order.choices, order.kind, scene)), action));
@@ -91,8 +103,7 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
                           .gaps = told.gaps});
   if (choices.turned_up) told.report = told.report.Without("trc-up-axis");
   if (!manner.report.omitted && !inspection.refusal) {
-    of_scene = ReportOnScene(inspection.checked, inspection.frames, order, scene, time.change,
-                             told.application);
+    of_scene = ReportOnScene(inspection, order, scene, time, told.application);
     of_scene.Take(ReportOnSelection(inspection.checked, order, scene));
     told.report.Take(of_scene);
   }

@@ -38,10 +38,11 @@ bool AnyNameMatches(const AppliedFile& file, const ApplyScene& scene, const Appl
 }
 
 // "half speed", or how many times its speed.
-std::string SpeedOf(std::int32_t file_rate, std::int32_t scene_rate) {
-  if (2 * std::int64_t{scene_rate} == file_rate) return "half speed";
-  if (scene_rate == 2 * std::int64_t{file_rate}) return "double speed";
-  return FormatDouble(static_cast<double>(scene_rate) / file_rate, 2) + " times its speed";
+std::string SpeedOf(double file_rate, double scene_rate) {
+  const double speed = scene_rate / file_rate;
+  if (speed == 0.5) return "half speed";
+  if (speed == 2.0) return "double speed";
+  return TellApart(speed, 1.0) + " times its speed";
 }
 
 // Gathers what is found of one file.
@@ -94,10 +95,11 @@ class ApplyCheck {
   }
 
   void CompareRates(const ApplyCircumstances& how) {
-    if (how.file_rate == how.scene_rate || how.file_rate <= 0) return;
-    Add(FindRule(apply::kRules, "apply-rate-differs"), FormatInt(how.file_rate),
-        FormatInt(how.scene_rate),
-        "The motion plays at " + SpeedOf(how.file_rate, how.scene_rate) +
+    if (!how.scene_rate || how.file_rate <= 0.0) return;
+    const double rate = *how.scene_rate;
+    Add(FindRule(apply::kRules, "apply-rate-differs"), FormatShortest(how.file_rate),
+        TellApart(rate, how.file_rate),
+        "The motion plays at " + SpeedOf(how.file_rate, rate) +
             "; --frame-rate file gives the scene the rate of the file.");
   }
 
@@ -216,9 +218,10 @@ CheckedFile CheckApply(const std::string& name, std::string_view kind, const App
   return check.Finish();
 }
 
-CheckedFile CheckTimes(const std::string& name, std::string_view kind,
-                       const ApplyCircumstances& how) {
+CheckedFile CheckImport(const std::string& name, std::string_view kind,
+                        const ApplyCircumstances& how) {
   ApplyCheck check(name, kind);
+  check.CompareRates(how);
   check.CheckRange(how);
   check.CheckTimeChange(how);
   return check.Finish();

@@ -46,9 +46,11 @@ struct TimeChange {
 
 // How a file is applied, or imported.
 struct ApplyCircumstances {
-  bool selected_only = false;                // markers make no objects
-  std::int32_t file_rate = 0;                // frames per second
-  std::int32_t scene_rate = 0;               // of the scene as it will be
+  bool selected_only = false;  // markers make no objects
+  double file_rate = 0.0;      // frames per second
+  // Those that the motion is played at in the scene; nothing where they are the file's, or none
+  // would be with --frame-rate file either.
+  std::optional<double> scene_rate{};
   std::int64_t first_frame = 1;              // the number of the file's first frame
   std::optional<std::int64_t> range_from{};  // of a motion file, where the range begins
   std::optional<TimeChange> time_change{};
@@ -60,7 +62,7 @@ struct ApplyCircumstances {
                                      const ApplyPlan& plan, const ApplyCircumstances& how);
 
 // Those of them that are met where new nodes are made, too.
-[[nodiscard]] CheckedFile CheckTimes(const std::string& name, std::string_view kind,
-                                     const ApplyCircumstances& how);
+[[nodiscard]] CheckedFile CheckImport(const std::string& name, std::string_view kind,
+                                      const ApplyCircumstances& how);
 
 }  // namespace orvane

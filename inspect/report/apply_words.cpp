@@ -40,7 +40,7 @@ constexpr FindingMeaning kWords[] = {
      Applied(kNote, "Joints move as in the file, and bones keep the lengths that they have.")},
     {"apply-rate-differs",
      "There are {found} frames per second in the file, {expected} in the scene", nullptr,
-     Applied(kWarning)},
+     Imported(kWarning)},
     {"apply-scene-time", "Viewers are shown {found} frames per second of the scene, and {expected}",
      nullptr, Imported(kWarning)},
     {"apply-range-moves", "--range begins in frame {found}, and the file in frame {expected}",

@@ -16,6 +16,7 @@ using test::SmallMotion;
 using test::TrcText;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::Not;
 using testing::SizeIs;
 
 using Flags = std::vector<std::string>;
@@ -135,13 +136,47 @@ TEST_F(ImportTimeTest, BecomesTheHostsWithAnotherRateAndIsSaidTo) {
       "[apply-scene-time]\n";
   const std::string other = Take("60", false);
   EXPECT_EQ(Import(other, "two.glb", {"--into", "one.glb"}).error,
-            cause + "the file has 60" + effect);
+            "orvane: take.trc: warning: There are 60 frames per second in the file, 59.3 in the "
+            "scene. The motion plays at 0.99 times its speed; --frame-rate file gives the scene "
+            "the rate of the file. [apply-rate-differs]\n" +
+                cause + "the file has 60" + effect);
   ExpectLast(Times("two.glb", true), 4800.0 / 81);
   EXPECT_THAT(Import(other, "two.glb", {"--into", "one.glb", "--time", "host"}).error,
               HasSubstr(cause + "the host's time is asked for" + effect));
   EXPECT_EQ(Import(other, "two.glb", {"--into", "one.glb", "--time", "file"}).error,
             "orvane: --time file: the motion in the scene has another rate, or goes by the host's "
             "time\n");
+}
+
+// --- A scene that keeps its rate ---
+
+TEST_F(ImportTimeTest, OfASceneThatIsThereMakesOtherRatesPlayAtAnotherSpeedAndIsSaidTo) {
+  const Flags into = {"--into", "one.glb"};
+  for (const bool is_motion : {true, false}) {
+    ASSERT_EQ(Import(Take("60", is_motion), "one.glb").status, 0);
+    const std::string fast = Take("120", is_motion);
+    EXPECT_EQ(Import(fast, "two.glb", into).error,
+              "orvane: " + fast +
+                  ": warning: There are 120 frames per second in the file, 60 in the scene. The "
+                  "motion plays at half speed; --frame-rate file gives the scene the rate of the "
+                  "file. [apply-rate-differs]\n");
+    EXPECT_EQ(Import(fast, "two.glb", {"--into", "one.glb", "--strict"}).status, 1);
+    EXPECT_THAT(Import(fast, "two.glb", {"--into", "one.glb", "--frame-rate", "file"}).error,
+                Not(HasSubstr("apply-rate-differs")));
+  }
+  EXPECT_THAT(Import(Take("120", true), "new.glb", {"--frame-rate", "keep"}).error, IsEmpty())
+      << "a scene without nodes";
+}
+
+TEST_F(ImportTimeTest, OfTheSameRateIsNotSaidToDifferBecauseOfTheHost) {
+  for (const std::string rate : {"250", "59.94"}) {
+    const std::string file = Take(rate, true);
+    ASSERT_EQ(Import(file, "one.glb").status, 0);
+    EXPECT_THAT(Import(file, "two.glb", {"--into", "one.glb"}).error, IsEmpty()) << rate;
+    EXPECT_THAT(Import(file, "two.glb", {"--into", "one.glb", "--apply", "--select", "Hips"}).error,
+                IsEmpty())
+        << rate;
+  }
 }
 
 }  // namespace

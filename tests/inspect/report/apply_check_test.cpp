@@ -47,7 +47,7 @@ AppliedFile Markers(const std::vector<std::string>& names) {
   return file;
 }
 
-constexpr ApplyCircumstances kSameRate{.file_rate = 60, .scene_rate = 60};
+constexpr ApplyCircumstances kSameRate{.file_rate = 60.0};
 
 FileReport ReportOnMotion(const AppliedFile& file, const ApplyScene& scene,
                           const ApplyCircumstances& how = kSameRate) {
@@ -231,27 +231,36 @@ TEST(ApplyMarkers, ThatNoNameMatchesIsToldOnce) {
 // --- Time ---
 
 struct Rates {
-  std::int32_t file;
-  std::int32_t scene;
+  double file;
+  double scene;
+  std::string cause;
   std::string consequence;
 };
 
 TEST(ApplyRates, ThatDifferTellTheSpeed) {
   const std::string advice = "; --frame-rate file gives the scene the rate of the file.";
   const std::vector<Rates> cases = {
-      {120, 60, "The motion plays at half speed" + advice},
-      {30, 60, "The motion plays at double speed" + advice},
-      {100, 30, "The motion plays at 0.30 times its speed" + advice},
+      {120.0, 60.0, "There are 120 frames per second in the file, 60 in the scene",
+       "The motion plays at half speed" + advice},
+      {30.0, 60.0, "There are 30 frames per second in the file, 60 in the scene",
+       "The motion plays at double speed" + advice},
+      {100.0, 30.0, "There are 100 frames per second in the file, 30 in the scene",
+       "The motion plays at 0.3 times its speed" + advice},
+      {59.94, 60.0, "There are 59.94 frames per second in the file, 60 in the scene",
+       "The motion plays at 1.001 times its speed" + advice},
+      {60.0, 4800.0 / 19, "There are 60 frames per second in the file, 252.6 in the scene",
+       "The motion plays at 4.2 times its speed" + advice},
   };
   for (const Rates& its : cases) {
     const ApplyCircumstances how{.file_rate = its.file, .scene_rate = its.scene};
-    const ReportedFinding finding = Only(ReportOnMotion(Skeleton(), SkeletonScene(), how));
-    EXPECT_EQ(finding.code, "apply-rate-differs");
-    EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
-    EXPECT_EQ(finding.cause, "There are " + std::to_string(its.file) +
-                                 " frames per second in the file, " + std::to_string(its.scene) +
-                                 " in the scene");
-    EXPECT_EQ(finding.consequence, its.consequence);
+    for (const ReportedFinding& finding :
+         {Only(ReportOnMotion(Skeleton(), SkeletonScene(), how)),
+          Only(ReportOn(CheckImport("a.htr", "HTR", how), Action::kImport))}) {
+      EXPECT_EQ(finding.code, "apply-rate-differs");
+      EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
+      EXPECT_EQ(finding.cause, its.cause);
+      EXPECT_EQ(finding.consequence, its.consequence);
+    }
   }
 }
 
@@ -259,10 +268,10 @@ TEST(ApplyRange, ThatDoesNotBeginWithTheFileMovesItsFirstFrames) {
   ApplyCircumstances how = kSameRate;
   how.first_frame = 1;
   how.range_from = 1;
-  EXPECT_THAT(CheckTimes("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
+  EXPECT_THAT(CheckImport("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
   how.range_from = 11;
   for (const Action action : {Action::kImport, Action::kApply}) {
-    const ReportedFinding finding = Only(ReportOn(CheckTimes("a.htr", "HTR", how), action));
+    const ReportedFinding finding = Only(ReportOn(CheckImport("a.htr", "HTR", how), action));
     EXPECT_EQ(finding.code, "apply-range-moves");
     EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
     EXPECT_EQ(finding.cause, "--range begins in frame 11, and the file in frame 1");
@@ -288,7 +297,7 @@ TEST(ApplyTime, ThatTakesTheScenesOwnAwayTellsHowLongItLastsThen) {
     ApplyCircumstances how = kSameRate;
     how.time_change = change;
     for (const Action action : {Action::kImport, Action::kApply}) {
-      const ReportedFinding finding = Only(ReportOn(CheckTimes("a.htr", "HTR", how), action));
+      const ReportedFinding finding = Only(ReportOn(CheckImport("a.htr", "HTR", how), action));
       EXPECT_EQ(finding.code, "apply-scene-time");
       EXPECT_EQ(finding.severity, FindingSeverity::kWarning);
       EXPECT_EQ(finding.cause, cause);
@@ -302,7 +311,7 @@ TEST(ApplyTime, ThatTakesTheScenesOwnAwayTellsHowLongItLastsThen) {
 TEST(ApplyTime, ThatChangesNothingIsNotTold) {
   ApplyCircumstances how = kSameRate;
   how.time_change = {60.0, 60.0, 120.0};
-  EXPECT_THAT(CheckTimes("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
+  EXPECT_THAT(CheckImport("a.htr", "HTR", how).findings.Sorted(), IsEmpty());
 }
 
 }  // namespace
