@@ -40,10 +40,14 @@ double FromElbow(const MarkerPlaces& places, const Markers& elbow, std::size_t m
   return sum / static_cast<double>(elbow.size());
 }
 
-Markers ForeArm(const MarkerPlaces& places, const Markers& markers, const Markers& elbow) {
+Markers ForeArm(const MarkerPlaces& places, const Markers& markers, const Markers& elbow,
+                double upper_arm) {
+  constexpr double kLeast = 0.65;
+  constexpr double kMost = 1.5;
+  constexpr double kRigid = 0.02;
   Markers fore_arm = markers;
   for (const std::size_t of_elbow : elbow) {
-    fore_arm = Around(places, fore_arm, of_elbow, 0.1, 0.27, 0.02);
+    fore_arm = Around(places, fore_arm, of_elbow, kLeast * upper_arm, kMost * upper_arm, kRigid);
   }
   std::sort(fore_arm.begin(), fore_arm.end(), [&](std::size_t one, std::size_t other) {
     return FromElbow(places, elbow, one) < FromElbow(places, elbow, other);
@@ -110,7 +114,7 @@ void FindArm(PlaceBoard& board, const Side& side) {
       (elbow.size() == 2 && Around(places, {elbow[0]}, elbow[1], 0.03, 0.085, 0.015).empty())) {
     return board.LeaveOut(Arm(side, "arm"), CountReason(elbow.size(), "one or two of the elbow"));
   }
-  const Markers fore_arm = ForeArm(places, arm, elbow);
+  const Markers fore_arm = ForeArm(places, arm, elbow, places.Between(*shoulder, elbow[0]).median);
   if (fore_arm.size() != 2 && fore_arm.size() != 3) {
     return board.LeaveOut(Arm(side, "arm"),
                           CountReason(fore_arm.size(), "two of the wrist and one of the hand"));

@@ -37,7 +37,7 @@ Foot FootOf(const MarkerPlaces& places, const Side& side, std::size_t heel,
             const Markers& markers) {
   constexpr double kAhead = 0.075;
   constexpr double kAnkleAhead = 0.015;
-  constexpr double kAnkleAbove = 0.012;
+  constexpr double kAnkleAbove = 0.018;
   Foot foot;
   for (const std::size_t marker : markers) {
     if (marker == heel) continue;
@@ -56,6 +56,14 @@ Foot FootOf(const MarkerPlaces& places, const Side& side, std::size_t heel,
     });
   }
   return foot;
+}
+
+// Whether the heel comes down as far as what is in front does.
+bool TouchesFloor(const MarkerPlaces& places, std::size_t heel, const Markers& front) {
+  constexpr double kAbove = 0.018;
+  return std::any_of(front.begin(), front.end(), [&](std::size_t marker) {
+    return places.LowestOf(heel) <= places.LowestOf(marker) + kAbove;
+  });
 }
 
 void GiveAnkle(PlaceBoard& board, const Side& side, std::size_t heel, const Markers& ankle) {
@@ -99,7 +107,7 @@ void GiveToes(PlaceBoard& board, const Side& side, const Foot& foot) {
 
 void FindFoot(PlaceBoard& board, const Side& side) {
   constexpr Region kFoot{-0.05, 0.1, 0, 0.2};
-  constexpr double kHindmost = 0.02;
+  constexpr double kHindmost = 0.025;
   const MarkerPlaces& places = board.Places();
   Markers markers = RigidOnes(places, board.MarkersIn(kFoot, side));
   if (markers.size() < 3) {
@@ -111,7 +119,8 @@ void FindFoot(PlaceBoard& board, const Side& side) {
   });
   const std::size_t heel = markers[0];
   const Foot foot = FootOf(places, side, heel, markers);
-  if (places.Offset(heel, markers[1]).forward < kHindmost || foot.ankle.empty()) {
+  if (places.Offset(heel, markers[1]).forward < kHindmost || foot.ankle.empty() ||
+      !TouchesFloor(places, heel, foot.front)) {
     return board.LeaveOut(Leg(side, "foot"), "no marker is the heel's for sure");
   }
   board.Give(side, "HEL", heel, std::string("hindmost of the ") + side.word + " foot");
@@ -133,8 +142,7 @@ std::optional<Hip> HipOf(const PlaceBoard& board, const Side& side) {
   const MarkerPlaces& places = board.Places();
   const auto left = board.MarkerOf("LFWT");
   const auto right = board.MarkerOf("RFWT");
-  auto back = board.MarkerOf(side, "BWT");
-  if (!back) back = board.MarkerOf("SACR");
+  const auto back = board.MarkerOf(side, "BWT");
   if (!left || !right || !back) return std::nullopt;
   const double up = (places.At(*left).up + places.At(*right).up) / 2 - kBelow;
   const double width = places.At(*left).left - places.At(*right).left;
@@ -201,17 +209,19 @@ void FindLeg(PlaceBoard& board, const Side& side) {
 bool FacesItsWay(const PlaceBoard& board) {
   constexpr double kRare = 0.05;     // of the frames
   constexpr double kFurther = 1.25;  // times as far
-  int legs = 0;
+  bool is_seen = false;
   for (const Side& side : {kLeftSide, kRightSide}) {
+    // Nothing else is so long in front of the ankle, and so short behind it.
+    if (board.MarkerOf(side, "ANK") && board.MarkerOf(side, "TOE")) is_seen = true;
     const auto knee = board.MarkerOf(side, "KNE");
     const auto ankle = board.MarkerOf(side, "ANK");
     if (!knee || !ankle) continue;
     const double behind = -board.Places().ForwardOffset(*knee, *ankle, kRare);
     const double ahead = board.Places().ForwardOffset(*knee, *ankle, 1 - kRare);
     if (behind < kFurther * ahead) return false;
-    ++legs;
+    is_seen = true;
   }
-  return legs > 0;
+  return is_seen;
 }
 
 }  // namespace orvane

@@ -87,6 +87,11 @@ MarkerPlaces::MarkerPlaces(WalkTracks walk)
   RefuseOthers();
 }
 
+double MarkerPlaces::LowestOf(std::size_t marker) const {
+  constexpr double kRarely = 0.1;
+  return Quantile(ValuesOf(tracks_[marker], &BodyPoint::up), kRarely);
+}
+
 BodyPoint MarkerPlaces::Offset(std::size_t from, std::size_t to) const {
   const auto along = [&](double BodyPoint::*axis) {
     return Median(Measured(tracks_[from], tracks_[to], [axis](const auto& one, const auto& other) {

@@ -32,6 +32,8 @@ class MarkerPlaces {
   [[nodiscard]] bool HasPlace(std::size_t marker) const { return has_place_[marker]; }
   // `left` from the middle of the body, `up` from its lowest marker, `forward` from the head.
   [[nodiscard]] const BodyPoint& At(std::size_t marker) const { return places_[marker]; }
+  // The height that it is above in nine tenths of the frames.
+  [[nodiscard]] double LowestOf(std::size_t marker) const;
   [[nodiscard]] const std::vector<std::size_t>& Head() const { return head_; }
 
   // From `from` to `to`: the median of what it is in each frame, by axis.

@@ -85,13 +85,17 @@ void FindChest(PlaceBoard& board, const Markers& front) {
   board.Give("STRN", front[1], "the lower of two in the middle of the chest");
 }
 
+struct Pair {
+  std::size_t left;
+  std::size_t right;
+};
+
 // Mirrored markers of a region.
-std::vector<std::pair<std::size_t, std::size_t>> Pairs(const MarkerPlaces& places,
-                                                       const Markers& left, const Markers& right) {
-  std::vector<std::pair<std::size_t, std::size_t>> pairs;
+std::vector<Pair> Pairs(const MarkerPlaces& places, const Markers& left, const Markers& right) {
+  std::vector<Pair> pairs;
   for (const std::size_t one : left) {
     for (const std::size_t other : right) {
-      if (AreMirrored(places, one, other, kMirrored)) pairs.emplace_back(one, other);
+      if (AreMirrored(places, one, other, kMirrored)) pairs.push_back({one, other});
     }
   }
   return pairs;
@@ -145,20 +149,57 @@ Markers RigidOnes(const MarkerPlaces& places, const Markers& markers) {
   return rigid;
 }
 
-void GivePair(PlaceBoard& board, const Markers& markers, const std::string& standard,
-              const std::string& where) {
+// Whether a pair is as far from the middle on both sides, and from the other pair.
+bool AreSquare(const MarkerPlaces& places, const Pair& pair, const Pair& other) {
+  constexpr double kTolerance = 0.02;
+  constexpr double kOfSmaller = 0.5;
+  const double left = places.At(pair.left).left;
+  const double right = -places.At(pair.right).left;
+  if (std::abs(left - right) > kOfSmaller * std::min(left, right)) return false;
+  const auto differ = [&](std::size_t one, std::size_t from_one, std::size_t two,
+                          std::size_t from_two) {
+    return std::abs(places.Between(one, from_one).median - places.Between(two, from_two).median);
+  };
+  return differ(pair.left, other.left, pair.right, other.right) <= kTolerance &&
+         differ(pair.left, other.right, pair.right, other.left) <= kTolerance;
+}
+
+// The one mirrored pair that they are; says why there is none otherwise.
+std::optional<Pair> PairOf(PlaceBoard& board, const Markers& markers, const std::string& part) {
   const MarkerPlaces& places = board.Places();
   if (markers.size() != 2) {
-    return board.LeaveOut("the pelvis, " + where, CountReason(markers.size(), "two"));
+    board.LeaveOut(part, CountReason(markers.size(), "two"));
+    return std::nullopt;
   }
-  const bool is_first_left = places.At(markers[0]).left > places.At(markers[1]).left;
-  const std::size_t left = markers[is_first_left ? 0 : 1];
-  const std::size_t right = markers[is_first_left ? 1 : 0];
-  if (!AreMirrored(places, left, right, kMirrored)) {
-    return board.LeaveOut("the pelvis, " + where, "the two are not mirrored");
+  Pair pair{markers[0], markers[1]};
+  if (places.At(pair.left).left < places.At(pair.right).left) std::swap(pair.left, pair.right);
+  if (AreMirrored(places, pair.left, pair.right, kMirrored)) return pair;
+  board.LeaveOut(part, "the two are not mirrored");
+  return std::nullopt;
+}
+
+void GivePair(PlaceBoard& board, const Pair& pair, const std::string& standard,
+              const std::string& where) {
+  board.Give(kLeftSide, standard, pair.left, "left of the two at the " + where + " of the pelvis");
+  board.Give(kRightSide, standard, pair.right,
+             "right of the two at the " + where + " of the pelvis");
+}
+
+// Between the two at the back, and as far from both in front.
+void FindSacrum(PlaceBoard& board, const Markers& middle, const Pair& front, const Pair& back) {
+  constexpr double kTolerance = 0.02;
+  constexpr double kBeside = 0.02;
+  const MarkerPlaces& places = board.Places();
+  const std::string part = "the pelvis, middle of the back";
+  if (middle.size() != 1) return board.LeaveOut(part, CountReason(middle.size(), "one"));
+  const std::size_t sacrum = middle[0];
+  const double difference = std::abs(places.Between(sacrum, front.left).median -
+                                     places.Between(sacrum, front.right).median);
+  if (difference > kTolerance || places.Offset(sacrum, back.left).left < kBeside ||
+      places.Offset(back.right, sacrum).left < kBeside) {
+    return board.LeaveOut(part, "one marker, not surely in the middle");
   }
-  board.Give(kLeftSide, standard, left, "left of the two at the " + where + " of the pelvis");
-  board.Give(kRightSide, standard, right, "right of the two at the " + where + " of the pelvis");
+  board.Give("SACR", sacrum, "in the middle of the back of the pelvis");
 }
 
 }  // namespace
@@ -187,15 +228,25 @@ void FindTrunk(PlaceBoard& board) {
 
 void FindPelvis(PlaceBoard& board) {
   constexpr Region kPelvis{0.48, 0.69, 0, 0.11};
+  constexpr double kAsHigh = 0.05;
   const MarkerPlaces& places = board.Places();
-  const Pelvis pelvis = PelvisOf(places, RigidOnes(places, board.MarkersIn(kPelvis)));
-  GivePair(board, pelvis.front, "FWT", "front");
-  GivePair(board, pelvis.back, "BWT", "back");
-  if (pelvis.middle.size() == 1) {
-    board.Give("SACR", pelvis.middle[0], "in the middle of the back of the pelvis");
-  } else {
-    board.LeaveOut("the pelvis, middle of the back", CountReason(pelvis.middle.size(), "one"));
+  Pelvis pelvis = PelvisOf(places, RigidOnes(places, board.MarkersIn(kPelvis)));
+  const auto front = PairOf(board, pelvis.front, "the pelvis, front");
+  if (!front) return board.LeaveOut("the pelvis, back", "its front is not sure");
+  const double height = (places.At(front->left).up + places.At(front->right).up) / 2;
+  for (Markers* markers : {&pelvis.back, &pelvis.middle}) {
+    std::erase_if(*markers, [&](std::size_t marker) {
+      return std::abs(places.At(marker).up - height) > kAsHigh;
+    });
   }
+  GivePair(board, *front, "FWT", "front");
+  const auto back = PairOf(board, pelvis.back, "the pelvis, back");
+  if (!back) return;
+  if (!AreSquare(places, *back, *front)) {
+    return board.LeaveOut("the pelvis, back", "the two are not as far from those in front");
+  }
+  GivePair(board, *back, "BWT", "back");
+  FindSacrum(board, pelvis.middle, *front, *back);
 }
 
 }  // namespace orvane
