@@ -62,10 +62,12 @@ constexpr VerbGuide kGuides[] = {
      {{{"orvane map create walk.trc --picks picks.txt -o mine.mnm", "a new mapping"},
        {"orvane map create walk.trc --picks picks.txt -o mine.mnm --force", "make it once more"}}}},
     {"map suggest",
-     "Suggests which marker of a TRC file is which standard marker, by their names, each with its "
-     "reason. What is not sure is left out and listed. A mapping file that exists is kept.",
+     "Suggests which marker of a TRC file is which standard marker, by their names or by where they "
+     "sit on a body that walks, each with its reason. What is not sure is left out and listed. A "
+     "mapping file that exists is kept.",
      {{{"orvane map suggest walk.trc", "what the names say"},
-       {"orvane map suggest walk.trc -o suggested.mnm", "a mapping of it"}}}},
+       {"orvane map suggest walk.trc --by-geometry -o suggested.mnm",
+        "a mapping of where the markers sit, where names say nothing"}}}},
     {"map show",
      "Shows a mapping in the order of the standard markers, with what is missing, and with a TRC "
      "file which of its markers are there and in how much of the frames.",

@@ -23,6 +23,7 @@ struct SuggestArguments {
   std::string marker_file;
   std::string output;   // empty: nothing is written
   std::string subject;  // the only one looked at; empty for all
+  bool is_by_geometry = false;
   ReportManner report;
   bool json = false;
   bool quiet = false;
@@ -34,26 +35,43 @@ std::vector<std::string> NamesOf(const orvane::TRCDocument& document) {
   return names;
 }
 
+constexpr const char* kMapCreate =
+    "\"orvane map create\" makes a mapping of what you know: which marker sits where.";
+
 // What would help where names say nothing.
 std::string AdviceFor(const SuggestionReport& report) {
-  if (!report.suggestion.ambiguous.empty() && report.suggestion.subjects.size() > 1) {
+  if (!report.ambiguous.empty() && report.subjects.size() > 1) {
     return "--subject NAME looks at one of its subjects alone.";
   }
-  return "\"orvane map create\" makes a mapping of what you know: which marker sits where.";
+  return std::string(
+             "--by-geometry goes by where the markers of a body that walks sit and move. ") +
+         kMapCreate;
 }
 
-void RequireAny(const SuggestionReport& report) {
-  if (!report.suggestion.sure.empty()) return;
+void LookAtNames(SuggestionReport& report, const std::string& subject) {
+  SuggestByNames(report, subject);
+  if (!report.suggested.empty()) return;
   throw Failure{
       ExitStatus::kRefused,
       {{report.file, "No name of its markers says what place of the body it is of for sure",
         AdviceFor(report)}}};
 }
 
+void LookAtPlaces(SuggestionReport& report, const orvane::TRCDocument& document) {
+  const std::string problem = SuggestByGeometry(report, document);
+  if (problem.empty()) return;
+  throw Failure{
+      ExitStatus::kRefused,
+      {{report.file, problem,
+        std::string("A capture says most in which one body with markers from head to foot "
+                    "walks forward over the floor, two steps or more. ") +
+            kMapCreate}}};
+}
+
 std::string MappingBytes(const SuggestionReport& report, const std::string& folder) {
   orvane::MarkerNameMap mapping;
-  for (const orvane::SuggestedMarker& sure : report.suggestion.sure) {
-    mapping.Add(sure.standard, report.markers[sure.marker], 0);
+  for (const SuggestedRow& row : report.suggested) {
+    mapping.Add(row.standard, report.markers[row.marker], 0);
   }
   const platform::ScratchFolder scratch(folder);
   if (!scratch.Error().empty()) {
@@ -89,8 +107,11 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
   WriteReportFile({report.findings}, manner);
   if (Forbids(manner, report.findings)) throw ForbiddenByStrict(manner, report.findings);
   report.markers = NamesOf(document);
-  report.suggestion = orvane::SuggestByNames(report.markers, arguments.subject);
-  RequireAny(report);
+  if (arguments.is_by_geometry) {
+    LookAtPlaces(report, document);
+  } else {
+    LookAtNames(report, arguments.subject);
+  }
   if (output) output->Deliver(MappingBytes(report, output->Folder()));
   if (arguments.json) {
     PrintSuggestionJson(report, std::cout);
@@ -104,14 +125,19 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
 
 void AddMapSuggest(CLI::App& map, Work& work) {
   auto arguments = std::make_shared<SuggestArguments>();
-  CLI::App* verb = map.add_subcommand("suggest", "Suggest a mapping by the names of the markers");
+  CLI::App* verb = map.add_subcommand(
+      "suggest", "Suggest a mapping by the names of the markers, or by where they sit");
   verb->add_option("FILE", arguments->marker_file, "The TRC file")->required()->type_name("");
   RequireName(verb->add_option("-o,--output", arguments->output,
                                "The mapping file to write; one that exists is never replaced"))
       ->type_name("MAPPING");
+  CLI::Option* by_geometry =
+      verb->add_flag("--by-geometry", arguments->is_by_geometry,
+                     "Go by where the markers of a walking body sit and move, not by their names");
   RequireName(verb->add_option("--subject", arguments->subject,
                                "Look at the markers whose names begin with NAME and a colon alone"))
-      ->type_name("NAME");
+      ->type_name("NAME")
+      ->excludes(by_geometry);
   AddReportFlags(*verb, arguments->report);
   verb->add_flag("--json", arguments->json, "Write JSON");
   verb->add_flag("--quiet", arguments->quiet, "No summary; warnings are still told");

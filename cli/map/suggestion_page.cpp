@@ -9,39 +9,16 @@
 #include "cli/common/report.h"
 #include "formats/text/numbers.h"
 #include "inspect/check/findings.h"
-#include "inspect/mapping/marker_words.h"
 
 namespace cli {
 namespace {
 
 using orvane::AmbiguousMarker;
 using orvane::CountOf;
-using orvane::NameReason;
-using orvane::NameSuggestion;
-using orvane::SuggestedMarker;
+using orvane::UnsurePlace;
 
 constexpr std::size_t kWidthOfStandardNames = 8;
 constexpr int kVersion = 2;
-
-std::string Describe(NameReason reason, const std::string& name) {
-  switch (reason) {
-    case NameReason::kSame:
-      return "the same name";
-    case NameReason::kSubject:
-      return "the same name behind " +
-             Printable("\"" + std::string(orvane::DivideName(name).subject) + "\"");
-    case NameReason::kCase:
-      return "the same name but for capital letters";
-    case NameReason::kSynonym:
-      return "a usual name of the same place";
-  }
-  return "";
-}
-
-const char* WordFor(NameReason reason) {
-  constexpr const char* kWords[] = {"same", "subject", "case", "synonym"};
-  return kWords[static_cast<std::size_t>(reason)];
-}
 
 // Names with commas between them.
 template <typename Names, typename NameOf>
@@ -56,30 +33,32 @@ class Page {
   Page(const SuggestionReport& report, std::ostream& out) : report_(report), out_(out) {}
 
   void Print() {
-    for (const SuggestedMarker& sure : Suggestion().sure) PrintSure(sure);
-    for (const AmbiguousMarker& ambiguous : Suggestion().ambiguous) PrintAmbiguous(ambiguous);
-    PrintLeftOut("No role by their names", Suggestion().without_role);
-    PrintLeftOut("Names that no mapping can hold", Suggestion().unmappable);
-    if (!Suggestion().missing.empty()) {
-      out_ << "Needed, and not found: "
-           << Listed(Suggestion().missing, [](const std::string& name) { return name; }) << '\n';
+    for (const SuggestedRow& row : report_.suggested) PrintSuggested(row);
+    for (const AmbiguousMarker& ambiguous : report_.ambiguous) PrintAmbiguous(ambiguous);
+    for (const UnsurePlace& unsure : report_.unsure) {
+      out_ << "Left out: " << unsure.part << ": " << unsure.reason << '\n';
     }
-    out_ << orvane::FormatInt(static_cast<std::int64_t>(Suggestion().sure.size())) << " of "
+    PrintLeftOut(report_.is_by_geometry ? "No role by where they sit" : "No role by their names",
+                 report_.without_role);
+    PrintLeftOut("Names that no mapping can hold", report_.unmappable);
+    if (!report_.missing.empty()) {
+      out_ << "Needed, and not found: "
+           << Listed(report_.missing, [](const std::string& name) { return name; }) << '\n';
+    }
+    out_ << orvane::FormatInt(static_cast<std::int64_t>(report_.suggested.size())) << " of "
          << CountOf(report_.markers.size(), "marker") << " suggested";
     out_ << (report_.output.empty() ? "; no mapping written\n"
                                     : ": " + Printable(report_.output) + '\n');
   }
 
  private:
-  [[nodiscard]] const NameSuggestion& Suggestion() const { return report_.suggestion; }
   [[nodiscard]] const std::string& NameOf(std::size_t marker) const {
     return report_.markers[marker];
   }
 
-  void PrintSure(const SuggestedMarker& sure) {
-    const std::string& name = NameOf(sure.marker);
-    out_ << PadRight(sure.standard, kWidthOfStandardNames) << PadRight(Printable(name), Widest())
-         << "  " << Describe(sure.reason, name) << '\n';
+  void PrintSuggested(const SuggestedRow& row) {
+    out_ << PadRight(row.standard, kWidthOfStandardNames)
+         << PadRight(Printable(NameOf(row.marker)), Widest()) << "  " << row.words << '\n';
   }
 
   void PrintAmbiguous(const AmbiguousMarker& ambiguous) {
@@ -96,8 +75,8 @@ class Page {
 
   [[nodiscard]] std::size_t Widest() const {
     std::size_t widest = 0;
-    for (const SuggestedMarker& sure : Suggestion().sure) {
-      widest = std::max(widest, Width(Printable(NameOf(sure.marker))));
+    for (const SuggestedRow& row : report_.suggested) {
+      widest = std::max(widest, Width(Printable(NameOf(row.marker))));
     }
     return std::min(widest, kWidestNames);
   }
@@ -126,23 +105,39 @@ void WriteNames(JsonWriter& json, const char* key, const std::vector<std::string
   json.EndArray();
 }
 
-void WriteSuggestion(JsonWriter& json, const SuggestionReport& report) {
+void WriteSuggested(JsonWriter& json, const SuggestionReport& report) {
   json.Key("suggested");
   json.BeginArray(JsonWriter::Layout::kLines);
-  for (const SuggestedMarker& sure : report.suggestion.sure) {
+  for (const SuggestedRow& row : report.suggested) {
     json.BeginObject();
-    WriteText(json, "standard", sure.standard);
-    WriteText(json, "marker", report.markers[sure.marker]);
-    WriteText(json, "reason", WordFor(sure.reason));
+    WriteText(json, "standard", row.standard);
+    WriteText(json, "marker", report.markers[row.marker]);
+    WriteText(json, "reason", row.reason);
+    if (report.is_by_geometry) WriteText(json, "words", row.words);
     json.EndObject();
   }
   json.EndArray();
+}
+
+void WriteAmbiguous(JsonWriter& json, const SuggestionReport& report) {
   json.Key("ambiguous");
   json.BeginArray(JsonWriter::Layout::kLines);
-  for (const AmbiguousMarker& ambiguous : report.suggestion.ambiguous) {
+  for (const AmbiguousMarker& ambiguous : report.ambiguous) {
     json.BeginObject();
     WriteText(json, "standard", ambiguous.standard);
     WriteMarkers(json, "markers", report, ambiguous.markers);
+    json.EndObject();
+  }
+  json.EndArray();
+}
+
+void WriteUnsure(JsonWriter& json, const SuggestionReport& report) {
+  json.Key("unsure");
+  json.BeginArray(JsonWriter::Layout::kLines);
+  for (const UnsurePlace& unsure : report.unsure) {
+    json.BeginObject();
+    WriteText(json, "part", unsure.part);
+    WriteText(json, "reason", unsure.reason);
     json.EndObject();
   }
   json.EndArray();
@@ -161,11 +156,13 @@ void PrintSuggestionJson(const SuggestionReport& report, std::ostream& out) {
   json.Integer(kVersion);
   WriteText(json, "file", report.file);
   WriteText(json, "mapping", report.output);
-  WriteSuggestion(json, report);
-  WriteNames(json, "missing", report.suggestion.missing);
-  WriteMarkers(json, "without_role", report, report.suggestion.without_role);
-  WriteMarkers(json, "unmappable", report, report.suggestion.unmappable);
-  WriteNames(json, "subjects", report.suggestion.subjects);
+  WriteSuggested(json, report);
+  WriteAmbiguous(json, report);
+  if (report.is_by_geometry) WriteUnsure(json, report);
+  WriteNames(json, "missing", report.missing);
+  WriteMarkers(json, "without_role", report, report.without_role);
+  WriteMarkers(json, "unmappable", report, report.unmappable);
+  WriteNames(json, "subjects", report.subjects);
   json.Key("findings");
   WriteFindings(json, report.findings);
   json.EndObject();

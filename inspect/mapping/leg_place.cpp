@@ -37,14 +37,15 @@ Foot FootOf(const MarkerPlaces& places, const Side& side, std::size_t heel,
             const Markers& markers) {
   constexpr double kAhead = 0.075;
   constexpr double kAnkleAhead = 0.015;
-  constexpr double kAnkleAbove = 0.018;
+  constexpr double kAnkleAbove = 0.012;
   Foot foot;
   for (const std::size_t marker : markers) {
     if (marker == heel) continue;
     const BodyPoint from_heel = places.Offset(heel, marker);
     if (from_heel.forward >= kAhead) {
       foot.front.push_back(marker);
-    } else if (from_heel.forward >= kAnkleAhead && from_heel.up >= kAnkleAbove) {
+    } else if (from_heel.forward >= kAnkleAhead &&
+               places.LowestOf(marker) >= places.LowestOf(heel) + kAnkleAbove) {
       foot.ankle.push_back(marker);
     } else {
       foot.others.push_back(marker);

@@ -10,6 +10,8 @@
 namespace orvane {
 namespace {
 
+constexpr double kWidthOfMiddle = 0.03;
+
 // How much of it lies between a tenth and nine tenths of the values.
 double SpreadOf(const std::vector<double>& values) {
   return Quantile(values, 0.9) - Quantile(values, 0.1);
@@ -157,10 +159,6 @@ void MarkerPlaces::MeasurePlaces() {
 
 void MarkerPlaces::FindHead() {
   constexpr double kBand = 0.08;
-  constexpr double kMostAcross = 0.16;
-  constexpr double kMostSpread = 0.02;
-  constexpr std::size_t kFewest = 3;
-  constexpr std::size_t kMost = 6;
   const std::vector<std::size_t> placed = Placed();
   const double height = HeightBetween(places_, placed);
   double top = -std::numeric_limits<double>::infinity();
@@ -171,15 +169,7 @@ void MarkerPlaces::FindHead() {
     head_.push_back(marker);
     mean += places_[marker].up;
   }
-  bool is_head = kFewest <= head_.size() && head_.size() <= kMost;
-  for (std::size_t one = 0; is_head && one < head_.size(); ++one) {
-    for (std::size_t other = one + 1; other < head_.size(); ++other) {
-      const Distance distance = Between(head_[one], head_[other]);
-      is_head = is_head && distance.spread <= kMostSpread * height &&
-                distance.median <= kMostAcross * height;
-    }
-  }
-  if (!is_head) {
+  if (!IsHead(height)) {
     problem_ = "What is highest in it is no head with three to six markers that stay together";
     return;
   }
@@ -188,81 +178,95 @@ void MarkerPlaces::FindHead() {
   MeasurePlaces();
   double least = std::numeric_limits<double>::infinity();
   for (const std::size_t marker : Placed()) least = std::min(least, places_[marker].up);
-  Move(0, -least, 0);
+  Move({0, -least, 0});
 }
 
-void MarkerPlaces::Straighten() {
+bool MarkerPlaces::IsHead(double height) const {
+  constexpr double kMostAcross = 0.16;
+  constexpr double kMostSpread = 0.02;
+  constexpr std::size_t kFewest = 3;
+  constexpr std::size_t kMost = 6;
+  if (head_.size() < kFewest || head_.size() > kMost) return false;
+  for (const std::size_t one : head_) {
+    for (const std::size_t other : head_) {
+      if (one == other) continue;
+      const Distance distance = Between(one, other);
+      if (distance.spread > kMostSpread * height) return false;
+      if (distance.median > kMostAcross * height) return false;
+    }
+  }
+  return true;
+}
+
+// Markers of the upper body, which does not stride, that may be left and right of each other.
+std::vector<MarkerPlaces::Across> MarkerPlaces::PairsAcross(double most_forward) const {
+  constexpr double kLowest = 0.5;
   constexpr double kSameHeight = 0.02;
-  constexpr double kSameForward = 0.1;
   constexpr double kApart = 0.05;
-  constexpr double kWidthOfMiddle = 0.03;
-  constexpr double kLowest = 0.5;  // the upper body does not stride
-  constexpr double kMostTurn = 0.35;
   constexpr double kMostSpread = 0.05;
   const std::vector<std::size_t> placed = Placed();
-  std::vector<double> middles;
-  std::vector<std::pair<double, double>> turns;  // by the middle that they are around
+  std::vector<Across> pairs;
   for (const std::size_t one : placed) {
     for (const std::size_t other : placed) {
       const BodyPoint& right = places_[one];
       const BodyPoint& left = places_[other];
+      const double forward = left.forward - right.forward;
       if (left.left - right.left < kApart || right.up < kLowest) continue;
-      if (std::abs(left.up - right.up) > kSameHeight) continue;
-      if (std::abs(left.forward - right.forward) > kSameForward) continue;
+      if (std::abs(left.up - right.up) > kSameHeight || std::abs(forward) > most_forward) continue;
       if (!AreRigid(one, other, kMostSpread)) continue;
-      middles.push_back((left.left + right.left) / 2);
-      turns.emplace_back(middles.back(),
-                         std::atan2(left.forward - right.forward, left.left - right.left));
+      pairs.push_back({(left.left + right.left) / 2, std::atan2(forward, left.left - right.left)});
     }
   }
-  const double middle = DensestOf(middles, kWidthOfMiddle);
-  std::vector<double> around;
-  for (const auto& [at, turn] : turns) {
-    if (std::abs(at - middle) <= kWidthOfMiddle / 2) around.push_back(turn);
+  return pairs;
+}
+
+double MarkerPlaces::MiddleOf(const std::vector<Across>& pairs) {
+  std::vector<double> middles;
+  for (const Across& pair : pairs) middles.push_back(pair.middle);
+  return DensestOf(std::move(middles), kWidthOfMiddle);
+}
+
+void MarkerPlaces::Straighten() {
+  constexpr double kMostForward = 0.1;  // before all is turned
+  constexpr double kMostForwardAfter = 0.02;
+  constexpr double kMostTurn = 0.35;  // 20 degrees
+  const std::vector<Across> pairs = PairsAcross(kMostForward);
+  const double middle = MiddleOf(pairs);
+  std::vector<double> turns;
+  for (const Across& pair : pairs) {
+    if (std::abs(pair.middle - middle) <= kWidthOfMiddle / 2) turns.push_back(pair.turn);
   }
-  const double turn = around.empty() ? 0 : Median(around);
-  if (around.empty() || std::abs(turn) > kMostTurn) {
+  if (turns.empty() || std::abs(Median(turns)) > kMostTurn) {
     problem_ =
         "Its upper body shows no left and right sides that are alike, across the way it goes";
     return;
   }
-  for (BodyTrack& track : tracks_) {
-    for (auto& point : track) {
-      if (!point) continue;
-      const double left = point->left - middle;
-      point->left = left * std::cos(turn) + point->forward * std::sin(turn);
-      point->forward = point->forward * std::cos(turn) - left * std::sin(turn);
-    }
-  }
+  Move({-middle, 0, 0});
+  Turn(Median(turns));
   MeasurePlaces();
   std::vector<double> forward;
   for (const std::size_t marker : head_) forward.push_back(places_[marker].forward);
-  std::vector<double> left;
-  for (const std::size_t one : placed) {
-    for (const std::size_t other : placed) {
-      if (places_[other].left - places_[one].left < kApart || places_[one].up < kLowest) continue;
-      if (std::abs(places_[other].up - places_[one].up) > kSameHeight) continue;
-      if (std::abs(places_[other].forward - places_[one].forward) > kSameHeight) continue;
-      left.push_back((places_[other].left + places_[one].left) / 2);
-    }
-  }
-  Move(-DensestOf(left, kWidthOfMiddle), 0, -Median(forward));
+  Move({-MiddleOf(PairsAcross(kMostForwardAfter)), 0, -Median(forward)});
 }
 
 void MarkerPlaces::RefuseOthers() {
   constexpr double kMostAside = 0.62;
   constexpr double kMostForward = 0.45;
   constexpr std::size_t kMostOthers = 3;
+  constexpr double kBeside = 0.03;
+  constexpr int kMostMoreOnASide = 8;
   constexpr double kMostAsideOfHead = 0.05;
   std::size_t others = 0;
+  int more_on_left = 0;
   for (const std::size_t marker : Placed()) {
     const BodyPoint& place = places_[marker];
     if (std::abs(place.left) > kMostAside || std::abs(place.forward) > kMostForward) ++others;
+    if (std::abs(place.left) > kBeside) more_on_left += place.left > 0 ? 1 : -1;
   }
   double head = 0;
   for (const std::size_t marker : head_) head += places_[marker].left;
   const bool is_aside = std::abs(head) > kMostAsideOfHead * static_cast<double>(head_.size());
-  if (others > kMostOthers || is_aside) {
+  if (others > kMostOthers || std::abs(more_on_left) > kMostMoreOnASide || is_aside) {
     problem_ = "Its markers lie around more than one body, or around none that walks upright";
   }
 }
@@ -276,16 +280,26 @@ void MarkerPlaces::Scale(double factor) {
   }
 }
 
-void MarkerPlaces::Move(double left, double up, double forward) {
+void MarkerPlaces::Turn(double angle) {
   for (BodyTrack& track : tracks_) {
     for (auto& point : track) {
       if (!point) continue;
-      *point = {point->left + left, point->up + up, point->forward + forward};
+      *point = {point->left * std::cos(angle) + point->forward * std::sin(angle), point->up,
+                point->forward * std::cos(angle) - point->left * std::sin(angle)};
     }
   }
-  for (BodyPoint& place : places_) {
-    place = {place.left + left, place.up + up, place.forward + forward};
+}
+
+void MarkerPlaces::Move(const BodyPoint& by) {
+  const auto move = [&by](BodyPoint& point) {
+    point = {point.left + by.left, point.up + by.up, point.forward + by.forward};
+  };
+  for (BodyTrack& track : tracks_) {
+    for (auto& point : track) {
+      if (point) move(*point);
+    }
   }
+  for (BodyPoint& place : places_) move(place);
 }
 
 }  // namespace orvane

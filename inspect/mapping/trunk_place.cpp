@@ -149,13 +149,13 @@ Markers RigidOnes(const MarkerPlaces& places, const Markers& markers) {
   return rigid;
 }
 
-// Whether a pair is as far from the middle on both sides, and from the other pair.
-bool AreSquare(const MarkerPlaces& places, const Pair& pair, const Pair& other) {
+// Whether a pair is as far from the middle on both sides, but for a share of that, and from the
+// other pair.
+bool AreSquare(const MarkerPlaces& places, const Pair& pair, const Pair& other, double share) {
   constexpr double kTolerance = 0.02;
-  constexpr double kOfSmaller = 0.5;
   const double left = places.At(pair.left).left;
   const double right = -places.At(pair.right).left;
-  if (std::abs(left - right) > kOfSmaller * std::min(left, right)) return false;
+  if (std::abs(left - right) > share * std::min(left, right)) return false;
   const auto differ = [&](std::size_t one, std::size_t from_one, std::size_t two,
                           std::size_t from_two) {
     return std::abs(places.Between(one, from_one).median - places.Between(two, from_two).median);
@@ -242,7 +242,8 @@ void FindPelvis(PlaceBoard& board) {
   GivePair(board, *front, "FWT", "front");
   const auto back = PairOf(board, pelvis.back, "the pelvis, back");
   if (!back) return;
-  if (!AreSquare(places, *back, *front)) {
+  // One in the middle may be taken for one of the two where there are not three.
+  if (!AreSquare(places, *back, *front, pelvis.middle.empty() ? 0.3 : 0.5)) {
     return board.LeaveOut("the pelvis, back", "the two are not as far from those in front");
   }
   GivePair(board, *back, "BWT", "back");

@@ -25,8 +25,6 @@ struct FloorPoint {
   double y = 0;
 };
 
-using Track = std::vector<std::optional<BodyPoint>>;
-
 std::size_t FrameCount(const TRCDocument& document) {
   std::size_t count = 0;
   for (const TRCMarker& marker : document.markers()) count = std::max(count, marker.SampleCount());
@@ -34,8 +32,8 @@ std::size_t FrameCount(const TRCDocument& document) {
 }
 
 // Up is Y: then X is left where Z is forward.
-Track TrackOf(const TRCMarker& marker, std::size_t frames, std::size_t step, bool is_up_z) {
-  Track track;
+BodyTrack TrackOf(const TRCMarker& marker, std::size_t frames, std::size_t step, bool is_up_z) {
+  BodyTrack track;
   for (std::size_t frame = 0; frame < frames; frame += step) {
     double x = 0;
     double y = 0;
@@ -51,12 +49,12 @@ Track TrackOf(const TRCMarker& marker, std::size_t frames, std::size_t step, boo
 
 // How far all have got from the first frame: the steps of those that are in a frame and in the one
 // before, added up.
-std::vector<FloorPoint> WayOf(const std::vector<Track>& tracks) {
+std::vector<FloorPoint> WayOf(const std::vector<BodyTrack>& tracks) {
   std::vector<FloorPoint> way(tracks.front().size());
   for (std::size_t frame = 1; frame < way.size(); ++frame) {
     FloorPoint step;
     double count = 0;
-    for (const Track& track : tracks) {
+    for (const BodyTrack& track : tracks) {
       if (!track[frame] || !track[frame - 1]) continue;
       step.x += track[frame]->left - track[frame - 1]->left;
       step.y += track[frame]->forward - track[frame - 1]->forward;
@@ -85,6 +83,17 @@ std::optional<FloorPoint> HeadingAt(const std::vector<FloorPoint>& way, std::siz
 BodyPoint Turned(const BodyPoint& point, const FloorPoint& heading) {
   return {point.left * heading.y - point.forward * heading.x, point.up,
           point.left * heading.x + point.forward * heading.y};
+}
+
+// In `frames`, with each of their headings.
+BodyTrack SeenFromBody(const BodyTrack& track, const std::vector<std::size_t>& frames,
+                       const std::vector<FloorPoint>& headings) {
+  BodyTrack seen;
+  for (std::size_t index = 0; index < frames.size(); ++index) {
+    const auto& point = track[frames[index]];
+    seen.push_back(point ? std::optional(Turned(*point, headings[index])) : std::nullopt);
+  }
+  return seen;
 }
 
 // Moves each frame so that most markers are where they mostly are.
@@ -159,7 +168,7 @@ WalkTracks TrackWalk(const TRCDocument& document) {
   const double height = HeightOf(*subject);
   const std::size_t frames = FrameCount(document);
   const std::size_t step = (frames + kMostFramesOfWay - 1) / kMostFramesOfWay;
-  std::vector<Track> tracks;
+  std::vector<BodyTrack> tracks;
   for (const TRCMarker& marker : document.markers()) {
     tracks.push_back(TrackOf(marker, frames, step, is_up_z));
   }
@@ -167,21 +176,20 @@ WalkTracks TrackWalk(const TRCDocument& document) {
   const auto half = static_cast<std::size_t>(HalfStretchFrames(document, step));
 
   WalkTracks walk;
-  walk.markers.resize(tracks.size());
   std::vector<std::size_t> walked;
+  std::vector<FloorPoint> headings;
   const std::size_t stride = (way.size() + kMostFrames - 1) / kMostFrames;
   for (std::size_t frame = 0; frame < way.size(); frame += stride) {
     const auto heading = HeadingAt(way, frame, half, kStretch * height);
     if (!heading) continue;
     walked.push_back(frame);
-    for (std::size_t marker = 0; marker < tracks.size(); ++marker) {
-      const auto& point = tracks[marker][frame];
-      walk.markers[marker].push_back(point ? std::optional(Turned(*point, *heading))
-                                           : std::nullopt);
-    }
+    headings.push_back(*heading);
   }
   if (walked.size() < kFewestFrames || LengthOf(way, walked) < kFewestWay * height) {
     return {{}, "Nobody in it walks as far as two steps"};
+  }
+  for (const BodyTrack& track : tracks) {
+    walk.markers.push_back(SeenFromBody(track, walked, headings));
   }
   Centering(walk.markers).Run();
   return walk;

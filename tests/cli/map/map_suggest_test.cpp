@@ -101,10 +101,12 @@ TEST_F(MapSuggestTest, NamesThatSayNothingAreRefused) {
   const ProgramResult result = Suggest({"-o", "take.mnm"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.output, IsEmpty());
-  EXPECT_EQ(result.error,
-            "orvane: take.trc: No name of its markers says what place of the body it is of for "
-            "sure\n"
-            "  \"orvane map create\" makes a mapping of what you know: which marker sits where.\n");
+  EXPECT_EQ(
+      result.error,
+      "orvane: take.trc: No name of its markers says what place of the body it is of for "
+      "sure\n"
+      "  --by-geometry goes by where the markers of a body that walks sit and move. \"orvane map "
+      "create\" makes a mapping of what you know: which marker sits where.\n");
   EXPECT_FALSE(Exists("take.mnm"));
 }
 
@@ -151,6 +153,76 @@ TEST_F(MapSuggestTest, JsonTellsAllOfIt) {
                   {"standard": "RHEL", "marker": "rheel", "reason": "synonym"}],
     "ambiguous": [{"standard": "CLAV", "markers": ["anna:CLAV", "bob:CLAV"]}],
     "without_role": ["M001"], "unmappable": ["a b"], "subjects": ["anna", "bob"]})"));
+}
+
+// The example with names that say nothing.
+class MapSuggestByGeometryTest : public MapSuggestTest {
+ protected:
+  MapSuggestByGeometryTest() {
+    std::string capture = ReadFile(ORVANE_SOURCE_DIR "/examples/walk.trc");
+    for (int number = 1;; ++number) {
+      const std::size_t at = capture.find("walker:");
+      if (at == std::string::npos) break;
+      capture.replace(at, capture.find('\t', at) - at, "M" + std::to_string(100 + number));
+    }
+    Write("take.trc", capture);
+  }
+};
+
+TEST_F(MapSuggestByGeometryTest, FindsWhatIsSureAndTellsWhy) {
+  const ProgramResult result = Suggest({"--by-geometry", "-o", "take.mnm", "--no-report"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(result.output,
+              StartsWith("LFHD    M101  front left of the four markers of the head\n"
+                         "LBHD    M102  back left of the four markers of the head\n"));
+  EXPECT_THAT(result.output,
+              HasSubstr("\nLeft out: the left elbow: the two are in front of each other, so that "
+                        "none is the outer one\n"));
+  EXPECT_THAT(result.output,
+              HasSubstr("\nNo role by where they sit: M115, M116, M121, M122, M140, M141\n"
+                        "Needed, and not found: LELB, RELB\n"
+                        "35 of 41 markers suggested: take.mnm\n"));
+  EXPECT_THAT(Read("take.mnm"), StartsWith("LFHD\tM101\t"));
+}
+
+TEST_F(MapSuggestByGeometryTest, OnlyOnAsking) {
+  EXPECT_EQ(Suggest().status, 1);
+  EXPECT_EQ(Suggest({"--by-geometry", "--subject", "anna"}).status, 2);
+}
+
+TEST_F(MapSuggestByGeometryTest, JsonTellsTheReasonInWords) {
+  const ProgramResult result = Suggest({"--by-geometry", "--json", "--no-report"});
+  const json told = json::parse(result.output);
+  EXPECT_EQ(told["suggested"].size(), 35U);
+  EXPECT_EQ(told["suggested"][0],
+            json::parse(R"({"standard": "LFHD", "marker": "M101", "reason": "geometry",
+                            "words": "front left of the four markers of the head"})"));
+  EXPECT_EQ(told["unsure"][0]["part"], "the left elbow");
+  EXPECT_EQ(told["ambiguous"], json::array());
+  EXPECT_EQ(told["missing"], json::parse(R"(["LELB", "RELB"])"));
+}
+
+TEST_F(MapSuggestByGeometryTest, ANameOfTwoMarkersOrWithBlanksIsNotSuggested) {
+  std::string capture = Read("take.trc");
+  capture.replace(capture.find("M101"), 4, "M 1");
+  Write("take.trc", capture);
+  const ProgramResult result = Suggest({"--by-geometry", "--no-report"});
+  EXPECT_THAT(result.output, StartsWith("LBHD    M102"));
+  EXPECT_THAT(result.output, HasSubstr("\nNames that no mapping can hold: M 1\n"));
+  EXPECT_THAT(result.output, HasSubstr("\n34 of 41 markers suggested"));
+}
+
+TEST_F(MapSuggestByGeometryTest, WhereNobodyWalksItSaysWhatWouldHelp) {
+  WriteMarkers({"M001", "M002"});
+  const ProgramResult result = Suggest({"--by-geometry", "-o", "take.mnm"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(
+      result.error,
+      "orvane: take.trc: Nobody in it walks as far as two steps\n"
+      "  A capture says most in which one body with markers from head to foot walks forward over "
+      "the floor, two steps or more. \"orvane map create\" makes a mapping of what you know: "
+      "which marker sits where.\n");
+  EXPECT_FALSE(Exists("take.mnm"));
 }
 
 }  // namespace
