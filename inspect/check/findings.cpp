@@ -43,14 +43,17 @@ std::string_view SeverityName(FindingSeverity severity) {
   return kNames[static_cast<std::size_t>(severity)];
 }
 
-bool FindingList::CountAndAskForMore(const FindingRule& rule) {
+bool FindingList::CountAndAskForMore(const FindingRule& rule, const FindingPlace& place) {
   Total& total = totals_.try_emplace(rule.code, Total{rule.severity}).first->second;
-  return ++total.count <= kMostKeptOfARule;
+  ++total.count;
+  if (IsBehind(place)) return ++total.behind <= kMostKeptOfARule;
+  return total.count - total.behind <= kMostKeptOfARule;
 }
 
 void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words) {
   assert((place.line == 0) == (place.column == 0));
   kept_.push_back(NewFinding(rule, place, std::move(words)));
+  kept_.back().is_behind = IsBehind(place);
 }
 
 void FindingList::ReplaceAll(const FindingRule& cause, const FindingPlace& place,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <array>
 #include <concepts>
 #include <cstddef>
@@ -67,6 +68,7 @@ struct Finding {
   std::string effect;
   std::string when_converted;
   std::string in_scene;
+  bool is_behind = false;  // the frames that the header announces, so that it does not come out
 };
 
 // Counts all findings and keeps the first ones of every rule, so that a file with an oddity in
@@ -80,14 +82,20 @@ class FindingList {
   // finding is kept: a file may have one in every cell, and most of them are only counted.
   template <typename Place, std::invocable MakeWords>
   void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
-    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, make_words());
+    const FindingPlace at{place.line, place.column};
+    if (CountAndAskForMore(rule, at)) Keep(rule, at, make_words());
   }
 
   // The same where the words are at hand, or made but a few times in a file.
   template <typename Place>
   void Add(const FindingRule& rule, const Place& place, FindingWords&& words) {
-    if (CountAndAskForMore(rule)) Keep(rule, {place.line, place.column}, std::move(words));
+    const FindingPlace at{place.line, place.column};
+    if (CountAndAskForMore(rule, at)) Keep(rule, at, std::move(words));
   }
+
+  // From now on, what is found on line `line` or a later one is behind the frames that the header
+  // announces; 0 for no line.
+  void SetFirstLineBehind(std::size_t line) { first_line_behind_ = line; }
 
   // Puts the cause of all findings in their place.
   void ReplaceAll(const FindingRule& cause, const FindingPlace& place, FindingWords words);
@@ -98,8 +106,11 @@ class FindingList {
   struct Total {
     FindingSeverity severity;
     std::size_t count = 0;
+    std::size_t behind = 0;  // how many of them are behind the announced frames
+    // So many are kept of those, and of the others.
     [[nodiscard]] std::size_t LeftOut() const {
-      return count > kMostKeptOfARule ? count - kMostKeptOfARule : 0;
+      return count - std::min(count - behind, kMostKeptOfARule) -
+             std::min(behind, kMostKeptOfARule);
     }
   };
   // By code.
@@ -110,9 +121,13 @@ class FindingList {
 
  private:
   // Counts a finding. Returns whether it is to be kept.
-  [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule);
+  [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule, const FindingPlace& place);
+  [[nodiscard]] bool IsBehind(const FindingPlace& place) const {
+    return first_line_behind_ != 0 && place.line >= first_line_behind_;
+  }
   void Keep(const FindingRule& rule, const FindingPlace& place, FindingWords words);
 
+  std::size_t first_line_behind_ = 0;
   std::vector<Finding> kept_;
   std::map<std::string_view, Total> totals_;
 };

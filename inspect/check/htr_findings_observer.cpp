@@ -51,6 +51,7 @@ std::string_view SectionLikelyMeant(std::string_view name) {
 }  // namespace
 
 void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::string_view field) {
+  findings_.SetFirstLineBehind(IsBehindFrames(oddity) ? cell.line : 0);
   if (IsToldOfItsLine(oddity, cell, field)) return;
   Remember(oddity, cell);
   switch (oddity) {
@@ -100,6 +101,23 @@ void HtrFindingsObserver::Remember(HtrOddity oddity, const HtrCell& cell) {
     default:
       break;
   }
+}
+
+bool HtrFindingsObserver::IsBehindFrames(HtrOddity oddity) const {
+  switch (oddity) {
+    case HtrOddity::kMissingNumber:
+    case HtrOddity::kUnreadableNumber:
+    case HtrOddity::kNumberOutOfBounds:
+    case HtrOddity::kCutNumber:
+    case HtrOddity::kExtraCells:
+      return IsBehindFrames();
+    default:
+      return false;
+  }
+}
+
+bool HtrFindingsObserver::IsBehindFrames() const {
+  return segment_ != nullptr && announced_frames_ > 0 && segment_->frames > announced_frames_;
 }
 
 bool HtrFindingsObserver::IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell,
@@ -185,6 +203,9 @@ void HtrFindingsObserver::CheckHeaderPlace(const HtrCell& name) {
 
 void HtrFindingsObserver::EnterMotion(const HtrCell& name) {
   next_frame_number_ = start_frame_;
+  const auto& announced = parts_.Value("NumFrames");
+  announced_frames_ =
+      announced ? static_cast<std::size_t>(std::max(ParseInt(announced->text), 0)) : 0;
   segment_ = parts_.Find(name.text);
   if (segment_ == nullptr) return;
   if (!parts_.motion) parts_.motion = name;
@@ -208,6 +229,7 @@ void HtrFindingsObserver::LeaveSection() {
   skipped_section_.reset();
   skipped_lines_ = 0;
   segment_ = nullptr;
+  findings_.SetFirstLineBehind(0);
 }
 
 void HtrFindingsObserver::AddSkippedSection(const HtrCell& name) {
@@ -296,6 +318,7 @@ void HtrFindingsObserver::OnBasePosition(const HtrCell& name) {
 void HtrFindingsObserver::OnFrame(const HtrCell& number) {
   assert(segment_ != nullptr);
   ++segment_->frames;
+  findings_.SetFirstLineBehind(IsBehindFrames() ? number.line : 0);
   const char* const end = number.text.data() + number.text.size();
   const bool is_number =
       IsPlainDecimal(number.text) || ReadDouble(number.text.data(), end).end == end;

@@ -38,6 +38,9 @@ class HtrFindingsObserver final : public HtrReadObserver {
   [[nodiscard]] bool WasStopped() const { return was_stopped_; }
 
  private:
+  // Whether the current frame is behind those that the header announces, and what is odd is in it.
+  [[nodiscard]] bool IsBehindFrames() const;
+  [[nodiscard]] bool IsBehindFrames(HtrOddity oddity) const;
   // Whether the oddity is told of, now or before, as one of the cells of its line.
   void Remember(HtrOddity oddity, const HtrCell& cell);
   [[nodiscard]] bool IsToldOfItsLine(HtrOddity oddity, const HtrCell& cell, std::string_view field);
@@ -63,6 +66,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
   std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
   std::size_t skipped_lines_ = 0;
   SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion
+  std::size_t announced_frames_ = 0;
   std::optional<std::int64_t> next_frame_number_;
   std::optional<std::int64_t> start_frame_;
   DecimalCommas commas_;

@@ -222,7 +222,7 @@ void Structure::CheckFrames(const SegmentLines& segment, std::int64_t expected) 
                 {CountOf(segment.frames, "frame"), number + ", as NumFrames says",
                  segment.frames < announced
                      ? "In the missing frames the segment goes to its parent's origin, unturned."
-                     : "Only " + number + " are imported."});
+                     : "Only " + number + (announced == 1 ? " is imported." : " are imported.")});
 }
 
 void Structure::CheckLinks() {

@@ -143,18 +143,19 @@ class WholeFile {
   }
 
   static std::string FirstFrames(std::int64_t announced, std::int64_t held) {
-    return "Only the first " + FormatInt(announced) + " of " +
-           CountOf(static_cast<std::size_t>(held), "frame");
+    const std::string all = CountOf(static_cast<std::size_t>(held), "frame");
+    if (announced == 1) return "Only the first of " + all + " is";
+    return "Only the first " + FormatInt(announced) + " of " + all + " are";
   }
 
   static std::string EffectOfCount(std::int64_t announced, std::int64_t held) {
-    if (announced <= held) return FirstFrames(announced, held) + " are imported.";
+    if (announced <= held) return FirstFrames(announced, held) + " imported.";
     const std::string held_frames = held == 1 ? "frame" : FormatInt(held) + " frames";
     return "Behind the first " + held_frames + " every marker goes to the origin.";
   }
 
   static std::string ConvertedCount(std::int64_t announced, std::int64_t held) {
-    if (announced <= held) return FirstFrames(announced, held) + " are written.";
+    if (announced <= held) return FirstFrames(announced, held) + " written.";
     return "DROPOUT is written for " +
            CountOf(static_cast<std::size_t>(announced - held), "missing frame") + ".";
   }
@@ -165,16 +166,21 @@ class WholeFile {
     if (gaps.empty() || IsTheFrameOfTabs(gaps)) return;
     if (marker.Positions().empty()) {
       return findings_.Add(trc::Rule("trc-marker-never-seen"), name,
-                           {"no position of " + Quote(marker.Name()), "one in every frame",
+                           {WithoutPosition(marker), "one in every frame",
                             "The import makes an object that stays at the origin."});
     }
     const auto longest =
         std::max_element(gaps.begin(), gaps.end(), [](const auto& left, const auto& right) {
           return left.end - left.begin < right.end - right.begin;
         });
-    findings_.Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(longest->begin),
-                  {DescribeGaps(marker, gaps, longest->end - longest->begin), "one in every frame",
+    findings_.Add(trc::Rule("trc-marker-gaps"), parts_.PlaceOfFrame(gaps.front().begin),
+                  {DescribeGaps(marker, gaps, *longest), "one in every frame",
                    "The import sets those frames to the origin; a converted file has dropouts."});
+  }
+
+  static std::string WithoutPosition(const TRCMarker& marker) {
+    if (marker.Name().empty()) return "a marker without a name has no position";
+    return "no position of " + Quote(marker.Name());
   }
 
   using Gaps = std::vector<TRCMarker::Gap>;
@@ -191,14 +197,15 @@ class WholeFile {
     return layout_.frame_of_tabs && gaps.size() == 1 && gaps[0].begin == 0 && gaps[0].end == 1;
   }
 
-  static std::string DescribeGaps(const TRCMarker& marker, const Gaps& gaps, std::size_t longest) {
+  std::string DescribeGaps(const TRCMarker& marker, const Gaps& gaps,
+                           const TRCMarker::Gap& longest) const {
     std::size_t missing = 0;
     for (const TRCMarker::Gap& gap : gaps) missing += gap.end - gap.begin;
-    std::string text =
-        "no position of " + Quote(marker.Name()) + " in " + CountOf(missing, "frame");
+    std::string text = WithoutPosition(marker) + " in " + CountOf(missing, "frame");
     if (gaps.size() == 1) return text + " from here on";
     return text + ": " + CountOf(gaps.size(), "gap") + ", the longest of " +
-           CountOf(longest, "frame") + " from here on";
+           CountOf(longest.end - longest.begin, "frame") + " from line " +
+           FormatInt(static_cast<std::int64_t>(parts_.PlaceOfFrame(longest.begin).line)) + " on";
   }
 
   const TRCDocument& document_;

@@ -214,6 +214,9 @@ void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
   parts_.AddFrame(place);
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
   if (frames_++ == 0) parts_.first_number = cell;
+  if (static_cast<std::int64_t>(frames_) == document_.NumFrames()) {
+    findings_.SetFirstLineBehind(place.line + 1);
+  }
   parts_.last_number = cell;
 }
 

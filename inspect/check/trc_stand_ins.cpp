@@ -28,6 +28,10 @@ bool SeemsToStandIn(const PositionExtremes& extremes) {
          extremes.next_farthest > 0.0 && FitsSinglePrecision(extremes.farthest);
 }
 
+std::string Named(const TRCMarker& marker) {
+  return marker.Name().empty() ? "a marker without a name" : Quote(marker.Name());
+}
+
 std::string InSamples(std::size_t samples) { return CountOf(samples, "sample"); }
 
 }  // namespace
@@ -91,8 +95,7 @@ void StandIns::AddZeros(FindingList& findings, const TrcParts& parts) const {
     const std::size_t frame = FrameOfPosition(marker, extremes_[index].first_zero);
     findings.Add(Rule("trc-position-zero"), parts.PlaceOfFrame(frame), [&] {
       return FindingWords{
-          Quote(marker.Name()) + " at 0 0 0 in " + CountOf(extremes_[index].zeros, "frame"),
-          kEmptyCells,
+          Named(marker) + " at 0 0 0 in " + CountOf(extremes_[index].zeros, "frame"), kEmptyCells,
           "It is taken for a position, and no gap is seen: " + InSamples(samples) + " in all."};
     });
   }
@@ -109,7 +112,7 @@ void StandIns::AddFar(FindingList& findings, const TrcParts& parts) const {
     const TRCMarker& marker = *document_.MarkerAt(index);
     const std::size_t frame = FrameOfPosition(marker, found.first_farthest);
     findings.Add(Rule("trc-position-stand-in"), parts.PlaceOfFrame(frame), [&] {
-      return FindingWords{Quote(marker.Name()) + " at " + FormatShortest(found.farthest) + " in " +
+      return FindingWords{Named(marker) + " at " + FormatShortest(found.farthest) + " in " +
                               CountOf(found.times_at_farthest, "frame"),
                           kEmptyCells,
                           FormatShortest(found.farthest) +

@@ -35,10 +35,10 @@ FrameCounts CountFramesWith(const HtrDocument& document, const FramesOf& frames_
   std::size_t most = 0;
   for (const HtrSegment& segment : document.segments()) {
     const std::size_t frames = frames_of(segment);
-    fewest = std::min(fewest, frames);
+    if (frames > 0) fewest = std::min(fewest, frames);
     most = std::max(most, frames);
   }
-  return {document.GetNumFrames(), static_cast<std::int64_t>(fewest),
+  return {document.GetNumFrames(), static_cast<std::int64_t>(std::min(fewest, most)),
           static_cast<std::int64_t>(most)};
 }
 

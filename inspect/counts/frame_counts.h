@@ -15,7 +15,7 @@ namespace orvane {
 
 struct FrameCounts {
   std::int64_t announced = 0;
-  std::int64_t fewest_held = 0;  // by a segment
+  std::int64_t fewest_held = 0;  // by a segment that has any
   std::int64_t most_held = 0;
 };
 

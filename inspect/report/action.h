@@ -38,6 +38,11 @@ constexpr std::optional<Action> ActionOf(std::string_view name) {
   return std::nullopt;
 }
 
+// Whether frames come out of it as the header announces them, and none that stand behind.
+constexpr bool TakesAnnouncedFrames(Action action) {
+  return action == Action::kImport || action == Action::kApply || action == Action::kConvert;
+}
+
 // What reports call the file that is exported from.
 inline constexpr std::string_view kSceneKind = "scene";
 

@@ -95,6 +95,9 @@ struct FindingMeaning {
   const char* many;  // null for a code that one file has once at most
   FindingEffects effects;
   Concern concern = Concern::kFile;
+  // What the check has written for each finding is told, as long as it is no more than so many
+  // different sentences: the consequence above is for more.
+  std::size_t most_told = 0;
   const GapEffects* by_gaps = nullptr;  // in the place of the effects, where that is said
 };
 

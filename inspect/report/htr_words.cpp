@@ -79,7 +79,8 @@ constexpr FindingMeaning kWords[] = {
      "{count} keywords are missing from the header",
      InMotion(kWarning,
               "0 is taken for NumSegments and NumFrames, 60 for the rate, and millimeters and "
-              "degrees for units.")},
+              "degrees for units."),
+     Concern::kFile, 5},
     {"htr-keyword-left-out", "The header has {found}",
      "{count} keywords are left out of the header",
      InMotion(kNote, "Such a keyword is not needed.")},
@@ -114,7 +115,7 @@ constexpr FindingMeaning kWords[] = {
     {"htr-number-missing", "A number is missing", "{count} numbers are missing",
      InMotion(kWarning)},
     {"htr-number-unreadable", "A value is not a number", "{count} values are not numbers",
-     InMotion(kWarning, "What it starts with is taken, or 0.")},
+     InMotion(kWarning, "What it starts with is taken, or 0."), Concern::kFile, 3},
     {"htr-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
      InMotion(kWarning, "The fraction is cut off.")},
     {"htr-number-out-of-range", "A number is out of range", "{count} numbers are out of range",

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 #include <map>
+#include <optional>
 #include <tuple>
 
 #include "formats/text/numbers.h"
@@ -36,8 +37,9 @@ std::string_view NameIn(std::string_view found) {
                                        : found.substr(begin + 1, end - begin - 1);
 }
 
-void AddName(std::string_view name, std::vector<std::string>& names) {
-  if (name.empty() || names.size() == FileReport::kMostNames) return;
+void AddName(std::string_view name, std::vector<std::string>& names,
+             std::size_t most = FileReport::kMostNames) {
+  if (name.empty() || names.size() == most) return;
   if (std::find(names.begin(), names.end(), name) == names.end()) names.emplace_back(name);
 }
 
@@ -113,6 +115,92 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   return words.effects[action];
 }
 
+// What is told of nothing but lines behind the announced frames.
+FindingEffect WhenBehind(const FindingEffect& effect) {
+  if (effect.severity != FindingSeverity::kWarning) return effect;
+  return {FindingSeverity::kNote,
+          "It stands behind the frames that the header announces, and does not come out."};
+}
+
+// The findings of a code that an action is told of.
+struct CodeFindings {
+  const FindingMeaning* words;
+  std::vector<const Finding*> kept;  // not empty
+  std::size_t count = 0;
+  bool comes_out = true;  // what they are about, at least in part
+};
+
+// Nothing when others of its code come out, and it does not.
+std::optional<CodeFindings> StartWith(const Finding& finding, const FindingMeaning& words,
+                                      const FindingList& findings, Action action) {
+  const FindingList::Total& total = findings.Totals().at(finding.rule.code);
+  if (!TakesAnnouncedFrames(action)) return CodeFindings{&words, {}, total.count, true};
+  if (total.behind == total.count) return CodeFindings{&words, {}, total.count, false};
+  if (finding.is_behind) return std::nullopt;
+  return CodeFindings{&words, {}, total.count - total.behind, true};
+}
+
+// In the order of the first of each code.
+std::vector<CodeFindings> GroupByCode(const std::vector<Finding>& sorted,
+                                      const FindingList& findings, Action action) {
+  std::vector<CodeFindings> groups;
+  std::map<std::string_view, std::size_t> places;  // in `groups`, by code
+  for (const Finding& finding : sorted) {
+    const FindingMeaning* const words = FindMeaning(finding.rule.code);
+    if (words == nullptr || !words->effects[action].severity) continue;
+    auto group = StartWith(finding, *words, findings, action);
+    if (!group) continue;
+    const auto [place, is_new] = places.emplace(finding.rule.code, groups.size());
+    if (is_new) groups.push_back(std::move(*group));
+    groups[place->second].kept.push_back(&finding);
+  }
+  return groups;
+}
+
+// What becomes of them, each once. What the check has written is told where a row of the words
+// asks for it, and it is not too much.
+std::vector<std::string> ConsequencesOf(const CodeFindings& group, const FindingEffect& effect,
+                                        Action action) {
+  const bool is_usual = effect.consequence == group.words->effects[action].consequence;
+  if (is_usual && group.words->most_told > 0 && group.kept.size() == group.count) {
+    std::vector<std::string> each;
+    for (const Finding* const finding : group.kept) {
+      AddName(finding->effect, each, group.words->most_told + 1);
+    }
+    if (each.size() <= group.words->most_told) return each;
+  }
+  std::vector<std::string> told;
+  for (const Finding* const finding : group.kept) {
+    AddName(ConsequenceOf(effect, *finding, action), told);
+  }
+  return told;
+}
+
+std::vector<std::string> NamesIn(const CodeFindings& group) {
+  std::vector<std::string> names;
+  if (TellsWhatIsFound(*group.words, group.count)) return names;
+  for (const Finding* const finding : group.kept) {
+    const std::string_view name = NameIn(finding->found);
+    const bool may_be_word = name.empty() && group.words->many != nullptr;
+    AddName(may_be_word ? WordIn(finding->found) : name, names);
+  }
+  return names;
+}
+
+ReportedFinding Reported(const CodeFindings& group, Action action, const ActionOptions& options) {
+  const FindingEffect asked = EffectOn(*group.words, action, options);
+  const FindingEffect effect = group.comes_out ? asked : WhenBehind(asked);
+  const Finding& first = *group.kept.front();
+  return {group.words->code,
+          *effect.severity,
+          group.count,
+          first.line,
+          first.column,
+          NamesIn(group),
+          CauseOf(*group.words, first, group.count),
+          Joined(ConsequencesOf(group, effect, action), group.words->concern, options.frames)};
+}
+
 bool ComesBefore(const ReportedFinding& left, const ReportedFinding& right) {
   if (left.severity != right.severity) return left.severity > right.severity;
   return std::tie(left.line, left.column) < std::tie(right.line, right.column);
@@ -142,33 +230,9 @@ FileReport FileReport::Without(std::string_view code) const {
 
 FileReport ReportOn(const CheckedFile& checked, Action action, const ActionOptions& options) {
   FileReport report{checked.file, checked.kind, action, {}};
-  std::map<std::string_view, std::size_t> places;  // in report.findings, by code
-  std::vector<std::vector<std::string>> effects;   // of each of them
-  for (const Finding& finding : checked.findings.Sorted()) {
-    const FindingMeaning* const words = FindMeaning(finding.rule.code);
-    if (words == nullptr || !words->effects[action].severity) continue;
-    const FindingEffect effect = EffectOn(*words, action, options);
-    const auto [place, is_new] = places.emplace(finding.rule.code, report.findings.size());
-    if (is_new) {
-      const std::size_t count = checked.findings.Totals().at(finding.rule.code).count;
-      report.findings.push_back({finding.rule.code,
-                                 *effect.severity,
-                                 count,
-                                 finding.line,
-                                 finding.column,
-                                 {},
-                                 CauseOf(*words, finding, count),
-                                 ""});
-      effects.emplace_back();
-    }
-    ReportedFinding& reported = report.findings[place->second];
-    std::vector<std::string>& told = effects[place->second];
-    AddName(ConsequenceOf(effect, finding, action), told);
-    reported.consequence = Joined(told, words->concern, options.frames);
-    if (TellsWhatIsFound(*words, reported.count)) continue;
-    const std::string_view name = NameIn(finding.found);
-    const bool may_be_word = name.empty() && words->many != nullptr;
-    AddName(may_be_word ? WordIn(finding.found) : name, reported.names);
+  const std::vector<Finding> sorted = checked.findings.Sorted();
+  for (const CodeFindings& group : GroupByCode(sorted, checked.findings, action)) {
+    report.findings.push_back(Reported(group, action, options));
   }
   std::stable_sort(report.findings.begin(), report.findings.end(), ComesBefore);
   return report;

@@ -143,7 +143,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-number-missing", "A value is missing", "{count} values are missing",
      InMarkers(kWarning, "0 is taken; a gap has nothing at all for X, not even a blank.")},
     {"trc-number-unreadable", "A value is not a number", "{count} values are not numbers",
-     InMarkers(kWarning, "What it starts with is taken, or 0.")},
+     InMarkers(kWarning, "What it starts with is taken, or 0."), Concern::kFile, 3},
     {"trc-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
      InMarkers(kWarning, "The fraction is cut off.")},
     {"trc-number-out-of-range", "A number is out of range", "{count} numbers are out of range",
@@ -202,13 +202,13 @@ constexpr FindingMeaning kWords[] = {
      InGaps(kShownGaps)
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT."),
-     Concern::kSamples, &kShownGaps},
+     Concern::kSamples, 0, &kShownGaps},
     {"trc-marker-never-seen", "A marker has no position in any frame",
      "{count} markers have no position in any frame",
      InGaps(kShownWithoutPosition)
          .But(Action::kInspect, kWarning, "Such a column is a marker all the same.")
          .But(Action::kConvert, kNote, "Such a marker is written as DROPOUT throughout."),
-     Concern::kSamples, &kShownWithoutPosition},
+     Concern::kSamples, 0, &kShownWithoutPosition},
     {"trc-position-zero", "A marker stands at exactly 0 0 0 in some of its frames",
      "{count} markers stand at exactly 0 0 0 in some of their frames", InMarkers(kWarning)},
     {"trc-position-stand-in", "A marker jumps far away, to the very same place each time",

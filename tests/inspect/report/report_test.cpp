@@ -55,6 +55,43 @@ TEST(Report, TellsEachCodeOnceWithItsCountAndFirstPlace) {
   EXPECT_EQ(report.Count(FindingSeverity::kError), 0U);
 }
 
+TEST(Report, TellsWhatIsTakenOfAFewValues) {
+  const TrcText few{.markers = {"Head"}, .frames = {{"1x5\t2\t3"}, {"x\t2\t3"}, {"1x\t5\t7"}}};
+  EXPECT_EQ(Find(ReportFor(few, Action::kImport), "trc-number-unreadable").consequence,
+            "1 is taken. 0 is taken.");
+}
+
+TEST(Report, TellsOfTheKeywordsThatAreMissingAlone) {
+  const auto report = ReportOn(
+      CheckHtr("walk.htr", "[Header]\nNumSegments 0\nNumFrames 1\nRotationUnits Degrees\n"),
+      Action::kImport);
+  EXPECT_EQ(Find(report, "htr-keyword-missing").consequence,
+            "60 is taken for the rate. Millimeters are taken.");
+}
+
+TEST(Report, TakesWhatStandsBehindTheAnnouncedFramesAloneAsANote) {
+  TrcText text{.markers = {"Head", "Hand"},
+               .frames = {{"1\t2\t3", "1\t2\t3"}, {"4x\t5\t6", ""}, {"7x\t8\t9", ""}},
+               .frame_count = 1};
+  for (const Action action : {Action::kImport, Action::kApply, Action::kConvert}) {
+    const FileReport report = ReportFor(text, action);
+    for (const char* const code : {"trc-number-unreadable", "trc-marker-gaps"}) {
+      EXPECT_EQ(Find(report, code).severity, FindingSeverity::kNote) << code;
+    }
+    EXPECT_EQ(Find(report, "trc-number-unreadable").count, 2U);
+    EXPECT_EQ(Find(report, "trc-number-unreadable").consequence,
+              "It stands behind the frames that the header announces, and does not come out.");
+    EXPECT_EQ(Find(report, "trc-frame-count").severity, FindingSeverity::kWarning);
+  }
+  EXPECT_EQ(Find(ReportFor(text, Action::kInspect), "trc-number-unreadable").severity,
+            FindingSeverity::kWarning);
+  text.frame_count = 2;
+  const ReportedFinding part = Find(ReportFor(text, Action::kImport), "trc-number-unreadable");
+  EXPECT_EQ(part.severity, FindingSeverity::kWarning);
+  EXPECT_EQ(part.count, 1U);
+  EXPECT_THAT(part.names, ElementsAre("4x"));
+}
+
 TEST(Report, NamesUpToThreeValuesOnce) {
   EXPECT_THAT(Find(ReportFor(kUnreadable, Action::kImport), "trc-number-unreadable").names,
               ElementsAre("1x5", "2x5", "4x5"));
