@@ -134,12 +134,17 @@ void TrcFindingsObserver::AddUnknownUnit(TRCPlace place, std::string_view unit) 
                 {Quote(unit), "no blanks beside the unit", "Millimeters are taken, as it says."});
 }
 
-void TrcFindingsObserver::Finish() { commas_.AddTo(findings_, Rule("trc-decimal-commas")); }
+void TrcFindingsObserver::Finish() {
+  commas_.AddTo(findings_, Rule("trc-decimal-commas"));
+  const bool are_numbers_odd = findings_.Totals().count("trc-frame-number") > 0;
+  if (!are_numbers_odd && !parts_.misfit) times_.AddTo(findings_);
+}
 
 void TrcFindingsObserver::OnHeaderValue(TRCHeaderValue value, TRCPlace place,
                                         std::string_view text) {
   if (value == TRCHeaderValue::kPathType) CheckFileType(place);
   parts_.values[static_cast<std::size_t>(value)] = place;
+  if (value == TRCHeaderValue::kDataRate) times_.SetRate(ParseDouble(text));
   if (value == TRCHeaderValue::kDataRate) CheckRate(place, text);
   if (value == TRCHeaderValue::kCameraRate) CheckCameraRate(place, text);
 }
@@ -212,6 +217,10 @@ void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
     parts_.misfit = FieldsThatMisfit(widths_, parts_.named_fields);
   }
   parts_.AddFrame(place);
+  const auto end = static_cast<std::size_t>(number.data() + number.size() - parts_.bytes.data());
+  if (end < parts_.bytes.size() && parts_.bytes[end] == '\t') {
+    times_.Take(parts_.bytes.substr(end + 1), frames_, {place.line, place.column});
+  }
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
   if (frames_++ == 0) parts_.first_number = cell;
   if (static_cast<std::int64_t>(frames_) == document_.NumFrames()) {

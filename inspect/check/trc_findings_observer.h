@@ -10,6 +10,7 @@
 #include "inspect/check/findings.h"
 #include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
+#include "inspect/check/trc_times.h"
 #include "inspect/check/trc_widths.h"
 
 // Watches the reader of TRC files: turns what it meets into findings, and keeps where the parts of
@@ -68,6 +69,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
   std::unordered_map<std::string_view, std::size_t> columns_;  // of markers, by name
   std::size_t frames_ = 0;
   DecimalCommas commas_;
+  TimeColumn times_;
 };
 
 }  // namespace orvane::trc

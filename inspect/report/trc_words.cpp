@@ -184,6 +184,12 @@ constexpr FindingMeaning kWords[] = {
     {"trc-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
      InMarkers(kWarning, "Frames follow each other as their lines do.")},
+    {"trc-time-differs", "The time column says {found} where the frame rate gives {expected}",
+     nullptr,
+     InMarkers(kWarning, "The column is not read: frames follow each other at the frame rate.")
+         .But(Action::kInspect, kNote,
+              "The column is not read: frames follow each other at the frame rate."),
+     Concern::kRate},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kWarning).But(Action::kInspect, kWarning, "The frames that are there are shown."),
      Concern::kFrames},

@@ -68,6 +68,12 @@ std::string AtFrames(std::size_t frames, const std::string& sample) {
   return text.Text();
 }
 
+std::string WithTimes(const std::vector<std::string>& times) {
+  std::string bytes = Capture().Text();
+  for (const std::string& time : times) bytes = Replaced(bytes, "0.000", time);
+  return bytes;
+}
+
 // The time is gone in every frame, and `end` stands behind the last value of it.
 std::string WithoutTime(const std::string& end = "") {
   TrcText text = Capture();
@@ -336,6 +342,10 @@ const std::vector<CheckRow> kRows = {
      Damaged("3\t0.000", "5\t0.000"),
      {"9:1 warning trc-frame-number", "\"5\"", "the number behind that of the frame before",
       "The number is ignored: frames follow each other as their lines do."}},
+    {"TimesOfAnotherRate",
+     WithTimes({"0.00", "0.10", "0.20"}),
+     {"8:1 note trc-time-differs", "0.100 s", "0.017 s, as the frame rate gives",
+      "The time column is not read: frames follow each other at the frame rate."}},
     {"MoreAnnounced",
      Damaged("60\t3\t2", "60\t4\t2"),
      {"3:7 warning trc-frame-count", "4, as NumFrames says", "3, as many as there are",
@@ -510,6 +520,13 @@ TEST(TrcCheck, TakesPositionsThatMayBeMeasuredForNothingElse) {
   TrcText still = Capture();
   still.frames.assign(5, {"0\t0\t0", "4\t5\t6"});
   EXPECT_THAT(ToldOf(still.Text()), testing::IsEmpty()) << "never elsewhere";
+}
+
+TEST(TrcCheck, FindsNothingInTimesThatSayNoOtherRate) {
+  for (const std::vector<std::string>& times :
+       {std::vector<std::string>{"5.02", "5.03", "5.05"}, {"7", "7", "7"}, {"", "x", ""}}) {
+    EXPECT_THAT(ToldOf(WithTimes(times)), testing::IsEmpty()) << times.front();
+  }
 }
 
 TEST(TrcCheck, TellsOfEachDamage) { test::ExpectTold(kRows, ToldOf); }
