@@ -120,6 +120,8 @@ DAMAGES = [
     ("c3d", "trc-other-kind", damages.of_bytes(lambda text: b"\x02\x50" + bytes(510))),
     ("empty-file", "trc-empty", damages.empty),
     ("utf-16", "trc-encoding", damages.encode("utf-16")),
+    ("quoted", "trc-cells-quoted",
+     change_all(lambda line: b"\t".join(b'"' + cell + b'"' for cell in line.split(b"\t")))),
     ("returns-alone", "trc-line-ends", damages.end_lines_with_returns),
     # Lines
     ("byte-order-mark", "trc-byte-order-mark",

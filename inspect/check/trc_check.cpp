@@ -225,9 +225,15 @@ void NameWhatItIs(std::string_view bytes, FindingList& findings) {
     return NameKindAlone(*kind, trc::Rule("trc-other-kind"), "a TRC file", WordsFor(*kind).advice,
                          findings);
   }
+  const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
+  if (bytes.starts_with('"') && is_refused) {
+    return findings.ReplaceAll(
+        trc::Rule("trc-cells-quoted"), {1, 1},
+        {"cells in quotation marks", "cells without them",
+         "The import refuses the file; what else is odd about it is not told."});
+  }
   const auto flaw = FindTextFlaw(bytes);
   if (!flaw) return;
-  const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
   const std::string effect =
       is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
   NameFlawAlone(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],

@@ -15,6 +15,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-other-kind", FindingSeverity::kError},
     {"trc-empty", FindingSeverity::kError},
     {"trc-encoding", FindingSeverity::kError},
+    {"trc-cells-quoted", FindingSeverity::kError},
     {"trc-line-ends", FindingSeverity::kError},
 
     // Lines

@@ -33,6 +33,8 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kError, "Nothing is read; was it saved, or copied, to its end?")},
     {"trc-encoding", "The file is UTF-16 text", nullptr,
      InMarkers(kError, "None of it is read; save it as UTF-8 or ASCII.")},
+    {"trc-cells-quoted", "Cells stand in quotation marks", nullptr,
+     InMarkers(kError, "The file is refused; save it without quotation marks.")},
     {"trc-line-ends", "Lines end with carriage returns alone", nullptr,
      InMarkers(kError, "No line ends there for the reader; save it with LF or CR LF.")
          .But(Action::kConvert, kWarning,

@@ -30,8 +30,8 @@ TEST_F(CheckForTest, TellsWhatAnActionMakesOfAFile) {
   EXPECT_THAT(imported.error, IsEmpty());
   EXPECT_EQ(
       imported.output,
-      "gaps.trc: warning: A value is not a number: \"1x5\" (line 8, column 9). What it starts "
-      "with is taken, or 0. [trc-number-unreadable]\n"
+      "gaps.trc: warning: A value is not a number: \"1x5\" (line 8, column 9). 1 is "
+      "taken. [trc-number-unreadable]\n"
       "gaps.trc: note: A marker has gaps: \"Hand\" (line 7, column 1). Viewers do not see such a "
       "marker in its gaps; in the host its keys go to the origin. [trc-marker-gaps]\n"
       "gaps.trc: 1 warning, 1 note for import\n");

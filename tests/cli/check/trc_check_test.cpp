@@ -194,7 +194,7 @@ TEST_F(TrcCheckTest, TellsWhatTheImportMakesOfIt) {
       "[trc-marker-count]\n"
       "  The import takes the markers that are there.\n"
       "walk.trc:7:1: note: found no position of \"LFHD\" in 2 frames: 2 gaps, the longest of "
-      "1 frame from here on, expected one in every frame [trc-marker-gaps]\n"
+      "1 frame from line 7 on, expected one in every frame [trc-marker-gaps]\n"
       "  The import sets those frames to the origin; a converted file has dropouts.\n"
       "walk.trc:9:12: warning: found \"4,5\" in 1 cell, expected a point in numbers, no comma "
       "[trc-decimal-commas]\n"

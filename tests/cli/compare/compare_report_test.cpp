@@ -29,8 +29,8 @@ class CompareReportTest : public test::OrvaneTest {
 };
 
 constexpr char kLetter[] =
-    "orvane: b.htr: warning: A value is not a number: \"1O\" (line 22, column 3). What it starts "
-    "with is taken, or 0. [htr-number-unreadable]\n";
+    "orvane: b.htr: warning: A value is not a number: \"1O\" (line 22, column 3). 1 is taken. "
+    "[htr-number-unreadable]\n";
 
 TEST_F(CompareReportTest, TellsOfEachFileBesideTheComparison) {
   ProgramResult result = Compare({"a.htr", "b.htr"});

@@ -29,7 +29,7 @@ std::string CleanTake() {
 }
 
 constexpr char kComma[] =
-    "A value is not a number: \"1x5\" (line 7, column 9). What it starts with is taken, or 0. "
+    "A value is not a number: \"1x5\" (line 7, column 9). 1 is taken. "
     "[trc-number-unreadable]\n";
 constexpr char kGap[] =
     "A marker has gaps: \"Toe\" (line 8, column 1). A gap is written as DROPOUT. "
@@ -292,12 +292,11 @@ TEST_F(ConvertReportTest, JsonHasTheFindingsOfEachFile) {
   const json report = JsonOf({"walk.trc"});
   EXPECT_EQ(report["version"], 2);
   EXPECT_TRUE(report["mapping"].is_null());
-  EXPECT_EQ(report["files"][0]["warnings"],
-            json::array({"A value is not a number. What it starts with is taken, or 0."}));
+  EXPECT_EQ(report["files"][0]["warnings"], json::array({"A value is not a number. 1 is taken."}));
   EXPECT_EQ(report["files"][0]["findings"][0], json::parse(R"({
     "code": "trc-number-unreadable", "severity": "warning", "count": 1, "line": 7, "column": 9,
     "names": ["1x5"], "cause": "A value is not a number",
-    "consequence": "What it starts with is taken, or 0."})"));
+    "consequence": "1 is taken."})"));
   EXPECT_EQ(report["files"][0]["findings"][1]["code"], "trc-marker-gaps");
   EXPECT_EQ(JsonOf({"walk.trc", "--dry-run", "--force"})["files"][0]["findings"],
             report["files"][0]["findings"]);

@@ -163,7 +163,7 @@ TEST_F(ImportTrcTest, BlankLinesForManyMarkersAreRefused) {
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(
       result.error,
-      HasSubstr("orvane: walk.trc: warning: 90001 lines are blank where frames belong (line 6"));
+      HasSubstr("orvane: walk.trc: warning: 89999 lines are blank where frames belong (line 6"));
   EXPECT_THAT(
       result.error,
       EndsWith("\norvane: walk.trc: The file is far too short for 90000 frames of 1000 markers\n"
@@ -276,8 +276,8 @@ INSTANTIATE_TEST_SUITE_P(
             "warning: A value is missing (line 3, column 14). 0 is taken; a gap has nothing at all "
             "for X, not even a blank. [trc-number-missing]"},
         Oddity{"NoNumber", "2000", "NaN",
-               "warning: A value is not a number: \"NaN\" (line 7, column 14). What it starts with "
-               "is taken, or 0. [trc-number-unreadable]"},
+               "warning: A value is not a number: \"NaN\" (line 7, column 14). 0 is taken. "
+               "[trc-number-unreadable]"},
         Oddity{
             "BlankValue", "1000\t2000", " \t2000",
             "warning: A value is missing (line 7, column 9). 0 is taken; a gap has nothing at all "

@@ -143,7 +143,10 @@ TEST_P(SaidFindingsTest, AreThoseOfTheCheckAndTheTable) {
     const std::string error = ErrorOf(file);
     std::set<std::string> codes;
     for (const Said& said : SaidIn(error)) {
-      EXPECT_EQ(severities.at(said.code), said.severity) << file << ": " << said.code;
+      const bool is_behind_frames = found.count(file) > 0 && found.at(file).count(said.code) > 0 &&
+                                    found.at(file).at(said.code) == "note";
+      EXPECT_EQ(is_behind_frames ? "note" : severities.at(said.code), said.severity)
+          << file << ": " << said.code;
       EXPECT_TRUE(codes.insert(said.code).second) << file << ": " << said.code << " comes again";
     }
     if (found.count(file) == 0) continue;
