@@ -20,6 +20,7 @@ namespace {
 constexpr std::size_t kDataRateField = 1;
 
 std::string WhereFieldsBelong(std::string_view line) {
+  if (line.starts_with('#')) return "PathFileType, and no comment before it";
   if (line.find(',') != std::string_view::npos) return "tabs between fields, not commas";
   if (line.find(';') != std::string_view::npos) return "tabs between fields, not semicolons";
   return "tabs between fields, not blanks";
