@@ -318,7 +318,9 @@ void HtrFindingsObserver::OnBasePosition(const HtrCell& name) {
 void HtrFindingsObserver::OnFrame(const HtrCell& number) {
   assert(segment_ != nullptr);
   ++segment_->frames;
-  findings_.SetFirstLineBehind(IsBehindFrames() ? number.line : 0);
+  if (segment_->frames > announced_frames_) {
+    findings_.SetFirstLineBehind(IsBehindFrames() ? number.line : 0);
+  }
   const char* const end = number.text.data() + number.text.size();
   const bool is_number =
       IsPlainDecimal(number.text) || ReadDouble(number.text.data(), end).end == end;
