@@ -25,9 +25,9 @@ std::string SmallMarkers() {
          "Frame#\tTime\tHead\t\t\tHand\t\t\t\n"
          "\t\tX1\tY1\tZ1\tX2\tY2\tZ2\n\n"
          "1\t0.0\t0\t1500\t0\t0\t0\t0\n"
-         "2\t0.1\t0\t1500\t0\t0\t0\t0\n"
-         "3\t0.2\t0\t1500\t0\t\t\t\n"
-         "4\t0.3\t0\t1500\t0\t0\t0\t0\n";
+         "2\t0.008\t0\t1500\t0\t0\t0\t0\n"
+         "3\t0.017\t0\t1500\t0\t\t\t\n"
+         "4\t0.025\t0\t1500\t0\t0\t0\t0\n";
 }
 
 class InfoManyTest : public test::OrvaneTest {
