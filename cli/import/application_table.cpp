@@ -69,10 +69,13 @@ void PrintTable(const Application& application, std::ostream& out) {
   for (const BoneDifference& each : differences) {
     differing.push_back(scene.nodes[each.pair.node].name + " by " + Describe(each));
   }
-  const Row rows[] = {{"Names matched", std::move(matched)},
-                      {"In the file only", NamesOf(file.items, plan.file_only)},
-                      {"In the scene only", NamesOf(scene.nodes, plan.scene_only)},
-                      {"Bones that differ", std::move(differing)}};
+  std::vector<Row> rows = {{"Names matched", std::move(matched)},
+                           {"In the file only", NamesOf(file.items, plan.file_only)}};
+  if (!plan.not_below_start.empty()) {
+    rows.push_back({"Not below start", NamesOf(file.items, plan.not_below_start)});
+  }
+  rows.push_back({"In the scene only", NamesOf(scene.nodes, plan.scene_only)});
+  rows.push_back({"Bones that differ", std::move(differing)});
   std::size_t width = 0;
   for (const Row& row : rows) width = std::max(width, CountIn(row).size());
   for (const Row& row : rows) PrintRow(out, row, width);
@@ -91,6 +94,7 @@ void WriteTable(JsonWriter& json, const Application& application) {
   }
   json.EndArray();
   WriteNames(json, "file_only", NamesOf(file.items, plan.file_only));
+  WriteNames(json, "not_below_start", NamesOf(file.items, plan.not_below_start));
   WriteNames(json, "scene_only", NamesOf(scene.nodes, plan.scene_only));
   json.Key("bones_that_differ");
   json.BeginArray(Layout::kLines);

@@ -52,7 +52,9 @@ FrameCircumstances CircumstancesOf(const ImportedFrames& frames, const ImportCho
   const std::int64_t held = frames.counts.most_held;
   if (held > 0) how.held = FrameSpan{first, first + held - 1};
   const bool is_taken = IsRangeTaken(frames, choices);
-  const bool is_outside = choices.range && choices.range->Count() > 0 && how.held &&
+  // A range of a motion file does not say which of its frames are taken.
+  const bool is_outside = kind == FileKind::kTrc && choices.range && choices.range->Count() > 0 &&
+                          how.held &&
                           Overlap(*choices.range, {first, first + held - 1}).Count() == 0;
   if (kind == FileKind::kTrc && choices.range && (is_taken || is_outside)) {
     how.asked = FrameSpan{choices.range->first, choices.range->last};

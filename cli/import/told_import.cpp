@@ -47,6 +47,11 @@ bool IsOfOtherKind(const FileReport& report) {
                      [](const auto& finding) { return finding.code.ends_with("-other-kind"); });
 }
 
+bool Has(const FileReport& report, std::string_view code) {
+  return std::any_of(report.findings.begin(), report.findings.end(),
+                     [code](const auto& finding) { return finding.code == code; });
+}
+
 // What is found in the file and the scene together.
 FileReport ReportOnScene(const Inspection& inspection, const ImportOrder& order,
                          const host::Scene& scene, const SceneTime& time,
@@ -105,6 +110,8 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
   if (!manner.report.omitted && !inspection.refusal) {
     of_scene = ReportOnScene(inspection, order, scene, time, told.application);
     of_scene.Take(ReportOnSelection(inspection.checked, order, scene));
+    // What a range asks for is why frames are missed that the header announces.
+    if (Has(of_scene, "apply-range-partly")) told.report = told.report.Without("trc-frame-count");
     told.report.Take(of_scene);
   }
   return told;

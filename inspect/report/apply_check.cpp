@@ -65,6 +65,7 @@ class ApplyCheck {
       }
       AddMissing(file, plan, effect);
     }
+    AddNotBelowStart(file, plan);
     for (const std::size_t node : plan.scene_only) {
       Add(FindRule(apply::kRules, "apply-name-missing-in-file"), Quote(scene.nodes[node].name));
     }
@@ -162,6 +163,21 @@ class ApplyCheck {
     for (const std::size_t item : plan.file_only) {
       Add(FindRule(apply::kRules, "apply-name-missing-in-scene"), Quote(file.items[item].name), "",
           effect);
+    }
+  }
+
+  void AddNotBelowStart(const AppliedFile& file, const ApplyPlan& plan) {
+    if (plan.not_below_start.empty()) return;
+    std::string effect =
+        plan.not_below_start.size() == 1 ? "It moves nothing" : "They move nothing";
+    if (file.root != kNoParent) {
+      effect += "; select the bone of " + Quote(file.items[file.root].name) +
+                " to start at the root of the file";
+    }
+    const std::string start = Quote(file.items[plan.pairs.front().item].name);
+    for (const std::size_t item : plan.not_below_start) {
+      Add(FindRule(apply::kRules, "apply-start-below-root"), Quote(file.items[item].name), start,
+          effect + ".");
     }
   }
 

@@ -45,6 +45,7 @@ class MotionPlan {
       PairChildren(parent, waiting);
     }
     SortByFile();
+    if (first.item != file_.root) FindRest();
     return std::move(plan_);
   }
 
@@ -104,6 +105,12 @@ class MotionPlan {
               [](const ApplyPair& left, const ApplyPair& right) { return left.item < right.item; });
     std::sort(plan_.file_only.begin(), plan_.file_only.end());
     std::sort(plan_.scene_only.begin(), plan_.scene_only.end());
+  }
+
+  void FindRest() {
+    for (std::size_t item = 0; item < seen_.size(); ++item) {
+      if (!seen_[item]) plan_.not_below_start.push_back(item);
+    }
   }
 
   // Segments may be their own ancestors.

@@ -59,8 +59,10 @@ struct ApplyPlan {
   };
 
   Start start = Start::kFound;
-  std::vector<ApplyPair> pairs;         // the first by what is selected, the others by names
-  std::vector<std::size_t> file_only;   // items whose names no node has where it would count
+  std::vector<ApplyPair> pairs;        // the first by what is selected, the others by names
+  std::vector<std::size_t> file_only;  // items whose names no node has where it would count
+  // Of a motion file, where the first pair is not its root: items that do not hang from that.
+  std::vector<std::size_t> not_below_start;
   std::vector<std::size_t> scene_only;  // nodes that could be keyed, of names that the file has not
 };
 

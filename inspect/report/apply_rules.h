@@ -15,6 +15,7 @@ inline constexpr std::array kRules = {
     FindingRule{"apply-nothing-selected", FindingSeverity::kWarning},
     FindingRule{"apply-nothing-matches", FindingSeverity::kWarning},
     FindingRule{"apply-name-missing-in-scene", FindingSeverity::kWarning},
+    FindingRule{"apply-start-below-root", FindingSeverity::kWarning},
     FindingRule{"apply-markers-share-node", FindingSeverity::kWarning},
     FindingRule{"apply-name-missing-in-file", FindingSeverity::kNote},
     FindingRule{"apply-root-name-differs", FindingSeverity::kNote},

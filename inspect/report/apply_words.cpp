@@ -13,9 +13,6 @@ constexpr FindingEffects Imported(FindingSeverity severity, const char* conseque
   return {std::array{Action::kImport, Action::kApply}, {severity, consequence}};
 }
 
-constexpr char kNotPlayed[] =
-    "The motion is neither played nor exported until the range is set to its frames.";
-
 constexpr FindingMeaning kWords[] = {
     {"apply-select-nothing", "The scene has no node of the name that --select gives",
      "The scene has no nodes of the {count} names that --select gives", Applied(kError)},
@@ -28,6 +25,10 @@ constexpr FindingMeaning kWords[] = {
      Applied(kWarning)},
     {"apply-name-missing-in-scene", "A name of the file is not among what it is applied to",
      "{count} names of the file are not among what it is applied to", Applied(kWarning)},
+    {"apply-start-below-root",
+     "A segment of the file is not below {expected}, where the motion starts",
+     "{count} segments of the file are not below {expected}, where the motion starts",
+     Applied(kWarning)},
     {"apply-markers-share-node", "{found} markers key one node, {expected}", nullptr,
      Applied(kWarning)},
     {"apply-name-missing-in-file", "A name of the scene is not in the file",
@@ -50,7 +51,7 @@ constexpr FindingMeaning kWords[] = {
      Imported(kWarning)},
     {"apply-keys-outside-range",
      "Keys come to lie in the frames {found}, and the scene's animation range is then {expected}",
-     nullptr, Applied(kWarning, kNotPlayed).But(Action::kImport, kNote, kNotPlayed)},
+     nullptr, Applied(kWarning).But(Action::kImport, kNote)},
     {"apply-range-shortened", "The scene's animation range was {found}, and is then {expected}",
      nullptr,
      Imported(

@@ -39,6 +39,17 @@ void CheckAsked(const FrameSpan& asked, const FrameSpan& held, FindingList& find
                     ", and --range " + first + ":" + FormatInt(held.last) + " takes all of it."});
 }
 
+std::string NotPlayed(const FrameSpan& keyed, const FrameSpan& range) {
+  const std::int64_t count = keyed.last - keyed.first + 1;
+  const std::int64_t outside = count - CountIn(range, keyed);
+  if (outside == count) {
+    return "The motion is neither played nor exported until the range is set to its frames.";
+  }
+  return FormatInt(outside) + " of these " + FormatInt(count) +
+         (outside == 1 ? " frames is" : " frames are") +
+         " neither played nor exported until the range is set to all of them.";
+}
+
 bool IsReversed(const FrameSpan& range) { return range.last < range.first; }
 
 bool IsIn(const FrameSpan& others, const FrameSpan& frames) {
@@ -53,9 +64,9 @@ CheckedFile CheckFrames(const std::string& name, std::string_view kind,
   if (frames.asked && frames.held) CheckAsked(*frames.asked, *frames.held, checked.findings);
   const FrameSpan& after = frames.range_after;
   if (IsReversed(after)) return checked;
-  if (frames.keyed && CountIn(after, *frames.keyed) == 0) {
+  if (frames.keyed && !IsIn(after, *frames.keyed)) {
     checked.findings.Add(FindRule(apply::kRules, "apply-keys-outside-range"), kNoPlace,
-                         {TextOf(*frames.keyed), TextOf(after), ""});
+                         {TextOf(*frames.keyed), TextOf(after), NotPlayed(*frames.keyed, after)});
   }
   if (frames.played && !IsIn(after, *frames.played)) {
     checked.findings.Add(

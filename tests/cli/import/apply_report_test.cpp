@@ -112,10 +112,47 @@ TEST_F(ApplyMotionReportTest, ARangeThatMovesTheFirstFrameIsAWarning) {
       "[apply-range-moves]\n";
   EXPECT_THAT(Apply(SmallMotion(), {"--range", "2:3"}).error,
               testing::StartsWith("orvane: other.htr" + warning));
-  EXPECT_EQ(Orvane({"import", "walk.htr", "-o", "new.glb", "--range", "2:3"}).error,
-            "orvane: walk.htr" + warning);
+  EXPECT_EQ(
+      Orvane({"import", "walk.htr", "-o", "new.glb", "--range", "2:3"}).error,
+      "orvane: walk.htr" + warning +
+          "orvane: walk.htr: note: Keys come to lie in the frames 2 to 3, and the scene's "
+          "animation range is then 1 to 2. 1 of these 2 frames is neither played nor exported "
+          "until the range is set to all of them. [apply-keys-outside-range]\n");
   EXPECT_THAT(test::CodesIn(Apply(SmallMotion(), {"--range", "1:2"}).error),
               ElementsAre("apply-range-shortened"));
+}
+
+// Whichever of the file's frames a range of a motion file would name.
+TEST_F(ApplyMotionReportTest, ARangeBehindTheFramesThatAreHeldKeysOutsideTheAnimationRange) {
+  Write("walk.htr", Replaced(SmallMotion(), "NumFrames 3", "NumFrames 9"));
+  EXPECT_THAT(Orvane({"import", "walk.htr", "-o", "new.glb", "--range", "7:8"}).error,
+              HasSubstr("orvane: walk.htr: note: Keys come to lie in the frames 7 to 8, and the "
+                        "scene's animation range is then 1 to 2. The motion is neither played nor "
+                        "exported until the range is set to its frames. "
+                        "[apply-keys-outside-range]\n"));
+}
+
+TEST_F(ApplyMotionReportTest, ABoneBelowTheRootLeavesTheRestOfTheFileOutAndIsSaidTo) {
+  Write("other.htr", SmallMotion());
+  const std::vector<std::string> spine = {"import", "other.htr", "--into",  "scene.glb", "--apply",
+                                          "-o",     "more.glb",  "--force", "--select",  "Spine"};
+  const ProgramResult result = Orvane(spine);
+  EXPECT_EQ(result.status, 0);
+  EXPECT_EQ(
+      result.error,
+      "orvane: other.htr: warning: A segment of the file is not below \"Spine\", where the "
+      "motion starts: \"Hips\". It moves nothing; select the bone of \"Hips\" to start at the "
+      "root of the file. [apply-start-below-root]\n");
+  std::vector<std::string> dry = spine;
+  dry.emplace_back("--dry-run");
+  EXPECT_THAT(Orvane(dry).output, HasSubstr("  Names matched      1  Spine\n"
+                                            "  In the file only   0\n"
+                                            "  Not below start    1  Hips\n"
+                                            "  In the scene only  0\n"));
+  std::vector<std::string> as_json = spine;
+  as_json.emplace_back("--json");
+  EXPECT_EQ(nlohmann::json::parse(Orvane(as_json).output)["applied"]["not_below_start"],
+            nlohmann::json({"Hips"}));
 }
 
 TEST_F(ApplyMotionReportTest, WhatThePluginRefusesItTellsAlone) {

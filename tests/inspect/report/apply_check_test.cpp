@@ -76,9 +76,24 @@ ReportedFinding Only(const FileReport& report) {
 
 TEST(ApplyMotion, WhatFitsIsNotMentioned) {
   EXPECT_THAT(ReportOnMotion(Skeleton(), SkeletonScene()).findings, IsEmpty());
+}
+
+TEST(ApplyMotion, ThatStartsBelowTheRootLeavesOutWhatIsNotBelowTheStart) {
   ApplyScene scene = SkeletonScene();
   scene.selected = {2};  // the branch of Spine
-  EXPECT_THAT(ReportOnMotion(Skeleton(), scene).findings, IsEmpty());
+  const ReportedFinding spine = Only(ReportOnMotion(Skeleton(), scene));
+  EXPECT_EQ(spine.code, "apply-start-below-root");
+  EXPECT_EQ(spine.severity, FindingSeverity::kWarning);
+  EXPECT_EQ(spine.cause, "A segment of the file is not below \"Spine\", where the motion starts");
+  EXPECT_THAT(spine.names, ElementsAre("Hips"));
+  EXPECT_EQ(spine.consequence,
+            "It moves nothing; select the bone of \"Hips\" to start at the root of the file.");
+  scene.selected = {3};
+  const ReportedFinding head = Only(ReportOnMotion(Skeleton(), scene));
+  EXPECT_EQ(head.cause, "2 segments of the file are not below \"Head\", where the motion starts");
+  EXPECT_EQ(head.consequence,
+            "They move nothing; select the bone of \"Hips\" to start at the root of the file.");
+  EXPECT_THAT(head.names, ElementsAre("Hips", "Spine"));
 }
 
 TEST(ApplyMotion, PairsEachSegmentWithTheBoneBelowThatOfItsParent) {
@@ -150,7 +165,10 @@ TEST(ApplyMotion, TakesSegmentsThatAreTheirOwnAncestors) {
   ApplyScene scene = SkeletonScene();
   scene.nodes.push_back({"Snake", 0, Bone()});
   scene.selected = {4};
-  EXPECT_THAT(Only(ReportOnMotion(file, scene)).names, ElementsAre("Tail"));
+  const FileReport report = ReportOnMotion(file, scene);
+  ASSERT_THAT(CodesOf(report),
+              ElementsAre("apply-name-missing-in-scene", "apply-start-below-root"));
+  EXPECT_THAT(report.findings[0].names, ElementsAre("Tail"));
 }
 
 TEST(ApplyMotion, AnotherActorsBonesAreANoteWithTheirNumberAndTheLargestDifference) {

@@ -84,9 +84,11 @@ INSTANTIATE_TEST_SUITE_P(
                         [](FrameCircumstances& frames) {
                           frames.keyed = FrameSpan{73, 80};
                         },
-                        {}},
+                        {"Keys come to lie in the frames 73 to 80, and the scene's animation range "
+                         "is then 1 to 73"}},
                     Row{"RangeShortened",
                         [](FrameCircumstances& frames) {
+                          frames.keyed = FrameSpan{1, 72};
                           frames.range_after = {1, 72};
                         },
                         {"The scene's animation range was 1 to 73, and is then 1 to 72"}},
@@ -101,5 +103,26 @@ INSTANTIATE_TEST_SUITE_P(
                         },
                         {}}),
     [](const auto& row) { return row.param.name; });
+
+std::string ConsequenceOfKeys(const FrameSpan& keyed, Action action) {
+  FrameCircumstances frames = Usual();
+  frames.keyed = keyed;
+  return ReportOn(CheckFrames("a.trc", "TRC", frames), action).findings.at(0).consequence;
+}
+
+TEST(FrameCheck, TellsHowManyFramesAreNotPlayed) {
+  for (const Action action : {Action::kImport, Action::kApply}) {
+    EXPECT_EQ(ConsequenceOfKeys({74, 80}, action),
+              "The motion is neither played nor exported until the range is set to its frames.");
+    EXPECT_EQ(
+        ConsequenceOfKeys({0, 72}, action),
+        "1 of these 73 frames is neither played nor exported until the range is set to all of "
+        "them.");
+    EXPECT_EQ(
+        ConsequenceOfKeys({73, 80}, action),
+        "7 of these 8 frames are neither played nor exported until the range is set to all of "
+        "them.");
+  }
+}
 
 }  // namespace
