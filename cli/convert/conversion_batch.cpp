@@ -10,6 +10,7 @@
 #include <system_error>
 #include <utility>
 
+#include "cli/common/cut_frames.h"
 #include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
@@ -18,6 +19,8 @@
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/trc_worth.h"
 #include "formats/text/files.h"
+#include "formats/trc/document.h"
+#include "inspect/report/cut_check.h"
 #include "inspect/summary/bvk_summary.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
@@ -34,7 +37,7 @@ using orvane::SummarizeBvk;
 
 namespace fs = std::filesystem;
 
-constexpr char kTurnedFolder[] = "/turned";
+constexpr char kCopiesFolder[] = "/copies";  // of inputs
 constexpr char kMadeMapping[] = "/mapping.mnm";
 constexpr char kNamesFolder[] = "/names";  // one folder for each output, named like it
 
@@ -139,7 +142,7 @@ class BatchConversion {
 
   // A file that vanishes before the plug-in's dialog has chosen it cannot be chosen.
   void Convert(std::vector<Conversion*> run, const platform::ScratchFolder& scratch) {
-    TurnInputs(run, scratch);
+    CopyInputs(run, scratch);
     if (run.empty()) return;
     try {
       UsePanel(run, scratch);
@@ -150,17 +153,32 @@ class BatchConversion {
     }
   }
 
-  // Makes turned copies of inputs that are to be turned. What cannot be is settled, and no more in
-  // `run`.
-  static void TurnInputs(std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) {
-    std::erase_if(run, [&scratch](Conversion* conversion) {
-      if (!conversion->z_up) return false;
+  // Whether the plug-in is given another file than the user's.
+  bool IsCopied(const Conversion& conversion) const { return conversion.z_up || order_.cut; }
+
+  // The bytes of that file.
+  std::string ChangedBytes(const Conversion& conversion) const {
+    std::string bytes = FileBytes(conversion.input);
+    orvane::TRCDocument document;
+    // What the reader refuses is left to the plug-in, which tells why.
+    if (order_.cut && document.ReadBytes(bytes, false).empty()) {
+      const auto frames = FramesToCut(*order_.cut, FramesHeld(document));
+      if (frames) bytes = CutOut(conversion.input, bytes, document, *frames);
+    }
+    return conversion.z_up ? TurnedUp(conversion.input, bytes) : bytes;
+  }
+
+  // Makes the copies of inputs that are to be changed before. What cannot be is settled, and no
+  // more in `run`.
+  void CopyInputs(std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) const {
+    std::erase_if(run, [this, &scratch](Conversion* conversion) {
+      if (!IsCopied(*conversion)) return false;
       try {
-        const std::string turned = TurnedUp(conversion->input, FileBytes(conversion->input));
+        const std::string changed = ChangedBytes(*conversion);
         const std::string copy = SourceOf(*conversion, scratch);
         std::error_code error;  // is met again by whoever writes into it
         fs::create_directory(platform::PathOf(copy).parent_path(), error);
-        WriteCopy(copy, conversion->input, turned);
+        WriteCopy(copy, conversion->input, changed);
         return false;
       } catch (const Failure& failure) {
         conversion->status = failure.status == ExitStatus::kRefused ? ConversionStatus::kRefused
@@ -171,19 +189,18 @@ class BatchConversion {
     });
   }
 
-  // What the plug-in reads: the input, or its copy that is turned.
-  static std::string SourceOf(const Conversion& conversion,
-                              const platform::ScratchFolder& scratch) {
-    if (!conversion.z_up) return conversion.source;
+  // What the plug-in reads: the input, or the copy of it.
+  std::string SourceOf(const Conversion& conversion, const platform::ScratchFolder& scratch) const {
+    if (!IsCopied(conversion)) return conversion.source;
     const fs::path name = platform::PathOf(conversion.source).filename();
-    return platform::TextOf(platform::PathOf(scratch.Path() + kTurnedFolder) / name);
+    return platform::TextOf(platform::PathOf(scratch.Path() + kCopiesFolder) / name);
   }
 
   // `log` with the user's own file where a copy is named.
-  static std::string WithInput(std::string log, const Conversion& conversion,
-                               const platform::ScratchFolder& scratch) {
+  std::string WithInput(std::string log, const Conversion& conversion,
+                        const platform::ScratchFolder& scratch) const {
     const std::string copy = SourceOf(conversion, scratch);
-    for (std::size_t at = log.find(copy); at != std::string::npos && conversion.z_up;
+    for (std::size_t at = log.find(copy); at != std::string::npos && IsCopied(conversion);
          at = log.find(copy, at + conversion.source.size())) {
       log.replace(at, copy.size(), conversion.source);
     }

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "cli/common/choice.h"
+#include "cli/common/cut_frames.h"
 #include "cli/common/plugin_session.h"
 #include "cli/common/taken_names.h"
 
@@ -48,6 +49,7 @@ void AddPanelFlags(CLI::App& verb, ConvertArguments& arguments) {
       verb, "--offset-space", {"trc", "skelder"}, "The axes that the offset is in (trc)",
       [&arguments](const std::string& space) { arguments.offset_in_trc_space = space == "trc"; })
       ->needs(offset);
+  AddCutFlag(verb, arguments.order.cut);
   AddChoice(verb, "--up", {"y", "z"}, "The axis that the heights in the files lie along (y)",
             [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
 }

@@ -7,6 +7,7 @@
 #include <string>
 #include <system_error>
 
+#include "cli/common/cut_frames.h"
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
 #include "cli/common/taken_names.h"
@@ -14,6 +15,7 @@
 #include "inspect/check/mnm_check.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/frame_counts.h"
+#include "inspect/report/cut_check.h"
 #include "inspect/summary/trc_outline.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
@@ -58,10 +60,8 @@ Complaint FindShortness(const std::string& file, const FrameCounts& counts, std:
 }
 
 void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
-                 const orvane::TRCOutliner& outline, const MarkerNaming& naming) {
+                 const FrameCounts& counts, const MarkerNaming& naming) {
   conversion.markers_dropped = document.MarkerCount();
-  const auto held = static_cast<std::int64_t>(outline.Frames());
-  const FrameCounts counts{document.NumFrames(), held, held};
   const std::int64_t kept = CountKept(document, conversion.match, naming);
   Complaint refusal = FindExcess(conversion.input, counts, document.MarkerCount(), kept);
   if (!refusal.text.empty()) conversion.told = {"trc-frames-too-many", "trc-frame-count"};
@@ -72,6 +72,27 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
     return;
   }
   conversion.is_empty = kept == 0;
+}
+
+// The frames of the input when `asked` are cut out of it; refuses it when it has none of these.
+FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked) {
+  orvane::TRCDocument document;
+  (void)document.ReadBytes(FileBytes(conversion.input), false);  // whose header has been taken
+  const std::optional<orvane::FrameSpan> held = FramesHeld(document);
+  const std::optional<orvane::FrameSpan> frames = FramesToCut(asked, held);
+  if (frames) {
+    const std::int64_t count = frames->last - frames->first + 1;
+    return {count, count, count};
+  }
+  conversion.status = ConversionStatus::kRefused;
+  conversion.told = {"cut-range-outside"};
+  conversion.errors.push_back(ComplainAboutCut(conversion.input, asked, held));
+  return {};
+}
+
+FrameCounts CountAll(const orvane::TRCDocument& document, const orvane::TRCOutliner& outline) {
+  const auto held = static_cast<std::int64_t>(outline.Frames());
+  return {document.NumFrames(), held, held};
 }
 
 RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& message) {
@@ -112,8 +133,13 @@ FileReport ReportOnFile(const ConversionOrder& order, const Conversion& conversi
   orvane::ActionOptions options;
   options.markers = order.NeedsMarkers();
   options.all_markers = order.mapping.empty();
-  FileReport report =
-      ReportOn(orvane::CheckTrc(conversion.input, bytes), Action::kConvert, options);
+  orvane::TRCDocument document;
+  orvane::CheckedFile checked = orvane::CheckTrc(conversion.input, bytes, document);
+  if (order.cut && checked.refusal.empty()) {
+    CheckCut(*order.cut, FramesHeld(document), checked);
+    options.frames = orvane::AskedFrames::kHeld;
+  }
+  FileReport report = ReportOn(checked, Action::kConvert, options);
   if (order.mapping.empty()) return report;
   report = report.Without("trc-name-with-blank");  // no entry can name such a marker: it is dropped
   report.Take(ReportOnMarkers(order.mapping, conversion, bytes, options));
@@ -143,8 +169,8 @@ void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
 }
 
 // Looks at the header of the input.
-RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming,
-                       orvane::NameMatching names) {
+RateSource JudgeHeader(Conversion& conversion, const ConversionOrder& order,
+                       const MarkerNaming& naming) {
   RequireInput(conversion);
   const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
   if (!outline) return RateSource::kFile;
@@ -152,12 +178,16 @@ RateSource JudgeHeader(Conversion& conversion, const MarkerNaming& naming,
   const std::string message = document.ReadBytes(outline->Header(), false);
   const RateSource rate = RateSourceOf(*outline, message);
   if (!message.empty()) return rate;
-  MatchNames(conversion, document, naming, names);
+  MatchNames(conversion, document, naming, order.names);
   if (conversion.status == ConversionStatus::kRefused) return rate;
-  if (rate == RateSource::kFile) {
-    JudgeFrames(conversion, document, *outline, naming);
-  } else {
+  if (rate != RateSource::kFile) {
     RefuseForeignRate(conversion);
+    return rate;
+  }
+  const FrameCounts counts =
+      order.cut ? CountCut(conversion, *order.cut) : CountAll(document, *outline);
+  if (conversion.status != ConversionStatus::kRefused) {
+    JudgeFrames(conversion, document, counts, naming);
   }
   return rate;
 }
@@ -218,7 +248,7 @@ void RefuseForeignRate(Conversion& conversion) {
 
 RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
                       const MarkerNaming& naming) {
-  const RateSource rate = JudgeHeader(conversion, naming, order.names);
+  const RateSource rate = JudgeHeader(conversion, order, naming);
   const bool is_settled = conversion.status != ConversionStatus::kPlanned;
   if (!is_settled && conversion.is_empty && order.NeedsMarkers()) SettleEmpty(conversion, order);
   const bool is_unreadable = conversion.status == ConversionStatus::kUnreadable;

@@ -10,6 +10,7 @@
 
 #include "cli/common/advice.h"
 #include "cli/common/choice.h"
+#include "cli/common/cut_frames.h"
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
@@ -42,10 +43,11 @@ struct ImportArguments {
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
-  std::optional<ShownTime> time;        // nothing: as the scene has it
-  std::optional<host::GapManner> gaps;  // nothing: they are hidden
-  bool plain = false;                   // a scene for viewers alone
-  bool z_up = false;                    // the heights in the file lie along Z
+  std::optional<ShownTime> time;         // nothing: as the scene has it
+  std::optional<host::GapManner> gaps;   // nothing: they are hidden
+  bool plain = false;                    // a scene for viewers alone
+  std::optional<orvane::FrameSpan> cut;  // nothing: all frames
+  bool z_up = false;                     // the heights in the file lie along Z
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
   double millimeters_per_unit = 1.0;
@@ -69,11 +71,8 @@ std::vector<ControlWish> AllWishes(const ImportArguments& arguments) {
 }
 
 void PrepareScene(const ImportArguments& arguments, host::Scene& scene) {
-  if (arguments.into.empty()) {
-    scene.SetMillimetersPerUnit(arguments.millimeters_per_unit);
-  } else {
-    ReadSceneFile(arguments.into, scene);
-  }
+  if (!arguments.into.empty()) return ReadSceneFile(arguments.into, scene);
+  scene.SetMillimetersPerUnit(arguments.millimeters_per_unit);
 }
 
 void Append(const std::vector<Complaint>& more, std::vector<Complaint>& complaints) {
@@ -169,6 +168,7 @@ class Importing {
     if (arguments_.report.omitted) Append(ComplainAbout(selection.unknown), complaints_);
     ImportChoices choices = ChoicesOf(wishes_, kind_, session_.settings());
     choices.turned_up = arguments_.z_up;
+    choices.cut = arguments_.cut;
     const SizeUnits units{scene.MillimetersPerUnit(), choices.scale};
     ConvertSize(wishes_, kind_, units);
     const ImportManner manner = MannerOf(arguments_);
@@ -210,7 +210,7 @@ class Importing {
   // some files that nothing good comes of.
   void ImportOrRefuse(const ImportChoices& choices, const ReportManner& manner,
                       const ToldImport& told) {
-    const bool carried_out = LetPluginImport(choices, told.turned);
+    const bool carried_out = LetPluginImport(choices, told.changed);
     if (!carried_out && told.has_errors) {
       throw NotCarriedOut(manner, told.report, std::move(complaints_));
     }
@@ -352,6 +352,7 @@ host::GapManner GapMannerNamed(const std::string& name) {
 }
 
 void AddViewFlags(CLI::App& verb, ImportArguments& arguments) {
+  AddCutFlag(verb, arguments.cut)->excludes(verb.get_option("--range"));
   AddChoice(verb, "--up", {"y", "z"}, "TRC: the axis that the heights in the file lie along (y)",
             [&arguments](const std::string& axis) { arguments.z_up = axis == "z"; });
   AddChoice(verb, "--gaps", {"hide", "hold", "origin"},

@@ -8,6 +8,7 @@
 #include "cli/common/dialog_user.h"
 #include "cli/common/file_kind.h"
 #include "host/desktop/settings.h"
+#include "inspect/report/frame_check.h"
 
 // The flags of `orvane import` that are controls of the options dialogs "ImportHTR" and
 // "ImportTRC". What does the same in both has the same id, and the same flag.
@@ -35,10 +36,11 @@ struct ImportChoices {
   bool base_position = false;  // and for the base position
   bool selected_only = false;  // apply to nothing but what is selected
   bool frame_rate_from_file = false;
-  double scale = 1.0;                  // that lengths are multiplied by
-  std::int32_t offset = 0;             // frames that keys are moved by
-  std::optional<FrameInterval> range;  // as typed; nothing for all frames
-  bool turned_up = false;              // no dialog asks: heights lie along Z, and are turned before
+  double scale = 1.0;                    // that lengths are multiplied by
+  std::int32_t offset = 0;               // frames that keys are moved by
+  std::optional<FrameInterval> range;    // as typed; nothing for all frames
+  std::optional<orvane::FrameSpan> cut;  // no dialog asks: the only frames to take of the file
+  bool turned_up = false;  // no dialog asks: heights lie along Z, and are turned before
 
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.

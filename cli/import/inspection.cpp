@@ -1,5 +1,6 @@
 #include "cli/import/inspection.h"
 
+#include "cli/common/cut_frames.h"
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
 #include "cli/common/scratch_copy.h"
@@ -14,6 +15,7 @@
 #include "inspect/check/rates.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/proportion.h"
+#include "inspect/report/cut_check.h"
 #include "inspect/summary/frame_rate.h"
 #include "inspect/summary/marker_size.h"
 #include "platform/path_text.h"
@@ -133,8 +135,8 @@ class Inspecting {
     Document document;
     Read read = ReadInto(document, file_, bytes, is_checked);
     result_.checked = std::move(read.checked);
-    if (!read.is_refused && choices_.turned_up) Turn(bytes, document);
-    if (!read.is_refused) {
+    if (!read.is_refused) Change(bytes, document);
+    if (!read.is_refused && !result_.refusal) {
       result_.recording = RecordingOf(document, bytes, file_);
       result_.recording->turned_up = choices_.turned_up;
       Judge(document, bytes.size(), advice);
@@ -146,12 +148,26 @@ class Inspecting {
   }
 
  private:
-  // What is odd has been looked for in the file as it is.
-  void Turn(std::string_view /*bytes*/, orvane::HtrDocument& /*document*/) {}
-  void Turn(std::string_view bytes, orvane::TRCDocument& document) {
-    result_.turned = TurnedUp(file_, bytes);
-    // As the reader takes the file, it takes it turned.
-    (void)document.ReadBytes(result_.turned, false);
+  // What is odd has been looked for in the file as it is. As the reader takes that, it takes what
+  // is made of it.
+  template <typename Document>
+  void Change(std::string_view bytes, Document& document) {
+    if (choices_.cut) Cut(bytes, document);
+    if (result_.refusal || !choices_.turned_up) return;
+    result_.changed = TurnedUp(file_, result_.changed.empty() ? bytes : result_.changed);
+    (void)ReadInto(document, file_, result_.changed, false);
+  }
+
+  template <typename Document>
+  void Cut(std::string_view bytes, Document& document) {
+    const std::optional<orvane::FrameSpan> held = FramesHeld(document);
+    CheckCut(*choices_.cut, held, result_.checked);
+    const std::optional<orvane::FrameSpan> frames = FramesToCut(*choices_.cut, held);
+    if (!frames) {
+      return Refuse(ComplainAboutCut(file_, *choices_.cut, held), {"cut-range-outside"});
+    }
+    result_.changed = CutOut(file_, bytes, document, *frames);
+    (void)ReadInto(document, file_, result_.changed, false);
   }
 
   static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {

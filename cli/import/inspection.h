@@ -34,7 +34,7 @@ struct Inspection {
   // The names in the file, when it can be read and they are applied to a scene.
   std::optional<orvane::AppliedFile> applied{};
   std::optional<host::Recording> recording{};  // by the file; nothing when it cannot be read
-  std::string turned{};                        // the bytes to import, when they are turned
+  std::string changed{};                       // the bytes to import, when not those of the file
   std::optional<MarkerSamples> samples{};      // of a marker file
   // The size in millimeters that fits the markers, when new ones are made.
   std::optional<double> marker_size{};

@@ -94,7 +94,7 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
   told.keyed = inspection.frames.keyed;
   told.marker_size = inspection.marker_size;
   told.samples = std::move(inspection.samples);
-  told.turned = std::move(inspection.turned);
+  told.changed = std::move(inspection.changed);
   if (inspection.applied) {
     told.application = Apply(std::move(*inspection.applied), order.kind, scene);
   }

@@ -9,8 +9,9 @@ using WordsByCode = std::unordered_map<std::string_view, const FindingMeaning*>;
 
 WordsByCode Gather() {
   WordsByCode all;
-  for (const auto& words : {HtrFindingMeanings(), TrcFindingMeanings(), MnmFindingMeanings(),
-                            ApplyFindingMeanings(), ExportFindingMeanings()}) {
+  for (const auto& words :
+       {HtrFindingMeanings(), TrcFindingMeanings(), MnmFindingMeanings(), ApplyFindingMeanings(),
+        CutFindingMeanings(), ExportFindingMeanings()}) {
     for (const FindingMeaning& each : words) all.emplace(each.code, &each);
   }
   return all;

@@ -109,6 +109,9 @@ std::span<const FindingMeaning> MnmFindingMeanings();
 // Those of a file and the scene that it is applied to.
 std::span<const FindingMeaning> ApplyFindingMeanings();
 
+// Those of frames that are cut out of a file.
+std::span<const FindingMeaning> CutFindingMeanings();
+
 // Those of a skeleton that becomes a motion file.
 std::span<const FindingMeaning> ExportFindingMeanings();
 

@@ -13,6 +13,7 @@
 #include "inspect/check/mnm_rules.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/report/apply_rules.h"
+#include "inspect/report/cut_rules.h"
 #include "inspect/report/export_rules.h"
 #include "tests/support/files.h"
 
@@ -38,6 +39,7 @@ std::vector<FindingRule> AllRules() {
 std::vector<std::pair<FindingRule, Action>> RulesOfScenes() {
   std::vector<std::pair<FindingRule, Action>> rules;
   for (const FindingRule& rule : orvane::apply::kRules) rules.emplace_back(rule, Action::kApply);
+  for (const FindingRule& rule : orvane::cutting::kRules) rules.emplace_back(rule, Action::kApply);
   for (const FindingRule& rule : orvane::exporting::kRules) {
     rules.emplace_back(rule, Action::kExport);
   }
@@ -46,9 +48,9 @@ std::vector<std::pair<FindingRule, Action>> RulesOfScenes() {
 
 std::vector<FindingMeaning> AllWords() {
   std::vector<FindingMeaning> all;
-  for (const auto& words :
-       {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(), orvane::MnmFindingMeanings(),
-        orvane::ApplyFindingMeanings(), orvane::ExportFindingMeanings()}) {
+  for (const auto& words : {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(),
+                            orvane::MnmFindingMeanings(), orvane::ApplyFindingMeanings(),
+                            orvane::CutFindingMeanings(), orvane::ExportFindingMeanings()}) {
     all.insert(all.end(), words.begin(), words.end());
   }
   return all;

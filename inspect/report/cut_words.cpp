@@ -1,0 +1,23 @@
+#include "inspect/report/finding_words.h"
+
+namespace orvane {
+namespace {
+
+using enum FindingSeverity;
+
+constexpr FindingEffects Cut(FindingSeverity severity) {
+  return {std::array{Action::kImport, Action::kApply, Action::kConvert}, {severity, nullptr}};
+}
+
+constexpr FindingMeaning kWords[] = {
+    {"cut-range-outside", "--cut asks for the frames {found}, and the file has {expected}", nullptr,
+     Cut(kError)},
+    {"cut-range-partly", "{found} of the {expected} frames that --cut asks for are not in the file",
+     nullptr, Cut(kWarning)},
+};
+
+}  // namespace
+
+std::span<const FindingMeaning> CutFindingMeanings() { return kWords; }
+
+}  // namespace orvane

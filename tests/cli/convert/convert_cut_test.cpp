@@ -1,0 +1,76 @@
+#include "tests/cli/convert/convert_test.h"
+
+// Conversions of some frames, cut out of the files before.
+
+namespace {
+
+using test::ConvertTest;
+using test::ProgramResult;
+using test::Slashed;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
+
+class ConvertCutTest : public ConvertTest {
+ protected:
+  static std::string Take(std::int64_t first, int announced = -1) {
+    return TrcText{.markers = {"Head"},
+                   .frames = {{"1\t2\t3"}, {"4\t5\t6"}, {"7\t8\t9"}},
+                   .first_frame = first,
+                   .frame_count = announced}
+        .Text();
+  }
+
+  // Without the lines that tell names and times.
+  std::string Points(const std::string& name) const {
+    const std::string text = ReadText(name);
+    return text.substr(text.find("$Points"));
+  }
+};
+
+TEST_F(ConvertCutTest, MakeWhatAFileOfTheseFramesMakes) {
+  Write("whole.trc", Take(228, 900));
+  Write("part.trc",
+        TrcText{.markers = {"Head"}, .frames = {{"4\t5\t6"}, {"7\t8\t9"}}, .first_frame = 229}
+            .Text());
+  ASSERT_EQ(Convert({"part.trc"}).status, 0);
+  const ProgramResult result = Convert({"whole.trc", "--cut", "229:230"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(Points("whole.bvk"), Points("part.bvk"));
+  EXPECT_THAT(ReadText("whole.bvk"), HasSubstr("$Filename   whole\n"));
+  EXPECT_THAT(Names(), ElementsAre("part.bvk", "part.trc", "whole.bvk", "whole.trc"));
+}
+
+TEST_F(ConvertCutTest, WorksOnManyByTheNumbersOfEach) {
+  MakeFolder("takes");
+  Write("takes/a.trc", Take(1));
+  Write("takes/b.trc", Take(2));
+  Write("takes/c.trc", Take(100));
+  const ProgramResult result =
+      Convert({"takes/a.trc", "takes/b.trc", "takes/c.trc", "--cut", "3:4"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error,
+              HasSubstr("orvane: takes/a.trc: warning: 1 of the 2 frames that --cut asks for are "
+                        "not in the file. The frames 3 to 3 are taken. [cut-range-partly]\n"));
+  EXPECT_THAT(result.error, HasSubstr("orvane: takes/c.trc: --cut asks for the frames 3 to 4, and "
+                                      "the file has 100 to 102\n"));
+  EXPECT_THAT(result.error, Not(HasSubstr("[cut-range-outside]")));
+  EXPECT_THAT(result.output, HasSubstr("2 of 3 converted\n"));
+  EXPECT_FALSE(Exists("takes/c.bvk"));
+  const std::string log = ReadText("takes/ConvertBVKLog.txt");
+  EXPECT_THAT(Slashed(log), HasSubstr(Slashed(Absolute("takes/a.trc"))));
+  EXPECT_THAT(log, Not(HasSubstr("copies")));
+}
+
+TEST_F(ConvertCutTest, WorksWithUpAndInAPreview) {
+  Write("z.trc", TrcText{.markers = {"Head"}, .frames = {{"9\t9\t9"}, {"1\t2\t3"}}}.Text());
+  Write("y.trc", TrcText{.markers = {"Head"}, .frames = {{"1\t3\t-2"}}, .first_frame = 2}.Text());
+  ASSERT_EQ(Convert({"y.trc"}).status, 0);
+  EXPECT_EQ(Convert({"z.trc", "--cut", "2:9", "--up", "z", "--dry-run"}).status, 0);
+  EXPECT_EQ(Convert({"z.trc", "--cut", "3:9", "--dry-run"}).status, 1);
+  ASSERT_EQ(Convert({"z.trc", "--cut", "2:2", "--up", "z"}).status, 0);
+  EXPECT_EQ(Points("z.bvk"), Points("y.bvk"));
+}
+
+}  // namespace
