@@ -32,7 +32,8 @@ class ConversionBatchTest : public testing::Test {
   const cli::ConversionOrder order_{
       .module = ORVANE_BINARY_DIR "/bin/OrvaneFileIO" ORVANE_MODULE_SUFFIX,
       .mapping = "",
-      .offset = {}};
+      .offset = {},
+      .cut = {}};
 };
 
 // As those of "walk.trc" and "WALK.trc" have where the case of letters makes no other file.
