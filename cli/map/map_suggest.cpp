@@ -99,7 +99,7 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
   std::optional<MappingOutput> output;
   if (!report.output.empty()) {
     RequireNoInput(report.output, {report.file});
-    output.emplace(report.output, false);
+    output.emplace(report.output, false, "It is kept; give -o another name.");
   }
   const ReportManner manner = ReportMannerOf(arguments);
   orvane::TRCDocument document;

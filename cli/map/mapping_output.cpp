@@ -9,8 +9,8 @@
 
 namespace cli {
 
-MappingOutput::MappingOutput(std::string path, bool replace)
-    : path_(std::move(path)), file_(path_, replace) {
+MappingOutput::MappingOutput(std::string path, bool replace, std::string kept_advice)
+    : path_(std::move(path)), kept_advice_(std::move(kept_advice)), file_(path_, replace) {
   RequireNone(file_.WhyImpossible());
 }
 
@@ -29,7 +29,9 @@ void MappingOutput::Deliver(const std::string& bytes) {
 
 void MappingOutput::RequireNone(const std::string& error) const {
   if (error.empty()) return;
-  throw Failure{ExitStatus::kInputOutput, {ComplainAboutOutput(path_, file_, error)}};
+  Complaint complaint = ComplainAboutOutput(path_, file_, error);
+  if (file_.IsTaken() && !kept_advice_.empty()) complaint.advice = kept_advice_;
+  throw Failure{ExitStatus::kInputOutput, {complaint}};
 }
 
 }  // namespace cli

@@ -10,8 +10,9 @@ namespace cli {
 
 class MappingOutput {
  public:
-  // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set.
-  MappingOutput(std::string path, bool replace);
+  // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set,
+  // with `kept_advice` then where that is not empty.
+  MappingOutput(std::string path, bool replace, std::string kept_advice = "");
 
   // The folder that the file is to lie in.
   [[nodiscard]] std::string Folder() const;
@@ -24,6 +25,7 @@ class MappingOutput {
   void RequireNone(const std::string& error) const;
 
   std::string path_;
+  std::string kept_advice_;
   platform::OutputFile file_;
 };
 

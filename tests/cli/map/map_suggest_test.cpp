@@ -122,7 +122,9 @@ TEST_F(MapSuggestTest, ASubjectIsChosenAmongSeveral) {
 TEST_F(MapSuggestTest, NothingIsEverReplaced) {
   WriteMarkers({"LFHD"});
   Write("take.mnm", "mine");
-  EXPECT_EQ(Suggest({"-o", "take.mnm"}).status, 3);
+  const ProgramResult taken = Suggest({"-o", "take.mnm"});
+  EXPECT_EQ(taken.status, 3);
+  EXPECT_EQ(taken.error, "orvane: take.mnm: File exists\n  It is kept; give -o another name.\n");
   EXPECT_EQ(Read("take.mnm"), "mine");
   EXPECT_EQ(Suggest({"-o", "take.mnm", "--force"}).status, 2);
   EXPECT_EQ(Suggest({"-o", "take.trc"}).status, 2);
