@@ -186,7 +186,7 @@ bool MarkerPlaces::IsHead(double height) const {
   constexpr double kMostSpread = 0.02;
   constexpr std::size_t kFewest = 3;
   constexpr std::size_t kMost = 6;
-  if (head_.size() < kFewest || head_.size() > kMost) return false;
+  if (height <= 0 || head_.size() < kFewest || head_.size() > kMost) return false;
   for (const std::size_t one : head_) {
     for (const std::size_t other : head_) {
       if (one == other) continue;

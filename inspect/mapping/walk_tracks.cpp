@@ -31,6 +31,12 @@ std::size_t FrameCount(const TRCDocument& document) {
   return count;
 }
 
+// Whether it is a number, and one that can be reckoned with.
+bool IsSomewhere(double x, double y, double z) {
+  constexpr double kFarthest = 1e12;
+  return std::abs(x) < kFarthest && std::abs(y) < kFarthest && std::abs(z) < kFarthest;
+}
+
 // Up is Y: then X is left where Z is forward.
 BodyTrack TrackOf(const TRCMarker& marker, std::size_t frames, std::size_t step, bool is_up_z) {
   BodyTrack track;
@@ -38,7 +44,7 @@ BodyTrack TrackOf(const TRCMarker& marker, std::size_t frames, std::size_t step,
     double x = 0;
     double y = 0;
     double z = 0;
-    if (!marker.GetSample(frame, x, y, z)) {
+    if (!marker.GetSample(frame, x, y, z) || !IsSomewhere(x, y, z)) {
       track.emplace_back();
     } else {
       track.push_back(is_up_z ? BodyPoint{y, z, x} : BodyPoint{x, y, z});
@@ -75,7 +81,8 @@ std::optional<FloorPoint> HeadingAt(const std::vector<FloorPoint>& way, std::siz
     const FloorPoint& from = way[frame - std::min(frame, half)];
     const FloorPoint& to = way[std::min(frame + half, way.size() - 1)];
     const double length = std::hypot(to.x - from.x, to.y - from.y);
-    if (length >= stretch) return FloorPoint{(to.x - from.x) / length, (to.y - from.y) / length};
+    if (length > 0 && length >= stretch)
+      return FloorPoint{(to.x - from.x) / length, (to.y - from.y) / length};
   }
   return std::nullopt;
 }
@@ -185,7 +192,7 @@ WalkTracks TrackWalk(const TRCDocument& document) {
     walked.push_back(frame);
     headings.push_back(*heading);
   }
-  if (walked.size() < kFewestFrames || LengthOf(way, walked) < kFewestWay * height) {
+  if (height <= 0 || walked.size() < kFewestFrames || LengthOf(way, walked) < kFewestWay * height) {
     return {{}, "Nobody in it walks as far as two steps"};
   }
   for (const BodyTrack& track : tracks) {

@@ -280,4 +280,19 @@ TEST(GeometrySuggestionTest, NothingIsSaidOfNothing) {
             "It holds more markers than one body carries");
 }
 
+TEST(GeometrySuggestionTest, PositionsThatAreNoneAndMarkersInOnePlaceAreBorne) {
+  constexpr double kNumbers[] = {NAN, INFINITY, 1e308, 0, -1e308};
+  orvane::TRCDocument document;
+  for (int marker = 0; marker < 8; ++marker) {
+    orvane::TRCMarker odd("M" + FormatInt(marker));
+    for (int frame = 0; frame < 60; ++frame) {
+      const double number = marker < 4 ? 0 : kNumbers[(frame + marker) % 5];
+      odd.AppendPosition(number, number, frame * 50.0);
+    }
+    ASSERT_NE(document.AddMarker(odd), nullptr);
+  }
+  EXPECT_THAT(orvane::SuggestByGeometry(document).sure, IsEmpty());
+  EXPECT_NE(orvane::SuggestByGeometry(document).problem, "");
+}
+
 }  // namespace
