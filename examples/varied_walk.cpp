@@ -28,7 +28,6 @@ std::array<Marker, kExtraMarkers> ExtraMarkers() {
   }};
 }
 
-// As many of them as are wanted; which, is chance.
 template <typename Items>
 void Shuffle(Items& items, Chance& chance) {
   for (std::size_t count = items.size(); count > 1; --count) {

@@ -10,35 +10,38 @@
 
 namespace orvane {
 
-// Four markers, in two mirrored pairs at least 0.035 behind each other; one on top of them does not
-// count. Of three of them, the pair that is complete.
+// Four markers, in two mirrored pairs at least 0.035 behind each other; one on top of them, by
+// 0.025, does not count. Of three of them, the pair that is complete.
 void FindHead(PlaceBoard& board);
 
 // The one pair at a height of 0.79 to 0.94 that is mirrored, 0.07 to 0.17 from the middle.
 void FindShoulders(PlaceBoard& board);
 
-// Markers in the middle, between the pelvis and the head, front and back at least 0.05 apart. Two
-// are needed on a side: at the back C7, as high as the shoulders, and T10, 0.09 to 0.17 below; in
-// front CLAV, and STRN 0.055 to 0.12 below.
+// Markers within 0.035 of the middle at a height of 0.69 to 0.95, front and back at least 0.05
+// apart, two on a side: at the back C7, as high as the shoulders but for 0.03, and T10, 0.09 to
+// 0.17 below; in front CLAV, above 0.78, and STRN, 0.055 to 0.12 below.
 void FindTrunk(PlaceBoard& board);
 
-// Markers that keep their distances at a height of 0.48 to 0.69: one mirrored pair in front, one at
-// the back, one in the middle at the back.
+// Markers that keep their distances at a height of 0.48 to 0.69: a mirrored pair in front; one at
+// the back, as far from those in front on both sides, but for 0.02; and one between that pair, by
+// 0.02.
 void FindPelvis(PlaceBoard& board);
 
 // The shoulder must be known. The elbow's markers are 0.14 to 0.225 from it; of two, the outer one
-// must be further out; one alone must be at the outer side or the back. The wrist's two are equally
-// far from the elbow, and the front one, by 0.6 of their distance, is at the thumb; the hand's is
-// further from the elbow by 0.025.
+// is further out by 0.6 of their distance; one alone is at the outer side or the back. Further
+// away, by 0.65 to 1.5 upper arms, the wrist's two are equally far from the elbow, but for 0.02,
+// and the one at the thumb is in front, by 0.6 of their distance; the hand's is further from the
+// elbow by 0.025.
 void FindArm(PlaceBoard& board, const Side& side);
 
-// The foot's markers are below 0.1 and keep their distances: the heel behind, the ankle above and
-// at the outer side, three in front. The knee's are half way from the hip to the ankle, keep their
-// distances to both, and the outer one is further out by 0.04.
+// The foot's markers are below 0.1 and keep their distances: the heel hindmost by 0.025, and on the
+// floor; the ankle ahead and 0.012 above it, at the outer side; three in front, of which the toe is
+// ahead by 0.018. The knee's are at 0.42 to 0.58 of the way from the ankle to the hip and keep
+// their distances to both; of two, the outer one is further out by 0.04.
 void FindLeg(PlaceBoard& board, const Side& side);
 
-// Whether the body faces the way it goes: the shank is further behind the knee than it gets ahead
-// of it, in each leg that shows both, and one leg does.
+// Whether the body faces the way it goes: a foot has its toes in front of its ankle, or a shank is
+// 1.25 times as far behind the knee as it gets ahead of it; and none that is seen is not.
 [[nodiscard]] bool FacesItsWay(const PlaceBoard& board);
 
 }  // namespace orvane

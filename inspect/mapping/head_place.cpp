@@ -11,7 +11,7 @@ constexpr double kApart = 0.035;  // front from back, and left from right
 constexpr double kMirrored = 0.03;
 constexpr double kOnTop = 0.025;
 
-// Of three or four at the corners of a head, without one on top of it.
+// The markers of the head, without one on top of its corners.
 std::vector<std::size_t> Corners(const PlaceBoard& board) {
   const MarkerPlaces& places = board.Places();
   std::vector<std::size_t> corners = places.Head();
@@ -24,7 +24,6 @@ std::vector<std::size_t> Corners(const PlaceBoard& board) {
   return corners;
 }
 
-// The marker on one side whose height and way forward are nearest to those of another's.
 struct Pair {
   std::size_t left;
   std::size_t right;
@@ -79,7 +78,7 @@ void FindHead(PlaceBoard& board) {
     }
     Give(board, pairs[0], ahead > 0, "three");
     board.LeaveOut("the head",
-                   "one of its four corners is missing: of these two, none is suggested");
+                   "one of its four corners is missing, and so its partner is left out");
   } else {
     board.LeaveOut("the head", CountReason(corners.size(), "four, two by two alike,"));
   }

@@ -15,9 +15,9 @@
 // middle of the body is where most pairs of markers are mirrored; when markers of one height are
 // mirrored but turned, all is turned back, by up to 20 degrees.
 //
-// There is more than one body, or none, when more than three markers are beyond 0.62 to a side or 0.45
-// forward or back of the head, when one side has more than eight more than the other, and when the
-// head is not above the middle.
+// There is more than one body, or none, when more than three markers are beyond 0.62 to a side or
+// 0.45 forward or back of the head, when one side has more than eight more than the other, and when
+// the head is not above the middle.
 //
 // Markers that do not stay with the body, or that are seen in less than a tenth of the frames, have
 // no place. Of a pair that is hardly seen together nothing is known.

@@ -23,7 +23,7 @@ struct PlacedMarker {
 // A part of the body of which not all is sure.
 struct UnsurePlace {
   std::string part;    // "the head"
-  std::string reason;  // "5 markers in place of 4"
+  std::string reason;  // "3 markers where four, two by two alike, belong"
 };
 
 struct Side {
@@ -64,7 +64,7 @@ class PlaceBoard {
   void LeaveOut(const std::string& part, const std::string& reason) {
     unsure_.push_back({part, reason});
   }
-  // As given, without those that `is_wrong`; `reason` is told of them.
+  // Leaves out what was given, if it was, for `reason`.
   void TakeBack(const std::string& standard, const std::string& reason);
 
   [[nodiscard]] std::optional<std::size_t> MarkerOf(std::string_view standard) const;
@@ -89,12 +89,12 @@ class PlaceBoard {
   return side.sign * places.At(marker).left;
 }
 
-// Whether two markers are mirrored, so far as that: a place's height and way forward may differ by
-// `tolerance`, and its way to the side.
+// Whether two markers are mirrored: their heights, their ways forward and their distances from the
+// middle differ by no more than `tolerance`.
 [[nodiscard]] bool AreMirrored(const MarkerPlaces& places, std::size_t left, std::size_t right,
                                double tolerance);
 
-// "5 markers where 4 are expected"
+// "1 marker where CLAV and STRN belong"
 [[nodiscard]] std::string CountReason(std::size_t found, const std::string& expected);
 
 }  // namespace orvane
