@@ -1,5 +1,6 @@
 #include "inspect/check/htr_cells.h"
 
+#include "formats/text/lines.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 
@@ -12,6 +13,7 @@ bool StartsWithNumber(std::string_view rest) {
 
 std::optional<FindingPlace> FindEmptyCell(const HtrCell& cell) {
   const std::size_t before = cell.column - 1;
+  if (before > kLongestPiece) return std::nullopt;
   const std::string_view line =
       TrimTrailingSeparators(std::string_view(cell.text.data() - before, before));
   bool is_empty = true;  // what stands behind the last tab, or the start of the line

@@ -17,7 +17,8 @@ namespace orvane::htr {
 
 // The first place in the line of `cell` where a tab follows another, or starts the line, with
 // nothing but blanks between, and a cell behind: one was emptied there. Nothing when
-// there is no such place before `cell`, whose text is a view into its line, even if it is empty.
+// there is no such place before `cell`, whose text is a view into its line, even if it is empty,
+// nor where the line is read in pieces.
 [[nodiscard]] std::optional<FindingPlace> FindEmptyCell(const HtrCell& cell);
 
 }  // namespace orvane::htr

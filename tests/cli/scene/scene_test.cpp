@@ -191,7 +191,9 @@ TEST_F(SceneTest, TheSelectionOfTheSceneStaysWithoutNames) {
 
 TEST_F(SceneTest, TheFrameRateOfTheSceneIsKeptUnlessAsked) {
   Import({"-o", "scene.glb", "--frame-rate", "keep"});
-  Import({"-o", "kept.glb", "--into", "scene.glb"});
+  EXPECT_EQ(
+      test::CodesIn(Orvane({"import", "walk.htr", "-o", "kept.glb", "--into", "scene.glb"}).error),
+      std::vector<std::string>{"apply-rate-differs"});
   EXPECT_EQ(Scene("kept.glb")["frame_rate"], 30);
   const ProgramResult result = Orvane({"import", "walk.htr", "-o", "set.glb", "--into", "scene.glb",
                                        "--frame-rate", "file", "--quiet"});
