@@ -29,7 +29,7 @@ class PathsTest(systems.SystemsTest):
         self.assertIn("Segments  21\n", run("export", scene, "--select", "Hips", "-o", back))
         run("compare", f"{name}.htr", back)
         self.assertIn("clean", run("check", f"{name}.htr", f"{name}.mnm"))
-        self.assertIn(f"{name}.mnm: clean", run("check", folder, "--max-severity", "error"))
+        self.assertIn(f"{name}.mnm: clean", run("check", folder, "--verbose", "--max-severity", "error"))
         run("import", f"{name}.trc", "-o", scene, "--force")
         self.assertEqual(sorted(path.name for path in (self.folder / folder).iterdir()), sorted([
             f"{folder}.htr", f"{folder}.trc", f"{folder}.mnm", f"scene {folder}.glb", f"back {folder}.htr"]))
