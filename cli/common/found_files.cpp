@@ -136,7 +136,7 @@ class Gathering {
   void Add(const std::string& name) {
     const auto [known, is_new] = names_.emplace(platform::PlaceOf(name), name);
     if (is_new) return found.names.push_back(name);
-    const bool is_spelled_alike = known->second == name;
+    const bool is_spelled_alike = platform::PathOf(known->second) == platform::PathOf(name);
     found.notes.push_back({name,
                            is_spelled_alike
                                ? "note: it is given again, and told of once"
