@@ -62,7 +62,8 @@ constexpr VerbGuide kGuides[] = {
      {{{"orvane map create walk.trc --picks picks.txt -o mine.mnm", "a new mapping"},
        {"orvane map create walk.trc --picks picks.txt -o mine.mnm --force", "make it once more"}}}},
     {"map suggest",
-     "Suggests which marker of a TRC file is which standard marker, by their names or by where they "
+     "Suggests which marker of a TRC file is which standard marker, by their names or by where "
+     "they "
      "sit on a body that walks, each with its reason. What is not sure is left out and listed. A "
      "mapping file that exists is kept.",
      {{{"orvane map suggest walk.trc", "what the names say"},
