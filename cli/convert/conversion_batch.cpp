@@ -193,7 +193,7 @@ class BatchConversion {
   std::string SourceOf(const Conversion& conversion, const platform::ScratchFolder& scratch) const {
     if (!IsCopied(conversion)) return conversion.source;
     const fs::path name = platform::PathOf(conversion.source).filename();
-    return platform::TextOf(platform::PathOf(scratch.Path() + kCopiesFolder) / name);
+    return PathForPanel(platform::TextOf(platform::PathOf(scratch.Path() + kCopiesFolder) / name));
   }
 
   // `log` with the user's own file where a copy is named.

@@ -222,6 +222,7 @@ std::vector<MarkerPlaces::Across> MarkerPlaces::PairsAcross(double most_forward)
 
 double MarkerPlaces::MiddleOf(const std::vector<Across>& pairs) {
   std::vector<double> middles;
+  middles.reserve(pairs.size());
   for (const Across& pair : pairs) middles.push_back(pair.middle);
   return DensestOf(std::move(middles), kWidthOfMiddle);
 }
