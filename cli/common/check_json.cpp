@@ -1,4 +1,5 @@
 #include "cli/common/check_report.h"
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 
 namespace cli {
@@ -13,16 +14,6 @@ using orvane::SeverityName;
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 1;
-
-void WriteCount(JsonWriter& json, std::string_view key, std::size_t count) {
-  json.Key(key);
-  json.Integer(static_cast<std::int64_t>(count));
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
-}
 
 void WriteFinding(JsonWriter& json, const Finding& finding) {
   json.BeginObject();

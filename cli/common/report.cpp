@@ -1,5 +1,6 @@
 #include "cli/common/report.h"
 
+#include "cli/common/json_members.h"
 #include "cli/common/messages.h"
 #include "formats/text/numbers.h"
 
@@ -46,16 +47,6 @@ std::string Counts(const FileReport& report) {
     counts += CountOf(count, SeverityName(severity));
   }
   return counts;
-}
-
-void WriteCount(JsonWriter& json, std::string_view key, std::size_t count) {
-  json.Key(key);
-  json.Integer(static_cast<std::int64_t>(count));
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
 }
 
 void WriteFinding(JsonWriter& json, const ReportedFinding& finding) {

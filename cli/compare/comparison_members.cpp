@@ -1,5 +1,8 @@
 #include "cli/compare/comparison_members.h"
 
+#include "cli/common/json_members.h"
+#include "cli/common/report.h"
+
 namespace cli {
 
 using orvane::FrameNumbers;
@@ -8,25 +11,20 @@ using orvane::WhichFile;
 
 const char* Letter(WhichFile file) { return file == WhichFile::kA ? "a" : "b"; }
 
-void WriteText(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  json.String(text);
+void WriteHead(JsonWriter& json, const std::string& file_a, const std::string& file_b, bool same) {
+  WriteInteger(json, "version", kComparisonVersion);
+  WriteText(json, "file_a", file_a);
+  WriteText(json, "file_b", file_b);
+  json.Key("same");
+  json.Bool(same);
 }
 
-void WriteOptional(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  if (text.empty()) return json.Null();
-  json.String(text);
-}
-
-void WriteNumber(JsonWriter& json, const char* key, double number) {
-  json.Key(key);
-  json.Number(number);
-}
-
-void WriteInteger(JsonWriter& json, const char* key, std::int64_t number) {
-  json.Key(key);
-  json.Integer(number);
+void WriteBothFindings(JsonWriter& json, const orvane::FileReport& findings_a,
+                       const orvane::FileReport& findings_b) {
+  json.Key("findings_a");
+  WriteFindings(json, findings_a);
+  json.Key("findings_b");
+  WriteFindings(json, findings_b);
 }
 
 void WriteRange(JsonWriter& json, const FrameNumbers& range) {

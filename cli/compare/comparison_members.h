@@ -7,6 +7,7 @@
 #include "cli/common/json_writer.h"
 #include "inspect/compare/sides.h"
 #include "inspect/compare/spread.h"
+#include "inspect/report/report.h"
 
 // Members of the JSON of a comparison, whatever is compared.
 
@@ -17,11 +18,10 @@ inline constexpr int kComparisonVersion = 2;
 // "a" or "b".
 [[nodiscard]] const char* Letter(orvane::WhichFile file);
 
-void WriteText(JsonWriter& json, const char* key, const std::string& text);
-// A text that may be missing.
-void WriteOptional(JsonWriter& json, const char* key, const std::string& text);
-void WriteNumber(JsonWriter& json, const char* key, double number);
-void WriteInteger(JsonWriter& json, const char* key, std::int64_t number);
+// What every comparison begins with, and what it ends with.
+void WriteHead(JsonWriter& json, const std::string& file_a, const std::string& file_b, bool same);
+void WriteBothFindings(JsonWriter& json, const orvane::FileReport& findings_a,
+                       const orvane::FileReport& findings_b);
 
 // The value of a member: the first and the last number.
 void WriteRange(JsonWriter& json, const orvane::FrameNumbers& range);

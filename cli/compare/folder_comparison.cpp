@@ -6,6 +6,7 @@
 #include <map>
 
 #include "cli/common/found_files.h"
+#include "cli/common/json_members.h"
 #include "cli/common/messages.h"
 #include "cli/common/table.h"
 #include "cli/common/tally.h"

@@ -1,5 +1,5 @@
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
-#include "cli/common/report.h"
 #include "cli/compare/comparison_members.h"
 #include "cli/compare/marker_report.h"
 
@@ -27,8 +27,8 @@ void WriteOverall(JsonWriter& json, const MarkerComparison& comparison) {
   WriteGapCounts(json, overall);
   WriteFirstBeyond(json, overall.first_beyond);
   const bool is_beyond = overall.first_beyond.has_value();
-  WriteOptional(json, "first_beyond_marker",
-                is_beyond ? comparison.markers[comparison.beyond].name : "");
+  WriteTextOrNull(json, "first_beyond_marker",
+                  is_beyond ? comparison.markers[comparison.beyond].name : "");
 }
 
 void WriteContents(JsonWriter& json, const MarkerReport& report) {
@@ -78,20 +78,13 @@ void WriteMarkers(JsonWriter& json, const MarkerComparison& comparison) {
 
 void WriteComparison(JsonWriter& json, const MarkerReport& report) {
   json.BeginObject();
-  WriteInteger(json, "version", kComparisonVersion);
-  WriteText(json, "file_a", report.file_a);
-  WriteText(json, "file_b", report.file_b);
-  json.Key("same");
-  json.Bool(report.SaysTheSame());
+  WriteHead(json, report.file_a, report.file_b, report.SaysTheSame());
   WriteNumber(json, "tolerance_mm", report.tolerance_mm);
   WriteCommonFrames(json, report.comparison.frames);
   WriteOverall(json, report.comparison);
   WriteContents(json, report);
   WriteMarkers(json, report.comparison);
-  json.Key("findings_a");
-  WriteFindings(json, report.findings_a);
-  json.Key("findings_b");
-  WriteFindings(json, report.findings_b);
+  WriteBothFindings(json, report.findings_a, report.findings_b);
   json.EndObject();
 }
 

@@ -1,5 +1,5 @@
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
-#include "cli/common/report.h"
 #include "cli/compare/comparison_members.h"
 #include "cli/compare/motion_report.h"
 
@@ -26,7 +26,7 @@ void WriteOverall(JsonWriter& json, const MotionReport& report) {
               &orientation);
   WriteFirstBeyond(json, motion.overall.first_beyond);
   const bool is_beyond = motion.overall.first_beyond.has_value();
-  WriteOptional(json, "first_beyond_segment", is_beyond ? report.NameOf(motion.beyond_pair) : "");
+  WriteTextOrNull(json, "first_beyond_segment", is_beyond ? report.NameOf(motion.beyond_pair) : "");
 }
 
 void WriteFrames(JsonWriter& json, const StructureComparison& structure) {
@@ -55,8 +55,8 @@ void WriteStructure(JsonWriter& json, const MotionReport& report) {
   for (const DifferentParent& parent : differences.parents) {
     json.BeginObject();
     WriteText(json, "name", parent.name);
-    WriteOptional(json, "parent_a", parent.in_a);
-    WriteOptional(json, "parent_b", parent.in_b);
+    WriteTextOrNull(json, "parent_a", parent.in_a);
+    WriteTextOrNull(json, "parent_b", parent.in_b);
     json.EndObject();
   }
   json.EndArray();
@@ -64,7 +64,7 @@ void WriteStructure(JsonWriter& json, const MotionReport& report) {
   json.BeginArray(Layout::kLines);
   for (const OnlyFrames& only : differences.frames) {
     json.BeginObject();
-    WriteOptional(json, "segment", only.segment);
+    WriteTextOrNull(json, "segment", only.segment);
     WriteText(json, "only_in", Letter(only.file));
     json.Key("range");
     WriteRange(json, only.frames);
@@ -94,21 +94,14 @@ void WriteSegments(JsonWriter& json, const MotionReport& report) {
 
 void WriteComparison(JsonWriter& json, const MotionReport& report) {
   json.BeginObject();
-  WriteInteger(json, "version", kComparisonVersion);
-  WriteText(json, "file_a", report.file_a);
-  WriteText(json, "file_b", report.file_b);
-  json.Key("same");
-  json.Bool(report.SaysTheSame());
+  WriteHead(json, report.file_a, report.file_b, report.SaysTheSame());
   WriteNumber(json, "tolerance_mm", report.tolerance.mm);
   WriteNumber(json, "tolerance_deg", report.tolerance.deg);
   WriteFrames(json, report.structure);
   WriteOverall(json, report);
   WriteStructure(json, report);
   WriteSegments(json, report);
-  json.Key("findings_a");
-  WriteFindings(json, report.findings_a);
-  json.Key("findings_b");
-  WriteFindings(json, report.findings_b);
+  WriteBothFindings(json, report.findings_a, report.findings_b);
   json.EndObject();
 }
 

@@ -1,3 +1,4 @@
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
 #include "cli/common/taken_names.h"
@@ -10,11 +11,6 @@ using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 2;
 
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
-}
-
 // Null when there is no output that the number could tell of.
 void WriteCount(JsonWriter& json, std::string_view key, const Conversion& conversion,
                 std::int64_t count) {
@@ -24,13 +20,6 @@ void WriteCount(JsonWriter& json, std::string_view key, const Conversion& conver
   } else {
     json.Null();
   }
-}
-
-void WriteTexts(JsonWriter& json, std::string_view key, const std::vector<std::string>& texts) {
-  json.Key(key);
-  json.BeginArray(Layout::kOneLine);
-  for (const std::string& text : texts) json.String(text);
-  json.EndArray();
 }
 
 std::vector<std::string> ErrorsOf(const Conversion& conversion) {

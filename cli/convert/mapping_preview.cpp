@@ -1,5 +1,6 @@
 #include "cli/convert/mapping_preview.h"
 
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/report.h"
@@ -74,11 +75,6 @@ void PrintMarker(const MarkerFate& marker, std::ostream& out) {
     out << "  rename  " << Printable(marker.name) << " to " << Printable(*marker.written_as)
         << '\n';
   }
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
 }
 
 void WriteMarker(JsonWriter& json, const MarkerFate& marker) {

@@ -1,5 +1,6 @@
 #include "cli/export/export_summary.h"
 
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
@@ -14,16 +15,6 @@ using orvane::FormatInt;
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 2;
-
-void WriteNumber(JsonWriter& json, std::string_view key, std::int64_t number) {
-  json.Key(key);
-  json.Integer(number);
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
-}
 
 std::int64_t LastFrame(const ExportedMotion& motion) {
   return motion.first_frame + motion.frames - 1;
@@ -45,17 +36,17 @@ void PrintExportSummary(const ExportedFile& file, std::ostream& out) {
 void PrintExportJson(const ExportedFile& file, std::ostream& out) {
   JsonWriter json(out);
   json.BeginObject();
-  WriteNumber(json, "version", kVersion);
+  WriteInteger(json, "version", kVersion);
   WriteText(json, "scene", file.input);
-  WriteNumber(json, "segments", file.motion.segments);
+  WriteInteger(json, "segments", file.motion.segments);
   json.Key("frames");
   json.BeginArray(Layout::kOneLine);
   json.Integer(file.motion.first_frame);
   json.Integer(LastFrame(file.motion));
   json.EndArray();
-  WriteNumber(json, "frame_rate", file.motion.frame_rate);
+  WriteInteger(json, "frame_rate", file.motion.frame_rate);
   WriteText(json, "file", file.output);
-  WriteNumber(json, "bytes", static_cast<std::int64_t>(file.motion.bytes));
+  WriteInteger(json, "bytes", static_cast<std::int64_t>(file.motion.bytes));
   json.Key("findings");
   WriteFindings(json, file.report);
   json.Key("warnings");

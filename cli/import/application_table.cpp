@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <string>
 
+#include "cli/common/json_members.h"
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
 #include "cli/import/application.h"
@@ -46,13 +47,6 @@ void PrintRow(std::ostream& out, const Row& row, std::size_t width) {
   out << '\n';
 }
 
-void WriteNames(JsonWriter& json, const char* key, const std::vector<std::string>& names) {
-  json.Key(key);
-  json.BeginArray(Layout::kOneLine);
-  for (const std::string& name : names) json.String(name);
-  json.EndArray();
-}
-
 }  // namespace
 
 void PrintTable(const Application& application, std::ostream& out) {
@@ -93,9 +87,9 @@ void WriteTable(JsonWriter& json, const Application& application) {
     json.EndArray();
   }
   json.EndArray();
-  WriteNames(json, "file_only", NamesOf(file.items, plan.file_only));
-  WriteNames(json, "not_below_start", NamesOf(file.items, plan.not_below_start));
-  WriteNames(json, "scene_only", NamesOf(scene.nodes, plan.scene_only));
+  WriteTexts(json, "file_only", NamesOf(file.items, plan.file_only));
+  WriteTexts(json, "not_below_start", NamesOf(file.items, plan.not_below_start));
+  WriteTexts(json, "scene_only", NamesOf(scene.nodes, plan.scene_only));
   json.Key("bones_that_differ");
   json.BeginArray(Layout::kLines);
   for (const BoneDifference& each : differences) {

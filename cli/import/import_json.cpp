@@ -1,3 +1,4 @@
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
 #include "cli/import/import_summary.h"
@@ -9,16 +10,6 @@ namespace {
 using Layout = JsonWriter::Layout;
 
 constexpr int kVersion = 2;
-
-void WriteCount(JsonWriter& json, std::string_view key, std::size_t count) {
-  json.Key(key);
-  json.Integer(static_cast<std::int64_t>(count));
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
-}
 
 void WriteFrames(JsonWriter& json, std::string_view key, TimeValue first, TimeValue last,
                  int ticks_per_frame) {

@@ -7,6 +7,7 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
@@ -81,11 +82,6 @@ orvane::FileReport TellOfMarkers(const std::string& input, const host::Scene& sc
   if (inspection.refusal) throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   if (Forbids(manner, report)) throw ForbiddenByStrict(manner, report);
   return report;
-}
-
-void WriteText(JsonWriter& json, std::string_view key, std::string_view text) {
-  json.Key(key);
-  json.String(text);
 }
 
 void PrintJson(const MapCreateArguments& arguments, const std::string& input, std::size_t mapped,

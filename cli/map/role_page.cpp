@@ -4,6 +4,7 @@
 #include <array>
 #include <cstdint>
 
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
@@ -74,20 +75,15 @@ std::string Total(const RoleReport& report) {
   return total + "; " + orvane::FormatInt(present) + " of them in " + Printable(report.capture);
 }
 
-void WriteText(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  text.empty() ? json.Null() : json.String(text);
-}
-
 void WriteRole(JsonWriter& json, const RoleReport& report, const MappingRole& role) {
   const PresentMarker* const present = FindPresent(report, role);
   json.BeginObject();
-  WriteText(json, "standard", role.standard);
-  WriteText(json, "description", role.description);
+  WriteTextOrNull(json, "standard", role.standard);
+  WriteTextOrNull(json, "description", role.description);
   json.Key("needed");
   json.Bool(role.is_needed);
-  WriteText(json, "marker", role.marker);
-  WriteText(json, "in_file", present == nullptr ? "" : present->name);
+  WriteTextOrNull(json, "marker", role.marker);
+  WriteTextOrNull(json, "in_file", present == nullptr ? "" : present->name);
   json.Key("coverage");
   present == nullptr ? json.Null() : json.Number(present->coverage);
   json.EndObject();
@@ -114,8 +110,8 @@ void PrintRoleJson(const RoleReport& report, std::ostream& out) {
   json.BeginObject();
   json.Key("version");
   json.Integer(kVersion);
-  WriteText(json, "mapping", report.mapping);
-  WriteText(json, "file", report.capture);
+  WriteTextOrNull(json, "mapping", report.mapping);
+  WriteTextOrNull(json, "file", report.capture);
   json.Key("roles");
   json.BeginArray(JsonWriter::Layout::kLines);
   for (const MappingRole& role : report.roles) WriteRole(json, report, role);

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 
+#include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
@@ -85,11 +86,6 @@ class Page {
   std::ostream& out_;
 };
 
-void WriteText(JsonWriter& json, const char* key, const std::string& text) {
-  json.Key(key);
-  text.empty() ? json.Null() : json.String(text);
-}
-
 void WriteMarkers(JsonWriter& json, const char* key, const SuggestionReport& report,
                   const std::vector<std::size_t>& markers) {
   json.Key(key);
@@ -98,22 +94,15 @@ void WriteMarkers(JsonWriter& json, const char* key, const SuggestionReport& rep
   json.EndArray();
 }
 
-void WriteNames(JsonWriter& json, const char* key, const std::vector<std::string>& names) {
-  json.Key(key);
-  json.BeginArray(JsonWriter::Layout::kOneLine);
-  for (const std::string& name : names) json.String(name);
-  json.EndArray();
-}
-
 void WriteSuggested(JsonWriter& json, const SuggestionReport& report) {
   json.Key("suggested");
   json.BeginArray(JsonWriter::Layout::kLines);
   for (const SuggestedRow& row : report.suggested) {
     json.BeginObject();
-    WriteText(json, "standard", row.standard);
-    WriteText(json, "marker", report.markers[row.marker]);
-    WriteText(json, "reason", row.reason);
-    if (report.is_by_geometry) WriteText(json, "words", row.words);
+    WriteTextOrNull(json, "standard", row.standard);
+    WriteTextOrNull(json, "marker", report.markers[row.marker]);
+    WriteTextOrNull(json, "reason", row.reason);
+    if (report.is_by_geometry) WriteTextOrNull(json, "words", row.words);
     json.EndObject();
   }
   json.EndArray();
@@ -124,7 +113,7 @@ void WriteAmbiguous(JsonWriter& json, const SuggestionReport& report) {
   json.BeginArray(JsonWriter::Layout::kLines);
   for (const AmbiguousMarker& ambiguous : report.ambiguous) {
     json.BeginObject();
-    WriteText(json, "standard", ambiguous.standard);
+    WriteTextOrNull(json, "standard", ambiguous.standard);
     WriteMarkers(json, "markers", report, ambiguous.markers);
     json.EndObject();
   }
@@ -136,8 +125,8 @@ void WriteUnsure(JsonWriter& json, const SuggestionReport& report) {
   json.BeginArray(JsonWriter::Layout::kLines);
   for (const UnsurePlace& unsure : report.unsure) {
     json.BeginObject();
-    WriteText(json, "part", unsure.part);
-    WriteText(json, "reason", unsure.reason);
+    WriteTextOrNull(json, "part", unsure.part);
+    WriteTextOrNull(json, "reason", unsure.reason);
     json.EndObject();
   }
   json.EndArray();
@@ -154,15 +143,15 @@ void PrintSuggestionJson(const SuggestionReport& report, std::ostream& out) {
   json.BeginObject();
   json.Key("version");
   json.Integer(kVersion);
-  WriteText(json, "file", report.file);
-  WriteText(json, "mapping", report.output);
+  WriteTextOrNull(json, "file", report.file);
+  WriteTextOrNull(json, "mapping", report.output);
   WriteSuggested(json, report);
   WriteAmbiguous(json, report);
   if (report.is_by_geometry) WriteUnsure(json, report);
-  WriteNames(json, "missing", report.missing);
+  WriteTexts(json, "missing", report.missing);
   WriteMarkers(json, "without_role", report, report.without_role);
   WriteMarkers(json, "unmappable", report, report.unmappable);
-  WriteNames(json, "subjects", report.subjects);
+  WriteTexts(json, "subjects", report.subjects);
   json.Key("findings");
   WriteFindings(json, report.findings);
   json.EndObject();
