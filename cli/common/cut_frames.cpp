@@ -8,7 +8,6 @@
 #include "formats/htr/cut_text.h"
 #include "formats/text/numbers.h"
 #include "formats/trc/cut_text.h"
-#include "inspect/counts/frame_counts.h"
 
 namespace cli {
 namespace {
@@ -33,11 +32,6 @@ FrameSpan ReadSpan(const std::string& text) {
   }
   if (*last < *first) throw CLI::ValidationError("--cut", text + " ends before it begins");
   return {*first, *last};
-}
-
-std::optional<FrameSpan> Numbered(std::int64_t first, std::int64_t count) {
-  if (count == 0) return std::nullopt;
-  return FrameSpan{first, first + count - 1};
 }
 
 std::string Require(const std::string& file, std::optional<std::string> cut) {
@@ -67,17 +61,6 @@ CLI::Option* AddCutFlag(CLI::App& verb, std::optional<FrameSpan>& asked) {
       ->type_name("FROM:TO");
 }
 
-std::optional<FrameSpan> FramesHeld(const orvane::HtrDocument& document) {
-  if (document.segments().empty()) return std::nullopt;
-  return Numbered(document.GetStartFrame(), orvane::CountFrames(document).most_held);
-}
-
-std::optional<FrameSpan> FramesHeld(const orvane::TRCDocument& document) {
-  if (document.MarkerCount() == 0) return std::nullopt;
-  return Numbered(document.FirstFrame(),
-                  static_cast<std::int64_t>(document.MarkerAt(0)->SampleCount()));
-}
-
 std::string CutOut(const std::string& file, std::string_view bytes,
                    const orvane::HtrDocument& document, const FrameSpan& frames) {
   const Places places = PlacesOf(frames, document.GetStartFrame());
@@ -90,13 +73,12 @@ std::string CutOut(const std::string& file, std::string_view bytes,
   return Require(file, orvane::CutTrcFrames(bytes, places.begin, places.end));
 }
 
-Complaint ComplainAboutCut(const std::string& file, const FrameSpan& asked,
-                           const std::optional<FrameSpan>& held) {
+Complaint ComplainAboutCut(const std::string& file, const FrameSpan& asked, const FrameSpan& held) {
   const std::string text = "--cut asks for the frames " + orvane::FormatInt(asked.first) + " to " +
                            orvane::FormatInt(asked.last) + ", and the file has ";
-  if (!held) return {file, text + "none", ""};
-  const std::string first = orvane::FormatInt(held->first);
-  const std::string last = orvane::FormatInt(held->last);
+  if (held.IsEmpty()) return {file, text + "none", ""};
+  const std::string first = orvane::FormatInt(held.first);
+  const std::string last = orvane::FormatInt(held.last);
   return {file, text + first + " to " + last, "--cut " + first + ":" + last + " takes all of it."};
 }
 

@@ -7,7 +7,7 @@
 #include "cli/common/failure.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
-#include "inspect/report/frame_check.h"
+#include "inspect/counts/frame_span.h"
 
 // The flag --cut: some frames of a file in the place of all, by the numbers that `orvane info`
 // shows of them.
@@ -22,10 +22,6 @@ namespace cli {
 // Adds the flag to `verb`, which sets `asked`. Returns the option.
 CLI::Option* AddCutFlag(CLI::App& verb, std::optional<orvane::FrameSpan>& asked);
 
-// The frames in a file that has been read, by their numbers; nothing when there are none.
-[[nodiscard]] std::optional<orvane::FrameSpan> FramesHeld(const orvane::HtrDocument& document);
-[[nodiscard]] std::optional<orvane::FrameSpan> FramesHeld(const orvane::TRCDocument& document);
-
 // The `bytes` of `file`, which `document` has been read from, with no other frames than `frames`.
 // Throws a Failure about the file when it cannot be cut. REQUIRES: it has all of these.
 [[nodiscard]] std::string CutOut(const std::string& file, std::string_view bytes,
@@ -37,6 +33,6 @@ CLI::Option* AddCutFlag(CLI::App& verb, std::optional<orvane::FrameSpan>& asked)
 
 // That `file` has none of the frames that are `asked` for, but those that are `held`.
 [[nodiscard]] Complaint ComplainAboutCut(const std::string& file, const orvane::FrameSpan& asked,
-                                         const std::optional<orvane::FrameSpan>& held);
+                                         const orvane::FrameSpan& held);
 
 }  // namespace cli

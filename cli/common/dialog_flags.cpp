@@ -108,11 +108,11 @@ std::optional<double> TypedDouble(const Wishes& wishes, int control) {
   return wish == nullptr ? std::nullopt : std::optional(orvane::ParseDouble(wish->text));
 }
 
-std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to) {
+std::optional<orvane::FrameSpan> TypedRange(const Wishes& wishes, int from, int to) {
   const auto first = TypedInt(wishes, from);
   const auto last = TypedInt(wishes, to);
   if (!first || !last) return std::nullopt;
-  return FrameInterval{*first, *last};
+  return orvane::FrameSpan{*first, *last};
 }
 
 std::optional<bool> WishedState(const Wishes& wishes, int control) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/common/dialog_user.h"
+#include "inspect/counts/frame_span.h"
 
 // Flags that are controls of an options dialog. Parsing the arguments adds a wish for each that is
 // given to a list, which must outlive the parsing.
@@ -53,25 +54,12 @@ void AddRange(CLI::App& verb, Wishes& wishes, const RangeControls& controls,
               const std::string& all_flag, const std::string& all_help,
               const std::string& range_help);
 
-// Frames in a row, by their numbers, both ends included; none when the last comes before the first.
-struct FrameInterval {
-  std::int64_t first = 1;
-  std::int64_t last = 0;
-
-  [[nodiscard]] std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
-};
-
-// The frames that are in both.
-[[nodiscard]] inline FrameInterval Overlap(const FrameInterval& left, const FrameInterval& right) {
-  return {std::max(left.first, right.first), std::min(left.last, right.last)};
-}
-
 // What `wishes` make of a control, as the dialog will read it; nothing when they leave it alone:
 // the number that they type into a text field, whole or real, the numbers of two, and the state of
 // a check box.
 [[nodiscard]] std::optional<std::int32_t> TypedInt(const Wishes& wishes, int control);
 [[nodiscard]] std::optional<double> TypedDouble(const Wishes& wishes, int control);
-[[nodiscard]] std::optional<FrameInterval> TypedRange(const Wishes& wishes, int from, int to);
+[[nodiscard]] std::optional<orvane::FrameSpan> TypedRange(const Wishes& wishes, int from, int to);
 [[nodiscard]] std::optional<bool> WishedState(const Wishes& wishes, int control);
 
 }  // namespace cli

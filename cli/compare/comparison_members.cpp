@@ -5,7 +5,7 @@
 
 namespace cli {
 
-using orvane::FrameNumbers;
+using orvane::FrameSpan;
 using orvane::Spread;
 using orvane::WhichFile;
 
@@ -27,14 +27,14 @@ void WriteBothFindings(JsonWriter& json, const orvane::FileReport& findings_a,
   WriteFindings(json, findings_b);
 }
 
-void WriteRange(JsonWriter& json, const FrameNumbers& range) {
+void WriteRange(JsonWriter& json, const FrameSpan& range) {
   json.BeginArray(JsonWriter::Layout::kOneLine);
   json.Integer(range.first);
   json.Integer(range.last);
   json.EndArray();
 }
 
-void WriteCommonFrames(JsonWriter& json, const std::optional<FrameNumbers>& frames) {
+void WriteCommonFrames(JsonWriter& json, const std::optional<FrameSpan>& frames) {
   json.Key("frames");
   if (!frames) return json.Null();
   WriteRange(json, *frames);

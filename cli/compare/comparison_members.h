@@ -24,9 +24,9 @@ void WriteBothFindings(JsonWriter& json, const orvane::FileReport& findings_a,
                        const orvane::FileReport& findings_b);
 
 // The value of a member: the first and the last number.
-void WriteRange(JsonWriter& json, const orvane::FrameNumbers& range);
+void WriteRange(JsonWriter& json, const orvane::FrameSpan& range);
 // The member "frames", null when there are none.
-void WriteCommonFrames(JsonWriter& json, const std::optional<orvane::FrameNumbers>& frames);
+void WriteCommonFrames(JsonWriter& json, const std::optional<orvane::FrameSpan>& frames);
 
 // Null when nothing was compared. `name` is of the thing that the largest difference is of, in the
 // member `name_key`; it may be null.

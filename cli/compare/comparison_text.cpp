@@ -14,7 +14,7 @@ std::string Count(std::size_t count, const std::string& noun) {
   return Counted(static_cast<std::int64_t>(count), noun);
 }
 
-std::string Frames(const orvane::FrameNumbers& frames) {
+std::string Frames(const orvane::FrameSpan& frames) {
   if (frames.first == frames.last) return "frame " + FormatInt(frames.first);
   return "frames " + FormatInt(frames.first) + " to " + FormatInt(frames.last);
 }

@@ -162,8 +162,8 @@ class BatchConversion {
     orvane::TRCDocument document;
     // What the reader refuses is left to the plug-in, which tells why.
     if (order_.cut && document.ReadBytes(bytes, false).empty()) {
-      const auto frames = FramesToCut(*order_.cut, FramesHeld(document));
-      if (frames) bytes = CutOut(conversion.input, bytes, document, *frames);
+      const orvane::FrameSpan frames = Overlap(*order_.cut, FramesHeld(document));
+      if (!frames.IsEmpty()) bytes = CutOut(conversion.input, bytes, document, frames);
     }
     return conversion.z_up ? TurnedUp(conversion.input, bytes) : bytes;
   }

@@ -78,12 +78,9 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
 FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked) {
   orvane::TRCDocument document;
   (void)document.ReadBytes(FileBytes(conversion.input), false);  // whose header has been taken
-  const std::optional<orvane::FrameSpan> held = FramesHeld(document);
-  const std::optional<orvane::FrameSpan> frames = FramesToCut(asked, held);
-  if (frames) {
-    const std::int64_t count = frames->last - frames->first + 1;
-    return {count, count, count};
-  }
+  const orvane::FrameSpan held = FramesHeld(document);
+  const std::int64_t count = Overlap(asked, held).Count();
+  if (count > 0) return {count, count, count};
   conversion.status = ConversionStatus::kRefused;
   conversion.told = {"cut-range-outside"};
   conversion.errors.push_back(ComplainAboutCut(conversion.input, asked, held));

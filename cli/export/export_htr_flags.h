@@ -19,10 +19,10 @@ void AddExportHtrFlags(CLI::App& verb, Wishes& wishes);
 
 // What decides which frames there will be.
 struct ExportChoices {
-  bool animation = true;               // export frames
-  bool parent_transforms = true;       // keep what the nodes above the root do
-  std::optional<FrameInterval> range;  // as typed; nothing for the scene's animation range
-  std::int32_t offset = 0;             // added to the numbers of frames
+  bool animation = true;                   // export frames
+  bool parent_transforms = true;           // keep what the nodes above the root do
+  std::optional<orvane::FrameSpan> range;  // as typed; nothing for the scene's animation range
+  std::int32_t offset = 0;                 // added to the numbers of frames
 };
 
 // What comes of `wishes`, and without one of what the dialog finds in `settings`.

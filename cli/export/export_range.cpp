@@ -69,7 +69,7 @@ class SceneKeys {
   std::int64_t Length() const { return first_ ? (last_ - *first_) / ticks_per_frame_ + 1 : 1; }
 
   // The frames that none of them comes after, or before.
-  FrameInterval Frames() const {
+  orvane::FrameSpan Frames() const {
     if (!first_) return {};
     return {-RoundedDown(-*first_), RoundedDown(last_)};
   }
@@ -104,13 +104,13 @@ class SceneKeys {
   std::int64_t held_ = 0;
 };
 
-FrameInterval AnimationRange(const host::AnimationState& animation) {
+orvane::FrameSpan AnimationRange(const host::AnimationState& animation) {
   const int ticks = animation.TicksPerFrame();
   return {animation.Range().Start() / ticks, animation.Range().End() / ticks};
 }
 
 void RequireProportion(const std::string& file, const host::Scene& scene,
-                       const FrameInterval& wished) {
+                       const orvane::FrameSpan& wished) {
   const SceneKeys keys(scene);
   const std::int64_t outside = wished.Count() - Overlap(wished, keys.Frames()).Count();
   const FrameCounts counts = {wished.Count(), keys.Length(), keys.Length()};
@@ -137,7 +137,7 @@ Failure NumberOutOfBounds(const ExportChoices& choices, std::int64_t frame,
             ""}}};
 }
 
-void RequireNumbers(const FrameInterval& wished, const ExportChoices& choices) {
+void RequireNumbers(const orvane::FrameSpan& wished, const ExportChoices& choices) {
   constexpr std::int64_t kFirst = std::numeric_limits<std::int32_t>::min();
   constexpr std::int64_t kLast = std::numeric_limits<std::int32_t>::max();
   if (wished.Count() == 0) return;
@@ -155,8 +155,8 @@ void RequireSensibleRange(const std::string& file, const host::Scene& scene,
                           const ExportChoices& choices) {
   if (!choices.animation) return;
   // What lies outside the animation range is refused by the plug-in.
-  const FrameInterval most = AnimationRange(scene.Animation());
-  const FrameInterval wished = choices.range ? Overlap(*choices.range, most) : most;
+  const orvane::FrameSpan most = AnimationRange(scene.Animation());
+  const orvane::FrameSpan wished = choices.range ? Overlap(*choices.range, most) : most;
   RequireNumbers(wished, choices);
   RequireProportion(file, scene, wished);
 }

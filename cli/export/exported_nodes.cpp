@@ -60,10 +60,11 @@ bool IsSheared(const Matrix3& transform) {
   return !AreAtRightAngles(x, y) || !AreAtRightAngles(y, z) || !AreAtRightAngles(z, x);
 }
 
-FrameInterval FramesOf(const host::AnimationState& animation, const ExportChoices& choices) {
+orvane::FrameSpan FramesOf(const host::AnimationState& animation, const ExportChoices& choices) {
   if (!choices.animation) return {};
   const int ticks = animation.TicksPerFrame();
-  const FrameInterval all = {animation.Range().Start() / ticks, animation.Range().End() / ticks};
+  const orvane::FrameSpan all = {animation.Range().Start() / ticks,
+                                 animation.Range().End() / ticks};
   return choices.range ? Overlap(*choices.range, all) : all;
 }
 
@@ -162,7 +163,7 @@ class Describing {
 
   const host::AnimationState& animation_;
   const int ticks_;
-  const FrameInterval frames_;
+  const orvane::FrameSpan frames_;
   const host::Node* const above_;  // what the root is relative to; null for the world
   std::vector<Waiting> waiting_;
   std::vector<ExportNode> nodes_;
@@ -179,7 +180,7 @@ std::vector<ExportNode> DescribeExport(const host::Scene& scene, const ExportCho
 std::optional<orvane::ExportFrames> DescribeFrames(const host::Scene& scene,
                                                    const ExportChoices& choices) {
   const host::Node* const root = RootOf(scene);
-  const FrameInterval frames = FramesOf(scene.Animation(), choices);
+  const orvane::FrameSpan frames = FramesOf(scene.Animation(), choices);
   if (root == nullptr || frames.Count() == 0) return std::nullopt;
   KeySpan keys;
   for (const host::Node* node = root->Parent(); node != nullptr; node = node->Parent()) {

@@ -89,7 +89,7 @@ bool MentionFrameRate(const std::vector<ControlWish>& wishes) {
                      [](const ControlWish& wish) { return wish.control == IDC_SET_FRAME_RATE; });
 }
 
-FrameInterval ImportChoices::Keyed(const FrameInterval& announced) const {
+orvane::FrameSpan ImportChoices::Keyed(const orvane::FrameSpan& announced) const {
   if (!animation) return {};
   return range ? Overlap(*range, announced) : announced;
 }

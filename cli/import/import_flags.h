@@ -36,15 +36,15 @@ struct ImportChoices {
   bool base_position = false;  // and for the base position
   bool selected_only = false;  // apply to nothing but what is selected
   bool frame_rate_from_file = false;
-  double scale = 1.0;                    // that lengths are multiplied by
-  std::int32_t offset = 0;               // frames that keys are moved by
-  std::optional<FrameInterval> range;    // as typed; nothing for all frames
-  std::optional<orvane::FrameSpan> cut;  // no dialog asks: the only frames to take of the file
+  double scale = 1.0;                      // that lengths are multiplied by
+  std::int32_t offset = 0;                 // frames that keys are moved by
+  std::optional<orvane::FrameSpan> range;  // as typed; nothing for all frames
+  std::optional<orvane::FrameSpan> cut;    // no dialog asks: the only frames to take of the file
   bool turned_up = false;  // no dialog asks: heights lie along Z, and are turned before
 
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.
-  [[nodiscard]] FrameInterval Keyed(const FrameInterval& announced) const;
+  [[nodiscard]] orvane::FrameSpan Keyed(const orvane::FrameSpan& announced) const;
 };
 
 // What comes of `wishes`, and without one of what the dialog for files of that `kind` finds in

@@ -24,19 +24,19 @@ bool IsPart(const ImportedFrames& frames, const ImportChoices& choices) {
 }
 
 // The frames that the host's time of 32 bits reaches.
-FrameInterval HostTime(int ticks_per_frame) {
+orvane::FrameSpan HostTime(int ticks_per_frame) {
   return {std::numeric_limits<TimeValue>::min() / ticks_per_frame,
           std::numeric_limits<TimeValue>::max() / ticks_per_frame};
 }
 
-FrameInterval Moved(const FrameInterval& frames, std::int64_t offset) {
+orvane::FrameSpan Moved(const orvane::FrameSpan& frames, std::int64_t offset) {
   return {frames.first + offset, frames.last + offset};
 }
 
 MadeUpFrames MadeUp(const ImportedFrames& frames, std::int64_t offset, int ticks_per_frame) {
   const std::int64_t count =
       std::clamp<std::int64_t>(frames.end - frames.counts.most_held, 0, frames.keyed.Count());
-  const FrameInterval last = Moved({frames.keyed.last - count + 1, frames.keyed.last}, offset);
+  const orvane::FrameSpan last = Moved({frames.keyed.last - count + 1, frames.keyed.last}, offset);
   const KeyReceivers& receivers = frames.receivers;
   return {Overlap(last, HostTime(ticks_per_frame)).Count(), receivers.name, receivers.count,
           receivers.held, ticks_per_frame * receivers.controllers};
@@ -50,9 +50,9 @@ AskedFrames Asked(const ImportedFrames& frames, bool is_part) {
   return are_left_out ? AskedFrames::kAnnounced : AskedFrames::kHeld;
 }
 
-std::optional<Complaint> FindLost(const std::string& file, const FrameInterval& moved,
+std::optional<Complaint> FindLost(const std::string& file, const orvane::FrameSpan& moved,
                                   int ticks_per_frame) {
-  const FrameInterval time = HostTime(ticks_per_frame);
+  const orvane::FrameSpan time = HostTime(ticks_per_frame);
   const std::int64_t lost = moved.Count() - Overlap(moved, time).Count();
   if (lost == 0) return std::nullopt;
   return Complaint{file,

@@ -24,10 +24,10 @@ struct KeyReceivers {
 
 struct ImportedFrames {
   orvane::FrameCounts counts;
-  FrameInterval announced;  // by their numbers
-  FrameInterval keyed;      // those of them that get keys
-  std::int64_t end = 0;     // the place in the file, counted from 0, behind the last that is keyed
-  std::int32_t rate = 0;    // frames per second, as the file has it
+  orvane::FrameSpan announced;  // by their numbers
+  orvane::FrameSpan keyed;      // those of them that get keys
+  std::int64_t end = 0;   // the place in the file, counted from 0, behind the last that is keyed
+  std::int32_t rate = 0;  // frames per second, as the file has it
   KeyReceivers receivers;
 };
 

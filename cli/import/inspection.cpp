@@ -160,13 +160,13 @@ class Inspecting {
 
   template <typename Document>
   void Cut(std::string_view bytes, Document& document) {
-    const std::optional<orvane::FrameSpan> held = FramesHeld(document);
+    const orvane::FrameSpan held = FramesHeld(document);
     CheckCut(*choices_.cut, held, result_.checked);
-    const std::optional<orvane::FrameSpan> frames = FramesToCut(*choices_.cut, held);
-    if (!frames) {
+    const orvane::FrameSpan frames = Overlap(*choices_.cut, held);
+    if (frames.IsEmpty()) {
       return Refuse(ComplainAboutCut(file_, *choices_.cut, held), {"cut-range-outside"});
     }
-    result_.changed = CutOut(file_, bytes, document, *frames);
+    result_.changed = CutOut(file_, bytes, document, frames);
     (void)ReadInto(document, file_, result_.changed, false);
   }
 

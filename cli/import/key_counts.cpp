@@ -50,7 +50,7 @@ std::size_t CountIn(const host::Controller& controller, const TickSpan& span) {
 
 // From the first to the last tick that the import sets keys at. The base position is keyed a frame
 // before the motion, and at the current time without any.
-TickSpan TicksOf(const ImportChoices& choices, const FrameInterval& keyed,
+TickSpan TicksOf(const ImportChoices& choices, const orvane::FrameSpan& keyed,
                  const host::AnimationState& animation) {
   if (!choices.animation) {
     return choices.base_position ? TickSpan{animation.Time(), animation.Time()} : TickSpan{};
@@ -79,7 +79,7 @@ void SetKeys::Expect(std::vector<const host::Node*> nodes, bool with_rotations) 
   with_rotations_ = with_rotations;
 }
 
-std::size_t SetKeys::Count(const ImportChoices& choices, const FrameInterval& keyed) const {
+std::size_t SetKeys::Count(const ImportChoices& choices, const orvane::FrameSpan& keyed) const {
   SceneKeys of_new_nodes;
   VisitNodes(scene_, [&](const host::Node& node) {
     if (node.Handle() > newest_) IncludeAll(node, of_new_nodes);

@@ -33,7 +33,8 @@ class SetKeys {
 
   // How many there are when the import, by `choices`, has given keys to the frames `keyed` of the
   // file.
-  [[nodiscard]] std::size_t Count(const ImportChoices& choices, const FrameInterval& keyed) const;
+  [[nodiscard]] std::size_t Count(const ImportChoices& choices,
+                                  const orvane::FrameSpan& keyed) const;
 
  private:
   const host::Scene& scene_;

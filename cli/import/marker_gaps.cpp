@@ -14,11 +14,11 @@ MarkerSamples SamplesOf(const orvane::TRCDocument& document) {
   return samples;
 }
 
-std::vector<FrameInterval> KeyedGaps(const MarkerSamples& samples, std::size_t marker,
-                                     const FrameInterval& keyed) {
-  std::vector<FrameInterval> gaps;
+std::vector<orvane::FrameSpan> KeyedGaps(const MarkerSamples& samples, std::size_t marker,
+                                         const orvane::FrameSpan& keyed) {
+  std::vector<orvane::FrameSpan> gaps;
   const auto add = [&](std::int64_t begin, std::int64_t last_frame) {
-    const FrameInterval gap = Overlap({samples.first_frame + begin, last_frame}, keyed);
+    const orvane::FrameSpan gap = Overlap({samples.first_frame + begin, last_frame}, keyed);
     if (gap.Count() == 0) return;
     const bool goes_on = !gaps.empty() && gaps.back().last + 1 == gap.first;
     if (goes_on) {
@@ -35,11 +35,11 @@ std::vector<FrameInterval> KeyedGaps(const MarkerSamples& samples, std::size_t m
   return gaps;
 }
 
-SampleCounts CountSamples(const MarkerSamples& samples, const FrameInterval& keyed) {
+SampleCounts CountSamples(const MarkerSamples& samples, const orvane::FrameSpan& keyed) {
   SampleCounts counts;
   for (std::size_t marker = 0; marker < samples.gaps.size(); ++marker) {
     counts.all += keyed.Count();
-    for (const FrameInterval& gap : KeyedGaps(samples, marker, keyed))
+    for (const orvane::FrameSpan& gap : KeyedGaps(samples, marker, keyed))
       counts.missing += gap.Count();
   }
   return counts;

@@ -22,8 +22,9 @@ struct MarkerSamples {
 
 // The frames from the first to the last one of each gap of marker number `marker` that gets keys,
 // when the frames `keyed` do. Frames that are announced and not held are a gap too.
-[[nodiscard]] std::vector<FrameInterval> KeyedGaps(const MarkerSamples& samples, std::size_t marker,
-                                                   const FrameInterval& keyed);
+[[nodiscard]] std::vector<orvane::FrameSpan> KeyedGaps(const MarkerSamples& samples,
+                                                       std::size_t marker,
+                                                       const orvane::FrameSpan& keyed);
 
 struct SampleCounts {
   std::int64_t all = 0;
@@ -31,6 +32,7 @@ struct SampleCounts {
 };
 
 // Those of all markers in the frames `keyed`.
-[[nodiscard]] SampleCounts CountSamples(const MarkerSamples& samples, const FrameInterval& keyed);
+[[nodiscard]] SampleCounts CountSamples(const MarkerSamples& samples,
+                                        const orvane::FrameSpan& keyed);
 
 }  // namespace cli

@@ -44,11 +44,11 @@ bool MayBeHidden(const host::Node& node) {
 }
 
 // The ticks of `frames`, as far as the host's time of 32 bits reaches.
-std::optional<host::Gap> TicksOf(const FrameInterval& frames, std::int64_t offset,
+std::optional<host::Gap> TicksOf(const orvane::FrameSpan& frames, std::int64_t offset,
                                  std::int64_t ticks_per_frame) {
-  const FrameInterval time{std::numeric_limits<TimeValue>::min() / ticks_per_frame,
-                           std::numeric_limits<TimeValue>::max() / ticks_per_frame};
-  const FrameInterval reached = Overlap({frames.first + offset, frames.last + offset}, time);
+  const orvane::FrameSpan time{std::numeric_limits<TimeValue>::min() / ticks_per_frame,
+                               std::numeric_limits<TimeValue>::max() / ticks_per_frame};
+  const orvane::FrameSpan reached = Overlap({frames.first + offset, frames.last + offset}, time);
   if (reached.Count() == 0) return std::nullopt;
   return host::Gap{static_cast<TimeValue>(reached.first * ticks_per_frame),
                    static_cast<TimeValue>(reached.last * ticks_per_frame)};
@@ -56,7 +56,7 @@ std::optional<host::Gap> TicksOf(const FrameInterval& frames, std::int64_t offse
 
 }  // namespace
 
-ShownGaps ShowGaps(GapManner manner, const MarkerSamples& samples, const FrameInterval& keyed,
+ShownGaps ShowGaps(GapManner manner, const MarkerSamples& samples, const orvane::FrameSpan& keyed,
                    const ImportChoices& choices, const std::optional<Application>& application) {
   if (manner == GapManner::kOrigin) return ShownGaps::kAtOrigin;
   if (manner == GapManner::kHold) return ShownGaps::kHeld;
@@ -72,8 +72,8 @@ MeasuredNodes::MeasuredNodes(host::Scene& scene) : scene_(scene) {
   for (const host::Node* node : AllNodes(scene)) newest_ = std::max(newest_, node->Handle());
 }
 
-void MeasuredNodes::Tell(GapManner manner, const MarkerSamples& samples, const FrameInterval& keyed,
-                         const ImportChoices& choices,
+void MeasuredNodes::Tell(GapManner manner, const MarkerSamples& samples,
+                         const orvane::FrameSpan& keyed, const ImportChoices& choices,
                          const std::optional<Application>& application) const {
   const int ticks_per_frame = scene_.Animation().TicksPerFrame();
   const auto span = TicksOf(keyed, choices.offset, ticks_per_frame);
@@ -83,7 +83,7 @@ void MeasuredNodes::Tell(GapManner manner, const MarkerSamples& samples, const F
     const auto [node, is_new] = receivers[marker];
     if (node == nullptr) continue;
     std::vector<host::Gap> gaps;
-    for (const FrameInterval& frames : KeyedGaps(samples, marker, keyed)) {
+    for (const orvane::FrameSpan& frames : KeyedGaps(samples, marker, keyed)) {
       if (const auto gap = TicksOf(frames, choices.offset, ticks_per_frame)) gaps.push_back(*gap);
     }
     Measured measured = node->Measurement().value_or(Measured{is_new, manner, {}});

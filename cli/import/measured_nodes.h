@@ -18,7 +18,8 @@ namespace cli {
 // imported by `choices` and shown in that `manner`: hidden ones are held where others than an
 // import made the node. `application` tells the nodes that are there; nothing without "Apply".
 [[nodiscard]] orvane::ShownGaps ShowGaps(host::GapManner manner, const MarkerSamples& samples,
-                                         const FrameInterval& keyed, const ImportChoices& choices,
+                                         const orvane::FrameSpan& keyed,
+                                         const ImportChoices& choices,
                                          const std::optional<Application>& application);
 
 class MeasuredNodes {
@@ -27,7 +28,7 @@ class MeasuredNodes {
   explicit MeasuredNodes(host::Scene& scene);
 
   // Tells all nodes that the import has keyed their gaps. What they know of other frames stays.
-  void Tell(host::GapManner manner, const MarkerSamples& samples, const FrameInterval& keyed,
+  void Tell(host::GapManner manner, const MarkerSamples& samples, const orvane::FrameSpan& keyed,
             const ImportChoices& choices, const std::optional<Application>& application) const;
 
  private:

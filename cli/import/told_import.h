@@ -24,7 +24,7 @@ struct ToldImport {
   orvane::FileReport report;
   bool has_errors = false;            // though the plug-in may take the file
   std::vector<Complaint> complaints;  // of the file and the scene together, not told yet
-  FrameInterval keyed;                // the frames of the file that get keys
+  orvane::FrameSpan keyed;            // the frames of the file that get keys
   std::string changed;                // the bytes to import, when they are not those of the file
   std::optional<MarkerSamples> samples{};      // of a marker file
   orvane::ShownGaps gaps{};                    // what viewers are shown of the missing ones

@@ -19,13 +19,6 @@ MarkersByName NamesOf(const TRCDocument& document) {
   return markers;
 }
 
-// All markers of a file hold as many frames as it has.
-FrameNumbers FramesOf(const TRCDocument& document) {
-  const std::int64_t first = document.FirstFrame();
-  const std::size_t count = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
-  return {first, first + static_cast<std::int64_t>(count) - 1};
-}
-
 double MillimetersPerUnit(const TRCDocument& document) {
   return LengthFactor(static_cast<std::uint32_t>(document.Units()), kMillimeters);
 }
@@ -63,8 +56,8 @@ class MarkerComparer {
       : a_(a), b_(b), tolerance_mm_(tolerance_mm) {}
 
   MarkerComparison Run() {
-    const FrameNumbers frames_a = FramesOf(a_);
-    const FrameNumbers frames_b = FramesOf(b_);
+    const FrameSpan frames_a = FramesHeld(a_);
+    const FrameSpan frames_b = FramesHeld(b_);
     result_.frames = CommonFrames(frames_a, frames_b);
     result_.only_frames = FramesOfOneAlone(frames_a, frames_b);
     result_.frame_rate_differs = a_.DataRate() != b_.DataRate();
@@ -94,7 +87,7 @@ class MarkerComparer {
   MarkerDifference Compare(const TRCMarker& in_a, const TRCMarker& in_b) const {
     MarkerDifference difference;
     if (!result_.frames) return difference;
-    const FrameNumbers& frames = *result_.frames;
+    const FrameSpan& frames = *result_.frames;
     Trajectory a(in_a, frames.first - a_.FirstFrame(), MillimetersPerUnit(a_));
     Trajectory b(in_b, frames.first - b_.FirstFrame(), MillimetersPerUnit(b_));
     for (std::int64_t frame = frames.first; frame <= frames.last; ++frame) {

@@ -37,7 +37,7 @@ struct OnlyMarker {
 
 struct MarkerComparison {
   std::vector<ComparedMarker> markers;  // those of both files, in A's order
-  std::optional<FrameNumbers> frames;   // that both files hold; nothing when there are none
+  std::optional<FrameSpan> frames;      // that both files hold; nothing when there are none
 
   // What one file alone holds, or both differently.
   std::vector<OnlyMarker> only_markers;  // those of A first, each file's in its own order

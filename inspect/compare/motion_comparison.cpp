@@ -49,7 +49,7 @@ class MotionComparer {
     ComparePose(0, 0);
   }
 
-  void CompareFrames(const FrameNumbers& frames) {
+  void CompareFrames(const FrameSpan& frames) {
     for (std::int64_t number = frames.first; number <= frames.last; ++number) {
       const auto index_b = static_cast<std::size_t>(number - start_b_);
       walk_a_.MoveTo(static_cast<std::size_t>(number - start_a_));

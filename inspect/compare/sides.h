@@ -1,8 +1,9 @@
 #pragma once
 
-#include <cstdint>
 #include <optional>
 #include <vector>
+
+#include "inspect/counts/frame_span.h"
 
 // The two files that are compared, called A and B, and the frames that they hold. Nothing fails but
 // for want of memory.
@@ -11,25 +12,15 @@ namespace orvane {
 
 enum class WhichFile { kA, kB };
 
-// Numbers of frames, both ends included; none when the last is before the first.
-struct FrameNumbers {
-  std::int64_t first = 0;
-  std::int64_t last = 0;
-
-  [[nodiscard]] bool IsEmpty() const { return last < first; }
-};
-
 struct FramesOfOne {
   WhichFile file = WhichFile::kA;
-  FrameNumbers frames;
+  FrameSpan frames;
 };
 
 // Frames of `a` that are also in `b`; nothing when there are none.
-[[nodiscard]] std::optional<FrameNumbers> CommonFrames(const FrameNumbers& a,
-                                                       const FrameNumbers& b);
+[[nodiscard]] std::optional<FrameSpan> CommonFrames(const FrameSpan& a, const FrameSpan& b);
 
 // Frames of one of them alone, those of `a` first.
-[[nodiscard]] std::vector<FramesOfOne> FramesOfOneAlone(const FrameNumbers& a,
-                                                        const FrameNumbers& b);
+[[nodiscard]] std::vector<FramesOfOne> FramesOfOneAlone(const FrameSpan& a, const FrameSpan& b);
 
 }  // namespace orvane

@@ -15,7 +15,7 @@ struct Side {
   std::vector<HierarchyEntry> hierarchy{};
   std::unordered_map<const HtrSegment*, std::size_t> entries{};
   std::size_t attached = 0;  // entries before this hang from a root
-  FrameNumbers frames{};     // those that some segment holds
+  FrameSpan frames{};        // those that some segment holds
 
   bool IsAttached(const HtrSegment* segment) const { return entries.at(segment) < attached; }
 };
@@ -27,14 +27,11 @@ Side Survey(HtrDocument& document) {
   for (const HtrSegment* segment : ListUnattached(document, side.hierarchy)) {
     side.hierarchy.push_back({segment, side.hierarchy.size(), 0});
   }
-  std::size_t most_frames = 0;
   for (std::size_t entry = 0; entry < side.hierarchy.size(); ++entry) {
     const HtrSegment* segment = side.hierarchy[entry].segment;
     side.entries.emplace(segment, entry);
-    most_frames = std::max(most_frames, segment->GetNumFrames());
   }
-  const std::int64_t first = document.GetStartFrame();
-  side.frames = {first, first + static_cast<std::int64_t>(most_frames) - 1};
+  side.frames = FramesHeld(document);
   return side;
 }
 
@@ -89,7 +86,7 @@ class StructureComparer {
   // A segment may hold fewer frames than others of its file.
   void CompareFramesOf(const HtrSegment& in_a, const HtrSegment& in_b) {
     if (!result_.common_frames) return;
-    const FrameNumbers common = *result_.common_frames;
+    const FrameSpan common = *result_.common_frames;
     const auto last_within = [&common](std::int64_t last) {
       return std::clamp(last, common.first - 1, common.last);
     };

@@ -31,7 +31,7 @@ struct DifferentParent {
 struct OnlyFrames {
   WhichFile file = WhichFile::kA;
   std::string segment;  // empty: all of them
-  FrameNumbers frames;
+  FrameSpan frames;
 };
 
 struct StructureDifferences {
@@ -61,7 +61,7 @@ struct StructureComparison {
   std::vector<SegmentPair> pairs;
 
   // Frames that some segment of each file holds; nothing when there are none.
-  std::optional<FrameNumbers> common_frames;
+  std::optional<FrameSpan> common_frames;
 
   // Neither file holds a frame.
   bool at_rest = false;

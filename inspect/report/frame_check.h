@@ -6,17 +6,12 @@
 #include <string_view>
 
 #include "inspect/check/checked_file.h"
+#include "inspect/counts/frame_span.h"
 
 // What is to be said of the frames that an import asks a file for, and of those that it gives keys
 // in the scene. The findings have no place in the file. Nothing fails but for want of memory.
 
 namespace orvane {
-
-// Frames in a row, by their numbers, both ends included.
-struct FrameSpan {
-  std::int64_t first = 0;
-  std::int64_t last = 0;
-};
 
 struct FrameCircumstances {
   std::optional<FrameSpan> held{};    // the file's frames, as they are numbered; nothing for none

@@ -1,0 +1,28 @@
+#include "inspect/counts/frame_span.h"
+
+#include <cstddef>
+
+namespace orvane {
+namespace {
+
+FrameSpan Numbered(std::int64_t first, std::size_t count) {
+  return {first, first + static_cast<std::int64_t>(count) - 1};
+}
+
+}  // namespace
+
+FrameSpan FramesHeld(const HtrDocument& document) {
+  std::size_t most = 0;
+  for (const HtrSegment& segment : document.segments()) {
+    most = std::max(most, segment.GetNumFrames());
+  }
+  return Numbered(document.GetStartFrame(), most);
+}
+
+// All markers have a sample in every frame, be it a dropout.
+FrameSpan FramesHeld(const TRCDocument& document) {
+  const bool has_none = document.MarkerCount() == 0;
+  return Numbered(document.FirstFrame(), has_none ? 0 : document.MarkerAt(0)->SampleCount());
+}
+
+}  // namespace orvane

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <algorithm>
+#include <cstdint>
+#include <optional>
+
+#include "formats/htr/document.h"
+#include "formats/trc/document.h"
+
+// Frames in a row, by their numbers. Nothing fails but for want of memory.
+
+namespace orvane {
+
+// Both ends included; none when the last comes before the first.
+struct FrameSpan {
+  std::int64_t first = 1;
+  std::int64_t last = 0;
+
+  [[nodiscard]] std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
+  [[nodiscard]] bool IsEmpty() const { return last < first; }
+};
+
+// The frames that are in both.
+[[nodiscard]] inline FrameSpan Overlap(const FrameSpan& left, const FrameSpan& right) {
+  return {std::max(left.first, right.first), std::min(left.last, right.last)};
+}
+
+// The frames that a file holds, as opposed to those that its header announces, as the reader
+// numbers them; those of the longest segment.
+[[nodiscard]] FrameSpan FramesHeld(const HtrDocument& document);
+[[nodiscard]] FrameSpan FramesHeld(const TRCDocument& document);
+
+}  // namespace orvane
