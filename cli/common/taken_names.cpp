@@ -1,18 +1,22 @@
 #include "cli/common/taken_names.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <compare>
 #include <map>
-#include <utility>
 
 #include "cli/common/choice.h"
 #include "cli/common/messages.h"
+#include "formats/mnm/mapping_lines.h"
 #include "inspect/check/findings.h"
+#include "inspect/mapping/marker_words.h"
 
 namespace cli {
 namespace {
 
 using orvane::AmbiguousNames;
 using orvane::CountOf;
+using orvane::InSmallLetters;
 using orvane::NameMatch;
 using orvane::NameMatching;
 using orvane::Quote;
@@ -23,15 +27,32 @@ NameMatching MatchingNamed(const std::string& word) {
   return word == "case" ? NameMatching::kCase : NameMatching::kSubject;
 }
 
+// How a name differs from that of the mapping.
+struct Difference {
+  std::string subject;  // before the marker; empty when neither has another than the other one
+  std::string mapped;
+  bool is_case = false;  // of letters alone
+
+  auto operator<=>(const Difference&) const = default;
+};
+
+Difference DifferenceOf(const std::string& marker, const std::string& mapped) {
+  return {SubjectBeside(marker, mapped), SubjectBeside(mapped, marker),
+          InSmallLetters(marker) == InSmallLetters(mapped)};
+}
+
 // "39 names of "anna:" are taken for those of "walker:"".
-std::string Describe(std::size_t count, const std::string& subject, const std::string& mapped) {
-  const bool is_one = count == 1;
+std::string Describe(std::size_t count, const Difference& difference) {
+  const auto& [subject, mapped, is_case] = difference;
+  const bool has_none = subject.empty() && mapped.empty();
   std::string text = CountOf(count, "name");
   if (!subject.empty()) text += " of " + Quote(subject);
   if (subject.empty() && !mapped.empty()) text += " without a subject";
-  text += is_one ? " is taken for that" : " are taken for those";
+  if (has_none && !is_case) text += " with blanks";
+  text += count == 1 ? " is taken for that" : " are taken for those";
   if (!mapped.empty()) return text + " of " + Quote(mapped);
-  return text + (subject.empty() ? " in another case of letters" : " without a subject");
+  if (!has_none) return text + " without a subject";
+  return text + (is_case ? " in another case of letters" : " with underscores");
 }
 
 // "a" or "b".
@@ -53,23 +74,31 @@ std::string Describe(const AmbiguousNames& names) {
          " of the mapping of one";
 }
 
+std::string AdviceFor(const AmbiguousNames& names) {
+  if (std::all_of(names.markers.begin(), names.markers.end(), orvane::CannotBeMapped)) {
+    return "No mapping can name a marker with blanks: without them in the file, an entry says "
+           "which.";
+  }
+  return "An entry for one of them in the mapping says which; \"orvane map suggest --subject "
+         "NAME\" makes a mapping of one subject.";
+}
+
 }  // namespace
 
 CLI::Option* AddNamesFlag(CLI::App& verb, NameMatching& names) {
   return AddChoice(verb, "--names", {"exact", "case", "subject"},
                    "Which names are those of the mapping: \"case\" takes other capital letters for "
-                   "the same, \"subject\" also another subject before the marker, or none (exact)",
+                   "the same, \"subject\" also another subject before the marker, or none, and "
+                   "blanks and underscores for colons (exact)",
                    [&names](const std::string& word) { names = MatchingNamed(word); });
 }
 
 std::string DescribeTaken(const NameMatch& match) {
-  std::map<std::pair<std::string, std::string>, std::size_t> counts;  // by both subjects
-  for (const auto& [marker, mapped] : match.taken) {
-    ++counts[{SubjectBeside(marker, mapped), SubjectBeside(mapped, marker)}];
-  }
+  std::map<Difference, std::size_t> counts;
+  for (const auto& [marker, mapped] : match.taken) ++counts[DifferenceOf(marker, mapped)];
   std::string text;
-  for (const auto& [subjects, count] : counts) {
-    text += (text.empty() ? "" : ", and ") + Describe(count, subjects.first, subjects.second);
+  for (const auto& [difference, count] : counts) {
+    text += (text.empty() ? "" : ", and ") + Describe(count, difference);
   }
   return text;
 }
@@ -86,9 +115,7 @@ std::optional<Complaint> FindAmbiguity(const std::string& file, const NameMatch&
   if (match.ambiguous.size() > 1) {
     text += ", the first of " + CountOf(match.ambiguous.size(), "such case");
   }
-  return Complaint{file, text,
-                   "An entry for one of them in the mapping says which; \"orvane map suggest "
-                   "--subject NAME\" makes a mapping of one subject."};
+  return Complaint{file, text, AdviceFor(match.ambiguous.front())};
 }
 
 void WriteTaken(JsonWriter& json, const NameMatch& match) {

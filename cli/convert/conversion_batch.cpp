@@ -10,17 +10,15 @@
 #include <system_error>
 #include <utility>
 
-#include "cli/common/cut_frames.h"
 #include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/scratch_copy.h"
 #include "cli/convert/batch_log_reader.h"
+#include "cli/convert/changed_input.h"
 #include "cli/convert/conversion_plan.h"
 #include "cli/convert/trc_worth.h"
 #include "formats/text/files.h"
-#include "formats/trc/document.h"
-#include "inspect/report/cut_check.h"
 #include "inspect/summary/bvk_summary.h"
 #include "platform/input_file.h"
 #include "platform/interrupt.h"
@@ -153,37 +151,20 @@ class BatchConversion {
     }
   }
 
-  // Whether the plug-in is given another file than the user's.
-  bool IsCopied(const Conversion& conversion) const { return conversion.z_up || order_.cut; }
-
-  // The bytes of that file.
-  std::string ChangedBytes(const Conversion& conversion) const {
-    std::string bytes = FileBytes(conversion.input);
-    orvane::TRCDocument document;
-    // What the reader refuses is left to the plug-in, which tells why.
-    if (order_.cut && document.ReadBytes(bytes, false).empty()) {
-      const orvane::FrameSpan frames = Overlap(*order_.cut, FramesHeld(document));
-      if (!frames.IsEmpty()) bytes = CutOut(conversion.input, bytes, document, frames);
-    }
-    return conversion.z_up ? TurnedUp(conversion.input, bytes) : bytes;
-  }
-
   // Makes the copies of inputs that are to be changed before. What cannot be is settled, and no
   // more in `run`.
   void CopyInputs(std::vector<Conversion*>& run, const platform::ScratchFolder& scratch) const {
     std::erase_if(run, [this, &scratch](Conversion* conversion) {
-      if (!IsCopied(*conversion)) return false;
+      if (!IsChanged(*conversion, order_)) return false;
       try {
-        const std::string changed = ChangedBytes(*conversion);
+        const std::string changed = ChangedBytes(*conversion, order_);
         const std::string copy = SourceOf(*conversion, scratch);
         std::error_code error;  // is met again by whoever writes into it
         fs::create_directory(platform::PathOf(copy).parent_path(), error);
         WriteCopy(copy, conversion->input, changed);
         return false;
       } catch (const Failure& failure) {
-        conversion->status = failure.status == ExitStatus::kRefused ? ConversionStatus::kRefused
-                                                                    : ConversionStatus::kFailed;
-        conversion->errors = failure.complaints;
+        SettleUnchanged(*conversion, failure);
         return true;
       }
     });
@@ -191,7 +172,7 @@ class BatchConversion {
 
   // What the plug-in reads: the input, or the copy of it.
   std::string SourceOf(const Conversion& conversion, const platform::ScratchFolder& scratch) const {
-    if (!IsCopied(conversion)) return conversion.source;
+    if (!IsChanged(conversion, order_)) return conversion.source;
     const fs::path name = platform::PathOf(conversion.source).filename();
     return PathForPanel(platform::TextOf(platform::PathOf(scratch.Path() + kCopiesFolder) / name));
   }
@@ -200,7 +181,7 @@ class BatchConversion {
   std::string WithInput(std::string log, const Conversion& conversion,
                         const platform::ScratchFolder& scratch) const {
     const std::string copy = SourceOf(conversion, scratch);
-    for (std::size_t at = log.find(copy); at != std::string::npos && IsCopied(conversion);
+    for (std::size_t at = log.find(copy); at != std::string::npos && IsChanged(conversion, order_);
          at = log.find(copy, at + conversion.source.size())) {
       log.replace(at, copy.size(), conversion.source);
     }

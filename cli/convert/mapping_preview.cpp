@@ -5,6 +5,7 @@
 #include "cli/common/messages.h"
 #include "cli/common/report.h"
 #include "cli/common/taken_names.h"
+#include "cli/convert/changed_input.h"
 #include "cli/convert/trc_worth.h"
 #include "formats/trc/document.h"
 #include "inspect/check/marker_naming.h"
@@ -46,6 +47,7 @@ class Previewer {
       return preview;
     }
     MatchNames(conversion, document, naming_, order_.names);
+    RequireChangeable(conversion);
     for (const orvane::TRCMarker& marker : document.markers()) {
       const std::string& name = conversion.match.NameInMapping(marker.Name());
       preview.markers.push_back({marker.Name(), naming_.NameFor(name)});
@@ -59,6 +61,16 @@ class Previewer {
     const bool is_unwanted = conversion.is_empty && !order_.allow_empty;
     if (is_unwanted && conversion.status == ConversionStatus::kPlanned) {
       conversion.status = ConversionStatus::kEmpty;
+    }
+  }
+
+  // What is to be changed before it is converted could be refused then.
+  void RequireChangeable(Conversion& conversion) const {
+    if (conversion.status != ConversionStatus::kPlanned || !IsChanged(conversion, order_)) return;
+    try {
+      (void)ChangedBytes(conversion, order_);
+    } catch (const Failure& failure) {
+      SettleUnchanged(conversion, failure);
     }
   }
 

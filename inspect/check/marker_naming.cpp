@@ -1,5 +1,6 @@
 #include "inspect/check/marker_naming.h"
 
+#include "formats/mnm/mapping_lines.h"
 #include "formats/text/files.h"
 #include "inspect/mapping/mapping_roles.h"
 
@@ -28,6 +29,7 @@ std::string MarkerNaming::MappingFor(const NameMatch& match) const {
   std::string bytes = bytes_;
   if (!bytes.empty() && !bytes.ends_with('\n')) bytes += '\n';
   for (const auto& [marker, mapped] : match.taken) {
+    if (CannotBeMapped(marker)) continue;
     bytes += NameFor(mapped).value_or(mapped) + '\t' + marker + "\t\n";
   }
   return bytes;

@@ -28,7 +28,7 @@ class MarkerNaming {
   [[nodiscard]] NameMatch Match(std::span<const std::string> markers, NameMatching how) const;
 
   // The bytes of a mapping file that is the same, and has entries for the markers, too, that are
-  // taken for those that it names.
+  // taken for those that it names, as far as a mapping can name them.
   // REQUIRES: a file is loaded, and `match` is of it.
   [[nodiscard]] std::string MappingFor(const NameMatch& match) const;
 

@@ -17,6 +17,14 @@ namespace {
 
 constexpr char kColon = ':';
 constexpr char kUnderscore = '_';
+constexpr char kBlank = ' ';
+
+// `name` in small letters and with underscores for its blanks, which no mapping can name.
+std::string InOneWord(std::string_view name) {
+  std::string word = InSmallLetters(name);
+  std::replace(word.begin(), word.end(), kBlank, kUnderscore);
+  return word;
+}
 
 // "Left_" before a place is the side of the body, and no subject.
 bool IsSideOfTheBody(std::string_view prefix) {
@@ -36,14 +44,14 @@ std::string_view FirstPrefixOf(std::string_view name) {
 
 struct Name {
   std::string text;     // as it is written
-  std::string small;    // in small letters
+  std::string word;     // in one word of small letters
   std::size_t subject;  // how much of it is the subject for sure, with what ends it
   bool is_free = true;  // whether it is neither taken nor ambiguous
 
-  [[nodiscard]] bool HasColon() const { return subject > 0 && small[subject - 1] == kColon; }
-  [[nodiscard]] std::string Marker() const { return small.substr(subject); }
+  [[nodiscard]] bool HasColon() const { return subject > 0 && word[subject - 1] == kColon; }
+  [[nodiscard]] std::string Marker() const { return word.substr(subject); }
   [[nodiscard]] std::string Subject() const {
-    return subject == 0 ? "" : small.substr(0, subject - 1);
+    return subject == 0 ? "" : word.substr(0, subject - 1);
   }
 };
 
@@ -53,8 +61,9 @@ class Side {
   explicit Side(std::span<const std::string> names) {
     std::unordered_set<std::string_view> known;
     for (const std::string& name : names) {
-      if (CannotBeMapped(name) || !known.insert(name).second) continue;
-      names_.push_back({name, InSmallLetters(name), DivideName(name).subject.size()});
+      std::string word = InOneWord(name);
+      if (CannotBeMapped(word) || !known.insert(name).second) continue;
+      names_.push_back({name, std::move(word), DivideName(name).subject.size()});
     }
     DivideByUnderscore();
   }
@@ -69,11 +78,11 @@ class Side {
       if (name.subject == 0) undivided.push_back(&name);
     }
     if (undivided.size() < 2) return;
-    const std::string prefix(FirstPrefixOf(undivided.front()->small));
+    const std::string prefix(FirstPrefixOf(undivided.front()->word));
     const bool is_shared =
         std::all_of(undivided.begin(), undivided.end(), [&prefix](const Name* name) {
-          const std::string_view small = name->small;
-          return small.starts_with(prefix) && HasLetter(small.substr(prefix.size()));
+          const std::string_view word = name->word;
+          return word.starts_with(prefix) && HasLetter(word.substr(prefix.size()));
         });
     if (!is_shared) return;
     for (Name* name : undivided) name->subject = prefix.size();
@@ -88,7 +97,12 @@ using Keys = std::vector<std::string>;
 using KeysOf = Keys (*)(const Name&, bool is_mapped);
 
 Keys ExactKeys(const Name& name, bool /*is_mapped*/) { return {name.text}; }
-Keys CaseKeys(const Name& name, bool /*is_mapped*/) { return {name.small}; }
+Keys CaseKeys(const Name& name, bool /*is_mapped*/) { return {InSmallLetters(name.text)}; }
+Keys WordKeys(const Name& name, bool /*is_mapped*/) {
+  Keys keys = {name.word};
+  std::replace(keys[0].begin(), keys[0].end(), kColon, kUnderscore);
+  return keys;
+}
 Keys MarkerKeys(const Name& name, bool /*is_mapped*/) {
   return name.Marker().empty() ? Keys() : Keys{name.Marker()};
 }
@@ -102,10 +116,10 @@ Keys UnderscoreKeys(const Name& name, bool is_mapped) {
   if (name.HasColon()) return keys;
   std::size_t begin = 0;
   for (std::size_t words = 0; words < kMostWords; ++words) {
-    const std::size_t end = name.small.find(kUnderscore, begin);
+    const std::size_t end = name.word.find(kUnderscore, begin);
     if (end == std::string::npos) break;
-    const std::string rest = name.small.substr(end + 1);
-    if (IsSideOfTheBody(name.small.substr(begin, end + 1 - begin))) break;
+    const std::string rest = name.word.substr(end + 1);
+    if (IsSideOfTheBody(name.word.substr(begin, end + 1 - begin))) break;
     if (end > 0 && HasLetter(rest)) keys.push_back(kUndivided[is_mapped ? 1 : 0] + rest);
     begin = end + 1;
   }
@@ -166,6 +180,7 @@ class Matching {
     Match(ExactKeys, Subjects::kSame);
     if (how != NameMatching::kExact) Match(CaseKeys, Subjects::kSame);
     if (how == NameMatching::kSubject) {
+      Match(WordKeys, Subjects::kSame);
       PassOverOwnSubjects();
       Match(MarkerKeys, Subjects::kAny);
       Match(UnderscoreKeys, Subjects::kAny);
@@ -279,6 +294,12 @@ const std::string& NameMatch::NameInMapping(const std::string& marker) const {
   return found == taken.end() ? marker : found->second;
 }
 
+std::map<std::string, std::string> NameMatch::Unmappable() const {
+  std::map<std::string, std::string> unmappable = taken;
+  std::erase_if(unmappable, [](const auto& pair) { return !CannotBeMapped(pair.first); });
+  return unmappable;
+}
+
 NameMatch MatchNames(std::span<const std::string> mapped, std::span<const std::string> markers,
                      NameMatching how) {
   return Matching(mapped, markers).Run(how);
@@ -286,13 +307,14 @@ NameMatch MatchNames(std::span<const std::string> mapped, std::span<const std::s
 
 std::string SubjectBeside(const std::string& name, const std::string& other) {
   const auto ends_subject = [](char letter) { return letter == kColon || letter == kUnderscore; };
-  const std::string small = InSmallLetters(other);
-  for (std::size_t at = 0; at < name.size(); ++at) {
-    if (at > 0 && !ends_subject(name[at - 1])) continue;
-    const std::string marker = InSmallLetters(std::string_view(name).substr(at));
-    if (!small.ends_with(marker)) continue;
-    const std::size_t before = small.size() - marker.size();
-    if (before == 0 || ends_subject(small[before - 1])) return name.substr(0, at);
+  const std::string word = InOneWord(name);
+  const std::string other_word = InOneWord(other);
+  for (std::size_t at = 0; at < word.size(); ++at) {
+    if (at > 0 && !ends_subject(word[at - 1])) continue;
+    const std::string_view marker = std::string_view(word).substr(at);
+    if (!other_word.ends_with(marker)) continue;
+    const std::size_t before = other_word.size() - marker.size();
+    if (before == 0 || ends_subject(other_word[before - 1])) return name.substr(0, at);
   }
   return "";
 }

@@ -6,8 +6,8 @@
 #include <vector>
 
 // Which marker of a capture is the one that a mapping names otherwise: by another case of letters,
-// or behind the name of another subject. Letters are those of ASCII. Nothing fails but for want of
-// memory.
+// with a blank or an underscore for a colon, or behind the name of another subject. Letters are
+// those of ASCII. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -15,7 +15,8 @@ namespace orvane {
 enum class NameMatching {
   kExact,    // they are written in the same bytes
   kCase,     // or differ in the case of letters alone
-  kSubject,  // or, so compared, in what stands before the marker: another subject, or none
+  kSubject,  // or, so compared and with a blank, an underscore and a colon for the same, in what
+             // stands before the marker: another subject, or none
 };
 
 // Names that could be the same in several ways, in the order of the mapping and of the capture.
@@ -33,12 +34,16 @@ struct NameMatch {
   // The name by which the mapping is to be asked for `marker`: its own unless it is taken for
   // another.
   [[nodiscard]] const std::string& NameInMapping(const std::string& marker) const;
+
+  // Those of `taken` whose markers no mapping can name, as they are.
+  [[nodiscard]] std::map<std::string, std::string> Unmappable() const;
 };
 
 // Which of `markers` are to be taken for which of `mapped`, the names of markers in a mapping. Both
-// may hold a name several times. Markers that no mapping can name are passed over. A surer way goes
-// first: the same bytes, then the case of letters, then a subject before a colon, then one before
-// an underscore. A subject of the mapping that the capture has itself is no other one.
+// may hold a name several times. Markers that no mapping can name, with underscores for their
+// blanks, are passed over. A surer way goes first: the same bytes, then the case of letters, then
+// blanks, underscores and colons for each other, then a subject before a colon, then one before an
+// underscore or a blank. A subject of the mapping that the capture has itself is no other one.
 [[nodiscard]] NameMatch MatchNames(std::span<const std::string> mapped,
                                    std::span<const std::string> markers, NameMatching how);
 

@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 
 #include <nlohmann/json.hpp>
+#include <tuple>
 
 #include "tests/cli/convert/convert_test.h"
 
@@ -68,7 +69,8 @@ TEST_F(NamesOfMappingTest, WhatIsWrittenIsWhatTheMappingsOwnSubjectWouldGet) {
     return text.erase(moment, text.find('\n', moment) - moment);
   };
   const std::string own = written("walker:");
-  for (const std::string subject : {"anna:", "Anna:Lee:", "", "anna_", "Anna_Lee_"}) {
+  for (const std::string subject : {"anna:", "Anna:Lee:", "", "anna_", "Anna_Lee_", "walker_",
+                                    "walker ", "Walker ", "anna ", "Anna Lee "}) {
     EXPECT_EQ(written(subject), own) << subject;
   }
 }
@@ -85,7 +87,14 @@ TEST_F(NamesOfMappingTest, OnlyAsFarAsTheFlagSays) {
       {"anna.trc", "case", "--names subject takes 2 names for those of the mapping, and", "-"},
       {"small.trc", "exact", "\"Walker:lfhd\"", "1"},
       {"small.trc", "case", "note: 1 name is taken for that in another case of letters\n", "2"},
-      {"small.trc", "subject", "note: 1 name is taken for that in another case of letters\n", "2"}};
+      {"small.trc", "subject", "note: 1 name is taken for that in another case of letters\n", "2"},
+      {"blanks.trc", "exact", "--names subject takes 2 names for those of the mapping, and", "-"},
+      {"blanks.trc", "case", "--names subject takes 2 names for those of the mapping, and", "-"},
+      {"blanks.trc", "subject",
+       "note: 1 name of \"Walker \" is taken for that of \"walker:\", and 1 name of \"walker_\" is "
+       "taken for that of \"walker:\"\n",
+       "2"}};
+  WriteMarkers("blanks.trc", {"Walker lfhd", "walker_C7"});
   for (const Row& row : rows) {
     const ProgramResult result = ConvertBy(row.names, {row.file, "--force", "--json"});
     EXPECT_THAT(result.error, HasSubstr(row.told)) << row.file << ' ' << row.names;
@@ -109,6 +118,79 @@ TEST_F(NamesOfMappingTest, WhatIsAmbiguousIsRefusedFileByFile) {
   EXPECT_FALSE(Exists("two.bvk"));
   for (const std::string file : {"anna.bvk", "small.bvk"}) {
     EXPECT_THAT(ReadText(file), HasSubstr("$NumMarkers 2\n"));
+  }
+}
+
+TEST_F(NamesOfMappingTest, BlanksAndUnderscoresForOneColonAreRefused) {
+  const std::string advice =
+      "  An entry for one of them in the mapping says which; \"orvane map suggest --subject NAME\" "
+      "makes a mapping of one subject.\n";
+  const std::string no_entry =
+      "  No mapping can name a marker with blanks: without them in the file, an entry says "
+      "which.\n";
+  const std::vector<std::tuple<std::string, std::string, std::string>> rows = {
+      {"walker_LFHD", "walker LFHD", advice},
+      {"walker LFHD", "walker_LFHD", advice},
+      {"walker lfhd", "walker LFHD", no_entry},
+      {"anna LFHD", "bob LFHD", no_entry},
+      {"anna LFHD", "anna:LFHD", ""}};  // the colon is surer
+  for (const auto& [one, other, told] : rows) {
+    WriteMarkers("both.trc", {one, other, "C7"});
+    for (const bool is_dry : {true, false}) {
+      const ProgramResult result =
+          ConvertBy("subject", {"both.trc", is_dry ? "--dry-run" : "--json"});
+      EXPECT_EQ(result.status, told.empty() ? 0 : 1) << one;
+      const std::string text = "orvane: both.trc: \"walker:LFHD\" of the mapping could be \"" +
+                               one + "\" or \"" + other + "\"\n" + told;
+      EXPECT_EQ(result.error.find(text) != std::string::npos, !told.empty()) << result.error;
+    }
+  }
+}
+
+TEST_F(NamesOfMappingTest, BlanksForUnderscoresAreSaid) {
+  Write("walker.mnm", "LFHD\tLeft_Head\nRFHD\tRight_Head\nC7\tWalker_Neck\n");
+  WriteMarkers("take.trc", {"Left Head", "right head", "anna_neck"});
+  EXPECT_THAT(ConvertBy("subject", {"take.trc"}).error,
+              StartsWith("orvane: take.trc: note: 2 names with blanks are taken for those with "
+                         "underscores\n"));
+}
+
+// Their copies, and the files beside them that need none, are of one run of the plug-in.
+TEST_F(NamesOfMappingTest, NamesWithBlanksAreConvertedAmongOthers) {
+  WriteMarkers("blanks.trc", {"walker LFHD", "walker C7", "Left over"});
+  WriteMarkers("walker.trc", {"walker:LFHD", "walker:C7"});
+  const ProgramResult result =
+      ConvertBy("subject", {"anna.trc", "blanks.trc", "walker.trc", "--jobs", "1", "--json"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  const json files = json::parse(result.output)["files"];
+  for (const std::size_t file : {0, 1, 2}) EXPECT_EQ(files[file]["markers_kept"], 2) << file;
+  EXPECT_EQ(files[1]["names_taken"], json::parse(R"([
+      {"marker": "walker C7", "taken_for": "walker:C7"},
+      {"marker": "walker LFHD", "taken_for": "walker:LFHD"}])"));
+  EXPECT_EQ(files[1]["findings"][0]["code"], "mnm-marker-unmappable");
+  EXPECT_EQ(files[1]["findings"][0]["names"], json::array({"Left over"}));
+  EXPECT_THAT(ReadText("blanks.bvk"), HasSubstr("$Filename   blanks\n"));
+  EXPECT_THAT(test::Slashed(ReadText("ConvertBVKLog.txt")),
+              HasSubstr(test::Slashed(Absolute("blanks.trc"))));
+  EXPECT_THAT(ReadText("ConvertBVKLog.txt"), Not(HasSubstr("copies")));
+  EXPECT_THAT(Read("blanks.trc"), HasSubstr("walker LFHD"));
+  EXPECT_THAT(ConvertBy("subject", {"blanks.trc", "--dry-run"}).output,
+              EndsWith("  rename  walker LFHD to LFHD\n"
+                       "  rename  walker C7 to C7\n"
+                       "  drop    Left over\n"));
+}
+
+TEST_F(NamesOfMappingTest, WhatCannotBeRenamedIsRefusedAndForeseen) {
+  WriteMarkers("long.trc", {"walker LFHD", std::string(10100, 'x')});
+  Write("walker.mnm", "LFHD\t" + std::string(200, 'y') + ":LFHD\n");
+  for (const std::string flag : {"--dry-run", "--force"}) {
+    const ProgramResult result = ConvertBy("subject", {"long.trc", flag, "--no-report"});
+    EXPECT_EQ(result.status, 1) << flag;
+    EXPECT_THAT(result.error,
+                HasSubstr("orvane: long.trc: --names cannot rename its markers: their "
+                          "line is read in pieces\n"))
+        << flag;
+    EXPECT_THAT(result.output, HasSubstr("refused")) << flag;
   }
 }
 

@@ -190,6 +190,23 @@ TEST_F(MapLintTest, TakesNamesForThoseOfTheMapping) {
   EXPECT_EQ(Orvane({"map", "lint", "m.mnm", "--names", "case"}).status, 2);
 }
 
+TEST_F(MapLintTest, TakesBlanksAndUnderscoresForColons) {
+  Write("m.mnm", "LFHD\twalker:LFHD\nLBHD\twalker:LBHD\n");
+  const auto lint = [this](const std::vector<std::string>& markers) {
+    const test::TrcText text{.markers = markers, .frames = {{"1\t2\t3", "1\t2\t3"}}};
+    Write("take.trc", text.Text());
+    return Orvane({"map", "lint", "m.mnm", "take.trc", "--names", "subject"});
+  };
+  const ProgramResult result = lint({"walker LFHD", "walker_LBHD"});
+  EXPECT_EQ(result.error,
+            "orvane: take.trc: note: 1 name of \"walker \" is taken for that of \"walker:\", and 1 "
+            "name of \"walker_\" is taken for that of \"walker:\"\n");
+  EXPECT_EQ(result.output, "m.mnm: clean: 2 markers mapped\ntake.trc: clean: 2 markers\n");
+  EXPECT_THAT(lint({"walker LFHD", "walker_LFHD"}).error,
+              HasSubstr("\"walker:LFHD\" of the mapping could be \"walker LFHD\" or "
+                        "\"walker_LFHD\"\n"));
+}
+
 TEST_F(MapLintTest, RefusesNamesThatCouldBeSeveral) {
   Write("m.mnm", "LFHD\twalker:LFHD\n");
   Write("take.trc",
