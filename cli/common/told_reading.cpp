@@ -2,12 +2,14 @@
 
 #include <utility>
 
+#include "cli/common/cut_frames.h"
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
 #include "formats/htr/reader.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
+#include "inspect/report/cut_check.h"
 
 namespace cli {
 namespace {
@@ -15,6 +17,7 @@ namespace {
 using orvane::Action;
 using orvane::CheckedFile;
 using orvane::FileReport;
+using orvane::FrameSpan;
 using orvane::HtrDocument;
 using orvane::TRCDocument;
 
@@ -35,16 +38,53 @@ CheckedFile Check(const std::string& file, std::string_view bytes, TRCDocument& 
   return orvane::CheckTrc(file, bytes, document);
 }
 
+std::string Read(std::string_view bytes, HtrDocument& document) {
+  return orvane::ReadHtrBytes(document, bytes, true);
+}
+std::string Read(std::string_view bytes, TRCDocument& document) {
+  return document.ReadBytes(bytes, false);
+}
+
+// Of frames that are not there the refusal tells.
+constexpr char kToldByRefusal[] = "cut-range-outside";
+
+template <typename Document>
+FileReport ReportOnReading(CheckedFile& checked, const Document& document,
+                           const std::optional<FrameSpan>& cut) {
+  orvane::ActionOptions options;
+  if (cut && checked.refusal.empty() && WhyEmpty(document).empty()) {
+    CheckCut(*cut, FramesHeld(document), checked);
+    options.frames = orvane::AskedFrames::kHeld;
+  }
+  return ReportOn(checked, Action::kInspect, options);
+}
+
+// As the reader takes the file, it takes what is cut out of it.
+template <typename Document>
+void CutDown(Document& document, const std::string& file, std::string_view bytes,
+             const FrameSpan& asked) {
+  const FrameSpan held = FramesHeld(document);
+  const FrameSpan frames = Overlap(asked, held);
+  if (frames.IsEmpty()) {
+    throw Failure{ExitStatus::kRefused, {ComplainAboutCut(file, asked, held)}};
+  }
+  (void)Read(CutOut(file, bytes, document, frames), document);
+}
+
 template <typename Document>
 FileReport CheckAndTell(Document& document, const std::string& file, std::string_view bytes,
-                        const ReportManner& manner, std::vector<FileReport> reports = {}) {
+                        const ReportManner& manner, std::vector<FileReport> reports,
+                        const std::optional<FrameSpan>& cut) {
   try {
-    const CheckedFile checked = Check(file, bytes, document);
-    reports.push_back(ReportOn(checked, Action::kInspect));
-    Tell(reports.back(), manner);
+    CheckedFile checked = Check(file, bytes, document);
+    reports.push_back(ReportOnReading(checked, document, cut));
+    const FileReport told = reports.back().Without(kToldByRefusal);
+    Tell(told, manner);
     const std::string why = checked.refusal.empty() ? WhyEmpty(document) : checked.refusal;
-    if (why.empty()) return reports.back();
+    const bool is_outside = told.findings.size() < reports.back().findings.size();
+    if (why.empty() && !is_outside) return reports.back();
     WriteReportFile(reports, manner);
+    if (why.empty()) return reports.back();
     // An error that has been told is why nothing was found.
     const bool is_told = checked.refusal.empty() && reports.back().Count(kError) > 0;
     if (is_told) throw Failure{ExitStatus::kRefused, {}};
@@ -62,22 +102,32 @@ void RequireTaken(const std::string& file, FileKind kind, const std::string& why
 }  // namespace
 
 FileReport ReadAndTell(HtrDocument& document, const std::string& file, Motion motion,
-                       const ReportManner& manner, std::vector<FileReport> reports) {
+                       const ReportManner& manner, std::vector<FileReport> reports,
+                       const std::optional<FrameSpan>& cut) {
   const std::string bytes = FileBytes(file);
+  FileReport report;
   if (motion == Motion::kRead && !manner.omitted) {
-    return CheckAndTell(document, file, bytes, manner, std::move(reports));
+    report = CheckAndTell(document, file, bytes, manner, std::move(reports), cut);
+  } else {
+    const std::string error = orvane::ReadHtrBytes(document, bytes, motion == Motion::kRead);
+    RequireTaken(file, FileKind::kHtr, error.empty() ? WhyEmpty(document) : error);
   }
-  const std::string error = orvane::ReadHtrBytes(document, bytes, motion == Motion::kRead);
-  RequireTaken(file, FileKind::kHtr, error.empty() ? WhyEmpty(document) : error);
-  return {};
+  if (cut) CutDown(document, file, bytes, *cut);
+  return report;
 }
 
 FileReport ReadAndTell(TRCDocument& document, const std::string& file, std::string_view bytes,
-                       const ReportManner& manner, std::vector<FileReport> reports) {
-  if (!manner.omitted) return CheckAndTell(document, file, bytes, manner, std::move(reports));
-  const std::string error = document.ReadBytes(bytes, false);
-  RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
-  return {};
+                       const ReportManner& manner, std::vector<FileReport> reports,
+                       const std::optional<FrameSpan>& cut) {
+  FileReport report;
+  if (!manner.omitted) {
+    report = CheckAndTell(document, file, bytes, manner, std::move(reports), cut);
+  } else {
+    const std::string error = document.ReadBytes(bytes, false);
+    RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
+  }
+  if (cut) CutDown(document, file, bytes, *cut);
+  return report;
 }
 
 }  // namespace cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -7,6 +8,7 @@
 #include "cli/common/report_flags.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
+#include "inspect/counts/frame_span.h"
 #include "inspect/report/report.h"
 
 // Reading files that are looked at: each is opened and read once, and told of meanwhile.
@@ -16,15 +18,18 @@ namespace cli {
 // Reads `file` into `document`, which is empty, tells what is odd in it, and returns that. Throws a
 // Failure when it cannot be read, is refused or holds no segments; the file of reports that
 // `manner` may name then has this one behind the `reports` of files before it. Without its motion
-// what is odd is not looked for, nor when `manner` says so.
+// what is odd is not looked for, nor when `manner` says so. Of a file that is to be `cut`, what is
+// odd is told of the whole, and the document has these frames alone; one that has none is refused.
 enum class Motion { kRead, kLeftOut };
 orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const std::string& file,
                                Motion motion, const ReportManner& manner,
-                               std::vector<orvane::FileReport> reports = {});
+                               std::vector<orvane::FileReport> reports = {},
+                               const std::optional<orvane::FrameSpan>& cut = {});
 
 // The same of the marker file `file`, whose `bytes` these are, and which is to hold markers.
 orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const std::string& file,
                                std::string_view bytes, const ReportManner& manner,
-                               std::vector<orvane::FileReport> reports = {});
+                               std::vector<orvane::FileReport> reports = {},
+                               const std::optional<orvane::FrameSpan>& cut = {});
 
 }  // namespace cli

@@ -5,6 +5,7 @@
 #include <iostream>
 #include <memory>
 
+#include "cli/common/cut_frames.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/found_files.h"
 #include "cli/common/input.h"
@@ -28,6 +29,7 @@ struct InfoArguments {
   bool hierarchy_only = false;
   bool json = false;
   bool frames = false;
+  std::optional<orvane::FrameSpan> cut;  // the only frames to show; nothing: all
   ReportManner report;
 
   FileKind KindOf(const std::string& name) const { return kind.value_or(cli::KindOf(name)); }
@@ -37,7 +39,7 @@ void ReadInfo(const std::string& file, const InfoArguments& arguments, const Rep
               InfoReport& report) {
   report.file = file;
   const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
-  report.findings = ReadAndTell(report.document, file, motion, manner);
+  report.findings = ReadAndTell(report.document, file, motion, manner, {}, arguments.cut);
   report.hierarchy = ListHierarchy(report.document);
   if (motion == Motion::kLeftOut) return;
   report.subject = orvane::MeasureSubject(report.document);
@@ -56,7 +58,7 @@ void ReadAndUse(const std::string& name, const InfoArguments& arguments, const R
   RequireReportApart(manner, {file}, {});
   if (kind == FileKind::kTrc) {
     TrcInfoReport report;
-    ReadTrcInfo(file, manner, report);
+    ReadTrcInfo(file, manner, arguments.cut, report);
     return use(report);
   }
   InfoReport report;
@@ -160,6 +162,7 @@ void AddInfoCommand(CLI::App& app, Work& work) {
   AddRecursive(*verb, arguments->recursive);
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
                                           "HTR: read the header and the hierarchy, not the motion");
+  AddCutFlag(*verb, arguments->cut)->excludes(hierarchy);
   AddTellingFlags(*verb, arguments->report);
   hierarchy->excludes(verb->get_option("--report"));
   CLI::Option* json = verb->add_flag("--json", arguments->json, "Write JSON");

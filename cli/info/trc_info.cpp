@@ -40,10 +40,11 @@ void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
 
 }  // namespace
 
-void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoReport& report) {
+void ReadTrcInfo(const std::string& file, const ReportManner& manner,
+                 const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report) {
   report.file = file;
   const std::string bytes = FileBytes(file);
-  report.findings = ReadAndTell(report.document, file, bytes, manner);
+  report.findings = ReadAndTell(report.document, file, bytes, manner, {}, cut);
   ReadRateTexts(bytes, report);
   report.subject = orvane::MeasureSubject(report.document);
   report.summary = SummarizeTrc(report.document);

@@ -1,11 +1,13 @@
 #pragma once
 
+#include <optional>
 #include <ostream>
 #include <string>
 
 #include "cli/common/json_writer.h"
 #include "cli/common/report_flags.h"
 #include "formats/trc/document.h"
+#include "inspect/counts/frame_span.h"
 #include "inspect/summary/subject.h"
 #include "inspect/summary/trc_summary.h"
 
@@ -27,8 +29,10 @@ struct TrcInfoReport {
   std::string camera_rate_text;
 };
 
-// Reads `file` into `report`. Throws a Failure when it is refused or holds no markers.
-void ReadTrcInfo(const std::string& file, const ReportManner& manner, TrcInfoReport& report);
+// Reads `file`, or the frames of it that are to be `cut` out, into `report`. Throws a Failure when
+// it is refused, holds no markers or none of these frames.
+void ReadTrcInfo(const std::string& file, const ReportManner& manner,
+                 const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report);
 
 void PrintInfoPage(const TrcInfoReport& report, std::ostream& out);
 
