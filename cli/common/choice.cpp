@@ -3,18 +3,26 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 
+#include "inspect/check/similar_words.h"
+
 namespace cli {
 namespace {
 
 CLI::Validator OneOf(const std::vector<std::string>& choices) {
   const auto complaint = [choices](const std::string& word) {
     const bool is_choice = std::find(choices.begin(), choices.end(), word) != choices.end();
-    return is_choice ? "" : word + " is not one of " + CLI::detail::join(choices, ", ");
+    if (is_choice) return std::string();
+    return word + " is not one of " + CLI::detail::join(choices, ", ") + DidYouMean(word, choices);
   };
   return {complaint, ""};
 }
 
 }  // namespace
+
+std::string DidYouMean(const std::string& word, const std::vector<std::string>& words) {
+  const std::string meant(orvane::MostSimilar(word, words));
+  return meant.empty() ? "" : "; did you mean \"" + meant + "\"?";
+}
 
 CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,
                        const std::vector<std::string>& choices, const std::string& help,

@@ -11,6 +11,11 @@ class Option;
 
 namespace cli {
 
+// "; did you mean "import"?", of the one of `words` that `word` is most likely to be; empty when it
+// is like none.
+[[nodiscard]] std::string DidYouMean(const std::string& word,
+                                     const std::vector<std::string>& words);
+
 // Adds an option to `verb` that takes one word of `choices`; `use` is called with it.
 // Returns the option.
 CLI::Option* AddChoice(CLI::App& verb, const std::string& flag,

@@ -38,8 +38,12 @@ std::string NothingWritten(const ReportManner& manner, const std::vector<std::st
   return nothing + " because of " + ListOf(codes);
 }
 
-std::string WhyNoCode(const std::string& code) {
-  return orvane::FindMeaning(code) != nullptr ? "" : "no finding has the code " + code;
+// `beside` is a word that is taken beside codes; empty for none.
+std::string WhyNoCode(const std::string& code, const std::string& beside) {
+  if (code == beside || orvane::FindMeaning(code) != nullptr) return "";
+  std::vector<std::string> words = orvane::AllFindingCodes();
+  if (!beside.empty()) words.push_back(beside);
+  return "no finding has the code " + code + DidYouMean(code, words);
 }
 
 }  // namespace
@@ -65,9 +69,7 @@ void AddReportFlags(CLI::App& verb, ReportManner& manner, const std::string& bes
           ->expected(1)
           ->allow_extra_args(false)
           ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll)
-          ->check(
-              [beside](const std::string& code) { return code == beside ? "" : WhyNoCode(code); },
-              "")
+          ->check([beside](const std::string& code) { return WhyNoCode(code, beside); }, "")
           ->type_name("CODE,...");
   if (beside.empty()) allow->needs(strict);
 }

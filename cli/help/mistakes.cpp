@@ -3,8 +3,8 @@
 #include <CLI/CLI.hpp>
 #include <optional>
 
+#include "cli/common/choice.h"
 #include "cli/help/definitions.h"
-#include "inspect/check/similar_words.h"
 
 namespace cli {
 namespace {
@@ -18,10 +18,6 @@ std::vector<const CLI::App*> NamedVerbs(const CLI::App& app) {
   return verbs;
 }
 
-std::string MeantPart(std::string_view meant) {
-  return meant.empty() ? "" : "; did you mean \"" + std::string(meant) + "\"?";
-}
-
 Failure WrongWord(const CLI::App& app, const std::string& text, const std::string& more = "") {
   return {ExitStatus::kWrongUsage,
           {{"", text, "\"" + CommandOf(app) + " --help\" lists what there is." + more}}};
@@ -33,10 +29,9 @@ Failure UnknownFlag(const CLI::App& app, const std::string& word) {
     flags.insert(flags.end(), each.names.begin(), each.names.end());
   }
   const std::string flag = word.substr(0, word.find('='));
-  const std::string_view meant = orvane::MostSimilar(flag, flags);
+  const std::string meant = DidYouMean(flag, flags);
   const std::string file = " A file of that name is \"./" + word + "\".";
-  return WrongWord(app, "there is no flag \"" + flag + "\"" + MeantPart(meant),
-                   meant.empty() ? file : "");
+  return WrongWord(app, "there is no flag \"" + flag + "\"" + meant, meant.empty() ? file : "");
 }
 
 bool IsFlag(const std::string& word) { return word.size() > 1 && word.front() == '-'; }
@@ -76,8 +71,7 @@ Failure WrongUsage(const CLI::App& app, const CLI::ParseError& error) {
 Failure UnknownVerb(const CLI::App& app, const std::string& name) {
   std::vector<std::string> verbs;
   for (const CLI::App* verb : VerbsOf(app)) verbs.push_back(verb->get_name());
-  return WrongWord(
-      app, "there is no verb \"" + name + "\"" + MeantPart(orvane::MostSimilar(name, verbs)));
+  return WrongWord(app, "there is no verb \"" + name + "\"" + DidYouMean(name, verbs));
 }
 
 void RequireKnownVerbs(const CLI::App& app) {

@@ -11,6 +11,7 @@ namespace {
 constexpr std::size_t kMostMistakes = 2;
 constexpr std::size_t kLongestWord = 40;
 constexpr std::size_t kShortestWord = 5;  // below it, two mistakes make another word
+constexpr std::size_t kShortestSwap = 3;  // below it, the letters in another order do
 
 char LowerCase(char letter) {
   return letter >= 'A' && letter <= 'Z' ? static_cast<char>(letter - 'A' + 'a') : letter;
@@ -35,6 +36,17 @@ std::size_t Distance(std::string_view left, std::string_view right) {
   return row[right.size()];
 }
 
+bool IsLetter(char character) { return 'a' <= LowerCase(character) && LowerCase(character) <= 'z'; }
+
+// Whether two letters side by side have changed places. Digits that have are another number.
+bool HasSwap(std::string_view word, std::string_view meant) {
+  if (word.size() != meant.size() || word.size() < kShortestSwap) return false;
+  const auto [left, right] = std::mismatch(word.begin(), word.end(), meant.begin(), Matches);
+  if (word.end() - left < 2 || !IsLetter(left[0]) || !IsLetter(left[1])) return false;
+  return Matches(left[0], right[1]) && Matches(left[1], right[0]) &&
+         std::equal(left + 2, word.end(), right + 2, Matches);
+}
+
 // How many letters of `meant` are wrong in `word`; nothing when it is that very word, or not like
 // it.
 std::optional<std::size_t> MistakesIn(std::string_view word, std::string_view meant) {
@@ -43,8 +55,8 @@ std::optional<std::size_t> MistakesIn(std::string_view word, std::string_view me
     return {};
   }
   const std::size_t distance = Distance(word, meant);
-  const bool is_like =
-      distance == 0 || (distance <= kMostMistakes && meant.size() >= kShortestWord);
+  const bool is_like = distance == 0 || HasSwap(word, meant) ||
+                       (distance <= kMostMistakes && meant.size() >= kShortestWord);
   return is_like ? std::optional(distance) : std::nullopt;
 }
 

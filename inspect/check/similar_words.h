@@ -10,7 +10,8 @@
 namespace orvane {
 
 // Whether `word` is likely to be `meant`, mistyped: the same but for the case of letters, or with
-// up to two letters wrong, missing, or too many. False for the very same word.
+// two neighbors among at least three letters swapped, or, unless it is short, with up to two
+// letters wrong, missing, or too many. False for the very same word.
 [[nodiscard]] bool LooksLike(std::string_view word, std::string_view meant);
 
 // The one of `words` that `word` is most likely to be: the first of those that it is with the

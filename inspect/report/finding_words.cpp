@@ -1,11 +1,11 @@
 #include "inspect/report/finding_words.h"
 
-#include <unordered_map>
+#include <map>
 
 namespace orvane {
 namespace {
 
-using WordsByCode = std::unordered_map<std::string_view, const FindingMeaning*>;
+using WordsByCode = std::map<std::string_view, const FindingMeaning*>;
 
 WordsByCode Gather() {
   WordsByCode all;
@@ -17,10 +17,21 @@ WordsByCode Gather() {
   return all;
 }
 
+const WordsByCode& AllWords() {
+  static const WordsByCode all = Gather();
+  return all;
+}
+
 }  // namespace
 
+std::vector<std::string> AllFindingCodes() {
+  std::vector<std::string> codes;
+  for (const auto& [code, words] : AllWords()) codes.emplace_back(code);
+  return codes;
+}
+
 const FindingMeaning* FindMeaning(std::string_view code) {
-  static const WordsByCode all = Gather();
+  const WordsByCode& all = AllWords();
   const auto found = all.find(code);
   return found == all.end() ? nullptr : found->second;
 }

@@ -3,7 +3,9 @@
 #include <array>
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
+#include <vector>
 
 #include "inspect/check/findings.h"
 #include "inspect/report/action.h"
@@ -114,6 +116,9 @@ std::span<const FindingMeaning> CutFindingMeanings();
 
 // Those of a skeleton that becomes a motion file.
 std::span<const FindingMeaning> ExportFindingMeanings();
+
+// The codes of all findings, sorted.
+std::vector<std::string> AllFindingCodes();
 
 // Those of `code`; null when no finding has it.
 const FindingMeaning* FindMeaning(std::string_view code);

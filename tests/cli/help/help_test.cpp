@@ -137,7 +137,7 @@ INSTANTIATE_TEST_SUITE_P(
                 "  \"orvane --help\" lists what there is.\n"},
         Mistake{"HelpOfAVerbOfAVerb",
                 {"help", "map", "lnit"},
-                "orvane: there is no verb \"lnit\"\n"
+                "orvane: there is no verb \"lnit\"; did you mean \"lint\"?\n"
                 "  \"orvane map --help\" lists what there is.\n"},
         Mistake{"VerbLikeNone",
                 {"dance"},
@@ -157,6 +157,42 @@ INSTANTIATE_TEST_SUITE_P(
         Mistake{"OppositeOfAFlag",
                 {"import", "walk.htr", "--no-animtion"},
                 "orvane: there is no flag \"--no-animtion\"; did you mean \"--no-animation\"?\n"
+                "  \"orvane import --help\" lists what there is.\n"},
+        Mistake{"MistypedChoice",
+                {"convert", "a.trc", "--mapping", "m.mnm", "--names", "subjct"},
+                "orvane: --names: subjct is not one of exact, case, subject; did you mean "
+                "\"subject\"?\n"
+                "  \"orvane convert --help\" lists what there is.\n"},
+        Mistake{"ShortChoiceWithLettersSwapped",
+                {"info", "a.trc", "--as", "hrt"},
+                "orvane: --as: hrt is not one of htr, trc; did you mean \"htr\"?\n"
+                "  \"orvane info --help\" lists what there is.\n"},
+        Mistake{"MistypedAction",
+                {"check", "a.trc", "--for", "imprt"},
+                "orvane: --for: imprt is not one of import, apply, convert, export; did you mean "
+                "\"import\"?\n"
+                "  \"orvane check --help\" lists what there is.\n"},
+        Mistake{"ChoiceLikeNone",
+                {"convert", "a.trc", "--up", "zz"},
+                "orvane: --up: zz is not one of y, z\n"
+                "  \"orvane convert --help\" lists what there is.\n"},
+        Mistake{"MistypedCode",
+                {"import", "a.htr", "-o", "a.glb", "--strict", "--allow", "htr-frame-cuont"},
+                "orvane: --allow: no finding has the code htr-frame-cuont; did you mean "
+                "\"htr-frame-count\"?\n"
+                "  \"orvane import --help\" lists what there is.\n"},
+        Mistake{"BeginningOfACode",
+                {"convert", "a.trc", "--strict", "--allow", "trc-marker-gaps,trc-unit-unk"},
+                "orvane: --allow: no finding has the code trc-unit-unk; did you mean "
+                "\"trc-unit-unknown\"?\n"
+                "  \"orvane convert --help\" lists what there is.\n"},
+        Mistake{"MistypedWordBesideCodes",
+                {"convert", "a.trc", "--allow", "emty"},
+                "orvane: --allow: no finding has the code emty; did you mean \"empty\"?\n"
+                "  \"orvane convert --help\" lists what there is.\n"},
+        Mistake{"CodeLikeNone",
+                {"import", "a.htr", "-o", "a.glb", "--strict", "--allow", "everything"},
+                "orvane: --allow: no finding has the code everything\n"
                 "  \"orvane import --help\" lists what there is.\n"},
         Mistake{"FileThatBeginsWithADash",
                 {"info", "-walk.htr"},

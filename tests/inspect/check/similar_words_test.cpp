@@ -26,6 +26,16 @@ TEST(SimilarWords, DifferInCaseAloneWhenShort) {
   EXPECT_FALSE(LooksLike("lips", "Hips"));
 }
 
+TEST(SimilarWords, OrInTwoLettersThatChangedPlaces) {
+  EXPECT_TRUE(LooksLike("hrt", "htr"));
+  EXPECT_TRUE(LooksLike("HIPS", "Hpis"));
+  EXPECT_TRUE(LooksLike("cmo", "com"));
+  EXPECT_FALSE(LooksLike("th", "ht")) << "too short";
+  EXPECT_FALSE(LooksLike("rht", "htr")) << "all three";
+  EXPECT_FALSE(LooksLike("M21", "M12")) << "another number";
+  EXPECT_FALSE(LooksLike("htrr", "htr"));
+}
+
 TEST(SimilarWords, AreNotLong) {
   const std::string longest(40, 'a');
   EXPECT_TRUE(LooksLike(longest.substr(1), longest));
