@@ -9,7 +9,8 @@
 #include "cli/common/scratch_copy.h"
 #include "formats/trc/document.h"
 #include "formats/trc/renamed_text.h"
-#include "inspect/report/cut_check.h"
+#include "inspect/counts/frame_span.h"
+#include "inspect/summary/trc_outline.h"
 
 namespace cli {
 namespace {
@@ -18,7 +19,7 @@ namespace {
 std::string WithFrames(const orvane::FrameSpan& asked, const std::string& file, std::string bytes) {
   orvane::TRCDocument document;
   if (!document.ReadBytes(bytes, false).empty()) return bytes;
-  const orvane::FrameSpan frames = Overlap(asked, FramesHeld(document));
+  const orvane::FrameSpan frames = Overlap(asked, FramesHeld(orvane::OutlineTrc(bytes)));
   return frames.IsEmpty() ? bytes : CutOut(file, bytes, document, frames);
 }
 

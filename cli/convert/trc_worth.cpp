@@ -75,10 +75,9 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
 }
 
 // The frames of the input when `asked` are cut out of it; refuses it when it has none of these.
-FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked) {
-  orvane::TRCDocument document;
-  (void)document.ReadBytes(FileBytes(conversion.input), false);  // whose header has been taken
-  const orvane::FrameSpan held = FramesHeld(document);
+FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked,
+                     const orvane::TRCOutliner& outline) {
+  const orvane::FrameSpan held = FramesHeld(outline);
   const std::int64_t count = Overlap(asked, held).Count();
   if (count > 0) return {count, count, count};
   conversion.status = ConversionStatus::kRefused;
@@ -133,7 +132,9 @@ FileReport ReportOnFile(const ConversionOrder& order, const Conversion& conversi
   orvane::TRCDocument document;
   orvane::CheckedFile checked = orvane::CheckTrc(conversion.input, bytes, document);
   if (order.cut && checked.refusal.empty()) {
-    CheckCut(*order.cut, FramesHeld(document), checked);
+    const orvane::FrameSpan held = FramesHeld(orvane::OutlineTrc(bytes));
+    const bool is_told = document.MarkerCount() == 0 && held.IsEmpty();  // that it holds nothing
+    if (!is_told) CheckCut(*order.cut, held, checked);
     options.frames = orvane::AskedFrames::kHeld;
   }
   FileReport report = ReportOn(checked, Action::kConvert, options);
@@ -182,7 +183,7 @@ RateSource JudgeHeader(Conversion& conversion, const ConversionOrder& order,
     return rate;
   }
   const FrameCounts counts =
-      order.cut ? CountCut(conversion, *order.cut) : CountAll(document, *outline);
+      order.cut ? CountCut(conversion, *order.cut, *outline) : CountAll(document, *outline);
   if (conversion.status != ConversionStatus::kRefused) {
     JudgeFrames(conversion, document, counts, naming);
   }

@@ -77,6 +77,10 @@ bool ListsSegmentsAgain(const orvane::HtrDocument& document) {
   return listed != children;
 }
 
+// Whether there is nothing in the file, which is told, to import or to cut.
+bool IsBare(const orvane::HtrDocument& document) { return document.segments().empty(); }
+bool IsBare(const orvane::TRCDocument& document) { return document.MarkerCount() == 0; }
+
 // What reading a file with or without its check comes to.
 struct Read {
   orvane::CheckedFile checked;
@@ -152,7 +156,7 @@ class Inspecting {
   // is made of it.
   template <typename Document>
   void Change(std::string_view bytes, Document& document) {
-    if (choices_.cut) Cut(bytes, document);
+    if (choices_.cut && !IsBare(document)) Cut(bytes, document);
     if (result_.refusal || !choices_.turned_up) return;
     result_.changed = TurnedUp(file_, result_.changed.empty() ? bytes : result_.changed);
     (void)ReadInto(document, file_, result_.changed, false);
@@ -184,7 +188,7 @@ class Inspecting {
   }
 
   void Judge(orvane::HtrDocument& document, std::size_t /*bytes*/, const std::string& advice) {
-    if (document.segments().empty()) return;  // which the plug-in tells
+    if (IsBare(document)) return;  // which the plug-in tells
     constexpr const char* kListedAgain =
         "[BasePosition] comes again, so that segments are listed more than once.";
     const ImportedFrames frames = FramesOf(document, choices_, scene_);
@@ -197,7 +201,7 @@ class Inspecting {
   }
 
   void Judge(const orvane::TRCDocument& document, std::size_t bytes, const std::string& advice) {
-    if (document.MarkerCount() == 0) {
+    if (IsBare(document)) {
       return Refuse(ComplainAbout(file_, kNoMarkers), {"trc-markers-missing"});
     }
     const ImportedFrames frames = FramesOf(document, choices_, scene_);

@@ -2,7 +2,7 @@
 
 #include "cli/common/input.h"
 #include "cli/common/told_reading.h"
-#include "formats/trc/outline.h"
+#include "inspect/summary/trc_outline.h"
 
 namespace cli {
 namespace {
@@ -30,12 +30,10 @@ class RateObserver final : public orvane::TRCReadObserver {
 
 // Reads the rates once more, for what their texts lose: the checks have an observer of their own.
 void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
-  orvane::TRCOutliner outliner;
-  outliner.Take(bytes);
   orvane::TRCDocument header;
   RateObserver observer(report);
   // What the header lacks has been told.
-  (void)header.ReadBytes(outliner.Header(), false, &observer);
+  (void)header.ReadBytes(orvane::OutlineTrc(bytes).Header(), false, &observer);
 }
 
 }  // namespace

@@ -23,7 +23,7 @@ void TRCOutliner::TakeLine(const Line& line) {
     throws_away_ = false;
     return;
   }
-  if (IsFrame(line, number_)) ++frames_;
+  if (IsFrame(line, number_) && frames_++ == 0) first_frame_ = line.text;
   throws_away_ = ReplacesNextLine(line);
   ++number_;
 }

@@ -24,11 +24,15 @@ class TRCOutliner {
   // How many lines the reader takes for frames.
   std::size_t Frames() const { return frames_; }
 
+  // The text of the first of them; empty for none.
+  const std::string& FirstFrame() const { return first_frame_; }
+
  private:
   void TakeLine(const Line& line);
 
   std::string header_;
   std::size_t frames_ = 0;
+  std::string first_frame_;
   std::size_t number_ = 0;    // of the next line, counted from 0
   bool throws_away_ = false;  // the next line
 };

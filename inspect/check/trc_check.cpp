@@ -95,6 +95,7 @@ class WholeFile {
   }
 
   void AddMarkersMissing() {
+    findings_.SetFirstLineBehind(0);  // it is of the whole file
     findings_.Add(trc::Rule("trc-markers-missing"), parts_.End(),
                   {"no marker", "names in the fourth line, a tab behind each",
                    "The import makes nothing of the file."});

@@ -25,4 +25,11 @@ FrameSpan FramesHeld(const TRCDocument& document) {
   return Numbered(document.FirstFrame(), has_none ? 0 : document.MarkerAt(0)->SampleCount());
 }
 
+// The first frame is read behind the blank line that may stand before it.
+FrameSpan FramesHeld(const TRCOutliner& outline) {
+  TRCDocument document;
+  (void)document.ReadBytes(outline.Header() + '\n' + outline.FirstFrame() + '\n', false);
+  return Numbered(document.FirstFrame(), outline.Frames());
+}
+
 }  // namespace orvane

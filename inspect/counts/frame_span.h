@@ -6,6 +6,7 @@
 
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
+#include "formats/trc/outline.h"
 
 // Frames in a row, by their numbers. Nothing fails but for want of memory.
 
@@ -29,5 +30,9 @@ struct FrameSpan {
 // numbers them; those of the longest segment.
 [[nodiscard]] FrameSpan FramesHeld(const HtrDocument& document);
 [[nodiscard]] FrameSpan FramesHeld(const TRCDocument& document);
+
+// Of a marker file by its outline: also of one without markers, whose document holds none.
+// REQUIRES: the reader takes the file.
+[[nodiscard]] FrameSpan FramesHeld(const TRCOutliner& outline);
 
 }  // namespace orvane

@@ -3,7 +3,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <fstream>
-#include <string_view>
 
 namespace orvane {
 namespace {
@@ -29,6 +28,12 @@ std::optional<TRCOutliner> OutlineTrcFile(const std::string& path) {
   }
   outliner.Take(std::string_view(bytes).substr(0, held));
   if (file.bad()) return std::nullopt;
+  return outliner;
+}
+
+TRCOutliner OutlineTrc(std::string_view bytes) {
+  TRCOutliner outliner;
+  outliner.Take(bytes);
   return outliner;
 }
 

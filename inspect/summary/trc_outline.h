@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "formats/trc/outline.h"
 
@@ -13,5 +14,8 @@ namespace orvane {
 // The outline of the marker file `path`; nothing when it cannot be read to its end. Throws
 // std::bad_alloc for want of memory.
 [[nodiscard]] std::optional<TRCOutliner> OutlineTrcFile(const std::string& path);
+
+// That of the marker file that `bytes` are. Throws std::bad_alloc for want of memory.
+[[nodiscard]] TRCOutliner OutlineTrc(std::string_view bytes);
 
 }  // namespace orvane

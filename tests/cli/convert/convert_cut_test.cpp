@@ -22,6 +22,13 @@ class ConvertCutTest : public ConvertTest {
         .Text();
   }
 
+  // One without markers, and one that ends in its header.
+  void WriteBare() const {
+    const std::string bare = TrcText{.markers = {}, .first_frame = 11, .marker_count = 1}.Text();
+    Write("bare.trc", bare + "11\t0\n12\t0\n13\t0\n");
+    Write("short.trc", bare.substr(0, bare.find("DataRate")));
+  }
+
   // Without the lines that tell names and times.
   std::string Points(const std::string& name) const {
     const std::string text = ReadText(name);
@@ -71,6 +78,58 @@ TEST_F(ConvertCutTest, WorksWithUpAndInAPreview) {
   EXPECT_EQ(Convert({"z.trc", "--cut", "3:9", "--dry-run"}).status, 1);
   ASSERT_EQ(Convert({"z.trc", "--cut", "2:2", "--up", "z"}).status, 0);
   EXPECT_EQ(Points("z.bvk"), Points("y.bvk"));
+}
+
+TEST_F(ConvertCutTest, KeepsNothingButTheseFramesOfWhatIsEmpty) {
+  WriteBare();
+  Write("take.trc", Take(11));
+  Write("nobody.mnm", "LFHD\tNobody\n");
+  const std::vector<std::vector<std::string>> rows = {{"bare.trc"},
+                                                      {"take.trc", "--mapping", "nobody.mnm"}};
+  for (const auto& row : rows) {
+    for (const std::string wish : {"--keep-broken", "--allow=empty"}) {
+      std::vector<std::string> arguments = row;
+      arguments.insert(arguments.end(), {"--cut", "12:13", "--force", wish});
+      const ProgramResult result = Convert(arguments);
+      EXPECT_EQ(result.status, wish == "--keep-broken" ? 1 : 0) << row[0];
+      EXPECT_THAT(result.error, Not(HasSubstr("stands behind"))) << row[0];
+      const std::string made = ReadText(row[0].substr(0, 4) + ".bvk");
+      EXPECT_THAT(made, HasSubstr("$FirstFrame 12\n$LastFrame 13\n$NumFrames 2\n$NumMarkers 0\n"))
+          << row[0];
+    }
+  }
+}
+
+TEST_F(ConvertCutTest, SaysOfFilesWithoutMarkersWhatIsSaidOfTheWhole) {
+  WriteBare();
+  for (const std::string file : {"bare.trc", "short.trc"}) {
+    for (const std::string flag : {"--force", "--dry-run", "--no-report"}) {
+      const ProgramResult whole = Convert({file, flag});
+      const ProgramResult cut = Convert({file, flag, "--cut", "12:12"});
+      EXPECT_EQ(cut.error, whole.error) << flag;
+      EXPECT_EQ(cut.output, whole.output) << flag;
+      EXPECT_EQ(cut.status, 1);
+    }
+  }
+}
+
+TEST_F(ConvertCutTest, IsForeseenAsItComes) {
+  std::string lines = TrcText{.markers = {"Head"}, .first_frame = 11}.Text();
+  const std::string much(6000, '\t');
+  lines += "11\t0\t1\t2\t3" + much + much + "\n12\t0\t4\t5\t6\n13\t0\t7\t8\t9\n";
+  Write("pieces.trc", lines);
+  for (const std::string flag : {"--dry-run", "--force"}) {
+    const ProgramResult cut = Convert({"pieces.trc", flag, "--no-report", "--cut", "11:11"});
+    EXPECT_EQ(cut.error,
+              "orvane: pieces.trc: --cut cannot cut it: it has lines that are read in pieces\n"
+              "  A line has 10238 bytes at the most.\n");
+    EXPECT_THAT(cut.output, HasSubstr("refused"));
+    EXPECT_EQ(cut.status, 1);
+    const ProgramResult up = Convert({"pieces.trc", flag, "--no-report", "--up", "z"});
+    EXPECT_THAT(up.error, HasSubstr("--up z cannot turn it"));
+    EXPECT_EQ(up.status, 1);
+  }
+  EXPECT_FALSE(Exists("pieces.bvk"));
 }
 
 }  // namespace

@@ -118,6 +118,21 @@ TEST_F(ImportCutTest, GoesToNodesThatAreThere) {
   EXPECT_EQ(KeyedFrames(), (std::vector<int>{228, 230, 231}));
 }
 
+TEST_F(ImportCutTest, OfAFileThatHoldsNothingSaysTheSameAsTheWhole) {
+  Write("bare.trc", TrcText{.markers = {}, .marker_count = 1}.Text() + "1\t0\n2\t0\n");
+  Write("bare.htr", "[Header]\nFileType htr\nNumSegments 0\nNumFrames 2\n[EndOfFile]\n");
+  for (const std::string file : {"bare.trc", "bare.htr"}) {
+    for (const Flags& more : {Flags{}, Flags{"--no-report"}}) {
+      const ProgramResult whole = Import(file, more);
+      Flags flags = {"--cut", "1:1"};
+      flags.insert(flags.end(), more.begin(), more.end());
+      const ProgramResult cut = Import(file, flags);
+      EXPECT_EQ(cut.error, whole.error);
+      EXPECT_EQ(cut.status, 1);
+    }
+  }
+}
+
 TEST_F(ImportCutTest, TakesTwoNumbersAndNoRange) {
   for (const std::string range :
        {"5", "5:", ":5", "a:b", "1:2:3", "1.5:2", "9:8", "1:9999999999"}) {

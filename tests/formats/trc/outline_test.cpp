@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "formats/trc/document.h"
 #include "tests/support/trc_text.h"
@@ -46,6 +47,19 @@ std::size_t FramesRead(const std::string& bytes) {
 const std::string kHeader = test::TrcText{.markers = {"Head", "Toe"}, .frame_count = 7}.Header() +
                             test::TrcText{.markers = {"Head", "Toe"}}.MarkerNames() +
                             test::TrcText{.markers = {"Head", "Toe"}}.SubHeader();
+
+TEST(TRCOutlinerTest, HasTheTextOfTheFirstFrame) {
+  const std::pair<std::string, std::string> rows[] = {{"", ""},
+                                                      {"\n", ""},
+                                                      {"5\t0\t1\n6\t0\t2\n", "5\t0\t1"},
+                                                      {"\r\n5\t0\t1\r\n6\t0\t2\r\n", "5\t0\t1"},
+                                                      {"\n\n5\t0\t1\n", ""},
+                                                      {"# 5\n6\t0\t2\n", "# 5"}};
+  for (const auto& [frames, first] : rows) {
+    EXPECT_EQ(OutlineOf(kHeader + frames).FirstFrame(), first) << frames;
+    EXPECT_EQ(OutlineByLines(kHeader + frames).FirstFrame(), first) << frames;
+  }
+}
 
 TEST(TRCOutlinerTest, CountsTheFramesThatTheReaderFinds) {
   const struct {
