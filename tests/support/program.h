@@ -17,6 +17,7 @@ struct ProgramResult {
 struct ProgramRun {
   std::vector<std::string> command{};  // the program's path, and its arguments
   std::string folder{};                // to run in; empty: the test's own
+  std::string input_file{};            // what standard input is; empty: the test's own
 
   // Variables set besides those of the test's environment, as "NAME=value".
   std::vector<std::string> environment{};

@@ -77,6 +77,9 @@ void TakeAllSignals() {
   const int output_end = run.output_file.empty()
                              ? output.write_end
                              : open(run.output_file.c_str(), O_WRONLY | O_CLOEXEC);
+  if (!run.input_file.empty()) {
+    dup2(open(run.input_file.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC), STDIN_FILENO);
+  }
   dup2(output_end, STDOUT_FILENO);
   dup2(error.write_end, STDERR_FILENO);
   if (run.unprivileged && !GiveUpPrivileges()) _exit(126);

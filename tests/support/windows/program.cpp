@@ -78,7 +78,29 @@ class Stream {
   HANDLE write_end_ = nullptr;
 };
 
-HANDLE Start(const ProgramRun& run, const Stream& output, const Stream& error) {
+// What the program reads from: a file, or what this process does.
+class Input {
+ public:
+  explicit Input(const std::string& file) {
+    if (file.empty()) return;
+    SECURITY_ATTRIBUTES inherited{sizeof inherited, nullptr, TRUE};
+    file_ = CreateFileW(Wide(file).c_str(), GENERIC_READ, FILE_SHARE_READ, &inherited,
+                        OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr);
+    if (file_ == INVALID_HANDLE_VALUE) throw std::runtime_error("no " + file);
+  }
+  Input(const Input&) = delete;
+  Input& operator=(const Input&) = delete;
+  ~Input() {
+    if (file_ != nullptr) CloseHandle(file_);
+  }
+
+  HANDLE Get() const { return file_ == nullptr ? GetStdHandle(STD_INPUT_HANDLE) : file_; }
+
+ private:
+  HANDLE file_ = nullptr;
+};
+
+HANDLE Start(const ProgramRun& run, const Input& input, const Stream& output, const Stream& error) {
   std::list<EnvironmentVariable> environment;
   for (const std::string& variable : run.environment) {
     const std::size_t equals = variable.find('=');
@@ -89,7 +111,7 @@ HANDLE Start(const ProgramRun& run, const Stream& output, const Stream& error) {
   STARTUPINFOW startup{};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESTDHANDLES;
-  startup.hStdInput = GetStdHandle(STD_INPUT_HANDLE);
+  startup.hStdInput = input.Get();
   startup.hStdOutput = output.WriteEnd();
   startup.hStdError = error.WriteEnd();
   PROCESS_INFORMATION process{};
@@ -106,7 +128,8 @@ HANDLE Start(const ProgramRun& run, const Stream& output, const Stream& error) {
 ProgramResult RunProgram(const ProgramRun& run) {
   Stream output;
   Stream error;
-  const HANDLE process = Start(run, output, error);
+  const Input input(run.input_file);
+  const HANDLE process = Start(run, input, output, error);
   output.CloseWriteEnd();
   error.CloseWriteEnd();
   ProgramResult result;
