@@ -4,6 +4,7 @@
 #include <array>
 #include <cstddef>
 #include <optional>
+#include <utility>
 
 namespace orvane {
 namespace {
@@ -19,18 +20,30 @@ char LowerCase(char letter) {
 
 bool Matches(char left, char right) { return LowerCase(left) == LowerCase(right); }
 
-// Letters to replace, insert or delete between the two (Levenshtein, 1966), row by row.
+// Whether the two letters that end there have changed places.
+bool AreSwapped(std::string_view left, std::size_t line, std::string_view right,
+                std::size_t column) {
+  return line > 1 && column > 1 && Matches(left[line - 1], right[column - 2]) &&
+         Matches(left[line - 2], right[column - 1]);
+}
+
+// Letters to replace, insert or delete between the two, and neighbors to swap (Damerau, 1964), row
+// by row.
 std::size_t Distance(std::string_view left, std::string_view right) {
-  std::array<std::size_t, kLongestWord + 1> row{};
+  using Row = std::array<std::size_t, kLongestWord + 1>;
+  Row before_last{};
+  Row last{};
+  Row row{};
   for (std::size_t column = 0; column <= right.size(); ++column) row[column] = column;
   for (std::size_t line = 1; line <= left.size(); ++line) {
-    std::size_t diagonal = row[0];
+    before_last = std::exchange(last, row);
     row[0] = line;
     for (std::size_t column = 1; column <= right.size(); ++column) {
       const bool same = Matches(left[line - 1], right[column - 1]);
-      const std::size_t replaced = diagonal + (same ? 0 : 1);
-      diagonal = row[column];
-      row[column] = std::min({replaced, row[column] + 1, row[column - 1] + 1});
+      row[column] =
+          std::min({last[column - 1] + (same ? 0 : 1), last[column] + 1, row[column - 1] + 1});
+      if (!AreSwapped(left, line, right, column)) continue;
+      row[column] = std::min(row[column], before_last[column - 2] + 1);
     }
   }
   return row[right.size()];

@@ -11,7 +11,7 @@ namespace orvane {
 
 // Whether `word` is likely to be `meant`, mistyped: the same but for the case of letters, or with
 // two neighbors among at least three letters swapped, or, unless it is short, with up to two
-// letters wrong, missing, or too many. False for the very same word.
+// letters wrong, missing, too many, or swapped with the next. False for the very same word.
 [[nodiscard]] bool LooksLike(std::string_view word, std::string_view meant);
 
 // The one of `words` that `word` is most likely to be: the first of those that it is with the

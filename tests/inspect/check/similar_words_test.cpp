@@ -52,6 +52,13 @@ TEST(SimilarWords, OfSeveralTheOneWithTheFewestWrongLettersIsMeant) {
   EXPECT_EQ(MostSimilar("", verbs), "");
 }
 
+TEST(SimilarWords, SwappedLettersAreOneMistake) {
+  EXPECT_EQ(MostSimilar("--rnage", {"--name", "--range"}), "--range");
+  EXPECT_EQ(MostSimilar("--RNAGE", {"--name", "--range"}), "--range");
+  EXPECT_TRUE(LooksLike("unmFrmaes", "NumFrames"));
+  EXPECT_FALSE(LooksLike("unmFrmase", "NumFrames"));
+}
+
 TEST(SimilarWords, ABeginningStandsForTheFirstWordThatHasIt) {
   const std::vector<std::string> flags = {"--output", "--output-dir", "--offset"};
   EXPECT_EQ(MostSimilar("--out", flags), "--output");
