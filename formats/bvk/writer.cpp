@@ -1,5 +1,6 @@
 #include "formats/bvk/writer.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -104,23 +105,19 @@ void BvkPrinter::PrintFrames() {
   for (const TRCMarker* marker : markers_) walks.emplace_back(*marker);
   for (std::int32_t frame = 0; frame < document_.NumFrames(); ++frame) {
     text_.PutInteger(WrappingSum(document_.FirstFrame(), frame));
-    text_.Put('\t');
     for (TRCSampleWalk& walk : walks) PrintSample(walk);
-    text_.Put("\n\n");
+    text_.Put("\t\n\n");
   }
 }
 
 void BvkPrinter::PrintSample(TRCSampleWalk& walk) {
   TRCPosition position;
   if (!walk.Next(position)) {
-    text_.Put("DROPOUT\t");
+    text_.Put("\tDROPOUT");
     return;
   }
   const TRCPosition turned = InFileSpace(position, details_.offset);
-  for (const double value : {turned.x, turned.y, turned.z}) {
-    text_.PutSixDecimals(value);
-    text_.Put('\t');
-  }
+  text_.PutColumns(std::array{turned.x, turned.y, turned.z});
 }
 
 void BvkPrinter::PutLine(std::string_view keyword, std::string_view value) {

@@ -60,10 +60,9 @@ class HtrPrinter {
   // Lines end with CR LF on every system.
   void EndLine() { text_.Put("\r\n"); }
   void PutLine(std::string_view line);
-  void PutColumn(double number);
   void PutField(std::string_view keyword, std::string_view value);
-  void PutVector(const Vector3& vector);
-  void PutAngles(const EulerRotation& rotation);
+  // The seven columns of a base position or a frame, and the end of the line.
+  void PutRow(const Vector3& translation, const EulerRotation& rotation, double length);
 
   const HtrDocument& document_;
   TextBuffer text_;
@@ -116,10 +115,7 @@ void HtrPrinter::PrintBasePositions() {
   PutLine("# ObjectName<tab>Tx<tab>Ty<tab>Tz<tab>Rx<tab>Ry<tab>Rz<tab>BoneLength<CR>");
   for (const HtrSegment& segment : document_.segments()) {
     text_.Put(segment.GetName());
-    PutVector(segment.GetBaseTranslation());
-    PutAngles(segment.GetBaseRotation());
-    PutColumn(segment.GetBoneLength());
-    EndLine();
+    PutRow(segment.GetBaseTranslation(), segment.GetBaseRotation(), segment.GetBoneLength());
   }
 }
 
@@ -134,19 +130,15 @@ void HtrPrinter::PrintMotion(const HtrSegment& segment) {
 // Intended: the frame's values as they are stored, which are offsets from the base position.
 void HtrPrinter::PrintFrame(const HtrSegment& segment, std::uint32_t index) {
   text_.PutInteger(std::int64_t{document_.GetStartFrame()} + index);
-  PutVector(segment.GetFrameTranslation(index));
-  PutAngles(segment.GetFrameRotation(index));
-  PutColumn(ScaleOf(segment, index));
-  EndLine();
+  const Vector3 translation = segment.GetFrameTranslation(index);
+  const EulerRotation rotation = segment.GetFrameRotation(index);
+  PutRow(translation, rotation, ScaleOf(segment, index));
 }
 
 // Intended: a document without frames becomes a file of one frame, numbered 1 and at rest.
 void HtrPrinter::PrintOnlyFrame() {
   text_.PutInteger(1);
-  PutVector(Vector3());
-  PutAngles(EulerRotation());
-  PutColumn(1.0);
-  EndLine();
+  PutRow(Vector3(), EulerRotation(), 1.0);
 }
 
 double HtrPrinter::ScaleOf(const HtrSegment& segment, std::uint32_t index) const {
@@ -160,27 +152,17 @@ void HtrPrinter::PutLine(std::string_view line) {
   EndLine();
 }
 
-void HtrPrinter::PutColumn(double number) {
-  text_.Put('\t');
-  text_.PutSixDecimals(number);
-}
-
 void HtrPrinter::PutField(std::string_view keyword, std::string_view value) {
   text_.Put(keyword);
   text_.Put(' ');
   PutLine(value);
 }
 
-void HtrPrinter::PutVector(const Vector3& vector) {
-  PutColumn(vector.x());
-  PutColumn(vector.y());
-  PutColumn(vector.z());
-}
-
-void HtrPrinter::PutAngles(const EulerRotation& rotation) {
-  for (unsigned int index = 0; index < 3; ++index) {
-    PutColumn(rotation[index] * angle_factor_);
-  }
+void HtrPrinter::PutRow(const Vector3& translation, const EulerRotation& rotation, double length) {
+  text_.PutColumns(std::array{translation.x(), translation.y(), translation.z(),
+                              rotation[0] * angle_factor_, rotation[1] * angle_factor_,
+                              rotation[2] * angle_factor_, length});
+  EndLine();
 }
 
 }  // namespace

@@ -1,7 +1,6 @@
 #include "formats/text/six_decimals.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 #include <cstring>
@@ -13,58 +12,90 @@ namespace {
 
 static_assert(kLongestSixDecimals >= decimal::LongestFixed(6));
 
+constexpr std::uint32_t kThousand = 1'000;
 constexpr std::uint32_t kMillion = 1'000'000;
 
 // Millionths below this have at most six digits before the point and six behind it, after rounding
 // up too.
 constexpr double kMostMillionths = 1e12 - 1.0;
 
-constexpr auto kDigitPairs = [] {
-  std::array<char, 200> pairs{};
-  for (std::size_t number = 0; number < 100; ++number) {
-    pairs[2 * number] = static_cast<char>('0' + number / 10);
-    pairs[2 * number + 1] = static_cast<char>('0' + number % 10);
-  }
-  return pairs;
-}();
+// From here to twice as much the doubles are the whole numbers: adding it rounds to one of those,
+// and leaves that in the lowest bits.
+constexpr double kWholeDoubles = 0x1p52;
+constexpr std::uint64_t kWholeBits = (std::uint64_t{1} << 52U) - 1;
 
-char* WritePair(std::uint32_t number, char* first) {
-  std::memcpy(first, &kDigitPairs[std::size_t{2} * number], 2);
-  return first + 2;
+// The digits of a number below a thousand, and how many they are. Four characters are copied,
+// however many count.
+using Digits = std::array<char, 4>;
+
+constexpr Digits WithZeros(std::uint32_t number) {
+  const auto digit = [](std::uint32_t value) { return static_cast<char>('0' + value % 10); };
+  return {digit(number / 100), digit(number / 10), digit(number), 3};
 }
 
-char* WriteSixDigits(std::uint32_t number, char* first) {
-  first = WritePair(number / 10'000, first);
-  first = WritePair(number / 100 % 100, first);
-  return WritePair(number % 100, first);
+constexpr Digits WithoutZeros(std::uint32_t number) {
+  const Digits all = WithZeros(number);
+  if (number < 10) return {all[2], '\0', '\0', 1};
+  if (number < 100) return {all[1], all[2], '\0', 2};
+  return all;
+}
+
+using DigitTable = std::array<Digits, kThousand>;
+
+constexpr DigitTable MakeTable(Digits (*digits_of)(std::uint32_t)) {
+  DigitTable table{};
+  for (std::uint32_t number = 0; number < kThousand; ++number) table[number] = digits_of(number);
+  return table;
+}
+
+constexpr DigitTable kLeading = MakeTable(WithoutZeros);
+constexpr DigitTable kFollowing = MakeTable(WithZeros);
+
+char* Write(const Digits& digits, char* first) {
+  std::memcpy(first, digits.data(), digits.size());
+  return first + digits.back();
 }
 
 // `number` below a million, without leading zeros.
 char* WriteShortInteger(std::uint32_t number, char* first) {
-  if (number < 10) {
-    *first = static_cast<char>('0' + number);
-    return first + 1;
-  }
-  if (number < 100) return WritePair(number, first);
-  return std::to_chars(first, first + 6, number).ptr;
+  if (number < kThousand) return Write(kLeading[number], first);
+  return Write(kFollowing[number % kThousand], Write(kLeading[number / kThousand], first));
+}
+
+char* WriteSixDigits(std::uint32_t number, char* first) {
+  return Write(kFollowing[number % kThousand], Write(kFollowing[number / kThousand], first));
+}
+
+inline char* WriteOne(double value, char* first) {
+  const double product = std::abs(value) * kMillion;
+  if (!(product < kMostMillionths)) return decimal::WriteFixed(value, 6, first);
+  const double sum = product + kWholeDoubles;
+  const double rest = product - (sum - kWholeDoubles);
+  // Rounded to a double, the product never gets past a tie, which is a double itself. On a tie it
+  // may have come from either side.
+  if (std::abs(rest) == 0.5) return decimal::WriteFixed(value, 6, first);
+
+  std::uint64_t millionths = 0;
+  std::memcpy(&millionths, &sum, sizeof sum);
+  millionths &= kWholeBits;
+  // Whether there is a sign is as good as chance, which no branch foretells.
+  *first = '-';
+  first += std::signbit(value) ? 1 : 0;
+  first = WriteShortInteger(static_cast<std::uint32_t>(millionths / kMillion), first);
+  *first++ = '.';
+  return WriteSixDigits(static_cast<std::uint32_t>(millionths % kMillion), first);
 }
 
 }  // namespace
 
-char* WriteSixDecimals(double value, char* first) {
-  const double product = std::abs(value) * kMillion;
-  if (!(product < kMostMillionths)) return decimal::WriteFixed(value, 6, first);
-  const auto whole = static_cast<std::int64_t>(product);
-  const double rest = product - static_cast<double>(whole);
-  // Rounded to a double, the product never gets past a tie, which is a double itself. On a tie it
-  // may have come from either side.
-  if (rest == 0.5) return decimal::WriteFixed(value, 6, first);
+char* WriteSixDecimals(double value, char* first) { return WriteOne(value, first); }
 
-  const auto millionths = static_cast<std::uint64_t>(whole) + (rest > 0.5 ? 1 : 0);
-  if (std::signbit(value)) *first++ = '-';
-  first = WriteShortInteger(static_cast<std::uint32_t>(millionths / kMillion), first);
-  *first++ = '.';
-  return WriteSixDigits(static_cast<std::uint32_t>(millionths % kMillion), first);
+char* WriteColumns(std::span<const double> values, char* first) {
+  for (const double value : values) {
+    *first++ = '\t';
+    first = WriteOne(value, first);
+  }
+  return first;
 }
 
 }  // namespace orvane

@@ -1,8 +1,10 @@
 #pragma once
 
+#include <cassert>
 #include <cstddef>
 #include <cstdint>
 #include <functional>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -17,6 +19,9 @@ using TextTaker = std::function<void(std::string_view text)>;
 
 class TextBuffer {
  public:
+  // As many numbers get room at once.
+  static constexpr std::size_t kMostColumns = 16;
+
   // Nothing is handed to `take`, which must outlive the buffer, before a piece is full or HandOver
   // is called.
   explicit TextBuffer(const TextTaker& take) : take_(take), bytes_(kSize), end_(bytes_.data()) {}
@@ -29,10 +34,12 @@ class TextBuffer {
     *end_++ = character;
   }
   void PutInteger(std::int64_t number);
-  // As "%f" prints it.
-  void PutSixDecimals(double number) {
-    MakeRoom(kLongestSixDecimals);
-    end_ = WriteSixDecimals(number, end_);
+  // Each as "%f" prints it, behind a tab.
+  // REQUIRES: at most kMostColumns.
+  void PutColumns(std::span<const double> numbers) {
+    assert(numbers.size() <= kMostColumns);
+    MakeRoom(numbers.size() * kLongestColumn);
+    end_ = WriteColumns(numbers, end_);
   }
 
   // Hands over what has been put since the last time.
@@ -41,6 +48,7 @@ class TextBuffer {
  private:
   static constexpr std::size_t kSize = std::size_t{64} * 1024;
   static constexpr std::size_t kLongestInteger = 20;
+  static_assert(kSize >= kMostColumns * kLongestColumn);
 
   std::size_t Room() const {
     return static_cast<std::size_t>(bytes_.data() + bytes_.size() - end_);
