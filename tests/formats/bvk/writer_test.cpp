@@ -106,6 +106,31 @@ TEST(BvkWriterTest, HasNeitherNamesNorPointsWithoutMarkers) {
   EXPECT_THAT(BvkOf(document), EndsWith("$Rate 60\n\n$Order\n1\t\n\n2\t\n\n"));
 }
 
+// Frame by frame, whatever is gathered at once.
+TEST(BvkWriterTest, KeepsEachSampleInItsFrameAcrossHundreds) {
+  constexpr int kHeld = 131;
+  constexpr int kAnnounced = 199;
+  TRCDocument document;
+  document.SetFirstFrame(1);
+  document.SetNumFrames(kAnnounced);
+  TRCMarker* const markers[] = {document.AddMarker(TRCMarker("Steady")),
+                                document.AddMarker(TRCMarker("Fickle"))};
+  std::string expected;
+  for (int frame = 1; frame <= kAnnounced; ++frame) {
+    const bool is_held = frame <= kHeld;
+    const bool is_seen = is_held && frame % 7 < 5 && (frame < 30 || frame > 66);
+    if (is_held) markers[0]->AppendPosition(frame, 0.5, -frame);
+    if (is_held && !is_seen) markers[1]->AppendDropout();
+    if (is_seen) markers[1]->AppendPosition(0.25, frame, 2.0);
+    const std::string number = std::to_string(frame);
+    expected += number + '\t';
+    expected += is_held ? number + ".000000\t" + number + ".000000\t0.500000\t" : "DROPOUT\t";
+    expected += is_seen ? "0.250000\t-2.000000\t" + number + ".000000\t" : "DROPOUT\t";
+    expected += "\n\n";
+  }
+  EXPECT_EQ(PointsOf(document), expected);
+}
+
 TEST(BvkWriterTest, WritesTheAnnouncedFramesWhateverTheMarkersHold) {
   TRCDocument document;
   ReadTwoMarkers(document);
