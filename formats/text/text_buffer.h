@@ -46,7 +46,7 @@ class TextBuffer {
   void HandOver();
 
  private:
-  static constexpr std::size_t kSize = std::size_t{64} * 1024;
+  static constexpr std::size_t kSize = std::size_t{256} * 1024;
   static constexpr std::size_t kLongestInteger = 20;
   static_assert(kSize >= kMostColumns * kLongestColumn);
 
