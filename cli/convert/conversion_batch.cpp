@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <map>
 #include <optional>
 #include <set>
 #include <system_error>
@@ -30,6 +31,7 @@ namespace cli {
 namespace {
 
 using orvane::BvkSummary;
+using orvane::CountBvkDropouts;
 using orvane::MarkerNaming;
 using orvane::SummarizeBvk;
 
@@ -69,7 +71,8 @@ class BatchConversion {
   // What is delivered of a file depends on no other. One that the reader refuses before its rates
   // has a run of the plug-in begin.
   void Judge(Conversion& conversion) {
-    const RateSource rate = JudgeInput(conversion, order_, naming_);
+    const auto [rate, written] = JudgeInput(conversion, order_, naming_);
+    if (written) written_.emplace(&conversion, *written);
     if (!order_.keep_broken || conversion.status != ConversionStatus::kPlanned) return;
     if (rate == RateSource::kOthersShort) RefuseForeignRate(conversion);
     if (rate == RateSource::kOthers) first_in_run_.insert(&conversion);
@@ -293,21 +296,35 @@ class BatchConversion {
       Settle(conversion, ConversionStatus::kBroken, conversion.input, message);
       if (!order_.keep_broken || !platform::WhyUnreadable(conversion.source).empty()) return;
     }
-    std::optional<BvkSummary> summary;
+    std::optional<WrittenCounts> counts;
     try {
-      summary = ReadBack(conversion.output, [&made] { return SummarizeBvk(made); });
+      counts = ReadBack(conversion.output, [&] { return CountMade(conversion, made); });
     } catch (const Failure& failure) {
       conversion.status = ConversionStatus::kFailed;
       conversion.errors = failure.complaints;
       return;
     }
-    if (!summary) {
+    if (!counts) {
       Settle(conversion, ConversionStatus::kFailed, conversion.output,
              "The plug-in could not write all of the file", "Is the disk full?");
       return;
     }
     Deliver(conversion, made);
-    if (conversion.delivered) Describe(conversion, *summary);
+    if (conversion.delivered) Describe(conversion, *counts);
+  }
+
+  // What is in the file that was made; nothing when it is not whole. Its dropouts are known where
+  // all of the input was looked at.
+  std::optional<WrittenCounts> CountMade(const Conversion& conversion,
+                                         const std::string& made) const {
+    const std::optional<BvkSummary> summary = SummarizeBvk(made);
+    if (!summary) return std::nullopt;
+    const auto known = written_.find(&conversion);
+    if (known != written_.end() && known->second.frames == summary->frames &&
+        known->second.markers == summary->markers) {
+      return known->second;
+    }
+    return WrittenCounts{summary->frames, summary->markers, CountBvkDropouts(made)};
   }
 
   void Deliver(Conversion& conversion, const std::string& made) {
@@ -327,18 +344,19 @@ class BatchConversion {
   }
 
   // The markers of the input have been counted before.
-  static void Describe(Conversion& conversion, const BvkSummary& summary) {
-    conversion.frames = summary.frames;
-    conversion.markers_kept = summary.markers;
+  static void Describe(Conversion& conversion, const WrittenCounts& counts) {
+    conversion.frames = counts.frames;
+    conversion.markers_kept = counts.markers;
     conversion.markers_dropped =
-        std::max<std::int64_t>(conversion.markers_dropped - summary.markers, 0);
-    conversion.dropouts = summary.dropouts;
+        std::max<std::int64_t>(conversion.markers_dropped - counts.markers, 0);
+    conversion.dropouts = counts.dropouts;
   }
 
   const ConversionOrder& order_;
   MarkerNaming naming_;
   ConvertedBatch result_;
   std::set<const Conversion*> first_in_run_;
+  std::map<const Conversion*, WrittenCounts> written_;  // as far as it is known before
 };
 
 }  // namespace

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <filesystem>
+#include <memory>
 #include <optional>
 #include <string>
 #include <system_error>
@@ -11,12 +12,12 @@
 #include "cli/common/input.h"
 #include "cli/common/known_messages.h"
 #include "cli/common/taken_names.h"
+#include "cli/convert/trc_look.h"
 #include "formats/text/files.h"
 #include "inspect/check/mnm_check.h"
-#include "inspect/check/trc_check.h"
+#include "inspect/counts/dropouts.h"
 #include "inspect/counts/frame_counts.h"
 #include "inspect/report/cut_check.h"
-#include "inspect/summary/trc_outline.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
 
@@ -28,7 +29,6 @@ using orvane::FileReport;
 using orvane::FrameCounts;
 using orvane::MadeUpFrames;
 using orvane::MarkerNaming;
-using orvane::OutlineTrcFile;
 using orvane::WhyOutOfProportion;
 using orvane::WhyTooShort;
 
@@ -76,8 +76,7 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
 
 // The frames of the input when `asked` are cut out of it; refuses it when it has none of these.
 FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked,
-                     const orvane::TRCOutliner& outline) {
-  const orvane::FrameSpan held = FramesHeld(outline);
+                     const orvane::FrameSpan& held) {
   const std::int64_t count = Overlap(asked, held).Count();
   if (count > 0) return {count, count, count};
   conversion.status = ConversionStatus::kRefused;
@@ -86,25 +85,19 @@ FrameCounts CountCut(Conversion& conversion, const orvane::FrameSpan& asked,
   return {};
 }
 
-FrameCounts CountAll(const orvane::TRCDocument& document, const orvane::TRCOutliner& outline) {
-  const auto held = static_cast<std::int64_t>(outline.Frames());
-  return {document.NumFrames(), held, held};
+RateSource RateSourceOf(const TrcLook& look) {
+  if (!look.has_rates) return RateSource::kOthersShort;
+  return look.refusal.empty() ? RateSource::kFile : RateSource::kOthers;
 }
 
-RateSource RateSourceOf(const orvane::TRCOutliner& outline, const std::string& message) {
-  constexpr std::size_t kLinesWithRates = 3;
-  if (outline.Lines() < kLinesWithRates) return RateSource::kOthersShort;
-  return message.empty() ? RateSource::kFile : RateSource::kOthers;
-}
-
-// What the markers of a capture, whose `bytes` these are, are to `mapping`. It is not taken when it
+// What the markers of a capture, whose `header` this is, are to `mapping`. It is not taken when it
 // is ambiguous.
 FileReport ReportOnMarkers(const std::string& mapping, const Conversion& conversion,
-                           const std::string& bytes, const orvane::ActionOptions& options) {
+                           const std::string& header, const orvane::ActionOptions& options) {
   if (!conversion.match.ambiguous.empty()) return {};
   orvane::MappedCapture capture{conversion.input, {}, conversion.match};
   const std::optional<std::string> entries = orvane::ReadFileBytes(mapping);
-  if (!entries || !orvane::ListTrcMarkers(bytes, capture.markers).empty()) return {};
+  if (!entries || !orvane::ListTrcMarkers(header, capture.markers).empty()) return {};
   const auto checked = orvane::CheckMapping(mapping, *entries, capture);
   return ReportOn(checked.back(), Action::kConvert, options);
 }
@@ -124,23 +117,19 @@ FileReport WithoutConsequences(FileReport report) {
   return report.Without("mnm-marker-unmapped").Without("mnm-marker-unmappable");
 }
 
-FileReport ReportOnFile(const ConversionOrder& order, const Conversion& conversion,
-                        const std::string& bytes) {
+FileReport ReportOnFile(const ConversionOrder& order, const Conversion& conversion, TrcLook& look) {
   orvane::ActionOptions options;
   options.markers = order.NeedsMarkers();
   options.all_markers = order.mapping.empty();
-  orvane::TRCDocument document;
-  orvane::CheckedFile checked = orvane::CheckTrc(conversion.input, bytes, document);
-  if (order.cut && checked.refusal.empty()) {
-    const orvane::FrameSpan held = FramesHeld(orvane::OutlineTrc(bytes));
-    const bool is_told = document.MarkerCount() == 0 && held.IsEmpty();  // that it holds nothing
-    if (!is_told) CheckCut(*order.cut, held, checked);
+  if (order.cut && look.refusal.empty()) {
+    const bool is_told = look.document.MarkerCount() == 0 && look.held.IsEmpty();  // it holds none
+    if (!is_told) CheckCut(*order.cut, look.held, *look.checked);
     options.frames = orvane::AskedFrames::kHeld;
   }
-  FileReport report = ReportOn(checked, Action::kConvert, options);
+  FileReport report = ReportOn(*look.checked, Action::kConvert, options);
   if (order.mapping.empty()) return report;
   report = report.Without("trc-name-with-blank");  // no entry can name such a marker: it is dropped
-  report.Take(ReportOnMarkers(order.mapping, conversion, bytes, options));
+  report.Take(ReportOnMarkers(order.mapping, conversion, look.header, options));
   return WithoutConsequences(report);
 }
 
@@ -152,42 +141,44 @@ void RefuseStrictly(Conversion& conversion, const ConversionOrder& order) {
       {conversion.input, "With --strict the file " + verb + " because of " + codes, ""});
 }
 
-void ReportOnInput(Conversion& conversion, const ConversionOrder& order) {
+void ReportOnInput(Conversion& conversion, const ConversionOrder& order, TrcLook& look) {
   const bool is_planned = conversion.status == ConversionStatus::kPlanned;
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
-  if (!bytes) return RequireInput(conversion);
-  try {
-    conversion.report = ReportOnFile(order, conversion, *bytes);
-  } catch (const orvane::CheckFailure& failure) {
-    conversion.status = ConversionStatus::kUnreadable;
-    conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
-    return;
-  }
+  conversion.report = ReportOnFile(order, conversion, look);
   if (is_planned && Forbids(order.report, conversion.report)) RefuseStrictly(conversion, order);
 }
 
-// Looks at the header of the input.
-RateSource JudgeHeader(Conversion& conversion, const ConversionOrder& order,
-                       const MarkerNaming& naming) {
-  RequireInput(conversion);
-  const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
-  if (!outline) return RateSource::kFile;
-  orvane::TRCDocument document;
-  const std::string message = document.ReadBytes(outline->Header(), false);
-  const RateSource rate = RateSourceOf(*outline, message);
-  if (!message.empty()) return rate;
-  MatchNames(conversion, document, naming, order.names);
-  if (conversion.status == ConversionStatus::kRefused) return rate;
-  if (rate != RateSource::kFile) {
-    RefuseForeignRate(conversion);
-    return rate;
-  }
-  const FrameCounts counts =
-      order.cut ? CountCut(conversion, *order.cut, *outline) : CountAll(document, *outline);
+// Of a file whose rates are its own.
+void JudgeHeader(Conversion& conversion, const ConversionOrder& order, const MarkerNaming& naming,
+                 const TrcLook& look) {
+  if (!look.refusal.empty()) return;
+  MatchNames(conversion, look.document, naming, order.names);
+  if (conversion.status == ConversionStatus::kRefused) return;
+  if (!look.has_rates) return RefuseForeignRate(conversion);
+  const FrameCounts counts = order.cut
+                                 ? CountCut(conversion, *order.cut, look.held)
+                                 : FrameCounts{look.document.NumFrames(), look.frames, look.frames};
   if (conversion.status != ConversionStatus::kRefused) {
-    JudgeFrames(conversion, document, counts, naming);
+    JudgeFrames(conversion, look.document, counts, naming);
   }
-  return rate;
+}
+
+// What the plug-in writes of the file, where its samples were read.
+std::optional<WrittenCounts> CountWritten(const Conversion& conversion,
+                                          const ConversionOrder& order, const MarkerNaming& naming,
+                                          const TrcLook& look) {
+  if (!look.has_samples || !look.refusal.empty()) return std::nullopt;
+  orvane::FrameSpan frames = {0, std::int64_t{look.document.NumFrames()} - 1};
+  if (order.cut) {
+    const orvane::FrameSpan both = Overlap(*order.cut, look.held);
+    frames = {both.first - look.held.first, both.last - look.held.first};
+  }
+  WrittenCounts counts{frames.Count(), 0, 0};
+  for (const orvane::TRCMarker& marker : look.document.markers()) {
+    if (!naming.NameFor(conversion.match.NameInMapping(marker.Name()))) continue;
+    ++counts.markers;
+    counts.dropouts += CountDropouts(marker, frames);
+  }
+  return counts;
 }
 
 // Without a report nothing else says why.
@@ -244,16 +235,30 @@ void RefuseForeignRate(Conversion& conversion) {
                                "It would be written with a camera rate that is not its own."});
 }
 
-RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
-                      const MarkerNaming& naming) {
-  const RateSource rate = JudgeHeader(conversion, order, naming);
+Judgment JudgeInput(Conversion& conversion, const ConversionOrder& order,
+                    const MarkerNaming& naming) {
+  RequireInput(conversion);
+  if (conversion.status == ConversionStatus::kUnreadable) return {};
+  std::unique_ptr<TrcLook> look;
+  try {
+    look = LookAtInput(conversion, order);
+  } catch (const orvane::CheckFailure& failure) {
+    conversion.status = ConversionStatus::kUnreadable;
+    conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
+    return {};
+  }
+  if (!look) {
+    RequireInput(conversion);
+    return {};
+  }
+  JudgeHeader(conversion, order, naming, *look);
   const bool is_settled = conversion.status != ConversionStatus::kPlanned;
   if (!is_settled && conversion.is_empty && order.NeedsMarkers()) SettleEmpty(conversion, order);
-  const bool is_unreadable = conversion.status == ConversionStatus::kUnreadable;
-  if (!order.report.omitted && !is_unreadable) ReportOnInput(conversion, order);
+  if (look->checked) ReportOnInput(conversion, order, *look);
+  const RateSource rate = RateSourceOf(*look);
   const bool ends_early = rate == RateSource::kOthersShort && is_settled;
   if (ends_early && NamesWhy(conversion)) conversion.errors.clear();
-  return rate;
+  return {rate, CountWritten(conversion, order, naming, *look)};
 }
 
 }  // namespace cli

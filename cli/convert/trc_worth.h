@@ -1,5 +1,8 @@
 #pragma once
 
+#include <cstdint>
+#include <optional>
+
 #include "cli/convert/conversion.h"
 #include "cli/convert/conversion_order.h"
 #include "formats/trc/document.h"
@@ -33,6 +36,18 @@ enum class RateSource {
 // Settles `conversion` as refused, because its output would have the rate of another file.
 void RefuseForeignRate(Conversion& conversion);
 
+// How much the plug-in writes.
+struct WrittenCounts {
+  std::int64_t frames = 0;
+  std::int64_t markers = 0;
+  std::int64_t dropouts = 0;
+};
+
+struct Judgment {
+  RateSource rate = RateSource::kFile;     // of what cannot be read, too
+  std::optional<WrittenCounts> written{};  // unless the file was only looked over
+};
+
 // Looks at the input of `conversion`, whose markers get their names by `naming`, and notes in it
 // how many markers it has, as dropped ones, which of them are taken for others of the mapping, and
 // whether any is left. When that is ambiguous the conversion is refused. When frames are missing
@@ -40,9 +55,8 @@ void RefuseForeignRate(Conversion& conversion);
 // to write is settled as empty when `order` needs some. Where a report is wished for, what is odd
 // in the input, and in its markers against the mapping, is kept as the conversion's; when `order`
 // forbids that, the conversion is refused. A file that cannot be read is settled; one that the
-// reader refuses is left to the plug-in, which tells that. Returns kFile when nothing is to be
-// read.
-RateSource JudgeInput(Conversion& conversion, const ConversionOrder& order,
-                      const orvane::MarkerNaming& naming);
+// reader refuses is left to the plug-in, which tells that.
+Judgment JudgeInput(Conversion& conversion, const ConversionOrder& order,
+                    const orvane::MarkerNaming& naming);
 
 }  // namespace cli

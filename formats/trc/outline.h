@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "formats/text/lines.h"
+#include "formats/trc/line_rules.h"
 
 // What a marker file holds, without reading its numbers.
 namespace orvane {
@@ -17,6 +18,9 @@ class TRCOutliner {
 
   // The lines before the frames; for TRCDocument::ReadBytes.
   const std::string& Header() const { return header_; }
+
+  // Whether it is whole: the next line is none of it.
+  bool HasHeader() const { return number_ >= kPerhapsBlankLine && !throws_away_; }
 
   // How many lines the reader comes to; not those whose place a comment takes.
   std::size_t Lines() const { return number_; }
@@ -36,5 +40,8 @@ class TRCOutliner {
   std::size_t number_ = 0;    // of the next line, counted from 0
   bool throws_away_ = false;  // the next line
 };
+
+// The header of a file that starts with `bytes`, or as much of it as they hold.
+[[nodiscard]] std::string TrcHeaderOf(std::string_view bytes);
 
 }  // namespace orvane

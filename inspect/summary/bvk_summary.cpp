@@ -4,7 +4,6 @@
 #include <cstddef>
 #include <fstream>
 #include <string_view>
-#include <vector>
 
 #include "formats/text/numbers.h"
 
@@ -18,32 +17,22 @@ constexpr std::size_t kPiece = std::size_t{256} * 1024;
 struct Header {
   std::int64_t frames = 0;
   std::int64_t markers = 0;
-  std::int64_t lines_behind = 0;  // that a whole file has behind it
-  bool is_whole = false;
+  std::string last_frame{};  // its number
+  bool has_order = false;
 };
 
-// Reads a line without its end, which is CR LF where the system's is. Returns false behind the
-// last.
+// Byte by byte, so that places in the file are known: lines end with CR LF where the system's do.
+std::ifstream Open(const std::string& path) {
+  std::ifstream file(path, std::ios::binary);
+  file.exceptions(std::ios::badbit);
+  return file;
+}
+
+// Reads a line without its end. Returns false behind the last.
 bool ReadLine(std::ifstream& file, std::string& line) {
   const bool is_line = static_cast<bool>(std::getline(file, line));
   if (file.good() && line.ends_with('\r')) line.pop_back();
   return is_line;
-}
-
-// Reads the line behind "$Order" too. Files with markers have their names there, an empty line and
-// "$Points"; those without have the first frame, or end. A frame takes two lines.
-void ReadOrder(std::ifstream& file, Header& header) {
-  const std::int64_t frame_lines = 2 * header.frames;
-  std::string line;
-  ReadLine(file, line);
-  const bool is_line = file.good();
-  const bool is_frame = line.find('\t') != std::string::npos;
-  if (is_line) {
-    header.lines_behind = is_frame ? frame_lines - 1 : frame_lines + 2;
-    header.is_whole = true;
-  } else {
-    header.is_whole = line.empty() && frame_lines == 0;
-  }
 }
 
 Header ReadHeader(std::ifstream& file) {
@@ -53,12 +42,48 @@ Header ReadHeader(std::ifstream& file) {
     const std::size_t blank = line.find(' ');
     if (blank == std::string::npos) continue;
     const std::string keyword = line.substr(0, blank);
-    const std::int64_t value = ParseInt(line.substr(blank + 1));
-    if (keyword == "$NumFrames") header.frames = std::max<std::int64_t>(value, 0);
-    if (keyword == "$NumMarkers") header.markers = value;
+    const std::string value = line.substr(blank + 1);
+    if (keyword == "$NumFrames") header.frames = std::max<std::int64_t>(ParseInt(value), 0);
+    if (keyword == "$NumMarkers") header.markers = ParseInt(value);
+    if (keyword == "$LastFrame") header.last_frame = value;
   }
-  if (file.good()) ReadOrder(file, header);
+  header.has_order = file.good();
   return header;
+}
+
+std::size_t SizeOf(std::ifstream& file) {
+  return static_cast<std::size_t>(file.seekg(0, std::ios::end).tellg());
+}
+
+// The last `size` bytes, or all where there are not so many, without carriage returns.
+std::string ReadEnd(std::ifstream& file, std::size_t size) {
+  const std::size_t all = SizeOf(file);
+  std::string text(std::min(all, size), '\0');
+  file.seekg(static_cast<std::streamoff>(all - text.size()));
+  file.read(text.data(), static_cast<std::streamsize>(text.size()));
+  text.resize(static_cast<std::size_t>(file.gcount()));
+  std::erase(text, '\r');
+  return text;
+}
+
+// Whether the file ends with the frame of that number, and an empty line.
+bool EndsWithFrame(std::ifstream& file, const std::string& number) {
+  constexpr std::string_view kEnd = "\t\n\n";
+  for (std::size_t size = kPiece;; size *= 2) {
+    const std::string text = ReadEnd(file, size);
+    if (!text.ends_with(kEnd)) return false;
+    const std::string_view frame = std::string_view(text).substr(0, text.size() - kEnd.size());
+    if (const std::size_t break_before = frame.rfind('\n'); break_before != frame.npos) {
+      return text.substr(break_before + 1).starts_with(number + '\t');
+    }
+    if (size >= SizeOf(file)) return false;
+  }
+}
+
+// A file without markers has neither names nor "$Points".
+bool EndsWithNames(std::ifstream& file, const Header& header) {
+  const std::string end = ReadEnd(file, kPiece);
+  return end.ends_with("\n\n$Points\n") || (header.markers == 0 && end.ends_with("$Order\n"));
 }
 
 std::int64_t CountOf(std::string_view wanted, std::string_view text) {
@@ -70,41 +95,35 @@ std::int64_t CountOf(std::string_view wanted, std::string_view text) {
   return count;
 }
 
-struct Body {
-  std::int64_t line_feeds = 0;
-  std::int64_t dropouts = 0;
-};
-
-// A dropout may begin in one piece and end in the next, so the start of one is carried over.
-Body ReadBody(std::ifstream& file) {
-  Body body;
-  std::vector<char> bytes(kPiece);
-  std::size_t carried = 0;
-  while (file) {
-    file.read(bytes.data() + carried, static_cast<std::streamsize>(kPiece - carried));
-    const std::size_t size = carried + static_cast<std::size_t>(file.gcount());
-    const std::string_view text(bytes.data(), size);
-    body.line_feeds += CountOf("\n", text.substr(carried));
-    body.dropouts += CountOf(kDropout, text);
-    const std::size_t last_tab = text.rfind('\t');
-    const std::string_view rest =
-        last_tab == std::string_view::npos ? text : text.substr(last_tab + 1);
-    carried = std::min(rest.size(), kDropout.size() - 1);
-    std::copy(text.end() - static_cast<std::ptrdiff_t>(carried), text.end(), bytes.begin());
-  }
-  return body;
-}
-
 }  // namespace
 
 std::optional<BvkSummary> SummarizeBvk(const std::string& path) {
-  std::ifstream file(path);  // as text: the system has its own line ends
-  file.exceptions(std::ios::badbit);
+  std::ifstream file = Open(path);
   const Header header = ReadHeader(file);
-  if (!header.is_whole) return std::nullopt;
-  const Body body = ReadBody(file);
-  if (body.line_feeds != header.lines_behind) return std::nullopt;
-  return BvkSummary{header.frames, header.markers, body.dropouts};
+  if (!header.has_order) return std::nullopt;
+  const bool is_whole =
+      header.frames > 0 ? EndsWithFrame(file, header.last_frame) : EndsWithNames(file, header);
+  if (!is_whole) return std::nullopt;
+  return BvkSummary{header.frames, header.markers};
+}
+
+// A dropout may begin in one piece and end in the next, so the start of one is carried over.
+std::int64_t CountBvkDropouts(const std::string& path) {
+  std::ifstream file = Open(path);
+  (void)ReadHeader(file);
+  std::int64_t count = 0;
+  std::string bytes(kPiece, '\0');
+  std::size_t carried = 0;
+  while (file) {
+    file.read(bytes.data() + carried, static_cast<std::streamsize>(kPiece - carried));
+    const std::string_view text =
+        std::string_view(bytes).substr(0, carried + static_cast<std::size_t>(file.gcount()));
+    count += CountOf(kDropout, text);
+    const std::string_view rest = text.substr(text.rfind('\t') + 1);
+    carried = std::min(rest.size(), kDropout.size() - 1);
+    std::copy(text.end() - static_cast<std::ptrdiff_t>(carried), text.end(), bytes.begin());
+  }
+  return count;
 }
 
 }  // namespace orvane

@@ -299,6 +299,37 @@ TEST_F(ConvertTest, WritesJson) {
   EXPECT_EQ(report["logs"][0], "ConvertBVKLog.txt");
 }
 
+// How often `text` holds the word.
+std::size_t CountOf(const std::string& word, const std::string& text) {
+  std::size_t count = 0;
+  for (auto at = text.find(word); at != std::string::npos; at = text.find(word, at + 1)) ++count;
+  return count;
+}
+
+TEST_F(ConvertTest, CountsTheDropoutsThatItWritesHoweverItLooksAtTheFile) {
+  Write("map.mnm", "HEAD\tToe\n");
+  TrcText text{.markers = {"Head1", "Toe", "Heel"},
+               .frames = {{"1\t2\t3", "", ""}, {"", "1\t2\t3", ""}, {"", "", ""}, {"", "", ""}}};
+  for (const int announced : {2, 4, 7}) {
+    text.frame_count = announced;
+    Write("walk.trc", text.Text());
+    const std::vector<std::vector<std::string>> cases = {
+        {}, {"--cut", "2:3"}, {"--mapping", "map.mnm"}, {"--mapping", "map.mnm", "--cut", "1:2"}};
+    for (const auto& flags : cases) {
+      for (const bool is_reported : {true, false}) {
+        std::vector<std::string> arguments = {"walk.trc", "--json", "--force"};
+        arguments.insert(arguments.end(), flags.begin(), flags.end());
+        if (!is_reported) arguments.emplace_back("--no-report");
+        const ProgramResult result = Convert(arguments);
+        ASSERT_EQ(result.status, 0) << result.error;
+        EXPECT_EQ(json::parse(result.output)["files"][0]["dropouts"],
+                  CountOf("DROPOUT\t", ReadText("walk.bvk")))
+            << announced << ' ' << testing::PrintToString(arguments);
+      }
+    }
+  }
+}
+
 TEST_F(ConvertTest, RefusesWrongArguments) {
   Write("walk.trc", Take());
   MakeFolder("out");

@@ -2,7 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdint>
+#include <limits>
 #include <regex>
+#include <string>
 
 #include "formats/bvk/writer.h"
 #include "tests/support/temporary_folder.h"
@@ -32,11 +35,12 @@ TEST(SummarizeBvkTest, CountsFramesMarkersAndDropouts) {
   for (const int frames : {0, 2, 40'000}) {
     orvane::TRCDocument document;
     Fill(document, frames);
-    const auto summary = SummarizeBvk(folder.Write("walk.bvk", BvkText(document)));
+    const std::string path = folder.Write("walk.bvk", BvkText(document));
+    const auto summary = SummarizeBvk(path);
     ASSERT_TRUE(summary) << frames;
     EXPECT_EQ(summary->frames, frames);
     EXPECT_EQ(summary->markers, 2);
-    EXPECT_EQ(summary->dropouts, frames + frames / 2);
+    EXPECT_EQ(CountBvkDropouts(path), frames + frames / 2);
   }
 }
 
@@ -64,6 +68,51 @@ TEST(SummarizeBvkTest, ThrowsWhenItCannotReadOn) {
   EXPECT_THROW((void)SummarizeBvk(folder.Path().string()), std::ios_base::failure);
 }
 
+// Of two or more.
+std::string WithoutLastFrame(const std::string& text) {
+  return text.substr(0, text.rfind("\n\n", text.size() - 3) + 2);
+}
+
+TEST(SummarizeBvkTest, TakesALastFrameThatIsLongerThanWhatIsReadAtOnce) {
+  const test::TemporaryFolder folder;
+  orvane::TRCDocument document;
+  document.SetNumFrames(2);
+  for (int marker = 0; marker < 20'000; ++marker) {
+    TRCMarker* const added = document.AddMarker(TRCMarker("m" + std::to_string(marker)));
+    for (int frame = 0; frame < 2; ++frame) added->AppendPosition(marker, 1e15, 1e15);
+  }
+  const std::string text = BvkText(document);
+  EXPECT_TRUE(SummarizeBvk(folder.Write("walk.bvk", text)));
+  EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", text.substr(0, text.size() - 1))));
+  EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", WithoutLastFrame(text))));
+}
+
+// Numbers go on below zero, and begin again from the lowest behind the highest.
+TEST(SummarizeBvkTest, TakesFramesOfAllNumbers) {
+  const test::TemporaryFolder folder;
+  for (const std::int32_t first : {-3, 0, std::numeric_limits<std::int32_t>::max()}) {
+    orvane::TRCDocument document;
+    Fill(document, 4);
+    document.SetFirstFrame(first);
+    const std::string text = BvkText(document);
+    EXPECT_TRUE(SummarizeBvk(folder.Write("walk.bvk", text))) << first;
+    EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", WithoutLastFrame(text)))) << first;
+  }
+}
+
+TEST(SummarizeBvkTest, TakesNoNameForAFrameOrADropout) {
+  const test::TemporaryFolder folder;
+  orvane::TRCDocument document;
+  document.SetNumFrames(1);
+  document.AddMarker(TRCMarker("1"))->AppendDropout();
+  std::string text;
+  PrintBvk(document, {"DROPOUT\t", "Wed Jun 30 21:49:08 1993\n", {}},
+           [&text](std::string_view piece) { text += piece; });
+  const std::string path = folder.Write("walk.bvk", text);
+  EXPECT_TRUE(SummarizeBvk(path));
+  EXPECT_EQ(CountBvkDropouts(path), 1);
+}
+
 TEST(SummarizeBvkTest, NoticesThatAFileIsNotWhole) {
   const test::TemporaryFolder folder;
   orvane::TRCDocument document;
@@ -72,10 +121,11 @@ TEST(SummarizeBvkTest, NoticesThatAFileIsNotWhole) {
     for (std::size_t length = 0; length < text.size(); ++length) {
       EXPECT_FALSE(SummarizeBvk(folder.Write("walk.bvk", text.substr(0, length)))) << length;
     }
-    const auto summary = SummarizeBvk(folder.Write("walk.bvk", text));
+    const std::string path = folder.Write("walk.bvk", text);
+    const auto summary = SummarizeBvk(path);
     ASSERT_TRUE(summary);
     EXPECT_EQ(summary->frames, 4);
-    EXPECT_EQ(summary->dropouts, 6);
+    EXPECT_EQ(CountBvkDropouts(path), 6);
   }
   EXPECT_FALSE(SummarizeBvk(folder.File("missing.bvk")));
 }

@@ -1,0 +1,20 @@
+#include "inspect/counts/dropouts.h"
+
+namespace orvane {
+namespace {
+
+FrameSpan SpanOf(std::size_t begin, std::size_t end) {
+  return {static_cast<std::int64_t>(begin), static_cast<std::int64_t>(end) - 1};
+}
+
+}  // namespace
+
+std::int64_t CountDropouts(const TRCMarker& marker, const FrameSpan& frames) {
+  std::int64_t count = frames.Count() - Overlap(frames, SpanOf(0, marker.SampleCount())).Count();
+  for (const TRCMarker::Gap& gap : marker.Gaps()) {
+    count += Overlap(frames, SpanOf(gap.begin, gap.end)).Count();
+  }
+  return count;
+}
+
+}  // namespace orvane
