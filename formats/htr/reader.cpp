@@ -10,11 +10,11 @@
 
 #include "formats/htr/header_fields.h"
 #include "formats/htr/messages.h"
-#include "formats/htr/number_cells.h"
 #include "formats/htr/oddities.h"
 #include "formats/htr/sections.h"
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
+#include "formats/text/number_row.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/units/units.h"
@@ -27,6 +27,13 @@ constexpr std::array<std::string_view, 7> kBasePositionColumns = {"Tx", "Ty", "T
 constexpr std::string_view kFrameColumn = "Frame";
 constexpr std::array<std::string_view, 7> kMotionColumns = {
     "Tx", "Ty", "Tz", "Rx", "Ry", "Rz", "BoneScaleFactor"};
+
+// The numbers of a line, behind the name of a segment or the number of a frame: a translation,
+// three angles, and the length of the bone or its scale.
+constexpr std::size_t kNumbersOfALine = 7;
+constexpr std::size_t kTranslation = 0;
+constexpr std::size_t kAngles = 3;
+constexpr std::size_t kLast = 6;
 
 // A count that a file merely announces reserves no more frames than this.
 constexpr std::size_t kMostFramesReserved = 1 << 16;
@@ -90,11 +97,12 @@ class HtrReader {
   std::string ReadHierarchyLine(std::string_view line);
   std::string ReadBasePositionLine(std::string_view line);
   void ReadMotionLine(std::string_view line);
+  Vector3 VectorAt(std::size_t first, double factor) const;
   void TellFrame(std::string_view line);
   void CheckMotionLine(std::string_view line) const;
   void CountFrame(std::string_view line);
   void TakeStartFrame(std::int32_t frame_number);
-  void ReserveFor(std::string_view frame_number);
+  void ReserveFor(std::string_view line);
   std::string Finish();
   void LookBehindTheEnd();
 
@@ -110,6 +118,7 @@ class HtrReader {
   std::size_t links_made_ = 0;
   std::int64_t segments_awaited_ = 0;  // announced by the header, less the base positions read
   double angle_factor_ = 1.0;
+  NumberRow<BlanksAndTabs> numbers_;  // of the current line
 
   HtrSegment* segment_ = nullptr;  // of the current motion section; null for an unknown name
   std::size_t* frames_counted_ = nullptr;  // of that segment, when frames are only counted
@@ -294,12 +303,12 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
     observer->OnBasePosition(oddities_.CellOf(name));
     oddities_.CheckNumbers(line, kBasePositionColumns);
   }
-  NumberCells cells(line);
-  const Vector3 translation = cells.TakeVector(1.0);
-  const Vector3 angles = cells.TakeVector(angle_factor_);
+  numbers_.Read(line, 0, kNumbersOfALine);
+  const Vector3 translation = VectorAt(kTranslation, 1.0);
+  const Vector3 angles = VectorAt(kAngles, angle_factor_);
   segment->SetBaseTranslation(translation.x(), translation.y(), translation.z());
   segment->SetBaseRotation(angles.x(), angles.y(), angles.z());
-  segment->SetBoneLength(cells.Take());
+  segment->SetBoneLength(NumberOrZero(numbers_[kLast]));
   // Intended: base positions are what is counted, not the lines of the hierarchy.
   --segments_awaited_;
   return {};
@@ -309,12 +318,20 @@ void HtrReader::ReadMotionLine(std::string_view line) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
   if (frames_counted_ != nullptr) return CountFrame(line);
   if (oddities_.Observer() != nullptr) TellFrame(line);
-  NumberCells cells(line);
-  ReserveFor(cells.TakeWord());
-  const Vector3 translation = cells.TakeVector(1.0);
-  const Vector3 angles = cells.TakeVector(angle_factor_);
-  segment_->AddFrame(translation, angles, cells.Take());
-  if (oddities_.Observer() != nullptr && !cells.AreOrdinary()) CheckMotionLine(line);
+  if (segment_->GetNumFrames() == 0) ReserveFor(line);
+  const std::string_view rest = numbers_.Read(line, 1, kNumbersOfALine);
+  segment_->AddFrame(VectorAt(kTranslation, 1.0), VectorAt(kAngles, angle_factor_),
+                     NumberOrZero(numbers_[kLast]));
+  if (oddities_.Observer() == nullptr) return;
+  const bool is_ordinary =
+      numbers_.Count() == kNumbersOfALine && numbers_.AreOrdinary() && SkipSeparators(rest).empty();
+  if (!is_ordinary) CheckMotionLine(line);
+}
+
+// Three numbers of the line from `first` on, each times `factor`.
+Vector3 HtrReader::VectorAt(std::size_t first, double factor) const {
+  return Vector3(NumberOrZero(numbers_[first]) * factor, NumberOrZero(numbers_[first + 1]) * factor,
+                 NumberOrZero(numbers_[first + 2]) * factor);
 }
 
 void HtrReader::TellFrame(std::string_view line) {
@@ -342,13 +359,10 @@ void HtrReader::TakeStartFrame(std::int32_t frame_number) {
 
 // Makes room before the first line of a segment. Later segments follow what the last section really
 // held, so that room grows with the file and not with what it announces.
-void HtrReader::ReserveFor(std::string_view frame_number) {
-  if (!first_frame_read_) {
-    TakeStartFrame(ParseInt(frame_number));
-    segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
-  } else if (segment_->GetNumFrames() == 0) {
-    segment_->ReserveFrames(frames_in_last_section_);
-  }
+void HtrReader::ReserveFor(std::string_view line) {
+  if (first_frame_read_) return segment_->ReserveFrames(frames_in_last_section_);
+  TakeStartFrame(ParseInt(TakeFirstToken(line)));
+  segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
 }
 
 std::string HtrReader::Finish() {

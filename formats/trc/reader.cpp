@@ -9,8 +9,8 @@
 
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
+#include "formats/text/number_row.h"
 #include "formats/text/numbers.h"
-#include "formats/trc/coordinate_cells.h"
 #include "formats/trc/data_line_inspector.h"
 #include "formats/trc/document.h"
 #include "formats/trc/fields.h"
@@ -27,6 +27,9 @@ constexpr const char* kTooLong = "vector<T> too long";
 // The text of the shortest sample, three digits and three tabs. The room that is made beforehand
 // keeps in proportion to the file thereby, whatever its header announces.
 constexpr std::size_t kShortestSample = 6;
+
+constexpr std::size_t kCellsBeforeSamples = 2;  // the frame number and the time
+constexpr std::size_t kCoordinates = 3;
 
 // One pass over the bytes. Functions that return a text return an empty one, or the message that
 // ends the reading.
@@ -63,6 +66,7 @@ class TRCReader {
   const bool watches_frames_;
 
   TRCHeader header_;
+  NumberRow<SingleTabs> numbers_;
   std::size_t frames_read_ = 0;
 };
 
@@ -143,26 +147,26 @@ void TRCReader::ReadFrame(const Line& line) {
 
 // Returns true when nothing about the samples is odd. False says nothing.
 bool TRCReader::ReadSamples(const Line& line) {
-  TRCCoordinateCells cells(line.text);
-  cells.Drop();  // the frame number
-  cells.Drop();  // the time
-  bool has_all = !document_.markers().empty();
+  const std::size_t most = kCoordinates * document_.markers().size();
+  const std::string_view rest = numbers_.Read(line.text, kCellsBeforeSamples, most);
+  const std::size_t count = numbers_.Count();
+  bool is_ordinary = count > 0 && rest.empty() && numbers_.AreOrdinary();
+  std::size_t cell = 0;
   for (TRCMarker& marker : document_.markers()) {
-    if (cells.AtEnd()) {
-      has_all = false;
-      break;
-    }
-    if (cells.IsEmpty()) {
-      cells.DropSample();
+    if (cell >= count) return false;
+    const bool has_two_cells = cell + 1 < count;
+    const double x = numbers_[cell++];
+    const double y = numbers_[cell++];
+    const double z = numbers_[cell++];
+    if (IsNoNumber(x)) {
+      is_ordinary = is_ordinary && has_two_cells && IsNoNumber(y) && IsNoNumber(z);
       continue;
     }
-    const double x = cells.Take();
-    const double y = cells.Take();
-    const double z = cells.Take();
+    is_ordinary = is_ordinary && !IsNoNumber(y) && !IsNoNumber(z);
     marker.AppendDropouts(frames_read_ - marker.SampleCount());
-    marker.AppendPosition(x, y, z);
+    marker.AppendPosition(x, NumberOrZero(y), NumberOrZero(z));
   }
-  return has_all && cells.AtEnd() && cells.IsOrdinary();
+  return is_ordinary;
 }
 
 void TRCReader::ReadFirstFrameNumber(const Line& line) {

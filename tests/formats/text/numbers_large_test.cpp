@@ -8,6 +8,7 @@
 #include <random>
 #include <string_view>
 
+#include "formats/text/number_row.h"
 #include "formats/text/numbers.h"
 
 namespace orvane {
@@ -52,6 +53,27 @@ TEST(ReadDouble, AgreesWithTheStandardLibraryOnTenMillionPlainDecimals) {
     std::memset(line.data() + text.size(), kBehind[(bits >> 16) % kBehind.size()], 8);
     const std::size_t behind = (bits >> 24) % 9;
     ExpectLikeTheStandardLibrary({line.data(), text.size()}, {line.data(), text.size() + behind});
+  }
+}
+
+// The same as cells of a row, where numbers of few digits take a shorter way.
+TEST(NumberRow, AgreesWithTheStandardLibraryOnTenMillionPlainDecimals) {
+  std::mt19937_64 random(20261122);
+  NumberRow<SingleTabs> row;
+  int decimals = 0;
+  for (int round = 0; round < kValues && !HasFatalFailure(); ++round) {
+    const std::uint64_t bits = random();
+    const std::uint64_t digits = random() >> (bits % 64);  // of every size alike
+    if (bits >> 13 & 1) decimals = static_cast<int>(bits >> 8 & 31) % 12;
+    std::array<char, 64> buffer;
+    const std::string_view text = WriteDecimal(digits, decimals, buffer);
+    std::array<char, 80> line{};
+    std::memset(line.data(), '\t', 16);
+    std::memcpy(line.data() + 16, text.data(), text.size());
+    double expected = 0.0;
+    std::from_chars(text.data(), text.data() + text.size(), expected);
+    ASSERT_TRUE(row.Read({line.data(), 16 + text.size()}, 16, 1).empty());
+    ASSERT_EQ(std::bit_cast<std::uint64_t>(row[0]), std::bit_cast<std::uint64_t>(expected)) << text;
   }
 }
 

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <bit>
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+
+// Eight characters at once, as a whole number of 64 bits whose lowest byte is the first of them.
+// For the reading of long columns.
+namespace orvane {
+
+static_assert(std::endian::native == std::endian::little, "words are read in the order of bytes");
+
+using Word = std::uint64_t;
+
+inline constexpr std::size_t kCharactersPerWord = 8;
+
+// A word of eight times `character`.
+[[nodiscard]] constexpr Word WordOf(char character) {
+  return Word{0x0101010101010101} * static_cast<unsigned char>(character);
+}
+
+// The eight characters from `text` on.
+[[nodiscard]] inline Word LoadWord(const char* text) {
+  Word word = 0;
+  std::memcpy(&word, text, sizeof word);
+  return word;
+}
+
+// The highest bit of each byte that is `character`, and no other bit.
+[[nodiscard]] constexpr Word MarksOf(char character, Word word) {
+  constexpr Word kLowBits = WordOf('\x7F');
+  const Word difference = word ^ WordOf(character);
+  return ~(((difference & kLowBits) + kLowBits) | difference | kLowBits);
+}
+
+// The marks of the eight bytes as eight bits, that of the first byte lowest.
+[[nodiscard]] constexpr Word GatherMarks(Word marks) {
+  return ((marks >> 7U) * Word{0x0102040810204080}) >> 56U;
+}
+
+// How many bits are 1. What the standard library has calls a function where a processor may lack
+// the instruction.
+[[nodiscard]] constexpr std::size_t CountBits(Word word) {
+  word -= (word >> 1U) & Word{0x5555555555555555};
+  word = (word & Word{0x3333333333333333}) + ((word >> 2U) & Word{0x3333333333333333});
+  word = (word + (word >> 4U)) & WordOf('\x0F');
+  return static_cast<std::size_t>((word * WordOf('\x01')) >> 56U);
+}
+
+}  // namespace orvane
