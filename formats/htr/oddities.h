@@ -14,9 +14,7 @@ namespace orvane {
 
 class HtrOddities {
  public:
-  // `bytes` is what is read.
-  HtrOddities(HtrReadObserver* observer, std::string_view bytes)
-      : observer_(observer), line_(bytes) {}
+  explicit HtrOddities(HtrReadObserver* observer) : observer_(observer) {}
 
   // Null when nobody watches.
   HtrReadObserver* Observer() const { return observer_; }

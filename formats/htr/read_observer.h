@@ -64,8 +64,12 @@ enum class HtrOddity {
   kRefusedBasePositionCount,  // differs from NumSegments; empty, behind the last line
 };
 
-// All calls come while reading, most of them in file order; texts live as long as the bytes that
-// are read.
+// All calls come while reading, most of them in file order.
+//
+// A text that is told is a part of the current line, which lies in memory as a whole, from its
+// first byte to the line break, whether it is read in pieces or not; a parent that is not found is
+// a text of its own. All of them live until the call returns: whoever wants to keep one takes a
+// copy.
 class HtrReadObserver {
  public:
   virtual ~HtrReadObserver() = default;
@@ -84,6 +88,9 @@ class HtrReadObserver {
   virtual void OnBasePosition(const HtrCell& /*name*/) {}
   // A frame is about to be added to the segment of the current section.
   virtual void OnFrame(const HtrCell& /*number*/) {}
+  // All lines have been read or passed over: the place behind the last byte, with no text. A file
+  // that is refused before, or not read up to its motion, has no end.
+  virtual void OnEnd(const HtrCell& /*end*/) {}
 };
 
 }  // namespace orvane

@@ -66,7 +66,7 @@ class HtrReader {
         lines_(bytes),
         most_links_(std::max(kLinksAlwaysMade, bytes.size())),
         read_motion_(read_motion),
-        oddities_(observer, bytes),
+        oddities_(observer),
         counts_(counts) {}
 
   std::string Read();
@@ -105,6 +105,7 @@ class HtrReader {
   void ReserveFor(std::string_view line);
   std::string Finish();
   void LookBehindTheEnd();
+  void TellEnd();
 
   HtrDocument& document_;
   LineReader lines_;
@@ -135,8 +136,17 @@ std::string HtrReader::Read() {
     if (!message.empty()) return message;
   }
   std::string message = Finish();
-  if (oddities_.Observer() != nullptr) LookBehindTheEnd();
+  if (oddities_.Observer() == nullptr) return message;
+  LookBehindTheEnd();
+  if (state_ != State::kStoppedBeforeMotion) TellEnd();
   return message;
+}
+
+void HtrReader::TellEnd() {
+  Line line;
+  while (lines_.Next(line)) continue;
+  const LinePlace end = lines_.End();
+  oddities_.Observer()->OnEnd({{}, end.line, end.column});
 }
 
 void HtrReader::LookBehindTheEnd() {

@@ -11,23 +11,33 @@ bool LineReader::Next(Line& line) {
   line.text = whole ? content_ : content_.substr(0, longest_piece_);
   line.ends_with_break = whole && has_break_;
   line.number = number_;
+  line.offset = size_ - carriage_returns_ - content_.size();
+  line.carriage_returns = line.ends_with_break ? carriage_returns_ : 0;
   content_.remove_prefix(line.text.size());
   if (whole) has_break_ = false;
+  line.stands_before_nul = content_.starts_with('\0');
+  line.ends_file = content_.empty() && !is_broken_ && carriage_returns_ == 0;
 
   if (const std::size_t nul = line.text.find('\0'); nul != std::string_view::npos) {
     line.text = line.text.substr(0, nul);
     line.ends_with_break = false;
+    line.carriage_returns = 0;
+    line.stands_before_nul = true;
+    line.ends_file = false;
   }
   return true;
 }
 
 // Finds the end of the next line. Returns false when there is none.
 bool LineReader::StartLine() {
+  if (rest_.empty()) return false;
   const std::size_t end = rest_.find('\n');
-  has_break_ = end != std::string_view::npos;
+  has_break_ = is_broken_ = end != std::string_view::npos;
   content_ = rest_.substr(0, end);
+  size_ = content_.size();
   rest_.remove_prefix(has_break_ ? end + 1 : rest_.size());
   while (!content_.empty() && content_.back() == '\r') content_.remove_suffix(1);
+  carriage_returns_ = size_ - content_.size();
   ++number_;
   return has_break_ || !content_.empty();
 }

@@ -14,6 +14,18 @@ struct Line {
   std::string_view text;         // without the line break
   bool ends_with_break = false;  // false for all but the last piece, and at an unfinished end
   std::size_t number = 0;        // of the line in the file, counted from 1
+
+  // What follows tells where the text stands, and what stands around it.
+  std::size_t offset = 0;            // of the text in its line, in bytes
+  std::size_t carriage_returns = 0;  // between the text and the line break
+  bool stands_before_nul = false;    // a NUL is the next byte
+  bool ends_file = false;            // nothing follows, not even a line break
+};
+
+// A place in a file; both count from 1, columns in bytes.
+struct LinePlace {
+  std::size_t line = 1;
+  std::size_t column = 1;
 };
 
 // Hands out the lines of `bytes` in order. A line ends at a line feed; carriage returns directly
@@ -29,6 +41,12 @@ class LineReader {
   // Puts the next line or piece into `line` and returns true, or returns false at the end.
   [[nodiscard]] bool Next(Line& line);
 
+  // The place behind the last byte. REQUIRES: Next has returned false.
+  [[nodiscard]] LinePlace End() const {
+    if (is_broken_) return {number_ + 1, 1};
+    return {number_, size_ + 1};
+  }
+
  private:
   [[nodiscard]] bool StartLine();
 
@@ -37,6 +55,10 @@ class LineReader {
   std::string_view content_;  // of the current line, not yet handed out
   bool has_break_ = false;    // the current line's break is not yet handed out
   std::size_t number_ = 0;
+  // Of the current line:
+  std::size_t size_ = 0;              // without the line feed
+  std::size_t carriage_returns_ = 0;  // at its end
+  bool is_broken_ = true;             // by a line feed; so is what comes before the first line
 };
 
 }  // namespace orvane

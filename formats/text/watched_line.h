@@ -11,9 +11,6 @@ namespace orvane {
 
 class WatchedLine {
  public:
-  // `bytes` is the whole file, which the lines below are views into.
-  explicit WatchedLine(std::string_view bytes) : end_of_bytes_(bytes.data() + bytes.size()) {}
-
   // Goes on to `line`, the next one or the next piece of one.
   void Set(const Line& line);
 
@@ -21,7 +18,7 @@ class WatchedLine {
   [[nodiscard]] std::string_view Text() const { return line_.text; }
   // The column, in bytes from 1, at which `text` starts in its line. `text` is a part of the piece.
   std::size_t ColumnOf(std::string_view text) const {
-    return 1 + static_cast<std::size_t>(text.data() - line_begin_);
+    return 1 + line_.offset + static_cast<std::size_t>(text.data() - line_.text.data());
   }
 
   // Whether the line began in a piece before this one.
@@ -29,18 +26,14 @@ class WatchedLine {
   // The mark that the file starts with, in UTF-8 or UTF-16; empty in any other line than the first.
   [[nodiscard]] std::string_view ByteOrderMark() const;
   // Whether a NUL hides what follows in the piece.
-  [[nodiscard]] bool IsCutByNul() const;
+  [[nodiscard]] bool IsCutByNul() const { return line_.stands_before_nul; }
   // Whether the file ends with this line, and the line without a line feed.
-  [[nodiscard]] bool EndsUnfinished() const;
+  [[nodiscard]] bool EndsUnfinished() const { return line_.ends_file; }
   // How many carriage returns stand between the text and its line feed.
-  std::size_t CarriageReturns() const;
+  std::size_t CarriageReturns() const { return line_.carriage_returns; }
 
  private:
-  const char* End() const { return line_.text.data() + line_.text.size(); }
-
-  const char* end_of_bytes_;
   Line line_;
-  const char* line_begin_ = nullptr;
   bool continues_ = false;
 };
 

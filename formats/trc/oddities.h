@@ -12,9 +12,7 @@ namespace orvane {
 
 class TRCOddities {
  public:
-  // `bytes` is what is read.
-  TRCOddities(TRCReadObserver* observer, std::string_view bytes)
-      : observer_(observer), line_(bytes) {}
+  explicit TRCOddities(TRCReadObserver* observer) : observer_(observer) {}
 
   // Whether anybody wants to know of frames.
   [[nodiscard]] bool AreOfFramesWanted() const {
@@ -78,8 +76,18 @@ class TRCOddities {
   void TellMarker(std::size_t field, std::string_view name) const {
     if (observer_ != nullptr) observer_->OnMarker(PlaceOf(field, name), name);
   }
-  void TellFrame(std::string_view number) const {
-    if (observer_ != nullptr) observer_->OnFrame(PlaceOf(1, number), number);
+  // `line` need not be the current one yet.
+  void TellHeaderLine(std::size_t number, const Line& line) const {
+    if (observer_ != nullptr) observer_->OnHeaderLine(number, line);
+  }
+  void TellLineThrownAway(const Line& line) const {
+    if (observer_ != nullptr) observer_->OnLineThrownAway(line);
+  }
+  void TellFrame(const TRCRow& row) const {
+    if (observer_ != nullptr) observer_->OnFrame(PlaceOf(1, row.number), row);
+  }
+  void TellEnd(const LinePlace& end) const {
+    if (observer_ != nullptr) observer_->OnEnd({end.line, end.column, 0});
   }
 
  private:

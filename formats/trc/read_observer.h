@@ -3,6 +3,9 @@
 #include <cstddef>
 #include <string_view>
 
+#include "formats/text/lines.h"
+#include "formats/trc/row_width.h"
+
 // What the reader lets pass without a message, and what it refuses, told to whoever wants to know.
 // Watching changes nothing in what is read.
 namespace orvane {
@@ -64,21 +67,38 @@ struct TRCPlace {
   std::size_t field = 0;   // what stands between two tabs; 0 where no field is meant
 };
 
+// A line of a frame, or the piece of one that is read as a frame.
+struct TRCRow {
+  const Line& line;
+  std::string_view number;  // what the line starts with, which should be the frame's number
+  TRCRowWidth width;
+};
+
+// All is told in file order while reading, but for a count of markers that is wrong, which is told
+// once they are known, with its place in the line before.
+//
+// A text that is told is a part of the current line, which lies in memory as a whole, from its
+// first byte to the line break, whether it is read in pieces or not; counts are texts of their own.
+// All of them live until the call returns: whoever wants to keep one takes a copy.
 class TRCReadObserver {
  public:
   virtual ~TRCReadObserver() = default;
 
-  // All are called in file order while reading, but for a count of markers that is wrong, which is
-  // told once they are known, with its place in the line before. Texts lie in the bytes that are
-  // read, but for the counts of oddities, which live until the call returns.
   virtual void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) = 0;
   // A value of the header, whatever it is worth.
   virtual void OnHeaderValue(TRCHeaderValue /*value*/, TRCPlace /*place*/,
                              std::string_view /*text*/) {}
   // A marker of the document, in its order.
   virtual void OnMarker(TRCPlace /*place*/, std::string_view /*name*/) {}
-  // A frame, by what its line starts with, which should be its number.
-  virtual void OnFrame(TRCPlace /*place*/, std::string_view /*number*/) {}
+  // One of the first six lines, counted from 0, before anything else is told of it. The sixth may
+  // hold a frame already.
+  virtual void OnHeaderLine(std::size_t /*number*/, const Line& /*line*/) {}
+  // A line that is not read, as a comment has taken its place.
+  virtual void OnLineThrownAway(const Line& /*line*/) {}
+  // A frame, at the place of its number, which has been read.
+  virtual void OnFrame(TRCPlace /*place*/, const TRCRow& /*row*/) {}
+  // All lines have been read: the place behind the last byte. A file that is refused has no end.
+  virtual void OnEnd(TRCPlace /*place*/) {}
 
   // Whether the lines of frames are looked over too, which takes longer than reading them. When
   // not, nothing is told of them but their count.

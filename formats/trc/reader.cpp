@@ -17,6 +17,7 @@
 #include "formats/trc/header_lines.h"
 #include "formats/trc/line_rules.h"
 #include "formats/trc/oddities.h"
+#include "formats/trc/row_width.h"
 
 // Reading of marker files.
 namespace orvane {
@@ -41,7 +42,7 @@ class TRCReader {
         lines_(bytes),
         size_(bytes.size()),
         include_unnamed_(include_unnamed),
-        oddities_(observer, bytes),
+        oddities_(observer),
         inspector_(oddities_),
         watches_frames_(oddities_.AreOfFramesWanted()) {}
 
@@ -52,6 +53,7 @@ class TRCReader {
   std::string ReadLine(const Line& line, std::size_t number);
   std::string ReadColumns(const Line& line);
   void ReadFrame(const Line& line);
+  void TellFrame(const Line& line, bool is_ordinary);
   bool ReadSamples(const Line& line);
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
@@ -76,6 +78,7 @@ std::string TRCReader::Read() {
   for (std::size_t number = 0; lines_.Next(line); ++number) {
     const bool is_watched = watches_frames_ || !IsFrame(line, number);
     const bool replaces_next = ReplacesNextLine(line);
+    if (number <= kPerhapsBlankLine) oddities_.TellHeaderLine(number, line);
     oddities_.StartLine(line);
     if (is_watched) oddities_.LookAtLine();
     if (replaces_next) oddities_.ReportLine(TRCOddity::kCommentReplacesLine, line.text);
@@ -84,6 +87,7 @@ std::string TRCReader::Read() {
     if (replaces_next) ThrowLineAway(is_watched);
   }
   Finish();
+  oddities_.TellEnd(lines_.End());
   return {};
 }
 
@@ -92,7 +96,9 @@ void TRCReader::ThrowLineAway(bool is_watched) {
   Line line;
   if (!lines_.Next(line)) return;
   oddities_.StartLine(line);
-  if (is_watched) oddities_.LookAtLength();
+  if (!is_watched) return;
+  oddities_.TellLineThrownAway(line);
+  oddities_.LookAtLength();
 }
 
 std::string TRCReader::ReadLine(const Line& line, std::size_t number) {
@@ -135,14 +141,16 @@ void TRCReader::ReserveFrames() {
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
-  if (watches_frames_) {
-    const std::string_view number = TRCFields(line).Get();
-    oddities_.TellFrame(number);
-    if (!line.text.empty()) inspector_.InspectFrameNumber(number);
-  }
   const bool is_ordinary = ReadSamples(line);
-  if (watches_frames_ && !is_ordinary) inspector_.Inspect(line, document_.markers().size());
+  if (watches_frames_) TellFrame(line, is_ordinary);
   ++frames_read_;
+}
+
+void TRCReader::TellFrame(const Line& line, bool is_ordinary) {
+  const std::string_view number = TRCFields(line).Get();
+  oddities_.TellFrame({line, number, WidthOf(line.text)});
+  if (!line.text.empty()) inspector_.InspectFrameNumber(number);
+  if (!is_ordinary) inspector_.Inspect(line, document_.markers().size());
 }
 
 // Returns true when nothing about the samples is odd. False says nothing.

@@ -39,7 +39,7 @@ std::string ExpectedStandardName(const MappingLine& line) {
 }  // namespace
 
 MappingEntries::MappingEntries(std::string_view bytes, FindingList& findings)
-    : findings_(findings), line_(bytes) {
+    : findings_(findings) {
   MappingLineReader reader(bytes);
   MappingLine line;
   while (reader.Next(line)) ReadLine(line);

@@ -208,7 +208,8 @@ void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
   });
 }
 
-void TrcFindingsObserver::OnFrame(TRCPlace place, std::string_view number) {
+void TrcFindingsObserver::OnFrame(TRCPlace place, const TRCRow& row) {
+  const std::string_view number = row.number;
   if (frames_ > 0 && widths_.blank_end && place.line == widths_.blank_end->line &&
       document_.NumFrames() > 0 && static_cast<std::int64_t>(frames_) >= document_.NumFrames()) {
     parts_.frames_before_end = frames_;

@@ -30,7 +30,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
   void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
   void OnMarker(TRCPlace place, std::string_view name) override;
-  void OnFrame(TRCPlace place, std::string_view number) override;
+  void OnFrame(TRCPlace place, const TRCRow& row) override;
 
   // Adds what is told once of the whole file, when reading has ended.
   void Finish();

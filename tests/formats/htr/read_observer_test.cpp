@@ -18,7 +18,9 @@ using test_text::Join;
 using test_text::Lines;
 using ::testing::Contains;
 using ::testing::ElementsAre;
+using ::testing::HasSubstr;
 using ::testing::IsEmpty;
+using ::testing::Not;
 
 // Oddity, line, column, text, and the keyword or column that it is about.
 using Oddity = std::tuple<HtrOddity, std::size_t, std::size_t, std::string, std::string>;
@@ -220,6 +222,7 @@ class PartRecorder : public HtrReadObserver {
   }
   void OnBasePosition(const HtrCell& name) override { Add("base", name); }
   void OnFrame(const HtrCell& number) override { Add("frame", number); }
+  void OnEnd(const HtrCell& end) override { Add("end", end); }
 
   Lines parts;
 
@@ -233,15 +236,26 @@ class PartRecorder : public HtrReadObserver {
 TEST(HtrReadObserver, HearsWhereEveryPartOfAFileStands) {
   HtrDocument document;
   PartRecorder recorder;
-  const std::string bytes =
-      Join({"[Header]", "NumSegments 1", "[SegmentNames&Hierarchy]", "  a\tGLOBAL",
-            "[BasePosition]", "a 0 0 0 0 0 0 1", "[a]", "\t7 0 0 0 0 0 0 1", "[endoffile]"});
+  const std::string bytes = Join({"[Header]", "NumSegments 1", "[SegmentNames&Hierarchy]",
+                                  "  a\tGLOBAL", "[BasePosition]", "a 0 0 0 0 0 0 1", "[a]",
+                                  "\t7 0 0 0 0 0 0 1", "[endoffile]", "more", "end"}) +
+                            "!";
   EXPECT_EQ(ReadHtrBytes(document, bytes, true, &recorder), "");
-  EXPECT_THAT(recorder.parts,
-              ElementsAre("1:2 section 0 Header", "2:1 keyword NumSegments", "2:13 value 1",
-                          "3:2 section 1 SegmentNames&Hierarchy", "4:3 segment a",
-                          "4:5 parent GLOBAL", "5:2 section 2 BasePosition", "6:1 base a",
-                          "7:2 section 3 a", "8:2 frame 7", "9:2 section 4 endoffile"));
+  EXPECT_THAT(
+      recorder.parts,
+      ElementsAre("1:2 section 0 Header", "2:1 keyword NumSegments", "2:13 value 1",
+                  "3:2 section 1 SegmentNames&Hierarchy", "4:3 segment a", "4:5 parent GLOBAL",
+                  "5:2 section 2 BasePosition", "6:1 base a", "7:2 section 3 a", "8:2 frame 7",
+                  "9:2 section 4 endoffile", "12:2 end "));
+}
+
+TEST(HtrReadObserver, HearsOfNoEndOfAFileThatIsRefusedOrNotReadToItsEnd) {
+  HtrDocument document;
+  PartRecorder recorder;
+  const std::string bytes = Join({"[SegmentNames&Hierarchy]", "a GLOBAL", "[a]"});
+  EXPECT_EQ(ReadHtrBytes(document, bytes, false, &recorder), "");
+  EXPECT_NE(ReadHtrBytes(document, Join({"[BasePosition]", "a"}), true, &recorder), "");
+  EXPECT_THAT(recorder.parts, Not(Contains(HasSubstr("end"))));
 }
 
 // Stands in for a document that outgrows the memory.

@@ -5,12 +5,14 @@
 
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace orvane {
 namespace {
 
 using ::testing::ElementsAre;
+using ::testing::Pair;
 
 std::vector<std::string> TextsOf(std::string_view bytes) {
   std::vector<std::string> texts;
@@ -64,6 +66,29 @@ TEST(Lines, AreNumberedAsInTheFileAndPiecesAlike) {
   LineReader reader(bytes);
   for (Line line; reader.Next(line);) numbers.push_back(line.number);
   EXPECT_THAT(numbers, ElementsAre(1u, 2u, 2u, 2u, 3u));
+}
+
+TEST(Lines, TellWhereTheirPiecesStand) {
+  std::vector<std::size_t> offsets;
+  LineReader reader("abcdefghi\r\njk\n", 4);
+  for (Line line; reader.Next(line);) offsets.push_back(line.offset);
+  EXPECT_THAT(offsets, ElementsAre(0u, 4u, 8u, 0u));
+}
+
+TEST(Lines, EndBehindTheLastByte) {
+  const auto end_of = [](std::string_view bytes) {
+    LineReader reader(bytes, 4);
+    for (Line line; reader.Next(line);) {
+    }
+    return std::pair<std::size_t, std::size_t>(reader.End().line, reader.End().column);
+  };
+  EXPECT_THAT(end_of(""), Pair(1u, 1u));
+  EXPECT_THAT(end_of("a\nbc"), Pair(2u, 3u));
+  EXPECT_THAT(end_of("a\nbc\n"), Pair(3u, 1u));
+  EXPECT_THAT(end_of("a\nbc\r\r"), Pair(2u, 5u));
+  EXPECT_THAT(end_of("a\n\r"), Pair(2u, 2u));
+  EXPECT_THAT(end_of("abcdefghij"), Pair(1u, 11u));
+  EXPECT_THAT(end_of({"ab\0c", 4}), Pair(1u, 5u));
 }
 
 struct Pieces {

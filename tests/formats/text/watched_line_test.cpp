@@ -15,7 +15,7 @@ using ::testing::ElementsAre;
 template <typename Ask>
 auto OfEveryLine(std::string_view bytes, Ask ask) {
   LineReader lines(bytes, 4);
-  WatchedLine watched(bytes);
+  WatchedLine watched;
   std::vector<decltype(ask(watched))> answers;
   for (Line line; lines.Next(line);) {
     watched.Set(line);

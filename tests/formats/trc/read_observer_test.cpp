@@ -278,8 +278,8 @@ struct Heard final : TRCReadObserver {
     Keep(place, std::to_string(static_cast<int>(value)) + "=" + std::string(text));
   }
   void OnMarker(TRCPlace place, std::string_view name) override { Keep(place, name); }
-  void OnFrame(TRCPlace place, std::string_view number) override {
-    Keep(place, "frame " + std::string(number));
+  void OnFrame(TRCPlace place, const TRCRow& row) override {
+    Keep(place, "frame " + std::string(row.number));
   }
   bool WatchesFrames() const override { return watches_frames; }
 
@@ -310,6 +310,53 @@ TEST(TRCReadObserver, NeedNotHearOfFrames) {
   (void)document.ReadBytes(text.Text(), false, &heard);
   EXPECT_EQ(heard.heard.back(), "8:1 2");
   EXPECT_EQ(heard.heard.size(), 10U);
+}
+
+// The lines of a file, by what they are, and where it ends.
+struct LineListener final : TRCReadObserver {
+  explicit LineListener(bool watches) : watches_frames(watches) {}
+  void OnOddity(TRCOddity, TRCPlace, std::string_view) override {}
+  void OnHeaderLine(std::size_t number, const Line& line) override {
+    heard.push_back("header " + std::to_string(number) + " on " + std::to_string(line.number));
+  }
+  void OnLineThrownAway(const Line& line) override {
+    heard.push_back("no line on " + std::to_string(line.number));
+  }
+  void OnFrame(TRCPlace place, const TRCRow& row) override {
+    heard.push_back("frame on " + std::to_string(place.line) + ": " + std::string(row.line.text) +
+                    ", " + std::to_string(row.width.fields) + ", " +
+                    std::to_string(row.width.last_value));
+  }
+  void OnEnd(TRCPlace place) override {
+    heard.push_back("end " + std::to_string(place.line) + ":" + std::to_string(place.column));
+  }
+  bool WatchesFrames() const override { return watches_frames; }
+
+  bool watches_frames;
+  std::vector<std::string> heard;
+};
+
+std::vector<std::string> LinesHeard(const std::string& bytes, bool watches_frames) {
+  TRCDocument document;
+  LineListener listener(watches_frames);
+  (void)document.ReadBytes(bytes, false, &listener);
+  return listener.heard;
+}
+
+TEST(TRCReadObserver, HearsOfLinesOfFramesAndOthers) {
+  EXPECT_THAT(
+      LinesHeard("PathFileType\t4\t(X/Y/Z)\t\n#\n\n60\n\t\ta\t\n\n1\t0\n#\nno\n2\t\t \t\r", true),
+      ElementsAre("header 0 on 1", "header 1 on 2", "no line on 3", "header 2 on 4",
+                  "header 3 on 5", "header 4 on 6", "header 5 on 7", "frame on 7: 1\t0, 2, 2",
+                  "frame on 8: #, 1, 1", "no line on 9", "frame on 10: 2\t\t \t, 4, 1",
+                  "end 10:7"));
+  EXPECT_THAT(LinesHeard("PathFileType\t4\t(X/Y/Z)\t\n1\n2\n3\n4\n\n#\nno\n6\n", false),
+              ElementsAre("header 0 on 1", "header 1 on 2", "header 2 on 3", "header 3 on 4",
+                          "header 4 on 5", "header 5 on 6", "end 10:1"));
+}
+
+TEST(TRCReadObserver, HearsOfNoEndOfAFileThatIsRefused) {
+  EXPECT_THAT(LinesHeard("PathFileType\t4\n\n", true), ElementsAre("header 0 on 1"));
 }
 
 }  // namespace

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+// How far the line of a frame reaches. Fields count from 1.
+namespace orvane {
+
+struct TRCRowWidth {
+  std::size_t fields = 0;
+  std::size_t last_value = 0;  // the last field that is not blank; 0 for a blank line
+
+  friend bool operator==(const TRCRowWidth&, const TRCRowWidth&) = default;
+};
+
+// That of a line, `text`, which has no line break.
+[[nodiscard]] TRCRowWidth WidthOf(std::string_view text);
+
+}  // namespace orvane
