@@ -5,7 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <new>
-#include <optional>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "formats/htr/header_fields.h"
@@ -55,16 +56,29 @@ std::string_view SectionName(std::string_view line) {
   return line.substr(0, line.find(']'));
 }
 
+// The parent of a segment as the hierarchy names it, and where.
+struct ParentName {
+  explicit ParentName(const HtrCell& cell)
+      : name(cell.text), line(cell.line), column(cell.column) {}
+
+  [[nodiscard]] HtrCell Cell() const { return {name, line, column}; }
+
+  std::string name;
+  std::size_t line;
+  std::size_t column;
+};
+
 // One pass over the bytes. Every function that reads returns an empty text or the message that ends
 // the reading.
 class HtrReader {
  public:
   // With `counts`, frames are counted there and not read.
-  HtrReader(HtrDocument& document, std::string_view bytes, bool read_motion,
+  // `size` is how many bytes the lines have in all.
+  HtrReader(HtrDocument& document, LineReader lines, std::size_t size, bool read_motion,
             HtrReadObserver* observer, HtrFrameCounts* counts = nullptr)
       : document_(document),
-        lines_(bytes),
-        most_links_(std::max(kLinksAlwaysMade, bytes.size())),
+        lines_(std::move(lines)),
+        most_links_(std::max(kLinksAlwaysMade, size)),
         read_motion_(read_motion),
         oddities_(observer),
         counts_(counts) {}
@@ -115,7 +129,7 @@ class HtrReader {
   HtrFrameCounts* const counts_;  // null unless frames are only counted
 
   State state_ = State::kBeforeFirstSection;
-  std::vector<HtrCell> parent_names_;  // one for each segment
+  std::vector<ParentName> parent_names_;  // one for each segment
   std::size_t links_made_ = 0;
   std::int64_t segments_awaited_ = 0;  // announced by the header, less the base positions read
   double angle_factor_ = 1.0;
@@ -220,14 +234,14 @@ void HtrReader::LinkHierarchy(std::string_view section) {
   links_made_ += parent_names_.size();
   auto parent_name = parent_names_.begin();
   for (HtrSegment& segment : document_.segments()) {
-    const HtrCell& name = *parent_name++;
-    if (name.text == kGlobalParent) {
+    const ParentName& parent_cell = *parent_name++;
+    if (parent_cell.name == kGlobalParent) {
       segment.SetIsRoot(true);
       continue;
     }
     // Intended: an unknown parent counts as none, without a message.
-    HtrSegment* parent = document_.FindSegment(name.text);
-    if (parent == nullptr) oddities_.Report(HtrOddity::kParentNotFound, name);
+    HtrSegment* parent = document_.FindSegment(parent_cell.name);
+    if (parent == nullptr) oddities_.Report(HtrOddity::kParentNotFound, parent_cell.Cell());
     segment.SetParent(parent);
   }
 }
@@ -293,10 +307,10 @@ std::string HtrReader::ReadHierarchyLine(std::string_view line) {
     oddities_.Report(HtrOddity::kRefusedSegmentName, name);
     return kDuplicateSegmentNames + std::string(name);
   }
-  parent_names_.push_back(oddities_.CellOf(TakeLastToken(line)));
+  parent_names_.emplace_back(oddities_.CellOf(TakeLastToken(line)));
   oddities_.ReportWords(HtrOddity::kExtraHierarchyWords, TrimTrailingSeparators(line));
   if (HtrReadObserver* const observer = oddities_.Observer()) {
-    observer->OnSegment(oddities_.CellOf(name), parent_names_.back());
+    observer->OnSegment(oddities_.CellOf(name), parent_names_.back().Cell());
   }
   return {};
 }
@@ -382,18 +396,33 @@ std::string HtrReader::Finish() {
   return kIncorrectSegmentCount;
 }
 
+// What is told of a file that was read with `message`.
+std::string MessageOf(const FileSource& source, HtrDocument& document, std::string message) {
+  if (!source.HasFailed()) return message;
+  document.Clear();
+  return kNotOpened;
+}
+
 }  // namespace
 
 std::string ReadHtrFile(HtrDocument& document, const std::string& file_name, bool read_motion,
                         HtrReadObserver* observer) {
-  const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".htr"));
-  if (!bytes) return kNotOpened;
-  return ReadHtrBytes(document, *bytes, read_motion, observer);
+  FileSource source(WithExtension(file_name, ".htr"));
+  if (!source.IsOpen()) return kNotOpened;
+  return MessageOf(source, document, ReadHtrFrom(document, source, read_motion, observer));
+}
+
+std::string ReadHtrFrom(HtrDocument& document, ByteSource& source, bool read_motion,
+                        HtrReadObserver* observer) try {
+  return HtrReader(document, LineReader(source), source.Size(), read_motion, observer).Read();
+} catch (const std::bad_alloc&) {
+  document.Clear();
+  return kNotOpened;
 }
 
 std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes, bool read_motion,
                          HtrReadObserver* observer) try {
-  return HtrReader(document, bytes, read_motion, observer).Read();
+  return HtrReader(document, LineReader(bytes), bytes.size(), read_motion, observer).Read();
 } catch (const std::bad_alloc&) {
   document.Clear();
   return kNotOpened;
@@ -401,9 +430,10 @@ std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes, bool rea
 
 std::string CountHtrFrames(HtrDocument& document, const std::string& file_name,
                            HtrFrameCounts& counts) try {
-  const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".htr"));
-  if (!bytes) return kNotOpened;
-  return HtrReader(document, *bytes, true, nullptr, &counts).Read();
+  FileSource source(WithExtension(file_name, ".htr"));
+  if (!source.IsOpen()) return kNotOpened;
+  HtrReader reader(document, LineReader(source), source.Size(), true, nullptr, &counts);
+  return MessageOf(source, document, reader.Read());
 } catch (const std::bad_alloc&) {
   document.Clear();
   return kNotOpened;

@@ -5,6 +5,7 @@
 #include <filesystem>
 #include <ios>
 #include <system_error>
+#include <utility>
 
 namespace orvane {
 namespace {
@@ -21,18 +22,18 @@ bool IsUnfit(const std::string& name) {
          !std::filesystem::is_fifo(status);
 }
 
-// The bytes from here to the end; 0 when that cannot be told.
-std::size_t SizeOf(std::ifstream& stream) {
+// The bytes from here to the end; nothing when that cannot be told.
+std::optional<std::size_t> SizeOf(std::ifstream& stream) {
   const std::streamoff size = stream.seekg(0, std::ios::end).tellg();
   stream.clear();
   stream.seekg(0);
   stream.clear();
-  return size < 0 ? 0 : static_cast<std::size_t>(size);
+  return size < 0 ? std::nullopt : std::optional(static_cast<std::size_t>(size));
 }
 
 std::optional<std::string> ReadAll(std::ifstream& stream) {
   std::string bytes;
-  std::size_t wanted = SizeOf(stream) + 1;  // one more, to meet the end
+  std::size_t wanted = SizeOf(stream).value_or(0) + 1;  // one more, to meet the end
   while (stream) {
     const std::size_t size = bytes.size();
     bytes.resize(size + wanted);
@@ -63,6 +64,37 @@ std::optional<std::string> ReadFileBytes(const std::string& name) try {
   return ReadAll(stream);
 } catch (const std::exception&) {
   return std::nullopt;  // a name that the standard library cannot convert, or no memory
+}
+
+FileSource::FileSource(const std::string& name) try : is_open_(Open(name)) {
+} catch (const std::exception&) {
+  is_open_ = false;
+}
+
+bool FileSource::Open(const std::string& name) {
+  if (IsUnfit(name)) return false;
+  stream_.open(name, std::ios::binary);
+  if (!stream_) return false;
+  if (const auto size = SizeOf(stream_)) {
+    size_ = *size;
+    return true;
+  }
+  std::optional<std::string> bytes = ReadAll(stream_);
+  if (!bytes) return false;
+  whole_ = std::move(*bytes);
+  size_ = whole_.size();
+  return true;
+}
+
+std::size_t FileSource::Read(std::span<char> block) {
+  if (!whole_.empty()) {
+    const std::size_t count = whole_.copy(block.data(), block.size(), taken_);
+    taken_ += count;
+    return count;
+  }
+  stream_.read(block.data(), static_cast<std::streamsize>(block.size()));
+  has_failed_ = stream_.bad();
+  return static_cast<std::size_t>(stream_.gcount());
 }
 
 std::ofstream CreateFileForBytes(const std::string& name) {

@@ -1,6 +1,17 @@
 #include "formats/text/lines.h"
 
+#include <algorithm>
+#include <cstring>
+#include <utility>
+
 namespace orvane {
+namespace {
+
+// Of a file, at once: much less takes more calls of the system, and much more leaves the cache of
+// the processor.
+constexpr std::size_t kBlock = std::size_t{256} * 1024;
+
+}  // namespace
 
 bool LineReader::Next(Line& line) {
   if (content_.empty() && !has_break_ && !StartLine()) return false;
@@ -30,8 +41,8 @@ bool LineReader::Next(Line& line) {
 
 // Finds the end of the next line. Returns false when there is none.
 bool LineReader::StartLine() {
+  const std::size_t end = FindLineFeed();
   if (rest_.empty()) return false;
-  const std::size_t end = rest_.find('\n');
   has_break_ = is_broken_ = end != std::string_view::npos;
   content_ = rest_.substr(0, end);
   size_ = content_.size();
@@ -40,6 +51,32 @@ bool LineReader::StartLine() {
   carriage_returns_ = size_ - content_.size();
   ++number_;
   return has_break_ || !content_.empty();
+}
+
+std::size_t LineReader::FindLineFeed() {
+  std::size_t end = rest_.find('\n');
+  while (end == std::string_view::npos && source_ != nullptr) {
+    const std::size_t seen = rest_.size();
+    if (!ReadBlock()) source_ = nullptr;
+    end = rest_.find('\n', seen);
+  }
+  return end;
+}
+
+// Reads on behind the rest, which moves to the start of the buffer. Returns false at the end.
+bool LineReader::ReadBlock() {
+  const std::size_t kept = rest_.size();
+  if (kept == capacity_) {
+    capacity_ = std::max(kBlock, 2 * capacity_);
+    std::unique_ptr<char[]> larger = std::make_unique_for_overwrite<char[]>(capacity_);
+    rest_.copy(larger.get(), kept);
+    buffer_ = std::move(larger);
+  } else if (rest_.data() != buffer_.get()) {
+    std::memmove(buffer_.get(), rest_.data(), kept);
+  }
+  const std::size_t count = source_->Read({buffer_.get() + kept, capacity_ - kept});
+  rest_ = {buffer_.get(), kept + count};
+  return count > 0;
 }
 
 }  // namespace orvane

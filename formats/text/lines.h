@@ -1,10 +1,13 @@
 #pragma once
 
 #include <cstddef>
+#include <memory>
 #include <string_view>
 
-// Lines of a text file held in memory. The bytes stay with the caller and must outlive the reader
-// and every line it gave out. What a line means, comments included, is up to each file format.
+#include "formats/text/byte_source.h"
+
+// Lines of a text, which is held in memory or read in blocks. What a line means, comments included,
+// is up to each file format.
 namespace orvane {
 
 // The longest piece of a line in motion and marker files.
@@ -28,15 +31,21 @@ struct LinePlace {
   std::size_t column = 1;
 };
 
-// Hands out the lines of `bytes` in order. A line ends at a line feed; carriage returns directly
+// Hands out the lines of a text in order. A line ends at a line feed; carriage returns directly
 // before the line feed, or at the end of the bytes, go with it. A line of more than `longest_piece`
 // characters is handed out as several pieces, each of which counts as a line; the line break counts
 // as one character of the last piece. A NUL ends the text of the piece it stands in and hides what
 // follows in that piece, the line break included.
 class LineReader {
  public:
+  // Of `bytes`, which stay with the caller and must outlive the reader and every line it gave out.
   explicit LineReader(std::string_view bytes, std::size_t longest_piece = kLongestPiece)
       : rest_(bytes), longest_piece_(longest_piece) {}
+
+  // Of the bytes that `source` has left, which must outlive the reader. All pieces of a line lie
+  // together in memory until the next line is asked for. Takes memory for one block, or for the
+  // longest line when that is longer.
+  explicit LineReader(ByteSource& source) : source_(&source), longest_piece_(kLongestPiece) {}
 
   // Puts the next line or piece into `line` and returns true, or returns false at the end.
   [[nodiscard]] bool Next(Line& line);
@@ -49,8 +58,14 @@ class LineReader {
 
  private:
   [[nodiscard]] bool StartLine();
+  [[nodiscard]] std::size_t FindLineFeed();
+  [[nodiscard]] bool ReadBlock();
 
-  std::string_view rest_;  // behind the current line's break
+  ByteSource* source_ = nullptr;  // null when there is nothing left of it
+  std::unique_ptr<char[]> buffer_;
+  std::size_t capacity_ = 0;
+
+  std::string_view rest_;  // behind the current line's break, as far as it has been read
   std::size_t longest_piece_;
   std::string_view content_;  // of the current line, not yet handed out
   bool has_break_ = false;    // the current line's break is not yet handed out

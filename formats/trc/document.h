@@ -7,6 +7,7 @@
 #include <string_view>
 #include <unordered_set>
 
+#include "formats/text/byte_source.h"
 #include "formats/trc/marker.h"
 #include "formats/trc/read_observer.h"
 
@@ -31,9 +32,13 @@ class TRCDocument {
   // with "Unnamed" get no marker unless `include_unnamed`. `observer` may be null and is not kept.
   //
   // Opens `file_name` (UTF-8), with ".TRC" added unless its fourth character from the end is a full
-  // stop. When that fails, the message says so and the document is left untouched.
+  // stop. When that fails, the message says so and the document is left untouched. When the file
+  // cannot be read to its end, the message is the same and the document is empty.
   [[nodiscard]] std::string Read(const std::string& file_name, bool include_unnamed,
                                  TRCReadObserver* observer = nullptr);
+  // As Read, on the bytes of a file that `source` has, all of them.
+  [[nodiscard]] std::string ReadFrom(ByteSource& source, bool include_unnamed,
+                                     TRCReadObserver* observer = nullptr);
   // As Read, on the bytes of a file. Nothing in the document refers to them afterwards.
   [[nodiscard]] std::string ReadBytes(std::string_view bytes, bool include_unnamed,
                                       TRCReadObserver* observer = nullptr);

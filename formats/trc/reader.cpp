@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
@@ -36,11 +37,12 @@ constexpr std::size_t kCoordinates = 3;
 // ends the reading.
 class TRCReader {
  public:
-  TRCReader(TRCDocument& document, std::string_view bytes, bool include_unnamed,
+  // `size` is how many bytes the lines have in all.
+  TRCReader(TRCDocument& document, LineReader lines, std::size_t size, bool include_unnamed,
             TRCReadObserver* observer)
       : document_(document),
-        lines_(bytes),
-        size_(bytes.size()),
+        lines_(std::move(lines)),
+        size_(size),
         include_unnamed_(include_unnamed),
         oddities_(observer),
         inspector_(oddities_),
@@ -196,14 +198,26 @@ void TRCReader::Finish() {
 
 std::string TRCDocument::Read(const std::string& file_name, bool include_unnamed,
                               TRCReadObserver* observer) {
-  const std::optional<std::string> bytes = ReadFileBytes(WithExtension(file_name, ".TRC"));
-  if (!bytes) return kNotOpened;
-  return ReadBytes(*bytes, include_unnamed, observer);
+  FileSource source(WithExtension(file_name, ".TRC"));
+  if (!source.IsOpen()) return kNotOpened;
+  std::string message = ReadFrom(source, include_unnamed, observer);
+  if (!source.HasFailed()) return message;
+  Reset();
+  return kNotOpened;
+}
+
+std::string TRCDocument::ReadFrom(ByteSource& source, bool include_unnamed,
+                                  TRCReadObserver* observer) try {
+  return TRCReader(*this, LineReader(source), source.Size(), include_unnamed, observer).Read();
+} catch (const std::length_error&) {
+  return kTooLong;
+} catch (const std::bad_alloc&) {
+  return kTooLong;
 }
 
 std::string TRCDocument::ReadBytes(std::string_view bytes, bool include_unnamed,
                                    TRCReadObserver* observer) try {
-  return TRCReader(*this, bytes, include_unnamed, observer).Read();
+  return TRCReader(*this, LineReader(bytes), bytes.size(), include_unnamed, observer).Read();
 } catch (const std::length_error&) {
   return kTooLong;
 } catch (const std::bad_alloc&) {

@@ -68,5 +68,41 @@ TEST_F(ReadFile, FailsOnANameTooLongForAnyFile) {
   EXPECT_FALSE(ReadFileBytes(folder_.File(std::string(100000, 'x'))).has_value());
 }
 
+std::string BytesOf(FileSource& source, std::size_t block) {
+  std::string bytes;
+  std::string part(block, ' ');
+  while (const std::size_t count = source.Read(part)) bytes.append(part, 0, count);
+  return bytes;
+}
+
+TEST_F(ReadFile, GivesAllBytesInBlocks) {
+  std::string bytes(300'001, 'x');
+  bytes += std::string("\r\n\0\x1a\xff", 5);
+  const std::string name = folder_.Write("large.htr", bytes);
+  for (const std::size_t block : {std::size_t{1000}, std::size_t{262144}, std::size_t{1} << 20U}) {
+    FileSource source(name);
+    ASSERT_TRUE(source.IsOpen());
+    EXPECT_EQ(source.Size(), bytes.size());
+    EXPECT_EQ(BytesOf(source, block), bytes);
+    EXPECT_FALSE(source.HasFailed());
+  }
+}
+
+TEST_F(ReadFile, GivesNoBlockOfAnEmptyFile) {
+  FileSource source(folder_.Write("empty.htr", ""));
+  ASSERT_TRUE(source.IsOpen());
+  EXPECT_EQ(source.Size(), 0U);
+  EXPECT_EQ(BytesOf(source, 10), "");
+  EXPECT_FALSE(source.HasFailed());
+}
+
+TEST_F(ReadFile, IsNotOpenedWhereThereAreNoBytes) {
+  std::filesystem::create_directory(folder_.Path() / "folder.htr");
+  for (const std::string& name : {folder_.File("missing.htr"), folder_.File("folder.htr"),
+                                  folder_.File(std::string(100'000, 'x')), std::string()}) {
+    EXPECT_FALSE(FileSource(name).IsOpen()) << name.substr(0, 100);
+  }
+}
+
 }  // namespace
 }  // namespace orvane

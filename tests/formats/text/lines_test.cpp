@@ -3,10 +3,13 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
 #include <string>
 #include <string_view>
 #include <utility>
 #include <vector>
+
+#include "tests/support/blocks.h"
 
 namespace orvane {
 namespace {
@@ -141,6 +144,36 @@ TEST(Lines, OfOneHugeLineAreFoundInLinearTime) {
   LineReader reader(bytes);
   for (Line line; reader.Next(line);) total += line.text.size();
   EXPECT_EQ(total, bytes.size());
+}
+
+// A line is asked for only when what has been read holds no other.
+TEST(Lines, OfBlocksAreReadWhenTheyAreAskedFor) {
+  const std::string bytes = "one\ntwo\nthree";
+  test::Blocks blocks(bytes, 8, 100);
+  LineReader reader(blocks);
+  Line line;
+  ASSERT_TRUE(reader.Next(line));
+  ASSERT_TRUE(reader.Next(line));
+  EXPECT_EQ(line.text, "two");
+  std::array<char, 8> rest{};
+  EXPECT_EQ(blocks.Read(rest), 5U);
+  EXPECT_EQ(std::string(rest.data(), 5), "three");
+  EXPECT_FALSE(reader.Next(line));
+}
+
+TEST(Lines, OfBlocksLieTogetherInAllTheirPieces) {
+  const std::string bytes =
+      std::string(kLongestPiece, 'a') + std::string(kLongestPiece, 'b') + "c\n";
+  test::Blocks blocks(bytes, 1, 100);
+  LineReader reader(blocks);
+  Line first;
+  Line second;
+  Line third;
+  ASSERT_TRUE(reader.Next(first) && reader.Next(second) && reader.Next(third));
+  EXPECT_EQ(first.text, std::string(kLongestPiece, 'a'));
+  EXPECT_EQ(second.text.data(), first.text.data() + first.text.size());
+  EXPECT_EQ(third.text.data(), second.text.data() + second.text.size());
+  EXPECT_EQ(third.text, "c");
 }
 
 }  // namespace

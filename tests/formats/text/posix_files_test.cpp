@@ -1,7 +1,11 @@
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
+#include <array>
 #include <filesystem>
 #include <fstream>
+#include <string>
+#include <thread>
 
 #include "formats/text/files.h"
 #include "tests/support/temporary_folder.h"
@@ -21,6 +25,30 @@ TEST(ReadPosixFile, FailsWithoutPermission) {
   std::filesystem::permissions(name, std::filesystem::perms::none);
   if (std::ifstream(name).is_open()) GTEST_SKIP() << "this user may read everything";
   EXPECT_FALSE(ReadFileBytes(name).has_value());
+}
+
+TEST(ReadPosixFile, GivesAPipeWholeWhoseSizeIsKnownAtItsEndOnly) {
+  const test::TemporaryFolder folder;
+  const std::string name = folder.File("pipe.htr");
+  ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
+  std::thread writer([&name] { std::ofstream(name) << "some bytes"; });
+  FileSource source(name);
+  writer.join();
+  ASSERT_TRUE(source.IsOpen());
+  EXPECT_EQ(source.Size(), 10U);
+  std::array<char, 4> block{};
+  std::string bytes;
+  while (const std::size_t count = source.Read(block)) bytes.append(block.data(), count);
+  EXPECT_EQ(bytes, "some bytes");
+}
+
+// The memory of a process opens as a file does, and has nothing at its start.
+TEST(ReadPosixFile, TellsThatNoMoreCouldBeRead) {
+  FileSource source("/proc/self/mem");
+  if (!source.IsOpen()) GTEST_SKIP() << "this system shows no memory of processes";
+  std::array<char, 4> block{};
+  EXPECT_EQ(source.Read(block), 0U);
+  EXPECT_TRUE(source.HasFailed());
 }
 
 }  // namespace
