@@ -42,14 +42,5 @@ TEST(ReadPosixFile, GivesAPipeWholeWhoseSizeIsKnownAtItsEndOnly) {
   EXPECT_EQ(bytes, "some bytes");
 }
 
-// The memory of a process opens as a file does, and has nothing at its start.
-TEST(ReadPosixFile, TellsThatNoMoreCouldBeRead) {
-  FileSource source("/proc/self/mem");
-  if (!source.IsOpen()) GTEST_SKIP() << "this system shows no memory of processes";
-  std::array<char, 4> block{};
-  EXPECT_EQ(source.Read(block), 0U);
-  EXPECT_TRUE(source.HasFailed());
-}
-
 }  // namespace
 }  // namespace orvane
