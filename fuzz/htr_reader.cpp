@@ -6,17 +6,20 @@
 #include "formats/htr/reader.h"
 #include "fuzz/expect.h"
 #include "fuzz/target.h"
+#include "tests/support/blocks.h"
 
 namespace {
 
-// Every byte that an observer is shown is one of the file's.
+// Every text that an observer is shown lies in the file, but for a parent's name, which is kept
+// until all segments are known.
 class Watcher : public orvane::HtrReadObserver {
  public:
   explicit Watcher(std::string_view bytes) : bytes_(bytes) {}
 
-  void OnOddity(orvane::HtrOddity /*oddity*/, const orvane::HtrCell& cell,
+  void OnOddity(orvane::HtrOddity oddity, const orvane::HtrCell& cell,
                 std::string_view /*field*/) override {
-    Look(cell);
+    if (oddity != orvane::HtrOddity::kParentNotFound) return Look(cell);
+    fuzz::Expect(bytes_.find(cell.text) != std::string_view::npos, "a parent is named in the file");
   }
   void OnSection(orvane::HtrSection /*section*/, const orvane::HtrCell& name) override {
     Look(name);
@@ -56,6 +59,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Expect(ReadHtrBytes(document, bytes, read_motion, &watcher) == message,
                  "watching changes nothing");
     fuzz::Expect(FindFault(document).empty(), "a document that is used again is sound");
+    const std::size_t segments = document.segments().size();
+    test::Blocks blocks(bytes, 0, 1 + size % 97);
+    fuzz::Expect(ReadHtrFrom(document, blocks, read_motion) == message, "blocks change nothing");
+    fuzz::Expect(document.segments().size() == segments, "blocks hold the same segments");
   }
   return 0;
 }

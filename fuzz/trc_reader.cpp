@@ -7,6 +7,7 @@
 #include "formats/trc/document_checker.h"
 #include "fuzz/expect.h"
 #include "fuzz/target.h"
+#include "tests/support/blocks.h"
 
 namespace {
 
@@ -38,6 +39,10 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     fuzz::Expect(document.ReadBytes(bytes, include_unnamed, &watcher) == message,
                  "watching changes nothing");
     fuzz::Expect(FindFault(document).empty(), "a document that is used again is sound");
+    const unsigned markers = document.MarkerCount();
+    test::Blocks blocks(bytes, 0, 1 + size % 97);
+    fuzz::Expect(document.ReadFrom(blocks, include_unnamed) == message, "blocks change nothing");
+    fuzz::Expect(document.MarkerCount() == markers, "blocks hold the same markers");
     document.ConvertUnits(3);
     fuzz::Expect(FindFault(document).empty(), "a document in inches is sound");
   }

@@ -307,10 +307,11 @@ std::string HtrReader::ReadHierarchyLine(std::string_view line) {
     oddities_.Report(HtrOddity::kRefusedSegmentName, name);
     return kDuplicateSegmentNames + std::string(name);
   }
-  parent_names_.emplace_back(oddities_.CellOf(TakeLastToken(line)));
+  const HtrCell parent = oddities_.CellOf(TakeLastToken(line));
+  parent_names_.emplace_back(parent);
   oddities_.ReportWords(HtrOddity::kExtraHierarchyWords, TrimTrailingSeparators(line));
   if (HtrReadObserver* const observer = oddities_.Observer()) {
-    observer->OnSegment(oddities_.CellOf(name), parent_names_.back().Cell());
+    observer->OnSegment(oddities_.CellOf(name), parent);
   }
   return {};
 }

@@ -113,8 +113,8 @@ TEST_F(CheckForTest, OfASceneWithoutASelectionSaysSo) {
             "scene.glb: error: No skeleton of the scene is selected. Nothing is exported; --select "
             "NAME takes a bone, or a node that is the parent of one. [export-root-missing]\n"
             "scene.glb: 1 error for export\n");
-  EXPECT_EQ(Orvane({"check", "--for", "export", "scene.glb", "--select", "Hisp"}).output,
-            "scene.glb: error: The scene has no node of the name that --select gives: \"Hisp\". "
+  EXPECT_EQ(Orvane({"check", "--for", "export", "scene.glb", "--select", "Pelvis"}).output,
+            "scene.glb: error: The scene has no node of the name that --select gives: \"Pelvis\". "
             "Nothing is exported; \"orvane scene\" lists the names. [export-select-unknown]\n"
             "scene.glb: 1 error for export\n");
 }
