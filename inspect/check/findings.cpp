@@ -31,22 +31,15 @@ Finding NewFinding(const FindingRule& rule, const FindingPlace& place, FindingWo
 
 }  // namespace
 
-FindingPlace EndOf(std::string_view bytes) {
-  const auto breaks = static_cast<std::size_t>(std::count(bytes.begin(), bytes.end(), '\n'));
-  const std::size_t last_break = bytes.rfind('\n');
-  const std::size_t last_line = last_break == std::string_view::npos ? 0 : last_break + 1;
-  return {breaks + 1, bytes.size() - last_line + 1};
-}
-
 std::string_view SeverityName(FindingSeverity severity) {
   constexpr std::array<std::string_view, kFindingSeverities> kNames = {"note", "warning", "error"};
   return kNames[static_cast<std::size_t>(severity)];
 }
 
-bool FindingList::CountAndAskForMore(const FindingRule& rule, const FindingPlace& place) {
-  Total& total = totals_.try_emplace(rule.code, Total{rule.severity}).first->second;
+bool FindingList::CountAndAskForMore(const FindingRule& rule, bool is_behind) {
+  Total& total = TotalOf(rule);
   ++total.count;
-  if (IsBehind(place)) return ++total.behind <= kMostKeptOfARule;
+  if (is_behind) return ++total.behind <= kMostKeptOfARule;
   return total.count - total.behind <= kMostKeptOfARule;
 }
 
@@ -54,6 +47,23 @@ void FindingList::Keep(const FindingRule& rule, const FindingPlace& place, Findi
   assert((place.line == 0) == (place.column == 0));
   kept_.push_back(NewFinding(rule, place, std::move(words)));
   kept_.back().is_behind = IsBehind(place);
+}
+
+void FindingList::Append(const FindingList& later) {
+  for (const Finding& finding : later.kept_) {
+    if (CountAndAskForMore(finding.rule, finding.is_behind)) kept_.push_back(finding);
+  }
+  for (const auto& [code, total] : later.totals_) {
+    const std::size_t behind = total.behind - std::min(total.behind, kMostKeptOfARule);
+    Total& sum = TotalOf({code, total.severity});
+    sum.count += total.LeftOut();
+    sum.behind += behind;
+  }
+}
+
+void FindingList::Remove(const FindingRule& rule) {
+  std::erase_if(kept_, [&rule](const Finding& finding) { return finding.rule.code == rule.code; });
+  totals_.erase(rule.code);
 }
 
 void FindingList::ReplaceAll(const FindingRule& cause, const FindingPlace& place,

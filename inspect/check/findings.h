@@ -47,9 +47,6 @@ struct FindingPlace {
   std::size_t column = 1;  // in bytes, counted from 1
 };
 
-// Behind the last of `bytes`, which are a whole file.
-[[nodiscard]] FindingPlace EndOf(std::string_view bytes);
-
 struct FindingWords {
   std::string found;
   std::string expected;
@@ -83,15 +80,31 @@ class FindingList {
   template <typename Place, std::invocable MakeWords>
   void Add(const FindingRule& rule, const Place& place, const MakeWords& make_words) {
     const FindingPlace at{place.line, place.column};
-    if (CountAndAskForMore(rule, at)) Keep(rule, at, make_words());
+    if (CountAndAskForMore(rule, IsBehind(at))) Keep(rule, at, make_words());
   }
 
   // The same where the words are at hand, or made but a few times in a file.
   template <typename Place>
   void Add(const FindingRule& rule, const Place& place, FindingWords&& words) {
     const FindingPlace at{place.line, place.column};
-    if (CountAndAskForMore(rule, at)) Keep(rule, at, std::move(words));
+    if (CountAndAskForMore(rule, IsBehind(at))) Keep(rule, at, std::move(words));
   }
+
+  // Counts so many more findings by `rule` that stand there or behind, when as many as are kept
+  // have been added.
+  template <typename Place>
+  void AddMore(const FindingRule& rule, const Place& place, std::size_t count) {
+    Total& total = TotalOf(rule);
+    total.count += count;
+    if (IsBehind({place.line, place.column})) total.behind += count;
+  }
+
+  // Adds what `later` holds, as if it was added to this list, in the same order. What is behind the
+  // announced frames there, is so here.
+  void Append(const FindingList& later);
+
+  // Takes back all findings by `rule`.
+  void Remove(const FindingRule& rule);
 
   // From now on, what is found on line `line` or a later one is behind the frames that the header
   // announces; 0 for no line.
@@ -121,7 +134,10 @@ class FindingList {
 
  private:
   // Counts a finding. Returns whether it is to be kept.
-  [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule, const FindingPlace& place);
+  [[nodiscard]] bool CountAndAskForMore(const FindingRule& rule, bool is_behind);
+  [[nodiscard]] Total& TotalOf(const FindingRule& rule) {
+    return totals_.try_emplace(rule.code, Total{rule.severity}).first->second;
+  }
   [[nodiscard]] bool IsBehind(const FindingPlace& place) const {
     return first_line_behind_ != 0 && place.line >= first_line_behind_;
   }

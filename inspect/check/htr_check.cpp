@@ -59,7 +59,6 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
-  parts.bytes = bytes;
   htr::HtrFindingsObserver observer(parts, checked.findings);
   const std::string message = ReadHtrBytes(document, bytes, true, &observer);
   observer.Finish();

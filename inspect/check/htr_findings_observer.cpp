@@ -19,7 +19,7 @@
 namespace orvane::htr {
 namespace {
 
-std::string LineHasIt(const HtrCell& cell) {
+std::string LineHasIt(const KeptCell& cell) {
   return "line " + FormatInt(static_cast<std::int64_t>(cell.line)) + " has it";
 }
 
@@ -57,10 +57,10 @@ void HtrFindingsObserver::OnOddity(HtrOddity oddity, const HtrCell& cell, std::s
   switch (oddity) {
     case HtrOddity::kLineBeforeFirstSection:
       // A mark alone, or before a comment, has been told.
-      if (cell.text.data() == byte_order_mark_.data() && cell.text == byte_order_mark_) return;
+      if (cell.line == 1 && cell.column == 1 && cell.text == byte_order_mark_) return;
       break;
     case HtrOddity::kUnknownSegmentSection:
-      skipped_section_ = cell;
+      skipped_section_ = KeptCell(cell);
       return;
     case HtrOddity::kMotionOfUnknownSegment:
       ++skipped_lines_;
@@ -175,13 +175,13 @@ void HtrFindingsObserver::OnSection(HtrSection section, const HtrCell& name) {
   LeaveSection();
   switch (section) {
     case HtrSection::kHeader:
-      if (!parts_.header) parts_.header = name;
+      if (!parts_.header) parts_.header = PlaceOf(name);
       return CheckHeaderPlace(name);
     case HtrSection::kHierarchy:
-      if (!parts_.hierarchy) parts_.hierarchy = name;
+      if (!parts_.hierarchy) parts_.hierarchy = PlaceOf(name);
       return;
     case HtrSection::kBasePosition:
-      if (!parts_.base_position) parts_.base_position = name;
+      if (!parts_.base_position) parts_.base_position = PlaceOf(name);
       ++parts_.base_sections;
       parts_.linked_segments = parts_.segments.size();
       return;
@@ -202,13 +202,14 @@ void HtrFindingsObserver::CheckHeaderPlace(const HtrCell& name) {
 }
 
 void HtrFindingsObserver::EnterMotion(const HtrCell& name) {
-  next_frame_number_ = start_frame_;
+  next_frame_number_.reset();
+  if (start_frame_) next_frame_number_.emplace(*start_frame_);
   const auto& announced = parts_.Value("NumFrames");
   announced_frames_ =
       announced ? static_cast<std::size_t>(std::max(ParseInt(announced->text), 0)) : 0;
   segment_ = parts_.Find(name.text);
   if (segment_ == nullptr) return;
-  if (!parts_.motion) parts_.motion = name;
+  if (!parts_.motion) parts_.motion = PlaceOf(name);
   if (segment_->motion) {
     next_frame_number_.reset();
     findings_.Add(Rule("htr-motion-repeated"), name, [&name] {
@@ -216,7 +217,7 @@ void HtrFindingsObserver::EnterMotion(const HtrCell& name) {
                           "Its frames are put behind those of the first."};
     });
   }
-  segment_->motion = name;
+  segment_->motion = PlaceOf(name);
 }
 
 void HtrFindingsObserver::Finish() {
@@ -232,7 +233,7 @@ void HtrFindingsObserver::LeaveSection() {
   findings_.SetFirstLineBehind(0);
 }
 
-void HtrFindingsObserver::AddSkippedSection(const HtrCell& name) {
+void HtrFindingsObserver::AddSkippedSection(const KeptCell& name) {
   const std::string_view meant = SectionLikelyMeant(name.text);
   const bool is_misspelled = !meant.empty();
   findings_.Add(
@@ -248,14 +249,14 @@ void HtrFindingsObserver::AddSkippedSection(const HtrCell& name) {
 void HtrFindingsObserver::OnHeaderField(const HtrCell& keyword, const HtrCell& value) {
   const std::size_t index = KeywordIndex(keyword.text);
   if (index == kKeywords.size()) return;
-  std::optional<HtrCell>& last = parts_.values[index];
+  std::optional<KeptCell>& last = parts_.values[index];
   if (last) {
     findings_.Add(Rule("htr-keyword-repeated"), keyword, [&] {
       return FindingWords{std::string(keyword.text) + " again", "it once; " + LineHasIt(*last),
                           "The later value counts: " + Quote(value.text) + "."};
     });
   }
-  last = value;
+  last = KeptCell(value);
   if (keyword.text == "DataFrameRate") CheckRate(value);
   if (keyword.text == "GlobalAxisofGravity") CheckGravity(value);
 }
@@ -282,7 +283,7 @@ void HtrFindingsObserver::CheckRate(const HtrCell& value) {
 
 void HtrFindingsObserver::OnSegment(const HtrCell& name, const HtrCell& parent) {
   parts_.segment_by_name.emplace(name.text, parts_.segments.size());
-  parts_.segments.push_back({name, parent});
+  parts_.segments.push_back({KeptCell(name), KeptCell(parent)});
   CheckName(name);
 }
 
@@ -321,19 +322,26 @@ void HtrFindingsObserver::OnFrame(const HtrCell& number) {
   if (segment_->frames > announced_frames_) {
     findings_.SetFirstLineBehind(IsBehindFrames() ? number.line : 0);
   }
+  if (next_frame_number_ && next_frame_number_->IsWrittenAs(number.text)) {
+    return next_frame_number_->Advance();
+  }
+  CheckFrameNumber(number);
+}
+
+void HtrFindingsObserver::CheckFrameNumber(const HtrCell& number) {
   const char* const end = number.text.data() + number.text.size();
   const bool is_number =
       IsPlainDecimal(number.text) || ReadDouble(number.text.data(), end).end == end;
   const std::int64_t value =
-      is_number || !next_frame_number_ ? ParseInt(number.text) : *next_frame_number_;
+      is_number || !next_frame_number_ ? ParseInt(number.text) : next_frame_number_->Value();
   if (!start_frame_) start_frame_ = value;
-  if (next_frame_number_ && value != *next_frame_number_) {
+  if (next_frame_number_ && value != next_frame_number_->Value()) {
     findings_.Add(Rule("htr-frame-number"), number, [&] {
-      return FindingWords{Quote(number.text), FormatInt(*next_frame_number_),
+      return FindingWords{Quote(number.text), FormatInt(next_frame_number_->Value()),
                           "The number is ignored: frames follow each other as their lines do."};
     });
   }
-  next_frame_number_ = value + 1;
+  next_frame_number_.emplace(value + 1);
 }
 
 }  // namespace orvane::htr

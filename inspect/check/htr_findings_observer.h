@@ -3,12 +3,15 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "formats/htr/read_observer.h"
 #include "inspect/check/decimal_commas.h"
 #include "inspect/check/findings.h"
 #include "inspect/check/htr_parts.h"
+#include "inspect/check/kept_cell.h"
+#include "inspect/check/next_number.h"
 
 // Watches the reader of HTR files: turns what it meets into findings, and keeps where the parts of
 // the file stand. Every finding has the line and the column of the reader's cell, counted from 1.
@@ -18,8 +21,7 @@ namespace orvane::htr {
 
 class HtrFindingsObserver final : public HtrReadObserver {
  public:
-  // `parts`, which is empty, and `findings` must outlive the observer, and the bytes that are read
-  // both it and `parts`.
+  // `parts`, which is empty, and `findings` must outlive the observer.
   HtrFindingsObserver(HtrParts& parts, FindingList& findings)
       : parts_(parts), findings_(findings) {}
 
@@ -29,6 +31,7 @@ class HtrFindingsObserver final : public HtrReadObserver {
   void OnSegment(const HtrCell& name, const HtrCell& parent) override;
   void OnBasePosition(const HtrCell& name) override;
   void OnFrame(const HtrCell& number) override;
+  void OnEnd(const HtrCell& end) override { parts_.end = PlaceOf(end); }
 
   // Ends the last section, and adds what is told once of the whole file, when reading has ended.
   void Finish();
@@ -48,12 +51,13 @@ class HtrFindingsObserver final : public HtrReadObserver {
   void AddKeyword(const HtrCell& keyword);
   void AddRateCut(const HtrCell& rate);
   void LeaveSection();
-  void AddSkippedSection(const HtrCell& name);
+  void AddSkippedSection(const KeptCell& name);
   void CheckHeaderPlace(const HtrCell& name);
   void EnterMotion(const HtrCell& name);
   void CheckRate(const HtrCell& value);
   void CheckGravity(const HtrCell& value);
   void CheckName(const HtrCell& name);
+  void CheckFrameNumber(const HtrCell& number);
 
   HtrParts& parts_;
   FindingList& findings_;
@@ -61,13 +65,13 @@ class HtrFindingsObserver final : public HtrReadObserver {
   bool has_refused_ = false;
   bool was_stopped_ = false;
   bool linked_again_ = false;
-  std::string_view byte_order_mark_;
-  std::size_t line_of_empty_cell_ = 0;      // the last one that was told of
-  std::optional<HtrCell> skipped_section_;  // the current section, when it names no segment
+  std::string byte_order_mark_;
+  std::size_t line_of_empty_cell_ = 0;       // the last one that was told of
+  std::optional<KeptCell> skipped_section_;  // the current section, when it names no segment
   std::size_t skipped_lines_ = 0;
   SegmentLines* segment_ = nullptr;  // of the current section, when that is one of motion
   std::size_t announced_frames_ = 0;
-  std::optional<std::int64_t> next_frame_number_;
+  std::optional<NextNumber> next_frame_number_;
   std::optional<std::int64_t> start_frame_;
   DecimalCommas commas_;
 };

@@ -182,18 +182,18 @@ constexpr auto kRows = std::to_array<OddityRow<HtrOddity, MetHtrOddity>>({
 });
 
 // A count that differs is told of where it is announced.
-const HtrCell& PlaceOf(const MetHtrOddity& met) {
+FindingPlace PlaceToTell(const MetHtrOddity& met) {
   const bool is_count = met.oddity == HtrOddity::kSegmentCountMismatch ||
                         met.oddity == HtrOddity::kRefusedBasePositionCount;
   const auto& announced = met.parts.Value("NumSegments");
-  return is_count && announced ? *announced : met.cell;
+  return is_count && announced ? PlaceOf(*announced) : PlaceOf(met.cell);
 }
 
 }  // namespace
 
 void AddOddity(const MetHtrOddity& met, FindingList& findings) {
   if (met.oddity == HtrOddity::kNumberOutOfBounds && MayBeSoLarge(met)) return;
-  orvane::AddOddity(kRows, met, PlaceOf(met), findings);
+  orvane::AddOddity(kRows, met, PlaceToTell(met), findings);
 }
 
 std::string ExpectedSegment(std::string_view name, const HtrParts& parts) {

@@ -3,17 +3,19 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <functional>
 #include <optional>
+#include <string>
 #include <string_view>
 #include <unordered_map>
 #include <vector>
 
 #include "formats/htr/read_observer.h"
 #include "inspect/check/findings.h"
+#include "inspect/check/kept_cell.h"
 
 // What the header of an HTR file may say, and where the parts of a file stand, as far as it was
-// read. Lines and columns count from 1, and texts lie in the bytes of the file, which must outlive
-// them; nothing fails but for want of memory.
+// read. Lines and columns count from 1; nothing fails but for want of memory.
 
 namespace orvane::htr {
 
@@ -49,36 +51,38 @@ inline constexpr std::array<Keyword, 12> kKeywords = {{
 }
 
 struct SegmentLines {
-  HtrCell name;
-  HtrCell parent;
-  std::size_t base_section = 0;     // the number of the last one with a line for it; 0 for none
-  std::optional<HtrCell> motion{};  // the name of the last section of it
-  std::size_t frames = 0;           // in all of them
+  KeptCell name;
+  KeptCell parent;
+  std::size_t base_section = 0;  // the number of the last one with a line for it; 0 for none
+  std::optional<FindingPlace> motion{};  // the name of the last section of it
+  std::size_t frames = 0;                // in all of them
+};
+
+// Finds own names by any text.
+struct NameHash {
+  using is_transparent = void;
+  std::size_t operator()(std::string_view name) const {
+    return std::hash<std::string_view>()(name);
+  }
 };
 
 struct HtrParts {
-  std::optional<HtrCell> header;  // name of the first such section, and so on
-  std::optional<HtrCell> hierarchy;
-  std::optional<HtrCell> base_position;
-  std::optional<HtrCell> motion;  // of a segment
+  std::optional<FindingPlace> header;  // name of the first such section, and so on
+  std::optional<FindingPlace> hierarchy;
+  std::optional<FindingPlace> base_position;
+  std::optional<FindingPlace> motion;  // of a segment
   bool has_end = false;
 
   std::size_t base_sections = 0;
   std::size_t base_lines = 0;
   std::size_t linked_segments = 0;  // that the last base-position section has found
 
-  std::array<std::optional<HtrCell>, kKeywords.size()> values;  // the last of each keyword
+  std::array<std::optional<KeptCell>, kKeywords.size()> values;  // the last of each keyword
 
   std::vector<SegmentLines> segments;  // in the document's order
-  std::unordered_map<std::string_view, std::size_t> segment_by_name;
+  std::unordered_map<std::string, std::size_t, NameHash, std::equal_to<>> segment_by_name;
 
-  std::string_view bytes;  // the whole file
-
-  // The place behind the last byte.
-  [[nodiscard]] HtrCell End() const {
-    const FindingPlace end = EndOf(bytes);
-    return {{}, end.line, end.column};
-  }
+  FindingPlace end;  // behind the last byte
 
   // Null when there is no such segment. It stays where it is until the next one is added.
   [[nodiscard]] SegmentLines* Find(std::string_view name) {
@@ -91,10 +95,15 @@ struct HtrParts {
   }
 
   // The last value of a keyword. REQUIRES: `keyword` is one of kKeywords.
-  [[nodiscard]] const std::optional<HtrCell>& Value(std::string_view keyword) const {
+  [[nodiscard]] const std::optional<KeptCell>& Value(std::string_view keyword) const {
     const std::size_t index = KeywordIndex(keyword);
     assert(index < kKeywords.size());
     return values[index];
+  }
+  // Where that is, or where the file ends.
+  [[nodiscard]] FindingPlace PlaceOfValue(std::string_view keyword) const {
+    const std::optional<KeptCell>& value = Value(keyword);
+    return value ? PlaceOf(*value) : end;
   }
 };
 

@@ -92,12 +92,12 @@ void Structure::CheckScaleFactor() {
 void Structure::CheckEnd() {
   if (parts_.has_end) return;
   findings_.Add(
-      Rule("htr-end-missing"), parts_.End(),
+      Rule("htr-end-missing"), parts_.end,
       {"the end of the file", "[EndOfFile]", "Nothing is lost, unless the file was cut short."});
 }
 
 void Structure::AddSegmentsMissing() {
-  findings_.Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.End()),
+  findings_.Add(Rule("htr-segments-missing"), parts_.hierarchy.value_or(parts_.end),
                 {"no segments", "their lines in [SegmentNames&Hierarchy]",
                  "There is nothing to import. Is it an HTR file?"});
 }
@@ -105,7 +105,7 @@ void Structure::AddSegmentsMissing() {
 void Structure::CheckBasePosition() {
   if (!parts_.base_position) {
     return findings_.Add(
-        Rule("htr-base-missing"), parts_.motion.value_or(parts_.End()),
+        Rule("htr-base-missing"), parts_.motion.value_or(parts_.end),
         {"no [BasePosition] before this", "[BasePosition] between the hierarchy and the motion",
          "No segment has a parent, none is a root, and angles are not converted: there is "
          "nothing to import."});
@@ -134,7 +134,7 @@ void Structure::CheckMotion() {
   const auto frames = CountFrames(document_);
   std::int64_t expected = frames.announced;
   if (IsOutOfProportion(frames.announced, frames)) {
-    findings_.Add(Rule("htr-frames-too-many"), parts_.Value("NumFrames").value_or(parts_.End()),
+    findings_.Add(Rule("htr-frames-too-many"), parts_.PlaceOfValue("NumFrames"),
                   {FormatInt(frames.announced),
                    "about " + FormatInt(frames.most_held) + ", as many as there are",
                    "The import is refused, unless --range FROM:TO takes a part of them."});
@@ -147,8 +147,7 @@ void Structure::CheckSubject() {
   const std::uint32_t unit = document_.GetCalibrationUnits();
   const auto subject = MeasureSubject(document_);
   if (auto words = WordsOfOddSize(subject, unit)) {
-    findings_.Add(Rule("htr-size"), parts_.Value("CalibrationUnits").value_or(parts_.End()),
-                  std::move(*words));
+    findings_.Add(Rule("htr-size"), parts_.PlaceOfValue("CalibrationUnits"), std::move(*words));
   } else {
     CheckFarPositions();
   }
@@ -194,15 +193,16 @@ void Structure::CheckAngles() {
     }
   }
   if (largest <= kMostTurned || !std::isfinite(largest)) return;
-  findings_.Add(Rule("htr-angles-large"), parts_.Value("RotationUnits").value_or(parts_.End()),
+  findings_.Add(Rule("htr-angles-large"), parts_.PlaceOfValue("RotationUnits"),
                 {FormatDouble(largest, 1), "angles in radians",
                  "They are taken as radians all the same; are they degrees?"});
 }
 
 void Structure::AddFramesUnannounced() {
   const auto& value = parts_.Value("NumFrames");
+  const FindingPlace header = parts_.header.value_or(FindingPlace{1, 1});
   findings_.Add(
-      Rule("htr-frames-unannounced"), value.value_or(parts_.header.value_or(HtrCell{{}, 1, 1})),
+      Rule("htr-frames-unannounced"), value ? PlaceOf(*value) : header,
       {value ? Quote(value->text) : "no NumFrames", "a whole number of 1 or more for NumFrames",
        "The import refuses the file: its last frame would come before its first."});
 }
@@ -227,7 +227,7 @@ void Structure::CheckFrames(const SegmentLines& segment, std::int64_t expected) 
 
 void Structure::CheckLinks() {
   for (std::size_t index = parts_.linked_segments; index < parts_.segments.size(); ++index) {
-    const HtrCell& name = parts_.segments[index].name;
+    const KeptCell& name = parts_.segments[index].name;
     findings_.Add(
         Rule("htr-segment-unlinked"), name,
         {Quote(name.text) + " behind [BasePosition]", "the hierarchy before [BasePosition]",
@@ -236,7 +236,7 @@ void Structure::CheckLinks() {
 }
 
 void Structure::CheckRoots() {
-  const HtrCell* first = nullptr;
+  const KeptCell* first = nullptr;
   for (std::size_t index = 0; index < parts_.linked_segments; ++index) {
     const SegmentLines& segment = parts_.segments[index];
     if (segment.parent.text != orvane::kGlobalParent) continue;
@@ -251,7 +251,7 @@ void Structure::CheckRoots() {
          "A new skeleton goes without it and its children."});
   }
   if (first != nullptr) return;
-  findings_.Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.End()),
+  findings_.Add(Rule("htr-root-missing"), parts_.hierarchy.value_or(parts_.end),
                 {"no root", "a segment with the parent GLOBAL",
                  "There is nothing that a new skeleton could start from."});
 }

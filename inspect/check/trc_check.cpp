@@ -9,11 +9,9 @@
 #include "inspect/check/content_kind.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
-#include "inspect/check/trc_layout.h"
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_positions.h"
 #include "inspect/check/trc_rules.h"
-#include "inspect/check/trc_widths.h"
 #include "inspect/counts/frame_counts.h"
 
 namespace orvane {
@@ -25,9 +23,8 @@ constexpr const char* kHeadingsAreNames =
 // What can be said of a file only when all of it has been read.
 class WholeFile {
  public:
-  WholeFile(const TRCDocument& document, const trc::TrcLayout& layout, const trc::TrcWidths& widths,
-            const trc::TrcParts& parts, FindingList& findings)
-      : document_(document), layout_(layout), widths_(widths), parts_(parts), findings_(findings) {}
+  WholeFile(const TRCDocument& document, const trc::TrcParts& parts, FindingList& findings)
+      : document_(document), layout_(parts.layout), parts_(parts), findings_(findings) {}
 
   void Check() {
     CheckLayout();
@@ -36,7 +33,7 @@ class WholeFile {
     CheckFrameCount();
     if (layout_.misplaced_name) return;  // from which gaps follow
     if (parts_.misfit) return AddMisfit(*parts_.misfit);
-    trc::CheckNarrowFrames(widths_, document_.MarkerCount(), findings_);
+    trc::CheckNarrowFrames(parts_.widths, document_.MarkerCount(), findings_);
     trc::CheckPositions(document_, parts_, findings_);
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
       CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
@@ -62,9 +59,9 @@ class WholeFile {
       findings_.Add(trc::Rule("trc-names-headings"), *name,
                     {"X1, Y1 and so on", "the names of the markers", kHeadingsAreNames});
     }
-    if (parts_.frames_before_end) {
+    if (parts_.blank_end) {
       const std::size_t blank = SamplesRead() - Held();
-      findings_.Add(trc::Rule("trc-lines-at-end"), *widths_.blank_end,
+      findings_.Add(trc::Rule("trc-lines-at-end"), *parts_.blank_end,
                     {CountOf(blank, "blank line") + " at the end",
                      "the end of the file behind the last frame",
                      "No more frames are announced than stand before: none is taken from there."});
@@ -96,7 +93,7 @@ class WholeFile {
 
   void AddMarkersMissing() {
     findings_.SetFirstLineBehind(0);  // it is of the whole file
-    findings_.Add(trc::Rule("trc-markers-missing"), parts_.End(),
+    findings_.Add(trc::Rule("trc-markers-missing"), parts_.end,
                   {"no marker", "names in the fourth line, a tab behind each",
                    "The import makes nothing of the file."});
   }
@@ -114,13 +111,13 @@ class WholeFile {
   }
 
   // Without blank lines at the end that do not count.
-  std::size_t Held() const { return parts_.frames_before_end.value_or(SamplesRead()); }
+  std::size_t Held() const { return parts_.blank_end ? parts_.FrameCount() : SamplesRead(); }
 
   void CheckFrameCount() {
     const auto held = static_cast<std::int64_t>(Held());
     const std::int64_t announced = document_.NumFrames();
     const auto& announcement = parts_.Value(TRCHeaderValue::kNumFrames);
-    const TRCPlace place = announcement ? *announcement : parts_.End();
+    const TRCPlace place = announcement ? *announcement : parts_.end;
     if (announced <= 0) return AddFramesUnannounced(place);
     if (held - (layout_.frame_of_tabs ? 1 : 0) == announced || held == announced) return;
     if (IsOutOfProportion(announced, {announced, held, held})) {
@@ -211,7 +208,6 @@ class WholeFile {
 
   const TRCDocument& document_;
   const trc::TrcLayout& layout_;
-  const trc::TrcWidths& widths_;
   const trc::TrcParts& parts_;
   FindingList& findings_;
 };
@@ -251,17 +247,14 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
-  parts.bytes = bytes;
-  const trc::TrcLayout layout = trc::FindLayout(bytes);
-  const trc::TrcWidths widths = trc::MeasureWidths(bytes);
-  trc::TrcFindingsObserver observer(document, layout, widths, parts, checked.findings);
+  trc::TrcFindingsObserver observer(document, parts, checked.findings);
   const std::string message = document.ReadBytes(bytes, false, &observer);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (checked.refusal.empty()) {
-    WholeFile(document, layout, widths, parts, checked.findings).Check();
+    WholeFile(document, parts, checked.findings).Check();
   }
   NameWhatItIs(bytes, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();

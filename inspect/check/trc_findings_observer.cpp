@@ -1,12 +1,13 @@
 #include "inspect/check/trc_findings_observer.h"
 
+#include <array>
 #include <cstdint>
-#include <string>
 #include <utility>
 
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
+#include "formats/trc/line_rules.h"
 #include "formats/units/units.h"
 #include "inspect/check/rates.h"
 #include "inspect/check/text_encoding.h"
@@ -26,6 +27,10 @@ std::string WhereFieldsBelong(std::string_view line) {
   return "tabs between fields, not blanks";
 }
 
+// What is told of rows that do not have the columns which the names ask for.
+constexpr std::array kFollowFromMisfit = {Rule("trc-frame-short"), Rule("trc-value-extra"),
+                                          Rule("trc-sample-without-x"), Rule("trc-number-missing")};
+
 // Whether a column with a name makes no marker.
 bool DropsColumn(TRCOddity oddity) {
   return oddity == TRCOddity::kMarkerNameLost || oddity == TRCOddity::kUnnamedColumnDropped ||
@@ -35,7 +40,7 @@ bool DropsColumn(TRCOddity oddity) {
 }  // namespace
 
 void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) {
-  if (DropsColumn(oddity) && place.field <= widths_.last_value) parts_.AddColumn(place.field);
+  if (DropsColumn(oddity)) columns_.AddWithoutMarker(place.field);
   if (FollowsFromLayout(oddity, place)) return;
   switch (oddity) {
     case TRCOddity::kSpareCarriageReturns:
@@ -53,7 +58,7 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
     case TRCOddity::kCoordinatesRefused:
       return AddRefusal(place, text);
     case TRCOddity::kMarkerNameRepeated:
-      return AddRepeatedName(place, text);
+      return columns_.AddRepeated(place, text);
     case TRCOddity::kUnknownUnits:
       return AddUnknownUnit(place, text);
     case TRCOddity::kUnreadableNumber:
@@ -62,18 +67,16 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
     default:
       break;
   }
-  AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, findings_);
+  AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, Findings());
 }
 
 bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) const {
-  if (layout_.frame_of_tabs) {
-    const std::size_t line = layout_.frame_of_tabs->line;
+  if (parts_.layout.frame_of_tabs) {
+    const std::size_t line = parts_.layout.frame_of_tabs->line;
     if (place.line == line) return true;
     if (oddity == TRCOddity::kFrameNumberSkips && place.line == line + 1) return true;
   }
-  if (StandsBehindFrames(place)) return true;
-  if (parts_.misfit && FollowsFromMisfit(oddity)) return true;
-  if (!layout_.misplaced_name) return false;
+  if (!parts_.layout.misplaced_name) return false;
   switch (oddity) {
     case TRCOddity::kMarkerNameLost:
     case TRCOddity::kUnnamedColumnDropped:
@@ -87,15 +90,6 @@ bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) co
     default:
       return false;
   }
-}
-
-bool TrcFindingsObserver::FollowsFromMisfit(TRCOddity oddity) {
-  return oddity == TRCOddity::kShortFrame || oddity == TRCOddity::kSurplusValue ||
-         oddity == TRCOddity::kSampleWithoutX || oddity == TRCOddity::kMissingNumber;
-}
-
-bool TrcFindingsObserver::StandsBehindFrames(TRCPlace place) const {
-  return parts_.frames_before_end && place.line >= widths_.blank_end->line;
 }
 
 bool TrcFindingsObserver::LacksTabs(TRCPlace place) const {
@@ -113,18 +107,6 @@ void TrcFindingsObserver::AddRefusal(TRCPlace place, std::string_view coordinate
                 {Quote(coordinates), "(X/Y/Z) as the third field, and a tab behind it", kRefused});
 }
 
-void TrcFindingsObserver::AddRepeatedName(TRCPlace place, std::string_view name) {
-  const bool is_blank = place.field > widths_.last_value;
-  findings_.Add(
-      is_blank ? Rule("trc-column-repeated-blank") : Rule("trc-column-repeated"), place, [&] {
-        const auto column = static_cast<std::int64_t>(columns_[name]);
-        return FindingWords{
-            Quote(name) + " again", "a name of its own; column " + FormatInt(column) + " has it",
-            is_blank ? "It makes no marker; neither it nor a column behind it holds a value."
-                     : kColumnsShift};
-      });
-}
-
 // An unknown unit means millimeters: these are meant.
 void TrcFindingsObserver::AddUnknownUnit(TRCPlace place, std::string_view unit) {
   const std::string_view trimmed = TrimTrailingSeparators(SkipSeparators(unit));
@@ -136,9 +118,31 @@ void TrcFindingsObserver::AddUnknownUnit(TRCPlace place, std::string_view unit) 
 }
 
 void TrcFindingsObserver::Finish() {
+  if (held_) {
+    if (blank_end_.Begin() == held_->line) {
+      DropHeld();
+    } else {
+      TakeHeld();
+    }
+  }
+  LeaveSubHeader();
+  parts_.widths = widths_.Sum();
+  parts_.named_fields = columns_.NamedFields(parts_.widths.last_value);
+  columns_.AddRepeatedTo(findings_, parts_.widths.last_value);
+  AddFindingsOfFrames();
   commas_.AddTo(findings_, Rule("trc-decimal-commas"));
   const bool are_numbers_odd = findings_.Totals().count("trc-frame-number") > 0;
   if (!are_numbers_odd && !parts_.misfit) times_.AddTo(findings_);
+}
+
+void TrcFindingsObserver::AddFindingsOfFrames() {
+  if (frames_ > 0 && !parts_.layout.misplaced_name) {
+    parts_.misfit = FieldsThatMisfit(parts_.widths, parts_.named_fields);
+  }
+  if (parts_.misfit) {
+    for (const FindingRule& rule : kFollowFromMisfit) in_frames_.Remove(rule);
+  }
+  findings_.Append(in_frames_);
 }
 
 void TrcFindingsObserver::OnHeaderValue(TRCHeaderValue value, TRCPlace place,
@@ -188,9 +192,8 @@ void TrcFindingsObserver::CheckCameraRate(TRCPlace place, std::string_view rate)
 }
 
 void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
-  columns_.emplace(name, place.column);
+  columns_.AddMarker(place, name);
   parts_.markers.push_back(place);
-  if (!name.empty() || place.field <= widths_.last_value) parts_.AddColumn(place.field);
   CheckName(place, name);
 }
 
@@ -201,34 +204,104 @@ void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
                           "Its bytes are kept, and most programs will not show them as letters."};
     });
   }
-  if (layout_.misplaced_name || name.find_first_of(" \v\f\r") == std::string_view::npos) return;
+  if (parts_.layout.misplaced_name || name.find_first_of(" \v\f\r") == std::string_view::npos)
+    return;
   findings_.Add(Rule("trc-name-with-blank"), place, [name] {
     return FindingWords{Quote(name), "a name of one word",
                         "It is kept; in a converted file it reads as several names."};
   });
 }
 
+void TrcFindingsObserver::OnHeaderLine(std::size_t number, const Line& line) {
+  parts_.layout.TakeHeaderLine(number, line);
+  LeaveSubHeader();
+  if (number == kSubHeaderLine) sub_header_ = line.number;
+  if (!IsFrame(line, number)) TakeOtherLine(line);
+}
+
+// A piece of the same line may be the frame of tabs, which is told.
+void TrcFindingsObserver::LeaveSubHeader() {
+  const auto& tabs = parts_.layout.frame_of_tabs;
+  if (!tabs || tabs->line != sub_header_) findings_.Append(in_sub_header_);
+  in_sub_header_ = {};
+  sub_header_ = 0;
+}
+
+void TrcFindingsObserver::OnLineThrownAway(const Line& line) { TakeOtherLine(line); }
+
+// Where a comment takes the place of a line, one of the header comes to stand where frames begin.
+void TrcFindingsObserver::TakeOtherLine(const Line& line) {
+  if (lines_ >= kPerhapsBlankLine && IsFrame(line, lines_)) {
+    TakeRow(line, WidthOf(line.text));
+  } else {
+    ++lines_;
+  }
+}
+
+void TrcFindingsObserver::TakeRow(const Line& line, const TRCRowWidth& width) {
+  ++lines_;
+  widths_.Take(line, width);
+  blank_end_.Take(line.number, width.last_value == 0);
+  if (!held_ || line.number == held_->line || blank_end_.Begin() == held_->line) return;
+  TakeHeld();
+}
+
 void TrcFindingsObserver::OnFrame(TRCPlace place, const TRCRow& row) {
-  const std::string_view number = row.number;
-  if (frames_ > 0 && widths_.blank_end && place.line == widths_.blank_end->line &&
-      document_.NumFrames() > 0 && static_cast<std::int64_t>(frames_) >= document_.NumFrames()) {
-    parts_.frames_before_end = frames_;
-  }
-  if (StandsBehindFrames(place)) return;
-  if (frames_ == 0 && !layout_.misplaced_name) {
-    parts_.misfit = FieldsThatMisfit(widths_, parts_.named_fields);
-  }
+  TakeRow(row.line, row.width);
+  if (!held_ && MayBeBehindFrames(row)) Hold(place.line);
   parts_.AddFrame(place);
-  const auto end = static_cast<std::size_t>(number.data() + number.size() - parts_.bytes.data());
-  if (end < parts_.bytes.size() && parts_.bytes[end] == '\t') {
-    times_.Take(parts_.bytes.substr(end + 1), frames_, {place.line, place.column});
-  }
-  const std::string_view cell = TrimTrailingSeparators(SkipSeparators(number));
-  if (frames_++ == 0) parts_.first_number = cell;
-  if (static_cast<std::int64_t>(frames_) == document_.NumFrames()) {
-    findings_.SetFirstLineBehind(place.line + 1);
-  }
+  CheckTime(place, row);
+  const std::string_view cell = TrimTrailingSeparators(SkipSeparators(row.number));
+  if (frames_ == 0) parts_.first_number = cell;
   parts_.last_number = cell;
+  CountFrame(place);
+}
+
+void TrcFindingsObserver::CheckTime(TRCPlace place, const TRCRow& row) {
+  const std::string_view line = row.line.text;
+  if (row.number.size() == line.size()) return;
+  times_.Take(line.substr(row.number.size() + 1), frames_, {place.line, place.column});
+}
+
+void TrcFindingsObserver::CountFrame(TRCPlace place) {
+  ++frames_;
+  if (static_cast<std::int64_t>(frames_) != document_.NumFrames()) return;
+  first_line_behind_ = place.line + 1;
+  widths_.SetFirstLineBehind(first_line_behind_);
+  findings_.SetFirstLineBehind(first_line_behind_);
+  in_frames_.SetFirstLineBehind(first_line_behind_);
+}
+
+// A line whose first piece holds something may be one of them by another piece.
+bool TrcFindingsObserver::MayBeBehindFrames(const TRCRow& row) const {
+  const std::int64_t announced = document_.NumFrames();
+  if (announced <= 0 || static_cast<std::int64_t>(frames_) < announced) return false;
+  return blank_end_.Begin() == row.line.number || !row.line.ends_with_break;
+}
+
+void TrcFindingsObserver::Hold(std::size_t line) {
+  held_ = Held{line, frames_, parts_.last_number, commas_, times_, {}};
+  held_->findings.SetFirstLineBehind(first_line_behind_);
+}
+
+void TrcFindingsObserver::TakeHeld() {
+  in_frames_.Append(held_->findings);
+  held_.reset();
+}
+
+void TrcFindingsObserver::DropHeld() {
+  parts_.blank_end = TRCPlace{held_->line, 1, 0};
+  parts_.KeepFrames(held_->frames);
+  parts_.last_number = std::move(held_->last_number);
+  commas_ = std::move(held_->commas);
+  times_ = held_->times;
+  held_.reset();
+}
+
+FindingList& TrcFindingsObserver::Findings() {
+  if (held_) return held_->findings;
+  if (frames_ > 0) return in_frames_;
+  return sub_header_ == 0 ? findings_ : in_sub_header_;
 }
 
 }  // namespace orvane::trc

@@ -1,14 +1,16 @@
 #pragma once
 
 #include <cstddef>
+#include <optional>
+#include <string>
 #include <string_view>
-#include <unordered_map>
 
 #include "formats/trc/document.h"
 #include "formats/trc/read_observer.h"
 #include "inspect/check/decimal_commas.h"
 #include "inspect/check/findings.h"
-#include "inspect/check/trc_layout.h"
+#include "inspect/check/trc_blank_end.h"
+#include "inspect/check/trc_columns.h"
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_times.h"
 #include "inspect/check/trc_widths.h"
@@ -21,18 +23,19 @@ namespace orvane::trc {
 
 class TrcFindingsObserver final : public TRCReadObserver {
  public:
-  // `document` is what is read into, `layout` and `widths` are those of the bytes, and `parts` is
-  // empty. All must outlive the observer, and so must the bytes that are read.
-  TrcFindingsObserver(const TRCDocument& document, const TrcLayout& layout, const TrcWidths& widths,
-                      TrcParts& parts, FindingList& findings)
-      : document_(document), layout_(layout), widths_(widths), parts_(parts), findings_(findings) {}
+  // `document` is what is read into, and `parts` is empty. All must outlive the observer.
+  TrcFindingsObserver(const TRCDocument& document, TrcParts& parts, FindingList& findings)
+      : document_(document), parts_(parts), findings_(findings) {}
 
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
   void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
   void OnMarker(TRCPlace place, std::string_view name) override;
+  void OnHeaderLine(std::size_t number, const Line& line) override;
+  void OnLineThrownAway(const Line& line) override;
   void OnFrame(TRCPlace place, const TRCRow& row) override;
+  void OnEnd(TRCPlace place) override { parts_.end = place; }
 
-  // Adds what is told once of the whole file, when reading has ended.
+  // Adds what depends on the whole file, or is told once of it, when reading has ended.
   void Finish();
 
   // Whether the reader has refused the file.
@@ -41,35 +44,66 @@ class TrcFindingsObserver final : public TRCReadObserver {
  private:
   void AddRefusal(TRCPlace place, std::string_view coordinates);
   void AddUnknownUnit(TRCPlace place, std::string_view unit);
-  void AddRepeatedName(TRCPlace place, std::string_view name);
   void AddRateCut(TRCPlace place, std::string_view rate);
   void CheckFileType(TRCPlace path_type);
   void CheckName(TRCPlace place, std::string_view name);
   void CheckRate(TRCPlace place, std::string_view rate);
   void CheckCameraRate(TRCPlace place, std::string_view rate);
 
+  // Takes a line that stands where frames do, whether it is one or not.
+  void TakeRow(const Line& line, const TRCRowWidth& width);
+  // The same of any line that is no frame.
+  void TakeOtherLine(const Line& line);
+  void CountFrame(TRCPlace place);
+  void CheckTime(TRCPlace place, const TRCRow& row);
+
+  // Whether the frame may stand behind all that are announced, where only blank lines follow.
+  [[nodiscard]] bool MayBeBehindFrames(const TRCRow& row) const;
+  void LeaveSubHeader();
+  // Keeps what is told from now on apart, and decides on it.
+  void Hold(std::size_t line);
+  void TakeHeld();
+  void DropHeld();
+  // What findings are added to at present.
+  FindingList& Findings();
+
+  // Adds what was told of frames, but for what follows from their columns.
+  void AddFindingsOfFrames();
+
   // Whether the oddity there follows from the layout of the file, which is told.
   [[nodiscard]] bool FollowsFromLayout(TRCOddity oddity, TRCPlace place) const;
-  // The same of rows that do not have the columns which the names ask for.
-  [[nodiscard]] static bool FollowsFromMisfit(TRCOddity oddity);
-  // Whether what is there is a line at the end, behind all frames that are announced.
-  [[nodiscard]] bool StandsBehindFrames(TRCPlace place) const;
   // Whether the first line has no tab, by the place of what is missing then.
   [[nodiscard]] bool LacksTabs(TRCPlace place) const;
 
   const TRCDocument& document_;
-  const TrcLayout& layout_;
-  const TrcWidths& widths_;
   TrcParts& parts_;
   FindingList& findings_;
+  FindingList in_sub_header_;  // what is found there, until the next line of the header
+  FindingList in_frames_;      // the same, until all are read
 
   bool has_refused_ = false;
   bool has_spare_returns_ = false;
-  std::string_view file_type_;                                 // when it is not the usual one
-  std::unordered_map<std::string_view, std::size_t> columns_;  // of markers, by name
+  std::string file_type_;  // when it is not the usual one
+  TrcColumns columns_;
+  std::size_t sub_header_ = 0;  // its line; 0 when it is not the current line of the header
+  std::size_t lines_ = 0;       // also those that are thrown away
+  WidthCounts widths_;
+  BlankEnd blank_end_;
   std::size_t frames_ = 0;
+  std::size_t first_line_behind_ = 0;  // the frames that are announced; 0 for none
   DecimalCommas commas_;
   TimeColumn times_;
+
+  // What is told of frames that may be blank lines at the end, and what was so before the first.
+  struct Held {
+    std::size_t line = 0;
+    std::size_t frames = 0;
+    std::string last_number;
+    DecimalCommas commas;
+    TimeColumn times;
+    FindingList findings;
+  };
+  std::optional<Held> held_;
 };
 
 }  // namespace orvane::trc

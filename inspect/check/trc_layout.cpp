@@ -1,6 +1,7 @@
 #include "inspect/check/trc_layout.h"
 
-#include "formats/text/lines.h"
+#include <string_view>
+
 #include "formats/text/tokens.h"
 #include "formats/trc/fields.h"
 #include "formats/trc/line_rules.h"
@@ -31,7 +32,10 @@ std::optional<MisplacedName> FindMisplacedName(const Line& line) {
     }
     if (!first && field > kFirstName && !IsLookedAt(field)) {
       const auto column = static_cast<std::size_t>(name.data() - line.text.data()) + 1;
-      first = {{line.number, column, field}, name, previous, field - previous_field};
+      first = {{line.number, column, field},
+               std::string(name),
+               std::string(previous),
+               field - previous_field};
     }
     previous = name;
     previous_field = field;
@@ -58,21 +62,14 @@ bool HoldsTabsAlone(const Line& line) {
 
 }  // namespace
 
-TrcLayout FindLayout(std::string_view bytes) {
-  TrcLayout layout;
-  LineReader lines(bytes);
-  Line line;
-  for (std::size_t number = 0; number <= kPerhapsBlankLine && lines.Next(line); ++number) {
-    if (number == kMarkerNamesLine) {
-      layout.misplaced_name = FindMisplacedName(line);
-      layout.headings_for_names = FindHeadings(line);
-    }
-    if (number == kPerhapsBlankLine && HoldsTabsAlone(line)) {
-      layout.frame_of_tabs = TRCPlace{line.number, 1, 0};
-    }
-    if (Line thrown_away; ReplacesNextLine(line) && !lines.Next(thrown_away)) break;
+void TrcLayout::TakeHeaderLine(std::size_t number, const Line& line) {
+  if (number == kMarkerNamesLine) {
+    misplaced_name = FindMisplacedName(line);
+    headings_for_names = FindHeadings(line);
   }
-  return layout;
+  if (number == kPerhapsBlankLine && HoldsTabsAlone(line)) {
+    frame_of_tabs = TRCPlace{line.number, 1, 0};
+  }
 }
 
 }  // namespace orvane::trc

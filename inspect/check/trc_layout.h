@@ -2,13 +2,14 @@
 
 #include <cstddef>
 #include <optional>
-#include <string_view>
+#include <string>
 
+#include "formats/text/lines.h"
 #include "formats/trc/read_observer.h"
 
 // What is wrong with the way the first lines of a TRC file are laid out, where the reader meets
-// only what follows from it in every frame. Lines, columns and fields count from 1; nothing is kept
-// of the bytes but views into them, and nothing fails.
+// only what follows from it in every frame. Lines, columns and fields count from 1; nothing fails
+// but for want of memory.
 
 namespace orvane::trc {
 
@@ -16,9 +17,9 @@ namespace orvane::trc {
 // that stands between.
 struct MisplacedName {
   TRCPlace place;
-  std::string_view name;
-  std::string_view previous;  // the name before it, or a heading
-  std::size_t tabs = 0;       // between the two
+  std::string name;
+  std::string previous;  // the name before it, or a heading
+  std::size_t tabs = 0;  // between the two
 };
 
 struct TrcLayout {
@@ -30,9 +31,9 @@ struct TrcLayout {
   // The line where the blank one belongs, when it holds but tabs: the reader takes it for a
   // frame.
   std::optional<TRCPlace> frame_of_tabs;
-};
 
-// The layout of the file that is, or starts with, `bytes`.
-[[nodiscard]] TrcLayout FindLayout(std::string_view bytes);
+  // Takes one of the first six lines of a file, counted from 0.
+  void TakeHeaderLine(std::size_t number, const Line& line);
+};
 
 }  // namespace orvane::trc

@@ -12,6 +12,11 @@ void TrcParts::AddFrame(TRCPlace place) {
   ++frames_;
 }
 
+void TrcParts::KeepFrames(std::size_t count) {
+  while (!runs_.empty() && runs_.back().frame >= count) runs_.pop_back();
+  frames_ = count;
+}
+
 TRCPlace TrcParts::PlaceOfFrame(std::size_t index) const {
   assert(index < frames_);
   const auto behind =

@@ -1,14 +1,14 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <optional>
-#include <string_view>
+#include <string>
 #include <vector>
 
 #include "formats/trc/read_observer.h"
-#include "inspect/check/findings.h"
+#include "inspect/check/trc_layout.h"
+#include "inspect/check/trc_widths.h"
 
 // Where the parts of a TRC file stand, as far as it was read. Lines, columns and fields count from
 // 1, frames from 0; nothing fails but for want of memory.
@@ -21,25 +21,19 @@ struct TrcParts {
   // By TRCHeaderValue.
   std::array<std::optional<TRCPlace>, kHeaderValues> values;
   std::vector<TRCPlace> markers;  // their names, in the document's order
+  TrcLayout layout;
+  TrcWidths widths;
   // What the first and the last frame are numbered, without blanks; empty without frames.
-  std::string_view first_number;
-  std::string_view last_number;
-  std::string_view bytes;  // the whole file
+  std::string first_number;
+  std::string last_number;
+  TRCPlace end{1, 1, 0};  // behind the last byte
   // The last field of the last column that has a name or a value; 0 without any.
   std::size_t named_fields = 0;
   // How many fields the rows have, when these are others than the names ask for.
   std::optional<std::size_t> misfit{};
-  // How many frames there are before blank lines at the end, when no more are announced.
-  std::optional<std::size_t> frames_before_end{};
-
-  // Such a column begins at `field`.
-  void AddColumn(std::size_t field) { named_fields = std::max(named_fields, field + 2); }
-
-  // The place behind the last byte.
-  [[nodiscard]] TRCPlace End() const {
-    const FindingPlace end = EndOf(bytes);
-    return {end.line, end.column, 0};
-  }
+  // The first of blank lines at the end, when no more frames are announced than stand before. These
+  // lines hold none.
+  std::optional<TRCPlace> blank_end{};
 
   // The last place of a value; nothing when it was not there.
   [[nodiscard]] const std::optional<TRCPlace>& Value(TRCHeaderValue value) const {
@@ -50,6 +44,9 @@ struct TrcParts {
 
   // Keeps where the next frame starts.
   void AddFrame(TRCPlace place);
+
+  // Takes back all but the first `count` frames.
+  void KeepFrames(std::size_t count);
 
   // Where frame `index` starts. REQUIRES: it was added.
   [[nodiscard]] TRCPlace PlaceOfFrame(std::size_t index) const;

@@ -1,5 +1,6 @@
 #include "inspect/check/trc_positions.h"
 
+#include <algorithm>
 #include <optional>
 #include <string>
 #include <utility>
@@ -37,7 +38,7 @@ void CheckSubject(const TRCDocument& document, const std::vector<PositionExtreme
   const auto unit = static_cast<std::uint32_t>(document.Units());
   const auto subject = MeasureSubject(document);
   if (auto words = WordsOfOddSize(subject, unit); words && !stand_ins.AreFar()) {
-    findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.End()),
+    findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.end),
                  std::move(*words));
   } else {
     const Horizon horizon(unit);
@@ -52,18 +53,35 @@ void CheckSubject(const TRCDocument& document, const std::vector<PositionExtreme
                 "heights along Y", "The file is taken as Y up: what stands lies on its side."});
 }
 
+using NarrowFrame = std::pair<std::size_t, std::size_t>;  // its line, and how many fields it has
+
+void AddNarrowFrame(std::size_t line, std::size_t fields, std::size_t usual,
+                    FindingList& findings) {
+  findings.Add(Rule("trc-frame-narrow"), FindingPlace{line, 1}, [&] {
+    return FindingWords{
+        CountOf(fields, "field"),
+        FormatInt(static_cast<std::int64_t>(usual)) + ", as in most frames",
+        "If a cell was lost, the values behind it go to other coordinates and markers."};
+  });
+}
+
 }  // namespace
 
 void CheckNarrowFrames(const TrcWidths& widths, std::int64_t markers, FindingList& findings) {
   const auto needed = static_cast<std::size_t>(2 + 3 * markers);
-  for (const TrcWidths::NarrowFrame& frame : widths.narrow) {
-    if (frame.fields < needed) continue;  // which is told of as too short
-    findings.Add(Rule("trc-frame-narrow"), frame.place, [&] {
-      return FindingWords{
-          CountOf(frame.fields, "field"),
-          FormatInt(static_cast<std::int64_t>(widths.usual)) + ", as in most frames",
-          "If a cell was lost, the values behind it go to other coordinates and markers."};
-    });
+  std::vector<NarrowFrame> first;
+  for (const TrcWidths::NarrowFrames& frames : widths.narrow) {
+    if (frames.fields < needed) continue;  // which is told of as too short
+    for (const std::size_t line : frames.first_lines) first.push_back({line, frames.fields});
+  }
+  std::sort(first.begin(), first.end());
+  for (const NarrowFrame& frame : first) {
+    AddNarrowFrame(frame.first, frame.second, widths.usual, findings);
+  }
+  for (const TrcWidths::NarrowFrames& frames : widths.narrow) {
+    if (frames.fields < needed) continue;
+    findings.AddMore(Rule("trc-frame-narrow"), FindingPlace{frames.first_lines.back(), 1},
+                     frames.count - frames.first_lines.size());
   }
 }
 

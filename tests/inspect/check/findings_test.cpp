@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <string>
+#include <string_view>
 #include <tuple>
+#include <vector>
 
 namespace {
 
@@ -86,12 +89,65 @@ TEST(FindingList, PutsTheCauseOfAllInTheirPlace) {
   EXPECT_EQ(findings.Totals().size(), 1U);
 }
 
-TEST(EndOf, IsBehindTheLastByte) {
-  for (const auto& [bytes, line, column] :
-       {std::tuple{"", 1U, 1U}, {"a", 1U, 2U}, {"a\n", 2U, 1U}, {"a\r\nbc", 2U, 3U}}) {
-    EXPECT_EQ(orvane::EndOf(bytes).line, line) << bytes;
-    EXPECT_EQ(orvane::EndOf(bytes).column, column) << bytes;
+std::vector<std::string> TextsOf(const FindingList& findings) {
+  std::vector<std::string> texts;
+  for (const orvane::Finding& finding : findings.Sorted()) texts.push_back(finding.found);
+  return texts;
+}
+
+// What a list holds, whatever way it came there.
+auto Contents(const FindingList& findings) {
+  std::vector<std::tuple<std::string_view, std::size_t, std::size_t, std::size_t>> totals;
+  for (const auto& [code, total] : findings.Totals()) {
+    totals.emplace_back(code, total.count, total.behind, total.LeftOut());
   }
+  return std::tuple(totals, TextsOf(findings));
+}
+
+// Adds a finding on each line from `first` to `last`, of which those from line 31 on are behind the
+// announced frames.
+void AddOnLines(std::size_t first, std::size_t last, FindingList& findings) {
+  findings.SetFirstLineBehind(31);
+  for (std::size_t line = first; line <= last; ++line) {
+    findings.Add(kRule, FindingPlace{line, 1}, {std::to_string(line), "", ""});
+    findings.Add(kOther, FindingPlace{line, 1}, {"other " + std::to_string(line), "", ""});
+  }
+}
+
+TEST(FindingList, AppendsAnotherAsIfItsFindingsWereAdded) {
+  for (const std::size_t end : {0U, 1U, 7U, 25U, 40U, 55U, 70U}) {
+    FindingList whole;
+    AddOnLines(1, 70, whole);
+    FindingList first;
+    AddOnLines(1, end, first);
+    FindingList later;
+    AddOnLines(end + 1, 70, later);
+    first.Append(later);
+    EXPECT_EQ(Contents(first), Contents(whole)) << end;
+  }
+}
+
+TEST(FindingList, CountsMoreThanItKeeps) {
+  FindingList one_by_one;
+  AddOnLines(1, 70, one_by_one);
+  FindingList findings;
+  AddOnLines(1, 20, findings);
+  findings.AddMore(kRule, FindingPlace{30, 1}, 10);
+  findings.AddMore(kOther, FindingPlace{30, 1}, 10);
+  AddOnLines(31, 50, findings);
+  findings.AddMore(kRule, FindingPlace{51, 1}, 20);
+  findings.AddMore(kOther, FindingPlace{51, 1}, 20);
+  EXPECT_EQ(Contents(findings), Contents(one_by_one));
+}
+
+TEST(FindingList, TakesBackWhatARuleHasAdded) {
+  FindingList findings;
+  AddOnLines(1, 2, findings);
+  findings.Remove(kOther);
+  EXPECT_THAT(TextsOf(findings), ElementsAre("1", "2"));
+  EXPECT_EQ(findings.Count(FindingSeverity::kNote), 0U);
+  findings.Remove(kRule);
+  EXPECT_TRUE(findings.IsEmpty());
 }
 
 TEST(Quote, CutsLongTextBetweenCharacters) {
