@@ -19,12 +19,12 @@ constexpr std::array<FindingRule, 4> kFlawRules = {
     htr::Rule("htr-first-section-lost")};
 
 // A mark that keeps nothing from being read is no more than what the observer has told.
-void NameWhatItIs(std::string_view bytes, FindingList& findings) {
-  if (const auto kind = FindOtherKind(bytes, ContentKind::kHtr)) {
+void NameWhatItIs(std::string_view start, FindingList& findings) {
+  if (const auto kind = FindOtherKind(start, ContentKind::kHtr)) {
     return NameKindAlone(*kind, htr::Rule("htr-other-kind"), "an HTR file", WordsFor(*kind).advice,
                          findings);
   }
-  const auto flaw = FindHtrTextFlaw(bytes);
+  const auto flaw = FindHtrTextFlaw(start);
   if (!flaw || findings.Count(FindingSeverity::kError) == 0) return;
   NameFlawAlone(*flaw, kFlawRules[static_cast<std::size_t>(*flaw)],
                 "The import refuses the file; what else is odd about it is not told.", findings);
@@ -57,17 +57,25 @@ CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
 }
 
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
+  const auto read = [bytes](HtrDocument& into, HtrReadObserver& observer) {
+    return ReadHtrBytes(into, bytes, true, &observer);
+  };
+  return CheckHtr(file, bytes, read, document);
+}
+
+CheckedFile CheckHtr(const std::string& file, std::string_view start, const HtrReading& read,
+                     HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
   htr::HtrParts parts;
   htr::HtrFindingsObserver observer(parts, checked.findings);
-  const std::string message = ReadHtrBytes(document, bytes, true, &observer);
+  const std::string message = read(document, observer);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   if (observer.HasRefused()) NameOtherSeparators(parts, checked.findings);
-  NameWhatItIs(bytes, checked.findings);
+  NameWhatItIs(start, checked.findings);
   checked.contents = Contents(document);
   return checked;
 }

@@ -217,19 +217,19 @@ constexpr std::array<FindingRule, 3> kFlawRules = {
     trc::Rule("trc-empty"), trc::Rule("trc-encoding"), trc::Rule("trc-line-ends")};
 
 // The pieces of one long line may pass for the lines of a marker file.
-void NameWhatItIs(std::string_view bytes, FindingList& findings) {
-  if (const auto kind = FindOtherKind(bytes, ContentKind::kTrc)) {
+void NameWhatItIs(std::string_view start, FindingList& findings) {
+  if (const auto kind = FindOtherKind(start, ContentKind::kTrc)) {
     return NameKindAlone(*kind, trc::Rule("trc-other-kind"), "a TRC file", WordsFor(*kind).advice,
                          findings);
   }
   const bool is_refused = findings.Count(FindingSeverity::kError) > 0;
-  if (bytes.starts_with('"') && is_refused) {
+  if (start.starts_with('"') && is_refused) {
     return findings.ReplaceAll(
         trc::Rule("trc-cells-quoted"), {1, 1},
         {"cells in quotation marks", "cells without them",
          "The import refuses the file; what else is odd about it is not told."});
   }
-  const auto flaw = FindTextFlaw(bytes);
+  const auto flaw = FindTextFlaw(start);
   if (!flaw) return;
   const std::string effect =
       is_refused ? "The import refuses the file" : "The import makes markers of what holds none";
@@ -245,10 +245,18 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
 }
 
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
+  const auto read = [bytes](TRCDocument& into, TRCReadObserver& observer) {
+    return into.ReadBytes(bytes, false, &observer);
+  };
+  return CheckTrc(file, bytes, read, document);
+}
+
+CheckedFile CheckTrc(const std::string& file, std::string_view start, const TrcReading& read,
+                     TRCDocument& document) {
   CheckedFile checked{file, "TRC", {}, {}};
   trc::TrcParts parts;
   trc::TrcFindingsObserver observer(document, parts, checked.findings);
-  const std::string message = document.ReadBytes(bytes, false, &observer);
+  const std::string message = read(document, observer);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
@@ -256,7 +264,7 @@ CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocumen
   if (checked.refusal.empty()) {
     WholeFile(document, parts, checked.findings).Check();
   }
-  NameWhatItIs(bytes, checked.findings);
+  NameWhatItIs(start, checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
   return checked;

@@ -2,6 +2,7 @@
 
 #include "inspect/check/htr_rules.h"
 #include "tests/inspect/check/htr_rows.h"
+#include "tests/inspect/check/lent_texts.h"
 #include "tests/support/replaced_text.h"
 
 namespace test {
@@ -31,7 +32,9 @@ using test::kHtrSegmentRows;
 using testing::IsEmpty;
 
 std::vector<test::Told> ToldOf(const std::string& bytes) {
-  return AllTold(CheckHtr("walk.htr", bytes).findings);
+  orvane::HtrDocument document;
+  const auto read = test::LendingHtr(bytes);
+  return AllTold(CheckHtr("walk.htr", bytes, read, document).findings);
 }
 
 TEST(HtrCheck, FindsNothingInASoundFile) {

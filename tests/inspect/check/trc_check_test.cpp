@@ -2,6 +2,7 @@
 
 #include "inspect/check/trc_rules.h"
 #include "tests/inspect/check/check_rows.h"
+#include "tests/inspect/check/lent_texts.h"
 #include "tests/support/replaced_text.h"
 #include "tests/support/saved_text.h"
 #include "tests/support/trc_text.h"
@@ -86,7 +87,9 @@ std::string WithoutTime(const std::string& end = "") {
 }
 
 std::vector<test::Told> ToldOf(const std::string& bytes) {
-  return test::AllTold(CheckTrc("walk.trc", bytes).findings);
+  orvane::TRCDocument document;
+  const auto read = test::LendingTrc(bytes);
+  return test::AllTold(CheckTrc("walk.trc", bytes, read, document).findings);
 }
 
 constexpr const char* kRefused = "The import refuses the file; the rest of it is not checked.";

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "inspect/check/trc_check.h"
-#include "tests/inspect/check/check_rows.h"
+#include "tests/inspect/check/lent_texts.h"
 #include "tests/support/replaced_text.h"
 #include "tests/support/trc_text.h"
 
@@ -26,7 +26,9 @@ std::string ThreeFrames() {
 }
 
 orvane::FindingList FindingsIn(const std::string& bytes) {
-  return orvane::CheckTrc("walk.trc", bytes).findings;
+  orvane::TRCDocument document;
+  const auto read = test::LendingTrc(bytes);
+  return orvane::CheckTrc("walk.trc", bytes, read, document).findings;
 }
 
 // "LINE:COLUMN CODE" of each.
