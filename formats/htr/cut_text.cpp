@@ -1,6 +1,8 @@
 #include "formats/htr/cut_text.h"
 
 #include <cstdint>
+#include <string>
+#include <string_view>
 #include <unordered_map>
 
 #include "formats/htr/document.h"
@@ -14,7 +16,8 @@ namespace {
 
 constexpr std::string_view kNumFrames = "NumFrames";
 
-// Copies the bytes while they are read, and leaves out or replaces what has to be another.
+// Copies the bytes while they are read, and leaves out or replaces what has to be another. Cells
+// are found in the bytes by their places.
 class Cutting : public HtrReadObserver {
  public:
   Cutting(std::string_view bytes, std::size_t begin, std::size_t end)
@@ -26,7 +29,7 @@ class Cutting : public HtrReadObserver {
                 std::string_view /*field*/) override {}
 
   void OnSection(HtrSection section, const HtrCell& name) override {
-    if (section == HtrSection::kMotion) frames_ = &frames_before_[name.text];
+    if (section == HtrSection::kMotion) frames_ = &frames_before_[std::string(name.text)];
   }
 
   void OnHeaderField(const HtrCell& keyword, const HtrCell& value) override {
@@ -37,7 +40,7 @@ class Cutting : public HtrReadObserver {
       CopyTo(PlaceOf(keyword) + keyword.text.size());
       cut_ += ' ' + count;
     } else {
-      Replace(value.text, count);
+      Replace(value, count);
     }
   }
 
@@ -49,7 +52,7 @@ class Cutting : public HtrReadObserver {
     if (has_frames_) return;
     has_frames_ = true;
     const std::int64_t first = *file_first_ + static_cast<std::int64_t>(begin_);
-    if (ParseInt(number.text) != first) Replace(number.text, FormatInt(first));
+    if (ParseInt(number.text) != first) Replace(number, FormatInt(first));
   }
 
   std::optional<std::string> Take() {
@@ -59,15 +62,16 @@ class Cutting : public HtrReadObserver {
   }
 
  private:
-  std::size_t PlaceOf(const HtrCell& cell) const { return PlaceOf(cell.text); }
-  std::size_t PlaceOf(std::string_view text) const {
-    return static_cast<std::size_t>(text.data() - bytes_.data());
+  // Cells are asked for in the order of their lines.
+  std::size_t PlaceOf(const HtrCell& cell) { return StartOfLine(cell) + cell.column - 1; }
+
+  std::size_t StartOfLine(const HtrCell& cell) {
+    for (; line_ < cell.line; ++line_) line_start_ = bytes_.find('\n', line_start_) + 1;
+    return line_start_;
   }
 
-  std::size_t StartOfLine(const HtrCell& cell) const { return PlaceOf(cell) + 1 - cell.column; }
-
   // Behind its line end.
-  std::size_t EndOfLine(const HtrCell& cell) const {
+  std::size_t EndOfLine(const HtrCell& cell) {
     const std::size_t line_feed = bytes_.find('\n', PlaceOf(cell));
     return line_feed == std::string_view::npos ? bytes_.size() : line_feed + 1;
   }
@@ -81,10 +85,10 @@ class Cutting : public HtrReadObserver {
     copied_ = place;
   }
 
-  void Replace(std::string_view text, const std::string& other) {
-    CopyTo(PlaceOf(text));
+  void Replace(const HtrCell& cell, const std::string& other) {
+    CopyTo(PlaceOf(cell));
     cut_ += other;
-    copied_ += text.size();
+    copied_ += cell.text.size();
   }
 
   void LeaveOut(const HtrCell& cell) {
@@ -99,7 +103,9 @@ class Cutting : public HtrReadObserver {
   std::string cut_;
   std::size_t copied_ = 0;
   bool is_in_pieces_ = false;
-  std::unordered_map<std::string_view, std::size_t> frames_before_;  // by segment
+  std::size_t line_ = 1;  // the last one asked for, counted from 1
+  std::size_t line_start_ = 0;
+  std::unordered_map<std::string, std::size_t> frames_before_;  // by segment
   std::size_t* frames_ = nullptr;
   std::optional<std::int32_t> file_first_;
   bool has_frames_ = false;
