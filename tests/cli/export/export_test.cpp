@@ -237,8 +237,9 @@ TEST_F(ExportTest, ABoneWhoseNameMeansSomethingInTheFileIsRefused) {
 
 // What no import makes: scenes with such names.
 TEST_F(ExportTest, NoNameGoesThroughThatTheFileReadsOtherwise) {
-  const std::vector<std::string> names = {"Arm\tx", "Other\tArm", "#Arm",   "Arm#2",    "[Arm",
-                                          "Arm]2",  "GLOBAL",     "Header", "EndOfFile"};
+  const std::vector<std::string> names = {
+      "Arm\tx", "Other\tArm", "#Arm",    "Arm#2",        "[Arm",           "Arm]2", "GLOBAL",
+      "Header", "EndOfFile",  "Arm\r\n", "1\t2\r\n3\t4", "Arm\n[Hips]\n1", "\r\n5", "BasePosition"};
   for (const std::string& name : names) {
     SCOPED_TRACE(name);
     host::Scene scene;
@@ -250,6 +251,19 @@ TEST_F(ExportTest, NoNameGoesThroughThatTheFileReadsOtherwise) {
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.error, StartsWith("orvane: out.htr: The file would not read back: "));
     EXPECT_THAT(Names(), ElementsAre("scene.glb"));
+  }
+}
+
+TEST_F(ExportTest, ANameMayLookLikeANumber) {
+  for (const std::string& name :
+       std::vector<std::string>{"5", "-1", "0.25", "1e9", "L\xC3\xA4ufer"}) {
+    host::Scene scene;
+    host::Node& hips = test::AddBone(scene, "Hips");
+    test::AddBone(scene, "7", &test::AddBone(scene, name, &hips));
+    Write("scene.glb", host::gltf::WriteScene(scene, {}).bytes);
+    const ProgramResult result = Export({"--range", "0:2", "--no-report", "--force"});
+    EXPECT_EQ(result.status, 0) << name << result.error;
+    EXPECT_THAT(result.output, HasSubstr("  Segments  3\n"));
   }
 }
 
