@@ -33,7 +33,7 @@ void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
   orvane::TRCDocument header;
   RateObserver observer(report);
   // What the header lacks has been told.
-  (void)header.ReadBytes(orvane::OutlineTrc(bytes).Header(), false, &observer);
+  (void)header.ReadBytes(orvane::TrcHeaderOf(bytes), false, &observer);
 }
 
 }  // namespace
