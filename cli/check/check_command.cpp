@@ -8,6 +8,7 @@
 #include "cli/common/check_results.h"
 #include "cli/common/choice.h"
 #include "cli/common/found_files.h"
+#include "cli/common/input_files.h"
 
 namespace cli {
 namespace {
@@ -15,6 +16,7 @@ namespace {
 struct CheckArguments {
   std::vector<std::string> inputs;
   std::string kind;                    // of all files; empty for what their names say
+  std::string stream_name;             // of standard input; empty: its own
   std::vector<std::string> selection;  // in scenes
   bool recursive = false;
   bool verbose = false;
@@ -24,7 +26,10 @@ struct CheckArguments {
 class Checking {
  public:
   explicit Checking(const CheckArguments& arguments)
-      : arguments_(arguments), found_(Find(arguments)), results_(MannerFor(arguments, found_)) {}
+      : arguments_(arguments),
+        found_(Find(arguments)),
+        files_(arguments.inputs, arguments.stream_name),
+        results_(MannerFor(arguments, found_)) {}
 
   ExitStatus Run() {
     if (!arguments_.manner.quiet) PrintNotes(found_);
@@ -50,7 +55,7 @@ class Checking {
   void CheckOne(const std::string& name) {
     try {
       if (IsForExport()) return results_.Add(CheckSceneForExport(name, arguments_.selection));
-      const orvane::CheckedFile checked = CheckFile(name, arguments_.kind);
+      const orvane::CheckedFile checked = CheckFile(name, arguments_.kind, files_);
       RequireAction(checked);
       results_.Add(checked);
     } catch (const Failure& failure) {
@@ -73,6 +78,7 @@ class Checking {
 
   const CheckArguments& arguments_;
   const FoundFiles found_;
+  InputFiles files_;
   CheckResults results_;
 };
 
@@ -97,12 +103,15 @@ ExitStatus Check(const CheckArguments& arguments) {
 void AddCheckCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<CheckArguments>();
   CLI::App* verb = app.add_subcommand("check", "Name everything that is odd in files");
-  verb->add_option("FILE", arguments->inputs,
-                   "HTR, TRC and MNM files, and folders of them; with --for export scene files")
+  verb->add_option(
+          "FILE", arguments->inputs,
+          "HTR, TRC and MNM files, and folders of them, or - for standard input; with --for "
+          "export scene files")
       ->required()
       ->type_name("");
   AddChoice(*verb, "--as", {"htr", "trc", "mnm"}, "What the files are (what their names say)",
             [arguments](const std::string& kind) { arguments->kind = kind; });
+  AddStreamName(*verb, arguments->stream_name);
   AddChoice(
       *verb, "--for", {"import", "apply", "convert", "export"},
       "Tell what the findings mean to that (what is odd in the file alone)",

@@ -6,11 +6,11 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "host/base/letter_case.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
 #include "inspect/check/trc_check.h"
-#include "platform/path_text.h"
 
 namespace cli {
 namespace {
@@ -22,28 +22,30 @@ using orvane::CheckMapping;
 using orvane::CheckTrc;
 
 // `check` by the bytes of `file`. Throws a Failure when it cannot be read, or nothing can be said.
-CheckedFile CheckBytes(const std::string& file,
+CheckedFile CheckBytes(const InputFile& file,
                        CheckedFile (*check)(const std::string& file, std::string_view bytes)) {
   try {
-    return check(file, FileBytes(file));
+    return check(file.name, FileBytes(file));
   } catch (const CheckFailure& failure) {
-    throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
+    throw Failure{ExitStatus::kInputOutput, {{file.name, failure.what(), failure.Advice()}}};
   }
 }
 
-CheckedFile CheckTrcFile(const std::string& name) {
-  return CheckBytes(ReadableFile(name, FileKind::kTrc), CheckTrc);
+CheckedFile CheckTrcFile(const std::string& name, InputFiles& files) {
+  return CheckBytes(files.Find(name, FileKind::kTrc), CheckTrc);
 }
 
-CheckedFile CheckHtrFile(const std::string& name) {
-  return CheckBytes(ReadableHtrFile(name), CheckHtr);
+CheckedFile CheckHtrFile(const std::string& name, InputFiles& files) {
+  return CheckBytes(files.Find(name, FileKind::kHtr), CheckHtr);
 }
 
-CheckedFile CheckMnmFile(const std::string& name) { return CheckBytes(name, CheckMapping); }
+CheckedFile CheckMnmFile(const std::string& name, InputFiles& files) {
+  return CheckBytes(files.FindMapping(name), CheckMapping);
+}
 
 struct FileCheck {
   std::string_view extension;
-  CheckedFile (*check)(const std::string& name);
+  CheckedFile (*check)(const std::string& name, InputFiles& files);
 };
 
 // The first is that of files with any other extension.
@@ -75,11 +77,13 @@ FileSearch SearchFor(CheckedKinds kinds, bool recursive) {
   return {ExtensionsOf(kinds), "check", "checked", recursive};
 }
 
-CheckedFile CheckFile(const std::string& name, const std::string& kind) {
-  const std::string extension =
-      kind.empty() ? platform::TextOf(platform::PathOf(name).extension()) : "." + kind;
+CheckedFile CheckFile(const std::string& name, const std::string& kind, InputFiles& files) {
+  const std::string extension = kind.empty() ? files.ExtensionOf(name) : "." + kind;
+  if (extension.empty() && StreamOf(name)) {
+    throw UnknownKind(files.NameOf(name), "--as htr, --as trc or --as mnm");
+  }
   const FileCheck* check = FindFileCheck(extension);
-  return (check == nullptr ? kFileChecks.front() : *check).check(name);
+  return (check == nullptr ? kFileChecks.front() : *check).check(name, files);
 }
 
 }  // namespace cli

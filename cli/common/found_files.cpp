@@ -10,6 +10,7 @@
 
 #include "cli/common/messages.h"
 #include "cli/common/page_text.h"
+#include "cli/common/streamed_file.h"
 #include "host/base/letter_case.h"
 #include "inspect/check/findings.h"
 #include "platform/file_place.h"
@@ -161,6 +162,7 @@ void AddRecursive(CLI::App& verb, bool& recursive) {
 }
 
 bool IsFolder(const std::string& input) {
+  if (StreamOf(input)) return false;
   std::error_code error;  // such as that a path is too long
   return fs::is_directory(platform::PathOf(input), error);
 }

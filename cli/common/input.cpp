@@ -32,18 +32,19 @@ std::optional<std::string> ReadStart(const std::string& file) {
 }
 
 // What is wrong with all of the text of `file`, where that can be seen.
-std::optional<Complaint> FindCause(const std::string& file, FileKind kind) {
-  const std::optional<std::string> bytes = ReadStart(file);
+std::optional<Complaint> FindCause(const InputFile& file, FileKind kind) {
+  const std::optional<std::string> bytes = ReadStart(file.path);
   if (!bytes) return std::nullopt;
   const bool is_htr = kind == FileKind::kHtr;
   const auto wanted = is_htr ? orvane::ContentKind::kHtr : orvane::ContentKind::kTrc;
   if (const auto other = orvane::FindOtherKind(*bytes, wanted)) {
-    return Complaint{file, orvane::DescribeOtherKind(*other, is_htr ? "an HTR file" : "a TRC file"),
+    return Complaint{file.name,
+                     orvane::DescribeOtherKind(*other, is_htr ? "an HTR file" : "a TRC file"),
                      orvane::WordsFor(*other).advice};
   }
   const auto flaw = is_htr ? orvane::FindHtrTextFlaw(*bytes) : orvane::FindTextFlaw(*bytes);
   if (!flaw) return std::nullopt;
-  return ComplainAboutFlaw(file, *flaw);
+  return ComplainAboutFlaw(file.name, *flaw);
 }
 
 }  // namespace
@@ -71,11 +72,9 @@ std::string ReadableFile(const std::string& name, FileKind kind) {
   const Complaint complaint = FindWhyUnreadable(name, file);
   if (complaint.text.empty()) return file;
   // The user means this one, and is told what it is.
-  if (complaint.subject != name && FindCause(name, kind)) return name;
+  if (complaint.subject != name && FindCause(FileAt(name), kind)) return name;
   throw Failure{ExitStatus::kInputOutput, {complaint}};
 }
-
-std::string ReadableHtrFile(const std::string& name) { return ReadableFile(name, FileKind::kHtr); }
 
 Complaint ComplainAbout(const std::string& file, const std::string& text) {
   return {file, text, AdviceFor(text)};
@@ -86,33 +85,35 @@ Complaint ComplainAboutFlaw(const std::string& file, orvane::TextFlaw flaw) {
   return {file, words.text, words.advice};
 }
 
-std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+std::vector<Complaint> ComplainAboutRefusal(const InputFile& file, FileKind kind,
                                             const std::string& text) {
   const std::optional<Complaint> cause = FindCause(file, kind);
-  if (!cause) return {ComplainAbout(file, text)};
+  if (!cause) return {ComplainAbout(file.name, text)};
   // That nothing is found in such a file is no news.
   if (text == kNoSegments || text == kNoMarkers) return {*cause};
-  return {*cause, ComplainAbout(file, text)};
+  return {*cause, ComplainAbout(file.name, text)};
 }
 
-Complaint FindFlaw(const std::string& file, FileKind kind) {
+Complaint FindFlaw(const InputFile& file, FileKind kind) {
   // The reason why a marker file is refused has been told, or been found before the import.
   if (kind == FileKind::kTrc) return {};
   orvane::HtrDocument document;
-  if (!orvane::ReadHtrFile(document, file, false).empty()) return {};
-  if (document.segments().empty()) return ComplainAbout(file, kNoSegments);
-  if (document.FindRootSegment() == nullptr) return ComplainAbout(file, kNoRoot);
+  if (!orvane::ReadHtrFile(document, file.path, false).empty()) return {};
+  if (document.segments().empty()) return ComplainAbout(file.name, kNoSegments);
+  if (document.FindRootSegment() == nullptr) return ComplainAbout(file.name, kNoRoot);
   return {};
 }
 
-std::string FileBytes(const std::string& file) {
-  std::string reason = platform::WhyUnreadable(file);
+std::string FileBytes(const InputFile& file) {
+  std::string reason = platform::WhyUnreadable(file.path);
   if (reason.empty()) {
-    std::optional<std::string> bytes = orvane::ReadFileBytes(file);
+    std::optional<std::string> bytes = orvane::ReadFileBytes(file.path);
     if (bytes) return *std::move(bytes);
     reason = "could not be read to its end";
   }
-  throw Failure{ExitStatus::kInputOutput, {{file, reason, ""}}};
+  throw Failure{ExitStatus::kInputOutput, {{file.name, reason, ""}}};
 }
+
+std::string FileBytes(const std::string& file) { return FileBytes(FileAt(file)); }
 
 }  // namespace cli

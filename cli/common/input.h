@@ -5,6 +5,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
+#include "cli/common/input_file.h"
 #include "inspect/check/text_flaw.h"
 
 // The file that a verb reads, and how it is refused.
@@ -20,9 +21,6 @@ namespace cli {
 // any name. Throws a Failure that says why when it cannot be read.
 [[nodiscard]] std::string ReadableFile(const std::string& name, FileKind kind);
 
-// The same for an HTR file.
-[[nodiscard]] std::string ReadableHtrFile(const std::string& name);
-
 // Why what the user means by `name`, which the reader takes for `file`, cannot be read: a folder,
 // or no such file, with advice. Returns a complaint without text when it can.
 [[nodiscard]] Complaint FindWhyUnreadable(const std::string& name, const std::string& file);
@@ -35,14 +33,15 @@ namespace cli {
 
 // `text`, for which `file` is refused, with advice, behind what is wrong with all of its text, when
 // that can be seen. For files of which nothing else is told.
-[[nodiscard]] std::vector<Complaint> ComplainAboutRefusal(const std::string& file, FileKind kind,
+[[nodiscard]] std::vector<Complaint> ComplainAboutRefusal(const InputFile& file, FileKind kind,
                                                           const std::string& text);
 
 // Looks in `file` for a reason why the plug-in made nothing of it, beside what it said itself.
 // Returns a complaint without text when there is none to see.
-[[nodiscard]] Complaint FindFlaw(const std::string& file, FileKind kind);
+[[nodiscard]] Complaint FindFlaw(const InputFile& file, FileKind kind);
 
 // All bytes of `file`. Throws a Failure that says why when it cannot be read to its end.
+[[nodiscard]] std::string FileBytes(const InputFile& file);
 [[nodiscard]] std::string FileBytes(const std::string& file);
 
 }  // namespace cli

@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "cli/common/failure.h"
+#include "cli/common/input_files.h"
 #include "formats/text/files.h"
 #include "host/gltf/reader.h"
 #include "inspect/check/content_kind.h"
@@ -63,6 +64,7 @@ void AddOnce(UnknownName name, std::vector<UnknownName>& names) {
 
 void ReadSceneFile(const std::string& path, host::Scene& scene) {
   assert(scene.NodeCount() == 0);
+  RequireNoStandardInput(path, "A scene");
   const std::string reason = platform::WhyUnreadable(path);
   if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
   const std::optional<std::string> bytes = orvane::ReadFileBytes(path);

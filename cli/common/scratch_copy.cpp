@@ -1,8 +1,8 @@
 #include "cli/common/scratch_copy.h"
 
 #include <optional>
+#include <utility>
 
-#include "cli/common/failure.h"
 #include "formats/text/files.h"
 #include "formats/trc/turned_text.h"
 #include "platform/interrupt.h"
@@ -17,24 +17,43 @@ const std::string& HoldingInterrupts(const std::string& place) {
   return place;
 }
 
+Complaint ComplainAboutCopy(const std::string& file) {
+  return {file, "The copy that the plug-in is to be given could not be written",
+          "Is the disk full, or is the name too long?"};
+}
+
+std::string NameOf(const InputFile& file) {
+  return platform::TextOf(platform::PathOf(file.path).filename());
+}
+
+PieceSource OnePiece(std::string_view bytes) {
+  return [bytes]() mutable { return std::exchange(bytes, {}); };
+}
+
+void WriteAll(const std::string& path, const PieceSource& next, const Complaint& complaint) {
+  std::ofstream stream = orvane::CreateFileForBytes(path);
+  for (std::string_view piece = next(); stream && !piece.empty(); piece = next()) stream << piece;
+  stream.close();
+  if (!stream) throw Failure{ExitStatus::kInputOutput, {complaint}};
+}
+
 }  // namespace
 
-ScratchCopy::ScratchCopy(const std::string& place, const std::string& file, std::string_view bytes)
+ScratchCopy::ScratchCopy(const std::string& place, const InputFile& file, std::string_view bytes)
+    : ScratchCopy(place, NameOf(file), OnePiece(bytes), ComplainAboutCopy(file.name)) {}
+
+ScratchCopy::ScratchCopy(const std::string& place, const std::string& name, const PieceSource& next,
+                         const Complaint& complaint)
     : folder_(HoldingInterrupts(place)) {
   if (!folder_.Error().empty()) {
     throw Failure{ExitStatus::kInputOutput, {{place, folder_.Error(), ""}}};
   }
-  path_ = platform::TextOf(platform::PathOf(folder_.Path()) / platform::PathOf(file).filename());
-  WriteCopy(path_, file, bytes);
+  path_ = platform::TextOf(platform::PathOf(folder_.Path()) / platform::PathOf(name));
+  WriteAll(path_, next, complaint);
 }
 
 void WriteCopy(const std::string& path, const std::string& file, std::string_view bytes) {
-  std::ofstream stream = orvane::CreateFileForBytes(path);
-  stream << bytes << std::flush;
-  if (stream) return;
-  throw Failure{ExitStatus::kInputOutput,
-                {{file, "The copy that the plug-in is to be given could not be written",
-                  "Is the disk full, or is the name too long?"}}};
+  WriteAll(path, OnePiece(bytes), ComplainAboutCopy(file));
 }
 
 std::string TurnedUp(const std::string& file, std::string_view bytes) {

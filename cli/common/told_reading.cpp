@@ -95,38 +95,38 @@ FileReport CheckAndTell(Document& document, const std::string& file, std::string
 }
 
 // Of a file of which nothing has been told.
-void RequireTaken(const std::string& file, FileKind kind, const std::string& why) {
+void RequireTaken(const InputFile& file, FileKind kind, const std::string& why) {
   if (!why.empty()) throw Failure{ExitStatus::kRefused, ComplainAboutRefusal(file, kind, why)};
 }
 
 }  // namespace
 
-FileReport ReadAndTell(HtrDocument& document, const std::string& file, Motion motion,
+FileReport ReadAndTell(HtrDocument& document, const InputFile& file, Motion motion,
                        const ReportManner& manner, std::vector<FileReport> reports,
                        const std::optional<FrameSpan>& cut) {
   const std::string bytes = FileBytes(file);
   FileReport report;
   if (motion == Motion::kRead && !manner.omitted) {
-    report = CheckAndTell(document, file, bytes, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file.name, bytes, manner, std::move(reports), cut);
   } else {
     const std::string error = orvane::ReadHtrBytes(document, bytes, motion == Motion::kRead);
     RequireTaken(file, FileKind::kHtr, error.empty() ? WhyEmpty(document) : error);
   }
-  if (cut) CutDown(document, file, bytes, *cut);
+  if (cut) CutDown(document, file.name, bytes, *cut);
   return report;
 }
 
-FileReport ReadAndTell(TRCDocument& document, const std::string& file, std::string_view bytes,
+FileReport ReadAndTell(TRCDocument& document, const InputFile& file, std::string_view bytes,
                        const ReportManner& manner, std::vector<FileReport> reports,
                        const std::optional<FrameSpan>& cut) {
   FileReport report;
   if (!manner.omitted) {
-    report = CheckAndTell(document, file, bytes, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file.name, bytes, manner, std::move(reports), cut);
   } else {
     const std::string error = document.ReadBytes(bytes, false);
     RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
   }
-  if (cut) CutDown(document, file, bytes, *cut);
+  if (cut) CutDown(document, file.name, bytes, *cut);
   return report;
 }
 

@@ -5,6 +5,7 @@
 #include <string_view>
 #include <vector>
 
+#include "cli/common/input_file.h"
 #include "cli/common/report_flags.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
@@ -21,13 +22,13 @@ namespace cli {
 // what is odd is not looked for, nor when `manner` says so. Of a file that is to be `cut`, what is
 // odd is told of the whole, and the document has these frames alone; one that has none is refused.
 enum class Motion { kRead, kLeftOut };
-orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const std::string& file,
-                               Motion motion, const ReportManner& manner,
+orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const InputFile& file, Motion motion,
+                               const ReportManner& manner,
                                std::vector<orvane::FileReport> reports = {},
                                const std::optional<orvane::FrameSpan>& cut = {});
 
 // The same of the marker file `file`, whose `bytes` these are, and which is to hold markers.
-orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const std::string& file,
+orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const InputFile& file,
                                std::string_view bytes, const ReportManner& manner,
                                std::vector<orvane::FileReport> reports = {},
                                const std::optional<orvane::FrameSpan>& cut = {});

@@ -20,6 +20,7 @@ namespace {
 struct CompareArguments {
   std::string a;
   std::string b;
+  std::string stream_name;  // of standard input; empty: its own
   bool recursive = false;
   bool limits_turns = false;  // the user has said how far segments may be turned
   bool json = false;
@@ -29,14 +30,15 @@ struct CompareArguments {
 
 ExitStatus CompareFiles(const std::string& file_a, const std::string& file_b,
                         const CompareArguments& arguments) {
-  if (arguments.limits_turns && KindOfBoth(file_a, file_b) == FileKind::kTrc) {
+  InputFiles files({file_a, file_b}, arguments.stream_name);
+  if (arguments.limits_turns && KindOfBoth(file_a, file_b, files) == FileKind::kTrc) {
     throw Failure{ExitStatus::kWrongUsage,
                   {{"--tolerance-deg", "markers are not turned", "--tolerance-mm is for them."}}};
   }
   std::vector<orvane::FileReport> untold;
   CompareManner manner = arguments.manner;
   if (arguments.quiet) manner.report.gathered = &untold;
-  return CompareAndUse(file_a, file_b, manner, [&arguments](const auto& report) {
+  return CompareAndUse(file_a, file_b, files, manner, [&arguments](const auto& report) {
     if (arguments.json) {
       JsonWriter json(std::cout);
       WriteComparison(json, report);
@@ -49,6 +51,10 @@ ExitStatus CompareFiles(const std::string& file_a, const std::string& file_b,
 
 // The file in `folder` that has the name of `file`. Throws a Failure when there is no such `file`.
 std::string SameIn(const std::string& folder, const std::string& file) {
+  if (StreamOf(file)) {
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{file, "is compared with a file, and " + folder + " is a folder", ""}}};
+  }
   const std::string found = ReadableFile(file, KindOf(file));
   return platform::TextOf(platform::PathOf(folder) / platform::PathOf(found).filename());
 }
@@ -92,7 +98,8 @@ void AddCompareCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<CompareArguments>();
   orvane::Tolerance& tolerance = arguments->manner.tolerance;
   CLI::App* verb = app.add_subcommand("compare", "Tell how far motion or marker files are apart");
-  verb->add_option("A", arguments->a, "An HTR or TRC file, or a folder of them")
+  verb->add_option("A", arguments->a,
+                   "An HTR or TRC file, or a folder of them, or - for standard input")
       ->required()
       ->type_name("");
   verb->add_option("B", arguments->b,
@@ -100,6 +107,7 @@ void AddCompareCommand(CLI::App& app, Work& work) {
                    "is taken, of two folders all that are in both")
       ->required()
       ->type_name("");
+  AddStreamName(*verb, arguments->stream_name);
   AddRecursive(*verb, arguments->recursive);
   AddTolerance(*verb, "--tolerance-mm", tolerance.mm,
                "How far apart joints or markers may be, in millimeters");

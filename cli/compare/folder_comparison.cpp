@@ -112,7 +112,8 @@ class ComparingFolders {
 
   void ComparePair(const std::string& name, JsonWriter& json) {
     try {
-      CompareAndUse(FileIn(wishes_.folder_a, name), FileIn(wishes_.folder_b, name), manner_,
+      InputFiles files({}, "");
+      CompareAndUse(FileIn(wishes_.folder_a, name), FileIn(wishes_.folder_b, name), files, manner_,
                     [&](const auto& report) {
                       AddPair(name, report.SaysTheSame(), CellsOf(report));
                       if (wishes_.json) WriteComparison(json, report);

@@ -40,7 +40,7 @@ bool IsChanged(const Conversion& conversion, const ConversionOrder& order) {
 
 std::string ChangedBytes(const Conversion& conversion, const ConversionOrder& order) {
   const std::string& file = conversion.input;
-  std::string bytes = FileBytes(file);
+  std::string bytes = FileBytes(conversion.File());
   if (order.cut) bytes = WithFrames(*order.cut, file, std::move(bytes));
   if (conversion.z_up) bytes = TurnedUp(file, bytes);
   const std::map<std::string, std::string> names = conversion.match.Unmappable();

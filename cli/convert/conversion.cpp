@@ -66,7 +66,7 @@ json Pack(const Conversion& conversion) {
           conversion.dropouts,     Pack(conversion.errors),
           Pack(conversion.report), conversion.told,
           conversion.is_empty,     conversion.z_up,
-          Pack(conversion.match)};
+          Pack(conversion.match),  conversion.is_streamed};
 }
 
 Conversion Unpack(const json& packed) {
@@ -84,7 +84,8 @@ Conversion Unpack(const json& packed) {
           packed.at(11),
           packed.at(12),
           packed.at(13),
-          UnpackMatch(packed.at(14))};
+          UnpackMatch(packed.at(14)),
+          packed.at(15)};
 }
 
 }  // namespace

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
+#include "cli/common/input_file.h"
 #include "inspect/mapping/name_matching.h"
 #include "inspect/report/report.h"
 
@@ -28,7 +29,7 @@ enum class ConversionStatus {
 
 struct Conversion {
   std::string input;   // as the user named it, with the extension that the reader adds
-  std::string source;  // the same, absolute
+  std::string source;  // where its bytes are: the same, absolute
   std::string output;  // the file to make
   ConversionStatus status = ConversionStatus::kPlanned;
   bool delivered = false;  // whether there is an output, which may be that of a broken file
@@ -45,6 +46,11 @@ struct Conversion {
   bool is_empty = false;          // no marker is left to write
   bool z_up = false;              // its heights lie along Z: it is turned before
   orvane::NameMatch match;        // the markers that are taken for others of the mapping
+  bool is_streamed = false;       // its user knows nothing of the source
+
+  [[nodiscard]] InputFile File() const { return {input, source}; }
+  // As logs name it.
+  [[nodiscard]] const std::string& LoggedName() const { return is_streamed ? input : source; }
 };
 
 // As the table and JSON give it: "converted".

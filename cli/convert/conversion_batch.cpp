@@ -184,9 +184,11 @@ class BatchConversion {
   std::string WithInput(std::string log, const Conversion& conversion,
                         const platform::ScratchFolder& scratch) const {
     const std::string copy = SourceOf(conversion, scratch);
-    for (std::size_t at = log.find(copy); at != std::string::npos && IsChanged(conversion, order_);
-         at = log.find(copy, at + conversion.source.size())) {
-      log.replace(at, copy.size(), conversion.source);
+    const std::string& name = conversion.LoggedName();
+    if (copy == name) return log;
+    for (std::size_t at = log.find(copy); at != std::string::npos;
+         at = log.find(copy, at + name.size())) {
+      log.replace(at, copy.size(), name);
     }
     return log;
   }
@@ -258,7 +260,7 @@ class BatchConversion {
   // The line that the log lacks when the plug-in took a file for done that did not come about.
   static std::string Correction(const Conversion& conversion) {
     if (conversion.delivered || conversion.status == ConversionStatus::kBroken) return "";
-    return "orvane: " + Printable(conversion.source) +
+    return "orvane: " + Printable(conversion.LoggedName()) +
            " was not converted: " + conversion.errors.back().text + "\n";
   }
 

@@ -78,6 +78,22 @@ void CheckOutput(Conversion& conversion, bool replace) {
          ComplainAboutOutput(conversion.output, file, reason));
 }
 
+Conversion PlanStreamed(const std::string& name, const OutputWishes& wishes, InputFiles& files) {
+  if (wishes.file.empty() && wishes.folder.empty()) {
+    throw Failure{ExitStatus::kWrongUsage,
+                  {{name, "standard input lies in no folder, which its output could go to",
+                    "-o OUT or --output-dir DIR says where."}}};
+  }
+  const InputFile file = files.Find(name, FileKind::kTrc);
+  Conversion conversion;
+  conversion.input = file.name;
+  conversion.source = PathForPanel(file.path);
+  conversion.output = OutputFor(file.path, wishes);
+  conversion.is_streamed = true;
+  CheckOutput(conversion, wishes.replace);
+  return conversion;
+}
+
 Conversion Plan(const std::string& name, const OutputWishes& wishes) {
   Conversion conversion;
   conversion.input = orvane::WithExtension(name, ".TRC");
@@ -93,7 +109,7 @@ std::unordered_set<std::string> PlacesRead(const std::vector<Conversion>& conver
                                            const std::string& mapping) {
   std::unordered_set<std::string> places;
   for (const Conversion& conversion : conversions) {
-    places.insert(platform::PlaceOf(conversion.input));
+    places.insert(platform::PlaceOf(conversion.source));
   }
   if (!mapping.empty()) places.insert(platform::PlaceOf(mapping));
   return places;
@@ -168,11 +184,14 @@ class BatchMaker {
 }  // namespace
 
 std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
-                                        const OutputWishes& wishes) {
+                                        const OutputWishes& wishes, InputFiles& files) {
   assert(wishes.file.empty() || inputs.size() == 1);
   std::vector<Conversion> conversions;
   conversions.reserve(inputs.size());
-  for (const std::string& input : inputs) conversions.push_back(Plan(input, wishes));
+  for (const std::string& input : inputs) {
+    conversions.push_back(StreamOf(input) ? PlanStreamed(input, wishes, files)
+                                          : Plan(input, wishes));
+  }
   RequireOutputsApart(conversions, wishes);
   return conversions;
 }

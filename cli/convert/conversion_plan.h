@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "cli/common/input_files.h"
 #include "cli/convert/conversion.h"
 
 // Which files `orvane convert` makes of which, and which of them the plug-in converts together.
@@ -18,13 +19,15 @@ struct OutputWishes {
   bool logged = false;  // whether a log is written into each folder of outputs
 };
 
-// The conversions that `inputs` ask for, in their order. Those that cannot be begun, because the
-// input is missing or the output exists, have their status and complaint already. Throws a Failure
-// for wrong usage: two inputs with one output; an output, or a log that replaces what is there,
-// that is an input or the mapping.
+// The conversions that `inputs` ask for, which are of `files`, in their order. Those that cannot be
+// begun, because the input is missing or the output exists, have their status and complaint
+// already. Throws a Failure for wrong usage: two inputs with one output; an output, or a log that
+// replaces what is there, that is an input or the mapping; standard input, which lies in no folder,
+// without a wish where its output is to lie. Throws one, too, when that cannot be read.
 // REQUIRES: no file is wished for, or there is one input.
 [[nodiscard]] std::vector<Conversion> PlanConversions(const std::vector<std::string>& inputs,
-                                                      const OutputWishes& wishes);
+                                                      const OutputWishes& wishes,
+                                                      InputFiles& files);
 
 // Whether `name` can be that of the file to make: it ends in ".bvk", in either case, or has no
 // extension and gets this one.

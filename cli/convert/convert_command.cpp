@@ -10,6 +10,7 @@
 #include <memory>
 
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/progress_line.h"
@@ -84,12 +85,15 @@ bool HasOlderOutput(const Conversion& conversion) {
 class Converting {
  public:
   explicit Converting(const ConvertArguments& arguments)
-      : arguments_(arguments), wishes_(arguments.output), order_(arguments.order) {}
+      : arguments_(arguments),
+        files_(arguments.inputs, arguments.stream_name),
+        wishes_(arguments.output),
+        order_(arguments.order) {}
 
   ExitStatus Run() {
     platform::CatchInterrupts();
     Prepare();
-    conversions_ = PlanConversions(arguments_.inputs, wishes_);
+    conversions_ = PlanConversions(arguments_.inputs, wishes_, files_);
     for (Conversion& conversion : conversions_) conversion.z_up = arguments_.z_up;
     RequireReportApart();
     CheckMapping();
@@ -109,6 +113,7 @@ class Converting {
 
  private:
   void Prepare() {
+    RequireNoStandardInput(order_.mapping, "A mapping");
     if (!arguments_.output.file.empty() && arguments_.inputs.size() > 1) {
       throw WrongUsage("--output", "is for one file; --output-dir takes any number");
     }
@@ -143,7 +148,7 @@ class Converting {
     std::vector<std::string> outputs;
     if (!order_.mapping.empty()) inputs.push_back(order_.mapping);
     for (const Conversion& conversion : conversions_) {
-      inputs.push_back(conversion.input);
+      inputs.push_back(conversion.source);
       outputs.push_back(conversion.output);
       if (wishes_.logged) outputs.push_back(LogIn(FolderOf(conversion.output)));
     }
@@ -340,6 +345,7 @@ class Converting {
   }
 
   const ConvertArguments& arguments_;
+  InputFiles files_;
   OutputWishes wishes_;
   ConversionOrder order_;
   std::vector<Conversion> conversions_;

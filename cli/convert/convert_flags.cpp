@@ -4,6 +4,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/cut_frames.h"
+#include "cli/common/input_files.h"
 #include "cli/common/plugin_session.h"
 #include "cli/common/taken_names.h"
 
@@ -11,7 +12,10 @@ namespace cli {
 namespace {
 
 void AddFileArguments(CLI::App& verb, ConvertArguments& arguments) {
-  verb.add_option("FILE", arguments.inputs, "The TRC files")->required()->type_name("");
+  verb.add_option("FILE", arguments.inputs, "The TRC files, or - for standard input")
+      ->required()
+      ->type_name("");
+  AddStreamName(verb, arguments.stream_name);
   CLI::Option* output =
       verb.add_option("-o,--output", arguments.output.file,
                       "The BVK file to write, for one FILE; its name ends in .bvk, which is "

@@ -21,6 +21,7 @@ inline constexpr char kAllowEmpty[] = "empty";
 
 struct ConvertArguments {
   std::vector<std::string> inputs;
+  std::string stream_name;  // of standard input; empty: its own
   OutputWishes output;
   ConversionOrder order;
   std::string offset;

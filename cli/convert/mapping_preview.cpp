@@ -38,7 +38,7 @@ class Previewer {
     ConversionPreview preview{&conversion, {}};
     if (conversion.status == ConversionStatus::kPlanned) Judge(conversion);
     if (!IsReadable(conversion)) return preview;
-    const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.input);
+    const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.source);
     orvane::TRCDocument document;
     const std::string message = document.ReadBytes(outline ? outline->Header() : "", false);
     if (!message.empty()) {

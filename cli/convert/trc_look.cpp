@@ -42,8 +42,8 @@ std::unique_ptr<TrcLook> LookAtLines(const std::string& path) {
 
 std::unique_ptr<TrcLook> LookAtInput(const Conversion& conversion, const ConversionOrder& order) {
   const bool is_checked = !order.report.omitted;
-  if (!is_checked && !order.cut) return LookAtLines(conversion.input);
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.input);
+  if (!is_checked && !order.cut) return LookAtLines(conversion.source);
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.source);
   if (!bytes) return nullptr;
   auto look = std::make_unique<TrcLook>();
   look->has_samples = true;

@@ -51,11 +51,11 @@ Complaint FindExcess(const std::string& file, const FrameCounts& counts, std::in
 }
 
 // Why the file is too short for what would be written of it, and what to do about it.
-Complaint FindShortness(const std::string& file, const FrameCounts& counts, std::int64_t kept) {
+Complaint FindShortness(const InputFile& file, const FrameCounts& counts, std::int64_t kept) {
   std::error_code error;
-  const std::uintmax_t bytes = std::filesystem::file_size(platform::PathOf(file), error);
+  const std::uintmax_t bytes = std::filesystem::file_size(platform::PathOf(file.path), error);
   if (error) return {};
-  return {file, WhyTooShort(static_cast<std::int64_t>(bytes), counts.announced, kept),
+  return {file.name, WhyTooShort(static_cast<std::int64_t>(bytes), counts.announced, kept),
           "Do its lines hold all columns?"};
 }
 
@@ -65,7 +65,7 @@ void JudgeFrames(Conversion& conversion, const orvane::TRCDocument& document,
   const std::int64_t kept = CountKept(document, conversion.match, naming);
   Complaint refusal = FindExcess(conversion.input, counts, document.MarkerCount(), kept);
   if (!refusal.text.empty()) conversion.told = {"trc-frames-too-many", "trc-frame-count"};
-  if (refusal.text.empty()) refusal = FindShortness(conversion.input, counts, kept);
+  if (refusal.text.empty()) refusal = FindShortness(conversion.File(), counts, kept);
   if (!refusal.text.empty()) {
     conversion.status = ConversionStatus::kRefused;
     conversion.errors.push_back(refusal);
@@ -221,7 +221,7 @@ void MatchNames(Conversion& conversion, const orvane::TRCDocument& document,
 
 void RequireInput(Conversion& conversion) {
   if (conversion.status != ConversionStatus::kPlanned) return;
-  const std::string reason = platform::WhyUnreadable(conversion.input);
+  const std::string reason = platform::WhyUnreadable(conversion.source);
   if (reason.empty()) return;
   conversion.status = ConversionStatus::kUnreadable;
   conversion.errors.push_back({conversion.input, reason, ""});

@@ -31,7 +31,7 @@ constexpr VerbGuide kGuides[] = {
      "Shows the header, the frames and the segments or markers of an HTR or TRC file, and "
      "roughly who moves there. With --json it shows it to programs.",
      {{{"orvane info walk.htr", "segments, frames, lengths, and the space that they take"},
-       {"orvane info walk.trc --json", "markers and their gaps, as JSON"}}}},
+       {"orvane info - --json < walk.trc", "markers and their gaps, of standard input, as JSON"}}}},
     {"convert",
      "Converts TRC marker files to BVK files, one or many. A mapping says which markers are "
      "kept, and under which names; without one all of them are. Each output lies beside its "

@@ -10,7 +10,7 @@
 namespace cli {
 
 struct Example {
-  std::string_view command;  // words without blanks, as a shell takes them
+  std::string_view command;  // words without blanks, as a shell takes them; "<" is one of them
   std::string_view effect;   // a phrase
 };
 

@@ -14,6 +14,7 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/known_messages.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
@@ -40,6 +41,7 @@ namespace {
 struct ImportArguments {
   std::string input;
   std::optional<FileKind> kind;  // nothing: by its name
+  std::string stream_name;       // of standard input; empty: its own
   std::string output;
   std::string into;  // the scene file to start from; empty for a new scene
   std::string module = DefaultModulePath();
@@ -117,11 +119,11 @@ Failure NotCarriedOut(const ReportManner& manner, const orvane::FileReport& repo
   return {ExitStatus::kRefused, std::move(complaints)};
 }
 
-Failure NotCarriedOut(const std::string& file, FileKind kind, std::vector<Complaint> complaints) {
+Failure NotCarriedOut(const InputFile& file, FileKind kind, std::vector<Complaint> complaints) {
   const Complaint flaw = FindFlaw(file, kind);
   if (!flaw.text.empty()) complaints.push_back(flaw);
   if (complaints.empty()) {
-    complaints.push_back(ComplainAbout(file, "The plug-in gave up without a message"));
+    complaints.push_back(ComplainAbout(file.name, "The plug-in gave up without a message"));
   }
   return {ExitStatus::kRefused, complaints};
 }
@@ -152,7 +154,7 @@ void TellAllowed(const ReportManner& manner, std::vector<Complaint>& complaints)
 // One file on its way into a scene.
 class Importing {
  public:
-  Importing(std::string input, FileKind kind, const ImportArguments& arguments)
+  Importing(InputFile input, FileKind kind, const ImportArguments& arguments)
       : input_(std::move(input)),
         kind_(kind),
         arguments_(arguments),
@@ -192,7 +194,7 @@ class Importing {
     file.warnings = complaints_;
     TellAllowed(arguments_.report, complaints_);
     Warn(std::move(complaints_), arguments_.report.strict);
-    if (file.is_delivered) file.output_bytes = output_.Deliver(scene, input_);
+    if (file.is_delivered) file.output_bytes = output_.Deliver(scene, input_.name);
     Show(file);
     return ExitStatus::kDone;
   }
@@ -221,7 +223,7 @@ class Importing {
   }
 
   ImportedFile Describe(ToldImport told) const {
-    ImportedFile file{input_, arguments_.output, !arguments_.dry_run};
+    ImportedFile file{input_.name, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
     file.is_plain = arguments_.plain;
     if (told.samples) file.samples = CountSamples(*told.samples, told.keyed);
@@ -236,18 +238,20 @@ class Importing {
   bool LetPluginImport(const ImportChoices& choices, const std::string& bytes) {
     std::optional<ScratchCopy> copy;
     if (!bytes.empty()) copy.emplace(output_.Folder(), input_, bytes);
-    const Interval range = session_.scene().Animation().Range();
+    const host::AnimationState& animation = session_.scene().Animation();
+    const Interval range = animation.Range();
     const bool show_progress = !arguments_.quiet && platform::ErrorIsTerminal();
-    // Without a word from the user, the host goes by the name.
-    const std::string extension = arguments_.kind ? ExtensionOf(*arguments_.kind) : "";
+    // Without a word from the user, the host goes by the name of a file.
+    const bool is_told = arguments_.kind || StreamOf(arguments_.input);
+    const std::string extension = is_told ? ExtensionOf(kind_) : "";
     const bool carried_out =
-        session_.Import(copy ? copy->Path() : input_, extension, wishes_, show_progress);
+        session_.Import(copy ? copy->Path() : input_.path, extension, wishes_, show_progress);
     StopIfInterrupted();
     const HiddenNumbers hidden(wishes_, kind_, session_.settings());
     for (const std::string& text : session_.Messages()) {
-      complaints_.push_back({input_, text, AdviceFor(text, choices, hidden)});
+      complaints_.push_back({input_.name, text, AdviceFor(text, choices, hidden)});
     }
-    if (carried_out) AddReversedRange(input_, range, session_.scene().Animation(), complaints_);
+    if (carried_out) AddReversedRange(input_.name, range, animation, complaints_);
     return carried_out;
   }
 
@@ -256,7 +260,7 @@ class Importing {
     if (!arguments_.quiet) PrintImportSummary(file, session_.scene(), std::cout);
   }
 
-  const std::string input_;
+  const InputFile input_;
   const FileKind kind_;
   const ImportArguments& arguments_;
   SceneOutput output_;
@@ -287,33 +291,26 @@ void RequireForMarkers(const ImportArguments& arguments, FileKind kind) {
   }
 }
 
-std::vector<std::string> InputsOf(const ImportArguments& arguments, const std::string& input) {
-  std::vector<std::string> inputs = {input};
-  if (!arguments.into.empty()) inputs.push_back(arguments.into);
-  return inputs;
-}
-
 ExitStatus Import(const ImportArguments& arguments) {
   platform::CatchInterrupts();
   RequireNothingStored(arguments);
-  const FileKind kind = arguments.kind.value_or(KindOf(arguments.input));
+  InputFiles files({arguments.input}, arguments.stream_name);
+  const FileKind kind = files.KindOf(arguments.input, arguments.kind);
   RequireForMarkers(arguments, kind);
-  const std::string input = ReadableFile(arguments.input, kind);
-  RequireNoInput(arguments.output, {input});
-  RequireReportApart(arguments.report, InputsOf(arguments, input), {arguments.output});
+  const InputFile input = files.Find(arguments.input, kind);
+  RequireNoInput(arguments.output, {input.path});
+  std::vector<std::string> inputs = {input.path};
+  if (!arguments.into.empty()) inputs.push_back(arguments.into);
+  RequireReportApart(arguments.report, inputs, {arguments.output});
   return Importing(input, kind, arguments).Run();
 }
 
-std::vector<std::string> LengthUnitNames() {
-  std::vector<std::string> names;
-  names.reserve(std::size(kLengthUnits));
-  for (const LengthUnit& unit : kLengthUnits) names.emplace_back(unit.name);
-  return names;
-}
-
 void AddFileArguments(CLI::App& verb, ImportArguments& arguments) {
-  verb.add_option("FILE", arguments.input, "The HTR or TRC file")->required()->type_name("");
+  verb.add_option("FILE", arguments.input, "The HTR or TRC file, or - for standard input")
+      ->required()
+      ->type_name("");
   AddKindChoice(verb, arguments.kind);
+  AddStreamName(verb, arguments.stream_name);
   verb.add_option("-o,--output", arguments.output,
                   "The scene to write: binary to a name in .glb, text to one in .gltf")
       ->required()

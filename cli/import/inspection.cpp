@@ -130,18 +130,18 @@ using Codes = std::vector<std::string_view>;
 
 class Inspecting {
  public:
-  Inspecting(const std::string& file, const ImportChoices& choices, const host::Scene& scene)
+  Inspecting(const InputFile& file, const ImportChoices& choices, const host::Scene& scene)
       : file_(file), choices_(choices), scene_(scene) {}
 
   template <typename Document>
   Inspection Run(bool is_checked, const std::string& advice) {
     const std::string bytes = FileBytes(file_);
     Document document;
-    Read read = ReadInto(document, file_, bytes, is_checked);
+    Read read = ReadInto(document, file_.name, bytes, is_checked);
     result_.checked = std::move(read.checked);
     if (!read.is_refused) Change(bytes, document);
     if (!read.is_refused && !result_.refusal) {
-      result_.recording = RecordingOf(document, bytes, file_);
+      result_.recording = RecordingOf(document, bytes, file_.name);
       result_.recording->turned_up = choices_.turned_up;
       Judge(document, bytes.size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
@@ -158,8 +158,8 @@ class Inspecting {
   void Change(std::string_view bytes, Document& document) {
     if (choices_.cut && !IsBare(document)) Cut(bytes, document);
     if (result_.refusal || !choices_.turned_up) return;
-    result_.changed = TurnedUp(file_, result_.changed.empty() ? bytes : result_.changed);
-    (void)ReadInto(document, file_, result_.changed, false);
+    result_.changed = TurnedUp(file_.name, result_.changed.empty() ? bytes : result_.changed);
+    (void)ReadInto(document, file_.name, result_.changed, false);
   }
 
   template <typename Document>
@@ -168,10 +168,10 @@ class Inspecting {
     CheckCut(*choices_.cut, held, result_.checked);
     const orvane::FrameSpan frames = Overlap(*choices_.cut, held);
     if (frames.IsEmpty()) {
-      return Refuse(ComplainAboutCut(file_, *choices_.cut, held), {"cut-range-outside"});
+      return Refuse(ComplainAboutCut(file_.name, *choices_.cut, held), {"cut-range-outside"});
     }
-    result_.changed = CutOut(file_, bytes, document, frames);
-    (void)ReadInto(document, file_, result_.changed, false);
+    result_.changed = CutOut(file_.name, bytes, document, frames);
+    (void)ReadInto(document, file_.name, result_.changed, false);
   }
 
   static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {
@@ -197,28 +197,29 @@ class Inspecting {
     if (choices_.apply || result_.refusal) return;
     const std::string why =
         orvane::WhyListedTooOften(document.GetNumSegments(), frames.receivers.count);
-    if (!why.empty()) Refuse({file_, why, kListedAgain}, {});
+    if (!why.empty()) Refuse({file_.name, why, kListedAgain}, {});
   }
 
   void Judge(const orvane::TRCDocument& document, std::size_t bytes, const std::string& advice) {
     if (IsBare(document)) {
-      return Refuse(ComplainAbout(file_, kNoMarkers), {"trc-markers-missing"});
+      return Refuse(ComplainAbout(file_.name, kNoMarkers), {"trc-markers-missing"});
     }
     const ImportedFrames frames = FramesOf(document, choices_, scene_);
     JudgeAll(frames, {"trc-frames-too-many", "trc-frame-count"}, advice);
     const std::string why = orvane::WhyTooShort(static_cast<std::int64_t>(bytes),
                                                 frames.keyed.Count(), frames.receivers.count);
     if (result_.refusal || why.empty()) return;
-    Refuse({file_, why, "Do its lines hold all columns? --range FROM:TO imports a part of them."},
-           {});
+    Refuse(
+        {file_.name, why, "Do its lines hold all columns? --range FROM:TO imports a part of them."},
+        {});
   }
 
   void JudgeAll(const ImportedFrames& frames, const Codes& codes, const std::string& advice) {
     result_.frames = frames;
-    const FramesVerdict verdict = JudgeFrames(file_, frames, choices_, scene_.Animation());
+    const FramesVerdict verdict = JudgeFrames(file_.name, frames, choices_, scene_.Animation());
     result_.asked = verdict.asked;
     if (verdict.lost) result_.complaints.push_back(*verdict.lost);
-    if (!verdict.excess.empty()) Refuse({file_, verdict.excess, advice}, codes);
+    if (!verdict.excess.empty()) Refuse({file_.name, verdict.excess, advice}, codes);
   }
 
   void Refuse(Complaint refusal, const Codes& codes) {
@@ -226,7 +227,7 @@ class Inspecting {
     result_.refused_codes = codes;
   }
 
-  const std::string& file_;
+  const InputFile& file_;
   const ImportChoices& choices_;
   const host::Scene& scene_;
   Inspection result_;
@@ -234,14 +235,14 @@ class Inspecting {
 
 }  // namespace
 
-Inspection Inspect(const std::string& file, FileKind kind, const ImportChoices& choices,
+Inspection Inspect(const InputFile& file, FileKind kind, const ImportChoices& choices,
                    const host::Scene& scene, const std::string& advice, bool is_checked) {
   Inspecting inspecting(file, choices, scene);
   try {
     return kind == FileKind::kTrc ? inspecting.Run<orvane::TRCDocument>(is_checked, advice)
                                   : inspecting.Run<orvane::HtrDocument>(is_checked, advice);
   } catch (const orvane::CheckFailure& failure) {
-    throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
+    throw Failure{ExitStatus::kInputOutput, {{file.name, failure.what(), failure.Advice()}}};
   }
 }
 

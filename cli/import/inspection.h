@@ -6,6 +6,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
+#include "cli/common/input_file.h"
 #include "cli/import/import_flags.h"
 #include "cli/import/imported_frames.h"
 #include "cli/import/marker_gaps.h"
@@ -43,8 +44,8 @@ struct Inspection {
 // Reads `file` before it is imported by `choices` into `scene`, and finds what is odd in it if
 // `is_checked`. `advice` stands in a refusal of too much work. Throws a Failure when the file
 // cannot be read.
-[[nodiscard]] Inspection Inspect(const std::string& file, FileKind kind,
-                                 const ImportChoices& choices, const host::Scene& scene,
-                                 const std::string& advice, bool is_checked = true);
+[[nodiscard]] Inspection Inspect(const InputFile& file, FileKind kind, const ImportChoices& choices,
+                                 const host::Scene& scene, const std::string& advice,
+                                 bool is_checked = true);
 
 }  // namespace cli

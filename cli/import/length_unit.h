@@ -1,7 +1,9 @@
 #pragma once
 
 #include <array>
+#include <string>
 #include <string_view>
+#include <vector>
 
 // The units of length that flags take.
 
@@ -21,6 +23,13 @@ constexpr const LengthUnit* FindLengthUnit(std::string_view name) {
     if (name == unit.name) return &unit;
   }
   return nullptr;
+}
+
+inline std::vector<std::string> LengthUnitNames() {
+  std::vector<std::string> names;
+  names.reserve(kLengthUnits.size());
+  for (const LengthUnit& unit : kLengthUnits) names.emplace_back(unit.name);
+  return names;
 }
 
 }  // namespace cli

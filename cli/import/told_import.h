@@ -6,6 +6,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
+#include "cli/common/input_file.h"
 #include "cli/common/report_flags.h"
 #include "cli/import/application.h"
 #include "cli/import/import_flags.h"
@@ -42,7 +43,7 @@ struct ImportManner {
 
 // What is imported, and how.
 struct ImportOrder {
-  const std::string& file;
+  const InputFile& file;
   FileKind kind = FileKind::kHtr;
   const ImportChoices& choices;
   const std::vector<orvane::UnknownName>& unknown_names;  // that were to be selected

@@ -9,6 +9,7 @@
 #include "cli/common/file_kind.h"
 #include "cli/common/found_files.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
 #include "cli/common/told_reading.h"
@@ -25,19 +26,18 @@ using orvane::SummarizeMotion;
 struct InfoArguments {
   std::vector<std::string> inputs;
   std::optional<FileKind> kind;  // nothing: by their names
+  std::string stream_name;       // of standard input; empty: its own
   bool recursive = false;
   bool hierarchy_only = false;
   bool json = false;
   bool frames = false;
   std::optional<orvane::FrameSpan> cut;  // the only frames to show; nothing: all
   ReportManner report;
-
-  FileKind KindOf(const std::string& name) const { return kind.value_or(cli::KindOf(name)); }
 };
 
-void ReadInfo(const std::string& file, const InfoArguments& arguments, const ReportManner& manner,
+void ReadInfo(const InputFile& file, const InfoArguments& arguments, const ReportManner& manner,
               InfoReport& report) {
-  report.file = file;
+  report.file = file.name;
   const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
   report.findings = ReadAndTell(report.document, file, motion, manner, {}, arguments.cut);
   report.hierarchy = ListHierarchy(report.document);
@@ -48,14 +48,14 @@ void ReadInfo(const std::string& file, const InfoArguments& arguments, const Rep
 
 // Reads the file that the user means by `name` and has `use` take the report on it, of either kind.
 template <typename Use>
-void ReadAndUse(const std::string& name, const InfoArguments& arguments, const ReportManner& manner,
-                const Use& use) {
-  const FileKind kind = arguments.KindOf(name);
+void ReadAndUse(const std::string& name, InputFiles& files, const InfoArguments& arguments,
+                const ReportManner& manner, const Use& use) {
+  const FileKind kind = files.KindOf(name, arguments.kind);
   if (kind == FileKind::kTrc && arguments.hierarchy_only) {
     throw Failure{ExitStatus::kWrongUsage, {{"--hierarchy", "markers have no hierarchy", ""}}};
   }
-  const std::string file = ReadableFile(name, kind);
-  RequireReportApart(manner, {file}, {});
+  const InputFile file = files.Find(name, kind);
+  RequireReportApart(manner, {file.path}, {});
   if (kind == FileKind::kTrc) {
     TrcInfoReport report;
     ReadTrcInfo(file, manner, arguments.cut, report);
@@ -67,7 +67,8 @@ void ReadAndUse(const std::string& name, const InfoArguments& arguments, const R
 }
 
 ExitStatus ShowOne(const InfoArguments& arguments) {
-  ReadAndUse(arguments.inputs.front(), arguments, arguments.report, [&](const auto& report) {
+  InputFiles files(arguments.inputs, arguments.stream_name);
+  ReadAndUse(arguments.inputs.front(), files, arguments, arguments.report, [&](const auto& report) {
     WriteReportFile({report.findings}, arguments.report);
     if (!arguments.json) return PrintInfoPage(report, std::cout);
     JsonWriter json(std::cout);
@@ -79,7 +80,10 @@ ExitStatus ShowOne(const InfoArguments& arguments) {
 class ShowingMany {
  public:
   explicit ShowingMany(const InfoArguments& arguments)
-      : arguments_(arguments), manner_(arguments.report), json_(std::cout) {
+      : arguments_(arguments),
+        files_(arguments.inputs, arguments.stream_name),
+        manner_(arguments.report),
+        json_(std::cout) {
     manner_.file.clear();
     manner_.gathered = &reports_;
   }
@@ -108,20 +112,25 @@ class ShowingMany {
   std::vector<std::string> FilesMeantBy(const std::vector<std::string>& names) const {
     std::vector<std::string> files = names;
     for (const std::string& name : names) {
-      files.push_back(FileMeantBy(name, arguments_.KindOf(name)));
+      if (!StreamOf(name)) files.push_back(FileMeantBy(name, KindByName(name)));
     }
     return files;
   }
 
+  FileKind KindByName(const std::string& name) const {
+    return arguments_.kind.value_or(KindOf(name));
+  }
+
   void Show(const std::string& name) {
     try {
-      ReadAndUse(name, arguments_, manner_, [this](const auto& report) {
+      ReadAndUse(name, files_, arguments_, manner_, [this](const auto& report) {
         if (!arguments_.json) return table_.Add(report);
         WriteInfo(json_, report, arguments_.frames);
       });
     } catch (const Failure& failure) {
       failures_.push_back(failure);
-      if (!arguments_.json) table_.Add(name, arguments_.KindOf(name), failure.status);
+      const std::string told = files_.NameOf(name);
+      if (!arguments_.json) table_.Add(told, KindByName(told), failure.status);
     }
   }
 
@@ -138,6 +147,7 @@ class ShowingMany {
   }
 
   const InfoArguments& arguments_;
+  InputFiles files_;
   ReportManner manner_;  // of one file among them
   JsonWriter json_;
   InfoTable table_;
@@ -155,10 +165,12 @@ ExitStatus ShowInfo(const InfoArguments& arguments) {
 void AddInfoCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<InfoArguments>();
   CLI::App* verb = app.add_subcommand("info", "Tell what motion and marker files hold");
-  verb->add_option("FILE", arguments->inputs, "HTR and TRC files, and folders of them")
+  verb->add_option("FILE", arguments->inputs,
+                   "HTR and TRC files, and folders of them, or - for standard input")
       ->required()
       ->type_name("");
   AddKindChoice(*verb, arguments->kind);
+  AddStreamName(*verb, arguments->stream_name);
   AddRecursive(*verb, arguments->recursive);
   CLI::Option* hierarchy = verb->add_flag("--hierarchy", arguments->hierarchy_only,
                                           "HTR: read the header and the hierarchy, not the motion");

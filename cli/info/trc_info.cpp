@@ -38,9 +38,9 @@ void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
 
 }  // namespace
 
-void ReadTrcInfo(const std::string& file, const ReportManner& manner,
+void ReadTrcInfo(const InputFile& file, const ReportManner& manner,
                  const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report) {
-  report.file = file;
+  report.file = file.name;
   const std::string bytes = FileBytes(file);
   report.findings = ReadAndTell(report.document, file, bytes, manner, {}, cut);
   ReadRateTexts(bytes, report);

@@ -4,6 +4,7 @@
 #include <ostream>
 #include <string>
 
+#include "cli/common/input_file.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/report_flags.h"
 #include "formats/trc/document.h"
@@ -31,7 +32,7 @@ struct TrcInfoReport {
 
 // Reads `file`, or the frames of it that are to be `cut` out, into `report`. Throws a Failure when
 // it is refused, holds no markers or none of these frames.
-void ReadTrcInfo(const std::string& file, const ReportManner& manner,
+void ReadTrcInfo(const InputFile& file, const ReportManner& manner,
                  const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report);
 
 void PrintInfoPage(const TrcInfoReport& report, std::ostream& out);

@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 #include <memory>
 
+#include "cli/common/input_files.h"
 #include "cli/map/map_create.h"
 #include "cli/map/map_lint.h"
 #include "cli/map/map_show.h"
@@ -14,7 +15,10 @@ namespace {
 void AddCreate(CLI::App& map, Work& work) {
   auto arguments = std::make_shared<MapCreateArguments>();
   CLI::App* verb = map.add_subcommand("create", "Make a mapping file by the plug-in's creator");
-  verb->add_option("FILE", arguments->marker_file, "The TRC file")->required()->type_name("");
+  verb->add_option("FILE", arguments->marker_file, "The TRC file, or - for standard input")
+      ->required()
+      ->type_name("");
+  AddStreamName(*verb, arguments->stream_name);
   verb->add_option("-o,--output", arguments->output, "The mapping file to write")
       ->required()
       ->type_name("MAPPING");

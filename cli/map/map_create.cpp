@@ -7,6 +7,7 @@
 #include "cli/common/failure.h"
 #include "cli/common/file_kind.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/json_members.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
@@ -38,12 +39,12 @@ Failure Refused(const std::string& file, const PluginSession& session) {
 }
 
 // The cloud that the creator picks from.
-void ImportCloud(PluginSession& session, const std::string& input) {
-  if (!session.Import(input, ExtensionOf(FileKind::kTrc), {}, false)) {
-    throw Refused(input, session);
+void ImportCloud(PluginSession& session, const InputFile& input) {
+  if (!session.Import(input.path, ExtensionOf(FileKind::kTrc), {}, false)) {
+    throw Refused(input.name, session);
   }
   StopIfInterrupted();
-  if (!session.Messages().empty()) throw Refused(input, session);
+  if (!session.Messages().empty()) throw Refused(input.name, session);
 }
 
 std::vector<std::string> NamesIn(host::Scene& scene) {
@@ -64,7 +65,7 @@ void RequirePicks(const std::string& made, const std::string& bytes, const Picks
 
 // Tells what is odd in `input`, and returns it. Throws a Failure when its import into `scene` would
 // make nothing of it, or far too much, and when a strict user does not take it.
-orvane::FileReport TellOfMarkers(const std::string& input, const host::Scene& scene,
+orvane::FileReport TellOfMarkers(const InputFile& input, const host::Scene& scene,
                                  const MapCreateArguments& arguments) {
   ReportManner manner = arguments.report;
   manner.only_warnings = arguments.quiet;
@@ -112,9 +113,10 @@ void Show(const MapCreateArguments& arguments, const std::string& input, std::si
 
 ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   platform::CatchInterrupts();
-  const std::string input = ReadableFile(arguments.marker_file, FileKind::kTrc);
-  RequireNoInput(arguments.output, {input, arguments.picks});
-  RequireReportApart(arguments.report, {input, arguments.picks}, {arguments.output});
+  InputFiles files({arguments.marker_file}, arguments.stream_name);
+  const InputFile input = files.Find(arguments.marker_file, FileKind::kTrc);
+  RequireNoInput(arguments.output, {input.path, arguments.picks});
+  RequireReportApart(arguments.report, {input.path, arguments.picks}, {arguments.output});
   MappingOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, SettingsSource::kFresh);
   const orvane::FileReport report = TellOfMarkers(input, session.scene(), arguments);
@@ -135,7 +137,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
     return written;
   });
   output.Deliver(bytes);
-  Show(arguments, input, picks.Count(), report);
+  Show(arguments, input.name, picks.Count(), report);
   return ExitStatus::kDone;
 }
 

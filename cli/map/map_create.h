@@ -13,6 +13,7 @@ namespace cli {
 
 struct MapCreateArguments {
   std::string marker_file;
+  std::string stream_name;  // of standard input; empty: its own
   std::string output;
   std::string picks;
   std::string module = DefaultModulePath();

@@ -6,6 +6,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/taken_names.h"
 #include "cli/common/told_reading.h"
@@ -20,7 +21,8 @@ using orvane::FileReport;
 
 struct ShowArguments {
   std::string mapping;
-  std::string capture;  // empty for none
+  std::string capture;      // empty for none
+  std::string stream_name;  // of standard input; empty: its own
   orvane::NameMatching names = orvane::NameMatching::kExact;
   ReportManner report;
   bool json = false;
@@ -58,21 +60,25 @@ void Compare(const orvane::TRCDocument& document, const std::string& file,
 }
 
 ExitStatus Show(const ShowArguments& arguments) {
+  RequireNoStandardInput(arguments.mapping, "A mapping");
   RoleReport report;
   report.mapping = arguments.mapping;
   const std::string bytes = FileBytes(arguments.mapping);
   std::vector<std::string> inputs = {arguments.mapping};
+  InputFiles files({arguments.capture}, arguments.stream_name);
+  InputFile capture;
   if (!arguments.capture.empty()) {
-    report.capture = ReadableFile(arguments.capture, FileKind::kTrc);
-    inputs.push_back(report.capture);
+    capture = files.Find(arguments.capture, FileKind::kTrc);
+    report.capture = capture.name;
+    inputs.push_back(capture.path);
   }
   RequireReportApart(arguments.report, inputs, {});
   report.roles = orvane::RolesIn(bytes);
   report.reports = {TellOfMapping(arguments, bytes)};
   if (!report.capture.empty()) {
     orvane::TRCDocument document;
-    report.reports.push_back(ReadAndTell(document, report.capture, FileBytes(report.capture),
-                                         arguments.report, report.reports));
+    report.reports.push_back(
+        ReadAndTell(document, capture, FileBytes(capture), arguments.report, report.reports));
     Compare(document, report.capture, arguments.names, report);
     TellOfTaken(report.capture, report.match);
   }
@@ -90,8 +96,11 @@ void AddMapShow(CLI::App& map, Work& work) {
       map.add_subcommand("show", "Show a mapping by standard markers, and what of it a file has");
   verb->add_option("MAPPING", arguments->mapping, "The MNM file")->required()->type_name("");
   CLI::Option* file =
-      verb->add_option("FILE", arguments->capture, "A TRC file whose markers are to be mapped")
+      verb->add_option("FILE", arguments->capture,
+                       "A TRC file whose markers are to be mapped, or - for standard "
+                       "input")
           ->type_name("");
+  AddStreamName(*verb, arguments->stream_name);
   AddNamesFlag(*verb, arguments->names)->needs(file);
   AddTellingFlags(*verb, arguments->report);
   verb->add_flag("--json", arguments->json, "Write JSON");

@@ -7,6 +7,7 @@
 
 #include "cli/common/choice.h"
 #include "cli/common/input.h"
+#include "cli/common/input_files.h"
 #include "cli/common/outputs.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/told_reading.h"
@@ -21,8 +22,9 @@ namespace {
 
 struct SuggestArguments {
   std::string marker_file;
-  std::string output;   // empty: nothing is written
-  std::string subject;  // the only one looked at; empty for all
+  std::string stream_name;  // of standard input; empty: its own
+  std::string output;       // empty: nothing is written
+  std::string subject;      // the only one looked at; empty for all
   bool is_by_geometry = false;
   ReportManner report;
   bool json = false;
@@ -93,17 +95,19 @@ ReportManner ReportMannerOf(const SuggestArguments& arguments) {
 ExitStatus Suggest(const SuggestArguments& arguments) {
   platform::CatchInterrupts();
   SuggestionReport report;
-  report.file = ReadableFile(arguments.marker_file, FileKind::kTrc);
+  InputFiles files({arguments.marker_file}, arguments.stream_name);
+  const InputFile input = files.Find(arguments.marker_file, FileKind::kTrc);
+  report.file = input.name;
   report.output = arguments.output;
-  RequireReportApart(arguments.report, {report.file}, {report.output});
+  RequireReportApart(arguments.report, {input.path}, {report.output});
   std::optional<MappingOutput> output;
   if (!report.output.empty()) {
-    RequireNoInput(report.output, {report.file});
+    RequireNoInput(report.output, {input.path});
     output.emplace(report.output, false, "It is kept; give -o another name.");
   }
   const ReportManner manner = ReportMannerOf(arguments);
   orvane::TRCDocument document;
-  report.findings = ReadAndTell(document, report.file, FileBytes(report.file), manner);
+  report.findings = ReadAndTell(document, input, FileBytes(input), manner);
   WriteReportFile({report.findings}, manner);
   if (Forbids(manner, report.findings)) throw ForbiddenByStrict(manner, report.findings);
   report.markers = NamesOf(document);
@@ -127,7 +131,10 @@ void AddMapSuggest(CLI::App& map, Work& work) {
   auto arguments = std::make_shared<SuggestArguments>();
   CLI::App* verb = map.add_subcommand(
       "suggest", "Suggest a mapping by the names of the markers, or by where they sit");
-  verb->add_option("FILE", arguments->marker_file, "The TRC file")->required()->type_name("");
+  verb->add_option("FILE", arguments->marker_file, "The TRC file, or - for standard input")
+      ->required()
+      ->type_name("");
+  AddStreamName(*verb, arguments->stream_name);
   RequireName(verb->add_option("-o,--output", arguments->output,
                                "The mapping file to write; one that exists is never replaced"))
       ->type_name("MAPPING");

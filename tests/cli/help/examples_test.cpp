@@ -1,6 +1,8 @@
 #include "cli/help/examples.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
+#include <iterator>
 #include <set>
 #include <sstream>
 
@@ -42,6 +44,15 @@ std::vector<std::string> WordsOf(std::string_view command) {
   return words;
 }
 
+// Takes "< FILE" off the end of `words`; returns the name of the file.
+std::string TakeInput(std::vector<std::string>& words) {
+  const auto sign = std::find(words.begin(), words.end(), "<");
+  if (sign == words.end()) return "";
+  const std::string file = *std::next(sign);
+  words.erase(sign, words.end());
+  return file;
+}
+
 TEST_F(ExamplesTest, AreDoneInTheirOrder) {
   std::set<std::string_view> done;
   for (const cli::VerbGuide& guide : cli::AllGuides()) {
@@ -50,7 +61,10 @@ TEST_F(ExamplesTest, AreDoneInTheirOrder) {
       ASSERT_EQ(words.front(), "orvane");
       if (!done.insert(example.command).second) continue;
       words.erase(words.begin());
-      const test::ProgramResult result = Orvane(words);
+      const std::string input = TakeInput(words);
+      test::ProgramRun run = Command(words);
+      if (!input.empty()) run.input_file = folder_.File(input);
+      const test::ProgramResult result = RunProgram(run);
       EXPECT_EQ(result.status, 0) << example.command << '\n' << result.error;
     }
   }

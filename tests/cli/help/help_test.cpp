@@ -64,7 +64,10 @@ TEST_F(HelpTest, BeginsWithWhatTheVerbIsForAndTwoExamples) {
 TEST_F(HelpTest, TellsInWordsWhatIsRequiredAndWhatDoesNotGoTogether) {
   const std::string help = Orvane({"help", "import"}).output;
   EXPECT_THAT(help, HasSubstr("\nUsage: orvane import [OPTIONS] FILE -o SCENE\n"));
-  EXPECT_THAT(help, HasSubstr("  FILE                        The HTR or TRC file (required)\n"));
+  EXPECT_THAT(help,
+              HasSubstr("  FILE                        The HTR or TRC file, or - for standard "
+                        "input\n"
+                        "                              (required)\n"));
   EXPECT_THAT(help, HasSubstr("  -o, --output SCENE          The scene to write: binary to a name "
                               "in .glb,\n"
                               "                              text to one in .gltf (required)\n"));
