@@ -40,6 +40,12 @@ constexpr Digits WithoutZeros(std::uint32_t number) {
   return all;
 }
 
+// A point and three digits.
+constexpr Digits BehindPoint(std::uint32_t number) {
+  const Digits all = WithZeros(number);
+  return {'.', all[0], all[1], all[2]};
+}
+
 using DigitTable = std::array<Digits, kThousand>;
 
 constexpr DigitTable MakeTable(Digits (*digits_of)(std::uint32_t)) {
@@ -50,6 +56,7 @@ constexpr DigitTable MakeTable(Digits (*digits_of)(std::uint32_t)) {
 
 constexpr DigitTable kLeading = MakeTable(WithoutZeros);
 constexpr DigitTable kFollowing = MakeTable(WithZeros);
+constexpr DigitTable kFraction = MakeTable(BehindPoint);
 
 char* Write(const Digits& digits, char* first) {
   std::memcpy(first, digits.data(), digits.size());
@@ -62,8 +69,10 @@ char* WriteShortInteger(std::uint32_t number, char* first) {
   return Write(kFollowing[number % kThousand], Write(kLeading[number / kThousand], first));
 }
 
-char* WriteSixDigits(std::uint32_t number, char* first) {
-  return Write(kFollowing[number % kThousand], Write(kFollowing[number / kThousand], first));
+char* WriteFraction(std::uint32_t millionths, char* first) {
+  const Digits& thousandths = kFraction[millionths / kThousand];
+  std::memcpy(first, thousandths.data(), thousandths.size());
+  return Write(kFollowing[millionths % kThousand], first + thousandths.size());
 }
 
 inline char* WriteOne(double value, char* first) {
@@ -82,8 +91,7 @@ inline char* WriteOne(double value, char* first) {
   *first = '-';
   first += std::signbit(value) ? 1 : 0;
   first = WriteShortInteger(static_cast<std::uint32_t>(millionths / kMillion), first);
-  *first++ = '.';
-  return WriteSixDigits(static_cast<std::uint32_t>(millionths % kMillion), first);
+  return WriteFraction(static_cast<std::uint32_t>(millionths % kMillion), first);
 }
 
 }  // namespace
