@@ -27,6 +27,11 @@ class TrcColumns {
   // Adds a name that is there already.
   void AddRepeated(TRCPlace place, std::string_view name);
 
+  // Takes back the names that were repeated on line `line`.
+  void ForgetRepeated(std::size_t line) {
+    std::erase_if(repeated_, [line](const Repeated& name) { return name.place.line == line; });
+  }
+
   // The last field of the last column that has a name or, with values up to field `last_value`, a
   // value; 0 without any.
   [[nodiscard]] std::size_t NamedFields(std::size_t last_value) const;

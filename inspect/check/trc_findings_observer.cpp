@@ -67,7 +67,7 @@ void TrcFindingsObserver::OnOddity(TRCOddity oddity, TRCPlace place, std::string
     default:
       break;
   }
-  AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, Findings());
+  AddOddity({oddity, place, text, document_.MarkerCount(), frames_ > 0}, FindingsAt(place));
 }
 
 bool TrcFindingsObserver::FollowsFromLayout(TRCOddity oddity, TRCPlace place) const {
@@ -125,7 +125,7 @@ void TrcFindingsObserver::Finish() {
       TakeHeld();
     }
   }
-  LeaveSubHeader();
+  LeaveLongLine();
   parts_.widths = widths_.Sum();
   parts_.named_fields = columns_.NamedFields(parts_.widths.last_value);
   columns_.AddRepeatedTo(findings_, parts_.widths.last_value);
@@ -214,17 +214,23 @@ void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
 
 void TrcFindingsObserver::OnHeaderLine(std::size_t number, const Line& line) {
   parts_.layout.TakeHeaderLine(number, line);
-  LeaveSubHeader();
-  if (number == kSubHeaderLine) sub_header_ = line.number;
+  if (number == kPerhapsBlankLine || line.number != long_line_) LeaveLongLine();
+  const bool is_of_columns = number == kMarkerNamesLine || number == kSubHeaderLine;
+  if (is_of_columns && !line.ends_with_break) long_line_ = line.number;
   if (!IsFrame(line, number)) TakeOtherLine(line);
 }
 
-// A piece of the same line may be the frame of tabs, which is told.
-void TrcFindingsObserver::LeaveSubHeader() {
+// The last piece of names or headings may be the frame of tabs, from which all that is told of that
+// line follows.
+void TrcFindingsObserver::LeaveLongLine() {
   const auto& tabs = parts_.layout.frame_of_tabs;
-  if (!tabs || tabs->line != sub_header_) findings_.Append(in_sub_header_);
-  in_sub_header_ = {};
-  sub_header_ = 0;
+  if (tabs && tabs->line == long_line_) {
+    columns_.ForgetRepeated(long_line_);
+  } else {
+    findings_.Append(in_long_line_);
+  }
+  in_long_line_ = {};
+  long_line_ = 0;
 }
 
 void TrcFindingsObserver::OnLineThrownAway(const Line& line) { TakeOtherLine(line); }
@@ -298,10 +304,10 @@ void TrcFindingsObserver::DropHeld() {
   held_.reset();
 }
 
-FindingList& TrcFindingsObserver::Findings() {
+FindingList& TrcFindingsObserver::FindingsAt(TRCPlace place) {
   if (held_) return held_->findings;
   if (frames_ > 0) return in_frames_;
-  return sub_header_ == 0 ? findings_ : in_sub_header_;
+  return place.line == long_line_ ? in_long_line_ : findings_;
 }
 
 }  // namespace orvane::trc

@@ -59,13 +59,13 @@ class TrcFindingsObserver final : public TRCReadObserver {
 
   // Whether the frame may stand behind all that are announced, where only blank lines follow.
   [[nodiscard]] bool MayBeBehindFrames(const TRCRow& row) const;
-  void LeaveSubHeader();
+  void LeaveLongLine();
   // Keeps what is told from now on apart, and decides on it.
   void Hold(std::size_t line);
   void TakeHeld();
   void DropHeld();
-  // What findings are added to at present.
-  FindingList& Findings();
+  // What a finding there is added to at present.
+  FindingList& FindingsAt(TRCPlace place);
 
   // Adds what was told of frames, but for what follows from their columns.
   void AddFindingsOfFrames();
@@ -78,15 +78,15 @@ class TrcFindingsObserver final : public TRCReadObserver {
   const TRCDocument& document_;
   TrcParts& parts_;
   FindingList& findings_;
-  FindingList in_sub_header_;  // what is found there, until the next line of the header
-  FindingList in_frames_;      // the same, until all are read
+  FindingList in_long_line_;  // of the header, until it is read: what is found there
+  FindingList in_frames_;     // the same, until all are read
 
   bool has_refused_ = false;
   bool has_spare_returns_ = false;
   std::string file_type_;  // when it is not the usual one
   TrcColumns columns_;
-  std::size_t sub_header_ = 0;  // its line; 0 when it is not the current line of the header
-  std::size_t lines_ = 0;       // also those that are thrown away
+  std::size_t long_line_ = 0;  // of the header; 0 when the current one is not long
+  std::size_t lines_ = 0;      // also those that are thrown away
   WidthCounts widths_;
   BlankEnd blank_end_;
   std::size_t frames_ = 0;

@@ -72,6 +72,19 @@ TEST(TrcCheck, TellsOfTheHeadingsLineUnlessAPieceOfItIsAFrameOfTabs) {
   EXPECT_THAT(CodesIn(tabs), Not(Contains("5:1 trc-sub-header-missing")));
 }
 
+TEST(TrcCheck, TellsOfTheNamesLineUnlessAPieceOfItIsAFrameOfTabs) {
+  const std::string again = test::Replaced(ThreeFrames(), "RFHD\t\t\t", "RFHD\t\t\tLFHD\t\t\t");
+  EXPECT_THAT(CodesIn(again), Contains("4:27 trc-column-repeated-blank"));
+  const std::string two_pieces =
+      test::Replaced(again, "LFHD\t\t\t\n", "LFHD\t\t\t" + std::string(10300, '\t') + "\n");
+  EXPECT_THAT(CodesIn(two_pieces), Contains("4:27 trc-column-repeated-blank"));
+  const std::string three_pieces =
+      test::Replaced(again, "LFHD\t\t\t\n", "LFHD\t\t\t" + std::string(20500, '\t') + "\n");
+  EXPECT_THAT(CodesIn(three_pieces), Contains("4:1 trc-blank-line-tabs"));
+  EXPECT_THAT(CodesIn(three_pieces), Not(Contains("4:27 trc-column-repeated-blank")));
+  EXPECT_THAT(CodesIn(three_pieces), Contains("3:9 trc-marker-count"));
+}
+
 TEST(TrcCheck, CountsAllNarrowFramesAndKeepsTheFirst) {
   test::TrcText text{.markers = {"LFHD", "RFHD"}, .frame_count = 60};
   for (int frame = 1; frame <= 600; ++frame) {
