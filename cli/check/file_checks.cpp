@@ -7,6 +7,7 @@
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
 #include "cli/common/input_files.h"
+#include "cli/common/input_source.h"
 #include "host/base/letter_case.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
@@ -17,30 +18,37 @@ namespace {
 
 using orvane::CheckedFile;
 using orvane::CheckFailure;
-using orvane::CheckHtr;
-using orvane::CheckMapping;
-using orvane::CheckTrc;
 
-// `check` by the bytes of `file`. Throws a Failure when it cannot be read, or nothing can be said.
-CheckedFile CheckBytes(const InputFile& file,
-                       CheckedFile (*check)(const std::string& file, std::string_view bytes)) {
+// What `check` says of `file`. Throws a Failure when it cannot be read, or nothing can be said.
+template <typename Check>
+CheckedFile CheckOrFail(const InputFile& file, const Check& check) {
   try {
-    return check(file.name, FileBytes(file));
+    return check(file);
   } catch (const CheckFailure& failure) {
     throw Failure{ExitStatus::kInputOutput, {{file.name, failure.what(), failure.Advice()}}};
   }
 }
 
 CheckedFile CheckTrcFile(const std::string& name, InputFiles& files) {
-  return CheckBytes(files.Find(name, FileKind::kTrc), CheckTrc);
+  return CheckOrFail(files.Find(name, FileKind::kTrc), [](const InputFile& file) {
+    InputSource source(file);
+    orvane::TRCDocument document;
+    return orvane::CheckTrc(file.name, source, document);
+  });
 }
 
 CheckedFile CheckHtrFile(const std::string& name, InputFiles& files) {
-  return CheckBytes(files.Find(name, FileKind::kHtr), CheckHtr);
+  return CheckOrFail(files.Find(name, FileKind::kHtr), [](const InputFile& file) {
+    InputSource source(file);
+    orvane::HtrDocument document;
+    return orvane::CheckHtr(file.name, source, document);
+  });
 }
 
 CheckedFile CheckMnmFile(const std::string& name, InputFiles& files) {
-  return CheckBytes(files.FindMapping(name), CheckMapping);
+  return CheckOrFail(files.FindMapping(name), [](const InputFile& file) {
+    return orvane::CheckMapping(file.name, FileBytes(file));
+  });
 }
 
 struct FileCheck {

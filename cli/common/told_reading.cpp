@@ -5,6 +5,7 @@
 #include "cli/common/cut_frames.h"
 #include "cli/common/failure.h"
 #include "cli/common/input.h"
+#include "cli/common/input_source.h"
 #include "cli/common/known_messages.h"
 #include "formats/htr/reader.h"
 #include "inspect/check/htr_check.h"
@@ -31,17 +32,19 @@ std::string WhyEmpty(const TRCDocument& document) {
   return document.MarkerCount() == 0 ? kNoMarkers : "";
 }
 
-CheckedFile Check(const std::string& file, std::string_view bytes, HtrDocument& document) {
-  return orvane::CheckHtr(file, bytes, document);
+CheckedFile Check(const InputFile& file, HtrDocument& document) {
+  InputSource source(file);
+  return orvane::CheckHtr(file.name, source, document);
 }
-CheckedFile Check(const std::string& file, std::string_view bytes, TRCDocument& document) {
-  return orvane::CheckTrc(file, bytes, document);
+CheckedFile Check(const InputFile& file, TRCDocument& document) {
+  InputSource source(file);
+  return orvane::CheckTrc(file.name, source, document);
 }
 
-std::string Read(std::string_view bytes, HtrDocument& document) {
+std::string ReadAgain(std::string_view bytes, HtrDocument& document) {
   return orvane::ReadHtrBytes(document, bytes, true);
 }
-std::string Read(std::string_view bytes, TRCDocument& document) {
+std::string ReadAgain(std::string_view bytes, TRCDocument& document) {
   return document.ReadBytes(bytes, false);
 }
 
@@ -61,22 +64,20 @@ FileReport ReportOnReading(CheckedFile& checked, const Document& document,
 
 // As the reader takes the file, it takes what is cut out of it.
 template <typename Document>
-void CutDown(Document& document, const std::string& file, std::string_view bytes,
-             const FrameSpan& asked) {
+void CutDown(Document& document, const InputFile& file, const FrameSpan& asked) {
   const FrameSpan held = FramesHeld(document);
   const FrameSpan frames = Overlap(asked, held);
   if (frames.IsEmpty()) {
-    throw Failure{ExitStatus::kRefused, {ComplainAboutCut(file, asked, held)}};
+    throw Failure{ExitStatus::kRefused, {ComplainAboutCut(file.name, asked, held)}};
   }
-  (void)Read(CutOut(file, bytes, document, frames), document);
+  (void)ReadAgain(CutOut(file.name, FileBytes(file), document, frames), document);
 }
 
 template <typename Document>
-FileReport CheckAndTell(Document& document, const std::string& file, std::string_view bytes,
-                        const ReportManner& manner, std::vector<FileReport> reports,
-                        const std::optional<FrameSpan>& cut) {
+FileReport CheckAndTell(Document& document, const InputFile& file, const ReportManner& manner,
+                        std::vector<FileReport> reports, const std::optional<FrameSpan>& cut) {
   try {
-    CheckedFile checked = Check(file, bytes, document);
+    CheckedFile checked = Check(file, document);
     reports.push_back(ReportOnReading(checked, document, cut));
     const FileReport told = reports.back().Without(kToldByRefusal);
     Tell(told, manner);
@@ -88,9 +89,9 @@ FileReport CheckAndTell(Document& document, const std::string& file, std::string
     // An error that has been told is why nothing was found.
     const bool is_told = checked.refusal.empty() && reports.back().Count(kError) > 0;
     if (is_told) throw Failure{ExitStatus::kRefused, {}};
-    throw Failure{ExitStatus::kRefused, {ComplainAbout(file, why)}};
+    throw Failure{ExitStatus::kRefused, {ComplainAbout(file.name, why)}};
   } catch (const orvane::CheckFailure& failure) {
-    throw Failure{ExitStatus::kInputOutput, {{file, failure.what(), failure.Advice()}}};
+    throw Failure{ExitStatus::kInputOutput, {{file.name, failure.what(), failure.Advice()}}};
   }
 }
 
@@ -104,29 +105,29 @@ void RequireTaken(const InputFile& file, FileKind kind, const std::string& why) 
 FileReport ReadAndTell(HtrDocument& document, const InputFile& file, Motion motion,
                        const ReportManner& manner, std::vector<FileReport> reports,
                        const std::optional<FrameSpan>& cut) {
-  const std::string bytes = FileBytes(file);
   FileReport report;
   if (motion == Motion::kRead && !manner.omitted) {
-    report = CheckAndTell(document, file.name, bytes, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file, manner, std::move(reports), cut);
   } else {
-    const std::string error = orvane::ReadHtrBytes(document, bytes, motion == Motion::kRead);
+    InputSource source(file);
+    const std::string error = orvane::ReadHtrFrom(document, source, motion == Motion::kRead);
     RequireTaken(file, FileKind::kHtr, error.empty() ? WhyEmpty(document) : error);
   }
-  if (cut) CutDown(document, file.name, bytes, *cut);
+  if (cut) CutDown(document, file, *cut);
   return report;
 }
 
-FileReport ReadAndTell(TRCDocument& document, const InputFile& file, std::string_view bytes,
-                       const ReportManner& manner, std::vector<FileReport> reports,
-                       const std::optional<FrameSpan>& cut) {
+FileReport ReadAndTell(TRCDocument& document, const InputFile& file, const ReportManner& manner,
+                       std::vector<FileReport> reports, const std::optional<FrameSpan>& cut) {
   FileReport report;
   if (!manner.omitted) {
-    report = CheckAndTell(document, file.name, bytes, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file, manner, std::move(reports), cut);
   } else {
-    const std::string error = document.ReadBytes(bytes, false);
+    InputSource source(file);
+    const std::string error = document.ReadFrom(source, false);
     RequireTaken(file, FileKind::kTrc, error.empty() ? WhyEmpty(document) : error);
   }
-  if (cut) CutDown(document, file.name, bytes, *cut);
+  if (cut) CutDown(document, file, *cut);
   return report;
 }
 

@@ -2,7 +2,6 @@
 
 #include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "cli/common/input_file.h"
@@ -27,9 +26,9 @@ orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const InputFile& f
                                std::vector<orvane::FileReport> reports = {},
                                const std::optional<orvane::FrameSpan>& cut = {});
 
-// The same of the marker file `file`, whose `bytes` these are, and which is to hold markers.
+// The same of the marker file `file`, which is to hold markers.
 orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const InputFile& file,
-                               std::string_view bytes, const ReportManner& manner,
+                               const ReportManner& manner,
                                std::vector<orvane::FileReport> reports = {},
                                const std::optional<orvane::FrameSpan>& cut = {});
 

@@ -31,8 +31,7 @@ orvane::FileReport Read(const InputFile& file, const ReportManner& manner,
 orvane::FileReport Read(const InputFile& file, const ReportManner& manner,
                         orvane::TRCDocument& document,
                         std::vector<orvane::FileReport> reports = {}) {
-  return ReadOrFail(
-      [&] { return ReadAndTell(document, file, FileBytes(file), manner, std::move(reports)); });
+  return ReadOrFail([&] { return ReadAndTell(document, file, manner, std::move(reports)); });
 }
 
 // Reads both files into `report` and tells of them.

@@ -1,6 +1,6 @@
 #include "cli/convert/trc_look.h"
 
-#include "formats/text/files.h"
+#include "cli/common/input_source.h"
 #include "formats/trc/outline.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/summary/trc_outline.h"
@@ -16,16 +16,17 @@ void TakeOutline(const orvane::TRCOutliner& outline, TrcLook& look) {
 }
 
 // The samples tell how many frames there are. Without any marker they tell nothing.
-void CountLines(std::string_view bytes, TrcLook& look) {
+void CountLines(const InputFile& file, TrcLook& look) {
   if (look.document.MarkerCount() > 0) {
-    look.frames = static_cast<std::int64_t>(look.document.MarkerAt(0)->SampleCount());
     look.held = FramesHeld(look.document);
+    look.frames = look.held.Count();
     look.has_rates = true;  // the names stand behind them
     return;
   }
-  const orvane::TRCOutliner outline = orvane::OutlineTrc(bytes);
-  TakeOutline(outline, look);
-  if (look.refusal.empty()) look.held = FramesHeld(outline);
+  const std::optional<orvane::TRCOutliner> outline = orvane::OutlineTrcFile(file.path);
+  if (!outline) return;
+  TakeOutline(*outline, look);
+  if (look.refusal.empty()) look.held = FramesHeld(*outline);
 }
 
 std::unique_ptr<TrcLook> LookAtLines(const std::string& path) {
@@ -38,23 +39,28 @@ std::unique_ptr<TrcLook> LookAtLines(const std::string& path) {
   return look;
 }
 
+std::string HeaderOf(const InputFile& file) {
+  InputSource source(file);
+  return orvane::TrcHeaderOf(source);
+}
+
 }  // namespace
 
 std::unique_ptr<TrcLook> LookAtInput(const Conversion& conversion, const ConversionOrder& order) {
   const bool is_checked = !order.report.omitted;
   if (!is_checked && !order.cut) return LookAtLines(conversion.source);
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(conversion.source);
-  if (!bytes) return nullptr;
+  const InputFile file = conversion.File();
   auto look = std::make_unique<TrcLook>();
   look->has_samples = true;
-  look->header = orvane::TrcHeaderOf(*bytes);
+  look->header = HeaderOf(file);
+  InputSource source(file);
   if (is_checked) {
-    look->checked = orvane::CheckTrc(conversion.input, *bytes, look->document);
+    look->checked = orvane::CheckTrc(file.name, source, look->document);
     look->refusal = look->checked->refusal;
   } else {
-    look->refusal = look->document.ReadBytes(*bytes, false);
+    look->refusal = look->document.ReadFrom(source, false);
   }
-  CountLines(*bytes, *look);
+  CountLines(file, *look);
   return look;
 }
 

@@ -27,8 +27,9 @@ struct TrcLook {
 };
 
 // Looks at the input of `conversion`: at all of its numbers where the report or the cutting of
-// frames that `order` wishes for needs them, else only at where its lines end. Returns null when it
-// cannot be read. Throws an orvane::CheckFailure when nothing can be said of it.
+// frames that `order` wishes for needs them, else only at where its lines end. Returns null, or
+// throws a Failure, when it cannot be read. Throws an orvane::CheckFailure when nothing can be said
+// of it.
 [[nodiscard]] std::unique_ptr<TrcLook> LookAtInput(const Conversion& conversion,
                                                    const ConversionOrder& order);
 

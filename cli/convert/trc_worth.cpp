@@ -246,6 +246,10 @@ Judgment JudgeInput(Conversion& conversion, const ConversionOrder& order,
     conversion.status = ConversionStatus::kUnreadable;
     conversion.errors.push_back({conversion.input, failure.what(), failure.Advice()});
     return {};
+  } catch (const Failure& failure) {
+    conversion.status = ConversionStatus::kUnreadable;
+    conversion.errors = failure.complaints;
+    return {};
   }
   if (!look) {
     RequireInput(conversion);

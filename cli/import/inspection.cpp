@@ -2,6 +2,7 @@
 
 #include "cli/common/cut_frames.h"
 #include "cli/common/input.h"
+#include "cli/common/input_source.h"
 #include "cli/common/known_messages.h"
 #include "cli/common/scratch_copy.h"
 #include "cli/import/application.h"
@@ -87,18 +88,18 @@ struct Read {
   bool is_refused = false;
 };
 
-Read ReadInto(orvane::HtrDocument& document, const std::string& file, std::string_view bytes,
+Read ReadInto(orvane::HtrDocument& document, const std::string& file, orvane::ByteSource& source,
               bool is_checked) {
-  if (!is_checked) return {{}, !orvane::ReadHtrBytes(document, bytes, true).empty()};
-  orvane::CheckedFile checked = orvane::CheckHtr(file, bytes, document);
+  if (!is_checked) return {{}, !orvane::ReadHtrFrom(document, source, true).empty()};
+  orvane::CheckedFile checked = orvane::CheckHtr(file, source, document);
   const bool is_refused = !checked.refusal.empty();
   return {std::move(checked), is_refused};
 }
 
-Read ReadInto(orvane::TRCDocument& document, const std::string& file, std::string_view bytes,
+Read ReadInto(orvane::TRCDocument& document, const std::string& file, orvane::ByteSource& source,
               bool is_checked) {
-  if (!is_checked) return {{}, !document.ReadBytes(bytes, false).empty()};
-  orvane::CheckedFile checked = orvane::CheckTrc(file, bytes, document);
+  if (!is_checked) return {{}, !document.ReadFrom(source, false).empty()};
+  orvane::CheckedFile checked = orvane::CheckTrc(file, source, document);
   const bool is_refused = !checked.refusal.empty();
   return {std::move(checked), is_refused};
 }
@@ -112,18 +113,18 @@ std::string NameOfFile(const std::string& file) {
   return platform::TextOf(platform::PathOf(file).filename());
 }
 
-host::Recording RecordingOf(const orvane::HtrDocument& document, std::string_view bytes,
-                            const std::string& file) {
-  return {HostRate(orvane::FrameRateOfHtr(bytes)), document.GetStartFrame(),
+host::Recording RecordingOf(const orvane::HtrDocument& document, const InputFile& file) {
+  InputSource source(file);
+  return {HostRate(orvane::FrameRateOfHtr(source)), document.GetStartFrame(),
           std::string(orvane::CalibrationUnitsName(document.GetCalibrationUnits())),
-          NameOfFile(file)};
+          NameOfFile(file.name)};
 }
 
-host::Recording RecordingOf(const orvane::TRCDocument& document, std::string_view bytes,
-                            const std::string& file) {
+host::Recording RecordingOf(const orvane::TRCDocument& document, const InputFile& file) {
+  InputSource source(file);
   const auto unit = static_cast<std::uint32_t>(document.Units());
-  return {HostRate(orvane::FrameRateOfTrc(bytes)), document.FirstFrame(),
-          std::string(orvane::CalibrationUnitsName(unit)), NameOfFile(file)};
+  return {HostRate(orvane::FrameRateOfTrc(source)), document.FirstFrame(),
+          std::string(orvane::CalibrationUnitsName(unit)), NameOfFile(file.name)};
 }
 
 using Codes = std::vector<std::string_view>;
@@ -135,15 +136,15 @@ class Inspecting {
 
   template <typename Document>
   Inspection Run(bool is_checked, const std::string& advice) {
-    const std::string bytes = FileBytes(file_);
+    InputSource source(file_);
     Document document;
-    Read read = ReadInto(document, file_.name, bytes, is_checked);
+    Read read = ReadInto(document, file_.name, source, is_checked);
     result_.checked = std::move(read.checked);
-    if (!read.is_refused) Change(bytes, document);
+    if (!read.is_refused) Change(document);
     if (!read.is_refused && !result_.refusal) {
-      result_.recording = RecordingOf(document, bytes, file_.name);
+      result_.recording = RecordingOf(document, file_);
       result_.recording->turned_up = choices_.turned_up;
-      Judge(document, bytes.size(), advice);
+      Judge(document, source.Size(), advice);
       if (choices_.apply) result_.applied = DescribeFile(document);
       result_.samples = SamplesIn(document);
       if (!choices_.apply) result_.marker_size = SizeFor(document);
@@ -155,23 +156,30 @@ class Inspecting {
   // What is odd has been looked for in the file as it is. As the reader takes that, it takes what
   // is made of it.
   template <typename Document>
-  void Change(std::string_view bytes, Document& document) {
-    if (choices_.cut && !IsBare(document)) Cut(bytes, document);
+  void Change(Document& document) {
+    if (choices_.cut && !IsBare(document)) Cut(document);
     if (result_.refusal || !choices_.turned_up) return;
-    result_.changed = TurnedUp(file_.name, result_.changed.empty() ? bytes : result_.changed);
-    (void)ReadInto(document, file_.name, result_.changed, false);
+    if (result_.changed.empty()) result_.changed = FileBytes(file_);
+    result_.changed = TurnedUp(file_.name, result_.changed);
+    ReadChanged(document);
   }
 
   template <typename Document>
-  void Cut(std::string_view bytes, Document& document) {
+  void ReadChanged(Document& document) {
+    orvane::MemorySource source(result_.changed);
+    (void)ReadInto(document, file_.name, source, false);
+  }
+
+  template <typename Document>
+  void Cut(Document& document) {
     const orvane::FrameSpan held = FramesHeld(document);
     CheckCut(*choices_.cut, held, result_.checked);
     const orvane::FrameSpan frames = Overlap(*choices_.cut, held);
     if (frames.IsEmpty()) {
       return Refuse(ComplainAboutCut(file_.name, *choices_.cut, held), {"cut-range-outside"});
     }
-    result_.changed = CutOut(file_.name, bytes, document, frames);
-    (void)ReadInto(document, file_.name, result_.changed, false);
+    result_.changed = CutOut(file_.name, FileBytes(file_), document, frames);
+    ReadChanged(document);
   }
 
   static std::optional<MarkerSamples> SamplesIn(const orvane::HtrDocument& /*document*/) {

@@ -1,8 +1,8 @@
 #include "cli/info/trc_info.h"
 
-#include "cli/common/input.h"
+#include "cli/common/input_source.h"
 #include "cli/common/told_reading.h"
-#include "inspect/summary/trc_outline.h"
+#include "formats/trc/outline.h"
 
 namespace cli {
 namespace {
@@ -29,11 +29,12 @@ class RateObserver final : public orvane::TRCReadObserver {
 };
 
 // Reads the rates once more, for what their texts lose: the checks have an observer of their own.
-void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
+void ReadRateTexts(const InputFile& file, TrcInfoReport& report) {
+  InputSource source(file);
   orvane::TRCDocument header;
   RateObserver observer(report);
   // What the header lacks has been told.
-  (void)header.ReadBytes(orvane::TrcHeaderOf(bytes), false, &observer);
+  (void)header.ReadBytes(orvane::TrcHeaderOf(source), false, &observer);
 }
 
 }  // namespace
@@ -41,9 +42,8 @@ void ReadRateTexts(std::string_view bytes, TrcInfoReport& report) {
 void ReadTrcInfo(const InputFile& file, const ReportManner& manner,
                  const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report) {
   report.file = file.name;
-  const std::string bytes = FileBytes(file);
-  report.findings = ReadAndTell(report.document, file, bytes, manner, {}, cut);
-  ReadRateTexts(bytes, report);
+  report.findings = ReadAndTell(report.document, file, manner, {}, cut);
+  ReadRateTexts(file, report);
   report.subject = orvane::MeasureSubject(report.document);
   report.summary = SummarizeTrc(report.document);
 }

@@ -77,8 +77,7 @@ ExitStatus Show(const ShowArguments& arguments) {
   report.reports = {TellOfMapping(arguments, bytes)};
   if (!report.capture.empty()) {
     orvane::TRCDocument document;
-    report.reports.push_back(
-        ReadAndTell(document, capture, FileBytes(capture), arguments.report, report.reports));
+    report.reports.push_back(ReadAndTell(document, capture, arguments.report, report.reports));
     Compare(document, report.capture, arguments.names, report);
     TellOfTaken(report.capture, report.match);
   }

@@ -107,7 +107,7 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
   }
   const ReportManner manner = ReportMannerOf(arguments);
   orvane::TRCDocument document;
-  report.findings = ReadAndTell(document, input, FileBytes(input), manner);
+  report.findings = ReadAndTell(document, input, manner);
   WriteReportFile({report.findings}, manner);
   if (Forbids(manner, report.findings)) throw ForbiddenByStrict(manner, report.findings);
   report.markers = NamesOf(document);

@@ -1,8 +1,26 @@
 #include "formats/trc/outline.h"
 
 #include <algorithm>
+#include <span>
 
 namespace orvane {
+namespace {
+
+// Most headers are shorter.
+constexpr std::size_t kFirstBytes = std::size_t{16} * 1024;
+
+// The header that `lines` start with, or as much of it as they hold.
+TRCOutliner OutlineHeader(std::string_view lines) {
+  TRCOutliner outliner;
+  while (!lines.empty() && !outliner.HasHeader()) {
+    const std::size_t line = std::min(lines.find('\n'), lines.size() - 1) + 1;
+    outliner.Take(lines.substr(0, line));
+    lines.remove_prefix(line);
+  }
+  return outliner;
+}
+
+}  // namespace
 
 void TRCOutliner::Take(std::string_view lines) {
   LineReader reader(lines);
@@ -28,14 +46,18 @@ void TRCOutliner::TakeLine(const Line& line) {
   ++number_;
 }
 
-std::string TrcHeaderOf(std::string_view bytes) {
-  TRCOutliner outliner;
-  while (!bytes.empty() && !outliner.HasHeader()) {
-    const std::size_t line = std::min(bytes.find('\n'), bytes.size() - 1) + 1;
-    outliner.Take(bytes.substr(0, line));
-    bytes.remove_prefix(line);
+std::string TrcHeaderOf(ByteSource& source) {
+  std::string start;
+  for (std::size_t wanted = kFirstBytes;; wanted *= 2) {
+    const std::size_t held = start.size();
+    start.resize(wanted);
+    start.resize(held + ReadFully(source, std::span(start).subspan(held)));
+    const bool is_all = start.size() < wanted;
+    const std::string_view lines =
+        std::string_view(start).substr(0, is_all ? start.size() : start.rfind('\n') + 1);
+    const TRCOutliner outliner = OutlineHeader(lines);
+    if (is_all || outliner.HasHeader()) return outliner.Header();
   }
-  return outliner.Header();
 }
 
 }  // namespace orvane

@@ -4,6 +4,7 @@
 #include <string>
 #include <string_view>
 
+#include "formats/text/byte_source.h"
 #include "formats/text/lines.h"
 #include "formats/trc/line_rules.h"
 
@@ -41,7 +42,7 @@ class TRCOutliner {
   bool throws_away_ = false;  // the next line
 };
 
-// The header of a file that starts with `bytes`, or as much of it as they hold.
-[[nodiscard]] std::string TrcHeaderOf(std::string_view bytes);
+// The header of a file whose bytes `source` has, of which little more is read.
+[[nodiscard]] std::string TrcHeaderOf(ByteSource& source);
 
 }  // namespace orvane

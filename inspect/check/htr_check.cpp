@@ -8,6 +8,7 @@
 #include "inspect/check/htr_findings_observer.h"
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/htr_structure.h"
+#include "inspect/check/started_source.h"
 #include "inspect/check/text_flaw.h"
 
 namespace orvane {
@@ -53,29 +54,23 @@ std::string Contents(const HtrDocument& document) {
 
 CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
   HtrDocument document;
-  return CheckHtr(file, bytes, document);
+  MemorySource source(bytes);
+  return CheckHtr(file, source, document);
 }
 
-CheckedFile CheckHtr(const std::string& file, std::string_view bytes, HtrDocument& document) {
-  const auto read = [bytes](HtrDocument& into, HtrReadObserver& observer) {
-    return ReadHtrBytes(into, bytes, true, &observer);
-  };
-  return CheckHtr(file, bytes, read, document);
-}
-
-CheckedFile CheckHtr(const std::string& file, std::string_view start, const HtrReading& read,
-                     HtrDocument& document) {
+CheckedFile CheckHtr(const std::string& file, ByteSource& source, HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
+  StartedSource started(source);
   htr::HtrParts parts;
   htr::HtrFindingsObserver observer(parts, checked.findings);
-  const std::string message = read(document, observer);
+  const std::string message = ReadHtrFrom(document, started, true, &observer);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (!observer.WasStopped()) htr::CheckStructure(document, parts, checked.findings);
   if (observer.HasRefused()) NameOtherSeparators(parts, checked.findings);
-  NameWhatItIs(start, checked.findings);
+  NameWhatItIs(started.Start(), checked.findings);
   checked.contents = Contents(document);
   return checked;
 }

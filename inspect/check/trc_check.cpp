@@ -7,6 +7,7 @@
 #include "formats/text/numbers.h"
 #include "formats/trc/document_checker.h"
 #include "inspect/check/content_kind.h"
+#include "inspect/check/started_source.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
 #include "inspect/check/trc_parts.h"
@@ -241,22 +242,16 @@ void NameWhatItIs(std::string_view start, FindingList& findings) {
 
 CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
   TRCDocument document;
-  return CheckTrc(file, bytes, document);
+  MemorySource source(bytes);
+  return CheckTrc(file, source, document);
 }
 
-CheckedFile CheckTrc(const std::string& file, std::string_view bytes, TRCDocument& document) {
-  const auto read = [bytes](TRCDocument& into, TRCReadObserver& observer) {
-    return into.ReadBytes(bytes, false, &observer);
-  };
-  return CheckTrc(file, bytes, read, document);
-}
-
-CheckedFile CheckTrc(const std::string& file, std::string_view start, const TrcReading& read,
-                     TRCDocument& document) {
+CheckedFile CheckTrc(const std::string& file, ByteSource& source, TRCDocument& document) {
   CheckedFile checked{file, "TRC", {}, {}};
+  StartedSource started(source);
   trc::TrcParts parts;
   trc::TrcFindingsObserver observer(document, parts, checked.findings);
-  const std::string message = read(document, observer);
+  const std::string message = document.ReadFrom(started, false, &observer);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
@@ -264,7 +259,7 @@ CheckedFile CheckTrc(const std::string& file, std::string_view start, const TrcR
   if (checked.refusal.empty()) {
     WholeFile(document, parts, checked.findings).Check();
   }
-  NameWhatItIs(start, checked.findings);
+  NameWhatItIs(started.Start(), checked.findings);
   const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
   checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
   return checked;

@@ -1,11 +1,10 @@
 #pragma once
 
-#include <functional>
 #include <string>
 #include <string_view>
 
+#include "formats/text/byte_source.h"
 #include "formats/trc/document.h"
-#include "formats/trc/read_observer.h"
 #include "inspect/check/checked_file.h"
 
 // The check of TRC files. The reader reads them as it always does, and is watched meanwhile;
@@ -18,17 +17,9 @@ namespace orvane {
 // they cannot be read for want of memory, or were read wrongly.
 [[nodiscard]] CheckedFile CheckTrc(const std::string& file, std::string_view bytes);
 
-// The same, and leaves in `document`, which is empty, what was read of them: up to where the reader
-// has refused the file, if it has.
-[[nodiscard]] CheckedFile CheckTrc(const std::string& file, std::string_view bytes,
+// The same of all bytes that `source` has, and leaves in `document`, which is empty, what was read
+// of them: up to where the reader has refused the file, if it has.
+[[nodiscard]] CheckedFile CheckTrc(const std::string& file, ByteSource& source,
                                    TRCDocument& document);
-
-// Reads a file into `document`, watched by `observer`, and returns what the reader says of it.
-using TrcReading = std::function<std::string(TRCDocument& document, TRCReadObserver& observer)>;
-
-// The same of a file that is not in memory: `start` is how it begins, as many bytes as show its
-// kind and its flaws (content_kind.h, text_flaw.h), or all of it.
-[[nodiscard]] CheckedFile CheckTrc(const std::string& file, std::string_view start,
-                                   const TrcReading& read, TRCDocument& document);
 
 }  // namespace orvane

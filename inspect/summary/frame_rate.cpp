@@ -7,15 +7,13 @@
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/trc/document.h"
+#include "formats/trc/outline.h"
 
 namespace orvane {
 namespace {
 
 constexpr std::int64_t kLargest = std::int64_t{1} << 53U;
 constexpr std::int64_t kBase = 10;
-
-// Where the header of a marker file ends in any case, unless it is full of comments.
-constexpr std::size_t kHeaderBytes = std::size_t{1} << 16U;
 
 // `digits` times ten to the power of `exponent`.
 struct Decimal {
@@ -96,18 +94,18 @@ std::optional<FrameRate> ParseFrameRate(std::string_view text) {
   return decimal ? Reduced(*decimal) : std::nullopt;
 }
 
-std::optional<FrameRate> FrameRateOfHtr(std::string_view bytes) {
+std::optional<FrameRate> FrameRateOfHtr(ByteSource& source) {
   HtrDocument document;
   HtrRateObserver observer;
   // A refusal comes behind the header, or is told by whoever reads the file.
-  (void)ReadHtrBytes(document, bytes, false, &observer);
+  (void)ReadHtrFrom(document, source, false, &observer);
   return observer.rate;
 }
 
-std::optional<FrameRate> FrameRateOfTrc(std::string_view bytes) {
+std::optional<FrameRate> FrameRateOfTrc(ByteSource& source) {
   TRCDocument document;
   TrcRateObserver observer;
-  (void)document.ReadBytes(bytes.substr(0, kHeaderBytes), false, &observer);
+  (void)document.ReadBytes(TrcHeaderOf(source), false, &observer);
   return observer.rate;
 }
 

@@ -4,6 +4,8 @@
 #include <optional>
 #include <string_view>
 
+#include "formats/text/byte_source.h"
+
 // The frame rate that a file's text says, of which readers keep the whole part alone. Nothing fails
 // but for want of memory.
 
@@ -21,8 +23,9 @@ struct FrameRate {
 // the point that do not fit are left out. Nothing when it is not positive, or does not fit at all.
 [[nodiscard]] std::optional<FrameRate> ParseFrameRate(std::string_view text);
 
-// That of a file by its `bytes`; nothing when its header has none.
-[[nodiscard]] std::optional<FrameRate> FrameRateOfHtr(std::string_view bytes);
-[[nodiscard]] std::optional<FrameRate> FrameRateOfTrc(std::string_view bytes);
+// That of a file whose bytes `source` has, of which no more is read than tells it; nothing when its
+// header has none.
+[[nodiscard]] std::optional<FrameRate> FrameRateOfHtr(ByteSource& source);
+[[nodiscard]] std::optional<FrameRate> FrameRateOfTrc(ByteSource& source);
 
 }  // namespace orvane

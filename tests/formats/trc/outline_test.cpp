@@ -97,7 +97,8 @@ TEST(TRCOutlinerTest, KeepsTheHeader) {
   for (const auto& example : cases) {
     EXPECT_EQ(OutlineOf(example.bytes).Header(), example.expected);
     EXPECT_EQ(OutlineByLines(example.bytes).Header(), example.expected);
-    EXPECT_EQ(TrcHeaderOf(example.bytes), example.expected);
+    MemorySource source(example.bytes);
+    EXPECT_EQ(TrcHeaderOf(source), example.expected);
   }
 }
 
@@ -106,7 +107,8 @@ TEST(TRCOutlinerTest, TakesNoMoreForTheHeaderThanAllOfTheFileShows) {
   for (const std::string& start : {std::string("#\nlost\n"), std::string("#\n"), long_name + "\n",
                                    std::string("a\nb\nc\nd\n#\nlost\n"), kHeader + "#\n"}) {
     const std::string bytes = start + kHeader + "\n1\t0\t1\t2\t3\n2\t0\n";
-    EXPECT_EQ(TrcHeaderOf(bytes), OutlineOf(bytes).Header()) << start.substr(0, 40);
+    MemorySource source(bytes);
+    EXPECT_EQ(TrcHeaderOf(source), OutlineOf(bytes).Header()) << start.substr(0, 40);
   }
 }
 

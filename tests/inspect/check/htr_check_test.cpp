@@ -2,7 +2,7 @@
 
 #include "inspect/check/htr_rules.h"
 #include "tests/inspect/check/htr_rows.h"
-#include "tests/inspect/check/lent_texts.h"
+#include "tests/support/blocks.h"
 #include "tests/support/replaced_text.h"
 
 namespace test {
@@ -33,8 +33,8 @@ using testing::IsEmpty;
 
 std::vector<test::Told> ToldOf(const std::string& bytes) {
   orvane::HtrDocument document;
-  const auto read = test::LendingHtr(bytes);
-  return AllTold(CheckHtr("walk.htr", bytes, read, document).findings);
+  test::Blocks lines(bytes, 0, 1);  // each line takes the place of the last one
+  return AllTold(CheckHtr("walk.htr", lines, document).findings);
 }
 
 TEST(HtrCheck, FindsNothingInASoundFile) {

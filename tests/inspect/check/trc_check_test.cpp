@@ -2,7 +2,7 @@
 
 #include "inspect/check/trc_rules.h"
 #include "tests/inspect/check/check_rows.h"
-#include "tests/inspect/check/lent_texts.h"
+#include "tests/support/blocks.h"
 #include "tests/support/replaced_text.h"
 #include "tests/support/saved_text.h"
 #include "tests/support/trc_text.h"
@@ -88,8 +88,8 @@ std::string WithoutTime(const std::string& end = "") {
 
 std::vector<test::Told> ToldOf(const std::string& bytes) {
   orvane::TRCDocument document;
-  const auto read = test::LendingTrc(bytes);
-  return test::AllTold(CheckTrc("walk.trc", bytes, read, document).findings);
+  test::Blocks lines(bytes, 0, 1);  // each line takes the place of the last one
+  return test::AllTold(CheckTrc("walk.trc", lines, document).findings);
 }
 
 constexpr const char* kRefused = "The import refuses the file; the rest of it is not checked.";

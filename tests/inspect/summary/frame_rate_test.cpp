@@ -61,11 +61,18 @@ TEST(FrameRate, IsPositiveOrNone) {
 TEST(FrameRate, IsReadFromTheHeaderOfAFile) {
   test::TrcText text{.markers = {"Head"}, .frames = {{"1\t2\t3"}}};
   text.data_rate = "59.94";
-  EXPECT_EQ(FrameRateOfTrc(text.Text()), (FrameRate{2997, 50}));
-  EXPECT_EQ(FrameRateOfTrc("nothing"), std::nullopt);
-  EXPECT_EQ(FrameRateOfHtr("[Header]\nDataFrameRate 60\nDataFrameRate 119.88\n"),
-            (FrameRate{2997, 25}));
-  EXPECT_EQ(FrameRateOfHtr("[Header]\nNumFrames 3\n"), std::nullopt);
+  const auto of_trc = [](const std::string& bytes) {
+    MemorySource source(bytes);
+    return FrameRateOfTrc(source);
+  };
+  const auto of_htr = [](const std::string& bytes) {
+    MemorySource source(bytes);
+    return FrameRateOfHtr(source);
+  };
+  EXPECT_EQ(of_trc(text.Text()), (FrameRate{2997, 50}));
+  EXPECT_EQ(of_trc("nothing"), std::nullopt);
+  EXPECT_EQ(of_htr("[Header]\nDataFrameRate 60\nDataFrameRate 119.88\n"), (FrameRate{2997, 25}));
+  EXPECT_EQ(of_htr("[Header]\nNumFrames 3\n"), std::nullopt);
 }
 
 }  // namespace
