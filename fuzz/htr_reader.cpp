@@ -1,6 +1,7 @@
 // Bytes as a motion file: whatever they are, what is read is a sound document.
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "formats/htr/document_checker.h"
 #include "formats/htr/reader.h"
@@ -10,16 +11,18 @@
 
 namespace {
 
-// Every text that an observer is shown lies in the file, but for a parent's name, which is kept
-// until all segments are known.
+// Every text that an observer is shown stands in the file, where it is told to stand.
 class Watcher : public orvane::HtrReadObserver {
  public:
-  explicit Watcher(std::string_view bytes) : bytes_(bytes) {}
+  explicit Watcher(std::string_view bytes) : bytes_(bytes) {
+    for (std::size_t at = 0; at < bytes.size(); ++at) {
+      if (bytes[at] == '\n') line_starts_.push_back(at + 1);
+    }
+  }
 
-  void OnOddity(orvane::HtrOddity oddity, const orvane::HtrCell& cell,
+  void OnOddity(orvane::HtrOddity /*oddity*/, const orvane::HtrCell& cell,
                 std::string_view /*field*/) override {
-    if (oddity != orvane::HtrOddity::kParentNotFound) return Look(cell);
-    fuzz::Expect(bytes_.find(cell.text) != std::string_view::npos, "a parent is named in the file");
+    Look(cell);
   }
   void OnSection(orvane::HtrSection /*section*/, const orvane::HtrCell& name) override {
     Look(name);
@@ -34,17 +37,21 @@ class Watcher : public orvane::HtrReadObserver {
   }
   void OnBasePosition(const orvane::HtrCell& name) override { Look(name); }
   void OnFrame(const orvane::HtrCell& number) override { Look(number); }
+  void OnEnd(const orvane::HtrCell& end) override { Look(end); }
 
  private:
   void Look(const orvane::HtrCell& cell) const {
     fuzz::Expect(cell.line >= 1 && cell.column >= 1, "lines and columns count from 1");
     if (cell.text.empty()) return;
-    const char* const last = bytes_.data() + bytes_.size();
-    fuzz::Expect(cell.text.data() >= bytes_.data() && cell.text.data() + cell.text.size() <= last,
+    fuzz::Expect(cell.line <= line_starts_.size(), "a line is one of the file");
+    const std::size_t place = line_starts_[cell.line - 1] + cell.column - 1;
+    fuzz::Expect(place <= bytes_.size(), "a column is one of the file");
+    fuzz::Expect(bytes_.substr(place, cell.text.size()) == cell.text,
                  "a cell is a piece of the file");
   }
 
   std::string_view bytes_;
+  std::vector<std::size_t> line_starts_ = {0};
 };
 
 }  // namespace
