@@ -117,6 +117,10 @@ TEST_F(CheckForTest, OfASceneWithoutASelectionSaysSo) {
             "scene.glb: error: The scene has no node of the name that --select gives: \"Pelvis\". "
             "Nothing is exported; \"orvane scene\" lists the names. [export-select-unknown]\n"
             "scene.glb: 1 error for export\n");
+  EXPECT_EQ(Orvane({"check", "--for", "export", "scene.glb", "--select", "Hisp"}).output,
+            "scene.glb: error: The scene has no node of the name that --select gives: \"Hisp\". "
+            "Nothing is exported; did you mean \"Hips\"? [export-select-unknown]\n"
+            "scene.glb: 1 error for export\n");
 }
 
 TEST_F(CheckForTest, OfAFolderChecksTheScenesInIt) {
