@@ -178,7 +178,9 @@ DAMAGES = [
     ("decimal-comma", "trc-decimal-commas", change_field(FIRST_FRAME + 3, 5, b"170,5")),
     ("count-in-words", "trc-number-unreadable", change_field(VALUES, 2, b"many")),
     ("frame-with-fraction", "trc-number-cut", change_field(FIRST_FRAME + 3, 0, b"4.5")),
-    ("huge-number", "trc-number-out-of-range", change_field(FIRST_FRAME + 3, 5, b"1e999")),
+    ("huge-frame-number", "trc-number-out-of-range",
+     change_field(FIRST_FRAME + 3, 0, b"99999999999")),
+    ("huge-number", "trc-number-infinite", change_field(FIRST_FRAME + 3, 5, b"1e999")),
     # Frames
     ("tabs-for-the-blank-line", "trc-blank-line-tabs",
      change_line(FIRST_FRAME - 1, lambda line: b"\t" * 124)),

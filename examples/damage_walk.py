@@ -183,7 +183,8 @@ DAMAGES = [
     ("word-for-number", "htr-number-unreadable", change_cell(b"[Spine]", 10, 4, b"nan")),
     ("decimal-comma", "htr-decimal-commas", change_cell(b"[BasePosition]", 2, 2, b"170,5")),
     ("frame-with-fraction", "htr-number-cut", change_cell(b"[Spine]", 10, 0, b"11.5")),
-    ("huge-number", "htr-number-out-of-range", change_cell(b"[Spine]", 10, 1, b"1e999")),
+    ("huge-factor", "htr-number-out-of-range", change(b"ScaleFactor", b"ScaleFactor 1e999")),
+    ("huge-number", "htr-number-infinite", change_cell(b"[Spine]", 10, 1, b"1e999")),
     # Hierarchy
     ("no-segments", "htr-segments-missing", cut_behind(b"[SegmentNames", 0, b"[SegmentNames")),
     ("commas", "htr-tabs-missing", commas_for_tabs),

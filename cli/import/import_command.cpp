@@ -219,7 +219,7 @@ class Importing {
     if (!carried_out) throw NotCarriedOut(input_, kind_, std::move(complaints_));
     if (!told.has_errors) return;
     throw RefusedForErrors(manner, told.report, std::move(complaints_),
-                           "--no-report imports it anyway.");
+                           told.can_be_saved ? "--no-report imports it anyway." : "");
   }
 
   ImportedFile Describe(ToldImport told) const {

@@ -6,6 +6,7 @@
 #include "cli/import/asked_frames.h"
 #include "cli/import/inspection.h"
 #include "cli/import/measured_nodes.h"
+#include "inspect/report/finding_words.h"
 #include "inspect/report/frame_check.h"
 
 namespace cli {
@@ -80,6 +81,12 @@ FileReport ReportOnSelection(const CheckedFile& checked, const ImportOrder& orde
                   action);
 }
 
+// Whether every number of the file comes into the scene.
+bool IsOfAll(const ImportChoices& choices) {
+  return choices.animation && !choices.apply && !choices.range && !choices.cut &&
+         choices.scale == 1.0;
+}
+
 // What the import will make of what was seen of the file, and what is to be told of it; of the file
 // and the scene together in `of_scene`, too.
 ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host::Scene& scene,
@@ -105,6 +112,7 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
                          {.rate = choices.frame_rate_from_file,
                           .own_time = time.is_own,
                           .frames = inspection.asked,
+                          .all_numbers = IsOfAll(choices),
                           .gaps = told.gaps});
   if (choices.turned_up) told.report = told.report.Without("trc-up-axis");
   if (!manner.report.omitted && !inspection.refusal) {
@@ -141,6 +149,11 @@ ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
   }
   if (Forbids(telling, told.report)) throw ForbiddenByStrict(telling, told.report);
   told.has_errors = told.report.Count(orvane::FindingSeverity::kError) > 0;
+  told.can_be_saved = std::none_of(
+      told.report.findings.begin(), told.report.findings.end(), [](const auto& finding) {
+        return finding.severity == orvane::FindingSeverity::kError &&
+               orvane::FindMeaning(finding.code)->concern == orvane::Concern::kSaving;
+      });
   told.complaints = std::move(inspection.complaints);
   return told;
 }

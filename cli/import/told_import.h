@@ -24,6 +24,7 @@ namespace cli {
 struct ToldImport {
   orvane::FileReport report;
   bool has_errors = false;            // though the plug-in may take the file
+  bool can_be_saved = true;           // as far as these errors say
   std::vector<Complaint> complaints;  // of the file and the scene together, not told yet
   orvane::FrameSpan keyed;            // the frames of the file that get keys
   std::string changed;                // the bytes to import, when they are not those of the file

@@ -16,6 +16,8 @@ namespace orvane::htr {
 namespace {
 
 constexpr const char* kRefused = "The import refuses the file; the rest of it is not checked.";
+constexpr const char* kCannotBeSaved =
+    "It is taken as infinite: a scene that it gets into cannot be saved.";
 constexpr std::string_view kFrameColumn = "Frame";
 
 bool IsWhole(std::string_view field) {
@@ -66,7 +68,7 @@ std::string TakenNumber(const MetHtrOddity& met) {
   const bool is_finite = IsLength(met.field) ? FitsSinglePrecision(value) : std::isfinite(value);
   if (is_finite) return FormatShortest(value) + " is taken.";
   if (IsFactor(met.field)) return "It is taken as infinite; the import does not use it.";
-  return "It is taken as infinite: a scene that it gets into cannot be saved.";
+  return kCannotBeSaved;
 }
 
 std::string ExpectedValue(const MetHtrOddity& met) {
@@ -189,10 +191,20 @@ FindingPlace PlaceToTell(const MetHtrOddity& met) {
   return is_count && announced ? PlaceOf(*announced) : PlaceOf(met.cell);
 }
 
+// Of a number that comes into a scene.
+void AddInfinite(const MetHtrOddity& met, FindingList& findings) {
+  findings.Add(Rule("htr-number-infinite"), PlaceOf(met.cell), [&met] {
+    return FindingWords{Quoted(met), ExpectedInRange(met), kCannotBeSaved};
+  });
+}
+
 }  // namespace
 
 void AddOddity(const MetHtrOddity& met, FindingList& findings) {
-  if (met.oddity == HtrOddity::kNumberOutOfBounds && MayBeSoLarge(met)) return;
+  if (met.oddity == HtrOddity::kNumberOutOfBounds) {
+    if (MayBeSoLarge(met)) return;
+    if (!IsWhole(met.field) && !IsFactor(met.field)) return AddInfinite(met, findings);
+  }
   orvane::AddOddity(kRows, met, PlaceToTell(met), findings);
 }
 

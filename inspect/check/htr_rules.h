@@ -63,6 +63,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"htr-number-unreadable", FindingSeverity::kWarning},
     {"htr-number-cut", FindingSeverity::kWarning},
     {"htr-number-out-of-range", FindingSeverity::kWarning},
+    {"htr-number-infinite", FindingSeverity::kWarning},
 
     // Hierarchy
     {"htr-segments-missing", FindingSeverity::kError},

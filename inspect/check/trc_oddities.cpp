@@ -12,6 +12,9 @@
 namespace orvane::trc {
 namespace {
 
+constexpr const char* kCannotBeSaved =
+    "It is taken as infinite: a scene that it gets into cannot be saved.";
+
 bool IsFrameNumber(const MetTrcOddity& met) { return met.in_frames && met.place.field == 1; }
 
 bool IsWhole(const MetTrcOddity& met) { return !met.in_frames || IsFrameNumber(met); }
@@ -30,7 +33,7 @@ std::string TakenNumber(const MetTrcOddity& met) {
   if (IsWhole(met)) return FormatInt(ParseInt(met.text)) + " is taken.";
   const double value = ParseDouble(met.text);
   if (FitsSinglePrecision(value)) return FormatShortest(value) + " is taken.";
-  return "It is taken as infinite: a scene that it gets into cannot be saved.";
+  return kCannotBeSaved;
 }
 
 std::string MarkersHeld(const MetTrcOddity& met) { return CountOf(met.markers, "marker"); }
@@ -110,9 +113,19 @@ constexpr auto kRows = std::to_array<OddityRow<TRCOddity, MetTrcOddity>>({
      "The number is ignored: frames follow each other as their lines do."},
 });
 
+// Of a number that comes into a scene.
+void AddInfinite(const MetTrcOddity& met, FindingList& findings) {
+  findings.Add(Rule("trc-number-infinite"), met.place, [&met] {
+    return FindingWords{Quoted(met), "a finite number", kCannotBeSaved};
+  });
+}
+
 }  // namespace
 
 void AddOddity(const MetTrcOddity& met, FindingList& findings) {
+  if (met.oddity == TRCOddity::kNumberOutOfBounds && !IsWhole(met)) {
+    return AddInfinite(met, findings);
+  }
   orvane::AddOddity(kRows, met, met.place, findings);
 }
 

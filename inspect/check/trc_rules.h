@@ -62,6 +62,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-number-unreadable", FindingSeverity::kWarning},
     {"trc-number-cut", FindingSeverity::kWarning},
     {"trc-number-out-of-range", FindingSeverity::kWarning},
+    {"trc-number-infinite", FindingSeverity::kWarning},
 
     // Frames
     {"trc-blank-line-tabs", FindingSeverity::kWarning},

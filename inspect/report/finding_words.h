@@ -74,7 +74,12 @@ enum class Concern {
   kExcess,   // far more frames announced than are there
   kMarkers,  // that no marker is left
   kSamples,  // of a marker that may be dropped
+  kSaving,   // numbers with which what they come into cannot be saved
 };
+
+// Of a number that is infinite in a scene.
+inline constexpr char kCannotBeSaved[] =
+    "It is taken as infinite: a scene that it gets into cannot be saved.";
 
 // Of a rate that viewers are told, and the host's time does not hold.
 inline constexpr char kShownOwnRate[] = "{scene} Viewers play the rate of the file.";

@@ -121,6 +121,11 @@ constexpr FindingMeaning kWords[] = {
     {"htr-number-out-of-range", "A number is out of range", "{count} numbers are out of range",
      InMotion(kWarning).But(Action::kInspect, kWarning,
                             "The nearest number that there is is taken, or an infinite one.")},
+    {"htr-number-infinite", "A number is too large", "{count} numbers are too large",
+     InMotion(kError, kCannotBeSaved)
+         .But(Action::kInspect, kWarning, "It is taken as infinite.")
+         .But(Action::kApply, kWarning, kCannotBeSaved),
+     Concern::kSaving},
     {"htr-segments-missing", "The file holds no segments", nullptr,
      InMotion(kError, "There is nothing to import.")
          .But(Action::kInspect, kError, "There is nothing to show.")},

@@ -109,6 +109,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
   if (words.concern == Concern::kSamples && !options.all_markers) {
     return {words.effects[action].severity, "Where such a marker is kept, DROPOUT is written."};
   }
+  if (words.concern == Concern::kSaving && !options.all_numbers) {
+    return {FindingSeverity::kWarning, words.effects[action].consequence};
+  }
   if (words.by_gaps != nullptr && options.gaps) {
     return (*words.by_gaps)[static_cast<std::size_t>(*options.gaps)];
   }
@@ -116,8 +119,9 @@ FindingEffect EffectOn(const FindingMeaning& words, Action action, const ActionO
 }
 
 // What is told of nothing but lines behind the announced frames.
-FindingEffect WhenBehind(const FindingEffect& effect) {
-  if (effect.severity != FindingSeverity::kWarning) return effect;
+FindingEffect WhenBehind(const FindingEffect& effect, Concern concern) {
+  const bool is_of_all = effect.severity == FindingSeverity::kError && concern != Concern::kSaving;
+  if (is_of_all || effect.severity == FindingSeverity::kNote) return effect;
   return {FindingSeverity::kNote,
           "It stands behind the frames that the header announces, and does not come out."};
 }
@@ -189,7 +193,7 @@ std::vector<std::string> NamesIn(const CodeFindings& group) {
 
 ReportedFinding Reported(const CodeFindings& group, Action action, const ActionOptions& options) {
   const FindingEffect asked = EffectOn(*group.words, action, options);
-  const FindingEffect effect = group.comes_out ? asked : WhenBehind(asked);
+  const FindingEffect effect = group.comes_out ? asked : WhenBehind(asked, group.words->concern);
   const Finding& first = *group.kept.front();
   return {group.words->code,
           *effect.severity,

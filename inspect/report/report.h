@@ -65,6 +65,7 @@ struct ActionOptions {
   AskedFrames frames = AskedFrames::kAnnounced;
   bool markers = true;              // at least one marker
   bool all_markers = true;          // every marker: none is dropped
+  bool all_numbers = true;          // every number: none is left out, or goes to nobody
   std::optional<ShownGaps> gaps{};  // nothing when nobody has said
 };
 

@@ -149,12 +149,14 @@ constexpr FindingMeaning kWords[] = {
     {"trc-number-cut", "A whole number has a fraction", "{count} whole numbers have fractions",
      InMarkers(kWarning, "The fraction is cut off.")},
     {"trc-number-out-of-range", "A number is out of range", "{count} numbers are out of range",
-     InMarkers(kWarning)
-         .But(Action::kInspect, kWarning,
-              "The nearest number that there is is taken, or an infinite one.")
-         .But(Action::kConvert, kWarning,
-              "The nearest whole number is taken; a position is written in all its digits, or as "
-              "inf.")},
+     InMarkers(kWarning).But(Action::kInspect, kWarning,
+                             "The nearest number that there is is taken.")},
+    {"trc-number-infinite", "A number is too large", "{count} numbers are too large",
+     InMarkers(kError, kCannotBeSaved)
+         .But(Action::kInspect, kWarning, "It is taken as infinite.")
+         .But(Action::kApply, kWarning, kCannotBeSaved)
+         .But(Action::kConvert, kWarning, "It is written in all its digits, or as inf."),
+     Concern::kSaving},
     {"trc-blank-line-tabs", "A line of tabs stands where the blank line belongs", nullptr,
      InMarkers(kWarning,
                "It is the first frame, without positions: every sample comes a frame late.")},

@@ -217,13 +217,24 @@ TEST_F(BadInputTest, ANumberTooLargeIsShownAsNullAndCannotBeSaved) {
   EXPECT_EQ(info.status, 0);
   const auto frame = nlohmann::json::parse(info.output)["segments"][0]["frames"][1];
   EXPECT_TRUE(frame[0].is_null());
-  const ProgramResult import = Orvane({"import", "walk.htr", "-o", "scene.glb"});
-  EXPECT_EQ(import.status, 1);
-  EXPECT_THAT(import.error, HasSubstr(" [htr-number-out-of-range]\n"
-                                      "orvane: walk.htr: Node \"Hips\" cannot be saved: "));
-  EXPECT_THAT(import.error,
-              testing::EndsWith("\n  A number of the file, or that of --scale, --size or "
-                                "--segment-size, is too large.\n"));
+  const std::vector<std::pair<std::vector<std::string>, std::string>> rows = {
+      {{},
+       "[htr-number-infinite]\norvane: walk.htr: nothing was written because of "
+       "htr-number-infinite\n"},
+      {{"--dry-run"},
+       "[htr-number-infinite]\norvane: walk.htr: nothing would be written because of "
+       "htr-number-infinite\n"},
+      {{"--no-report"},
+       "orvane: walk.htr: Node \"Hips\" cannot be saved: its position at tick 160 is "
+       "not finite.\n  A number of the file, or that of --scale, --size or "
+       "--segment-size, is too large.\n"}};
+  for (const auto& [flags, told] : rows) {
+    std::vector<std::string> arguments = {"import", "walk.htr", "-o", "scene.glb"};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    const ProgramResult import = Orvane(arguments);
+    EXPECT_EQ(import.status, 1);
+    EXPECT_THAT(import.error, testing::EndsWith(told));
+  }
   EXPECT_THAT(Names(), ElementsAre("walk.htr"));
 }
 

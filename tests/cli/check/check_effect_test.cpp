@@ -2,6 +2,7 @@
 
 #include "tests/cli/orvane_test.h"
 #include "tests/support/htr_text.h"
+#include "tests/support/trc_text.h"
 
 // That the check of motion files says what the import really makes of them.
 
@@ -28,10 +29,10 @@ TEST_F(CheckEffectTest, ANumberOutOfItsRangeIsToldTheRange) {
               "found \"3000000000\", expected a whole number from -2147483648 to 2147483647 for "
               "NumSegments [htr-number-out-of-range]\n  2147483647 is taken."},
         Range{"2 10 0", "2 -1e999 0",
-              "found \"-1e999\", expected a finite number for Tx [htr-number-out-of-range]\n  It "
+              "found \"-1e999\", expected a finite number for Tx [htr-number-infinite]\n  It "
               "is taken as infinite: a scene that it gets into cannot be saved."},
         Range{"2 10 0", "2 1e39 0",
-              "found \"1e39\", expected a finite number for Tx [htr-number-out-of-range]\n  It is "
+              "found \"1e39\", expected a finite number for Tx [htr-number-infinite]\n  It is "
               "taken as infinite: a scene that it gets into cannot be saved."},
         Range{"2 10 0 0 0 0 90 1", "2 10 0 0 0 0 90 1e999",
               "found \"1e999\", expected a finite number for BoneScaleFactor "
@@ -64,6 +65,12 @@ TEST_F(CheckEffectTest, WithoutAnnouncedFramesNoImportTakesAFile) {
   }
 }
 
+// A number that a scene gets, or one that it does not.
+bool HasInfinite(const std::string& told) {
+  return told.find("[htr-number-infinite]") != std::string::npos ||
+         told.find("[htr-number-out-of-range]") != std::string::npos;
+}
+
 // A scene has single precision; angles come into it only by their sines.
 TEST_F(CheckEffectTest, LengthsOfWhichASceneCannotBeSavedAreToldOf) {
   struct Large {
@@ -80,11 +87,12 @@ TEST_F(CheckEffectTest, LengthsOfWhichASceneCannotBeSavedAreToldOf) {
                              {"0 90 1", "0 1e999 1", true}}) {
     Write("large.htr", Replaced(SmallMotion(), large.from, large.to));
     const std::string told = Orvane({"check", "large.htr"}).output;
-    EXPECT_EQ(told.find("[htr-number-out-of-range]") != std::string::npos, large.is_told)
-        << large.to;
-    EXPECT_EQ(Orvane({"import", "large.htr", "-o", "large.glb", "--force"}).status,
-              large.is_told ? 1 : 0)
-        << large.to;
+    EXPECT_EQ(HasInfinite(told), large.is_told) << large.to;
+    for (const std::vector<std::string>& arguments :
+         {std::vector<std::string>{"import", "large.htr", "-o", "large.glb", "--force"},
+          {"check", "large.htr", "--for", "import", "--max-severity", "warning"}}) {
+      EXPECT_EQ(Orvane(arguments).status, large.is_told ? 1 : 0) << large.to;
+    }
   }
 }
 
@@ -112,6 +120,32 @@ TEST_F(CheckEffectTest, AnAxisOfGravityThatNobodyLooksAtIsNotKeptSilent) {
             "z.htr:11:21: warning: found \"Z\", expected Y [htr-axis-ignored]\n"
             "  The import takes Y for up all the same: the skeleton will lie down.\n"
             "z.htr: 1 warning\n");
+}
+
+// A look ahead is of the whole file; what is not imported cannot keep a scene from being saved.
+TEST_F(CheckEffectTest, ANumberThatIsNotImportedRefusesNoImport) {
+  Write("large.htr", Replaced(SmallMotion(), "2 10 0", "2 1e39 0"));
+  Write("large.trc",
+        test::TrcText{.markers = {"Head"}, .frames = {{"1\t2\t3"}, {"1e39\t2\t3"}}}.Text());
+  for (const std::string file : {"large.htr", "large.trc"}) {
+    EXPECT_THAT(Orvane({"check", file, "--for", "import"}).output,
+                HasSubstr("error: A number is too large: \"1e39\""));
+    const std::vector<std::string> import = {"import", file, "-o", "large.glb", "--force"};
+    EXPECT_EQ(Orvane(import).status, 1);
+    for (const std::vector<std::string>& flags :
+         {std::vector<std::string>{"--range", "1:1"}, {"--cut", "1:1"}}) {
+      std::vector<std::string> arguments = import;
+      arguments.insert(arguments.end(), flags.begin(), flags.end());
+      EXPECT_EQ(Orvane(arguments).status, 0) << file;
+    }
+  }
+  Write(
+      "behind.trc",
+      test::TrcText{.markers = {"Head"}, .frames = {{"1\t2\t3"}, {"1e39\t2\t3"}}, .frame_count = 1}
+          .Text());
+  EXPECT_EQ(Orvane({"check", "behind.trc", "--for", "import", "--max-severity", "warning"}).status,
+            0);
+  EXPECT_EQ(Orvane({"import", "behind.trc", "-o", "behind.glb"}).status, 0);
 }
 
 }  // namespace

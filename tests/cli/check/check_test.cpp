@@ -207,7 +207,7 @@ INSTANTIATE_TEST_SUITE_P(
                "NumFrames 3\n",
                "",
                {"1:2 warning htr-keyword-missing", "1:2 error htr-frames-unannounced"}},
-        Damage{"TooLarge", "2 10 0", "2 -1e999 0", {"22:3 warning htr-number-out-of-range"}}));
+        Damage{"TooLarge", "2 10 0", "2 -1e999 0", {"22:3 warning htr-number-infinite"}}));
 
 INSTANTIATE_TEST_SUITE_P(
     Hierarchy, CheckedDamageTest,

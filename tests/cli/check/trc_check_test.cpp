@@ -121,7 +121,7 @@ INSTANTIATE_TEST_SUITE_P(
         Damage{"NumberTooLargeForAScene",
                "7\t8\t9",
                "7\t1e39\t9",
-               {"9:11 warning trc-number-out-of-range"}},
+               {"9:11 warning trc-number-infinite"}},
         Damage{"FrameNumberWithoutUse",
                "3\t0.000",
                "5.5\t0.000",

@@ -250,7 +250,7 @@ TEST_F(CompareTest, JsonTellsEveryDifferenceOfTheStructure) {
 TEST_F(CompareTest, WhatIsNoNumberIsADifference) {
   Write("a.htr", Replaced(SmallMotion(), "2 10 0 0 0 0 90 1", "2 1e999 0 0 0 0 90 1"));
   Write("b.htr", Read("a.htr"));
-  told_ = {"htr-number-out-of-range", "htr-number-out-of-range"};
+  told_ = {"htr-number-infinite", "htr-number-infinite"};
   EXPECT_THAT(Page(1), HasSubstr("inf mm at the most, inf on average; Hips in frame 2\n"));
   EXPECT_TRUE(Json(1)["position_mm"]["largest"].is_null());
 }

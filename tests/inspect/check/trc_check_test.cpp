@@ -306,7 +306,7 @@ const std::vector<CheckRow> kRows = {
       "3 is taken; only the first of a file is used."}},
     {"CoordinateTooLarge",
      Damaged("7\t8\t9", "7\t1e39\t9"),
-     {"9:11 warning trc-number-out-of-range", "\"1e39\"", "a number", kInfinite}},
+     {"9:11 warning trc-number-infinite", "\"1e39\"", "a finite number", kInfinite}},
     {"HeaderNumberTooLarge",
      Damaged("60\t60\t3", "60\t99999999999\t3"),
      {"3:4 warning trc-number-out-of-range", "\"99999999999\"", "a whole number",

@@ -178,17 +178,18 @@ TEST(Report, PutsTheWorstFirst) {
 
 TEST(Report, TellsEachConsequenceOnceAndThreeAtMost) {
   const TrcText text{.markers = {"Head"},
-                     .frames = {{"1e999\t2\t3"}, {"1\t1e999\t3"}},
+                     .frames = {{"1\t2\t3"}, {"1\t2\t3"}},
                      .data_rate = "60",
                      .camera_rate = "60"};
   std::string bytes = text.Text();
   bytes.replace(bytes.find("\t2\t1\tmm"), 4, "\t6e9\t7e9");
+  bytes.replace(bytes.find("\n1\t") + 1, 1, "8e9");
+  bytes.replace(bytes.find("\n2\t") + 1, 1, "9e9");
   const ReportedFinding finding =
       Find(ReportOn(CheckTrc("walk.trc", bytes), Action::kImport), "trc-number-out-of-range");
   EXPECT_EQ(finding.count, 4U);
   EXPECT_EQ(finding.consequence,
-            "6 is taken. 7 is taken. It is taken as infinite: a scene that it gets into cannot be "
-            "saved.");
+            "6 is taken. 7 is taken. 8 is taken; only the first of a file is used.");
 }
 
 // --- What is not asked for ---
