@@ -24,7 +24,8 @@ void CheckCut(const FrameSpan& asked, const FrameSpan& held, CheckedFile& checke
   if (both.Count() == asked.Count()) return;
   checked.findings.Add(FindRule(cutting::kRules, "cut-range-partly"), kNoPlace,
                        {FormatInt(asked.Count() - both.Count()), FormatInt(asked.Count()),
-                        "The frames " + TextOf(both) + " are taken."});
+                        both.Count() == 1 ? "Frame " + FormatInt(both.first) + " is taken."
+                                          : "The frames " + TextOf(both) + " are taken."});
 }
 
 }  // namespace orvane

@@ -13,7 +13,7 @@ constexpr FindingEffects Cut(FindingSeverity severity) {
 constexpr FindingMeaning kWords[] = {
     {"cut-range-outside", "--cut asks for the frames {found}, and the file has {expected}", nullptr,
      Cut(kError)},
-    {"cut-range-partly", "{found} of the {expected} frames that --cut asks for are not in the file",
+    {"cut-range-partly", "--cut asks for {expected} frames, and the file lacks {found} of them",
      nullptr, Cut(kWarning)},
 };
 

@@ -58,8 +58,8 @@ TEST_F(ConvertCutTest, WorksOnManyByTheNumbersOfEach) {
       Convert({"takes/a.trc", "takes/b.trc", "takes/c.trc", "--cut", "3:4"});
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error,
-              HasSubstr("orvane: takes/a.trc: warning: 1 of the 2 frames that --cut asks for are "
-                        "not in the file. The frames 3 to 3 are taken. [cut-range-partly]\n"));
+              HasSubstr("orvane: takes/a.trc: warning: --cut asks for 2 frames, and the file "
+                        "lacks 1 of them. Frame 3 is taken. [cut-range-partly]\n"));
   EXPECT_THAT(result.error, HasSubstr("orvane: takes/c.trc: --cut asks for the frames 3 to 4, and "
                                       "the file has 100 to 102\n"));
   EXPECT_THAT(result.error, Not(HasSubstr("[cut-range-outside]")));

@@ -90,8 +90,8 @@ TEST_F(ImportCutTest, OfFramesThatTheFileHasInPartIsAWarning) {
   const ProgramResult result = Import("take.trc", {"--cut", "230:240"});
   EXPECT_EQ(result.status, 0);
   EXPECT_THAT(result.error,
-              HasSubstr("orvane: take.trc: warning: 9 of the 11 frames that --cut asks for are not "
-                        "in the file. The frames 230 to 231 are taken. [cut-range-partly]\n"));
+              HasSubstr("orvane: take.trc: warning: --cut asks for 11 frames, and the file lacks 9 "
+                        "of them. The frames 230 to 231 are taken. [cut-range-partly]\n"));
   EXPECT_EQ(KeyedFrames(), (std::vector<int>{230, 231}));
   EXPECT_EQ(Import("take.trc", {"--cut", "230:240", "--strict"}).status, 1);
 }

@@ -201,8 +201,8 @@ TEST_F(ImportTrcTest, ARangeThatIsPartlyInTheFileIsAWarningWithACount) {
   const ProgramResult result = ImportText(text.Text(), {"--range", "2:6"});
   EXPECT_EQ(result.status, 0);
   EXPECT_EQ(result.error,
-            "orvane: walk.trc: warning: 3 of the 5 frames that --range asks for are not in the "
-            "file. There every marker goes to the origin; the file has the frames 1 to 3. "
+            "orvane: walk.trc: warning: --range asks for 5 frames, and the file lacks 3 of them. "
+            "There every marker goes to the origin; the file has the frames 1 to 3. "
             "[apply-range-partly]\n");
 }
 

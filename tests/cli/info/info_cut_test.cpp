@@ -142,8 +142,8 @@ TEST_F(InfoCutTest, TellsOfFramesThatAreNotThere) {
   for (const std::string file : {"take0.trc", "take1.htr"}) {
     const std::string part =
         "orvane: " + file +
-        ": warning: 2 of the 3 frames that --cut asks for are not in the file. The frames 231 to "
-        "231 are taken. [cut-range-partly]\n";
+        ": warning: --cut asks for 3 frames, and the file lacks 2 of them. Frame 231 is "
+        "taken. [cut-range-partly]\n";
     const ProgramResult partly = Orvane({"info", file, "--cut", "231:233"});
     EXPECT_EQ(partly.status, 0);
     EXPECT_THAT(partly.error, HasSubstr(part));

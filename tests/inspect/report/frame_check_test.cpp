@@ -66,7 +66,7 @@ INSTANTIATE_TEST_SUITE_P(
                         [](FrameCircumstances& frames) {
                           frames.asked = FrameSpan{73, 80};
                         },
-                        {"7 of the 8 frames that --range asks for are not in the file"}},
+                        {"--range asks for 8 frames, and the file lacks 7 of them"}},
                     Row{"NothingHeld",
                         [](FrameCircumstances& frames) {
                           frames.held.reset();
