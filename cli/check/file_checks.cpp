@@ -8,6 +8,7 @@
 #include "cli/common/input.h"
 #include "cli/common/input_files.h"
 #include "cli/common/input_source.h"
+#include "cli/common/reading_memory.h"
 #include "host/base/letter_case.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
@@ -22,6 +23,7 @@ using orvane::CheckFailure;
 // What `check` says of `file`. Throws a Failure when it cannot be read, or nothing can be said.
 template <typename Check>
 CheckedFile CheckOrFail(const InputFile& file, const Check& check) {
+  ExpectReading(file.path);
   try {
     return check(file);
   } catch (const CheckFailure& failure) {

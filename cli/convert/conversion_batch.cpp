@@ -14,6 +14,7 @@
 #include "cli/common/input.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
+#include "cli/common/reading_memory.h"
 #include "cli/common/scratch_copy.h"
 #include "cli/convert/batch_log_reader.h"
 #include "cli/convert/changed_input.h"
@@ -60,6 +61,7 @@ class BatchConversion {
  private:
   void ConvertAll() {
     platform::HoldInterrupts();  // what is unfinished has to be put away
+    for (const Conversion& conversion : result_.conversions) ExpectReading(conversion.source);
     LoadMapping(order_.mapping, naming_);
     for (Conversion& conversion : result_.conversions) {
       if (!platform::Interrupted()) Judge(conversion);

@@ -12,6 +12,7 @@
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/reading_memory.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
 #include "cli/export/export_htr_flags.h"
@@ -98,6 +99,7 @@ ExitStatus Export(const ExportArguments& arguments) {
   MotionOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, arguments.settings);
   const host::Scene& scene = session.scene();
+  ExpectReading(arguments.input);
   ReadSceneFile(arguments.input, session.scene());
   const SelectionMade selection = Select(session.scene(), arguments.selection);
   std::vector<Complaint> complaints = selection.complaints;

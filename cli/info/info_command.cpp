@@ -12,6 +12,7 @@
 #include "cli/common/input_files.h"
 #include "cli/common/json_writer.h"
 #include "cli/common/messages.h"
+#include "cli/common/reading_memory.h"
 #include "cli/common/told_reading.h"
 #include "cli/info/info_report.h"
 #include "cli/info/info_table.h"
@@ -38,6 +39,7 @@ struct InfoArguments {
 void ReadInfo(const InputFile& file, const InfoArguments& arguments, const ReportManner& manner,
               InfoReport& report) {
   report.file = file.name;
+  ExpectReading(file.path);
   const Motion motion = arguments.hierarchy_only ? Motion::kLeftOut : Motion::kRead;
   report.findings = ReadAndTell(report.document, file, motion, manner, {}, arguments.cut);
   report.hierarchy = ListHierarchy(report.document);

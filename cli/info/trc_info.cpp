@@ -1,6 +1,7 @@
 #include "cli/info/trc_info.h"
 
 #include "cli/common/input_source.h"
+#include "cli/common/reading_memory.h"
 #include "cli/common/told_reading.h"
 #include "formats/trc/outline.h"
 
@@ -42,6 +43,7 @@ void ReadRateTexts(const InputFile& file, TrcInfoReport& report) {
 void ReadTrcInfo(const InputFile& file, const ReportManner& manner,
                  const std::optional<orvane::FrameSpan>& cut, TrcInfoReport& report) {
   report.file = file.name;
+  ExpectReading(file.path);
   report.findings = ReadAndTell(report.document, file, manner, {}, cut);
   ReadRateTexts(file, report);
   report.subject = orvane::MeasureSubject(report.document);
