@@ -147,7 +147,7 @@ void ReportOnInput(Conversion& conversion, const ConversionOrder& order, TrcLook
   if (is_planned && Forbids(order.report, conversion.report)) RefuseStrictly(conversion, order);
 }
 
-// Of a file whose rates are its own.
+// By the names and the counts of a file that the reader takes.
 void JudgeHeader(Conversion& conversion, const ConversionOrder& order, const MarkerNaming& naming,
                  const TrcLook& look) {
   if (!look.refusal.empty()) return;
