@@ -31,6 +31,11 @@ std::string WhereFieldsBelong(std::string_view line) {
 constexpr std::array kFollowFromMisfit = {Rule("trc-frame-short"), Rule("trc-value-extra"),
                                           Rule("trc-sample-without-x"), Rule("trc-number-missing")};
 
+// Whether it is told of names, whatever becomes of their line.
+bool IsOfName(std::string_view code) {
+  return code == Rule("trc-name-encoding").code || code == Rule("trc-name-with-blank").code;
+}
+
 // Whether a column with a name makes no marker.
 bool DropsColumn(TRCOddity oddity) {
   return oddity == TRCOddity::kMarkerNameLost || oddity == TRCOddity::kUnnamedColumnDropped ||
@@ -199,14 +204,14 @@ void TrcFindingsObserver::OnMarker(TRCPlace place, std::string_view name) {
 
 void TrcFindingsObserver::CheckName(TRCPlace place, std::string_view name) {
   if (!IsUtf8(name)) {
-    findings_.Add(Rule("trc-name-encoding"), place, [name] {
+    FindingsAt(place).Add(Rule("trc-name-encoding"), place, [name] {
       return FindingWords{Quote(name), "a name in ASCII or UTF-8",
                           "Its bytes are kept, and most programs will not show them as letters."};
     });
   }
   if (parts_.layout.misplaced_name || name.find_first_of(" \v\f\r") == std::string_view::npos)
     return;
-  findings_.Add(Rule("trc-name-with-blank"), place, [name] {
+  FindingsAt(place).Add(Rule("trc-name-with-blank"), place, [name] {
     return FindingWords{Quote(name), "a name of one word",
                         "It is kept; in a converted file it reads as several names."};
   });
@@ -220,15 +225,18 @@ void TrcFindingsObserver::OnHeaderLine(std::size_t number, const Line& line) {
   if (!IsFrame(line, number)) TakeOtherLine(line);
 }
 
-// The last piece of names or headings may be the frame of tabs, from which all that is told of that
-// line follows.
+// The last piece of names or headings may be the frame of tabs, from which all else that is told
+// of that line follows.
 void TrcFindingsObserver::LeaveLongLine() {
   const auto& tabs = parts_.layout.frame_of_tabs;
   if (tabs && tabs->line == long_line_) {
     columns_.ForgetRepeated(long_line_);
-  } else {
-    findings_.Append(in_long_line_);
+    const auto totals = in_long_line_.Totals();
+    for (const auto& [code, total] : totals) {
+      if (!IsOfName(code)) in_long_line_.Remove({code, total.severity});
+    }
   }
+  findings_.Append(in_long_line_);
   in_long_line_ = {};
   long_line_ = 0;
 }

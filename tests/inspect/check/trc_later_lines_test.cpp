@@ -85,6 +85,16 @@ TEST(TrcCheck, TellsOfTheNamesLineUnlessAPieceOfItIsAFrameOfTabs) {
   EXPECT_THAT(CodesIn(three_pieces), Contains("3:9 trc-marker-count"));
 }
 
+TEST(TrcCheck, TellsOfALongLineOfNamesInTheOrderOfReading) {
+  const std::string name = test::Replaced(ThreeFrames(), "RFHD\t\t\t\n",
+                                          "\rRFHD\t\t\t" + std::string(10300, '\t') + "\n");
+  std::vector<std::string> of_name;
+  for (const std::string& code : CodesIn(name)) {
+    if (code.starts_with("4:20 ")) of_name.push_back(code);
+  }
+  EXPECT_THAT(of_name, ElementsAre("4:20 trc-carriage-return", "4:20 trc-name-with-blank"));
+}
+
 TEST(TrcCheck, CountsAllNarrowFramesAndKeepsTheFirst) {
   test::TrcText text{.markers = {"LFHD", "RFHD"}, .frame_count = 60};
   for (int frame = 1; frame <= 600; ++frame) {
