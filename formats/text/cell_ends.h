@@ -41,6 +41,9 @@ class CellEnds {
     ends_[count_] = static_cast<std::uint16_t>(text.size());
   }
 
+  // How many separators there are.
+  [[nodiscard]] std::size_t Separators() const { return count_; }
+
   // The place of the separator behind cell `index`; the end of the line behind the last cell.
   // REQUIRES: there are as many separators before it.
   std::size_t operator[](std::size_t index) const { return ends_[index]; }

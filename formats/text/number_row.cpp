@@ -27,7 +27,7 @@ bool ReadDecimal(std::string_view cell, std::size_t& decimals, double& value) {
 }  // namespace
 
 bool ReadCell(std::string_view cell, std::size_t reach, std::size_t& decimals, double& value) {
-  if (reach >= kShortDecimalReach && ReadDecimal(cell, decimals, value)) return true;
+  if (reach >= kLongerDecimalReach && ReadDecimal(cell, decimals, value)) return true;
   const char* const end = cell.data() + cell.size();
   const LeadingDouble number = ReadDouble(cell.data(), end);
   if (number.end == end) {

@@ -89,6 +89,9 @@ class NumberRow {
     return line.substr(std::min(begin, line.size()));
   }
 
+  // How many cells the line has, an empty one at its end included.
+  [[nodiscard]] std::size_t CellsOfLine() const { return ends_.Separators() + 1; }
+
   // How many numbers were read.
   [[nodiscard]] std::size_t Count() const { return count_; }
 

@@ -48,7 +48,8 @@ inline constexpr std::array<Word, 9> kLast = {0,
 }  // namespace short_decimal
 
 // So many characters before the end of a cell are looked at, whatever they are.
-inline constexpr std::size_t kShortDecimalReach = 2 * kCharactersPerWord + 1;
+inline constexpr std::size_t kShortDecimalReach = kCharactersPerWord + 1;
+inline constexpr std::size_t kLongerDecimalReach = 2 * kCharactersPerWord + 1;
 
 // Reads the cell from `begin` up to `end`, with `decimals` digits behind its point, and eight at
 // most in all, into `value`, correctly rounded: digits and power of ten are exact. Returns false
@@ -71,7 +72,8 @@ inline constexpr std::size_t kShortDecimalReach = 2 * kCharactersPerWord + 1;
   return true;
 }
 
-// The same of 9 to 16 digits.
+// The same of 9 to 16 digits, of which no more than eight are on either side of the point.
+// REQUIRES: kLongerDecimalReach characters may be read.
 [[nodiscard]] bool ReadLongerDecimal(const char* begin, const char* end, std::size_t decimals,
                                      double& value);
 

@@ -150,7 +150,7 @@ void TRCReader::ReadFrame(const Line& line) {
 
 void TRCReader::TellFrame(const Line& line, bool is_ordinary) {
   const std::string_view number = TRCFields(line).Get();
-  oddities_.TellFrame({line, number, WidthOf(line.text)});
+  oddities_.TellFrame({line, number, WidthOf(line.text, numbers_.CellsOfLine())});
   if (!line.text.empty()) inspector_.InspectFrameNumber(number);
   if (!is_ordinary) inspector_.Inspect(line, document_.markers().size());
 }
@@ -173,7 +173,8 @@ bool TRCReader::ReadSamples(const Line& line) {
       continue;
     }
     is_ordinary = is_ordinary && !IsNoNumber(y) && !IsNoNumber(z);
-    marker.AppendDropouts(frames_read_ - marker.SampleCount());
+    const std::size_t missed = frames_read_ - marker.SampleCount();
+    if (missed > 0) marker.AppendDropouts(missed);
     marker.AppendPosition(x, NumberOrZero(y), NumberOrZero(z));
   }
   return is_ordinary;

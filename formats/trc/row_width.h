@@ -16,4 +16,7 @@ struct TRCRowWidth {
 // That of a line, `text`, which has no line break.
 [[nodiscard]] TRCRowWidth WidthOf(std::string_view text);
 
+// The same of one that is known to have so many `fields`.
+[[nodiscard]] TRCRowWidth WidthOf(std::string_view text, std::size_t fields);
+
 }  // namespace orvane
