@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <cstring>
-#include <utility>
+#include <span>
 
 namespace orvane {
 namespace {
@@ -66,16 +66,12 @@ std::size_t LineReader::FindLineFeed() {
 // Reads on behind the rest, which moves to the start of the buffer. Returns false at the end.
 bool LineReader::ReadBlock() {
   const std::size_t kept = rest_.size();
-  if (kept == capacity_) {
-    capacity_ = std::max(kBlock, 2 * capacity_);
-    std::unique_ptr<char[]> larger = std::make_unique_for_overwrite<char[]>(capacity_);
-    rest_.copy(larger.get(), kept);
-    buffer_ = std::move(larger);
-  } else if (rest_.data() != buffer_.get()) {
-    std::memmove(buffer_.get(), rest_.data(), kept);
+  if (kept > 0 && rest_.data() != buffer_.data()) {
+    std::memmove(buffer_.data(), rest_.data(), kept);
   }
-  const std::size_t count = source_->Read({buffer_.get() + kept, capacity_ - kept});
-  rest_ = {buffer_.get(), kept + count};
+  if (kept == buffer_.size()) buffer_.resize(std::max(kBlock, 2 * kept));
+  const std::size_t count = source_->Read(std::span(buffer_).subspan(kept));
+  rest_ = {buffer_.data(), kept + count};
   return count > 0;
 }
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include <cstddef>
-#include <memory>
 #include <string_view>
+#include <vector>
 
 #include "formats/text/byte_source.h"
 
@@ -62,8 +62,7 @@ class LineReader {
   [[nodiscard]] bool ReadBlock();
 
   ByteSource* source_ = nullptr;  // null when there is nothing left of it
-  std::unique_ptr<char[]> buffer_;
-  std::size_t capacity_ = 0;
+  std::vector<char> buffer_;  // of what is read of it
 
   std::string_view rest_;  // behind the current line's break, as far as it has been read
   std::size_t longest_piece_;
