@@ -2,8 +2,8 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
-#include <compare>
 #include <map>
+#include <tuple>
 
 #include "cli/common/choice.h"
 #include "cli/common/messages.h"
@@ -33,7 +33,10 @@ struct Difference {
   std::string mapped;
   bool is_case = false;  // of letters alone
 
-  auto operator<=>(const Difference&) const = default;
+  bool operator<(const Difference& other) const {
+    return std::tie(subject, mapped, is_case) <
+           std::tie(other.subject, other.mapped, other.is_case);
+  }
 };
 
 Difference DifferenceOf(const std::string& marker, const std::string& mapped) {

@@ -11,12 +11,12 @@
 
 #include "formats/htr/header_fields.h"
 #include "formats/htr/messages.h"
+#include "formats/htr/motion_lines.h"
 #include "formats/htr/oddities.h"
 #include "formats/htr/sections.h"
+#include "formats/htr/transform_row.h"
 #include "formats/text/files.h"
 #include "formats/text/lines.h"
-#include "formats/text/number_row.h"
-#include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/units/units.h"
 
@@ -25,19 +25,6 @@ namespace {
 
 constexpr std::array<std::string_view, 7> kBasePositionColumns = {"Tx", "Ty", "Tz",        "Rx",
                                                                   "Ry", "Rz", "BoneLength"};
-constexpr std::string_view kFrameColumn = "Frame";
-constexpr std::array<std::string_view, 7> kMotionColumns = {
-    "Tx", "Ty", "Tz", "Rx", "Ry", "Rz", "BoneScaleFactor"};
-
-// The numbers of a line, behind the name of a segment or the number of a frame: a translation,
-// three angles, and the length of the bone or its scale.
-constexpr std::size_t kNumbersOfALine = 7;
-constexpr std::size_t kTranslation = 0;
-constexpr std::size_t kAngles = 3;
-constexpr std::size_t kLast = 6;
-
-// A count that a file merely announces reserves no more frames than this.
-constexpr std::size_t kMostFramesReserved = 1 << 16;
 
 // Each base-position section links the hierarchy. Beyond this many links, and beyond one for each
 // byte of the file, no more are made: a file of such sections alone would fill the memory.
@@ -72,8 +59,8 @@ struct ParentName {
 // the reading.
 class HtrReader {
  public:
-  // With `counts`, frames are counted there and not read.
-  // `size` is how many bytes the lines have in all.
+  // `size` is how many bytes the lines have in all. With `counts`, frames are counted there and not
+  // read.
   HtrReader(HtrDocument& document, LineReader lines, std::size_t size, bool read_motion,
             HtrReadObserver* observer, HtrFrameCounts* counts = nullptr)
       : document_(document),
@@ -81,7 +68,7 @@ class HtrReader {
         most_links_(std::max(kLinksAlwaysMade, size)),
         read_motion_(read_motion),
         oddities_(observer),
-        counts_(counts) {}
+        motion_(document, oddities_, counts) {}
 
   std::string Read();
 
@@ -103,20 +90,12 @@ class HtrReader {
   void CheckSectionLine(std::string_view line);
   void EnterBasePosition(std::string_view section);
   void EnterMotion(std::string_view name);
-  void LeaveMotion();
   void LinkHierarchy(std::string_view section);
   void CheckIndentation(std::string_view line);
   std::string ReadDataLine(std::string_view line);
   std::string ReadHeaderLine(std::string_view line);
   std::string ReadHierarchyLine(std::string_view line);
   std::string ReadBasePositionLine(std::string_view line);
-  void ReadMotionLine(std::string_view line);
-  Vector3 VectorAt(std::size_t first, double factor) const;
-  void TellFrame(std::string_view line);
-  void CheckMotionLine(std::string_view line) const;
-  void CountFrame(std::string_view line);
-  void TakeStartFrame(std::int32_t frame_number);
-  void ReserveFor(std::string_view line);
   std::string Finish();
   void LookBehindTheEnd();
   void TellEnd();
@@ -126,20 +105,14 @@ class HtrReader {
   const std::size_t most_links_;
   const bool read_motion_;
   HtrOddities oddities_;
-  HtrFrameCounts* const counts_;  // null unless frames are only counted
+  MotionLines motion_;
 
   State state_ = State::kBeforeFirstSection;
   std::vector<ParentName> parent_names_;  // one for each segment
   std::size_t links_made_ = 0;
   std::int64_t segments_awaited_ = 0;  // announced by the header, less the base positions read
   double angle_factor_ = 1.0;
-  NumberRow<BlanksAndTabs> numbers_;  // of the current line
-
-  HtrSegment* segment_ = nullptr;  // of the current motion section; null for an unknown name
-  std::size_t* frames_counted_ = nullptr;  // of that segment, when frames are only counted
-  std::size_t frames_before_section_ = 0;
-  std::size_t frames_in_last_section_ = 0;
-  bool first_frame_read_ = false;
+  TransformRow row_;  // of base positions
 };
 
 std::string HtrReader::Read() {
@@ -184,7 +157,7 @@ std::string HtrReader::ReadLine(const Line& line) {
 }
 
 void HtrReader::EnterSection(std::string_view name) {
-  LeaveMotion();
+  motion_.Leave();
   TellSection(name);
   switch (SectionOf(name)) {
     case HtrSection::kHeader:
@@ -252,16 +225,7 @@ void HtrReader::EnterMotion(std::string_view name) {
     return;
   }
   state_ = State::kMotion;
-  segment_ = document_.FindSegment(name);
-  if (segment_ == nullptr) return oddities_.Report(HtrOddity::kUnknownSegmentSection, name);
-  frames_before_section_ = segment_->GetNumFrames();
-  if (counts_ != nullptr) frames_counted_ = &(*counts_)[segment_];
-}
-
-void HtrReader::LeaveMotion() {
-  if (segment_ == nullptr) return;
-  frames_in_last_section_ = segment_->GetNumFrames() - frames_before_section_;
-  segment_ = nullptr;
+  motion_.Enter(name);
 }
 
 void HtrReader::CheckIndentation(std::string_view line) {
@@ -282,7 +246,7 @@ std::string HtrReader::ReadDataLine(std::string_view line) {
     case State::kBasePosition:
       return ReadBasePositionLine(line);
     case State::kMotion:
-      ReadMotionLine(line);
+      motion_.Read(line, angle_factor_);
       break;
     case State::kStoppedBeforeMotion:
     case State::kEnded:
@@ -328,70 +292,19 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
     observer->OnBasePosition(oddities_.CellOf(name));
     oddities_.CheckNumbers(line, kBasePositionColumns);
   }
-  numbers_.Read(line, 0, kNumbersOfALine);
-  const Vector3 translation = VectorAt(kTranslation, 1.0);
-  const Vector3 angles = VectorAt(kAngles, angle_factor_);
+  row_.Read(line, 0);
+  const Vector3 translation = row_.Translation();
+  const Vector3 angles = row_.Angles(angle_factor_);
   segment->SetBaseTranslation(translation.x(), translation.y(), translation.z());
   segment->SetBaseRotation(angles.x(), angles.y(), angles.z());
-  segment->SetBoneLength(NumberOrZero(numbers_[kLast]));
+  segment->SetBoneLength(row_.LengthOrScale());
   // Intended: base positions are what is counted, not the lines of the hierarchy.
   --segments_awaited_;
   return {};
 }
 
-void HtrReader::ReadMotionLine(std::string_view line) {
-  if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
-  if (frames_counted_ != nullptr) return CountFrame(line);
-  if (oddities_.Observer() != nullptr) TellFrame(line);
-  if (segment_->GetNumFrames() == 0) ReserveFor(line);
-  const std::string_view rest = numbers_.Read(line, 1, kNumbersOfALine);
-  segment_->AddFrame(VectorAt(kTranslation, 1.0), VectorAt(kAngles, angle_factor_),
-                     NumberOrZero(numbers_[kLast]));
-  if (oddities_.Observer() == nullptr) return;
-  const bool is_ordinary =
-      numbers_.Count() == kNumbersOfALine && numbers_.AreOrdinary() && SkipSeparators(rest).empty();
-  if (!is_ordinary) CheckMotionLine(line);
-}
-
-// Three numbers of the line from `first` on, each times `factor`.
-Vector3 HtrReader::VectorAt(std::size_t first, double factor) const {
-  return Vector3(NumberOrZero(numbers_[first]) * factor, NumberOrZero(numbers_[first + 1]) * factor,
-                 NumberOrZero(numbers_[first + 2]) * factor);
-}
-
-void HtrReader::TellFrame(std::string_view line) {
-  const std::string_view number = TakeFirstToken(line);
-  oddities_.Observer()->OnFrame(oddities_.CellOf(number));
-  oddities_.CheckWholeNumber(number, kFrameColumn);
-}
-
-// A second look, so that reading need not wonder what is odd.
-void HtrReader::CheckMotionLine(std::string_view line) const {
-  static_cast<void>(TakeFirstToken(line));  // the frame number
-  oddities_.CheckNumbers(line, kMotionColumns);
-}
-
-void HtrReader::CountFrame(std::string_view line) {
-  if (!first_frame_read_) TakeStartFrame(ParseInt(TakeFirstToken(line)));
-  ++*frames_counted_;
-}
-
-// Intended: of all frame numbers in a file only the very first counts.
-void HtrReader::TakeStartFrame(std::int32_t frame_number) {
-  first_frame_read_ = true;
-  document_.SetStartFrame(frame_number);
-}
-
-// Makes room before the first line of a segment. Later segments follow what the last section really
-// held, so that room grows with the file and not with what it announces.
-void HtrReader::ReserveFor(std::string_view line) {
-  if (first_frame_read_) return segment_->ReserveFrames(frames_in_last_section_);
-  TakeStartFrame(ParseInt(TakeFirstToken(line)));
-  segment_->ReserveFrames(std::min<std::size_t>(document_.GetNumFrames(), kMostFramesReserved));
-}
-
 std::string HtrReader::Finish() {
-  LeaveMotion();
+  motion_.Leave();
   if (state_ == State::kStoppedBeforeMotion || segments_awaited_ == 0) return {};
   oddities_.Report(HtrOddity::kRefusedBasePositionCount, oddities_.EndOfLine());
   return kIncorrectSegmentCount;

@@ -66,9 +66,12 @@ std::optional<std::string> ReadFileBytes(const std::string& name) try {
   return std::nullopt;  // a name that the standard library cannot convert, or no memory
 }
 
-FileSource::FileSource(const std::string& name) try : is_open_(Open(name)) {
-} catch (const std::exception&) {
-  is_open_ = false;
+FileSource::FileSource(const std::string& name) {
+  try {
+    is_open_ = Open(name);
+  } catch (const std::exception&) {
+    is_open_ = false;  // a name that the standard library cannot convert, or no memory
+  }
 }
 
 bool FileSource::Open(const std::string& name) {
