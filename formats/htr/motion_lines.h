@@ -4,9 +4,9 @@
 #include <cstdint>
 #include <string_view>
 
+#include "formats/htr/counted_frames.h"
 #include "formats/htr/document.h"
 #include "formats/htr/oddities.h"
-#include "formats/htr/reader.h"
 #include "formats/htr/transform_row.h"
 
 // The lines of motion sections, each a frame of the section's segment. Belongs to the reader.

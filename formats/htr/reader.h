@@ -1,10 +1,9 @@
 #pragma once
 
-#include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 
+#include "formats/htr/counted_frames.h"
 #include "formats/htr/document.h"
 #include "formats/htr/read_observer.h"
 #include "formats/text/byte_source.h"
@@ -32,9 +31,6 @@ namespace orvane {
 // Reads the bytes of a file. Nothing in `document` refers to them afterwards.
 [[nodiscard]] std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes,
                                        bool read_motion, HtrReadObserver* observer = nullptr);
-
-// How many frames segments hold, by segment; those without frames may be missing.
-using HtrFrameCounts = std::unordered_map<const HtrSegment*, std::size_t>;
 
 // Reads a file as ReadHtrFile does with motion, but only counts the frames, which takes a fraction
 // of the time: the segments of `document` hold none, and `counts`, empty before, tells how many
