@@ -11,6 +11,12 @@ namespace {
 // the processor.
 constexpr std::size_t kBlock = std::size_t{256} * 1024;
 
+// The room for a line that needs more than `kept` bytes, in a file that should have `size` of them.
+std::size_t LargerThan(std::size_t kept, std::size_t size) {
+  const std::size_t larger = std::max(kBlock, 2 * kept);
+  return size > kept ? std::min(larger, std::max(kBlock, size)) : larger;
+}
+
 }  // namespace
 
 bool LineReader::Next(Line& line) {
@@ -69,7 +75,7 @@ bool LineReader::ReadBlock() {
   if (kept > 0 && rest_.data() != buffer_.data()) {
     std::memmove(buffer_.data(), rest_.data(), kept);
   }
-  if (kept == buffer_.size()) buffer_.resize(std::max(kBlock, 2 * kept));
+  if (kept == buffer_.size()) buffer_.resize(LargerThan(kept, source_->Size()));
   const std::size_t count = source_->Read(std::span(buffer_).subspan(kept));
   rest_ = {buffer_.data(), kept + count};
   return count > 0;

@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <bit>
 #include <cstdint>
 #include <limits>
 #include <random>
@@ -12,6 +11,7 @@
 
 #include "formats/text/lines.h"
 #include "formats/text/numbers.h"
+#include "tests/support/bits.h"
 
 namespace orvane {
 namespace {
@@ -42,7 +42,7 @@ void ExpectSame(const std::vector<double>& left, const std::vector<double>& righ
       EXPECT_TRUE(IsNoNumber(left[index])) << line << ", number " << index;
       continue;
     }
-    EXPECT_EQ(std::bit_cast<std::uint64_t>(left[index]), std::bit_cast<std::uint64_t>(right[index]))
+    EXPECT_EQ(test::BitCast<std::uint64_t>(left[index]), test::BitCast<std::uint64_t>(right[index]))
         << line << ", number " << index;
   }
 }
