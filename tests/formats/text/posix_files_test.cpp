@@ -28,6 +28,9 @@ TEST(ReadPosixFile, FailsWithoutPermission) {
 }
 
 TEST(ReadPosixFile, GivesAPipeWholeWhoseSizeIsKnownAtItsEndOnly) {
+#ifdef __EMSCRIPTEN__
+  GTEST_SKIP() << "nobody can write while another reads";
+#endif
   const test::TemporaryFolder folder;
   const std::string name = folder.File("pipe.htr");
   ASSERT_EQ(mkfifo(name.c_str(), 0600), 0);
