@@ -6,15 +6,23 @@
 #include <utility>
 
 namespace orvane {
+namespace {
+
+// So many places of a segment at a frame stay at hand for the next segment and the next frame.
+constexpr std::size_t kMostPlaces = 1024;
+
+}  // namespace
 
 PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy)
     : hierarchy_(std::move(hierarchy)),
       base_rotations_(hierarchy_.size()),
       holding_(hierarchy_.size()),
       above_(hierarchy_.size()),
-      positions_(hierarchy_.size()),
-      rotations_(hierarchy_.size()),
-      world_rotations_(hierarchy_.size()) {
+      most_frames_(
+          std::max<std::size_t>(1, kMostPlaces / std::max<std::size_t>(1, hierarchy_.size()))),
+      positions_(hierarchy_.size() * most_frames_),
+      rotations_(positions_.size()),
+      world_rotations_(positions_.size()) {
   std::iota(holding_.begin(), holding_.end(), std::size_t{0});
   for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
     assert(hierarchy_[entry].parent <= entry);
@@ -24,19 +32,35 @@ PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy)
 }
 
 void PoseWalk::MoveTo(std::size_t frame) {
-  assert(frame >= frame_);
-  frame_ = frame;
+  assert(frame >= block_begin_ + offset_);
   if (frame >= next_end_) DropEnded(frame);
-  for (const std::size_t entry : holding_) {
-    const HtrSegment& segment = *hierarchy_[entry].segment;
-    Place(entry, segment.GetFramePosition(frame),
-          base_rotations_[entry] * RotationMatrix3(segment.GetFrameRotation(frame)));
-  }
+  if (frame >= block_end_) StartBlock(frame);
+  offset_ = frame - block_begin_;
 }
 
 void PoseWalk::TakeBasePosition() {
+  block_end_ = block_begin_;
+  offset_ = 0;
   for (const std::size_t entry : holding_) {
-    Place(entry, hierarchy_[entry].segment->GetBaseTranslation(), base_rotations_[entry]);
+    Place(entry, 0, hierarchy_[entry].segment->GetBaseTranslation(), base_rotations_[entry]);
+  }
+}
+
+// Twice as long as the block before where no frame was left out between them, so that of a few
+// frames here and there no others are worked out.
+void PoseWalk::StartBlock(std::size_t frame) {
+  const std::size_t last_length = frame == block_end_ ? block_end_ - block_begin_ : 0;
+  const std::size_t length = std::clamp<std::size_t>(2 * last_length, 1, most_frames_);
+  block_begin_ = frame;
+  block_end_ = frame + std::min(length, next_end_ - frame);
+  for (const std::size_t entry : holding_) PlaceInBlock(entry);
+}
+
+void PoseWalk::PlaceInBlock(std::size_t entry) {
+  const HtrSegment& segment = *hierarchy_[entry].segment;
+  for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
+    Place(entry, frame - block_begin_, segment.GetFramePosition(frame),
+          base_rotations_[entry] * RotationMatrix3(segment.GetFrameRotation(frame)));
   }
 }
 
@@ -58,23 +82,24 @@ void PoseWalk::DropEnded(std::size_t frame) {
                  holding_.end());
 }
 
-void PoseWalk::Place(std::size_t entry, const Vector3& translation,
+void PoseWalk::Place(std::size_t entry, std::size_t offset, const Vector3& translation,
                      const RotationMatrix3& rotation) {
-  rotations_[entry] = rotation;
-  const std::size_t above = above_[entry];
-  if (above == entry) {
-    positions_[entry] = {translation.x(), translation.y(), translation.z()};
-    world_rotations_[entry] = rotation;
+  const std::size_t slot = SlotOf(entry, offset);
+  rotations_[slot] = rotation;
+  if (above_[entry] == entry) {
+    positions_[slot] = {translation.x(), translation.y(), translation.z()};
+    world_rotations_[slot] = rotation;
     return;
   }
+  const std::size_t above = SlotOf(above_[entry], offset);
   const RotationMatrix3& parent = world_rotations_[above];
-  Point& position = positions_[entry] = positions_[above];
+  Point& position = positions_[slot] = positions_[above];
   for (unsigned row = 0; row < 3; ++row) {
     for (unsigned column = 0; column < 3; ++column) {
       position[row] += parent.Element(row, column) * translation[column];
     }
   }
-  world_rotations_[entry] = parent * rotation;
+  world_rotations_[slot] = parent * rotation;
 }
 
 }  // namespace orvane

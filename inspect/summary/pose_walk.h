@@ -11,8 +11,9 @@
 
 // Where the joints of a skeleton are, frame after frame: base and frame put together, from the
 // roots down. The time it takes is in proportion to the frames that the segments hold, however
-// unevenly they hold them. Positions are x, y and z in the file's unit of length; frames and
-// entries count from 0. Nothing fails but for want of memory.
+// unevenly they hold them. Who asks for frame after frame is answered from a block of frames, which
+// is worked out segment by segment, as a document holds them. Positions are x, y and z in the
+// file's unit of length; frames and entries count from 0. Nothing fails but for want of memory.
 
 namespace orvane {
 
@@ -38,29 +39,41 @@ class PoseWalk {
 
   // Where the origin of the segment is, in the world. REQUIRES: `entry` is one of Holding().
   [[nodiscard]] const Point& PositionOf(std::size_t entry) const {
-    assert(entry < positions_.size());
-    return positions_[entry];
+    assert(entry < hierarchy_.size());
+    return positions_[SlotOf(entry, offset_)];
   }
 
   // How the segment is turned against its parent. REQUIRES: `entry` is one of Holding().
   [[nodiscard]] const RotationMatrix3& RotationOf(std::size_t entry) const {
-    assert(entry < rotations_.size());
-    return rotations_[entry];
+    assert(entry < hierarchy_.size());
+    return rotations_[SlotOf(entry, offset_)];
   }
 
  private:
   void DropEnded(std::size_t frame);
-  void Place(std::size_t entry, const Vector3& translation, const RotationMatrix3& rotation);
+  void StartBlock(std::size_t frame);
+  void PlaceInBlock(std::size_t entry);
+  void Place(std::size_t entry, std::size_t offset, const Vector3& translation,
+             const RotationMatrix3& rotation);
+
+  // Where in the block a segment is at so many frames behind the first one.
+  std::size_t SlotOf(std::size_t entry, std::size_t offset) const {
+    return entry * most_frames_ + offset;
+  }
 
   std::vector<HierarchyEntry> hierarchy_;
   std::vector<RotationMatrix3> base_rotations_;
   std::vector<std::size_t> holding_;
   std::vector<std::size_t> above_;  // the next one up that holds the frame; itself for the topmost
+  std::size_t next_end_ = 0;        // the first frame that some entry no longer holds
+
+  std::size_t most_frames_;      // that a block has room for
+  std::size_t block_begin_ = 0;  // the frames of the block: in all of them the same entries hold
+  std::size_t block_end_ = 0;
+  std::size_t offset_ = 0;  // where the walk is in the block
   std::vector<Point> positions_;
   std::vector<RotationMatrix3> rotations_;
   std::vector<RotationMatrix3> world_rotations_;
-  std::size_t frame_ = 0;     // where the walk is
-  std::size_t next_end_ = 0;  // the first frame that some entry no longer holds
 };
 
 }  // namespace orvane

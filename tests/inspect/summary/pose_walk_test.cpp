@@ -105,6 +105,55 @@ TEST(PoseWalkTest, WhatHangsFromASegmentWithoutTheFrameHangsFromTheNextOneUp) {
   EXPECT_TRUE(walk.Holding().empty());
 }
 
+// Whoever walks frame by frame is answered from blocks of frames, and whoever jumps is not.
+TEST(PoseWalkTest, APoseIsTheSameHoweverOneGetsThere) {
+  constexpr std::size_t kFrames = 300;
+  HtrDocument document;
+  HtrSegment* last = nullptr;
+  for (int i = 0; i < 7; ++i) {
+    last = Add(document, std::to_string(i), last);
+    last->SetBaseTranslation(0.1 * i, 1.5, -0.3);
+    last->SetBaseRotation(0.2, 0.1 * i, -0.7);
+    const std::size_t held = i == 3 ? 65 : i == 5 ? 190 : kFrames;
+    for (std::size_t frame = 0; frame < held; ++frame) {
+      const double at = 0.01 * static_cast<double>(frame) + i;
+      last->AddFrame({at, -at, 1 / at}, Vector3{at, 2 * at, -at}, 1);
+    }
+  }
+  PoseWalk walk(ListHierarchy(document));
+  for (std::size_t frame = 0; frame < kFrames; ++frame) {
+    walk.MoveTo(frame);
+    PoseWalk jump(ListHierarchy(document));
+    jump.MoveTo(frame);
+    ASSERT_EQ(walk.Holding(), jump.Holding()) << frame;
+    for (const std::size_t entry : walk.Holding()) {
+      EXPECT_EQ(walk.PositionOf(entry), jump.PositionOf(entry)) << frame << ' ' << entry;
+      for (unsigned column = 0; column < 3; ++column) {
+        for (unsigned row = 0; row < 3; ++row) {
+          EXPECT_EQ(walk.RotationOf(entry).Element(row, column),
+                    jump.RotationOf(entry).Element(row, column));
+        }
+      }
+    }
+  }
+}
+
+TEST(PoseWalkTest, AFrameMayBeAskedForAgainAndAfterTheBasePosition) {
+  HtrDocument document;
+  HtrSegment* hips = Add(document, "Hips", nullptr);
+  hips->SetBaseTranslation(0, 5, 0);
+  for (int frame = 0; frame < 4; ++frame) hips->AddFrame({double(frame), 0, 0}, Vector3(), 1);
+  PoseWalk walk(ListHierarchy(document));
+  for (const std::size_t frame : {0U, 1U, 2U, 2U}) walk.MoveTo(frame);
+  ExpectPosition(walk, 0, 2, 5, 0);
+  walk.TakeBasePosition();
+  ExpectPosition(walk, 0, 0, 5, 0);
+  walk.MoveTo(2);
+  ExpectPosition(walk, 0, 2, 5, 0);
+  walk.MoveTo(3);
+  ExpectPosition(walk, 0, 3, 5, 0);
+}
+
 TEST(PoseWalkTest, FramesMayBeLeftOut) {
   HtrDocument document;
   HtrSegment* hips = Add(document, "Hips", nullptr);
