@@ -55,19 +55,6 @@ void HtrSegment::AddFrame(const Vector3& translation, const EulerRotation& rotat
                      .order_code = rotation.order().code()});
 }
 
-Vector3 HtrSegment::GetFrameTranslation(std::size_t index) const {
-  if (index >= GetNumFrames()) return Vector3();
-  const auto& [x, y, z] = frames_[index].translation;
-  return Vector3(x, y, z);
-}
-
-EulerRotation HtrSegment::GetFrameRotation(std::size_t index) const {
-  if (index >= GetNumFrames()) return EulerRotation();
-  const Frame& frame = frames_[index];
-  const auto& [x, y, z] = frame.angles;
-  return EulerRotation(x, y, z, OrvaneEulerOrder(frame.order_code));
-}
-
 double HtrSegment::GetFrameScale(std::size_t index) const {
   return index < GetNumFrames() ? frames_[index].scale : 1.0;
 }

@@ -66,8 +66,17 @@ class HtrSegment {
   void AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale);
 
   // The frame as stored. At or past the end: zero, and 1 for the scale.
-  Vector3 GetFrameTranslation(std::size_t index) const;
-  EulerRotation GetFrameRotation(std::size_t index) const;
+  Vector3 GetFrameTranslation(std::size_t index) const {
+    if (index >= GetNumFrames()) return Vector3();
+    const auto& [x, y, z] = frames_[index].translation;
+    return Vector3(x, y, z);
+  }
+  EulerRotation GetFrameRotation(std::size_t index) const {
+    if (index >= GetNumFrames()) return EulerRotation();
+    const Frame& frame = frames_[index];
+    return EulerRotation(frame.angles[0], frame.angles[1], frame.angles[2],
+                         OrvaneEulerOrder(frame.order_code));
+  }
   double GetFrameScale(std::size_t index) const;
   // Returns false, changing nothing, at or past the end.
   [[nodiscard]] bool SetFrameTranslation(std::size_t index, double x, double y, double z);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+
 #include "formats/math/euler_rotation.h"
 #include "tests/formats/math/reference.h"
 
@@ -55,6 +57,28 @@ TEST(RotationMatrix3, ProductAppliesTheRightOperandFirst) {
   const RotationMatrix3 x(EulerRotation(kQuarterTurn, 0, 0));
   EXPECT_NEAR((z * x).Element(2, 1), 1.0, 1e-15);   // +Y to +Z, which stays
   EXPECT_NEAR((x * z).Element(0, 1), -1.0, 1e-15);  // +Y to -X, which stays
+}
+
+// Files and scenes made so far rely on the last digits of products: every element begins with 0 and
+// adds three products, in the order of the columns of the left matrix.
+TEST(RotationMatrix3, ProductAddsInOneOrderBeginningWithZero) {
+  RotationMatrix3 left, right;
+  for (unsigned int column = 0; column < 3; ++column) {
+    for (unsigned int row = 0; row < 3; ++row) {
+      left[column][row] = 1.0 / (3.1 * column + row + 1);
+      right[column][row] = std::ldexp(1.0 / 3.0 + row, static_cast<int>(20 * column));
+    }
+  }
+  right[1] = Vector3(-0.0, -0.0, -0.0);
+  const RotationMatrix3 product = left * right;
+  for (unsigned int column = 0; column < 3; ++column) {
+    for (unsigned int row = 0; row < 3; ++row) {
+      double sum = 0.0;
+      for (unsigned int k = 0; k < 3; ++k) sum += right[column][k] * left[k][row];
+      EXPECT_EQ(product.Element(row, column), sum);
+      EXPECT_EQ(std::signbit(product.Element(row, column)), std::signbit(sum));
+    }
+  }
 }
 
 TEST(RotationMatrix3, ProductMultipliesRowsByColumns) {
