@@ -48,11 +48,20 @@ void HtrSegment::AddFrame(const Vector3& translation, const Vector3& angles, dou
   AddFrame(translation, EulerRotation(angles.x(), angles.y(), angles.z()), scale);
 }
 
+void HtrSegment::KeepOrderCode(std::uint32_t code) {
+  if (frames_.empty()) {
+    order_code_ = code;
+    order_codes_.clear();
+  }
+  if (code == order_code_ && order_codes_.empty()) return;
+  order_codes_.resize(frames_.size(), order_code_);
+  order_codes_.push_back(code);
+}
+
 void HtrSegment::AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale) {
-  frames_.push_back({.translation = Components(translation),
-                     .angles = Components(rotation),
-                     .scale = scale,
-                     .order_code = rotation.order().code()});
+  KeepOrderCode(rotation.order().code());
+  frames_.push_back(
+      {.translation = Components(translation), .angles = Components(rotation), .scale = scale});
 }
 
 double HtrSegment::GetFrameScale(std::size_t index) const {

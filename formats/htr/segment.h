@@ -75,7 +75,7 @@ class HtrSegment {
     if (index >= GetNumFrames()) return EulerRotation();
     const Frame& frame = frames_[index];
     return EulerRotation(frame.angles[0], frame.angles[1], frame.angles[2],
-                         OrvaneEulerOrder(frame.order_code));
+                         OrvaneEulerOrder(OrderCode(index)));
   }
   double GetFrameScale(std::size_t index) const;
   // Returns false, changing nothing, at or past the end.
@@ -100,8 +100,14 @@ class HtrSegment {
     std::array<double, 3> translation;
     std::array<double, 3> angles;
     double scale;
-    std::uint32_t order_code;
   };
+
+  // REQUIRES: there is such a frame.
+  [[nodiscard]] std::uint32_t OrderCode(std::size_t index) const {
+    return order_codes_.empty() ? order_code_ : order_codes_[index];
+  }
+  // Of the frame that is added next.
+  void KeepOrderCode(std::uint32_t code);
 
   bool is_root_ = false;
   WatchedName name_;  // the owning document watches it
@@ -112,6 +118,8 @@ class HtrSegment {
   double bone_length_ = 0.0;
   double scale_reference_length_ = 1.0;
   std::vector<Frame> frames_;
+  std::uint32_t order_code_ = 0;            // of all frames, while they share it
+  std::vector<std::uint32_t> order_codes_;  // of each; empty while they share one
 };
 
 }  // namespace orvane

@@ -5,6 +5,7 @@
 #include <deque>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "formats/math/rotation_matrix3.h"
 #include "tests/support/tolerances.h"
@@ -146,6 +147,20 @@ TEST(HtrFrames, KeepTheOrderOfARotationThatIsBuiltAlready) {
   HtrSegment segment;
   segment.AddFrame(Vector3(), EulerRotation(0.1, 0.2, 0.3, OrvaneEulerOrder(21)), 1);
   EXPECT_EQ(segment.GetFrameRotation(0).order().code(), 21u);
+}
+
+TEST(HtrFrames, KeepAnOrderEach) {
+  const std::vector<std::vector<unsigned>> cases = {
+      {0, 0, 0}, {21, 21, 21}, {0, 21, 0, 4}, {21, 0, 0}, {0, 0, 21}};
+  for (const std::vector<unsigned>& codes : cases) {
+    HtrSegment segment("Hips");
+    for (const unsigned code : codes) {
+      segment.AddFrame(Vector3(), EulerRotation(1, 2, 3, OrvaneEulerOrder(code)), 1.0);
+    }
+    for (std::size_t frame = 0; frame < codes.size(); ++frame) {
+      EXPECT_EQ(segment.GetFrameRotation(frame).order().code(), codes[frame]) << frame;
+    }
+  }
 }
 
 TEST(HtrFrames, AreNeutralPastTheEnd) {
