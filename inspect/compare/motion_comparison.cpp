@@ -22,8 +22,8 @@ class MotionComparer {
                  const Tolerance& tolerance)
       : structure_(structure),
         tolerance_(tolerance),
-        walk_a_(structure.hierarchy_a),
-        walk_b_(structure.hierarchy_b),
+        walk_a_(structure.hierarchy_a, PoseParts::kPositionsAndRotations),
+        walk_b_(structure.hierarchy_b, PoseParts::kPositionsAndRotations),
         start_a_(a.GetStartFrame()),
         start_b_(b.GetStartFrame()),
         mm_per_unit_a_(MillimetersPerUnit(a)),

@@ -20,7 +20,7 @@ std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
                                    std::size_t frame_count) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Bounds bounds{{kInfinity, kInfinity, kInfinity}, {-kInfinity, -kInfinity, -kInfinity}};
-  PoseWalk walk(hierarchy);
+  PoseWalk walk(hierarchy, PoseParts::kPositions);
   for (std::size_t frame = 0; frame < frame_count; ++frame) {
     walk.MoveTo(frame);
     for (const std::size_t entry : walk.Holding()) Include(walk.PositionOf(entry), bounds);

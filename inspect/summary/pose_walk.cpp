@@ -13,21 +13,23 @@ constexpr std::size_t kMostPlaces = 1024;
 
 }  // namespace
 
-PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy)
+PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy, PoseParts parts)
     : hierarchy_(std::move(hierarchy)),
       base_rotations_(hierarchy_.size()),
+      is_turned_(hierarchy_.size(), parts == PoseParts::kPositionsAndRotations),
       holding_(hierarchy_.size()),
       above_(hierarchy_.size()),
       most_frames_(
           std::max<std::size_t>(1, kMostPlaces / std::max<std::size_t>(1, hierarchy_.size()))),
       positions_(hierarchy_.size() * most_frames_),
-      rotations_(positions_.size()),
+      rotations_(parts == PoseParts::kPositionsAndRotations ? positions_.size() : 0),
       world_rotations_(positions_.size()) {
   std::iota(holding_.begin(), holding_.end(), std::size_t{0});
   for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
     assert(hierarchy_[entry].parent <= entry);
     base_rotations_[entry] = RotationMatrix3(hierarchy_[entry].segment->GetBaseRotation());
-    above_[entry] = hierarchy_[entry].parent;
+    const std::size_t above = above_[entry] = hierarchy_[entry].parent;
+    if (above != entry) is_turned_[above] = true;
   }
 }
 
@@ -42,7 +44,8 @@ void PoseWalk::TakeBasePosition() {
   block_end_ = block_begin_;
   offset_ = 0;
   for (const std::size_t entry : holding_) {
-    Place(entry, 0, hierarchy_[entry].segment->GetBaseTranslation(), base_rotations_[entry]);
+    Place(entry, 0, hierarchy_[entry].segment->GetBaseTranslation());
+    if (is_turned_[entry]) Turn(entry, 0, base_rotations_[entry]);
   }
 }
 
@@ -59,8 +62,12 @@ void PoseWalk::StartBlock(std::size_t frame) {
 void PoseWalk::PlaceInBlock(std::size_t entry) {
   const HtrSegment& segment = *hierarchy_[entry].segment;
   for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
-    Place(entry, frame - block_begin_, segment.GetFramePosition(frame),
-          base_rotations_[entry] * RotationMatrix3(segment.GetFrameRotation(frame)));
+    Place(entry, frame - block_begin_, segment.GetFramePosition(frame));
+  }
+  if (!is_turned_[entry]) return;
+  for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
+    Turn(entry, frame - block_begin_,
+         base_rotations_[entry] * RotationMatrix3(segment.GetFrameRotation(frame)));
   }
 }
 
@@ -82,24 +89,29 @@ void PoseWalk::DropEnded(std::size_t frame) {
                  holding_.end());
 }
 
-void PoseWalk::Place(std::size_t entry, std::size_t offset, const Vector3& translation,
-                     const RotationMatrix3& rotation) {
-  const std::size_t slot = SlotOf(entry, offset);
-  rotations_[slot] = rotation;
+void PoseWalk::Place(std::size_t entry, std::size_t offset, const Vector3& translation) {
+  Point& position = positions_[SlotOf(entry, offset)];
   if (above_[entry] == entry) {
-    positions_[slot] = {translation.x(), translation.y(), translation.z()};
-    world_rotations_[slot] = rotation;
+    position = {translation.x(), translation.y(), translation.z()};
     return;
   }
   const std::size_t above = SlotOf(above_[entry], offset);
   const RotationMatrix3& parent = world_rotations_[above];
-  Point& position = positions_[slot] = positions_[above];
+  Point sum = positions_[above];
   for (unsigned row = 0; row < 3; ++row) {
     for (unsigned column = 0; column < 3; ++column) {
-      position[row] += parent.Element(row, column) * translation[column];
+      sum[row] += parent.Element(row, column) * translation[column];
     }
   }
-  world_rotations_[slot] = parent * rotation;
+  position = sum;
+}
+
+void PoseWalk::Turn(std::size_t entry, std::size_t offset, const RotationMatrix3& rotation) {
+  const std::size_t slot = SlotOf(entry, offset);
+  if (!rotations_.empty()) rotations_[slot] = rotation;
+  const std::size_t above = above_[entry];
+  world_rotations_[slot] =
+      above == entry ? rotation : world_rotations_[SlotOf(above, offset)] * rotation;
 }
 
 }  // namespace orvane

@@ -19,12 +19,16 @@ namespace orvane {
 
 using Point = std::array<double, 3>;
 
+// What a walk is asked for. Where segments are takes less time than how they are turned as well,
+// since nobody's place depends on the turn of a segment that none hangs from.
+enum class PoseParts { kPositions, kPositionsAndRotations };
+
 class PoseWalk {
  public:
   // Starts before the first frame. An entry that is its own parent is in the world, or in whatever
   // space its values mean. The segments must outlive the walk and not change. REQUIRES: in
   // `hierarchy` parents stand before their children.
-  explicit PoseWalk(std::vector<HierarchyEntry> hierarchy);
+  PoseWalk(std::vector<HierarchyEntry> hierarchy, PoseParts parts);
 
   // Moves on to `frame`. What hangs from a segment that does not hold it hangs from the next one
   // up. REQUIRES: `frame` is not before the one where the walk is.
@@ -43,8 +47,10 @@ class PoseWalk {
     return positions_[SlotOf(entry, offset_)];
   }
 
-  // How the segment is turned against its parent. REQUIRES: `entry` is one of Holding().
+  // How the segment is turned against its parent. REQUIRES: `entry` is one of Holding(), and the
+  // walk is of kPositionsAndRotations.
   [[nodiscard]] const RotationMatrix3& RotationOf(std::size_t entry) const {
+    assert(!rotations_.empty());
     assert(entry < hierarchy_.size());
     return rotations_[SlotOf(entry, offset_)];
   }
@@ -53,8 +59,8 @@ class PoseWalk {
   void DropEnded(std::size_t frame);
   void StartBlock(std::size_t frame);
   void PlaceInBlock(std::size_t entry);
-  void Place(std::size_t entry, std::size_t offset, const Vector3& translation,
-             const RotationMatrix3& rotation);
+  void Place(std::size_t entry, std::size_t offset, const Vector3& translation);
+  void Turn(std::size_t entry, std::size_t offset, const RotationMatrix3& rotation);
 
   // Where in the block a segment is at so many frames behind the first one.
   std::size_t SlotOf(std::size_t entry, std::size_t offset) const {
@@ -63,6 +69,7 @@ class PoseWalk {
 
   std::vector<HierarchyEntry> hierarchy_;
   std::vector<RotationMatrix3> base_rotations_;
+  std::vector<bool> is_turned_;  // whether anybody needs to know how the entry is turned
   std::vector<std::size_t> holding_;
   std::vector<std::size_t> above_;  // the next one up that holds the frame; itself for the topmost
   std::size_t next_end_ = 0;        // the first frame that some entry no longer holds
@@ -72,7 +79,7 @@ class PoseWalk {
   std::size_t block_end_ = 0;
   std::size_t offset_ = 0;  // where the walk is in the block
   std::vector<Point> positions_;
-  std::vector<RotationMatrix3> rotations_;
+  std::vector<RotationMatrix3> rotations_;  // empty where nobody asks for them
   std::vector<RotationMatrix3> world_rotations_;
 };
 

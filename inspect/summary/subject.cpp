@@ -184,7 +184,7 @@ std::optional<Subject> MeasureSubject(const HtrDocument& document) {
     frames = std::max(frames, entry.segment->GetNumFrames());
   }
   Measuring measuring(frames, hierarchy.size());
-  PoseWalk walk(hierarchy);
+  PoseWalk walk(hierarchy, PoseParts::kPositions);
   for (std::size_t index = 0; index < measuring.Count(); ++index) {
     walk.MoveTo(measuring.FrameAt(index));
     for (const std::size_t entry : walk.Holding()) {

@@ -17,6 +17,7 @@ using orvane::HtrDocument;
 using orvane::HtrSegment;
 using orvane::kRadiansPerDegree;
 using orvane::ListHierarchy;
+using orvane::PoseParts;
 using orvane::PoseWalk;
 using orvane::Vector3;
 using testing::ElementsAre;
@@ -42,7 +43,7 @@ TEST(PoseWalkTest, AJointStandsWhereItsParentsPutIt) {
   HtrSegment* spine = Add(document, "Spine", hips);
   spine->SetBaseTranslation(0, 5, 0);
   spine->AddFrame({0, 0, 1}, orvane::Vector3{0, 0, 0}, 1);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.MoveTo(0);
   EXPECT_THAT(walk.PositionOf(0), ElementsAre(11, 2, 3));
   ExpectPosition(walk, 1, 6, 2, 4);
@@ -55,7 +56,7 @@ TEST(PoseWalkTest, ARotationIsTheBaseTimesTheFrameAgainstTheParent) {
   hips->AddFrame({}, Vector3{90 * kRadiansPerDegree, 0, 0}, 1);
   HtrSegment* spine = Add(document, "Spine", hips);
   spine->AddFrame({}, Vector3{0, 0, 90 * kRadiansPerDegree}, 1);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.MoveTo(0);
   // Rz(90) Rx(90) takes Y to Z.
   EXPECT_NEAR(walk.RotationOf(0).Element(2, 1), 1, 1e-12);
@@ -69,7 +70,7 @@ TEST(PoseWalkTest, TheBasePositionNeedsNoFrames) {
   hips->SetBaseTranslation(1, 2, 3);
   hips->SetBaseRotation(0, 0, 90 * kRadiansPerDegree);
   Add(document, "Spine", hips)->SetBaseTranslation(0, 5, 0);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.TakeBasePosition();
   EXPECT_THAT(walk.Holding(), ElementsAre(0, 1));
   ExpectPosition(walk, 1, -4, 2, 3);
@@ -88,7 +89,7 @@ TEST(PoseWalkTest, WhatHangsFromASegmentWithoutTheFrameHangsFromTheNextOneUp) {
   add_frames(spine, 1);
   add_frames(neck, 2);
   add_frames(head, 4);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.MoveTo(0);
   EXPECT_THAT(walk.Holding(), ElementsAre(0, 1, 2, 3));
   ExpectPosition(walk, 3, 4, 0, 0);
@@ -120,14 +121,17 @@ TEST(PoseWalkTest, APoseIsTheSameHoweverOneGetsThere) {
       last->AddFrame({at, -at, 1 / at}, Vector3{at, 2 * at, -at}, 1);
     }
   }
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
+  PoseWalk positions(ListHierarchy(document), PoseParts::kPositions);
   for (std::size_t frame = 0; frame < kFrames; ++frame) {
     walk.MoveTo(frame);
-    PoseWalk jump(ListHierarchy(document));
+    positions.MoveTo(frame);
+    PoseWalk jump(ListHierarchy(document), PoseParts::kPositionsAndRotations);
     jump.MoveTo(frame);
     ASSERT_EQ(walk.Holding(), jump.Holding()) << frame;
     for (const std::size_t entry : walk.Holding()) {
       EXPECT_EQ(walk.PositionOf(entry), jump.PositionOf(entry)) << frame << ' ' << entry;
+      EXPECT_EQ(walk.PositionOf(entry), positions.PositionOf(entry)) << frame << ' ' << entry;
       for (unsigned column = 0; column < 3; ++column) {
         for (unsigned row = 0; row < 3; ++row) {
           EXPECT_EQ(walk.RotationOf(entry).Element(row, column),
@@ -143,7 +147,7 @@ TEST(PoseWalkTest, AFrameMayBeAskedForAgainAndAfterTheBasePosition) {
   HtrSegment* hips = Add(document, "Hips", nullptr);
   hips->SetBaseTranslation(0, 5, 0);
   for (int frame = 0; frame < 4; ++frame) hips->AddFrame({double(frame), 0, 0}, Vector3(), 1);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   for (const std::size_t frame : {0U, 1U, 2U, 2U}) walk.MoveTo(frame);
   ExpectPosition(walk, 0, 2, 5, 0);
   walk.TakeBasePosition();
@@ -160,7 +164,7 @@ TEST(PoseWalkTest, FramesMayBeLeftOut) {
   HtrSegment* spine = Add(document, "Spine", hips);
   hips->AddFrame({9, 9, 9}, Vector3(), 1);
   for (int frame = 0; frame < 8; ++frame) spine->AddFrame({double(frame), 0, 0}, Vector3(), 1);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.MoveTo(7);
   EXPECT_THAT(walk.Holding(), ElementsAre(1));
   ExpectPosition(walk, 1, 7, 0, 0);
@@ -172,7 +176,7 @@ TEST(PoseWalkTest, SegmentsWithoutFramesCostNothing) {
   HtrSegment* last = Add(document, "0", nullptr);
   for (int i = 1; i < 10'000; ++i) last = Add(document, std::to_string(i), last);
   for (int frame = 0; frame < 100'000; ++frame) last->AddFrame({1, 0, 0}, Vector3(), 1);
-  PoseWalk walk(ListHierarchy(document));
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   std::size_t visited = 0;
   for (std::size_t frame = 0; frame < 100'000; ++frame) {
     walk.MoveTo(frame);
@@ -188,7 +192,7 @@ TEST(PoseWalkTest, TheExampleStandsInEveryFrameWhereItsFileSays) {
   ASSERT_EQ(orvane::ReadHtrFile(document, ORVANE_SOURCE_DIR "/examples/walk.htr", true), "");
   const auto hierarchy = ListHierarchy(document);
   ASSERT_EQ(hierarchy.size(), 21U);
-  PoseWalk walk(hierarchy);
+  PoseWalk walk(hierarchy, PoseParts::kPositionsAndRotations);
   for (std::size_t frame = 0; frame < document.GetNumFrames(); ++frame) {
     walk.MoveTo(frame);
     for (std::size_t i = 0; i < hierarchy.size(); ++i) {
@@ -207,7 +211,7 @@ TEST(PoseWalkTest, ARecordingComesOutWhereItsMakersSay) {
   HtrDocument document;
   ASSERT_EQ(orvane::ReadHtrFile(document, file, true), "");
   const auto hierarchy = ListHierarchy(document);
-  PoseWalk walk(hierarchy);
+  PoseWalk walk(hierarchy, PoseParts::kPositionsAndRotations);
   walk.MoveTo(300);
   for (std::size_t i = 0; i < hierarchy.size(); ++i) {
     const std::string name = hierarchy[i].segment->GetName();
