@@ -29,6 +29,7 @@ BENCHMARK(ReadMarkers)
     ->Args({60, 9'000})
     ->Args({15, 36'000})
     ->Args({240, 2'250})
+    ->Args({15, 900})
     ->ArgNames({"markers", "frames"})
     ->Unit(benchmark::kMillisecond);
 

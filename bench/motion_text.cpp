@@ -84,6 +84,7 @@ std::string MakeMotionText(MotionSize size) {
   AppendHierarchy(text, size);
   AppendBasePositions(text, size);
   for (int segment = 0; segment < size.segments; ++segment) AppendMotion(text, segment, size);
+  text += "[EndOfFile]\n";
   return text;
 }
 
