@@ -9,7 +9,7 @@ namespace orvane {
 namespace {
 
 // So many places of a segment at a frame stay at hand for the next segment and the next frame.
-constexpr std::size_t kMostPlaces = 1024;
+constexpr std::size_t kMostPlaces = 512;
 
 }  // namespace
 
