@@ -44,7 +44,6 @@ void ReadInfo(const InputFile& file, const InfoArguments& arguments, const Repor
   report.findings = ReadAndTell(report.document, file, motion, manner, {}, arguments.cut);
   report.hierarchy = ListHierarchy(report.document);
   if (motion == Motion::kLeftOut) return;
-  report.subject = orvane::MeasureSubject(report.document);
   report.motion = SummarizeMotion(report.document, report.hierarchy);
 }
 

@@ -49,8 +49,7 @@ void WriteBounds(JsonWriter& json, const std::optional<Bounds>& bounds) {
   json.EndObject();
 }
 
-void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSummary& motion,
-                 const std::optional<orvane::Subject>& subject) {
+void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSummary& motion) {
   json.BeginObject();
   json.Key("frames_found_fewest");
   json.Integer(static_cast<std::int64_t>(motion.fewest_frames));
@@ -65,7 +64,7 @@ void WriteMotion(JsonWriter& json, const HtrDocument& document, const MotionSumm
     json.Null();
   }
   WriteBounds(json, motion.bounds);
-  WriteSubject(json, subject, document.GetCalibrationUnits());
+  WriteSubject(json, motion.subject, document.GetCalibrationUnits());
   json.EndObject();
 }
 
@@ -123,7 +122,7 @@ void WriteInfo(JsonWriter& json, const InfoReport& report, bool with_frames) {
   WriteFindings(json, report.findings);
   json.Key("motion");
   if (report.motion) {
-    WriteMotion(json, report.document, *report.motion, report.subject);
+    WriteMotion(json, report.document, *report.motion);
   } else {
     json.Null();
   }

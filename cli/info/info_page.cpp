@@ -75,9 +75,9 @@ void PrintHeader(const InfoReport& report, std::ostream& out) {
   if (report.motion->length_seconds) {
     PrintLine(out, "Length", FormatDouble(*report.motion->length_seconds, kDecimals) + " s");
   }
-  if (report.subject) {
+  if (report.motion->subject) {
     PrintLine(out, "Subject",
-              DescribeSubject(*report.subject, document.GetCalibrationUnits(),
+              DescribeSubject(*report.motion->subject, document.GetCalibrationUnits(),
                               report.motion->length_seconds));
   }
   if (report.motion->bounds) PrintBounds(report, *report.motion->bounds, out);

@@ -8,7 +8,6 @@
 #include "formats/htr/document.h"
 #include "inspect/report/report.h"
 #include "inspect/summary/motion_summary.h"
-#include "inspect/summary/subject.h"
 
 // What `orvane info` tells of a motion file: as a page for a person, or as JSON for a program.
 // docs/command-line.md documents the JSON; its version changes when a field changes its meaning or
@@ -21,7 +20,6 @@ struct InfoReport {
   orvane::HtrDocument document;
   std::vector<orvane::HierarchyEntry> hierarchy;  // of `document`
   orvane::FileReport findings;
-  std::optional<orvane::Subject> subject;       // nothing when there is none, or no motion was read
   std::optional<orvane::MotionSummary> motion;  // nothing when the motion was not read
 };
 

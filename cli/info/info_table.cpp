@@ -45,12 +45,13 @@ InfoTable::InfoTable()
 
 void InfoTable::Add(const InfoReport& report) {
   const orvane::HtrDocument& document = report.document;
-  table_.Add({Printable(report.file), ExtensionOf(FileKind::kHtr),
-              CountOf(document.segments().size(), "segment"), Frames(report),
-              FormatInt(document.GetDataFrameRate()),
-              report.motion ? Seconds(report.motion->length_seconds) : kNothing,
-              Subject(report.subject, document.GetCalibrationUnits()),
-              BriefCounts(report.findings)});
+  table_.Add(
+      {Printable(report.file), ExtensionOf(FileKind::kHtr),
+       CountOf(document.segments().size(), "segment"), Frames(report),
+       FormatInt(document.GetDataFrameRate()),
+       report.motion ? Seconds(report.motion->length_seconds) : kNothing,
+       report.motion ? Subject(report.motion->subject, document.GetCalibrationUnits()) : kNothing,
+       BriefCounts(report.findings)});
 }
 
 void InfoTable::Add(const TrcInfoReport& report) {

@@ -1,5 +1,6 @@
 #include "inspect/summary/hierarchy.h"
 
+#include <algorithm>
 #include <cassert>
 #include <unordered_set>
 
@@ -43,6 +44,14 @@ std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document) {
     if (segment.GetIsRoot()) walk.AddTree(segment);
   }
   return walk.TakeEntries();
+}
+
+std::size_t MostFramesOf(const std::vector<HierarchyEntry>& hierarchy) {
+  std::size_t most = 0;
+  for (const HierarchyEntry& entry : hierarchy) {
+    most = std::max(most, entry.segment->GetNumFrames());
+  }
+  return most;
 }
 
 std::vector<const HtrSegment*> ListUnattached(const HtrDocument& document,

@@ -21,6 +21,9 @@ struct HierarchyEntry {
 // children in the document's order. Takes any depth and any links.
 [[nodiscard]] std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document);
 
+// How many frames the longest of them holds; 0 without any.
+[[nodiscard]] std::size_t MostFramesOf(const std::vector<HierarchyEntry>& hierarchy);
+
 // The other segments, in the document's order: those whose parent is missing and those whose
 // parents form a circle, with all that hangs from them. REQUIRES: `attached` is ListHierarchy of
 // `document`.

@@ -5,6 +5,9 @@
 #include <cmath>
 #include <limits>
 
+#include "inspect/summary/pose_walk.h"
+#include "inspect/summary/subject_measure.h"
+
 namespace orvane {
 namespace {
 
@@ -16,18 +19,22 @@ void Include(const Point& point, Bounds& bounds) {
   }
 }
 
-std::optional<Bounds> MotionBounds(const std::vector<HierarchyEntry>& hierarchy,
-                                   std::size_t frame_count) {
+// One walk for all that depends on where the joints are.
+void WalkPoses(const std::vector<HierarchyEntry>& hierarchy, MotionSummary& summary) {
   constexpr double kInfinity = std::numeric_limits<double>::infinity();
   Bounds bounds{{kInfinity, kInfinity, kInfinity}, {-kInfinity, -kInfinity, -kInfinity}};
+  const std::size_t frame_count = MostFramesOf(hierarchy);
+  SubjectMeasure measure(frame_count, hierarchy.size());
   PoseWalk walk(hierarchy, PoseParts::kPositions);
   for (std::size_t frame = 0; frame < frame_count; ++frame) {
     walk.MoveTo(frame);
     for (const std::size_t entry : walk.Holding()) Include(walk.PositionOf(entry), bounds);
+    measure.TakePose(frame, walk);
   }
   const bool found_any = bounds.least[0] <= bounds.most[0] && bounds.least[1] <= bounds.most[1] &&
                          bounds.least[2] <= bounds.most[2];
-  return found_any ? std::optional(bounds) : std::nullopt;
+  if (found_any) summary.bounds = bounds;
+  summary.subject = measure.Finish();
 }
 
 }  // namespace
@@ -47,7 +54,7 @@ MotionSummary SummarizeMotion(const HtrDocument& document,
   if (document.GetDataFrameRate() > 0) {
     summary.length_seconds = static_cast<double>(summary.most_frames) / document.GetDataFrameRate();
   }
-  summary.bounds = MotionBounds(hierarchy, summary.most_frames);
+  WalkPoses(hierarchy, summary);
   return summary;
 }
 

@@ -6,18 +6,13 @@
 
 #include "formats/htr/document.h"
 #include "inspect/summary/hierarchy.h"
-#include "inspect/summary/pose_walk.h"
+#include "inspect/summary/subject.h"
 
-// What can be told of a motion without showing every frame: counts of frames, seconds, and a box in
-// the file's own unit of length. Nothing fails but for want of memory.
+// What can be told of a motion without showing every frame: counts of frames, seconds, a box in the
+// file's own unit of length, and the subject, from one walk over its poses. Nothing fails but for
+// want of memory.
 
 namespace orvane {
-
-// An axis-aligned box in file space (Y up) and the file's length unit.
-struct Bounds {
-  Point least{};
-  Point most{};
-};
 
 struct MotionSummary {
   // Frames that the segments hold, as opposed to those that the header announces.
@@ -30,6 +25,9 @@ struct MotionSummary {
   // Around the joints of all segments that hang from a root, over the frames that each holds;
   // nothing when there is no such segment or no frame, or when no coordinate is a number.
   std::optional<Bounds> bounds;
+
+  // Who or what moves, of what hangs from the roots; nothing when no frame has two joints.
+  std::optional<Subject> subject;
 };
 
 // REQUIRES: `hierarchy` is ListHierarchy of `document`.

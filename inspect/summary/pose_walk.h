@@ -1,12 +1,12 @@
 #pragma once
 
-#include <array>
 #include <cassert>
 #include <cstddef>
 #include <vector>
 
 #include "formats/math/rotation_matrix3.h"
 #include "formats/math/vector.h"
+#include "inspect/summary/bounds.h"
 #include "inspect/summary/hierarchy.h"
 
 // Where the joints of a skeleton are, frame after frame: base and frame put together, from the
@@ -16,8 +16,6 @@
 // file's unit of length; frames and entries count from 0. Nothing fails but for want of memory.
 
 namespace orvane {
-
-using Point = std::array<double, 3>;
 
 // What a walk is asked for. Where segments are takes less time than how they are turned as well,
 // since nobody's place depends on the turn of a segment that none hangs from.

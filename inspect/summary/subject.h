@@ -9,7 +9,7 @@
 
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
-#include "inspect/summary/motion_summary.h"
+#include "inspect/summary/bounds.h"
 
 // Who or what moves in a file: how tall it is, how far it goes, and which axis its heights seem to
 // lie along. Points are the joints of a skeleton or the markers of a capture, in the file's space

@@ -101,4 +101,38 @@ TEST(MotionSummaryTest, TheBoxIsAroundTheFramesThatEachSegmentHolds) {
   EXPECT_THAT(summary.bounds->most, ElementsAre(8, 8, 8));
 }
 
+// What is measured on the way over all frames is what is measured by itself, whether each frame is
+// looked at or some.
+TEST(MotionSummaryTest, TheSubjectIsTheOneThatIsMeasuredByItself) {
+  for (const int frames : {1, 200, 201, 999}) {
+    HtrDocument document;
+    HtrSegment* hips = Add(document, "Hips", nullptr);
+    HtrSegment* head = Add(document, "Head", hips);
+    head->SetBaseTranslation(0, 1.5, 0);
+    HtrSegment* lost = Add(document, "Lost", nullptr);
+    lost->SetIsRoot(false);
+    for (int frame = 0; frame < frames; ++frame) {
+      const double at = 0.01 * frame;
+      hips->AddFrame({at, at * at, -at}, orvane::Vector3{at, 0, 2 * at}, 1);
+      if (frame < 700) head->AddFrame({}, orvane::Vector3{}, 1);
+      for (int i = 0; i < 3; ++i) lost->AddFrame({9, 9, 9}, orvane::Vector3{}, 1);
+    }
+    const auto alone = orvane::MeasureSubject(document);
+    const auto summary = SummarizeMotion(document, ListHierarchy(document));
+    ASSERT_TRUE(alone && summary.subject) << frames;
+    EXPECT_EQ(summary.subject->points, 2U);
+    EXPECT_EQ(summary.subject->extent, alone->extent);
+    EXPECT_EQ(summary.subject->bounds.least, alone->bounds.least);
+    EXPECT_EQ(summary.subject->bounds.most, alone->bounds.most);
+    EXPECT_EQ(summary.subject->floor_change, alone->floor_change);
+    EXPECT_EQ(summary.subject->way, alone->way);
+  }
+}
+
+TEST(MotionSummaryTest, ASingleJointIsNoSubject) {
+  HtrDocument document;
+  Add(document, "Hips", nullptr)->AddFrame({5, 6, 7}, orvane::Vector3{0, 0, 0}, 1);
+  EXPECT_FALSE(SummarizeMotion(document, ListHierarchy(document)).subject);
+}
+
 }  // namespace
