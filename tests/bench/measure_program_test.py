@@ -82,7 +82,8 @@ class FloorTest(unittest.TestCase):
         program("bench/floor", "import", motion, keys)
         program("bench/floor", "export", keys, back)
         rows = [[float(cell) for cell in line.split("\t")] for line in back.read_text().splitlines() if line[0] != "["]
-        read = [[float(cell) for cell in line.split("\t")] for line in motion.read_text().splitlines() if line[0].isdigit()]
+        read = [[float(cell) for cell in line.split("\t")]
+                for line in motion.read_text().splitlines() if line[0].isdigit()]
         self.assertEqual(len(rows), 60)
         for row, expected in zip(rows, read):
             for cell, value in zip(row, expected):
