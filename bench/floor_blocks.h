@@ -19,7 +19,7 @@ File OpenFile(const std::string& path, const char* mode);
 // Calls `take` with the text of a file, block by block; each ends with a line break.
 template <typename Take>
 void ReadBlocks(const std::string& path, Take take) {
-  constexpr std::size_t kBlock = 256 * 1024;
+  constexpr std::size_t kBlock = std::size_t{256} * 1024;
   const File file = OpenFile(path, "rb");
   std::setvbuf(file.get(), nullptr, _IONBF, 0);
   std::vector<char> buffer;
@@ -56,7 +56,7 @@ class Output {
   void Write(const std::string& text) { Wrote(Room() + text.copy(Room(), kRoom)); }
 
  private:
-  static constexpr std::size_t kLong = 256 * 1024;
+  static constexpr std::size_t kLong = std::size_t{256} * 1024;
   static constexpr std::size_t kRoom = 4096;
 
   void Flush();

@@ -22,7 +22,9 @@ OrvaneRotationMatrix3<T> OrvaneRotationMatrix3<T>::Transposed() const {
 template <typename T>
 OrvaneRotationMatrix3<T> operator*(const OrvaneRotationMatrix3<T>& left,
                                    const OrvaneRotationMatrix3<T>& right) {
-  const OrvaneVector3<T> first = left[0], second = left[1], third = left[2];
+  const OrvaneVector3<T>& first = left[0];
+  const OrvaneVector3<T>& second = left[1];
+  const OrvaneVector3<T>& third = left[2];
   OrvaneRotationMatrix3<T> product;
   for (unsigned int c = 0; c < 3; ++c) {
     const T x = right[c][0], y = right[c][1], z = right[c][2];

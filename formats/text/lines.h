@@ -62,7 +62,7 @@ class LineReader {
   [[nodiscard]] bool ReadBlock();
 
   ByteSource* source_ = nullptr;  // null when there is nothing left of it
-  std::vector<char> buffer_;  // of what is read of it
+  std::vector<char> buffer_;      // of what is read of it
 
   std::string_view rest_;  // behind the current line's break, as far as it has been read
   std::size_t longest_piece_;

@@ -73,7 +73,8 @@ bool EndsWithFrame(std::ifstream& file, const std::string& number) {
     const std::string text = ReadEnd(file, size);
     if (!text.ends_with(kEnd)) return false;
     const std::string_view frame = std::string_view(text).substr(0, text.size() - kEnd.size());
-    if (const std::size_t break_before = frame.rfind('\n'); break_before != std::string_view::npos) {
+    if (const std::size_t break_before = frame.rfind('\n');
+        break_before != std::string_view::npos) {
       return text.substr(break_before + 1).starts_with(number + '\t');
     }
     if (size >= SizeOf(file)) return false;
