@@ -4,6 +4,7 @@
 #include "cli/common/reading_memory.h"
 #include "cli/common/told_reading.h"
 #include "formats/trc/outline.h"
+#include "inspect/summary/subject_measure.h"
 
 namespace cli {
 namespace {

@@ -14,7 +14,7 @@
 #include "inspect/check/htr_rules.h"
 #include "inspect/check/plausibility.h"
 #include "inspect/counts/frame_counts.h"
-#include "inspect/summary/subject.h"
+#include "inspect/summary/subject_measure.h"
 
 namespace orvane::htr {
 namespace {

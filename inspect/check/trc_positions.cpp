@@ -10,7 +10,7 @@
 #include "inspect/check/plausibility.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/check/trc_stand_ins.h"
-#include "inspect/summary/subject.h"
+#include "inspect/summary/subject_measure.h"
 #include "inspect/summary/trc_summary.h"
 
 namespace orvane::trc {

@@ -6,7 +6,7 @@
 #include <utility>
 
 #include "inspect/mapping/quantiles.h"
-#include "inspect/summary/subject.h"
+#include "inspect/summary/subject_measure.h"
 
 namespace orvane {
 namespace {

@@ -1,12 +1,7 @@
 #include "inspect/summary/subject.h"
 
-#include <algorithm>
-
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
-#include "inspect/summary/hierarchy.h"
-#include "inspect/summary/pose_walk.h"
-#include "inspect/summary/subject_measure.h"
 
 namespace orvane {
 namespace {
@@ -25,37 +20,6 @@ bool StandsOnFloor(const Subject& subject, std::size_t axis, double height) {
 }
 
 }  // namespace
-
-std::optional<Subject> MeasureSubject(const HtrDocument& document) {
-  const auto hierarchy = ListHierarchy(document);
-  SubjectMeasure measure(MostFramesOf(hierarchy), hierarchy.size());
-  PoseWalk walk(hierarchy, PoseParts::kPositions);
-  for (std::size_t index = 0; index < measure.Count(); ++index) {
-    walk.MoveTo(measure.FrameAt(index));
-    measure.TakePose(measure.FrameAt(index), walk);
-  }
-  return measure.Finish();
-}
-
-std::optional<Subject> MeasureSubject(const TRCDocument& document) {
-  std::size_t frames = 0;
-  for (const TRCMarker& marker : document.markers()) {
-    frames = std::max(frames, marker.SampleCount());
-  }
-  SubjectMeasure measure(frames, document.markers().size());
-  std::size_t track = 0;
-  for (const TRCMarker& marker : document.markers()) {
-    for (std::size_t index = 0; index < measure.Count(); ++index) {
-      const std::size_t frame = measure.FrameAt(index);
-      Point point{};
-      if (frame < marker.SampleCount() && marker.GetSample(frame, point[0], point[1], point[2])) {
-        measure.Take(index, track, point);
-      }
-    }
-    ++track;
-  }
-  return measure.Finish();
-}
 
 bool SeemsToStandAlongZ(const Subject& subject) {
   constexpr std::size_t kPointsOfABody = 8;

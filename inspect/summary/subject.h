@@ -5,10 +5,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <vector>
 
-#include "formats/htr/document.h"
-#include "formats/trc/document.h"
 #include "inspect/summary/bounds.h"
 
 // Who or what moves in a file: how tall it is, how far it goes, and which axis its heights seem to
@@ -31,10 +28,6 @@ struct Subject {
   // Where points come and go it is as far as their steps add up to, if that is more.
   double way = 0.0;
 };
-
-// Of what hangs from the roots; nothing when no frame has two points.
-[[nodiscard]] std::optional<Subject> MeasureSubject(const HtrDocument& document);
-[[nodiscard]] std::optional<Subject> MeasureSubject(const TRCDocument& document);
 
 // Whether it seems to stand along Z, and not along Y. It goes by what a body on a floor does and a
 // lying one hardly ever: along Z it is half as long again as along Y, and a fifth longer than along

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "inspect/summary/hierarchy.h"
+
 namespace orvane {
 namespace {
 
@@ -75,6 +77,37 @@ void SubjectMeasure::MeasureAxis(std::size_t axis, Subject& subject) const {
   subject.bounds.least[axis] = lowest;
   subject.bounds.most[axis] = highest;
   subject.floor_change[axis] = highest_floor - lowest;
+}
+
+std::optional<Subject> MeasureSubject(const HtrDocument& document) {
+  const auto hierarchy = ListHierarchy(document);
+  SubjectMeasure measure(MostFramesOf(hierarchy), hierarchy.size());
+  PoseWalk walk(hierarchy, PoseParts::kPositions);
+  for (std::size_t index = 0; index < measure.Count(); ++index) {
+    walk.MoveTo(measure.FrameAt(index));
+    measure.TakePose(measure.FrameAt(index), walk);
+  }
+  return measure.Finish();
+}
+
+std::optional<Subject> MeasureSubject(const TRCDocument& document) {
+  std::size_t frames = 0;
+  for (const TRCMarker& marker : document.markers()) {
+    frames = std::max(frames, marker.SampleCount());
+  }
+  SubjectMeasure measure(frames, document.markers().size());
+  std::size_t track = 0;
+  for (const TRCMarker& marker : document.markers()) {
+    for (std::size_t index = 0; index < measure.Count(); ++index) {
+      const std::size_t frame = measure.FrameAt(index);
+      Point point{};
+      if (frame < marker.SampleCount() && marker.GetSample(frame, point[0], point[1], point[2])) {
+        measure.Take(index, track, point);
+      }
+    }
+    ++track;
+  }
+  return measure.Finish();
 }
 
 }  // namespace orvane

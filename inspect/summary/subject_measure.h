@@ -7,6 +7,8 @@
 #include <optional>
 #include <vector>
 
+#include "formats/htr/document.h"
+#include "formats/trc/document.h"
 #include "inspect/summary/pose_walk.h"
 #include "inspect/summary/subject.h"
 
@@ -104,5 +106,9 @@ class SubjectMeasure {
   std::vector<Step> steps_;
   std::vector<Track> tracks_;
 };
+
+// Of what hangs from the roots; nothing when no frame has two points.
+[[nodiscard]] std::optional<Subject> MeasureSubject(const HtrDocument& document);
+[[nodiscard]] std::optional<Subject> MeasureSubject(const TRCDocument& document);
 
 }  // namespace orvane

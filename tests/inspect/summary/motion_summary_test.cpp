@@ -5,6 +5,10 @@
 
 #include <cmath>
 
+#include "inspect/summary/subject_measure.h"
+
+#include "inspect/summary/subject_measure.h"
+
 namespace {
 
 using orvane::HierarchyEntry;

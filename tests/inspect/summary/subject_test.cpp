@@ -1,4 +1,4 @@
-#include "inspect/summary/subject.h"
+#include "inspect/summary/subject_measure.h"
 
 #include <gtest/gtest.h>
 
