@@ -7,8 +7,6 @@
 
 #include "inspect/summary/subject_measure.h"
 
-#include "inspect/summary/subject_measure.h"
-
 namespace {
 
 using orvane::HierarchyEntry;

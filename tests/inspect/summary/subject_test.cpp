@@ -1,5 +1,3 @@
-#include "inspect/summary/subject_measure.h"
-
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -7,6 +5,7 @@
 
 #include "formats/htr/reader.h"
 #include "formats/units/units.h"
+#include "inspect/summary/subject_measure.h"
 #include "tests/support/files.h"
 
 namespace {
