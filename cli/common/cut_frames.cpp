@@ -74,12 +74,11 @@ std::string CutOut(const std::string& file, std::string_view bytes,
 }
 
 Complaint ComplainAboutCut(const std::string& file, const FrameSpan& asked, const FrameSpan& held) {
-  const std::string text = "--cut asks for the frames " + orvane::FormatInt(asked.first) + " to " +
-                           orvane::FormatInt(asked.last) + ", and the file has ";
+  const std::string text = "--cut asks for " + TheFrames(asked) + ", and the file has ";
   if (held.IsEmpty()) return {file, text + "none", ""};
-  const std::string first = orvane::FormatInt(held.first);
-  const std::string last = orvane::FormatInt(held.last);
-  return {file, text + first + " to " + last, "--cut " + first + ":" + last + " takes all of it."};
+  return {file, text + RangeText(held),
+          "--cut " + orvane::FormatInt(held.first) + ":" + orvane::FormatInt(held.last) +
+              " takes all of it."};
 }
 
 }  // namespace cli

@@ -34,6 +34,10 @@ std::string Counted(std::int64_t count, std::string_view noun) {
 
 std::string FramesPerSecond(std::int64_t rate) { return Counted(rate, "frame") + " per second"; }
 
+std::string FramesAtRate(const orvane::FrameSpan& frames, std::int64_t rate) {
+  return NumbersOf(frames) + (frames.Count() == 1 ? " alone, at " : " at ") + FramesPerSecond(rate);
+}
+
 std::string FewOf(const std::vector<std::string>& names) {
   const std::size_t told = std::min(names.size(), kMostNames);
   const std::size_t left_out = names.size() - told;

@@ -6,6 +6,8 @@
 #include <string_view>
 #include <vector>
 
+#include "inspect/counts/frame_span.h"
+
 // Columns of the pages that the program shows, and what it counts there.
 
 namespace cli {
@@ -25,6 +27,9 @@ inline constexpr std::size_t kWidestNames = 60;
 
 // "25 frames per second".
 [[nodiscard]] std::string FramesPerSecond(std::int64_t rate);
+
+// Of a range of frames: "1 to 120 at 25 frames per second"; of one frame, "5 alone, at ...".
+[[nodiscard]] std::string FramesAtRate(const orvane::FrameSpan& frames, std::int64_t rate);
 
 // "a, b and c", or "a, b, c and 4 more".
 [[nodiscard]] std::string FewOf(const std::vector<std::string>& names);

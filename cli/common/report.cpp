@@ -1,5 +1,7 @@
 #include "cli/common/report.h"
 
+#include <algorithm>
+
 #include "cli/common/json_members.h"
 #include "cli/common/messages.h"
 #include "formats/text/numbers.h"
@@ -71,6 +73,18 @@ std::string LineOf(const ReportedFinding& finding) {
   const std::string cause = finding.cause + Names(finding) + Place(finding);
   return cause + (cause.ends_with("...") ? " " : ". ") + finding.consequence + " [" +
          std::string(finding.code) + "]";
+}
+
+Complaint WithCode(Complaint refusal, const FileReport& report,
+                   const std::vector<std::string_view>& codes) {
+  const auto finding = std::find_if(
+      report.findings.begin(), report.findings.end(), [&codes](const ReportedFinding& each) {
+        return std::find(codes.begin(), codes.end(), each.code) != codes.end();
+      });
+  if (finding != report.findings.end()) {
+    refusal.text += " [" + std::string(finding->code) + "]";
+  }
+  return refusal;
 }
 
 void PrintReport(const FileReport& report, std::ostream& out) {

@@ -3,8 +3,10 @@
 #include <optional>
 #include <ostream>
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "cli/common/failure.h"
 #include "cli/common/json_writer.h"
 #include "inspect/report/report.h"
 
@@ -15,6 +17,11 @@ namespace cli {
 
 // "12 values are not numbers: "1,5", "2,5" (line 7, column 3). What ... [trc-number-unreadable]"
 [[nodiscard]] std::string LineOf(const orvane::ReportedFinding& finding);
+
+// `refusal`, and behind its text the code of the finding of `report` that it stands for: the first
+// that has one of `codes`, if any.
+[[nodiscard]] Complaint WithCode(Complaint refusal, const orvane::FileReport& report,
+                                 const std::vector<std::string_view>& codes);
 
 // A line for each finding, and a last one that counts them; one line where there is none.
 void PrintReport(const orvane::FileReport& report, std::ostream& out);

@@ -7,6 +7,7 @@
 #include "cli/common/input.h"
 #include "cli/common/input_source.h"
 #include "cli/common/known_messages.h"
+#include "cli/common/report.h"
 #include "formats/htr/reader.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
@@ -85,7 +86,11 @@ FileReport CheckAndTell(Document& document, const InputFile& file, const ReportM
     const bool is_outside = told.findings.size() < reports.back().findings.size();
     if (why.empty() && !is_outside) return reports.back();
     WriteReportFile(reports, manner);
-    if (why.empty()) return reports.back();
+    if (why.empty()) {
+      throw Failure{ExitStatus::kRefused,
+                    {WithCode(ComplainAboutCut(file.name, *cut, FramesHeld(document)),
+                              reports.back(), {kToldByRefusal})}};
+    }
     // An error that has been told is why nothing was found.
     const bool is_told = checked.refusal.empty() && reports.back().Count(kError) > 0;
     if (is_told) throw Failure{ExitStatus::kRefused, {}};

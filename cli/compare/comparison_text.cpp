@@ -14,11 +14,6 @@ std::string Count(std::size_t count, const std::string& noun) {
   return Counted(static_cast<std::int64_t>(count), noun);
 }
 
-std::string Frames(const orvane::FrameSpan& frames) {
-  if (frames.first == frames.last) return "frame " + FormatInt(frames.first);
-  return "frames " + FormatInt(frames.first) + " to " + FormatInt(frames.last);
-}
-
 const char* FileLetter(orvane::WhichFile file) { return file == orvane::WhichFile::kA ? "A" : "B"; }
 
 std::string FileLines(const std::string& file_a, const std::string& file_b) {

@@ -18,9 +18,6 @@ inline constexpr std::size_t kNumberWidth = 15;
 // "1 marker", "2 markers".
 [[nodiscard]] std::string Count(std::size_t count, const std::string& noun);
 
-// "frame 7", "frames 1 to 120".
-[[nodiscard]] std::string Frames(const orvane::FrameSpan& frames);
-
 // "A" or "B".
 [[nodiscard]] const char* FileLetter(orvane::WhichFile file);
 

@@ -54,14 +54,14 @@ void PrintContents(const MarkerReport& report, std::ostream& out) {
     out << "  " << Printable(marker.name) << ": only in " << FileLetter(marker.file) << '\n';
   }
   for (const FramesOfOne& only : comparison.only_frames) {
-    out << "  " << Frames(only.frames) << " only in " << FileLetter(only.file) << '\n';
+    out << "  " << FramesText(only.frames) << " only in " << FileLetter(only.file) << '\n';
   }
 }
 
 std::string WhatIsCompared(const MarkerComparison& comparison) {
   if (comparison.markers.empty()) return "nothing, as no marker is in both files";
   if (!comparison.frames) return "nothing, as no frame is in both files";
-  return Count(comparison.markers.size(), "marker") + " in " + Frames(*comparison.frames);
+  return Count(comparison.markers.size(), "marker") + " in " + FramesText(*comparison.frames);
 }
 
 std::string Distances(const MarkerComparison& comparison) {

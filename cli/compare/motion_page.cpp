@@ -33,7 +33,7 @@ std::string WhatIsCompared(const MotionReport& report) {
   if (structure.at_rest) return segments + " in the base position, as there are no frames";
   if (!structure.common_frames) return "nothing, as no frame is in both files";
   if (compared == 0) return "nothing, as no segment has a frame in both files";
-  return segments + " in " + Frames(*structure.common_frames);
+  return segments + " in " + FramesText(*structure.common_frames);
 }
 
 void PrintRow(const std::string& name, std::size_t width, const MotionDifference& difference,
@@ -80,7 +80,7 @@ void PrintStructure(const MotionReport& report, std::ostream& out) {
   }
   for (const OnlyFrames& only : differences.frames) {
     out << "  " << (only.segment.empty() ? "" : Printable(only.segment) + ": ")
-        << Frames(only.frames) << " only in " << FileLetter(only.file) << '\n';
+        << FramesText(only.frames) << " only in " << FileLetter(only.file) << '\n';
   }
 }
 

@@ -8,12 +8,14 @@
 #include <limits>
 #include <map>
 #include <memory>
+#include <string_view>
 
 #include "cli/common/input.h"
 #include "cli/common/input_files.h"
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/progress_line.h"
+#include "cli/common/report.h"
 #include "cli/common/taken_names.h"
 #include "cli/convert/conversion_batch.h"
 #include "cli/convert/conversion_plan.h"
@@ -304,7 +306,10 @@ class Converting {
     TellOfTaken();
     TellAll(Reports(WithoutErrorsOf), order_.report);
     for (const Conversion& conversion : conversions_) {
-      for (const Complaint& error : conversion.errors) Print(Severity::kError, error);
+      const std::vector<std::string_view> codes(conversion.told.begin(), conversion.told.end());
+      for (const Complaint& error : conversion.errors) {
+        Print(Severity::kError, WithCode(error, conversion.report, codes));
+      }
       if (conversion.status == ConversionStatus::kBroken && conversion.delivered) {
         Print(Severity::kWarning,
               {conversion.output,

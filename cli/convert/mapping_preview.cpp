@@ -35,7 +35,7 @@ class Previewer {
   }
 
   ConversionPreview Preview(Conversion& conversion) const {
-    ConversionPreview preview{&conversion, {}};
+    ConversionPreview preview{&conversion, {}, {}};
     if (conversion.status == ConversionStatus::kPlanned) Judge(conversion);
     if (!IsReadable(conversion)) return preview;
     const std::optional<orvane::TRCOutliner> outline = OutlineTrcFile(conversion.source);
@@ -48,6 +48,9 @@ class Previewer {
     }
     MatchNames(conversion, document, naming_, order_.names);
     RequireChangeable(conversion);
+    if (order_.cut && document.MarkerCount() > 0) {
+      preview.frames = Overlap(*order_.cut, FramesHeld(*outline));
+    }
     for (const orvane::TRCMarker& marker : document.markers()) {
       const std::string& name = conversion.match.NameInMapping(marker.Name());
       preview.markers.push_back({marker.Name(), naming_.NameFor(name)});
@@ -135,6 +138,7 @@ void PrintPreviewPage(const std::vector<ConversionPreview>& previews, std::ostre
   for (const ConversionPreview& preview : previews) {
     out << Printable(preview.conversion->input) << " -> " << Printable(preview.conversion->output)
         << " (" << NameOf(preview.conversion->status) << ")\n";
+    if (preview.frames) out << "  take    " << FramesText(*preview.frames) << '\n';
     for (const MarkerFate& marker : preview.markers) PrintMarker(marker, out);
   }
 }

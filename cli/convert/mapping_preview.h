@@ -7,6 +7,7 @@
 
 #include "cli/convert/conversion.h"
 #include "cli/convert/conversion_order.h"
+#include "inspect/counts/frame_span.h"
 
 // What a conversion would make of the markers of its files, found out without converting them.
 
@@ -20,6 +21,7 @@ struct MarkerFate {
 struct ConversionPreview {
   const Conversion* conversion = nullptr;
   std::vector<MarkerFate> markers;
+  std::optional<orvane::FrameSpan> frames{};  // that are cut out; nothing: all are taken
 };
 
 // Reads the headers of the inputs that are planned, notes in `conversions` which of them the reader

@@ -26,8 +26,8 @@ void PrintExportSummary(const ExportedFile& file, std::ostream& out) {
   const ExportedMotion& motion = file.motion;
   out << "Exported " << Printable(file.input) << '\n'
       << "  Segments  " << FormatInt(motion.segments) << '\n'
-      << "  Frames    " << FormatInt(motion.first_frame) << " to " << FormatInt(LastFrame(motion))
-      << " at " << FramesPerSecond(motion.frame_rate) << '\n'
+      << "  Frames    " << FramesAtRate({motion.first_frame, LastFrame(motion)}, motion.frame_rate)
+      << '\n'
       << "  File      " << Printable(file.output) << " ("
       << FormatInt(static_cast<std::int64_t>(motion.bytes)) << " bytes)\n";
   if (!file.is_checked) out << "  Report    none: --no-report\n";

@@ -53,10 +53,11 @@ std::string ExplainMismatch(const std::string& text) {
   return flag + (too_many ? " is given more than once" : " needs a value");
 }
 
-std::string Explain(const CLI::ParseError& error) {
+std::string Explain(const CLI::App& verb, const CLI::ParseError& error) {
   const std::string text = error.what();
   if (error.get_name() == "ArgumentMismatch") return ExplainMismatch(text);
-  return text == "A subcommand is required" ? "a verb is missing behind this one" : text;
+  if (text != "A subcommand is required") return text;
+  return "a verb is missing behind \"" + verb.get_name() + "\"";
 }
 
 }  // namespace
@@ -65,12 +66,20 @@ Failure WrongUsage(const CLI::App& app, const CLI::ParseError& error) {
   for (const CLI::App* verb : NamedVerbs(app)) {
     if (const auto failure = ExplainUnknownWord(*verb)) return *failure;
   }
-  return WrongWord(VerbNamedLast(app), Explain(error));
+  const CLI::App& verb = VerbNamedLast(app);
+  return WrongWord(verb, Explain(verb, error));
 }
 
 Failure UnknownVerb(const CLI::App& app, const std::string& name) {
   std::vector<std::string> verbs;
-  for (const CLI::App* verb : VerbsOf(app)) verbs.push_back(verb->get_name());
+  for (const CLI::App* verb : VerbsOf(app)) {
+    verbs.push_back(verb->get_name());
+    for (const CLI::App* own : VerbsOf(*verb)) {
+      if (own->get_name() != name) continue;
+      return WrongWord(app, "there is no verb \"" + name + "\"; did you mean \"" +
+                                verb->get_name() + " " + name + "\"?");
+    }
+  }
   return WrongWord(app, "there is no verb \"" + name + "\"" + DidYouMean(name, verbs));
 }
 

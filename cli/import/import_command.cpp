@@ -226,6 +226,7 @@ class Importing {
     ImportedFile file{input_.name, arguments_.output, !arguments_.dry_run};
     file.is_checked = !arguments_.report.omitted;
     file.is_plain = arguments_.plain;
+    file.keeps_range = told.keeps_range;
     if (told.samples) file.samples = CountSamples(*told.samples, told.keyed);
     file.gaps = told.gaps;
     file.report = std::move(told.report);

@@ -19,14 +19,15 @@ std::string Place(const SceneKeys& keys, const host::AnimationState& animation) 
   const Interval range = animation.Range();
   if (keys.count == 0 || (keys.first >= range.Start() && keys.last <= range.End())) return "";
   const int ticks = animation.TicksPerFrame();
-  return ", in frames " + FormatInt(keys.first / ticks) + " to " + FormatInt(keys.last / ticks);
+  return ", in " + orvane::FramesText({keys.first / ticks, keys.last / ticks});
 }
 
-std::string Range(const host::AnimationState& animation) {
+std::string Range(const host::AnimationState& animation, bool is_kept) {
   const int ticks = animation.TicksPerFrame();
-  return FormatInt(animation.Range().Start() / ticks) + " to " +
-         FormatInt(animation.Range().End() / ticks) + " at " +
-         FramesPerSecond(animation.FrameRate());
+  const orvane::FrameSpan frames{animation.Range().Start() / ticks,
+                                 animation.Range().End() / ticks};
+  return FramesAtRate(frames, animation.FrameRate()) +
+         (is_kept ? ", as before: one frame sets no range" : "");
 }
 
 // How many were set, unless that is all of them.
@@ -64,10 +65,11 @@ void PrintImportSummary(const ImportedFile& file, const host::Scene& scene, std:
   if (!file.is_delivered && file.application) PrintTable(*file.application, out);
   out << "  Nodes   " << Count(scene.NodeCount()) << '\n'
       << "  Keys    " << keys << '\n'
-      << "  Frames  " << Range(scene.Animation()) << '\n';
+      << "  Frames  " << Range(scene.Animation(), file.keeps_range) << '\n';
   if (file.samples.missing > 0) {
     out << "  Gaps    " << Grouped(file.samples.missing) << " of " << Grouped(file.samples.all)
-        << " samples missing: " << NameOf(file.gaps) << '\n';
+        << (file.samples.all == 1 ? " sample" : " samples") << " missing: " << NameOf(file.gaps)
+        << '\n';
   }
   if (file.chosen_size) {
     out << "  Size    " << orvane::FormatShortest(*file.chosen_size)

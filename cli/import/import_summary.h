@@ -23,6 +23,7 @@ struct ImportedFile {
   bool is_plain = false;         // for viewers alone
   std::size_t output_bytes = 0;  // of the scene file, when it is delivered
   std::size_t keys_set = 0;
+  bool keeps_range = false;             // the animation range is as before: one frame sets none
   SampleCounts samples{};               // of a marker file, in the frames that got keys
   orvane::ShownGaps gaps{};             // what viewers are shown of the missing ones
   std::optional<double> chosen_size{};  // of markers, in millimeters; nothing when nobody chose

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <utility>
 
+#include "cli/common/report.h"
 #include "cli/import/asked_frames.h"
 #include "cli/import/inspection.h"
 #include "cli/import/measured_nodes.h"
@@ -99,6 +100,7 @@ ToldImport Foresee(Inspection& inspection, const ImportOrder& order, const host:
   }
   told.recording = std::move(time.recording);
   told.keyed = inspection.frames.keyed;
+  told.keeps_range = choices.animation && inspection.frames.announced.Count() == 1;
   told.marker_size = inspection.marker_size;
   told.samples = std::move(inspection.samples);
   told.changed = std::move(inspection.changed);
@@ -136,11 +138,12 @@ ToldImport TellOfImport(const ImportOrder& order, const host::Scene& scene,
   ToldImport told = Foresee(inspection, order, scene, manner, of_scene);
   WriteReportFile({told.report}, telling);
   if (inspection.refusal) {
+    const Complaint refusal = WithCode(*inspection.refusal, told.report, inspection.refused_codes);
     for (const std::string_view code : inspection.refused_codes) {
       told.report = told.report.Without(code);
     }
     Tell(told.report, telling);
-    throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
+    throw Failure{ExitStatus::kRefused, {refusal}};
   }
   Tell(told.report, telling);
   // The plug-in would not see the errors, or has nobody for such a file.

@@ -28,6 +28,7 @@ struct ToldImport {
   std::vector<Complaint> complaints;  // of the file and the scene together, not told yet
   orvane::FrameSpan keyed;            // the frames of the file that get keys
   std::string changed;                // the bytes to import, when they are not those of the file
+  bool keeps_range = false;           // one frame sets no animation range
   std::optional<MarkerSamples> samples{};      // of a marker file
   orvane::ShownGaps gaps{};                    // what viewers are shown of the missing ones
   std::optional<Application> application{};    // when it is applied to nodes that are there

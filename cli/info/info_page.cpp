@@ -44,7 +44,7 @@ std::string FramesFound(const HtrDocument& document, const MotionSummary& motion
     found = FormatInt(static_cast<std::int64_t>(motion.fewest_frames)) + " to " + found;
   }
   const std::int64_t first = document.GetStartFrame();
-  return found + ", numbered " + FormatInt(first) + " to " + FormatInt(first + most - 1);
+  return found + ", numbered " + NumbersOf(orvane::FrameSpan{first, first + most - 1});
 }
 
 std::string Frames(const InfoReport& report) {

@@ -41,8 +41,8 @@ std::string Frames(const TrcInfoReport& report) {
   const std::size_t found = report.summary.frames;
   if (found == 0) return announced + "none found";
   const std::int64_t first = report.document.FirstFrame();
-  return announced + Count(found) + " found, numbered " + FormatInt(first) + " to " +
-         FormatInt(first + static_cast<std::int64_t>(found) - 1);
+  return announced + Count(found) + " found, numbered " +
+         NumbersOf(orvane::FrameSpan{first, first + static_cast<std::int64_t>(found) - 1});
 }
 
 void PrintBounds(const TrcInfoReport& report, std::ostream& out) {
@@ -65,8 +65,7 @@ std::string Gaps(const orvane::TRCMarker& marker, std::int64_t first_frame) {
   for (const auto& [begin, end, before] : LongestGaps(marker, kMostGaps)) {
     const std::int64_t first = first_frame + static_cast<std::int64_t>(begin);
     const std::int64_t last = first_frame + static_cast<std::int64_t>(end) - 1;
-    text += (text.empty() ? "" : ", ") + FormatInt(first);
-    if (last != first) text += " to " + FormatInt(last);
+    text += (text.empty() ? "" : ", ") + NumbersOf(orvane::FrameSpan{first, last});
   }
   const std::size_t count = marker.Gaps().size();
   return count > kMostGaps ? text + ", and " + Count(count - kMostGaps) + " more" : text;

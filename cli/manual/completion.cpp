@@ -154,12 +154,23 @@ class Script {
     return "_orvane_words " + Quoted(CLI::detail::join(words, " "));
   }
 
+  // Verbs as they are typed: of a verb that has some of its own, those stand behind it.
+  std::string VerbsCall() const {
+    std::string call = "case $before in";
+    for (const CLI::App* verb : verbs_) {
+      const Apps own = VerbsOf(*verb);
+      if (own.empty()) continue;
+      call += " " + Quoted(verb->get_name()) + ") " + WordsCall(NamesOf(own)) + " ;;";
+    }
+    return call + " *) " + WordsCall(NamesOf(VerbsOf(*apps_.front()))) + " ;; esac";
+  }
+
   std::string CallFor(const Values& values) const {
     switch (values.kind) {
       case Values::Kind::kWords:
         return WordsCall(values.words);
       case Values::Kind::kVerbs:
-        return WordsCall(NamesOf(verbs_));
+        return VerbsCall();
       case Values::Kind::kFolders:
         return "_orvane_folders";
       case Values::Kind::kFiles: {

@@ -77,10 +77,12 @@ orvane::FileReport TellOfMarkers(const InputFile& input, const host::Scene& scen
     WriteReportFile({report}, manner);
   }
   if (inspection.refusal) {
+    const Complaint refusal = WithCode(*inspection.refusal, report, inspection.refused_codes);
     for (const std::string_view code : inspection.refused_codes) report = report.Without(code);
+    Tell(report, manner);
+    throw Failure{ExitStatus::kRefused, {refusal}};
   }
   Tell(report, manner);
-  if (inspection.refusal) throw Failure{ExitStatus::kRefused, {*inspection.refusal}};
   if (Forbids(manner, report)) throw ForbiddenByStrict(manner, report);
   return report;
 }

@@ -1,6 +1,7 @@
 #include "cli/map/map_suggest.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 #include <iostream>
 #include <memory>
 #include <optional>
@@ -9,6 +10,7 @@
 #include "cli/common/input.h"
 #include "cli/common/input_files.h"
 #include "cli/common/outputs.h"
+#include "cli/common/page_text.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/told_reading.h"
 #include "cli/map/mapping_output.h"
@@ -53,6 +55,13 @@ std::string AdviceFor(const SuggestionReport& report) {
 void LookAtNames(SuggestionReport& report, const std::string& subject) {
   SuggestByNames(report, subject);
   if (!report.suggested.empty()) return;
+  const auto& known = report.subjects;
+  if (!subject.empty() && std::find(known.begin(), known.end(), subject) == known.end()) {
+    throw Failure{
+        ExitStatus::kRefused,
+        {{report.file, "No marker is of the subject \"" + subject + "\"",
+          known.empty() ? "Its markers are of none." : "There is " + FewOf(known) + "."}}};
+  }
   throw Failure{
       ExitStatus::kRefused,
       {{report.file, "No name of its markers says what place of the body it is of for sure",
@@ -147,7 +156,7 @@ void AddMapSuggest(CLI::App& map, Work& work) {
       ->excludes(by_geometry);
   AddReportFlags(*verb, arguments->report);
   verb->add_flag("--json", arguments->json, "Write JSON");
-  verb->add_flag("--quiet", arguments->quiet, "No summary; warnings are still told");
+  verb->add_flag("--quiet", arguments->quiet, "No page, and no notes; warnings are still told");
   verb->callback([arguments, &work] { work = [arguments] { return Suggest(*arguments); }; });
 }
 

@@ -6,20 +6,19 @@
 #include "cli/common/messages.h"
 #include "formats/mnm/mapping_lines.h"
 #include "inspect/mapping/geometry_suggestion.h"
-#include "inspect/mapping/marker_words.h"
 
 namespace cli {
 namespace {
 
 using orvane::NameReason;
 
-std::string Describe(NameReason reason, const std::string& name) {
+std::string Describe(NameReason reason, const std::string& name, const std::string& standard) {
   switch (reason) {
     case NameReason::kSame:
       return "the same name";
     case NameReason::kSubject:
       return "the same name behind " +
-             Printable("\"" + std::string(orvane::DivideName(name).subject) + "\"");
+             Printable("\"" + name.substr(0, name.size() - standard.size()) + "\"");
     case NameReason::kCase:
       return "the same name but for capital letters";
     case NameReason::kSynonym:
@@ -46,7 +45,7 @@ void SuggestByNames(SuggestionReport& report, const std::string& subject) {
   orvane::NameSuggestion suggestion = orvane::SuggestByNames(report.markers, subject);
   for (const orvane::SuggestedMarker& sure : suggestion.sure) {
     report.suggested.push_back({sure.standard, sure.marker, WordFor(sure.reason),
-                                Describe(sure.reason, report.markers[sure.marker])});
+                                Describe(sure.reason, report.markers[sure.marker], sure.standard)});
   }
   report.ambiguous = std::move(suggestion.ambiguous);
   report.missing = std::move(suggestion.missing);

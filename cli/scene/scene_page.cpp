@@ -22,10 +22,10 @@ std::string Times(std::size_t number) { return Counted(static_cast<std::int64_t>
 std::string RateText(const std::optional<host::Rate>& rate) {
   if (!rate) return "the host's time";
   const auto& [numerator, denominator] = *rate;
+  if (denominator == 1) return FramesPerSecond(numerator);
   const std::string text =
       orvane::FormatShortest(static_cast<double>(numerator) / static_cast<double>(denominator));
-  const std::string fraction =
-      denominator == 1 ? "" : " (" + FormatInt(numerator) + "/" + FormatInt(denominator) + ")";
+  const std::string fraction = " (" + FormatInt(numerator) + "/" + FormatInt(denominator) + ")";
   return text + fraction + " frames per second";
 }
 

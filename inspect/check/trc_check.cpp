@@ -14,6 +14,7 @@
 #include "inspect/check/trc_positions.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/counts/frame_counts.h"
+#include "inspect/counts/frame_span.h"
 
 namespace orvane {
 namespace {
@@ -79,17 +80,12 @@ class WholeFile {
     const bool follow = last - first + 1 == frames;
     const bool is_announced = parts_.Value(TRCHeaderValue::kFirstFrame).has_value();
     findings_.Add(trc::Rule("trc-first-frame"), parts_.PlaceOfFrame(0),
-                  {follow ? NumbersOf(first, last) : "from " + FormatInt(first) + " on",
-                   NumbersOf(taken, taken + frames - 1) +
+                  {follow ? NumbersOf(FrameSpan{first, last}) : "from " + FormatInt(first) + " on",
+                   NumbersOf(FrameSpan{taken, taken + frames - 1}) +
                        (is_announced ? ", as OrigDataStartFrame says"
                                      : ", as the path type is neither 3 nor 4"),
                    "--range takes them by these numbers: " + FormatInt(taken) + ":" +
                        FormatInt(taken + frames - 1) + " for all."});
-  }
-
-  // "185 to 257".
-  static std::string NumbersOf(std::int64_t first, std::int64_t last) {
-    return first == last ? FormatInt(first) : FormatInt(first) + " to " + FormatInt(last);
   }
 
   void AddMarkersMissing() {

@@ -2,6 +2,8 @@
 
 #include <cstddef>
 
+#include "formats/text/numbers.h"
+
 namespace orvane {
 namespace {
 
@@ -9,7 +11,26 @@ FrameSpan Numbered(std::int64_t first, std::size_t count) {
   return {first, first + static_cast<std::int64_t>(count) - 1};
 }
 
+bool IsOne(const FrameSpan& frames) { return frames.first == frames.last; }
+
 }  // namespace
+
+std::string NumbersOf(const FrameSpan& frames) {
+  const std::string first = FormatInt(frames.first);
+  return IsOne(frames) ? first : first + " to " + FormatInt(frames.last);
+}
+
+std::string FramesText(const FrameSpan& frames) {
+  return (IsOne(frames) ? "frame " : "frames ") + NumbersOf(frames);
+}
+
+std::string TheFrames(const FrameSpan& frames) {
+  return (IsOne(frames) ? "" : "the ") + FramesText(frames);
+}
+
+std::string RangeText(const FrameSpan& frames) {
+  return IsOne(frames) ? FramesText(frames) : NumbersOf(frames);
+}
 
 FrameSpan FramesHeld(const HtrDocument& document) {
   std::size_t most = 0;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstdint>
 #include <optional>
+#include <string>
 
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
@@ -25,6 +26,18 @@ struct FrameSpan {
 [[nodiscard]] inline FrameSpan Overlap(const FrameSpan& left, const FrameSpan& right) {
   return {std::max(left.first, right.first), std::min(left.last, right.last)};
 }
+
+// "5 to 12", and of one frame "5".
+[[nodiscard]] std::string NumbersOf(const FrameSpan& frames);
+
+// "frames 5 to 12", and of one "frame 5".
+[[nodiscard]] std::string FramesText(const FrameSpan& frames);
+
+// "the frames 5 to 12", and of one "frame 5".
+[[nodiscard]] std::string TheFrames(const FrameSpan& frames);
+
+// Where frames have been named before: "5 to 12", and of one "frame 5".
+[[nodiscard]] std::string RangeText(const FrameSpan& frames);
 
 // The frames that a file holds, as opposed to those that its header announces, as the reader
 // numbers them; those of the longest segment.

@@ -11,6 +11,7 @@
 
 #include "formats/mnm/mapping_lines.h"
 #include "inspect/mapping/marker_words.h"
+#include "inspect/mapping/underscored_subject.h"
 
 namespace orvane {
 namespace {
@@ -24,22 +25,6 @@ std::string InOneWord(std::string_view name) {
   std::string word = InSmallLetters(name);
   std::replace(word.begin(), word.end(), kBlank, kUnderscore);
   return word;
-}
-
-// "Left_" before a place is the side of the body, and no subject.
-bool IsSideOfTheBody(std::string_view prefix) {
-  return WordsOf(std::string(prefix) + "x").place == "x";
-}
-
-// What is a marker by itself: a number behind an underscore is that of one of several.
-bool HasLetter(std::string_view rest) {
-  return rest.find_first_not_of("0123456789_") != std::string_view::npos;
-}
-
-// What stands before the first underscore of `name`, with it; empty when that is no subject.
-std::string_view FirstPrefixOf(std::string_view name) {
-  const std::string_view prefix = name.substr(0, name.find(kUnderscore) + 1);
-  return prefix.size() < 2 || IsSideOfTheBody(prefix) ? std::string_view() : prefix;
 }
 
 struct Name {
@@ -77,15 +62,10 @@ class Side {
     for (Name& name : names_) {
       if (name.subject == 0) undivided.push_back(&name);
     }
-    if (undivided.size() < 2) return;
-    const std::string prefix(FirstPrefixOf(undivided.front()->word));
-    const bool is_shared =
-        std::all_of(undivided.begin(), undivided.end(), [&prefix](const Name* name) {
-          const std::string_view word = name->word;
-          return word.starts_with(prefix) && HasLetter(word.substr(prefix.size()));
-        });
-    if (!is_shared) return;
-    for (Name* name : undivided) name->subject = prefix.size();
+    std::vector<std::string_view> words;
+    for (const Name* name : undivided) words.push_back(name->word);
+    const std::size_t length = SharedSubject(words).size();
+    for (Name* name : undivided) name->subject = length;
   }
 
   std::vector<Name> names_;
@@ -120,7 +100,7 @@ Keys UnderscoreKeys(const Name& name, bool is_mapped) {
     if (end == std::string::npos) break;
     const std::string rest = name.word.substr(end + 1);
     if (IsSideOfTheBody(name.word.substr(begin, end + 1 - begin))) break;
-    if (end > 0 && HasLetter(rest)) keys.push_back(kUndivided[is_mapped ? 1 : 0] + rest);
+    if (end > 0 && IsMoreThanNumber(rest)) keys.push_back(kUndivided[is_mapped ? 1 : 0] + rest);
     begin = end + 1;
   }
   return keys;

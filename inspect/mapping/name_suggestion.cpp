@@ -10,6 +10,7 @@
 #include "formats/mnm/standard_markers.h"
 #include "inspect/mapping/marker_synonyms.h"
 #include "inspect/mapping/marker_words.h"
+#include "inspect/mapping/underscored_subject.h"
 
 namespace orvane {
 namespace {
@@ -19,10 +20,14 @@ struct Role {
   NameReason reason;
 };
 
-std::string_view SubjectOf(std::string_view name) {
-  std::string_view subject = DivideName(name).subject;
-  if (!subject.empty()) subject.remove_suffix(1);  // the colon
-  return subject;
+// How long the subject is, with its underscore, that all names without a colon begin with.
+std::size_t LengthOfSharedSubject(std::span<const std::string> names) {
+  std::vector<std::string> undivided;
+  for (const std::string& name : names) {
+    if (CannotBeMapped(name) || !DivideName(name).subject.empty()) continue;
+    undivided.push_back(InSmallLetters(name));
+  }
+  return SharedSubject({undivided.begin(), undivided.end()}).size();
 }
 
 std::optional<std::string> StandardMarkerInAnyCase(std::string_view marker) {
@@ -33,9 +38,8 @@ std::optional<std::string> StandardMarkerInAnyCase(std::string_view marker) {
   return IsStandardMarker(capitals) ? std::optional(capitals) : std::nullopt;
 }
 
-std::optional<Role> RoleOf(std::string_view name) {
+std::optional<Role> RoleOf(std::string_view name, std::string_view marker) {
   if (IsStandardMarker(name)) return Role{std::string(name), NameReason::kSame};
-  const std::string_view marker = DivideName(name).marker;
   if (IsStandardMarker(marker)) return Role{std::string(marker), NameReason::kSubject};
   if (auto standard = StandardMarkerInAnyCase(marker)) return Role{*standard, NameReason::kCase};
   if (auto standard = StandardMarkerFor(WordsOf(marker))) {
@@ -64,7 +68,7 @@ struct Candidates {
 class Suggesting {
  public:
   Suggesting(std::span<const std::string> names, const std::string& subject)
-      : names_(names), subject_(subject) {}
+      : names_(names), subject_(subject), shared_(LengthOfSharedSubject(names)) {}
 
   NameSuggestion Run() {
     for (std::size_t marker = 0; marker < names_.size(); ++marker) Look(marker);
@@ -84,14 +88,21 @@ class Suggesting {
  private:
   void Look(std::size_t marker) {
     const std::string& name = names_[marker];
-    const std::string_view subject = SubjectOf(name);
+    auto [subject, rest] = Divide(name);
+    if (!subject.empty()) subject.remove_suffix(1);  // the colon or the underscore
     AddSubject(subject);
     if (!subject_.empty() && subject != subject_) return;
     if (CannotBeMapped(name)) return result_.unmappable.push_back(marker);
-    const auto role = RoleOf(name);
+    const auto role = RoleOf(name, rest);
     if (!role) return result_.without_role.push_back(marker);
     const auto less_sure = candidates_[role->standard].Add(marker, role->reason);
     result_.without_role.insert(result_.without_role.end(), less_sure.begin(), less_sure.end());
+  }
+
+  [[nodiscard]] SubjectAndMarker Divide(std::string_view name) const {
+    const SubjectAndMarker divided = DivideName(name);
+    if (!divided.subject.empty() || CannotBeMapped(name)) return divided;
+    return {name.substr(0, shared_), name.substr(shared_)};
   }
 
   void AddSubject(std::string_view subject) {
@@ -130,6 +141,7 @@ class Suggesting {
 
   std::span<const std::string> names_;
   const std::string& subject_;
+  const std::size_t shared_;
   std::map<std::string, Candidates> candidates_;  // by standard name
   std::set<std::string, std::less<>> known_subjects_;
   NameSuggestion result_;

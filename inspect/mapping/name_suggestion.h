@@ -13,7 +13,8 @@ namespace orvane {
 // How a name says so, the surest way first.
 enum class NameReason {
   kSame,     // it is the standard marker's
-  kSubject,  // it is behind the name of a subject
+  kSubject,  // it is behind the name of a subject: before a colon, or before an underscore
+             // that all names without a colon share
   kCase,     // it is but for the case of its letters, behind a subject or not
   kSynonym,  // it is a usual name of the same place
 };
@@ -40,7 +41,7 @@ struct NameSuggestion {
   std::vector<std::size_t> without_role;
   std::vector<std::size_t> unmappable;
 
-  // The subjects that names begin with, without their colons, in the order of the markers.
+  // The subjects that names begin with, without what ends them, in the order of the markers.
   std::vector<std::string> subjects;
 };
 

@@ -16,8 +16,8 @@ constexpr FindingEffects Imported(FindingSeverity severity, const char* conseque
 constexpr FindingMeaning kWords[] = {
     {"apply-select-nothing", "The scene has no node of the name that --select gives",
      "The scene has no nodes of the {count} names that --select gives", Applied(kError)},
-    {"apply-range-outside", "--range asks for the frames {found}, and the file has {expected}",
-     nullptr, Imported(kError)},
+    {"apply-range-outside", "--range asks for {found}, and the file has {expected}", nullptr,
+     Imported(kError)},
     {"apply-select-unknown", "The scene has no node of a name that --select gives",
      "The scene has no nodes of {count} names that --select gives", Imported(kWarning)},
     {"apply-nothing-selected", "Nothing is selected in the scene", nullptr, Applied(kWarning)},
@@ -49,8 +49,8 @@ constexpr FindingMeaning kWords[] = {
     {"apply-range-partly", "--range asks for {expected} frames, and the file lacks {found} of them",
      nullptr, Imported(kWarning)},
     {"apply-keys-outside-range",
-     "Keys come to lie in the frames {found}, and the scene's animation range is then {expected}",
-     nullptr, Applied(kWarning).But(Action::kImport, kNote)},
+     "Keys come to lie in {found}, and the scene's animation range is then {expected}", nullptr,
+     Applied(kWarning).But(Action::kImport, kNote)},
     {"apply-range-shortened", "The scene's animation range was {found}, and is then {expected}",
      nullptr,
      Imported(

@@ -8,24 +8,20 @@ namespace {
 
 constexpr FindingPlace kNoPlace{0, 0};
 
-std::string TextOf(const FrameSpan& frames) {
-  return FormatInt(frames.first) + " to " + FormatInt(frames.last);
-}
-
 }  // namespace
 
 void CheckCut(const FrameSpan& asked, const FrameSpan& held, CheckedFile& checked) {
   const FrameSpan both = Overlap(asked, held);
   if (both.IsEmpty()) {
-    return checked.findings.Add(
-        FindRule(cutting::kRules, "cut-range-outside"), kNoPlace,
-        {TextOf(asked), held.IsEmpty() ? "none" : TextOf(held), "Nothing is made of the file."});
+    return checked.findings.Add(FindRule(cutting::kRules, "cut-range-outside"), kNoPlace,
+                                {TheFrames(asked), held.IsEmpty() ? "none" : RangeText(held),
+                                 "Nothing is made of the file."});
   }
   if (both.Count() == asked.Count()) return;
   checked.findings.Add(FindRule(cutting::kRules, "cut-range-partly"), kNoPlace,
                        {FormatInt(asked.Count() - both.Count()), FormatInt(asked.Count()),
                         both.Count() == 1 ? "Frame " + FormatInt(both.first) + " is taken."
-                                          : "The frames " + TextOf(both) + " are taken."});
+                                          : "The frames " + NumbersOf(both) + " are taken."});
 }
 
 }  // namespace orvane

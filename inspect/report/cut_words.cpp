@@ -11,7 +11,7 @@ constexpr FindingEffects Cut(FindingSeverity severity) {
 }
 
 constexpr FindingMeaning kWords[] = {
-    {"cut-range-outside", "--cut asks for the frames {found}, and the file has {expected}", nullptr,
+    {"cut-range-outside", "--cut asks for {found}, and the file has {expected}", nullptr,
      Cut(kError)},
     {"cut-range-partly", "--cut asks for {expected} frames, and the file lacks {found} of them",
      nullptr, Cut(kWarning)},

@@ -6,6 +6,7 @@
 
 #include "formats/htr/sections.h"
 #include "formats/text/numbers.h"
+#include "inspect/counts/frame_span.h"
 #include "inspect/report/action.h"
 #include "inspect/report/export_rules.h"
 
@@ -109,6 +110,13 @@ class ExportCheck {
   CheckedFile checked_;
 };
 
+// "Frame 5 is", "The frames 1 to 120 are".
+std::string Exported(const FrameSpan& frames) {
+  std::string text = TheFrames(frames) + (frames.Count() == 1 ? " is" : " are");
+  text.front() = static_cast<char>(text.front() - 'a' + 'A');
+  return text;
+}
+
 }  // namespace
 
 CheckedFile CheckExport(const std::string& name, const std::vector<ExportNode>& nodes,
@@ -118,8 +126,7 @@ CheckedFile CheckExport(const std::string& name, const std::vector<ExportNode>& 
   const auto& [first, last] = *frames->keyed;
   if (first <= frames->first && frames->last <= last) return checked;
   checked.findings.Add(Rule("export-frames-unkeyed"), kNoPlace,
-                       {FormatInt(frames->first) + " to " + FormatInt(frames->last),
-                        FormatInt(first) + " to " + FormatInt(last), ""});
+                       {Exported({frames->first, frames->last}), RangeText({first, last}), ""});
   return checked;
 }
 

@@ -42,12 +42,11 @@ constexpr FindingMeaning kWords[] = {
      "The axes of {count} bones are not at right angles",
      Exported(kWarning, "The file holds turns alone, and not the shear.")},
     {"export-helper-skipped", "A node of the skeleton is no bone",
-     "{count} nodes of the skeleton are no bones", Exported(kNote, "It is left out.")},
+     "{count} nodes of the skeleton are no bones", Exported(kNote, "Such a node is left out.")},
     {"export-effector", "An effector ends a chain", "{count} effectors end chains",
-     Exported(kNote, "It is left out; the bone before it has its length.")},
-    {"export-frames-unkeyed",
-     "The frames {found} are exported, and the keys of the skeleton are in {expected}", nullptr,
-     Exported(kNote, "In the others it stands still; --range FROM:TO leaves them out.")},
+     Exported(kNote, "Such an effector is left out; the bone before it has its length.")},
+    {"export-frames-unkeyed", "{found} exported, and the keys of the skeleton are in {expected}",
+     nullptr, Exported(kNote, "In the others it stands still; --range FROM:TO leaves them out.")},
 };
 
 }  // namespace

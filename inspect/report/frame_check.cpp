@@ -10,10 +10,6 @@ namespace {
 
 constexpr FindingPlace kNoPlace{0, 0};
 
-std::string TextOf(const FrameSpan& frames) {
-  return FormatInt(frames.first) + " to " + FormatInt(frames.last);
-}
-
 // How many of `frames` are in `others`.
 std::int64_t CountIn(const FrameSpan& others, const FrameSpan& frames) {
   const std::int64_t first = std::max(others.first, frames.first);
@@ -26,15 +22,14 @@ void CheckAsked(const FrameSpan& asked, const FrameSpan& held, FindingList& find
   const std::int64_t count = asked.last - asked.first + 1;
   if (found == count) return;
   if (found > 0) {
-    findings.Add(
-        FindRule(apply::kRules, "apply-range-partly"), kNoPlace,
-        {FormatInt(count - found), FormatInt(count),
-         "There every marker goes to the origin; the file has the frames " + TextOf(held) + "."});
+    findings.Add(FindRule(apply::kRules, "apply-range-partly"), kNoPlace,
+                 {FormatInt(count - found), FormatInt(count),
+                  "There every marker goes to the origin; the file has " + TheFrames(held) + "."});
     return;
   }
   const std::string first = FormatInt(held.first);
   findings.Add(FindRule(apply::kRules, "apply-range-outside"), kNoPlace,
-               {TextOf(asked), TextOf(held),
+               {TheFrames(asked), RangeText(held),
                 "Nothing is imported; the first line of the file counts as frame " + first +
                     ", and --range " + first + ":" + FormatInt(held.last) + " takes all of it."});
 }
@@ -65,14 +60,15 @@ CheckedFile CheckFrames(const std::string& name, std::string_view kind,
   const FrameSpan& after = frames.range_after;
   if (IsReversed(after)) return checked;
   if (frames.keyed && !IsIn(after, *frames.keyed)) {
-    checked.findings.Add(FindRule(apply::kRules, "apply-keys-outside-range"), kNoPlace,
-                         {TextOf(*frames.keyed), TextOf(after), NotPlayed(*frames.keyed, after)});
+    checked.findings.Add(
+        FindRule(apply::kRules, "apply-keys-outside-range"), kNoPlace,
+        {TheFrames(*frames.keyed), RangeText(after), NotPlayed(*frames.keyed, after)});
   }
   if (frames.played && !IsIn(after, *frames.played)) {
     checked.findings.Add(
         FindRule(apply::kRules, "apply-range-shortened"), kNoPlace,
-        {TextOf(frames.range_before) + (frames.changes_rate ? " at the new frame rate" : ""),
-         TextOf(after), ""});
+        {RangeText(frames.range_before) + (frames.changes_rate ? " at the new frame rate" : ""),
+         RangeText(after), ""});
   }
   return checked;
 }

@@ -54,6 +54,10 @@ class CompletionTest(unittest.TestCase):
         self.assertEqual(self.complete("help", "im"), ["import"])
         self.assertEqual(self.complete("help", "map", "cr"), ["create"])
 
+    def test_behind_the_verb_help_a_verb_stands_behind_its_own(self):
+        self.assertEqual(self.complete("help", "map", ""), ["create", "lint", "show", "suggest"])
+        self.assertEqual(self.complete("help", "s"), ["scene"])
+
     def test_flags_are_those_of_the_verb(self):
         self.assertEqual(self.complete("--v"), ["--version"])
         self.assertEqual(self.complete("import", "walk.htr", "--no-a"), ["--no-animation"])

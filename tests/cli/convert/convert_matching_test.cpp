@@ -163,7 +163,7 @@ TEST_F(NamesOfMappingTest, NamesWithBlanksAreConvertedAmongOthers) {
       ConvertBy("subject", {"anna.trc", "blanks.trc", "walker.trc", "--jobs", "1", "--json"});
   EXPECT_EQ(result.status, 0) << result.error;
   const json files = json::parse(result.output)["files"];
-  for (const std::size_t file : {0, 1, 2}) EXPECT_EQ(files[file]["markers_kept"], 2) << file;
+  for (const std::size_t file : {0U, 1U, 2U}) EXPECT_EQ(files[file]["markers_kept"], 2) << file;
   EXPECT_EQ(files[1]["names_taken"], json::parse(R"([
       {"marker": "walker C7", "taken_for": "walker:C7"},
       {"marker": "walker LFHD", "taken_for": "walker:LFHD"}])"));

@@ -37,7 +37,7 @@ TEST_F(ConvertProportionTest, AMillionSamplesMayBeMadeUp) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
             "orvane: take.trc: The header announces 10002 frames, but the file holds 1: 1000100 "
-            "frames of 100 markers would be made up, and 100 are held\n"
+            "frames of 100 markers would be made up, and 100 are held [trc-frame-count]\n"
             "  Is \"NumFrames\" right?\n");
 }
 

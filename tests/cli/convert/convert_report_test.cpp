@@ -310,7 +310,8 @@ TEST_F(ConvertReportTest, WhatIsRefusedForItsFramesIsToldOnce) {
   const ProgramResult result = Convert({"walk.trc", "--json"});
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
-            "orvane: walk.trc: The header announces 2000000000 frames, but the file holds 1\n"
+            "orvane: walk.trc: The header announces 2000000000 frames, but the file holds 1 "
+            "[trc-frames-too-many]\n"
             "  Is \"NumFrames\" right?\n");
   const json file = json::parse(result.output)["files"][0];
   EXPECT_EQ(file["findings"][0]["code"], "trc-frames-too-many");

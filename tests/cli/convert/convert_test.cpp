@@ -144,7 +144,8 @@ TEST_F(ConvertTest, RefusesFilesThatEndBeforeTheirRates) {
             ? "orvane: short.trc: error: The file is empty (line 1, column 1). Nothing is read; "
               "was "
               "it saved, or copied, to its end? [trc-empty]\n"
-            : "orvane: short.trc: The file ends before its third line, which tells its rates\n"
+            : "orvane: short.trc: The file ends before its third line, which tells its rates "
+              "[trc-markers-missing]\n"
               "  It would be written with a camera rate that is not its own.\n";
     for (const auto& arguments :
          {std::vector<std::string>{"walk.trc", "short.trc", "--force"}, {"short.trc"}}) {
@@ -212,7 +213,8 @@ TEST_F(ConvertTest, RefusesHeadersThatPromiseFarTooMuch) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
             std::string("orvane: walk.trc: note: ") + kGap +
-                "orvane: wrong.trc: The header announces 2000000000 frames, but the file holds 1\n"
+                "orvane: wrong.trc: The header announces 2000000000 frames, but the file holds 1 "
+                "[trc-frames-too-many]\n"
                 "  Is \"NumFrames\" right?\n");
   EXPECT_THAT(result.output, HasSubstr("wrong.bvk  refused\n"));
   EXPECT_TRUE(Exists("walk.bvk"));

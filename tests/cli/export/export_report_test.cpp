@@ -105,10 +105,10 @@ TEST_F(ExportReportTest, HelpersAndEffectorsThatAreSkippedAreNamed) {
   EXPECT_EQ(Export().error,
             "orvane: scene.glb: warning: A bone hangs from a node that is no bone: \"Cable\". Such "
             "a bone is left out. [export-below-helper]\n"
-            "orvane: scene.glb: note: A node of the skeleton is no bone: \"Prop\". It is left out. "
-            "[export-helper-skipped]\n"
-            "orvane: scene.glb: note: An effector ends a chain: \"Head_Effector\". It is left out; "
-            "the bone before it has its length. [export-effector]\n");
+            "orvane: scene.glb: note: A node of the skeleton is no bone: \"Prop\". Such a node is "
+            "left out. [export-helper-skipped]\n"
+            "orvane: scene.glb: note: An effector ends a chain: \"Head_Effector\". Such an "
+            "effector is left out; the bone before it has its length. [export-effector]\n");
 }
 
 TEST_F(ExportReportTest, ANameThatTheFileReadsOtherwiseIsNamedBeforeTheRefusal) {

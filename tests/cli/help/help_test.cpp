@@ -142,6 +142,14 @@ INSTANTIATE_TEST_SUITE_P(
                 {"help", "map", "lnit"},
                 "orvane: there is no verb \"lnit\"; did you mean \"lint\"?\n"
                 "  \"orvane map --help\" lists what there is.\n"},
+        Mistake{"VerbOfAVerbByItself",
+                {"suggest", "walk.trc"},
+                "orvane: there is no verb \"suggest\"; did you mean \"map suggest\"?\n"
+                "  \"orvane --help\" lists what there is.\n"},
+        Mistake{"VerbWithoutOneOfItsOwn",
+                {"map"},
+                "orvane: a verb is missing behind \"map\"\n"
+                "  \"orvane map --help\" lists what there is.\n"},
         Mistake{"VerbLikeNone",
                 {"dance"},
                 "orvane: there is no verb \"dance\"\n  \"orvane --help\" lists what there is.\n"},

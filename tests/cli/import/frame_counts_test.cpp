@@ -112,7 +112,7 @@ TEST_F(FrameCountsTest, FarMoreAnnouncedThanHeldIsRefusedBeforeThePlugInIsAsked)
     EXPECT_THAT(result.output, IsEmpty());
     EXPECT_EQ(result.error,
               "orvane: walk.htr: The header announces " + std::string(count) +
-                  " frames, but the file holds 3\n"
+                  " frames, but the file holds 3 [htr-frames-too-many]\n"
                   "  Is \"NumFrames\" right? --range FROM:TO imports a part of them.\n");
     EXPECT_THAT(Names(), ElementsAre("walk.htr"));
   }
@@ -208,7 +208,7 @@ TEST_F(FrameCountsTest, TenTimesWhatIsHeldMayBeAnnounced) {
   EXPECT_EQ(result.status, 1);
   EXPECT_THAT(result.error,
               testing::HasSubstr("\norvane: walk.htr: The header announces 100041 frames, but its "
-                                 "segments hold 3 to 10004\n"));
+                                 "segments hold 3 to 10004 [htr-frames-too-many]\n"));
   EXPECT_THAT(result.error, Not(testing::HasSubstr("[htr-frame-count]"))) << "which says the same";
 }
 

@@ -79,7 +79,7 @@ TEST_F(ImportCutTest, OfFramesThatTheFileHasNotIsRefusedWithThoseThatItHas) {
     EXPECT_EQ(result.status, 1);
     EXPECT_THAT(result.error,
                 HasSubstr("orvane: take.trc: --cut asks for the frames 1 to 4, and the file has "
-                          "228 to 231\n  --cut 228:231 takes all of it.\n"));
+                          "228 to 231 [cut-range-outside]\n  --cut 228:231 takes all of it.\n"));
     EXPECT_FALSE(Exists("out.glb"));
   }
   EXPECT_EQ(Import("take.trc", {"--cut", "1:4", "--report", "found.json"}).status, 1);

@@ -53,7 +53,8 @@ class ImportProportionTest : public test::OrvaneTest {
   static void ExpectRefused(const ProgramResult& result, const std::string& error,
                             const std::string& told = "") {
     EXPECT_EQ(result.status, 1);
-    EXPECT_EQ(result.error, told + "orvane: " + error + "\n" + kAdvice);
+    const std::string code = error.starts_with("walk.trc") ? "trc" : "htr";
+    EXPECT_EQ(result.error, told + "orvane: " + error + " [" + code + "-frame-count]\n" + kAdvice);
   }
 
   // A scene with the hand and so many of its segments.
@@ -125,7 +126,8 @@ TEST_F(ImportProportionTest, SegmentsThatAreListedTwiceCountTwice) {
             "orvane: hand.htr: warning: [BasePosition] comes again (line 22, column 2). The last "
             "one counts, and a new skeleton has bones more than once. [htr-base-repeated]\n"
             "orvane: hand.htr: The header announces 90000 frames, but the file holds 1: 1169987 "
-            "frames of 13 segments would be made up, and 3 are held\n"
+            "frames of 13 segments would be made up, and 3 are held "
+            "[htr-frame-count]\n"
             "  [BasePosition] comes again, so that segments are listed more than once.\n");
 }
 
@@ -280,7 +282,7 @@ TEST_F(ImportProportionTest, AMappingIsNotMadeOfThemEither) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
             "orvane: walk.trc: The header announces 30000 frames, but the file holds 1: 2999900 "
-            "frames of 100 markers would be made up, and 100 are held\n"
+            "frames of 100 markers would be made up, and 100 are held [trc-frame-count]\n"
             "  Is \"NumFrames\" right?\n");
 }
 

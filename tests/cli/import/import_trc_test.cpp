@@ -144,7 +144,8 @@ TEST_F(ImportTrcTest, FarMoreAnnouncedThanHeldIsRefused) {
   EXPECT_EQ(result.status, 1);
   EXPECT_EQ(result.error,
             std::string(kGaps) +
-                "orvane: walk.trc: The header announces 2147483647 frames, but the file holds 3\n"
+                "orvane: walk.trc: The header announces 2147483647 frames, but the file holds 3 "
+                "[trc-frames-too-many]\n"
                 "  Is \"NumFrames\" right? --range FROM:TO imports a part of them.\n");
   EXPECT_FALSE(Exists("walk.glb"));
   EXPECT_EQ(Import({"--range", "1:3"}).status, 0);

@@ -16,8 +16,8 @@ constexpr char kLeftOut[] =
     "left out. [export-below-helper]\n"
     "orvane: rig.glb: warning: A bone has a blank in its name, or the name of another: \"Boom\". "
     "Such a bone is left out, with all below it. [export-name-refused]\n"
-    "orvane: rig.glb: note: An effector ends a chain: \"Hook_Effector\". It is left out; the bone "
-    "before it has its length. [export-effector]\n";
+    "orvane: rig.glb: note: An effector ends a chain: \"Hook_Effector\". Such an effector "
+    "is left out; the bone before it has its length. [export-effector]\n";
 constexpr char kOffset[] =
     "orvane: rig.glb: Bone: Boom contains an object offset transformation, the resulting skeleton "
     "may not be correct.\n"

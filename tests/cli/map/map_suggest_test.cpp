@@ -110,6 +110,20 @@ TEST_F(MapSuggestTest, NamesThatSayNothingAreRefused) {
   EXPECT_FALSE(Exists("take.mnm"));
 }
 
+TEST_F(MapSuggestTest, ASubjectThatTheFileHasNotIsNamed) {
+  WriteMarkers({"anna:LFHD", "bob:LFHD"});
+  const ProgramResult result = Suggest({"--subject", "walker"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_EQ(result.error,
+            "orvane: take.trc: No marker is of the subject \"walker\"\n"
+            "  There is anna and bob.\n");
+}
+
+TEST_F(MapSuggestTest, ASubjectMayEndWithAnUnderscore) {
+  WriteMarkers({"Anna_LFHD", "Anna_RFHD"});
+  EXPECT_THAT(Suggest().output, StartsWith("LFHD    Anna_LFHD  the same name behind \"Anna_\"\n"));
+}
+
 TEST_F(MapSuggestTest, ASubjectIsChosenAmongSeveral) {
   WriteMarkers({"anna:LFHD", "bob:LFHD"});
   const ProgramResult several = Suggest({"-o", "take.mnm"});

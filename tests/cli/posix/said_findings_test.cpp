@@ -84,9 +84,13 @@ std::vector<Said> SaidIn(const std::string& error) {
 // How a refusal says what a code says, with more about it.
 bool IsSaidInARefusal(const std::string& code, const std::string& error) {
   static const std::map<std::string, std::string> refusals = {
-      {"htr-frames-too-many", ": The header announces 2000000000 frames, but the file holds 120\n"},
-      {"trc-frames-too-many", ": The header announces 2000000000 frames, but the file holds 120\n"},
-      {"trc-markers-missing", ": The file holds no markers\n"}};
+      {"htr-frames-too-many",
+       ": The header announces 2000000000 frames, but the file holds 120 "
+       "[htr-frames-too-many]\n"},
+      {"trc-frames-too-many",
+       ": The header announces 2000000000 frames, but the file holds 120 "
+       "[trc-frames-too-many]\n"},
+      {"trc-markers-missing", ": The file holds no markers [trc-markers-missing]\n"}};
   const auto refusal = refusals.find(code);
   return refusal != refusals.end() && error.find(refusal->second) != std::string::npos;
 }

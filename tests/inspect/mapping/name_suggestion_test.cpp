@@ -56,6 +56,22 @@ INSTANTIATE_TEST_SUITE_P(
         Named{"R.Wrist.Med", ""}, Named{"LWristThumb", "LWRA"}, Named{"walker:", ""},
         Named{"Knee", ""}, Named{"LTHI", ""}, Named{"lamp", ""}));
 
+TEST(NameSuggestionTest, ASubjectThatAllNamesShareMayEndWithAnUnderscore) {
+  const NameSuggestion suggestion = SuggestByNames(Names{"Anna_LFHD", "anna_c7", "Anna_L_Heel"});
+  ASSERT_EQ(suggestion.sure.size(), 3U);
+  EXPECT_EQ(suggestion.sure[0].standard, "LFHD");
+  EXPECT_EQ(suggestion.sure[0].reason, NameReason::kSubject);
+  EXPECT_EQ(suggestion.sure[1].standard, "C7");
+  EXPECT_EQ(suggestion.sure[1].reason, NameReason::kCase);
+  EXPECT_EQ(suggestion.sure[2].standard, "LHEL");
+  EXPECT_THAT(suggestion.subjects, ElementsAre("Anna", "anna"));
+}
+
+TEST(NameSuggestionTest, WhatNotAllNamesBeginWithIsNoSubject) {
+  EXPECT_THAT(SuggestByNames(Names{"Anna_LFHD", "Bob_RFHD"}).sure, IsEmpty());
+  EXPECT_THAT(SuggestByNames(Names{"Anna_LFHD"}).sure, IsEmpty());
+}
+
 TEST(NameSuggestionTest, TellsHowANameSaysSo) {
   const NameSuggestion suggestion =
       SuggestByNames(Names{"LHeel", "walker:C7", "LFHD", "walker:clav"});
