@@ -63,6 +63,7 @@ class Side {
       if (name.subject == 0) undivided.push_back(&name);
     }
     std::vector<std::string_view> words;
+    words.reserve(undivided.size());
     for (const Name* name : undivided) words.push_back(name->word);
     const std::size_t length = SharedSubject(words).size();
     for (Name* name : undivided) name->subject = length;
