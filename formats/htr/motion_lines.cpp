@@ -22,7 +22,6 @@ void MotionLines::Enter(std::string_view name) {
   segment_ = document_.FindSegment(name);
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kUnknownSegmentSection, name);
   frames_before_section_ = segment_->GetNumFrames();
-  if (counts_ != nullptr) frames_counted_ = &(*counts_)[segment_];
 }
 
 void MotionLines::Leave() {
@@ -33,7 +32,6 @@ void MotionLines::Leave() {
 
 void MotionLines::Read(std::string_view line, double radians) {
   if (segment_ == nullptr) return oddities_.Report(HtrOddity::kMotionOfUnknownSegment, line);
-  if (frames_counted_ != nullptr) return CountFrame(line);
   const bool is_watched = oddities_.Observer() != nullptr;
   if (is_watched) TellFrame(line);
   if (segment_->GetNumFrames() == 0) ReserveFor(line);
@@ -52,11 +50,6 @@ void MotionLines::TellFrame(std::string_view line) {
 void MotionLines::CheckNumbers(std::string_view line) const {
   static_cast<void>(TakeFirstToken(line));  // the frame number
   oddities_.CheckNumbers(line, kColumns);
-}
-
-void MotionLines::CountFrame(std::string_view line) {
-  if (!first_frame_read_) TakeStartFrame(ParseInt(TakeFirstToken(line)));
-  ++*frames_counted_;
 }
 
 // Intended: of all frame numbers in a file only the very first counts.

@@ -4,7 +4,6 @@
 #include <cstdint>
 #include <string_view>
 
-#include "formats/htr/counted_frames.h"
 #include "formats/htr/document.h"
 #include "formats/htr/oddities.h"
 #include "formats/htr/transform_row.h"
@@ -14,9 +13,9 @@ namespace orvane {
 
 class MotionLines {
  public:
-  // With `counts`, frames are counted there and not read. All must outlive this.
-  MotionLines(HtrDocument& document, HtrOddities& oddities, HtrFrameCounts* counts)
-      : document_(document), oddities_(oddities), counts_(counts) {}
+  // Both must outlive this.
+  MotionLines(HtrDocument& document, HtrOddities& oddities)
+      : document_(document), oddities_(oddities) {}
 
   // The section of the segment `name` begins.
   void Enter(std::string_view name);
@@ -29,16 +28,13 @@ class MotionLines {
  private:
   void TellFrame(std::string_view line);
   void CheckNumbers(std::string_view line) const;
-  void CountFrame(std::string_view line);
   void TakeStartFrame(std::int32_t frame_number);
   void ReserveFor(std::string_view line);
 
   HtrDocument& document_;
   HtrOddities& oddities_;
-  HtrFrameCounts* const counts_;  // null unless frames are only counted
 
-  HtrSegment* segment_ = nullptr;          // of the current section; null for an unknown name
-  std::size_t* frames_counted_ = nullptr;  // of that segment, when frames are only counted
+  HtrSegment* segment_ = nullptr;  // of the current section; null for an unknown name
   std::size_t frames_before_section_ = 0;
   std::size_t frames_in_last_section_ = 0;
   bool first_frame_read_ = false;

@@ -59,16 +59,15 @@ struct ParentName {
 // the reading.
 class HtrReader {
  public:
-  // `size` is how many bytes the lines have in all. With `counts`, frames are counted there and not
-  // read.
+  // `size` is how many bytes the lines have in all.
   HtrReader(HtrDocument& document, LineReader lines, std::size_t size, bool read_motion,
-            HtrReadObserver* observer, HtrFrameCounts* counts = nullptr)
+            HtrReadObserver* observer)
       : document_(document),
         lines_(std::move(lines)),
         most_links_(std::max(kLinksAlwaysMade, size)),
         read_motion_(read_motion),
         oddities_(observer),
-        motion_(document, oddities_, counts) {}
+        motion_(document, oddities_) {}
 
   std::string Read();
 
@@ -310,9 +309,12 @@ std::string HtrReader::Finish() {
   return kIncorrectSegmentCount;
 }
 
-// What is told of a file that was read with `message`.
-std::string MessageOf(const FileSource& source, HtrDocument& document, std::string message) {
-  if (!source.HasFailed()) return message;
+// All lines of `bytes`, which are in memory or come from a source, `size` of them.
+template <typename Bytes>
+std::string ReadAll(HtrDocument& document, Bytes& bytes, std::size_t size, bool read_motion,
+                    HtrReadObserver* observer) try {
+  return HtrReader(document, LineReader(bytes), size, read_motion, observer).Read();
+} catch (const std::bad_alloc&) {
   document.Clear();
   return kNotOpened;
 }
@@ -323,34 +325,20 @@ std::string ReadHtrFile(HtrDocument& document, const std::string& file_name, boo
                         HtrReadObserver* observer) {
   FileSource source(WithExtension(file_name, ".htr"));
   if (!source.IsOpen()) return kNotOpened;
-  return MessageOf(source, document, ReadHtrFrom(document, source, read_motion, observer));
+  std::string message = ReadHtrFrom(document, source, read_motion, observer);
+  if (!source.HasFailed()) return message;
+  document.Clear();
+  return kNotOpened;
 }
 
 std::string ReadHtrFrom(HtrDocument& document, ByteSource& source, bool read_motion,
-                        HtrReadObserver* observer) try {
-  return HtrReader(document, LineReader(source), source.Size(), read_motion, observer).Read();
-} catch (const std::bad_alloc&) {
-  document.Clear();
-  return kNotOpened;
+                        HtrReadObserver* observer) {
+  return ReadAll(document, source, source.Size(), read_motion, observer);
 }
 
 std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes, bool read_motion,
-                         HtrReadObserver* observer) try {
-  return HtrReader(document, LineReader(bytes), bytes.size(), read_motion, observer).Read();
-} catch (const std::bad_alloc&) {
-  document.Clear();
-  return kNotOpened;
-}
-
-std::string CountHtrFrames(HtrDocument& document, const std::string& file_name,
-                           HtrFrameCounts& counts) try {
-  FileSource source(WithExtension(file_name, ".htr"));
-  if (!source.IsOpen()) return kNotOpened;
-  HtrReader reader(document, LineReader(source), source.Size(), true, nullptr, &counts);
-  return MessageOf(source, document, reader.Read());
-} catch (const std::bad_alloc&) {
-  document.Clear();
-  return kNotOpened;
+                         HtrReadObserver* observer) {
+  return ReadAll(document, bytes, bytes.size(), read_motion, observer);
 }
 
 }  // namespace orvane

@@ -3,7 +3,6 @@
 #include <string>
 #include <string_view>
 
-#include "formats/htr/counted_frames.h"
 #include "formats/htr/document.h"
 #include "formats/htr/read_observer.h"
 #include "formats/text/byte_source.h"
@@ -31,11 +30,5 @@ namespace orvane {
 // Reads the bytes of a file. Nothing in `document` refers to them afterwards.
 [[nodiscard]] std::string ReadHtrBytes(HtrDocument& document, std::string_view bytes,
                                        bool read_motion, HtrReadObserver* observer = nullptr);
-
-// Reads a file as ReadHtrFile does with motion, but only counts the frames, which takes a fraction
-// of the time: the segments of `document` hold none, and `counts`, empty before, tells how many
-// they would hold.
-[[nodiscard]] std::string CountHtrFrames(HtrDocument& document, const std::string& file_name,
-                                         HtrFrameCounts& counts);
 
 }  // namespace orvane

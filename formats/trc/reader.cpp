@@ -195,6 +195,17 @@ void TRCReader::Finish() {
                        FormatInt(static_cast<std::int64_t>(frames_read_)));
 }
 
+// All lines of `bytes`, which are in memory or come from a source, `size` of them.
+template <typename Bytes>
+std::string ReadAll(TRCDocument& document, Bytes& bytes, std::size_t size, bool include_unnamed,
+                    TRCReadObserver* observer) try {
+  return TRCReader(document, LineReader(bytes), size, include_unnamed, observer).Read();
+} catch (const std::length_error&) {
+  return kTooLong;
+} catch (const std::bad_alloc&) {
+  return kTooLong;
+}
+
 }  // namespace
 
 std::string TRCDocument::Read(const std::string& file_name, bool include_unnamed,
@@ -208,21 +219,13 @@ std::string TRCDocument::Read(const std::string& file_name, bool include_unnamed
 }
 
 std::string TRCDocument::ReadFrom(ByteSource& source, bool include_unnamed,
-                                  TRCReadObserver* observer) try {
-  return TRCReader(*this, LineReader(source), source.Size(), include_unnamed, observer).Read();
-} catch (const std::length_error&) {
-  return kTooLong;
-} catch (const std::bad_alloc&) {
-  return kTooLong;
+                                  TRCReadObserver* observer) {
+  return ReadAll(*this, source, source.Size(), include_unnamed, observer);
 }
 
 std::string TRCDocument::ReadBytes(std::string_view bytes, bool include_unnamed,
-                                   TRCReadObserver* observer) try {
-  return TRCReader(*this, LineReader(bytes), bytes.size(), include_unnamed, observer).Read();
-} catch (const std::length_error&) {
-  return kTooLong;
-} catch (const std::bad_alloc&) {
-  return kTooLong;
+                                   TRCReadObserver* observer) {
+  return ReadAll(*this, bytes, bytes.size(), include_unnamed, observer);
 }
 
 }  // namespace orvane

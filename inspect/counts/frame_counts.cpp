@@ -27,21 +27,6 @@ std::string Held(const FrameCounts& counts) {
          FormatInt(counts.most_held);
 }
 
-// `frames_of` tells how many frames a segment holds.
-template <typename FramesOf>
-FrameCounts CountFramesWith(const HtrDocument& document, const FramesOf& frames_of) {
-  assert(!document.segments().empty());
-  std::size_t fewest = std::numeric_limits<std::size_t>::max();
-  std::size_t most = 0;
-  for (const HtrSegment& segment : document.segments()) {
-    const std::size_t frames = frames_of(segment);
-    if (frames > 0) fewest = std::min(fewest, frames);
-    most = std::max(most, frames);
-  }
-  return {document.GetNumFrames(), static_cast<std::int64_t>(std::min(fewest, most)),
-          static_cast<std::int64_t>(most)};
-}
-
 }  // namespace
 
 std::string DescribeDifference(const FrameCounts& counts) {
@@ -53,15 +38,16 @@ bool IsOutOfProportion(std::int64_t frames, const FrameCounts& counts) {
 }
 
 FrameCounts CountFrames(const HtrDocument& document) {
-  return CountFramesWith(document,
-                         [](const HtrSegment& segment) { return segment.GetNumFrames(); });
-}
-
-FrameCounts CountFrames(const HtrDocument& document, const HtrFrameCounts& held) {
-  return CountFramesWith(document, [&held](const HtrSegment& segment) {
-    const auto found = held.find(&segment);
-    return found == held.end() ? 0 : found->second;
-  });
+  assert(!document.segments().empty());
+  std::size_t fewest = std::numeric_limits<std::size_t>::max();
+  std::size_t most = 0;
+  for (const HtrSegment& segment : document.segments()) {
+    const std::size_t frames = segment.GetNumFrames();
+    if (frames > 0) fewest = std::min(fewest, frames);
+    most = std::max(most, frames);
+  }
+  return {document.GetNumFrames(), static_cast<std::int64_t>(std::min(fewest, most)),
+          static_cast<std::int64_t>(most)};
 }
 
 std::string WhyOutOfProportion(std::int64_t frames, const FrameCounts& counts,

@@ -4,7 +4,6 @@
 #include <string>
 
 #include "formats/htr/document.h"
-#include "formats/htr/reader.h"
 #include "inspect/counts/proportion.h"
 
 // Whether a motion file holds the frames that its header announces. The plug-in sets keys for what
@@ -21,9 +20,6 @@ struct FrameCounts {
 
 // REQUIRES: `document` has segments.
 [[nodiscard]] FrameCounts CountFrames(const HtrDocument& document);
-
-// The same of one whose frames are only counted, in `held`.
-[[nodiscard]] FrameCounts CountFrames(const HtrDocument& document, const HtrFrameCounts& held);
 
 // Tells that `counts` differ, and how.
 [[nodiscard]] std::string DescribeDifference(const FrameCounts& counts);

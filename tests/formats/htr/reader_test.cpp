@@ -533,40 +533,6 @@ TEST_F(HtrFile, IsReadWithoutMotionWhenAsked) {
   EXPECT_EQ(document_.FindSegment("Hips")->GetNumFrames(), 0u);
 }
 
-// Sections that come again or belong to nobody, blank lines, comments, what stands behind the end,
-// and files that are refused before and behind the motion.
-TEST_F(HtrFile, CountsTheFramesThatItWouldRead) {
-  const std::string files[] = {
-      TwoBones(),
-      Join(OneBoneAnd({})),
-      Join(OneBoneAnd({"[Hips]", "1 0", "", "# none", "x", "[Nobody]", "1 0", "[Hips]", "1 0",
-                       "[EndOfFile]", "[Hips]", "2 0"})),
-      Join(OneBoneAnd({"[Nobody]", "3 0", "[Hips]", "7 0", "1 0"})),
-      Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Nobody 0 0"})),
-      Join(OneBoneAnd({"[Hips]", "1 0", "[BasePosition]", "Hips 0 0"})),
-      TwoBonesWith("NumSegments", "NumSegments 3"),
-  };
-  for (const std::string& bytes : files) {
-    Write("walk.htr", bytes);
-    HtrDocument counted;
-    HtrFrameCounts counts;
-    EXPECT_EQ(CountHtrFrames(counted, Name("walk"), counts),
-              ReadHtrFile(document_, Name("walk"), true));
-    ASSERT_EQ(counted.GetSegmentNames(), document_.GetSegmentNames());
-    EXPECT_EQ(counted.GetStartFrame(), document_.GetStartFrame());
-    for (const HtrSegment& segment : counted.segments()) {
-      EXPECT_EQ(segment.GetNumFrames(), 0U);
-      EXPECT_EQ(counts[&segment], document_.FindSegment(segment.GetName())->GetNumFrames());
-    }
-  }
-}
-
-TEST_F(HtrFile, IsNotCountedWhenItCannotBeOpened) {
-  HtrFrameCounts counts;
-  EXPECT_EQ(CountHtrFrames(document_, Name("missing"), counts), "The file could not be opened");
-  EXPECT_TRUE(counts.empty());
-}
-
 TEST_F(HtrFile, LeavesTheDocumentUntouchedWhenItCannotBeOpened) {
   ASSERT_EQ(ReadHtrBytes(document_, TwoBones(), true), "");
   std::filesystem::create_directory(folder_ / "folder.htr");
