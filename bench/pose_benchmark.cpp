@@ -6,7 +6,7 @@
 #include "bench/motion_text.h"
 #include "formats/htr/document.h"
 #include "formats/htr/reader.h"
-#include "inspect/summary/hierarchy.h"
+#include "formats/pose/hierarchy.h"
 #include "inspect/summary/motion_summary.h"
 
 namespace bench {

@@ -4,8 +4,8 @@
 #include <cassert>
 #include <cmath>
 
+#include "formats/pose/pose_walk.h"
 #include "formats/units/units.h"
-#include "inspect/summary/pose_walk.h"
 
 namespace orvane {
 namespace {

@@ -6,8 +6,8 @@
 #include <vector>
 
 #include "formats/htr/document.h"
+#include "formats/pose/hierarchy.h"
 #include "inspect/compare/sides.h"
-#include "inspect/summary/hierarchy.h"
 
 // What two motion files hold, as opposed to where it moves: the segments by their names, what each
 // hangs from, and the frames by their numbers. The files are called A and B. Indices count from 0.

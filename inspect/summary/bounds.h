@@ -1,11 +1,8 @@
 #pragma once
 
-#include <array>
+#include "formats/pose/point.h"
 
 namespace orvane {
-
-// x, y and z.
-using Point = std::array<double, 3>;
 
 // An axis-aligned box in file space (Y up) and the file's length unit.
 struct Bounds {

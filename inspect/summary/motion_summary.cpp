@@ -5,7 +5,7 @@
 #include <cmath>
 #include <limits>
 
-#include "inspect/summary/pose_walk.h"
+#include "formats/pose/pose_walk.h"
 #include "inspect/summary/subject_measure.h"
 
 namespace orvane {

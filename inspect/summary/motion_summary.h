@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "formats/htr/document.h"
-#include "inspect/summary/hierarchy.h"
+#include "formats/pose/hierarchy.h"
 #include "inspect/summary/subject.h"
 
 // What can be told of a motion without showing every frame: counts of frames, seconds, a box in the

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-#include "inspect/summary/hierarchy.h"
+#include "formats/pose/hierarchy.h"
 
 namespace orvane {
 namespace {

@@ -8,8 +8,8 @@
 #include <vector>
 
 #include "formats/htr/document.h"
+#include "formats/pose/pose_walk.h"
 #include "formats/trc/document.h"
-#include "inspect/summary/pose_walk.h"
 #include "inspect/summary/subject.h"
 
 // Measures a subject by the points of some frames, spread over all of a motion, so that whoever

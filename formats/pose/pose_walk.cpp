@@ -1,4 +1,4 @@
-#include "inspect/summary/pose_walk.h"
+#include "formats/pose/pose_walk.h"
 
 #include <algorithm>
 #include <limits>

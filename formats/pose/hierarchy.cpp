@@ -1,4 +1,4 @@
-#include "inspect/summary/hierarchy.h"
+#include "formats/pose/hierarchy.h"
 
 #include <algorithm>
 #include <cassert>

@@ -6,8 +6,8 @@
 
 #include "formats/math/rotation_matrix3.h"
 #include "formats/math/vector.h"
-#include "inspect/summary/bounds.h"
-#include "inspect/summary/hierarchy.h"
+#include "formats/pose/hierarchy.h"
+#include "formats/pose/point.h"
 
 // Where the joints of a skeleton are, frame after frame: base and frame put together, from the
 // roots down. The time it takes is in proportion to the frames that the segments hold, however
