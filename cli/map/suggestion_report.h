@@ -6,7 +6,7 @@
 
 #include "formats/trc/document.h"
 #include "inspect/mapping/name_suggestion.h"
-#include "inspect/mapping/place_board.h"
+#include "inspect/mapping/placed_marker.h"
 #include "inspect/report/report.h"
 
 // What is suggested for a file, and why, whether by names or by geometry.

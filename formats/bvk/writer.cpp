@@ -7,6 +7,7 @@
 #include <span>
 #include <vector>
 
+#include "formats/text/text_buffer.h"
 #include "formats/trc/sample_walk.h"
 
 namespace orvane {

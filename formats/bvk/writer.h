@@ -3,7 +3,7 @@
 #include <optional>
 #include <string_view>
 
-#include "formats/text/text_buffer.h"
+#include "formats/text/text_taker.h"
 #include "formats/trc/document.h"
 
 // Writes the markers of a document as a marker file of the host's character animation.

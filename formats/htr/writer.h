@@ -3,7 +3,7 @@
 #include <string>
 
 #include "formats/htr/document.h"
-#include "formats/text/text_buffer.h"
+#include "formats/text/text_taker.h"
 
 // Writes a document as a motion file. docs/formats/htr.md describes what is written, and where it
 // differs from what is read.

@@ -3,19 +3,16 @@
 #include <cassert>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <span>
 #include <string_view>
 #include <vector>
 
 #include "formats/text/six_decimals.h"
+#include "formats/text/text_taker.h"
 
 // Collects the text of a long file and hands it on in pieces, for writers that spend most of their
 // time on the numbers in it.
 namespace orvane {
-
-// Takes a piece of a text, which lives until it returns; the pieces come in order.
-using TextTaker = std::function<void(std::string_view text)>;
 
 class TextBuffer {
  public:

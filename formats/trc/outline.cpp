@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <span>
 
+#include "formats/trc/line_rules.h"
+
 namespace orvane {
 namespace {
 
@@ -35,6 +37,8 @@ void TRCOutliner::Take(std::string_view lines) {
   }
   if (in_header) header_ += lines;
 }
+
+bool TRCOutliner::HasHeader() const { return number_ >= kPerhapsBlankLine && !throws_away_; }
 
 void TRCOutliner::TakeLine(const Line& line) {
   if (throws_away_) {

@@ -6,7 +6,6 @@
 
 #include "formats/text/byte_source.h"
 #include "formats/text/lines.h"
-#include "formats/trc/line_rules.h"
 
 // What a marker file holds, without reading its numbers.
 namespace orvane {
@@ -21,7 +20,7 @@ class TRCOutliner {
   const std::string& Header() const { return header_; }
 
   // Whether it is whole: the next line is none of it.
-  bool HasHeader() const { return number_ >= kPerhapsBlankLine && !throws_away_; }
+  bool HasHeader() const;
 
   // How many lines the reader comes to; not those whose place a comment takes.
   std::size_t Lines() const { return number_; }

@@ -1,10 +1,11 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <vector>
 
 #include "formats/trc/document.h"
-#include "inspect/mapping/place_board.h"
+#include "inspect/mapping/placed_marker.h"
 
 // Which marker of a capture plays the role of which standard marker, by where it sits on a body
 // that walks upright, and how it moves. Names are not looked at. What the body is seen from, and

@@ -7,24 +7,12 @@
 #include <vector>
 
 #include "inspect/mapping/marker_places.h"
+#include "inspect/mapping/placed_marker.h"
 
 // What is found out about the markers of a body, part by part: which of them plays which standard
 // marker's role, and which parts are left out. Lengths are those of MarkerPlaces.
 
 namespace orvane {
-
-// A marker that sits where a standard marker does.
-struct PlacedMarker {
-  std::string standard;
-  std::size_t marker = 0;
-  std::string place;  // in words: "front left of the four markers of the head"
-};
-
-// A part of the body of which not all is sure.
-struct UnsurePlace {
-  std::string part;    // "the head"
-  std::string reason;  // "3 markers where four, two by two alike, belong"
-};
 
 struct Side {
   char letter;       // that names of standard markers begin with
