@@ -56,6 +56,8 @@ path    /usr/src/googletest/googlemock            googletest
 readonly package_needs='
 command dpkg-shlibdeps                            dpkg-dev
 command file                                      file
+command lintian                                   lintian
+command pkg-config                                pkg-config
 '
 readonly sanitize_needs='
 command clang++                                   clang

@@ -1,55 +1,20 @@
 """The packages hold what they should, and what is in them works where it was unpacked.
 
-ORVANE_PACKAGES names the folders that they lie in, separated by colons, and ORVANE_WINE what runs
-programs for Windows.
+ORVANE_WINE is what runs programs for Windows.
 """
 
 import gzip
 import os
 import pathlib
 import re
-import subprocess
 import tarfile
-import tempfile
 import unittest
 import zipfile
 
 import run_paths
+from packages import PackageTest, package
 
-FOLDERS = [pathlib.Path(folder) for folder in os.environ["ORVANE_PACKAGES"].split(":")]
-SOURCES = pathlib.Path(os.environ["ORVANE_SOURCE_DIR"])
-
-
-def package(pattern):
-    """The one package whose name matches."""
-    found = [path for folder in FOLDERS for path in folder.glob(pattern)]
-    if len(found) != 1:
-        raise AssertionError(f"{pattern}: {found}")
-    return found[0]
-
-
-class PackageTest(unittest.TestCase):
-    def setUp(self):
-        folder = tempfile.TemporaryDirectory(prefix="orvane package ")
-        self.addCleanup(folder.cleanup)
-        self.folder = pathlib.Path(folder.name)
-
-    def run_in_folder(self, *command):
-        result = subprocess.run(command, cwd=self.folder, capture_output=True, text=True,
-                                check=False)
-        self.assertEqual(result.returncode, 0, result.stdout + result.stderr)
-        return result.stdout
-
-    def files(self):
-        return sorted(str(path.relative_to(self.folder)) for path in self.folder.rglob("*")
-                      if not path.is_dir())
-
-    def check_no_foreign_folder(self, root):
-        """Nothing tells where the package was built."""
-        for path in root.rglob("*"):
-            if path.is_file():
-                self.assertNotIn(os.fsencode(SOURCES), path.read_bytes(), path)
-
+class ProgramTest(PackageTest):
     def check_notices(self, text, others=()):
         for words in ("Niels Lohmann", "University of Cincinnati", *others):
             self.assertIn(words, text)
@@ -67,7 +32,7 @@ class PackageTest(unittest.TestCase):
         self.assertGreater((self.folder / "walk.bvk").stat().st_size, 100_000)
 
 
-class LinuxTest(PackageTest):
+class LinuxTest(ProgramTest):
     def check_linux_tree(self, root):
         orvane = str(root / "bin/orvane")
         documents = root / "share/doc/orvane"
@@ -94,7 +59,7 @@ class LinuxTest(PackageTest):
 
     @staticmethod
     def version():
-        return package("*.deb").name.split("_")[1]
+        return package("orvane_*.deb").name.split("_")[1]
 
     def test_the_archive_works_where_it_was_unpacked(self):
         with tarfile.open(package("*.tar.gz")) as archive:
@@ -118,25 +83,25 @@ class LinuxTest(PackageTest):
         self.assertEqual(sorted(stated), sorted(needed))
 
     def test_the_debian_package_works_from_its_tree(self):
-        self.run_in_folder("dpkg-deb", "--extract", str(package("*.deb")), "root")
+        self.run_in_folder("dpkg-deb", "--extract", str(package("orvane_*.deb")), "root")
         self.check_linux_tree(self.folder / "root/usr")
 
     def test_the_debian_package_names_what_it_needs(self):
         def field(name):
-            return self.run_in_folder("dpkg-deb", "--field", str(package("*.deb")), name).strip()
+            return self.run_in_folder("dpkg-deb", "--field", str(package("orvane_*.deb")), name).strip()
 
         self.assertEqual(field("Package"), "orvane")
         needed = {entry.split()[0] for entry in field("Depends").split(", ")}
         self.assertLessEqual({"libc6", "libsqlite3-0", "libstdc++6"}, needed)
 
     def test_the_three_binaries_lie_side_by_side(self):
-        self.run_in_folder("dpkg-deb", "--extract", str(package("*.deb")), ".")
+        self.run_in_folder("dpkg-deb", "--extract", str(package("orvane_*.deb")), ".")
         binaries = [path for path in self.files() if "/orvane/" in path and "/doc/" not in path]
         self.assertEqual([pathlib.Path(path).name for path in binaries],
                          ["OrvaneFileIO.so", "libskelder.so", "orvane"])
 
 
-class WindowsTest(PackageTest):
+class WindowsTest(ProgramTest):
     def unpack(self):
         with zipfile.ZipFile(package("*.zip")) as archive:
             archive.extractall(self.folder)
