@@ -1,5 +1,7 @@
 #include "cli/convert/trc_look.h"
 
+#include <utility>
+
 #include "cli/common/input_source.h"
 #include "formats/trc/outline.h"
 #include "inspect/check/trc_check.h"
@@ -15,11 +17,12 @@ void TakeOutline(const orvane::TRCOutliner& outline, TrcLook& look) {
   look.has_rates = outline.Lines() >= kLinesWithRates;
 }
 
-// The samples tell how many frames there are. Without any marker they tell nothing.
+// Without any marker the samples tell nothing.
 void CountLines(const InputFile& file, TrcLook& look) {
   if (look.document.MarkerCount() > 0) {
-    look.held = FramesHeld(look.document);
-    look.frames = look.held.Count();
+    look.frames = static_cast<std::int64_t>(look.samples->Frames());
+    const std::int64_t first = look.document.FirstFrame();
+    look.held = {first, first + look.frames - 1};
     look.has_rates = true;  // the names stand behind them
     return;
   }
@@ -51,15 +54,12 @@ std::unique_ptr<TrcLook> LookAtInput(const Conversion& conversion, const Convers
   if (!is_checked && !order.cut) return LookAtLines(conversion.source);
   const InputFile file = conversion.File();
   auto look = std::make_unique<TrcLook>();
-  look->has_samples = true;
-  look->header = HeaderOf(file);
-  InputSource source(file);
-  if (is_checked) {
-    look->checked = orvane::CheckTrc(file.name, source, look->document);
-    look->refusal = look->checked->refusal;
-  } else {
-    look->refusal = look->document.ReadFrom(source, false);
-  }
+  const auto open = [&file] { return std::make_unique<InputSource>(file); };
+  auto [checked, samples] = orvane::LookOverTrc(file.name, open, look->document);
+  look->samples = std::move(samples);
+  look->refusal = checked.refusal;
+  if (is_checked) look->checked = std::move(checked);
+  if (!order.mapping.empty()) look->header = HeaderOf(file);
   CountLines(file, *look);
   return look;
 }

@@ -166,17 +166,19 @@ void JudgeHeader(Conversion& conversion, const ConversionOrder& order, const Mar
 std::optional<WrittenCounts> CountWritten(const Conversion& conversion,
                                           const ConversionOrder& order, const MarkerNaming& naming,
                                           const TrcLook& look) {
-  if (!look.has_samples || !look.refusal.empty()) return std::nullopt;
+  if (!look.samples || !look.refusal.empty()) return std::nullopt;
   orvane::FrameSpan frames = {0, std::int64_t{look.document.NumFrames()} - 1};
   if (order.cut) {
     const orvane::FrameSpan both = Overlap(*order.cut, look.held);
     frames = {both.first - look.held.first, both.last - look.held.first};
   }
   WrittenCounts counts{frames.Count(), 0, 0};
-  for (const orvane::TRCMarker& marker : look.document.markers()) {
-    if (!naming.NameFor(conversion.match.NameInMapping(marker.Name()))) continue;
+  for (std::size_t index = 0; index < look.document.MarkerCount(); ++index) {
+    const std::string& name = look.document.MarkerAt(index)->Name();
+    if (!naming.NameFor(conversion.match.NameInMapping(name))) continue;
     ++counts.markers;
-    counts.dropouts += CountDropouts(marker, frames);
+    counts.dropouts +=
+        CountDropouts(look.samples->Markers()[index].gaps, look.samples->Frames(), frames);
   }
   return counts;
 }

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <cstddef>
 #include <limits>
+#include <span>
 #include <string_view>
 #include <vector>
 
@@ -98,6 +99,11 @@ class NumberRow {
   // The number that a cell starts with, 0 when it starts with none; kNoNumber of an empty or a
   // missing one. REQUIRES: it is not further behind the last one than kSpareNumbers.
   double operator[](std::size_t number) const { return numbers_[number]; }
+
+  // The first `count` of them, until the next line is read. REQUIRES: as above, of the last one.
+  [[nodiscard]] std::span<const double> First(std::size_t count) const {
+    return {numbers_.data(), count};
+  }
 
   // Whether all cells that were read are empty, or numbers and nothing else, each finite in single
   // precision.

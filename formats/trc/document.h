@@ -15,6 +15,12 @@
 // Unit codes are the length codes of formats/units.
 namespace orvane {
 
+// What becomes of the samples of a file that is read.
+enum class TRCSamples {
+  kKept,
+  kLeftOut,  // the markers get none: what they hold is for the observer
+};
+
 // Owns its markers. Their addresses stay until Reset, the next reading or the end of the document.
 class TRCDocument {
  public:
@@ -38,7 +44,8 @@ class TRCDocument {
                                  TRCReadObserver* observer = nullptr);
   // As Read, on the bytes of a file that `source` has, all of them.
   [[nodiscard]] std::string ReadFrom(ByteSource& source, bool include_unnamed,
-                                     TRCReadObserver* observer = nullptr);
+                                     TRCReadObserver* observer = nullptr,
+                                     TRCSamples samples = TRCSamples::kKept);
   // As Read, on the bytes of a file. Nothing in the document refers to them afterwards.
   [[nodiscard]] std::string ReadBytes(std::string_view bytes, bool include_unnamed,
                                       TRCReadObserver* observer = nullptr);

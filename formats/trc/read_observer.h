@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <span>
 #include <string_view>
 
 #include "formats/text/lines.h"
@@ -72,6 +73,10 @@ struct TRCRow {
   const Line& line;
   std::string_view number;  // what the line starts with, which should be the frame's number
   TRCRowWidth width;
+  // The x, y and z of each marker that has a cell on the line, not-a-number where a cell is empty
+  // or missing: without x it is a dropout, and without y or z these are 0. They live until the call
+  // returns.
+  std::span<const double> coordinates;
 };
 
 // All is told in file order while reading, but for a count of markers that is wrong, which is told

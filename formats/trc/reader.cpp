@@ -33,18 +33,25 @@ constexpr std::size_t kShortestSample = 6;
 constexpr std::size_t kCellsBeforeSamples = 2;  // the frame number and the time
 constexpr std::size_t kCoordinates = 3;
 
+// What the reader is asked for.
+struct Wishes {
+  bool include_unnamed = false;
+  TRCSamples samples = TRCSamples::kKept;
+  TRCReadObserver* observer = nullptr;
+};
+
 // One pass over the bytes. Functions that return a text return an empty one, or the message that
 // ends the reading.
 class TRCReader {
  public:
   // `size` is how many bytes the lines have in all.
-  TRCReader(TRCDocument& document, LineReader lines, std::size_t size, bool include_unnamed,
-            TRCReadObserver* observer)
+  TRCReader(TRCDocument& document, LineReader lines, std::size_t size, const Wishes& wishes)
       : document_(document),
         lines_(std::move(lines)),
         size_(size),
-        include_unnamed_(include_unnamed),
-        oddities_(observer),
+        include_unnamed_(wishes.include_unnamed),
+        keeps_samples_(wishes.samples == TRCSamples::kKept),
+        oddities_(wishes.observer),
         inspector_(oddities_),
         watches_frames_(oddities_.AreOfFramesWanted()) {}
 
@@ -57,6 +64,7 @@ class TRCReader {
   void ReadFrame(const Line& line);
   void TellFrame(const Line& line, bool is_ordinary);
   bool ReadSamples(const Line& line);
+  void Append(const TRCPosition& position, TRCMarker& marker) const;
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
   void Finish();
@@ -65,6 +73,7 @@ class TRCReader {
   LineReader lines_;
   const std::size_t size_;
   const bool include_unnamed_;
+  const bool keeps_samples_;
   TRCOddities oddities_;
   TRCDataLineInspector inspector_;
   const bool watches_frames_;
@@ -130,6 +139,7 @@ std::string TRCReader::ReadColumns(const Line& line) {
 }
 
 void TRCReader::ReserveFrames() {
+  if (!keeps_samples_) return;
   const std::size_t announced = static_cast<std::size_t>(std::max(document_.NumFrames(), 0));
   const std::size_t shortest_frame = kShortestSample * document_.markers().size();
   for (TRCMarker& marker : document_.markers()) {
@@ -150,7 +160,9 @@ void TRCReader::ReadFrame(const Line& line) {
 
 void TRCReader::TellFrame(const Line& line, bool is_ordinary) {
   const std::string_view number = TRCFields(line).Get();
-  oddities_.TellFrame({line, number, WidthOf(line.text, numbers_.CellsOfLine())});
+  const std::size_t samples = (numbers_.Count() + kCoordinates - 1) / kCoordinates;
+  oddities_.TellFrame({line, number, WidthOf(line.text, numbers_.CellsOfLine()),
+                       numbers_.First(kCoordinates * samples)});
   if (!line.text.empty()) inspector_.InspectFrameNumber(number);
   if (!is_ordinary) inspector_.Inspect(line, document_.markers().size());
 }
@@ -173,11 +185,15 @@ bool TRCReader::ReadSamples(const Line& line) {
       continue;
     }
     is_ordinary = is_ordinary && !IsNoNumber(y) && !IsNoNumber(z);
-    const std::size_t missed = frames_read_ - marker.SampleCount();
-    if (missed > 0) marker.AppendDropouts(missed);
-    marker.AppendPosition(x, NumberOrZero(y), NumberOrZero(z));
+    if (keeps_samples_) Append({x, NumberOrZero(y), NumberOrZero(z)}, marker);
   }
   return is_ordinary;
+}
+
+void TRCReader::Append(const TRCPosition& position, TRCMarker& marker) const {
+  const std::size_t missed = frames_read_ - marker.SampleCount();
+  if (missed > 0) marker.AppendDropouts(missed);
+  marker.AppendPosition(position.x, position.y, position.z);
 }
 
 void TRCReader::ReadFirstFrameNumber(const Line& line) {
@@ -187,7 +203,7 @@ void TRCReader::ReadFirstFrameNumber(const Line& line) {
 
 void TRCReader::Finish() {
   for (TRCMarker& marker : document_.markers()) {
-    marker.AppendDropouts(frames_read_ - marker.SampleCount());
+    if (keeps_samples_) marker.AppendDropouts(frames_read_ - marker.SampleCount());
   }
   const bool as_announced = static_cast<std::int64_t>(frames_read_) == document_.NumFrames();
   if (as_announced) return;
@@ -197,9 +213,9 @@ void TRCReader::Finish() {
 
 // All lines of `bytes`, which are in memory or come from a source, `size` of them.
 template <typename Bytes>
-std::string ReadAll(TRCDocument& document, Bytes& bytes, std::size_t size, bool include_unnamed,
-                    TRCReadObserver* observer) try {
-  return TRCReader(document, LineReader(bytes), size, include_unnamed, observer).Read();
+std::string ReadAll(TRCDocument& document, Bytes& bytes, std::size_t size,
+                    const Wishes& wishes) try {
+  return TRCReader(document, LineReader(bytes), size, wishes).Read();
 } catch (const std::length_error&) {
   return kTooLong;
 } catch (const std::bad_alloc&) {
@@ -219,13 +235,13 @@ std::string TRCDocument::Read(const std::string& file_name, bool include_unnamed
 }
 
 std::string TRCDocument::ReadFrom(ByteSource& source, bool include_unnamed,
-                                  TRCReadObserver* observer) {
-  return ReadAll(*this, source, source.Size(), include_unnamed, observer);
+                                  TRCReadObserver* observer, TRCSamples samples) {
+  return ReadAll(*this, source, source.Size(), {include_unnamed, samples, observer});
 }
 
 std::string TRCDocument::ReadBytes(std::string_view bytes, bool include_unnamed,
                                    TRCReadObserver* observer) {
-  return ReadAll(*this, bytes, bytes.size(), include_unnamed, observer);
+  return ReadAll(*this, bytes, bytes.size(), {include_unnamed, TRCSamples::kKept, observer});
 }
 
 }  // namespace orvane

@@ -52,12 +52,6 @@ std::string Contents(const HtrDocument& document) {
 
 }  // namespace
 
-CheckedFile CheckHtr(const std::string& file, std::string_view bytes) {
-  HtrDocument document;
-  MemorySource source(bytes);
-  return CheckHtr(file, source, document);
-}
-
 CheckedFile CheckHtr(const std::string& file, ByteSource& source, HtrDocument& document) {
   CheckedFile checked{file, "HTR", {}, {}};
   StartedSource started(source);

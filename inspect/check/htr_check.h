@@ -1,7 +1,6 @@
 #pragma once
 
 #include <string>
-#include <string_view>
 
 #include "formats/htr/document.h"
 #include "formats/text/byte_source.h"
@@ -13,12 +12,10 @@
 
 namespace orvane {
 
-// Checks `bytes`, which are those of the file that is known as `file`. Throws a CheckFailure when
-// they cannot be read for want of memory, or were read wrongly.
-[[nodiscard]] CheckedFile CheckHtr(const std::string& file, std::string_view bytes);
-
-// The same of all bytes that `source` has, and leaves in `document`, which is empty, what was read
-// of them: up to where the reader has refused the file, if it has.
+// Checks all bytes that `source` has, which are those of the file that is known as `file`, and
+// leaves in `document`, which is empty, what was read of them: up to where the reader has refused
+// the file, if it has. Throws a CheckFailure when they cannot be read for want of memory, or were
+// read wrongly.
 [[nodiscard]] CheckedFile CheckHtr(const std::string& file, ByteSource& source,
                                    HtrDocument& document);
 

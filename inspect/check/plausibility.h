@@ -37,6 +37,8 @@ class Horizon {
   // Whether that may be so of a point among others, of which the farthest coordinate is `farthest`.
   [[nodiscard]] bool MayHide(double farthest) const { return farthest > distance_; }
 
+  [[nodiscard]] double Distance() const { return distance_; }
+
  private:
   double distance_;
 };

@@ -2,6 +2,8 @@
 
 #include <algorithm>
 #include <array>
+#include <optional>
+#include <utility>
 #include <vector>
 
 #include "formats/text/numbers.h"
@@ -13,8 +15,10 @@
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_positions.h"
 #include "inspect/check/trc_rules.h"
+#include "inspect/check/trc_samples.h"
 #include "inspect/counts/frame_counts.h"
 #include "inspect/counts/frame_span.h"
+#include "inspect/summary/subject_measure.h"
 
 namespace orvane {
 namespace {
@@ -22,11 +26,24 @@ namespace {
 constexpr const char* kHeadingsAreNames =
     "They are the names of the markers: X1, X2 and so on; the next line is not read.";
 
+// How many frames the markers have a sample in.
+std::size_t FramesOf(const TRCDocument& document, const trc::TrcSamples& samples) {
+  return document.MarkerCount() == 0 ? 0 : samples.Frames();
+}
+
 // What can be said of a file only when all of it has been read.
 class WholeFile {
  public:
-  WholeFile(const TRCDocument& document, const trc::TrcParts& parts, FindingList& findings)
-      : document_(document), layout_(parts.layout), parts_(parts), findings_(findings) {}
+  // `subject` is who or what moves.
+  WholeFile(const TRCDocument& document, const trc::TrcSamples& samples,
+            const std::optional<Subject>& subject, const trc::TrcParts& parts,
+            FindingList& findings)
+      : document_(document),
+        samples_(samples),
+        subject_(subject),
+        layout_(parts.layout),
+        parts_(parts),
+        findings_(findings) {}
 
   void Check() {
     CheckLayout();
@@ -36,9 +53,9 @@ class WholeFile {
     if (layout_.misplaced_name) return;  // from which gaps follow
     if (parts_.misfit) return AddMisfit(*parts_.misfit);
     trc::CheckNarrowFrames(parts_.widths, document_.MarkerCount(), findings_);
-    trc::CheckPositions(document_, parts_, findings_);
+    trc::CheckPositions(document_, samples_.Markers(), subject_, parts_, findings_);
     for (std::size_t index = 0; index < parts_.markers.size(); ++index) {
-      CheckGaps(*document_.MarkerAt(index), parts_.markers[index]);
+      CheckGaps(*document_.MarkerAt(index), samples_.Markers()[index], parts_.markers[index]);
     }
   }
 
@@ -62,7 +79,7 @@ class WholeFile {
                     {"X1, Y1 and so on", "the names of the markers", kHeadingsAreNames});
     }
     if (parts_.blank_end) {
-      const std::size_t blank = SamplesRead() - Held();
+      const std::size_t blank = FramesRead() - Held();
       findings_.Add(trc::Rule("trc-lines-at-end"), *parts_.blank_end,
                     {CountOf(blank, "blank line") + " at the end",
                      "the end of the file behind the last frame",
@@ -103,12 +120,10 @@ class WholeFile {
                    "Values may belong to other markers than those that get them."});
   }
 
-  std::size_t SamplesRead() const {
-    return document_.MarkerCount() == 0 ? 0 : document_.MarkerAt(0)->SampleCount();
-  }
+  std::size_t FramesRead() const { return FramesOf(document_, samples_); }
 
   // Without blank lines at the end that do not count.
-  std::size_t Held() const { return parts_.blank_end ? parts_.FrameCount() : SamplesRead(); }
+  std::size_t Held() const { return parts_.blank_end ? parts_.FrameCount() : FramesRead(); }
 
   void CheckFrameCount() {
     const auto held = static_cast<std::int64_t>(Held());
@@ -156,10 +171,10 @@ class WholeFile {
   }
 
   // One finding for a marker, however often it drops out.
-  void CheckGaps(const TRCMarker& marker, TRCPlace name) {
-    const auto gaps = GapsOf(marker);
+  void CheckGaps(const TRCMarker& marker, const trc::MarkerSamples& samples, TRCPlace name) {
+    const auto gaps = GapsOf(samples);
     if (gaps.empty() || IsTheFrameOfTabs(gaps)) return;
-    if (marker.Positions().empty()) {
+    if (samples.positions == 0) {
       return findings_.Add(trc::Rule("trc-marker-never-seen"), name,
                            {WithoutPosition(marker), "one in every frame",
                             "The import makes an object that stays at the origin."});
@@ -178,11 +193,11 @@ class WholeFile {
     return "no position of " + Quote(marker.Name());
   }
 
-  using Gaps = std::vector<TRCMarker::Gap>;
+  using Gaps = std::vector<FrameGap>;
 
   // Those in the frames that are held.
-  Gaps GapsOf(const TRCMarker& marker) const {
-    Gaps gaps(marker.Gaps().begin(), marker.Gaps().end());
+  Gaps GapsOf(const trc::MarkerSamples& samples) const {
+    Gaps gaps = samples.gaps;
     if (!gaps.empty()) gaps.back().end = std::min(gaps.back().end, Held());
     if (!gaps.empty() && gaps.back().begin >= gaps.back().end) gaps.pop_back();
     return gaps;
@@ -193,9 +208,9 @@ class WholeFile {
   }
 
   std::string DescribeGaps(const TRCMarker& marker, const Gaps& gaps,
-                           const TRCMarker::Gap& longest) const {
+                           const FrameGap& longest) const {
     std::size_t missing = 0;
-    for (const TRCMarker::Gap& gap : gaps) missing += gap.end - gap.begin;
+    for (const FrameGap& gap : gaps) missing += gap.end - gap.begin;
     std::string text = WithoutPosition(marker) + " in " + CountOf(missing, "frame");
     if (gaps.size() == 1) return text + " from here on";
     return text + ": " + CountOf(gaps.size(), "gap") + ", the longest of " +
@@ -204,6 +219,8 @@ class WholeFile {
   }
 
   const TRCDocument& document_;
+  const trc::TrcSamples& samples_;
+  const std::optional<Subject>& subject_;
   const trc::TrcLayout& layout_;
   const trc::TrcParts& parts_;
   FindingList& findings_;
@@ -234,31 +251,46 @@ void NameWhatItIs(std::string_view start, FindingList& findings) {
                 effect + "; what else is odd about it is not told.", findings);
 }
 
-}  // namespace
-
-CheckedFile CheckTrc(const std::string& file, std::string_view bytes) {
-  TRCDocument document;
-  MemorySource source(bytes);
-  return CheckTrc(file, source, document);
-}
-
-CheckedFile CheckTrc(const std::string& file, ByteSource& source, TRCDocument& document) {
+// Nothing where the samples are needed to tell what moves, and are left out.
+std::optional<CheckedFile> Check(const std::string& file, ByteSource& source, TRCSamples kept,
+                                 TRCDocument& document, trc::TrcSamples& samples) {
   CheckedFile checked{file, "TRC", {}, {}};
   StartedSource started(source);
   trc::TrcParts parts;
-  trc::TrcFindingsObserver observer(document, parts, checked.findings);
-  const std::string message = document.ReadFrom(started, false, &observer);
+  trc::TrcFindingsObserver observer(document, parts, samples, checked.findings);
+  const std::string message = document.ReadFrom(started, false, &observer, kept);
   observer.Finish();
   if (observer.HasRefused()) checked.refusal = message;
   if (checked.refusal.empty()) RequireRead(message);
   RequireSound(FindFault(document));
   if (checked.refusal.empty()) {
-    WholeFile(document, parts, checked.findings).Check();
+    const bool is_measured = samples.HasMeasuredSubject();
+    if (!is_measured && kept == TRCSamples::kLeftOut) return std::nullopt;
+    const auto subject = is_measured ? samples.MeasuredSubject() : MeasureSubject(document);
+    WholeFile(document, samples, subject, parts, checked.findings).Check();
   }
   NameWhatItIs(started.Start(), checked.findings);
-  const std::size_t frames = document.MarkerCount() == 0 ? 0 : document.MarkerAt(0)->SampleCount();
-  checked.contents = CountOf(document.MarkerCount(), "marker") + ", " + CountOf(frames, "frame");
+  checked.contents = CountOf(document.MarkerCount(), "marker") + ", " +
+                     CountOf(FramesOf(document, samples), "frame");
   return checked;
+}
+
+}  // namespace
+
+CheckedFile CheckTrc(const std::string& file, ByteSource& source, TRCDocument& document) {
+  trc::TrcSamples samples;
+  return *Check(file, source, TRCSamples::kKept, document, samples);
+}
+
+LookedOverTrc LookOverTrc(const std::string& file, const SourceOpener& open,
+                          TRCDocument& document) {
+  for (const TRCSamples kept : {TRCSamples::kLeftOut, TRCSamples::kKept}) {
+    const std::unique_ptr<ByteSource> source = open();
+    trc::TrcSamples samples;
+    auto checked = Check(file, *source, kept, document, samples);
+    if (checked) return {*std::move(checked), std::move(samples)};
+  }
+  return {};
 }
 
 }  // namespace orvane

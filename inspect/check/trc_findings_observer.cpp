@@ -131,6 +131,7 @@ void TrcFindingsObserver::Finish() {
     }
   }
   LeaveLongLine();
+  samples_.Finish(document_);
   parts_.widths = widths_.Sum();
   parts_.named_fields = columns_.NamedFields(parts_.widths.last_value);
   columns_.AddRepeatedTo(findings_, parts_.widths.last_value);
@@ -264,6 +265,7 @@ void TrcFindingsObserver::OnFrame(TRCPlace place, const TRCRow& row) {
   TakeRow(row.line, row.width);
   if (!held_ && MayBeBehindFrames(row)) Hold(place.line);
   parts_.AddFrame(place);
+  samples_.TakeFrame(document_, row.coordinates);
   CheckTime(place, row);
   const std::string_view cell = TrimTrailingSeparators(SkipSeparators(row.number));
   if (frames_ == 0) parts_.first_number = cell;

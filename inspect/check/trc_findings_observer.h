@@ -12,6 +12,7 @@
 #include "inspect/check/trc_blank_end.h"
 #include "inspect/check/trc_columns.h"
 #include "inspect/check/trc_parts.h"
+#include "inspect/check/trc_samples.h"
 #include "inspect/check/trc_times.h"
 #include "inspect/check/trc_widths.h"
 
@@ -23,9 +24,11 @@ namespace orvane::trc {
 
 class TrcFindingsObserver final : public TRCReadObserver {
  public:
-  // `document` is what is read into, and `parts` is empty. All must outlive the observer.
-  TrcFindingsObserver(const TRCDocument& document, TrcParts& parts, FindingList& findings)
-      : document_(document), parts_(parts), findings_(findings) {}
+  // `document` is what is read into, with its samples or without them; `parts` and `samples` are
+  // empty. All must outlive the observer.
+  TrcFindingsObserver(const TRCDocument& document, TrcParts& parts, TrcSamples& samples,
+                      FindingList& findings)
+      : document_(document), parts_(parts), samples_(samples), findings_(findings) {}
 
   void OnOddity(TRCOddity oddity, TRCPlace place, std::string_view text) override;
   void OnHeaderValue(TRCHeaderValue value, TRCPlace place, std::string_view text) override;
@@ -77,6 +80,7 @@ class TrcFindingsObserver final : public TRCReadObserver {
 
   const TRCDocument& document_;
   TrcParts& parts_;
+  TrcSamples& samples_;
   FindingList& findings_;
   FindingList in_long_line_;  // of the header, until it is read: what is found there
   FindingList in_frames_;     // the same, until all are read

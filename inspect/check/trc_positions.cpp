@@ -1,7 +1,6 @@
 #include "inspect/check/trc_positions.h"
 
 #include <algorithm>
-#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -10,46 +9,47 @@
 #include "inspect/check/plausibility.h"
 #include "inspect/check/trc_rules.h"
 #include "inspect/check/trc_stand_ins.h"
-#include "inspect/summary/subject_measure.h"
-#include "inspect/summary/trc_summary.h"
 
 namespace orvane::trc {
 namespace {
 
 // Where a marker is that is beyond the horizon, but for positions that stand for missing ones.
-void CheckFarPositions(const TRCMarker& marker, std::uint32_t unit, const StandIns& stand_ins,
-                       const TrcParts& parts, FindingList& findings) {
-  const Horizon horizon(unit);
-  std::size_t frame = 0;
-  auto gap = marker.Gaps().begin();
-  for (std::size_t index = 0; index < marker.Positions().size(); ++index, ++frame) {
-    for (; gap != marker.Gaps().end() && gap->begin == frame; ++gap) frame = gap->end;
-    const TRCPosition& position = marker.Positions()[index];
-    if (!horizon.Hides(position.x, position.y, position.z)) continue;
+void CheckFarPositions(const TRCMarker& marker, const MarkerSamples& samples, std::uint32_t unit,
+                       const StandIns& stand_ins, const TrcParts& parts, FindingList& findings) {
+  for (const auto& [frame, position] : samples.far) {
     if (stand_ins.AreAt(DistanceOf(position))) continue;
-    findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame), [&] {
-      return WordsOfOutOfSight(marker.Name(), {position.x, position.y, position.z}, unit);
-    });
+    const Point point{position.x, position.y, position.z};
+    findings.Add(Rule("trc-position-far"), parts.PlaceOfFrame(frame),
+                 [&] { return WordsOfOutOfSight(marker.Name(), point, unit); });
   }
 }
 
-void CheckSubject(const TRCDocument& document, const std::vector<PositionExtremes>& extremes,
-                  const StandIns& stand_ins, const TrcParts& parts, FindingList& findings) {
+// Around all positions, as far as that is along Z.
+Bounds HeightsAlongZ(const std::vector<MarkerSamples>& markers) {
+  MarkerSamples all;
+  for (const MarkerSamples& marker : markers) {
+    all.lowest_z = std::min(all.lowest_z, marker.lowest_z);
+    all.highest_z = std::max(all.highest_z, marker.highest_z);
+  }
+  return {{0.0, 0.0, all.lowest_z}, {0.0, 0.0, all.highest_z}};
+}
+
+void CheckSubject(const TRCDocument& document, const std::vector<MarkerSamples>& markers,
+                  const std::optional<Subject>& subject, const StandIns& stand_ins,
+                  const TrcParts& parts, FindingList& findings) {
   const auto unit = static_cast<std::uint32_t>(document.Units());
-  const auto subject = MeasureSubject(document);
   if (auto words = WordsOfOddSize(subject, unit); words && !stand_ins.AreFar()) {
     findings.Add(Rule("trc-size"), parts.Value(TRCHeaderValue::kUnits).value_or(parts.end),
                  std::move(*words));
   } else {
-    const Horizon horizon(unit);
-    for (std::size_t index = 0; index < extremes.size(); ++index) {
-      if (!horizon.MayHide(extremes[index].farthest)) continue;
-      CheckFarPositions(*document.MarkerAt(index), unit, stand_ins, parts, findings);
+    for (std::size_t index = 0; index < markers.size(); ++index) {
+      CheckFarPositions(*document.MarkerAt(index), markers[index], unit, stand_ins, parts,
+                        findings);
     }
   }
   if (!subject || stand_ins.AreFar() || !SeemsToStandAlongZ(*subject)) return;
   findings.Add(Rule("trc-up-axis"), parts.PlaceOfFrame(0),
-               {"heights along Z: " + DescribeHeights(*SummarizeTrc(document).bounds, unit),
+               {"heights along Z: " + DescribeHeights(HeightsAlongZ(markers), unit),
                 "heights along Y", "The file is taken as Y up: what stands lies on its side."});
 }
 
@@ -85,13 +85,12 @@ void CheckNarrowFrames(const TrcWidths& widths, std::int64_t markers, FindingLis
   }
 }
 
-void CheckPositions(const TRCDocument& document, const TrcParts& parts, FindingList& findings) {
-  std::vector<PositionExtremes> extremes;
-  extremes.reserve(document.MarkerCount());
-  for (const TRCMarker& marker : document.markers()) extremes.push_back(FindExtremes(marker));
-  const StandIns stand_ins(document, extremes);
+void CheckPositions(const TRCDocument& document, const std::vector<MarkerSamples>& markers,
+                    const std::optional<Subject>& subject, const TrcParts& parts,
+                    FindingList& findings) {
+  const StandIns stand_ins(document, markers);
   stand_ins.AddTo(findings, parts);
-  CheckSubject(document, extremes, stand_ins, parts, findings);
+  CheckSubject(document, markers, subject, stand_ins, parts, findings);
 }
 
 }  // namespace orvane::trc

@@ -18,14 +18,14 @@ constexpr std::size_t kFewestZeros = 2;
 
 constexpr const char* kEmptyCells = "nothing for X where a position is missing";
 
-bool AreEqual(const TRCPosition& left, const TRCPosition& right) {
-  return left.x == right.x && left.y == right.y && left.z == right.z;
-}
-
 bool SeemsToStandIn(const PositionExtremes& extremes) {
   return extremes.times_at_farthest >= kFewestRepeats &&
          extremes.farthest > kTimesTheOthers * extremes.next_farthest &&
          extremes.next_farthest > 0.0 && FitsSinglePrecision(extremes.farthest);
+}
+
+bool MovesAwayFromZero(const PositionExtremes& extremes) {
+  return extremes.zeros > 0 && extremes.farthest > 0.0;
 }
 
 std::string Named(const TRCMarker& marker) {
@@ -36,41 +36,10 @@ std::string InSamples(std::size_t samples) { return CountOf(samples, "sample"); 
 
 }  // namespace
 
-PositionExtremes FindExtremes(const TRCMarker& marker) {
-  PositionExtremes found;
-  const auto positions = marker.Positions();
-  for (std::size_t index = 0; index < positions.size(); ++index) {
-    const TRCPosition& position = positions[index];
-    const double distance = DistanceOf(position);
-    if (distance == 0.0) {
-      if (found.zeros++ == 0) found.first_zero = index;
-    } else if (distance > found.farthest) {
-      found.next_farthest = found.farthest;
-      found.farthest = distance;
-      found.first_farthest = index;
-      found.times_at_farthest = 1;
-    } else if (distance == found.farthest && AreEqual(position, positions[found.first_farthest])) {
-      ++found.times_at_farthest;
-    } else if (distance > found.next_farthest) {
-      found.next_farthest = distance;
-    }
-  }
-  return found;
-}
-
-std::size_t FrameOfPosition(const TRCMarker& marker, std::size_t index) {
-  std::size_t frame = index;
-  for (const TRCMarker::Gap& gap : marker.Gaps()) {
-    if (gap.positions_before > index) break;
-    frame += gap.end - gap.begin;
-  }
-  return frame;
-}
-
-StandIns::StandIns(const TRCDocument& document, const std::vector<PositionExtremes>& extremes)
-    : document_(document), extremes_(extremes) {
-  for (const PositionExtremes& each : extremes) {
-    if (SeemsToStandIn(each)) distances_.insert(each.farthest);
+StandIns::StandIns(const TRCDocument& document, const std::vector<MarkerSamples>& samples)
+    : document_(document), samples_(samples) {
+  for (const MarkerSamples& marker : samples) {
+    if (SeemsToStandIn(marker.extremes)) distances_.insert(marker.extremes.farthest);
   }
 }
 
@@ -79,23 +48,19 @@ void StandIns::AddTo(FindingList& findings, const TrcParts& parts) const {
   AddFar(findings, parts);
 }
 
-bool StandIns::MovesAwayFromZero(std::size_t marker) const {
-  return extremes_[marker].zeros > 0 && extremes_[marker].farthest > 0.0;
-}
-
 void StandIns::AddZeros(FindingList& findings, const TrcParts& parts) const {
   std::size_t samples = 0;
-  for (std::size_t index = 0; index < extremes_.size(); ++index) {
-    if (MovesAwayFromZero(index)) samples += extremes_[index].zeros;
+  for (const MarkerSamples& each : samples_) {
+    if (MovesAwayFromZero(each.extremes)) samples += each.extremes.zeros;
   }
   if (samples < kFewestZeros) return;
-  for (std::size_t index = 0; index < extremes_.size(); ++index) {
-    if (!MovesAwayFromZero(index)) continue;
+  for (std::size_t index = 0; index < samples_.size(); ++index) {
+    const PositionExtremes& found = samples_[index].extremes;
+    if (!MovesAwayFromZero(found)) continue;
     const TRCMarker& marker = *document_.MarkerAt(index);
-    const std::size_t frame = FrameOfPosition(marker, extremes_[index].first_zero);
-    findings.Add(Rule("trc-position-zero"), parts.PlaceOfFrame(frame), [&] {
+    findings.Add(Rule("trc-position-zero"), parts.PlaceOfFrame(found.first_zero), [&] {
       return FindingWords{
-          Named(marker) + " at 0 0 0 in " + CountOf(extremes_[index].zeros, "frame"), kEmptyCells,
+          Named(marker) + " at 0 0 0 in " + CountOf(found.zeros, "frame"), kEmptyCells,
           "It is taken for a position, and no gap is seen: " + InSamples(samples) + " in all."};
     });
   }
@@ -103,15 +68,14 @@ void StandIns::AddZeros(FindingList& findings, const TrcParts& parts) const {
 
 void StandIns::AddFar(FindingList& findings, const TrcParts& parts) const {
   std::size_t samples = 0;
-  for (const PositionExtremes& each : extremes_) {
-    if (AreAt(each.farthest)) samples += each.times_at_farthest;
+  for (const MarkerSamples& each : samples_) {
+    if (AreAt(each.extremes.farthest)) samples += each.extremes.times_at_farthest;
   }
-  for (std::size_t index = 0; index < extremes_.size(); ++index) {
-    const PositionExtremes& found = extremes_[index];
+  for (std::size_t index = 0; index < samples_.size(); ++index) {
+    const PositionExtremes& found = samples_[index].extremes;
     if (!AreAt(found.farthest)) continue;
     const TRCMarker& marker = *document_.MarkerAt(index);
-    const std::size_t frame = FrameOfPosition(marker, found.first_farthest);
-    findings.Add(Rule("trc-position-stand-in"), parts.PlaceOfFrame(frame), [&] {
+    findings.Add(Rule("trc-position-stand-in"), parts.PlaceOfFrame(found.first_farthest), [&] {
       return FindingWords{Named(marker) + " at " + FormatShortest(found.farthest) + " in " +
                               CountOf(found.times_at_farthest, "frame"),
                           kEmptyCells,

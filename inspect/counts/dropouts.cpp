@@ -9,9 +9,10 @@ FrameSpan SpanOf(std::size_t begin, std::size_t end) {
 
 }  // namespace
 
-std::int64_t CountDropouts(const TRCMarker& marker, const FrameSpan& frames) {
-  std::int64_t count = frames.Count() - Overlap(frames, SpanOf(0, marker.SampleCount())).Count();
-  for (const TRCMarker::Gap& gap : marker.Gaps()) {
+std::int64_t CountDropouts(std::span<const FrameGap> gaps, std::size_t held,
+                           const FrameSpan& frames) {
+  std::int64_t count = frames.Count() - Overlap(frames, SpanOf(0, held)).Count();
+  for (const FrameGap& gap : gaps) {
     count += Overlap(frames, SpanOf(gap.begin, gap.end)).Count();
   }
   return count;

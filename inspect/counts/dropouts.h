@@ -1,16 +1,24 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <span>
 
-#include "formats/trc/marker.h"
 #include "inspect/counts/frame_span.h"
 
-// Samples that a marker does not have. Nothing fails.
+// Samples that a marker does not have. Frames count from 0. Nothing fails.
 
 namespace orvane {
 
-// How many of `frames`, counted from 0, `marker` has no position in: those behind its last sample
-// among them.
-[[nodiscard]] std::int64_t CountDropouts(const TRCMarker& marker, const FrameSpan& frames);
+// Frames in a row without a position, from `begin` up to and without `end`.
+struct FrameGap {
+  std::size_t begin = 0;
+  std::size_t end = 0;
+};
+
+// In how many of `frames` a marker has no position that has these `gaps` among so many frames that
+// are `held`: those behind the last one among them.
+[[nodiscard]] std::int64_t CountDropouts(std::span<const FrameGap> gaps, std::size_t held,
+                                         const FrameSpan& frames);
 
 }  // namespace orvane

@@ -22,14 +22,28 @@ class SubjectMeasure {
  public:
   // Of a motion of so many frames and tracks.
   SubjectMeasure(std::size_t frames, std::size_t tracks)
-      : step_(std::max<std::size_t>(1, (frames + kMostFrames - 1) / kMostFrames)),
-        boxes_((frames + step_ - 1) / step_),
-        steps_(boxes_.size()),
-        tracks_(tracks) {}
+      : SubjectMeasure(StrideThrough(frames),
+                       (frames + StrideThrough(frames) - 1) / StrideThrough(frames), tracks) {}
+
+  // Of any motion that is looked at in each `stride`th frame.
+  [[nodiscard]] static SubjectMeasure ByStride(std::size_t stride, std::size_t tracks) {
+    return {stride, kMostFrames, tracks};
+  }
+
+  // The stride from one frame of a motion that is looked at to the next, when it has so many
+  // frames.
+  [[nodiscard]] static std::size_t StrideThrough(std::size_t frames) {
+    return std::max<std::size_t>(1, (frames + kMostFrames - 1) / kMostFrames);
+  }
+  [[nodiscard]] std::size_t Stride() const { return stride_; }
 
   // How many frames are looked at, and which these are.
   [[nodiscard]] std::size_t Count() const { return boxes_.size(); }
-  [[nodiscard]] std::size_t FrameAt(std::size_t index) const { return index * step_; }
+  [[nodiscard]] std::size_t FrameAt(std::size_t index) const { return index * stride_; }
+
+  [[nodiscard]] bool LooksAt(std::size_t frame) const {
+    return frame % stride_ == 0 && frame / stride_ < Count();
+  }
 
   // Takes a point of the frame FrameAt(index), in any order of tracks, and in that of frames for
   // each. A point that is nowhere, or infinitely far, is left out.
@@ -43,19 +57,25 @@ class SubjectMeasure {
     taken.last_index = index;
   }
 
+  // The same of `frame`. REQUIRES: that is looked at.
+  void TakeAt(std::size_t frame, std::size_t track, const Point& point) {
+    Take(frame / stride_, track, point);
+  }
+
   // Takes the points of a walk that is at `frame`, if that is looked at; a track is an entry.
   // REQUIRES: `frame` is one of the motion.
   void TakePose(std::size_t frame, const PoseWalk& walk) {
-    if (frame % step_ != 0) return;
-    for (const std::size_t entry : walk.Holding()) {
-      Take(frame / step_, entry, walk.PositionOf(entry));
-    }
+    if (!LooksAt(frame)) return;
+    for (const std::size_t entry : walk.Holding()) TakeAt(frame, entry, walk.PositionOf(entry));
   }
 
   // Nothing when no frame has two points. To be called once, at the end.
   [[nodiscard]] std::optional<Subject> Finish();
 
  private:
+  SubjectMeasure(std::size_t stride, std::size_t count, std::size_t tracks)
+      : stride_(stride), boxes_(count), steps_(count), tracks_(tracks) {}
+
   static constexpr std::size_t kMostFrames = 200;  // that are looked at
   static constexpr double kInfinity = std::numeric_limits<double>::infinity();
 
@@ -101,7 +121,7 @@ class SubjectMeasure {
   double WayOfSteps() const;
   static double RoomFor(const Subject& subject, const FrameBox& all);
 
-  std::size_t step_;
+  std::size_t stride_;
   std::vector<FrameBox> boxes_;
   std::vector<Step> steps_;
   std::vector<Track> tracks_;

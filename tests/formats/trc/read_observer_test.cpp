@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 #include <tuple>
 #include <vector>
@@ -299,6 +300,42 @@ TEST(TRCReadObserver, HearsOfHeaderValuesMarkersAndFrames) {
   EXPECT_THAT(heard.heard,
               ElementsAre("1:14 0=4", "3:1 1=60", "3:4 2=60", "3:7 3=2", "3:9 4=2", "3:11 5=mm",
                           "3:17 6=1", "4:13 a", "4:17 b", "7:1 frame 1", "8:1 frame 2"));
+}
+
+// The samples of each frame.
+struct SampleListener final : TRCReadObserver {
+  void OnOddity(TRCOddity, TRCPlace, std::string_view) override {}
+  void OnFrame(TRCPlace, const TRCRow& row) override {
+    std::string& text = heard.emplace_back();
+    for (std::size_t at = 0; at < row.coordinates.size(); at += 3) {
+      text += std::isnan(row.coordinates[at]) ? "none " : Whole(row.coordinates.subspan(at, 3));
+    }
+  }
+
+  static std::string Whole(std::span<const double> sample) {
+    std::string text;
+    for (const double each : sample) {
+      text += std::isnan(each) ? "0" : std::to_string(static_cast<int>(each));
+    }
+    return text + " ";
+  }
+
+  std::vector<std::string> heard;
+};
+
+TEST(TRCReadObserver, HearsTheSamplesOfMarkersWithACell) {
+  TrcText text = TwoFrames();
+  text.frames = {{"1\t2\t3", "\t\t"}, {"", "4"}, {"\t5\t", "x\t\t6"}};
+  const std::string bytes = text.Text() + "\n4\t0\n5\t0\t7";
+  for (const auto kept : {TRCSamples::kKept, TRCSamples::kLeftOut}) {
+    TRCDocument document;
+    SampleListener listener;
+    MemorySource source(bytes);
+    EXPECT_EQ(document.ReadFrom(source, false, &listener, kept), "");
+    EXPECT_THAT(listener.heard, ElementsAre("123 none ", "none 400 ", "none 006 ", "", "", "700 "));
+    EXPECT_EQ(document.MarkerCount(), 2U);
+    EXPECT_EQ(document.MarkerAt(0)->SampleCount(), kept == TRCSamples::kKept ? 6U : 0U);
+  }
 }
 
 TEST(TRCReadObserver, NeedNotHearOfFrames) {

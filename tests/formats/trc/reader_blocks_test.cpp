@@ -30,7 +30,9 @@ class Transcript final : public TRCReadObserver {
   }
   void OnFrame(TRCPlace place, const TRCRow& row) override {
     Put("frame", place, row.number);
-    text_ << row.line.text << '|' << row.width.fields << ' ' << row.width.last_value << '\n';
+    text_ << row.line.text << '|' << row.width.fields << ' ' << row.width.last_value;
+    for (const double coordinate : row.coordinates) text_ << ' ' << coordinate;
+    text_ << '\n';
   }
   void OnEnd(TRCPlace place) override { Put("end", place, {}); }
 

@@ -6,10 +6,9 @@
 #include <optional>
 #include <string>
 
-#include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
-#include "inspect/check/trc_check.h"
 #include "tests/inspect/check/check_rows.h"
+#include "tests/support/checked_bytes.h"
 #include "tests/support/files.h"
 #include "tests/support/saved_text.h"
 
@@ -100,11 +99,11 @@ std::string Example(const std::string& name) {
 TEST(ContentKind, IsTheOneFindingOfAFileOfAnother) {
   const std::string motion = Example("walk.htr");
   const std::string markers = Example("walk.trc");
-  EXPECT_THAT(test::AllTold(orvane::CheckHtr("walk", markers).findings),
+  EXPECT_THAT(test::AllTold(test::CheckedHtr("walk", markers).findings),
               ElementsAre(test::Told{"1:1 error htr-other-kind", "a TRC file", "an HTR file",
                                      "\"orvane import\" and \"orvane info\" take it, by a name "
                                      "that ends in .trc or with \"--as trc\"."}));
-  EXPECT_THAT(test::AllTold(orvane::CheckTrc("walk", motion).findings),
+  EXPECT_THAT(test::AllTold(test::CheckedTrc("walk", motion).findings),
               ElementsAre(test::Told{"1:1 error trc-other-kind", "an HTR file", "a TRC file",
                                      "\"orvane import\" and \"orvane info\" take it, by a name "
                                      "that ends in .htr or with \"--as htr\"."}));
@@ -119,9 +118,9 @@ TEST(ContentKind, IsTheOneFindingOfAFileOfAnother) {
 }
 
 TEST(ContentKind, OfSoundFilesIsWhatTheirNamesSay) {
-  EXPECT_TRUE(orvane::CheckHtr("walk", Example("walk.htr")).findings.IsEmpty());
+  EXPECT_TRUE(test::CheckedHtr("walk", Example("walk.htr")).findings.IsEmpty());
   EXPECT_EQ(
-      orvane::CheckTrc("walk", Example("walk.trc")).findings.Count(orvane::FindingSeverity::kError),
+      test::CheckedTrc("walk", Example("walk.trc")).findings.Count(orvane::FindingSeverity::kError),
       0U);
   EXPECT_EQ(FindContentKind(Example("walk.mnm")), ContentKind::kMnm);
 }

@@ -3,6 +3,7 @@
 #include "inspect/check/htr_rules.h"
 #include "tests/inspect/check/htr_rows.h"
 #include "tests/support/blocks.h"
+#include "tests/support/checked_bytes.h"
 #include "tests/support/replaced_text.h"
 
 namespace test {
@@ -38,7 +39,7 @@ std::vector<test::Told> ToldOf(const std::string& bytes) {
 }
 
 TEST(HtrCheck, FindsNothingInASoundFile) {
-  const orvane::CheckedFile checked = CheckHtr("walk.htr", test::Walk().Text());
+  const orvane::CheckedFile checked = test::CheckedHtr("walk.htr", test::Walk().Text());
   EXPECT_EQ(checked.file, "walk.htr");
   EXPECT_EQ(checked.kind, "HTR");
   EXPECT_EQ(checked.contents, "2 segments, 3 frames");

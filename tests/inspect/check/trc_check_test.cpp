@@ -1,8 +1,12 @@
 #include "inspect/check/trc_check.h"
 
+#include <memory>
+#include <string>
+
 #include "inspect/check/trc_rules.h"
 #include "tests/inspect/check/check_rows.h"
 #include "tests/support/blocks.h"
+#include "tests/support/checked_bytes.h"
 #include "tests/support/replaced_text.h"
 #include "tests/support/saved_text.h"
 #include "tests/support/trc_text.h"
@@ -10,6 +14,7 @@
 namespace {
 
 using orvane::CheckTrc;
+using orvane::TRCDocument;
 using test::CheckRow;
 using test::kMark;
 using test::LittleEndian;
@@ -87,7 +92,7 @@ std::string WithoutTime(const std::string& end = "") {
 }
 
 std::vector<test::Told> ToldOf(const std::string& bytes) {
-  orvane::TRCDocument document;
+  TRCDocument document;
   test::Blocks lines(bytes, 0, 1);  // each line takes the place of the last one
   return test::AllTold(CheckTrc("walk.trc", lines, document).findings);
 }
@@ -426,11 +431,23 @@ const std::vector<CheckRow> kRows = {
 };
 
 TEST(TrcCheck, FindsNothingInASoundFile) {
-  const orvane::CheckedFile checked = CheckTrc("walk.trc", Capture().Text());
+  const orvane::CheckedFile checked = test::CheckedTrc("walk.trc", Capture().Text());
   EXPECT_EQ(checked.file, "walk.trc");
   EXPECT_EQ(checked.kind, "TRC");
   EXPECT_EQ(checked.contents, "2 markers, 3 frames");
   EXPECT_THAT(test::AllTold(checked.findings), testing::IsEmpty());
+}
+
+TEST(TrcCheck, TellsTheSameWhereNoSampleIsKept) {
+  for (const CheckRow& row : kRows) {
+    const orvane::CheckedFile kept = test::CheckedTrc("walk.trc", row.bytes);
+    TRCDocument document;
+    const auto open = [&row] { return std::make_unique<test::Blocks>(row.bytes, 0, 1); };
+    const orvane::LookedOverTrc looked = orvane::LookOverTrc("walk.trc", open, document);
+    EXPECT_EQ(test::AllTold(looked.checked.findings), test::AllTold(kept.findings)) << row.behavior;
+    EXPECT_EQ(looked.checked.contents, kept.contents) << row.behavior;
+    EXPECT_EQ(looked.checked.refusal, kept.refusal) << row.behavior;
+  }
 }
 
 TEST(TrcCheck, TellsTheCauseAloneOfNamesThatStandElsewhere) {

@@ -2,22 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 namespace orvane {
 namespace {
 
-// Positions in the frames 0, 1, 4, 5 and 7.
-TRCMarker Fickle() {
-  TRCMarker marker("Toe");
-  marker.AppendPosition(0, 0, 0);
-  marker.AppendPosition(0, 0, 0);
-  marker.AppendDropouts(2);
-  marker.AppendPosition(1, 0, 0);
-  marker.AppendPosition(1, 0, 0);
-  marker.AppendDropout();
-  marker.AppendPosition(2, 0, 0);
-  marker.AppendDropout();
-  return marker;
-}
+// Those of nine frames with positions in 0, 1, 4, 5 and 7.
+const std::vector<FrameGap> kFickle = {{2, 4}, {6, 7}, {8, 9}};
 
 TEST(CountDropoutsTest, CountsThoseOfTheFramesAskedFor) {
   const struct {
@@ -28,16 +19,14 @@ TEST(CountDropoutsTest, CountsThoseOfTheFramesAskedFor) {
       {{4, 5}, 0}, {{7, 7}, 0},  {{8, 8}, 1}, {{0, 11}, 7}, {{20, 29}, 10}, {{5, 4}, 0},
   };
   for (const auto& example : cases) {
-    EXPECT_EQ(CountDropouts(Fickle(), example.frames), example.expected)
+    EXPECT_EQ(CountDropouts(kFickle, 9, example.frames), example.expected)
         << example.frames.first << " to " << example.frames.last;
   }
 }
 
 TEST(CountDropoutsTest, TakesAMarkerThatIsNeverSeen) {
-  EXPECT_EQ(CountDropouts(TRCMarker("Toe"), {0, 9}), 10);
-  TRCMarker unseen("Toe");
-  unseen.AppendDropouts(10);
-  EXPECT_EQ(CountDropouts(unseen, {2, 4}), 3);
+  EXPECT_EQ(CountDropouts({}, 0, {0, 9}), 10);
+  EXPECT_EQ(CountDropouts(std::vector<FrameGap>{{0, 10}}, 10, {2, 4}), 3);
 }
 
 }  // namespace

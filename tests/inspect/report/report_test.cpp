@@ -5,8 +5,7 @@
 
 #include <string>
 
-#include "inspect/check/htr_check.h"
-#include "inspect/check/trc_check.h"
+#include "tests/support/checked_bytes.h"
 #include "tests/support/trc_text.h"
 
 namespace {
@@ -14,19 +13,19 @@ namespace {
 using orvane::Action;
 using orvane::ActionOptions;
 using orvane::AskedFrames;
-using orvane::CheckHtr;
-using orvane::CheckTrc;
 using orvane::FileReport;
 using orvane::FindingSeverity;
 using orvane::ReportedFinding;
 using orvane::ReportOn;
 using orvane::ShownGaps;
+using test::CheckedHtr;
+using test::CheckedTrc;
 using test::TrcText;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
 FileReport ReportFor(const TrcText& text, Action action) {
-  return ReportOn(CheckTrc("walk.trc", text.Text()), action);
+  return ReportOn(CheckedTrc("walk.trc", text.Text()), action);
 }
 
 ReportedFinding Find(const FileReport& report, std::string_view code) {
@@ -63,7 +62,7 @@ TEST(Report, TellsWhatIsTakenOfAFewValues) {
 
 TEST(Report, TellsOfTheKeywordsThatAreMissingAlone) {
   const auto report = ReportOn(
-      CheckHtr("walk.htr", "[Header]\nNumSegments 0\nNumFrames 1\nRotationUnits Degrees\n"),
+      CheckedHtr("walk.htr", "[Header]\nNumSegments 0\nNumFrames 1\nRotationUnits Degrees\n"),
       Action::kImport);
   EXPECT_EQ(Find(report, "htr-keyword-missing").consequence,
             "60 is taken for the rate. Millimeters are taken.");
@@ -111,8 +110,7 @@ TEST(Report, TellsNumbersInConsequences) {
   std::string bytes = text.Text();
   bytes.replace(bytes.find("\t185\t"), 5, "\t1\t");
   const auto told = [&bytes](Action action) {
-    const auto found =
-        Find(ReportOn(orvane::CheckTrc("walk.trc", bytes), action), "trc-first-frame");
+    const auto found = Find(ReportOn(CheckedTrc("walk.trc", bytes), action), "trc-first-frame");
     EXPECT_EQ(found.cause, "The frames are numbered 185 to 186, and taken as 1 to 2");
     return found.consequence;
   };
@@ -186,7 +184,7 @@ TEST(Report, TellsEachConsequenceOnceAndThreeAtMost) {
   bytes.replace(bytes.find("\n1\t") + 1, 1, "8e9");
   bytes.replace(bytes.find("\n2\t") + 1, 1, "9e9");
   const ReportedFinding finding =
-      Find(ReportOn(CheckTrc("walk.trc", bytes), Action::kImport), "trc-number-out-of-range");
+      Find(ReportOn(CheckedTrc("walk.trc", bytes), Action::kImport), "trc-number-out-of-range");
   EXPECT_EQ(finding.count, 4U);
   EXPECT_EQ(finding.consequence,
             "6 is taken. 7 is taken. 8 is taken; only the first of a file is used.");
@@ -195,7 +193,7 @@ TEST(Report, TellsEachConsequenceOnceAndThreeAtMost) {
 // --- What is not asked for ---
 
 std::string AskedAndTold(const TrcText& text, const ActionOptions& options, std::string_view code) {
-  const FileReport report = ReportOn(CheckTrc("walk.trc", text.Text()), Action::kImport, options);
+  const FileReport report = ReportOn(CheckedTrc("walk.trc", text.Text()), Action::kImport, options);
   const ReportedFinding finding = Find(report, code);
   return std::string(SeverityName(finding.severity)) + ": " + finding.consequence;
 }
@@ -256,7 +254,7 @@ TEST(Report, TakesARateThatTheHostDoesNotHoldByWhatViewersAreShown) {
     EXPECT_EQ(AskedAndTold(text, {.own_time = false}, code), "warning: " + effect);
     EXPECT_EQ(AskedAndTold(text, {.rate = false, .own_time = false}, code),
               "note: The frame rate of the file is not asked for.");
-    const FileReport applied = ReportOn(CheckTrc("walk.trc", text.Text()), Action::kApply);
+    const FileReport applied = ReportOn(CheckedTrc("walk.trc", text.Text()), Action::kApply);
     EXPECT_EQ(Find(applied, code).severity, FindingSeverity::kWarning);
     EXPECT_EQ(Find(applied, code).consequence, effect);
   }
@@ -294,7 +292,7 @@ TEST(Report, TakesFarTooManyFramesByThoseThatAreAskedFor) {
 // --- Motion files ---
 
 FileReport MotionReport(const std::string& text) {
-  return ReportOn(CheckHtr("walk.htr", text), Action::kImport);
+  return ReportOn(CheckedHtr("walk.htr", text), Action::kImport);
 }
 
 TEST(Report, NamesKeywordsWithoutTheirQuotationMarks) {
