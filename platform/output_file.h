@@ -36,26 +36,33 @@ class OutputFile {
   // there can hand it to TakeOver.
   [[nodiscard]] std::string Folder() const;
 
-  // Writes `bytes` beside the file's place and waits until they are on the disk. Returns an empty
-  // text, or what went wrong in the system's words.
-  // REQUIRES: neither Write nor TakeOver has been called.
+  // Writes `bytes` beside the file's place, behind those of the calls before. Returns an empty
+  // text, or what went wrong in the system's words. REQUIRES: neither Write nor TakeOver nor Finish
+  // has been called, and no call has failed.
+  [[nodiscard]] std::string Append(std::string_view bytes);
+
+  // Waits until what was appended is on the disk. Returns as Append does.
+  // REQUIRES: Append has been called, and no call has failed.
+  [[nodiscard]] std::string Finish() const;
+
+  // Append and Finish, for who has all bytes at once.
+  // REQUIRES: neither Append nor TakeOver has been called.
   [[nodiscard]] std::string Write(std::string_view bytes);
 
   // As Write, but with the bytes of the finished file `path`, which lies on the same disk, such as
   // in a folder in Folder(), and is this object's from now on.
-  // REQUIRES: neither Write nor TakeOver has been called.
+  // REQUIRES: neither Write nor Append has been called.
   [[nodiscard]] std::string TakeOver(const std::string& path);
 
-  // Gives what Write has written its name. An existing file is replaced in one step when that is
+  // Gives what was written its name. An existing file is replaced in one step when that is
   // allowed, and kept otherwise, even one that has appeared in the meantime. Returns an empty text,
   // or what went wrong in the system's words; the file's place is then as it was.
-  // REQUIRES: Write or TakeOver has succeeded, and Deliver has not.
+  // REQUIRES: Write, Finish or TakeOver has succeeded, and Deliver has not.
   [[nodiscard]] std::string Deliver();
 
  private:
   [[nodiscard]] std::string CreateAside();
   [[nodiscard]] std::string FillAside(std::string_view bytes);
-  [[nodiscard]] std::string Finish() const;
   void Close();
 
   std::string path_;

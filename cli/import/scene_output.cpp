@@ -28,6 +28,30 @@ host::gltf::WriteOptions OptionsFor(const std::string& path, bool plain) {
   return {container, platform::TextOf(platform::PathOf(path).stem()), plain};
 }
 
+// Takes the bytes of a scene, until the user interrupts the program or something goes wrong.
+class SceneFile final : public host::gltf::FileSink {
+ public:
+  explicit SceneFile(platform::OutputFile& file) : file_(file) {}
+
+  bool Take(std::string_view bytes) override {
+    if (size_ == 0) platform::HoldInterrupts();
+    size_ += bytes.size();
+    error_ = file_.Append(bytes);
+    return error_.empty() && !platform::Interrupted();
+  }
+
+  // What went wrong, in the system's words; empty for nothing.
+  const std::string& Error() const { return error_; }
+
+  // In bytes.
+  std::size_t Size() const { return size_; }
+
+ private:
+  platform::OutputFile& file_;
+  std::string error_;
+  std::size_t size_ = 0;
+};
+
 }  // namespace
 
 SceneOutput::SceneOutput(std::string path, bool replace, bool plain)
@@ -37,16 +61,16 @@ SceneOutput::SceneOutput(std::string path, bool replace, bool plain)
 }
 
 std::size_t SceneOutput::Deliver(const host::Scene& scene, const std::string& source) {
-  const host::gltf::WrittenScene written = host::gltf::WriteScene(scene, OptionsFor(path_, plain_));
-  if (!written.refusal.empty()) {
-    throw Failure{ExitStatus::kRefused, {ComplainAbout(source, written.refusal)}};
-  }
-  platform::HoldInterrupts();
-  std::string error = file_.Write(written.bytes);
+  SceneFile file(file_);
+  const std::string refusal = host::gltf::WriteScene(scene, OptionsFor(path_, plain_), file);
+  if (!refusal.empty()) throw Failure{ExitStatus::kRefused, {ComplainAbout(source, refusal)}};
+  StopIfInterrupted();
+  std::string error = file.Error();
+  if (error.empty()) error = file_.Finish();
   StopIfInterrupted();
   if (error.empty()) error = file_.Deliver();
   if (!error.empty()) throw CannotWrite(error);
-  return written.bytes.size();
+  return file.Size();
 }
 
 Failure SceneOutput::CannotWrite(const std::string& reason) const {

@@ -1,5 +1,7 @@
 #include "host/gltf/writer.h"
 
+#include <utility>
+
 #include "host/gltf/file/container.h"
 #include "host/gltf/file/document.h"
 #include "host/gltf/file/key_counts.h"
@@ -24,8 +26,7 @@ void RequireRoomForKeys(const Scene& scene, const NodeTree& tree, const WriteOpt
   RequireRoom(LeastSize(shown, kept), options.most_bytes);
 }
 
-Document DocumentOf(const Scene& scene, const WriteOptions& options) {
-  const NodeTree tree = NodeTreeOf(scene);
+Document DocumentOf(const Scene& scene, const NodeTree& tree, const WriteOptions& options) {
   RequireRoomForKeys(scene, tree, options);
 
   Document document;
@@ -40,14 +41,34 @@ Document DocumentOf(const Scene& scene, const WriteOptions& options) {
   return document;
 }
 
+class TextSink final : public FileSink {
+ public:
+  bool Take(std::string_view bytes) override {
+    text_ += bytes;
+    return true;
+  }
+  std::string Text() && { return std::move(text_); }
+
+ private:
+  std::string text_;
+};
+
 }  // namespace
 
 WrittenScene WriteScene(const Scene& scene, const WriteOptions& options) {
+  TextSink file;
+  std::string refusal = WriteScene(scene, options, file);
+  return {std::move(file).Text(), std::move(refusal)};
+}
+
+std::string WriteScene(const Scene& scene, const WriteOptions& options, FileSink& file) {
   try {
-    const auto file = options.container == Container::kBinary ? BinaryFile : TextFile;
-    return {file(DocumentOf(scene, options), options.most_bytes), ""};
+    const NodeTree tree = NodeTreeOf(scene);
+    const auto write = options.container == Container::kBinary ? WriteBinary : WriteText;
+    write(DocumentOf(scene, tree, options), options.most_bytes, file);
+    return "";
   } catch (const Refusal& refusal) {
-    return {"", refusal.what()};
+    return refusal.what();
   }
 }
 

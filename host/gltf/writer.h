@@ -4,6 +4,7 @@
 #include <limits>
 #include <string>
 
+#include "host/gltf/file/file_sink.h"
 #include "host/scene/scene.h"
 #include "platform/export.h"
 
@@ -56,7 +57,13 @@ struct WrittenScene {
   std::string refusal;
 };
 
-// The same scene gives the same bytes. Takes time and memory in proportion to nodes and keys.
+// The same scene gives the same bytes. Takes time in proportion to nodes and keys.
 [[nodiscard]] SKELDER_API WrittenScene WriteScene(const Scene& scene, const WriteOptions& options);
+
+// The same into `file`, piece by piece, in memory of some hundreds of bytes for a node and two
+// dozen for a key. Returns why the scene cannot be written, and gives `file` nothing then; an empty
+// text otherwise.
+[[nodiscard]] SKELDER_API std::string WriteScene(const Scene& scene, const WriteOptions& options,
+                                                 FileSink& file);
 
 }  // namespace host::gltf

@@ -98,12 +98,18 @@ std::string OutputFile::WhyImpossible() const {
 
 std::string OutputFile::Folder() const { return FolderOf(path_); }
 
-std::string OutputFile::Write(std::string_view bytes) {
-  assert(aside_.empty() && file_ < 0);
+std::string OutputFile::Append(std::string_view bytes) {
   // A limit on the size of files is to be an error like a full disk, and not to end the process.
   std::signal(SIGXFSZ, SIG_IGN);
-  std::string error = CreateAside();
+  std::string error = aside_.empty() ? CreateAside() : "";
   if (error.empty()) error = FillAside(bytes);
+  return error;
+}
+
+std::string OutputFile::Write(std::string_view bytes) {
+  assert(aside_.empty() && file_ < 0);
+  std::string error = Append(bytes);
+  if (error.empty()) error = Finish();
   return error;
 }
 
@@ -143,7 +149,7 @@ std::string OutputFile::FillAside(std::string_view bytes) {
     if (written < 0) return LastError();
     bytes.remove_prefix(static_cast<std::size_t>(written));
   }
-  return Finish();
+  return "";
 }
 
 std::string OutputFile::Finish() const {

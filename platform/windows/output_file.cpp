@@ -119,10 +119,16 @@ std::string OutputFile::WhyImpossible() const {
 
 std::string OutputFile::Folder() const { return Utf8FromWide(FolderOf(path_)); }
 
+std::string OutputFile::Append(std::string_view bytes) {
+  std::string error = aside_.empty() ? CreateAside() : "";
+  if (error.empty()) error = FillAside(bytes);
+  return error;
+}
+
 std::string OutputFile::Write(std::string_view bytes) {
   assert(aside_.empty() && file_ < 0);
-  std::string error = CreateAside();
-  if (error.empty()) error = FillAside(bytes);
+  std::string error = Append(bytes);
+  if (error.empty()) error = Finish();
   return error;
 }
 
@@ -159,7 +165,7 @@ std::string OutputFile::FillAside(std::string_view bytes) {
     }
     bytes.remove_prefix(written);
   }
-  return Finish();
+  return "";
 }
 
 std::string OutputFile::Finish() const {

@@ -34,6 +34,26 @@ TEST_F(OutputFileTest, AppearsOnDelivery) {
   EXPECT_EQ(ReadFile(path_), "bytes");
 }
 
+TEST_F(OutputFileTest, IsWrittenInPieces) {
+  OutputFile file(path_, false);
+  EXPECT_EQ(file.Append("one "), "");
+  EXPECT_EQ(file.Append(""), "");
+  EXPECT_EQ(file.Append("two"), "");
+  EXPECT_EQ(file.Finish(), "");
+  EXPECT_FALSE(std::filesystem::exists(path_));
+  EXPECT_EQ(file.Deliver(), "");
+  EXPECT_THAT(NamesIn(folder_.Path()), ElementsAre("scene.glb"));
+  EXPECT_EQ(ReadFile(path_), "one two");
+}
+
+TEST_F(OutputFileTest, LeavesNothingOfPiecesThatAreNotDelivered) {
+  {
+    OutputFile file(path_, false);
+    EXPECT_EQ(file.Append("one "), "");
+  }
+  EXPECT_THAT(NamesIn(folder_.Path()), IsEmpty());
+}
+
 TEST_F(OutputFileTest, LeavesNothingWhenItIsNotDelivered) {
   {
     OutputFile file(path_, false);

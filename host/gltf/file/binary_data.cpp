@@ -1,109 +1,103 @@
 #include "host/gltf/file/binary_data.h"
 
-#include <algorithm>
 #include <cassert>
+
+#include "host/gltf/file/json_text.h"
 
 namespace host::gltf {
 
 namespace {
 
-using nlohmann::json;
-
 constexpr int kVertexTarget = 34962;
 constexpr int kTriangleTarget = 34963;
 
-// Numbers lie at a multiple of their size.
+// MadeNumbers lie at a multiple of their size.
 constexpr std::size_t kAlignment = 4;
 
-json AccessorRecord(std::size_t view, std::size_t offset, std::size_t bytes,
-                    const ElementForm& form) {
-  json record = {{"bufferView", view},
-                 {"componentType", form.component_type},
-                 {"count", bytes / form.bytes},
-                 {"type", form.type}};
-  if (offset > 0) record["byteOffset"] = offset;
-  return record;
-}
-
-// Sets the smallest and the largest of each component, which some accessors must have.
-void SetBounds(const std::vector<float>& numbers, std::size_t width, json& accessor) {
-  const auto first_end = numbers.begin() + static_cast<std::ptrdiff_t>(width);
-  std::vector<float> smallest(numbers.begin(), first_end);
-  std::vector<float> largest = smallest;
-  for (std::size_t i = width; i < numbers.size(); ++i) {
-    smallest[i % width] = std::min(smallest[i % width], numbers[i]);
-    largest[i % width] = std::max(largest[i % width], numbers[i]);
-  }
-  accessor["min"] = smallest;
-  accessor["max"] = largest;
+std::string_view BytesOf(const std::vector<float>& numbers) {
+  return {reinterpret_cast<const char*>(numbers.data()), numbers.size() * sizeof(float)};
 }
 
 }  // namespace
 
-int BinaryData::AddPositions(const std::vector<float>& positions) {
+int BinaryData::AddPositions(MadeNumbers positions, const Bounds& bounds) {
   OwnView(kVertexTarget);
-  return AddWithBounds(positions, kThreeNumbersForm);
+  return Add(std::move(positions), kThreeNumbersForm, &bounds);
 }
 
-int BinaryData::AddNormals(const std::vector<float>& normals) {
+int BinaryData::AddNormals(MadeNumbers normals) {
   OwnView(kVertexTarget);
-  return Add(normals, kThreeNumbersForm);
+  return Add(std::move(normals), kThreeNumbersForm);
 }
 
-int BinaryData::AddJoints(const std::vector<std::uint16_t>& joints) {
+int BinaryData::AddJoints(MadeNumbers joints) {
   OwnView(kVertexTarget);
-  return Add(joints, kJointsForm);
+  return Add(std::move(joints), kJointsForm);
 }
 
-int BinaryData::AddWeights(const std::vector<float>& weights) {
+int BinaryData::AddWeights(MadeNumbers weights) {
   OwnView(kVertexTarget);
-  return Add(weights, kFourNumbersForm);
+  return Add(std::move(weights), kFourNumbersForm);
 }
 
-int BinaryData::AddTriangles(const std::vector<std::uint32_t>& vertices) {
+int BinaryData::AddTriangles(MadeNumbers vertices) {
   OwnView(kTriangleTarget);
-  return Add(vertices, kWordForm);
+  return Add(std::move(vertices), kWordForm);
 }
 
-int BinaryData::AddMatrices(const std::vector<float>& matrices) {
+int BinaryData::AddMatrices(MadeNumbers matrices) {
   BeginView();
-  return Add(matrices, kMatrixForm);
+  return Add(std::move(matrices), kMatrixForm);
 }
 
 int BinaryData::AddKeyTimes(const std::vector<float>& seconds) {
   KeyView();
-  return AddWithBounds(seconds, kNumberForm);
+  Bounds bounds(1);
+  bounds.Add(seconds);
+  return AddKeys(seconds, kNumberForm, &bounds);
 }
 
 int BinaryData::AddKeyVectors(const std::vector<float>& vectors) {
   KeyView();
-  return Add(vectors, kThreeNumbersForm);
+  return AddKeys(vectors, kThreeNumbersForm);
 }
 
 int BinaryData::AddKeyRotations(const std::vector<float>& rotations) {
   KeyView();
-  return Add(rotations, kFourNumbersForm);
+  return AddKeys(rotations, kFourNumbersForm);
 }
 
-void BinaryData::Append(std::string_view bytes) {
+void BinaryData::Append(MadeNumbers numbers) {
   assert(!views_.empty());
-  bytes_ += bytes;
-  views_.back().size += bytes.size();
+  if (numbers.size == 0) return;
+  views_.back().size += numbers.size;
+  size_ += numbers.size;
+  parts_.emplace_back(std::move(numbers));
 }
 
 std::optional<int> BinaryData::AddViewAccessor(const ElementForm& form) {
   assert(!views_.empty());
-  const std::size_t size = views_.back().size;
-  if (size == 0) {
+  if (views_.back().size == 0) {
     views_.pop_back();
     return std::nullopt;
   }
-  return accessors_.Add(AccessorRecord(views_.size() - 1, 0, size, form));
+  return AddAccessor(0, form, nullptr);
+}
+
+void BinaryData::AppendTo(Output& output) const {
+  for (const auto& part : parts_) {
+    if (const auto* held = std::get_if<Blocks>(&part)) {
+      output.Append(*held);
+    } else {
+      std::get<MadeNumbers>(part).append(output);
+    }
+  }
 }
 
 int BinaryData::OwnView(int target) {
-  bytes_.resize((bytes_.size() + kAlignment - 1) / kAlignment * kAlignment);
-  views_.push_back({bytes_.size(), 0, target});
+  constexpr char kPadding[kAlignment] = {};
+  Hold({kPadding, (kAlignment - size_ % kAlignment) % kAlignment});
+  views_.push_back({size_, 0, target});
   return static_cast<int>(views_.size()) - 1;
 }
 
@@ -114,22 +108,42 @@ void BinaryData::KeyView() {
   }
 }
 
-template <typename Number>
-int BinaryData::Add(const std::vector<Number>& numbers, const ElementForm& form) {
-  assert(!numbers.empty() && numbers.size() * sizeof numbers[0] % form.bytes == 0);
-  const std::size_t offset = views_.back().size;
-  AppendNumbers(numbers);
-  return accessors_.Add(
-      AccessorRecord(views_.size() - 1, offset, views_.back().size - offset, form));
+void BinaryData::Hold(std::string_view bytes) {
+  if (bytes.empty()) return;
+  if (parts_.empty() || !std::holds_alternative<Blocks>(parts_.back())) parts_.emplace_back();
+  std::get<Blocks>(parts_.back()).Tail() += bytes;
+  size_ += bytes.size();
 }
 
-int BinaryData::AddWithBounds(const std::vector<float>& numbers, const ElementForm& form) {
-  assert(!numbers.empty() && numbers.size() * sizeof numbers[0] % form.bytes == 0);
+int BinaryData::Add(MadeNumbers numbers, const ElementForm& form, const Bounds* bounds) {
+  assert(numbers.size > 0 && numbers.size % form.bytes == 0);
   const std::size_t offset = views_.back().size;
-  AppendNumbers(numbers);
-  json record = AccessorRecord(views_.size() - 1, offset, views_.back().size - offset, form);
-  SetBounds(numbers, form.bytes / sizeof(float), record);
-  return accessors_.Add(record);
+  Append(std::move(numbers));
+  return AddAccessor(offset, form, bounds);
+}
+
+int BinaryData::AddKeys(const std::vector<float>& numbers, const ElementForm& form,
+                        const Bounds* bounds) {
+  const std::string_view bytes = BytesOf(numbers);
+  assert(!bytes.empty() && bytes.size() % form.bytes == 0);
+  const std::size_t offset = views_.back().size;
+  Hold(bytes);
+  views_.back().size += bytes.size();
+  return AddAccessor(offset, form, bounds);
+}
+
+int BinaryData::AddAccessor(std::size_t offset, const ElementForm& form, const Bounds* bounds) {
+  return accessors_.AddText([&](std::string& text) {
+    JsonObject accessor(text);
+    accessor.Add("bufferView", views_.size() - 1);
+    if (offset > 0) accessor.Add("byteOffset", offset);
+    accessor.Add("componentType", form.component_type);
+    accessor.Add("count", (views_.back().size - offset) / form.bytes);
+    if (bounds != nullptr) accessor.Add("max", bounds->Largest());
+    if (bounds != nullptr) accessor.Add("min", bounds->Smallest());
+    accessor.Add("type", form.type);
+    accessor.End();
+  });
 }
 
 }  // namespace host::gltf

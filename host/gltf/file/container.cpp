@@ -21,20 +21,53 @@ constexpr std::size_t kHeaderSize = 12;
 constexpr std::size_t kChunkHeaderSize = 8;
 constexpr std::size_t kChunkAlignment = 4;
 
-void SetWord(std::size_t number, std::size_t offset, std::string& bytes) {
+void AppendWord(std::size_t number, Output& output) {
   const auto word = static_cast<std::uint32_t>(number);
-  std::memcpy(&bytes[offset], &word, sizeof word);
+  output.Append({reinterpret_cast<const char*>(&word), sizeof word});
 }
 
-// Fills the chunk whose header is at `start` up to a multiple of four bytes, and its header.
-void EndChunk(std::size_t start, std::uint32_t type, char filler, std::string& bytes) {
-  while (bytes.size() % kChunkAlignment != 0) bytes += filler;
-  SetWord(bytes.size() - start - kChunkHeaderSize, start, bytes);
-  SetWord(type, start + sizeof type, bytes);
+// What a chunk of `size` bytes lacks to a multiple of four.
+std::size_t FillOf(std::size_t size) {
+  return (kChunkAlignment - size % kChunkAlignment) % kChunkAlignment;
 }
+
+// Appends the chunk of the `size` bytes that `append` does.
+template <typename Append>
+void AppendChunk(std::size_t size, std::uint32_t type, char filler, const Append& append,
+                 Output& output) {
+  AppendWord(size + FillOf(size), output);
+  AppendWord(type, output);
+  append();
+  output.Append(std::string(FillOf(size), filler));
+}
+
+std::size_t ChunkSize(std::size_t size) { return kChunkHeaderSize + size + FillOf(size); }
 
 // Stands before data in base64.
 constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
+
+// Passes on as base64 what it takes, whose pieces but the last are of whole groups of three bytes.
+class Base64Sink final : public FileSink {
+ public:
+  explicit Base64Sink(Output& text) : text_(text) {}
+
+  bool Take(std::string_view bytes) override {
+    text_.Append(EncodedBase64(bytes));
+    return true;
+  }
+
+ private:
+  Output& text_;
+};
+
+void AppendEmbedded(const BinaryData& data, Output& text) {
+  static_assert(Output::kPieceSize % 3 == 0);
+  text.Append(kDataPrefix);
+  Base64Sink sink(text);
+  Output output(sink);
+  data.AppendTo(output);
+  output.End();
+}
 
 [[noreturn]] void RefuseCutShort() { throw Refusal("The file is damaged or cut short."); }
 
@@ -90,34 +123,35 @@ void RequireRoom(std::uint64_t bytes, std::uint64_t most) {
   if (bytes > most) throw Refusal("The scene cannot be saved: glTF holds no more than 4 GiB.");
 }
 
-std::string BinaryFile(Document document, std::uint64_t most) {
-  RequireRoom(document.data.Bytes().size(), most);
-  constexpr std::size_t kRoomForTheRest = 1 << 16;
-  std::string bytes;
-  bytes.reserve(document.Size() + kRoomForTheRest);
-  bytes.resize(kHeaderSize + kChunkHeaderSize);
-  AppendText(document, "", bytes);
-  EndChunk(kHeaderSize, kJsonChunk, ' ', bytes);
+void WriteBinary(const Document& document, std::uint64_t most, FileSink& file) {
+  const BinaryData& data = document.data;
+  RequireRoom(data.Size(), most);
+  const auto append_json = [&](Output& output) { AppendText(document, nullptr, output); };
+  const std::uint64_t json_size = SizeOf(append_json);
+  const bool has_data = data.Size() > 0;
+  const std::uint64_t size =
+      kHeaderSize + ChunkSize(json_size) + (has_data ? ChunkSize(data.Size()) : 0);
+  RequireRoom(size, most);
 
-  if (!document.data.Bytes().empty()) {
-    const std::size_t data_start = bytes.size();
-    bytes.resize(data_start + kChunkHeaderSize);
-    bytes += document.data.Bytes();
-    EndChunk(data_start, kBinaryChunk, '\0', bytes);
+  Output output(file);
+  output.Append(kGlbMagic);
+  AppendWord(kGlbVersion, output);
+  AppendWord(size, output);
+  AppendChunk(
+      json_size, kJsonChunk, ' ', [&] { append_json(output); }, output);
+  if (has_data) {
+    AppendChunk(
+        data.Size(), kBinaryChunk, '\0', [&] { data.AppendTo(output); }, output);
   }
-
-  RequireRoom(bytes.size(), most);
-  bytes.replace(0, kGlbMagic.size(), kGlbMagic);
-  SetWord(kGlbVersion, 4, bytes);
-  SetWord(bytes.size(), 8, bytes);
-  return bytes;
+  output.End();
 }
 
-std::string TextFile(Document document, std::uint64_t most) {
-  RequireRoom(document.data.Bytes().size(), most);
-  std::string text;
-  AppendText(document, std::string(kDataPrefix) + EncodedBase64(document.data.Bytes()), text);
-  return text;
+void WriteText(const Document& document, std::uint64_t most, FileSink& file) {
+  RequireRoom(document.data.Size(), most);
+  Output output(file);
+  AppendText(
+      document, [&](Output& text) { AppendEmbedded(document.data, text); }, output);
+  output.End();
 }
 
 FileParts TakeApart(std::string_view bytes) {

@@ -17,10 +17,11 @@ namespace host::gltf {
 // Throws a Refusal when `bytes` are more than `most`, which a file may have.
 void RequireRoom(std::uint64_t bytes, std::uint64_t most);
 
-// The bytes of the file with `document` in it, in either form. Throw a Refusal when they, or the
-// data embedded in text, are more than `most`. REQUIRES: `most` is no more than 32 bits count.
-std::string BinaryFile(Document document, std::uint64_t most);
-std::string TextFile(Document document, std::uint64_t most);
+// Write the file with `document` in it, in either form. Throw a Refusal, before anything is
+// written, when it, or the data embedded in text, takes more than `most` bytes.
+// REQUIRES: `most` is no more than 32 bits count.
+void WriteBinary(const Document& document, std::uint64_t most, FileSink& file);
+void WriteText(const Document& document, std::uint64_t most, FileSink& file);
 
 // A glTF file taken apart: what the reader looks at.
 struct FileParts {

@@ -1,7 +1,6 @@
 #include "host/gltf/file/document.h"
 
 #include <string_view>
-#include <utility>
 
 namespace host::gltf {
 
@@ -11,35 +10,35 @@ using nlohmann::json;
 
 constexpr char kGenerator[] = "OrvaneFileIO";
 
-// Appends a JSON object to a text, member by member.
-class ObjectText {
+// Appends a JSON object to a file, member by member, each on lines of its own.
+class ObjectOutput {
  public:
-  explicit ObjectText(std::string& text) : text_(text) { text_ += '{'; }
+  explicit ObjectOutput(Output& output) : output_(output) { output_.Append("{"); }
 
-  void Add(std::string_view name, std::string_view value) {
-    text_ += separator_;
-    text_ += '"';
-    text_ += name;
-    text_ += "\":";
-    text_ += value;
+  // The output, to append the value of the member `name` to.
+  Output& Member(std::string_view name) {
+    output_.Append(separator_);
+    output_.Append("\"");
+    output_.Append(name);
+    output_.Append("\":");
     separator_ = ",\n";
+    return output_;
   }
+
+  void Add(std::string_view name, std::string_view value) { Member(name).Append(value); }
 
   // Adds no empty list: the format forbids them.
   void AddList(std::string_view name, const JsonList& list) {
     if (list.IsEmpty()) return;
     Add(name, "[\n");
-    text_ += list.Elements();
-    text_ += ']';
+    output_.Append(list.Elements());
+    output_.Append("]");
   }
 
-  // Empties the list as well.
-  void MoveList(std::string_view name, JsonList& list) { AddList(name, std::exchange(list, {})); }
-
-  void End() { text_ += '}'; }
+  void End() { output_.Append("}"); }
 
  private:
-  std::string& text_;
+  Output& output_;
   const char* separator_ = "\n";
 };
 
@@ -62,16 +61,17 @@ json SceneRecord(const Document& document) {
   return scene;
 }
 
-void AddAnimation(Document& document, ObjectText& file, std::string& text) {
+void AddAnimation(const Document& document, ObjectOutput& file) {
   if (document.channels.IsEmpty()) return;
-  file.Add("animations", "[");
-  ObjectText animation(text);
+  Output& output = file.Member("animations");
+  output.Append("[");
+  ObjectOutput animation(output);
   if (!document.animation_name.empty()) animation.Add("name", json(document.animation_name).dump());
   if (!document.recording.empty()) animation.Add("extras", document.recording.dump());
-  animation.MoveList("samplers", document.samplers);
-  animation.MoveList("channels", document.channels);
+  animation.AddList("samplers", document.samplers);
+  animation.AddList("channels", document.channels);
   animation.End();
-  text += ']';
+  output.Append("]");
 }
 
 JsonList Views(const BinaryData& data) {
@@ -85,25 +85,25 @@ JsonList Views(const BinaryData& data) {
   return views;
 }
 
-// The one buffer. A place is text that needs no escapes and may be long.
-std::string BufferText(const BinaryData& data, const std::string& uri) {
-  const std::string size = "{\"byteLength\":" + std::to_string(data.Bytes().size());
-  return size + (uri.empty() ? "}" : ",\"uri\":\"" + uri + "\"}");
+// The one buffer.
+void AddBuffer(const BinaryData& data, const std::function<void(Output&)>& append_uri,
+               ObjectOutput& file) {
+  if (data.Size() == 0) return;
+  Output& output = file.Member("buffers");
+  output.Append("[{\"byteLength\":" + std::to_string(data.Size()));
+  if (append_uri != nullptr) {
+    output.Append(",\"uri\":\"");
+    append_uri(output);
+    output.Append("\"");
+  }
+  output.Append("}]");
 }
 
 }  // namespace
 
-std::size_t Document::Size() const {
-  std::size_t size = data.Bytes().size() + data.Accessors().Elements().size();
-  for (const JsonList* list : {&nodes, &meshes, &materials, &skins, &samplers, &channels}) {
-    size += list->Elements().size();
-  }
-  return size;
-}
-
-void AppendText(Document& document, const std::string& uri, std::string& text) {
-  BinaryData& data = document.data;
-  ObjectText file(text);
+void AppendText(const Document& document, const std::function<void(Output&)>& append_uri,
+                Output& output) {
+  ObjectOutput file(output);
   file.Add("asset", AssetRecord(document).dump());
   if (!document.extensions.empty()) {
     file.Add("extensionsUsed", NamesIn(document.extensions).dump());
@@ -111,14 +111,14 @@ void AppendText(Document& document, const std::string& uri, std::string& text) {
   }
   file.Add("scene", "0");
   file.Add("scenes", json::array({SceneRecord(document)}).dump());
-  file.MoveList("nodes", document.nodes);
-  file.MoveList("meshes", document.meshes);
-  file.MoveList("materials", document.materials);
-  file.MoveList("skins", document.skins);
-  AddAnimation(document, file, text);
-  file.MoveList("accessors", data.Accessors());
-  file.AddList("bufferViews", Views(data));
-  if (!data.Bytes().empty()) file.Add("buffers", "[" + BufferText(data, uri) + "]");
+  file.AddList("nodes", document.nodes);
+  file.AddList("meshes", document.meshes);
+  file.AddList("materials", document.materials);
+  file.AddList("skins", document.skins);
+  AddAnimation(document, file);
+  file.AddList("accessors", document.data.Accessors());
+  file.AddList("bufferViews", Views(document.data));
+  AddBuffer(document.data, append_uri, file);
   file.End();
 }
 

@@ -1,23 +1,21 @@
 #pragma once
 
-#include <cstddef>
+#include <functional>
 #include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
 #include "host/gltf/file/binary_data.h"
 #include "host/gltf/file/json_list.h"
+#include "host/gltf/file/output.h"
 
 // A file that is being made, and its JSON. Both halves add to it; container.h makes bytes of it.
-// The writer owns it.
+// The writer owns it; what it is made of outlives it.
 
 namespace host::gltf {
 
 // The parts of a glTF file that is being made.
 struct Document {
-  // Of all lists and the data, in bytes.
-  std::size_t Size() const;
-
   std::string scene_name;
   std::string animation_name;
   nlohmann::json recording;  // extras of the scene and of its animation: an object, or nothing
@@ -33,8 +31,9 @@ struct Document {
   nlohmann::json asset_extras;  // what is to be known of the file as a whole, by name
 };
 
-// Appends `document` as JSON to `text`. `uri` tells where its data is; it is empty when that stands
-// behind the JSON. Lists are freed as they are appended, because all together are large.
-void AppendText(Document& document, const std::string& uri, std::string& text);
+// Appends `document` as JSON. `append_uri` appends the place where its data is, text that needs no
+// escapes and may be long; it is null when the data stands behind the JSON.
+void AppendText(const Document& document, const std::function<void(Output&)>& append_uri,
+                Output& output);
 
 }  // namespace host::gltf

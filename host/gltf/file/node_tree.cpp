@@ -16,6 +16,7 @@ void PushChildren(const Node& parent, int parent_index, int top, NodeTree& stack
 
 NodeTree NodeTreeOf(const Scene& scene) {
   NodeTree tree;
+  tree.reserve(scene.NodeCount());
   NodeTree stack;
   PushChildren(scene.Root(), -1, -1, stack);
   while (!stack.empty()) {

@@ -20,8 +20,8 @@ inline constexpr std::uint32_t kExtensionVersion = 3;
 // The oldest that is still read: it has no record of the recording and of what was measured.
 inline constexpr std::uint32_t kOldestVersion = 2;
 
-// Adds `scene`, whose nodes are `tree`, to `document`. Throws a Refusal when a number is not
-// finite.
+// Adds `scene`, whose nodes are `tree`, to `document`, which both outlive. Throws a Refusal when a
+// number is not finite.
 void KeepScene(const Scene& scene, const NodeTree& tree, Document& document);
 
 // The keys of all controllers in `tree`, which KeepScene keeps.

@@ -48,6 +48,14 @@ void SetText(nlohmann::json& record, const std::string& name, const std::string&
   }
 }
 
+void AddText(JsonObject& record, const std::string& name, const std::string& bytes) {
+  if (ViewerName(bytes) == bytes) {
+    record.Add(name, bytes);
+  } else {
+    record.Add(name + field::kBytes, Hexadecimal(bytes));
+  }
+}
+
 std::string TextOf(const JsonField& record, const std::string& name) {
   const auto bytes = record.FindMember(name + field::kBytes);
   std::string text = bytes ? BytesIn(*bytes) : record.Member(name).Text();

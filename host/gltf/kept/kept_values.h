@@ -21,6 +21,12 @@ std::array<float, kSize> FloatsIn(const JsonField& field) {
   return numbers;
 }
 
+inline std::array<float, 3> Components(const Point3& point) { return {point.x, point.y, point.z}; }
+
+inline std::array<float, 4> Components(const Quat& rotation) {
+  return {rotation.x, rotation.y, rotation.z, rotation.w};
+}
+
 // The value of the components that `numbers` begins with.
 inline void Compose(const float* numbers, Point3& point) {
   point = {numbers[0], numbers[1], numbers[2]};

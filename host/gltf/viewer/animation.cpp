@@ -5,8 +5,10 @@
 #include <cstdint>
 #include <map>
 #include <optional>
+#include <string>
 #include <vector>
 
+#include "host/gltf/file/json_text.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/viewer/shown_position.h"
 
@@ -157,10 +159,22 @@ void AnimationBuilder::AddChannel(const std::vector<float>& seconds, int output,
   const int input = known != inputs_.end() ? known->second : data_.AddKeyTimes(seconds);
   inputs_.try_emplace(seconds, input);
 
-  nlohmann::json sampler = {{"input", input}, {"output", output}};
-  if (interpolation != nullptr) sampler["interpolation"] = interpolation;
-  document_.channels.Add(
-      {{"sampler", document_.samplers.Add(sampler)}, {"target", {{"node", node}, {"path", path}}}});
+  const int sampler = document_.samplers.AddText([&](std::string& text) {
+    JsonObject record(text);
+    record.Add("input", input);
+    if (interpolation != nullptr) record.Add("interpolation", interpolation);
+    record.Add("output", output);
+    record.End();
+  });
+  document_.channels.AddText([&](std::string& text) {
+    JsonObject channel(text);
+    channel.Add("sampler", sampler);
+    JsonObject target(channel.Member("target"));
+    target.Add("node", node);
+    target.Add("path", path);
+    target.End();
+    channel.End();
+  });
 }
 
 }  // namespace

@@ -62,9 +62,8 @@ class MeshMaker {
 
  private:
   int Add(const Shape& shape, const Node& node, int material) {
-    Geometry geometry;
-    geometry.Add(shape, space_, node, time_);
-    const auto primitives = nlohmann::json::array({geometry.StoreIn(document_.data, material)});
+    const auto primitives = nlohmann::json::array(
+        {StorePrimitive(shape, space_, node, time_, material, document_.data)});
     return document_.meshes.Add({{"primitives", primitives}});
   }
 

@@ -22,18 +22,6 @@ struct Surface {
   std::vector<Triangle> triangles;
 };
 
-// An octahedron on the X axis. Corners 0 to 3 go around its waist, from +Y over +Z; 4 is its start
-// and 5 its end.
-Surface Octahedron(float start, float waist, float end, float half_width, float half_height) {
-  return {{{waist, half_width, 0.0F},
-           {waist, 0.0F, half_height},
-           {waist, -half_width, 0.0F},
-           {waist, 0.0F, -half_height},
-           {start, 0.0F, 0.0F},
-           {end, 0.0F, 0.0F}},
-          {{0, 1, 5}, {1, 2, 5}, {2, 3, 5}, {3, 0, 5}, {1, 0, 4}, {2, 1, 4}, {3, 2, 4}, {0, 3, 4}}};
-}
-
 using Direction = std::array<double, 3>;
 
 // Of unit length; any direction when there is none.
@@ -58,19 +46,34 @@ double Dot(const Direction& a, const Direction& b) {
   return a[0] * b[0] + a[1] * b[1] + a[2] * b[2];
 }
 
-// The shape of `surface` with flat faces: each has corners of its own, which face where it does.
-Shape Faceted(const Surface& surface) {
-  Shape shape;
-  for (const Triangle& triangle : surface.triangles) {
-    const auto first = static_cast<std::uint32_t>(shape.corners.size());
-    for (const std::uint32_t corner : triangle) shape.corners.push_back(surface.corners[corner]);
-    const Point3* corners = &shape.corners[first];
-    const Point3 normal =
-        Unit(Cross(Between(corners[0], corners[1]), Between(corners[0], corners[2])));
-    shape.normals.insert(shape.normals.end(), 3, normal);
-    shape.triangles.push_back({first, first + 1, first + 2});
+// On the X axis. Corners 0 to 3 go around its waist, from +Y over +Z; 4 is its start and 5 its end.
+Octahedron OctahedronFrom(float start, float waist, float end, float half_width,
+                          float half_height) {
+  Octahedron octahedron{{{{waist, half_width, 0.0F},
+                          {waist, 0.0F, half_height},
+                          {waist, -half_width, 0.0F},
+                          {waist, 0.0F, -half_height},
+                          {start, 0.0F, 0.0F},
+                          {end, 0.0F, 0.0F}}},
+                        {}};
+  for (std::size_t face = 0; face < Octahedron::kFaces.size(); ++face) {
+    const auto [a, b, c] = Octahedron::kFaces[face];
+    const std::array<Point3, 6>& corners = octahedron.corners;
+    octahedron.normals[face] =
+        Unit(Cross(Between(corners[a], corners[b]), Between(corners[a], corners[c])));
   }
-  return shape;
+  return octahedron;
+}
+
+Octahedron MarkOctahedron(float radius) {
+  return OctahedronFrom(-radius, 0.0F, radius, radius, radius);
+}
+
+// The point that `transform` takes `corner` to.
+Point3 Moved(const Point3& corner, const Matrix3& transform) {
+  Matrix3 move;
+  move.SetRow(3, corner);
+  return (move * transform).GetRow(3);
 }
 
 // An icosahedron in the unit sphere: three golden rectangles about the origin.
@@ -163,17 +166,29 @@ class NormalTransform {
 
 }  // namespace
 
-Shape BoneShape(float width, float height, float length, float mark_radius) {
-  if (length == 0.0F) return MarkShape(mark_radius);
+Octahedron BoneOctahedron(float width, float height, float length, float mark_radius) {
+  if (length == 0.0F) return MarkOctahedron(mark_radius);
   const float thinnest = std::abs(length) * kThinnest;
   const float half_width = std::max(std::abs(width), thinnest) / 2.0F;
   const float half_height = std::max(std::abs(height), thinnest) / 2.0F;
   // A bone that points backwards is mirrored twice: its outside stays outside.
-  return Faceted(
-      Octahedron(0.0F, length * kWaist, length, std::copysign(half_width, length), half_height));
+  return OctahedronFrom(0.0F, length * kWaist, length, std::copysign(half_width, length),
+                        half_height);
 }
 
-Shape MarkShape(float radius) { return Faceted(Octahedron(-radius, 0.0F, radius, radius, radius)); }
+Shape MarkShape(float radius) {
+  const Octahedron octahedron = MarkOctahedron(radius);
+  Shape shape;
+  for (std::size_t face = 0; face < Octahedron::kFaces.size(); ++face) {
+    const auto first = static_cast<std::uint32_t>(shape.corners.size());
+    for (const std::size_t corner : Octahedron::kFaces[face]) {
+      shape.corners.push_back(octahedron.corners[corner]);
+    }
+    shape.normals.insert(shape.normals.end(), 3, octahedron.normals[face]);
+    shape.triangles.push_back({first, first + 1, first + 2});
+  }
+  return shape;
+}
 
 Shape BallShape(float radius) {
   const float size = std::abs(radius);
@@ -186,17 +201,22 @@ Shape BallShape(float radius) {
 }
 
 Shape Transformed(Shape shape, const Matrix3& transform) {
-  for (Point3& corner : shape.corners) {
-    Matrix3 move;
-    move.SetRow(3, corner);
-    corner = (move * transform).GetRow(3);
-  }
+  for (Point3& corner : shape.corners) corner = Moved(corner, transform);
   const NormalTransform normals(transform);
   for (Point3& normal : shape.normals) normal = normals.Of(normal);
   if (normals.Mirrors()) {
     for (Triangle& triangle : shape.triangles) std::swap(triangle[1], triangle[2]);
   }
   return shape;
+}
+
+Octahedron Transformed(const Octahedron& octahedron, const Matrix3& transform) {
+  Octahedron result = octahedron;
+  for (Point3& corner : result.corners) corner = Moved(corner, transform);
+  const NormalTransform normals(transform);
+  for (Point3& normal : result.normals) normal = normals.Of(normal);
+  if (normals.Mirrors()) result.is_mirrored = !result.is_mirrored;
+  return result;
 }
 
 }  // namespace host::gltf

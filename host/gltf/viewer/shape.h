@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -23,10 +24,25 @@ struct Shape {
   std::vector<Triangle> triangles;
 };
 
-// An octahedron from the origin to (`length`, 0, 0), `width` wide along Y and `height` high along
-// Z at its waist. One too thin to be seen is drawn a little thicker. A bone without length is drawn
-// as a mark of radius `mark_radius`. Its faces are flat.
-Shape BoneShape(float width, float height, float length, float mark_radius);
+// Two pyramids with a common base, their faces flat: what is drawn of a bone.
+struct Octahedron {
+  // The corners of each face, counter-clockwise as seen from outside, and clockwise when it is
+  // mirrored.
+  static constexpr std::array<std::array<std::size_t, 3>, 8> kFaces = {
+      {{0, 1, 5}, {1, 2, 5}, {2, 3, 5}, {3, 0, 5}, {1, 0, 4}, {2, 1, 4}, {3, 2, 4}, {0, 3, 4}}};
+
+  std::array<Point3, 6> corners;
+
+  // Of each face, outwards and of unit length.
+  std::array<Point3, 8> normals;
+
+  bool is_mirrored = false;
+};
+
+// From the origin to (`length`, 0, 0), `width` wide along Y and `height` high along Z at its waist.
+// One too thin to be seen is drawn a little thicker. A bone without length is drawn as a mark of
+// radius `mark_radius`.
+Octahedron BoneOctahedron(float width, float height, float length, float mark_radius);
 
 // An octahedron about the origin, its corners on the axes and its faces flat.
 Shape MarkShape(float radius);
@@ -37,5 +53,6 @@ Shape BallShape(float radius);
 // `shape` with its corners where `transform` takes them. What is outside stays outside if that
 // mirrors.
 Shape Transformed(Shape shape, const Matrix3& transform);
+Octahedron Transformed(const Octahedron& octahedron, const Matrix3& transform);
 
 }  // namespace host::gltf

@@ -3,8 +3,11 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
+#include <string>
+#include <utility>
 #include <vector>
 
+#include "host/gltf/file/json_text.h"
 #include "host/gltf/file/names.h"
 #include "host/gltf/file/refusal.h"
 #include "host/gltf/viewer/animation.h"
@@ -21,7 +24,43 @@ namespace {
 
 constexpr std::array<double, 3> kHidden = {0.0, 0.0, 0.0};
 
-nlohmann::json ViewerNode(const Node& node, const ViewerSpace& space, TimeValue time) {
+// The nodes below each node of a tree, in their order: the first of them, and of each the next one
+// of the same parent; -1 where there is none.
+class ChildrenIn {
+ public:
+  explicit ChildrenIn(const NodeTree& tree) : first_(tree.size(), -1), next_(tree.size(), -1) {
+    for (std::size_t index = tree.size(); index-- > 0;) {
+      if (tree[index].parent == -1) continue;
+      next_[index] = std::exchange(first_[static_cast<std::size_t>(tree[index].parent)],
+                                   static_cast<int>(index));
+    }
+  }
+
+  bool Has(std::size_t index) const { return first_[index] != -1; }
+
+  // Appends the indices of those below the node `index` to `text`.
+  void AppendOf(std::size_t index, std::string& text) const {
+    char separator = '[';
+    for (int child = first_[index]; child != -1; child = next_[static_cast<std::size_t>(child)]) {
+      text += std::exchange(separator, ',');
+      AppendValue(text, child);
+    }
+    text += ']';
+  }
+
+ private:
+  std::vector<int> first_;
+  std::vector<int> next_;
+};
+
+// What a viewer is shown of a node at one time.
+struct ViewerTransform {
+  std::array<double, 3> position;
+  std::array<double, 4> rotation;
+  std::array<double, 3> scale;
+};
+
+ViewerTransform TransformOf(const Node& node, const ViewerSpace& space, TimeValue time) {
   const TransformController& transform = *node.Transform();
   const ShownPosition shown(node);
   const auto position = space.Position(shown.PlaceAt(time));
@@ -30,32 +69,27 @@ nlohmann::json ViewerNode(const Node& node, const ViewerSpace& space, TimeValue 
   RequireFinite(position, node, "position", time);
   RequireFinite(rotation, node, "rotation", time);
   RequireFinite(scale, node, "scale", time);
-  return {{"name", ViewerName(node.Name())},
-          {"translation", position},
-          {"rotation", rotation},
-          {"scale", shown.IsHiddenAt(time) ? kHidden : scale}};
-}
-
-// The indices of the nodes below each node of `tree`.
-std::vector<std::vector<int>> ChildrenIn(const NodeTree& tree) {
-  std::vector<std::vector<int>> children(tree.size());
-  for (std::size_t index = 0; index < tree.size(); ++index) {
-    if (tree[index].parent == -1) continue;
-    children[static_cast<std::size_t>(tree[index].parent)].push_back(static_cast<int>(index));
-  }
-  return children;
+  return {position, rotation, shown.IsHiddenAt(time) ? kHidden : scale};
 }
 
 // Adds the nodes of `tree`, as they stand at `time` (ticks), to `document`; `meshes` are the
 // indices of their meshes, -1 for none. Throws a Refusal when a transform is not finite.
 void AddNodes(const NodeTree& tree, const ViewerSpace& space, TimeValue time,
               const std::vector<int>& meshes, Document& document) {
-  const std::vector<std::vector<int>> children = ChildrenIn(tree);
+  const ChildrenIn children(tree);
   for (std::size_t index = 0; index < tree.size(); ++index) {
-    nlohmann::json node = ViewerNode(*tree[index].node, space, time);
-    if (meshes[index] != -1) node["mesh"] = meshes[index];
-    if (!children[index].empty()) node["children"] = children[index];
-    const int added = document.nodes.Add(node);
+    const Node& node = *tree[index].node;
+    const ViewerTransform transform = TransformOf(node, space, time);
+    const int added = document.nodes.AddText([&](std::string& text) {
+      JsonObject record(text);
+      if (children.Has(index)) children.AppendOf(index, record.Member("children"));
+      if (meshes[index] != -1) record.Add("mesh", meshes[index]);
+      record.Add("name", ViewerName(node.Name()));
+      record.Add("rotation", transform.rotation);
+      record.Add("scale", transform.scale);
+      record.Add("translation", transform.position);
+      record.End();
+    });
     if (tree[index].parent == -1) document.roots.push_back(added);
   }
 }

@@ -10,8 +10,8 @@
 namespace host::gltf {
 
 // Adds the bones of `tree` as skins, bound as they stand at `time` (ticks), each with a mesh whose
-// node is one of the scene's roots. The nodes of `document` are those of the tree. Throws a Refusal
-// when a shape is not finite.
+// node is one of the scene's roots. The nodes of `document` are those of the tree, which outlives
+// it. Throws a Refusal when a shape is not finite.
 void AddSkins(const NodeTree& tree, const ViewerSpace& space, TimeValue time, Materials& materials,
               Document& document);
 
