@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "formats/htr/degrees.h"
 #include "formats/htr/messages.h"
 #include "formats/text/files.h"
 #include "formats/text/numbers.h"
@@ -41,10 +42,11 @@ std::string WhyNotWritable(const HtrDocument& document) {
 // One printing of one document. Each function appends its lines, in the order of the file.
 class HtrPrinter {
  public:
-  HtrPrinter(const HtrDocument& document, const TextTaker& take)
+  HtrPrinter(const HtrDocument& document, const TextTaker& take, const HtrManner& manner)
       : document_(document),
+        manner_(manner),
         text_(take),
-        angle_factor_(document.GetRotationUnits() == kDegrees ? kDegreesPerRadian : 1.0) {}
+        is_in_degrees_(document.GetRotationUnits() == kDegrees) {}
 
   void Print();
 
@@ -61,12 +63,15 @@ class HtrPrinter {
   void EndLine() { text_.Put("\r\n"); }
   void PutLine(std::string_view line);
   void PutField(std::string_view keyword, std::string_view value);
+  [[nodiscard]] std::string ScaleFactor() const;
+  [[nodiscard]] double AngleInFile(double radians) const;
   // The seven columns of a base position or a frame, and the end of the line.
   void PutRow(const Vector3& translation, const EulerRotation& rotation, double length);
 
   const HtrDocument& document_;
+  const HtrManner& manner_;
   TextBuffer text_;
-  const double angle_factor_;
+  const bool is_in_degrees_;
 };
 
 void HtrPrinter::Print() {
@@ -88,15 +93,21 @@ void HtrPrinter::PrintHeader() {
   PutField("FileVersion", "1");
   PutField("NumSegments", FormatInt(document_.GetNumSegments()));
   PutField("NumFrames", FormatInt(std::max(document_.GetNumFrames(), std::uint32_t{1})));
-  PutField("DataFrameRate", FormatInt(document_.GetDataFrameRate()));
+  PutField("DataFrameRate", manner_.frame_rate.empty() ? FormatInt(document_.GetDataFrameRate())
+                                                       : manner_.frame_rate);
   PutField("EulerRotationOrder", "ZYX");
   PutField("CalibrationUnits", CalibrationUnitsName(document_.GetCalibrationUnits()));
   PutField("RotationUnits", RotationUnitsName(document_.GetRotationUnits()));
-  // Intended: the axis of gravity is Y whatever the document says, the bones' axis is what the
-  // document says, although no reader of ours takes another than Y.
-  PutField("GlobalAxisofGravity", AxisName(kAxisY));
+  // Intended: an exporter's axis of gravity is Y whatever the document says, the bones' axis is
+  // what the document says, although no reader of ours takes another than Y.
+  PutField("GlobalAxisofGravity", AxisName(manner_.gravity_axis));
   PutField("BoneLengthAxis", AxisName(document_.GetBoneLengthAxis()));
-  PutField("ScaleFactor", FormatDouble(document_.GetScaleFactor(), kHeaderDecimals));
+  PutField("ScaleFactor", ScaleFactor());
+}
+
+std::string HtrPrinter::ScaleFactor() const {
+  const double factor = document_.GetScaleFactor();
+  return manner_.numbers ? manner_.numbers->Text(factor) : FormatDouble(factor, kHeaderDecimals);
 }
 
 void HtrPrinter::PrintHierarchy() {
@@ -158,10 +169,21 @@ void HtrPrinter::PutField(std::string_view keyword, std::string_view value) {
   PutLine(value);
 }
 
+double HtrPrinter::AngleInFile(double radians) const {
+  if (!is_in_degrees_) return radians;
+  const bool is_exact = manner_.numbers && manner_.numbers->IsShortest();
+  return is_exact ? DegreesReadAs(radians) : radians * kDegreesPerRadian;
+}
+
 void HtrPrinter::PutRow(const Vector3& translation, const EulerRotation& rotation, double length) {
-  text_.PutColumns(std::array{translation.x(), translation.y(), translation.z(),
-                              rotation[0] * angle_factor_, rotation[1] * angle_factor_,
-                              rotation[2] * angle_factor_, length});
+  const std::array row{
+      translation.x(),          translation.y(),          translation.z(), AngleInFile(rotation[0]),
+      AngleInFile(rotation[1]), AngleInFile(rotation[2]), length};
+  if (manner_.numbers) {
+    text_.PutColumns(row, *manner_.numbers);
+  } else {
+    text_.PutColumns(row);
+  }
   EndLine();
 }
 
@@ -180,8 +202,8 @@ std::string WriteHtrFile(const HtrDocument& document, const std::string& file_na
   return kNotOpened;  // no memory
 }
 
-void PrintHtr(const HtrDocument& document, const TextTaker& take) {
-  HtrPrinter(document, take).Print();
+void PrintHtr(const HtrDocument& document, const TextTaker& take, const HtrManner& manner) {
+  HtrPrinter(document, take, manner).Print();
 }
 
 }  // namespace orvane

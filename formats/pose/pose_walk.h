@@ -53,6 +53,13 @@ class PoseWalk {
     return rotations_[SlotOf(entry, offset_)];
   }
 
+  // How the segment is turned in the world. REQUIRES: as above.
+  [[nodiscard]] const RotationMatrix3& WorldRotationOf(std::size_t entry) const {
+    assert(!rotations_.empty());
+    assert(entry < hierarchy_.size());
+    return world_rotations_[SlotOf(entry, offset_)];
+  }
+
  private:
   void DropEnded(std::size_t frame);
   void StartBlock(std::size_t frame);

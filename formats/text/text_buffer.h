@@ -7,6 +7,7 @@
 #include <string_view>
 #include <vector>
 
+#include "formats/text/number_form.h"
 #include "formats/text/six_decimals.h"
 #include "formats/text/text_taker.h"
 
@@ -37,6 +38,18 @@ class TextBuffer {
     assert(numbers.size() <= kMostColumns);
     MakeRoom(numbers.size() * kLongestColumn);
     end_ = WriteColumns(numbers, end_);
+  }
+
+  // Each in that form, behind a tab.
+  void PutColumns(std::span<const double> numbers, const NumberForm& form) {
+    for (const double number : numbers) {
+      Put('\t');
+      PutNumber(number, form);
+    }
+  }
+  void PutNumber(double number, const NumberForm& form) {
+    MakeRoom(NumberForm::kLongest);
+    end_ = form.Write(number, end_);
   }
 
   // Hands over what has been put since the last time.

@@ -49,6 +49,22 @@ TEST(PoseWalkTest, AJointStandsWhereItsParentsPutIt) {
   ExpectPosition(walk, 1, 6, 2, 4);
 }
 
+TEST(PoseWalkTest, InTheWorldASegmentIsTurnedByAllThatItHangsFrom) {
+  HtrDocument document;
+  HtrSegment* hips = Add(document, "Hips", nullptr);
+  hips->SetBaseRotation(0, 0, 90 * kRadiansPerDegree);
+  hips->AddFrame({}, Vector3{0, 0, 0}, 1);
+  HtrSegment* spine = Add(document, "Spine", hips);
+  spine->AddFrame({}, Vector3{0, 0, 45 * kRadiansPerDegree}, 1);
+  PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
+  walk.MoveTo(0);
+  const orvane::EulerRotation world(walk.WorldRotationOf(1));
+  EXPECT_NEAR(world[0], 0, 1e-12);
+  EXPECT_NEAR(world[1], 0, 1e-12);
+  EXPECT_NEAR(world[2], 135 * kRadiansPerDegree, 1e-12);
+  EXPECT_NEAR(orvane::EulerRotation(walk.WorldRotationOf(0))[2], 90 * kRadiansPerDegree, 1e-12);
+}
+
 TEST(PoseWalkTest, ARotationIsTheBaseTimesTheFrameAgainstTheParent) {
   HtrDocument document;
   HtrSegment* hips = Add(document, "Hips", nullptr);

@@ -1,0 +1,23 @@
+#pragma once
+
+#include <map>
+#include <string>
+
+#include "formats/htr/document.h"
+#include "formats/trc/document.h"
+
+// Other names for segments and markers.
+namespace orvane {
+
+// Gives each segment or marker of `document` whose name is a key of `names` the name that it has
+// there, all at once, so that two may change theirs. Names are compared with the case of their
+// letters; keys that nothing has are passed over.
+//
+// Returns an empty text, or, with nothing changed, why not, as a text about the file: two would
+// have one name, or a file could not hold a name.
+[[nodiscard]] std::string Rename(HtrDocument& document,
+                                 const std::map<std::string, std::string>& names);
+[[nodiscard]] std::string Rename(TRCDocument& document,
+                                 const std::map<std::string, std::string>& names);
+
+}  // namespace orvane
