@@ -12,6 +12,7 @@ command g++                                       g++
 command ninja                                     ninja-build
 command ccache                                    ccache
 command x86_64-w64-mingw32-windres                binutils-mingw-w64-x86-64
+header  assimp/Importer.hpp                       libassimp-dev
 header  CLI/CLI.hpp                               libcli11-dev
 header  fast_float/fast_float.h                   libfast-float-dev
 header  fmt/format.h                              libfmt-dev
