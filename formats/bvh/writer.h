@@ -1,7 +1,7 @@
 #pragma once
 
 #include "formats/bvh/plan.h"
-#include "formats/text/text_buffer.h"
+#include "formats/text/text_taker.h"
 
 // Writes what a motion file says as a BVH file. docs/formats/bvh.md describes what is written.
 namespace orvane {

@@ -9,6 +9,7 @@
 
 #include "formats/text/lines.h"
 #include "formats/text/numbers.h"
+#include "formats/text/text_buffer.h"
 #include "formats/units/units.h"
 
 namespace orvane {

@@ -3,7 +3,7 @@
 #include <string>
 
 #include "formats/text/number_form.h"
-#include "formats/text/text_buffer.h"
+#include "formats/text/text_taker.h"
 #include "formats/trc/document.h"
 
 // Writes a document as a marker file. docs/formats/trc.md describes what is written.
