@@ -1,8 +1,6 @@
 #include "cli/common/input.h"
 
 #include <filesystem>
-#include <fstream>
-#include <ios>
 #include <optional>
 #include <system_error>
 
@@ -13,6 +11,7 @@
 #include "formats/htr/reader.h"
 #include "formats/text/files.h"
 #include "inspect/check/content_kind.h"
+#include "inspect/check/started_source.h"
 #include "platform/input_file.h"
 #include "platform/path_text.h"
 
@@ -22,13 +21,12 @@ namespace {
 // The start of `file`, as far as it shows what is wrong with all of its text; nothing when it
 // cannot be read.
 std::optional<std::string> ReadStart(const std::string& file) {
-  std::ifstream stream(platform::PathOf(file), std::ios::binary);
-  if (!stream) return std::nullopt;
-  std::string bytes(orvane::kBytesThatShowFlaws, '\0');
-  stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
-  if (stream.bad()) return std::nullopt;
-  bytes.resize(static_cast<std::size_t>(stream.gcount()));
-  return bytes;
+  orvane::FileSource source(file);
+  if (!source.IsOpen()) return std::nullopt;
+  orvane::StartedSource started(source);
+  std::string start(started.Start());
+  if (source.HasFailed()) return std::nullopt;
+  return start;
 }
 
 // What is wrong with all of the text of `file`, where that can be seen.
