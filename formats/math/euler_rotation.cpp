@@ -3,6 +3,7 @@
 #include <cmath>
 #include <utility>
 
+#include "formats/math/plain_rotation.h"
 #include "formats/math/rotation_matrix3.h"
 
 namespace orvane {
@@ -69,11 +70,10 @@ T Continue(T angle, T previous) {
   return angle;
 }
 
-}  // namespace
-
 // Both ways between angles and a matrix stand here; the matrix itself knows nothing of angles.
-template <typename T>
-OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotation<T>& rotation) {
+// `m` is its columns, m[column][row].
+template <typename T, typename Columns>
+void SetColumns(const OrvaneEulerRotation<T>& rotation, Columns& m) {
   const auto [i, j, k, odd_parity, repeats_first_axis, rotating_frame] = rotation.order().Decode();
   T a = rotation[0], b = rotation[1], c = rotation[2];
   if (rotating_frame) std::swap(a, c);
@@ -82,7 +82,6 @@ OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotatio
   const T ci = std::cos(a), cj = std::cos(b), ch = std::cos(c);
   const T si = std::sin(a), sj = std::sin(b), sh = std::sin(c);
   const T cc = ci * ch, cs = ci * sh, sc = si * ch, ss = si * sh;
-  auto& m = vectors_;  // m[column][row]
   if (repeats_first_axis) {
     m[i][i] = cj, m[j][i] = sj * si, m[k][i] = sj * ci;
     m[i][j] = sj * sh, m[j][j] = -cj * ss + cc, m[k][j] = -cj * cs - sc;
@@ -92,8 +91,17 @@ OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotatio
     m[i][j] = cj * sh, m[j][j] = sj * ss + cc, m[k][j] = sj * cs - sc;
     m[i][k] = -sj, m[j][k] = cj * si, m[k][k] = cj * ci;
   }
+}
+
+}  // namespace
+
+template <typename T>
+OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotation<T>& rotation) {
+  SetColumns(rotation, vectors_);
   return *this;
 }
+
+void PlainRotation::Set(const EulerRotation& rotation) { SetColumns(rotation, columns_); }
 
 template <typename T>
 OrvaneEulerRotation<T>& OrvaneEulerRotation<T>::Set(const OrvaneRotationMatrix3<T>& matrix) {

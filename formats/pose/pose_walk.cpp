@@ -27,10 +27,25 @@ PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy, PoseParts parts)
   std::iota(holding_.begin(), holding_.end(), std::size_t{0});
   for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
     assert(hierarchy_[entry].parent <= entry);
-    base_rotations_[entry] = RotationMatrix3(hierarchy_[entry].segment->GetBaseRotation());
+    base_rotations_[entry].Set(hierarchy_[entry].segment->GetBaseRotation());
     const std::size_t above = above_[entry] = hierarchy_[entry].parent;
     if (above != entry) is_turned_[above] = true;
   }
+}
+
+inline void PoseWalk::Place(std::size_t entry, std::size_t offset, const Point& translation) {
+  const std::size_t above = SlotOf(above_[entry], offset);
+  positions_[SlotOf(entry, offset)] =
+      above_[entry] == entry ? translation
+                             : world_rotations_[above].Moved(positions_[above], translation);
+}
+
+inline void PoseWalk::Turn(std::size_t entry, std::size_t offset, const PlainRotation& rotation) {
+  const std::size_t slot = SlotOf(entry, offset);
+  if (!rotations_.empty()) rotations_[slot] = rotation;
+  const std::size_t above = above_[entry];
+  world_rotations_[slot] =
+      above == entry ? rotation : world_rotations_[SlotOf(above, offset)] * rotation;
 }
 
 void PoseWalk::MoveTo(std::size_t frame) {
@@ -44,7 +59,8 @@ void PoseWalk::TakeBasePosition() {
   block_end_ = block_begin_;
   offset_ = 0;
   for (const std::size_t entry : holding_) {
-    Place(entry, 0, hierarchy_[entry].segment->GetBaseTranslation());
+    const Vector3 base = hierarchy_[entry].segment->GetBaseTranslation();
+    Place(entry, 0, {base.x(), base.y(), base.z()});
     if (is_turned_[entry]) Turn(entry, 0, base_rotations_[entry]);
   }
 }
@@ -56,18 +72,27 @@ void PoseWalk::StartBlock(std::size_t frame) {
   const std::size_t length = std::clamp<std::size_t>(2 * last_length, 1, most_frames_);
   block_begin_ = frame;
   block_end_ = frame + std::min(length, next_end_ - frame);
-  for (const std::size_t entry : holding_) PlaceInBlock(entry);
+  for (const std::size_t entry : holding_) {
+    PlaceInBlock(entry);
+    if (is_turned_[entry]) TurnInBlock(entry);
+  }
 }
 
 void PoseWalk::PlaceInBlock(std::size_t entry) {
   const HtrSegment& segment = *hierarchy_[entry].segment;
+  const Vector3 base = segment.GetBaseTranslation();
   for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
-    Place(entry, frame - block_begin_, segment.GetFramePosition(frame));
+    const Vector3 offset = segment.GetFrameTranslation(frame);
+    Place(entry, frame - block_begin_,
+          {offset.x() + base.x(), offset.y() + base.y(), offset.z() + base.z()});
   }
-  if (!is_turned_[entry]) return;
+}
+
+void PoseWalk::TurnInBlock(std::size_t entry) {
+  const HtrSegment& segment = *hierarchy_[entry].segment;
   for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
-    Turn(entry, frame - block_begin_,
-         base_rotations_[entry] * RotationMatrix3(segment.GetFrameRotation(frame)));
+    const PlainRotation rotation(segment.GetFrameRotation(frame));
+    Turn(entry, frame - block_begin_, base_rotations_[entry] * rotation);
   }
 }
 
@@ -87,31 +112,6 @@ void PoseWalk::DropEnded(std::size_t frame) {
   holding_.erase(std::remove_if(holding_.begin(), holding_.end(),
                                 [&holds](std::size_t entry) { return !holds(entry); }),
                  holding_.end());
-}
-
-void PoseWalk::Place(std::size_t entry, std::size_t offset, const Vector3& translation) {
-  Point& position = positions_[SlotOf(entry, offset)];
-  if (above_[entry] == entry) {
-    position = {translation.x(), translation.y(), translation.z()};
-    return;
-  }
-  const std::size_t above = SlotOf(above_[entry], offset);
-  const RotationMatrix3& parent = world_rotations_[above];
-  Point sum = positions_[above];
-  for (unsigned row = 0; row < 3; ++row) {
-    for (unsigned column = 0; column < 3; ++column) {
-      sum[row] += parent.Element(row, column) * translation[column];
-    }
-  }
-  position = sum;
-}
-
-void PoseWalk::Turn(std::size_t entry, std::size_t offset, const RotationMatrix3& rotation) {
-  const std::size_t slot = SlotOf(entry, offset);
-  if (!rotations_.empty()) rotations_[slot] = rotation;
-  const std::size_t above = above_[entry];
-  world_rotations_[slot] =
-      above == entry ? rotation : world_rotations_[SlotOf(above, offset)] * rotation;
 }
 
 }  // namespace orvane

@@ -4,8 +4,7 @@
 #include <cstddef>
 #include <vector>
 
-#include "formats/math/rotation_matrix3.h"
-#include "formats/math/vector.h"
+#include "formats/math/plain_rotation.h"
 #include "formats/pose/hierarchy.h"
 #include "formats/pose/point.h"
 
@@ -47,7 +46,7 @@ class PoseWalk {
 
   // How the segment is turned against its parent. REQUIRES: `entry` is one of Holding(), and the
   // walk is of kPositionsAndRotations.
-  [[nodiscard]] const RotationMatrix3& RotationOf(std::size_t entry) const {
+  [[nodiscard]] const PlainRotation& RotationOf(std::size_t entry) const {
     assert(!rotations_.empty());
     assert(entry < hierarchy_.size());
     return rotations_[SlotOf(entry, offset_)];
@@ -64,8 +63,9 @@ class PoseWalk {
   void DropEnded(std::size_t frame);
   void StartBlock(std::size_t frame);
   void PlaceInBlock(std::size_t entry);
-  void Place(std::size_t entry, std::size_t offset, const Vector3& translation);
-  void Turn(std::size_t entry, std::size_t offset, const RotationMatrix3& rotation);
+  void TurnInBlock(std::size_t entry);
+  void Place(std::size_t entry, std::size_t offset, const Point& translation);
+  void Turn(std::size_t entry, std::size_t offset, const PlainRotation& rotation);
 
   // Where in the block a segment is at so many frames behind the first one.
   std::size_t SlotOf(std::size_t entry, std::size_t offset) const {
@@ -73,7 +73,7 @@ class PoseWalk {
   }
 
   std::vector<HierarchyEntry> hierarchy_;
-  std::vector<RotationMatrix3> base_rotations_;
+  std::vector<PlainRotation> base_rotations_;
   std::vector<bool> is_turned_;  // whether anybody needs to know how the entry is turned
   std::vector<std::size_t> holding_;
   std::vector<std::size_t> above_;  // the next one up that holds the frame; itself for the topmost
@@ -84,8 +84,8 @@ class PoseWalk {
   std::size_t block_end_ = 0;
   std::size_t offset_ = 0;  // where the walk is in the block
   std::vector<Point> positions_;
-  std::vector<RotationMatrix3> rotations_;  // empty where nobody asks for them
-  std::vector<RotationMatrix3> world_rotations_;
+  std::vector<PlainRotation> rotations_;  // empty where nobody asks for them
+  std::vector<PlainRotation> world_rotations_;
 };
 
 }  // namespace orvane

@@ -74,8 +74,8 @@ class MotionComparer {
                    MotionDifference& difference) const {
     const double distance_mm =
         MillimetersBetween(walk_a_.PositionOf(entry_a), walk_b_.PositionOf(entry_b));
-    const double angle_deg =
-        NumberOrInfinity(DegreesBetween(walk_a_.RotationOf(entry_a), walk_b_.RotationOf(entry_b)));
+    const double angle_deg = NumberOrInfinity(
+        DegreesBetween(walk_a_.RotationOf(entry_a).Matrix(), walk_b_.RotationOf(entry_b).Matrix()));
     Add(distance_mm, number, difference.position_mm);
     Add(angle_deg, number, difference.orientation_deg);
     const bool is_beyond = distance_mm > tolerance_.mm || angle_deg > tolerance_.deg;
