@@ -39,9 +39,9 @@ std::optional<std::array<double, kSize>> Kept(const host::Node& node,
                                               const std::array<const char*, kSize>& names) {
   std::array<double, kSize> values;
   for (std::size_t index = 0; index < kSize; ++index) {
-    const auto property = node.Properties().find(names[index]);
-    if (property == node.Properties().end()) return std::nullopt;
-    values[index] = static_cast<double>(property->second);
+    const std::optional<float> number = node.Properties().Find(names[index]);
+    if (!number) return std::nullopt;
+    values[index] = static_cast<double>(*number);
   }
   return values;
 }

@@ -22,7 +22,7 @@ class ChangeListener {
   ~ChangeListener() = default;
 };
 
-// What the controllers of one scene share. All of it outlives them.
+// What the controllers of one scene share. It outlives them, and so does all of it.
 struct ControllerEnvironment {
   const SuspendableMode& animate_mode;
   ControllerFaults& faults;
@@ -68,7 +68,7 @@ class SKELDER_API Controller : public Control, public Instance {
   }
 
  private:
-  ControllerEnvironment environment_;
+  const ControllerEnvironment& environment_;
   SuperClassId super_class_;
   ClassId class_id_;
   bool closed_ = false;

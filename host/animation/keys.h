@@ -93,7 +93,7 @@ class Keys {
   }
 
  private:
-  static constexpr std::size_t kFirstCapacity = 8;
+  static constexpr std::size_t kFirstCapacity = 2;
   static constexpr std::int64_t kBeforeAllTicks = std::numeric_limits<std::int64_t>::min();
   static constexpr std::int64_t kAfterAllTicks = std::numeric_limits<std::int64_t>::max();
 

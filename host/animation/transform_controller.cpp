@@ -11,12 +11,12 @@ namespace host {
 
 TransformController::TransformController(const ControllerEnvironment& environment)
     : Controller(environment, kTransformControllerSuperClass, kTransformClass),
-      position_(std::make_unique<PositionController>(environment)),
+      position_(environment),
       rotation_(std::make_unique<EulerController>(environment)),
-      scale_(std::make_unique<ScaleController>(environment)) {}
+      scale_(environment) {}
 
 Matrix3 TransformController::ValueAt(TimeValue time) const {
-  return ComposeMatrix(position_->ValueAt(time), rotation_->ValueAt(time), scale_->ValueAt(time));
+  return ComposeMatrix(position_.ValueAt(time), rotation_->ValueAt(time), scale_.ValueAt(time));
 }
 
 void TransformController::InstallRotation(std::unique_ptr<RotationController> rotation) {
@@ -28,13 +28,13 @@ void TransformController::InstallRotation(std::unique_ptr<RotationController> ro
 
 void TransformController::SetListener(ChangeListener* listener) {
   Controller::SetListener(listener);
-  position_->SetListener(listener);
+  position_.SetListener(listener);
   rotation_->SetListener(listener);
-  scale_->SetListener(listener);
+  scale_.SetListener(listener);
 }
 
 Control* TransformController::GetPositionController() {
-  return position_hidden_ ? nullptr : position_.get();
+  return position_hidden_ ? nullptr : &position_;
 }
 
 Control* TransformController::GetRotationController() {
@@ -55,23 +55,23 @@ void TransformController::SetValue(TimeValue time, const void* value, int commit
   Quat rotation;
   Point3 scale;
   DecomposeMatrix(*static_cast<const Matrix3*>(value), position, rotation, scale);
-  position_->SetValue(time, &position, commit, method);
+  position_.SetValue(time, &position, commit, method);
   rotation_->SetValue(time, &rotation, commit, method);
-  scale_->SetValue(time, &scale, commit, method);
+  scale_.SetValue(time, &scale, commit, method);
 }
 
 void TransformController::DeleteKeyAt(TimeValue time) {
-  position_->DeleteKeyAt(time);
+  position_.DeleteKeyAt(time);
   rotation_->DeleteKeyAt(time);
-  scale_->DeleteKeyAt(time);
+  scale_.DeleteKeyAt(time);
 }
 
 void TransformController::CopyFrom(Control* source) {
   auto* transform = dynamic_cast<TransformController*>(source);
   if (transform == nullptr) return;
-  position_->CopyFrom(transform->position_.get());
+  position_.CopyFrom(&transform->position_);
   rotation_->CopyFrom(transform->rotation_.get());
-  scale_->CopyFrom(transform->scale_.get());
+  scale_.CopyFrom(&transform->scale_);
 }
 
 }  // namespace host

@@ -19,9 +19,11 @@ class SKELDER_API TransformController final : public Controller {
  public:
   explicit TransformController(const ControllerEnvironment& environment);
 
-  PositionController& Position() const { return *position_; }
+  PositionController& Position() { return position_; }
+  const PositionController& Position() const { return position_; }
   RotationController& Rotation() const { return *rotation_; }
-  ScaleController& Scale() const { return *scale_; }
+  ScaleController& Scale() { return scale_; }
+  const ScaleController& Scale() const { return scale_; }
 
   Matrix3 ValueAt(TimeValue time) const;
 
@@ -47,9 +49,9 @@ class SKELDER_API TransformController final : public Controller {
   void CopyFrom(Control* source) override;
 
  private:
-  std::unique_ptr<PositionController> position_;
+  PositionController position_;
   std::unique_ptr<RotationController> rotation_;
-  std::unique_ptr<ScaleController> scale_;
+  ScaleController scale_;
   bool position_hidden_ = false;
   bool rotation_hidden_ = false;
 };

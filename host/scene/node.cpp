@@ -70,15 +70,15 @@ Object* Node::GetObjectReference() {
 Object* Node::EvaluateWorldObject(TimeValue /*time*/) { return GetObjectReference(); }
 
 void Node::SetUserPropertyFloat(const char* key, float value) {
-  if (IsUsable("SetUserPropertyFloat")) properties_[key] = value;
+  if (!IsUsable("SetUserPropertyFloat")) return;
+  properties_.Set(environment_.property_keys.Of(key), value);
 }
 
 bool Node::GetUserPropertyFloat(const char* key, float& value) {
   if (!IsUsable("GetUserPropertyFloat")) return false;
-  const auto found = properties_.find(key);
-  if (found == properties_.end()) return false;
-  value = found->second;
-  return true;
+  const std::optional<float> found = properties_.Find(key);
+  value = found.value_or(value);
+  return found.has_value();
 }
 
 void Node::SetBoneDisplay(int shown) {

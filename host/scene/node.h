@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstddef>
-#include <map>
 #include <memory>
 #include <optional>
 #include <string>
@@ -14,6 +13,7 @@
 #include "host/scene/measured.h"
 #include "host/scene/name_table.h"
 #include "host/scene/scene_object.h"
+#include "host/scene/user_properties.h"
 #include "host/scene/world_memory.h"
 #include "platform/export.h"
 #include "sdk/core/node.h"
@@ -23,13 +23,11 @@
 
 namespace host {
 
-// Numbers kept on a node, by their key.
-using UserProperties = std::map<std::string, float>;
-
-// What the nodes of one scene share. All of it outlives them.
+// What the nodes of one scene share. It outlives them, and so does all of it.
 struct NodeEnvironment {
   const AnimationState& animation;
   NameTable& names;
+  PropertyKeys& property_keys;
   WorldMemory& worlds;
   MisuseLog& misuse;
 };
@@ -182,7 +180,7 @@ class SKELDER_API Node final : public INode, private ChangeListener {
   bool MayAttach(const Node* child) const;
   void AddChild(Node& child);
 
-  NodeEnvironment environment_;
+  const NodeEnvironment& environment_;
   NodeHandle handle_;
   std::string name_;
   bool deleted_ = false;

@@ -70,7 +70,7 @@ void Node::Retire() {
   environment_.names.Remove(name_);
   object_.reset();
   transform_.reset();
-  properties_.clear();
+  properties_ = {};
   deleted_ = true;
 }
 

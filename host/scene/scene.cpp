@@ -6,16 +6,12 @@
 
 namespace host {
 
-Scene::Scene() { nodes_.push_back(std::make_unique<Node>(Nodes(), NodeHandle{1})); }
+Scene::Scene() { nodes_.push_back(std::make_unique<Node>(node_environment_, NodeHandle{1})); }
 
 Scene::~Scene() = default;
 
-ControllerEnvironment Scene::Controllers() { return {animation_.AnimateMode(), faults_, pool_}; }
-
-NodeEnvironment Scene::Nodes() { return {animation_, names_, worlds_, misuse_}; }
-
 ClassInstance* Scene::CreateInstance(SuperClassId super_class, ClassId class_id) {
-  return host::CreateInstance(Controllers(), super_class, class_id);
+  return host::CreateInstance(controller_environment_, super_class, class_id);
 }
 
 Node* Scene::CreateNode(Object* object) {
@@ -23,8 +19,9 @@ Node* Scene::CreateNode(Object* object) {
   if (taken == nullptr) return nullptr;
   const std::string name = names_.Numbered(taken->KindName());
   const auto handle = static_cast<NodeHandle>(nodes_.size() + 1);
-  nodes_.push_back(std::make_unique<Node>(Nodes(), handle, std::move(taken),
-                                          std::make_unique<TransformController>(Controllers())));
+  nodes_.push_back(
+      std::make_unique<Node>(node_environment_, handle, std::move(taken),
+                             std::make_unique<TransformController>(controller_environment_)));
   Node* node = nodes_.back().get();
   node->SetName(name.c_str());
   Root().AttachChild(node, false);

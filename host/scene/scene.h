@@ -103,15 +103,15 @@ class SKELDER_API Scene {
   void Redraw() { ++redraws_; }
 
  private:
-  ControllerEnvironment Controllers();
-  NodeEnvironment Nodes();
-
   MisuseLog misuse_;
-  InstancePool pool_{misuse_};
   AnimationState animation_;
   ControllerFaults faults_;
+  const ControllerEnvironment controller_environment_{animation_.AnimateMode(), faults_, pool_};
+  InstancePool pool_{misuse_};
   NameTable names_;
+  PropertyKeys property_keys_;
   WorldMemory worlds_;
+  const NodeEnvironment node_environment_{animation_, names_, property_keys_, worlds_, misuse_};
 
   // By handle, which is the index and 1. Deleted nodes stay as shells.
   std::vector<std::unique_ptr<Node>> nodes_;

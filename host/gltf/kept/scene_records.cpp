@@ -160,7 +160,7 @@ void AppendSceneRecord(const Scene& scene, const NodeTree& tree, std::string& te
 
 void AppendNodeRecord(const PlacedNode& placed, TickLists& ticks, std::string& text) {
   const Node& node = *placed.node;
-  const TransformController& transform = *node.Transform();
+  TransformController& transform = *node.Transform();
   JsonObject record(text);
   AddBone(record, node);
   if (node.Measurement()) {
@@ -175,7 +175,7 @@ void AppendNodeRecord(const PlacedNode& placed, TickLists& ticks, std::string& t
   AddController(record, field::kRotation, transform.Rotation(), transform.Rotation().KindName(),
                 ticks);
   AddController(record, field::kScale, transform.Scale(), nullptr, ticks);
-  AddClass(record, field::kTransformClass, node.Transform()->ClassID());
+  AddClass(record, field::kTransformClass, transform.ClassID());
   record.End();
 }
 

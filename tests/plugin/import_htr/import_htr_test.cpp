@@ -185,8 +185,8 @@ TEST_P(UnitsTest, LengthsAreInSystemUnits) {
   file.segments = {{"Hips", "GLOBAL", "1 0 0 0 0 0 1", {"1 0 0 0 0 0", "0 0 0 0 0 0"}}};
   EXPECT_EQ(Import(file), 1);
   const host::Node& hips = Node("Hips");
-  EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseTransX"), GetParam().one);
-  EXPECT_FLOAT_EQ(hips.Properties().at("HTRBaseLength"), GetParam().one);
+  EXPECT_FLOAT_EQ(hips.Properties().Find("HTRBaseTransX").value(), GetParam().one);
+  EXPECT_FLOAT_EQ(hips.Properties().Find("HTRBaseLength").value(), GetParam().one);
   EXPECT_FLOAT_EQ(hips.Transform()->Position().KeyValue(0).x, 2 * GetParam().one);
 }
 
