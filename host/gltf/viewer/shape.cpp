@@ -49,20 +49,13 @@ double Dot(const Direction& a, const Direction& b) {
 // On the X axis. Corners 0 to 3 go around its waist, from +Y over +Z; 4 is its start and 5 its end.
 Octahedron OctahedronFrom(float start, float waist, float end, float half_width,
                           float half_height) {
-  Octahedron octahedron{{{{waist, half_width, 0.0F},
-                          {waist, 0.0F, half_height},
-                          {waist, -half_width, 0.0F},
-                          {waist, 0.0F, -half_height},
-                          {start, 0.0F, 0.0F},
-                          {end, 0.0F, 0.0F}}},
-                        {}};
-  for (std::size_t face = 0; face < Octahedron::kFaces.size(); ++face) {
-    const auto [a, b, c] = Octahedron::kFaces[face];
-    const std::array<Point3, 6>& corners = octahedron.corners;
-    octahedron.normals[face] =
-        Unit(Cross(Between(corners[a], corners[b]), Between(corners[a], corners[c])));
-  }
-  return octahedron;
+  return {{{{waist, half_width, 0.0F},
+            {waist, 0.0F, half_height},
+            {waist, -half_width, 0.0F},
+            {waist, 0.0F, -half_height},
+            {start, 0.0F, 0.0F},
+            {end, 0.0F, 0.0F}}},
+          false};
 }
 
 Octahedron MarkOctahedron(float radius) {
@@ -178,13 +171,14 @@ Octahedron BoneOctahedron(float width, float height, float length, float mark_ra
 
 Shape MarkShape(float radius) {
   const Octahedron octahedron = MarkOctahedron(radius);
+  const FaceNormals normals = NormalsOf(octahedron);
   Shape shape;
   for (std::size_t face = 0; face < Octahedron::kFaces.size(); ++face) {
     const auto first = static_cast<std::uint32_t>(shape.corners.size());
     for (const std::size_t corner : Octahedron::kFaces[face]) {
       shape.corners.push_back(octahedron.corners[corner]);
     }
-    shape.normals.insert(shape.normals.end(), 3, octahedron.normals[face]);
+    shape.normals.insert(shape.normals.end(), 3, normals[face]);
     shape.triangles.push_back({first, first + 1, first + 2});
   }
   return shape;
@@ -210,13 +204,26 @@ Shape Transformed(Shape shape, const Matrix3& transform) {
   return shape;
 }
 
-Octahedron Transformed(const Octahedron& octahedron, const Matrix3& transform) {
-  Octahedron result = octahedron;
-  for (Point3& corner : result.corners) corner = Moved(corner, transform);
-  const NormalTransform normals(transform);
-  for (Point3& normal : result.normals) normal = normals.Of(normal);
-  if (normals.Mirrors()) result.is_mirrored = !result.is_mirrored;
-  return result;
+FaceNormals NormalsOf(const Octahedron& octahedron) {
+  const auto& corners = octahedron.corners;
+  FaceNormals normals;
+  for (std::size_t face = 0; face < normals.size(); ++face) {
+    const auto [a, b, c] = Octahedron::kFaces[face];
+    normals[face] = Unit(Cross(Between(corners[a], corners[b]), Between(corners[a], corners[c])));
+  }
+  return normals;
+}
+
+Octahedron Transformed(Octahedron octahedron, const Matrix3& transform) {
+  for (Point3& corner : octahedron.corners) corner = Moved(corner, transform);
+  if (NormalTransform(transform).Mirrors()) octahedron.is_mirrored = !octahedron.is_mirrored;
+  return octahedron;
+}
+
+FaceNormals Transformed(FaceNormals normals, const Matrix3& transform) {
+  const NormalTransform turn(transform);
+  for (Point3& normal : normals) normal = turn.Of(normal);
+  return normals;
 }
 
 }  // namespace host::gltf

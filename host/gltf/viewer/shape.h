@@ -32,12 +32,12 @@ struct Octahedron {
       {{0, 1, 5}, {1, 2, 5}, {2, 3, 5}, {3, 0, 5}, {1, 0, 4}, {2, 1, 4}, {3, 2, 4}, {0, 3, 4}}};
 
   std::array<Point3, 6> corners;
-
-  // Of each face, outwards and of unit length.
-  std::array<Point3, 8> normals;
-
   bool is_mirrored = false;
 };
+
+// The direction of each face, outwards and of unit length.
+using FaceNormals = std::array<Point3, Octahedron::kFaces.size()>;
+FaceNormals NormalsOf(const Octahedron& octahedron);
 
 // From the origin to (`length`, 0, 0), `width` wide along Y and `height` high along Z at its waist.
 // One too thin to be seen is drawn a little thicker. A bone without length is drawn as a mark of
@@ -50,9 +50,10 @@ Shape MarkShape(float radius);
 // A ball of 320 triangles about the origin, its surface smooth.
 Shape BallShape(float radius);
 
-// `shape` with its corners where `transform` takes them. What is outside stays outside if that
-// mirrors.
+// A shape with its corners where `transform` takes them, and the normals that it has then. What is
+// outside stays outside if that mirrors.
 Shape Transformed(Shape shape, const Matrix3& transform);
-Octahedron Transformed(const Octahedron& octahedron, const Matrix3& transform);
+Octahedron Transformed(Octahedron octahedron, const Matrix3& transform);
+FaceNormals Transformed(FaceNormals normals, const Matrix3& transform);
 
 }  // namespace host::gltf

@@ -62,10 +62,10 @@ ForVertices<float, 3> PositionsOf(const Octahedron& shape, const ViewerSpace& sp
   return positions;
 }
 
-ForVertices<float, 3> NormalsOf(const Octahedron& shape) {
+ForVertices<float, 3> DirectionsOf(const FaceNormals& faces) {
   ForVertices<float, 3> normals;
   auto* next = normals.data();
-  for (const Point3& normal : shape.normals) {
+  for (const Point3& normal : faces) {
     const auto direction = Rounded(ViewerSpace::Direction(normal));
     for (int corner = 0; corner < 3; ++corner) {
       next = std::copy(direction.begin(), direction.end(), next);
@@ -103,14 +103,24 @@ Matrix3 Bones::InverseOf(std::size_t index) const {
   return BindingOf(NodeAt(index), time_).inverse;
 }
 
+Octahedron Bones::OwnShapeOf(const Node& node) const {
+  const auto& bone = dynamic_cast<const BoneObject&>(*node.ShownObject());
+  return BoneOctahedron(bone.Parameter(kBoneWidthParameter), bone.Parameter(kBoneHeightParameter),
+                        bone.Parameter(kBoneLengthParameter), space_.HostLength(kMarkMeters));
+}
+
 Octahedron Bones::ShapeOf(std::size_t index) const {
   const Node& node = NodeAt(index);
-  const auto& bone = dynamic_cast<const BoneObject&>(*node.ShownObject());
-  const Octahedron shape =
-      BoneOctahedron(bone.Parameter(kBoneWidthParameter), bone.Parameter(kBoneHeightParameter),
-                     bone.Parameter(kBoneLengthParameter), space_.HostLength(kMarkMeters));
-  const std::optional<Matrix3>& offset = node.ObjectOffset();
-  return Transformed(offset ? Transformed(shape, *offset) : shape, BindingOf(node, time_).joint);
+  Octahedron shape = OwnShapeOf(node);
+  if (node.ObjectOffset()) shape = Transformed(shape, *node.ObjectOffset());
+  return Transformed(shape, BindingOf(node, time_).joint);
+}
+
+FaceNormals Bones::NormalsOf(std::size_t index) const {
+  const Node& node = NodeAt(index);
+  FaceNormals normals = gltf::NormalsOf(OwnShapeOf(node));
+  if (node.ObjectOffset()) normals = Transformed(normals, *node.ObjectOffset());
+  return Transformed(normals, BindingOf(node, time_).joint);
 }
 
 void BonePrimitive::Add(std::size_t index, std::uint16_t joint) {
@@ -134,8 +144,8 @@ nlohmann::json BonePrimitive::StoreIn(BinaryData& data, int material) const {
   const auto positions = [bones = bones_, shape_of](const JointedBone& bone, Output& output) {
     output.AppendNumbers(PositionsOf(shape_of(bone), bones->Space()));
   };
-  const auto normals = [shape_of](const JointedBone& bone, Output& output) {
-    output.AppendNumbers(NormalsOf(shape_of(bone)));
+  const auto normals = [bones = bones_](const JointedBone& bone, Output& output) {
+    output.AppendNumbers(DirectionsOf(bones->NormalsOf(bone.index)));
   };
   const auto joints = [](const JointedBone& bone, Output& output) {
     output.AppendNumbers(JointsOf(bone.joint));

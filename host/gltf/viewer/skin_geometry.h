@@ -32,8 +32,12 @@ class Bones {
   // stands, and what is drawn of it in the world.
   Matrix3 InverseOf(std::size_t index) const;
   Octahedron ShapeOf(std::size_t index) const;
+  FaceNormals NormalsOf(std::size_t index) const;
 
  private:
+  // In the space of the object.
+  Octahedron OwnShapeOf(const Node& node) const;
+
   const NodeTree& tree_;
   ViewerSpace space_;
   TimeValue time_;
