@@ -81,17 +81,32 @@ struct HtrParts {
 
   std::vector<SegmentLines> segments;  // in the document's order
   std::unordered_map<std::string, std::size_t, NameHash, std::equal_to<>> segment_by_name;
+  mutable std::size_t likely_next = 0;  // where IndexOf looks first
 
   FindingPlace end;  // behind the last byte
 
+  // The index of the segment of that name, its first; nothing when there is none. Files nearly
+  // always take the segments in one order, section after section: the one behind the last that was
+  // found is looked at first.
+  [[nodiscard]] std::optional<std::size_t> IndexOf(std::string_view name) const {
+    const bool have_own_names = segment_by_name.size() == segments.size();
+    const bool is_next =
+        have_own_names && likely_next < segments.size() && segments[likely_next].name.text == name;
+    if (is_next) return likely_next++;
+    const auto found = segment_by_name.find(name);
+    if (found == segment_by_name.end()) return std::nullopt;
+    likely_next = found->second + 1;
+    return found->second;
+  }
+
   // Null when there is no such segment. It stays where it is until the next one is added.
   [[nodiscard]] SegmentLines* Find(std::string_view name) {
-    const auto found = segment_by_name.find(name);
-    return found == segment_by_name.end() ? nullptr : &segments[found->second];
+    const auto index = IndexOf(name);
+    return index ? &segments[*index] : nullptr;
   }
   [[nodiscard]] const SegmentLines* Find(std::string_view name) const {
-    const auto found = segment_by_name.find(name);
-    return found == segment_by_name.end() ? nullptr : &segments[found->second];
+    const auto index = IndexOf(name);
+    return index ? &segments[*index] : nullptr;
   }
 
   // The last value of a keyword. REQUIRES: `keyword` is one of kKeywords.
