@@ -26,26 +26,37 @@ def print_byte_rows(files, segments, markers, small, large, count):
         os.remove(path)
 
 
-def print_count_rows(files, small, large, count):
+def print_segment_rows(files, small, large, count):
+    """Segments of two frames."""
     for shape in ("chain", "fan"):
         motions = [(files.motion(number, 2, shape), number) for number in (large, small)]
         for name, command in (("info", files.info), ("import", files.import_at_30)):
             print_row(f"{name}, {shape}", "segment", *((command(path), number) for path, number in motions), count)
-    points = [(files.markers(number, 4), number) for number in (large, small)]
+
+
+def print_marker_rows(files, small, large, count):
+    points = [(files.markers(number, 1000), number) for number in (large, small)]
+    for name, command in (("info T", files.info), ("convert T", files.convert)):
+        print_row(name, "marker", *((command(path), number) for path, number in points), count)
+
+
+def print_frame_rows(files, small, large, count):
     frames = [(files.motion(10, number), number) for number in (large, small)]
     samples = [(files.markers(10, number), number) for number in (large, small)]
-    for name, unit, command, paths in (("info T", "marker", files.info, points),
-                                       ("convert T", "marker", files.convert, points),
-                                       ("info H, 10 wide", "frame", files.info, frames),
-                                       ("import H, 10 wide", "frame", files.import_at_30, frames),
-                                       ("convert T, 10 wide", "frame", files.convert, samples)):
-        print_row(name, unit, *((command(path), number) for path, number in paths), count)
+    for name, command, paths in (("info H, 10 wide", files.info, frames),
+                                 ("import H, 10 wide", files.import_at_30, frames),
+                                 ("convert T, 10 wide", files.convert, samples)):
+        print_row(name, "frame", *((command(path), number) for path, number in paths), count)
 
 
-def print_growth_rows(files, sizes, counts, count):
-    """Sizes in bytes, the smallest first, to which all others are compared; two counts."""
+def print_growth_rows(files, sizes, counts, markers, count):
+    """Sizes in bytes and counts of segments, the smallest first, to which all others are compared; the first two of
+    those are counts of frames too. Two counts of markers."""
     print(f"{'growth':20} {'by':8} {'small':>10} {'large':>11} {'ns each':>11} {'ns each':>11} "
           f"{'median':>7} {'min':>7} {'max':>7} {'peak each':>9}   {count} pairs")
     for large in sizes[1:]:
         print_byte_rows(files, 60, 60, sizes[0], large, count)
-    print_count_rows(files, *counts, count)
+    for large in counts[1:]:
+        print_segment_rows(files, counts[0], large, count)
+    print_marker_rows(files, *markers, count)
+    print_frame_rows(files, *counts[:2], count)

@@ -22,11 +22,14 @@ BATCH = 8  # marker files
 BYTES = (20_000_000, 200_000_000)
 LARGE_BYTES = 1_000_000_000
 COUNTS = (10_000, 100_000)
+LARGE_COUNT = 1_000_000
+MARKERS = (75, 750)  # names of more are a line of more than 10,239 bytes, which is read in pieces
 # Sizes of motion and markers that the benchmarks in process know too.
 WHOLE = ((60, 10_000), (60, 36_000))
 QUICK = ((10, 1000), (15, 900))
 QUICK_BYTES = (20_000, 40_000)
 QUICK_COUNTS = (10, 20)
+QUICK_MARKERS = (3, 6)
 
 
 def print_figure(name, command):
@@ -65,13 +68,15 @@ def parse_arguments():
                         help="this part alone; may be repeated (all)")
     size = parser.add_mutually_exclusive_group()
     size.add_argument("--quick", action="store_true", help="with tiny files, to see that all of it runs")
-    size.add_argument("--large", action="store_true", help="growth to files of 1 GB too")
+    size.add_argument("--large", action="store_true", help="growth to files of 1 GB and 1,000,000 segments too")
     return parser.parse_args()
 
 
 def main(arguments):
     motion_size, marker_size = QUICK if arguments.quick else WHOLE
     sizes = QUICK_BYTES if arguments.quick else BYTES + ((LARGE_BYTES,) if arguments.large else ())
+    counts = QUICK_COUNTS if arguments.quick else COUNTS + ((LARGE_COUNT,) if arguments.large else ())
+    markers = QUICK_MARKERS if arguments.quick else MARKERS
     parts = arguments.part or ("floors", "alone", "growth")
     with tempfile.TemporaryDirectory() as folder:
         files = Files(arguments.build, folder)
@@ -80,7 +85,7 @@ def main(arguments):
         if "alone" in parts:
             print_figures(files, motion_size, marker_size)
         if "growth" in parts:
-            print_growth_rows(files, sizes, QUICK_COUNTS if arguments.quick else COUNTS, arguments.pairs)
+            print_growth_rows(files, sizes, counts, markers, arguments.pairs)
 
 
 if __name__ == "__main__":
