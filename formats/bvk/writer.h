@@ -7,7 +7,8 @@
 #include "formats/trc/document.h"
 
 // Writes the markers of a document as a marker file of the host's character animation.
-// docs/formats/bvk.md describes what is written.
+// docs/formats/bvk.md describes what is written. May be called from any thread; the document is
+// only read.
 namespace orvane {
 
 // What is added to every position, in the unit of the document.
@@ -28,6 +29,7 @@ struct BvkDetails {
 // Hands the text of the file to `take`, in pieces of limited size and with line feeds as line ends:
 // the enabled markers of `document` and as many frames as it announces, turned from its axes (Y up)
 // to the file's (Z up). What a marker has no sample for is a dropout. Unit and scale stay.
+// Throws std::bad_alloc, and what `take` throws.
 void PrintBvk(const TRCDocument& document, const BvkDetails& details, const TextTaker& take);
 
 }  // namespace orvane

@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-// Some frames of a motion file, as a file of their own.
+// Some frames of a motion file, as a file of their own. May be called from any thread.
 namespace orvane {
 
 // The file `bytes` with none of the frames of its segments but those from `begin` up to `end`:

@@ -7,7 +7,9 @@
 
 // What the reader meets on its way through a file, told to whoever wants to know: what it lets pass
 // without a message, what it refuses, and where the parts of the file stand. Watching changes
-// nothing in what is read.
+// nothing in what is read. An observer belongs to whoever makes it, is called on the thread that
+// reads, and may throw what is to end the reading; but std::bad_alloc is taken for the reader's
+// own.
 namespace orvane {
 
 // A piece of a line and its place in the file.

@@ -14,7 +14,10 @@
 // on success; otherwise the message to show as it stands, with the document holding what was read
 // up to that point. With `read_motion` false, reading ends with success at the first motion
 // section: only the header, the hierarchy and the base positions are read. `observer` may be null
-// and is not kept.
+// and is not kept. Where memory does not suffice, the message is that of a file that cannot be
+// opened, and `document` is empty; nothing is thrown but what `observer` throws.
+//
+// May be called from any thread, each with a document of its own.
 namespace orvane {
 
 // Opens `file_name` (UTF-8), with ".htr" added unless its fourth character from the end is a full

@@ -2,7 +2,8 @@
 
 #include <string_view>
 
-// The sections of a motion file and the words that are none of its segments' names.
+// The sections of a motion file and the words that are none of its segments' names. Constants, of
+// which nothing fails, for any thread.
 namespace orvane {
 
 enum class HtrSection { kHeader, kHierarchy, kBasePosition, kMotion, kEndOfFile };

@@ -12,6 +12,8 @@
 //
 // Code 0 stands for M = Rz(z) Ry(y) Rx(x) on column vectors: about fixed X first, then fixed Y,
 // then fixed Z. With the angles (90, 0, 90) degrees it takes +Y to +Z and then leaves it there.
+// Nothing fails: any code can be taken apart. Threads may read one together, and each may change
+// its own.
 namespace orvane {
 
 class OrvaneEulerOrder {

@@ -8,6 +8,8 @@
 
 // A rotation as three Euler angles in radians under an order. Conversions follow Ken Shoemake,
 // "Euler Angle Conversion", Graphics Gems IV, 1994, with a wrap of extracted angles into -pi to pi.
+// Nothing fails. Threads may read one together, and each may change its own; but the default order
+// is all threads', so that it is set while there are no others.
 namespace orvane {
 
 template <typename T>

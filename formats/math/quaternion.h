@@ -6,7 +6,8 @@
 #include "formats/math/vector.h"
 
 // A rotation as a unit quaternion: vector part x, y, z, scalar part w. +90 degrees about Z is
-// (0, 0, 0.7071, 0.7071) and takes +X to +Y. The host's quaternion turns the opposite way.
+// (0, 0, 0.7071, 0.7071) and takes +X to +Y. The host's quaternion turns the opposite way. Angles
+// are radians. Nothing fails. Threads may read one together, and each may change its own.
 namespace orvane {
 
 template <typename T>

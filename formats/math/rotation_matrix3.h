@@ -7,6 +7,7 @@
 
 // A rotation as a matrix M that acts on column vectors: v' = M v. It is stored as its three
 // columns, the images of the X, Y and Z axes, which are the rows of the host's row-vector matrix.
+// Indices count from 0. Nothing fails. Threads may read one together, and each may change its own.
 namespace orvane {
 
 template <typename T>

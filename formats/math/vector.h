@@ -4,6 +4,7 @@
 
 // Vectors of fixed size with components by index and by name. Value types without arithmetic: what
 // little is needed stands where it is used. Lengths carry the unit of whoever holds the vector.
+// Nothing fails. Threads may read one together, and each may change its own.
 namespace orvane {
 
 // What any vector can be asked, whatever its size. Indices count from 0 and are not checked; the

@@ -6,7 +6,8 @@
 #include "formats/text/lines.h"
 
 // The lines of a marker name mapping file: which two names each of them pairs. Every line pairs two
-// names, whatever it holds; who wants to know what it really held looks at what was given.
+// names, whatever it holds; who wants to know what it really held looks at what was given. Nothing
+// fails but for want of memory. A reader is for one thread at a time.
 namespace orvane {
 
 struct MappingLine {

@@ -9,7 +9,9 @@
 
 // Which marker of a capture set-up plays the role of which standard marker: a list of entries, in
 // the order in which they were added, that files are read into and written from. Whoever fills it
-// owns it. Nothing is validated: any texts may be paired, and any of them several times.
+// owns it. Nothing is validated: any texts may be paired, and any of them several times. What
+// cannot be read or written is told in what is returned; else nothing fails but for want of memory.
+// Threads may look names up in one together, and each may change its own.
 namespace orvane {
 
 class MarkerNameMap {

@@ -5,7 +5,7 @@
 #include <string_view>
 
 // The markers that marker files for the character animation may hold, in the order in which the
-// mapping creator asks for them.
+// mapping creator asks for them. Nothing fails. May be called from any thread.
 namespace orvane {
 
 struct StandardMarker {

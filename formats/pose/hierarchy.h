@@ -7,7 +7,7 @@
 
 // The segments of a document as trees, in an order that can be walked from front to back. Indices
 // count from 0. Entries point into the document, which must outlive them. Nothing fails but for
-// want of memory.
+// want of memory. May be called from any thread; the document is only read.
 
 namespace orvane {
 

@@ -12,7 +12,8 @@
 // roots down. The time it takes is in proportion to the frames that the segments hold, however
 // unevenly they hold them. Who asks for frame after frame is answered from a block of frames, which
 // is worked out segment by segment, as a document holds them. Positions are x, y and z in the
-// file's unit of length; frames and entries count from 0. Nothing fails but for want of memory.
+// file's unit of length; frames and entries count from 0. Nothing fails but for want of memory. A
+// walk is for one thread at a time; several may go over the same document, which they only read.
 
 namespace orvane {
 

@@ -4,7 +4,9 @@
 #include <span>
 #include <string_view>
 
-// Bytes that are given out from first to last, of which nobody keeps those that were.
+// Bytes that are given out from first to last, of which nobody keeps those that were. Whoever makes
+// a source owns it. It is for one thread at a time, and tells in a way of its own when no more can
+// be read: to whoever reads it, that is its end.
 namespace orvane {
 
 class ByteSource {

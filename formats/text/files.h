@@ -10,7 +10,9 @@
 #include "formats/text/byte_source.h"
 
 // Files as a whole: the name under which one is opened, and its bytes. Names are in the system's
-// narrow encoding, as the host gives them.
+// narrow encoding, as the host gives them. May be called from any thread; a FileSource and a stream
+// are for one at a time. What cannot be read or made is told in what is returned; a name for which
+// there is no memory throws std::bad_alloc.
 namespace orvane {
 
 // What readers and writers tell of a file that they cannot open, or have no memory for.

@@ -7,7 +7,8 @@
 #include "formats/text/byte_source.h"
 
 // Lines of a text, which is held in memory or read in blocks. What a line means, comments included,
-// is up to each file format.
+// is up to each file format. Lines and columns count from 1, columns in bytes. A reader is for one
+// thread at a time, and throws std::bad_alloc when there is no memory for a block or a line.
 namespace orvane {
 
 // The longest piece of a line in motion and marker files.

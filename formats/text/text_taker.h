@@ -5,8 +5,8 @@
 
 namespace orvane {
 
-// Takes a piece of a text, which lives until it returns; the pieces come in order. What it throws,
-// whoever hands the pieces over lets pass.
+// Takes a piece of a text, which lives until it returns; the pieces come in order, on the thread of
+// whoever hands them over, who lets pass what it throws.
 using TextTaker = std::function<void(std::string_view text)>;
 
 }  // namespace orvane

@@ -4,7 +4,7 @@
 #include <utility>
 
 // The name of a part of a document. The document finds its parts by name and lets itself be told
-// when one of them is renamed.
+// when one of them is renamed, on the same thread. Nothing fails but for want of memory.
 namespace orvane {
 
 // A copy has the text and no watcher. One that is overwritten keeps its own watcher and tells it.

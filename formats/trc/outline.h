@@ -7,7 +7,8 @@
 #include "formats/text/byte_source.h"
 #include "formats/text/lines.h"
 
-// What a marker file holds, without reading its numbers.
+// What a marker file holds, without reading its numbers. Nothing fails but for want of memory. An
+// outliner is for one thread at a time; what it keeps of a file are copies.
 namespace orvane {
 
 // Takes the text of a file piece by piece, so that a file of any size needs little memory.

@@ -8,7 +8,9 @@
 #include "formats/trc/row_width.h"
 
 // What the reader lets pass without a message, and what it refuses, told to whoever wants to know.
-// Watching changes nothing in what is read.
+// Watching changes nothing in what is read. An observer belongs to whoever makes it, is called on
+// the thread that reads, and may throw what is to end the reading; but std::bad_alloc and
+// std::length_error are taken for the reader's own.
 namespace orvane {
 
 enum class TRCOddity {

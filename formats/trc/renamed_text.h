@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-// A marker file whose markers have other names.
+// A marker file whose markers have other names. May be called from any thread.
 namespace orvane {
 
 // The file `bytes` with the markers that are keys of `names` under the names that they have there.

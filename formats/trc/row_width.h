@@ -3,7 +3,8 @@
 #include <cstddef>
 #include <string_view>
 
-// How far the line of a frame reaches. Fields count from 1.
+// How far the line of a frame reaches. Fields, which single tabs part, count from 1. Nothing fails.
+// May be called from any thread.
 namespace orvane {
 
 struct TRCRowWidth {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 // Marker files whose heights lie along Z, as text with heights along Y, which is what readers take.
+// May be called from any thread.
 namespace orvane {
 
 // The file `bytes`, turned by a quarter about X: of each position x, y, z the cells become x, z,

@@ -12,7 +12,8 @@
 //   axes       0 X, 1 Y, 2 Z
 //
 // Keywords are compared exactly, case included. Each Find function returns nothing for a word that
-// is not in its list; each Parse function returns the default code for it.
+// is not in its list; each Parse function returns the default code for it. Nothing fails; texts
+// that are returned live as long as the program. May be called from any thread.
 namespace orvane {
 
 inline constexpr std::uint32_t kMillimeters = 0;

@@ -9,7 +9,7 @@
 
 // What comes of the check of one file: all that was found in it, or why nothing can be said of it,
 // though its bytes are there. A CheckedFile holds copies of what it quotes, so that the bytes may
-// go.
+// go. It is a value: threads may read one together, and each may change its own.
 
 namespace orvane {
 

@@ -10,7 +10,7 @@
 // What a file really is, whatever its name says: files are exchanged, renamed and packed, and a
 // reader that gets another kind than its own finds something odd in every line of it. Kinds are
 // told by the first bytes of a file, or by words that its first lines begin with. Nothing is kept
-// of the bytes, and nothing fails but for want of memory.
+// of the bytes, and nothing fails but for want of memory. May be called from any thread.
 
 namespace orvane {
 

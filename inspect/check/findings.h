@@ -13,7 +13,8 @@
 // What a check finds in a file, whatever its kind. The check of a format has a table of rules, and
 // adds a finding for every place where a file goes against one. Lines and columns count from 1,
 // columns in bytes. Rules live as long as the program; findings hold copies of what they quote, so
-// that the bytes of the file may go. Nothing fails but for want of memory.
+// that the bytes of the file may go. Nothing fails but for want of memory. A list is a value:
+// threads may read one together, and each may change its own.
 
 namespace orvane {
 

@@ -11,7 +11,7 @@
 // The check of mapping files, alone and against the markers of a capture. The reader reads them as
 // it always does; docs/formats/mnm.md lists the codes. Lines and columns, in bytes, count from 1.
 // What is returned holds copies, so that bytes and captures may go. Nothing fails but for want of
-// memory.
+// memory. May be called from any thread.
 
 namespace orvane {
 

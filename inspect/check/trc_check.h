@@ -12,6 +12,7 @@
 // The check of TRC files. The reader reads them as it always does, and is watched meanwhile;
 // docs/formats/trc.md lists the codes. Lines and columns, in bytes, count from 1. A file is read
 // once, from its first line to its last. What is returned holds copies, so that the bytes may go.
+// May be called from any thread, each with a source and a document of its own.
 
 namespace orvane {
 

@@ -12,7 +12,8 @@
 
 // How far the markers of two marker files are from each other, frame by frame, in millimeters.
 // Markers are told by their names, with the case of their letters, and frames by their numbers as
-// the reader takes them. Nothing fails but for want of memory.
+// the reader takes them. What is returned holds copies; nothing fails but for want of memory. May
+// be called from any thread; the documents are only read.
 
 namespace orvane {
 

@@ -13,7 +13,8 @@
 // How far the joints of two motions are from each other, frame by frame: in the world and in
 // millimeters, and in degrees between their rotations against the parent. Base and frame are put
 // together first, so that files which say the same in different words do not differ. Frames are
-// told by their numbers in the files. Nothing fails but for want of memory.
+// told by their numbers in the files, segments and pairs by indices that count from 0. Nothing
+// fails but for want of memory. May be called from any thread; the documents are only read.
 
 namespace orvane {
 

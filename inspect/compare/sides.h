@@ -5,8 +5,8 @@
 
 #include "inspect/counts/frame_span.h"
 
-// The two files that are compared, called A and B, and the frames that they hold. Nothing fails but
-// for want of memory.
+// The two files that are compared, called A and B, and the frames that they hold, by their numbers.
+// Nothing fails but for want of memory. May be called from any thread.
 
 namespace orvane {
 

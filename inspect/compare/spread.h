@@ -3,7 +3,9 @@
 #include <cstddef>
 #include <cstdint>
 
-// The differences of one quantity between two files, in the frames that both hold. Nothing fails.
+// The differences of one quantity between two files, in the frames that both hold: millimeters or
+// degrees, as whoever has it says. Nothing fails. Threads may read one together, and each may
+// change its own.
 
 namespace orvane {
 

@@ -11,7 +11,8 @@
 
 // What two motion files hold, as opposed to where it moves: the segments by their names, what each
 // hangs from, and the frames by their numbers. The files are called A and B. Indices count from 0.
-// Nothing fails but for want of memory.
+// Nothing fails but for want of memory. May be called from any thread, but for one document by one
+// thread at a time: it looks segments up.
 
 namespace orvane {
 

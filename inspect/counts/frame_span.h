@@ -9,7 +9,8 @@
 #include "formats/trc/document.h"
 #include "formats/trc/outline.h"
 
-// Frames in a row, by their numbers. Nothing fails but for want of memory.
+// Frames in a row, by their numbers. Nothing fails but for want of memory. May be called from any
+// thread; documents are only read.
 
 namespace orvane {
 

@@ -9,6 +9,8 @@
 #include "formats/mnm/standard_markers.h"
 #include "inspect/mapping/body_parts.h"
 
+// What the body is seen from, and its measures, is told in walk_tracks.h and marker_places.h, and
+// how its parts are known in body_parts.h.
 namespace orvane {
 namespace {
 

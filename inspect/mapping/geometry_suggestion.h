@@ -8,9 +8,8 @@
 #include "inspect/mapping/placed_marker.h"
 
 // Which marker of a capture plays the role of which standard marker, by where it sits on a body
-// that walks upright, and how it moves. Names are not looked at. What the body is seen from, and
-// its measures, is told in walk_tracks.h and marker_places.h, and how its parts are known in
-// body_parts.h.
+// that walks upright, and how it moves. Names are not looked at, and neither are units: all lengths
+// are compared with the height of the body.
 //
 // A marker is suggested only when all of its part is as it is on a body, when its partner on the
 // other side is too, and when the two are mirrored. Nothing is when nobody walks, when what is
@@ -19,7 +18,8 @@
 // told from one that is not. Sticks are not looked for.
 //
 // Takes time in proportion to the frames, and to the square of the markers, of which 120 are too
-// many. Nothing fails but for want of memory.
+// many. Markers are told by their indices in the document, from 0. Nothing fails but for want of
+// memory. May be called from any thread; the document is only read.
 
 namespace orvane {
 

@@ -5,7 +5,7 @@
 #include <vector>
 
 // What a mapping says of the standard markers. It is read as the plug-in reads it. What is returned
-// holds copies; nothing fails but for want of memory.
+// holds copies; nothing fails but for want of memory. May be called from any thread.
 
 namespace orvane {
 

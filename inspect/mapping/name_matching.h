@@ -7,7 +7,8 @@
 
 // Which marker of a capture is the one that a mapping names otherwise: by another case of letters,
 // with a blank or an underscore for a colon, or behind the name of another subject. Letters are
-// those of ASCII. Nothing fails but for want of memory.
+// those of ASCII. What is returned holds copies; nothing fails but for want of memory. May be
+// called from any thread.
 
 namespace orvane {
 

@@ -6,7 +6,8 @@
 #include <vector>
 
 // Which marker of a capture plays the role of which standard marker, as far as their names say so.
-// Nothing fails but for want of memory.
+// Markers are told by their indices in the list of names, from 0. Nothing fails but for want of
+// memory. May be called from any thread.
 
 namespace orvane {
 

@@ -3,7 +3,8 @@
 #include <cstddef>
 #include <string>
 
-// What is said of a marker by where it sits on the body. Indices count from 0.
+// What is said of a marker by where it sits on the body. Indices count from 0. Values: threads may
+// read one together, and each may change its own.
 
 namespace orvane {
 

@@ -6,7 +6,8 @@
 #include <string_view>
 
 // What is done with a file. The same finding may be of no account to one action and spoil what
-// comes out of another.
+// comes out of another. Nothing fails; names that are returned live as long as the program. May be
+// called from any thread.
 
 namespace orvane {
 

@@ -10,7 +10,9 @@
 #include "inspect/check/findings.h"
 #include "inspect/report/action.h"
 
-// What is to be told of a file before something is done with it: each code once.
+// What is to be told of a file before something is done with it: each code once. A report holds
+// copies, but for codes, which live as long as the program. Nothing fails but for want of memory.
+// May be called from any thread; what was found is only read.
 
 namespace orvane {
 
@@ -22,8 +24,8 @@ struct ReportedFinding {
   std::size_t line = 0;    // of the first one, counted from 1; 0 when it has no place in the file
   std::size_t column = 0;  // in bytes, counted from 1
   std::vector<std::string> names;  // or values, that the first ones are about, each once
-  std::string cause;               // what is so in the file: one sentence
-  std::string consequence;         // what the action makes of it: one sentence
+  std::string cause;               // what is so in the file: a sentence without its full stop
+  std::string consequence;         // what the action makes of it: a sentence
 };
 
 struct FileReport {

@@ -4,7 +4,7 @@
 
 namespace orvane {
 
-// An axis-aligned box in file space (Y up) and the file's length unit.
+// An axis-aligned box in file space (Y up) and the file's length unit: a value, for any thread.
 struct Bounds {
   Point least{};
   Point most{};

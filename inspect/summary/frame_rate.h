@@ -7,7 +7,7 @@
 #include "formats/text/byte_source.h"
 
 // The frame rate that a file's text says, of which readers keep the whole part alone. Nothing fails
-// but for want of memory.
+// but for want of memory. May be called from any thread, each with a source of its own.
 
 namespace orvane {
 

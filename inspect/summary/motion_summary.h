@@ -10,7 +10,7 @@
 
 // What can be told of a motion without showing every frame: counts of frames, seconds, a box in the
 // file's own unit of length, and the subject, from one walk over its poses. Nothing fails but for
-// want of memory.
+// want of memory. May be called from any thread; the document is only read.
 
 namespace orvane {
 

@@ -12,7 +12,7 @@
 // lie along. Points are the joints of a skeleton or the markers of a capture, in the file's space
 // and unit of length. Of a long file so many frames are looked at as tell it, spread over all of
 // it: the time goes with the points and hardly with the frames. Nothing fails but for want of
-// memory.
+// memory. May be called from any thread.
 
 namespace orvane {
 

@@ -8,7 +8,8 @@
 #include "inspect/summary/motion_summary.h"
 
 // What can be told of a marker file without showing every frame: counts of samples, seconds, and a
-// box in the file's own unit of length. Nothing fails but for want of memory.
+// box in the file's own unit of length. Samples count from 0. Nothing fails but for want of memory.
+// May be called from any thread; documents are only read.
 
 namespace orvane {
 
