@@ -64,10 +64,9 @@ function(orvane_headers name)
   target_link_libraries(${name} INTERFACE ${ARG_LINKS})
 endfunction()
 
-# orvane_folder_target(name): a target that builds all that the folder of the calling CMakeLists.txt,
-# and those below it, have made until then.
-function(orvane_folder_target name)
-  set(folders "${CMAKE_CURRENT_SOURCE_DIR}")
+# orvane_targets_below(result folder): the targets that the folder, and those below it, have made.
+function(orvane_targets_below result folder)
+  set(folders "${folder}")
   set(targets)
   while(folders)
     list(POP_FRONT folders folder)
@@ -76,6 +75,13 @@ function(orvane_folder_target name)
     list(APPEND targets ${folder_targets})
     list(APPEND folders ${subfolders})
   endwhile()
+  set(${result} "${targets}" PARENT_SCOPE)
+endfunction()
+
+# orvane_folder_target(name): a target that builds all that the folder of the calling CMakeLists.txt,
+# and those below it, have made until then.
+function(orvane_folder_target name)
+  orvane_targets_below(targets "${CMAKE_CURRENT_SOURCE_DIR}")
   add_custom_target(${name} DEPENDS ${targets})
 endfunction()
 
