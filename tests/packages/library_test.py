@@ -69,6 +69,12 @@ class LibraryTest(PackageTest):
                                "-o", name)
         self.check_examples(".")
 
+    def test_the_examples_are_short(self):
+        sizes = {path.name: len(path.read_text().splitlines())
+                 for path in self.examples.glob("*.cpp")}
+        self.assertEqual({"convert.cpp", "gaps.cpp", "write.cpp"}, set(sizes))
+        self.assertLess(max(sizes.values()), 40, sizes)
+
     def test_the_page_s_example_prints_what_the_page_says(self):
         (page,) = self.examples.parent.glob("docs/library.md")
         block = re.search(r"```console\n(.*?)```", page.read_text(), re.DOTALL)[1]
