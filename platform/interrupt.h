@@ -15,6 +15,10 @@ void CatchInterrupts();
 // to put away.
 void HoldInterrupts();
 
+// What is done with such a wish is again what was done before CatchInterrupts, and those that have
+// come since are forgotten: for a process in which other work goes on.
+void ReleaseInterrupts();
+
 // Whether the user has asked to stop since CatchInterrupts.
 [[nodiscard]] bool Interrupted();
 

@@ -26,6 +26,10 @@ header  benchmark/benchmark.h                     libbenchmark-dev
 readonly python_needs='
 command python3                                   python3
 '
+readonly wheel_needs='
+path    /usr/include/python3*/Python.h            python3-dev
+path    /usr/lib/python3*/ensurepip/__init__.py   python3-venv
+'
 readonly test_needs='
 command git                                       git
 command node                                      nodejs
@@ -114,7 +118,7 @@ need() {
 
 need_everything() {
   need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" \
-    "$emscripten_needs" "$package_needs" "$sanitize_needs"
+    "$emscripten_needs" "$package_needs" "$sanitize_needs" "$wheel_needs"
 }
 
 # The npm packages of package-lock.json, installed again only when that file has changed.

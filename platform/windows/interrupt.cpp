@@ -24,6 +24,12 @@ void CatchInterrupts() { SetConsoleCtrlHandler(Remember, TRUE); }
 
 void HoldInterrupts() { held = true; }
 
+void ReleaseInterrupts() {
+  SetConsoleCtrlHandler(Remember, FALSE);
+  interrupted = false;
+  held = false;
+}
+
 bool Interrupted() { return interrupted; }
 
 }  // namespace platform

@@ -1,0 +1,45 @@
+#include <sys/resource.h>
+
+#include <cstdio>
+#include <ctime>
+#include <string>
+
+#include "formats/htr/document.h"
+#include "formats/text/files.h"
+#include "formats/trc/document.h"
+#include "inspect/check/htr_check.h"
+#include "inspect/check/trc_check.h"
+
+// What reading a file takes in C++: read_take FILE prints the seconds of processor time and the
+// kilobytes of memory, for compare_reading.py to hold other ways against.
+
+namespace {
+
+long PeakKilobytes() {
+  struct rusage usage {};
+  getrusage(RUSAGE_SELF, &usage);
+  return usage.ru_maxrss;
+}
+
+void Read(const std::string& name) {
+  orvane::FileSource source(name);
+  if (name.ends_with(".htr")) {
+    orvane::HtrDocument document;
+    (void)orvane::CheckHtr(name, source, document);
+  } else {
+    orvane::TRCDocument document;
+    (void)orvane::CheckTrc(name, source, document);
+  }
+}
+
+}  // namespace
+
+int main(int argument_count, char** arguments) {
+  if (argument_count != 2) return 2;
+  const long before = PeakKilobytes();
+  const std::clock_t begin = std::clock();
+  Read(arguments[1]);
+  const auto seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
+  std::printf("%.4f %ld\n", seconds, PeakKilobytes() - before);
+  return 0;
+}

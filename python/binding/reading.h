@@ -1,0 +1,28 @@
+#pragma once
+
+#include <cstddef>
+#include <optional>
+
+#include "formats/htr/document.h"
+#include "formats/trc/document.h"
+#include "inspect/report/report.h"
+#include "inspect/summary/frame_rate.h"
+#include "python/binding/input.h"
+
+// Reads files into documents. Nothing here needs the lock of the interpreter.
+
+namespace binding {
+
+// What comes of reading beside the document.
+struct Reading {
+  std::optional<orvane::FileReport> report;  // nothing when nobody has looked for findings
+  std::optional<orvane::FrameRate> rate;     // that the text says
+};
+
+// Reads `input` into `document`, which is empty. Throws a FileRefusal when the file cannot be read,
+// is refused, holds nothing, or holds so many frames of so many names that an array of them would
+// be out of proportion.
+[[nodiscard]] Reading Read(const Input& input, bool check, orvane::TRCDocument& document);
+[[nodiscard]] Reading Read(const Input& input, bool check, orvane::HtrDocument& document);
+
+}  // namespace binding

@@ -1,0 +1,52 @@
+"""What Hypothesis thinks of comes back."""
+
+from __future__ import annotations
+
+import numpy as np
+import orvane
+from conftest import htr_text
+from hypothesis import given, settings
+from hypothesis import strategies as st
+from hypothesis.extra import numpy as arrays
+
+FINITE = st.floats(allow_nan=False, allow_infinity=False)
+NAMES = st.text(st.characters(codec="utf-8", exclude_categories=("Cc", "Cs", "Z")), min_size=1,
+                max_size=12).filter(lambda name: not name.startswith("Unnamed"))
+
+
+@st.composite
+def takes(draw):
+    names = draw(st.lists(NAMES, min_size=1, max_size=4, unique=True))
+    frames = draw(st.integers(1, 6))
+    points = draw(arrays.arrays(np.float64, (frames, len(names), 3), elements=FINITE))
+    points[draw(arrays.arrays(np.bool_, points.shape[:2]))] = np.nan
+    rate = draw(st.decimals("1", "1000", places=3))
+    unit = draw(st.sampled_from(["mm", "cm", "m", "in", "ft", "yd"]))
+    return orvane.Take.from_points(points, names, rate=str(rate), unit=unit,
+                                   first_frame=draw(st.integers(0, 10**6)))
+
+
+@settings(max_examples=200, deadline=None)
+@given(takes())
+def test_markers_come_back_to_the_bit(take):
+    back = orvane.read(take.to_bytes(), format="trc", warn=False)
+    assert (back.names, back.rate, back.unit) == (take.names, take.rate, take.unit)
+    assert back.first_frame == take.first_frame
+    assert back.points.tobytes() == take.points.tobytes()
+    assert back.gaps == take.gaps
+
+
+ROWS = st.lists(st.tuples(*[st.floats(-1e6, 1e6)] * 3, *[st.floats(-720, 720)] * 3,
+                          st.floats(0.01, 100)), min_size=1, max_size=4)
+
+
+@settings(max_examples=200, deadline=None)
+@given(ROWS, ROWS, st.sampled_from(["Degrees", "Radians"]))
+def test_motion_comes_back(root, child, rotations):
+    frames = min(len(root), len(child))
+    text = htr_text([root[:frames], child[:frames]], rotations=rotations)
+    motion = orvane.read(text.encode(), format="htr", warn=False)
+    back = orvane.read(motion.to_bytes(), format="htr", warn=False)
+    assert back.translations.tobytes() == motion.translations.tobytes()
+    assert back.scales.tobytes() == motion.scales.tobytes()
+    np.testing.assert_allclose(back.rotations, motion.rotations, rtol=1e-15, atol=1e-300)
