@@ -9,8 +9,8 @@ MarkerSamples SamplesOf(const orvane::TRCDocument& document) {
   samples.first_frame = document.FirstFrame();
   for (const orvane::TRCMarker& marker : document.markers()) {
     samples.held = static_cast<std::int64_t>(marker.SampleCount());
-    samples.gaps.emplace_back(marker.Gaps().begin(), marker.Gaps().end());
   }
+  samples.gaps = document.Gaps();
   return samples;
 }
 

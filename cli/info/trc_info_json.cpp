@@ -81,10 +81,10 @@ void WriteFrames(JsonWriter& json, const orvane::TRCMarker& marker) {
 }
 
 // The first and the last frame of each.
-void WriteGaps(JsonWriter& json, const orvane::TRCMarker& marker, std::int64_t first_frame) {
+void WriteGaps(JsonWriter& json, const TrcMarkerSummary& marker, std::int64_t first_frame) {
   json.Key("gaps");
   json.BeginArray(Layout::kOneLine);
-  for (const orvane::TRCMarker::Gap& gap : marker.Gaps()) {
+  for (const orvane::TRCMarker::Gap& gap : marker.gaps) {
     json.BeginArray(Layout::kOneLine);
     json.Integer(first_frame + static_cast<std::int64_t>(gap.begin));
     json.Integer(first_frame + static_cast<std::int64_t>(gap.end) - 1);
@@ -108,7 +108,7 @@ void WriteMarkers(JsonWriter& json, const TrcInfoReport& report, bool with_frame
     json.Number(Coverage(summary, report.summary.frames));
     json.Key("longest_gap");
     json.Integer(static_cast<std::int64_t>(summary.longest_gap));
-    WriteGaps(json, marker, report.document.FirstFrame());
+    WriteGaps(json, summary, report.document.FirstFrame());
     if (with_frames) WriteFrames(json, marker);
     json.EndObject();
   }

@@ -59,15 +59,15 @@ void PrintBounds(const TrcInfoReport& report, std::ostream& out) {
 }
 
 // "11 to 28, 40, and 3 more": the frames of the longest gaps; empty without any.
-std::string Gaps(const orvane::TRCMarker& marker, std::int64_t first_frame) {
+std::string Gaps(const TrcMarkerSummary& marker, std::int64_t first_frame) {
   constexpr std::size_t kMostGaps = 3;
   std::string text;
-  for (const auto& [begin, end, before] : LongestGaps(marker, kMostGaps)) {
+  for (const auto& [begin, end] : LongestGaps(marker, kMostGaps)) {
     const std::int64_t first = first_frame + static_cast<std::int64_t>(begin);
     const std::int64_t last = first_frame + static_cast<std::int64_t>(end) - 1;
     text += (text.empty() ? "" : ", ") + NumbersOf(orvane::FrameSpan{first, last});
   }
-  const std::size_t count = marker.Gaps().size();
+  const std::size_t count = marker.gaps.size();
   return count > kMostGaps ? text + ", and " + Count(count - kMostGaps) + " more" : text;
 }
 
@@ -82,7 +82,7 @@ void PrintMarkers(const TrcInfoReport& report, std::ostream& out) {
   for (std::size_t index = 0; index < report.summary.markers.size(); ++index) {
     const TrcMarkerSummary& summary = report.summary.markers[index];
     const orvane::TRCMarker& marker = *report.document.MarkerAt(index);
-    const std::string gaps = Gaps(marker, report.document.FirstFrame());
+    const std::string gaps = Gaps(summary, report.document.FirstFrame());
     const std::string percent = FormatDouble(100 * Coverage(summary, report.summary.frames), 1);
     out << "  " << PadRight(Printable(marker.Name()), width) << PadLeft(percent, kNumberWidth)
         << " %" << PadLeft(Count(summary.longest_gap), kNumberWidth) << (gaps.empty() ? "" : "  ")

@@ -1,15 +1,11 @@
 #include "formats/bvk/writer.h"
 
-#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <span>
 #include <vector>
 
 #include "formats/text/text_buffer.h"
-#include "formats/trc/sample_walk.h"
-
 namespace orvane {
 namespace {
 
@@ -35,43 +31,6 @@ TRCPosition InFileSpace(const TRCPosition& position, const std::optional<BvkOffs
   return offset->in_trc_space ? Turned(Moved(position, *offset)) : Moved(Turned(position), *offset);
 }
 
-constexpr std::int64_t kTileFrames = 32;
-
-struct Sample {
-  TRCPosition position;
-  bool is_present = false;
-};
-
-// The next frames of markers, gathered a marker at a time: the processor follows the samples of
-// one marker ahead, and loses track of those of sixty.
-class SampleTile {
- public:
-  explicit SampleTile(const std::vector<const TRCMarker*>& markers)
-      : samples_(markers.size() * kTileFrames) {
-    walks_.reserve(markers.size());
-    for (const TRCMarker* marker : markers) walks_.emplace_back(*marker);
-  }
-
-  // To the first frames, and then to those behind. Behind the end nothing is present.
-  void MoveOn() {
-    for (std::size_t marker = 0; marker < walks_.size(); ++marker) {
-      for (std::size_t at = marker; at < samples_.size(); at += walks_.size()) {
-        samples_[at].is_present = walks_[marker].Next(samples_[at].position);
-      }
-    }
-  }
-
-  // The samples of one of the frames, by marker.
-  [[nodiscard]] std::span<const Sample> Row(std::int64_t frame) const {
-    return std::span(samples_).subspan(static_cast<std::size_t>(frame) * walks_.size(),
-                                       walks_.size());
-  }
-
- private:
-  std::vector<TRCSampleWalk> walks_;
-  std::vector<Sample> samples_;
-};
-
 // One printing of one document. Each function appends its lines, in the order of the file.
 class BvkPrinter {
  public:
@@ -89,8 +48,7 @@ class BvkPrinter {
   void PrintHeader();
   void PrintNames();
   void PrintFrames();
-  void PrintFrame(std::int32_t frame, std::span<const Sample> samples);
-  void PrintSample(const Sample& sample);
+  void PrintFrame(std::int64_t index);
 
   void PutLine(std::string_view keyword, std::string_view value);
   void PutLine(std::string_view keyword, std::int64_t value);
@@ -142,27 +100,21 @@ void BvkPrinter::PrintNames() {
 
 // Intended: the frames are those that the document announces, however many samples there are.
 void BvkPrinter::PrintFrames() {
-  SampleTile tile(markers_);
-  const std::int64_t end = document_.NumFrames();
-  for (std::int64_t frame = 0; frame < end; frame += kTileFrames) {
-    tile.MoveOn();
-    const std::int64_t count = std::min(kTileFrames, end - frame);
-    for (std::int64_t row = 0; row < count; ++row) {
-      PrintFrame(static_cast<std::int32_t>(frame + row), tile.Row(row));
+  for (std::int64_t index = 0; index < document_.NumFrames(); ++index) PrintFrame(index);
+}
+
+void BvkPrinter::PrintFrame(std::int64_t index) {
+  text_.PutInteger(WrappingSum(document_.FirstFrame(), static_cast<std::int32_t>(index)));
+  for (const TRCMarker* marker : markers_) {
+    TRCPosition position;
+    if (marker->GetSample(static_cast<std::size_t>(index), position.x, position.y, position.z)) {
+      const TRCPosition turned = InFileSpace(position, details_.offset);
+      text_.PutColumns(std::array{turned.x, turned.y, turned.z});
+    } else {
+      text_.Put("\tDROPOUT");
     }
   }
-}
-
-void BvkPrinter::PrintFrame(std::int32_t frame, std::span<const Sample> samples) {
-  text_.PutInteger(WrappingSum(document_.FirstFrame(), frame));
-  for (const Sample& sample : samples) PrintSample(sample);
   text_.Put("\t\n\n");
-}
-
-void BvkPrinter::PrintSample(const Sample& sample) {
-  if (!sample.is_present) return text_.Put("\tDROPOUT");
-  const TRCPosition turned = InFileSpace(sample.position, details_.offset);
-  text_.PutColumns(std::array{turned.x, turned.y, turned.z});
 }
 
 void BvkPrinter::PutLine(std::string_view keyword, std::string_view value) {

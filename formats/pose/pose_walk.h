@@ -54,7 +54,7 @@ class PoseWalk {
   }
 
   // How the segment is turned in the world. REQUIRES: as above.
-  [[nodiscard]] const RotationMatrix3& WorldRotationOf(std::size_t entry) const {
+  [[nodiscard]] const PlainRotation& WorldRotationOf(std::size_t entry) const {
     assert(!rotations_.empty());
     assert(entry < hierarchy_.size());
     return world_rotations_[SlotOf(entry, offset_)];

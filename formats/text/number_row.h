@@ -100,9 +100,10 @@ class NumberRow {
   // missing one. REQUIRES: it is not further behind the last one than kSpareNumbers.
   double operator[](std::size_t number) const { return numbers_[number]; }
 
-  // The first `count` of them, until the next line is read. REQUIRES: as above, of the last one.
-  [[nodiscard]] std::span<const double> First(std::size_t count) const {
-    return {numbers_.data(), count};
+  // The first so many numbers, and kNoNumber behind the last that was read, to be changed at will.
+  // REQUIRES: they are no more than kSpareNumbers more than were read.
+  [[nodiscard]] std::span<double> First(std::size_t count) {
+    return std::span(numbers_).first(count);
   }
 
   // Whether all cells that were read are empty, or numbers and nothing else, each finite in single

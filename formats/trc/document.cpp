@@ -1,5 +1,8 @@
 #include "formats/trc/document.h"
 
+#include <algorithm>
+#include <memory>
+
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -31,6 +34,43 @@ TRCMarker* TRCDocument::AddMarker(const TRCMarker& marker) {
   return &stored;
 }
 
+// Whether the markers are the columns of one block, in their order.
+bool TRCDocument::SharesBlock() const {
+  if (markers_.empty() || markers_.front().block_ == nullptr) return false;
+  const TRCSampleBlock* const block = markers_.front().block_.get();
+  if (block->ColumnCount() != markers_.size()) return false;
+  std::size_t column = 0;
+  return std::ranges::all_of(markers_, [&](const TRCMarker& marker) {
+    return marker.block_.get() == block && marker.column_ == column++;
+  });
+}
+
+TRCSampleBlock& TRCDocument::ShareBlock() {
+  if (!SharesBlock()) JoinColumns();
+  return *markers_.front().block_;
+}
+
+void TRCDocument::JoinColumns() {
+  std::vector<TRCSampleBlock::Column> columns;
+  columns.reserve(markers_.size());
+  for (const TRCMarker& marker : markers_) {
+    columns.push_back({marker.block_.get(), marker.column_, marker.scaled_count_});
+  }
+  const auto block = std::make_shared<TRCSampleBlock>(TRCSampleBlock::Join(columns));
+  for (std::size_t column = 0; column < markers_.size(); ++column) {
+    markers_[column].block_ = block;
+    markers_[column].column_ = column;
+  }
+}
+
+std::vector<std::vector<TRCMarker::Gap>> TRCDocument::Gaps() const {
+  if (SharesBlock()) return markers_.front().block_->Gaps();
+  std::vector<std::vector<TRCMarker::Gap>> gaps;
+  gaps.reserve(markers_.size());
+  for (const TRCMarker& marker : markers_) gaps.push_back(marker.Gaps());
+  return gaps;
+}
+
 void TRCDocument::ConvertUnits(std::int32_t code) {
   if (code != units_) {
     Scale(LengthFactor(static_cast<std::uint32_t>(units_), static_cast<std::uint32_t>(code)));
@@ -39,7 +79,12 @@ void TRCDocument::ConvertUnits(std::int32_t code) {
 }
 
 void TRCDocument::Scale(double factor) {
-  for (TRCMarker& marker : markers_) marker.Scale(factor);
+  const bool shares_block = SharesBlock();
+  if (shares_block) markers_.front().block_->Scale(factor);
+  for (TRCMarker& marker : markers_) {
+    if (!shares_block) marker.Scale(factor);
+    marker.scaled_count_ = marker.SampleCount();
+  }
 }
 
 void TRCDocument::RefreshNames() {

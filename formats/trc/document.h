@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 #include <unordered_set>
+#include <vector>
 
 #include "formats/text/byte_source.h"
 #include "formats/trc/marker.h"
@@ -79,6 +80,33 @@ class TRCDocument {
   // null, adding nothing, when its name is taken (case counts). Takes constant time.
   TRCMarker* AddMarker(const TRCMarker& marker);
 
+  // Makes all markers the columns of one block, in their order, and returns it: rows that are
+  // appended to it are frames of all of them, until a marker is added or samples of one alone are
+  // appended. Those that have fewer samples than others get dropouts. A document that was read is
+  // that way from the beginning. REQUIRES: there is a marker.
+  TRCSampleBlock& ShareBlock();
+
+  // The gaps of all markers, in their order, as TRCMarker::Gaps tells them.
+  [[nodiscard]] std::vector<std::vector<TRCMarker::Gap>> Gaps() const;
+
+  // Calls `visit` with the index of the marker, that of the sample, and x, y and z of all samples
+  // that were measured or set, those of each marker in order.
+  template <typename Visit>
+  void VisitPositions(Visit visit) const {
+    if (SharesBlock()) {
+      return markers_.front().block_->VisitPositions(
+          [&visit](std::size_t row, std::size_t column, const double* position) {
+            visit(column, row, position);
+          });
+    }
+    for (std::size_t marker = 0; marker < markers_.size(); ++marker) {
+      for (std::size_t index = 0; index < markers_[marker].SampleCount(); ++index) {
+        const double* const position = markers_[marker].PositionAt(index);
+        if (position != nullptr) visit(marker, index, position);
+      }
+    }
+  }
+
   // Rescales everything from the current unit to `code` and stores that as the unit. When the two
   // are the same nothing else happens; otherwise dropouts become present, as TRCMarker::Scale says.
   void ConvertUnits(std::int32_t code);
@@ -87,6 +115,8 @@ class TRCDocument {
 
  private:
   void RefreshNames();
+  [[nodiscard]] bool SharesBlock() const;
+  void JoinColumns();
 
   std::deque<TRCMarker> markers_;
   std::int32_t units_ = 0;

@@ -1,80 +1,68 @@
 #include "formats/trc/marker.h"
 
-#include <algorithm>
-#include <iterator>
-
 namespace orvane {
-namespace {
 
-// Where the position of sample `index` stands, which lies behind `gap` and before the next one.
-std::size_t PositionIndex(std::size_t index, const TRCMarker::Gap* gap) {
-  return gap == nullptr ? index : index - gap->end + gap->positions_before;
-}
+TRCMarker::TRCMarker(const TRCMarker& other)
+    : name_(other.name_),
+      enabled_(other.enabled_),
+      block_(other.CopyOfColumn()),
+      scaled_count_(other.scaled_count_) {}
 
-}  // namespace
-
-void TRCMarker::AppendDropouts(std::size_t count) {
-  if (count == 0) return;
-  if (gaps_.empty() || gaps_.back().end != sample_count_) {
-    gaps_.push_back({sample_count_, sample_count_, positions_.size()});
-  }
-  sample_count_ += count;
-  gaps_.back().end = sample_count_;
-}
-
-bool TRCMarker::GetSample(std::size_t index, double& x, double& y, double& z) const {
-  TRCPosition position;
-  bool present = false;
-  if (index < sample_count_) {
-    const Gap* gap = GapAtOrBefore(index);
-    const bool is_position = gap == nullptr || index >= gap->end;
-    if (is_position) position = positions_[PositionIndex(index, gap)];
-    present = is_position || index < scaled_count_;
-  }
-  x = position.x;
-  y = position.y;
-  z = position.z;
-  return present;
+TRCMarker& TRCMarker::operator=(const TRCMarker& other) {
+  if (this == &other) return *this;
+  name_ = other.name_;
+  enabled_ = other.enabled_;
+  block_ = other.CopyOfColumn();
+  column_ = 0;
+  scaled_count_ = other.scaled_count_;
+  return *this;
 }
 
 bool TRCMarker::SetSample(std::size_t index, double x, double y, double z) {
-  if (index >= sample_count_) return false;
-  const TRCPosition position{x, y, z};
-  const Gap* gap = GapAtOrBefore(index);
-  if (gap == nullptr || index >= gap->end) {
-    positions_[PositionIndex(index, gap)] = position;
-  } else {
-    OpenGap(static_cast<std::size_t>(gap - gaps_.data()), index, position);
-  }
-  return true;
+  if (index >= SampleCount()) return false;
+  if (block_->SetPosition(index, column_, x, y, z)) return true;
+  return Own().SetPosition(index, column_, x, y, z);
 }
 
 void TRCMarker::Scale(double factor) {
-  for (TRCPosition& position : positions_) {
-    position.x *= factor;
-    position.y *= factor;
-    position.z *= factor;
+  Own().Scale(factor);
+  scaled_count_ = SampleCount();
+}
+
+std::vector<TRCMarker::Gap> TRCMarker::Gaps() const {
+  std::vector<Gap> gaps;
+  for (std::size_t index = 0; index < SampleCount(); ++index) {
+    if (PositionAt(index) != nullptr) continue;
+    if (gaps.empty() || gaps.back().end != index) gaps.push_back({index, index});
+    gaps.back().end = index + 1;
   }
-  scaled_count_ = sample_count_;
+  return gaps;
 }
 
-const TRCMarker::Gap* TRCMarker::GapAtOrBefore(std::size_t index) const {
-  const auto behind =
-      std::upper_bound(gaps_.begin(), gaps_.end(), index,
-                       [](std::size_t sample, const Gap& gap) { return sample < gap.begin; });
-  return behind == gaps_.begin() ? nullptr : &*std::prev(behind);
+// The samples in a block that has no other column.
+TRCSampleBlock& TRCMarker::Own() {
+  if (block_ == nullptr) block_ = std::make_shared<TRCSampleBlock>(1);
+  if (block_->ColumnCount() > 1) {
+    block_ = CopyOfColumn();
+    column_ = 0;
+  }
+  return *block_;
 }
 
-// Puts a position in the place of one dropout of a gap, of which up to two shorter gaps remain.
-void TRCMarker::OpenGap(std::size_t gap_index, std::size_t sample, const TRCPosition& position) {
-  const Gap before{gaps_[gap_index].begin, sample, gaps_[gap_index].positions_before};
-  const Gap after{sample + 1, gaps_[gap_index].end, gaps_[gap_index].positions_before};
-  positions_.insert(positions_.begin() + static_cast<std::ptrdiff_t>(before.positions_before),
-                    position);
-  auto at = gaps_.erase(gaps_.begin() + static_cast<std::ptrdiff_t>(gap_index));
-  if (after.begin != after.end) at = gaps_.insert(at, after);
-  if (before.begin != before.end) at = std::next(gaps_.insert(at, before));
-  for (; at != gaps_.end(); ++at) ++at->positions_before;
+std::shared_ptr<TRCSampleBlock> TRCMarker::CopyOfColumn() const {
+  if (block_ == nullptr) return nullptr;
+  if (block_->ColumnCount() == 1) return std::make_shared<TRCSampleBlock>(*block_);
+  auto copy = std::make_shared<TRCSampleBlock>(1);
+  copy->ReserveRows(SampleCount());
+  for (std::size_t index = 0; index < SampleCount(); ++index) {
+    if (const double* const position = PositionAt(index)) {
+      copy->AppendPosition(position[0], position[1], position[2]);
+    } else {
+      copy->AppendDropouts(1);
+    }
+  }
+  copy->ShrinkToFit();
+  return copy;
 }
 
 }  // namespace orvane

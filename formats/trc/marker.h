@@ -1,19 +1,18 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
-#include <span>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "formats/text/watched_name.h"
+#include "formats/trc/sample_block.h"
 
 // The trajectory of one optical marker: a sample for each frame, either a position that was
 // measured or a dropout. Positions are in the units and axes of the document (Y up). Samples are
 // counted from 0, whatever number their frame has in the file.
-//
-// Only positions take room; dropouts are kept as the gaps between them. So a short file whose lines
-// are blank for a thousand markers takes no more memory than its bytes suggest.
 namespace orvane {
 
 struct TRCPosition {
@@ -22,16 +21,17 @@ struct TRCPosition {
   double z = 0.0;
 };
 
+// A marker is a column of a block of samples. Those of a document that was read share one; one that
+// is made by hand, or changed in a way that the others are not, has a block of its own.
 class TRCMarker {
  public:
-  // Dropouts that follow each other: the samples from `begin` up to and without `end`.
-  struct Gap {
-    std::size_t begin = 0;
-    std::size_t end = 0;
-    std::size_t positions_before = 0;  // how many samples before `begin` are positions
-  };
+  using Gap = TRCSampleBlock::Gap;
 
   explicit TRCMarker(std::string name) : name_(std::move(name)) {}
+  // A copy has a block of its own.
+  TRCMarker(const TRCMarker& other);
+  TRCMarker& operator=(const TRCMarker& other);
+  ~TRCMarker() = default;
 
   // Whether the marker is to be written to marker files. It starts enabled.
   [[nodiscard]] bool IsEnabled() const { return enabled_; }
@@ -41,23 +41,29 @@ class TRCMarker {
   // Renames the marker, one stored in a document too.
   void SetName(std::string name) { name_.Set(std::move(name)); }
 
-  // Makes room for `count` positions in all.
-  void ReserveFrames(std::size_t count) { positions_.reserve(count); }
-  // Appends a sample that was measured.
-  void AppendPosition(double x, double y, double z) {
-    positions_.push_back({x, y, z});
-    ++sample_count_;
-  }
+  // Appends a sample that was measured. The first time that this, or what else appends, is done to
+  // one marker of those that share a block, it takes time for all samples of the marker.
+  void AppendPosition(double x, double y, double z) { Own().AppendPosition(x, y, z); }
   void AppendDropout() { AppendDropouts(1); }
   // Appends `count` dropouts, in constant time.
-  void AppendDropouts(std::size_t count);
+  void AppendDropouts(std::size_t count) { Own().AppendDropouts(count); }
 
-  std::size_t SampleCount() const { return sample_count_; }
+  std::size_t SampleCount() const { return block_ == nullptr ? 0 : block_->RowCount(); }
   // Puts the sample's position into `x`, `y`, `z` and returns whether it is present. Zeros for a
-  // dropout, and past the end, where nothing is present.
-  [[nodiscard]] bool GetSample(std::size_t index, double& x, double& y, double& z) const;
+  // dropout, and past the end, where nothing is present. Takes constant time.
+  [[nodiscard]] bool GetSample(std::size_t index, double& x, double& y, double& z) const {
+    const double* const position = PositionAt(index);
+    if (position == nullptr) {
+      x = y = z = 0.0;
+      return index < scaled_count_;
+    }
+    x = position[0];
+    y = position[1];
+    z = position[2];
+    return true;
+  }
   // Overwrites a sample and makes it present. Returns false, changing nothing, past the end. Takes
-  // time in proportion to what is behind the sample when it was a dropout, else constant time.
+  // time in proportion to the samples when it was a dropout, else constant time.
   [[nodiscard]] bool SetSample(std::size_t index, double x, double y, double z);
 
   // Multiplies all coordinates.
@@ -65,26 +71,27 @@ class TRCMarker {
   // the dropouts looks at them before.
   void Scale(double factor);
 
-  // The positions that were appended or set, in the order of their samples.
-  std::span<const TRCPosition> Positions() const { return positions_; }
-  // The samples that are none of those, in order; no two gaps touch. Scaling does not close them.
-  std::span<const Gap> Gaps() const { return gaps_; }
-  // How many samples there were when Scale was last called; all of those are present.
-  std::size_t ScaledCount() const { return scaled_count_; }
+  // The x, y and z of a sample that was measured or set; null for all others. Lives until samples
+  // are appended or set.
+  [[nodiscard]] const double* PositionAt(std::size_t index) const {
+    return block_ == nullptr ? nullptr : block_->PositionAt(index, column_);
+  }
+  // The samples that were not measured or set, in order; no two gaps touch. Scaling does not close
+  // them. Takes time in proportion to the samples; those of all markers at once are had from the
+  // document.
+  [[nodiscard]] std::vector<Gap> Gaps() const;
 
  private:
   friend class TRCDocument;
 
-  // The last gap that begins at or before sample `index`; null when there is none.
-  const Gap* GapAtOrBefore(std::size_t index) const;
-  void OpenGap(std::size_t gap_index, std::size_t sample, const TRCPosition& position);
+  TRCSampleBlock& Own();
+  [[nodiscard]] std::shared_ptr<TRCSampleBlock> CopyOfColumn() const;
 
   WatchedName name_;  // the owning document watches it
   bool enabled_ = true;
-  std::vector<TRCPosition> positions_;
-  std::vector<Gap> gaps_;
-  std::size_t sample_count_ = 0;
-  std::size_t scaled_count_ = 0;
+  std::shared_ptr<TRCSampleBlock> block_;  // null while there are no samples
+  std::size_t column_ = 0;
+  std::size_t scaled_count_ = 0;  // how many samples there were when Scale was last called
 };
 
 }  // namespace orvane

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <new>
 #include <optional>
+#include <span>
 #include <stdexcept>
 #include <string>
 #include <string_view>
@@ -31,7 +32,7 @@ constexpr const char* kTooLong = "vector<T> too long";
 constexpr std::size_t kShortestSample = 6;
 
 constexpr std::size_t kCellsBeforeSamples = 2;  // the frame number and the time
-constexpr std::size_t kCoordinates = 3;
+constexpr std::size_t kCoordinates = TRCSampleBlock::kCoordinates;
 
 // What the reader is asked for.
 struct Wishes {
@@ -64,7 +65,6 @@ class TRCReader {
   void ReadFrame(const Line& line);
   void TellFrame(const Line& line, bool is_ordinary);
   bool ReadSamples(const Line& line);
-  void Append(const TRCPosition& position, TRCMarker& marker) const;
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
   void Finish();
@@ -80,6 +80,7 @@ class TRCReader {
 
   TRCHeader header_;
   NumberRow<SingleTabs> numbers_;
+  TRCSampleBlock* samples_ = nullptr;  // of the document; null while it keeps no samples
   std::size_t frames_read_ = 0;
 };
 
@@ -139,16 +140,13 @@ std::string TRCReader::ReadColumns(const Line& line) {
 }
 
 void TRCReader::ReserveFrames() {
-  if (!keeps_samples_) return;
+  const std::size_t markers = document_.markers().size();
+  if (markers == 0 || !keeps_samples_) return;
   const std::size_t announced = static_cast<std::size_t>(std::max(document_.NumFrames(), 0));
-  const std::size_t shortest_frame = kShortestSample * document_.markers().size();
-  for (TRCMarker& marker : document_.markers()) {
-    marker.ReserveFrames(std::min(announced, size_ / shortest_frame));
-  }
+  samples_ = &document_.ShareBlock();
+  samples_->ReserveRows(std::min(announced, size_ / (kShortestSample * markers)));
 }
 
-// A marker gets its dropouts only before its next position, or at the end. So the time for a line
-// goes with what stands on it, not with the number of markers.
 // Intended: columns are given to the markers as they come, so that a column whose name made no
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
@@ -172,28 +170,19 @@ bool TRCReader::ReadSamples(const Line& line) {
   const std::size_t most = kCoordinates * document_.markers().size();
   const std::string_view rest = numbers_.Read(line.text, kCellsBeforeSamples, most);
   const std::size_t count = numbers_.Count();
-  bool is_ordinary = count > 0 && rest.empty() && numbers_.AreOrdinary();
-  std::size_t cell = 0;
-  for (TRCMarker& marker : document_.markers()) {
-    if (cell >= count) return false;
-    const bool has_two_cells = cell + 1 < count;
-    const double x = numbers_[cell++];
-    const double y = numbers_[cell++];
-    const double z = numbers_[cell++];
-    if (IsNoNumber(x)) {
-      is_ordinary = is_ordinary && has_two_cells && IsNoNumber(y) && IsNoNumber(z);
-      continue;
-    }
-    is_ordinary = is_ordinary && !IsNoNumber(y) && !IsNoNumber(z);
-    if (keeps_samples_) Append({x, NumberOrZero(y), NumberOrZero(z)}, marker);
+  bool is_ordinary = count > 0 && count + 1 >= most && rest.empty() && numbers_.AreOrdinary();
+  const std::size_t samples = (count + kCoordinates - 1) / kCoordinates;
+  const std::span<double> row = numbers_.First(kCoordinates * samples);
+  for (std::size_t at = 0; at < row.size(); at += kCoordinates) {
+    const bool has_x = !IsNoNumber(row[at]);
+    const bool is_whole = IsNoNumber(row[at + 1]) != has_x && IsNoNumber(row[at + 2]) != has_x;
+    if (is_whole) continue;
+    is_ordinary = false;
+    row[at + 1] = has_x ? NumberOrZero(row[at + 1]) : kNoNumber;
+    row[at + 2] = has_x ? NumberOrZero(row[at + 2]) : kNoNumber;
   }
+  if (samples_ != nullptr) samples_->AppendRow(row);
   return is_ordinary;
-}
-
-void TRCReader::Append(const TRCPosition& position, TRCMarker& marker) const {
-  const std::size_t missed = frames_read_ - marker.SampleCount();
-  if (missed > 0) marker.AppendDropouts(missed);
-  marker.AppendPosition(position.x, position.y, position.z);
 }
 
 void TRCReader::ReadFirstFrameNumber(const Line& line) {
@@ -202,9 +191,7 @@ void TRCReader::ReadFirstFrameNumber(const Line& line) {
 }
 
 void TRCReader::Finish() {
-  for (TRCMarker& marker : document_.markers()) {
-    if (keeps_samples_) marker.AppendDropouts(frames_read_ - marker.SampleCount());
-  }
+  if (samples_ != nullptr) samples_->ShrinkToFit();
   const bool as_announced = static_cast<std::int64_t>(frames_read_) == document_.NumFrames();
   if (as_announced) return;
   oddities_.ReportLine(TRCOddity::kFrameCountMismatch,

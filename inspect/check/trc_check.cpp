@@ -60,6 +60,8 @@ class WholeFile {
   }
 
  private:
+  using Gaps = std::vector<FrameGap>;
+
   void CheckLayout() {
     if (const auto& name = layout_.misplaced_name) {
       findings_.Add(
@@ -192,8 +194,6 @@ class WholeFile {
     if (marker.Name().empty()) return "a marker without a name has no position";
     return "no position of " + Quote(marker.Name());
   }
-
-  using Gaps = std::vector<FrameGap>;
 
   // Those in the frames that are held.
   Gaps GapsOf(const trc::MarkerSamples& samples) const {

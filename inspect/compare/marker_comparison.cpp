@@ -5,7 +5,6 @@
 #include <string_view>
 #include <unordered_map>
 
-#include "formats/trc/sample_walk.h"
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -28,13 +27,12 @@ class Trajectory {
  public:
   // `skipped` frames come before the first one wanted.
   Trajectory(const TRCMarker& marker, std::int64_t skipped, double millimeters_per_unit)
-      : walk_(marker), millimeters_per_unit_(millimeters_per_unit) {
-    TRCPosition position;
-    for (; skipped > 0; --skipped) static_cast<void>(walk_.Next(position));
-  }
+      : marker_(marker),
+        next_(static_cast<std::size_t>(std::max<std::int64_t>(skipped, 0))),
+        millimeters_per_unit_(millimeters_per_unit) {}
 
   [[nodiscard]] bool Next(TRCPosition& position) {
-    const bool is_measured = walk_.Next(position);
+    const bool is_measured = marker_.GetSample(next_++, position.x, position.y, position.z);
     position.x *= millimeters_per_unit_;
     position.y *= millimeters_per_unit_;
     position.z *= millimeters_per_unit_;
@@ -42,7 +40,8 @@ class Trajectory {
   }
 
  private:
-  TRCSampleWalk walk_;
+  const TRCMarker& marker_;
+  std::size_t next_;
   double millimeters_per_unit_;
 };
 

@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <span>
 
+#include "formats/trc/sample_block.h"
 #include "inspect/counts/frame_span.h"
 
 // Samples that a marker does not have. Frames count from 0. Nothing fails.
@@ -11,10 +12,7 @@
 namespace orvane {
 
 // Frames in a row without a position, from `begin` up to and without `end`.
-struct FrameGap {
-  std::size_t begin = 0;
-  std::size_t end = 0;
-};
+using FrameGap = TRCSampleBlock::Gap;
 
 // In how many of `frames` a marker has no position that has these `gaps` among so many frames that
 // are `held`: those behind the last one among them.

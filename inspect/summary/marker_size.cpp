@@ -7,7 +7,6 @@
 #include <limits>
 #include <vector>
 
-#include "formats/trc/sample_walk.h"
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -34,27 +33,26 @@ struct FrameBox {
   }
 };
 
-std::vector<FrameBox> BoxesOf(const TRCDocument& document) {
-  std::vector<FrameBox> boxes;
+FrameBox BoxOf(const TRCDocument& document, std::size_t frame) {
+  FrameBox box;
   for (const TRCMarker& marker : document.markers()) {
-    boxes.resize(std::max(boxes.size(), marker.SampleCount()));
-    TRCSampleWalk walk(marker);
-    for (std::size_t index = 0; index < marker.SampleCount(); ++index) {
-      TRCPosition position;
-      const bool is_present = walk.Next(position);
-      if (is_present && std::isfinite(position.x + position.y + position.z)) {
-        boxes[index].Include(position);
-      }
-    }
+    TRCPosition position;
+    const bool is_present = marker.GetSample(frame, position.x, position.y, position.z);
+    if (is_present && std::isfinite(position.x + position.y + position.z)) box.Include(position);
   }
-  return boxes;
+  return box;
 }
 
 // In the unit of the document; 0 when nothing is measured.
 double Spread(const TRCDocument& document) {
   std::vector<double> sides;
-  for (const FrameBox& box : BoxesOf(document)) {
-    if (const double side = box.LongestSide(); side >= 0.0) sides.push_back(side);
+  std::size_t frames = 0;
+  for (const TRCMarker& marker : document.markers()) {
+    frames = std::max(frames, marker.SampleCount());
+  }
+  for (std::size_t frame = 0; frame < frames; ++frame) {
+    const double side = BoxOf(document, frame).LongestSide();
+    if (side >= 0.0) sides.push_back(side);
   }
   if (sides.empty()) return 0.0;
   const auto middle = sides.begin() + static_cast<std::ptrdiff_t>(sides.size() / 2);

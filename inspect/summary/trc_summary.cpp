@@ -2,23 +2,39 @@
 
 #include <algorithm>
 #include <cassert>
+#include <utility>
 
 namespace orvane {
 namespace {
 
-void Include(const TRCPosition& position, std::optional<Bounds>& bounds) {
-  const Point point{position.x, position.y, position.z};
-  if (!bounds) bounds = Bounds{point, point};
-  for (std::size_t axis = 0; axis < point.size(); ++axis) {
-    bounds->least[axis] = std::min(bounds->least[axis], point[axis]);
-    bounds->most[axis] = std::max(bounds->most[axis], point[axis]);
+void Include(const Point& least, const Point& most, std::optional<Bounds>& bounds) {
+  if (!bounds) bounds = Bounds{least, most};
+  for (std::size_t axis = 0; axis < least.size(); ++axis) {
+    bounds->least[axis] = std::min(bounds->least[axis], least[axis]);
+    bounds->most[axis] = std::max(bounds->most[axis], most[axis]);
   }
 }
 
-TrcMarkerSummary Summarize(const TRCMarker& marker) {
-  TrcMarkerSummary summary{marker.Positions().size(), 0};
-  for (const TRCMarker::Gap& gap : marker.Gaps()) {
-    summary.longest_gap = std::max(summary.longest_gap, gap.end - gap.begin);
+// By marker, so that of a zero and a negative zero it is the first marker's that is told.
+std::optional<Bounds> BoundsOf(const TRCDocument& document) {
+  std::vector<std::optional<Bounds>> bounds(document.markers().size());
+  document.VisitPositions([&](std::size_t marker, std::size_t, const double* position) {
+    const Point point{position[0], position[1], position[2]};
+    Include(point, point, bounds[marker]);
+  });
+  std::optional<Bounds> all;
+  for (const auto& each : bounds) {
+    if (each) Include(each->least, each->most, all);
+  }
+  return all;
+}
+
+TrcMarkerSummary Summarize(std::size_t samples, std::vector<TRCMarker::Gap> gaps) {
+  TrcMarkerSummary summary{samples, 0, std::move(gaps)};
+  for (const TRCMarker::Gap& gap : summary.gaps) {
+    const std::size_t length = gap.end - gap.begin;
+    summary.present -= length;
+    summary.longest_gap = std::max(summary.longest_gap, length);
   }
   return summary;
 }
@@ -27,20 +43,22 @@ TrcMarkerSummary Summarize(const TRCMarker& marker) {
 
 TrcSummary SummarizeTrc(const TRCDocument& document) {
   TrcSummary summary;
+  auto gaps = document.Gaps();
+  summary.markers.reserve(gaps.size());
   for (const TRCMarker& marker : document.markers()) {
     summary.frames = std::max(summary.frames, marker.SampleCount());
-    summary.markers.push_back(Summarize(marker));
-    for (const TRCPosition& position : marker.Positions()) Include(position, summary.bounds);
+    summary.markers.push_back(
+        Summarize(marker.SampleCount(), std::move(gaps[summary.markers.size()])));
   }
+  summary.bounds = BoundsOf(document);
   if (document.DataRate() > 0) {
     summary.length_seconds = static_cast<double>(summary.frames) / document.DataRate();
   }
   return summary;
 }
 
-std::vector<TRCMarker::Gap> LongestGaps(const TRCMarker& marker, std::size_t most) {
-  const auto all = marker.Gaps();
-  std::vector<TRCMarker::Gap> gaps(all.begin(), all.end());
+std::vector<TRCMarker::Gap> LongestGaps(const TrcMarkerSummary& marker, std::size_t most) {
+  std::vector<TRCMarker::Gap> gaps = marker.gaps;
   const auto is_longer = [](const TRCMarker::Gap& left, const TRCMarker::Gap& right) {
     return left.end - left.begin > right.end - right.begin;
   };

@@ -14,8 +14,9 @@
 namespace orvane {
 
 struct TrcMarkerSummary {
-  std::size_t present = 0;      // samples that are no dropouts
-  std::size_t longest_gap = 0;  // dropouts in a row
+  std::size_t present = 0;           // samples that are no dropouts
+  std::size_t longest_gap = 0;       // dropouts in a row
+  std::vector<TRCMarker::Gap> gaps;  // in order
 };
 
 struct TrcSummary {
@@ -32,7 +33,8 @@ struct TrcSummary {
 [[nodiscard]] TrcSummary SummarizeTrc(const TRCDocument& document);
 
 // The `most` longest gaps of `marker`, the longest first, and as they come of one length.
-[[nodiscard]] std::vector<TRCMarker::Gap> LongestGaps(const TRCMarker& marker, std::size_t most);
+[[nodiscard]] std::vector<TRCMarker::Gap> LongestGaps(const TrcMarkerSummary& marker,
+                                                      std::size_t most);
 
 // The part of `frames` that `marker` is present in, 0 to 1; 0 when there are none.
 // REQUIRES: `frames` are those of the file, so that `marker` is present in no more.

@@ -94,7 +94,7 @@ FrameArray WorldRotations(const HtrDocument& document, RotationForm form) {
   const FormWriter& writer = kWriters[static_cast<std::size_t>(form)];
   return ValuesOf(document, PoseParts::kPositionsAndRotations, writer.numbers,
                   [&writer](const PoseWalk& walk, std::size_t entry, double* row) {
-                    writer.write(walk.WorldRotationOf(entry), row);
+                    writer.write(walk.WorldRotationOf(entry).Matrix(), row);
                   });
 }
 

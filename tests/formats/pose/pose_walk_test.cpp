@@ -58,11 +58,11 @@ TEST(PoseWalkTest, InTheWorldASegmentIsTurnedByAllThatItHangsFrom) {
   spine->AddFrame({}, Vector3{0, 0, 45 * kRadiansPerDegree}, 1);
   PoseWalk walk(ListHierarchy(document), PoseParts::kPositionsAndRotations);
   walk.MoveTo(0);
-  const orvane::EulerRotation world(walk.WorldRotationOf(1));
+  const orvane::EulerRotation world(walk.WorldRotationOf(1).Matrix());
   EXPECT_NEAR(world[0], 0, 1e-12);
   EXPECT_NEAR(world[1], 0, 1e-12);
   EXPECT_NEAR(world[2], 135 * kRadiansPerDegree, 1e-12);
-  EXPECT_NEAR(orvane::EulerRotation(walk.WorldRotationOf(0))[2], 90 * kRadiansPerDegree, 1e-12);
+  EXPECT_NEAR(orvane::EulerRotation(walk.WorldRotationOf(0).Matrix())[2], 90 * kRadiansPerDegree, 1e-12);
 }
 
 TEST(PoseWalkTest, ARotationIsTheBaseTimesTheFrameAgainstTheParent) {

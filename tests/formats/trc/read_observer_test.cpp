@@ -65,7 +65,7 @@ TEST(TRCReadObserver, ChangesNothingInWhatIsRead) {
   Recorder recorder;
   EXPECT_EQ(document.ReadBytes(TwoFrames().Text() + "3\t0\tx\t1\t1\t4\t5\n", false, &recorder), "");
   EXPECT_EQ(document.MarkerAt(0)->SampleCount(), 3u);
-  EXPECT_EQ(document.MarkerAt(1)->Positions().back().y, 5.0);
+  EXPECT_EQ(document.MarkerAt(1)->PositionAt(2)[1], 5.0);
 }
 
 TEST(TRCReadObserver, HearsOfTheFileTypeLine) {

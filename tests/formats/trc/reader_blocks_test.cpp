@@ -54,8 +54,9 @@ std::string TextOf(const TRCDocument& document) {
   for (const TRCMarker& marker : document.markers()) {
     text << '\n' << marker.Name() << ' ' << marker.SampleCount();
     for (const TRCMarker::Gap& gap : marker.Gaps()) text << ' ' << gap.begin << '-' << gap.end;
-    for (const TRCPosition& at : marker.Positions()) {
-      text << ' ' << at.x << ' ' << at.y << ' ' << at.z;
+    for (std::size_t index = 0; index < marker.SampleCount(); ++index) {
+      const double* const at = marker.PositionAt(index);
+      if (at != nullptr) text << ' ' << at[0] << ' ' << at[1] << ' ' << at[2];
     }
   }
   return text.str();
