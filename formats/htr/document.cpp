@@ -7,6 +7,7 @@ namespace orvane {
 void HtrDocument::Clear() {
   by_name_.clear();
   segments_.clear();
+  HtrFrameBlock().swap(*frames_);
   expected_ = 0;
   calibration_units_ = kMillimeters;
   rotation_units_ = kDegrees;
@@ -26,6 +27,7 @@ HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
     segments_.pop_back();
     return nullptr;
   }
+  stored.frames_.Share(frames_);
   stored.name_.Watch(names_changed_);
   return &stored;
 }

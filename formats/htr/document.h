@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <deque>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -68,6 +69,9 @@ class HtrDocument {
   HtrSegment* FindRootSegment();
   std::vector<std::string> GetSegmentNames() const;
 
+  // Makes room for so many frames of all segments together, one segment after the other.
+  void ReserveFrames(std::size_t count) { frames_->reserve(count); }
+
   // Multiplies every segment's base translation, bone length and the translations of its first
   // NumFrames frames. Angles and scales stay.
   void ScaleLengths(double factor);
@@ -79,6 +83,7 @@ class HtrDocument {
   [[nodiscard]] bool IsExpected(std::string_view name) const;
 
   std::deque<HtrSegment> segments_;
+  std::shared_ptr<HtrFrameBlock> frames_ = std::make_shared<HtrFrameBlock>();  // of the segments
   std::uint32_t calibration_units_ = 0;
   std::uint32_t rotation_units_ = 0;
   std::uint32_t bone_length_axis_ = 1;

@@ -13,14 +13,12 @@ namespace orvane {
 
 class MotionLines {
  public:
-  // Both must outlive this.
-  MotionLines(HtrDocument& document, HtrOddities& oddities)
-      : document_(document), oddities_(oddities) {}
+  // Of a file of so many bytes. The others must outlive this.
+  MotionLines(HtrDocument& document, HtrOddities& oddities, std::size_t size)
+      : document_(document), oddities_(oddities), size_(size) {}
 
   // The section of the segment `name` begins.
   void Enter(std::string_view name);
-  // A section ends, if there is one.
-  void Leave();
 
   // Reads a line of the current section; angles are in a unit of so many `radians`.
   void Read(std::string_view line, double radians);
@@ -28,15 +26,13 @@ class MotionLines {
  private:
   void TellFrame(std::string_view line);
   void CheckNumbers(std::string_view line) const;
-  void TakeStartFrame(std::int32_t frame_number);
-  void ReserveFor(std::string_view line);
+  void TakeStartFrame(std::string_view line);
 
   HtrDocument& document_;
   HtrOddities& oddities_;
+  const std::size_t size_;
 
   HtrSegment* segment_ = nullptr;  // of the current section; null for an unknown name
-  std::size_t frames_before_section_ = 0;
-  std::size_t frames_in_last_section_ = 0;
   bool first_frame_read_ = false;
   TransformRow row_;
 };

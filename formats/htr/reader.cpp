@@ -67,7 +67,7 @@ class HtrReader {
         most_links_(std::max(kLinksAlwaysMade, size)),
         read_motion_(read_motion),
         oddities_(observer),
-        motion_(document, oddities_) {}
+        motion_(document, oddities_, size) {}
 
   std::string Read();
 
@@ -156,7 +156,6 @@ std::string HtrReader::ReadLine(const Line& line) {
 }
 
 void HtrReader::EnterSection(std::string_view name) {
-  motion_.Leave();
   TellSection(name);
   switch (SectionOf(name)) {
     case HtrSection::kHeader:
@@ -303,7 +302,6 @@ std::string HtrReader::ReadBasePositionLine(std::string_view line) {
 }
 
 std::string HtrReader::Finish() {
-  motion_.Leave();
   if (state_ == State::kStoppedBeforeMotion || segments_awaited_ == 0) return {};
   oddities_.Report(HtrOddity::kRefusedBasePositionCount, oddities_.EndOfLine());
   return kIncorrectSegmentCount;

@@ -1,17 +1,13 @@
 #include "formats/htr/segment.h"
 
 #include <algorithm>
+#include <array>
 #include <unordered_set>
 
 #include "formats/math/rotation_matrix3.h"
 
 namespace orvane {
 namespace {
-
-template <typename Three>
-std::array<double, 3> Components(const Three& three) {
-  return {three[0], three[1], three[2]};
-}
 
 template <typename Three>
 void Scale(Three& three, double factor) {
@@ -48,29 +44,29 @@ void HtrSegment::AddFrame(const Vector3& translation, const Vector3& angles, dou
   AddFrame(translation, EulerRotation(angles.x(), angles.y(), angles.z()), scale);
 }
 
-void HtrSegment::KeepOrderCode(std::uint32_t code) {
-  if (frames_.empty()) {
+void HtrSegment::KeepOtherOrderCode(std::uint32_t code) {
+  if (frames_.Count() == 0) {
     order_code_ = code;
     order_codes_.clear();
   }
   if (code == order_code_ && order_codes_.empty()) return;
-  order_codes_.resize(frames_.size(), order_code_);
+  order_codes_.resize(frames_.Count(), order_code_);
   order_codes_.push_back(code);
 }
 
 void HtrSegment::AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale) {
   KeepOrderCode(rotation.order().code());
-  frames_.push_back(
-      {.translation = Components(translation), .angles = Components(rotation), .scale = scale});
+  frames_.Append({translation[0], translation[1], translation[2], rotation[0], rotation[1],
+                  rotation[2], scale});
 }
 
 double HtrSegment::GetFrameScale(std::size_t index) const {
-  return index < GetNumFrames() ? frames_[index].scale : 1.0;
+  return index < GetNumFrames() ? frames_[index][6] : 1.0;
 }
 
 bool HtrSegment::SetFrameTranslation(std::size_t index, double x, double y, double z) {
   if (index >= GetNumFrames()) return false;
-  frames_[index].translation = {x, y, z};
+  std::ranges::copy(std::array{x, y, z}, frames_[index].begin());
   return true;
 }
 
@@ -90,7 +86,7 @@ void HtrSegment::ScaleLengths(double factor, std::size_t frame_count) {
   Scale(base_translation_, factor);
   bone_length_ *= factor;
   const std::size_t count = std::min(frame_count, GetNumFrames());
-  for (std::size_t index = 0; index < count; ++index) Scale(frames_[index].translation, factor);
+  for (std::size_t index = 0; index < count; ++index) Scale(frames_[index], factor);
 }
 
 }  // namespace orvane

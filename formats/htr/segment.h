@@ -1,6 +1,5 @@
 #pragma once
 
-#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -8,6 +7,7 @@
 #include <utility>
 #include <vector>
 
+#include "formats/htr/frames.h"
 #include "formats/math/euler_rotation.h"
 #include "formats/math/vector.h"
 #include "formats/text/watched_name.h"
@@ -58,24 +58,29 @@ class HtrSegment {
   double GetScaleReferenceLength() const { return scale_reference_length_; }
   void SetScaleReferenceLength(double length) { scale_reference_length_ = length; }
 
-  std::size_t GetNumFrames() const { return frames_.size(); }
+  std::size_t GetNumFrames() const { return frames_.Count(); }
   // Makes room for `count` frames in all.
-  void ReserveFrames(std::size_t count) { frames_.reserve(count); }
-  // Appends one frame; `angles` x, y, z in the default Euler order.
+  void ReserveFrames(std::size_t count) { frames_.Reserve(count); }
+  // Appends one frame; its angles are in the default Euler order. Segments of a document share a
+  // block: the first frame of one behind which another has got frames takes time for all that it
+  // holds.
+  void AddFrame(const HtrFrame& frame) {
+    KeepOrderCode(EulerRotation::DefaultOrderCode());
+    frames_.Append(frame);
+  }
   void AddFrame(const Vector3& translation, const Vector3& angles, double scale);
   void AddFrame(const Vector3& translation, const EulerRotation& rotation, double scale);
 
   // The frame as stored. At or past the end: zero, and 1 for the scale.
   Vector3 GetFrameTranslation(std::size_t index) const {
     if (index >= GetNumFrames()) return Vector3();
-    const auto& [x, y, z] = frames_[index].translation;
-    return Vector3(x, y, z);
+    const HtrFrame& frame = frames_[index];
+    return Vector3(frame[0], frame[1], frame[2]);
   }
   EulerRotation GetFrameRotation(std::size_t index) const {
     if (index >= GetNumFrames()) return EulerRotation();
-    const Frame& frame = frames_[index];
-    return EulerRotation(frame.angles[0], frame.angles[1], frame.angles[2],
-                         OrvaneEulerOrder(OrderCode(index)));
+    const HtrFrame& frame = frames_[index];
+    return EulerRotation(frame[3], frame[4], frame[5], OrvaneEulerOrder(OrderCode(index)));
   }
   double GetFrameScale(std::size_t index) const;
   // Returns false, changing nothing, at or past the end.
@@ -94,20 +99,16 @@ class HtrSegment {
  private:
   friend class HtrDocument;
 
-  // Plain numbers, since a document holds millions of them: as the objects that they are handed out
-  // as they would take half as much memory again.
-  struct Frame {
-    std::array<double, 3> translation;
-    std::array<double, 3> angles;
-    double scale;
-  };
-
   // REQUIRES: there is such a frame.
   [[nodiscard]] std::uint32_t OrderCode(std::size_t index) const {
     return order_codes_.empty() ? order_code_ : order_codes_[index];
   }
   // Of the frame that is added next.
-  void KeepOrderCode(std::uint32_t code);
+  void KeepOrderCode(std::uint32_t code) {
+    if (frames_.Count() > 0 && code == order_code_ && order_codes_.empty()) return;
+    KeepOtherOrderCode(code);
+  }
+  void KeepOtherOrderCode(std::uint32_t code);
 
   bool is_root_ = false;
   WatchedName name_;  // the owning document watches it
@@ -117,7 +118,7 @@ class HtrSegment {
   EulerRotation base_rotation_;
   double bone_length_ = 0.0;
   double scale_reference_length_ = 1.0;
-  std::vector<Frame> frames_;
+  HtrSegmentFrames frames_;
   std::uint32_t order_code_ = 0;            // of all frames, while they share it
   std::vector<std::uint32_t> order_codes_;  // of each; empty while they share one
 };

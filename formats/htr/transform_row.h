@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string_view>
 
+#include "formats/htr/frames.h"
 #include "formats/math/vector.h"
 #include "formats/text/number_row.h"
 #include "formats/text/tokens.h"
@@ -24,6 +25,16 @@ class TransformRow {
   // In radians, when the file's unit is as many.
   Vector3 Angles(double radians) const { return VectorAt(3, radians); }
   double LengthOrScale() const { return NumberOrZero(numbers_[6]); }
+
+  // All of them; angles are in a unit of so many `radians`.
+  HtrFrame Frame(double radians) const {
+    HtrFrame frame;
+    for (std::size_t index = 0; index < kNumbers; ++index) {
+      const bool is_angle = index >= 3 && index < 6;
+      frame[index] = NumberOrZero(numbers_[index]) * (is_angle ? radians : 1.0);
+    }
+    return frame;
+  }
 
   // Whether all are there, each a number that is finite in single precision, and nothing else.
   [[nodiscard]] bool IsOrdinary() const { return is_ordinary_; }

@@ -35,6 +35,7 @@ class OrvaneEulerRotation final : public OrvaneRotation<T> {
   virtual void SetDefaultOrder(const OrvaneEulerOrder& order) { default_order_ = order; }
   virtual void SetDefaultOrder(std::uint32_t code) { default_order_ = OrvaneEulerOrder(code); }
   virtual OrvaneEulerOrder& DefaultOrder() { return default_order_; }
+  [[nodiscard]] static std::uint32_t DefaultOrderCode() { return default_order_.code(); }
 
   const OrvaneEulerOrder& order() const { return order_; }
 
