@@ -1,5 +1,11 @@
 #include "formats/htr/document.h"
 
+#include <algorithm>
+#include <limits>
+#include <tuple>
+#include <utility>
+
+#include "formats/array/array_too_large.h"
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -58,6 +64,47 @@ std::vector<std::string> HtrDocument::GetSegmentNames() const {
   names.reserve(segments_.size());
   for (const HtrSegment& segment : segments_) names.push_back(segment.name_.Get());
   return names;
+}
+
+HtrFramesView HtrDocument::FramesView() {
+  std::size_t most = 0;
+  for (const HtrSegment& segment : segments_) most = std::max(most, segment.GetNumFrames());
+  if (!AreFramesAligned(most)) AlignFrames(most);
+  constexpr std::size_t kNumbers = std::tuple_size_v<HtrFrame>;
+  return {most == 0 ? nullptr : frames_->front().data(), segments_.size(), most, kNumbers * most,
+          kNumbers};
+}
+
+// Whether the segments are as far from each other in their block as `most` frames take, of which
+// those that a segment lacks are not of another: they come from AlignFrames.
+bool HtrDocument::AreFramesAligned(std::size_t most) const {
+  if (frames_->size() < most * segments_.size()) return false;
+  std::size_t begin = 0;
+  for (const HtrSegment& segment : segments_) {
+    if (!segment.frames_.BeginAt(frames_, begin)) return false;
+    begin += most;
+  }
+  return true;
+}
+
+void HtrDocument::AlignFrames(std::size_t most) {
+  std::uint64_t held = 0;
+  for (const HtrSegment& segment : segments_) held += segment.GetNumFrames();
+  RequireProportion(sizeof(HtrFrame) * std::uint64_t{most} * segments_.size(),
+                    sizeof(HtrFrame) * held);
+  HtrFrame missing;
+  missing.fill(std::numeric_limits<double>::quiet_NaN());
+  auto aligned = std::make_shared<HtrFrameBlock>(most * segments_.size(), missing);
+  std::size_t begin = 0;
+  for (HtrSegment& segment : segments_) {
+    const std::size_t count = segment.GetNumFrames();
+    for (std::size_t index = 0; index < count; ++index) {
+      (*aligned)[begin + index] = std::as_const(segment.frames_)[index];
+    }
+    segment.frames_ = HtrSegmentFrames(aligned, begin, count);
+    begin += most;
+  }
+  frames_ = std::move(aligned);
 }
 
 void HtrDocument::ScaleLengths(double factor) {

@@ -9,6 +9,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "formats/htr/frames_view.h"
 #include "formats/htr/segment.h"
 
 // A motion file in memory: the settings of its header and its segments in file order. Reading and
@@ -72,6 +73,13 @@ class HtrDocument {
   // Makes room for so many frames of all segments together, one segment after the other.
   void ReserveFrames(std::size_t count) { frames_->reserve(count); }
 
+  // All frames as an array. The first time, or when something was added since, it may take time and
+  // memory for all of them, as it does when segments hold different numbers of frames. From then on
+  // the same array is handed out, until segments or frames are added, or the document is cleared,
+  // read or gone. Setting and scaling translations changes it in place. Throws ArrayTooLarge,
+  // changing nothing, when few segments hold many frames and many hold few.
+  [[nodiscard]] HtrFramesView FramesView();
+
   // Multiplies every segment's base translation, bone length and the translations of its first
   // NumFrames frames. Angles and scales stay.
   void ScaleLengths(double factor);
@@ -80,6 +88,8 @@ class HtrDocument {
 
  private:
   void RefreshNames();
+  [[nodiscard]] bool AreFramesAligned(std::size_t most) const;
+  void AlignFrames(std::size_t most);
   [[nodiscard]] bool IsExpected(std::string_view name) const;
 
   std::deque<HtrSegment> segments_;

@@ -34,6 +34,11 @@ class HtrSegmentFrames {
   const HtrFrame& operator[](std::size_t index) const { return (*block_)[begin_ + index]; }
   HtrFrame& operator[](std::size_t index) { return (*block_)[begin_ + index]; }
 
+  // Whether they begin at frame `begin` of `block`.
+  [[nodiscard]] bool BeginAt(const std::shared_ptr<HtrFrameBlock>& block, std::size_t begin) const {
+    return block_ == block && begin_ == begin;
+  }
+
   // Has frames of a segment that holds none so far go to `block`.
   void Share(const std::shared_ptr<HtrFrameBlock>& block) {
     if (count_ == 0) block_ = block;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <memory>
 
+#include "formats/array/array_too_large.h"
 #include "formats/units/units.h"
 
 namespace orvane {
@@ -61,6 +62,33 @@ void TRCDocument::JoinColumns() {
     markers_[column].block_ = block;
     markers_[column].column_ = column;
   }
+}
+
+TRCPointsView TRCDocument::PointsView() {
+  if (markers_.empty()) return {};
+  if (!SharesBlock() || !markers_.front().block_->IsWhole()) {
+    RequireProportionOfPoints();
+    JoinColumns();
+  }
+  const TRCSampleBlock& block = *markers_.front().block_;
+  const std::size_t stride = TRCSampleBlock::kCoordinates;
+  return {block.RowCount() == 0 ? nullptr : block.Numbers(),
+          block.RowCount(),
+          markers_.size(),
+          stride * markers_.size(),
+          stride,
+          block.Measured()};
+}
+
+void TRCDocument::RequireProportionOfPoints() const {
+  constexpr std::uint64_t kSample = TRCSampleBlock::kCoordinates * sizeof(double);
+  std::uint64_t frames = 0;
+  for (const TRCMarker& marker : markers_) {
+    frames = std::max<std::uint64_t>(frames, marker.SampleCount());
+  }
+  std::uint64_t positions = 0;
+  VisitPositions([&positions](std::size_t, std::size_t, const double*) { ++positions; });
+  RequireProportion(kSample * frames * markers_.size(), kSample * positions);
 }
 
 std::vector<std::vector<TRCMarker::Gap>> TRCDocument::Gaps() const {

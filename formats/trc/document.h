@@ -10,6 +10,7 @@
 
 #include "formats/text/byte_source.h"
 #include "formats/trc/marker.h"
+#include "formats/trc/points_view.h"
 #include "formats/trc/read_observer.h"
 
 // A marker file in memory: the values of its header, and its markers in the order of their columns.
@@ -86,6 +87,14 @@ class TRCDocument {
   // that way from the beginning. REQUIRES: there is a marker.
   TRCSampleBlock& ShareBlock();
 
+  // All samples as an array. The first time, or when something was appended since, it may take time
+  // and memory for all of them: lines of the file that were shorter than others are filled up, and
+  // markers that have fewer samples than others get dropouts. From then on the same array is
+  // handed out, until markers or samples are added, or the document is reset, read or gone. Setting
+  // samples and scaling change it in place. Throws ArrayTooLarge, changing nothing, for a document
+  // that is nearly empty.
+  [[nodiscard]] TRCPointsView PointsView();
+
   // The gaps of all markers, in their order, as TRCMarker::Gaps tells them.
   [[nodiscard]] std::vector<std::vector<TRCMarker::Gap>> Gaps() const;
 
@@ -117,6 +126,7 @@ class TRCDocument {
   void RefreshNames();
   [[nodiscard]] bool SharesBlock() const;
   void JoinColumns();
+  void RequireProportionOfPoints() const;
 
   std::deque<TRCMarker> markers_;
   std::int32_t units_ = 0;

@@ -47,6 +47,13 @@ class TRCSampleBlock {
     return IsMeasured(sample) ? numbers_.data() + kCoordinates * sample : nullptr;
   }
 
+  // Whether every row holds all columns, so that the numbers are an array of rows by columns by
+  // three, all three NaN in dropouts, or 0 in those that were scaled.
+  [[nodiscard]] bool IsWhole() const { return held_rows_ == row_count_ && starts_.IsEmpty(); }
+  [[nodiscard]] const double* Numbers() const { return numbers_.data(); }
+  // A bit for each sample of those rows, the lowest of a word first: whether it is a position.
+  [[nodiscard]] const std::uint64_t* Measured() const { return measured_.data(); }
+
   // Calls `visit` with row, column and x, y, z of each position, row after row.
   template <typename Visit>
   void VisitPositions(Visit visit) const {
