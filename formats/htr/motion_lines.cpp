@@ -34,6 +34,18 @@ void MotionLines::Read(std::string_view line, double radians) {
   if (is_watched && !row_.IsOrdinary()) CheckNumbers(line);
 }
 
+bool MotionLines::ReadAhead(LineReader& lines, double radians) {
+  if (segment_ == nullptr || !first_frame_read_) return false;
+  const std::size_t size = row_.ReadFrame(lines.Ahead());
+  if (size == 0) return false;
+  Line line;
+  lines.Take(size, line);
+  oddities_.PassLine(line);
+  if (oddities_.Observer() != nullptr) TellFrame(line.text);
+  segment_->AddFrame(row_.Frame(radians));
+  return true;
+}
+
 void MotionLines::TellFrame(std::string_view line) {
   const std::string_view number = TakeFirstToken(line);
   oddities_.Observer()->OnFrame(oddities_.CellOf(number));

@@ -20,6 +20,9 @@ class MotionLines {
   // The section of the segment `name` begins.
   void Enter(std::string_view name);
 
+  // Reads the next of `lines` and returns true, if it is one that holds a frame of the current
+  // section and nothing that is odd. All others are left where they are.
+  [[nodiscard]] bool ReadAhead(LineReader& lines, double radians);
   // Reads a line of the current section; angles are in a unit of so many `radians`.
   void Read(std::string_view line, double radians);
 

@@ -117,7 +117,9 @@ class HtrReader {
 std::string HtrReader::Read() {
   document_.Clear();
   Line line;
-  while (!HasEnded() && lines_.Next(line)) {
+  while (!HasEnded()) {
+    if (state_ == State::kMotion && motion_.ReadAhead(lines_, angle_factor_)) continue;
+    if (!lines_.Next(line)) break;
     std::string message = ReadLine(line);
     if (!message.empty()) return message;
   }

@@ -51,6 +51,23 @@ class LineReader {
   // Puts the next line or piece into `line` and returns true, or returns false at the end.
   [[nodiscard]] bool Next(Line& line);
 
+  // What has been read behind the current line; nothing while that has pieces left. Lives as long
+  // as the current line.
+  [[nodiscard]] std::string_view Ahead() const {
+    return content_.empty() && !has_break_ ? rest_ : std::string_view();
+  }
+  // As Next, for those who have looked ahead: puts the first `size` bytes of Ahead into `line`, of
+  // which the last is a line feed, with no more than one carriage return before it. REQUIRES: they
+  // are no more than the longest piece, and none of them is another line feed or a NUL.
+  void Take(std::size_t size, Line& line) {
+    size_ = size - 1;
+    carriage_returns_ = size_ > 0 && rest_[size_ - 1] == '\r' ? 1 : 0;
+    line = {rest_.substr(0, size_ - carriage_returns_), true, ++number_, 0, carriage_returns_};
+    content_ = {};
+    is_broken_ = true;
+    rest_.remove_prefix(size);
+  }
+
   // The place behind the last byte. REQUIRES: Next has returned false.
   [[nodiscard]] LinePlace End() const {
     if (is_broken_) return {number_ + 1, 1};

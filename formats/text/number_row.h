@@ -75,8 +75,8 @@ class NumberRow {
       }
       double number = kNoNumber;
       const bool is_looked_at =
-          end != begin && (end < kShortDecimalReach ||
-                           !ReadShortDecimal(text + begin, text + end, decimals, number));
+          end != begin && (end < kLongerDecimalReach ||
+                           !ReadDecimalOfRow(text + begin, text + end, decimals, number));
       if (is_looked_at) {
         is_ordinary &= number_row::ReadCell(line.substr(begin, end - begin), end, decimals, number);
       }

@@ -13,6 +13,8 @@ namespace orvane {
 namespace short_decimal {
 
 inline constexpr std::array<double, 9> kPowersOfTen = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+inline constexpr std::array<Word, 9> kWholePowersOfTen = {
+    1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
 inline constexpr std::array<double, 2> kSigns = {1.0, -1.0};
 
 // The bytes of the last so many characters of a word.
@@ -74,7 +76,32 @@ inline constexpr std::size_t kLongerDecimalReach = 2 * kCharactersPerWord + 1;
 
 // The same of 9 to 16 digits, of which no more than eight are on either side of the point.
 // REQUIRES: kLongerDecimalReach characters may be read.
-[[nodiscard]] bool ReadLongerDecimal(const char* begin, const char* end, std::size_t decimals,
-                                     double& value);
+[[nodiscard]] inline bool ReadLongerDecimal(const char* begin, const char* end,
+                                            std::size_t decimals, double& value) {
+  namespace parts = short_decimal;
+  constexpr Word kLargestExactInteger = Word{1} << 53U;
+  const std::size_t minus = *begin == '-' ? 1 : 0;
+  const std::size_t digits = static_cast<std::size_t>(end - begin) - minus - 1;
+  if (digits - 1 >= 2 * kCharactersPerWord || digits < decimals) return false;
+  if (digits - decimals > kCharactersPerWord) return false;
+  const char* const point = end - 1 - decimals;
+  if (*point != '.') return false;
+  const Word behind = parts::DigitsIn(LoadWord(end - kCharactersPerWord), decimals);
+  const Word before = parts::DigitsIn(LoadWord(point - kCharactersPerWord), digits - decimals);
+  if (!parts::AreDigits(behind) || !parts::AreDigits(before)) return false;
+  const Word number =
+      parts::ValueOf(before) * parts::kWholePowersOfTen[decimals] + parts::ValueOf(behind);
+  if (number > kLargestExactInteger) return false;
+  value = parts::kSigns[minus] *
+          (static_cast<double>(static_cast<std::int64_t>(number)) / parts::kPowersOfTen[decimals]);
+  return true;
+}
+
+// The same of one or the other.
+[[nodiscard]] inline bool ReadDecimalOfRow(const char* begin, const char* end, std::size_t decimals,
+                                           double& value) {
+  return ReadShortDecimal(begin, end, decimals, value) ||
+         ReadLongerDecimal(begin, end, decimals, value);
+}
 
 }  // namespace orvane

@@ -34,6 +34,13 @@ inline constexpr std::size_t kCharactersPerWord = 8;
   return ~(((difference & kLowBits) + kLowBits) | difference | kLowBits);
 }
 
+// The highest bit of each byte that is less than `character`, which is none of the last 128.
+[[nodiscard]] constexpr Word MarksBelow(char character, Word word) {
+  constexpr Word kLowBits = WordOf('\x7F');
+  const Word sum = (word & kLowBits) + (WordOf('\x7F') - WordOf(character) + WordOf('\x01'));
+  return ~(sum | word | kLowBits);
+}
+
 // The marks of the eight bytes as eight bits, that of the first byte lowest.
 [[nodiscard]] constexpr Word GatherMarks(Word marks) {
   return ((marks >> 7U) * Word{0x0102040810204080}) >> 56U;

@@ -176,5 +176,38 @@ TEST(Lines, OfBlocksLieTogetherInAllTheirPieces) {
   EXPECT_EQ(third.text, "c");
 }
 
+TEST(Lines, AreTheSameWhenLookedAtAhead) {
+  const std::string text = "first\r\nsecond\n\nlast";
+  LineReader whole(text);
+  LineReader ahead(text);
+  Line expected;
+  Line line;
+  ASSERT_TRUE(ahead.Next(line));
+  ASSERT_TRUE(whole.Next(expected));
+  EXPECT_EQ(ahead.Ahead(), "second\n\nlast");
+  for (const std::size_t size : {7U, 1U}) {
+    ahead.Take(size, line);
+    ASSERT_TRUE(whole.Next(expected));
+    EXPECT_EQ(line.text, expected.text);
+    EXPECT_EQ(line.number, expected.number);
+    EXPECT_EQ(line.ends_with_break, expected.ends_with_break);
+    EXPECT_EQ(line.carriage_returns, expected.carriage_returns);
+    EXPECT_EQ(ahead.End().column, whole.End().column);
+  }
+  ASSERT_TRUE(ahead.Next(line));
+  EXPECT_EQ(line.text, "last");
+  EXPECT_EQ(line.number, 4U);
+  EXPECT_FALSE(ahead.Next(line));
+}
+
+TEST(Lines, AreNotAheadOfPiecesOfTheLineBefore) {
+  LineReader lines("abcdef\nnext\n", 4);
+  Line line;
+  ASSERT_TRUE(lines.Next(line));
+  EXPECT_EQ(lines.Ahead(), "");
+  ASSERT_TRUE(lines.Next(line));
+  EXPECT_EQ(lines.Ahead(), "next\n");
+}
+
 }  // namespace
 }  // namespace orvane
