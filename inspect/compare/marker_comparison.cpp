@@ -1,9 +1,13 @@
 #include "inspect/compare/marker_comparison.h"
 
+#include <algorithm>
 #include <cassert>
 #include <cmath>
+#include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <unordered_map>
+#include <vector>
 
 #include "formats/units/units.h"
 
@@ -27,12 +31,12 @@ class Trajectory {
  public:
   // `skipped` frames come before the first one wanted.
   Trajectory(const TRCMarker& marker, std::int64_t skipped, double millimeters_per_unit)
-      : marker_(marker),
+      : marker_(&marker),
         next_(static_cast<std::size_t>(std::max<std::int64_t>(skipped, 0))),
         millimeters_per_unit_(millimeters_per_unit) {}
 
   [[nodiscard]] bool Next(TRCPosition& position) {
-    const bool is_measured = marker_.GetSample(next_++, position.x, position.y, position.z);
+    const bool is_measured = marker_->GetSample(next_++, position.x, position.y, position.z);
     position.x *= millimeters_per_unit_;
     position.y *= millimeters_per_unit_;
     position.z *= millimeters_per_unit_;
@@ -40,7 +44,7 @@ class Trajectory {
   }
 
  private:
-  const TRCMarker& marker_;
+  const TRCMarker* marker_;
   std::size_t next_;
   double millimeters_per_unit_;
 };
@@ -61,11 +65,18 @@ class MarkerComparer {
     result_.only_frames = FramesOfOneAlone(frames_a, frames_b);
     result_.frame_rate_differs = a_.DataRate() != b_.DataRate();
     MatchMarkers();
+    ComparePairs();
     SumUp();
     return std::move(result_);
   }
 
  private:
+  struct Pair {
+    Trajectory a;
+    Trajectory b;
+    std::size_t marker;  // in the result
+  };
+
   void MatchMarkers() {
     const MarkersByName of_a = NamesOf(a_);
     const MarkersByName of_b = NamesOf(b_);
@@ -74,7 +85,7 @@ class MarkerComparer {
       if (other == of_b.end()) {
         result_.only_markers.push_back({WhichFile::kA, marker.Name()});
       } else {
-        result_.markers.push_back({marker.Name(), Compare(marker, *other->second)});
+        AddPair(marker, *other->second);
       }
     }
     for (const TRCMarker& marker : b_.markers()) {
@@ -83,16 +94,23 @@ class MarkerComparer {
     }
   }
 
-  MarkerDifference Compare(const TRCMarker& in_a, const TRCMarker& in_b) const {
-    MarkerDifference difference;
-    if (!result_.frames) return difference;
-    const FrameSpan& frames = *result_.frames;
-    Trajectory a(in_a, frames.first - a_.FirstFrame(), MillimetersPerUnit(a_));
-    Trajectory b(in_b, frames.first - b_.FirstFrame(), MillimetersPerUnit(b_));
-    for (std::int64_t frame = frames.first; frame <= frames.last; ++frame) {
-      CompareSamples(a, b, frame, difference);
+  void AddPair(const TRCMarker& in_a, const TRCMarker& in_b) {
+    result_.markers.push_back({in_a.Name(), {}});
+    if (!result_.frames) return;
+    const std::int64_t first = result_.frames->first;
+    pairs_.push_back({Trajectory(in_a, first - a_.FirstFrame(), MillimetersPerUnit(a_)),
+                      Trajectory(in_b, first - b_.FirstFrame(), MillimetersPerUnit(b_)),
+                      result_.markers.size() - 1});
+  }
+
+  // Frame by frame, as documents hold their samples.
+  void ComparePairs() {
+    if (!result_.frames) return;
+    for (std::int64_t frame = result_.frames->first; frame <= result_.frames->last; ++frame) {
+      for (Pair& pair : pairs_) {
+        CompareSamples(pair.a, pair.b, frame, result_.markers[pair.marker].difference);
+      }
     }
-    return difference;
   }
 
   void CompareSamples(Trajectory& a, Trajectory& b, std::int64_t frame,
@@ -131,6 +149,7 @@ class MarkerComparer {
   const TRCDocument& b_;
   const double tolerance_mm_;
   MarkerComparison result_;
+  std::vector<Pair> pairs_;
 };
 
 }  // namespace
