@@ -36,6 +36,7 @@ command node                                      nodejs
 command npm                                       npm
 command man                                       man-db
 command groff                                     groff-base
+path    /usr/lib/python3*/ensurepip/__init__.py   python3-venv
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
 path    /usr/share/i18n/locales/de_DE             locales
 '
@@ -126,6 +127,20 @@ need_node_modules() {
   [[ node_modules/.package-lock.json -nt package-lock.json ]] && return
   echo "dev: installing the packages of package-lock.json below node_modules/"
   npm ci --ignore-scripts --no-audit --no-fund --loglevel=error
+}
+
+# Other programs' readers of our files that are packages of Python. Tests that want them are skipped
+# where they cannot be had.
+need_reader_packages() {
+  local folder=build-readers list=tests/readers/requirements.txt
+  [[ $folder/.ready -nt $list ]] && return
+  echo "dev: installing the packages of $list below $folder/"
+  if /usr/bin/python3 -m venv --clear "$folder" &&
+    "$folder/bin/pip" install --quiet --disable-pip-version-check --requirement "$list"; then
+    touch "$folder/.ready"
+  else
+    echo "dev: they cannot be installed; the tests that read our files with them are skipped" >&2
+  fi
 }
 
 # A locale with a decimal comma, for the tests that no locale changes a number.

@@ -40,7 +40,7 @@ void AddPoints(C3dParameterSection& section, const C3dPlan& plan, const C3dSaid&
   section.AddWords("DATA_START", "Block of the first frame", {data_block});
   section.AddWords("FRAMES", "Number of frames, 65535 at most",
                    {std::min(plan.frame_count, kMostC3dWord)});
-  if (plan.frame_count > kMostC3dWord) {
+  if (HasLongC3dFrames(plan)) {
     section.AddFloat("LONG_FRAMES", "Number of frames", static_cast<float>(plan.frame_count));
   }
   AddList(section, "LABELS", "Names of markers", {plan.labels.begin(), plan.labels.end()});

@@ -13,6 +13,12 @@ inline constexpr std::uint32_t kMostC3dWord = 0xFFFF;
 inline constexpr float kC3dScale = -1.0F;               // below 0: coordinates are real numbers
 inline constexpr std::uint32_t kC3dParameterBlock = 2;  // blocks count from 1
 
+// Whether 16 bits cannot tell how many frames there are: readers take 65535 for no number, and go
+// by parameters, or read to the end of the file.
+[[nodiscard]] inline bool HasLongC3dFrames(const C3dPlan& plan) {
+  return plan.frame_count >= kMostC3dWord;
+}
+
 // How the file is told, beside what its plan says already.
 struct C3dSaid {
   std::string_view unit;

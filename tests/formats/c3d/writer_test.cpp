@@ -179,16 +179,21 @@ TEST(C3dWriterTest, MoreFramesThanTheHeaderCountsStandInParameters) {
   const std::size_t data = std::size_t{512} * (WordAt(bytes, 16) - 1);
   // 69,999 in single precision.
   EXPECT_EQ(bytes.substr(data + 16 * (kFrames - 1), 4), Literal("\x80\xB7\x88\x47"));
-  EXPECT_EQ(bytes.size() % 512, 0U);
+  EXPECT_EQ(bytes.size(), data + 16 * kFrames);
 }
 
-TEST(C3dWriterTest, SixtyFiveThousandFramesNeedNoMoreThanTheHeader) {
-  TRCDocument document;
-  TRCMarker* head = document.AddMarker(TRCMarker("Head"));
-  for (int frame = 0; frame < 65'535; ++frame) head->AppendPosition(0, 0, 0);
-  const std::string bytes = BytesOf(document);
-  EXPECT_EQ(WordAt(bytes, 8), 65'535U);
-  EXPECT_EQ(bytes.find("LONG_FRAMES"), std::string::npos);
+// Readers take 65535 for no number.
+TEST(C3dWriterTest, FramesAreCountedTwiceFrom65535On) {
+  for (const int count : {65'534, 65'535}) {
+    TRCDocument document;
+    TRCMarker* head = document.AddMarker(TRCMarker("Head"));
+    for (int frame = 0; frame < count; ++frame) head->AppendPosition(0, 0, 0);
+    const std::string bytes = BytesOf(document);
+    EXPECT_EQ(WordAt(bytes, 8), static_cast<unsigned int>(count));
+    EXPECT_EQ(bytes.find("LONG_FRAMES") != std::string::npos, count == 65'535);
+    // The same readers would take what fills a block up for frames.
+    EXPECT_EQ(bytes.size() % 512, count == 65'535 ? 496U : 0U);
+  }
 }
 
 TEST(C3dWriterTest, WhatAMarkerHasNoSampleForIsAGap) {
