@@ -3,8 +3,7 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-
-#include "formats/c3d/plan.h"
+#include <vector>
 
 // Which parameters a file has. Belongs to the writer.
 namespace orvane {
@@ -15,18 +14,21 @@ inline constexpr std::uint32_t kC3dParameterBlock = 2;  // blocks count from 1
 
 // Whether 16 bits cannot tell how many frames there are: readers take 65535 for no number, and go
 // by parameters, or read to the end of the file.
-[[nodiscard]] inline bool HasLongC3dFrames(const C3dPlan& plan) {
-  return plan.frame_count >= kMostC3dWord;
+[[nodiscard]] inline bool IsBeyondC3dWord(std::uint32_t frame_count) {
+  return frame_count >= kMostC3dWord;
 }
 
-// How the file is told, beside what its plan says already.
-struct C3dSaid {
+struct C3dParameters {
+  std::vector<std::string_view> labels;  // of all markers
+  std::uint32_t frame_count = 0;
+  std::uint32_t first_frame = 1;  // its number
+  float frames_per_second = 0.0F;
+  std::string_view rate;  // the same as text, exactly
   std::string_view unit;
-  std::string_view rate;  // as text
-  std::uint32_t vertical_axis = kAxisY;
+  std::string_view vertical_axis;  // X, Y or Z
 };
 
 // The bytes of all parameters, whole blocks; it may be too many of them.
-[[nodiscard]] std::string MakeC3dParameters(const C3dPlan& plan, const C3dSaid& said);
+[[nodiscard]] std::string MakeC3dParameters(const C3dParameters& parameters);
 
 }  // namespace orvane

@@ -146,9 +146,14 @@ std::optional<C3dRefusal> Planner::MeasureMarker(const TRCMarker& marker) {
 
 std::optional<C3dRefusal> Planner::PlanParameters() {
   const std::string rate = options_.rate ? options_.rate->text : FormatInt(document_.DataRate());
-  const auto unit = static_cast<std::uint32_t>(document_.Units());
-  plan_.parameters =
-      MakeC3dParameters(plan_, {CalibrationUnitsName(unit), rate, options_.vertical_axis});
+  plan_.parameters = MakeC3dParameters(
+      {.labels = {plan_.labels.begin(), plan_.labels.end()},
+       .frame_count = plan_.frame_count,
+       .first_frame = plan_.first_frame,
+       .frames_per_second = static_cast<float>(plan_.frames_per_second),
+       .rate = rate,
+       .unit = CalibrationUnitsName(static_cast<std::uint32_t>(document_.Units())),
+       .vertical_axis = AxisName(options_.vertical_axis)});
   const std::size_t size = plan_.parameters.size();
   if (size <= kMostC3dParameterBytes) return std::nullopt;
   return C3dRefusal{Reason::kNamesTooLong, size, kMostC3dParameterBytes, nullptr, 0};

@@ -16,7 +16,7 @@ namespace orvane {
 
 struct C3dOptions {
   // In place of the document's whole number of frames a second, and as text that says it exactly,
-  // such as "59.94" or "60000/1001".
+  // such as "59.94" or "60000/1001". REQUIRES: the text has 255 bytes at most.
   struct Rate {
     double frames_per_second = 0.0;
     std::string text;

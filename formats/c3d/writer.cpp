@@ -75,7 +75,7 @@ void PutFrames(const C3dPlan& plan, TextBuffer& bytes) {
 
 // Up to a full block, as old readers read them; but nothing that would be read as a frame.
 void PutPadding(const C3dPlan& plan, TextBuffer& bytes) {
-  if (HasLongC3dFrames(plan)) return;
+  if (IsBeyondC3dWord(plan.frame_count)) return;
   const std::size_t size = plan.markers.size() * kSampleBytes * plan.frame_count;
   const std::size_t over = size % kC3dBlock;
   if (over != 0) bytes.Put(std::string(kC3dBlock - over, '\0'));
