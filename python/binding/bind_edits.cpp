@@ -63,6 +63,7 @@ std::unique_ptr<Take> Made(const Take& take, const Make& make) {
   auto made = std::make_unique<Take>();
   made->reading().rate = take.reading().rate;
   make(take.document(), made->document());
+  made->Settle("<edited>");
   return made;
 }
 

@@ -38,6 +38,7 @@ std::unique_ptr<MarkerTake> ReadMarkers(const nb::bytes& name, const std::option
   auto take = std::make_unique<MarkerTake>();
   take->reading() = Read(input, check, take->document());
   if (code) ConvertLengths(take->document(), *code);
+  take->Settle(input.Name());
   return take;
 }
 
@@ -51,23 +52,18 @@ TextList NamesOf(const MarkerTake& take) {
 std::vector<std::vector<Gap>> GapsOf(const MarkerTake& take) {
   std::vector<std::vector<Gap>> all;
   all.reserve(take.document().MarkerCount());
-  const std::size_t frames = FrameCountOf(take.document());
-  for (const TRCMarker& marker : take.document().markers()) {
+  for (const std::vector<TRCMarker::Gap>& own : take.document().Gaps()) {
     std::vector<Gap>& gaps = all.emplace_back();
-    gaps.reserve(marker.Gaps().size() + 1);
-    for (const TRCMarker::Gap& gap : marker.Gaps()) gaps.emplace_back(gap.begin, gap.end);
-    if (marker.SampleCount() < frames) gaps.emplace_back(marker.SampleCount(), frames);
+    gaps.reserve(own.size());
+    for (const TRCMarker::Gap& gap : own) gaps.emplace_back(gap.begin, gap.end);
   }
   return all;
 }
 
 VectorView PointsOf(const nb::object& self) {
-  const auto& take = nb::cast<const MarkerTake&>(self);
-  {
-    const nb::gil_scoped_release unlocked;
-    (void)take.Points();
-  }
-  return ViewVectors(take.Points(), 0, self);
+  const orvane::TRCPointsView& points = nb::cast<const MarkerTake&>(self).Points();
+  return ViewVectors(points.points, {points.frames, points.frame_stride},
+                     {points.markers, points.marker_stride}, self);
 }
 
 bool IsGap(const double* point) {
@@ -109,6 +105,7 @@ std::unique_ptr<MarkerTake> MakeMarkers(const Points& points, const std::vector<
   for (std::size_t index = 0; index < names.size(); ++index) {
     AddMarker(BytesOf(names[index]), index, points, document);
   }
+  take->Settle("<points>");
   return take;
 }
 

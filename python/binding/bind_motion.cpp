@@ -31,6 +31,7 @@ std::unique_ptr<MotionTake> ReadMotion(const nb::bytes& name, const std::optiona
   auto take = std::make_unique<MotionTake>();
   take->reading() = Read(input, check, take->document());
   if (code) ConvertLengths(take->document(), *code);
+  take->Settle(input.Name());
   return take;
 }
 
@@ -63,19 +64,21 @@ nb::typed<nb::list, Base> BasesOf(const MotionTake& take) {
   });
 }
 
-const FrameArray& ValuesOf(const nb::object& self) {
-  const auto& take = nb::cast<const MotionTake&>(self);
-  const nb::gil_scoped_release unlocked;
-  return take.Values();
+const orvane::HtrFramesView& ValuesOf(const nb::object& self) {
+  return nb::cast<const MotionTake&>(self).Values();
 }
 
 template <std::size_t kPlace>
 VectorView VectorsOf(const nb::object& self) {
-  return ViewVectors(ValuesOf(self), kPlace, self);
+  const orvane::HtrFramesView& values = ValuesOf(self);
+  return ViewVectors(At(values.numbers, kPlace), {values.frames, values.frame_stride},
+                     {values.segments, values.segment_stride}, self);
 }
 
 ScalarView ScalesOf(const nb::object& self) {
-  return ViewScalars(ValuesOf(self), MotionTake::kScale, self);
+  const orvane::HtrFramesView& values = ValuesOf(self);
+  return ViewScalars(At(values.numbers, MotionTake::kScale), {values.frames, values.frame_stride},
+                     {values.segments, values.segment_stride}, self);
 }
 
 }  // namespace

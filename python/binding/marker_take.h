@@ -1,16 +1,13 @@
 #pragma once
 
-#include <memory>
-#include <mutex>
-#include <optional>
+#include <string>
 
 #include "formats/trc/document.h"
-#include "inspect/report/report.h"
-#include "inspect/summary/frame_rate.h"
-#include "python/binding/frame_array.h"
+#include "formats/trc/points_view.h"
 #include "python/binding/reading.h"
 
-// A marker file in Python's hands. Nothing of it changes once it is made, so any thread may ask it.
+// A marker file in Python's hands. Nothing of it changes once it is settled, so any thread may ask
+// it.
 
 namespace binding {
 
@@ -24,15 +21,17 @@ class MarkerTake {
   [[nodiscard]] Reading& reading() { return reading_; }
   [[nodiscard]] const Reading& reading() const { return reading_; }
 
-  // x, y and z of every frame of every marker, NaN in gaps: made when it is asked for first. It
-  // lives as long as this. Needs no lock of the interpreter.
-  [[nodiscard]] const FrameArray& Points() const;
+  // Ends the making: from now on its points may be asked for. Throws a FileRefusal about `path`
+  // when hardly anything would be in an array of them. Needs no lock of the interpreter.
+  void Settle(const std::string& path);
+
+  // x, y and z of every frame of every marker, NaN in gaps, in the memory of the document.
+  [[nodiscard]] const orvane::TRCPointsView& Points() const { return points_; }
 
  private:
   orvane::TRCDocument document_;
   Reading reading_;
-  mutable std::once_flag made_;
-  mutable std::optional<FrameArray> points_;
+  orvane::TRCPointsView points_;
 };
 
 // Frames of the longest marker.

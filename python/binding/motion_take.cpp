@@ -3,37 +3,18 @@
 #include <algorithm>
 #include <unordered_map>
 
-namespace binding {
-namespace {
+#include "formats/array/array_too_large.h"
 
+namespace binding {
 using orvane::HtrDocument;
 using orvane::HtrSegment;
 
-void CopySegment(const HtrSegment& segment, std::size_t name, FrameArray& values) {
-  for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
-    const orvane::Vector3 translation = segment.GetFrameTranslation(frame);
-    const orvane::EulerRotation rotation = segment.GetFrameRotation(frame);
-    double* const row = values.Row(frame, name);
-    for (unsigned axis = 0; axis < 3; ++axis) {
-      row[MotionTake::kTranslation + axis] = translation[axis];
-      row[MotionTake::kAngles + axis] = rotation[axis];
-    }
-    row[MotionTake::kScale] = segment.GetFrameScale(frame);
+void MotionTake::Settle(const std::string& path) {
+  try {
+    values_ = document_.FramesView();
+  } catch (const orvane::ArrayTooLarge& error) {
+    throw TooLarge(path, error);
   }
-}
-
-FrameArray ValuesOf(const HtrDocument& document) {
-  FrameArray values(FrameCountOf(document), document.segments().size(), MotionTake::kNumbers);
-  std::size_t name = 0;
-  for (const HtrSegment& segment : document.segments()) CopySegment(segment, name++, values);
-  return values;
-}
-
-}  // namespace
-
-const FrameArray& MotionTake::Values() const {
-  std::call_once(made_, [this] { values_.emplace(ValuesOf(document_)); });
-  return *values_;
 }
 
 std::size_t FrameCountOf(const HtrDocument& document) {

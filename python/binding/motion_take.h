@@ -1,26 +1,25 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
-#include <mutex>
-#include <optional>
+#include <string>
 #include <vector>
 
 #include "formats/htr/document.h"
-#include "inspect/report/report.h"
-#include "python/binding/frame_array.h"
+#include "formats/htr/frames_view.h"
 #include "python/binding/reading.h"
 
-// A motion file in Python's hands. Nothing of it changes once it is made, so any thread may ask it.
+// A motion file in Python's hands. Nothing of it changes once it is settled, so any thread may ask
+// it.
 
 namespace binding {
 
 class MotionTake {
  public:
-  // Where the numbers of a frame stand in a row of Values().
+  // Where the numbers of a frame stand in Values().
   static constexpr std::size_t kTranslation = 0;
   static constexpr std::size_t kAngles = 3;
   static constexpr std::size_t kScale = 6;
-  static constexpr std::size_t kNumbers = 7;
 
   MotionTake() = default;
 
@@ -30,16 +29,18 @@ class MotionTake {
   [[nodiscard]] Reading& reading() { return reading_; }
   [[nodiscard]] const Reading& reading() const { return reading_; }
 
+  // Ends the making: from now on its values may be asked for. Throws a FileRefusal about `path`
+  // when hardly anything would be in an array of them. Needs no lock of the interpreter.
+  void Settle(const std::string& path);
+
   // Translation, angles and scale of every frame of every segment, as the file has them, NaN in
-  // frames that the segment lacks: made when it is asked for first. It lives as long as this. Needs
-  // no lock of the interpreter.
-  [[nodiscard]] const FrameArray& Values() const;
+  // frames that the segment lacks, in the memory of the document.
+  [[nodiscard]] const orvane::HtrFramesView& Values() const { return values_; }
 
  private:
   orvane::HtrDocument document_;
   Reading reading_;
-  mutable std::once_flag made_;
-  mutable std::optional<FrameArray> values_;
+  orvane::HtrFramesView values_;
 };
 
 // Frames of the longest segment.

@@ -9,7 +9,6 @@
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/frame_span.h"
-#include "python/binding/file_error.h"
 
 namespace binding {
 namespace {
@@ -128,6 +127,14 @@ Reading Read(const Input& input, bool check, TRCDocument& document) {
 
 Reading Read(const Input& input, bool check, HtrDocument& document) {
   return ReadInto(input, check, document);
+}
+
+FileRefusal TooLarge(const std::string& path, const orvane::ArrayTooLarge& error) {
+  return {path,
+          "An array of its frames would take " + Megabytes(error.NeededBytes()) + " for " +
+              Megabytes(error.HeldBytes()) +
+              " of numbers: more than 8 times as much, and more than 512 MB",
+          "array-too-large"};
 }
 
 }  // namespace binding

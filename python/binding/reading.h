@@ -2,11 +2,14 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 
+#include "formats/array/array_too_large.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
 #include "inspect/report/report.h"
 #include "inspect/summary/frame_rate.h"
+#include "python/binding/file_error.h"
 #include "python/binding/input.h"
 
 // Reads files into documents. Nothing here needs the lock of the interpreter.
@@ -24,5 +27,8 @@ struct Reading {
 // be out of proportion.
 [[nodiscard]] Reading Read(const Input& input, bool check, orvane::TRCDocument& document);
 [[nodiscard]] Reading Read(const Input& input, bool check, orvane::HtrDocument& document);
+
+// That the document of the file `path` makes no array.
+[[nodiscard]] FileRefusal TooLarge(const std::string& path, const orvane::ArrayTooLarge& error);
 
 }  // namespace binding

@@ -129,3 +129,10 @@ def test_a_notebook_gets_a_table_with_bars():
     html = read_text(trc_text(ROWS, names=("<A>", "B")))._repr_html_()
     assert html.count("<progress") == 2
     assert "&lt;A&gt;" in html and "66.7 %" in html
+
+
+def test_frames_of_lines_that_end_early_are_gaps():
+    take = read_text(trc_text([["1", "2", "3"], [], ["1", "2", "3", "4", "5", "6"]]))
+    assert np.isnan(take.points[0, 1]).all() and np.isnan(take.points[1]).all()
+    np.testing.assert_array_equal(take.points[2], [[1, 2, 3], [4, 5, 6]])
+    assert take.gaps["B"] == ((1, 2),)

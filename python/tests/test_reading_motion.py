@@ -69,3 +69,11 @@ def test_a_motion_tells_of_itself_in_one_line():
     motion = read_text(htr_text([ROOT, CHILD]))
     assert repr(motion) == "<Motion '<bytes>': 2 segments, 2 frames at 60 per second, mm>"
     assert "50 %" in motion._repr_html_()
+
+
+def test_a_motion_without_frames_has_empty_arrays():
+    motion = read_text(htr_text([[], []]))
+    assert motion.translations.shape == (0, 2, 3)
+    assert motion.scales.shape == (0, 2)
+    assert motion.world_positions().shape == (0, 2, 3)
+    assert motion.times.shape == (0,)
