@@ -4,6 +4,8 @@
 # By its path: the first python3 of a search path may be another than Debian's.
 readonly wheel_python=/usr/bin/python3
 readonly wheel_folder=build-python
+# What has CMake build the package too, by the tools that wheel_venv installs.
+readonly with_python=(-DORVANE_BUILD_PYTHON=ON -DPython_EXECUTABLE="$PWD/$wheel_folder/tools/bin/python")
 
 # wheel_venv NAME REQUIREMENTS: a virtual environment below the folder, with these packages of PyPI.
 wheel_venv() {
@@ -31,7 +33,7 @@ make_wheel_of_archive() {
 # make_wheel_of_build BUILD: the wheel, of the objects of a build.
 make_wheel_of_build() {
   local tools=$PWD/$wheel_folder/tools/bin/python
-  cmake -S . -B "$1" -DORVANE_BUILD_PYTHON=ON -DPython_EXECUTABLE="$tools" >/dev/null
+  cmake -S . -B "$1" "${with_python[@]}" >/dev/null
   cmake --build "$1" --target _orvane orvane_stub OrvaneFileIO
   ORVANE_BUILD=$PWD/$1 "$tools" -m pip wheel --quiet --no-deps --no-build-isolation \
     --wheel-dir "$wheel_folder/made" ./python

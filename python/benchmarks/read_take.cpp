@@ -1,11 +1,11 @@
-#include <sys/resource.h>
-
 #include <cstdio>
 #include <ctime>
+#include <fstream>
 #include <string>
 
 #include "formats/htr/document.h"
 #include "formats/text/files.h"
+#include "formats/text/numbers.h"
 #include "formats/trc/document.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
@@ -15,10 +15,14 @@
 
 namespace {
 
-long PeakKilobytes() {
-  struct rusage usage {};
-  getrusage(RUSAGE_SELF, &usage);
-  return usage.ru_maxrss;
+// What the system says of this process' memory: "VmRSS", or "VmHWM" for the most so far.
+long Kilobytes(const std::string& what) {
+  std::ifstream status("/proc/self/status");
+  std::string line;
+  while (std::getline(status, line)) {
+    if (line.starts_with(what)) return orvane::ParseInt(line.substr(what.size() + 1));
+  }
+  return 0;
 }
 
 void Read(const std::string& name) {
@@ -36,10 +40,10 @@ void Read(const std::string& name) {
 
 int main(int argument_count, char** arguments) {
   if (argument_count != 2) return 2;
-  const long before = PeakKilobytes();
+  const long before = Kilobytes("VmRSS");
   const std::clock_t begin = std::clock();
   Read(arguments[1]);
   const auto seconds = static_cast<double>(std::clock() - begin) / CLOCKS_PER_SEC;
-  std::printf("%.4f %ld\n", seconds, PeakKilobytes() - before);
+  std::printf("%.4f %ld\n", seconds, Kilobytes("VmHWM") - before);
   return 0;
 }

@@ -14,7 +14,11 @@ from orvane import _orvane
 from orvane.errors import FileError, MissingFileError
 from orvane.findings import Finding
 
-MODULE = os.path.join(os.path.dirname(os.path.abspath(__file__)), "OrvaneFileIO.so")
+HERE = os.path.dirname(os.path.abspath(__file__))
+# Beside this file in a wheel; Debian's package has that of the program, in /usr/lib/orvane.
+PLACES = (HERE, os.path.join(HERE, *[os.pardir] * 3, "orvane"))
+MODULES = [os.path.normpath(os.path.join(place, "OrvaneFileIO.so")) for place in PLACES]
+MODULE = next(filter(os.path.exists, MODULES), MODULES[0])
 
 INTERRUPTED = 130
 WRONG_USAGE = 2
