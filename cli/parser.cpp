@@ -11,6 +11,7 @@
 #include "cli/import/import_command.h"
 #include "cli/info/info_command.h"
 #include "cli/map/map_command.h"
+#include "cli/rewrite/rewrite_command.h"
 #include "cli/scene/scene_command.h"
 
 namespace cli {
@@ -29,6 +30,7 @@ std::unique_ptr<CLI::App> MakeParser(Work& work) {
   AddExportCommand(*app, work);
   AddInfoCommand(*app, work);
   AddConvertCommand(*app, work);
+  AddRewriteCommand(*app, work);
   AddCheckCommand(*app, work);
   AddCompareCommand(*app, work);
   AddMapCommand(*app, work);

@@ -113,7 +113,7 @@ void AddCheckCommand(CLI::App& app, Work& work) {
             [arguments](const std::string& kind) { arguments->kind = kind; });
   AddStreamName(*verb, arguments->stream_name);
   AddChoice(
-      *verb, "--for", {"import", "apply", "convert", "export"},
+      *verb, "--for", {"import", "apply", "convert", "export", "rewrite"},
       "Tell what the findings mean to that (what is odd in the file alone)",
       [arguments](const std::string& name) { arguments->manner.action = orvane::ActionOf(name); });
   verb->add_option("--select", arguments->selection,

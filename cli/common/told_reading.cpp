@@ -16,7 +16,6 @@
 namespace cli {
 namespace {
 
-using orvane::Action;
 using orvane::CheckedFile;
 using orvane::FileReport;
 using orvane::FrameSpan;
@@ -54,13 +53,15 @@ constexpr char kToldByRefusal[] = "cut-range-outside";
 
 template <typename Document>
 FileReport ReportOnReading(CheckedFile& checked, const Document& document,
-                           const std::optional<FrameSpan>& cut) {
-  orvane::ActionOptions options;
+                           const std::optional<FrameSpan>& cut, const Purpose& purpose) {
+  orvane::ActionOptions options = purpose.options;
   if (cut && checked.refusal.empty() && WhyEmpty(document).empty()) {
     CheckCut(*cut, FramesHeld(document), checked);
     options.frames = orvane::AskedFrames::kHeld;
   }
-  return ReportOn(checked, Action::kInspect, options);
+  FileReport report = ReportOn(checked, purpose.action, options);
+  for (const std::string_view code : purpose.settled) report = report.Without(code);
+  return report;
 }
 
 // As the reader takes the file, it takes what is cut out of it.
@@ -76,10 +77,11 @@ void CutDown(Document& document, const InputFile& file, const FrameSpan& asked) 
 
 template <typename Document>
 FileReport CheckAndTell(Document& document, const InputFile& file, const ReportManner& manner,
-                        std::vector<FileReport> reports, const std::optional<FrameSpan>& cut) {
+                        std::vector<FileReport> reports, const std::optional<FrameSpan>& cut,
+                        const Purpose& purpose) {
   try {
     CheckedFile checked = Check(file, document);
-    reports.push_back(ReportOnReading(checked, document, cut));
+    reports.push_back(ReportOnReading(checked, document, cut, purpose));
     const FileReport told = reports.back().Without(kToldByRefusal);
     Tell(told, manner);
     const std::string why = checked.refusal.empty() ? WhyEmpty(document) : checked.refusal;
@@ -109,10 +111,10 @@ void RequireTaken(const InputFile& file, FileKind kind, const std::string& why) 
 
 FileReport ReadAndTell(HtrDocument& document, const InputFile& file, Motion motion,
                        const ReportManner& manner, std::vector<FileReport> reports,
-                       const std::optional<FrameSpan>& cut) {
+                       const std::optional<FrameSpan>& cut, const Purpose& purpose) {
   FileReport report;
   if (motion == Motion::kRead && !manner.omitted) {
-    report = CheckAndTell(document, file, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file, manner, std::move(reports), cut, purpose);
   } else {
     InputSource source(file);
     const std::string error = orvane::ReadHtrFrom(document, source, motion == Motion::kRead);
@@ -123,10 +125,11 @@ FileReport ReadAndTell(HtrDocument& document, const InputFile& file, Motion moti
 }
 
 FileReport ReadAndTell(TRCDocument& document, const InputFile& file, const ReportManner& manner,
-                       std::vector<FileReport> reports, const std::optional<FrameSpan>& cut) {
+                       std::vector<FileReport> reports, const std::optional<FrameSpan>& cut,
+                       const Purpose& purpose) {
   FileReport report;
   if (!manner.omitted) {
-    report = CheckAndTell(document, file, manner, std::move(reports), cut);
+    report = CheckAndTell(document, file, manner, std::move(reports), cut, purpose);
   } else {
     InputSource source(file);
     const std::string error = document.ReadFrom(source, false);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "cli/common/input_file.h"
@@ -15,6 +16,13 @@
 
 namespace cli {
 
+// What the reading is for, which says what findings mean.
+struct Purpose {
+  orvane::Action action = orvane::Action::kInspect;
+  orvane::ActionOptions options{};
+  std::vector<std::string_view> settled{};  // codes of what is seen to, which are not told
+};
+
 // Reads `file` into `document`, which is empty, tells what is odd in it, and returns that. Throws a
 // Failure when it cannot be read, is refused or holds no segments; the file of reports that
 // `manner` may name then has this one behind the `reports` of files before it. Without its motion
@@ -24,12 +32,14 @@ enum class Motion { kRead, kLeftOut };
 orvane::FileReport ReadAndTell(orvane::HtrDocument& document, const InputFile& file, Motion motion,
                                const ReportManner& manner,
                                std::vector<orvane::FileReport> reports = {},
-                               const std::optional<orvane::FrameSpan>& cut = {});
+                               const std::optional<orvane::FrameSpan>& cut = {},
+                               const Purpose& purpose = {});
 
 // The same of the marker file `file`, which is to hold markers.
 orvane::FileReport ReadAndTell(orvane::TRCDocument& document, const InputFile& file,
                                const ReportManner& manner,
                                std::vector<orvane::FileReport> reports = {},
-                               const std::optional<orvane::FrameSpan>& cut = {});
+                               const std::optional<orvane::FrameSpan>& cut = {},
+                               const Purpose& purpose = {});
 
 }  // namespace cli

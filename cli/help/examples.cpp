@@ -38,6 +38,13 @@ constexpr VerbGuide kGuides[] = {
      "input unless a flag says otherwise. What was converted is listed in a table.",
      {{{"orvane convert walk.trc --mapping walk.mnm -o named.bvk", "one file, by a mapping"},
        {"orvane convert walk.trc --dry-run", "show what would become of it, and write nothing"}}}},
+    {"rewrite",
+     "Makes another HTR or TRC file of one, without a scene: every number is the same to the bit, "
+     "gaps and rates stay, and what readers would wonder about is gone, unless a flag changes it. "
+     "What the new file does not hold is told before.",
+     {{{"orvane rewrite walk.trc -o clean.trc", "the same markers, in a file without oddities"},
+       {"orvane rewrite walk.htr -o short.htr --cut 10:60 --unit cm",
+        "some of its frames, in centimeters"}}}},
     {"check",
      "Names everything that is odd in HTR, TRC and MNM files, and in folders of them, line by "
      "line, with a code that stays the same. The exit status says whether there was a warning.",

@@ -14,7 +14,7 @@
 #include "cli/common/outputs.h"
 #include "cli/common/report.h"
 #include "cli/import/inspection.h"
-#include "cli/map/mapping_output.h"
+#include "cli/common/whole_output.h"
 #include "cli/map/mapping_user.h"
 #include "cli/map/picks_table.h"
 #include "formats/mnm/marker_name_map.h"
@@ -119,7 +119,7 @@ ExitStatus CreateMapping(const MapCreateArguments& arguments) {
   const InputFile input = files.Find(arguments.marker_file, FileKind::kTrc);
   RequireNoInput(arguments.output, {input.path, arguments.picks});
   RequireReportApart(arguments.report, {input.path, arguments.picks}, {arguments.output});
-  MappingOutput output(arguments.output, arguments.force);
+  WholeOutput output(arguments.output, arguments.force);
   PluginSession session(arguments.module, SettingsSource::kFresh);
   const orvane::FileReport report = TellOfMarkers(input, session.scene(), arguments);
   ImportCloud(session, input);

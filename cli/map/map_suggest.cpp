@@ -13,7 +13,7 @@
 #include "cli/common/page_text.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/told_reading.h"
-#include "cli/map/mapping_output.h"
+#include "cli/common/whole_output.h"
 #include "cli/map/suggestion_page.h"
 #include "formats/mnm/marker_name_map.h"
 #include "platform/interrupt.h"
@@ -109,7 +109,7 @@ ExitStatus Suggest(const SuggestArguments& arguments) {
   report.file = input.name;
   report.output = arguments.output;
   RequireReportApart(arguments.report, {input.path}, {report.output});
-  std::optional<MappingOutput> output;
+  std::optional<WholeOutput> output;
   if (!report.output.empty()) {
     RequireNoInput(report.output, {input.path});
     output.emplace(report.output, false, "It is kept; give -o another name.");

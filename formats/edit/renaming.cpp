@@ -9,24 +9,6 @@
 namespace orvane {
 namespace {
 
-// Why no file of segments, or of markers, gives back `name`; null when one does.
-const char* WhyNoSegmentName(std::string_view name) {
-  if (name.empty()) return "a segment needs a name";
-  if (name.find_first_of(std::string_view(" \t\r\n\0#]", 7)) != std::string_view::npos) {
-    return "holds a blank, a tab, a line end, # or ]";
-  }
-  const bool is_special = name == kGlobalParent || SectionOf(name) != HtrSection::kMotion;
-  return is_special || name.front() == '[' ? "means something else in an HTR file" : nullptr;
-}
-
-const char* WhyNoMarkerName(std::string_view name) {
-  if (name.empty()) return "a marker needs a name";
-  if (name.find_first_of(std::string_view("\t\r\n\0", 4)) != std::string_view::npos) {
-    return "holds a tab or a line end";
-  }
-  return name.starts_with("Unnamed") ? "is that of no marker, as it begins with Unnamed" : nullptr;
-}
-
 // Why these names cannot be given; those behind `taken` are the ones that come about.
 std::string WhyNot(const std::vector<std::string>& old, const std::vector<std::string>& others,
                    const char* (*why_no_name)(std::string_view)) {
@@ -46,6 +28,23 @@ std::string NameIn(const std::map<std::string, std::string>& names, const std::s
 }
 
 }  // namespace
+
+const char* WhyNoSegmentName(std::string_view name) {
+  if (name.empty()) return "a segment needs a name";
+  if (name.find_first_of(std::string_view(" \t\r\n\0#]", 7)) != std::string_view::npos) {
+    return "holds a blank, a tab, a line end, # or ]";
+  }
+  const bool is_special = name == kGlobalParent || SectionOf(name) != HtrSection::kMotion;
+  return is_special || name.front() == '[' ? "means something else in an HTR file" : nullptr;
+}
+
+const char* WhyNoMarkerName(std::string_view name) {
+  if (name.empty()) return "a marker needs a name";
+  if (name.find_first_of(std::string_view("\t\r\n\0", 4)) != std::string_view::npos) {
+    return "holds a tab or a line end";
+  }
+  return name.starts_with("Unnamed") ? "is that of no marker, as it begins with Unnamed" : nullptr;
+}
 
 std::string Rename(HtrDocument& document, const std::map<std::string, std::string>& names) {
   const std::vector<std::string> old = document.GetSegmentNames();

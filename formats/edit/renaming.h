@@ -2,12 +2,18 @@
 
 #include <map>
 #include <string>
+#include <string_view>
 
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
 
 // Other names for segments and markers.
 namespace orvane {
+
+// Why no file would give back a segment, or a marker, of the name `name`, in words that follow on
+// it; null when one does.
+[[nodiscard]] const char* WhyNoSegmentName(std::string_view name);
+[[nodiscard]] const char* WhyNoMarkerName(std::string_view name);
 
 // Gives each segment or marker of `document` whose name is a key of `names` the name that it has
 // there, all at once, so that two may change theirs. Names are compared with the case of their

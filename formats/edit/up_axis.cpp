@@ -6,14 +6,16 @@
 namespace orvane {
 namespace {
 
-// The same numbers in other places, so that none of them is rounded.
-Vector3 Turned(const Vector3& place) { return Vector3(place.x(), place.z(), -place.y()); }
+// The same numbers in other places, so that none of them is rounded, and 0 stays 0.
+Vector3 Turned(const Vector3& place) { return Vector3(place.x(), place.z(), 0.0 - place.y()); }
 
 EulerRotation Turned(const EulerRotation& rotation) {
   RotationMatrix3 matrix(rotation);
   for (unsigned axis = 0; axis < 3; ++axis) matrix[axis] = Turned(matrix[axis]);
   EulerRotation turned(0, 0, 0, OrvaneEulerOrder());
-  return turned.Set(matrix);
+  turned.Set(matrix);
+  for (unsigned index = 0; index < 3; ++index) turned[index] += 0.0;  // no -0
+  return turned;
 }
 
 // A frame's rotation stands to the right of the base's, and is turned with it.
@@ -43,7 +45,7 @@ void TurnZUp(TRCDocument& document) {
       double x = 0.0;
       double y = 0.0;
       double z = 0.0;
-      if (marker.GetSample(frame, x, y, z)) (void)marker.SetSample(frame, x, z, -y);
+      if (marker.GetSample(frame, x, y, z)) (void)marker.SetSample(frame, x, z, 0.0 - y);
     }
   }
 }

@@ -17,17 +17,19 @@ enum class Action {
   kApply,    // nodes that are in a scene are keyed with it
   kConvert,  // a marker file becomes a BVK file
   kExport,   // a skeleton of a scene becomes a motion file
+  kRewrite,  // a motion or marker file becomes another file
 };
-inline constexpr std::size_t kActions = 5;
+inline constexpr std::size_t kActions = 6;
 
 // All of them, in their order.
-inline constexpr std::array<Action, kActions> kAllActions = {
-    Action::kInspect, Action::kImport, Action::kApply, Action::kConvert, Action::kExport};
+inline constexpr std::array<Action, kActions> kAllActions = {Action::kInspect, Action::kImport,
+                                                             Action::kApply,   Action::kConvert,
+                                                             Action::kExport,  Action::kRewrite};
 
-// "inspect", "import", "apply", "convert" or "export".
+// "inspect", "import", "apply", "convert", "export" or "rewrite".
 constexpr std::string_view NameOf(Action action) {
   constexpr std::array<std::string_view, kActions> kNames = {"inspect", "import", "apply",
-                                                             "convert", "export"};
+                                                             "convert", "export", "rewrite"};
   return kNames[static_cast<std::size_t>(action)];
 }
 

@@ -6,7 +6,8 @@ namespace {
 using enum FindingSeverity;
 
 constexpr FindingEffects Cut(FindingSeverity severity) {
-  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kConvert},
+  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kConvert,
+                     Action::kRewrite},
           {severity, nullptr}};
 }
 

@@ -11,7 +11,7 @@ WordsByCode Gather() {
   WordsByCode all;
   for (const auto& words :
        {HtrFindingMeanings(), TrcFindingMeanings(), MnmFindingMeanings(), ApplyFindingMeanings(),
-        CutFindingMeanings(), ExportFindingMeanings()}) {
+        CutFindingMeanings(), ExportFindingMeanings(), RewriteFindingMeanings()}) {
     for (const FindingMeaning& each : words) all.emplace(each.code, &each);
   }
   return all;

@@ -37,11 +37,13 @@ class FindingEffects {
     return effects_[static_cast<std::size_t>(action)];
   }
 
-  // The same, but something else to `action`.
+  // The same, but something else to `action`; to a look also to rewriting, which takes what a look
+  // shows: what differs there is said behind it.
   constexpr FindingEffects But(Action action, FindingSeverity severity,
                                const char* consequence = nullptr) const {
     FindingEffects changed = *this;
     changed[action] = {severity, consequence};
+    if (action == Action::kInspect) changed[Action::kRewrite] = changed[action];
     return changed;
   }
 
@@ -55,10 +57,12 @@ class FindingEffects {
 
 // To all that is done with a motion file, a marker file, and a mapping.
 constexpr FindingEffects InMotion(FindingSeverity severity, const char* consequence = nullptr) {
-  return {std::array{Action::kInspect, Action::kImport, Action::kApply}, {severity, consequence}};
+  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kRewrite},
+          {severity, consequence}};
 }
 constexpr FindingEffects InMarkers(FindingSeverity severity, const char* consequence = nullptr) {
-  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kConvert},
+  return {std::array{Action::kInspect, Action::kImport, Action::kApply, Action::kConvert,
+                     Action::kRewrite},
           {severity, consequence}};
 }
 constexpr FindingEffects InMappings(FindingSeverity severity, const char* consequence = nullptr) {
@@ -81,6 +85,14 @@ enum class Concern {
 inline constexpr char kCannotBeSaved[] =
     "It is taken as infinite: a scene that it gets into cannot be saved.";
 
+// What becomes of such a number where a file is written, and of rates, and of frames that the
+// header does not count as they are.
+inline constexpr char kWrittenInfinite[] =
+    "It is taken as infinite, and written as a number that is.";
+inline constexpr char kWrittenAsSaid[] = "It is written as the file says it.";
+inline constexpr char kFramesWritten[] =
+    "The frames that are there are written, and NumFrames says how many.";
+
 // Of a rate that viewers are told, and the host's time does not hold.
 inline constexpr char kShownOwnRate[] = "{scene} Viewers play the rate of the file.";
 
@@ -88,6 +100,11 @@ inline constexpr char kShownOwnRate[] = "{scene} Viewers play the rate of the fi
 constexpr FindingEffects InTime(const FindingEffects& others) {
   return others.But(Action::kImport, FindingSeverity::kNote, kShownOwnRate)
       .But(Action::kApply, FindingSeverity::kWarning, "{scene}");
+}
+
+// A rate that stays what it is in a file that is rewritten.
+constexpr FindingEffects KeptAsSaid(const FindingEffects& others, FindingSeverity severity) {
+  return others.But(Action::kRewrite, severity, kWrittenAsSaid);
 }
 
 // How a code stands to an action that puts a file into a scene, by what viewers are shown of gaps:
@@ -121,6 +138,9 @@ std::span<const FindingMeaning> CutFindingMeanings();
 
 // Those of a skeleton that becomes a motion file.
 std::span<const FindingMeaning> ExportFindingMeanings();
+
+// Those of a file that becomes another one.
+std::span<const FindingMeaning> RewriteFindingMeanings();
 
 // The codes of all findings, sorted.
 std::vector<std::string> AllFindingCodes();

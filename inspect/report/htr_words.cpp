@@ -97,16 +97,22 @@ constexpr FindingMeaning kWords[] = {
      InMotion(kWarning, "Y is taken.")},
     {"htr-axis-ignored", "The axis of gravity is Z", "The axis of gravity is Z, {count} times",
      InMotion(kWarning, "Y is taken for up all the same: the skeleton will lie down.")
-         .But(Action::kInspect, kWarning, "Y is taken for up all the same.")},
+         .But(Action::kInspect, kWarning, "Y is taken for up all the same.")
+         .But(Action::kRewrite, kWarning,
+              "It is written as it is, and Y taken for up; --up z turns the skeleton, and --up y "
+              "says that it stands along Y.")},
     {"htr-rate-cut", "The frame rate has a fraction", "Frame rates have fractions",
-     InTime(InMotion(kWarning)), Concern::kTime},
+     KeptAsSaid(InTime(InMotion(kWarning)), kNote), Concern::kTime},
     {"htr-rate-inexact", "The host has no such frame rate", "The host has no such frame rates",
-     InTime(InMotion(kNote, "It is shown as it is.")), Concern::kTime},
+     KeptAsSaid(InTime(InMotion(kNote, "It is shown as it is.")), kNote), Concern::kTime},
     {"htr-rate-out-of-range", "There is no such frame rate", "There are no such frame rates",
-     InMotion(kWarning).But(Action::kInspect, kWarning, "It is shown as it is."), Concern::kRate},
+     KeptAsSaid(InMotion(kWarning).But(Action::kInspect, kWarning, "It is shown as it is."),
+                kWarning),
+     Concern::kRate},
     {"htr-scale-factor", "ScaleFactor is not 1", nullptr,
      InMotion(kWarning, "Nothing is multiplied by it; --scale multiplies.")
-         .But(Action::kInspect, kWarning, "Nothing is multiplied by it.")},
+         .But(Action::kInspect, kWarning, "Nothing is multiplied by it.")
+         .But(Action::kRewrite, kWarning, "It is written as it is; nothing is multiplied by it.")},
     {"htr-decimal-commas", "Numbers are written with decimal commas", nullptr, InMotion(kWarning)},
     {"htr-cell-empty", "A cell is empty inside a line", "Cells are empty inside {count} lines",
      InMotion(kWarning,
@@ -124,11 +130,13 @@ constexpr FindingMeaning kWords[] = {
     {"htr-number-infinite", "A number is too large", "{count} numbers are too large",
      InMotion(kError, kCannotBeSaved)
          .But(Action::kInspect, kWarning, "It is taken as infinite.")
+         .But(Action::kRewrite, kWarning, kWrittenInfinite)
          .But(Action::kApply, kWarning, kCannotBeSaved),
      Concern::kSaving},
     {"htr-segments-missing", "The file holds no segments", nullptr,
      InMotion(kError, "There is nothing to import.")
-         .But(Action::kInspect, kError, "There is nothing to show.")},
+         .But(Action::kInspect, kError, "There is nothing to show.")
+         .But(Action::kRewrite, kError, "There is nothing to write.")},
     {"htr-tabs-missing", "The file needs {expected}", nullptr,
      InMotion(kError, "The file is refused.")},
     {"htr-name-taken", "Two segments have one name", nullptr,
@@ -144,6 +152,7 @@ constexpr FindingMeaning kWords[] = {
      "The parents of {count} segments are unknown",
      InMotion(kWarning, "A new skeleton goes without such a segment and what hangs from it.")
          .But(Action::kInspect, kWarning, "Such a segment hangs from no root.")
+         .But(Action::kRewrite, kWarning, "Such a segment is written as a root.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-parent-circle", "Segments are their own ancestors",
      "Segments are their own ancestors, in {count} circles",
@@ -153,12 +162,14 @@ constexpr FindingMeaning kWords[] = {
     {"htr-root-missing", "No segment has the parent GLOBAL", nullptr,
      InMotion(kError, "There is nothing that a skeleton could start from.")
          .But(Action::kInspect, kError, "All segments hang from no root.")
+         .But(Action::kRewrite, kWarning, "Segments without a parent are written as roots.")
          .But(Action::kApply, kWarning,
               "Only a bone that is selected itself gets keys, with those below; as a root, it lies "
               "down.")},
     {"htr-root-second", "There is a second root", "There are {count} more roots",
      InMotion(kWarning, "A new skeleton is made of the first root and what hangs from it alone.")
          .But(Action::kInspect, kWarning, "All of them are shown.")
+         .But(Action::kRewrite, kNote, "All of them are written.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-segment-unlinked", "A segment stands behind [BasePosition]",
      "{count} segments stand behind [BasePosition]",
@@ -166,11 +177,13 @@ constexpr FindingMeaning kWords[] = {
          kWarning,
          "Such a segment has no parent: a new skeleton goes without it and what hangs from it.")
          .But(Action::kInspect, kWarning, "Such a segment has no parent, and hangs from no root.")
+         .But(Action::kRewrite, kWarning, "Such a segment has no parent, and is written as a root.")
          .But(Action::kApply, kWarning, kUnreached)},
     {"htr-base-missing", "There is no [BasePosition] before the motion", nullptr,
      InMotion(kError, "No segment has a parent: there is nothing to import.")
          .But(Action::kInspect, kError,
               "No segment has a parent, none is a root, and angles are taken as radians.")
+         .But(Action::kRewrite, kError, "No segment has a parent: there is no skeleton to write.")
          .But(Action::kApply, kWarning,
               "Only a bone that is selected itself gets keys, with angles taken as radians.")},
     {"htr-base-late", "[BasePosition] stands behind motion", nullptr,
@@ -197,23 +210,32 @@ constexpr FindingMeaning kWords[] = {
     {"htr-frame-count", "A segment holds {found}, and NumFrames announces {expected}",
      "{count} segments hold another number of frames than the {expected} that NumFrames announces, "
      "the first one {found}",
-     InMotion(kWarning).But(Action::kInspect, kWarning, "The frames that are there are shown."),
+     InMotion(kWarning)
+         .But(Action::kInspect, kWarning, "The frames that are there are shown.")
+         .But(Action::kRewrite, kWarning,
+              "All that are there are written; a segment that holds fewer than others rests in its "
+              "base position behind them."),
      Concern::kFrames},
     {"htr-frames-unannounced", "The header announces no frames", nullptr,
      InMotion(kError, "The file is refused: its last frame would come before its first.")
          .But(Action::kInspect, kError,
-              "An import refuses the file; the frames that are there are shown.")},
+              "An import refuses the file; the frames that are there are shown.")
+         .But(Action::kRewrite, kWarning,
+              "The frames that are there are written, and without any, one in the base position.")},
     {"htr-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMotion(kError, "It is refused; --range FROM:TO takes a part of them.")
          .But(Action::kInspect, kError,
-              "An import refuses the file; the frames that are there are shown."),
+              "An import refuses the file; the frames that are there are shown.")
+         .But(Action::kRewrite, kWarning, kFramesWritten),
      Concern::kExcess},
     {"htr-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
      InMotion(kWarning, "Frames follow each other as their lines do.")},
     {"htr-motion-missing", "A segment has no motion", "{count} segments have no motion",
      InMotion(kWarning, "In every frame such a segment stands at its parent's origin, unturned.")
-         .But(Action::kInspect, kWarning, "There are no frames of such a segment.")},
+         .But(Action::kInspect, kWarning, "There are no frames of such a segment.")
+         .But(Action::kRewrite, kWarning,
+              "Such a segment rests in its base position in every frame.")},
     {"htr-motion-repeated", "A segment has two sections of motion",
      "{count} segments have several sections of motion",
      InMotion(kWarning, "Their frames follow each other.")},
@@ -225,7 +247,8 @@ constexpr FindingMeaning kWords[] = {
     {"htr-size", "What the file holds would be {found} large", nullptr, InMotion(kNote)},
     {"htr-up-axis", "The file seems to have {found}", nullptr,
      InMotion(kNote, "It is taken as Y up: what stands lies on its side.")
-         .But(Action::kInspect, kNote, "It is taken as Y up.")},
+         .But(Action::kInspect, kNote, "It is taken as Y up.")
+         .But(Action::kRewrite, kNote, "It is taken as Y up; --up z turns it.")},
 };
 
 }  // namespace

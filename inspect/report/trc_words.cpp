@@ -63,18 +63,20 @@ constexpr FindingMeaning kWords[] = {
      InMarkers(kError, "The file is refused.")},
     {"trc-coordinates-refused", "The first line does not name (X/Y/Z)", nullptr,
      InMarkers(kError, "The file is refused.")},
-    {"trc-rate-cut", "The frame rate has a fraction", nullptr, InTime(InMarkers(kWarning)),
-     Concern::kTime},
+    {"trc-rate-cut", "The frame rate has a fraction", nullptr,
+     KeptAsSaid(InTime(InMarkers(kWarning)), kNote), Concern::kTime},
     {"trc-rate-out-of-range", "There is no such frame rate", nullptr,
      InMarkers(kWarning)
          .But(Action::kInspect, kWarning, "It is shown as it is.")
+         .But(Action::kRewrite, kWarning, kWrittenAsSaid)
          .But(Action::kConvert, kNote, "The converted file has it as it is."),
      Concern::kRate},
     {"trc-rate-inexact", "The host has no such frame rate", nullptr,
-     InTime(InMotion(kNote, "It is shown as it is.")), Concern::kTime},
+     KeptAsSaid(InTime(InMotion(kNote, "It is shown as it is.")), kNote), Concern::kTime},
     {"trc-camera-rate-cut", "The rate of the cameras has a fraction", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
          .But(Action::kInspect, kWarning, "Its whole part is shown.")
+         .But(Action::kRewrite, kNote, kWrittenAsSaid)
          .But(Action::kConvert, kWarning, "The converted file tells its whole part.")},
     {"trc-camera-rate", "The camera rate is odd", nullptr,
      InMarkers(kNote, "Nothing depends on it.")
@@ -131,12 +133,15 @@ constexpr FindingMeaning kWords[] = {
     {"trc-markers-missing", "The file holds no markers", nullptr,
      InMarkers(kError, "There is nothing to import.")
          .But(Action::kInspect, kError, "There is nothing to show.")
+         .But(Action::kRewrite, kError, "There is nothing to write.")
          .But(Action::kConvert, kError,
               "Nothing is written; --allow empty writes it without markers."),
      Concern::kMarkers},
     {"trc-marker-count", "The file holds {found}, and NumMarkers announces {expected}", nullptr,
      InMarkers(kNote, "The markers that are there are taken.")
-         .But(Action::kInspect, kWarning, "The markers that are there are shown.")},
+         .But(Action::kInspect, kWarning, "The markers that are there are shown.")
+         .But(Action::kRewrite, kNote,
+              "The markers that are there are written, and NumMarkers says how many.")},
     {"trc-columns-misfit", "The rows have {found}, and the names ask for {expected}", nullptr,
      InMarkers(kWarning, "Values may belong to other markers than those that get them.")},
     {"trc-sub-header-missing", "The line of X1, Y1, Z1 is missing", nullptr,
@@ -154,6 +159,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-number-infinite", "A number is too large", "{count} numbers are too large",
      InMarkers(kError, kCannotBeSaved)
          .But(Action::kInspect, kWarning, "It is taken as infinite.")
+         .But(Action::kRewrite, kWarning, kWrittenInfinite)
          .But(Action::kApply, kWarning, kCannotBeSaved)
          .But(Action::kConvert, kWarning, "It is written in all its digits, or as inf."),
      Concern::kSaving},
@@ -184,6 +190,7 @@ constexpr FindingMeaning kWords[] = {
     {"trc-first-frame", "The frames are numbered {found}, and taken as {expected}", nullptr,
      InMarkers(kWarning)
          .But(Action::kInspect, kWarning, "They are shown as {expected}.")
+         .But(Action::kRewrite, kWarning, "They are written as {expected}.")
          .But(Action::kConvert, kWarning, "They are written as {expected}.")},
     {"trc-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
@@ -192,25 +199,31 @@ constexpr FindingMeaning kWords[] = {
      nullptr,
      InMarkers(kWarning, "The column is not read: frames follow each other at the frame rate.")
          .But(Action::kInspect, kNote,
-              "The column is not read: frames follow each other at the frame rate."),
+              "The column is not read: frames follow each other at the frame rate.")
+         .But(Action::kRewrite, kWarning, "Times are written as the frame rate gives them."),
      Concern::kRate},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
-     InMarkers(kWarning).But(Action::kInspect, kWarning, "The frames that are there are shown."),
+     InMarkers(kWarning)
+         .But(Action::kInspect, kWarning, "The frames that are there are shown.")
+         .But(Action::kRewrite, kWarning, kFramesWritten),
      Concern::kFrames},
     {"trc-frames-unannounced", "The header announces no frames", nullptr,
      InMarkers(kError, "The file is refused: its last frame would come before its first.")
          .But(Action::kInspect, kError,
               "An import refuses the file; the frames that are there are shown.")
-         .But(Action::kConvert, kWarning, "No frame is written.")},
+         .But(Action::kConvert, kWarning, "No frame is written.")
+         .But(Action::kRewrite, kWarning, kFramesWritten)},
     {"trc-frames-too-many", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kError, "It is refused; --range FROM:TO takes a part of them.")
          .But(Action::kInspect, kError,
               "An import refuses the file; the frames that are there are shown.")
-         .But(Action::kConvert, kError, "It is refused."),
+         .But(Action::kConvert, kError, "It is refused.")
+         .But(Action::kRewrite, kWarning, kFramesWritten),
      Concern::kExcess},
     {"trc-marker-gaps", "A marker has gaps", "{count} markers have gaps",
      InGaps(kShownGaps)
          .But(Action::kInspect, kNote, "A marker has no position in its gaps.")
+         .But(Action::kRewrite, kNote, "Gaps stay gaps.")
          .But(Action::kConvert, kNote, "A gap is written as DROPOUT."),
      Concern::kSamples, 0, &kShownGaps},
     {"trc-marker-never-seen", "A marker has no position in any frame",
@@ -232,7 +245,8 @@ constexpr FindingMeaning kWords[] = {
                           "Positions are written as they stand; a BVK file tells no unit.")},
     {"trc-up-axis", "The file seems to have {found}", nullptr,
      InMarkers(kNote, "It is taken as Y up: what stands lies on its side; --up z turns it.")
-         .But(Action::kInspect, kNote, "It is taken as Y up.")},
+         .But(Action::kInspect, kNote, "It is taken as Y up.")
+         .But(Action::kRewrite, kNote, "It is taken as Y up; --up z turns it.")},
 };
 
 }  // namespace

@@ -7,6 +7,8 @@
 #include "formats/text/numbers.h"
 #include "formats/text/tokens.h"
 #include "formats/trc/document.h"
+#include "formats/trc/fields.h"
+#include "formats/trc/line_rules.h"
 #include "formats/trc/outline.h"
 
 namespace orvane {
@@ -63,50 +65,71 @@ std::optional<FrameRate> Reduced(const Decimal& decimal) {
   return FrameRate{rate.numerator / common, rate.denominator / common};
 }
 
+// The number that `text` starts with, as it stands.
+std::string_view NumberIn(std::string_view text) {
+  text = SkipSeparators(text);
+  const char* const end = ReadDouble(text.data(), text.data() + text.size()).end;
+  return text.substr(0, static_cast<std::size_t>(end - text.data()));
+}
+
 class HtrRateObserver final : public HtrReadObserver {
  public:
   void OnOddity(HtrOddity /*oddity*/, const HtrCell& /*cell*/,
                 std::string_view /*field*/) override {}
   void OnHeaderField(const HtrCell& keyword, const HtrCell& value) override {
-    if (keyword.text == "DataFrameRate") rate = ParseFrameRate(value.text);
+    if (keyword.text == "DataFrameRate") rates.data = NumberIn(value.text);
   }
 
-  std::optional<FrameRate> rate;  // the last one
+  RateTexts rates;  // the last ones
 };
 
 class TrcRateObserver final : public TRCReadObserver {
  public:
   void OnOddity(TRCOddity /*oddity*/, TRCPlace /*place*/, std::string_view /*text*/) override {}
   void OnHeaderValue(TRCHeaderValue value, TRCPlace /*place*/, std::string_view text) override {
-    if (value == TRCHeaderValue::kDataRate) rate = ParseFrameRate(text);
+    if (value == TRCHeaderValue::kDataRate) rates.data = NumberIn(text);
+    if (value == TRCHeaderValue::kCameraRate) rates.camera = NumberIn(text);
+  }
+  void OnHeaderLine(std::size_t number, const Line& line) override {
+    if (number != kHeaderValuesLine) return;
+    constexpr int kBeforeOriginalRate = 5;
+    TRCFields fields(line);
+    fields.Drop(kBeforeOriginalRate);
+    rates.original = NumberIn(fields.Get());
   }
   bool WatchesFrames() const override { return false; }
 
-  std::optional<FrameRate> rate;
+  RateTexts rates;
 };
 
 }  // namespace
 
 std::optional<FrameRate> ParseFrameRate(std::string_view text) {
-  text = SkipSeparators(text);
-  const char* const end = ReadDouble(text.data(), text.data() + text.size()).end;
-  const auto decimal = ReadDecimal(text.substr(0, static_cast<std::size_t>(end - text.data())));
+  const auto decimal = ReadDecimal(NumberIn(text));
   return decimal ? Reduced(*decimal) : std::nullopt;
 }
 
-std::optional<FrameRate> FrameRateOfHtr(ByteSource& source) {
+RateTexts RateTextsOfHtr(ByteSource& source) {
   HtrDocument document;
   HtrRateObserver observer;
   // A refusal comes behind the header, or is told by whoever reads the file.
   (void)ReadHtrFrom(document, source, false, &observer);
-  return observer.rate;
+  return observer.rates;
 }
 
-std::optional<FrameRate> FrameRateOfTrc(ByteSource& source) {
+RateTexts RateTextsOfTrc(ByteSource& source) {
   TRCDocument document;
   TrcRateObserver observer;
   (void)document.ReadBytes(TrcHeaderOf(source), false, &observer);
-  return observer.rate;
+  return observer.rates;
+}
+
+std::optional<FrameRate> FrameRateOfHtr(ByteSource& source) {
+  return ParseFrameRate(RateTextsOfHtr(source).data);
+}
+
+std::optional<FrameRate> FrameRateOfTrc(ByteSource& source) {
+  return ParseFrameRate(RateTextsOfTrc(source).data);
 }
 
 }  // namespace orvane

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "formats/text/byte_source.h"
@@ -23,8 +24,21 @@ struct FrameRate {
 // the point that do not fit are left out. Nothing when it is not positive, or does not fit at all.
 [[nodiscard]] std::optional<FrameRate> ParseFrameRate(std::string_view text);
 
-// That of a file whose bytes `source` has, of which no more is read than tells it; nothing when its
-// header has none.
+// The rates that the header of a file says, as the texts of their numbers: "59.94"; empty where it
+// says none. `camera`, and `original`, that of the recording which the file was made of, are those
+// of marker files.
+struct RateTexts {
+  std::string data{};
+  std::string camera{};
+  std::string original{};
+};
+
+// Those of a file whose bytes `source` has, of which no more is read than tells them.
+[[nodiscard]] RateTexts RateTextsOfHtr(ByteSource& source);
+[[nodiscard]] RateTexts RateTextsOfTrc(ByteSource& source);
+
+// The rate of a file whose bytes `source` has, of which no more is read than tells it; nothing when
+// its header has none.
 [[nodiscard]] std::optional<FrameRate> FrameRateOfHtr(ByteSource& source);
 [[nodiscard]] std::optional<FrameRate> FrameRateOfTrc(ByteSource& source);
 

@@ -162,6 +162,8 @@ TEST_P(SaidFindingsTest, AreThoseOfTheCheckAndTheTable) {
 }
 
 const Arguments kToScene = {"-o", "out.glb", "--force"};
+const Arguments kToMotion = {"-o", "out.htr", "--force"};
+const Arguments kToMarkerFile = {"-o", "out.trc", "--force"};
 const Arguments kToMarkers = {"-o", "out.bvk", "--force"};
 
 // Of an import into a scene nothing is left out that a new scene would take.
@@ -188,6 +190,13 @@ INSTANTIATE_TEST_SUITE_P(
             "convert",
             {"convert"},
             kToMarkers},
+        Use{"MotionRewritten", "damage_walk.py", "damages.tsv", "rewrite", {"rewrite"}, kToMotion},
+        Use{"MarkersRewritten",
+            "damage_markers.py",
+            "damages.tsv",
+            "rewrite",
+            {"rewrite"},
+            kToMarkerFile},
         Use{"MarkersShown", "damage_markers.py", "damages.tsv", "inspect", {"info"}, {}},
         Use{"MappingsConvertedWith",
             "damage_markers.py",

@@ -15,6 +15,7 @@
 #include "inspect/report/apply_rules.h"
 #include "inspect/report/cut_rules.h"
 #include "inspect/report/export_rules.h"
+#include "inspect/report/rewrite_rules.h"
 #include "tests/support/files.h"
 
 namespace {
@@ -43,14 +44,18 @@ std::vector<std::pair<FindingRule, Action>> RulesOfScenes() {
   for (const FindingRule& rule : orvane::exporting::kRules) {
     rules.emplace_back(rule, Action::kExport);
   }
+  for (const FindingRule& rule : orvane::rewriting::kRules) {
+    rules.emplace_back(rule, Action::kRewrite);
+  }
   return rules;
 }
 
 std::vector<FindingMeaning> AllWords() {
   std::vector<FindingMeaning> all;
-  for (const auto& words : {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(),
-                            orvane::MnmFindingMeanings(), orvane::ApplyFindingMeanings(),
-                            orvane::CutFindingMeanings(), orvane::ExportFindingMeanings()}) {
+  for (const auto& words :
+       {orvane::HtrFindingMeanings(), orvane::TrcFindingMeanings(), orvane::MnmFindingMeanings(),
+        orvane::ApplyFindingMeanings(), orvane::CutFindingMeanings(),
+        orvane::ExportFindingMeanings(), orvane::RewriteFindingMeanings()}) {
     all.insert(all.end(), words.begin(), words.end());
   }
   return all;

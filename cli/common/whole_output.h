@@ -4,15 +4,16 @@
 
 #include "platform/output_file.h"
 
-// The mapping file that a verb makes: it appears when all is well, and not at all otherwise.
+// A file that a verb makes of bytes in memory: it appears when all is well, and not at all
+// otherwise.
 
 namespace cli {
 
-class MappingOutput {
+class WholeOutput {
  public:
   // Throws a Failure when `path` cannot be made: above all when it exists and `replace` is not set,
   // with `kept_advice` then where that is not empty.
-  MappingOutput(std::string path, bool replace, std::string kept_advice = "");
+  WholeOutput(std::string path, bool replace, std::string kept_advice = "");
 
   // The folder that the file is to lie in.
   [[nodiscard]] std::string Folder() const;

@@ -1,4 +1,4 @@
-#include "cli/map/mapping_output.h"
+#include "cli/common/whole_output.h"
 
 #include <utility>
 
@@ -9,17 +9,17 @@
 
 namespace cli {
 
-MappingOutput::MappingOutput(std::string path, bool replace, std::string kept_advice)
+WholeOutput::WholeOutput(std::string path, bool replace, std::string kept_advice)
     : path_(std::move(path)), kept_advice_(std::move(kept_advice)), file_(path_, replace) {
   RequireNone(file_.WhyImpossible());
 }
 
-std::string MappingOutput::Folder() const {
+std::string WholeOutput::Folder() const {
   const std::string folder = platform::TextOf(platform::PathOf(path_).parent_path());
   return folder.empty() ? "." : folder;
 }
 
-void MappingOutput::Deliver(const std::string& bytes) {
+void WholeOutput::Deliver(const std::string& bytes) {
   platform::HoldInterrupts();
   std::string error = file_.Write(bytes);
   StopIfInterrupted();
@@ -27,7 +27,7 @@ void MappingOutput::Deliver(const std::string& bytes) {
   RequireNone(error);
 }
 
-void MappingOutput::RequireNone(const std::string& error) const {
+void WholeOutput::RequireNone(const std::string& error) const {
   if (error.empty()) return;
   Complaint complaint = ComplainAboutOutput(path_, file_, error);
   if (file_.IsTaken() && !kept_advice_.empty()) complaint.advice = kept_advice_;

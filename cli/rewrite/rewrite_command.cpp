@@ -1,0 +1,200 @@
+#include "cli/rewrite/rewrite_command.h"
+
+#include <CLI/CLI.hpp>
+#include <iostream>
+#include <memory>
+#include <optional>
+
+#include "cli/common/input_files.h"
+#include "cli/common/input_source.h"
+#include "cli/common/outputs.h"
+#include "cli/common/reading_memory.h"
+#include "cli/common/report.h"
+#include "cli/common/told_reading.h"
+#include "cli/common/whole_output.h"
+#include "cli/rewrite/edits.h"
+#include "cli/rewrite/output_formats.h"
+#include "cli/rewrite/rewrite_flags.h"
+#include "cli/rewrite/rewrite_order.h"
+#include "cli/rewrite/rewrite_summary.h"
+#include "formats/text/numbers.h"
+#include "inspect/report/cut_check.h"
+#include "platform/interrupt.h"
+#include "platform/output_stream.h"
+#include "platform/path_text.h"
+
+namespace cli {
+namespace {
+
+using orvane::Action;
+using orvane::FileReport;
+using orvane::HtrDocument;
+using orvane::TRCDocument;
+
+constexpr auto kError = orvane::FindingSeverity::kError;
+
+// What findings mean where some frames alone are taken, and heights are seen to.
+Purpose PurposeOf(const RewriteOrder& order) {
+  Purpose purpose{Action::kRewrite, {}, {}};
+  if (order.cut) purpose.options.frames = orvane::AskedFrames::kHeld;
+  if (order.up) purpose.settled = {"htr-axis-ignored", "htr-up-axis", "trc-up-axis"};
+  return purpose;
+}
+
+FileReport ReadInput(HtrDocument& document, const InputFile& file, const ReportManner& manner,
+                     const Purpose& purpose) {
+  return ReadAndTell(document, file, Motion::kRead, manner, {}, {}, purpose);
+}
+FileReport ReadInput(TRCDocument& document, const InputFile& file, const ReportManner& manner,
+                     const Purpose& purpose) {
+  return ReadAndTell(document, file, manner, {}, {}, purpose);
+}
+
+orvane::RateTexts RatesOf(const HtrDocument& /*document*/, const InputFile& file) {
+  InputSource source(file);
+  return orvane::RateTextsOfHtr(source);
+}
+orvane::RateTexts RatesOf(const TRCDocument& /*document*/, const InputFile& file) {
+  InputSource source(file);
+  return orvane::RateTextsOfTrc(source);
+}
+
+std::int64_t RateIn(const HtrDocument& document) { return document.GetDataFrameRate(); }
+std::int64_t RateIn(const TRCDocument& document) { return document.DataRate(); }
+
+std::size_t PartsIn(const HtrDocument& document) { return document.segments().size(); }
+std::size_t PartsIn(const TRCDocument& document) { return document.MarkerCount(); }
+
+// The place that the output gets, or standard output.
+class RewriteOutput {
+ public:
+  RewriteOutput(const std::string& path, bool replace) {
+    if (path != "-") file_.emplace(path, replace);
+  }
+
+  void Deliver(const std::string& bytes) {
+    if (file_) return file_->Deliver(bytes);
+    const std::string error = platform::WriteToStandardOutput(bytes);
+    if (error.empty()) return;
+    throw Failure{ExitStatus::kInputOutput, {{"standard output", error, ""}}};
+  }
+
+ private:
+  std::optional<WholeOutput> file_;
+};
+
+class Rewriting {
+ public:
+  explicit Rewriting(const RewriteOrder& order)
+      : order_(order), files_({order.input}, order.stream_name), manner_(order.report) {
+    manner_.only_warnings = order.quiet;
+  }
+
+  ExitStatus Run() {
+    platform::CatchInterrupts();
+    const FileKind kind = files_.KindOf(order_.input, order_.kind);
+    format_ = FormatFor(order_, kind);
+    if (order_.json && order_.output == "-") {
+      throw Failure{ExitStatus::kWrongUsage,
+                    {{"--json", "is written to standard output, where the file goes",
+                      "--report FILE.json writes what was found elsewhere."}}};
+    }
+    RequireNoStandardInput(order_.mapping, "A mapping");
+    const InputFile input = files_.Find(order_.input, kind);
+    RequirePlaces(input);
+    RewriteOutput output(order_.output, order_.force);
+    ExpectReading(input.path);
+    if (kind == FileKind::kHtr) {
+      Rewrite<HtrDocument>(input, output);
+    } else {
+      Rewrite<TRCDocument>(input, output);
+    }
+    return ExitStatus::kDone;
+  }
+
+ private:
+  void RequirePlaces(const InputFile& input) const {
+    std::vector<std::string> inputs = {input.path};
+    if (!order_.mapping.empty()) inputs.push_back(order_.mapping);
+    if (order_.output == "-") return RequireReportApart(order_.report, inputs, {});
+    RequireNoInput(order_.output, inputs);
+    RequireReportApart(order_.report, inputs, {order_.output});
+  }
+
+  template <typename Document>
+  void Rewrite(const InputFile& input, RewriteOutput& output) {
+    EditedFile<Document> file{input.name};
+    FileReport report = ReadInput(*file.document, input, manner_, PurposeOf(order_));
+    RequireNoErrors(report, report);
+    file.rates = RatesOf(*file.document, input);
+    const orvane::FrameSpan held = FramesHeld(*file.document);
+    Edit(file, order_);
+    StopIfInterrupted();
+    TellOfEdits(file, held, report);
+    const Document& document = *file.document;
+    const std::string bytes =
+        BytesAs(format_, document, {input.name, NameOfOutput(input), order_.numbers, file.rates});
+    output.Deliver(bytes);
+    const std::string rate =
+        file.rates.data.empty() ? orvane::FormatInt(RateIn(document)) : file.rates.data;
+    Show({input.name, order_.kind.value_or(KindFor(document)), order_.output, PartsIn(document),
+          FramesHeld(document), rate, bytes.size(), !manner_.omitted, std::move(report)});
+  }
+
+  static FileKind KindFor(const HtrDocument& /*document*/) { return FileKind::kHtr; }
+  static FileKind KindFor(const TRCDocument& /*document*/) { return FileKind::kTrc; }
+
+  // Adds what is to be told beside what is odd in the file to its `report`. Throws a Failure when
+  // that is a reason against the work.
+  template <typename Document>
+  void TellOfEdits(const EditedFile<Document>& file, const orvane::FrameSpan& held,
+                   FileReport& report) const {
+    orvane::CheckedFile checked = orvane::CheckRewrite(
+        file.name, KindFor(*file.document) == FileKind::kHtr ? "HTR" : "TRC", file.circumstances);
+    if (order_.cut) CheckCut(*order_.cut, held, checked);
+    const FileReport edits = ReportOn(checked, Action::kRewrite);
+    if (!manner_.omitted) Tell(edits, manner_);
+    report.file = file.name;
+    report.kind = checked.kind;
+    report.action = Action::kRewrite;
+    report.Take(edits);
+    RequireNoErrors(edits, report);
+    WriteReportFile({report}, manner_);
+    if (Forbids(manner_, report)) throw ForbiddenByStrict(manner_, report);
+  }
+
+  // Throws a Failure that says so when there are any in `told`, a part of `report`.
+  void RequireNoErrors(const FileReport& told, const FileReport& report) const {
+    if (told.Count(kError) == 0) return;
+    WriteReportFile({report}, manner_);
+    throw RefusedForErrors(manner_, told, {});
+  }
+
+  // Standard output gets the name of the input.
+  [[nodiscard]] std::string NameOfOutput(const InputFile& input) const {
+    const std::string& path = order_.output == "-" ? input.name : order_.output;
+    return platform::TextOf(platform::PathOf(path).filename());
+  }
+
+  void Show(const RewrittenFile& file) const {
+    if (order_.output == "-") return;
+    if (order_.json) return PrintRewriteJson(file, std::cout);
+    if (!order_.quiet) PrintRewriteSummary(file, std::cout);
+  }
+
+  const RewriteOrder& order_;
+  InputFiles files_;
+  ReportManner manner_;
+  OutputFormat format_ = OutputFormat::kHtr;
+};
+
+}  // namespace
+
+void AddRewriteCommand(CLI::App& app, Work& work) {
+  auto order = std::make_shared<RewriteOrder>();
+  CLI::App* verb = app.add_subcommand("rewrite", "Make another motion or marker file of one");
+  AddRewriteFlags(*verb, *order);
+  verb->callback([order, &work] { work = [order] { return Rewriting(*order).Run(); }; });
+}
+
+}  // namespace cli

@@ -1,0 +1,276 @@
+#include <nlohmann/json.hpp>
+
+#include "formats/htr/reader.h"
+#include "formats/trc/document.h"
+#include "tests/cli/orvane_test.h"
+#include "tests/support/document_bits.h"
+#include "tests/support/replaced_text.h"
+#include "tests/support/trc_text.h"
+
+namespace {
+
+using nlohmann::json;
+using test::BitsOf;
+using test::CodesIn;
+using test::ProgramResult;
+using test::Replaced;
+using test::SmallMotion;
+using test::TrcText;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+
+using Flags = std::vector<std::string>;
+
+class RewriteTest : public test::OrvaneTest {
+ protected:
+  RewriteTest() {
+    TrcText text;
+    text.markers = {"LFHD", "right head"};
+    text.data_rate = "59.94";
+    text.camera_rate = "120";
+    text.units = "cm";
+    text.first_frame = 101;
+    text.frames = {
+        {"10\t170\t5.25", "-10\t170\t5"}, {"10\t171\t0.1", ""}, {"11\t172\t5", "1\t2\t3"}};
+    Write("take.trc", text.Text());
+    Write("take.htr", SmallMotion());
+  }
+
+  ProgramResult Rewrite(const std::string& input, const std::string& output,
+                        const Flags& flags = {}) const {
+    Flags arguments = {"rewrite", input, "-o", output};
+    arguments.insert(arguments.end(), flags.begin(), flags.end());
+    return Orvane(arguments);
+  }
+
+  std::string MarkerBits(const std::string& name) const {
+    orvane::TRCDocument document;
+    EXPECT_EQ(document.ReadBytes(Read(name), false), "");
+    return BitsOf(document);
+  }
+
+  std::string MotionBits(const std::string& name) const {
+    orvane::HtrDocument document;
+    EXPECT_EQ(ReadHtrBytes(document, Read(name), true), "");
+    return BitsOf(document);
+  }
+};
+
+TEST_F(RewriteTest, OfMarkersKeepsEveryNumberGapAndRate) {
+  const ProgramResult result = Rewrite("take.trc", "new.trc");
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(result.output,
+            "Rewritten take.trc\n  Markers   2\n  Frames    101 to 103 at 59.94 frames per second\n"
+            "  File      new.trc (" +
+                std::to_string(Read("new.trc").size()) + " bytes)\n");
+  EXPECT_EQ(MarkerBits("new.trc"), MarkerBits("take.trc"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n59.94\t120\t3\t2\tcm\t59.94\t101\t3\r\n"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t0.016683\t10\t171\t0.1\t\t\t\r\n"));
+}
+
+TEST_F(RewriteTest, OfMotionKeepsEveryNumberAndTheRate) {
+  Write("take.htr", Replaced(SmallMotion(), "Rate 60", "Rate 29.97"));
+  EXPECT_EQ(Rewrite("take.htr", "new.htr").status, 0);
+  EXPECT_EQ(MotionBits("new.htr"), MotionBits("take.htr"));
+  EXPECT_THAT(Read("new.htr"), HasSubstr("\r\nDataFrameRate 29.97\r\n"));
+  EXPECT_THAT(Read("new.htr"), HasSubstr("\r\nSpine\t0\t100\t0\t0\t0\t0\t250.5\r\n"));
+}
+
+TEST_F(RewriteTest, OfWhatWasRewrittenChangesNoByte) {
+  for (const std::string extension : {".trc", ".htr"}) {
+    ASSERT_EQ(Rewrite("take" + extension, "new" + extension).status, 0);
+    ASSERT_EQ(Rewrite("new" + extension, "newer" + extension).status, 0);
+    // The first line of a marker file tells its name.
+    const std::string newer = Read("newer" + extension);
+    const bool is_named = extension == ".trc";
+    EXPECT_EQ(is_named ? Replaced(newer, "newer.trc", "new.trc") : newer, Read("new" + extension));
+  }
+}
+
+TEST_F(RewriteTest, WritesToStandardOutputAndReadsFromStandardInput) {
+  ASSERT_EQ(Rewrite("take.trc", "new.trc").status, 0);
+  test::ProgramRun run = Command({"rewrite", "-", "-o", "-", "--name", "new.trc"});
+  run.input_file = folder_.File("take.trc");
+  const ProgramResult result = RunProgram(run);
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_EQ(result.output, Read("new.trc"));
+  EXPECT_THAT(result.error, HasSubstr("[trc-marker-gaps]"));
+}
+
+TEST_F(RewriteTest, ReplacesNothingUnlessItIsForced) {
+  Write("new.trc", "mine");
+  EXPECT_EQ(Rewrite("take.trc", "new.trc").status, 3);
+  EXPECT_EQ(Read("new.trc"), "mine");
+  EXPECT_EQ(Rewrite("take.trc", "take.trc", {"--force"}).status, 2);
+  EXPECT_EQ(Rewrite("take.trc", "new.trc", {"--force"}).status, 0);
+}
+
+struct Misuse {
+  std::string input;
+  std::string output;
+  Flags flags;
+  std::string error;
+};
+
+TEST_F(RewriteTest, SaysWhatBecomesOfWhichFile) {
+  const std::vector<Misuse> misuses = {
+      {"take.trc", "new.xyz", {}, "orvane: new.xyz: says by no extension what is to be written\n"},
+      {"take.trc", "new", {}, "orvane: new: says by no extension what is to be written\n"},
+      {"take.trc", "new.htr", {}, "orvane: new.htr: of TRC files no .htr is made\n"},
+      {"take.htr", "new.trc", {}, "orvane: new.trc: of HTR files no .trc is made\n"},
+      {"take.trc", "-", {"--json"}, "orvane: --json: is written to standard output"},
+      {"take.trc", "new.trc", {"--rename", "A"}, "takes OLD=NEW, or a mapping"},
+      {"take.trc", "new.trc", {"--rate", "fast"}, "a number of frames per second is expected"},
+      {"take.trc", "new.trc", {"--resample", "linear"}, "--rate"}};
+  for (const Misuse& misuse : misuses) {
+    const ProgramResult result = Rewrite(misuse.input, misuse.output, misuse.flags);
+    EXPECT_EQ(result.status, 2) << misuse.error;
+    EXPECT_THAT(result.error, HasSubstr(misuse.error));
+  }
+  EXPECT_EQ(Rewrite("take.trc", "other.name", {"--to", "trc"}).status, 0);
+  EXPECT_EQ(MarkerBits("other.name"), MarkerBits("take.trc"));
+}
+
+TEST_F(RewriteTest, TakesSomeFramesAndMarkersUnderOtherNames) {
+  const ProgramResult result =
+      Rewrite("take.trc", "new.trc",
+              {"--cut", "102:110", "--select", "right head", "--rename", "right head=RFHD"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(result.error, HasSubstr("[cut-range-partly]"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\t2\t1\tcm\t59.94\t102\t2\r\n"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("Frame#\tTime\tRFHD\t\t\t\r\n"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t0.000000\t\t\t\r\n103\t0.016683\t1\t2\t3\r\n"));
+}
+
+TEST_F(RewriteTest, TakesNamesOfAMapping) {
+  Write("names.mnm", "LeftHead\tLFHD\t\r\nNose\tNS\t\r\n");
+  const ProgramResult result = Rewrite("take.trc", "new.trc", {"--rename", "names.mnm"});
+  EXPECT_EQ(result.status, 0) << result.error;
+  EXPECT_THAT(result.error, HasSubstr("\"NS\""));
+  EXPECT_THAT(result.error, HasSubstr("[rewrite-rename-unknown]"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("Frame#\tTime\tLeftHead\t\t\tright head\t\t\t\r\n"));
+}
+
+TEST_F(RewriteTest, RefusesNamesThatNothingHasAndSuchAsNoFileHolds) {
+  const ProgramResult unknown = Rewrite("take.trc", "new.trc", {"--select", "LFHD,right haed"});
+  EXPECT_EQ(unknown.status, 1);
+  EXPECT_THAT(unknown.error,
+              HasSubstr("\"right haed\". Nothing is written; did you mean \"right head\"? "
+                        "[rewrite-select-unknown]\n"));
+  EXPECT_THAT(unknown.error,
+              HasSubstr("orvane: take.trc: nothing was written because of rewrite-select-unknown"));
+  const ProgramResult twice = Rewrite("take.trc", "new.trc", {"--rename", "LFHD=right head"});
+  EXPECT_EQ(twice.status, 1);
+  EXPECT_THAT(twice.error, HasSubstr("\"right head\" would be there twice"));
+  EXPECT_FALSE(Exists("new.trc"));
+}
+
+TEST_F(RewriteTest, KeepsWhatSelectedSegmentsHangFrom) {
+  const ProgramResult result = Rewrite("take.htr", "new.htr", {"--select", "Spine"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(CodesIn(result.error), ElementsAre("rewrite-select-ancestors"));
+  EXPECT_EQ(MotionBits("new.htr"), MotionBits("take.htr"));
+}
+
+TEST_F(RewriteTest, ConvertsUnitsAndTurnsHeights) {
+  ASSERT_EQ(Rewrite("take.trc", "new.trc", {"--unit", "mm", "--up", "z"}).status, 0);
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\t3\t2\tmm\t"));
+  EXPECT_THAT(Read("new.trc"),
+              HasSubstr("\r\n101\t0.000000\t100\t52.5\t-1700\t-100\t50\t-1700\r\n"));
+  Write("lying.htr", Replaced(SmallMotion(), "Gravity Y", "Gravity Z"));
+  const ProgramResult kept = Rewrite("lying.htr", "kept.htr");
+  EXPECT_THAT(CodesIn(kept.error), ElementsAre("htr-axis-ignored"));
+  EXPECT_THAT(Read("kept.htr"), HasSubstr("GlobalAxisofGravity Z\r\n"));
+  const ProgramResult turned = Rewrite("lying.htr", "turned.htr", {"--up", "z"});
+  EXPECT_EQ(turned.error, "");
+  EXPECT_THAT(Read("turned.htr"), HasSubstr("GlobalAxisofGravity Y\r\n"));
+  EXPECT_THAT(Read("turned.htr"), HasSubstr("\r\nHips\t0\t0\t-900\t-90\t0\t0\t100\r\n"));
+}
+
+TEST_F(RewriteTest, SaysWhatAFootIs) {
+  const ProgramResult result = Rewrite("take.trc", "new.trc", {"--unit", "ft"});
+  EXPECT_EQ(result.status, 0);
+  EXPECT_THAT(result.error,
+              HasSubstr("warning: Lengths are converted from cm to ft. A foot is taken as 304.8 mm "
+                        "and a yard as 914.4 mm; an import takes 2.1167 mm and 0.7056 mm. "
+                        "[rewrite-feet]\n"));
+  EXPECT_EQ(Rewrite("take.trc", "other.trc", {"--unit", "ft", "--strict"}).status, 1);
+  EXPECT_FALSE(Exists("other.trc"));
+}
+
+TEST_F(RewriteTest, ChangesTheRateByWholeFactorsUnlessFramesMayLieBetween) {
+  ASSERT_EQ(Rewrite("take.trc", "half.trc", {"--rate", "29.97"}).status, 0);
+  EXPECT_THAT(Read("half.trc"), HasSubstr("\r\n29.97\t120\t2\t2\tcm\t59.94\t101\t2\r\n"));
+  EXPECT_THAT(Read("half.trc"), HasSubstr("\r\n102\t0.033367\t11\t172\t5\t1\t2\t3\r\n"));
+  const ProgramResult refused = Rewrite("take.trc", "new.trc", {"--rate", "60"});
+  EXPECT_EQ(refused.status, 1);
+  EXPECT_THAT(refused.error,
+              HasSubstr("--rate 60 is no whole part of its 59.94 frames per second"));
+  const ProgramResult more =
+      Rewrite("take.trc", "more.trc", {"--rate", "119.88", "--resample", "linear"});
+  EXPECT_EQ(more.status, 0);
+  EXPECT_THAT(more.error,
+              HasSubstr("note: Of 5 frames at the new rate, 2 lie between those of the file. They "
+                        "are interpolated linearly; where a marker has a gap at either side, it "
+                        "has one there. [rewrite-resampled]\n"));
+  EXPECT_THAT(Read("more.trc"), HasSubstr("\r\n102\t0.008342\t10\t170.5\t2.675\t\t\t\r\n"));
+}
+
+TEST_F(RewriteTest, NumbersFramesFromWhereItIsTold) {
+  ASSERT_EQ(Rewrite("take.htr", "new.htr", {"--start-frame", "-7", "--decimals", "1"}).status, 0);
+  EXPECT_THAT(Read("new.htr"), HasSubstr("\r\n-6\t10.0\t0.0\t0.0\t0.0\t0.0\t90.0\t1.0\r\n"));
+  const ProgramResult result = Rewrite("take.htr", "far.htr", {"--start-frame", "2147483647"});
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, HasSubstr("its frames would have numbers that no file can hold"));
+}
+
+TEST_F(RewriteTest, RefusesNamesThatWouldEndTheFile) {
+  Write("end.htr", Replaced(Replaced(SmallMotion(), "NumSegments 2", "NumSegments 3"),
+                            "Spine Hips\n", "Spine Hips\nEndofFile Hips\n"));
+  Write("end.htr", Replaced(Read("end.htr"), "250.5\n", "250.5\nEndofFile 0 1 0 0 0 0 1\n"));
+  const ProgramResult result = Rewrite("end.htr", "new.htr");
+  EXPECT_EQ(result.status, 1);
+  EXPECT_THAT(result.error, HasSubstr("its segment \"EndofFile\" could not be read back: it means "
+                                      "something else in an HTR file\n  --rename gives it another "
+                                      "name.\n"));
+  EXPECT_EQ(Rewrite("end.htr", "new.htr", {"--rename", "EndofFile=Toe"}).status, 0);
+}
+
+TEST_F(RewriteTest, TellsItselfAsJson) {
+  const ProgramResult result = Rewrite("take.trc", "new.trc", {"--json"});
+  const json told = json::parse(result.output);
+  EXPECT_EQ(told["version"], 1);
+  EXPECT_EQ(told["input"], "take.trc");
+  EXPECT_EQ(told["markers"], 2);
+  EXPECT_EQ(told["frames"], json({101, 103}));
+  EXPECT_EQ(told["frame_rate"], "59.94");
+  EXPECT_EQ(told["file"], "new.trc");
+  EXPECT_EQ(told["bytes"], Read("new.trc").size());
+  EXPECT_EQ(told["findings"][0]["code"], "trc-rate-cut");
+  EXPECT_EQ(told["findings"][0]["severity"], "note");
+}
+
+TEST_F(RewriteTest, WritesTheReportOnTheFileAndOnTheEdits) {
+  EXPECT_EQ(Rewrite("take.trc", "new.trc", {"--report", "r.json", "--rename", "X=Y"}).status, 0);
+  const json told = json::parse(Read("r.json"));
+  std::vector<std::string> codes;
+  for (const json& finding : told["files"][0]["findings"]) codes.push_back(finding["code"]);
+  EXPECT_THAT(codes, testing::Contains("rewrite-rename-unknown"));
+  EXPECT_THAT(codes, testing::Contains("trc-marker-gaps"));
+}
+
+// What one can end by writing the file anew is gone then; what was lost before is lost.
+TEST_F(RewriteTest, LeavesNothingToWonderAbout) {
+  Write("odd.trc",
+        "PathFileType\t3\t(X/Y/Z)\todd.trc\n\n59.94fps\t59.94\t7\t3\tcubits\t\n"
+        "Frame#\tTime\tA\t\t\tB\t\t\n\tX1\n\n5\t0\t1\t2\t3,5\t4\t5\n7\t9\t1\tx\t2\t3\t4\t5\t6\n");
+  EXPECT_EQ(Rewrite("odd.trc", "new.trc").status, 0);
+  const ProgramResult check = Orvane({"check", "new.trc"});
+  EXPECT_THAT(check.output, Not(HasSubstr("error")));
+  EXPECT_THAT(CodesIn(Rewrite("new.trc", "newer.trc").error),
+              ElementsAre("trc-rate-cut", "trc-camera-rate-cut"));
+}
+
+}  // namespace
