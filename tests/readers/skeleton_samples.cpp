@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <filesystem>
 #include <random>
-#include <stdexcept>
+#include <unordered_map>
 
 #include "formats/htr/reader.h"
 #include "formats/pose/pose_walk.h"
@@ -50,8 +50,10 @@ void MakeShown(const HtrDocument& document, double height, BvhPositions position
   for (const HtrSegment& segment : document.segments()) {
     most = std::max(most, segment.GetNumFrames());
   }
+  std::unordered_map<const HtrSegment*, HtrSegment*> copies;
   for (const HtrSegment& segment : document.segments()) {
-    HtrSegment* copy = shown.AddSegment(HtrSegment(segment.GetName()));
+    HtrSegment* copy = shown.AddSegment(HtrSegment("Copy" + std::to_string(copies.size())));
+    copies[&segment] = copy;
     copy->SetIsRoot(segment.GetIsRoot());
     const Vector3 base = segment.GetBaseTranslation();
     const EulerRotation turn = segment.GetBaseRotation();
@@ -69,8 +71,7 @@ void MakeShown(const HtrDocument& document, double height, BvhPositions position
   }
   for (const HtrSegment& segment : document.segments()) {
     if (segment.GetParent() == nullptr) continue;
-    shown.FindSegment(segment.GetName())
-        ->SetParent(shown.FindSegment(segment.GetParent()->GetName()));
+    copies[&segment]->SetParent(copies[segment.GetParent()]);
   }
 }
 
@@ -103,7 +104,6 @@ std::vector<std::optional<Point>> EndsOf(const std::vector<HierarchyEntry>& tree
 
 void AddPlaces(const HtrDocument& shown, SkeletonSample& sample) {
   const std::vector<HierarchyEntry> tree = FirstTreeOf(shown);
-  for (const HierarchyEntry& entry : tree) sample.names.push_back(entry.segment->GetName());
   PoseWalk walk(tree, PoseParts::kPositionsAndRotations);
   for (std::size_t frame = 0; frame < orvane::MostFramesOf(tree); ++frame) {
     walk.MoveTo(frame);
@@ -127,6 +127,7 @@ void TakeBothWays(const HtrDocument& document, const std::string& name, const Sa
     SkeletonSample sample;
     sample.name = name + (positions == BvhPositions::kRoot ? "_root" : "_all");
     sample.tolerance = kTolerance * plan.height;
+    for (const orvane::BvhJoint& joint : plan.joints) sample.names.push_back(joint.name);
     orvane::PrintBvh(plan, [&sample](std::string_view piece) { sample.bvh += piece; });
     HtrDocument shown;
     MakeShown(document, plan.height, positions, shown);
@@ -138,7 +139,11 @@ void TakeBothWays(const HtrDocument& document, const std::string& name, const Sa
 // A skeleton of 4 to 24 segments and 1 to 12 frames, some 2 m high, in any unit.
 class RandomMotion {
  public:
-  explicit RandomMotion(std::uint64_t seed) : random_(seed), seed_(seed) {}
+  static constexpr std::uint64_t kMostFrames = 12;
+
+  explicit RandomMotion(std::uint64_t seed) : RandomMotion(seed, 1, kMostFrames) {}
+  RandomMotion(std::uint64_t seed, std::uint64_t least_frames, std::uint64_t most_frames)
+      : random_(seed), seed_(seed), least_frames_(least_frames), most_frames_(most_frames) {}
 
   void Fill(HtrDocument& document);
 
@@ -158,6 +163,8 @@ class RandomMotion {
 
   std::mt19937_64 random_;
   std::uint64_t seed_;
+  std::uint64_t least_frames_;
+  std::uint64_t most_frames_;
 };
 
 // Quarters of a turn among others, which lock gimbals.
@@ -189,7 +196,7 @@ void RandomMotion::Fill(HtrDocument& document) {
   const double meter = 1000 * orvane::LengthFactor(orvane::kMillimeters, unit);
   document.SetCalibrationUnits(unit);
   const std::uint64_t segments = 4 + Below(21);
-  const std::uint64_t frames = 1 + Below(12);
+  const std::uint64_t frames = least_frames_ + Below(most_frames_ - least_frames_ + 1);
   std::vector<HtrSegment*> stored;
   for (std::uint64_t index = 0; index < segments; ++index) {
     HtrSegment* segment = document.AddSegment(HtrSegment("Bone" + std::to_string(index)));
@@ -204,6 +211,35 @@ void RandomMotion::Fill(HtrDocument& document) {
     AddFrames(*segment, (index == 0 ? 3 : 0.2) * meter, lacks_frames ? Below(frames + 1) : frames);
     stored.push_back(segment);
   }
+}
+
+void TakeOddNames(const SampleTaker& take) {
+  HtrDocument document;
+  RandomMotion(7).Fill(document);
+  const std::vector<std::string> names = {"Left Arm",
+                                          "Left\tArm",
+                                          "{",
+                                          "}",
+                                          "a\xC2\xA0"
+                                          "b",
+                                          "a_b",
+                                          "End Site",
+                                          "\xE3\x80\x80",
+                                          "MOTION",
+                                          "JOINT",
+                                          "Frames: 10",
+                                          "-1",
+                                          "OFFSET",
+                                          "left:Arm"};
+  std::size_t index = 0;
+  for (HtrSegment& segment : document.segments()) segment.SetName(names[index++ % names.size()]);
+  TakeBothWays(document, "odd_names", take);
+}
+
+void TakeWithoutFrames(const SampleTaker& take) {
+  HtrDocument document;
+  RandomMotion(11, 0, 0).Fill(document);
+  TakeBothWays(document, "no_frames", take);
 }
 
 void TakeFile(const std::filesystem::path& path, const SampleTaker& take) {
@@ -222,6 +258,8 @@ void ForEachSkeletonSample(const SampleTaker& take) {
   for (const auto& entry : std::filesystem::directory_iterator(root / "tests/data/htr")) {
     TakeFile(entry.path(), take);
   }
+  TakeOddNames(take);
+  TakeWithoutFrames(take);
   constexpr std::uint64_t kMotions = 200;
   for (std::uint64_t seed = 0; seed < kMotions; ++seed) {
     HtrDocument document;

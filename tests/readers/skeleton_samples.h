@@ -26,8 +26,8 @@ struct SkeletonSample {
 };
 
 // Hands each to `take`, one after the other: our example, those of our fixtures of which there are
-// files, and 200 random motions, whose angles are of all six orders; all of them with positions of
-// the root alone and with positions of all.
+// files, odd names, none but a base position, and 200 random motions, whose angles are of all six
+// orders; all of them with positions of the root alone and with positions of all.
 void ForEachSkeletonSample(const std::function<void(const SkeletonSample&)>& take);
 
 }  // namespace test
