@@ -76,8 +76,8 @@ struct C3dPlan {
   C3dLosses losses;
 };
 
-// Takes time in proportion to the document's samples, and to their number by the logarithm of their
-// gaps. The plan points into `document`, which must outlive it and not change.
+// Asks for every sample once, and so does printing. The plan points into `document`, which must
+// outlive it and not change.
 [[nodiscard]] C3dPlan PlanC3d(const TRCDocument& document, const C3dOptions& options);
 
 }  // namespace orvane
