@@ -42,7 +42,7 @@ make_wheel_of_build() {
 # Has it hold the libraries that not every system has, and tells on which systems it works.
 repair_wheel() {
   local PATH=$PWD/$wheel_folder/tools/bin:$PATH
-  auditwheel repair --wheel-dir "$wheel_folder/wheels" "$wheel_folder"/made/orvane-*.whl
+  auditwheel repair --strip --wheel-dir "$wheel_folder/wheels" "$wheel_folder"/made/orvane-*.whl
   auditwheel show "$wheel_folder"/wheels/orvane-*.whl
 }
 
@@ -52,7 +52,7 @@ try_wheel() {
   "$venv/bin/python" -m pip install --quiet --disable-pip-version-check --force-reinstall --no-deps \
     "$wheel_folder"/wheels/orvane-*.whl
   place=$(mktemp --directory)
-  cp -r python/tests python/examples examples/walk.* docs/python.md "$place"
+  cp -r python/tests python/examples examples/walk.{htr,mnm,trc} docs/python.md "$place"
   cp README.md "$place/readme.md"
   "$venv/bin/python" python/try_package.py "$place" || status=1
   rm -rf "$place"

@@ -9,7 +9,8 @@ class FileError(Exception):
     ``path`` is the file as it was named, ``line`` and ``column`` (counted from 1, in bytes) say
     where in it, and are ``None`` where that is no place in the file. ``code`` is the one that
     ``orvane check`` and docs/findings.md have for it, or one of ``file-missing``,
-    ``file-unreadable``, ``file-refused``, ``file-misread``, ``array-too-large`` and ``refused``.
+    ``file-unreadable``, ``file-refused``, ``file-misread``, ``array-too-large``, ``file-exists``,
+    ``file-unwritable`` and ``refused``.
 
     >>> import orvane
     >>> try:

@@ -20,6 +20,9 @@ PLACES = (HERE, os.path.join(HERE, *[os.pardir] * 3, "orvane"))
 MODULES = [os.path.normpath(os.path.join(place, "OrvaneFileIO.so")) for place in PLACES]
 MODULE = next(filter(os.path.exists, MODULES), MODULES[0])
 
+# What the system says, and the codes that files have for it.
+CODES = {"No such file or directory": "file-missing", "File exists": "file-exists"}
+
 INTERRUPTED = 130
 WRONG_USAGE = 2
 
@@ -123,6 +126,6 @@ def _error(path: str, complaints: list[Complaint], findings: tuple[Finding, ...]
     code = re.search(r" \[([a-z0-9-]+)\]$", text)
     if code:
         text = text[:code.start()]
-    kind = MissingFileError if text == "No such file or directory" else FileError
-    return kind(subject or path, _sentence("", text, advice),
-                code=code[1] if code else "file-missing" if kind is MissingFileError else "refused")
+    name = code[1] if code else CODES.get(text, "refused")
+    kind = MissingFileError if name == "file-missing" else FileError
+    return kind(subject or path, _sentence("", text, advice), code=name)

@@ -27,8 +27,9 @@ def test_options_are_those_of_the_dialog(folder):
 def test_a_scene_that_is_there_is_replaced_when_that_is_meant(folder):
     pathlib.Path("walk.glb").write_bytes(b"mine")
     scene = orvane.to_scene(pathlib.Path("walk.trc"), size=40)
-    with pytest.raises(orvane.FileError, match="walk.glb"):
+    with pytest.raises(orvane.FileError, match="walk.glb") as refusal:
         scene.save("walk.glb")
+    assert refusal.value.code == "file-exists"
     assert pathlib.Path("walk.glb").read_bytes() == b"mine"
     scene.save("walk.glb", force=True, warn=False)
     assert pathlib.Path("walk.glb").read_bytes() != b"mine"
