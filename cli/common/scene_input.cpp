@@ -8,7 +8,6 @@
 #include "cli/common/failure.h"
 #include "cli/common/input_files.h"
 #include "formats/text/files.h"
-#include "host/gltf/reader.h"
 #include "inspect/check/content_kind.h"
 #include "platform/input_file.h"
 
@@ -53,6 +52,21 @@ Complaint ComplainAboutScene(const std::string& path, std::string_view bytes,
           is_taken ? "\"orvane import\" makes a scene of it." : orvane::WordsFor(*kind).advice};
 }
 
+// Builds the scene in the file `path` in `scene` by `read`, which returns why it is refused.
+template <typename Read>
+void ReadBy(const std::string& path, host::Scene& scene, const Read& read) {
+  assert(scene.NodeCount() == 0);
+  RequireNoStandardInput(path, "A scene");
+  const std::string reason = platform::WhyUnreadable(path);
+  if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
+  const std::optional<std::string> bytes = orvane::ReadFileBytes(path);
+  if (!bytes) throw Failure{ExitStatus::kInputOutput, {{path, "could not be read", ""}}};
+  const std::string refusal = read(*bytes, scene);
+  if (!refusal.empty()) {
+    throw Failure{ExitStatus::kRefused, {ComplainAboutScene(path, *bytes, refusal)}};
+  }
+}
+
 void AddOnce(UnknownName name, std::vector<UnknownName>& names) {
   const bool is_there = std::any_of(names.begin(), names.end(), [&name](const UnknownName& each) {
     return each.name == name.name;
@@ -63,15 +77,19 @@ void AddOnce(UnknownName name, std::vector<UnknownName>& names) {
 }  // namespace
 
 void ReadSceneFile(const std::string& path, host::Scene& scene) {
-  assert(scene.NodeCount() == 0);
-  RequireNoStandardInput(path, "A scene");
-  const std::string reason = platform::WhyUnreadable(path);
-  if (!reason.empty()) throw Failure{ExitStatus::kInputOutput, {{path, reason, ""}}};
-  const std::optional<std::string> bytes = orvane::ReadFileBytes(path);
-  if (!bytes) throw Failure{ExitStatus::kInputOutput, {{path, "could not be read", ""}}};
-  const std::string refusal = host::gltf::ReadScene(*bytes, scene);
-  if (!refusal.empty())
-    throw Failure{ExitStatus::kRefused, {ComplainAboutScene(path, *bytes, refusal)}};
+  ReadBy(path, scene, [](std::string_view bytes, host::Scene& read) {
+    return host::gltf::ReadScene(bytes, read);
+  });
+}
+
+host::gltf::SkinReading ReadSceneOrSkins(const std::string& path,
+                                         const host::gltf::SkinOptions& options,
+                                         host::Scene& scene) {
+  host::gltf::SkinReading reading;
+  ReadBy(path, scene, [&](std::string_view bytes, host::Scene& read) {
+    return host::gltf::ReadSceneOrSkins(bytes, options, read, reading);
+  });
+  return reading;
 }
 
 SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names) {

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "cli/common/failure.h"
+#include "host/gltf/reader.h"
 #include "host/scene/scene.h"
 #include "inspect/report/selection_check.h"
 
@@ -16,6 +17,12 @@ namespace cli {
 // holds no such scene.
 // REQUIRES: `scene` is new.
 void ReadSceneFile(const std::string& path, host::Scene& scene);
+
+// The same of any glTF file: what keeps no scene of ours has its skeletons made by `options`, and
+// what came of them is returned.
+[[nodiscard]] host::gltf::SkinReading ReadSceneOrSkins(const std::string& path,
+                                                       const host::gltf::SkinOptions& options,
+                                                       host::Scene& scene);
 
 struct SelectionMade {
   std::vector<orvane::UnknownName> unknown;  // names that no node bears, each once

@@ -4,6 +4,8 @@
 #include <algorithm>
 #include <iostream>
 #include <memory>
+#include <optional>
+#include <string>
 
 #include "cli/common/advice.h"
 #include "cli/common/choice.h"
@@ -21,11 +23,16 @@
 #include "cli/export/exported_motion.h"
 #include "cli/export/motion_output.h"
 #include "cli/export/told_export.h"
+#include "cli/export/told_skins.h"
+#include "host/animation/animation_state.h"
+#include "inspect/summary/frame_rate.h"
 #include "platform/interrupt.h"
 #include "platform/terminal.h"
 
 namespace cli {
 namespace {
+
+using host::gltf::SkinReading;
 
 struct ExportArguments {
   std::string input;
@@ -33,6 +40,7 @@ struct ExportArguments {
   std::string module = DefaultModulePath();
   std::vector<std::string> selection;
   std::vector<ControlWish> wishes;
+  host::gltf::SkinOptions skin;
   SettingsSource settings = SettingsSource::kFresh;
   ReportManner report;
   bool json = false;
@@ -47,6 +55,17 @@ void AddMessages(const std::string& scene_file, const PluginSession& session,
   }
 }
 
+// Throws a Failure when something is wished for that a scene of ours has settled.
+void RequireSkin(const SkinReading& reading, const ExportArguments& arguments) {
+  const std::string flag = arguments.skin.rate ? "--rate" : "--clip";
+  if (reading.is_skin || (!arguments.skin.rate && arguments.skin.clip.empty())) return;
+  throw Failure{ExitStatus::kWrongUsage,
+                {{flag,
+                  "is for files of other programs: " + arguments.input +
+                      " keeps a scene, whose keys are in frames",
+                  ""}}};
+}
+
 Failure NotCarriedOut(const std::string& scene_file, std::vector<Complaint> complaints) {
   if (complaints.empty()) {
     complaints.push_back({scene_file, "The plug-in gave up without a message", ""});
@@ -57,6 +76,7 @@ Failure NotCarriedOut(const std::string& scene_file, std::vector<Complaint> comp
 // Tells what the motion file will not hold of the scene. Returns it. Throws a Failure when that is
 // a reason against the export.
 orvane::FileReport TellOfScene(const host::Scene& scene, const ExportChoices& choices,
+                               const SkinReading& reading,
                                const std::vector<orvane::UnknownName>& unknown,
                                const ExportArguments& arguments) {
   ReportManner manner = arguments.report;
@@ -66,6 +86,7 @@ orvane::FileReport TellOfScene(const host::Scene& scene, const ExportChoices& ch
     return {};
   }
   orvane::FileReport report = ReportOnExport(arguments.input, scene, choices, unknown);
+  report.Take(ReportOnSkins(arguments.input, scene, reading));
   WriteReportFile({report}, manner);
   // Of these the plug-in says so itself.
   report = report.Without("export-root-missing").Without("export-root-effector");
@@ -100,14 +121,15 @@ ExitStatus Export(const ExportArguments& arguments) {
   PluginSession session(arguments.module, arguments.settings);
   const host::Scene& scene = session.scene();
   ExpectReading(arguments.input);
-  ReadSceneFile(arguments.input, session.scene());
+  const SkinReading reading = ReadSceneOrSkins(arguments.input, arguments.skin, session.scene());
+  RequireSkin(reading, arguments);
   const SelectionMade selection = Select(session.scene(), arguments.selection);
   std::vector<Complaint> complaints = selection.complaints;
   const std::vector<Complaint> unknown = ComplainAbout(selection.unknown);
   if (arguments.report.omitted) complaints.insert(complaints.end(), unknown.begin(), unknown.end());
   const ExportChoices choices = ExportChoicesOf(arguments.wishes, session.settings());
   ExportedFile file{arguments.input, output.Path(), {}, !arguments.report.omitted};
-  file.report = TellOfScene(scene, choices, selection.unknown, arguments);
+  file.report = TellOfScene(scene, choices, reading, selection.unknown, arguments);
   StopIfInterrupted();
   const std::string place = output.MakeRoom();
   const bool show_progress = !arguments.quiet && platform::ErrorIsTerminal();
@@ -125,8 +147,10 @@ ExitStatus Export(const ExportArguments& arguments) {
 }
 
 void AddFileArguments(CLI::App& verb, ExportArguments& arguments) {
-  verb.add_option("SCENE", arguments.input,
-                  "The scene file, which orvane has written: .glb or .gltf")
+  verb.add_option(
+          "SCENE", arguments.input,
+          "The scene file, which orvane has written: .glb or .gltf; or one of another program, for "
+          "its skeletons")
       ->required()
       ->type_name("");
   verb.add_option("-o,--output", arguments.output, "The HTR file to write, whose name ends in .htr")
@@ -138,6 +162,32 @@ void AddFileArguments(CLI::App& verb, ExportArguments& arguments) {
           "")
       ->type_name("FILE");
   verb.add_flag("--force", arguments.force, "Replace the HTR file if it exists");
+}
+
+// Frames per second, such as 59.94; nothing when `text` is no such number.
+std::optional<host::Rate> RateIn(const std::string& text) {
+  const std::optional<orvane::FrameRate> rate = orvane::ParseFrameRate(text);
+  const bool is_number = text.find_first_not_of("0123456789.") == std::string::npos;
+  if (!rate || !is_number) return std::nullopt;
+  const double frames =
+      static_cast<double>(rate->numerator) / static_cast<double>(rate->denominator);
+  if (frames < host::kMinimumFrameRate || frames > host::kMaximumFrameRate) return std::nullopt;
+  return host::Rate{rate->numerator, rate->denominator};
+}
+
+void AddSkinFlags(CLI::App& verb, ExportArguments& arguments) {
+  verb.add_option_function<std::string>(
+          "--rate", [&arguments](const std::string& text) { arguments.skin.rate = RateIn(text); },
+          "Of a file of another program: take so many frames a second (what its keys tell)")
+      ->check(
+          [](const std::string& text) {
+            return RateIn(text) ? "" : text + " is no number from 1 to 4800";
+          },
+          "")
+      ->type_name("NUMBER");
+  verb.add_option("--clip", arguments.skin.clip,
+                  "Of a file of another program: take the animation of that name (the first one)")
+      ->type_name("NAME");
 }
 
 void AddHostFlags(CLI::App& verb, ExportArguments& arguments) {
@@ -169,6 +219,7 @@ void AddExportCommand(CLI::App& app, Work& work) {
   CLI::App* verb = app.add_subcommand("export", "Export a skeleton of a scene as a motion file");
   AddFileArguments(*verb, *arguments);
   AddExportHtrFlags(*verb, arguments->wishes);
+  AddSkinFlags(*verb, *arguments);
   AddHostFlags(*verb, *arguments);
   AddRunFlags(*verb, *arguments);
   verb->callback([arguments, &work] { work = [arguments] { return Export(*arguments); }; });

@@ -17,7 +17,7 @@ struct SceneArguments {
 
 ExitStatus ShowScene(const SceneArguments& arguments) {
   host::Scene scene;
-  ReadSceneFile(arguments.input, scene);
+  (void)ReadSceneOrSkins(arguments.input, {}, scene);
   if (arguments.json) {
     PrintSceneJson(arguments.input, scene, std::cout);
   } else {
@@ -31,8 +31,10 @@ ExitStatus ShowScene(const SceneArguments& arguments) {
 void AddSceneCommand(CLI::App& app, Work& work) {
   auto arguments = std::make_shared<SceneArguments>();
   CLI::App* verb = app.add_subcommand("scene", "Tell what a scene file holds");
-  verb->add_option("SCENE", arguments->input,
-                   "The scene file, which orvane has written: .glb or .gltf")
+  verb->add_option(
+          "SCENE", arguments->input,
+          "The scene file, which orvane has written: .glb or .gltf; or one of another program, for "
+          "its skeletons")
       ->required()
       ->type_name("");
   verb->add_flag("--json", arguments->json, "Write JSON, with every key");

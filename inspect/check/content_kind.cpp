@@ -117,7 +117,7 @@ struct KnownKind {
 // By ContentKind; the first that fits is taken.
 constexpr std::array<KnownKind, 10> kKinds = {{
     {IsOrvaneScene, {"an orvane scene", "\"orvane scene\" shows it."}},
-    {IsGltf, {"a glTF file", "It is for viewers, and no motion or marker file can be made of it."}},
+    {IsGltf, {"a glTF file", "\"orvane export\" makes motion files of the skeletons in it."}},
     {IsBvk, {"a BVK file", "It is what \"orvane convert\" makes of a TRC file, and is not read."}},
     {IsBvh, {"a BVH file", "Save the motion as HTR in the program that it comes from."}},
     {IsC3d, {"a C3D file", "Save the markers as TRC in the program that it comes from."}},

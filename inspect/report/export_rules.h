@@ -22,6 +22,11 @@ inline constexpr std::array kRules = {
     FindingRule{"export-helper-skipped", FindingSeverity::kNote},
     FindingRule{"export-effector", FindingSeverity::kNote},
     FindingRule{"export-frames-unkeyed", FindingSeverity::kNote},
+    FindingRule{"export-rate-assumed", FindingSeverity::kWarning},
+    FindingRule{"export-rate-cut", FindingSeverity::kWarning},
+    FindingRule{"export-keys-between", FindingSeverity::kNote},
+    FindingRule{"export-animation-chosen", FindingSeverity::kNote},
+    FindingRule{"export-joint-renamed", FindingSeverity::kNote},
 };
 
 }  // namespace orvane::exporting

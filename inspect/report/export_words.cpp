@@ -47,6 +47,18 @@ constexpr FindingMeaning kWords[] = {
      Exported(kNote, "Such an effector is left out; the bone before it has its length.")},
     {"export-frames-unkeyed", "{found} exported, and the keys of the skeleton are in {expected}",
      nullptr, Exported(kNote, "In the others it stands still; --range FROM:TO leaves them out.")},
+    {"export-rate-assumed", "The keys of the file fall into frames of no rate that it tells",
+     nullptr, Exported(kWarning, nullptr)},
+    {"export-rate-cut", "The frames are taken at a rate that no motion file of the plug-in has",
+     nullptr, Exported(kWarning, nullptr)},
+    {"export-keys-between", "A key lies between two frames", "{count} keys lie between frames",
+     Exported(kNote, "They are not met exactly; --rate takes other frames.")},
+    {"export-animation-chosen", "Another animation of the file moves joints, too",
+     "{count} other animations of the file move joints, too", Exported(kNote, nullptr)},
+    {"export-joint-renamed", "A joint has a blank in its name, none, or the name of another",
+     "{count} joints have blanks in their names, none, or the names of others",
+     Exported(kNote,
+              "In the motion file a blank is _, and a name that is there twice has a number.")},
 };
 
 }  // namespace

@@ -3,6 +3,8 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
+#include <optional>
+#include <utility>
 
 #include "host/gltf/file/base64.h"
 #include "host/gltf/file/json_field.h"
@@ -43,8 +45,9 @@ void AppendChunk(std::size_t size, std::uint32_t type, char filler, const Append
 
 std::size_t ChunkSize(std::size_t size) { return kChunkHeaderSize + size + FillOf(size); }
 
-// Stands before data in base64.
+// Stands before data in base64, where others may write another kind.
 constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
+constexpr std::string_view kBase64Mark = ";base64,";
 
 // Passes on as base64 what it takes, whose pieces but the last are of whole groups of three bytes.
 class Base64Sink final : public FileSink {
@@ -90,18 +93,30 @@ std::string_view TakeChunk(std::string_view& bytes, std::uint32_t type) {
   return TakeBytes(bytes, size);
 }
 
-nlohmann::json ParsedDocument(std::string_view text) {
-  return ParsedMembers(text, {"accessors", "asset", "buffers", "bufferViews", "extensions"});
+// Throws a Refusal when the document has its data elsewhere.
+void RequireData(const JsonField& uri) {
+  if (uri.Text().starts_with("data:")) return;
+  throw Refusal("The data of the file is in another one, \"" + uri.Text() +
+                "\": save it as one file, .glb, or with the data embedded.");
 }
 
-FileParts TakeBinaryApart(std::string_view bytes) {
+std::optional<JsonField> FirstUri(const JsonField& document) {
+  const auto buffers = document.FindMember("buffers");
+  if (!buffers || buffers->Size() == 0) return std::nullopt;
+  return buffers->Element(0).FindMember("uri");
+}
+
+FileParts TakeBinaryApart(std::string_view bytes, const std::set<std::string>& members) {
   const std::size_t size = bytes.size();
   TakeBytes(bytes, kGlbMagic.size());
   if (TakeWord(bytes) != kGlbVersion) throw Refusal("The file is no glTF 2.0 file.");
   if (TakeWord(bytes) != size) RefuseCutShort();
   FileParts parts;
-  parts.document = ParsedDocument(TakeChunk(bytes, kJsonChunk));
+  parts.document = ParsedMembers(TakeChunk(bytes, kJsonChunk), members);
   if (!bytes.empty()) parts.chunk = TakeChunk(bytes, kBinaryChunk);
+  if (parts.chunk.empty()) {
+    if (const auto uri = FirstUri(JsonField(parts.document, ""))) RequireData(*uri);
+  }
   return parts;
 }
 
@@ -110,9 +125,12 @@ std::string EmbeddedData(const JsonField& document) {
   const auto buffers = document.FindMember("buffers");
   if (!buffers || buffers->Size() == 0) return "";
   const JsonField uri = buffers->Element(0).Member("uri");
+  RequireData(uri);
   const std::string_view text = uri.Text();
-  if (text.substr(0, kDataPrefix.size()) != kDataPrefix) uri.Refuse("no embedded data");
-  auto data = DecodedBase64(text.substr(kDataPrefix.size()));
+  const std::size_t mark = text.find(kBase64Mark);
+  auto data = mark == std::string_view::npos
+                  ? std::nullopt
+                  : DecodedBase64(text.substr(mark + kBase64Mark.size()));
   if (!data) uri.Refuse("damaged or cut short");
   return *std::move(data);
 }
@@ -154,10 +172,10 @@ void WriteText(const Document& document, std::uint64_t most, FileSink& file) {
   output.End();
 }
 
-FileParts TakeApart(std::string_view bytes) {
-  if (bytes.substr(0, kGlbMagic.size()) == kGlbMagic) return TakeBinaryApart(bytes);
+FileParts TakeApart(std::string_view bytes, const std::set<std::string>& members) {
+  if (bytes.substr(0, kGlbMagic.size()) == kGlbMagic) return TakeBinaryApart(bytes, members);
   FileParts parts;
-  parts.document = ParsedDocument(bytes);
+  parts.document = ParsedMembers(bytes, members);
   parts.embedded = EmbeddedData(JsonField(parts.document, ""));
   return parts;
 }

@@ -2,6 +2,7 @@
 
 #include <cstdint>
 #include <nlohmann/json.hpp>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -23,10 +24,9 @@ void RequireRoom(std::uint64_t bytes, std::uint64_t most);
 void WriteBinary(const Document& document, std::uint64_t most, FileSink& file);
 void WriteText(const Document& document, std::uint64_t most, FileSink& file);
 
-// A glTF file taken apart: what the reader looks at.
+// A glTF file taken apart: what a reader looks at.
 struct FileParts {
-  // Of the document the members that lead to our own part of the file; those that are for viewers
-  // are large and left out.
+  // Of the document the members that were asked for; the others may be large and are left out.
   nlohmann::json document;
 
   // The bytes of its first buffer; none when it has no buffer. Valid as long as the file's.
@@ -36,9 +36,9 @@ struct FileParts {
   std::string embedded;    // what a file of text has in base64
 };
 
-// Takes a .glb or .gltf file with embedded data apart, in memory of a few times its size. Throws a
-// Refusal when it is neither, cut short, or nested more than 100 deep. `bytes` must outlive the
-// parts.
-FileParts TakeApart(std::string_view bytes);
+// Takes a .glb or .gltf file with embedded data apart, in memory of a few times its size. Of its
+// document those of `members` are kept. Throws a Refusal when it is neither, cut short, nested more
+// than 100 deep, or has its data elsewhere. `bytes` must outlive the parts.
+FileParts TakeApart(std::string_view bytes, const std::set<std::string>& members);
 
 }  // namespace host::gltf

@@ -30,6 +30,9 @@ class JsonField {
   // REQUIRES: `index` is less than Size().
   JsonField Element(std::size_t index) const;
 
+  // As it is.
+  const nlohmann::json& Value() const { return *value_; }
+
   bool Bool() const;
   const std::string& Text() const;
   double Number() const;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <cstdint>
+#include <set>
+#include <string>
 
 #include "host/gltf/file/container.h"
 #include "host/gltf/file/document.h"
@@ -29,6 +31,12 @@ KeyCounts KeptKeys(const NodeTree& tree);
 
 // Says in `document` that it keeps no scene, and that it is meant not to.
 void LeaveSceneOut(Document& document);
+
+// The members of a document that the two below look at.
+std::set<std::string> MembersOfScenes();
+
+// Whether `file` keeps a scene, in whatever form.
+bool KeepsScene(const FileParts& file);
 
 // Builds the scene that `file` keeps in `scene`, a new one. Throws a Refusal when there is none or
 // it is damaged; `scene` then holds a part of it.

@@ -7,6 +7,7 @@
 #include "host/gltf/file/json_field.h"
 #include "host/gltf/file/parsed_json.h"
 #include "host/gltf/file/refusal.h"
+#include "host/gltf/file/stored_view.h"
 #include "host/gltf/kept/kept_fields.h"
 #include "host/gltf/kept/kept_recording.h"
 #include "host/gltf/kept/kept_scene.h"
@@ -182,6 +183,15 @@ void RequireOurVersion(std::uint32_t version) {
 }
 
 }  // namespace
+
+std::set<std::string> MembersOfScenes() {
+  return {"accessors", "asset", "buffers", "bufferViews", "extensions"};
+}
+
+bool KeepsScene(const FileParts& file) {
+  return file.document.contains(
+      nlohmann::json::json_pointer(std::string("/extensions/") + kExtensionName));
+}
 
 void RestoreScene(const FileParts& file, Scene& scene) {
   const JsonField extension = Extension(file.document);

@@ -10,6 +10,7 @@
 
 #include "host/gltf/file/binary_data.h"
 #include "host/gltf/file/refusal.h"
+#include "host/gltf/file/stored_view.h"
 #include "host/gltf/kept/kept_fields.h"
 
 namespace host::gltf {
@@ -18,37 +19,18 @@ namespace {
 
 constexpr std::size_t kAnglesPerKey = 3;
 
-// The element of the document's array `name` that `reference` is the index of.
-JsonField Target(const FileParts& file, const char* name, const JsonField& reference) {
-  const auto targets = JsonField(file.document, "").FindMember(name);
-  const std::size_t size = targets ? targets->Size() : 0;
-  if (size == 0) reference.Refuse(std::string("an index, but the file has no ") + name);
-  return targets->Element(
-      static_cast<std::size_t>(reference.Whole(0, static_cast<std::int64_t>(size) - 1)));
-}
-
-// A size or an offset of the document, no larger than `most`.
-std::size_t Extent(const JsonField& field, std::size_t most) {
-  return static_cast<std::size_t>(field.Whole(0, static_cast<std::int64_t>(most)));
-}
-
-// `bytes` from the offset in `field` on.
-std::string_view Behind(const JsonField& field, std::string_view bytes) {
-  const auto offset = field.FindMember("byteOffset");
-  return bytes.substr(offset ? Extent(*offset, bytes.size()) : 0);
-}
-
 // The bytes of the accessor that the member `name` of `extension` is the index of; none when there
 // is no such member.
 std::string_view Accessor(const FileParts& file, const JsonField& extension, const char* name,
                           const ElementForm& form) {
   const auto reference = extension.FindMember(name);
   if (!reference) return {};
-  const JsonField accessor = Target(file, "accessors", *reference);
+  const JsonField accessor = ElementOf(file, "accessors", *reference).field;
   accessor.Member("componentType").Whole(form.component_type, form.component_type);
   const JsonField type = accessor.Member("type");
   if (type.Text() != form.type) type.Refuse(std::string("not ") + form.type);
-  const std::string_view bytes = Behind(accessor, StoredView(file, accessor.Member("bufferView")));
+  const std::string_view bytes =
+      BytesBehind(accessor, StoredView(file, accessor.Member("bufferView")));
   const std::size_t most = bytes.size() / form.bytes;
   return bytes.substr(0, Extent(accessor.Member("count"), most) * form.bytes);
 }
@@ -74,13 +56,6 @@ std::vector<Number> TakeNumbers(const JsonField& count, std::size_t width,
 }
 
 }  // namespace
-
-std::string_view StoredView(const FileParts& file, const JsonField& reference) {
-  const JsonField view = Target(file, "bufferViews", reference);
-  view.Member("buffer").Whole(0, 0);
-  const std::string_view bytes = Behind(view, file.Binary());
-  return bytes.substr(0, Extent(view.Member("byteLength"), bytes.size()));
-}
 
 StoredKeys::StoredKeys(const FileParts& file, const JsonField& extension)
     : ticks_(Accessor(file, extension, field::kTicks, kWordForm)),

@@ -13,10 +13,6 @@
 
 namespace host::gltf {
 
-// The bytes of the view of `file` that `reference` is the index of, valid as long as the file's.
-// Throws a Refusal when it refers to nothing, or to more than the file holds.
-std::string_view StoredView(const FileParts& file, const JsonField& reference);
-
 // The keys that a file keeps. All values are taken one after the other, and all angles; ticks may
 // be used again. Everything throws a Refusal when it is not there.
 class StoredKeys {

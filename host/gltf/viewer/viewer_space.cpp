@@ -48,4 +48,14 @@ std::array<double, 16> ViewerSpace::Matrix(const Matrix3& matrix) const {
           z[0], z[1], z[2], 0.0, origin[0], origin[1], origin[2], 1.0};
 }
 
+Matrix3 ViewerSpace::HostMatrix(const std::array<double, 16>& matrix) const {
+  const auto on_host_axes = [&matrix](std::size_t column, double factor) {
+    const double* const vector = &matrix[column * 4];
+    return Point3(static_cast<float>(vector[0] * factor), static_cast<float>(-vector[2] * factor),
+                  static_cast<float>(vector[1] * factor));
+  };
+  return {on_host_axes(0, 1.0), on_host_axes(2, -1.0), on_host_axes(1, 1.0),
+          on_host_axes(3, 1000.0 / millimeters_)};
+}
+
 }  // namespace host::gltf

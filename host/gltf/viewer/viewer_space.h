@@ -44,6 +44,10 @@ class ViewerSpace {
   // 16 elements, column by column.
   std::array<double, 16> Matrix(const Matrix3& matrix) const;
 
+  // The other way round.
+  // REQUIRES: the last row is that of a transform: 0, 0, 0, 1.
+  Matrix3 HostMatrix(const std::array<double, 16>& matrix) const;
+
  private:
   double Meters(double length) const { return length * millimeters_ / 1000.0; }
 

@@ -330,7 +330,8 @@ TEST_F(DamagedNumbers, TextThatIsNoBase64IsRefused) {
   json document = json::parse(text);
   document["buffers"][0]["uri"] = "scene.bin";
   EXPECT_EQ(Refusal(document.dump()),
-            "The scene in the file is damaged: buffers[0].uri is no embedded data.");
+            "The data of the file is in another one, \"scene.bin\": save it as one file, .glb, or "
+            "with the data embedded.");
 }
 
 }  // namespace

@@ -10,10 +10,6 @@ namespace {
 // Those of nine frames with positions in 0, 1, 4, 5 and 7.
 const std::vector<FrameGap> kFickle = {{2, 4}, {6, 7}, {8, 9}};
 
-std::int64_t CountDropoutsOf(const TRCMarker& marker, const FrameSpan& frames) {
-  return CountDropouts(marker.SampleCount(), marker.Gaps(), frames);
-}
-
 TEST(CountDropoutsTest, CountsThoseOfTheFramesAskedFor) {
   const struct {
     FrameSpan frames;
