@@ -68,6 +68,7 @@ class ClipReader {
     clip.tracks.resize(tree_.size());
     const JsonField channels = animation_.Member("channels");
     for (std::size_t i = 0; i < channels.Size(); ++i) Take(channels.Element(i), clip);
+    clip.seconds.reserve(seconds_.size());
     for (const auto& [index, seconds] : seconds_) clip.seconds.push_back(seconds);
     return clip;
   }

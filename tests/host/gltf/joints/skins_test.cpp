@@ -252,6 +252,7 @@ TEST_F(SkinsTest, WithoutAnimationThereIsOneFrame) {
 
 std::vector<float> Times(double rate, int count) {
   std::vector<float> seconds;
+  seconds.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) seconds.push_back(static_cast<float>(i / rate));
   return seconds;
 }
