@@ -105,6 +105,15 @@ class BlenderTest(RecipeTest):
         self.run_page("blender.md")
 
 
+class RTest(RecipeTest):
+    def test_gaps_and_speed_of_the_markers_come_out(self):
+        self.need("Rscript")
+        if subprocess.run(["Rscript", "-e", "library(data.table)"], capture_output=True,
+                          check=False).returncode != 0:
+            self.skipTest("data.table of R is not installed")
+        self.run_page("r.md")
+
+
 class PagesTest(unittest.TestCase):
     def test_every_page_is_listed_and_run(self):
         pages = {path.name for path in (SOURCE / "docs/cookbook").glob("*.md")} - {"README.md"}
