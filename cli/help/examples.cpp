@@ -22,8 +22,10 @@ constexpr VerbGuide kGuides[] = {
      {{{"orvane import walk.htr -o walk.glb", "a skeleton that moves"},
        {"orvane import walk.trc -o markers.glb --size 40", "markers as spheres of 40 mm"}}}},
     {"export",
-     "Samples a skeleton of a scene that an import has written, frame by frame, and writes it as "
-     "an HTR file. What such a file cannot hold is told before it is lost.",
+     "Samples a skeleton of a scene, frame by frame, and writes it as an HTR file. The scene is "
+     "one "
+     "that an import has written, or what another program has saved as glTF. What such a file "
+     "cannot hold is told before it is lost.",
      {{{"orvane export walk.glb --select Hips -o back.htr", "the skeleton that Hips belongs to"},
        {"orvane export walk.glb --select Hips -o part.htr --range 10:60",
         "a part of its frames"}}}},
