@@ -1,6 +1,6 @@
 # Installs the file `notices`: whose code is linked into what is installed, with the notices that
 # Debian's packages of it bring. `for_windows` tells which system that is for, `nanobind` where the
-# sources of that lie, for the Python package.
+# sources of that lie, for the Python package, and `holds_sqlite` whether that is in it too.
 
 # add_notice(what package): appends the notice of `what`, which Debian's `package` has.
 function(add_notice what package)
@@ -28,7 +28,9 @@ if(for_windows)
 endif()
 if(nanobind)
   file(GLOB license "${nanobind}/../nanobind-*.dist-info/licenses/LICENSE")
-  add_notice("SQLite" libsqlite3-0)
+  if(holds_sqlite)
+    add_notice("SQLite" libsqlite3-0)
+  endif()
   file(READ "${license}" notice)
   add_notice_text("nanobind" "${notice}")
   file(READ "${nanobind}/ext/robin_map/include/tsl/robin_map.h" notice LIMIT 2000)

@@ -63,6 +63,7 @@ readonly package_needs='
 command dpkg-shlibdeps                            dpkg-dev
 command file                                      file
 command lintian                                   lintian
+path    /usr/lib/python3/dist-packages/numpy/__init__.py  python3-numpy
 command pkg-config                                pkg-config
 '
 readonly sanitize_needs='
