@@ -17,6 +17,7 @@ from orvane.findings import Finding
 from orvane.motion import BasePose, Motion
 from orvane.plugin import Conversion, Scene, convert, to_scene
 from orvane.reading import check, read
+from orvane.rewriting import rewrite
 from orvane.tables import from_pandas
 from orvane.take import Take
 from orvane.writing import write
@@ -43,6 +44,7 @@ __all__ = [
     "convert",
     "from_pandas",
     "read",
+    "rewrite",
     "to_scene",
     "write",
 ]

@@ -1,4 +1,4 @@
-"""The verbs of the program `orvane`, within this process: what goes through the plug-in."""
+"""The verbs of the program `orvane`, within this process."""
 
 from __future__ import annotations
 
@@ -81,9 +81,11 @@ def require_good(arguments: list[str]) -> None:
 
 def run(verb: str, path: str, arguments: list[str]) -> Run:
     """Does what the verb does with the file ``path``. Raises a FileError when it gives up."""
+    if "--module" in _orvane.flags_of(verb):
+        arguments = [*arguments, "--module=" + MODULE]
     with tempfile.TemporaryDirectory(prefix="orvane-") as folder:
         report = os.path.join(folder, "report.json")
-        words = [verb, *arguments, "--module=" + MODULE, "--report=" + report, "--", path]
+        words = [verb, *arguments, "--report=" + report, "--", path]
         status, output, told, complaints = _orvane.run(words)
         findings = _findings_in(report)
     if status == INTERRUPTED:
