@@ -16,6 +16,7 @@ from floor_rows import print_floor_rows
 from growth_rows import print_growth_rows
 from jobs import Files
 from runs import run
+from windows_rows import print_windows_rows
 
 RUNS = 3
 BATCH = 8  # marker files
@@ -64,8 +65,10 @@ def parse_arguments():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("build", type=pathlib.Path, help="the folder of a build")
     parser.add_argument("--pairs", type=one_or_more, default=5, help="pairs of runs for a ratio (5)")
-    parser.add_argument("--part", choices=("floors", "alone", "growth"), action="append",
-                        help="this part alone; may be repeated (all)")
+    parser.add_argument("--part", choices=("floors", "alone", "growth", "windows"), action="append",
+                        help="this part alone; may be repeated (all but windows)")
+    parser.add_argument("--windows-build", type=pathlib.Path, default=pathlib.Path("build-windows"),
+                        help="the folder of a build for Windows, for the part of that name (build-windows)")
     size = parser.add_mutually_exclusive_group()
     size.add_argument("--quick", action="store_true", help="with tiny files, to see that all of it runs")
     size.add_argument("--large", action="store_true", help="growth to files of 1 GB and 1,000,000 segments too")
@@ -86,6 +89,8 @@ def main(arguments):
             print_figures(files, motion_size, marker_size)
         if "growth" in parts:
             print_growth_rows(files, sizes, counts, markers, arguments.pairs)
+        if "windows" in parts:
+            print_windows_rows(files, arguments.windows_build, motion_size, marker_size, arguments.pairs)
 
 
 if __name__ == "__main__":
