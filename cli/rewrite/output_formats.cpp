@@ -7,6 +7,7 @@
 #include "cli/common/failure.h"
 #include "formats/edit/renaming.h"
 #include "formats/htr/writer.h"
+#include "formats/text/numbers.h"
 #include "formats/trc/writer.h"
 #include "host/base/letter_case.h"
 #include "platform/path_text.h"
@@ -66,10 +67,23 @@ std::string MarkersAsTrc(const orvane::TRCDocument& document, const Wording& wor
                     "--rename gives other names; --select and --decimals make lines shorter.");
 }
 
+double RateOf(const orvane::HtrDocument& document) { return document.GetDataFrameRate(); }
+double RateOf(const orvane::TRCDocument& document) { return document.DataRate(); }
+
+template <typename Document>
+std::string AsCsv(const Document& document, const Wording& wording) {
+  orvane::CsvManner table = wording.table;
+  table.numbers = wording.numbers;
+  table.frames_per_second =
+      wording.rates.data.empty() ? RateOf(document) : orvane::ParseDouble(wording.rates.data);
+  return Gathered([&](const orvane::TextTaker& take) { PrintCsv(document, take, table); });
+}
+
 // A new format is one row more.
 constexpr std::array kFormats = {
     FormatRow{OutputFormat::kHtr, "htr", MotionAsHtr, nullptr},
     FormatRow{OutputFormat::kTrc, "trc", nullptr, MarkersAsTrc},
+    FormatRow{OutputFormat::kCsv, "csv", AsCsv<orvane::HtrDocument>, AsCsv<orvane::TRCDocument>},
 };
 
 bool Takes(const FormatRow& row, FileKind kind) {
@@ -137,6 +151,9 @@ OutputFormat FormatFor(const RewriteOrder& order, FileKind kind) {
                       std::string("of ") + ExtensionOf(kind) + " files no ." +
                           std::string(row->name) + " is made",
                       std::string(ExtensionOf(kind)) + " files become " + FormatsOf(kind) + "."});
+  }
+  if (!order.table_flag.empty() && row->format != OutputFormat::kCsv) {
+    throw WrongUsage({order.table_flag, "is for CSV files", ""});
   }
   return row->format;
 }

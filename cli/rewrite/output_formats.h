@@ -5,6 +5,7 @@
 
 #include "cli/common/file_kind.h"
 #include "cli/rewrite/rewrite_order.h"
+#include "formats/csv/writer.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
 #include "inspect/summary/frame_rate.h"
@@ -13,7 +14,7 @@
 
 namespace cli {
 
-enum class OutputFormat { kHtr, kTrc };
+enum class OutputFormat { kHtr, kTrc, kCsv };
 
 // "htr", "trc" and so on.
 [[nodiscard]] std::vector<std::string> NamesOfFormats();
@@ -31,6 +32,7 @@ struct Wording {
   std::string name;   // of the file that is made, without folders
   orvane::NumberForm numbers = orvane::NumberForm::Shortest();
   orvane::RateTexts rates{};
+  orvane::CsvManner table{};  // of CSV files, but for its numbers and times
 };
 
 // The bytes of a file of `format` that holds `document`. Throws a Failure when no such file could

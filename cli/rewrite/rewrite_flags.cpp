@@ -104,6 +104,32 @@ void AddTimeFlags(CLI::App& verb, RewriteOrder& order) {
       ->type_name("NUMBER");
 }
 
+void AddTableFlags(CLI::App& verb, RewriteOrder& order) {
+  const auto add = [&verb, &order](const std::string& flag, const std::vector<std::string>& choices,
+                                   const std::string& help, const auto& take) {
+    AddChoice(verb, flag, choices, help, [&order, flag, take](const std::string& choice) {
+      order.table_flag = flag;
+      take(order.table, choice);
+    });
+  };
+  add("--layout", {"wide", "long"},
+      "CSV: a row a frame, or a row for each marker or segment of each frame (wide)",
+      [](orvane::CsvManner& table, const std::string& choice) {
+        table.layout = choice == "long" ? orvane::CsvLayout::kLong : orvane::CsvLayout::kWide;
+      });
+  add("--space", {"world", "local"},
+      "CSV of HTR: tell places and rotations in the world, or against the segment's parent (world)",
+      [](orvane::CsvManner& table, const std::string& choice) {
+        table.space = choice == "local" ? orvane::CsvSpace::kParent : orvane::CsvSpace::kWorld;
+      });
+  add("--rotations", {"euler", "quaternion"},
+      "CSV of HTR: tell rotations as Euler angles or as quaternions (euler)",
+      [](orvane::CsvManner& table, const std::string& choice) {
+        table.rotations =
+            choice == "euler" ? orvane::CsvRotations::kEuler : orvane::CsvRotations::kQuaternion;
+      });
+}
+
 void AddRunFlags(CLI::App& verb, RewriteOrder& order) {
   verb.add_option_function<int>(
           "--decimals",
@@ -124,6 +150,7 @@ void AddRewriteFlags(CLI::App& verb, RewriteOrder& order) {
   AddFileFlags(verb, order);
   AddEditFlags(verb, order);
   AddTimeFlags(verb, order);
+  AddTableFlags(verb, order);
   AddRunFlags(verb, order);
 }
 

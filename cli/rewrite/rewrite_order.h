@@ -8,6 +8,7 @@
 
 #include "cli/common/file_kind.h"
 #include "cli/common/report_flags.h"
+#include "formats/csv/writer.h"
 #include "formats/edit/resampling.h"
 #include "formats/text/number_form.h"
 #include "inspect/counts/frame_span.h"
@@ -34,6 +35,8 @@ struct RewriteOrder {
   std::string rate;                   // a number as text; empty for that of the file
   std::optional<orvane::RotationPath> resampling;
   std::optional<std::int32_t> start_frame;
+  orvane::CsvManner table{};  // of CSV files alone; its numbers are those above
+  std::string table_flag;     // one that asks for that; empty for none
   ReportManner report;
   bool force = false;
   bool json = false;

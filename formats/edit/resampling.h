@@ -2,6 +2,7 @@
 
 #include <cstdint>
 
+#include "formats/edit/rotation_path.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
 
@@ -16,12 +17,6 @@ struct FrameStep {
 
   // Whether each frame of the new recording is one of the old.
   [[nodiscard]] bool IsWhole() const { return denominator == 1; }
-};
-
-// How a rotation goes from one frame to the next, where a new frame lies between them.
-enum class RotationPath {
-  kLinear,  // each Euler angle by itself, the shorter way round
-  kSlerp,   // about one axis at one speed, the shorter way round
 };
 
 // Makes `target`, which is empty, what `source` is at another rate: its frames lie `step` frames of

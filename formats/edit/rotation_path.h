@@ -1,10 +1,15 @@
 #pragma once
 
-#include "formats/edit/resampling.h"
 #include "formats/math/euler_rotation.h"
 
-// Rotations between two frames. Belongs to resampling.
+// What lies between two frames.
 namespace orvane {
+
+// How a rotation goes from one frame to the next, where a new frame lies between them.
+enum class RotationPath {
+  kLinear,  // each Euler angle by itself, the shorter way round
+  kSlerp,   // about one axis at one speed, the shorter way round
+};
 
 // The number that lies `share`, from 0 to 1, of the way from `from` to `to`. From and to what is
 // not finite there is no way: the nearer of the two.

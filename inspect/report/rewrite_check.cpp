@@ -56,6 +56,10 @@ CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
                   "and 0.7056 mm."});
   }
   if (circumstances.resampled) AddResampled(*circumstances.resampled, findings);
+  AddNames(Rule("rewrite-scale-lost"), circumstances.scaled, findings);
+  if (circumstances.is_skeleton_lost) {
+    findings.Add(Rule("rewrite-skeleton-lost"), kNoPlace, {"", "", ""});
+  }
   return checked;
 }
 

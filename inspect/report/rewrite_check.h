@@ -28,6 +28,8 @@ struct RewriteCircumstances {
   std::vector<std::string> ancestors{};   // of segments that are kept for those that are selected
   std::string feet{};                     // "from feet to mm"; empty when there are none
   std::optional<ResampledFrames> resampled{};
+  std::vector<std::string> scaled{};  // segments whose scales the other file does not hold
+  bool is_skeleton_lost = false;      // the other file has no hierarchy
 };
 
 // The findings of the codes "rewrite-..." of the file known as `name` of that `kind`.

@@ -180,7 +180,8 @@ INSTANTIATE_TEST_SUITE_P(
                 "  \"orvane info --help\" lists what there is.\n"},
         Mistake{"MistypedAction",
                 {"check", "a.trc", "--for", "imprt"},
-                "orvane: --for: imprt is not one of import, apply, convert, export, rewrite; did you mean "
+                "orvane: --for: imprt is not one of import, apply, convert, export, rewrite; did "
+                "you mean "
                 "\"import\"?\n"
                 "  \"orvane check --help\" lists what there is.\n"},
         Mistake{"ChoiceLikeNone",
