@@ -19,6 +19,7 @@
 #include "formats/mnm/mapping_lines.h"
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
+#include "inspect/check/similar_words.h"
 
 namespace cli {
 namespace {
@@ -191,7 +192,8 @@ class Editing {
     const Names wanted = SplitUnlessKnown(order_.selection, known);
     for (const std::string& name : wanted) {
       if (IsIn(known, name)) continue;
-      file_.circumstances.unselected.push_back({name, orvane::FindSimilar(name, known)});
+      file_.circumstances.unselected.push_back(
+          {name, std::string(orvane::MostSimilar(name, known))});
     }
     if (!file_.circumstances.unselected.empty()) return;
     const std::set<std::string> selected(wanted.begin(), wanted.end());
