@@ -2,12 +2,18 @@
 
 from __future__ import annotations
 
+import os
+
 import numpy as np
 import orvane
 from conftest import htr_text
 from hypothesis import given, settings
 from hypothesis import strategies as st
 from hypothesis.extra import numpy as arrays
+
+# The same ones each time; ORVANE_EXAMPLES asks for more.
+MANY = settings(max_examples=int(os.environ.get("ORVANE_EXAMPLES", "200")), deadline=None,
+                derandomize=True, database=None)
 
 FINITE = st.floats(allow_nan=False, allow_infinity=False)
 NAMES = st.text(st.characters(codec="utf-8", exclude_categories=("Cc", "Cs", "Z")), min_size=1,
@@ -26,7 +32,7 @@ def takes(draw):
                                    first_frame=draw(st.integers(0, 10**6)))
 
 
-@settings(max_examples=200, deadline=None)
+@MANY
 @given(takes())
 def test_markers_come_back_to_the_bit(take):
     back = orvane.read(take.to_bytes(), format="trc", warn=False)
@@ -40,7 +46,7 @@ ROWS = st.lists(st.tuples(*[st.floats(-1e6, 1e6)] * 3, *[st.floats(-720, 720)] *
                           st.floats(0.01, 100)), min_size=1, max_size=4)
 
 
-@settings(max_examples=200, deadline=None)
+@MANY
 @given(ROWS, ROWS, st.sampled_from(["Degrees", "Radians"]))
 def test_motion_comes_back(root, child, rotations):
     frames = min(len(root), len(child))
