@@ -6,8 +6,10 @@
 
 #include "formats/htr/frames.h"
 #include "formats/math/vector.h"
+#include "formats/text/aligned_cells.h"
 #include "formats/text/number_row.h"
 #include "formats/text/tokens.h"
+#include "formats/text/words.h"
 
 // The numbers of a line that places a bone, behind the name of a segment or the number of a frame:
 // a translation, three angles, and the length of the bone or its scale. Belongs to the readers.
@@ -56,12 +58,17 @@ class TransformRow {
                    values_[first + 2] * factor);
   }
 
-  [[nodiscard]] bool ReadNumber(const char* text, std::size_t begin, std::size_t end,
-                                double& value);
+  // What separates and ends the cells of a line, all of which comes before what is in a number.
+  struct BelowNumbers {
+    static constexpr bool Separates(char character) {
+      return static_cast<unsigned char>(character) < '+';
+    }
+    static constexpr Word MarksIn(Word word) { return MarksBelow('+', word); }
+  };
 
   NumberRow<BlanksAndTabs> numbers_;
   std::array<double, kNumbers> values_{};
-  std::size_t decimals_ = 6;  // of the last short number in a frame, which the next will have
+  AlignedCells<BelowNumbers> cells_{kNumbers};  // of frames
   bool is_ordinary_ = false;
 };
 

@@ -1,15 +1,14 @@
 #pragma once
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
-#include <limits>
 #include <span>
 #include <string_view>
 #include <vector>
 
-#include "formats/text/cell_ends.h"
-#include "formats/text/short_decimal.h"
+#include "formats/text/aligned_cells.h"
+#include "formats/text/tokens.h"
+#include "formats/text/words.h"
 
 // The numbers of a line, all read at once. Belongs to the readers, which spend most of their time
 // here. Numbers are counted from 0.
@@ -17,30 +16,15 @@ namespace orvane {
 
 // What stands between the cells of a line.
 struct SingleTabs {  // nothing between two is an empty cell
-  using Ends = CellEnds<'\t'>;
   static constexpr bool kHasEmptyCells = true;
+  static constexpr bool Separates(char character) { return character == '\t'; }
+  static constexpr Word MarksIn(Word word) { return MarksOf('\t', word); }
 };
 struct BlanksAndTabs {  // of any number
-  using Ends = CellEnds<' ', '\t'>;
   static constexpr bool kHasEmptyCells = false;
+  static constexpr bool Separates(char character) { return IsSeparator(character); }
+  static constexpr Word MarksIn(Word word) { return MarksOf(' ', word) | MarksOf('\t', word); }
 };
-
-// What stands for a number where a cell is empty or missing. No cell is read as it.
-inline constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
-[[nodiscard]] inline bool IsNoNumber(double number) { return std::isnan(number); }
-[[nodiscard]] inline double NumberOrZero(double number) {
-  return IsNoNumber(number) ? 0.0 : number;
-}
-
-namespace number_row {
-
-// Reads a cell as ParseDouble does, and keeps how many decimals it has, when it is a short number.
-// Returns whether it is one number and nothing else, and finite in single precision. `reach` is how
-// many characters before the end of the cell may be read.
-[[nodiscard]] bool ReadCell(std::string_view cell, std::size_t reach, std::size_t& decimals,
-                            double& value);
-
-}  // namespace number_row
 
 template <typename Separators>
 class NumberRow {
@@ -52,46 +36,30 @@ class NumberRow {
   // Returns what is left of the line behind the separator after the last one. An empty cell at the
   // very end of the line is none.
   std::string_view Read(std::string_view line, std::size_t first, std::size_t most) {
-    ends_.Find(line);
-    if (numbers_.size() < most + kSpareNumbers) numbers_.resize(most + kSpareNumbers);
-    const char* const text = line.data();
+    if (numbers_.size() < most + kSpareNumbers) {
+      numbers_.resize(most + kSpareNumbers);
+      cells_.Resize(most);
+    }
+    const char* const end = line.data() + line.size();
+    separators_ = 0;
+    const char* begin = SkipCells(line.data(), end, first);
     double* const numbers = numbers_.data();
-    std::size_t decimals = decimals_;
-    bool is_ordinary = true;
     std::size_t count = 0;
-    std::size_t begin = 0;
-    for (std::size_t cell = 0; begin < line.size() && count < most; ++cell) {
-      const std::size_t end = ends_[cell];
-      const std::size_t next = end + 1;
-      if constexpr (Separators::kHasEmptyCells) {
-        if (cell < first) {
-          begin = next;
-          continue;
-        }
-      } else if (end == begin || first > 0) {
-        first -= end == begin ? 0 : 1;
-        begin = next;
-        continue;
-      }
-      double number = kNoNumber;
-      const bool is_looked_at =
-          end != begin && (end < kLongerDecimalReach ||
-                           !ReadDecimalOfRow(text + begin, text + end, decimals, number));
-      if (is_looked_at) {
-        is_ordinary &= number_row::ReadCell(line.substr(begin, end - begin), end, decimals, number);
-      }
-      numbers[count++] = number;
-      begin = next;
+    cells_.StartRow();
+    for (; count < most && (begin = StartOfCell(begin, end)) != end; ++count) {
+      begin = Behind(cells_.Read(line, begin, count, numbers[count]), end);
     }
     std::fill_n(numbers + count, kSpareNumbers, kNoNumber);
-    decimals_ = decimals;
     count_ = count;
-    is_ordinary_ = is_ordinary;
-    return line.substr(std::min(begin, line.size()));
+    rest_ = line.substr(static_cast<std::size_t>(begin - line.data()));
+    return rest_;
   }
 
-  // How many cells the line has, an empty one at its end included.
-  [[nodiscard]] std::size_t CellsOfLine() const { return ends_.Separators() + 1; }
+  // How many cells the line has, an empty one at its end included. REQUIRES: the line lives.
+  [[nodiscard]] std::size_t CellsOfLine() const {
+    return 1 + separators_ +
+           static_cast<std::size_t>(std::ranges::count_if(rest_, Separators::Separates));
+  }
 
   // How many numbers were read.
   [[nodiscard]] std::size_t Count() const { return count_; }
@@ -108,14 +76,34 @@ class NumberRow {
 
   // Whether all cells that were read are empty, or numbers and nothing else, each finite in single
   // precision.
-  [[nodiscard]] bool AreOrdinary() const { return is_ordinary_; }
+  [[nodiscard]] bool AreOrdinary() const { return cells_.AreOrdinary(); }
 
  private:
-  typename Separators::Ends ends_;
+  // Where the next cell begins.
+  static const char* StartOfCell(const char* begin, const char* end) {
+    if constexpr (Separators::kHasEmptyCells) return begin;
+    return std::find_if_not(begin, end, Separators::Separates);
+  }
+
+  // Steps over what ends a cell.
+  const char* Behind(const char* cell_end, const char* end) {
+    if (cell_end == end) return end;
+    ++separators_;
+    return cell_end + 1;
+  }
+
+  const char* SkipCells(const char* begin, const char* end, std::size_t count) {
+    for (; count > 0 && (begin = StartOfCell(begin, end)) != end; --count) {
+      begin = Behind(FindSeparator<Separators>(begin, end), end);
+    }
+    return begin;
+  }
+
+  AlignedCells<Separators> cells_;
   std::vector<double> numbers_;
+  std::string_view rest_;       // of the line, behind what was read
+  std::size_t separators_ = 0;  // before that
   std::size_t count_ = 0;
-  std::size_t decimals_ = 6;  // of the last short number, which the next will have
-  bool is_ordinary_ = true;
 };
 
 }  // namespace orvane

@@ -12,10 +12,12 @@ namespace orvane {
 
 namespace short_decimal {
 
-inline constexpr std::array<double, 9> kPowersOfTen = {1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8};
+// Those that a number with so many decimals is divided by, and with a minus.
+inline constexpr std::array<std::array<double, 9>, 2> kDivisors = {
+    {{1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8},
+     {-1e0, -1e1, -1e2, -1e3, -1e4, -1e5, -1e6, -1e7, -1e8}}};
 inline constexpr std::array<Word, 9> kWholePowersOfTen = {
     1, 10, 100, 1000, 10000, 100000, 1000000, 10000000, 100000000};
-inline constexpr std::array<double, 2> kSigns = {1.0, -1.0};
 
 // The bytes of the last so many characters of a word.
 inline constexpr std::array<Word, 9> kLast = {0,
@@ -49,14 +51,16 @@ inline constexpr std::array<Word, 9> kLast = {0,
 
 }  // namespace short_decimal
 
-// So many characters before the end of a cell are looked at, whatever they are.
-inline constexpr std::size_t kShortDecimalReach = kCharactersPerWord + 1;
-inline constexpr std::size_t kLongerDecimalReach = 2 * kCharactersPerWord + 1;
+// So many characters before the end of a cell with so many decimals are looked at, whatever they
+// are.
+[[nodiscard]] constexpr std::size_t ReachOf(std::size_t decimals) {
+  return decimals + 1 + kCharactersPerWord;
+}
 
 // Reads the cell from `begin` up to `end`, with `decimals` digits behind its point, and eight at
 // most in all, into `value`, correctly rounded: digits and power of ten are exact. Returns false
 // when it is anything else. REQUIRES: the cell is not empty, `decimals` is at most 8, and
-// kShortDecimalReach characters before `end` may be read.
+// ReachOf(decimals) characters before `end` may be read.
 [[nodiscard]] inline bool ReadShortDecimal(const char* begin, const char* end, std::size_t decimals,
                                            double& value) {
   namespace parts = short_decimal;
@@ -68,14 +72,12 @@ inline constexpr std::size_t kLongerDecimalReach = 2 * kCharactersPerWord + 1;
   const Word before_point = LoadWord(end - kCharactersPerWord - 1) & ~parts::kLast[decimals];
   const Word number = parts::DigitsIn(behind_point | before_point, digits);
   if (!parts::AreDigits(number)) return false;
-  value = parts::kSigns[minus] *
-          (static_cast<double>(static_cast<std::int64_t>(parts::ValueOf(number))) /
-           parts::kPowersOfTen[decimals]);
+  value = static_cast<double>(static_cast<std::int64_t>(parts::ValueOf(number))) /
+          parts::kDivisors[minus][decimals];
   return true;
 }
 
 // The same of 9 to 16 digits, of which no more than eight are on either side of the point.
-// REQUIRES: kLongerDecimalReach characters may be read.
 [[nodiscard]] inline bool ReadLongerDecimal(const char* begin, const char* end,
                                             std::size_t decimals, double& value) {
   namespace parts = short_decimal;
@@ -92,8 +94,8 @@ inline constexpr std::size_t kLongerDecimalReach = 2 * kCharactersPerWord + 1;
   const Word number =
       parts::ValueOf(before) * parts::kWholePowersOfTen[decimals] + parts::ValueOf(behind);
   if (number > kLargestExactInteger) return false;
-  value = parts::kSigns[minus] *
-          (static_cast<double>(static_cast<std::int64_t>(number)) / parts::kPowersOfTen[decimals]);
+  value =
+      static_cast<double>(static_cast<std::int64_t>(number)) / parts::kDivisors[minus][decimals];
   return true;
 }
 

@@ -41,18 +41,4 @@ inline constexpr std::size_t kCharactersPerWord = 8;
   return ~(sum | word | kLowBits);
 }
 
-// The marks of the eight bytes as eight bits, that of the first byte lowest.
-[[nodiscard]] constexpr Word GatherMarks(Word marks) {
-  return ((marks >> 7U) * Word{0x0102040810204080}) >> 56U;
-}
-
-// How many bits are 1. What the standard library has calls a function where a processor may lack
-// the instruction.
-[[nodiscard]] constexpr std::size_t CountBits(Word word) {
-  word -= (word >> 1U) & Word{0x5555555555555555};
-  word = (word & Word{0x3333333333333333}) + ((word >> 2U) & Word{0x3333333333333333});
-  word = (word + (word >> 4U)) & WordOf('\x0F');
-  return static_cast<std::size_t>((word * WordOf('\x01')) >> 56U);
-}
-
 }  // namespace orvane

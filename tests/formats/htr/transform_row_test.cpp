@@ -4,6 +4,7 @@
 
 #include <cstddef>
 #include <string>
+#include <vector>
 
 namespace orvane {
 namespace {
@@ -33,6 +34,27 @@ TEST(TransformRowTest, ReadsFramesAsItReadsOtherLines) {
       EXPECT_EQ(ahead.Frame(0.25), row.Frame(0.25)) << text;
       EXPECT_TRUE(row.IsOrdinary()) << text;
     }
+  }
+}
+
+TEST(TransformRowTest, ReadsFramesWhateverStandsAboveThem) {
+  const std::vector<std::string> lines = {
+      "9\t0.500000\t-12.250000\t3.125000\t1234.567000\t1.000000\t2.000000\t1.000000\n",
+      "10\t-0.500000\t2.250000\t3.125000\t1234.567000\t-1.000000\t22.000000\t10.000000\r\n",
+      "11 1 2 3 4 5 6 7\n", "12\t1.5\t2.5\t3.5\t4.5\t5.5\t6.5\t7.5\n"};
+  for (const std::string& above : lines) {
+    for (const std::string& line : lines) {
+      TransformRow alone;
+      EXPECT_EQ(alone.ReadFrame(WithMore(line)), line.size());
+      TransformRow row;
+      EXPECT_EQ(row.ReadFrame(WithMore(above)), above.size());
+      EXPECT_EQ(row.ReadFrame(WithMore(line)), line.size());
+      EXPECT_EQ(row.Frame(1.0), alone.Frame(1.0)) << above << "above " << line;
+    }
+    TransformRow row;
+    EXPECT_EQ(row.ReadFrame(WithMore(above)), above.size());
+    EXPECT_EQ(row.ReadFrame(WithMore("9\t0.500000\t-12.250000\t3.125000\n")), 0U);
+    EXPECT_EQ(row.ReadFrame(above.substr(0, above.size() - 1)), 0U);
   }
 }
 

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <limits>
 #include <random>
@@ -165,6 +167,32 @@ TEST(NumberRow, FindsCellsWhereverTheyStand) {
       EXPECT_EQ(ReadRow(row, line, 0, kAll), "");
       ExpectSame(NumbersOf(row), std::vector<double>(cells, 7.0), line);
       EXPECT_TRUE(row.AreOrdinary());
+    }
+  }
+}
+
+// The rows before differ: longer, shorter and empty cells stand above each, and separators where
+// one of those ended.
+TEST(NumberRow, ReadsCellsWhateverStandsAboveThem) {
+  const std::vector<std::string> lines = {"1\t0.5\t-12.250\t3.125\t1234.567",
+                                          "2\t0.5\t12.250\t-3.125\t1234.567\t",
+                                          "3\t\t\t\t",
+                                          "4\t1.5\t2.5\t3.5\t4.5",
+                                          "5\t1000.5\t2\t3\t4",
+                                          "6\t1\t2\t3.5\t4.500000\t5",
+                                          "",
+                                          "12345\t0.5\t-1x.250\t3..25\t-"};
+  for (const std::string& above : lines) {
+    for (const std::string& line : lines) {
+      NumberRow<SingleTabs> alone;
+      const std::string rest = ReadRow(alone, line, 1, 4);
+      NumberRow<SingleTabs> row;
+      ReadRow(row, above, 1, 4);
+      const std::vector<char> bytes(line.begin(), line.end());
+      EXPECT_EQ(row.Read({bytes.data(), bytes.size()}, 1, 4), rest);
+      ExpectSame(NumbersOf(row), NumbersOf(alone), above + " above " + line);
+      EXPECT_EQ(row.AreOrdinary(), alone.AreOrdinary()) << above << " above " << line;
+      EXPECT_EQ(row.CellsOfLine(), 1U + std::ranges::count(line, '\t')) << line;
     }
   }
 }

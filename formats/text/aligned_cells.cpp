@@ -1,9 +1,9 @@
-#include "formats/text/number_row.h"
+#include "formats/text/aligned_cells.h"
 
 #include "formats/text/number_faults.h"
 #include "formats/text/numbers.h"
 
-namespace orvane::number_row {
+namespace orvane {
 namespace {
 
 // How many decimals the cell has if it is a short number.
@@ -13,21 +13,19 @@ std::size_t DecimalsOf(std::string_view cell) {
 }
 
 // Reads a number of up to 16 digits, by the decimals that it has.
-bool ReadDecimal(std::string_view cell, std::size_t& decimals, double& value) {
-  const char* const begin = cell.data();
-  const char* const end = begin + cell.size();
-  if (ReadLongerDecimal(begin, end, decimals, value)) return true;
+bool ReadDecimal(std::string_view cell, std::size_t reach, std::size_t& decimals, double& value) {
   const std::size_t own = DecimalsOf(cell);
-  if (own == decimals || own > kCharactersPerWord) return false;
-  if (!ReadLongerDecimal(begin, end, own, value)) return false;
+  if (own > kCharactersPerWord || reach < ReachOf(own)) return false;
+  if (!ReadLongerDecimal(cell.data(), cell.data() + cell.size(), own, value)) return false;
   decimals = own;
   return true;
 }
 
 }  // namespace
 
-bool ReadCell(std::string_view cell, std::size_t reach, std::size_t& decimals, double& value) {
-  if (reach >= kLongerDecimalReach && ReadDecimal(cell, decimals, value)) return true;
+bool ReadNumberCell(std::string_view cell, std::size_t reach, std::size_t& decimals,
+                    double& value) {
+  if (ReadDecimal(cell, reach, decimals, value)) return true;
   const char* const end = cell.data() + cell.size();
   const LeadingDouble number = ReadDouble(cell.data(), end);
   if (number.end == end) {
@@ -38,4 +36,4 @@ bool ReadCell(std::string_view cell, std::size_t reach, std::size_t& decimals, d
   return false;
 }
 
-}  // namespace orvane::number_row
+}  // namespace orvane
