@@ -90,8 +90,8 @@ std::vector<std::optional<Point>> EndsOf(const std::vector<HierarchyEntry>& tree
   std::vector<RotationMatrix3> world(tree.size());
   for (std::size_t joint = 0; joint < tree.size(); ++joint) {
     const HierarchyEntry& entry = tree[joint];
-    world[joint] =
-        entry.depth == 0 ? walk.RotationOf(joint).Matrix() : world[entry.parent] * walk.RotationOf(joint).Matrix();
+    world[joint] = entry.depth == 0 ? walk.RotationOf(joint).Matrix()
+                                    : world[entry.parent] * walk.RotationOf(joint).Matrix();
     if (joint + 1 < tree.size() && tree[joint + 1].depth > entry.depth) continue;
     Point end = walk.PositionOf(joint);
     for (unsigned int row = 0; row < 3; ++row) {

@@ -62,7 +62,8 @@ TEST(PoseWalkTest, InTheWorldASegmentIsTurnedByAllThatItHangsFrom) {
   EXPECT_NEAR(world[0], 0, 1e-12);
   EXPECT_NEAR(world[1], 0, 1e-12);
   EXPECT_NEAR(world[2], 135 * kRadiansPerDegree, 1e-12);
-  EXPECT_NEAR(orvane::EulerRotation(walk.WorldRotationOf(0).Matrix())[2], 90 * kRadiansPerDegree, 1e-12);
+  EXPECT_NEAR(orvane::EulerRotation(walk.WorldRotationOf(0).Matrix())[2], 90 * kRadiansPerDegree,
+              1e-12);
 }
 
 TEST(PoseWalkTest, ARotationIsTheBaseTimesTheFrameAgainstTheParent) {
