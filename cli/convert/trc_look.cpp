@@ -4,7 +4,7 @@
 
 #include "cli/common/input_source.h"
 #include "formats/trc/outline.h"
-#include "inspect/check/trc_check.h"
+#include "inspect/check/trc_look_over.h"
 #include "inspect/summary/trc_outline.h"
 
 namespace cli {

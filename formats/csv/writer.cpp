@@ -108,7 +108,7 @@ class SegmentSource final : public CsvSource {
       if (entry == kNoEntry || !is_holding_[entry]) return false;
       const Point& place = walk_.PositionOf(entry);
       std::copy(place.begin(), place.end(), values.begin());
-      PutRotation(walk_.WorldRotationOf(entry), values.subspan(place.size()));
+      PutRotation(walk_.WorldRotationOf(entry).Matrix(), values.subspan(place.size()));
       return true;
     }
     if (frame_ >= segment->GetNumFrames()) return false;

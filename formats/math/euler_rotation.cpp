@@ -1,9 +1,8 @@
 #include "formats/math/euler_rotation.h"
 
 #include <cmath>
-#include <utility>
 
-#include "formats/math/plain_rotation.h"
+#include "formats/math/euler_columns.h"
 #include "formats/math/rotation_matrix3.h"
 
 namespace orvane {
@@ -70,38 +69,13 @@ T Continue(T angle, T previous) {
   return angle;
 }
 
-// Both ways between angles and a matrix stand here; the matrix itself knows nothing of angles.
-// `m` is its columns, m[column][row].
-template <typename T, typename Columns>
-void SetColumns(const OrvaneEulerRotation<T>& rotation, Columns& m) {
-  const auto [i, j, k, odd_parity, repeats_first_axis, rotating_frame] = rotation.order().Decode();
-  T a = rotation[0], b = rotation[1], c = rotation[2];
-  if (rotating_frame) std::swap(a, c);
-  if (odd_parity) a = -a, b = -b, c = -c;
-
-  const T ci = std::cos(a), cj = std::cos(b), ch = std::cos(c);
-  const T si = std::sin(a), sj = std::sin(b), sh = std::sin(c);
-  const T cc = ci * ch, cs = ci * sh, sc = si * ch, ss = si * sh;
-  if (repeats_first_axis) {
-    m[i][i] = cj, m[j][i] = sj * si, m[k][i] = sj * ci;
-    m[i][j] = sj * sh, m[j][j] = -cj * ss + cc, m[k][j] = -cj * cs - sc;
-    m[i][k] = -sj * ch, m[j][k] = cj * sc + cs, m[k][k] = cj * cc - ss;
-  } else {
-    m[i][i] = cj * ch, m[j][i] = sj * sc - cs, m[k][i] = sj * cc + ss;
-    m[i][j] = cj * sh, m[j][j] = sj * ss + cc, m[k][j] = sj * cs - sc;
-    m[i][k] = -sj, m[j][k] = cj * si, m[k][k] = cj * ci;
-  }
-}
-
 }  // namespace
 
 template <typename T>
 OrvaneRotationMatrix3<T>& OrvaneRotationMatrix3<T>::Set(const OrvaneEulerRotation<T>& rotation) {
-  SetColumns(rotation, vectors_);
+  SetEulerColumns(rotation.order().Decode(), rotation[0], rotation[1], rotation[2], vectors_);
   return *this;
 }
-
-void PlainRotation::Set(const EulerRotation& rotation) { SetColumns(rotation, columns_); }
 
 template <typename T>
 OrvaneEulerRotation<T>& OrvaneEulerRotation<T>::Set(const OrvaneRotationMatrix3<T>& matrix) {

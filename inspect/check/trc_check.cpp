@@ -12,6 +12,7 @@
 #include "inspect/check/started_source.h"
 #include "inspect/check/text_flaw.h"
 #include "inspect/check/trc_findings_observer.h"
+#include "inspect/check/trc_look_over.h"
 #include "inspect/check/trc_parts.h"
 #include "inspect/check/trc_positions.h"
 #include "inspect/check/trc_rules.h"

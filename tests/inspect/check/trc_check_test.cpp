@@ -3,6 +3,7 @@
 #include <memory>
 #include <string>
 
+#include "inspect/check/trc_look_over.h"
 #include "inspect/check/trc_rules.h"
 #include "tests/inspect/check/check_rows.h"
 #include "tests/support/blocks.h"

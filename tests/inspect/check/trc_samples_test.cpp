@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "inspect/check/trc_check.h"
+#include "inspect/check/trc_look_over.h"
 #include "tests/support/trc_text.h"
 
 namespace {
