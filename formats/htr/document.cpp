@@ -11,7 +11,7 @@
 namespace orvane {
 
 void HtrDocument::Clear() {
-  by_name_.clear();
+  by_name_.Clear();
   segments_.clear();
   HtrFrameBlock().swap(*frames_);
   expected_ = 0;
@@ -29,10 +29,12 @@ HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
   if (name.find(' ') != std::string::npos) return nullptr;
   if (names_changed_) RefreshNames();
   HtrSegment& stored = segments_.emplace_back(segment);
-  if (!by_name_.emplace(stored.name_.Get(), segments_.size() - 1).second) {
+  const std::size_t index = segments_.size() - 1;
+  if (!by_name_.Add(stored.name_.Get(), index, NameAt())) {
     segments_.pop_back();
     return nullptr;
   }
+  stored.index_.value = index;
   stored.frames_.Share(frames_);
   stored.name_.Watch(names_changed_);
   return &stored;
@@ -41,14 +43,14 @@ HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
 HtrSegment* HtrDocument::FindSegment(std::string_view name) {
   if (names_changed_) RefreshNames();
   if (IsExpected(name)) return &segments_[expected_++];
-  const auto found = by_name_.find(name);
-  if (found == by_name_.end()) return nullptr;
-  expected_ = found->second + 1;
-  return &segments_[found->second];
+  const auto found = by_name_.Find(name, NameAt());
+  if (!found) return nullptr;
+  expected_ = *found + 1;
+  return &segments_[*found];
 }
 
 bool HtrDocument::IsExpected(std::string_view name) const {
-  const bool names_differ = by_name_.size() == segments_.size();
+  const bool names_differ = by_name_.Size() == segments_.size();
   return names_differ && expected_ < segments_.size() && segments_[expected_].name_.Get() == name;
 }
 
@@ -117,9 +119,9 @@ void HtrDocument::ConvertCalibrationUnits(std::uint32_t code) {
 }
 
 void HtrDocument::RefreshNames() {
-  by_name_.clear();
+  by_name_.Clear();
   for (std::size_t i = 0; i < segments_.size(); ++i) {
-    by_name_.emplace(segments_[i].name_.Get(), i);
+    by_name_.Add(segments_[i].name_.Get(), i, NameAt());
   }
   names_changed_ = false;
 }

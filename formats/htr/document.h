@@ -4,13 +4,14 @@
 #include <cstdint>
 #include <deque>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 #include "formats/htr/frames_view.h"
 #include "formats/htr/segment.h"
+#include "formats/text/name_index.h"
 
 // A motion file in memory: the settings of its header and its segments in file order. Reading and
 // writing files is not done here. Unit and axis codes are those of formats/units.
@@ -66,6 +67,13 @@ class HtrDocument {
 
   // The first segment of that very name, in constant time; null when there is none.
   HtrSegment* FindSegment(std::string_view name);
+  // Where `segment` stands among the segments, in constant time; nothing when it is not of this
+  // document.
+  [[nodiscard]] std::optional<std::size_t> IndexOf(const HtrSegment& segment) const {
+    const std::size_t index = segment.index_.value;
+    const bool is_own = index < segments_.size() && &segments_[index] == &segment;
+    return is_own ? std::optional<std::size_t>(index) : std::nullopt;
+  }
   // The first segment that is a root; null when there is none.
   HtrSegment* FindRootSegment();
   std::vector<std::string> GetSegmentNames() const;
@@ -87,6 +95,10 @@ class HtrDocument {
   void ConvertCalibrationUnits(std::uint32_t code);
 
  private:
+  // Tells the name of the segment at an index.
+  [[nodiscard]] auto NameAt() const {
+    return [this](std::size_t index) -> const std::string& { return segments_[index].name_.Get(); };
+  }
   void RefreshNames();
   [[nodiscard]] bool AreFramesAligned(std::size_t most) const;
   void AlignFrames(std::size_t most);
@@ -105,8 +117,7 @@ class HtrDocument {
   bool normalize_bone_scale_ = false;
   double scale_factor_ = 1.0;
 
-  // The index of the first segment of each name; the keys are the segments' own names.
-  std::unordered_map<std::string_view, std::size_t> by_name_;
+  NameIndex by_name_;  // the first segment of each name
 
   // The index behind the segment found last. Files mostly name segments in their order, and of many
   // segments the next one is nearer at hand than the table.

@@ -1,13 +1,10 @@
 #include "formats/htr/document_checker.h"
 
-#include <string_view>
-#include <unordered_set>
-#include <vector>
+#include <array>
+#include <cstddef>
 
 namespace orvane {
 namespace {
-
-using Segments = std::unordered_set<const HtrSegment*>;
 
 std::string FaultOfName(HtrDocument& document, const HtrSegment& segment) {
   const std::string name = segment.GetName();
@@ -17,13 +14,14 @@ std::string FaultOfName(HtrDocument& document, const HtrSegment& segment) {
   return {};
 }
 
-std::string FaultOfLinks(const HtrSegment& segment, const Segments& all) {
+std::string FaultOfLinks(const HtrDocument& document, const HtrSegment& segment) {
   const HtrSegment* parent = segment.GetParent();
-  if (parent != nullptr && !all.contains(parent))
+  if (parent != nullptr && !document.IndexOf(*parent)) {
     return segment.GetName() + " has a strange parent";
+  }
   for (int index = 0; index < segment.GetNumChildren(); ++index) {
     const HtrSegment* child = segment.GetChild(index);
-    if (!all.contains(child)) return segment.GetName() + " has a strange child";
+    if (!document.IndexOf(*child)) return segment.GetName() + " has a strange child";
     if (child->GetParent() != &segment) return child->GetName() + " has two parents";
   }
   if (segment.GetChild(-1) != nullptr || segment.GetChild(segment.GetNumChildren()) != nullptr) {
@@ -42,13 +40,12 @@ std::string FaultOfFrames(const HtrSegment& segment) {
 }  // namespace
 
 std::string FindFault(HtrDocument& document) {
-  Segments all;
-  for (const HtrSegment& segment : document.segments()) all.insert(&segment);
-  if (document.GetNumSegments() != static_cast<int>(all.size())) return "a wrong segment count";
-  if (document.GetSegmentNames().size() != all.size()) return "a wrong count of names";
+  std::size_t index = 0;
   for (const HtrSegment& segment : document.segments()) {
-    for (const std::string& fault :
-         {FaultOfName(document, segment), FaultOfLinks(segment, all), FaultOfFrames(segment)}) {
+    if (document.IndexOf(segment) != index++) return segment.GetName() + " in another's place";
+    const std::array faults = {FaultOfName(document, segment), FaultOfLinks(document, segment),
+                               FaultOfFrames(segment)};
+    for (const std::string& fault : faults) {
       if (!fault.empty()) return fault;
     }
   }

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -110,6 +111,16 @@ class HtrSegment {
   }
   void KeepOtherOrderCode(std::uint32_t code);
 
+  // In the owning document; that of a copy is none, and one that is overwritten keeps its own.
+  struct OwnIndex {
+    OwnIndex() = default;
+    OwnIndex(const OwnIndex& /*other*/) {}
+    // NOLINTNEXTLINE(bugprone-unhandled-self-assignment): nothing is assigned
+    OwnIndex& operator=(const OwnIndex& /*other*/) { return *this; }
+
+    std::size_t value = std::numeric_limits<std::size_t>::max();
+  };
+
   bool is_root_ = false;
   WatchedName name_;  // the owning document watches it
   HtrSegment* parent_ = nullptr;
@@ -119,6 +130,7 @@ class HtrSegment {
   double bone_length_ = 0.0;
   double scale_reference_length_ = 1.0;
   HtrSegmentFrames frames_;
+  OwnIndex index_;
   std::uint32_t order_code_ = 0;            // of all frames, while they share it
   std::vector<std::uint32_t> order_codes_;  // of each; empty while they share one
 };

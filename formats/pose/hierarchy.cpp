@@ -10,6 +10,11 @@ namespace {
 // A segment may be listed more than once among its parent's children.
 class Walk {
  public:
+  explicit Walk(const HtrDocument& document)
+      : document_(document), is_listed_(document.segments().size()) {
+    entries_.reserve(is_listed_.size());
+  }
+
   void AddTree(const HtrSegment& root) {
     Add({&root, entries_.size(), 0});
     while (!waiting_.empty()) {
@@ -23,7 +28,7 @@ class Walk {
 
  private:
   void Add(const HierarchyEntry& entry) {
-    if (!seen_.insert(entry.segment).second) return;
+    if (!List(*entry.segment)) return;
     const std::size_t index = entries_.size();
     entries_.push_back(entry);
     for (int i = entry.segment->GetNumChildren() - 1; i >= 0; --i) {
@@ -31,15 +36,26 @@ class Walk {
     }
   }
 
+  // Returns whether it was not listed before.
+  bool List(const HtrSegment& segment) {
+    const auto index = document_.IndexOf(segment);
+    if (!index) return strangers_.insert(&segment).second;
+    if (is_listed_[*index]) return false;
+    is_listed_[*index] = true;
+    return true;
+  }
+
+  const HtrDocument& document_;
   std::vector<HierarchyEntry> entries_;
   std::vector<HierarchyEntry> waiting_;
-  std::unordered_set<const HtrSegment*> seen_;
+  std::vector<bool> is_listed_;                      // of the document
+  std::unordered_set<const HtrSegment*> strangers_;  // that are listed and not of the document
 };
 
 }  // namespace
 
 std::vector<HierarchyEntry> ListHierarchy(const HtrDocument& document) {
-  Walk walk;
+  Walk walk(document);
   for (const HtrSegment& segment : document.segments()) {
     if (segment.GetIsRoot()) walk.AddTree(segment);
   }
@@ -57,11 +73,14 @@ std::size_t MostFramesOf(const std::vector<HierarchyEntry>& hierarchy) {
 std::vector<const HtrSegment*> ListUnattached(const HtrDocument& document,
                                               const std::vector<HierarchyEntry>& attached) {
   assert(attached.size() <= document.segments().size());
-  std::unordered_set<const HtrSegment*> seen;
-  for (const HierarchyEntry& entry : attached) seen.insert(entry.segment);
+  std::vector<bool> is_attached(document.segments().size());
+  for (const HierarchyEntry& entry : attached) {
+    if (const auto index = document.IndexOf(*entry.segment)) is_attached[*index] = true;
+  }
   std::vector<const HtrSegment*> unattached;
+  std::size_t index = 0;
   for (const HtrSegment& segment : document.segments()) {
-    if (seen.count(&segment) == 0) unattached.push_back(&segment);
+    if (!is_attached[index++]) unattached.push_back(&segment);
   }
   return unattached;
 }

@@ -1,7 +1,6 @@
 #include "formats/pose/pose_walk.h"
 
 #include <algorithm>
-#include <limits>
 #include <numeric>
 #include <utility>
 
@@ -15,37 +14,50 @@ constexpr std::size_t kMostPlaces = 512;
 
 PoseWalk::PoseWalk(std::vector<HierarchyEntry> hierarchy, PoseParts parts)
     : hierarchy_(std::move(hierarchy)),
-      base_rotations_(hierarchy_.size()),
-      is_turned_(hierarchy_.size(), parts == PoseParts::kPositionsAndRotations),
+      turns_(hierarchy_.size(), kNotTurned),
       holding_(hierarchy_.size()),
       above_(hierarchy_.size()),
       most_frames_(
           std::max<std::size_t>(1, kMostPlaces / std::max<std::size_t>(1, hierarchy_.size()))),
       positions_(hierarchy_.size() * most_frames_),
-      rotations_(parts == PoseParts::kPositionsAndRotations ? positions_.size() : 0),
-      world_rotations_(positions_.size()) {
+      rotations_(parts == PoseParts::kPositionsAndRotations ? positions_.size() : 0) {
   std::iota(holding_.begin(), holding_.end(), std::size_t{0});
   for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
     assert(hierarchy_[entry].parent <= entry);
-    base_rotations_[entry].Set(hierarchy_[entry].segment->GetBaseRotation());
-    const std::size_t above = above_[entry] = hierarchy_[entry].parent;
-    if (above != entry) is_turned_[above] = true;
+    above_[entry] = hierarchy_[entry].parent;
   }
+  FindTurned(parts);
+}
+
+// Of those that nobody hangs from, which may be nearly all, no rotation is held or worked out.
+void PoseWalk::FindTurned(PoseParts parts) {
+  std::vector<bool> is_turned(hierarchy_.size(), parts == PoseParts::kPositionsAndRotations);
+  for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
+    if (above_[entry] != entry) is_turned[above_[entry]] = true;
+  }
+  const auto count = std::count(is_turned.begin(), is_turned.end(), true);
+  base_rotations_.reserve(static_cast<std::size_t>(count));
+  for (std::size_t entry = 0; entry < hierarchy_.size(); ++entry) {
+    if (!is_turned[entry]) continue;
+    turns_[entry] = base_rotations_.size();
+    base_rotations_.emplace_back(hierarchy_[entry].segment->GetBaseRotation());
+  }
+  world_rotations_.resize(base_rotations_.size() * most_frames_);
 }
 
 inline void PoseWalk::Place(std::size_t entry, std::size_t offset, const Point& translation) {
-  const std::size_t above = SlotOf(above_[entry], offset);
-  positions_[SlotOf(entry, offset)] =
-      above_[entry] == entry ? translation
-                             : world_rotations_[above].Moved(positions_[above], translation);
+  const std::size_t above = above_[entry];
+  positions_[SlotOf(entry, offset)] = above == entry
+                                          ? translation
+                                          : world_rotations_[TurnSlotOf(above, offset)].Moved(
+                                                positions_[SlotOf(above, offset)], translation);
 }
 
 inline void PoseWalk::Turn(std::size_t entry, std::size_t offset, const PlainRotation& rotation) {
-  const std::size_t slot = SlotOf(entry, offset);
-  if (!rotations_.empty()) rotations_[slot] = rotation;
+  if (!rotations_.empty()) rotations_[SlotOf(entry, offset)] = rotation;
   const std::size_t above = above_[entry];
-  world_rotations_[slot] =
-      above == entry ? rotation : world_rotations_[SlotOf(above, offset)] * rotation;
+  world_rotations_[TurnSlotOf(entry, offset)] =
+      above == entry ? rotation : world_rotations_[TurnSlotOf(above, offset)] * rotation;
 }
 
 void PoseWalk::MoveTo(std::size_t frame) {
@@ -61,7 +73,7 @@ void PoseWalk::TakeBasePosition() {
   for (const std::size_t entry : holding_) {
     const Vector3 base = hierarchy_[entry].segment->GetBaseTranslation();
     Place(entry, 0, {base.x(), base.y(), base.z()});
-    if (is_turned_[entry]) Turn(entry, 0, base_rotations_[entry]);
+    if (IsTurned(entry)) Turn(entry, 0, base_rotations_[turns_[entry]]);
   }
 }
 
@@ -74,7 +86,7 @@ void PoseWalk::StartBlock(std::size_t frame) {
   block_end_ = frame + std::min(length, next_end_ - frame);
   for (const std::size_t entry : holding_) {
     PlaceInBlock(entry);
-    if (is_turned_[entry]) TurnInBlock(entry);
+    if (IsTurned(entry)) TurnInBlock(entry);
   }
 }
 
@@ -90,9 +102,10 @@ void PoseWalk::PlaceInBlock(std::size_t entry) {
 
 void PoseWalk::TurnInBlock(std::size_t entry) {
   const HtrSegment& segment = *hierarchy_[entry].segment;
+  const PlainRotation& base = base_rotations_[turns_[entry]];
   for (std::size_t frame = block_begin_; frame < block_end_; ++frame) {
     const PlainRotation rotation(segment.GetFrameRotation(frame));
-    Turn(entry, frame - block_begin_, base_rotations_[entry] * rotation);
+    Turn(entry, frame - block_begin_, base * rotation);
   }
 }
 

@@ -2,6 +2,7 @@
 
 #include <cassert>
 #include <cstddef>
+#include <limits>
 #include <vector>
 
 #include "formats/math/plain_rotation.h"
@@ -57,10 +58,15 @@ class PoseWalk {
   [[nodiscard]] const PlainRotation& WorldRotationOf(std::size_t entry) const {
     assert(!rotations_.empty());
     assert(entry < hierarchy_.size());
-    return world_rotations_[SlotOf(entry, offset_)];
+    return world_rotations_[TurnSlotOf(entry, offset_)];
   }
 
  private:
+  static constexpr std::size_t kNotTurned = std::numeric_limits<std::size_t>::max();
+
+  // Whether anybody needs to know how the entry is turned.
+  [[nodiscard]] bool IsTurned(std::size_t entry) const { return turns_[entry] != kNotTurned; }
+  void FindTurned(PoseParts parts);
   void DropEnded(std::size_t frame);
   void StartBlock(std::size_t frame);
   void PlaceInBlock(std::size_t entry);
@@ -72,10 +78,14 @@ class PoseWalk {
   std::size_t SlotOf(std::size_t entry, std::size_t offset) const {
     return entry * most_frames_ + offset;
   }
+  // The same among the turned ones. REQUIRES: the entry is turned.
+  std::size_t TurnSlotOf(std::size_t entry, std::size_t offset) const {
+    return turns_[entry] * most_frames_ + offset;
+  }
 
   std::vector<HierarchyEntry> hierarchy_;
-  std::vector<PlainRotation> base_rotations_;
-  std::vector<bool> is_turned_;  // whether anybody needs to know how the entry is turned
+  std::vector<std::size_t> turns_;             // which of the turned entries it is, if any
+  std::vector<PlainRotation> base_rotations_;  // of the turned ones
   std::vector<std::size_t> holding_;
   std::vector<std::size_t> above_;  // the next one up that holds the frame; itself for the topmost
   std::size_t next_end_ = 0;        // the first frame that some entry no longer holds
@@ -85,8 +95,8 @@ class PoseWalk {
   std::size_t block_end_ = 0;
   std::size_t offset_ = 0;  // where the walk is in the block
   std::vector<Point> positions_;
-  std::vector<PlainRotation> rotations_;  // empty where nobody asks for them
-  std::vector<PlainRotation> world_rotations_;
+  std::vector<PlainRotation> rotations_;        // empty where nobody asks for them
+  std::vector<PlainRotation> world_rotations_;  // of the turned ones
 };
 
 }  // namespace orvane

@@ -282,8 +282,7 @@ void HtrFindingsObserver::CheckRate(const HtrCell& value) {
 }
 
 void HtrFindingsObserver::OnSegment(const HtrCell& name, const HtrCell& parent) {
-  parts_.segment_by_name.emplace(name.text, parts_.segments.size());
-  parts_.segments.push_back({KeptCell(name), KeptCell(parent)});
+  parts_.AddSegment(KeptCell(name), KeptCell(parent));
   CheckName(name);
 }
 

@@ -3,14 +3,14 @@
 #include <array>
 #include <cassert>
 #include <cstddef>
-#include <functional>
+#include <deque>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_map>
-#include <vector>
+#include <utility>
 
 #include "formats/htr/read_observer.h"
+#include "formats/text/name_index.h"
 #include "inspect/check/findings.h"
 #include "inspect/check/kept_cell.h"
 
@@ -58,14 +58,6 @@ struct SegmentLines {
   std::size_t frames = 0;                // in all of them
 };
 
-// Finds own names by any text.
-struct NameHash {
-  using is_transparent = void;
-  std::size_t operator()(std::string_view name) const {
-    return std::hash<std::string_view>()(name);
-  }
-};
-
 struct HtrParts {
   std::optional<FindingPlace> header;  // name of the first such section, and so on
   std::optional<FindingPlace> hierarchy;
@@ -79,27 +71,36 @@ struct HtrParts {
 
   std::array<std::optional<KeptCell>, kKeywords.size()> values;  // the last of each keyword
 
-  std::vector<SegmentLines> segments;  // in the document's order
-  std::unordered_map<std::string, std::size_t, NameHash, std::equal_to<>> segment_by_name;
+  std::deque<SegmentLines> segments;  // in the document's order
+  NameIndex segment_by_name;
   mutable std::size_t likely_next = 0;  // where IndexOf looks first
 
   FindingPlace end;  // behind the last byte
+
+  // Tells the name of the segment at an index.
+  [[nodiscard]] auto NameAt() const {
+    return [this](std::size_t index) -> const std::string& { return segments[index].name.text; };
+  }
+
+  void AddSegment(KeptCell name, KeptCell parent) {
+    segments.push_back({std::move(name), std::move(parent)});
+    segment_by_name.Add(segments.back().name.text, segments.size() - 1, NameAt());
+  }
 
   // The index of the segment of that name, its first; nothing when there is none. Files nearly
   // always take the segments in one order, section after section: the one behind the last that was
   // found is looked at first.
   [[nodiscard]] std::optional<std::size_t> IndexOf(std::string_view name) const {
-    const bool have_own_names = segment_by_name.size() == segments.size();
+    const bool have_own_names = segment_by_name.Size() == segments.size();
     const bool is_next =
         have_own_names && likely_next < segments.size() && segments[likely_next].name.text == name;
     if (is_next) return likely_next++;
-    const auto found = segment_by_name.find(name);
-    if (found == segment_by_name.end()) return std::nullopt;
-    likely_next = found->second + 1;
-    return found->second;
+    const auto found = segment_by_name.Find(name, NameAt());
+    if (found) likely_next = *found + 1;
+    return found;
   }
 
-  // Null when there is no such segment. It stays where it is until the next one is added.
+  // Null when there is no such segment. It stays where it is.
   [[nodiscard]] SegmentLines* Find(std::string_view name) {
     const auto index = IndexOf(name);
     return index ? &segments[*index] : nullptr;

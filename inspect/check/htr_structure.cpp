@@ -5,7 +5,6 @@
 #include <cmath>
 #include <numbers>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 #include "formats/htr/sections.h"
@@ -258,13 +257,12 @@ void Structure::CheckRoots() {
 
 // Follows every segment to its root, each only as far as no walk before it has come.
 void Structure::CheckCircles() {
-  std::unordered_map<const HtrSegment*, std::size_t> indices;
-  for (const HtrSegment& segment : document_.segments()) indices.emplace(&segment, indices.size());
-  const std::size_t count = indices.size();
-  std::vector<std::size_t> parents(count, count);  // `count` stands for none
-  for (const auto& [segment, index] : indices) {
-    const auto parent = indices.find(segment->GetParent());
-    if (parent != indices.end()) parents[index] = parent->second;
+  const std::size_t count = document_.segments().size();
+  std::vector<std::size_t> parents;  // `count` stands for none
+  parents.reserve(count);
+  for (const HtrSegment& segment : document_.segments()) {
+    const HtrSegment* const parent = segment.GetParent();
+    parents.push_back(parent == nullptr ? count : document_.IndexOf(*parent).value_or(count));
   }
   std::vector<std::size_t> walks(count, count);  // the walk that came by
   for (std::size_t start = 0; start < count; ++start) {

@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -151,6 +152,28 @@ TEST(HtrDocument, IsNotBotheredByTheNamesOfCopies) {
   }
   copy.SetName("Pelvis");
   EXPECT_EQ(copy.GetName(), "Pelvis");
+}
+
+TEST(HtrDocument, TellsWhereItsOwnSegmentsStand) {
+  HtrDocument document;
+  document.AddSegment(HtrSegment("first"));
+  HtrSegment* const second = document.AddSegment(HtrSegment("second"));
+  EXPECT_EQ(document.IndexOf(document.segments().front()), 0U);
+  EXPECT_EQ(document.IndexOf(*second), 1U);
+  *second = HtrSegment("other");
+  EXPECT_EQ(document.IndexOf(*second), 1U);
+  *second = HtrSegment(document.segments().front());
+  EXPECT_EQ(document.IndexOf(*second), 1U);
+}
+
+TEST(HtrDocument, HasNoPlaceForOtherSegments) {
+  HtrDocument document;
+  const HtrSegment* const own = document.AddSegment(HtrSegment("first"));
+  const HtrSegment copy(*own);
+  EXPECT_EQ(document.IndexOf(copy), std::nullopt);
+  EXPECT_EQ(document.IndexOf(HtrSegment("first")), std::nullopt);
+  HtrDocument other;
+  EXPECT_EQ(document.IndexOf(*other.AddSegment(copy)), std::nullopt);
 }
 
 TEST(HtrDocument, FindsTheFirstRoot) {

@@ -13,8 +13,7 @@ namespace {
 void Add(std::string_view name, HtrParts& parts) {
   HtrCell cell;
   cell.text = name;
-  parts.segment_by_name.emplace(name, parts.segments.size());
-  parts.segments.push_back({KeptCell(cell), KeptCell()});
+  parts.AddSegment(KeptCell(cell), KeptCell());
 }
 
 HtrParts PartsWith(std::initializer_list<std::string_view> names) {
