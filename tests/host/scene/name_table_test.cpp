@@ -2,6 +2,10 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <random>
+#include <string>
+
 namespace host {
 namespace {
 
@@ -14,6 +18,26 @@ TEST(NameTable, KnowsWhichNamesAreInUse) {
   EXPECT_TRUE(names.Contains("Hips"));
   names.Remove("Hips");
   EXPECT_FALSE(names.Contains("Hips"));
+}
+
+// Against plain counts, with few names for many steps, so that all of them meet.
+TEST(NameTable, KeepsManyNamesApartAsTheyComeAndGo) {
+  NameTable names;
+  std::map<std::string, int> uses;
+  std::mt19937 random(1);
+  for (int step = 0; step < 20000; ++step) {
+    const std::string name = "Bone" + std::to_string(random() % 300);
+    int& count = uses[name];
+    ASSERT_EQ(names.Contains(name), count > 0) << step;
+    if (count > 0 && random() % 2 == 0) {
+      names.Remove(name);
+      --count;
+    } else {
+      names.Add(name);
+      ++count;
+    }
+  }
+  for (const auto& [name, count] : uses) EXPECT_EQ(names.Contains(name), count > 0) << name;
 }
 
 TEST(NameTable, LeavesAFreeNameAlone) {
