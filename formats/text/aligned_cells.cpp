@@ -15,8 +15,8 @@ std::size_t DecimalsOf(std::string_view cell) {
 // Reads a number of up to 16 digits, by the decimals that it has.
 bool ReadDecimal(std::string_view cell, std::size_t reach, std::size_t& decimals, double& value) {
   const std::size_t own = DecimalsOf(cell);
-  if (own > kCharactersPerWord || reach < ReachOf(own)) return false;
-  if (!ReadLongerDecimal(cell.data(), cell.data() + cell.size(), own, value)) return false;
+  if (own > kCharactersPerWord) return false;
+  if (!ReadDecimalOfRow(cell.data(), cell.data() + cell.size(), reach, own, value)) return false;
   decimals = own;
   return true;
 }

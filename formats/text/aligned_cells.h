@@ -58,9 +58,10 @@ class AlignedCells {
     const std::size_t length = lengths_[index];
     if (length < left) {
       const char* const end = begin + length;
-      const bool is_likely = Separators::Separates(*end) &&
-                             static_cast<std::size_t>(end - text.data()) >= ReachOf(decimals_);
-      if (is_likely && ReadDecimalOfRow(begin, end, decimals_, value)) return end;
+      const std::size_t reach = static_cast<std::size_t>(end - text.data());
+      if (Separators::Separates(*end) && ReadDecimalOfRow(begin, end, reach, decimals_, value)) {
+        return end;
+      }
     }
     return ReadUnlikeAbove(text, begin, index, value);
   }

@@ -51,16 +51,16 @@ inline constexpr std::array<Word, 9> kLast = {0,
 
 }  // namespace short_decimal
 
-// So many characters before the end of a cell with so many decimals are looked at, whatever they
-// are.
-[[nodiscard]] constexpr std::size_t ReachOf(std::size_t decimals) {
+// So many characters before the end of a cell are looked at, whatever they are.
+inline constexpr std::size_t kShortDecimalReach = kCharactersPerWord + 1;
+[[nodiscard]] constexpr std::size_t LongerDecimalReach(std::size_t decimals) {
   return decimals + 1 + kCharactersPerWord;
 }
 
 // Reads the cell from `begin` up to `end`, with `decimals` digits behind its point, and eight at
 // most in all, into `value`, correctly rounded: digits and power of ten are exact. Returns false
 // when it is anything else. REQUIRES: the cell is not empty, `decimals` is at most 8, and
-// ReachOf(decimals) characters before `end` may be read.
+// kShortDecimalReach characters before `end` may be read.
 [[nodiscard]] inline bool ReadShortDecimal(const char* begin, const char* end, std::size_t decimals,
                                            double& value) {
   namespace parts = short_decimal;
@@ -78,6 +78,7 @@ inline constexpr std::array<Word, 9> kLast = {0,
 }
 
 // The same of 9 to 16 digits, of which no more than eight are on either side of the point.
+// REQUIRES: LongerDecimalReach(decimals) characters may be read.
 [[nodiscard]] inline bool ReadLongerDecimal(const char* begin, const char* end,
                                             std::size_t decimals, double& value) {
   namespace parts = short_decimal;
@@ -99,11 +100,12 @@ inline constexpr std::array<Word, 9> kLast = {0,
   return true;
 }
 
-// The same of one or the other.
-[[nodiscard]] inline bool ReadDecimalOfRow(const char* begin, const char* end, std::size_t decimals,
-                                           double& value) {
-  return ReadShortDecimal(begin, end, decimals, value) ||
-         ReadLongerDecimal(begin, end, decimals, value);
+// The same of one or the other, of which `reach` characters before `end` may be read.
+[[nodiscard]] inline bool ReadDecimalOfRow(const char* begin, const char* end, std::size_t reach,
+                                           std::size_t decimals, double& value) {
+  return reach >= kShortDecimalReach && (ReadShortDecimal(begin, end, decimals, value) ||
+                                         (reach >= LongerDecimalReach(decimals) &&
+                                          ReadLongerDecimal(begin, end, decimals, value)));
 }
 
 }  // namespace orvane
