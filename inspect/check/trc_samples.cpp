@@ -39,6 +39,7 @@ void Take(std::size_t frame, const TRCPosition& position, double distance,
 void TrcSamples::Start(const TRCDocument& document) {
   markers_.resize(document.MarkerCount());
   usual_.resize(markers_.size());
+  gap_begins_.resize(markers_.size(), 0);
   horizon_ = Horizon(static_cast<std::uint32_t>(document.Units()));
   const auto announced = static_cast<std::size_t>(std::max(document.NumFrames(), 0));
   measure_ = SubjectMeasure::ByStride(SubjectMeasure::StrideThrough(announced), markers_.size());
@@ -49,26 +50,29 @@ void TrcSamples::TakeFrame(const TRCDocument& document, std::span<const double> 
   const std::size_t count = coordinates.size() / kCoordinates;
   const double* at = coordinates.data();
   for (std::size_t marker = 0; marker < count; ++marker, at += kCoordinates) {
-    if (std::isnan(at[0])) continue;
-    Usual& usual = usual_[marker];
-    if (usual.frames_seen != frames_) EndGap(marker);
-    usual.frames_seen = frames_ + 1;
-    const TRCPosition position = PositionAt(at);
-    const double distance = DistanceOf(position);
-    const bool is_usual = distance < usual.distance && distance > 0.0 &&
-                          position.z >= usual.lowest_z && position.z <= usual.highest_z;
-    if (!is_usual) TakeUnusual(marker, position, distance);
+    if (usual_[marker].Holds(at)) continue;
+    if (std::isnan(at[0])) {
+      TakeDropout(marker);
+    } else {
+      TakeUnusual(marker, PositionAt(at));
+    }
   }
+  for (std::size_t marker = count; marker < width_; ++marker) TakeDropout(marker);
+  width_ = count;
   if (measure_->LooksAt(frames_)) MeasureFrame(coordinates);
   ++frames_;
 }
 
-void TrcSamples::EndGap(std::size_t marker) {
-  markers_[marker].gaps.push_back({usual_[marker].frames_seen, frames_});
+void TrcSamples::TakeDropout(std::size_t marker) {
+  if (gap_begins_[marker]) return;
+  gap_begins_[marker] = frames_;
+  usual_[marker] = {};
 }
 
-void TrcSamples::TakeUnusual(std::size_t marker, const TRCPosition& position, double distance) {
+void TrcSamples::TakeUnusual(std::size_t marker, const TRCPosition& position) {
+  EndGap(marker);
   MarkerSamples& samples = markers_[marker];
+  const double distance = DistanceOf(position);
   Take(frames_, position, distance, samples.extremes);
   const bool may_be_far = horizon_.MayHide(distance);
   if (may_be_far && horizon_.Hides(position.x, position.y, position.z)) {
@@ -76,10 +80,14 @@ void TrcSamples::TakeUnusual(std::size_t marker, const TRCPosition& position, do
   }
   samples.lowest_z = std::min(samples.lowest_z, position.z);
   samples.highest_z = std::max(samples.highest_z, position.z);
-  Usual& usual = usual_[marker];
-  usual.distance = std::min(samples.extremes.next_farthest, horizon_.Distance());
-  usual.lowest_z = samples.lowest_z;
-  usual.highest_z = samples.highest_z;
+  const double near = std::min(samples.extremes.next_farthest, horizon_.Distance());
+  usual_[marker] = {near, samples.lowest_z, samples.highest_z};
+}
+
+void TrcSamples::EndGap(std::size_t marker) {
+  std::optional<std::size_t>& begin = gap_begins_[marker];
+  if (begin && *begin < frames_) markers_[marker].gaps.push_back({*begin, frames_});
+  begin.reset();
 }
 
 void TrcSamples::MeasureFrame(std::span<const double> coordinates) {
@@ -94,7 +102,7 @@ void TrcSamples::MeasureFrame(std::span<const double> coordinates) {
 void TrcSamples::Finish(const TRCDocument& document) {
   if (frames_ == 0) Start(document);
   for (std::size_t marker = 0; marker < markers_.size(); ++marker) {
-    if (usual_[marker].frames_seen != frames_) EndGap(marker);
+    EndGap(marker);
     markers_[marker].positions = frames_;
     for (const FrameGap& gap : markers_[marker].gaps) {
       markers_[marker].positions -= gap.end - gap.begin;

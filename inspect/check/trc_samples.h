@@ -72,21 +72,31 @@ class TrcSamples {
  private:
   // What shows that the position of a marker changes nothing in its MarkerSamples: most do not.
   struct Usual {
-    std::size_t frames_seen = 0;  // up to the last position
-    // Positions that are nearer than this, and not at 0 0 0, are no extreme.
+    // Positions that are nearer than this, and whose x is not 0, are no extreme.
     double distance = 0.0;
     double lowest_z = std::numeric_limits<double>::infinity();
     double highest_z = -std::numeric_limits<double>::infinity();
+
+    // False for a dropout too, and after one.
+    [[nodiscard]] bool Holds(const double* position) const {
+      return std::abs(position[0]) < distance && std::abs(position[1]) < distance &&
+             std::abs(position[2]) < distance && position[0] != 0.0 && position[2] >= lowest_z &&
+             position[2] <= highest_z;
+    }
   };
 
   void Start(const TRCDocument& document);
+  void TakeDropout(std::size_t marker);
   void EndGap(std::size_t marker);
-  void TakeUnusual(std::size_t marker, const TRCPosition& position, double distance);
+  void TakeUnusual(std::size_t marker, const TRCPosition& position);
   void MeasureFrame(std::span<const double> coordinates);
 
   std::size_t frames_ = 0;
   std::vector<MarkerSamples> markers_;
-  std::vector<Usual> usual_;  // of each marker
+  // Of each marker:
+  std::vector<Usual> usual_;
+  std::vector<std::optional<std::size_t>> gap_begins_;  // of the gap that it is in
+  std::size_t width_ = 0;  // how many markers, the first ones, the row above has samples of
   Horizon horizon_{0};
   std::optional<SubjectMeasure> measure_;
   bool subject_is_measured_ = false;

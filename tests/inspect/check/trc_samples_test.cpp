@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <cstddef>
 #include <memory>
 #include <string>
 #include <vector>
@@ -73,6 +74,36 @@ TEST(TrcSamples, LooksAtWhatMovesInTheFramesThatAreThere) {
   EXPECT_THAT(codes_with(400), testing::ElementsAre("trc-up-axis"));
   EXPECT_THAT(codes_with(100), testing::ElementsAre("trc-frame-count", "trc-up-axis"));
   EXPECT_THAT(codes_with(900), testing::ElementsAre("trc-frame-count", "trc-up-axis"));
+}
+
+// In lines that end before the last markers, too, and from the first frame on.
+TEST(TrcSamples, FindsTheGapsThatTheDocumentHas) {
+  const TrcText text{.markers = {"LFHD", "RFHD", "LBHD"},
+                     .frames = {{"", "4\t5\t6"},
+                                {"1\t2\t3"},
+                                {},
+                                {"1\t2\t3", "", "7\t8\t9"},
+                                {"0\t0\t0", "4\t5\t6"},
+                                {"0\t2\t3", "4\t5\t6", "7\t8\t9"},
+                                {"", "", "7\t8\t9"},
+                                {"1\t2\t3", "4\t5\t6"}}};
+  TRCDocument document;
+  const orvane::LookedOverTrc looked = LookOver(text, document);
+  TRCDocument kept;
+  ASSERT_EQ(kept.ReadBytes(text.Text(), false, nullptr), "");
+  const auto gaps = kept.Gaps();
+  ASSERT_EQ(looked.samples.Markers().size(), gaps.size());
+  for (std::size_t marker = 0; marker < gaps.size(); ++marker) {
+    const auto& found = looked.samples.Markers()[marker].gaps;
+    ASSERT_EQ(found.size(), gaps[marker].size()) << marker;
+    for (std::size_t gap = 0; gap < found.size(); ++gap) {
+      EXPECT_EQ(found[gap].begin, gaps[marker][gap].begin) << marker;
+      EXPECT_EQ(found[gap].end, gaps[marker][gap].end) << marker;
+    }
+  }
+  EXPECT_EQ(looked.samples.Markers()[0].positions, 5U);
+  EXPECT_EQ(looked.samples.Markers()[1].positions, 4U);
+  EXPECT_EQ(looked.samples.Markers()[2].positions, 3U);
 }
 
 }  // namespace
