@@ -2,30 +2,31 @@
 
 #include <algorithm>
 #include <cassert>
+#include <limits>
 #include <utility>
 
 namespace orvane {
 namespace {
 
-void Include(const Point& least, const Point& most, std::optional<Bounds>& bounds) {
-  if (!bounds) bounds = Bounds{least, most};
-  for (std::size_t axis = 0; axis < least.size(); ++axis) {
-    bounds->least[axis] = std::min(bounds->least[axis], least[axis]);
-    bounds->most[axis] = std::max(bounds->most[axis], most[axis]);
+constexpr double kInfinity = std::numeric_limits<double>::infinity();
+constexpr Bounds kNone{{kInfinity, kInfinity, kInfinity}, {-kInfinity, -kInfinity, -kInfinity}};
+
+void Include(const double* least, const double* most, Bounds& bounds) {
+  for (std::size_t axis = 0; axis < bounds.least.size(); ++axis) {
+    bounds.least[axis] = std::min(bounds.least[axis], least[axis]);
+    bounds.most[axis] = std::max(bounds.most[axis], most[axis]);
   }
 }
 
 // By marker, so that of a zero and a negative zero it is the first marker's that is told.
 std::optional<Bounds> BoundsOf(const TRCDocument& document) {
-  std::vector<std::optional<Bounds>> bounds(document.markers().size());
+  std::vector<Bounds> bounds(document.markers().size(), kNone);
   document.VisitPositions([&](std::size_t marker, std::size_t, const double* position) {
-    const Point point{position[0], position[1], position[2]};
-    Include(point, point, bounds[marker]);
+    Include(position, position, bounds[marker]);
   });
-  std::optional<Bounds> all;
-  for (const auto& each : bounds) {
-    if (each) Include(each->least, each->most, all);
-  }
+  Bounds all = kNone;
+  for (const Bounds& each : bounds) Include(each.least.data(), each.most.data(), all);
+  if (all.least[0] > all.most[0]) return std::nullopt;
   return all;
 }
 
