@@ -14,6 +14,7 @@ from conftest import trc_text
 READ_FOR_LONG = """
 import signal, sys, orvane
 data = sys.stdin.buffer.read()
+signal.signal(signal.SIGINT, signal.default_int_handler)  # a shell's job may ignore it
 try:
     print("reading", flush=True)
     while True:
