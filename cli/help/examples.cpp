@@ -43,10 +43,10 @@ constexpr VerbGuide kGuides[] = {
     {"rewrite",
      "Makes another HTR or TRC file of one, without a scene: every number is the same to the bit, "
      "gaps and rates stay, and what readers would wonder about is gone, unless a flag changes it. "
-     "What the new file does not hold is told before.",
+     "Or a CSV, BVH or C3D file. What the new file does not hold is told before.",
      {{{"orvane rewrite walk.trc -o clean.trc", "the same markers, in a file without oddities"},
-       {"orvane rewrite walk.htr -o short.htr --cut 10:60 --unit cm",
-        "some of its frames, in centimeters"}}}},
+       {"orvane rewrite walk.htr -o short.bvh --cut 10:60 --unit cm",
+        "some frames of a skeleton and its motion for other programs, in centimeters"}}}},
     {"check",
      "Names everything that is odd in HTR, TRC and MNM files, and in folders of them, line by "
      "line, with a code that stays the same. The exit status says whether there was a warning.",

@@ -5,6 +5,9 @@
 #include <string_view>
 
 #include "cli/common/failure.h"
+#include "cli/rewrite/bvh_file.h"
+#include "cli/rewrite/c3d_file.h"
+#include "formats/csv/writer.h"
 #include "formats/edit/renaming.h"
 #include "formats/htr/writer.h"
 #include "formats/text/numbers.h"
@@ -15,38 +18,28 @@
 namespace cli {
 namespace {
 
-// How documents of one kind are written in a format; null where they are not.
+// How documents of one kind become files of a format; null where they do not.
 template <typename Document>
-using Printer = std::string (*)(const Document&, const Wording&);
+using Preparer = PreparedFile (*)(const Document&, const Wording&);
 
 struct FormatRow {
   OutputFormat format;
   std::string_view name;  // the extension without its full stop
-  Printer<orvane::HtrDocument> print_motion;
-  Printer<orvane::TRCDocument> print_markers;
+  Preparer<orvane::HtrDocument> prepare_motion;
+  Preparer<orvane::TRCDocument> prepare_markers;
+  bool is_text = true;
+  bool tells_up_axis = false;
 };
-
-// What `print` hands over to the taker that it is called with.
-template <typename Print>
-std::string Gathered(const Print& print) {
-  std::string bytes;
-  print([&bytes](std::string_view piece) { bytes += piece; });
-  return bytes;
-}
-
-Failure NotReadBack(const Wording& wording, const std::string& why, const std::string& advice) {
-  return {ExitStatus::kRefused, {{wording.input, why, advice}}};
-}
 
 std::string MotionAsHtr(const orvane::HtrDocument& document, const Wording& wording) {
   for (const std::string& name : document.GetSegmentNames()) {
     const char* const why = orvane::WhyNoSegmentName(name);
     if (why == nullptr) continue;
-    throw NotReadBack(wording, "its segment \"" + name + "\" could not be read back: it " + why,
-                      "--rename gives it another name.");
+    throw NoFile(wording, "its segment \"" + name + "\" could not be read back: it " + why,
+                 "--rename gives it another name.");
   }
   orvane::HtrManner manner;
-  manner.numbers = wording.numbers;
+  manner.numbers = wording.order.numbers;
   manner.frame_rate = wording.rates.data;
   manner.gravity_axis = document.GetGlobalAxisofGravity();
   return Gathered([&](const orvane::TextTaker& take) { PrintHtr(document, take, manner); });
@@ -54,7 +47,7 @@ std::string MotionAsHtr(const orvane::HtrDocument& document, const Wording& word
 
 std::string MarkersAsTrc(const orvane::TRCDocument& document, const Wording& wording) {
   orvane::TrcManner manner;
-  manner.numbers = wording.numbers;
+  manner.numbers = wording.order.numbers;
   manner.data_rate = wording.rates.data;
   manner.camera_rate = wording.rates.camera;
   manner.original_rate = wording.rates.original;
@@ -63,8 +56,8 @@ std::string MarkersAsTrc(const orvane::TRCDocument& document, const Wording& wor
   std::string bytes =
       Gathered([&](const orvane::TextTaker& take) { why = PrintTrc(document, take, manner); });
   if (why.empty()) return bytes;
-  throw NotReadBack(wording, "it cannot be written so that it could be read back: " + why,
-                    "--rename gives other names; --select and --decimals make lines shorter.");
+  throw NoFile(wording, "it cannot be written so that it could be read back: " + why,
+               "--rename gives other names; --select and --decimals make lines shorter.");
 }
 
 double RateOf(const orvane::HtrDocument& document) { return document.GetDataFrameRate(); }
@@ -72,22 +65,52 @@ double RateOf(const orvane::TRCDocument& document) { return document.DataRate();
 
 template <typename Document>
 std::string AsCsv(const Document& document, const Wording& wording) {
-  orvane::CsvManner table = wording.table;
-  table.numbers = wording.numbers;
+  orvane::CsvManner table = wording.order.table;
+  table.numbers = wording.order.numbers;
   table.frames_per_second =
       wording.rates.data.empty() ? RateOf(document) : orvane::ParseDouble(wording.rates.data);
   return Gathered([&](const orvane::TextTaker& take) { PrintCsv(document, take, table); });
 }
 
+bool IsScaled(const orvane::HtrSegment& segment) {
+  for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
+    if (segment.GetFrameScale(frame) != 1.0) return true;
+  }
+  return false;
+}
+
+std::vector<orvane::RewriteLoss> LostInCsv(const orvane::HtrDocument& document) {
+  std::vector<orvane::RewriteLoss> losses = {{"rewrite-skeleton-lost"}};
+  orvane::RewriteLoss scales{"rewrite-scale-lost"};
+  for (const orvane::HtrSegment& segment : document.segments()) {
+    if (IsScaled(segment)) scales.names.push_back(segment.GetName());
+  }
+  if (!scales.names.empty()) losses.push_back(std::move(scales));
+  return losses;
+}
+
+template <typename Document, std::string (*kPrint)(const Document&, const Wording&)>
+PreparedFile Prepared(const Document& document, const Wording& wording) {
+  return {{}, [&document, wording] { return kPrint(document, wording); }};
+}
+
+PreparedFile MotionAsCsv(const orvane::HtrDocument& document, const Wording& wording) {
+  PreparedFile file = Prepared<orvane::HtrDocument, AsCsv>(document, wording);
+  file.losses = LostInCsv(document);
+  return file;
+}
+
 // A new format is one row more.
 constexpr std::array kFormats = {
-    FormatRow{OutputFormat::kHtr, "htr", MotionAsHtr, nullptr},
-    FormatRow{OutputFormat::kTrc, "trc", nullptr, MarkersAsTrc},
-    FormatRow{OutputFormat::kCsv, "csv", AsCsv<orvane::HtrDocument>, AsCsv<orvane::TRCDocument>},
+    FormatRow{OutputFormat::kHtr, "htr", Prepared<orvane::HtrDocument, MotionAsHtr>, nullptr},
+    FormatRow{OutputFormat::kTrc, "trc", nullptr, Prepared<orvane::TRCDocument, MarkersAsTrc>},
+    FormatRow{OutputFormat::kCsv, "csv", MotionAsCsv, Prepared<orvane::TRCDocument, AsCsv>},
+    FormatRow{OutputFormat::kBvh, "bvh", PrepareBvh, nullptr},
+    FormatRow{OutputFormat::kC3d, "c3d", nullptr, PrepareC3d, false, true},
 };
 
 bool Takes(const FormatRow& row, FileKind kind) {
-  return kind == FileKind::kHtr ? row.print_motion != nullptr : row.print_markers != nullptr;
+  return kind == FileKind::kHtr ? row.prepare_motion != nullptr : row.prepare_markers != nullptr;
 }
 
 // ".htr or .csv", of files of `kind`.
@@ -122,6 +145,16 @@ std::string ExtensionIn(const std::string& output) {
 
 Failure WrongUsage(const Complaint& complaint) { return {ExitStatus::kWrongUsage, {complaint}}; }
 
+void RequireFlagsOf(const FormatRow& row, const RewriteOrder& order) {
+  for (const auto& [flag, name] : order.format_flags) {
+    if (!host::SameButForCase(name, row.name)) {
+      throw WrongUsage({flag, "is for " + name + " files", ""});
+    }
+  }
+  if (row.is_text || order.numbers.IsShortest()) return;
+  throw WrongUsage({"--decimals", "is for files of text", ""});
+}
+
 }  // namespace
 
 std::vector<std::string> NamesOfFormats() {
@@ -152,20 +185,20 @@ OutputFormat FormatFor(const RewriteOrder& order, FileKind kind) {
                           std::string(row->name) + " is made",
                       std::string(ExtensionOf(kind)) + " files become " + FormatsOf(kind) + "."});
   }
-  if (!order.table_flag.empty() && row->format != OutputFormat::kCsv) {
-    throw WrongUsage({order.table_flag, "is for CSV files", ""});
-  }
+  RequireFlagsOf(*row, order);
   return row->format;
 }
 
-std::string BytesAs(OutputFormat format, const orvane::HtrDocument& document,
-                    const Wording& wording) {
-  return RowOf(format).print_motion(document, wording);
+bool TellsUpAxis(OutputFormat format) { return RowOf(format).tells_up_axis; }
+
+PreparedFile PrepareFile(OutputFormat format, const orvane::HtrDocument& document,
+                         const Wording& wording) {
+  return RowOf(format).prepare_motion(document, wording);
 }
 
-std::string BytesAs(OutputFormat format, const orvane::TRCDocument& document,
-                    const Wording& wording) {
-  return RowOf(format).print_markers(document, wording);
+PreparedFile PrepareFile(OutputFormat format, const orvane::TRCDocument& document,
+                         const Wording& wording) {
+  return RowOf(format).prepare_markers(document, wording);
 }
 
 }  // namespace cli

@@ -4,17 +4,16 @@
 #include <vector>
 
 #include "cli/common/file_kind.h"
+#include "cli/rewrite/prepared_file.h"
 #include "cli/rewrite/rewrite_order.h"
-#include "formats/csv/writer.h"
 #include "formats/htr/document.h"
 #include "formats/trc/document.h"
-#include "inspect/summary/frame_rate.h"
 
 // The formats that files are rewritten in, and how.
 
 namespace cli {
 
-enum class OutputFormat { kHtr, kTrc, kCsv };
+enum class OutputFormat { kHtr, kTrc, kCsv, kBvh, kC3d };
 
 // "htr", "trc" and so on.
 [[nodiscard]] std::vector<std::string> NamesOfFormats();
@@ -26,20 +25,15 @@ enum class OutputFormat { kHtr, kTrc, kCsv };
 // there is none, or when such a file does not become one.
 [[nodiscard]] OutputFormat FormatFor(const RewriteOrder& order, FileKind kind);
 
-// What is to be written, beside a document.
-struct Wording {
-  std::string input;  // as the user knows it, for refusals
-  std::string name;   // of the file that is made, without folders
-  orvane::NumberForm numbers = orvane::NumberForm::Shortest();
-  orvane::RateTexts rates{};
-  orvane::CsvManner table{};  // of CSV files, but for its numbers and times
-};
+// Whether files of that format say which axis their heights lie along, so that nothing is turned.
+[[nodiscard]] bool TellsUpAxis(OutputFormat format);
 
-// The bytes of a file of `format` that holds `document`. Throws a Failure when no such file could
-// be read back. REQUIRES: such documents become files of that format.
-[[nodiscard]] std::string BytesAs(OutputFormat format, const orvane::HtrDocument& document,
-                                  const Wording& wording);
-[[nodiscard]] std::string BytesAs(OutputFormat format, const orvane::TRCDocument& document,
-                                  const Wording& wording);
+// The file of `format` that holds `document`, which must be there and the same until it is printed.
+// It refuses to be printed when it could not be read back. REQUIRES: such documents become files of
+// that format.
+[[nodiscard]] PreparedFile PrepareFile(OutputFormat format, const orvane::HtrDocument& document,
+                                       const Wording& wording);
+[[nodiscard]] PreparedFile PrepareFile(OutputFormat format, const orvane::TRCDocument& document,
+                                       const Wording& wording);
 
 }  // namespace cli

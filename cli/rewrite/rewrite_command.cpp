@@ -65,11 +65,11 @@ std::int64_t RateIn(const TRCDocument& document) { return document.DataRate(); }
 std::size_t PartsIn(const HtrDocument& document) { return document.segments().size(); }
 std::size_t PartsIn(const TRCDocument& document) { return document.MarkerCount(); }
 
-bool IsScaled(const orvane::HtrSegment& segment) {
-  for (std::size_t frame = 0; frame < segment.GetNumFrames(); ++frame) {
-    if (segment.GetFrameScale(frame) != 1.0) return true;
-  }
-  return false;
+// Heights stay along the axis that the output can say.
+RewriteOrder EditsFor(const RewriteOrder& order, OutputFormat format) {
+  RewriteOrder edits = order;
+  if (TellsUpAxis(format)) edits.up.reset();
+  return edits;
 }
 
 // The place that the output gets, or standard output.
@@ -135,29 +135,21 @@ class Rewriting {
     RequireNoErrors(report, report);
     file.rates = RatesOf(*file.document, input);
     const orvane::FrameSpan held = FramesHeld(*file.document);
-    Edit(file, order_);
-    if (format_ == OutputFormat::kCsv) TellOfTable(file);
+    Edit(file, EditsFor(order_, format_));
+    const Document& document = *file.document;
+    PreparedFile prepared =
+        PrepareFile(format_, document, {input.name, NameOfOutput(input), file.rates, order_});
+    file.circumstances.losses = std::move(prepared.losses);
     StopIfInterrupted();
     TellOfEdits(file, held, report);
-    const Document& document = *file.document;
-    const std::string bytes =
-        BytesAs(format_, document,
-                {input.name, NameOfOutput(input), order_.numbers, file.rates, order_.table});
+    const std::string bytes = prepared.print();
     output.Deliver(bytes);
     const std::string rate =
         file.rates.data.empty() ? orvane::FormatInt(RateIn(document)) : file.rates.data;
-    Show({input.name, order_.kind.value_or(KindFor(document)), order_.output, PartsIn(document),
-          FramesHeld(document), rate, bytes.size(), !manner_.omitted, std::move(report)});
+    Show({input.name, order_.kind.value_or(KindFor(document)), order_.output,
+          prepared.parts.value_or(PartsIn(document)), FramesHeld(document), rate, bytes.size(),
+          !manner_.omitted, std::move(report)});
   }
-
-  // What a table does not hold.
-  static void TellOfTable(EditedFile<HtrDocument>& file) {
-    file.circumstances.is_skeleton_lost = true;
-    for (const orvane::HtrSegment& segment : file.document->segments()) {
-      if (IsScaled(segment)) file.circumstances.scaled.push_back(segment.GetName());
-    }
-  }
-  static void TellOfTable(EditedFile<TRCDocument>& /*file*/) {}
 
   static FileKind KindFor(const HtrDocument& /*document*/) { return FileKind::kHtr; }
   static FileKind KindFor(const TRCDocument& /*document*/) { return FileKind::kTrc; }

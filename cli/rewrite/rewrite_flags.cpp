@@ -108,7 +108,7 @@ void AddTableFlags(CLI::App& verb, RewriteOrder& order) {
   const auto add = [&verb, &order](const std::string& flag, const std::vector<std::string>& choices,
                                    const std::string& help, const auto& take) {
     AddChoice(verb, flag, choices, help, [&order, flag, take](const std::string& choice) {
-      order.table_flag = flag;
+      order.format_flags.emplace_back(flag, "CSV");
       take(order.table, choice);
     });
   };
@@ -128,6 +128,25 @@ void AddTableFlags(CLI::App& verb, RewriteOrder& order) {
         table.rotations =
             choice == "euler" ? orvane::CsvRotations::kEuler : orvane::CsvRotations::kQuaternion;
       });
+}
+
+void AddSkeletonFlags(CLI::App& verb, RewriteOrder& order) {
+  AddChoice(verb, "--positions", {"root", "all"},
+            "BVH: channels of the position of the root alone, or of every segment that moves "
+            "against the one that it hangs from (root)",
+            [&order](const std::string& choice) {
+              order.format_flags.emplace_back("--positions", "BVH");
+              order.positions =
+                  choice == "all" ? orvane::BvhPositions::kAll : orvane::BvhPositions::kRoot;
+            });
+  verb.add_option_function<std::string>(
+          "--root",
+          [&order](const std::string& name) {
+            order.format_flags.emplace_back("--root", "BVH");
+            order.root = name;
+          },
+          "BVH: of several roots take this one, with all that hangs from it")
+      ->type_name("NAME");
 }
 
 void AddRunFlags(CLI::App& verb, RewriteOrder& order) {
@@ -151,6 +170,7 @@ void AddRewriteFlags(CLI::App& verb, RewriteOrder& order) {
   AddEditFlags(verb, order);
   AddTimeFlags(verb, order);
   AddTableFlags(verb, order);
+  AddSkeletonFlags(verb, order);
   AddRunFlags(verb, order);
 }
 

@@ -8,6 +8,7 @@
 
 #include "cli/common/file_kind.h"
 #include "cli/common/report_flags.h"
+#include "formats/bvh/plan.h"
 #include "formats/csv/writer.h"
 #include "formats/edit/resampling.h"
 #include "formats/text/number_form.h"
@@ -36,7 +37,10 @@ struct RewriteOrder {
   std::optional<orvane::RotationPath> resampling;
   std::optional<std::int32_t> start_frame;
   orvane::CsvManner table{};  // of CSV files alone; its numbers are those above
-  std::string table_flag;     // one that asks for that; empty for none
+  orvane::BvhPositions positions = orvane::BvhPositions::kRoot;  // of BVH files
+  std::string root;                                              // of those; empty for the only one
+  // The flags that are for files of one format alone, with its name.
+  std::vector<std::pair<std::string, std::string>> format_flags;
   ReportManner report;
   bool force = false;
   bool json = false;

@@ -29,6 +29,9 @@ class NumberForm {
 
   [[nodiscard]] constexpr bool IsShortest() const { return !decimals_; }
 
+  // How many digits behind the point; nothing for the shortest text.
+  [[nodiscard]] constexpr std::optional<int> DecimalsAsked() const { return decimals_; }
+
   // Writes `value` to `first` and behind, where there must be room for kLongest characters, and
   // ends it with no NUL. Returns the place behind the last one. What is infinite is 1e999, which
   // readers take for infinite, and what is no number 0, as they take it.

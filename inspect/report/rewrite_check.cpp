@@ -1,5 +1,8 @@
 #include "inspect/report/rewrite_check.h"
 
+#include <algorithm>
+#include <cassert>
+
 #include "formats/text/numbers.h"
 #include "inspect/report/rewrite_rules.h"
 
@@ -40,6 +43,21 @@ void AddResampled(const ResampledFrames& frames, FindingList& findings) {
            "side, it has one there."});
 }
 
+const FindingRule& RuleOf(std::string_view code) {
+  const auto rule = std::find_if(rewriting::kRules.begin(), rewriting::kRules.end(),
+                                 [code](const FindingRule& each) { return each.code == code; });
+  assert(rule != rewriting::kRules.end());
+  return *rule;
+}
+
+void AddLoss(const RewriteLoss& loss, FindingList& findings) {
+  const FindingRule& rule = RuleOf(loss.code);
+  for (const std::string& name : loss.names) {
+    findings.Add(rule, kNoPlace, {Quote(name), "", loss.effect});
+  }
+  if (loss.names.empty()) findings.Add(rule, kNoPlace, {loss.found, "", loss.effect});
+}
+
 }  // namespace
 
 CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
@@ -56,10 +74,7 @@ CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
                   "and 0.7056 mm."});
   }
   if (circumstances.resampled) AddResampled(*circumstances.resampled, findings);
-  AddNames(Rule("rewrite-scale-lost"), circumstances.scaled, findings);
-  if (circumstances.is_skeleton_lost) {
-    findings.Add(Rule("rewrite-skeleton-lost"), kNoPlace, {"", "", ""});
-  }
+  for (const RewriteLoss& loss : circumstances.losses) AddLoss(loss, findings);
   return checked;
 }
 

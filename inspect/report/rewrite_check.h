@@ -22,14 +22,21 @@ struct ResampledFrames {
   std::string manner;       // "linearly"
 };
 
+// What the other file does not hold.
+struct RewriteLoss {
+  std::string_view code;             // REQUIRES: one of rewriting::kRules
+  std::vector<std::string> names{};  // segments or markers that lose it; none: the file does
+  std::string found{};               // of the file, where the words of the code tell it
+  std::string effect{};              // one sentence, where they have none
+};
+
 struct RewriteCircumstances {
   std::vector<UnknownName> unselected{};  // names that are selected, and nothing has
   std::vector<std::string> unrenamed{};   // names that get others, and nothing has
   std::vector<std::string> ancestors{};   // of segments that are kept for those that are selected
   std::string feet{};                     // "from feet to mm"; empty when there are none
   std::optional<ResampledFrames> resampled{};
-  std::vector<std::string> scaled{};  // segments whose scales the other file does not hold
-  bool is_skeleton_lost = false;      // the other file has no hierarchy
+  std::vector<RewriteLoss> losses{};
 };
 
 // The findings of the codes "rewrite-..." of the file known as `name` of that `kind`.

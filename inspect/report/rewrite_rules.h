@@ -13,9 +13,22 @@ inline constexpr std::array kRules = {
     FindingRule{"rewrite-rename-unknown", FindingSeverity::kWarning},
     FindingRule{"rewrite-feet", FindingSeverity::kWarning},
     FindingRule{"rewrite-scale-lost", FindingSeverity::kWarning},
+    FindingRule{"rewrite-translation-held", FindingSeverity::kWarning},
+    FindingRule{"rewrite-frames-held", FindingSeverity::kWarning},
+    FindingRule{"rewrite-frame-added", FindingSeverity::kWarning},
+    FindingRule{"rewrite-segment-unattached", FindingSeverity::kWarning},
+    FindingRule{"rewrite-name-changed", FindingSeverity::kWarning},
     FindingRule{"rewrite-select-ancestors", FindingSeverity::kNote},
     FindingRule{"rewrite-resampled", FindingSeverity::kNote},
     FindingRule{"rewrite-skeleton-lost", FindingSeverity::kNote},
+    FindingRule{"rewrite-base-lost", FindingSeverity::kNote},
+    FindingRule{"rewrite-unit-lost", FindingSeverity::kNote},
+    FindingRule{"rewrite-start-frame-lost", FindingSeverity::kNote},
+    FindingRule{"rewrite-frames-uncounted", FindingSeverity::kNote},
+    FindingRule{"rewrite-coordinate-rounded", FindingSeverity::kNote},
+    FindingRule{"rewrite-rate-rounded", FindingSeverity::kNote},
+    FindingRule{"rewrite-rate-lost", FindingSeverity::kNote},
+    FindingRule{"rewrite-name-encoding", FindingSeverity::kNote},
 };
 
 }  // namespace orvane::rewriting
