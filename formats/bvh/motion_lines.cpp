@@ -6,6 +6,7 @@
 
 #include "formats/bvh/channel_angles.h"
 #include "formats/bvh/segment_motion.h"
+#include "formats/text/text_buffer.h"
 #include "formats/units/units.h"
 
 namespace orvane {

@@ -7,6 +7,7 @@
 
 #include "formats/text/numbers.h"
 #include "formats/text/six_decimals.h"
+#include "formats/text/text_buffer.h"
 
 namespace orvane {
 namespace {

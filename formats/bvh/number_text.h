@@ -1,9 +1,9 @@
 #pragma once
 
-#include "formats/text/text_buffer.h"
-
 // Numbers as they stand in a file.
 namespace orvane {
+
+class TextBuffer;
 
 class BvhNumberText {
  public:

@@ -10,7 +10,9 @@
 #include "formats/htr/document.h"
 
 // What a BVH file of a document will be, and what is lost on the way, told before anything is
-// written. Frames and roots are counted from 0. Pointers are to the document's segments.
+// written. Frames and roots are counted from 0. Pointers are to the document's segments. Nothing
+// fails but for want of memory. May be called from any thread, as long as no other one changes the
+// document.
 namespace orvane {
 
 // Which joints beside the root get channels of their position.

@@ -6,6 +6,7 @@
 
 #include "formats/bvh/motion_lines.h"
 #include "formats/text/numbers.h"
+#include "formats/text/text_buffer.h"
 
 namespace orvane {
 namespace {

@@ -4,6 +4,9 @@
 #include "formats/text/text_taker.h"
 
 // Writes what a motion file says as a BVH file. docs/formats/bvh.md describes what is written.
+//
+// Nothing fails but what `take` throws, and for want of memory. May be called from any thread, as
+// long as no other one changes the document.
 namespace orvane {
 
 // Hands the text of the file to `take`, in pieces of limited size and with line feeds as line ends.

@@ -11,7 +11,8 @@
 
 // What a C3D file of a document will be, and what is lost on the way, told before anything is
 // written. Frames are counted from 0, unless their number in a file is meant. Pointers are to the
-// document's markers.
+// document's markers. Nothing fails but for want of memory. May be called from any thread, as long
+// as no other one changes the document.
 namespace orvane {
 
 struct C3dOptions {

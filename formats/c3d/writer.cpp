@@ -9,6 +9,7 @@
 #include "formats/c3d/little_endian.h"
 #include "formats/c3d/parameter_section.h"
 #include "formats/c3d/parameters.h"
+#include "formats/text/text_buffer.h"
 
 namespace orvane {
 namespace {

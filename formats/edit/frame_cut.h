@@ -6,6 +6,9 @@
 #include "formats/trc/document.h"
 
 // Some frames of a document alone.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Makes `target`, which is empty, what `source` is with no other frames than those from `begin` up

@@ -6,6 +6,9 @@
 #include "formats/trc/document.h"
 
 // Other units of length.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Converts all lengths of `document`, of all its frames, into the unit `code` of formats/units, and

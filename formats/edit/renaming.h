@@ -8,6 +8,9 @@
 #include "formats/trc/document.h"
 
 // Other names for segments and markers.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Why no file would give back a segment, or a marker, of the name `name`, in words that follow on

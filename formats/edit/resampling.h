@@ -7,6 +7,9 @@
 #include "formats/trc/document.h"
 
 // Documents at other frame rates.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // So many frames of a recording lie between two frames of another, as a fraction: 2 of 1 where

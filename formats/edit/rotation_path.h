@@ -2,7 +2,7 @@
 
 #include "formats/math/euler_rotation.h"
 
-// What lies between two frames.
+// What lies between two frames. Angles are radians. Nothing fails. May be called from any thread.
 namespace orvane {
 
 // How a rotation goes from one frame to the next, where a new frame lies between them.

@@ -8,6 +8,9 @@
 
 // Some segments or markers of a document alone. Names are compared with the case of their letters;
 // those that nothing has are passed over.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Makes `target`, which is empty, what `source` is with no other segments than those of `names` and

@@ -6,6 +6,9 @@
 #include "formats/trc/document.h"
 
 // Documents as their own files could say them, so that no reader wonders.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Makes every segment of `document` a root that has no parent, as a file says of it, and announces

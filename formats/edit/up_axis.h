@@ -4,6 +4,9 @@
 #include "formats/trc/document.h"
 
 // Documents whose heights lie along another axis than they are taken to.
+//
+// Nothing fails but for want of memory. May be called from any thread, as long as no other one
+// changes the documents.
 namespace orvane {
 
 // Turns `document`, whose heights lie along Z, by a quarter about X, so that they lie along Y: each

@@ -5,6 +5,8 @@
 #include <limits>
 #include <string>
 
+#include "formats/text/text_buffer.h"
+
 namespace {
 
 using orvane::BvhNumberText;
