@@ -29,6 +29,7 @@ class SKELDER_API PropertyKeys {
 // The numbers of one node, in the order of their keys. The node owns it.
 class SKELDER_API UserProperties {
  public:
+  // NOLINTBEGIN(readability-identifier-naming): the names that the standard library asks for
   using value_type = std::pair<const std::string&, float>;
 
   class const_iterator {
@@ -55,6 +56,7 @@ class SKELDER_API UserProperties {
 
     Place at_;
   };
+  // NOLINTEND(readability-identifier-naming)
 
   // What the key `key`, which outlives this, stands for from now on.
   void Set(const std::string& key, float value);
