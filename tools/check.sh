@@ -48,7 +48,7 @@ check_resources() {
 # again, and what goes wrong in one of them shows when it runs, under the sanitizers too.
 analysed_sources() {
   sed -n 's/^  "file": "\(.*\)",\{0,1\}$/\1/p' build/compile_commands.json |
-    grep '\.cpp$' | grep -v -e "^$PWD/build/" -e "^$PWD/tests/"
+    grep '\.cpp$' | grep -v -e "^$PWD/build" -e "^$PWD/tests/"
 }
 
 # clang's own warnings are among the diagnostics, so this is the check for them too.
