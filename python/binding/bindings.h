@@ -8,6 +8,7 @@ namespace binding {
 
 void BindMarkers(nanobind::module_& module);
 void BindMotion(nanobind::module_& module);
+void BindMadeMotion(nanobind::module_& module);
 void BindEdits(nanobind::module_& module);
 void BindWriting(nanobind::module_& module);
 void BindPoses(nanobind::module_& module);

@@ -12,6 +12,7 @@ NB_MODULE(_orvane, module) {
   binding::RegisterFileError();
   binding::BindMarkers(module);
   binding::BindMotion(module);
+  binding::BindMadeMotion(module);
   binding::BindEdits(module);
   binding::BindWriting(module);
   binding::BindPoses(module);

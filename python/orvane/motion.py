@@ -2,15 +2,18 @@
 
 from __future__ import annotations
 
+from collections.abc import Sequence
 from dataclasses import dataclass
 from functools import cached_property
 from typing import TYPE_CHECKING, Any, Literal
 
 import numpy as np
-from numpy.typing import NDArray
+from numpy.typing import ArrayLike, NDArray
 
 from orvane import _orvane
 from orvane.common import Floats, FramedTake, Rate
+from orvane.rates import rate_pair
+from orvane.shapes import indices, shaped
 
 if TYPE_CHECKING:
     import pandas
@@ -30,7 +33,7 @@ class BasePose:
 
 
 class Motion(FramedTake[_orvane.Motion]):
-    """Segments over time: what an HTR file holds.
+    """Segments over time: what an HTR file holds. ``orvane.read`` and ``from_arrays`` make one.
 
     All values are those of the file: relative to the parent, Y up, as offsets from the base
     position. A frame's translation is added to the base translation, and its rotation stands to
@@ -48,6 +51,46 @@ class Motion(FramedTake[_orvane.Motion]):
 
     rotation_order = "ZYX"
     """As files name it: M = Rz(z) Ry(y) Rx(x) on column vectors, about fixed X first."""
+
+    @classmethod
+    def from_arrays(cls, names: Sequence[str], parents: ArrayLike, *, base: BasePose,
+                    translations: ArrayLike, rotations: ArrayLike,
+                    scales: ArrayLike | None = None, rate: Rate, unit: str = "mm",
+                    first_frame: int = 1) -> Motion:
+        """A motion of arrays, as it has them itself.
+
+        ``parents`` (segments,) are indices, -1 for a root. ``translations`` (frames, segments, 3)
+        in ``unit`` and ``rotations`` (frames, segments, 3) in radians are offsets from ``base``;
+        ``scales`` (frames, segments) are 1 where there are none. Raises a ValueError for other
+        shapes, for a number that is not finite, for parents that form a circle, and for names that
+        repeat or that no file can hold.
+
+        >>> import numpy, orvane
+        >>> base = orvane.BasePose(translations=numpy.array([[0, 900, 0], [0, 300, 0]]),
+        ...                        rotations=numpy.zeros((2, 3)), bone_lengths=numpy.array([300, 0]))
+        >>> still = numpy.zeros((4, 2, 3))
+        >>> motion = orvane.Motion.from_arrays(["Hips", "Neck"], [-1, 0], base=base,
+        ...                                    translations=still, rotations=still, rate=60)
+        >>> motion
+        <Motion '<arrays>': 2 segments, 4 frames at 60 per second, mm>
+        >>> motion.world_positions()[0, 1].tolist()
+        [0.0, 1200.0, 0.0]
+        """
+        turns = shaped("rotations", rotations, ("frames", len(names), 3))
+        frames = turns.shape[:2]
+        values = np.concatenate([
+            shaped("translations", translations, (*frames, 3)),
+            turns,
+            shaped("scales", np.ones(frames) if scales is None else scales, frames)[:, :, None],
+        ], axis=2)
+        bases = np.column_stack([
+            shaped("base.translations", base.translations, (len(names), 3)),
+            shaped("base.rotations", base.rotations, (len(names), 3)),
+            shaped("base.bone_lengths", base.bone_lengths, (len(names),)),
+        ])
+        return cls("<arrays>", _orvane.make_motion(
+            list(names), indices("parents", parents, len(names)), bases, values, unit,
+            rate_pair(rate), first_frame))
 
     @cached_property
     def names(self) -> tuple[str, ...]:

@@ -13,6 +13,7 @@ from numpy.typing import ArrayLike
 from orvane import _orvane
 from orvane.common import Floats, FramedTake, Rate
 from orvane.rates import rate_pair
+from orvane.shapes import shaped
 
 if TYPE_CHECKING:
     import pandas
@@ -47,9 +48,7 @@ class Take(FramedTake[_orvane.Markers]):
         >>> orvane.Take.from_points(numpy.zeros((4, 1, 3)), ["LASI"], rate="59.94")
         <Take '<points>': 1 markers, 4 frames at 59.94 per second, mm>
         """
-        values = np.ascontiguousarray(points, dtype=np.float64)
-        if values.ndim != 3 or values.shape[2] != 3:
-            raise ValueError(f"points have the shape {values.shape}, not (frames, markers, 3)")
+        values = shaped("points", points, ("frames", "markers", 3))
         return cls("<points>", _orvane.make_markers(values, list(names), unit, rate_pair(rate),
                                                     first_frame))
 
