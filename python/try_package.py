@@ -3,9 +3,10 @@
 
 Usage: try_package.py FOLDER
 
-FOLDER has copies of tests/, examples/, the pages python.md and readme.md and the walk of the
-project's examples, and is written to. Runs the tests and the examples of the docstrings and the pages there, compares the type stub with the module, and
-has mypy look at the package and the examples. Exits with 1 when something fails.
+FOLDER has copies of tests/, examples/, the pages named below and the walk of the project's examples,
+and is written to. Runs the tests and the examples of the docstrings and the pages there, compares
+the type stub with the module, and has mypy look at the package and the examples. Exits with 1 when
+something fails.
 """
 
 import os
@@ -14,6 +15,7 @@ import subprocess
 import sys
 
 HERE = pathlib.Path(__file__).resolve().parent
+PAGES = ("python.md", "readme.md", "pandas.md")
 
 
 def run(folder, *words):
@@ -29,7 +31,7 @@ def main(folder):
     results = [
         run(folder, *pytest, "tests"),
         run(folder, *pytest, "--doctest-modules", "--pyargs", "orvane"),
-        run(folder, *pytest, "--doctest-glob=*.md", "python.md", "readme.md"),
+        run(folder, *pytest, "--doctest-glob=*.md", *PAGES),
         run(folder, "-m", "mypy.stubtest", "orvane", "--mypy-config-file", config, "--allowlist",
             str(HERE / "stubtest_allowlist.txt")),
         run(folder, "-m", "mypy", "--config-file", config, "--package", "orvane"),

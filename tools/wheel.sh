@@ -52,7 +52,7 @@ try_wheel() {
   "$venv/bin/python" -m pip install --quiet --disable-pip-version-check --force-reinstall --no-deps \
     "$wheel_folder"/wheels/orvane-*.whl
   place=$(mktemp --directory)
-  cp -r python/tests python/examples examples/walk.{htr,mnm,trc} docs/python.md "$place"
+  cp -r python/tests python/examples examples/walk.{htr,mnm,trc} docs/python.md docs/cookbook/pandas.md "$place"
   cp README.md "$place/readme.md"
   "$venv/bin/python" python/try_package.py "$place" || status=1
   rm -rf "$place"
