@@ -1,0 +1,71 @@
+import { useEffect, useRef } from "preact/hooks";
+import type { CurveOf } from "../../worker/protocol";
+import { valuesAt } from "../logic/curve_columns";
+import { shown } from "../logic/names";
+import { Choice } from "../panels/choice";
+import { curve, curveOf, curvesOf, type Curve } from "../state/curves";
+import { frame } from "../state/time";
+import { wheel } from "../timeline/area";
+import { useWheel } from "../timeline/wheel";
+import { CURVE_COLORS, Plot } from "./plot";
+
+/** How the object that was selected last moves over time. */
+
+const WORDS: Readonly<Record<CurveOf, string>> = {
+  position: "position",
+  localPosition: "position against parent",
+  rotation: "rotation",
+};
+
+export function Curves() {
+  const box = useRef<HTMLDivElement>(null);
+  useWheel(box, wheel);
+  useEffect(() => {
+    const plot = new Plot(box.current!);
+    const observer = new ResizeObserver(() => plot.resize());
+    observer.observe(box.current!);
+    return () => {
+      observer.disconnect();
+      plot.dispose();
+    };
+  }, []);
+  const shownCurve = curve.value;
+  return (
+    <div class="curves">
+      <div class="plot" ref={box} role="img" aria-label={plotLabel(shownCurve)} />
+      {shownCurve ? (
+        <Legend of={shownCurve} />
+      ) : (
+        <p class="hint">Select a marker or a segment to see how it moves.</p>
+      )}
+    </div>
+  );
+}
+
+function plotLabel(of: Curve | null): string {
+  if (!of) return "Curves: nothing is selected";
+  return `Curves of the ${WORDS[of.of]} of ${shown(of.take.info.objects[of.object], 80)}`;
+}
+
+function Legend({ of }: { of: Curve }) {
+  const { info } = of.take;
+  const unit = of.of === "rotation" ? "°" : ` ${info.unit}`;
+  const values = valuesAt(of.columns, frame.value);
+  return (
+    <div class="legend">
+      <bdi class="name">{shown(info.objects[of.object], 60)}</bdi>
+      <Choice<CurveOf>
+        label="Curves"
+        value={of.of}
+        options={curvesOf(of.take).map((key) => [key, WORDS[key]])}
+        set={(value) => (curveOf.value = value)}
+      />
+      {values.map((value, axis) => (
+        <span key={axis} class="numbers">
+          <span class="swatch" style={{ background: CURVE_COLORS[axis] }} />
+          {"XYZ"[axis]} {value === null ? "–" : value.toFixed(2) + unit}
+        </span>
+      ))}
+    </div>
+  );
+}

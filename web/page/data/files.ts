@@ -1,0 +1,20 @@
+import type { SourceFile } from "../state/core";
+
+/** Files as they come to the page, of which the bytes are read when they are needed. */
+
+export function sourceOf(file: File): SourceFile {
+  return { name: file.name, bytes: () => file.arrayBuffer() };
+}
+
+export function droppedFiles(transfer: DataTransfer | null): SourceFile[] {
+  return Array.from(transfer?.files ?? [], sourceOf);
+}
+
+/** Lets the person choose files. */
+export function chooseFiles(chosen: (files: SourceFile[]) => void): void {
+  const input = document.createElement("input");
+  input.type = "file";
+  input.multiple = true;
+  input.addEventListener("change", () => chosen(Array.from(input.files ?? [], sourceOf)));
+  input.click();
+}

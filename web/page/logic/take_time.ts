@@ -1,0 +1,30 @@
+/** How the frames of several takes lie over each other: each has its own rate, and may begin later. */
+
+export interface Clock {
+  frames: number;
+  /** Frames per second. */
+  rate: number;
+  /** Seconds that the take begins later than the others. */
+  offset: number;
+}
+
+export function secondsOf(clock: Clock, frame: number): number {
+  return clock.rate > 0 ? frame / clock.rate : 0;
+}
+
+/** The frame of `other` at the moment when `active` shows `frame`; -1 where it shows none. */
+export function frameIn(other: Clock, active: Clock, frame: number): number {
+  const moment = secondsOf(active, frame) + active.offset - other.offset;
+  const found = Math.round(moment * other.rate);
+  return found >= 0 && found < other.frames ? found : -1;
+}
+
+export function clampFrame(frame: number, frames: number): number {
+  if (!Number.isFinite(frame)) return 0;
+  return Math.min(Math.max(Math.round(frame), 0), Math.max(frames - 1, 0));
+}
+
+/** Seconds with as many digits as tell neighboring frames apart. */
+export function secondsText(seconds: number): string {
+  return `${seconds.toFixed(3)} s`;
+}

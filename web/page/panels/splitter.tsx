@@ -1,0 +1,61 @@
+import type { Signal } from "@preact/signals";
+
+interface SplitterProperties {
+  label: string;
+  size: Signal<number>;
+  least: number;
+  most: number;
+  /** "columns": dragged sideways. */
+  between: "columns" | "rows";
+  /** Whether the panel whose size it is lies before the splitter. */
+  before: boolean;
+}
+
+const KEY_STEP = 16;
+
+/** The line between two panels, dragged or moved by arrows. */
+export function Splitter({ label, size, least, most, between, before }: SplitterProperties) {
+  const sign = before ? 1 : -1;
+  const resize = (by: number): void => {
+    size.value = Math.min(Math.max(size.value + by * sign, least), most);
+  };
+  const drag = (event: PointerEvent): void => {
+    const handle = event.currentTarget as HTMLElement;
+    handle.setPointerCapture(event.pointerId);
+    const begin = between === "columns" ? event.clientX : event.clientY;
+    const sizeThen = size.value;
+    const move = (moved: PointerEvent): void => {
+      const by = (between === "columns" ? moved.clientX : moved.clientY) - begin;
+      size.value = Math.min(Math.max(sizeThen + by * sign, least), most);
+    };
+    handle.addEventListener("pointermove", move);
+    handle.addEventListener(
+      "lostpointercapture",
+      () => handle.removeEventListener("pointermove", move),
+      { once: true },
+    );
+    event.preventDefault();
+  };
+  const press = (event: KeyboardEvent): void => {
+    const keys = between === "columns" ? ["ArrowLeft", "ArrowRight"] : ["ArrowUp", "ArrowDown"];
+    const direction = keys.indexOf(event.key);
+    if (direction < 0) return;
+    resize(direction === 0 ? -KEY_STEP : KEY_STEP);
+    event.preventDefault();
+    event.stopPropagation();
+  };
+  return (
+    <div
+      class={`splitter ${between}`}
+      role="separator"
+      tabIndex={0}
+      aria-label={label}
+      aria-orientation={between === "columns" ? "vertical" : "horizontal"}
+      aria-valuenow={Math.round(size.value)}
+      aria-valuemin={least}
+      aria-valuemax={most}
+      onPointerDown={drag}
+      onKeyDown={press}
+    />
+  );
+}

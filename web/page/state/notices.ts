@@ -1,0 +1,29 @@
+import { signal } from "@preact/signals";
+
+/** What went wrong, or what came of something, until it is put away. */
+export interface Notice {
+  readonly key: number;
+  readonly kind: "error" | "note";
+  readonly title: string;
+  readonly text: string;
+}
+
+const MOST = 5;
+
+export const notices = signal<readonly Notice[]>([]);
+
+let lastKey = 0;
+
+export function notify(kind: Notice["kind"], title: string, text = ""): void {
+  notices.value = [...notices.value, { key: ++lastKey, kind, title, text }].slice(-MOST);
+}
+
+export function dismiss(key: number): void {
+  notices.value = notices.value.filter((notice) => notice.key !== key);
+}
+
+/** The words of whatever was thrown. */
+export function wordsOf(reason: unknown): string {
+  if (reason && typeof reason === "object" && "message" in reason) return String(reason.message);
+  return String(reason);
+}

@@ -1,0 +1,10 @@
+import { signal } from "@preact/signals";
+
+/** Whether fingers point here, which want larger rows. */
+const coarse = matchMedia("(pointer: coarse)");
+
+export const coarsePointer = signal(coarse.matches);
+coarse.addEventListener("change", () => (coarsePointer.value = coarse.matches));
+
+/** Whether the person asked for pages that hold still. */
+export const prefersStill = matchMedia("(prefers-reduced-motion: reduce)");

@@ -1,0 +1,47 @@
+import { computed, signal } from "@preact/signals";
+import { activeTake, takes, type Take } from "./takes";
+
+/** The objects that are selected, of all takes; the one chosen last is what curves are shown of. */
+export interface ObjectReference {
+  readonly take: number;
+  readonly object: number;
+}
+
+export const selection = signal<readonly ObjectReference[]>([]);
+export const hovered = signal<ObjectReference | null>(null);
+
+/** What is selected of takes that are still open. */
+export const selected = computed(() => {
+  const open = new Set(takes.value.map((take) => take.key));
+  return selection.value.filter((reference) => open.has(reference.take));
+});
+
+/** The objects selected of the take that is worked on. */
+export const selectedInActive = computed(() => {
+  const key = activeTake.value?.key;
+  return new Set(
+    selected.value.filter((reference) => reference.take === key).map(({ object }) => object),
+  );
+});
+
+export const lastSelected = computed(() => selected.value[selected.value.length - 1] ?? null);
+
+export function isSame(one: ObjectReference | null, other: ObjectReference | null): boolean {
+  return one?.take === other?.take && one?.object === other?.object;
+}
+
+export function select(take: Take, object: number, extend: boolean): void {
+  const reference = { take: take.key, object };
+  const there = selected.value.some((other) => isSame(other, reference));
+  const others = selected.value.filter((other) => !isSame(other, reference));
+  if (!extend) selection.value = [reference];
+  else selection.value = there ? others : [...others, reference];
+}
+
+export function selectAll(take: Take, objects: readonly number[]): void {
+  selection.value = objects.map((object) => ({ take: take.key, object }));
+}
+
+export function deselect(): void {
+  selection.value = [];
+}

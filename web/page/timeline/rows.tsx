@@ -1,0 +1,70 @@
+import { effect, signal } from "@preact/signals";
+import { useEffect, useRef } from "preact/hooks";
+import { scrollToRow } from "../logic/timeline_geometry";
+import { coarsePointer } from "../state/pointer";
+import { foundObjects } from "../state/rows";
+import { lastSelected, select } from "../state/selection";
+import { activeTake } from "../state/takes";
+import { scrub, wheel } from "./area";
+import { drawRows } from "./draw_rows";
+import { useDrawing } from "./drawing";
+import { useWheel } from "./wheel";
+
+/** The rows of the timeline. One canvas holds what is in sight, however many there are. */
+
+const scroll = signal(0);
+
+function rowHeight(): number {
+  return coarsePointer.value ? 28 : 19;
+}
+
+function choose(event: PointerEvent): void {
+  const take = activeTake.value;
+  if (!take) return;
+  const element = event.currentTarget as HTMLElement;
+  const y = event.clientY - element.getBoundingClientRect().top + scroll.value;
+  const object = foundObjects.value[Math.floor(y / rowHeight())];
+  if (object === undefined) return;
+  select(take, object, event.ctrlKey || event.metaKey || event.shiftKey);
+}
+
+export function Rows() {
+  const box = useRef<HTMLDivElement>(null);
+  const canvas = useDrawing((context, width, height) =>
+    drawRows(context, width, height, scroll.value, rowHeight()),
+  );
+  useWheel(canvas, wheel);
+  useEffect(() => effect(() => reveal(box.current)), []);
+  const total = foundObjects.value.length * rowHeight();
+  const kind = activeTake.value?.info.kind === "motion" ? "segments" : "markers";
+  return (
+    <div
+      class="timeline-rows"
+      ref={box}
+      tabIndex={0}
+      role="region"
+      aria-label="Rows of the timeline"
+      onScroll={(event) => (scroll.value = event.currentTarget.scrollTop)}
+    >
+      <div class="rows-all" style={{ height: `${total}px` }}>
+        <canvas
+          ref={canvas}
+          class="rows-canvas"
+          role="img"
+          aria-label={`Frames that hold the ${foundObjects.value.length} ${kind}`}
+          onPointerDown={(event) => {
+            choose(event);
+            scrub(event);
+          }}
+        />
+      </div>
+    </div>
+  );
+}
+
+function reveal(box: HTMLDivElement | null): void {
+  const chosen = lastSelected.value;
+  if (!box || !chosen || chosen.take !== activeTake.value?.key) return;
+  const row = foundObjects.value.indexOf(chosen.object);
+  if (row >= 0) box.scrollTop = scrollToRow(row, box.scrollTop, box.clientHeight, rowHeight());
+}

@@ -1,0 +1,149 @@
+import { SPEEDS } from "../logic/playback";
+import { secondsText } from "../logic/take_time";
+import { Choice } from "../panels/choice";
+import { Icon, type IconName } from "../panels/icon";
+import { bottomTab, type BottomTab } from "../state/layout";
+import { activeTake } from "../state/takes";
+import * as time from "../state/time";
+
+/** Plays, and goes to frames. */
+export function Transport() {
+  const playing = time.playing.value;
+  return (
+    <div class="bar transport" role="toolbar" aria-label="Time">
+      <Button icon="first" title="To the first frame (Home)" press={time.goToStart} />
+      <Button
+        icon="previous"
+        title="One frame back (←)"
+        press={() => time.jumpTo(time.frame.value - 1)}
+      />
+      <Button icon="backward" title="Play backward (J)" press={() => time.shuttleTo(-1)} />
+      <Button
+        icon={playing ? "pause" : "play"}
+        title={playing ? "Stop (Space)" : "Play (Space)"}
+        press={time.togglePlay}
+      />
+      <Button
+        icon="next"
+        title="One frame on (→)"
+        press={() => time.jumpTo(time.frame.value + 1)}
+      />
+      <Button icon="last" title="To the last frame (End)" press={time.goToEnd} />
+      <button
+        class="icon"
+        aria-pressed={time.loop.value}
+        title="Loop (R)"
+        aria-label="Loop"
+        onClick={() => (time.loop.value = !time.loop.value)}
+      >
+        <Icon name="loop" />
+      </button>
+      <SpeedChoice />
+      <FrameField />
+      <SpanButtons />
+      <span class="spring" />
+      <Choice<"frames" | "seconds">
+        label="Scale"
+        value={time.rulerIn.value}
+        options={[
+          ["frames", "frames"],
+          ["seconds", "seconds"],
+        ]}
+        set={(value) => (time.rulerIn.value = value)}
+      />
+      <Button icon="wider" title="Timeline wider (-)" press={() => time.zoomTimeline(1 / 1.5)} />
+      <Button icon="closer" title="Timeline closer (+)" press={() => time.zoomTimeline(1.5)} />
+      <Button icon="whole" title="The whole timeline" press={time.showAllFrames} />
+      <Tabs />
+    </div>
+  );
+}
+
+interface ButtonProperties {
+  icon: IconName;
+  title: string;
+  press: () => void;
+}
+
+function Button({ icon, title, press }: ButtonProperties) {
+  return (
+    <button class="icon" title={title} aria-label={title.replace(/ \(.*/, "")} onClick={press}>
+      <Icon name={icon} />
+    </button>
+  );
+}
+
+function SpeedChoice() {
+  const speed = Math.abs(time.speed.value);
+  return (
+    <Choice<string>
+      label="Speed"
+      value={String(speed)}
+      options={SPEEDS.map((value) => [String(value), `${value}×`])}
+      set={(value) => (time.speed.value = Number(value) * (Math.sign(time.speed.value) || 1))}
+    />
+  );
+}
+
+function FrameField() {
+  const take = activeTake.value;
+  if (!take) return null;
+  const { firstFrame, frames, rate } = take.info;
+  const seconds = rate > 0 ? secondsText(time.frame.value / rate) : "no rate";
+  return (
+    <span class="frame-field">
+      <label>
+        Frame{" "}
+        <input
+          type="number"
+          value={time.frame.value + firstFrame}
+          min={firstFrame}
+          max={firstFrame + frames - 1}
+          onChange={(event) => time.jumpTo(event.currentTarget.valueAsNumber - firstFrame)}
+        />
+      </label>
+      <span class="numbers quiet">
+        of {firstFrame}–{firstFrame + frames - 1} · {seconds}
+      </span>
+    </span>
+  );
+}
+
+function SpanButtons() {
+  return (
+    <span class="group">
+      <button title="In point here (I)" onClick={time.setIn}>
+        In
+      </button>
+      <button title="Out point here (O)" onClick={time.setOut}>
+        Out
+      </button>
+      {time.hasSpan.value && (
+        <button title="No in and out points (X)" onClick={time.clearSpan}>
+          Clear
+        </button>
+      )}
+    </span>
+  );
+}
+
+const TABS: readonly (readonly [BottomTab, string])[] = [
+  ["tracks", "Tracks"],
+  ["curves", "Curves"],
+];
+
+function Tabs() {
+  return (
+    <span class="group">
+      {TABS.map(([tab, text]) => (
+        <button
+          key={tab}
+          aria-pressed={bottomTab.value === tab}
+          onClick={() => (bottomTab.value = tab)}
+        >
+          {text}
+        </button>
+      ))}
+    </span>
+  );
+}

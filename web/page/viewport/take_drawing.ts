@@ -1,0 +1,162 @@
+import { Group, Matrix4, Vector3 } from "three";
+import { projectAll, type Screen, type ScreenPlaces } from "../logic/projection";
+import {
+  ballRadius,
+  copyFrame,
+  emptyBox,
+  enclose,
+  momentExtent,
+  NOWHERE,
+  type Box,
+} from "../logic/tracks";
+import { colorOf, type Take } from "../state/takes";
+import type { Palette } from "../state/theme";
+import { Bodies } from "./shapes";
+import { TrailLines } from "./trails";
+
+/** What is seen of one take: in a group that turns its unit and axes into meters with y up. */
+export class TakeDrawing {
+  readonly group = new Group();
+  /** The values of the frame that is shown, what is missing being NOWHERE. */
+  readonly places: Float32Array;
+  readonly radius: number;
+  readonly screenPlaces: ScreenPlaces;
+  readonly trails: TrailLines;
+  private readonly tips: Float32Array | null;
+  private readonly balls: Bodies;
+  private readonly bones: Bodies | null;
+  private shownFrame = -2;
+
+  constructor(readonly take: Take) {
+    const { info, tracks } = take;
+    const count = info.objects.length;
+    const extent = momentExtent(tracks.positions, count, info.frames);
+    const isMotion = info.kind === "motion";
+    this.radius = ballRadius(extent, count) * (isMotion ? 0.7 : 1);
+    this.balls = Bodies.balls(count);
+    this.balls.setRadius(this.radius);
+    this.bones = tracks.ends ? Bodies.bones(count) : null;
+    this.bones?.setRadius(this.radius);
+    this.places = this.balls.values("place");
+    this.tips = this.bones?.values("tip") ?? null;
+    this.screenPlaces = new Float32Array(count * 3);
+    this.trails = new TrailLines(take);
+    this.group.add(this.balls.mesh, this.trails.lines);
+    if (this.bones) this.group.add(this.bones.mesh);
+  }
+
+  get count(): number {
+    return this.take.info.objects.length;
+  }
+
+  paint(palette: Palette): void {
+    this.balls.paint(colorOf(this.take), palette.accent);
+    this.bones?.paint(colorOf(this.take), palette.accent);
+    this.trails.paint(colorOf(this.take));
+  }
+
+  /** Which axis of the file points up there: "y" or "z". */
+  orient(up: "y" | "z"): void {
+    const scale = this.take.info.millimetresPerUnit / 1000;
+    this.group.scale.setScalar(scale > 0 && Number.isFinite(scale) ? scale : 0.001);
+    this.group.rotation.x = up === "z" ? -Math.PI / 2 : 0;
+    this.group.updateMatrixWorld(true);
+  }
+
+  mark(marked: (object: number) => number): void {
+    for (const bodies of [this.balls, this.bones]) {
+      if (!bodies) continue;
+      const marks = bodies.values("mark");
+      for (let object = 0; object < marks.length; ++object) marks[object] = marked(object);
+      bodies.changed("mark");
+    }
+  }
+
+  /** Shows a frame, or with -1 nothing. */
+  show(frame: number): void {
+    this.group.visible = frame >= 0 && this.take.shown.value;
+    if (frame === this.shownFrame) return;
+    this.shownFrame = frame;
+    if (frame < 0) {
+      this.places.fill(NOWHERE);
+      return;
+    }
+    const { positions, ends } = this.take.tracks;
+    copyFrame(positions, this.count, frame, this.places);
+    this.balls.changed("place");
+    if (!this.bones || !this.tips || !ends) return;
+    this.bones.values("place").set(this.places);
+    this.bones.changed("place");
+    copyFrame(ends, this.count, frame, this.tips);
+    this.bones.changed("tip");
+  }
+
+  /** How many objects the frame that is shown has. */
+  get drawn(): number {
+    if (!this.group.visible) return 0;
+    const nowhere = Math.fround(NOWHERE);
+    let drawn = 0;
+    for (let at = 0; at < this.places.length; at += 3) if (this.places[at] !== nowhere) ++drawn;
+    return drawn;
+  }
+
+  /** Finds where on the screen the objects of the frame are. */
+  project(viewProjection: Matrix4, screen: Screen): void {
+    const matrix = new Matrix4().multiplyMatrices(viewProjection, this.group.matrixWorld);
+    projectAll(this.places, this.count, matrix.elements, screen, this.screenPlaces);
+  }
+
+  /** The box in the scene around all that the take ever shows. */
+  wholeBox(): Box {
+    const { boxMin, boxMax } = this.take.info;
+    const box = emptyBox();
+    const corner = new Vector3();
+    for (let bits = 0; bits < 8; ++bits) {
+      corner.set(
+        bits & 1 ? boxMax[0] : boxMin[0],
+        bits & 2 ? boxMax[1] : boxMin[1],
+        bits & 4 ? boxMax[2] : boxMin[2],
+      );
+      corner.applyMatrix4(this.group.matrixWorld);
+      enclose(box, corner.x, corner.y, corner.z);
+    }
+    return box;
+  }
+
+  /** Widens a box by those of the objects that the frame has, all or the chosen ones. */
+  encloseShown(box: Box, chosen: ReadonlySet<number> | null): void {
+    if (!this.group.visible) return;
+    const nowhere = Math.fround(NOWHERE);
+    const point = new Vector3();
+    for (let object = 0; object < this.count; ++object) {
+      if (chosen && !chosen.has(object)) continue;
+      this.encloseOne(box, this.places, object, nowhere, point);
+      if (this.tips) this.encloseOne(box, this.tips, object, nowhere, point);
+    }
+  }
+
+  private encloseOne(
+    box: Box,
+    values: Float32Array,
+    object: number,
+    nowhere: number,
+    point: Vector3,
+  ): void {
+    if (values[object * 3] === nowhere) return;
+    point.fromArray(values, object * 3).applyMatrix4(this.group.matrixWorld);
+    enclose(box, point.x, point.y, point.z);
+  }
+
+  /** Where on the screen the end of an object's bone is; a marker's is the marker itself. */
+  tipOf(object: number, out: Vector3): Vector3 {
+    const values = this.tips ?? this.places;
+    return out.fromArray(values, object * 3).applyMatrix4(this.group.matrixWorld);
+  }
+
+  dispose(): void {
+    this.balls.dispose();
+    this.bones?.dispose();
+    this.trails.dispose();
+    this.group.removeFromParent();
+  }
+}

@@ -1,0 +1,118 @@
+import { signal } from "@preact/signals";
+import { useEffect, useRef } from "preact/hooks";
+import { notify, wordsOf } from "../state/notices";
+import { deselect, hovered, isSame, select } from "../state/selection";
+import { activeTake, takeByKey, takes } from "../state/takes";
+import { activate, frame } from "../state/time";
+import { drawnCount, Stage } from "./stage";
+import { Readout } from "./readout";
+import { ViewBar } from "./view_bar";
+
+/** The view of the scene, with what is laid over it. */
+
+export const stage = signal<Stage | null>(null);
+
+const STILL_PIXELS = 5;
+
+function begin(canvas: HTMLCanvasElement, overlay: HTMLCanvasElement): Stage | null {
+  try {
+    return new Stage(canvas, overlay);
+  } catch (reason) {
+    notify("error", "This browser does not show the view", `It needs WebGL 2. ${wordsOf(reason)}`);
+    return null;
+  }
+}
+
+function placeIn(canvas: HTMLElement, event: PointerEvent): [number, number] {
+  const box = canvas.getBoundingClientRect();
+  return [event.clientX - box.left, event.clientY - box.top];
+}
+
+function choose(canvas: HTMLElement, event: PointerEvent): void {
+  const picked = stage.value?.pick(...placeIn(canvas, event)) ?? null;
+  const extend = event.ctrlKey || event.metaKey || event.shiftKey;
+  if (!picked) {
+    if (!extend) deselect();
+    return;
+  }
+  const take = takeByKey(picked.take);
+  if (!take) return;
+  activate(take);
+  select(take, picked.object, extend);
+}
+
+/** Tells clicks from drags, and what lies under the pointer. */
+function watchPointer(canvas: HTMLElement): () => void {
+  let down: [number, number] | null = null;
+  const onDown = (event: PointerEvent): void => {
+    down = event.isPrimary && event.button === 0 ? [event.clientX, event.clientY] : null;
+  };
+  const onUp = (event: PointerEvent): void => {
+    const moved = down ? Math.hypot(event.clientX - down[0], event.clientY - down[1]) : Infinity;
+    if (moved < STILL_PIXELS) choose(canvas, event);
+    down = null;
+  };
+  const onMove = (event: PointerEvent): void => {
+    if (event.pointerType !== "mouse" || event.buttons !== 0) return;
+    const over = stage.value?.pick(...placeIn(canvas, event)) ?? null;
+    if (!isSame(over, hovered.value)) hovered.value = over;
+    canvas.classList.toggle("over", over !== null);
+  };
+  const onLeave = (): void => void (hovered.value = null);
+  const stop = new AbortController();
+  const { signal: ended } = stop;
+  canvas.addEventListener("pointerdown", onDown, { signal: ended });
+  canvas.addEventListener("pointerup", onUp, { signal: ended });
+  canvas.addEventListener("pointermove", onMove, { signal: ended });
+  canvas.addEventListener("pointerleave", onLeave, { signal: ended });
+  return () => stop.abort();
+}
+
+export function Viewport() {
+  const frameElement = useRef<HTMLDivElement>(null);
+  const canvas = useRef<HTMLCanvasElement>(null);
+  const overlay = useRef<HTMLCanvasElement>(null);
+  useEffect(() => {
+    const started = begin(canvas.current!, overlay.current!);
+    if (!started) return undefined;
+    stage.value = started;
+    const unwatch = watchPointer(canvas.current!);
+    const observer = new ResizeObserver(([entry]) =>
+      started.resize(entry.contentRect.width, entry.contentRect.height),
+    );
+    observer.observe(frameElement.current!);
+    return () => {
+      observer.disconnect();
+      unwatch();
+      stage.value = null;
+      started.dispose();
+    };
+  }, []);
+  return (
+    <section class="viewport" aria-label="View">
+      <ViewBar />
+      <div class="view-frame" ref={frameElement} {...handles()}>
+        <canvas ref={canvas} class="view-scene" tabIndex={0} role="img" aria-label={summary()} />
+        <canvas ref={overlay} class="view-overlay" aria-hidden="true" />
+        <Readout />
+      </div>
+    </section>
+  );
+}
+
+function handles(): Record<string, string | number> {
+  const objects = takes.value.reduce((sum, take) => sum + take.info.objects.length, 0);
+  return {
+    "data-view": "",
+    "data-frame": frame.value,
+    "data-objects": objects,
+    "data-drawn": drawnCount.value,
+  };
+}
+
+function summary(): string {
+  const take = activeTake.value;
+  if (!take) return "The view: no take is open";
+  const kind = take.info.kind === "motion" ? "segments" : "markers";
+  return `The view: ${takes.value.length} open, ${drawnCount.value} ${kind} and others seen`;
+}

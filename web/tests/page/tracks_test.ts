@@ -1,0 +1,96 @@
+import assert from "node:assert/strict";
+import { test } from "node:test";
+import { curveColumns, valuesAt } from "../../page/logic/curve_columns";
+import { eachGap, gapCount, indexGaps, neighborGap } from "../../page/logic/gaps";
+import {
+  ballRadius,
+  copyFrame,
+  diagonal,
+  frameBox,
+  isEmpty,
+  momentExtent,
+  NOWHERE,
+  pointAt,
+} from "../../page/logic/tracks";
+import { fillTrails, trailBuffers, trailFrames } from "../../page/logic/trail";
+
+const HOLE = [NaN, NaN, NaN];
+// Two objects over three frames; the second one is missing in the middle.
+const TRACK = new Float32Array([
+  ...[0, 0, 0, 3, 4, 0],
+  ...[1, 0, 0, ...HOLE],
+  ...[2, 0, 0, 3, 4, 12],
+]);
+
+test("points are read from tracks, gaps being nothing", () => {
+  assert.deepEqual(pointAt(TRACK, 2, 2, 1), [3, 4, 12]);
+  assert.equal(pointAt(TRACK, 2, 1, 1), null);
+  assert.equal(pointAt(TRACK, 2, 7, 0), null);
+  assert.equal(pointAt(TRACK, 2, -1, 0), null);
+});
+
+test("a frame is copied with what is missing put nowhere", () => {
+  const out = new Float32Array(6);
+  copyFrame(TRACK, 2, 1, out);
+  const nowhere = Math.fround(NOWHERE);
+  assert.deepEqual([...out], [1, 0, 0, nowhere, nowhere, nowhere]);
+});
+
+test("boxes and extents leave gaps out", () => {
+  assert.equal(diagonal(frameBox(TRACK, 2, 0)), 5);
+  assert.equal(diagonal(frameBox(TRACK, 2, 1)), 0);
+  assert.ok(isEmpty(frameBox(new Float32Array([...HOLE]), 1, 0)));
+  assert.ok(Math.abs(momentExtent(TRACK, 2, 3) - Math.hypot(1, 4, 12)) < 1e-9);
+});
+
+test("balls are smaller the more of them there are, and never without size", () => {
+  assert.ok(ballRadius(2, 40) > ballRadius(2, 10_000));
+  assert.ok(ballRadius(0, 1) > 0);
+});
+
+test("gaps are found by object, and those that reach into a part of the frames", () => {
+  const index = indexGaps(new Int32Array([0, 5, 9, 0, 20, 29, 2, 0, 3, 2, 8, 8]), 3);
+  const found = (object: number, first: number, last: number): number[][] => {
+    const gaps: number[][] = [];
+    eachGap(index, object, first, last, (begin, end) => gaps.push([begin, end]));
+    return gaps;
+  };
+  assert.deepEqual(found(0, 0, 100), [
+    [5, 9],
+    [20, 29],
+  ]);
+  assert.deepEqual(found(0, 9, 19), [[5, 9]]);
+  assert.deepEqual(found(0, 10, 19), []);
+  assert.deepEqual(found(1, 0, 100), []);
+  assert.deepEqual(found(2, 4, 100), [[8, 8]]);
+  assert.deepEqual(
+    [0, 1, 2].map((object) => gapCount(index, object)),
+    [2, 0, 2],
+  );
+  assert.equal(neighborGap(index, 0, 5, 1), 20);
+  assert.equal(neighborGap(index, 0, 20, -1), 5);
+  assert.equal(neighborGap(index, 0, 20, 1), null);
+  assert.equal(neighborGap(index, 1, 0, 1), null);
+});
+
+test("trails go as far as there are frames, and no piece leads over a gap", () => {
+  assert.deepEqual(trailFrames(1, 2, 3), [0, 1, 2]);
+  const buffers = trailBuffers(2);
+  const count = fillTrails(TRACK, 2, [0, 1], [0, 1, 2], 1, 2, buffers);
+  assert.equal(count, 4);
+  assert.deepEqual([...buffers.points.slice(0, 12)], [0, 0, 0, 1, 0, 0, 1, 0, 0, 2, 0, 0]);
+  assert.equal(buffers.strengths[1], 1);
+  assert.ok(buffers.strengths[3] < buffers.strengths[0]);
+});
+
+test("curves have a column an axis and holes where there are gaps", () => {
+  const columns = curveColumns(new Float64Array([1, 2, 3, NaN, NaN, NaN, 4, 5, 6]));
+  assert.deepEqual(columns, [
+    [0.5, 1.5, 2.5],
+    [1, null, 4],
+    [2, null, 5],
+    [3, null, 6],
+  ]);
+  assert.deepEqual(valuesAt(columns, 2), [4, 5, 6]);
+  assert.deepEqual(valuesAt(columns, 9), [null, null, null]);
+});
