@@ -40,7 +40,14 @@ export function filled(template, texts) {
   });
 }
 
-/** The page of `parts`: template, script, styles, worker, notices (texts), core (bytes). */
+function packedTakes(takes) {
+  return JSON.stringify(takes.map(({ name, bytes }) => ({ name, gzip: packed(bytes) })));
+}
+
+/**
+ * The page of `parts`: template, script, styles, worker, notices (texts), core (bytes), and examples
+ * ({name, bytes} each).
+ */
 export function assemble(parts) {
   const script = requireInline("script", parts.script);
   const styles = requireInline("style sheet", parts.styles);
@@ -48,6 +55,7 @@ export function assemble(parts) {
     policy: policyOf(script, styles),
     styles,
     script,
+    examples: requireInline("examples", packedTakes(parts.examples)),
     worker: packed(parts.worker),
     core: packed(parts.core),
     notices: requireInline("notices", parts.notices.replaceAll("\r", "")),

@@ -13,6 +13,8 @@ import { checkPage } from "./check_page.mjs";
 
 const WEB = path.dirname(path.dirname(fileURLToPath(import.meta.url)));
 
+const EXAMPLES = ["walk.htr", "walk.trc"];
+
 /** The page whose scripts start at `page` and `worker`, with the core in the folder `core`. */
 export async function makePage({ page, worker, core }) {
   const generated = path.join(core, "orvane-core.js");
@@ -27,6 +29,7 @@ export async function makePage({ page, worker, core }) {
     styles: pageBundle.styles,
     worker: workerBundle.script,
     core: readFileSync(path.join(core, "orvane-core.wasm")),
+    examples: EXAMPLES.map((name) => ({ name, bytes: readFileSync(path.join(WEB, "../examples", name)) })),
     notices: noticesOf(packages).join("\n\n"),
   });
 }

@@ -21,7 +21,16 @@ export async function openPart(id: Part): Promise<ArrayBuffer> {
 
 /** The takes that the page was written with; none in the page as it is built. */
 export async function embeddedTakes(): Promise<EmbeddedTake[]> {
-  const packed = JSON.parse(textOf("embedded-takes")) as PackedTake[];
+  return takesIn("embedded-takes");
+}
+
+/** The examples that every page has, a motion file and a marker file. */
+export async function exampleTakes(): Promise<EmbeddedTake[]> {
+  return takesIn("example-takes");
+}
+
+async function takesIn(id: string): Promise<EmbeddedTake[]> {
+  const packed = JSON.parse(textOf(id)) as PackedTake[];
   return Promise.all(packed.map(async ({ name, gzip }) => ({ name, bytes: await unpack(gzip) })));
 }
 

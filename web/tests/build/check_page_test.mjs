@@ -12,6 +12,7 @@ const PARTS = {
   styles: "body{margin:0}",
   worker: 'self.onmessage = () => self.postMessage("done");',
   core: new Uint8Array([0, 97, 115, 109]),
+  examples: [{ name: "walk.htr", bytes: "[Header]" }],
   notices: "library 1.0\r\n\r\nhttps://library.example",
 };
 
