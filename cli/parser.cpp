@@ -13,6 +13,7 @@
 #include "cli/map/map_command.h"
 #include "cli/rewrite/rewrite_command.h"
 #include "cli/scene/scene_command.h"
+#include "cli/view/view_command.h"
 
 namespace cli {
 
@@ -35,6 +36,7 @@ std::unique_ptr<CLI::App> MakeParser(Work& work) {
   AddCompareCommand(*app, work);
   AddMapCommand(*app, work);
   AddSceneCommand(*app, work);
+  AddViewCommand(*app, work);
   AddHelpCommand(*app, work);
   return app;
 }

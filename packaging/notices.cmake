@@ -22,6 +22,7 @@ look for below /usr/share/common-licenses are at https://www.gnu.org/licenses/ t
 add_notice("CLI11" libcli11-dev)
 add_notice("JSON for Modern C++" nlohmann-json3-dev)
 if(for_windows)
+  add_notice("zlib" libz-mingw-w64-dev)
   add_notice("The libraries of the GNU compilers: libgcc, libstdc++" gcc-mingw-w64-base)
   add_notice("MinGW-w64: its run-time library and winpthreads" mingw-w64-common)
   string(REPLACE "\n" "\r\n" text "${text}")

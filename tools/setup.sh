@@ -19,6 +19,7 @@ header  fmt/format.h                              libfmt-dev
 header  nlohmann/json.hpp                         nlohmann-json3-dev
 header  tiny_gltf.h                               libtinygltf-dev
 header  sqlite3.h                                 libsqlite3-dev
+header  zlib.h                                    zlib1g-dev
 header  gtest/gtest.h                             libgtest-dev
 header  gmock/gmock.h                             libgmock-dev
 header  benchmark/benchmark.h                     libbenchmark-dev
@@ -49,6 +50,7 @@ command shellcheck                                shellcheck
 '
 readonly windows_needs='
 command x86_64-w64-mingw32-g++-posix              g++-mingw-w64-x86-64-posix
+path    /usr/x86_64-w64-mingw32/include/zlib.h    libz-mingw-w64-dev
 path    /usr/src/googletest/googlemock            googletest
 path    /usr/lib/wine/wine64                      wine64
 path    /usr/share/wine/fonts/tahoma.ttf          fonts-wine

@@ -95,6 +95,13 @@ constexpr VerbGuide kGuides[] = {
      "and its frames, as the plug-in left them.",
      {{{"orvane scene walk.glb", "its nodes, and how many keys they have"},
        {"orvane scene walk.glb --json", "all keys, as JSON"}}}},
+    {"view",
+     "Writes a page that shows takes in any browser: what moves, its gaps and what is odd in it, "
+     "each at its time. The takes are in the page, which needs nothing else and sends nothing "
+     "anywhere, so that it can be passed on; and it is opened. Without a take an empty page is "
+     "opened, which files can be dropped on.",
+     {{{"orvane view walk.htr walk.trc -o both.html", "a skeleton and markers over each other"},
+       {"orvane view walk.trc --no-open", "walk.html, for somebody else to open"}}}},
     {"help",
      "Shows the help of the program or of a verb: the same as --help behind the verb.",
      {{{"orvane help import", "the flags of a verb"},

@@ -16,9 +16,19 @@ struct FileWord {
 
 const std::vector<FileWord>& FileWords() {
   static const std::vector<FileWord> words = {
-      {"FILE", {}},       {"PATH", {}},         {"TABLE", {}},    {"OUT", {}},
-      {"HTR", {"htr"}},   {"TRC", {"trc"}},     {"BVK", {"bvk"}}, {"MNM", {"mnm"}},
-      {"json", {"json"}}, {"MAPPING", {"mnm"}}, {"mnm", {"mnm"}}, {"SCENE", {"glb", "gltf"}},
+      {"FILE", {}},
+      {"PAGE", {}},
+      {"PATH", {}},
+      {"TABLE", {}},
+      {"OUT", {}},
+      {"HTR", {"htr"}},
+      {"TRC", {"trc"}},
+      {"BVK", {"bvk"}},
+      {"MNM", {"mnm"}},
+      {"json", {"json"}},
+      {"MAPPING", {"mnm"}},
+      {"mnm", {"mnm"}},
+      {"SCENE", {"glb", "gltf"}},
   };
   return words;
 }

@@ -12,7 +12,8 @@ ProgramRun OrvaneTest::Command(const std::vector<std::string>& arguments) const 
   run.command = {ORVANE_BINARY_DIR "/bin/orvane"};
   run.command.insert(run.command.end(), arguments.begin(), arguments.end());
   run.folder = folder_.Path().string();
-  run.environment = {"XDG_CONFIG_HOME=" + folder_.File("config")};
+  run.environment = {"XDG_CONFIG_HOME=" + folder_.File("config"),
+                     "ORVANE_WORKBENCH=" ORVANE_SOURCE_DIR "/tests/data/workbench.html"};
   return run;
 }
 

@@ -62,6 +62,8 @@ TEST_F(ExamplesTest, AreDoneInTheirOrder) {
       if (!done.insert(example.command).second) continue;
       words.erase(words.begin());
       const std::string input = TakeInput(words);
+      // On the desktop of whoever runs the tests nothing is to open.
+      if (words.front() == "view") words.emplace_back("--no-open");
       test::ProgramRun run = Command(words);
       if (!input.empty()) run.input_file = folder_.File(input);
       const test::ProgramResult result = RunProgram(run);

@@ -60,6 +60,7 @@ TEST_P(DocumentationTest, EveryExamplePrintsWhatTheDocumentSays) {
   for (const Example& example : examples) {
     ProgramRun run = Command({});
     run.command = {"/bin/sh", "-c", example.command + " 2>&1"};
+    run.environment.insert(run.environment.end(), {"DISPLAY=", "WAYLAND_DISPLAY="});
     const ProgramResult result = RunProgram(run);
     EXPECT_TRUE(Matches(result.output, example.output)) << "$ " << example.command << "\n"
                                                         << result.output << "is not\n"
