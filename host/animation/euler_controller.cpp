@@ -9,12 +9,16 @@ namespace {
 
 constexpr double kPi = 3.14159265358979323846;
 constexpr double kTurn = 2.0 * kPi;
+constexpr double kThreeHalfTurns = 1.5 * kTurn;
 
-// The way from `from` to `to`, the shorter way round. Most are no longer already, and then the
-// remainder would be the same.
+// The way from `from` to `to`, the shorter way round: the remainder of the turn. Within three half
+// turns the difference is the same, to the sign of a zero, and many times as fast.
 double TurnBetween(double from, double to) {
   const double turn = to - from;
-  return std::abs(turn) <= kPi ? turn : std::remainder(turn, kTurn);
+  const double size = std::abs(turn);
+  if (size <= kPi) return turn;
+  if (size < kThreeHalfTurns) return std::copysign(1.0, turn) * (size - kTurn);
+  return std::remainder(turn, kTurn);
 }
 
 Vector TurnBetween(const Vector& from, const Vector& to) {

@@ -76,14 +76,7 @@ class Keys {
   // Deletes the key at `tick`; returns whether there was one.
   bool Delete(TimeValue tick) {
     if (empty_after_ < tick && tick < empty_before_) return false;
-    const std::size_t i = LowerBound(tick);
-    const bool found = HasTick(i, tick);
-    if (found) {
-      MoveGapTo(i);
-      ++gap_end_;
-    }
-    RememberEmptyStretchBefore(i);
-    return found;
+    return DeleteOutsideEmptyStretch(tick);
   }
 
   void Clear() {
@@ -138,6 +131,9 @@ class Keys {
     MoveGapTo(i);
   }
 
+  // Never a part of Delete(): the calls that end there would save registers for this.
+  [[gnu::noinline]] bool DeleteOutsideEmptyStretch(TimeValue tick);
+
   void ForgetEmptyStretch() { empty_after_ = empty_before_ = 0; }
 
   // There is no key between those number `i` - 1 and `i`.
@@ -154,5 +150,17 @@ class Keys {
   std::int64_t empty_after_ = kBeforeAllTicks;
   std::int64_t empty_before_ = kAfterAllTicks;
 };
+
+template <typename Value>
+bool Keys<Value>::DeleteOutsideEmptyStretch(TimeValue tick) {
+  const std::size_t i = LowerBound(tick);
+  const bool found = HasTick(i, tick);
+  if (found) {
+    MoveGapTo(i);
+    ++gap_end_;
+  }
+  RememberEmptyStretchBefore(i);
+  return found;
+}
 
 }  // namespace host

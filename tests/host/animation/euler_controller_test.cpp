@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cmath>
+#include <numbers>
+
 #include "host/base/quaternion.h"
 #include "tests/host/animation/controller_fixture.h"
 #include "tests/support/host_geometry.h"
@@ -69,6 +72,21 @@ TEST_F(EulerControllerTest, FollowsManyTurns) {
   for (int i = 0; i <= 40; ++i) controller_.SetKey(100 * i, Turn(1, 0, 0, 50.0 * i));
   for (int i = 0; i < 40; ++i) {
     ExpectSameRotation(controller_.ValueAt(100 * i + 50), Turn(1, 0, 0, 50.0 * i + 25.0), 1e-5);
+  }
+}
+
+TEST_F(EulerControllerTest, GoesOnByTheRemainderOfAWholeTurnToTheLastBit) {
+  const double whole_turn = 2 * std::numbers::pi;
+  for (const double before : {-30.0, -9.5, -6.3, -3.1, -0.7, 0.2, 0.9, 3.1, 6.3, 9.4, 9.5, 30.0}) {
+    for (const double degrees : {-179.0, -90.0, -20.0, 0.0, 35.0, 120.0, 179.5}) {
+      const Quat turn = Turn(0, 0, 1, degrees);
+      controller_.DeleteAllKeys();
+      controller_.SetKey(0, Quat(), {0, 0, before});
+      controller_.SetKey(100, turn);
+      const double angle = ToEuler(FromQuat(turn)).z;
+      EXPECT_EQ(controller_.KeyAngles(1).z, before + std::remainder(angle - before, whole_turn))
+          << "from " << before << " to " << degrees << " degrees";
+    }
   }
 }
 
