@@ -4,8 +4,6 @@
 #include <array>
 #include <unordered_set>
 
-#include "formats/math/rotation_matrix3.h"
-
 namespace orvane {
 namespace {
 
@@ -77,9 +75,10 @@ Vector3 HtrSegment::GetFramePosition(std::size_t index) const {
                  offset.z() + base_translation_.z());
 }
 
-EulerRotation HtrSegment::GetFrameOrientation(std::size_t index) const {
+EulerRotation HtrSegment::GetFrameOrientation(std::size_t index,
+                                              const RotationMatrix3& base) const {
   if (index >= GetNumFrames()) return EulerRotation();
-  return EulerRotation(RotationMatrix3(base_rotation_) * RotationMatrix3(GetFrameRotation(index)));
+  return EulerRotation(base * RotationMatrix3(GetFrameRotation(index)));
 }
 
 void HtrSegment::ScaleLengths(double factor, std::size_t frame_count) {

@@ -10,6 +10,7 @@
 
 #include "formats/htr/frames.h"
 #include "formats/math/euler_rotation.h"
+#include "formats/math/rotation_matrix3.h"
 #include "formats/math/vector.h"
 #include "formats/text/watched_name.h"
 
@@ -91,7 +92,11 @@ class HtrSegment {
   Vector3 GetFramePosition(std::size_t index) const;
   // The frame with its base: angles of base rotation times frame rotation (the frame's is applied
   // first) in the default Euler order. At or past the end: zero.
-  EulerRotation GetFrameOrientation(std::size_t index) const;
+  EulerRotation GetFrameOrientation(std::size_t index) const {
+    return GetFrameOrientation(index, RotationMatrix3(base_rotation_));
+  }
+  // The same, for `base`, the matrix of the base rotation, which is made once for many frames.
+  EulerRotation GetFrameOrientation(std::size_t index, const RotationMatrix3& base) const;
 
   // Multiplies base translation, bone length and the translations of the first `frame_count`
   // frames, as far as there are so many. Angles and scales stay.

@@ -55,6 +55,7 @@ bool SegmentKeyer::KeyBasePosition() {
 // Intended: the file's frames are taken from its first one on, whatever frame the range starts at;
 // that says only when they are keyed.
 bool SegmentKeyer::KeyFrames() {
+  const RotationMatrix3 base(segment_.GetBaseRotation());
   EulerRotation previous;
   for (std::int64_t frame = times_.BeginFrame(); frame < times_.EndFrame(); ++frame) {
     const TimeValue time = *times_.Tick(frame);
@@ -62,7 +63,7 @@ bool SegmentKeyer::KeyFrames() {
     if (!KeyTranslation(time, segment_.GetFramePosition(index))) return false;
 
     EulerRotation current;
-    current.Set(segment_.GetFrameOrientation(index));
+    current.Set(segment_.GetFrameOrientation(index, base));
     current = ContinueEulerRotation(current, previous);
     if (!KeyRotation(time, RotationMatrix3(current))) return false;
     previous = current;

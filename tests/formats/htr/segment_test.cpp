@@ -227,6 +227,20 @@ TEST(HtrFrameOrientation, ReadsTheFramesOwnOrderAndAnswersInTheDefaultOne) {
   }
 }
 
+TEST(HtrFrameOrientation, IsTheSameWithTheBasesMatrixAtHand) {
+  HtrSegment segment;
+  segment.SetBaseRotation(0.3, -1.2, 2.5);
+  const RotationMatrix3 base(segment.GetBaseRotation());
+  for (int frame = 0; frame < 20; ++frame) {
+    segment.AddFrame(Vector3(), Vector3(0.1 * frame, -0.2 * frame, 3.0 - frame), 1);
+  }
+  for (std::size_t frame = 0; frame <= 20; ++frame) {
+    const EulerRotation expected = segment.GetFrameOrientation(frame);
+    const EulerRotation actual = segment.GetFrameOrientation(frame, base);
+    for (unsigned int axis = 0; axis < 3; ++axis) EXPECT_EQ(actual[axis], expected[axis]) << frame;
+  }
+}
+
 TEST(HtrFrameOrientation, IsTheFramesRotationOnAZeroBase) {
   HtrSegment segment;
   segment.AddFrame(Vector3(), Vector3(0.1, -0.2, 3.0), 1);
