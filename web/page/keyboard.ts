@@ -17,7 +17,18 @@ function pressesTarget(event: KeyboardEvent): boolean {
   return target instanceof Element && target.closest("button, summary, input, a") !== null;
 }
 
+/** Buttons that are clicked do not keep the focus, so that Space plays after a click as before it. */
+function keepFocus(): void {
+  addEventListener("mousedown", (event) => {
+    const { target } = event;
+    if (target instanceof Element && target.closest("button, summary, input[type=checkbox]")) {
+      event.preventDefault();
+    }
+  });
+}
+
 export function listenToKeys(): void {
+  keepFocus();
   addEventListener("keydown", (event) => {
     if (event.defaultPrevented || document.querySelector("dialog[open]")) return;
     if (typesText(event.target)) {

@@ -1,4 +1,4 @@
-import { effect } from "@preact/signals";
+import { effect, untracked } from "@preact/signals";
 import uPlot from "uplot";
 import type { CurveColumns } from "../logic/curve_columns";
 import { frameOfX, xOfFrame, type Area } from "../logic/timeline_geometry";
@@ -51,6 +51,7 @@ export class Plot {
     this.line.className = "plot-line";
     this.plot.over.append(this.line);
     this.plot.over.addEventListener("pointerdown", (event) => this.scrub(event));
+    this.plot.hooks.draw = [() => untracked(() => this.showFrame())];
     this.stops = [
       effect(() => this.showCurves()),
       effect(() => this.showView()),
@@ -72,7 +73,7 @@ export class Plot {
   private showFrame(): void {
     const x = xOfFrame(frame.value + 0.5, timelineView.value, this.area());
     this.line.style.transform = `translateX(${Math.round(x)}px)`;
-    this.line.hidden = x < 0 || x > this.area().width;
+    this.line.hidden = !curve.value || x < 0 || x > this.area().width;
   }
 
   private repaint(): void {

@@ -8,7 +8,6 @@ const UNSEEN =
 
 function visible(character: string): string {
   const code = character.codePointAt(0) ?? 0;
-  if (code < 0x20) return String.fromCharCode(0x2400 + code);
   return `[U+${code.toString(16).toUpperCase().padStart(4, "0")}]`;
 }
 

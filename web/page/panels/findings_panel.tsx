@@ -4,7 +4,7 @@ import { countBySeverity, placeText, worstFirst } from "../logic/finding_groups"
 import { shown } from "../logic/names";
 import { askLine } from "../state/core";
 import { action, actionsOf, report, retry, type Report } from "../state/findings";
-import { notify, wordsOf } from "../state/notices";
+import { notifyFailure } from "../state/notices";
 import { select } from "../state/selection";
 import { activeTake, type Take } from "../state/takes";
 import { jumpTo } from "../state/time";
@@ -127,6 +127,6 @@ async function goToPlace(take: Take, place: Place): Promise<void> {
     const { text, start } = await askLine(take, place.line, place.column);
     shownLine.value = { take, number: place.line, column: place.column, text, start };
   } catch (reason) {
-    notify("error", `Line ${place.line} is not shown`, wordsOf(reason));
+    notifyFailure(`Line ${place.line} is not shown`, reason);
   }
 }

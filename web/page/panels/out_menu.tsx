@@ -4,7 +4,7 @@ import { fileStem, shown } from "../logic/names";
 import { OUTPUTS, outputName, outputVerb, type Output } from "../logic/outputs";
 import { askFindings, runVerb } from "../state/core";
 import { action } from "../state/findings";
-import { notify, wordsOf } from "../state/notices";
+import { notify, notifyFailure } from "../state/notices";
 import { activeTake, type Take } from "../state/takes";
 import { palette } from "../state/theme";
 import { stage } from "../viewport/viewport";
@@ -49,7 +49,7 @@ async function guarded(take: Take, work: (from: Take) => Promise<void>): Promise
   try {
     await work(take);
   } catch (reason) {
-    notify("error", `Nothing was saved of ${shown(take.info.name, 80)}`, wordsOf(reason));
+    notifyFailure(`Nothing was saved of ${shown(take.info.name, 80)}`, reason);
   }
 }
 

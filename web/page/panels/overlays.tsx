@@ -1,5 +1,7 @@
 import { cancelTask } from "../state/core";
 import { dismiss, notices } from "../state/notices";
+import { rightWidth } from "../state/layout";
+import { takes } from "../state/takes";
 import { canceling, task } from "../state/tasks";
 
 /** What is going on, with a way to end it; and what went wrong. */
@@ -23,9 +25,14 @@ export function Busy() {
   );
 }
 
+/** Notices stand beside the findings, which may be what they are about. */
+function besideFindings(): number {
+  return takes.value.length > 0 ? rightWidth.value : 0;
+}
+
 export function Notices() {
   return (
-    <div class="notices" aria-live="polite">
+    <div class="notices" aria-live="polite" style={{ "--beside": `${besideFindings()}px` }}>
       {notices.value.map((notice) => (
         <div key={notice.key} class={`notice ${notice.kind}`} role="alert">
           <div class="notice-text">

@@ -8,7 +8,7 @@ import type {
   RunResult,
 } from "../../worker/protocol";
 import { shown } from "../logic/names";
-import { notify, wordsOf } from "./notices";
+import { notifyFailure } from "./notices";
 import { deselect } from "./selection";
 import { activeKey, activeTake, addTake, removeTake, takes, type Take } from "./takes";
 import { canceling, runTask, task, tellProgress } from "./tasks";
@@ -48,7 +48,7 @@ export async function openFiles(files: readonly SourceFile[]): Promise<void> {
     try {
       await runTask(`Opening ${shown(file.name, 80)}`, () => openFile(file));
     } catch (reason) {
-      notify("error", `${shown(file.name, 80)} was not opened`, wordsOf(reason));
+      notifyFailure(`${shown(file.name, 80)} was not opened`, reason);
     }
   }
 }

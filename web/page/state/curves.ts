@@ -3,7 +3,7 @@ import type { CurveOf } from "../../worker/protocol";
 import { curveColumns, type CurveColumns } from "../logic/curve_columns";
 import { askCurve } from "./core";
 import { bottomTab } from "./layout";
-import { notify, wordsOf } from "./notices";
+import { notifyFailure } from "./notices";
 import { lastSelected } from "./selection";
 import { takeByKey, type Take } from "./takes";
 
@@ -32,7 +32,7 @@ async function fetchCurve(take: Take, object: number, of: CurveOf): Promise<void
     const values = await askCurve(take, object, of);
     if (number === asked) curve.value = { take, object, of, columns: curveColumns(values) };
   } catch (reason) {
-    if (number === asked) notify("error", "There are no curves", wordsOf(reason));
+    if (number === asked) notifyFailure("There are no curves", reason);
   }
 }
 

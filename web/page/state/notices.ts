@@ -22,6 +22,15 @@ export function dismiss(key: number): void {
   notices.value = notices.value.filter((notice) => notice.key !== key);
 }
 
+/** Tells what failed and in whose words; not what the person has ended. */
+export function notifyFailure(title: string, reason: unknown): void {
+  if (!isCanceled(reason)) notify("error", title, wordsOf(reason));
+}
+
+function isCanceled(reason: unknown): boolean {
+  return reason instanceof Object && "name" in reason && reason.name === "Cancelled";
+}
+
 /** The words of whatever was thrown. */
 export function wordsOf(reason: unknown): string {
   if (reason && typeof reason === "object" && "message" in reason) return String(reason.message);

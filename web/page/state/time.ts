@@ -15,7 +15,9 @@ import { activeKey, activeTake, clockOf, type Take } from "./takes";
 /** The frame that is shown, of the take that is worked on, counted from 0; and how it goes on. */
 export const frame = signal(0);
 export const playing = signal(false);
-/** 1 is the rate of the file; negative: backward. */
+/** What it plays at unless J and L say something else; 1 is the rate of the file. */
+export const usualSpeed = signal(1);
+/** What it plays at, or played at last; negative: backward. */
 export const speed = signal(1);
 export const loop = setting("loop", true, isBoolean);
 export const rulerIn = setting<"frames" | "seconds">(
@@ -81,7 +83,12 @@ export function stop(): void {
 
 export function togglePlay(): void {
   if (playing.value) stop();
-  else play(speed.value);
+  else play(usualSpeed.value);
+}
+
+export function setSpeed(chosen: number): void {
+  usualSpeed.value = chosen;
+  speed.value = chosen * (playing.value && speed.value < 0 ? -1 : 1);
 }
 
 export function shuttleTo(direction: 1 | -1): void {

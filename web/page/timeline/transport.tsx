@@ -74,13 +74,13 @@ function Button({ icon, title, press }: ButtonProperties) {
 }
 
 function SpeedChoice() {
-  const speed = Math.abs(time.speed.value);
+  const speed = time.playing.value ? Math.abs(time.speed.value) : time.usualSpeed.value;
   return (
     <Choice<string>
       label="Speed"
       value={String(speed)}
       options={SPEEDS.map((value) => [String(value), `${value}×`])}
-      set={(value) => (time.speed.value = Number(value) * (Math.sign(time.speed.value) || 1))}
+      set={(value) => time.setSpeed(Number(value))}
     />
   );
 }

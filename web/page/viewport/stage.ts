@@ -2,7 +2,7 @@ import { batch, effect, signal } from "@preact/signals";
 import { Scene, SRGBColorSpace, Vector3, WebGLRenderer } from "three";
 import { Nearest } from "../logic/picking";
 import { isOnScreen, type Screen } from "../logic/projection";
-import { emptyBox, isEmpty, type Box } from "../logic/tracks";
+import { diagonal, emptyBox, isEmpty, type Box } from "../logic/tracks";
 import { gridStep, metersOf } from "../logic/units";
 import { hovered, selected, type ObjectReference } from "../state/selection";
 import { activeTake, takes } from "../state/takes";
@@ -21,6 +21,7 @@ export const floorStep = signal(1);
 export const drawnCount = signal(0);
 
 const PICK_REACH = 12;
+const FAR = 4;
 
 /** All that is seen in the view. It draws when something has changed, once for each picture of the screen. */
 export class Stage {
@@ -64,7 +65,7 @@ export class Stage {
       if (!before.delete(drawing.take)) this.scene.add(drawing.group);
     }
     for (const drawing of before.values()) drawing.dispose();
-    if (wasEmpty && this.drawings.length > 0) queueMicrotask(() => this.fit(false));
+    if (wasEmpty && this.drawings.length > 0) queueMicrotask(() => this.lookAtFirst());
     this.invalidate();
   }
 
@@ -140,6 +141,7 @@ export class Stage {
     this.requested = 0;
     for (const drawing of this.drawings) {
       const frame = frameOf(drawing.take);
+      drawing.setScreenHeight(this.renderer.domElement.height);
       drawing.show(frame);
       drawing.trails.show(this.trailsOf(drawing), frame);
     }
@@ -207,10 +209,20 @@ export class Stage {
     return box;
   }
 
-  /** Shows what is selected, or all that the takes ever show. */
-  fit(useSelection = true): void {
+  /** Shows all of the first take, or one moment of it where it goes so far that nothing would be seen. */
+  private lookAtFirst(): void {
     const whole = this.wholeBox();
-    const box = useSelection && selected.value.length > 0 ? this.shownBox(true) : whole;
+    for (const drawing of this.drawings) drawing.show(frameOf(drawing.take));
+    const moment = this.shownBox(false);
+    const isFar = !isEmpty(moment) && diagonal(whole) > FAR * diagonal(moment);
+    this.eye.fit(isFar ? moment : whole, whole);
+    this.invalidate();
+  }
+
+  /** Shows what is selected, or all that the takes ever show. */
+  fit(): void {
+    const whole = this.wholeBox();
+    const box = selected.value.length > 0 ? this.shownBox(true) : whole;
     this.eye.fit(isEmpty(box) ? whole : box, whole);
     this.followed = null;
     this.invalidate();

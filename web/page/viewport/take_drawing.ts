@@ -11,7 +11,8 @@ import {
 } from "../logic/tracks";
 import { colorOf, type Take } from "../state/takes";
 import type { Palette } from "../state/theme";
-import { Bodies } from "./shapes";
+import { Balls } from "./balls";
+import { Bones } from "./bones";
 import { TrailLines } from "./trails";
 
 /** What is seen of one take: in a group that turns its unit and axes into meters with y up. */
@@ -23,8 +24,8 @@ export class TakeDrawing {
   readonly screenPlaces: ScreenPlaces;
   readonly trails: TrailLines;
   private readonly tips: Float32Array | null;
-  private readonly balls: Bodies;
-  private readonly bones: Bodies | null;
+  private readonly balls: Balls;
+  private readonly bones: Bones | null;
   private shownFrame = -2;
 
   constructor(readonly take: Take) {
@@ -33,16 +34,14 @@ export class TakeDrawing {
     const extent = momentExtent(tracks.positions, count, info.frames);
     const isMotion = info.kind === "motion";
     this.radius = ballRadius(extent, count) * (isMotion ? 0.7 : 1);
-    this.balls = Bodies.balls(count);
-    this.balls.setRadius(this.radius);
-    this.bones = tracks.ends ? Bodies.bones(count) : null;
-    this.bones?.setRadius(this.radius);
-    this.places = this.balls.values("place");
-    this.tips = this.bones?.values("tip") ?? null;
+    this.balls = new Balls(count, this.radius);
+    this.bones = tracks.ends ? new Bones(count, this.radius * 3.5) : null;
+    this.places = this.balls.places;
+    this.tips = this.bones?.tips ?? null;
     this.screenPlaces = new Float32Array(count * 3);
     this.trails = new TrailLines(take);
-    this.group.add(this.balls.mesh, this.trails.lines);
-    if (this.bones) this.group.add(this.bones.mesh);
+    this.group.add(this.balls.body, this.trails.lines);
+    if (this.bones) this.group.add(this.bones.body);
   }
 
   get count(): number {
@@ -64,12 +63,16 @@ export class TakeDrawing {
   }
 
   mark(marked: (object: number) => number): void {
-    for (const bodies of [this.balls, this.bones]) {
-      if (!bodies) continue;
-      const marks = bodies.values("mark");
-      for (let object = 0; object < marks.length; ++object) marks[object] = marked(object);
-      bodies.changed("mark");
-    }
+    const { marks } = this.balls;
+    for (let object = 0; object < marks.length; ++object) marks[object] = marked(object);
+    this.balls.changed("mark");
+    if (!this.bones) return;
+    this.bones.marks.set(marks);
+    this.bones.changed("mark");
+  }
+
+  setScreenHeight(height: number): void {
+    this.balls.setScreenHeight(height);
   }
 
   /** Shows a frame, or with -1 nothing. */
@@ -83,11 +86,11 @@ export class TakeDrawing {
     }
     const { positions, ends } = this.take.tracks;
     copyFrame(positions, this.count, frame, this.places);
-    this.balls.changed("place");
-    if (!this.bones || !this.tips || !ends) return;
-    this.bones.values("place").set(this.places);
+    this.balls.changed("position");
+    if (!this.bones || !ends) return;
+    this.bones.places.set(this.places);
     this.bones.changed("place");
-    copyFrame(ends, this.count, frame, this.tips);
+    copyFrame(ends, this.count, frame, this.bones.tips);
     this.bones.changed("tip");
   }
 

@@ -76,6 +76,7 @@ export function Viewport() {
     const started = begin(canvas.current!, overlay.current!);
     if (!started) return undefined;
     stage.value = started;
+    canvas.current!.focus({ preventScroll: true });
     const unwatch = watchPointer(canvas.current!);
     const observer = new ResizeObserver(([entry]) =>
       started.resize(entry.contentRect.width, entry.contentRect.height),

@@ -9,7 +9,7 @@ test("names are shown as they are, and what cannot be seen by its code", () => {
     ["مرحبا", "مرحبا"],
     ["\u202egnp.exe", "[U+202E]gnp.exe"],
     ["a\u2066b\u2069c", "a[U+2066]b[U+2069]c"],
-    ["a\u0000b\nc\u0085", "a\u2400b\u240ac[U+0085]"],
+    ["a\u0000b\nc\u0085", "a[U+0000]b[U+000A]c[U+0085]"],
     ["a\u200bb\ufeff", "a[U+200B]b[U+FEFF]"],
     ["x\ud800y", "x[U+D800]y"],
     ["tag\u{e0041}", "tag[U+E0041]"],

@@ -1,0 +1,102 @@
+import {
+  BufferAttribute,
+  BufferGeometry,
+  Color,
+  DynamicDrawUsage,
+  Points,
+  ShaderMaterial,
+} from "three";
+import { isNowhere } from "./nowhere";
+
+/**
+ * Balls, drawn at once however many there are: each is one point, as large as the ball is seen, that is
+ * shaded like one. What changes from frame to frame are the places alone, as the tracks have them.
+ */
+
+const VERTEX = /* glsl */ `
+  attribute float mark;
+  uniform float radius;
+  uniform float screenHeight;
+  varying float marked;
+  varying float pixels;
+  void main() {
+    marked = mark;
+    vec4 eye = modelViewMatrix * vec4(position, 1.0);
+    float eyeRadius = radius * length(modelViewMatrix[0].xyz) * (1.0 + 0.5 * mark);
+    eye.z += eyeRadius;
+    gl_Position = projectionMatrix * eye;
+    pixels = max(eyeRadius * projectionMatrix[1][1] * screenHeight / gl_Position.w, 3.0) + 1.0;
+    gl_PointSize = pixels;
+    if (${isNowhere("position")}) {
+      gl_Position = vec4(2.0, 2.0, 2.0, 1.0);
+      gl_PointSize = 1.0;
+    }
+  }`;
+
+const FRAGMENT = /* glsl */ `
+  uniform vec3 color;
+  uniform vec3 selectedColor;
+  varying float marked;
+  varying float pixels;
+  void main() {
+    vec2 across = (gl_PointCoord * 2.0 - 1.0) * vec2(1.0, -1.0);
+    float away = length(across);
+    float edge = 2.0 / pixels;
+    if (away > 1.0) discard;
+    vec3 normal = vec3(across, sqrt(max(1.0 - away * away, 0.0)));
+    float light = 0.42 + 0.58 * max(dot(normal, normalize(vec3(0.35, 0.7, 0.62))), 0.0);
+    gl_FragColor = vec4(mix(color, selectedColor, marked) * light, (1.0 - away) / edge);
+    #include <colorspace_fragment>
+  }`;
+
+export class Balls {
+  readonly body: Points<BufferGeometry, ShaderMaterial>;
+  readonly places: Float32Array;
+  readonly marks: Float32Array;
+
+  constructor(count: number, radius: number) {
+    this.places = new Float32Array(count * 3);
+    this.marks = new Float32Array(count);
+    const geometry = new BufferGeometry();
+    geometry.setAttribute("position", changing(this.places, 3));
+    geometry.setAttribute("mark", changing(this.marks, 1));
+    const material = new ShaderMaterial({
+      uniforms: {
+        color: { value: new Color() },
+        selectedColor: { value: new Color() },
+        radius: { value: radius },
+        screenHeight: { value: 1 },
+      },
+      vertexShader: VERTEX,
+      fragmentShader: FRAGMENT,
+      alphaToCoverage: true,
+    });
+    this.body = new Points(geometry, material);
+    this.body.frustumCulled = false;
+  }
+
+  paint(color: string, selectedColor: string): void {
+    this.body.material.uniforms.color.value.setStyle(color);
+    this.body.material.uniforms.selectedColor.value.setStyle(selectedColor);
+  }
+
+  /** @param height of the picture, in its own pixels */
+  setScreenHeight(height: number): void {
+    this.body.material.uniforms.screenHeight.value = height;
+  }
+
+  changed(name: "position" | "mark"): void {
+    this.body.geometry.getAttribute(name).needsUpdate = true;
+  }
+
+  dispose(): void {
+    this.body.geometry.dispose();
+    this.body.material.dispose();
+  }
+}
+
+function changing(values: Float32Array, size: number): BufferAttribute {
+  const attribute = new BufferAttribute(values, size);
+  attribute.setUsage(DynamicDrawUsage);
+  return attribute;
+}
