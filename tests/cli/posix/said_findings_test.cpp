@@ -165,6 +165,9 @@ const Arguments kToScene = {"-o", "out.glb", "--force"};
 const Arguments kToMotion = {"-o", "out.htr", "--force"};
 const Arguments kToMarkerFile = {"-o", "out.trc", "--force"};
 const Arguments kToMarkers = {"-o", "out.bvk", "--force"};
+const Arguments kToJoints = {"-o", "out.bvh", "--force"};
+const Arguments kToPoints = {"-o", "out.c3d", "--force"};
+const Arguments kToTable = {"-o", "out.csv", "--force"};
 
 // Of an import into a scene nothing is left out that a new scene would take.
 Use Applied(Use use, const std::string& scene, const Arguments& selection) {
@@ -197,6 +200,10 @@ INSTANTIATE_TEST_SUITE_P(
             "rewrite",
             {"rewrite"},
             kToMarkerFile},
+        Use{"MotionToBvh", "damage_walk.py", "damages.tsv", "rewrite", {"rewrite"}, kToJoints},
+        Use{"MotionToCsv", "damage_walk.py", "damages.tsv", "rewrite", {"rewrite"}, kToTable},
+        Use{"MarkersToC3d", "damage_markers.py", "damages.tsv", "rewrite", {"rewrite"}, kToPoints},
+        Use{"MarkersToCsv", "damage_markers.py", "damages.tsv", "rewrite", {"rewrite"}, kToTable},
         Use{"MarkersShown", "damage_markers.py", "damages.tsv", "inspect", {"info"}, {}},
         Use{"MappingsConvertedWith",
             "damage_markers.py",
