@@ -100,10 +100,13 @@ class LibraryTest(PackageTest):
 
     def test_a_shared_library_may_hold_them_and_shows_nothing_of_them(self):
         (self.folder / "count.cpp").write_text(
+            "#include <orvane/formats/text/byte_source.h>\n"
             "#include <orvane/inspect/check/trc_check.h>\n"
             '#define SHOWN extern "C" __attribute__((visibility("default")))\n'
             "SHOWN std::size_t CountCodes(const char* bytes) {\n"
-            '  return orvane::CheckTrc("bytes", bytes).findings.Totals().size();\n'
+            "  orvane::MemorySource source(bytes);\n"
+            "  orvane::TRCDocument document;\n"
+            '  return orvane::CheckTrc("bytes", source, document).findings.Totals().size();\n'
             "}\n")
         flags = self.pkg_config("--cflags", "--libs", "orvane-inspect")
         self.run_in_folder("g++", "-shared", "-fPIC", "-fvisibility=hidden", "count.cpp", *flags,
