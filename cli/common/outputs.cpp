@@ -44,7 +44,7 @@ std::string BytesWritten(const std::string& path) {
   std::ifstream stream(file, std::ios::binary);
   if (!stream) throw std::system_error(errno, std::generic_category());
   stream.exceptions(std::ios::badbit);
-  std::string bytes(std::filesystem::file_size(file), '\0');
+  std::string bytes(static_cast<std::size_t>(std::filesystem::file_size(file)), '\0');
   stream.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   bytes.resize(static_cast<std::size_t>(stream.gcount()));
   return bytes;

@@ -64,7 +64,9 @@ void MotionLines::TakeStartFrame(std::string_view line) {
   document_.SetStartFrame(ParseInt(TakeFirstToken(line)));
   const std::uint64_t announced =
       std::uint64_t{document_.GetNumFrames()} * document_.segments().size();
-  document_.ReserveFrames(std::min<std::uint64_t>(announced, size_ / kShortestFrame));
+  const std::size_t held_at_most = size_ / kShortestFrame;
+  document_.ReserveFrames(announced < held_at_most ? static_cast<std::size_t>(announced)
+                                                   : held_at_most);
 }
 
 }  // namespace orvane

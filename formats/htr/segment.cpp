@@ -64,7 +64,8 @@ double HtrSegment::GetFrameScale(std::size_t index) const {
 
 bool HtrSegment::SetFrameTranslation(std::size_t index, double x, double y, double z) {
   if (index >= GetNumFrames()) return false;
-  std::ranges::copy(std::array{x, y, z}, frames_[index].begin());
+  const std::array translation{x, y, z};
+  std::copy(translation.begin(), translation.end(), frames_[index].begin());
   return true;
 }
 

@@ -58,7 +58,8 @@ class NumberRow {
   // How many cells the line has, an empty one at its end included. REQUIRES: the line lives.
   [[nodiscard]] std::size_t CellsOfLine() const {
     return 1 + separators_ +
-           static_cast<std::size_t>(std::ranges::count_if(rest_, Separators::Separates));
+           static_cast<std::size_t>(
+               std::count_if(rest_.begin(), rest_.end(), Separators::Separates));
   }
 
   // How many numbers were read.

@@ -41,7 +41,7 @@ bool TRCDocument::SharesBlock() const {
   const TRCSampleBlock* const block = markers_.front().block_.get();
   if (block->ColumnCount() != markers_.size()) return false;
   std::size_t column = 0;
-  return std::ranges::all_of(markers_, [&](const TRCMarker& marker) {
+  return std::all_of(markers_.begin(), markers_.end(), [&](const TRCMarker& marker) {
     return marker.block_.get() == block && marker.column_ == column++;
   });
 }

@@ -154,7 +154,8 @@ bool TRCSampleBlock::SetPosition(std::size_t row, std::size_t column, double x, 
   }
   const std::size_t sample = StartOf(row) + column;
   Mark(sample);
-  std::ranges::copy(std::array{x, y, z}, numbers_.data() + kCoordinates * sample);
+  const std::array position{x, y, z};
+  std::copy(position.begin(), position.end(), numbers_.data() + kCoordinates * sample);
   return true;
 }
 

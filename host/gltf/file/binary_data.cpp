@@ -96,7 +96,8 @@ void BinaryData::AppendTo(Output& output) const {
 
 int BinaryData::OwnView(int target) {
   constexpr char kPadding[kAlignment] = {};
-  Hold({kPadding, (kAlignment - size_ % kAlignment) % kAlignment});
+  const auto over = static_cast<std::size_t>(size_ % kAlignment);
+  Hold({kPadding, (kAlignment - over) % kAlignment});
   views_.push_back({size_, 0, target});
   return static_cast<int>(views_.size()) - 1;
 }
@@ -117,7 +118,7 @@ void BinaryData::Hold(std::string_view bytes) {
 
 int BinaryData::Add(MadeNumbers numbers, const ElementForm& form, const Bounds* bounds) {
   assert(numbers.size > 0 && numbers.size % form.bytes == 0);
-  const std::size_t offset = views_.back().size;
+  const std::uint64_t offset = views_.back().size;
   Append(std::move(numbers));
   return AddAccessor(offset, form, bounds);
 }
@@ -126,13 +127,13 @@ int BinaryData::AddKeys(const std::vector<float>& numbers, const ElementForm& fo
                         const Bounds* bounds) {
   const std::string_view bytes = BytesOf(numbers);
   assert(!bytes.empty() && bytes.size() % form.bytes == 0);
-  const std::size_t offset = views_.back().size;
+  const std::uint64_t offset = views_.back().size;
   Hold(bytes);
   views_.back().size += bytes.size();
   return AddAccessor(offset, form, bounds);
 }
 
-int BinaryData::AddAccessor(std::size_t offset, const ElementForm& form, const Bounds* bounds) {
+int BinaryData::AddAccessor(std::uint64_t offset, const ElementForm& form, const Bounds* bounds) {
   return accessors_.AddText([&](std::string& text) {
     JsonObject accessor(text);
     accessor.Add("bufferView", views_.size() - 1);

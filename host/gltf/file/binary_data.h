@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string_view>
@@ -34,15 +35,15 @@ inline constexpr ElementForm kMatrixForm{"MAT4", 5126, 64};
 
 // A part of the data.
 struct BufferView {
-  std::size_t offset = 0;  // bytes from the start
-  std::size_t size = 0;    // bytes
-  int target = 0;          // what graphics cards read it as; 0 for nothing
+  std::uint64_t offset = 0;  // bytes from the start
+  std::uint64_t size = 0;    // bytes
+  int target = 0;            // what graphics cards read it as; 0 for nothing
 };
 
 // MadeNumbers of a file that are made when it is written: they may take many times the memory of
 // what they are made of.
 struct MadeNumbers {
-  std::size_t size = 0;                 // bytes
+  std::uint64_t size = 0;               // bytes
   std::function<void(Output&)> append;  // appends so many, the same whenever it is called
 };
 
@@ -119,7 +120,7 @@ class BinaryData {
 
   // Appends all of it, Size() bytes.
   void AppendTo(Output& output) const;
-  std::size_t Size() const { return size_; }
+  std::uint64_t Size() const { return size_; }
 
   const std::vector<BufferView>& Views() const { return views_; }
   const JsonList& Accessors() const { return accessors_; }
@@ -139,10 +140,10 @@ class BinaryData {
               const Bounds* bounds = nullptr);
 
   // An accessor for what the last view has from `offset` on.
-  int AddAccessor(std::size_t offset, const ElementForm& form, const Bounds* bounds);
+  int AddAccessor(std::uint64_t offset, const ElementForm& form, const Bounds* bounds);
 
   std::vector<std::variant<Blocks, MadeNumbers>> parts_;
-  std::size_t size_ = 0;
+  std::uint64_t size_ = 0;
   std::vector<BufferView> views_;
   JsonList accessors_;
 

@@ -23,19 +23,19 @@ constexpr std::size_t kHeaderSize = 12;
 constexpr std::size_t kChunkHeaderSize = 8;
 constexpr std::size_t kChunkAlignment = 4;
 
-void AppendWord(std::size_t number, Output& output) {
+void AppendWord(std::uint64_t number, Output& output) {
   const auto word = static_cast<std::uint32_t>(number);
   output.Append({reinterpret_cast<const char*>(&word), sizeof word});
 }
 
 // What a chunk of `size` bytes lacks to a multiple of four.
-std::size_t FillOf(std::size_t size) {
+std::size_t FillOf(std::uint64_t size) {
   return (kChunkAlignment - size % kChunkAlignment) % kChunkAlignment;
 }
 
 // Appends the chunk of the `size` bytes that `append` does.
 template <typename Append>
-void AppendChunk(std::size_t size, std::uint32_t type, char filler, const Append& append,
+void AppendChunk(std::uint64_t size, std::uint32_t type, char filler, const Append& append,
                  Output& output) {
   AppendWord(size + FillOf(size), output);
   AppendWord(type, output);
@@ -43,7 +43,7 @@ void AppendChunk(std::size_t size, std::uint32_t type, char filler, const Append
   output.Append(std::string(FillOf(size), filler));
 }
 
-std::size_t ChunkSize(std::size_t size) { return kChunkHeaderSize + size + FillOf(size); }
+std::uint64_t ChunkSize(std::uint64_t size) { return kChunkHeaderSize + size + FillOf(size); }
 
 // Stands before data in base64, where others may write another kind.
 constexpr std::string_view kDataPrefix = "data:application/octet-stream;base64,";
