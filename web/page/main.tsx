@@ -17,7 +17,7 @@ async function startCore(): Promise<Core> {
 
 async function start(): Promise<void> {
   try {
-    connect(await startCore());
+    await connect(startCore());
     const takes = await embeddedTakes();
     await openFiles(takes.map(({ name, bytes }) => ({ name, bytes: async () => bytes })));
   } catch (reason) {

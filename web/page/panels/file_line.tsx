@@ -1,11 +1,11 @@
 import { useEffect, useRef } from "preact/hooks";
 import { markColumn } from "../logic/line_parts";
 import { shown } from "../logic/names";
-import type { Take } from "../state/takes";
 
 /** A line of a file, with the place in it that something was found at. */
 export interface ShownLine {
-  readonly take: Take;
+  /** The page's number of the take. */
+  readonly take: number;
   readonly number: number;
   readonly column: number;
   readonly text: string;

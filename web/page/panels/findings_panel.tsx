@@ -43,7 +43,7 @@ export function FindingsPanel() {
       <div class="findings-list" tabIndex={0} role="group" aria-label="All findings">
         {made && <ReportBody made={made} />}
       </div>
-      {shownLine.value?.take === take && <FileLine line={shownLine.value} close={closeLine} />}
+      {shownLine.value?.take === take.key && <FileLine line={shownLine.value} close={closeLine} />}
     </section>
   );
 }
@@ -125,7 +125,7 @@ async function goToPlace(take: Take, place: Place): Promise<void> {
   if (place.frame !== undefined) jumpTo(place.frame);
   try {
     const { text, start } = await askLine(take, place.line, place.column);
-    shownLine.value = { take, number: place.line, column: place.column, text, start };
+    shownLine.value = { take: take.key, number: place.line, column: place.column, text, start };
   } catch (reason) {
     notifyFailure(`Line ${place.line} is not shown`, reason);
   }

@@ -1,4 +1,5 @@
-import { useRef } from "preact/hooks";
+import type { RefObject } from "preact";
+import { useEffect, useRef } from "preact/hooks";
 import { download } from "../data/download";
 import { fileStem, shown } from "../logic/names";
 import { OUTPUTS, outputName, outputVerb, type Output } from "../logic/outputs";
@@ -13,6 +14,7 @@ import { stage } from "../viewport/viewport";
 export function OutMenu() {
   const menu = useRef<HTMLDetailsElement>(null);
   const take = activeTake.value;
+  useEffect(() => closeOnPressElsewhere(menu), []);
   const run = (work: (from: Take) => Promise<void>): void => {
     if (menu.current) menu.current.open = false;
     if (take) void guarded(take, work);
@@ -36,6 +38,15 @@ export function OutMenu() {
       </div>
     </details>
   );
+}
+
+function closeOnPressElsewhere(menu: RefObject<HTMLDetailsElement>): () => void {
+  const close = (event: Event): void => {
+    const { current } = menu;
+    if (current && !current.contains(event.target as Node)) current.open = false;
+  };
+  addEventListener("pointerdown", close);
+  return () => removeEventListener("pointerdown", close);
 }
 
 function closeOnEscape(event: KeyboardEvent, menu: HTMLDetailsElement | null): void {

@@ -18,7 +18,7 @@ export function Busy() {
       ) : (
         <progress aria-label={what} value={fraction} max={1} />
       )}
-      <button onClick={cancelTask} disabled={canceling.value}>
+      <button onClick={() => void cancelTask()} disabled={canceling.value}>
         Cancel
       </button>
     </div>

@@ -8,7 +8,7 @@ import type {
   RunResult,
 } from "../../worker/protocol";
 import { shown } from "../logic/names";
-import { notifyFailure } from "./notices";
+import { isCanceled, notifyFailure } from "./notices";
 import { deselect } from "./selection";
 import { activeKey, activeTake, addTake, removeTake, takes, type Take } from "./takes";
 import { canceling, runTask, task, tellProgress } from "./tasks";
@@ -23,31 +23,30 @@ export interface SourceFile {
 
 export const ready = signal(false);
 
-let core: CoreApi | null = null;
+let core: Promise<CoreApi> = Promise.reject(new Error("The core was never started."));
+core.catch(() => {});
 
-function theCore(): CoreApi {
-  if (!core) throw new Error("The core is not there yet.");
-  return core;
-}
-
-export function connect(started: CoreApi): void {
-  core = started;
-  core.onProgress(({ what, fraction }) => tellProgress(what, fraction));
+/** Everything that is asked waits for the core; when that does not start, it fails in the same words. */
+export async function connect(starting: Promise<CoreApi>): Promise<void> {
+  core = starting;
+  const started = await starting;
+  started.onProgress(({ what, fraction }) => tellProgress(what, fraction));
   ready.value = true;
 }
 
-export function cancelTask(): void {
-  if (!task.value || !core) return;
+export async function cancelTask(): Promise<void> {
+  if (!task.value) return;
   canceling.value = true;
-  core.cancel();
+  (await core).cancel();
 }
 
-/** Opens files one after the other; each that fails says why. */
+/** Opens files one after the other; each that fails says why. What is canceled ends them all. */
 export async function openFiles(files: readonly SourceFile[]): Promise<void> {
   for (const file of files) {
     try {
       await runTask(`Opening ${shown(file.name, 80)}`, () => openFile(file));
     } catch (reason) {
+      if (isCanceled(reason)) return;
       notifyFailure(`${shown(file.name, 80)} was not opened`, reason);
     }
   }
@@ -55,7 +54,7 @@ export async function openFiles(files: readonly SourceFile[]): Promise<void> {
 
 async function openFile(file: SourceFile): Promise<void> {
   const bytes = await file.bytes();
-  const { info, tracks } = await theCore().open(file.name, bytes);
+  const { info, tracks } = await (await core).open(file.name, bytes);
   const take = addTake(info, tracks);
   if (!activeTake.value) activate(take);
 }
@@ -70,7 +69,7 @@ export async function closeTake(take: Take): Promise<void> {
     else activeKey.value = 0;
     if (!next) resetTime();
   }
-  await theCore().close(take.info.id);
+  await (await core).close(take.info.id);
 }
 
 function resetTime(): void {
@@ -80,17 +79,19 @@ function resetTime(): void {
 }
 
 export async function askFindings(take: Take, action: Action): Promise<Findings> {
-  return runTask("Looking for what is odd", () => theCore().findings(take.info.id, action));
+  return runTask("Looking for what is odd", async () =>
+    (await core).findings(take.info.id, action),
+  );
 }
 
 export async function askLine(take: Take, line: number, column: number): Promise<LineText> {
-  return theCore().line(take.info.id, line, column);
+  return (await core).line(take.info.id, line, column);
 }
 
 export async function askCurve(take: Take, object: number, of: CurveOf): Promise<Float64Array> {
-  return runTask("Reading curves", () => theCore().curve(take.info.id, object, of));
+  return runTask("Reading curves", async () => (await core).curve(take.info.id, object, of));
 }
 
 export async function runVerb(what: string, verb: string[], take: Take): Promise<RunResult> {
-  return runTask(what, () => theCore().run(verb, [take.info.id]));
+  return runTask(what, async () => (await core).run(verb, [take.info.id]));
 }

@@ -27,7 +27,7 @@ export function notifyFailure(title: string, reason: unknown): void {
   if (!isCanceled(reason)) notify("error", title, wordsOf(reason));
 }
 
-function isCanceled(reason: unknown): boolean {
+export function isCanceled(reason: unknown): boolean {
   return reason instanceof Object && "name" in reason && reason.name === "Cancelled";
 }
 

@@ -16,13 +16,27 @@ export const selected = computed(() => {
   return selection.value.filter((reference) => open.has(reference.take));
 });
 
-/** The objects selected of the take that is worked on. */
-export const selectedInActive = computed(() => {
-  const key = activeTake.value?.key;
-  return new Set(
-    selected.value.filter((reference) => reference.take === key).map(({ object }) => object),
-  );
+const NONE: ReadonlySet<number> = new Set();
+
+const selectedByTake = computed(() => {
+  const byTake = new Map<number, Set<number>>();
+  for (const { take, object } of selected.value) {
+    const objects = byTake.get(take);
+    if (objects) objects.add(object);
+    else byTake.set(take, new Set([object]));
+  }
+  return byTake;
 });
+
+/** The objects that are selected of a take. */
+export function selectedOf(take: Take): ReadonlySet<number> {
+  return selectedByTake.value.get(take.key) ?? NONE;
+}
+
+/** The objects selected of the take that is worked on. */
+export const selectedInActive = computed(() =>
+  activeTake.value ? selectedOf(activeTake.value) : NONE,
+);
 
 export const lastSelected = computed(() => selected.value[selected.value.length - 1] ?? null);
 

@@ -1,4 +1,4 @@
-import { signal } from "@preact/signals";
+import { computed, signal } from "@preact/signals";
 
 /** What takes its time is told after a quarter of a second, with how far it is, and can be canceled. */
 export interface Task {
@@ -9,26 +9,35 @@ export interface Task {
 
 const PATIENCE_MILLISECONDS = 250;
 
-export const task = signal<Task | null>(null);
+const slow = signal<readonly { readonly what: string }[]>([]);
+const progress = signal<Task | null>(null);
+
+/** What is told: how far the core says it is, or else what was begun last. */
+export const task = computed<Task | null>(() => {
+  const last = slow.value[slow.value.length - 1];
+  if (!last) return null;
+  return progress.value ?? { what: last.what, fraction: null };
+});
+
 export const canceling = signal(false);
 
 let running = 0;
 
 export async function runTask<Result>(what: string, work: () => Promise<Result>): Promise<Result> {
+  const own = { what };
   running += 1;
-  const timer = setTimeout(() => (task.value = { what, fraction: null }), PATIENCE_MILLISECONDS);
+  const timer = setTimeout(() => (slow.value = [...slow.value, own]), PATIENCE_MILLISECONDS);
   try {
     return await work();
   } finally {
     clearTimeout(timer);
     running -= 1;
-    if (running === 0) {
-      task.value = null;
-      canceling.value = false;
-    }
+    slow.value = slow.value.filter((other) => other !== own);
+    progress.value = null;
+    if (running === 0) canceling.value = false;
   }
 }
 
 export function tellProgress(what: string, fraction: number): void {
-  if (task.value) task.value = { what: what || task.value.what, fraction };
+  if (running > 0) progress.value = { what, fraction };
 }

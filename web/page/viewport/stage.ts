@@ -4,7 +4,7 @@ import { Nearest } from "../logic/picking";
 import { isOnScreen, type Screen } from "../logic/projection";
 import { diagonal, emptyBox, isEmpty, type Box } from "../logic/tracks";
 import { gridStep, metersOf } from "../logic/units";
-import { hovered, selected, type ObjectReference } from "../state/selection";
+import { hovered, selected, selectedOf, type ObjectReference } from "../state/selection";
 import { activeTake, takes } from "../state/takes";
 import { palette } from "../state/theme";
 import { frameOf } from "../state/time";
@@ -22,6 +22,8 @@ export const drawnCount = signal(0);
 
 const PICK_REACH = 12;
 const FAR = 4;
+/** Pixels of a saved picture for each of the page. */
+const PICTURE_PIXELS = 2;
 
 /** All that is seen in the view. It draws when something has changed, once for each picture of the screen. */
 export class Stage {
@@ -99,11 +101,9 @@ export class Stage {
   }
 
   private markSelected(): void {
-    const chosen = selected.value;
     void takes.value;
     for (const drawing of this.drawings) {
-      const own = chosen.filter(({ take }) => take === drawing.take.key);
-      const objects = new Set(own.map(({ object }) => object));
+      const objects = selectedOf(drawing.take);
       drawing.mark((object) => (objects.has(object) ? 1 : 0));
     }
     this.followed = null;
@@ -122,14 +122,17 @@ export class Stage {
 
   resize(width: number, height: number): void {
     if (width < 1 || height < 1) return;
-    const ratio = Math.min(devicePixelRatio, 2);
+    this.setSize(width, height, Math.min(devicePixelRatio, 2));
+    this.render();
+  }
+
+  private setSize(width: number, height: number, ratio: number): void {
     this.screen = { width, height };
     this.renderer.setPixelRatio(ratio);
     this.renderer.setSize(width, height, false);
     this.overlay.width = Math.round(width * ratio);
     this.overlay.height = Math.round(height * ratio);
     this.eye.resize(width, height);
-    this.render();
   }
 
   invalidate(): void {
@@ -157,23 +160,19 @@ export class Stage {
   private trailsOf(drawing: TakeDrawing): readonly number[] {
     if (trails.value === "off") return [];
     if (trails.value === "all") return Array.from({ length: drawing.count }, (_, index) => index);
-    const own = selected.value.filter(({ take }) => take === drawing.take.key);
-    return own.map(({ object }) => object);
+    return [...selectedOf(drawing.take)];
   }
 
   private drawOverlay(): void {
     const ratio = this.overlay.width / this.screen.width;
     this.context.setTransform(ratio, 0, 0, ratio, 0, 0);
     this.context.clearRect(0, 0, this.screen.width, this.screen.height);
-    const chosen = new Set(selected.value.map(({ take, object }) => `${take}/${object}`));
-    const over = hovered.value;
-    if (over) chosen.add(`${over.take}/${over.object}`);
-    const marked = (drawing: TakeDrawing, object: number): boolean =>
-      chosen.size > 0 && chosen.has(`${drawing.take.key}/${object}`);
-    if (labels.value || over) {
+    if (labels.value) {
+      const over = hovered.value;
+      const marked = ({ take }: TakeDrawing, object: number): boolean =>
+        selectedOf(take).has(object) || (over?.object === object && over.take === take.key);
       this.projectAll();
-      const named = labels.value ? this.drawings : [];
-      this.names.draw(named, marked, this.screen, palette.value);
+      this.names.draw(this.drawings, marked, this.screen, palette.value);
     }
     const up = upAxis.value === "file" ? (activeTake.value?.info.upAxis ?? "y") : upAxis.value;
     drawAxes(this.context, this.eye.camera, up, this.screen);
@@ -188,9 +187,7 @@ export class Stage {
   private shownBox(onlySelected: boolean): Box {
     const box = emptyBox();
     for (const drawing of this.drawings) {
-      const own = selected.value.filter(({ take }) => take === drawing.take.key);
-      const objects = new Set(own.map(({ object }) => object));
-      drawing.encloseShown(box, onlySelected ? objects : null);
+      drawing.encloseShown(box, onlySelected ? selectedOf(drawing.take) : null);
     }
     return box;
   }
@@ -276,6 +273,8 @@ export class Stage {
 
   /** What is seen now, with its names. */
   async picture(background: string): Promise<Blob> {
+    const { width, height } = this.screen;
+    this.setSize(width, height, PICTURE_PIXELS);
     this.render();
     const canvas = document.createElement("canvas");
     canvas.width = this.overlay.width;
@@ -285,6 +284,7 @@ export class Stage {
     context.fillRect(0, 0, canvas.width, canvas.height);
     context.drawImage(this.renderer.domElement, 0, 0, canvas.width, canvas.height);
     context.drawImage(this.overlay, 0, 0);
+    this.resize(width, height);
     return new Promise((resolve, reject) =>
       canvas.toBlob((blob) => (blob ? resolve(blob) : reject(new Error("No picture was made.")))),
     );
