@@ -61,8 +61,11 @@ export class Plot {
   }
 
   private showCurves(): void {
-    this.plot.setData(curve.value?.columns ?? NO_CURVES, false);
-    this.showView();
+    const columns = curve.value?.columns ?? NO_CURVES;
+    this.plot.batch(() => {
+      this.plot.setData(columns);
+      untracked(() => this.showView());
+    });
   }
 
   private showView(): void {

@@ -31,6 +31,13 @@ export function marksOf(findings: readonly Finding[]): Mark[] {
   );
 }
 
+/** Places that are told alike, such as those of several objects in one line, once each. */
+export function distinctPlaces(places: readonly Place[]): Place[] {
+  const keyOf = ({ line, column, object, frame }: Place): string =>
+    [line, column, object, frame].join();
+  return [...new Map(places.map((place) => [keyOf(place), place])).values()];
+}
+
 export function placeText(place: Place, firstFrame: number, name: string | undefined): string {
   const parts = [`line ${place.line}, column ${place.column}`];
   if (name !== undefined) parts.push(name);

@@ -1,6 +1,6 @@
 import { signal } from "@preact/signals";
 import type { Action, Finding, Place } from "../../worker/protocol";
-import { countBySeverity, placeText, worstFirst } from "../logic/finding_groups";
+import { countBySeverity, distinctPlaces, placeText, worstFirst } from "../logic/finding_groups";
 import { shown } from "../logic/names";
 import { askLine } from "../state/core";
 import { action, actionsOf, report, retry, type Report } from "../state/findings";
@@ -89,12 +89,14 @@ function FindingGroup({ take, finding }: { take: Take; finding: Finding }) {
       <p>{shown(cause, 2000)}.</p>
       <p class="quiet">{shown(consequence, 2000)}</p>
       <ul class="places">
-        {places.map((place, index) => (
+        {distinctPlaces(places).map((place, index) => (
           <li key={index}>
             <button onClick={() => void goToPlace(take, place)}>{wordsOfPlace(take, place)}</button>
           </li>
         ))}
-        {places.length === 0 && <ObjectLinks take={take} objects={finding.objects ?? []} />}
+        {places.every((place) => place.object === undefined) && (
+          <ObjectLinks take={take} objects={finding.objects ?? []} />
+        )}
       </ul>
     </article>
   );

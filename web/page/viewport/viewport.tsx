@@ -14,6 +14,12 @@ export const stage = signal<Stage | null>(null);
 
 const STILL_PIXELS = 5;
 
+/** Keys are for the view once it is there, which nobody asked to be told by a frame around it. */
+const QUIETLY: FocusOptions & { focusVisible: boolean } = {
+  preventScroll: true,
+  focusVisible: false,
+};
+
 function begin(canvas: HTMLCanvasElement, overlay: HTMLCanvasElement): Stage | null {
   try {
     return new Stage(canvas, overlay);
@@ -76,7 +82,7 @@ export function Viewport() {
     const started = begin(canvas.current!, overlay.current!);
     if (!started) return undefined;
     stage.value = started;
-    canvas.current!.focus({ preventScroll: true });
+    canvas.current!.focus(QUIETLY);
     const unwatch = watchPointer(canvas.current!);
     const observer = new ResizeObserver(([entry]) =>
       started.resize(entry.contentRect.width, entry.contentRect.height),

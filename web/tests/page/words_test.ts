@@ -1,6 +1,12 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { countBySeverity, marksOf, placeText, worstFirst } from "../../page/logic/finding_groups";
+import {
+  countBySeverity,
+  distinctPlaces,
+  marksOf,
+  placeText,
+  worstFirst,
+} from "../../page/logic/finding_groups";
 import { commandOf, keyText, SECTIONS } from "../../page/logic/key_map";
 import { markColumn } from "../../page/logic/line_parts";
 import { depths, searchNames } from "../../page/logic/object_search";
@@ -84,6 +90,18 @@ test("places in frames become marks, those of the file alone do not", () => {
   ]);
   assert.equal(placeText(places[0], 1, "LFHD"), "line 7, column 1 · LFHD · frame 1");
   assert.equal(placeText(places[2], 1, undefined), "line 1, column 1");
+});
+
+test("places that are told alike are told once", () => {
+  const place = { line: 7, column: 1, frame: 3 };
+  const others = [
+    { ...place, column: 2 },
+    { ...place, object: 0 },
+  ];
+  assert.deepEqual(distinctPlaces([place, { ...place }, ...others, { ...place }]), [
+    place,
+    ...others,
+  ]);
 });
 
 test("a column is marked by its bytes", () => {
