@@ -37,6 +37,8 @@ command node                                      nodejs
 command npm                                       npm
 command man                                       man-db
 command groff                                     groff-base
+command parallel                                  parallel
+path    /usr/lib/R/site-library/data.table        r-cran-data.table
 path    /usr/lib/python3*/ensurepip/__init__.py   python3-venv
 path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
 path    /usr/share/i18n/locales/de_DE             locales
