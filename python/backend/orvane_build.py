@@ -10,7 +10,9 @@ import shutil
 
 import scikit_build_core.build
 from scikit_build_core.build import (build_editable, build_wheel, get_requires_for_build_editable,
-                                     get_requires_for_build_sdist, get_requires_for_build_wheel)
+                                     get_requires_for_build_sdist, get_requires_for_build_wheel,
+                                     prepare_metadata_for_build_editable,
+                                     prepare_metadata_for_build_wheel)
 
 __all__ = [
     "build_editable",
@@ -19,6 +21,8 @@ __all__ = [
     "get_requires_for_build_editable",
     "get_requires_for_build_sdist",
     "get_requires_for_build_wheel",
+    "prepare_metadata_for_build_editable",
+    "prepare_metadata_for_build_wheel",
 ]
 
 HERE = pathlib.Path(__file__).resolve().parent.parent
