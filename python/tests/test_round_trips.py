@@ -56,3 +56,29 @@ def test_motion_comes_back(root, child, rotations):
     assert back.translations.tobytes() == motion.translations.tobytes()
     assert back.scales.tobytes() == motion.scales.tobytes()
     np.testing.assert_allclose(back.rotations, motion.rotations, rtol=1e-15, atol=1e-300)
+
+
+@st.composite
+def motions(draw):
+    count, frames = draw(st.integers(1, 5)), draw(st.integers(1, 5))
+    parents = [-1] + [draw(st.integers(-1, index)) for index in range(count - 1)]
+    vectors = arrays.arrays(np.float64, (frames, count, 3), elements=st.floats(-1e6, 1e6))
+    places = arrays.arrays(np.float64, (count, 3), elements=st.floats(-1e3, 1e3))
+    base = orvane.BasePose(draw(places), draw(places), draw(places)[:, 0])
+    return orvane.Motion.from_arrays([f"Bone{index}" for index in range(count)], parents, base=base,
+                                     translations=draw(vectors), rotations=draw(vectors) / 1e4,
+                                     rate=draw(st.integers(1, 1000)),
+                                     first_frame=draw(st.integers(-10**6, 10**6)))
+
+
+@MANY
+@given(motions())
+def test_motion_of_arrays_comes_back(motion):
+    back = orvane.read(motion.to_bytes(), format="htr", warn=False)
+    assert (back.names, back.rate, back.first_frame) == (motion.names, motion.rate,
+                                                         motion.first_frame)
+    assert back.parents.tolist() == motion.parents.tolist()
+    assert back.translations.tobytes() == motion.translations.tobytes()
+    assert back.base.translations.tobytes() == motion.base.translations.tobytes()
+    np.testing.assert_allclose(back.rotations, motion.rotations, rtol=1e-15, atol=1e-300)
+    np.testing.assert_allclose(back.base.rotations, motion.base.rotations, rtol=1e-15, atol=1e-300)
