@@ -14,6 +14,12 @@ endif()
 
 cmake_path(GET CMAKE_CURRENT_LIST_DIR PARENT_PATH ORVANE_ROOT)
 
+# What WebAssembly links is never loaded elsewhere.
+set(ORVANE_POSITION_INDEPENDENT ON)
+if(EMSCRIPTEN)
+  set(ORVANE_POSITION_INDEPENDENT OFF)
+endif()
+
 # The settings that all of our own code is compiled with.
 add_library(orvane_compile_settings INTERFACE)
 target_compile_features(orvane_compile_settings INTERFACE cxx_std_20)
@@ -37,7 +43,7 @@ function(orvane_apply_settings target)
     CXX_STANDARD 20
     CXX_VISIBILITY_PRESET hidden
     VISIBILITY_INLINES_HIDDEN ON
-    POSITION_INDEPENDENT_CODE ON)
+    POSITION_INDEPENDENT_CODE ${ORVANE_POSITION_INDEPENDENT})
   get_target_property(type ${target} TYPE)
   if(WIN32 AND type STREQUAL "EXECUTABLE")
     target_sources(${target} PRIVATE $<TARGET_OBJECTS:orvane_program_manifest>)
@@ -54,6 +60,25 @@ function(orvane_library name)
   target_compile_features(${name} PUBLIC cxx_std_20)
   target_link_libraries(${name} PUBLIC ${ARG_LINKS})
 endfunction()
+
+# orvane_precompile(name header...): headers of others, which are read once for all files of the
+# target where that saves the most: Emscripten's compiler takes longer than any other.
+function(orvane_precompile name)
+  if(EMSCRIPTEN)
+    target_precompile_headers(${name} PRIVATE ${ARGN})
+    # The same again in the next build, so that a compiler cache knows what is compiled with it.
+    target_compile_options(${name} PRIVATE "SHELL:-Xclang -fno-pch-timestamp")
+  endif()
+endfunction()
+
+# orvane_compile_small(): the folder of the calling CMakeLists.txt, and those below it, have to be
+# small rather than fast where that is what a page is made of. Functions that nobody has asked to be
+# inlined are the same ones in all files: that halves the program's verbs.
+macro(orvane_compile_small)
+  if(EMSCRIPTEN)
+    add_compile_options(-Oz -finline-hint-functions)
+  endif()
+endmacro()
 
 # orvane_headers(name [LINKS target...]): a folder that holds declarations only.
 function(orvane_headers name)
@@ -115,6 +140,9 @@ function(orvane_apply_test_settings target)
     target_compile_options(${target} PRIVATE -fpch-preprocess)
   endif()
   target_link_libraries(${target} PRIVATE GTest::gmock GTest::gtest_main)
+  if(EMSCRIPTEN)
+    target_link_options(${target} PRIVATE -sNODERAWFS=1)  # they see the files of this system
+  endif()
   orvane_define_folders(${target})
 endfunction()
 

@@ -8,10 +8,9 @@ set(CMAKE_CROSSCOMPILING_EMULATOR "${ORVANE_NODE};--no-experimental-fetch"
 include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
 
 # Exceptions that are caught, which its libraries are not built for unless told, at linking too.
-# Programs see the files of this system.
 set(CMAKE_C_FLAGS_INIT "-fexceptions")
 set(CMAKE_CXX_FLAGS_INIT "-fexceptions")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-sNODERAWFS=1 -sALLOW_MEMORY_GROWTH=1")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-fexceptions -sALLOW_MEMORY_GROWTH=1")
 
 # Where Debian keeps the libraries of Node that the linker's own scripts use.
 set(CMAKE_CXX_LINKER_LAUNCHER "${CMAKE_COMMAND}" -E env NODE_PATH=/usr/share/nodejs)

@@ -58,7 +58,7 @@ path    /usr/lib/wine/wine64                      wine64
 path    /usr/share/wine/fonts/tahoma.ttf          fonts-wine
 command Xvfb                                      xvfb
 '
-readonly emscripten_needs='
+readonly web_needs='
 command em++                                      emscripten
 command node                                      nodejs
 path    /usr/src/googletest/googlemock            googletest
@@ -124,7 +124,7 @@ need() {
 
 need_everything() {
   need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" \
-    "$emscripten_needs" "$package_needs" "$sanitize_needs" "$wheel_needs"
+    "$web_needs" "$package_needs" "$sanitize_needs" "$wheel_needs"
 }
 
 # The npm packages of package-lock.json, installed again only when that file has changed.

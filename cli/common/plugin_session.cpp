@@ -7,6 +7,7 @@
 #include <string_view>
 
 #include "cli/common/progress_line.h"
+#include "cli/common/progress_watch.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
 #include "platform/program.h"
@@ -85,10 +86,11 @@ bool PluginSession::Run(const Task& task, const std::vector<ControlWish>& wishes
                         bool show_progress, const Entry& entry) {
   desktop_->SetUser(
       {[&wishes](host::ScriptedDialog& dialog) { UseDialog(dialog, wishes); }, PressOk});
-  ProgressLine line(task.title + platform::TextOf(platform::PathOf(task.file).filename()),
-                    show_progress);
-  application_->progress().SetObserver([this, &line](const host::ProgressEvent& event) {
+  const std::string title = task.title + platform::TextOf(platform::PathOf(task.file).filename());
+  ProgressLine line(title, show_progress);
+  application_->progress().SetObserver([this, &line, &title](const host::ProgressEvent& event) {
     line.Show(event.percent);
+    TellProgress({title, event.percent, event.kind == host::ProgressEvent::Kind::kEnd});
     if (platform::Interrupted()) application_->cancellation().Request();
   });
   const std::optional<host::FileResult> result = entry();

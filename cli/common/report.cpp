@@ -37,6 +37,10 @@ std::string Place(const ReportedFinding& finding) {
   return " (line " + Number(finding.line) + ", column " + Number(finding.column) + ")";
 }
 
+std::string Sentences(const std::string& cause, const ReportedFinding& finding) {
+  return cause + (cause.ends_with("...") ? " " : ". ") + finding.consequence;
+}
+
 constexpr FindingSeverity kWorstFirst[] = {FindingSeverity::kError, FindingSeverity::kWarning,
                                            FindingSeverity::kNote};
 
@@ -69,9 +73,12 @@ void WriteFinding(JsonWriter& json, const ReportedFinding& finding) {
 
 }  // namespace
 
+std::string TextOf(const ReportedFinding& finding) {
+  return Sentences(finding.cause + Names(finding), finding);
+}
+
 std::string LineOf(const ReportedFinding& finding) {
-  const std::string cause = finding.cause + Names(finding) + Place(finding);
-  return cause + (cause.ends_with("...") ? " " : ". ") + finding.consequence + " [" +
+  return Sentences(finding.cause + Names(finding) + Place(finding), finding) + " [" +
          std::string(finding.code) + "]";
 }
 

@@ -15,6 +15,9 @@
 
 namespace cli {
 
+// "12 values are not numbers: "1,5", "2,5". What ..."
+[[nodiscard]] std::string TextOf(const orvane::ReportedFinding& finding);
+
 // "12 values are not numbers: "1,5", "2,5" (line 7, column 3). What ... [trc-number-unreadable]"
 [[nodiscard]] std::string LineOf(const orvane::ReportedFinding& finding);
 

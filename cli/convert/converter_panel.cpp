@@ -5,6 +5,7 @@
 
 #include "cli/common/failure.h"
 #include "cli/common/plugin_strings.h"
+#include "cli/common/progress_watch.h"
 #include "platform/interrupt.h"
 #include "plugin/resources/resource.h"
 
@@ -29,7 +30,8 @@ ConverterPanel::ConverterPanel(PluginSession& session, const PanelWishes& wishes
   user.choose_files = [this](const host::ShownFileDialog& dialog) { return ChooseFiles(dialog); };
   user.choose_folder = [this](const std::string&) { return target_folder_; };
   session_.desktop().SetUser(std::move(user));
-  session_.application().progress().SetObserver([this](const host::ProgressEvent&) {
+  session_.application().progress().SetObserver([this](const host::ProgressEvent& event) {
+    TellProgress({event.title, event.percent, event.kind == host::ProgressEvent::Kind::kEnd});
     if (platform::Interrupted()) session_.application().cancellation().Request();
   });
   panel_ = std::make_unique<host::UtilityPanel>(CreateUtility(session_), session_.application());

@@ -2,16 +2,16 @@
 
 #include "platform/portable/module_resources.h"
 
-// The ends of the resources, provided under these names by the assembly file that embeds them.
+// The resources, provided under these names by the file that is made of them.
 // NOLINTBEGIN(readability-identifier-naming)
-extern "C" const std::byte orvane_resources_begin[];
-extern "C" const std::byte orvane_resources_end[];
+extern "C" const std::byte orvane_resources[];
+extern "C" const std::size_t orvane_resources_size;
 // NOLINTEND(readability-identifier-naming)
 
 namespace platform {
 
 HINSTANCE ModuleHandle() {
-  static HINSTANCE__ module{std::span(orvane_resources_begin, orvane_resources_end)};
+  static HINSTANCE__ module{std::span(orvane_resources, orvane_resources_size)};
   return &module;
 }
 

@@ -16,6 +16,7 @@
 #include "platform/abandoned.h"
 #include "platform/aside_name.h"
 #include "platform/portable/file_lock.h"
+#include "platform/portable/move_without_replacing.h"
 #include "platform/portable/uninterrupted.h"
 
 namespace platform {
@@ -52,13 +53,6 @@ std::string TakePermissions(int file, const std::string& replaced) {
   struct stat existing {};
   const bool exists = stat(replaced.c_str(), &existing) == 0;
   return exists && fchmod(file, existing.st_mode & 07777) != 0 ? LastError() : "";
-}
-
-// Link and remove, because renaming would replace what has appeared at `to`.
-int MoveWithoutReplacing(const std::string& from, const std::string& to) {
-  if (link(from.c_str(), to.c_str()) != 0) return -1;
-  unlink(from.c_str());
-  return 0;
 }
 
 }  // namespace
