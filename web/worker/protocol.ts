@@ -130,8 +130,11 @@ export interface CoreFailure {
 }
 
 export interface CoreApi {
-  /** Opens the file `name`; `bytes` are given away. */
-  open(name: string, bytes: ArrayBuffer): Promise<Opened>;
+  /**
+   * Opens the file `name`. Bytes are given away; a file of the page is read when it is needed. Calls may be
+   * made at any time: they are answered one after the other.
+   */
+  open(name: string, bytes: ArrayBuffer | Blob): Promise<Opened>;
   /** Frames by three numbers, NaN in gaps. */
   curve(take: number, object: number, of: CurveOf): Promise<Float64Array>;
   findings(take: number, action: Action): Promise<Findings>;
@@ -151,18 +154,34 @@ export interface CoreApi {
   cancel(): void;
 }
 
-/** What the worker is asked, beside what `CoreApi` asks: it is started with the compiled core. */
-export type Request =
-  | { call: number; do: "start"; module: WebAssembly.Module }
-  | { call: number; do: "open"; id: number; name: string; path: string; bytes: ArrayBuffer | Blob }
-  | { call: number; do: "curve"; take: number; object: number; of: CurveOf }
-  | { call: number; do: "findings"; take: number; action: Action }
-  | { call: number; do: "line"; take: number; line: number; column: number }
-  | { call: number; do: "run"; verb: string[]; takes: number[] }
-  | { call: number; do: "close"; take: number };
+/** What the worker is told: first of all the compiled core, and of each take its file. */
+export type Order =
+  | { do: "start"; module: WebAssembly.Module }
+  | { do: "keep"; take: number; path: string; file: Blob }
+  | { do: "cancel" };
 
-/** What it answers, and what it tells while a run goes on. */
+/** What it is asked, one thing after the other. */
+export type Question =
+  | { do: "open"; take: number }
+  | { do: "curve"; take: number; object: number; of: CurveOf }
+  | { do: "findings"; take: number; action: Action }
+  | { do: "line"; take: number; line: number; column: number }
+  | { do: "run"; verb: string[]; takes: number[] }
+  | { do: "close"; take: number };
+
+export type Request = Order | (Question & { call: number });
+
+/** What the core tells of a take; the page's side knows the rest. */
+export type Description = Omit<TakeInfo, "id" | "name" | "path" | "bytes">;
+
+/** How many bytes of memory the core holds when a take is closed. */
+export interface Closed {
+  held: number;
+}
+
+/** What the worker answers, and what it tells while the plug-in shows a progress bar. */
 export type Answer =
   | { call: number; value: unknown }
   | { call: number; failure: CoreFailure }
-  | { progress: Progress };
+  | { progress: Progress }
+  | { barOver: true; cancelTaken: boolean };
