@@ -9,7 +9,7 @@ import { frame, goTo, stop, timelineView } from "../state/time";
 
 /** A plot of curves that shares frames and place with the ruler above it. */
 
-export const CURVE_COLORS: readonly string[] = ["#e2574c", "#46a24a", "#4f8fe0"];
+export const CURVE_COLORS: readonly string[] = ["#e2574c", "#58b158", "#7d83ee"];
 
 const RIGHT_EDGE = 12;
 const NO_CURVES: CurveColumns = [[], [], [], []];

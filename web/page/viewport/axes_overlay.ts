@@ -4,7 +4,7 @@ import type { Screen } from "../logic/projection";
 /** The directions of the file's axes, small in a corner. */
 
 const LENGTH = 26;
-const COLORS = ["#e2574c", "#58b158", "#4f8fe0"];
+const COLORS = ["#e2574c", "#58b158", "#7d83ee"];
 const NAMES = ["X", "Y", "Z"];
 
 function directions(up: "y" | "z"): Vector3[] {

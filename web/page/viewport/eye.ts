@@ -8,7 +8,7 @@ import type { Projection } from "../state/view_options";
 
 const FIELD_DEGREES = 35;
 const ROOM = 1.12;
-const FIRST_DIRECTION = new Vector3(1, 0.55, 1.35).normalize();
+const FIRST_DIRECTION = new Vector3(1.5, 0.5, 1).normalize();
 
 export type Side = "front" | "side" | "top";
 
