@@ -8,7 +8,7 @@ import path from "node:path";
 import { asFile, WALK_HTR, WALK_TRC } from "./takes.mjs";
 import { closeBrowser, inWorkbench, launchBrowser, ROOT } from "./workbench.mjs";
 
-const SIZE = { width: 1200, height: 720 };
+const SIZE = { width: 1280, height: 800 };
 
 const MOTION = asFile("walk.htr", WALK_HTR);
 const MARKERS = asFile("walk.trc", WALK_TRC);
@@ -53,7 +53,7 @@ const PICTURES = {
   async walk(workbench) {
     await opened(workbench, [MOTION, MARKERS]);
     await goTo(workbench, 45);
-    await press(workbench, "t", "f", "PageUp", "PageUp", "PageUp");
+    await press(workbench, "t", "f", "PageUp", "PageUp", "n");
   },
   async gaps(workbench) {
     await opened(workbench, [MARKERS]);
@@ -70,9 +70,9 @@ const PICTURES = {
     await opened(workbench, [MOTION]);
     await select(workbench, "LeftForeArm");
     await workbench.button("Curves").click();
-    await workbench.page.getByLabel("Curves", { exact: true }).selectOption("rotation");
+    await workbench.page.getByRole("combobox", { name: "Curves" }).selectOption("rotation");
     await goTo(workbench, 60);
-    await press(workbench, "f");
+    await press(workbench, "t", "PageUp", "PageUp");
     await workbench.page.locator(".plot canvas").waitFor();
   },
   async trails(workbench) {
