@@ -4,7 +4,7 @@ import { Header } from "./panels/header";
 import { KeysDialog } from "./panels/keys_dialog";
 import { ObjectsPanel } from "./panels/objects_panel";
 import { Busy, Notices } from "./panels/overlays";
-import { Splitter } from "./panels/splitter";
+import { Splitter } from "./widgets/splitter";
 import { TakesPanel } from "./panels/takes_panel";
 import { bottomHeight, leftWidth, rightWidth } from "./state/layout";
 import { takes } from "./state/takes";

@@ -7,7 +7,7 @@ import { deselect, lastSelected } from "./state/selection";
 import { activeTake } from "./state/takes";
 import * as time from "./state/time";
 import { follow, labels, nextTrails, toggleProjection } from "./state/view_options";
-import { stage } from "./viewport/viewport";
+import { stage } from "./viewport/current_stage";
 
 /** What the keys do. */
 

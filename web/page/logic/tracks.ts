@@ -24,7 +24,7 @@ export function diagonal(box: Box): number {
 }
 
 export function enclose(box: Box, x: number, y: number, z: number): void {
-  if (Number.isNaN(x + y + z)) return;
+  if (!Number.isFinite(x + y + z)) return;
   const point = [x, y, z];
   for (let axis = 0; axis < 3; ++axis) {
     const value = point[axis];
@@ -80,7 +80,7 @@ export function ballRadius(extent: number, objects: number): number {
   return (extent > 0 ? extent : 1) * share;
 }
 
-/** Copies the values of a frame, and puts where there are none what is drawn nowhere. */
+/** Copies the values of a frame, and puts where there are none, or no finite ones, what is drawn nowhere. */
 export function copyFrame(
   track: Float32Array,
   objects: number,
@@ -90,7 +90,7 @@ export function copyFrame(
   const values = frameValues(track, objects, frame);
   out.set(values);
   for (let at = 0; at < values.length; ++at) {
-    if (Number.isNaN(out[at])) out[at] = NOWHERE;
+    if (!Number.isFinite(out[at])) out[at] = NOWHERE;
   }
 }
 

@@ -8,7 +8,7 @@ import { notifyFailure } from "../state/notices";
 import { select } from "../state/selection";
 import { activeTake, type Take } from "../state/takes";
 import { jumpTo } from "../state/time";
-import { Choice } from "./choice";
+import { Choice } from "../widgets/choice";
 import { FileLine, type ShownLine } from "./file_line";
 
 /** What is odd in the take that is worked on, and what that means to what is to be done. */

@@ -6,7 +6,7 @@ import { hovered, lastSelected, select, selectAll, selectedInActive } from "../s
 import { activeTake, colorOf, type Take } from "../state/takes";
 import { coarsePointer } from "../state/pointer";
 import { foundObjects, search } from "../state/rows";
-import { VirtualList } from "./virtual_list";
+import { VirtualList } from "../widgets/virtual_list";
 
 /** The markers or segments of the take that is worked on. */
 

@@ -8,7 +8,7 @@ import { action } from "../state/findings";
 import { notify, notifyFailure } from "../state/notices";
 import { activeTake, type Take } from "../state/takes";
 import { palette } from "../state/theme";
-import { stage } from "../viewport/viewport";
+import { stage } from "../viewport/current_stage";
 
 /** What can be had of the take that is worked on. */
 export function OutMenu() {

@@ -5,6 +5,3 @@ const coarse = matchMedia("(pointer: coarse)");
 
 export const coarsePointer = signal(coarse.matches);
 coarse.addEventListener("change", () => (coarsePointer.value = coarse.matches));
-
-/** Whether the person asked for pages that hold still. */
-export const prefersStill = matchMedia("(prefers-reduced-motion: reduce)");

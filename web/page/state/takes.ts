@@ -28,10 +28,10 @@ export const activeTake = computed(
 export const TAKE_COLORS: readonly string[] = [
   "#58a6e8",
   "#f0a04b",
-  "#5fc38d",
-  "#d58ad6",
+  "#c58cf2",
   "#d8cc5a",
-  "#8f9cf0",
+  "#ef7fa0",
+  "#9fb0c6",
 ];
 
 export function colorOf(take: Take): string {

@@ -40,6 +40,9 @@ export const span = computed<Span>(() => {
   return { first, last: Math.max(first, Math.min(outPoint.value ?? last, last)) };
 });
 
+/** Frames per second that a take is played at whose file tells no rate. */
+const RATE_OF_NONE = 30;
+
 // Between two frames while it plays.
 let position = 0;
 
@@ -99,7 +102,8 @@ export function shuttleTo(direction: 1 | -1): void {
 export function passTime(seconds: number): void {
   const take = activeTake.value;
   if (!take || !playing.value) return;
-  const step = advance(position, seconds * take.info.rate * speed.value, span.value, loop.value);
+  const rate = take.info.rate > 0 ? take.info.rate : RATE_OF_NONE;
+  const step = advance(position, seconds * rate * speed.value, span.value, loop.value);
   batch(() => {
     position = step.position;
     frame.value = clampFrame(Math.floor(step.position), frames.value);

@@ -1,4 +1,4 @@
-import { Splitter } from "../panels/splitter";
+import { Splitter } from "../widgets/splitter";
 import { namesWidth } from "../state/layout";
 
 /** Between the names and the frames of the timeline. */

@@ -7,8 +7,8 @@ import { lastSelected, select } from "../state/selection";
 import { activeTake } from "../state/takes";
 import { scrub, wheel } from "./area";
 import { drawRows } from "./draw_rows";
-import { useDrawing } from "./drawing";
-import { useWheel } from "./wheel";
+import { useDrawing } from "../widgets/drawing";
+import { useWheel } from "../widgets/wheel";
 
 /** The rows of the timeline. One canvas holds what is in sight, however many there are. */
 

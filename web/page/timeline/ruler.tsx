@@ -6,8 +6,8 @@ import { activeTake } from "../state/takes";
 import { palette, type Palette } from "../state/theme";
 import { frame, frames, hasSpan, rulerIn, span, timelineView } from "../state/time";
 import { areaOf, scrub, wheel } from "./area";
-import { useDrawing } from "./drawing";
-import { useWheel } from "./wheel";
+import { useDrawing } from "../widgets/drawing";
+import { useWheel } from "../widgets/wheel";
 
 /** The scale of the timeline, with the frame that is shown. */
 

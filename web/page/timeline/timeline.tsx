@@ -1,4 +1,4 @@
-import { Curves } from "../curves/curves";
+import { Curves } from "./curves";
 import { bottomTab, namesWidth } from "../state/layout";
 import { Ruler } from "./ruler";
 import { Rows } from "./rows";

@@ -1,7 +1,7 @@
 import { SPEEDS } from "../logic/playback";
 import { secondsText } from "../logic/take_time";
-import { Choice } from "../panels/choice";
-import { Icon, type IconName } from "../panels/icon";
+import { Choice } from "../widgets/choice";
+import { Icon, type IconName } from "../widgets/icon";
 import { bottomTab, type BottomTab } from "../state/layout";
 import { activeTake } from "../state/takes";
 import * as time from "../state/time";
@@ -103,7 +103,7 @@ function FrameField() {
         />
       </label>
       <span class="numbers quiet">
-        of {firstFrame}–{firstFrame + frames - 1} · {seconds}
+        {frames > 0 ? `of ${firstFrame}–${firstFrame + frames - 1}` : "of none"} · {seconds}
       </span>
     </span>
   );

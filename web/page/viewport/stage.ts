@@ -1,4 +1,4 @@
-import { batch, effect, signal } from "@preact/signals";
+import { batch, effect, signal, untracked } from "@preact/signals";
 import { Scene, SRGBColorSpace, Vector3, WebGLRenderer } from "three";
 import { Nearest } from "../logic/picking";
 import { isOnScreen, type Screen } from "../logic/projection";
@@ -67,19 +67,24 @@ export class Stage {
       if (!before.delete(drawing.take)) this.scene.add(drawing.group);
     }
     for (const drawing of before.values()) drawing.dispose();
+    untracked(() => this.prepare());
     if (wasEmpty && this.drawings.length > 0) queueMicrotask(() => this.lookAtFirst());
-    this.invalidate();
+  }
+
+  // What changes with other signals is made ready for new takes here, in whatever order effects run.
+  private prepare(): void {
+    this.paint();
+    this.orient();
+    this.markSelected();
   }
 
   private paint(): void {
-    void takes.value;
     this.floor.paint(palette.value);
     for (const drawing of this.drawings) drawing.paint(palette.value);
     this.invalidate();
   }
 
   private orient(): void {
-    void takes.value;
     for (const drawing of this.drawings) {
       const own = drawing.take.info.upAxis;
       drawing.orient(upAxis.value === "file" ? own : upAxis.value);
@@ -101,7 +106,7 @@ export class Stage {
   }
 
   private markSelected(): void {
-    void takes.value;
+    void selected.value;
     for (const drawing of this.drawings) {
       const objects = selectedOf(drawing.take);
       drawing.mark((object) => (objects.has(object) ? 1 : 0));
@@ -208,8 +213,8 @@ export class Stage {
 
   /** Shows all of the first take, or one moment of it where it goes so far that nothing would be seen. */
   private lookAtFirst(): void {
-    const whole = this.wholeBox();
     for (const drawing of this.drawings) drawing.show(frameOf(drawing.take));
+    const whole = this.wholeBox();
     const moment = this.shownBox(false);
     const isFar = !isEmpty(moment) && diagonal(whole) > FAR * diagonal(moment);
     this.eye.fit(isFar ? moment : whole, whole);

@@ -12,8 +12,8 @@ import {
   type Trails,
   type UpAxis,
 } from "../state/view_options";
-import { Choice } from "../panels/choice";
-import { stage } from "./viewport";
+import { Choice } from "../widgets/choice";
+import { stage } from "./current_stage";
 
 /** How the takes are shown. */
 export function ViewBar() {

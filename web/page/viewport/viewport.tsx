@@ -1,16 +1,14 @@
-import { signal } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
 import { notify, wordsOf } from "../state/notices";
 import { deselect, hovered, isSame, select } from "../state/selection";
 import { activeTake, takeByKey, takes } from "../state/takes";
 import { activate, frame } from "../state/time";
+import { stage } from "./current_stage";
 import { drawnCount, Stage } from "./stage";
 import { Readout } from "./readout";
 import { ViewBar } from "./view_bar";
 
 /** The view of the scene, with what is laid over it. */
-
-export const stage = signal<Stage | null>(null);
 
 const STILL_PIXELS = 5;
 

@@ -18,6 +18,7 @@ try {
     format: "esm",
     outExtension: { ".js": ".mjs" },
     outdir: bundled,
+    define: { PAGE_FOLDER: JSON.stringify(path.resolve(folder, "../../page")) },
     logLevel: "error",
   });
   const files = tests.map((name) => path.join(bundled, name.replace(/\.ts$/, ".mjs")));

@@ -43,6 +43,14 @@ test("boxes and extents leave gaps out", () => {
   assert.ok(Math.abs(momentExtent(TRACK, 2, 3) - Math.hypot(1, 4, 12)) < 1e-9);
 });
 
+test("a value too large to be drawn is left out like a gap", () => {
+  const track = new Float32Array([1, 2, 3, Infinity, 0, 0]);
+  assert.deepEqual(frameBox(track, 2, 0), { min: [1, 2, 3], max: [1, 2, 3] });
+  const out = new Float32Array(6);
+  copyFrame(track, 2, 0, out);
+  assert.equal(out[3], Math.fround(NOWHERE));
+});
+
 test("balls are smaller the more of them there are, and never without size", () => {
   assert.ok(ballRadius(2, 40) > ballRadius(2, 10_000));
   assert.ok(ballRadius(0, 1) > 0);

@@ -2,11 +2,11 @@ import { useEffect, useRef } from "preact/hooks";
 import type { CurveOf } from "../../worker/protocol";
 import { valuesAt } from "../logic/curve_columns";
 import { shown } from "../logic/names";
-import { Choice } from "../panels/choice";
+import { Choice } from "../widgets/choice";
 import { curve, curveOf, curvesOf, type Curve } from "../state/curves";
 import { frame } from "../state/time";
-import { wheel } from "../timeline/area";
-import { useWheel } from "../timeline/wheel";
+import { wheel } from "./area";
+import { useWheel } from "../widgets/wheel";
 import { CURVE_COLORS, Plot } from "./plot";
 
 /** How the object that was selected last moves over time. */
