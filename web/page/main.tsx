@@ -19,7 +19,7 @@ async function start(): Promise<void> {
   try {
     await connect(startCore());
     const takes = await embeddedTakes();
-    await openFiles(takes.map(({ name, bytes }) => ({ name, bytes: async () => bytes })));
+    await openFiles(takes.map(({ name, bytes }) => ({ name, content: async () => bytes })));
   } catch (reason) {
     notify("error", "The page did not start", wordsOf(reason));
   }

@@ -1,9 +1,9 @@
 import type { SourceFile } from "../state/core";
 
-/** Files as they come to the page, of which the bytes are read when they are needed. */
+/** Files as they come to the page: their bytes stay where they are until the core reads them. */
 
 export function sourceOf(file: File): SourceFile {
-  return { name: file.name, bytes: () => file.arrayBuffer() };
+  return { name: file.name, content: async () => file };
 }
 
 export function droppedFiles(transfer: DataTransfer | null): SourceFile[] {

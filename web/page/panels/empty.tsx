@@ -33,7 +33,7 @@ function ExampleButton({ name, what }: { name: string; what: string }) {
 function example(name: string): SourceFile {
   return {
     name,
-    bytes: async () => {
+    content: async () => {
       const found = (await exampleTakes()).find((take) => take.name === name);
       if (!found) throw new Error(`This page holds no ${name}.`);
       return found.bytes;

@@ -18,7 +18,8 @@ import { activate, clearSpan, goTo, stop } from "./time";
 
 export interface SourceFile {
   readonly name: string;
-  bytes(): Promise<ArrayBuffer>;
+  /** Its bytes, or where the browser has them. */
+  content(): Promise<ArrayBuffer | Blob>;
 }
 
 export const ready = signal(false);
@@ -53,8 +54,8 @@ export async function openFiles(files: readonly SourceFile[]): Promise<void> {
 }
 
 async function openFile(file: SourceFile): Promise<void> {
-  const bytes = await file.bytes();
-  const { info, tracks } = await (await core).open(file.name, bytes);
+  const content = await file.content();
+  const { info, tracks } = await (await core).open(file.name, content);
   const take = addTake(info, tracks);
   if (!activeTake.value) activate(take);
 }
