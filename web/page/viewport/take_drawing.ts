@@ -13,6 +13,7 @@ import { colorOf, type Take } from "../state/takes";
 import type { Palette } from "../state/theme";
 import { Balls } from "./balls";
 import { Bones } from "./bones";
+import { Links } from "./links";
 import { TrailLines } from "./trails";
 
 /** What is seen of one take: in a group that turns its unit and axes into meters with y up. */
@@ -26,6 +27,7 @@ export class TakeDrawing {
   private readonly tips: Float32Array | null;
   private readonly balls: Balls;
   private readonly bones: Bones | null;
+  private readonly links: Links | null;
   private shownFrame = -2;
 
   constructor(readonly take: Take) {
@@ -36,12 +38,14 @@ export class TakeDrawing {
     this.radius = ballRadius(extent, count) * (isMotion ? 0.7 : 1);
     this.balls = new Balls(count, this.radius);
     this.bones = tracks.ends ? new Bones(count, this.radius * 3.5) : null;
+    this.links = tracks.ends ? new Links(info.parents) : null;
     this.places = this.balls.places;
     this.tips = this.bones?.tips ?? null;
     this.screenPlaces = new Float32Array(count * 3);
     this.trails = new TrailLines(take);
     this.group.add(this.balls.body, this.trails.lines);
     if (this.bones) this.group.add(this.bones.body);
+    if (this.links) this.group.add(this.links.body);
   }
 
   get count(): number {
@@ -51,6 +55,7 @@ export class TakeDrawing {
   paint(palette: Palette): void {
     this.balls.paint(colorOf(this.take), palette.accent);
     this.bones?.paint(colorOf(this.take), palette.accent);
+    this.links?.paint(colorOf(this.take));
     this.trails.paint(colorOf(this.take));
   }
 
@@ -87,6 +92,7 @@ export class TakeDrawing {
     const { positions, ends } = this.take.tracks;
     copyFrame(positions, this.count, frame, this.places);
     this.balls.changed("position");
+    this.links?.show(this.places);
     if (!this.bones || !ends) return;
     this.bones.places.set(this.places);
     this.bones.changed("place");
@@ -159,6 +165,7 @@ export class TakeDrawing {
   dispose(): void {
     this.balls.dispose();
     this.bones?.dispose();
+    this.links?.dispose();
     this.trails.dispose();
     this.group.removeFromParent();
   }

@@ -12,6 +12,7 @@ import {
   NOWHERE,
   pointAt,
 } from "../../page/logic/tracks";
+import { fillLinks, linkedObjects } from "../../page/logic/links";
 import { fillTrails, trailBuffers, trailFrames } from "../../page/logic/trail";
 
 const HOLE = [NaN, NaN, NaN];
@@ -79,6 +80,15 @@ test("gaps are found by object, and those that reach into a part of the frames",
   assert.equal(neighborGap(index, 0, 20, -1), 5);
   assert.equal(neighborGap(index, 0, 20, 1), null);
   assert.equal(neighborGap(index, 1, 0, 1), null);
+});
+
+test("joints are linked to those that they hang from, but where one is missing", () => {
+  const parents = [-1, 0, 1, 3];
+  assert.deepEqual(linkedObjects(parents), [1, 2]);
+  const points = new Float32Array(12);
+  const places = new Float32Array([1, 2, 3, 4, 5, 6, NOWHERE, NOWHERE, NOWHERE, 0, 0, 0]);
+  fillLinks(places, parents, [1, 2], points);
+  assert.deepEqual([...points], [1, 2, 3, 4, 5, 6, 0, 0, 0, 0, 0, 0]);
 });
 
 test("trails go as far as there are frames, and no piece leads over a gap", () => {
