@@ -61,7 +61,13 @@ command Xvfb                                      xvfb
 readonly web_needs='
 command em++                                      emscripten
 command node                                      nodejs
+command npm                                       npm
+path    /etc/ssl/certs/ca-certificates.crt        ca-certificates
 path    /usr/src/googletest/googlemock            googletest
+'
+readonly browser_needs='
+command chromium                                  chromium
+path    /usr/share/fonts/truetype/dejavu/DejaVuSans.ttf  fonts-dejavu-core
 '
 readonly package_needs='
 command dpkg-shlibdeps                            dpkg-dev
@@ -124,7 +130,7 @@ need() {
 
 need_everything() {
   need "$build_needs" "$python_needs" "$test_needs" "$check_needs" "$windows_needs" \
-    "$web_needs" "$package_needs" "$sanitize_needs" "$wheel_needs"
+    "$web_needs" "$browser_needs" "$package_needs" "$sanitize_needs" "$wheel_needs"
 }
 
 # The npm packages of package-lock.json, installed again only when that file has changed.

@@ -3,7 +3,9 @@
 ORVANE_WINE is what runs programs for Windows.
 """
 
+import base64
 import gzip
+import json
 import os
 import pathlib
 import re
@@ -12,7 +14,7 @@ import unittest
 import zipfile
 
 import run_paths
-from packages import PackageTest, package
+from packages import SOURCES, PackageTest, package
 
 class ProgramTest(PackageTest):
     def check_notices(self, text, others=()):
@@ -30,6 +32,18 @@ class ProgramTest(PackageTest):
         self.run_in_folder(*orvane, "convert", f"{examples}/walk.trc", "--mapping",
                            f"{examples}/walk.mnm", "-o", "walk.bvk")
         self.assertGreater((self.folder / "walk.bvk").stat().st_size, 100_000)
+        self.check_view(orvane, examples)
+
+    def check_view(self, orvane, examples):
+        """The page that lies in the package has the takes in it."""
+        self.run_in_folder(*orvane, "view", f"{examples}/walk.htr", "-o", "walk.html", "--no-open")
+        page = (self.folder / "walk.html").read_text(encoding="utf-8")
+        (takes,) = re.findall(r'id="embedded-takes">(.*?)</script>', page, re.DOTALL)
+        (take,) = json.loads(takes)
+        self.assertEqual(take["name"], "walk.htr")
+        self.assertEqual(gzip.decompress(base64.b64decode(take["gzip"])),
+                         (SOURCES / "examples/walk.htr").read_bytes())
+        self.assertIn('id="core-gzip"', page)
 
 
 class LinuxTest(ProgramTest):
@@ -92,11 +106,11 @@ class LinuxTest(ProgramTest):
 
         self.assertEqual(field("Package"), "orvane")
         needed = {entry.split()[0] for entry in field("Depends").split(", ")}
-        self.assertLessEqual({"libc6", "libsqlite3-0", "libstdc++6"}, needed)
+        self.assertLessEqual({"libc6", "libsqlite3-0", "libstdc++6", "zlib1g"}, needed)
 
     def test_the_three_binaries_lie_side_by_side(self):
         self.run_in_folder("dpkg-deb", "--extract", str(package("orvane_*.deb")), ".")
-        binaries = [path for path in self.files() if "/orvane/" in path and "/doc/" not in path]
+        binaries = [path for path in self.files() if "/lib/orvane/" in path]
         self.assertEqual([pathlib.Path(path).name for path in binaries],
                          ["OrvaneFileIO.so", "libskelder.so", "orvane"])
 
@@ -112,7 +126,8 @@ class WindowsTest(ProgramTest):
         root = self.unpack()
         self.assertEqual(sorted(path.name for path in root.iterdir()),
                          ["CHANGELOG.md", "LICENSE.txt", "OrvaneFileIO.dll", "README.txt",
-                          "THIRD-PARTY-NOTICES.txt", "docs", "examples", "orvane.exe", "skelder.dll"])
+                          "THIRD-PARTY-NOTICES.txt", "docs", "examples", "orvane-workbench.html", "orvane.exe",
+                          "skelder.dll"])
         self.assertEqual(sorted(path.name for path in (root / "examples").iterdir()),
                          ["walk.htr", "walk.mnm", "walk.trc"])
         self.check_no_foreign_folder(root)
@@ -132,7 +147,7 @@ class WindowsTest(ProgramTest):
 
     def test_it_brings_the_notices_of_what_is_linked_in(self):
         notices = (self.unpack() / "THIRD-PARTY-NOTICES.txt").read_text()
-        self.check_notices(notices, ("GCC RUNTIME LIBRARY EXCEPTION", "winpthreads"))
+        self.check_notices(notices, ("GCC RUNTIME LIBRARY EXCEPTION", "winpthreads", "Jean-loup Gailly"))
 
     def test_the_program_in_it_works_with_nothing_else(self):
         root = self.unpack()

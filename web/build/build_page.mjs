@@ -8,7 +8,7 @@ import path from "node:path";
 import { gzipSync } from "node:zlib";
 import { fileURLToPath, pathToFileURL } from "node:url";
 import { assemble } from "./assemble.mjs";
-import { bundle, noticesOf } from "./bundle.mjs";
+import { bundle, noticesOf, noticesOfCore } from "./bundle.mjs";
 import { checkPage } from "./check_page.mjs";
 
 const WEB = path.dirname(path.dirname(fileURLToPath(import.meta.url)));
@@ -30,7 +30,7 @@ export async function makePage({ page, worker, core }) {
     worker: workerBundle.script,
     core: readFileSync(path.join(core, "orvane-core.wasm")),
     examples: EXAMPLES.map((name) => ({ name, bytes: readFileSync(path.join(WEB, "../examples", name)) })),
-    notices: noticesOf(packages).join("\n\n"),
+    notices: [...noticesOf(packages), ...noticesOfCore()].join("\n\n"),
   });
 }
 

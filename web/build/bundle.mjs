@@ -56,7 +56,17 @@ function packagesIn(metafile) {
   return [...new Set(folders.filter(Boolean))].sort();
 }
 
-/** The licences of the packages in these folders, one behind the other. */
+// What Debian's packages are whose code is linked into the core.
+const LINKED = ["emscripten", "libcli11-dev", "libfast-float-dev", "libfmt-dev", "nlohmann-json3-dev"];
+
+/** The licences of what is linked into the core, as Debian's packages bring them. */
+export function noticesOfCore() {
+  return LINKED.map(
+    (name) => `${name}\n\n${readFileSync(`/usr/share/doc/${name}/copyright`, "utf8").trim()}\n`,
+  );
+}
+
+/** The licences of the npm packages in these folders. */
 export function noticesOf(packages) {
   return packages.map((folder) => {
     const { name, version } = JSON.parse(readFileSync(path.join(folder, "package.json"), "utf8"));
