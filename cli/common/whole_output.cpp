@@ -19,12 +19,23 @@ std::string WholeOutput::Folder() const {
   return folder.empty() ? "." : folder;
 }
 
-void WholeOutput::Deliver(const std::string& bytes) {
+void WholeOutput::Append(std::string_view bytes) {
   platform::HoldInterrupts();
-  std::string error = file_.Write(bytes);
+  const std::string error = file_.Append(bytes);
+  StopIfInterrupted();
+  RequireNone(error);
+}
+
+void WholeOutput::Deliver() {
+  std::string error = file_.Finish();
   StopIfInterrupted();
   if (error.empty()) error = file_.Deliver();
   RequireNone(error);
+}
+
+void WholeOutput::Deliver(std::string_view bytes) {
+  Append(bytes);
+  Deliver();
 }
 
 void WholeOutput::RequireNone(const std::string& error) const {

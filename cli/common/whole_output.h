@@ -1,11 +1,11 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "platform/output_file.h"
 
-// A file that a verb makes of bytes in memory: it appears when all is well, and not at all
-// otherwise.
+// A file that a verb makes: it appears when all is well, and not at all otherwise.
 
 namespace cli {
 
@@ -18,9 +18,15 @@ class WholeOutput {
   // The folder that the file is to lie in.
   [[nodiscard]] std::string Folder() const;
 
-  // Puts `bytes` in the file's place. Throws a Failure when the disk does not take them, or when
-  // the user has interrupted the program.
-  void Deliver(const std::string& bytes);
+  // Takes the next bytes of the file, which wait beside its place. Throws a Failure when the disk
+  // does not take them, or when the user has interrupted the program.
+  void Append(std::string_view bytes);
+
+  // Puts what was appended in the file's place. Throws as Append does. REQUIRES: Append was called.
+  void Deliver();
+
+  // Both, for who has all bytes at once.
+  void Deliver(std::string_view bytes);
 
  private:
   void RequireNone(const std::string& error) const;

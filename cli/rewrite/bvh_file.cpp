@@ -163,10 +163,8 @@ PreparedFile PrepareBvh(const HtrDocument& document, const Wording& wording) {
   try {
     auto plan = std::make_shared<const BvhPlan>(PlanBvh(document, OptionsFor(document, wording)));
     if (plan->refusal) return Refusing(Worded(*plan->refusal, document, wording));
-    return {
-        LossesOf(plan->losses, document),
-        [plan] { return Gathered([&](const orvane::TextTaker& take) { PrintBvh(*plan, take); }); },
-        plan->joints.size()};
+    return {LossesOf(plan->losses, document),
+            [plan](const orvane::TextTaker& take) { PrintBvh(*plan, take); }, plan->joints.size()};
   } catch (const Failure& failure) {
     return Refusing(failure);
   }

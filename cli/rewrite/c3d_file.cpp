@@ -155,9 +155,8 @@ std::vector<RewriteLoss> LossesOf(const C3dPlan& plan, const TRCDocument& docume
 PreparedFile PrepareC3d(const TRCDocument& document, const Wording& wording) {
   auto plan = std::make_shared<const C3dPlan>(PlanC3d(document, OptionsFor(wording)));
   if (plan->refusal) return Refusing(Worded(*plan->refusal, document, wording));
-  return {LossesOf(*plan, document, wording), [plan] {
-            return Gathered([&](const orvane::TextTaker& take) { PrintC3d(*plan, take); });
-          }};
+  return {LossesOf(*plan, document, wording),
+          [plan](const orvane::TextTaker& take) { PrintC3d(*plan, take); }};
 }
 
 }  // namespace cli

@@ -31,7 +31,8 @@ struct FormatRow {
   bool tells_up_axis = false;
 };
 
-std::string MotionAsHtr(const orvane::HtrDocument& document, const Wording& wording) {
+void PrintAsHtr(const orvane::HtrDocument& document, const Wording& wording,
+                const orvane::TextTaker& take) {
   for (const std::string& name : document.GetSegmentNames()) {
     const char* const why = orvane::WhyNoSegmentName(name);
     if (why == nullptr) continue;
@@ -42,20 +43,19 @@ std::string MotionAsHtr(const orvane::HtrDocument& document, const Wording& word
   manner.numbers = wording.order.numbers;
   manner.frame_rate = wording.rates.data;
   manner.gravity_axis = document.GetGlobalAxisofGravity();
-  return Gathered([&](const orvane::TextTaker& take) { PrintHtr(document, take, manner); });
+  PrintHtr(document, take, manner);
 }
 
-std::string MarkersAsTrc(const orvane::TRCDocument& document, const Wording& wording) {
+void PrintAsTrc(const orvane::TRCDocument& document, const Wording& wording,
+                const orvane::TextTaker& take) {
   orvane::TrcManner manner;
   manner.numbers = wording.order.numbers;
   manner.data_rate = wording.rates.data;
   manner.camera_rate = wording.rates.camera;
   manner.original_rate = wording.rates.original;
   manner.name = wording.name;
-  std::string why;
-  std::string bytes =
-      Gathered([&](const orvane::TextTaker& take) { why = PrintTrc(document, take, manner); });
-  if (why.empty()) return bytes;
+  const std::string why = PrintTrc(document, take, manner);
+  if (why.empty()) return;
   throw NoFile(wording, "it cannot be written so that it could be read back: " + why,
                "--rename gives other names; --select and --decimals make lines shorter.");
 }
@@ -64,12 +64,12 @@ double RateOf(const orvane::HtrDocument& document) { return document.GetDataFram
 double RateOf(const orvane::TRCDocument& document) { return document.DataRate(); }
 
 template <typename Document>
-std::string AsCsv(const Document& document, const Wording& wording) {
+void PrintAsCsv(const Document& document, const Wording& wording, const orvane::TextTaker& take) {
   orvane::CsvManner table = wording.order.table;
   table.numbers = wording.order.numbers;
   table.frames_per_second =
       wording.rates.data.empty() ? RateOf(document) : orvane::ParseDouble(wording.rates.data);
-  return Gathered([&](const orvane::TextTaker& take) { PrintCsv(document, take, table); });
+  PrintCsv(document, take, table);
 }
 
 bool IsScaled(const orvane::HtrSegment& segment) {
@@ -89,22 +89,24 @@ std::vector<orvane::RewriteLoss> LostInCsv(const orvane::HtrDocument& document) 
   return losses;
 }
 
-template <typename Document, std::string (*kPrint)(const Document&, const Wording&)>
+template <typename Document,
+          void (*kPrint)(const Document&, const Wording&, const orvane::TextTaker&)>
 PreparedFile Prepared(const Document& document, const Wording& wording) {
-  return {{}, [&document, wording] { return kPrint(document, wording); }};
+  return {{},
+          [&document, wording](const orvane::TextTaker& take) { kPrint(document, wording, take); }};
 }
 
 PreparedFile MotionAsCsv(const orvane::HtrDocument& document, const Wording& wording) {
-  PreparedFile file = Prepared<orvane::HtrDocument, AsCsv>(document, wording);
+  PreparedFile file = Prepared<orvane::HtrDocument, PrintAsCsv>(document, wording);
   file.losses = LostInCsv(document);
   return file;
 }
 
 // A new format is one row more.
 constexpr std::array kFormats = {
-    FormatRow{OutputFormat::kHtr, "htr", Prepared<orvane::HtrDocument, MotionAsHtr>, nullptr},
-    FormatRow{OutputFormat::kTrc, "trc", nullptr, Prepared<orvane::TRCDocument, MarkersAsTrc>},
-    FormatRow{OutputFormat::kCsv, "csv", MotionAsCsv, Prepared<orvane::TRCDocument, AsCsv>},
+    FormatRow{OutputFormat::kHtr, "htr", Prepared<orvane::HtrDocument, PrintAsHtr>, nullptr},
+    FormatRow{OutputFormat::kTrc, "trc", nullptr, Prepared<orvane::TRCDocument, PrintAsTrc>},
+    FormatRow{OutputFormat::kCsv, "csv", MotionAsCsv, Prepared<orvane::TRCDocument, PrintAsCsv>},
     FormatRow{OutputFormat::kBvh, "bvh", PrepareBvh, nullptr},
     FormatRow{OutputFormat::kC3d, "c3d", nullptr, PrepareC3d, false, true},
 };
@@ -190,6 +192,8 @@ OutputFormat FormatFor(const RewriteOrder& order, FileKind kind) {
 }
 
 bool TellsUpAxis(OutputFormat format) { return RowOf(format).tells_up_axis; }
+
+bool HasAllInEveryFrame(OutputFormat format) { return format != OutputFormat::kHtr; }
 
 PreparedFile PrepareFile(OutputFormat format, const orvane::HtrDocument& document,
                          const Wording& wording) {

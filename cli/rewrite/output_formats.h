@@ -28,6 +28,10 @@ enum class OutputFormat { kHtr, kTrc, kCsv, kBvh, kC3d };
 // Whether files of that format say which axis their heights lie along, so that nothing is turned.
 [[nodiscard]] bool TellsUpAxis(OutputFormat format);
 
+// Whether files of that format have a place for every segment in every frame, also where the
+// document holds nothing.
+[[nodiscard]] bool HasAllInEveryFrame(OutputFormat format);
+
 // The file of `format` that holds `document`, which must be there and the same until it is printed.
 // It refuses to be printed when it could not be read back. REQUIRES: such documents become files of
 // that format.

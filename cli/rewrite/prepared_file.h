@@ -28,26 +28,19 @@ struct Wording {
 
 struct PreparedFile {
   std::vector<orvane::RewriteLoss> losses{};  // none where there will be no file
-  // Makes the bytes of the file. Throws a Failure when there can be none.
-  std::function<std::string()> print;
+  // Hands over the bytes of the file, in order and in pieces of limited size. Throws a Failure when
+  // there can be no such file, perhaps behind some of them, and what the taker throws.
+  std::function<void(const orvane::TextTaker&)> print;
   // Of the segments or markers of the document, where those are not all.
   std::optional<std::size_t> parts{};
 };
-
-// What `print` hands over to the taker that it is called with.
-template <typename Print>
-std::string Gathered(const Print& print) {
-  std::string bytes;
-  print([&bytes](std::string_view piece) { bytes += piece; });
-  return bytes;
-}
 
 // Of the file of `wording` no other one is made.
 inline Failure NoFile(const Wording& wording, const std::string& why, const std::string& advice) {
   return {ExitStatus::kRefused, {{wording.input, why, advice}}};
 }
 inline PreparedFile Refusing(const Failure& failure) {
-  return {{}, [failure]() -> std::string { throw failure; }};
+  return {{}, [failure](const orvane::TextTaker& /*take*/) { throw failure; }};
 }
 
 }  // namespace cli

@@ -11,16 +11,16 @@
 #include "cli/common/reading_memory.h"
 #include "cli/common/report.h"
 #include "cli/common/told_reading.h"
-#include "cli/common/whole_output.h"
 #include "cli/rewrite/edits.h"
 #include "cli/rewrite/output_formats.h"
 #include "cli/rewrite/rewrite_flags.h"
 #include "cli/rewrite/rewrite_order.h"
+#include "cli/rewrite/rewrite_output.h"
+#include "cli/rewrite/rewrite_proportion.h"
 #include "cli/rewrite/rewrite_summary.h"
 #include "formats/text/numbers.h"
 #include "inspect/report/cut_check.h"
 #include "platform/interrupt.h"
-#include "platform/output_stream.h"
 #include "platform/path_text.h"
 
 namespace cli {
@@ -72,24 +72,6 @@ RewriteOrder EditsFor(const RewriteOrder& order, OutputFormat format) {
   return edits;
 }
 
-// The place that the output gets, or standard output.
-class RewriteOutput {
- public:
-  RewriteOutput(const std::string& path, bool replace) {
-    if (path != "-") file_.emplace(path, replace);
-  }
-
-  void Deliver(const std::string& bytes) {
-    if (file_) return file_->Deliver(bytes);
-    const std::string error = platform::WriteToStandardOutput(bytes);
-    if (error.empty()) return;
-    throw Failure{ExitStatus::kInputOutput, {{"standard output", error, ""}}};
-  }
-
- private:
-  std::optional<WholeOutput> file_;
-};
-
 class Rewriting {
  public:
   explicit Rewriting(const RewriteOrder& order)
@@ -133,6 +115,7 @@ class Rewriting {
     EditedFile<Document> file{input.name};
     FileReport report = ReadInput(*file.document, input, manner_, PurposeOf(order_));
     RequireNoErrors(report, report);
+    RequireProportion(*file.document, input, order_, format_);
     file.rates = RatesOf(*file.document, input);
     const orvane::FrameSpan held = FramesHeld(*file.document);
     Edit(file, EditsFor(order_, format_));
@@ -142,12 +125,11 @@ class Rewriting {
     file.circumstances.losses = std::move(prepared.losses);
     StopIfInterrupted();
     TellOfEdits(file, held, report);
-    const std::string bytes = prepared.print();
-    output.Deliver(bytes);
+    const std::size_t size = output.Deliver(prepared);
     const std::string rate =
         file.rates.data.empty() ? orvane::FormatInt(RateIn(document)) : file.rates.data;
     Show({input.name, order_.kind.value_or(KindFor(document)), order_.output,
-          prepared.parts.value_or(PartsIn(document)), FramesHeld(document), rate, bytes.size(),
+          prepared.parts.value_or(PartsIn(document)), FramesHeld(document), rate, size,
           !manner_.omitted, std::move(report)});
   }
 
