@@ -1,6 +1,7 @@
 #include "cli/rewrite/rewrite_flags.h"
 
 #include <CLI/CLI.hpp>
+#include <algorithm>
 
 #include "cli/common/choice.h"
 #include "cli/common/cut_frames.h"
@@ -22,19 +23,35 @@ bool IsMapping(const std::string& text) {
          host::SameButForCase(text.substr(text.size() - kExtension.size()), kExtension);
 }
 
-// "OLD=NEW", or a file with such pairs.
+// "OLD=NEW" for each piece between commas where all are such pairs; a name may hold commas itself.
+std::vector<std::string> PairsIn(const std::string& text) {
+  std::vector<std::string> pairs;
+  for (std::size_t begin = 0; begin <= text.size();) {
+    const std::size_t end = std::min(text.find(',', begin), text.size());
+    pairs.push_back(text.substr(begin, end - begin));
+    if (std::count(pairs.back().begin(), pairs.back().end(), '=') != 1) return {text};
+    begin = end + 1;
+  }
+  return pairs;
+}
+
+void TakePair(const std::string& text, RewriteOrder& order) {
+  const std::size_t sign = text.find('=');
+  if (sign == std::string::npos) {
+    throw CLI::ValidationError("--rename",
+                               "takes OLD=NEW, or a mapping whose name ends in .mnm, not " + text);
+  }
+  order.renames.emplace_back(text.substr(0, sign), text.substr(sign + 1));
+}
+
+// Pairs, or a file with such.
 void TakeRenaming(const std::vector<std::string>& texts, RewriteOrder& order) {
   for (const std::string& text : texts) {
     if (IsMapping(text)) {
       order.mapping = text;
       continue;
     }
-    const std::size_t sign = text.find('=');
-    if (sign == std::string::npos) {
-      throw CLI::ValidationError(
-          "--rename", "takes OLD=NEW, or a mapping whose name ends in .mnm, not " + text);
-    }
-    order.renames.emplace_back(text.substr(0, sign), text.substr(sign + 1));
+    for (const std::string& pair : PairsIn(text)) TakePair(pair, order);
   }
 }
 
@@ -61,20 +78,26 @@ void AddFileFlags(CLI::App& verb, RewriteOrder& order) {
   verb.add_flag("--force", order.force, "Replace OUT if it exists");
 }
 
+// As in "--select A --select B".
+void MayBeRepeated(CLI::Option* option) {
+  option->expected(1)->allow_extra_args(false)->multi_option_policy(
+      CLI::MultiOptionPolicy::TakeAll);
+}
+
 void AddEditFlags(CLI::App& verb, RewriteOrder& order) {
   AddCutFlag(verb, order.cut);
-  verb.add_option(
-          "--select", order.selection,
-          "Take the segments or markers of these names alone, segments with those that they "
-          "hang from; may be repeated (all)")
-      ->expected(1)
-      ->type_name("NAME,...");
-  verb.add_option_function<std::vector<std::string>>(
-          "--rename",
-          [&order](const std::vector<std::string>& texts) { TakeRenaming(texts, order); },
-          "Give another name: OLD=NEW, or a mapping file that ends in .mnm; may be repeated")
-      ->expected(1)
-      ->type_name("MAP");
+  MayBeRepeated(
+      verb.add_option(
+              "--select", order.selection,
+              "Take the segments or markers of these names alone, segments with those that they "
+              "hang from; may be repeated (all)")
+          ->type_name("NAME,..."));
+  MayBeRepeated(
+      verb.add_option_function<std::vector<std::string>>(
+              "--rename",
+              [&order](const std::vector<std::string>& texts) { TakeRenaming(texts, order); },
+              "Give other names: OLD=NEW,..., or a mapping file that ends in .mnm; may be repeated")
+          ->type_name("MAP"));
   AddChoice(verb, "--unit", {"mm", "cm", "m", "in", "ft", "yd"},
             "Convert all lengths to that unit (that of the file)",
             [&order](const std::string& unit) { order.unit = orvane::FindCalibrationUnits(unit); });

@@ -42,7 +42,8 @@ def arguments_of(verb: str, options: Mapping[str, object]) -> list[str]:
 
     ``segment_size=2`` is ``--segment-size 2``, ``end_effectors=True`` is ``--end-effectors`` and
     ``False`` is ``--no-end-effectors``; ``None`` leaves a flag out, and so does ``False`` where
-    there is no such flag. Two numbers are a range, three a position, a list is a flag for each.
+    there is no such flag. Two numbers are a range, three a position, a list is a flag for each,
+    and so is a mapping: ``rename={"A": "B"}`` is ``--rename A=B``.
     """
     known = set(_orvane.flags_of(verb))
     arguments: list[str] = []
@@ -60,6 +61,8 @@ def _words(flag: str, value: object, known: set[str]) -> list[str]:
     if isinstance(value, bool):
         opposite = "--no-" + flag[2:]
         return [flag] if value else [opposite] if opposite in known else []
+    if isinstance(value, Mapping):
+        return [f"{flag}={old}={new}" for old, new in value.items()]
     if isinstance(value, list):
         return [word for each in value for word in _words(flag, each, known)]
     if isinstance(value, tuple):

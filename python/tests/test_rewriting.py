@@ -24,6 +24,12 @@ def test_one_that_is_there_stays_unless_it_is_meant(folder):
     assert orvane.compare("walk.trc", "mine.trc")
 
 
+def test_names_are_lists_and_mappings(folder):
+    orvane.rewrite("walk.trc", "two.trc", select=["walker:C7", "walker:LFHD"],
+                   rename={"walker:C7": "C7", "walker:LFHD": "LFHD"}, warn=False)
+    assert set(orvane.read("two.trc").names) == {"C7", "LFHD"}
+
+
 def test_an_option_that_there_is_not_is_an_error(folder):
     with pytest.raises(TypeError, match="cutt"):
         orvane.rewrite("walk.trc", "part.trc", cutt=(1, 2))

@@ -167,6 +167,22 @@ TEST_F(RewriteTest, RefusesNamesThatNothingHasAndSuchAsNoFileHolds) {
   EXPECT_FALSE(Exists("new.trc"));
 }
 
+TEST_F(RewriteTest, TakesNamesOneByOneOrSeveralAtOnce) {
+  const std::vector<Flags> all = {
+      {"--select", "LFHD", "--select", "right head", "--rename", "LFHD=A", "--rename",
+       "right head=B"},
+      {"--select", "LFHD,right head", "--rename", "LFHD=A,right head=B"},
+  };
+  for (Flags flags : all) {
+    flags.emplace_back("--force");
+    const ProgramResult result = Rewrite("take.trc", "new.trc", flags);
+    EXPECT_EQ(result.status, 0) << result.error;
+    EXPECT_THAT(Read("new.trc"), HasSubstr("\r\nFrame#\tTime\tA\t\t\tB\t\t\t\r\n"));
+  }
+  ASSERT_EQ(Rewrite("take.trc", "new.trc", {"--rename", "LFHD=A,B", "--force"}).status, 0);
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\tTime\tA,B\t\t\t")) << "a name may hold a comma";
+}
+
 TEST_F(RewriteTest, KeepsWhatSelectedSegmentsHangFrom) {
   const ProgramResult result = Rewrite("take.htr", "new.htr", {"--select", "Spine"});
   EXPECT_EQ(result.status, 0);
