@@ -147,7 +147,12 @@ std::string ExtensionIn(const std::string& output) {
 
 Failure WrongUsage(const Complaint& complaint) { return {ExitStatus::kWrongUsage, {complaint}}; }
 
-void RequireFlagsOf(const FormatRow& row, const RewriteOrder& order) {
+void RequireFlagsOf(const FormatRow& row, FileKind kind, const RewriteOrder& order) {
+  for (const auto& [flag, flag_kind] : order.kind_flags) {
+    if (flag_kind != kind) {
+      throw WrongUsage({flag, std::string("is for ") + ExtensionOf(flag_kind) + " files", ""});
+    }
+  }
   for (const auto& [flag, name] : order.format_flags) {
     if (!host::SameButForCase(name, row.name)) {
       throw WrongUsage({flag, "is for " + name + " files", ""});
@@ -187,7 +192,7 @@ OutputFormat FormatFor(const RewriteOrder& order, FileKind kind) {
                           std::string(row->name) + " is made",
                       std::string(ExtensionOf(kind)) + " files become " + FormatsOf(kind) + "."});
   }
-  RequireFlagsOf(*row, order);
+  RequireFlagsOf(*row, kind, order);
   return row->format;
 }
 

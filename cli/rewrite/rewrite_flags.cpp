@@ -128,24 +128,26 @@ void AddTimeFlags(CLI::App& verb, RewriteOrder& order) {
 }
 
 void AddTableFlags(CLI::App& verb, RewriteOrder& order) {
-  const auto add = [&verb, &order](const std::string& flag, const std::vector<std::string>& choices,
-                                   const std::string& help, const auto& take) {
-    AddChoice(verb, flag, choices, help, [&order, flag, take](const std::string& choice) {
+  const auto add = [&verb, &order](const std::string& flag, std::optional<FileKind> kind,
+                                   const std::vector<std::string>& choices, const std::string& help,
+                                   const auto& take) {
+    AddChoice(verb, flag, choices, help, [&order, flag, kind, take](const std::string& choice) {
       order.format_flags.emplace_back(flag, "CSV");
+      if (kind) order.kind_flags.emplace_back(flag, *kind);
       take(order.table, choice);
     });
   };
-  add("--layout", {"wide", "long"},
+  add("--layout", std::nullopt, {"wide", "long"},
       "CSV: a row a frame, or a row for each marker or segment of each frame (wide)",
       [](orvane::CsvManner& table, const std::string& choice) {
         table.layout = choice == "long" ? orvane::CsvLayout::kLong : orvane::CsvLayout::kWide;
       });
-  add("--space", {"world", "local"},
+  add("--space", FileKind::kHtr, {"world", "local"},
       "CSV of HTR: tell places and rotations in the world, or against the segment's parent (world)",
       [](orvane::CsvManner& table, const std::string& choice) {
         table.space = choice == "local" ? orvane::CsvSpace::kParent : orvane::CsvSpace::kWorld;
       });
-  add("--rotations", {"euler", "quaternion"},
+  add("--rotations", FileKind::kHtr, {"euler", "quaternion"},
       "CSV of HTR: tell rotations as Euler angles or as quaternions (euler)",
       [](orvane::CsvManner& table, const std::string& choice) {
         table.rotations =

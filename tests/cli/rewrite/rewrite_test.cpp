@@ -121,6 +121,8 @@ TEST_F(RewriteTest, SaysWhatBecomesOfWhichFile) {
       {"take.trc", "new.htr", {}, "orvane: new.htr: of TRC files no .htr is made\n"},
       {"take.htr", "new.trc", {}, "orvane: new.trc: of HTR files no .trc is made\n"},
       {"take.trc", "-", {"--json"}, "orvane: --json: is written to standard output"},
+      {"take.trc", "new.csv", {"--space", "local"}, "orvane: --space: is for HTR files\n"},
+      {"take.trc", "new.csv", {"--rotations", "euler"}, "orvane: --rotations: is for HTR files\n"},
       {"take.trc", "new.trc", {"--rename", "A"}, "takes OLD=NEW, or a mapping"},
       {"take.trc", "new.trc", {"--rate", "fast"}, "a number of frames per second is expected"},
       {"take.trc", "new.trc", {"--resample", "linear"}, "--rate"}};
