@@ -1,5 +1,6 @@
 #include <emscripten.h>
 
+#include <chrono>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -119,9 +120,9 @@ EMSCRIPTEN_KEEPALIVE int orvane_line(int id, int line, int column) {
 
 EMSCRIPTEN_KEEPALIVE void orvane_close(int id) { web::takes.erase(id); }
 
-// Runs the program; the one call that sleeps, so that there is no other of it meanwhile. Its answer
-// is the exit status.
-EMSCRIPTEN_KEEPALIVE int orvane_run(int count, const char* const* arguments) {
+// Runs the program, and tells the page every `pause` milliseconds; the one call that sleeps, so
+// that there is no other of it meanwhile. Its answer is the exit status.
+EMSCRIPTEN_KEEPALIVE int orvane_run(int count, const char* const* arguments, int pause) {
   if (web::is_running) {
     return web::AnswerBy([] {
       return web::FailureAnswer(
@@ -129,7 +130,7 @@ EMSCRIPTEN_KEEPALIVE int orvane_run(int count, const char* const* arguments) {
     });
   }
   web::is_running = true;
-  const int status = web::RunVerb({arguments, arguments + count});
+  const int status = web::RunVerb({arguments, arguments + count}, std::chrono::milliseconds(pause));
   web::is_running = false;
   web::answer = {false, std::to_string(status), {}};
   return 1;

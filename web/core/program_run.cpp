@@ -1,6 +1,5 @@
 #include "web/core/program_run.h"
 
-#include <chrono>
 #include <iostream>
 
 #include "cli/common/progress_watch.h"
@@ -19,14 +18,14 @@ namespace {
 
 using Clock = std::chrono::steady_clock;
 
-constexpr std::chrono::milliseconds kPause{50};
-
 class PageProgress {
  public:
+  explicit PageProgress(std::chrono::milliseconds pause) : pause_(pause) {}
+
   void Show(const cli::WatchedProgress& progress) {
     if (progress.is_over) return orvane_end_progress();
     const Clock::time_point now = Clock::now();
-    if (now - last_ < kPause) return;
+    if (now - last_ < pause_) return;
     if (orvane_show_progress(progress.what.c_str(), progress.percent) != 0) {
       platform::RequestInterrupt();
     }
@@ -34,16 +33,17 @@ class PageProgress {
   }
 
  private:
+  const std::chrono::milliseconds pause_;
   Clock::time_point last_ = Clock::now();
 };
 
 }  // namespace
 
-int RunVerb(const std::vector<std::string>& arguments) {
+int RunVerb(const std::vector<std::string>& arguments, std::chrono::milliseconds pause) {
   std::vector<const char*> words = {"orvane"};
   words.reserve(arguments.size() + 1);
   for (const std::string& argument : arguments) words.push_back(argument.c_str());
-  PageProgress page;
+  PageProgress page(pause);
   cli::WatchProgress([&page](const cli::WatchedProgress& progress) { page.Show(progress); });
   const auto status = cli::RunProgram(static_cast<int>(words.size()), words.data());
   cli::WatchProgress({});

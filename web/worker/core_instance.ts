@@ -115,13 +115,16 @@ export class CoreInstance {
     return JSON.parse(this.text()) as LineText;
   }
 
-  /** Runs the program once; an instance has settings that nobody has changed only before that. */
-  async run(verb: string[], files: InFile[]): Promise<RunResult> {
+  /**
+   * Runs the program once; an instance has settings that nobody has changed only before that. The bar is shown
+   * after every `pause`, in milliseconds.
+   */
+  async run(verb: string[], files: InFile[], pause = 50): Promise<RunResult> {
     for (const file of files) this.put(file);
     this.redirect();
-    const list = this.listOf(verb);
-    this.require(await this.sleeping(() => this.module._orvane_run(verb.length, list.address)));
-    this.module._free(list.address);
+    const { address } = this.listOf(verb);
+    this.require(await this.sleeping(() => this.module._orvane_run(verb.length, address, pause)));
+    this.module._free(address);
     return {
       status: Number(this.text()),
       out: this.stream("/out"),

@@ -31,7 +31,7 @@ declare module "orvane-core" {
     _orvane_findings(id: number, action: number): number;
     _orvane_line(id: number, line: number, column: number): number;
     _orvane_close(id: number): void;
-    _orvane_run(count: number, texts: number): number;
+    _orvane_run(count: number, texts: number, pause: number): number;
     _orvane_text(): number;
     _orvane_text_size(): number;
     _orvane_block(index: number): number;
