@@ -25,7 +25,7 @@ const VERTEX = /* glsl */ `
     float eyeRadius = radius * length(modelViewMatrix[0].xyz) * (1.0 + 0.5 * mark);
     eye.z += eyeRadius;
     gl_Position = projectionMatrix * eye;
-    pixels = max(eyeRadius * projectionMatrix[1][1] * screenHeight / gl_Position.w, 3.0) + 1.0;
+    pixels = max(eyeRadius * projectionMatrix[1][1] * screenHeight / gl_Position.w, 4.0) + 1.0;
     gl_PointSize = pixels;
     if (${isNowhere("position")}) {
       gl_Position = vec4(2.0, 2.0, 2.0, 1.0);

@@ -21,7 +21,7 @@ export const floorStep = signal(1);
 export const drawnCount = signal(0);
 
 const PICK_REACH = 12;
-const FAR = 4;
+const FAR = 2.5;
 /** Pixels of a saved picture for each of the page. */
 const PICTURE_PIXELS = 2;
 
