@@ -38,7 +38,8 @@ function drawRuler(context: CanvasRenderingContext2D, width: number, height: num
     context.moveTo(x, height - 7);
     context.lineTo(x, height);
     context.stroke();
-    context.fillText(tick.text, x + 4, height / 2 - 1);
+    const isWhole = x + 4 + context.measureText(tick.text).width <= width;
+    if (isWhole) context.fillText(tick.text, x + 4, height / 2 - 1);
   }
   drawGeneralMarks(context, area, height, colors);
   drawPlayhead(context, area, height, colors);

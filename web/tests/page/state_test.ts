@@ -1,0 +1,146 @@
+import assert from "node:assert/strict";
+import { beforeEach, test } from "node:test";
+import * as selection from "../../page/state/selection";
+import { setting } from "../../page/state/settings";
+import { activeKey, addTake, removeTake, takes, type Take } from "../../page/state/takes";
+import * as time from "../../page/state/time";
+import type { TakeInfo } from "../../worker/protocol";
+
+function take(frames: number, rate: number): Take {
+  const info = { frames, rate, objects: ["a", "b", "c"], gaps: new Int32Array() };
+  return addTake(info as unknown as TakeInfo, { positions: new Float32Array() });
+}
+
+beforeEach(() => {
+  takes.value = [];
+  activeKey.value = 0;
+  selection.deselect();
+  time.stop();
+  time.clearSpan();
+  time.setSpeed(1);
+  time.loop.value = false;
+});
+
+test("another take goes on at the same moment, where it has that", () => {
+  const film = take(48, 24);
+  const fast = take(240, 240);
+  time.activate(film);
+  time.jumpTo(12);
+  assert.equal(time.frameOf(fast), 120);
+  time.activate(fast);
+  assert.equal(time.frame.value, 120);
+  assert.deepEqual(time.timelineView.value, { first: 0, end: 240 });
+  fast.offset.value = 10;
+  assert.equal(time.frameOf(film), -1);
+  time.activate(film);
+  assert.equal(time.frame.value, 0);
+});
+
+test("it plays by the file's rate to the out point, and stops there", () => {
+  time.activate(take(100, 50));
+  time.jumpTo(10);
+  time.setIn();
+  time.jumpTo(19);
+  time.setOut();
+  time.jumpTo(10);
+  time.togglePlay();
+  time.passTime(0.1);
+  assert.equal(time.frame.value, 15);
+  time.passTime(1);
+  assert.equal(time.frame.value, 19);
+  assert.equal(time.playing.value, false);
+  time.togglePlay();
+  assert.equal(time.frame.value, 10);
+});
+
+test("pieces of frames add up", () => {
+  time.activate(take(100, 24));
+  time.goTo(0);
+  time.play(0.5);
+  for (let picture = 0; picture < 60; ++picture) time.passTime(1 / 60);
+  assert.ok(Math.abs(time.frame.value - 12) <= 1);
+});
+
+test("it plays backward, in a loop over the end", () => {
+  time.activate(take(10, 10));
+  time.loop.value = true;
+  time.goTo(1);
+  time.shuttleTo(-1);
+  time.passTime(0.3);
+  assert.equal(time.frame.value, 8);
+  assert.equal(time.playing.value, true);
+});
+
+test("a take without a rate is played, one of a single frame is not", () => {
+  time.activate(take(100, 0));
+  time.goTo(0);
+  time.play(1);
+  time.passTime(1);
+  assert.equal(time.frame.value, 30);
+  time.stop();
+  time.activate(take(1, 30));
+  time.play(1);
+  assert.equal(time.playing.value, false);
+});
+
+test("an out point before the in point is none, and the other way around", () => {
+  time.activate(take(100, 25));
+  time.jumpTo(20);
+  time.setOut();
+  time.jumpTo(50);
+  time.setIn();
+  assert.deepEqual(time.span.value, { first: 50, last: 99 });
+});
+
+test("Home and End go to the points first, then to the ends", () => {
+  time.activate(take(100, 25));
+  time.jumpTo(20);
+  time.setIn();
+  time.jumpTo(50);
+  time.goToStart();
+  assert.equal(time.frame.value, 20);
+  time.goToStart();
+  assert.equal(time.frame.value, 0);
+  time.goToEnd();
+  assert.equal(time.frame.value, 99);
+});
+
+test("what is selected of a take goes with it", () => {
+  const one = take(10, 10);
+  const other = take(10, 10);
+  time.activate(one);
+  selection.select(one, 1, false);
+  selection.select(other, 2, true);
+  assert.deepEqual([...selection.selectedOf(one)], [1]);
+  assert.deepEqual(selection.lastSelected.value, { take: other.key, object: 2 });
+  selection.select(one, 1, true);
+  assert.deepEqual([...selection.selectedOf(one)], []);
+  removeTake(other);
+  assert.equal(selection.lastSelected.value, null);
+});
+
+test("a color that became free is given again", () => {
+  const first = take(10, 10);
+  const second = take(10, 10);
+  removeTake(first);
+  assert.deepEqual([second.color, take(10, 10).color, take(10, 10).color], [1, 0, 2]);
+});
+
+test("settings work where nothing can be kept, and take over nothing that is not one", () => {
+  const isText = (kept: unknown): kept is string => typeof kept === "string";
+  assert.equal(setting("nowhere", "first", isText).value, "first");
+  const kept = new Map([["orvane-workbench/known", '"kept"']]);
+  kept.set("orvane-workbench/other", "7");
+  kept.set("orvane-workbench/broken", "{");
+  const storage = {
+    getItem: (key: string) => kept.get(key) ?? null,
+    setItem: (key: string, value: string) => kept.set(key, value),
+  };
+  Object.defineProperty(globalThis, "localStorage", { value: storage, configurable: true });
+  assert.equal(setting("known", "first", isText).value, "kept");
+  assert.equal(setting("other", "first", isText).value, "first");
+  const broken = setting("broken", "first", isText);
+  assert.equal(broken.value, "first");
+  broken.value = "chosen";
+  assert.equal(kept.get("orvane-workbench/broken"), '"chosen"');
+});
