@@ -9,7 +9,7 @@ export const dragging = signal(false);
 export function listenToDrops(): void {
   addEventListener("dragover", (event) => {
     event.preventDefault();
-    dragging.value = true;
+    dragging.value = event.dataTransfer?.types.includes("Files") ?? false;
   });
   addEventListener("dragleave", (event) => {
     if (event.relatedTarget === null) dragging.value = false;

@@ -56,6 +56,22 @@ export function drawRows(
   }
   drawOutside(picture, height);
   drawLine(picture, height);
+  drawThumb(picture, width, height, scroll, objects.length * rowHeight);
+}
+
+/** Which part of all rows is in sight. */
+function drawThumb(
+  { context, colors }: Picture,
+  width: number,
+  height: number,
+  scroll: number,
+  total: number,
+): void {
+  if (total <= height) return;
+  const length = Math.max((height / total) * height, 16);
+  const top = (scroll / (total - height)) * (height - length);
+  context.fillStyle = colors.line;
+  context.fillRect(width - 7, top, 4, length);
 }
 
 function clipped({ context, area, rowHeight }: Picture, top: number, draw: () => void): void {
