@@ -6,7 +6,7 @@ import { tmpdir } from "node:os";
 import path from "node:path";
 import { after, before, test } from "node:test";
 import { largeMarkerFile } from "./takes.mjs";
-import { inWorkbench, useBrowser } from "./workbench.mjs";
+import { EXAMPLES, inWorkbench, useBrowser } from "./workbench.mjs";
 
 useBrowser();
 
@@ -33,12 +33,12 @@ test("60 MB are seen, and their last frame", () =>
     await workbench.drawn(60);
   }));
 
-test("the opening of 60 MB is canceled, and the page goes on", () =>
+test("work on 60 MB is canceled, and the page goes on", () =>
   inWorkbench(async (workbench) => {
     await workbench.open(large);
     await workbench.button("Cancel").click();
     await workbench.page.locator(".busy").waitFor({ state: "detached" });
-    await workbench.example("walk.trc").click();
-    await workbench.waitForTakes(1);
+    // The file may have been read by then, and something else been on its way.
+    await workbench.open(path.join(EXAMPLES, "walk.trc"));
     await workbench.takes.getByText("walk.trc").waitFor();
   }));

@@ -28,15 +28,15 @@ export function markerFile(markers, frames, pointOf) {
   return `${lines.join("\n")}\n`;
 }
 
-/** A marker file of at least `bytes` bytes: sixty markers on a slow circle. */
+/** A marker file of about `bytes` bytes: sixty markers on a slow circle. */
 export function largeMarkerFile(bytes) {
   const markers = Array.from({ length: 60 }, (_, at) => `Marker${at + 1}`);
-  const bytesOfFrame = 60 * 30 + 12;
+  const bytesOfFrame = 2050;
   return markerFile(markers, Math.ceil(bytes / bytesOfFrame), (frame, marker) =>
     [
-      1000 * Math.cos(frame / 600) + 20 * (marker % 10),
+      1000 * Math.cos(frame / 600) + 100 * (marker % 10),
       200 + 150 * Math.floor(marker / 10),
-      1000 * Math.sin(frame / 600) + 10 * (marker % 7),
+      1000 * Math.sin(frame / 600) + 60 * (marker % 7),
     ].map((value) => (value + 1e-6 * (marker + 1)).toFixed(6).padStart(10, " ").trim()),
   );
 }
