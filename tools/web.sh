@@ -10,6 +10,7 @@ make_page() {
 # What the page is made by, and what it does without a browser and in one.
 test_page() {
   node --test web/tests/build/*_test.mjs
+  node_modules/.bin/tsc --project web/tests/page
   node web/tests/page/run.mjs
   node --test web/tests/browser/*_test.mjs
 }
