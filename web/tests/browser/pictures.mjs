@@ -1,7 +1,7 @@
 // Makes the pictures of the documents: node web/tests/browser/pictures.mjs [NAME...]
 //
 // All of docs/images/workbench-*.png, or those of the names that are given. The same page makes the same
-// pictures, with the letters of Debian's fonts-dejavu-core.
+// pictures, with the letters of Debian's fonts-dejavu-core, but for a few pixels that are one step lighter or darker.
 
 import { writeFileSync } from "node:fs";
 import path from "node:path";
@@ -88,13 +88,24 @@ const PICTURES = {
   },
 };
 
+// What is seen when the view has come to rest.
+async function pictureAtRest(page) {
+  let last = Buffer.alloc(0);
+  for (;;) {
+    await page.waitForTimeout(300);
+    const bytes = await page.screenshot();
+    if (bytes.equals(last)) return bytes;
+    last = bytes;
+  }
+}
+
 async function makePicture(name) {
   await inWorkbench(
     async (workbench) => {
       await PICTURES[name](workbench);
-      await workbench.page.waitForTimeout(600); // the view comes to rest
+      await workbench.page.mouse.move(640, 20); // over nothing
       const file = path.join(ROOT, `docs/images/workbench-${name}.png`);
-      const bytes = await workbench.page.screenshot();
+      const bytes = await pictureAtRest(workbench.page);
       writeFileSync(file, bytes);
       console.log(`${file} ${bytes.length} bytes`);
     },
