@@ -16,9 +16,12 @@ class TRCRowStarts {
     return bases_[row / kRowsPerBase] + offsets_[row];
   }
 
-  // `start` is not before that of the row before.
+  // `start` is not before that of the row before. Changes nothing when memory runs out.
   void Append(std::size_t start) {
-    if (offsets_.size() % kRowsPerBase == 0) bases_.push_back(start);
+    if (offsets_.size() % kRowsPerBase == 0) {
+      bases_.resize(offsets_.size() / kRowsPerBase);  // without one whose offset failed
+      bases_.push_back(start);
+    }
     offsets_.push_back(static_cast<std::uint32_t>(start - bases_.back()));
   }
   // Makes room for one sample more in `row`.

@@ -117,6 +117,8 @@ void TRCSampleBlock::AppendHeldRow(std::span<const double> numbers, IsPosition i
   if (starts_.IsEmpty() && numbers.size() < kCoordinates * columns_) KeepStarts();
   const std::size_t first = SampleCount();
   const std::size_t end = first + numbers.size() / kCoordinates;
+  MakeRoom(end);
+  if (!starts_.IsEmpty()) starts_.Append(end);
   measured_.resize((end + kBits - 1) / kBits);
   const double* x = numbers.data();
   for (std::size_t sample = first; sample < end;) {
@@ -129,8 +131,15 @@ void TRCSampleBlock::AppendHeldRow(std::span<const double> numbers, IsPosition i
     measured_[word] = marks;
   }
   numbers_.insert(numbers_.end(), numbers.begin(), numbers.end());
-  if (!starts_.IsEmpty()) starts_.Append(end);
   held_rows_ = ++row_count_;
+}
+
+// For `samples` in all, so that nothing fails once they are begun.
+void TRCSampleBlock::MakeRoom(std::size_t samples) {
+  const std::size_t numbers = kCoordinates * samples;
+  const std::size_t words = (samples + kBits - 1) / kBits;
+  if (numbers > numbers_.capacity()) numbers_.reserve(std::max(numbers, 2 * numbers_.capacity()));
+  if (words > measured_.capacity()) measured_.reserve(std::max(words, 2 * measured_.capacity()));
 }
 
 // Holds rows of dropouts too, up to `count` in all.
@@ -141,7 +150,9 @@ void TRCSampleBlock::HoldRows(std::size_t count) {
 }
 
 void TRCSampleBlock::KeepStarts() {
-  for (std::size_t row = 0; row <= held_rows_; ++row) starts_.Append(row * columns_);
+  TRCRowStarts starts;
+  for (std::size_t row = 0; row <= held_rows_; ++row) starts.Append(row * columns_);
+  std::swap(starts, starts_);
 }
 
 bool TRCSampleBlock::SetPosition(std::size_t row, std::size_t column, double x, double y,
@@ -162,6 +173,7 @@ bool TRCSampleBlock::SetPosition(std::size_t row, std::size_t column, double x, 
 // In a row without any.
 void TRCSampleBlock::InsertSample(std::size_t row) {
   const std::size_t sample = StartOf(row);
+  MakeRoom(SampleCount() + 1);
   InsertMark(sample);
   numbers_.insert(numbers_.begin() + static_cast<std::ptrdiff_t>(kCoordinates * sample),
                   kCoordinates, 0.0);

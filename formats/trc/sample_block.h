@@ -11,7 +11,8 @@
 // marker, in that x, y and z. Rows and columns count from 0. A row ends where its line in a file
 // ends: samples behind that are dropouts, and take no room. Which of the others are positions, a
 // bit for each tells. So a short file whose lines are blank for a thousand markers takes no more
-// memory than its bytes suggest.
+// memory than its bytes suggest. What fails for want of memory, by std::bad_alloc or
+// std::length_error, changes nothing.
 namespace orvane {
 
 class TRCSampleBlock {
@@ -109,6 +110,7 @@ class TRCSampleBlock {
   }
   template <typename IsPosition>
   void AppendHeldRow(std::span<const double> numbers, IsPosition is_position);
+  void MakeRoom(std::size_t samples);
   void HoldRows(std::size_t count);
   void KeepStarts();
   void InsertSample(std::size_t row);

@@ -1,9 +1,7 @@
 #include <gtest/gtest.h>
 
-#include <cstddef>
-#include <cstdlib>
 #include <functional>
-#include <new>
+#include <string>
 
 #include "cli/common/outputs.h"
 #include "cli/export/exported_motion.h"
@@ -14,37 +12,19 @@
 #include "inspect/summary/bvk_summary.h"
 #include "tests/cli/orvane_test.h"
 #include "tests/host/scene/scene_fixture.h"
+#include "tests/support/failing_memory.h"
 #include "tests/support/temporary_folder.h"
 
-// What is said when memory runs out at any moment of a look at what the plug-in has written. This
-// program has an allocation fail, the one that is counted down to.
-
-namespace {
-
-int allocations_left = -1;  // before the one that fails; below 0 none does
-
-}  // namespace
-
-void* operator new(std::size_t size) {
-  if (allocations_left >= 0 && allocations_left-- == 0) throw std::bad_alloc();
-  void* const memory = std::malloc(size == 0 ? 1 : size);
-  if (memory == nullptr) throw std::bad_alloc();
-  return memory;
-}
-
-void operator delete(void* memory) noexcept { std::free(memory); }
-void operator delete(void* memory, std::size_t) noexcept { std::free(memory); }
-
+// What is said when memory runs out at any moment of a look at what the plug-in has written.
 namespace {
 
 // Lets each allocation of `look` fail once, and expects that memory is then blamed.
 void ExpectBlameOfMemory(const std::string& name, const std::function<void()>& look) {
   int failures = 0;
   for (bool has_failed = true; has_failed; ++failures) {
-    allocations_left = failures;
+    test::FailAllocationAfter(failures);
     try {
       look();
-      has_failed = allocations_left < 0;
     } catch (const cli::Failure& failure) {
       EXPECT_EQ(failure.status, cli::ExitStatus::kInputOutput);
       EXPECT_EQ(failure.complaints.front().subject, name);
@@ -52,7 +32,7 @@ void ExpectBlameOfMemory(const std::string& name, const std::function<void()>& l
                 "could not be read back: There is not enough memory");
       EXPECT_EQ(failure.complaints.front().advice, "");
     }
-    allocations_left = -1;
+    has_failed = test::StopFailingAllocations();
   }
   EXPECT_GT(failures, 3);
 }
