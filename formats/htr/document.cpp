@@ -28,6 +28,7 @@ HtrSegment* HtrDocument::AddSegment(const HtrSegment& segment) {
   const std::string& name = segment.name_.Get();
   if (name.find(' ') != std::string::npos) return nullptr;
   if (names_changed_) RefreshNames();
+  by_name_.MakeRoom();
   HtrSegment& stored = segments_.emplace_back(segment);
   const std::size_t index = segments_.size() - 1;
   if (!by_name_.Add(stored.name_.Get(), index, NameAt())) {

@@ -62,7 +62,8 @@ class HtrDocument {
   const std::deque<HtrSegment>& segments() const { return segments_; }
 
   // Copies `segment` behind the others and returns the stored copy, which the document owns.
-  // Returns null, adding nothing, when its name is taken (case counts) or holds a blank.
+  // Returns null, adding nothing, when its name is taken (case counts) or holds a blank. Adds
+  // nothing either when it throws std::bad_alloc.
   HtrSegment* AddSegment(const HtrSegment& segment);
 
   // The first segment of that very name, in constant time; null when there is none.

@@ -26,12 +26,17 @@ class NameIndex {
     size_ = 0;
   }
 
+  // Makes room for one name more, so that adding it does not fail.
+  void MakeRoom() {
+    if (2 * (size_ + 1) > slots_.size()) Grow();
+  }
+
   // Takes up `name`, which stands at `index`. Returns false, changing nothing, when it has that
   // name. REQUIRES: `name_at` tells the same names as before; `index` is below 2^32 - 1.
   template <typename NameAt>
   bool Add(std::string_view name, std::size_t index, const NameAt& name_at) {
     assert(index < kEmpty);
-    if (2 * (size_ + 1) > slots_.size()) Grow();
+    MakeRoom();
     const std::uint32_t hash = HashOf(name);
     Slot& slot = slots_[Seek(hash, name, name_at)];
     if (slot.index != kEmpty) return false;
