@@ -2,6 +2,11 @@
 
 from __future__ import annotations
 
+from typing import TYPE_CHECKING
+
+if TYPE_CHECKING:
+    from orvane.findings import Finding
+
 
 class FileError(Exception):
     """A file cannot be read, written or used; nothing has been made of it.
@@ -10,7 +15,7 @@ class FileError(Exception):
     where in it, and are ``None`` where that is no place in the file. ``code`` is the one that
     ``orvane check`` and docs/findings.md have for it, or one of ``file-missing``,
     ``file-unreadable``, ``file-refused``, ``file-misread``, ``array-too-large``, ``file-exists``,
-    ``file-unwritable`` and ``refused``.
+    ``file-unwritable`` and ``refused``. ``findings`` is what the program had found until then.
 
     >>> import orvane
     >>> try:
@@ -21,13 +26,14 @@ class FileError(Exception):
     """
 
     def __init__(self, path: str, message: str, line: int = 0, column: int = 0,
-                 code: str = "refused") -> None:
-        super().__init__(path, message, line, column, code)
+                 code: str = "refused", findings: tuple[Finding, ...] = ()) -> None:
+        super().__init__(path, message, line, column, code, findings)
         self.path = path
         self.message = message
         self.line = line or None
         self.column = column or None
         self.code = code
+        self.findings = findings
 
     def __str__(self) -> str:
         place = f":{self.line}:{self.column}" if self.line else ""

@@ -86,9 +86,10 @@ def run(verb: str, path: str, arguments: list[str]) -> Run:
     """Does what the verb does with the file ``path``. Raises a FileError when it gives up."""
     if "--module" in _orvane.flags_of(verb):
         arguments = [*arguments, "--module=" + MODULE]
+    wanted = [each for each in arguments if each.startswith("--report=")]
     with tempfile.TemporaryDirectory(prefix="orvane-") as folder:
-        report = os.path.join(folder, "report.json")
-        words = [verb, *arguments, "--report=" + report, "--", path]
+        report = wanted[0][len("--report="):] if wanted else os.path.join(folder, "report.json")
+        words = [verb, *arguments, *([] if wanted else ["--report=" + report]), "--", path]
         status, output, told, complaints = _orvane.run(words)
         findings = _findings_in(report)
     if status == INTERRUPTED:
@@ -119,18 +120,23 @@ def _complaints_in(told: str) -> list[Complaint]:
 
 
 def _sentence(subject: str, text: str, advice: str) -> str:
-    return ". ".join(part for part in ((f"{subject}: " if subject else "") + text, advice) if part)
+    text = (f"{subject}: " if subject else "") + text
+    advice = re.sub(r"--force\b", "force=True", advice)
+    return ". ".join(part for part in (text.rstrip("."), advice) if part)
 
 
 def _error(path: str, complaints: list[Complaint], findings: tuple[Finding, ...]) -> FileError:
     worst = next((each for each in findings if each.severity == "error"), None)
     if worst is not None:
-        return FileError(path, f"{worst.cause}. {worst.consequence}", worst.line, worst.column,
-                         worst.code)
+        names = ": " + ", ".join(map(repr, worst.names)) if worst.names else ""
+        return FileError(path, f"{worst.cause}{names}. {worst.consequence}", worst.line or 0,
+                         worst.column or 0, worst.code, findings)
     subject, text, advice = complaints[-1] if complaints else ("", "was refused", "")
     code = re.search(r" \[([a-z0-9-]+)\]$", text)
     if code:
         text = text[:code.start()]
     name = code[1] if code else CODES.get(text, "refused")
     kind = MissingFileError if name == "file-missing" else FileError
-    return kind(subject or path, _sentence("", text, advice), code=name)
+    if subject.startswith("--"):
+        subject, text = path, f"{subject}: {text}"
+    return kind(subject or path, _sentence("", text, advice), code=name, findings=findings)

@@ -2,6 +2,7 @@
 
 from __future__ import annotations
 
+import json
 import pathlib
 
 import orvane
@@ -33,3 +34,30 @@ def test_names_are_lists_and_mappings(folder):
 def test_an_option_that_there_is_not_is_an_error(folder):
     with pytest.raises(TypeError, match="cutt"):
         orvane.rewrite("walk.trc", "part.trc", cutt=(1, 2))
+
+
+def test_a_refusal_tells_of_the_file_and_what_was_found(folder):
+    with pytest.raises(orvane.FileError) as refusal:
+        orvane.rewrite("walk.trc", "two.trc", rename={"nobody": "A"}, strict=True)
+    assert refusal.value.path == "walk.trc"
+    assert "rewrite-rename-unknown" in [each.code for each in refusal.value.findings]
+    with pytest.raises(orvane.FileError, match="'walker:C8'"):
+        orvane.rewrite("walk.trc", "two.trc", select=["walker:C8"])
+    assert not pathlib.Path("two.trc").exists()
+
+
+def test_advice_is_that_of_python(folder):
+    pathlib.Path("mine.trc").write_text("mine")
+    with pytest.raises(orvane.FileError, match="force=True replaces it"):
+        orvane.rewrite("walk.trc", "mine.trc", warn=False)
+
+
+def test_standard_output_is_the_programs(folder):
+    with pytest.raises(ValueError, match="standard output"):
+        orvane.rewrite("walk.trc", "-")
+
+
+def test_a_report_goes_where_it_is_wanted(folder):
+    findings = orvane.rewrite("walk.trc", "new.trc", report="told.json", warn=False)
+    told = json.loads(pathlib.Path("told.json").read_text())["files"][0]["findings"]
+    assert [each["code"] for each in told] == [each.code for each in findings]
