@@ -4,7 +4,7 @@ from __future__ import annotations
 
 import os
 from abc import abstractmethod
-from collections.abc import Iterable, Mapping
+from collections.abc import Iterable, Iterator, Mapping
 from fractions import Fraction
 from typing import ClassVar, Generic, Literal, Self, TypeVar, Union
 
@@ -106,13 +106,15 @@ class FramedTake(Generic[H]):
         >>> orvane.read("walk.trc").cut(10, 19).points.shape
         (10, 41, 3)
         """
+        if first > last:
+            raise ValueError(f"frames {first} to {last} are none: the first comes behind the last")
         if not self.first_frame <= first <= last <= self.last_frame:
             raise ValueError(f"frames {first} to {last} are asked for, and {self.path} holds "
                              f"{self.first_frame} to {self.last_frame}")
         return self._made(_orvane.cut(self._held, first - self.first_frame,
                                       last - self.first_frame + 1))
 
-    def select(self, names: Iterable[str]) -> Self:
+    def select(self, names: Iterable[str] | str) -> Self:
         """Those of these names alone, in the order of the file; of segments with all they hang from.
 
         Raises a KeyError for a name that nothing has, and a ValueError for none at all.
@@ -121,7 +123,7 @@ class FramedTake(Generic[H]):
         >>> orvane.read("walk.htr").select(["Neck"]).names
         ('Hips', 'Spine', 'Chest', 'Neck')
         """
-        wanted = list(names)
+        wanted = [names] if isinstance(names, str) else list(names)
         for name in wanted:
             self.index(name)
         if not wanted:
@@ -167,8 +169,16 @@ class FramedTake(Generic[H]):
         file = os.fspath(path)
         if os.path.splitext(file)[1].lower() != self.extension:
             kind = type(self).__name__
-            raise ValueError(f"{file}: a {kind} is written to a name in {self.extension}")
+            raise ValueError(f"{file}: a {kind} is written to a name in {self.extension}, of which "
+                             "orvane.rewrite makes files of other formats")
         _orvane.write_file(os.fsencode(file), self.to_bytes(decimals=decimals), force)
+
+    def __contains__(self, name: object) -> bool:
+        return name in self.names
+
+    def __iter__(self) -> Iterator[str]:
+        """Of the names, as those of a mapping."""
+        return iter(self.names)
 
     @abstractmethod
     def index(self, name: str) -> int:

@@ -136,3 +136,16 @@ def test_frames_of_lines_that_end_early_are_gaps():
     assert np.isnan(take.points[0, 1]).all() and np.isnan(take.points[1]).all()
     np.testing.assert_array_equal(take.points[2], [[1, 2, 3], [4, 5, 6]])
     assert take.gaps["B"] == ((1, 2),)
+
+
+def test_a_take_holds_its_names():
+    take = read_text(trc_text(ROWS))
+    assert "A" in take
+    assert "C" not in take
+    assert list(take) == ["A", "B"]
+    assert take.select("A").names == ("A",)
+
+
+def test_frames_that_are_none_are_an_error():
+    with pytest.raises(ValueError, match="3 to 1 are none"):
+        read_text(trc_text(ROWS)).cut(3, 1)
