@@ -71,6 +71,14 @@ function(orvane_precompile name)
   endif()
 endfunction()
 
+# orvane_compile_fast(): every byte of a file passes through the folder of the calling CMakeLists.txt, or
+# those below it. Emscripten's compiler leaves inlining to its linker unless it is asked.
+macro(orvane_compile_fast)
+  if(EMSCRIPTEN)
+    add_compile_options(-O2 -finline-functions)
+  endif()
+endmacro()
+
 # orvane_compile_small(): the folder of the calling CMakeLists.txt, and those below it, have to be
 # small rather than fast where that is what a page is made of. Functions that nobody has asked to be
 # inlined are the same ones in all files: that halves the program's verbs.
