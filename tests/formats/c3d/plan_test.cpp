@@ -188,7 +188,7 @@ TEST(C3dPlanTest, RefusesNamesThatTheParametersCannotHold) {
 
 TEST(C3dPlanTest, RefusesFramesNumberedBeyond32Bits) {
   TRCDocument document;
-  document.AddMarker(TRCMarker("A"))->AppendDropouts(std::size_t{1} << 31U);
+  document.AddMarker(TRCMarker("A"))->AppendDropouts((std::size_t{1} << 31U) + 1);
   document.SetFirstFrame(std::numeric_limits<std::int32_t>::max());
   EXPECT_EQ(PlanC3d(document, {}).refusal.value().reason, C3dRefusal::Reason::kTooManyFrames);
 }
