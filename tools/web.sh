@@ -7,9 +7,10 @@ make_page() {
   node web/build/build_page.mjs build-web
 }
 
-# What the page is made by, and what it does without a browser and in one.
+# What the page is made by, its core, and what it does without a browser and in one.
 test_page() {
   node --test web/tests/build/*_test.mjs
+  node --test web/tests/core/*_test.mjs
   node_modules/.bin/tsc --project web/tests/page
   node web/tests/page/run.mjs
   node --test web/tests/browser/*_test.mjs
