@@ -84,7 +84,8 @@ class TRCDocument {
   // Makes all markers the columns of one block, in their order, and returns it: rows that are
   // appended to it are frames of all of them, until a marker is added or samples of one alone are
   // appended. Those that have fewer samples than others get dropouts. A document that was read is
-  // that way from the beginning. REQUIRES: there is a marker.
+  // that way from the beginning. Throws std::length_error or std::bad_alloc, changing nothing, when
+  // they are more than there is memory for. REQUIRES: there is a marker.
   TRCSampleBlock& ShareBlock();
 
   // All samples as an array. The first time, or when something was appended since, it may take time

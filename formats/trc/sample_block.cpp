@@ -6,6 +6,7 @@
 #include <cassert>
 #include <cmath>
 #include <limits>
+#include <stdexcept>
 #include <utility>
 
 namespace orvane {
@@ -47,6 +48,9 @@ TRCSampleBlock TRCSampleBlock::Join(std::span<const Column> columns) {
   for (const Column& column : columns) {
     if (column.block == nullptr) continue;
     joined.row_count_ = std::max(joined.row_count_, column.block->RowCount());
+  }
+  if (joined.row_count_ > joined.numbers_.max_size() / kCoordinates / columns.size()) {
+    throw std::length_error("samples of more rows than there is memory");
   }
   const std::size_t samples = joined.row_count_ * columns.size();
   joined.held_rows_ = joined.row_count_;

@@ -35,7 +35,8 @@ class TRCSampleBlock {
     std::size_t index = 0;
     std::size_t scaled = 0;
   };
-  // Columns side by side, in rows that hold all of them, as many as the longest has.
+  // Columns side by side, in rows that hold all of them, as many as the longest has. Throws
+  // std::length_error for more than there can be. REQUIRES: there is a column.
   [[nodiscard]] static TRCSampleBlock Join(std::span<const Column> columns);
 
   [[nodiscard]] std::size_t ColumnCount() const { return columns_; }

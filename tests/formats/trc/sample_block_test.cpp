@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <limits>
 #include <random>
+#include <stdexcept>
 #include <string>
 #include <vector>
 
@@ -152,6 +153,17 @@ TEST(TRCSampleBlockTest, KeepsWhatScalingMadeOfDropouts) {
     EXPECT_EQ(ColumnsOf(document), expected);
     EXPECT_EQ(document.MarkerAt(1)->Gaps().size(), 1U);
   }
+}
+
+// Four columns of these are as many samples as a number of this machine wraps to none.
+TEST(TRCSampleBlockTest, RefusesMoreSamplesThanThereCanBe) {
+  TRCDocument document;
+  WithMarkers(document, 4);
+  const std::size_t rows = std::numeric_limits<std::size_t>::max() / 4 + 1;
+  document.MarkerAt(0)->AppendDropouts(rows);
+  EXPECT_THROW(document.ShareBlock(), std::length_error);
+  EXPECT_EQ(document.MarkerAt(0)->SampleCount(), rows);
+  EXPECT_EQ(document.MarkerAt(1)->SampleCount(), 0U);
 }
 
 TEST(TRCSampleBlockTest, GivesACopyOfAMarkerSamplesOfItsOwn) {
