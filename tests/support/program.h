@@ -21,6 +21,9 @@ struct ProgramRun {
 
   // Variables set besides those of the test's environment, as "NAME=value".
   std::vector<std::string> environment{};
+
+  // Whether standard output is told byte for byte; a text has line feeds alone on every system.
+  bool writes_bytes = false;
 };
 
 // Runs the program to its end. Throws std::runtime_error when it cannot be started.

@@ -27,9 +27,10 @@ TEST_F(RewriteCsvTest, MakesTablesOfMarkers) {
   EXPECT_EQ(Read("wide.csv"),
             "Frame,Time,A.x,A.y,A.z,b c.x,b c.y,b c.z\r\n,s,mm,mm,mm,mm,mm,mm\r\n"
             "1,0.000000,1,2,3.5,,,\r\n2,0.016683,4,5,6,7,8,9\r\n");
-  const ProgramResult result =
-      Orvane({"rewrite", "take.trc", "-o", "-", "--to", "csv", "--layout", "long", "--quiet"});
-  EXPECT_EQ(result.output,
+  test::ProgramRun run =
+      Command({"rewrite", "take.trc", "-o", "-", "--to", "csv", "--layout", "long", "--quiet"});
+  run.writes_bytes = true;
+  EXPECT_EQ(RunProgram(run).output,
             "Frame,Time,Marker,x,y,z\r\n,s,,mm,mm,mm\r\n1,0.000000,A,1,2,3.5\r\n"
             "1,0.000000,b c,,,\r\n2,0.016683,A,4,5,6\r\n2,0.016683,b c,7,8,9\r\n");
 }

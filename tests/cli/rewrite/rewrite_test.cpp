@@ -93,6 +93,7 @@ TEST_F(RewriteTest, WritesToStandardOutputAndReadsFromStandardInput) {
   ASSERT_EQ(Rewrite("take.trc", "new.trc").status, 0);
   test::ProgramRun run = Command({"rewrite", "-", "-o", "-", "--name", "new.trc"});
   run.input_file = folder_.File("take.trc");
+  run.writes_bytes = true;
   const ProgramResult result = RunProgram(run);
   EXPECT_EQ(result.status, 0) << result.error;
   EXPECT_EQ(result.output, Read("new.trc"));

@@ -61,14 +61,20 @@ class Stream {
     write_end_ = nullptr;
   }
 
-  // To its end, with line ends as everywhere else.
-  std::string Read() const {
+  // To its end.
+  std::string ReadBytes() const {
     std::string text;
     std::array<char, 65536> buffer;
     DWORD count = 0;
     while (ReadFile(read_end_, buffer.data(), buffer.size(), &count, nullptr) && count > 0) {
       text.append(buffer.data(), count);
     }
+    return text;
+  }
+
+  // The same, with line ends as everywhere else.
+  std::string ReadText() const {
+    std::string text = ReadBytes();
     std::erase(text, '\r');
     return text;
   }
@@ -133,8 +139,8 @@ ProgramResult RunProgram(const ProgramRun& run) {
   output.CloseWriteEnd();
   error.CloseWriteEnd();
   ProgramResult result;
-  std::thread reader([&] { result.error = error.Read(); });
-  result.output = output.Read();
+  std::thread reader([&] { result.error = error.ReadText(); });
+  result.output = run.writes_bytes ? output.ReadBytes() : output.ReadText();
   reader.join();
   WaitForSingleObject(process, INFINITE);
   DWORD status = 0;
