@@ -2,18 +2,8 @@
 
 #include <CLI/CLI.hpp>
 
-#include "cli/check/check_command.h"
-#include "cli/compare/compare_command.h"
-#include "cli/convert/convert_command.h"
-#include "cli/export/export_command.h"
-#include "cli/help/help_command.h"
 #include "cli/help/help_page.h"
-#include "cli/import/import_command.h"
-#include "cli/info/info_command.h"
-#include "cli/map/map_command.h"
-#include "cli/rewrite/rewrite_command.h"
-#include "cli/scene/scene_command.h"
-#include "cli/view/view_command.h"
+#include "cli/verbs.h"
 
 namespace cli {
 
@@ -27,17 +17,7 @@ std::unique_ptr<CLI::App> MakeParser(Work& work) {
   app->allow_windows_style_options(false);  // "/takes/walk.htr" is a file on every system
   app->set_version_flag("--version", "orvane " ORVANE_VERSION, "Show the version");
   app->require_subcommand(1);
-  AddImportCommand(*app, work);
-  AddExportCommand(*app, work);
-  AddInfoCommand(*app, work);
-  AddConvertCommand(*app, work);
-  AddRewriteCommand(*app, work);
-  AddCheckCommand(*app, work);
-  AddCompareCommand(*app, work);
-  AddMapCommand(*app, work);
-  AddSceneCommand(*app, work);
-  AddViewCommand(*app, work);
-  AddHelpCommand(*app, work);
+  AddVerbs(*app, work);
   return app;
 }
 

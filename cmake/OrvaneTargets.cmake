@@ -154,14 +154,15 @@ function(orvane_apply_test_settings target)
   orvane_define_folders(${target})
 endfunction()
 
-# orvane_test(name SOURCES file... [LINKS target...] [LABELS label...] [PREFIX text]): one test
-# program per folder. A program that runs tests of another one says with PREFIX how theirs are told
-# apart.
+# orvane_test(name SOURCES file... [LINKS target...] [LABELS label...] [PREFIX text] [PARTS count]):
+# one test program per folder. A program that runs tests of another one says with PREFIX how theirs
+# are told apart. One that takes long where its cases are not apart says with PARTS into how many
+# runs its tests are dealt out, which stand side by side.
 # The label "large" is for those that take seconds, which have a program of their own; ctest
 # --label-exclude large leaves them out. For other systems they are not built: they would say the
 # same of the same code.
 function(orvane_test name)
-  cmake_parse_arguments(ARG "" "PREFIX" "SOURCES;LINKS;LABELS" ${ARGN})
+  cmake_parse_arguments(ARG "" "PREFIX;PARTS" "SOURCES;LINKS;LABELS" ${ARGN})
   if(NOT ARG_SOURCES)
     message(FATAL_ERROR "${name} has no sources: it would run no test, and pass.")
   endif()
@@ -184,6 +185,13 @@ function(orvane_test name)
   if(ORVANE_TEST_CASES_APART)
     gtest_discover_tests(${name} NO_PRETTY_VALUES DISCOVERY_TIMEOUT 60 TEST_PREFIX "${ARG_PREFIX}"
       PROPERTIES TIMEOUT ${timeout} ${labels})
+  elseif(ARG_PARTS)
+    math(EXPR last "${ARG_PARTS} - 1")
+    foreach(part RANGE ${last})
+      add_test(NAME ${name}.${part} COMMAND ${name} --gtest_brief=1)
+      set_tests_properties(${name}.${part} PROPERTIES TIMEOUT 900 ${labels}
+        ENVIRONMENT "GTEST_TOTAL_SHARDS=${ARG_PARTS};GTEST_SHARD_INDEX=${part}")
+    endforeach()
   else()
     add_test(NAME ${name} COMMAND ${name} --gtest_brief=1)
     set_tests_properties(${name} PROPERTIES TIMEOUT 900 ${labels})

@@ -7,10 +7,11 @@ set(CMAKE_CROSSCOMPILING_EMULATOR "${ORVANE_NODE};--no-experimental-fetch"
 
 include(/usr/share/emscripten/cmake/Modules/Platform/Emscripten.cmake)
 
-# Exceptions that are caught, which its libraries are not built for unless told, at linking too.
-set(CMAKE_C_FLAGS_INIT "-fexceptions")
-set(CMAKE_CXX_FLAGS_INIT "-fexceptions")
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-fexceptions -sALLOW_MEMORY_GROWTH=1")
+# Exceptions that WebAssembly itself throws and catches: those by way of JavaScript make a program half
+# as large again, and each call that one might leave a slow one. At linking they choose the libraries.
+set(CMAKE_C_FLAGS_INIT "-fwasm-exceptions")
+set(CMAKE_CXX_FLAGS_INIT "-fwasm-exceptions")
+set(CMAKE_EXE_LINKER_FLAGS_INIT "-fwasm-exceptions -sALLOW_MEMORY_GROWTH=1")
 
 # Where Debian keeps the libraries of Node that the linker's own scripts use.
 set(CMAKE_CXX_LINKER_LAUNCHER "${CMAKE_COMMAND}" -E env NODE_PATH=/usr/share/nodejs)

@@ -201,6 +201,7 @@ DAMAGES = [
      delete_lines(FIRST_FRAME + 9, FIRST_FRAME + 10, FIRST_FRAME + 9)),
     ("frame-number-repeated", "trc-frame-number", change_field(FIRST_FRAME + 9, 0, b"9")),
     ("other-times", "trc-time-differs", shows_at(FIRST_FRAME + 3, change_field(VALUES, 0, b"30"))),
+    ("time-code", "trc-time-unreadable", change_field(FIRST_FRAME, 1, b"10:22:07:05")),
     ("more-announced", "trc-frame-count", change_field(VALUES, 2, b"900")),
     ("fewer-announced", "trc-frame-count", change_field(VALUES, 2, b"100")),
     ("none-announced", "trc-frames-unannounced", change_field(VALUES, 2, b"0")),

@@ -53,8 +53,9 @@ struct DialogTemplate {
 inline constexpr std::uint32_t kStyleDisabled = 0x08000000;
 inline constexpr std::uint32_t kStyleGroup = 0x00020000;
 inline constexpr std::uint32_t kStyleTabStop = 0x00010000;
-inline constexpr std::uint32_t kStyleChild = 0x40000000;  // part of another window
-inline constexpr std::uint32_t kStyleReadOnly = 0x0800;   // of an edit control
+inline constexpr std::uint32_t kStyleChild = 0x40000000;     // part of another window
+inline constexpr std::uint32_t kStyleCloseBox = 0x00080000;  // of a dialog with a frame
+inline constexpr std::uint32_t kStyleReadOnly = 0x0800;      // of an edit control
 
 // Reads the bytes of an extended dialog resource (DIALOGEX).
 // Returns nothing when they are cut short or another kind of resource.

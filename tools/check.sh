@@ -17,7 +17,7 @@ check_format() {
 }
 
 check_scripts() {
-  our_files dev .ci/run tools/render_scene.sh | xargs --no-run-if-empty shellcheck --external-sources --check-sourced
+  our_files dev .ci/run tools/render_scene.sh web/core/linking/wasm-opt | xargs --no-run-if-empty shellcheck --external-sources --check-sourced
 }
 
 check_includes() {

@@ -22,16 +22,26 @@ std::optional<std::int32_t> WholeNumber(std::string_view text) {
   return number;
 }
 
+// The number that `text` is, and `open` of none.
+std::optional<std::int64_t> EndIn(std::string_view text, std::int64_t open) {
+  if (text.empty()) return open;
+  return WholeNumber(text);
+}
+
 FrameSpan ReadSpan(const std::string& text) {
-  const std::size_t colon = text.find(':');
-  const bool has_both = colon != std::string::npos;
-  const auto first = WholeNumber(std::string_view(text).substr(0, colon));
-  const auto last = has_both ? WholeNumber(std::string_view(text).substr(colon + 1)) : std::nullopt;
-  if (!first || !last) {
-    throw CLI::ValidationError("--cut", "two frame numbers, FROM:TO, are expected, not " + text);
+  const std::string_view all = text;
+  const std::size_t colon = all.find(':');
+  if (colon != std::string_view::npos && all.size() > 1) {
+    const auto first = EndIn(all.substr(0, colon), orvane::kFromFirst);
+    const auto last = EndIn(all.substr(colon + 1), orvane::kToLast);
+    if (first && last && *last < *first) {
+      throw CLI::ValidationError("--cut", text + " ends before it begins");
+    }
+    if (first && last) return {*first, *last};
   }
-  if (*last < *first) throw CLI::ValidationError("--cut", text + " ends before it begins");
-  return {*first, *last};
+  throw CLI::ValidationError(
+      "--cut",
+      "two frame numbers, FROM:TO, or one of them, FROM: or :TO, are expected, not " + text);
 }
 
 std::string Require(const std::string& file, std::optional<std::string> cut) {
@@ -57,7 +67,8 @@ CLI::Option* AddCutFlag(CLI::App& verb, std::optional<FrameSpan>& asked) {
   return verb
       .add_option_function<std::string>(
           "--cut", [&asked](const std::string& text) { asked = ReadSpan(text); },
-          "Take the frames FROM to TO alone, by the numbers that info shows (all)")
+          "Take the frames FROM to TO alone, by the numbers that info shows; without one of them "
+          "from the first or to the last frame (all)")
       ->type_name("FROM:TO");
 }
 

@@ -9,6 +9,7 @@
 #include "cli/common/input_files.h"
 #include "formats/text/files.h"
 #include "inspect/check/content_kind.h"
+#include "inspect/check/similar_words.h"
 #include "platform/input_file.h"
 
 namespace cli {
@@ -98,7 +99,7 @@ SelectionMade Select(host::Scene& scene, const std::vector<std::string>& names) 
   for (const std::string& name : names) {
     const std::vector<host::Node*> nodes = NodesNamed(scene, name);
     if (nodes.empty()) {
-      AddOnce({name, orvane::FindSimilar(name, NamesIn(scene))}, made.unknown);
+      AddOnce({name, std::string(orvane::MostSimilar(name, NamesIn(scene)))}, made.unknown);
       continue;
     }
     if (nodes.size() > 1) {

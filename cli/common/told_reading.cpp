@@ -61,6 +61,11 @@ FileReport ReportOnReading(CheckedFile& checked, const Document& document,
   }
   FileReport report = ReportOn(checked, purpose.action, options);
   for (const std::string_view code : purpose.settled) report = report.Without(code);
+  for (const auto& [code, consequence] : purpose.consequences) {
+    for (orvane::ReportedFinding& finding : report.findings) {
+      if (finding.code == code) finding.consequence = consequence;
+    }
+  }
   return report;
 }
 

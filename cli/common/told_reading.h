@@ -3,6 +3,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "cli/common/input_file.h"
@@ -16,11 +17,15 @@
 
 namespace cli {
 
+// What becomes of what codes tell of, a sentence each.
+using Consequences = std::vector<std::pair<std::string_view, std::string>>;
+
 // What the reading is for, which says what findings mean.
 struct Purpose {
   orvane::Action action = orvane::Action::kInspect;
   orvane::ActionOptions options{};
   std::vector<std::string_view> settled{};  // codes of what is seen to, which are not told
+  Consequences consequences{};              // in the place of those that the action has
 };
 
 // Reads `file` into `document`, which is empty, tells what is odd in it, and returns that. Throws a

@@ -58,9 +58,4 @@ struct Conversion {
 
 [[nodiscard]] ExitStatus ExitStatusOf(ConversionStatus status);
 
-// The conversions in a form that passes between processes, and back.
-// REQUIRES: `bytes` are of PackConversions.
-[[nodiscard]] std::string PackConversions(const std::vector<Conversion>& conversions);
-[[nodiscard]] std::vector<Conversion> UnpackConversions(std::string_view bytes);
-
 }  // namespace cli

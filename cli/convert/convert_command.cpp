@@ -22,6 +22,7 @@
 #include "cli/convert/conversion_report.h"
 #include "cli/convert/convert_flags.h"
 #include "cli/convert/mapping_preview.h"
+#include "cli/convert/packed_conversions.h"
 #include "formats/text/numbers.h"
 #include "inspect/check/mnm_check.h"
 #include "platform/input_file.h"

@@ -14,16 +14,6 @@
 namespace cli {
 namespace {
 
-// The standard name of what `description` asks for; empty when there is no such marker.
-std::string AskedName(const std::string& description, const orvane::WristSticks& sticks) {
-  for (std::size_t index = 0; index < orvane::kMarkerSteps; ++index) {
-    for (const orvane::StandardMarker& marker : orvane::MarkerStepAt(index, sticks).markers) {
-      if (marker.description == description) return std::string(marker.name);
-    }
-  }
-  return "";
-}
-
 host::ScriptedDialog& Shown(PluginSession& session, int dialog_id) {
   host::ScriptedDialog* const dialog = session.desktop().ShownDialog(dialog_id);
   if (dialog != nullptr) return *dialog;
@@ -63,7 +53,7 @@ int MappingUser::Answer(const host::UserMessage& message) const {
 void MappingUser::Act() {
   host::ScriptedDialog& creator = Shown(session_, IDD_MAPPING_CREATOR);
   if (platform::Interrupted()) return creator.Click(IDC_ABORT);
-  const std::string name = AskedName(creator.Text(IDC_MARKER_DESCRIPTION), sticks_);
+  const std::string name(orvane::StandardNameOf(creator.Text(IDC_MARKER_DESCRIPTION)));
   const std::optional<std::string> pick = picks_.PickFor(name);
   if (!pick) return creator.Click(IDC_SKIP);
   host::Node* const node = session_.scene().FindByName(*pick);

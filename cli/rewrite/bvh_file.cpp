@@ -153,7 +153,7 @@ std::vector<RewriteLoss> LossesOf(const BvhLosses& lost, const HtrDocument& docu
                       "The frames of the new file have no numbers."});
   }
   const std::string_view unit = orvane::CalibrationUnitsName(document.GetCalibrationUnits());
-  losses.push_back({"rewrite-unit-lost", {}, std::string(unit), ""});
+  losses.push_back({"rewrite-unit-lost", {}, unit == "in" ? "inches" : std::string(unit), ""});
   return losses;
 }
 

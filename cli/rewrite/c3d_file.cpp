@@ -26,6 +26,7 @@ using orvane::TRCDocument;
 C3dOptions OptionsFor(const Wording& wording) {
   constexpr std::size_t kLongestRate = 255;
   C3dOptions options;
+  options.first_time = wording.first_time;
   if (const auto rate = orvane::ParseFrameRate(wording.rates.data)) {
     const double number =
         static_cast<double>(rate->numerator) / static_cast<double>(rate->denominator);
@@ -133,6 +134,11 @@ void AddFrames(const C3dPlan& plan, const TRCDocument& document, std::vector<Rew
                       orvane::FormatInt(*lost.first_frame),
                       "The frames of the new file are numbered from 1."});
   }
+  if (lost.first_time) {
+    constexpr int kDecimals = 3;
+    losses.push_back(
+        {"rewrite-time-lost", {}, orvane::FormatDouble(*lost.first_time, kDecimals) + " s", ""});
+  }
   if (lost.is_beyond_header) {
     losses.push_back({"rewrite-frames-uncounted",
                       {},
@@ -156,7 +162,8 @@ PreparedFile PrepareC3d(const TRCDocument& document, const Wording& wording) {
   auto plan = std::make_shared<const C3dPlan>(PlanC3d(document, OptionsFor(wording)));
   if (plan->refusal) return Refusing(Worded(*plan->refusal, document, wording));
   return {LossesOf(*plan, document, wording),
-          [plan](const orvane::TextTaker& take) { PrintC3d(*plan, take); }};
+          [plan](const orvane::TextTaker& take) { PrintC3d(*plan, take); }, std::nullopt,
+          std::int64_t{plan->first_frame}};
 }
 
 }  // namespace cli

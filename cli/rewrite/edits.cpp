@@ -20,6 +20,7 @@
 #include "formats/text/numbers.h"
 #include "formats/units/units.h"
 #include "inspect/check/similar_words.h"
+#include "inspect/summary/subject_measure.h"
 
 namespace cli {
 namespace {
@@ -95,6 +96,11 @@ void TurnUp(TRCDocument& document, UpAxis up) {
   if (up == UpAxis::kZ) TurnZUp(document);
 }
 
+bool SaysZUp(const HtrDocument& document) {
+  return document.GetGlobalAxisofGravity() == orvane::kAxisZ;
+}
+bool SaysZUp(const TRCDocument& /*document*/) { return false; }
+
 bool IsIn(const Names& names, const std::string& name) {
   return std::find(names.begin(), names.end(), name) != names.end();
 }
@@ -148,6 +154,19 @@ FrameStep StepBetween(const FrameRate& old_rate, const FrameRate& new_rate,
   throw Refused(file, "its frame rate and --rate have too many digits to be compared", "");
 }
 
+// The gaps that are left are of no account to motion.
+void TellOfGaps(const HtrDocument& /*document*/, orvane::RewriteCircumstances& /*told*/) {}
+void TellOfGaps(const TRCDocument& document, orvane::RewriteCircumstances& told) {
+  const auto frames = static_cast<std::size_t>(FramesHeld(document).Count());
+  const auto all = document.Gaps();
+  for (std::size_t index = 0; index < all.size(); ++index) {
+    if (all[index].empty()) continue;
+    const orvane::TRCMarker::Gap& first = all[index].front();
+    const bool is_seen = first.begin > 0 || first.end < frames;
+    (is_seen ? told.with_gaps : told.never_seen).push_back(document.MarkerAt(index)->Name());
+  }
+}
+
 template <typename Document>
 class Editing {
  public:
@@ -160,10 +179,12 @@ class Editing {
     if (!file_.circumstances.unselected.empty()) return;
     RenameAll();
     if (order_.unit) ConvertTo(*order_.unit);
-    if (order_.up) TurnUp(*file_.document, *order_.up);
+    if (order_.up) Turn(*order_.up);
     if (!order_.rate.empty()) ChangeRate();
     if (order_.start_frame) SetFirstFrame(*file_.document, *order_.start_frame);
+    if (order_.start_time) file_.first_time = *order_.start_time;
     RequireNumbers();
+    if (TakesPart(order_)) TellOfGaps(*file_.document, file_.circumstances);
   }
 
  private:
@@ -185,6 +206,13 @@ class Editing {
       CutFrames(source, static_cast<std::size_t>(frames.first - held.first),
                 static_cast<std::size_t>(frames.last - held.first + 1), target);
     });
+    const double rate = orvane::ParseDouble(RateText());
+    const auto skipped = static_cast<double>(frames.first - held.first);
+    if (rate > 0) file_.first_time += skipped / rate;
+  }
+
+  [[nodiscard]] std::string RateText() const {
+    return file_.rates.data.empty() ? orvane::FormatInt(RateOf(*file_.document)) : file_.rates.data;
   }
 
   void SelectNames() {
@@ -231,9 +259,16 @@ class Editing {
     ConvertLengths(*file_.document, code);
   }
 
+  void Turn(UpAxis up) {
+    if (up == UpAxis::kZ && !SaysZUp(*file_.document)) {
+      const auto subject = MeasureSubject(*file_.document);
+      file_.circumstances.stands_along_y = subject && SeemsToStandAlongY(*subject);
+    }
+    TurnUp(*file_.document, up);
+  }
+
   void ChangeRate() {
-    const std::string old_text =
-        file_.rates.data.empty() ? orvane::FormatInt(RateOf(*file_.document)) : file_.rates.data;
+    const std::string old_text = RateText();
     const auto old_rate = orvane::ParseFrameRate(old_text);
     if (!old_rate) throw Refused(file_.name, "it has no frame rate that --rate could change", "");
     const FrameStep step = StepBetween(*old_rate, *orvane::ParseFrameRate(order_.rate), file_.name);
@@ -270,6 +305,7 @@ class Editing {
                                     static_cast<std::size_t>(step.denominator);
     const bool is_slerp = order_.resampling == orvane::RotationPath::kSlerp;
     constexpr bool kHasRotations = std::is_same_v<Document, HtrDocument>;
+    file_.circumstances.has_rotations = kHasRotations;
     file_.circumstances.resampled = orvane::ResampledFrames{
         count, count - of_the_file,
         kHasRotations && is_slerp ? "linearly, rotations by slerp" : "linearly"};

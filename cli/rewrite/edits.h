@@ -18,8 +18,14 @@ struct EditedFile {
   std::string name;  // as the user knows it
   std::unique_ptr<Document> document = std::make_unique<Document>();
   orvane::RateTexts rates{};
+  double first_time = 0.0;                       // of the first frame, in seconds
   orvane::RewriteCircumstances circumstances{};  // what is to be told of the edits
 };
+
+// Whether `order` leaves frames, segments or markers out.
+[[nodiscard]] inline bool TakesPart(const RewriteOrder& order) {
+  return order.cut || !order.selection.empty();
+}
 
 // Does with `file` what `order` says: frames, segments or markers, names, unit, axis, rate and
 // numbers, in this order, so that selected names are those of the file. Names that nothing has are

@@ -53,6 +53,7 @@ void PrintAsTrc(const orvane::TRCDocument& document, const Wording& wording,
   manner.data_rate = wording.rates.data;
   manner.camera_rate = wording.rates.camera;
   manner.original_rate = wording.rates.original;
+  manner.first_time = wording.first_time;
   manner.name = wording.name;
   const std::string why = PrintTrc(document, take, manner);
   if (why.empty()) return;
@@ -69,6 +70,7 @@ void PrintAsCsv(const Document& document, const Wording& wording, const orvane::
   table.numbers = wording.order.numbers;
   table.frames_per_second =
       wording.rates.data.empty() ? RateOf(document) : orvane::ParseDouble(wording.rates.data);
+  table.first_time = wording.first_time;
   PrintCsv(document, take, table);
 }
 
@@ -139,10 +141,17 @@ const FormatRow& RowOf(OutputFormat format) {
   return kFormats.front();
 }
 
-// The extension of `output` without its full stop.
-std::string ExtensionIn(const std::string& output) {
-  const std::string extension = platform::TextOf(platform::PathOf(output).extension());
+// The extension of `name` without its full stop.
+std::string ExtensionIn(const std::string& name) {
+  const std::string extension = platform::TextOf(platform::PathOf(name).extension());
   return extension.empty() ? extension : extension.substr(1);
+}
+
+// Whether neither the user nor the name of the input says what that is.
+bool IsGuessed(const RewriteOrder& order) {
+  if (order.kind || order.input == "-") return false;
+  const std::string extension = ExtensionIn(order.input);
+  return !host::SameButForCase(extension, "htr") && !host::SameButForCase(extension, "trc");
 }
 
 Failure WrongUsage(const Complaint& complaint) { return {ExitStatus::kWrongUsage, {complaint}}; }
@@ -157,6 +166,10 @@ void RequireFlagsOf(const FormatRow& row, FileKind kind, const RewriteOrder& ord
     if (!host::SameButForCase(name, row.name)) {
       throw WrongUsage({flag, "is for " + name + " files", ""});
     }
+  }
+  const bool holds_times = row.format == OutputFormat::kTrc || row.format == OutputFormat::kCsv;
+  if (order.start_time && !holds_times) {
+    throw WrongUsage({"--start-time", "is for TRC and CSV files", ""});
   }
   if (row.is_text || order.numbers.IsShortest()) return;
   throw WrongUsage({"--decimals", "is for files of text", ""});
@@ -185,6 +198,12 @@ OutputFormat FormatFor(const RewriteOrder& order, FileKind kind) {
   if (row == nullptr) {
     throw WrongUsage({order.output, "says by no extension what is to be written",
                       "There are " + ListOfFormats() + "; --to says it, too."});
+  }
+  if (!Takes(*row, kind) && IsGuessed(order)) {
+    throw WrongUsage({order.input,
+                      std::string("is taken for an ") + ExtensionOf(kind) +
+                          " file, and of those no ." + std::string(row->name) + " is made",
+                      "--as says what it is."});
   }
   if (!Takes(*row, kind)) {
     throw WrongUsage({order.output,

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <functional>
 #include <optional>
 #include <string>
@@ -23,6 +24,7 @@ struct Wording {
   std::string input;  // as the user knows it, for refusals
   std::string name;   // of the file that is made, without folders
   orvane::RateTexts rates{};
+  double first_time = 0.0;    // of the first frame, in seconds
   const RewriteOrder& order;  // for its numbers, and what it asks of one format alone
 };
 
@@ -33,6 +35,8 @@ struct PreparedFile {
   std::function<void(const orvane::TextTaker&)> print;
   // Of the segments or markers of the document, where those are not all.
   std::optional<std::size_t> parts{};
+  // The number of its first frame, where that is not the document's.
+  std::optional<std::int64_t> first_frame{};
 };
 
 // Of the file of `wording` no other one is made.

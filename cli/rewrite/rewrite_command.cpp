@@ -18,8 +18,10 @@
 #include "cli/rewrite/rewrite_output.h"
 #include "cli/rewrite/rewrite_proportion.h"
 #include "cli/rewrite/rewrite_summary.h"
+#include "cli/rewrite/written_words.h"
 #include "formats/text/numbers.h"
 #include "inspect/report/cut_check.h"
+#include "inspect/summary/first_time.h"
 #include "platform/interrupt.h"
 #include "platform/path_text.h"
 
@@ -33,11 +35,16 @@ using orvane::TRCDocument;
 
 constexpr auto kError = orvane::FindingSeverity::kError;
 
-// What findings mean where some frames alone are taken, and heights are seen to.
-Purpose PurposeOf(const RewriteOrder& order) {
-  Purpose purpose{Action::kRewrite, {}, {}};
+// What findings mean where some frames alone are taken, and heights are seen to. Of what is left
+// out no gaps are told: edits tell those of the rest.
+Purpose PurposeOf(const RewriteOrder& order, OutputFormat format) {
+  Purpose purpose{Action::kRewrite, {}, {}, ConsequencesIn(format)};
   if (order.cut) purpose.options.frames = orvane::AskedFrames::kHeld;
   if (order.up) purpose.settled = {"htr-axis-ignored", "htr-up-axis", "trc-up-axis"};
+  if (order.start_time) purpose.settled.emplace_back("trc-time-unreadable");
+  if (TakesPart(order)) {
+    purpose.settled.insert(purpose.settled.end(), {"trc-marker-gaps", "trc-marker-never-seen"});
+  }
   return purpose;
 }
 
@@ -57,6 +64,13 @@ orvane::RateTexts RatesOf(const HtrDocument& /*document*/, const InputFile& file
 orvane::RateTexts RatesOf(const TRCDocument& /*document*/, const InputFile& file) {
   InputSource source(file);
   return orvane::RateTextsOfTrc(source);
+}
+
+// Motion files hold no times.
+double FirstTimeOf(const HtrDocument& /*document*/, const InputFile& /*file*/) { return 0.0; }
+double FirstTimeOf(const TRCDocument& /*document*/, const InputFile& file) {
+  InputSource source(file);
+  return orvane::FirstTimeOfTrc(source);
 }
 
 std::int64_t RateIn(const HtrDocument& document) { return document.GetDataFrameRate(); }
@@ -113,24 +127,29 @@ class Rewriting {
   template <typename Document>
   void Rewrite(const InputFile& input, RewriteOutput& output) {
     EditedFile<Document> file{input.name};
-    FileReport report = ReadInput(*file.document, input, manner_, PurposeOf(order_));
+    FileReport report = ReadInput(*file.document, input, manner_, PurposeOf(order_, format_));
     RequireNoErrors(report, report);
     RequireProportion(*file.document, input, order_, format_);
     file.rates = RatesOf(*file.document, input);
+    file.first_time = FirstTimeOf(*file.document, input);
     const orvane::FrameSpan held = FramesHeld(*file.document);
     Edit(file, EditsFor(order_, format_));
     const Document& document = *file.document;
-    PreparedFile prepared =
-        PrepareFile(format_, document, {input.name, NameOfOutput(input), file.rates, order_});
+    PreparedFile prepared = PrepareFile(
+        format_, document, {input.name, NameOfOutput(input), file.rates, file.first_time, order_});
     file.circumstances.losses = std::move(prepared.losses);
     StopIfInterrupted();
     TellOfEdits(file, held, report);
     const std::size_t size = output.Deliver(prepared);
     const std::string rate =
         file.rates.data.empty() ? orvane::FormatInt(RateIn(document)) : file.rates.data;
+    orvane::FrameSpan frames = FramesHeld(document);
+    if (prepared.first_frame) {
+      frames = {*prepared.first_frame, *prepared.first_frame + frames.Count() - 1};
+    }
     Show({input.name, order_.kind.value_or(KindFor(document)), order_.output,
-          prepared.parts.value_or(PartsIn(document)), FramesHeld(document), rate, size,
-          !manner_.omitted, std::move(report)});
+          prepared.parts.value_or(PartsIn(document)), frames, rate, size, !manner_.omitted,
+          std::move(report)});
   }
 
   static FileKind KindFor(const HtrDocument& /*document*/) { return FileKind::kHtr; }

@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
+#include <cmath>
 
 #include "cli/common/choice.h"
 #include "cli/common/cut_frames.h"
@@ -61,6 +62,13 @@ std::string WhyNoRate(const std::string& text) {
   const bool is_rate =
       number.end == last && orvane::ParseFrameRate(text) && number.value <= kHighestNewRate;
   return is_rate ? "" : "a number of frames per second is expected, such as 29.97, not " + text;
+}
+
+std::string WhyNoTime(const std::string& text) {
+  const char* const last = text.data() + text.size();
+  const orvane::LeadingDouble number = orvane::ReadDouble(text.data(), last);
+  const bool is_time = !text.empty() && number.end == last && std::isfinite(number.value);
+  return is_time ? "" : "a number of seconds is expected, such as 2.27, not " + text;
 }
 
 void AddFileFlags(CLI::App& verb, RewriteOrder& order) {
@@ -125,6 +133,12 @@ void AddTimeFlags(CLI::App& verb, RewriteOrder& order) {
   verb.add_option("--start-frame", order.start_frame,
                   "The number of the first frame (that of the file)")
       ->type_name("NUMBER");
+  verb.add_option_function<std::string>(
+          "--start-time",
+          [&order](const std::string& text) { order.start_time = orvane::ParseDouble(text); },
+          "The time of the first frame in seconds, where files hold times (that of the file)")
+      ->check(WhyNoTime, "")
+      ->type_name("SECONDS");
 }
 
 void AddTableFlags(CLI::App& verb, RewriteOrder& order) {

@@ -36,7 +36,8 @@ struct RewriteOrder {
   std::string rate;                   // a number as text; empty for that of the file
   std::optional<orvane::RotationPath> resampling;
   std::optional<std::int32_t> start_frame;
-  orvane::CsvManner table{};  // of CSV files alone; its numbers are those above
+  std::optional<double> start_time;  // of the first frame, in seconds
+  orvane::CsvManner table{};         // of CSV files alone; its numbers are those above
   orvane::BvhPositions positions = orvane::BvhPositions::kRoot;  // of BVH files
   std::string root;                                              // of those; empty for the only one
   // The flags that are for files of one format alone, with its name.

@@ -16,11 +16,11 @@ const char* PartsOf(FileKind kind) { return kind == FileKind::kHtr ? "Segments" 
 }  // namespace
 
 void PrintRewriteSummary(const RewrittenFile& file, std::ostream& out) {
+  const std::string frames = file.frames.IsEmpty() ? "none" : NumbersOf(file.frames);
   out << "Rewritten " << Printable(file.input) << "\n  " << PartsOf(file.kind) << "  "
-      << orvane::FormatInt(static_cast<std::int64_t>(file.parts)) << "\n  Frames    "
-      << NumbersOf(file.frames) << " at " << file.rate << " frames per second\n  File      "
-      << Printable(file.output) << " (" << orvane::FormatInt(static_cast<std::int64_t>(file.bytes))
-      << " bytes)\n";
+      << orvane::FormatInt(static_cast<std::int64_t>(file.parts)) << "\n  Frames    " << frames
+      << " at " << file.rate << " frames per second\n  File      " << Printable(file.output) << " ("
+      << orvane::FormatInt(static_cast<std::int64_t>(file.bytes)) << " bytes)\n";
   if (!file.is_checked) out << "  Report    none: --no-report\n";
 }
 

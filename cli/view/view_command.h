@@ -8,8 +8,7 @@ class App;
 
 namespace cli {
 
-// Adds the verb "view" to `app`, which sets `work` when it is given. Within a page, which is no
-// desktop to open another on, it adds nothing.
+// Adds the verb "view" to `app`, which sets `work` when it is given.
 void AddViewCommand(CLI::App& app, Work& work);
 
 }  // namespace cli

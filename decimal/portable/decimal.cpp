@@ -1,9 +1,10 @@
 #include "decimal/decimal.h"
 
 #include <fast_float/fast_float.h>
-#include <fmt/format.h>
+#include <fmt/compile.h>
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <string>
@@ -26,10 +27,17 @@ struct Scientific {
   int count() const { return static_cast<int>(digits.size()); }
 };
 
+// With the fewest characters in the notation that the library finds fit.
+template <typename Real>
+char* WriteAsItIs(Real value, char* first) {
+  return fmt::format_to(first, FMT_COMPILE("{}"), value);
+}
+
 // The fewest digits that read back as `value`, which is finite and above 0.
 template <typename Real>
 Scientific FewestDigits(Real value) {
-  std::string text = fmt::format("{}", value);
+  std::array<char, kLongestShortest> written;
+  std::string text(written.data(), WriteAsItIs(value, written.data()));
   int exponent = 0;
   if (const std::size_t letter = text.find('e'); letter != std::string::npos) {
     const std::size_t sign = letter + 1;
@@ -55,21 +63,29 @@ int LengthInFixedNotation(const Scientific& number) {
   return whole < number.count() ? number.count() + 1 : whole;
 }
 
+char* Write(std::string_view text, char* first) {
+  return std::copy(text.begin(), text.end(), first);
+}
+
 char* WriteWithExponent(const Scientific& number, char* first) {
   const std::string_view digits = number.digits;
-  return fmt::format_to(first, "{}{}{}e{:+03}", digits[0], digits.size() > 1 ? "." : "",
-                        digits.substr(1), number.exponent);
+  first = Write(digits.substr(0, 1), first);
+  if (digits.size() > 1) first = Write(digits.substr(1), Write(".", first));
+  first = Write(number.exponent < 0 ? "e-" : "e+", first);
+  const int exponent = std::abs(number.exponent);
+  if (exponent < 10) *first++ = '0';
+  constexpr int kMostDigits = 3;
+  return std::to_chars(first, first + kMostDigits, exponent).ptr;
 }
 
 // The digits of a number that is not whole.
 char* WriteFraction(const Scientific& number, char* first) {
   const std::string_view digits = number.digits;
   if (number.exponent < 0) {
-    const std::string zeros(static_cast<std::size_t>(-number.exponent) - 1, '0');
-    return fmt::format_to(first, "0.{}{}", zeros, digits);
+    return Write(digits, std::fill_n(Write("0.", first), -number.exponent - 1, '0'));
   }
   const auto whole = static_cast<std::size_t>(number.exponent) + 1;
-  return fmt::format_to(first, "{}.{}", digits.substr(0, whole), digits.substr(whole));
+  return Write(digits.substr(whole), Write(".", Write(digits.substr(0, whole), first)));
 }
 
 }  // namespace
@@ -83,12 +99,12 @@ Reading<Real> Read(const char* first, const char* last) {
 }
 
 char* WriteFixed(double value, int decimals, char* first) {
-  return fmt::format_to(first, "{:.{}f}", value, decimals);
+  return fmt::format_to(first, FMT_COMPILE("{:.{}f}"), value, decimals);
 }
 
 template <typename Real>
 char* WriteShortest(Real value, char* first) {
-  if (value == 0 || !std::isfinite(value)) return fmt::format_to(first, "{}", value);
+  if (value == 0 || !std::isfinite(value)) return WriteAsItIs(value, first);
   if (std::signbit(value)) *first++ = '-';
   const Real size = std::abs(value);
   const Scientific number = FewestDigits(size);

@@ -17,7 +17,7 @@ int main(int argc, char** argv) try {
 
   orvane::TRCDocument document;
   const orvane::CheckedFile checked = orvane::CheckTrc(argv[1], source, document);
-  for (const auto& finding : ReportOn(checked, orvane::Action::kConvert).findings) {
+  for (const auto& finding : orvane::ReportOn(checked, orvane::Action::kConvert).findings) {
     std::cerr << argv[1] << ':' << finding.line << ": " << finding.cause << ". "
               << finding.consequence << '\n';
   }
@@ -26,7 +26,7 @@ int main(int argc, char** argv) try {
   const std::time_t now = std::time(nullptr);
   const orvane::BvkDetails details{"example", std::ctime(&now), {}};
   std::ofstream output(argv[2], std::ios::binary);
-  PrintBvk(document, details, [&output](std::string_view text) { output << text; });
+  orvane::PrintBvk(document, details, [&output](std::string_view text) { output << text; });
   output.close();
   if (!output) throw std::runtime_error(std::string(argv[2]) + ": cannot be written");
 } catch (const std::exception& error) {

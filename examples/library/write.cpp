@@ -30,7 +30,7 @@ int main(int argc, char** argv) {
   document.SetNumFrames(kFrames);
   document.AddSegment(pendulum);  // a copy
 
-  const std::string message = WriteHtrFile(document, argv[1]);
+  const std::string message = orvane::WriteHtrFile(document, argv[1]);
   if (!message.empty()) std::cerr << argv[1] << ": " << message << '\n';
   return message.empty() ? 0 : 1;
 }

@@ -122,6 +122,12 @@ std::optional<C3dRefusal> Planner::PlanRate() {
   if (!IsHeld(rate) || !(static_cast<float>(rate) > 0)) {
     return C3dRefusal{Reason::kRate, 0, 0, nullptr, 0};
   }
+  constexpr double kTimesAgree = 0.001;  // in seconds; some programs write no more digits
+  const double by_number = (static_cast<double>(plan_.first_frame) - 1) / rate;
+  const double first_time = options_.first_time;
+  if (first_time != 0 && std::abs(first_time - by_number) >= kTimesAgree) {
+    plan_.losses.first_time = first_time;
+  }
   plan_.losses.is_rate_rounded = double{static_cast<float>(rate)} != rate;
   const std::int32_t camera_rate = document_.CameraRate();
   if (camera_rate != 0 && static_cast<double>(camera_rate) != rate)

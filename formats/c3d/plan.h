@@ -24,6 +24,7 @@ struct C3dOptions {
   };
   std::optional<Rate> rate;
   std::uint32_t vertical_axis = kAxisY;  // which way up is, as the file tells it
+  double first_time = 0.0;               // of the first frame, in seconds
 };
 
 struct C3dRefusal {
@@ -60,6 +61,7 @@ struct C3dLosses {
   std::vector<Label> labels;
   std::optional<Rounding> rounding;         // where there is any
   std::optional<std::int32_t> first_frame;  // a number below 1; the file starts at 1
+  std::optional<double> first_time;  // in seconds, unless it is 0 or goes by the frame's number
   bool is_beyond_header = false;  // frames are numbered beyond 16 bits: parameters alone tell them
   bool is_rate_rounded = false;   // to single precision; a parameter has it as text
   std::optional<std::int32_t> camera_rate;  // unless it is 0 or the rate

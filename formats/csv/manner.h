@@ -22,6 +22,7 @@ struct CsvManner {
   NumberForm numbers = NumberForm::Shortest();
   CsvLayout layout = CsvLayout::kWide;
   double frames_per_second = 0.0;  // what times count by; 0 or less: none are told
+  double first_time = 0.0;         // of the first frame, in seconds
   // Of segments alone.
   CsvSpace space = CsvSpace::kWorld;
   CsvRotations rotations = CsvRotations::kEuler;

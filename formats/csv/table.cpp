@@ -54,7 +54,7 @@ class Table {
 
  private:
   void PrintWideHead() {
-    text_.Put("Frame,Time");
+    text_.Put("frame,time");
     for (const std::string& part : parts_) {
       for (const CsvColumn& column : columns_) {
         text_.Put(',');
@@ -67,7 +67,7 @@ class Table {
   }
 
   void PrintLongHead() {
-    text_.Put("Frame,Time,");
+    text_.Put("frame,time,");
     text_.Put(source_.PartsName());
     for (const CsvColumn& column : columns_) {
       text_.Put(',');
@@ -90,7 +90,8 @@ class Table {
     std::string start = FormatInt(source_.FirstFrame() + static_cast<std::int64_t>(frame)) + ',';
     if (!(manner_.frames_per_second > 0)) return start;
     return start +
-           FormatDouble(static_cast<double>(frame) / manner_.frames_per_second, kTimeDecimals);
+           FormatDouble(manner_.first_time + static_cast<double>(frame) / manner_.frames_per_second,
+                        kTimeDecimals);
   }
 
   void PrintWide(const std::string& start) {

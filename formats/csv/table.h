@@ -26,7 +26,7 @@ class CsvSource {
 
   virtual ~CsvSource() = default;
 
-  [[nodiscard]] virtual std::string_view PartsName() const = 0;  // "Marker"
+  [[nodiscard]] virtual std::string_view PartsName() const = 0;  // "marker"
   [[nodiscard]] virtual std::vector<std::string> Parts() const = 0;
   [[nodiscard]] virtual std::vector<CsvColumn> Columns() const = 0;
   [[nodiscard]] virtual std::size_t Frames() const = 0;

@@ -23,7 +23,7 @@ class MarkerSource final : public CsvSource {
     }
   }
 
-  std::string_view PartsName() const override { return "Marker"; }
+  std::string_view PartsName() const override { return "marker"; }
 
   std::vector<std::string> Parts() const override {
     std::vector<std::string> names;
@@ -76,7 +76,7 @@ class SegmentSource final : public CsvSource {
     }
   }
 
-  std::string_view PartsName() const override { return "Segment"; }
+  std::string_view PartsName() const override { return "segment"; }
   std::vector<std::string> Parts() const override { return document_.GetSegmentNames(); }
 
   std::vector<CsvColumn> Columns() const override {

@@ -1,7 +1,5 @@
 #include "formats/mnm/standard_markers.h"
 
-#include <algorithm>
-
 namespace orvane {
 namespace {
 
@@ -67,8 +65,20 @@ constexpr MarkerStep kRightStick = {{{{"RWRE", "Right wrist stick end marker (RW
                                       {"RWRI", "Right wrist stick base marker (RWRI)"}}},
                                     kNeeded};
 
-bool AsksFor(const MarkerStep& step, std::string_view name) {
-  return step.markers[0].name == name || (step.Count() == 2 && step.markers[1].name == name);
+// The first marker that any step asks for and that `is_meant`; null when there is none.
+template <typename Meaning>
+const StandardMarker* FindMarker(const Meaning& is_meant) {
+  const auto find_in = [&is_meant](const MarkerStep& step) -> const StandardMarker* {
+    for (std::size_t index = 0; index < step.Count(); ++index) {
+      if (is_meant(step.markers.at(index))) return &step.markers.at(index);
+    }
+    return nullptr;
+  };
+  for (const MarkerStep& step : kSteps) {
+    if (const StandardMarker* const found = find_in(step)) return found;
+  }
+  if (const StandardMarker* const found = find_in(kLeftStick)) return found;
+  return find_in(kRightStick);
 }
 
 }  // namespace
@@ -80,9 +90,14 @@ const MarkerStep& MarkerStepAt(std::size_t index, const WristSticks& sticks) {
 }
 
 bool IsStandardMarker(std::string_view name) {
-  const auto asks_for = [name](const MarkerStep& step) { return AsksFor(step, name); };
-  return asks_for(kLeftStick) || asks_for(kRightStick) ||
-         std::any_of(kSteps.begin(), kSteps.end(), asks_for);
+  return FindMarker([name](const StandardMarker& marker) { return marker.name == name; }) !=
+         nullptr;
+}
+
+std::string_view StandardNameOf(std::string_view description) {
+  const StandardMarker* const found = FindMarker(
+      [description](const StandardMarker& marker) { return marker.description == description; });
+  return found == nullptr ? "" : found->name;
 }
 
 }  // namespace orvane

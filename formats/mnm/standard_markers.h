@@ -39,4 +39,8 @@ const MarkerStep& MarkerStepAt(std::size_t index, const WristSticks& sticks);
 // Whether a step asks for `name`, with or without sticks.
 [[nodiscard]] bool IsStandardMarker(std::string_view name);
 
+// The standard name of the marker that the creator asks for with `description`, of a wrist with a
+// stick or without one; empty when it asks for none with it.
+[[nodiscard]] std::string_view StandardNameOf(std::string_view description);
+
 }  // namespace orvane

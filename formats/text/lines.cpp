@@ -4,6 +4,8 @@
 #include <cstring>
 #include <span>
 
+#include "formats/text/find_character.h"
+
 namespace orvane {
 namespace {
 
@@ -60,11 +62,11 @@ bool LineReader::StartLine() {
 }
 
 std::size_t LineReader::FindLineFeed() {
-  std::size_t end = rest_.find('\n');
+  std::size_t end = FindCharacter(rest_, '\n');
   while (end == std::string_view::npos && source_ != nullptr) {
     const std::size_t seen = rest_.size();
     if (!ReadBlock()) source_ = nullptr;
-    end = rest_.find('\n', seen);
+    end = FindCharacter(rest_, '\n', seen);
   }
   return end;
 }

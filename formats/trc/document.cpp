@@ -1,6 +1,7 @@
 #include "formats/trc/document.h"
 
 #include <algorithm>
+#include <limits>
 #include <memory>
 
 #include "formats/array/array_too_large.h"
@@ -9,7 +10,7 @@
 namespace orvane {
 
 void TRCDocument::Reset() {
-  names_.clear();
+  by_name_.Clear();
   names_changed_ = false;
   markers_.clear();
   units_ = 0;
@@ -28,10 +29,13 @@ const TRCMarker* TRCDocument::MarkerAt(std::size_t index) const {
 
 TRCMarker* TRCDocument::AddMarker(const TRCMarker& marker) {
   if (names_changed_) RefreshNames();
-  if (names_.contains(marker.Name())) return nullptr;
+  by_name_.MakeRoom();
   TRCMarker& stored = markers_.emplace_back(marker);
+  if (!by_name_.Add(stored.Name(), markers_.size() - 1, NameAt())) {
+    markers_.pop_back();
+    return nullptr;
+  }
   stored.name_.Watch(names_changed_);
-  names_.insert(stored.Name());
   return &stored;
 }
 
@@ -88,7 +92,9 @@ void TRCDocument::RequireProportionOfPoints() const {
   }
   std::uint64_t positions = 0;
   VisitPositions([&positions](std::size_t, std::size_t, const double*) { ++positions; });
-  RequireProportion(kSample * frames * markers_.size(), kSample * positions);
+  const std::uint64_t row = kSample * markers_.size();
+  const std::uint64_t most_rows = std::numeric_limits<std::uint64_t>::max() / row;
+  RequireProportion(row * std::min(frames, most_rows), kSample * positions);
 }
 
 std::vector<std::vector<TRCMarker::Gap>> TRCDocument::Gaps() const {
@@ -116,8 +122,10 @@ void TRCDocument::Scale(double factor) {
 }
 
 void TRCDocument::RefreshNames() {
-  names_.clear();
-  for (const TRCMarker& marker : markers_) names_.insert(marker.Name());
+  by_name_.Clear();
+  for (std::size_t index = 0; index < markers_.size(); ++index) {
+    by_name_.Add(markers_[index].Name(), index, NameAt());
+  }
   names_changed_ = false;
 }
 

@@ -5,10 +5,10 @@
 #include <deque>
 #include <string>
 #include <string_view>
-#include <unordered_set>
 #include <vector>
 
 #include "formats/text/byte_source.h"
+#include "formats/text/name_index.h"
 #include "formats/trc/marker.h"
 #include "formats/trc/points_view.h"
 #include "formats/trc/read_observer.h"
@@ -110,7 +110,7 @@ class TRCDocument {
           });
     }
     for (std::size_t marker = 0; marker < markers_.size(); ++marker) {
-      for (std::size_t index = 0; index < markers_[marker].SampleCount(); ++index) {
+      for (std::size_t index = 0; index < markers_[marker].HeldCount(); ++index) {
         const double* const position = markers_[marker].PositionAt(index);
         if (position != nullptr) visit(marker, index, position);
       }
@@ -124,6 +124,10 @@ class TRCDocument {
   void Scale(double factor);
 
  private:
+  // Tells the name of the marker at an index.
+  [[nodiscard]] auto NameAt() const {
+    return [this](std::size_t index) -> const std::string& { return markers_[index].Name(); };
+  }
   void RefreshNames();
   [[nodiscard]] bool SharesBlock() const;
   void JoinColumns();
@@ -136,7 +140,7 @@ class TRCDocument {
   std::int32_t num_frames_ = 0;
   std::int32_t first_frame_ = 1;
 
-  std::unordered_set<std::string_view> names_;  // the markers' own
+  NameIndex by_name_;
   bool names_changed_ = false;
 };
 

@@ -31,11 +31,13 @@ void TRCMarker::Scale(double factor) {
 
 std::vector<TRCMarker::Gap> TRCMarker::Gaps() const {
   std::vector<Gap> gaps;
-  for (std::size_t index = 0; index < SampleCount(); ++index) {
-    if (PositionAt(index) != nullptr) continue;
-    if (gaps.empty() || gaps.back().end != index) gaps.push_back({index, index});
-    gaps.back().end = index + 1;
+  std::size_t begin = 0;
+  for (std::size_t index = 0; index < HeldCount(); ++index) {
+    if (PositionAt(index) == nullptr) continue;
+    if (begin < index) gaps.push_back({begin, index});
+    begin = index + 1;
   }
+  if (begin < SampleCount()) gaps.push_back({begin, SampleCount()});
   return gaps;
 }
 
@@ -53,14 +55,15 @@ std::shared_ptr<TRCSampleBlock> TRCMarker::CopyOfColumn() const {
   if (block_ == nullptr) return nullptr;
   if (block_->ColumnCount() == 1) return std::make_shared<TRCSampleBlock>(*block_);
   auto copy = std::make_shared<TRCSampleBlock>(1);
-  copy->ReserveRows(SampleCount());
-  for (std::size_t index = 0; index < SampleCount(); ++index) {
+  copy->Reserve(HeldCount());
+  for (std::size_t index = 0; index < HeldCount(); ++index) {
     if (const double* const position = PositionAt(index)) {
       copy->AppendPosition(position[0], position[1], position[2]);
     } else {
       copy->AppendDropouts(1);
     }
   }
+  copy->AppendDropouts(SampleCount() - HeldCount());
   copy->ShrinkToFit();
   return copy;
 }

@@ -84,6 +84,11 @@ class TRCMarker {
  private:
   friend class TRCDocument;
 
+  // Behind so many samples there are dropouts alone.
+  [[nodiscard]] std::size_t HeldCount() const {
+    return block_ == nullptr ? 0 : block_->HeldRowCount();
+  }
+
   TRCSampleBlock& Own();
   [[nodiscard]] std::shared_ptr<TRCSampleBlock> CopyOfColumn() const;
 

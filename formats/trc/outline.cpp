@@ -22,6 +22,29 @@ TRCOutliner OutlineHeader(std::string_view lines) {
   return outliner;
 }
 
+TRCOutliner OutlineAll(std::string_view lines) {
+  TRCOutliner outliner;
+  outliner.Take(lines);
+  return outliner;
+}
+
+// What `outline` makes of the first lines of `source`, of as few as `is_enough` asks for.
+template <typename IsEnough>
+TRCOutliner OutlineOfStart(ByteSource& source, TRCOutliner outline(std::string_view lines),
+                           IsEnough is_enough) {
+  std::string start;
+  for (std::size_t wanted = kFirstBytes;; wanted *= 2) {
+    const std::size_t held = start.size();
+    start.resize(wanted);
+    start.resize(held + ReadFully(source, std::span(start).subspan(held)));
+    const bool is_all = start.size() < wanted;
+    const std::string_view lines =
+        std::string_view(start).substr(0, is_all ? start.size() : start.rfind('\n') + 1);
+    const TRCOutliner outliner = outline(lines);
+    if (is_all || is_enough(outliner)) return outliner;
+  }
+}
+
 }  // namespace
 
 void TRCOutliner::Take(std::string_view lines) {
@@ -51,17 +74,15 @@ void TRCOutliner::TakeLine(const Line& line) {
 }
 
 std::string TrcHeaderOf(ByteSource& source) {
-  std::string start;
-  for (std::size_t wanted = kFirstBytes;; wanted *= 2) {
-    const std::size_t held = start.size();
-    start.resize(wanted);
-    start.resize(held + ReadFully(source, std::span(start).subspan(held)));
-    const bool is_all = start.size() < wanted;
-    const std::string_view lines =
-        std::string_view(start).substr(0, is_all ? start.size() : start.rfind('\n') + 1);
-    const TRCOutliner outliner = OutlineHeader(lines);
-    if (is_all || outliner.HasHeader()) return outliner.Header();
-  }
+  return OutlineOfStart(source, OutlineHeader,
+                        [](const TRCOutliner& outliner) { return outliner.HasHeader(); })
+      .Header();
+}
+
+std::string TrcFirstFrameOf(ByteSource& source) {
+  return OutlineOfStart(source, OutlineAll,
+                        [](const TRCOutliner& outliner) { return outliner.Frames() > 0; })
+      .FirstFrame();
 }
 
 }  // namespace orvane

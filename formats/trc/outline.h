@@ -45,4 +45,7 @@ class TRCOutliner {
 // The header of a file whose bytes `source` has, of which little more is read.
 [[nodiscard]] std::string TrcHeaderOf(ByteSource& source);
 
+// The text of the first frame of such a file, as TRCOutliner::FirstFrame; little more is read.
+[[nodiscard]] std::string TrcFirstFrameOf(ByteSource& source);
+
 }  // namespace orvane

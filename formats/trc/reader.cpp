@@ -27,9 +27,15 @@ namespace {
 
 constexpr const char* kTooLong = "vector<T> too long";
 
-// The text of the shortest sample, three digits and three tabs. The room that is made beforehand
-// keeps in proportion to the file thereby, whatever its header announces.
+// The text of a dropout, and of the shortest sample: three tabs, with three digits. The room that
+// is made beforehand keeps in proportion to the file thereby, whatever its header announces.
+constexpr std::size_t kDropoutSize = 3;
+constexpr std::size_t kPositionSize = 1;  // beyond that: rows end with one when not all are whole
 constexpr std::size_t kShortestSample = 6;
+// The rows that room is made for first when a file cannot hold what it announces.
+constexpr std::size_t kFirstRows = 1024;
+// Where lines are full of digits, no less than so much is the text of a sample.
+constexpr std::size_t kUsualSample = 12;
 
 constexpr std::size_t kCellsBeforeSamples = 2;  // the frame number and the time
 constexpr std::size_t kCoordinates = TRCSampleBlock::kCoordinates;
@@ -67,6 +73,8 @@ class TRCReader {
   bool ReadSamples(const Line& line);
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
+  void MakeRoom(std::size_t samples);
+  void ReturnRoom();
   void Finish();
 
   TRCDocument& document_;
@@ -82,6 +90,7 @@ class TRCReader {
   NumberRow<SingleTabs> numbers_;
   TRCSampleBlock* samples_ = nullptr;  // of the document; null while it keeps no samples
   std::size_t frames_read_ = 0;
+  std::size_t bytes_of_frames_ = 0;
 };
 
 std::string TRCReader::Read() {
@@ -144,13 +153,33 @@ void TRCReader::ReserveFrames() {
   if (markers == 0 || !keeps_samples_) return;
   const std::size_t announced = static_cast<std::size_t>(std::max(document_.NumFrames(), 0));
   samples_ = &document_.ShareBlock();
-  samples_->ReserveRows(std::min(announced, size_ / (kShortestSample * markers)));
+  const bool is_possible = announced <= size_ / (kShortestSample * markers);
+  const std::size_t tried = std::min({announced, kFirstRows, size_ / (kDropoutSize * markers)});
+  samples_->Reserve(markers * (is_possible ? announced : tried));
+}
+
+// For `samples` more, when more frames come than there is room for: as much as the rest of the file
+// takes when it goes on like that. When that is a large part of eight bytes for each of the file,
+// room is made for all that can come, because another copy would take too much: what is never
+// written to takes no memory.
+void TRCReader::MakeRoom(std::size_t samples) {
+  if (samples <= samples_->Room() || bytes_of_frames_ >= size_) return;
+  const std::size_t rest = size_ - bytes_of_frames_;
+  const std::size_t held = samples_->SampleCount();
+  const double rate = static_cast<double>(held) / static_cast<double>(bytes_of_frames_);
+  const std::size_t likely =
+      held + samples + held / 8 + static_cast<std::size_t>(rate * static_cast<double>(rest));
+  const std::size_t row = kDropoutSize * document_.markers().size();
+  const std::size_t most_rows = rest / (samples_->IsWhole() ? row : row + kPositionSize);
+  const std::size_t most = held + samples + (most_rows + 1) * document_.markers().size();
+  samples_->Reserve(likely < size_ / kUsualSample ? likely : most);
 }
 
 // Intended: columns are given to the markers as they come, so that a column whose name made no
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
+  bytes_of_frames_ += line.text.size() + 1;
   const bool is_ordinary = ReadSamples(line);
   if (watches_frames_) TellFrame(line, is_ordinary);
   ++frames_read_;
@@ -181,7 +210,10 @@ bool TRCReader::ReadSamples(const Line& line) {
     row[at + 1] = has_x ? NumberOrZero(row[at + 1]) : kNoNumber;
     row[at + 2] = has_x ? NumberOrZero(row[at + 2]) : kNoNumber;
   }
-  if (samples_ != nullptr) samples_->AppendRow(row);
+  if (samples_ != nullptr) {
+    MakeRoom(samples);
+    samples_->AppendRow(row);
+  }
   return is_ordinary;
 }
 
@@ -190,8 +222,17 @@ void TRCReader::ReadFirstFrameNumber(const Line& line) {
   document_.SetFirstFrame(ParseInt(TRCFields(line).Get()));
 }
 
+// Not for a few rows that were announced and did not come, nor when the copy takes too much.
+void TRCReader::ReturnRoom() {
+  constexpr std::size_t kSmallPart = 8;
+  const std::size_t held = samples_->SampleCount();
+  if (samples_->Room() > held / kSmallPart && 2 * held <= size_ / kDropoutSize) {
+    samples_->ShrinkToFit();
+  }
+}
+
 void TRCReader::Finish() {
-  if (samples_ != nullptr) samples_->ShrinkToFit();
+  if (samples_ != nullptr) ReturnRoom();
   const bool as_announced = static_cast<std::int64_t>(frames_read_) == document_.NumFrames();
   if (as_announced) return;
   oddities_.ReportLine(TRCOddity::kFrameCountMismatch,

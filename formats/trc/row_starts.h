@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <vector>
 
 // Where the rows of a block begin that are not all as long: four bytes a row, since a line of a
@@ -31,20 +32,16 @@ class TRCRowStarts {
     std::size_t base = (behind + kRowsPerBase - 1) / kRowsPerBase;
     for (; base < bases_.size(); ++base) ++bases_[base];
   }
-  void ShrinkToFit() {
-    bases_.shrink_to_fit();
-    offsets_.shrink_to_fit();
-  }
 
   [[nodiscard]] std::size_t Bytes() const {
-    return bases_.capacity() * sizeof(std::size_t) + offsets_.capacity() * sizeof(std::uint32_t);
+    return bases_.capacity() * sizeof(std::size_t) + offsets_.size() * sizeof(std::uint32_t);
   }
 
  private:
   static constexpr std::size_t kRowsPerBase = 1024;
 
-  std::vector<std::size_t> bases_;      // the starts of every so many rows
-  std::vector<std::uint32_t> offsets_;  // of each row, from there
+  std::vector<std::size_t> bases_;     // the starts of every so many rows
+  std::deque<std::uint32_t> offsets_;  // of each row, from there; not copied when it grows
 };
 
 }  // namespace orvane

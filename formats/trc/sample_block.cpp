@@ -98,9 +98,9 @@ std::uint64_t TRCSampleBlock::MarksFrom(std::size_t sample, std::size_t count) c
   return count >= kBits ? marks : marks & ((std::uint64_t{1} << count) - 1);
 }
 
-void TRCSampleBlock::ReserveRows(std::size_t count) {
-  numbers_.reserve(kCoordinates * columns_ * count);
-  measured_.reserve((columns_ * count + kBits - 1) / kBits);
+void TRCSampleBlock::Reserve(std::size_t samples) {
+  numbers_.reserve(kCoordinates * samples);
+  measured_.reserve((samples + kBits - 1) / kBits);
 }
 
 void TRCSampleBlock::AppendRow(std::span<const double> numbers) {
@@ -114,11 +114,21 @@ void TRCSampleBlock::AppendPosition(double x, double y, double z) {
   AppendHeldRow(numbers, [](double) { return true; });
 }
 
+// The numbers of a row up to its last position.
+template <typename IsPosition>
+std::span<const double> TRCSampleBlock::WithoutDropoutsBehind(std::span<const double> numbers,
+                                                              IsPosition is_position) {
+  std::size_t size = numbers.size();
+  while (size > 0 && !is_position(numbers[size - kCoordinates])) size -= kCoordinates;
+  return numbers.first(size);
+}
+
 template <typename IsPosition>
 void TRCSampleBlock::AppendHeldRow(std::span<const double> numbers, IsPosition is_position) {
   assert(numbers.size() % kCoordinates == 0 && numbers.size() <= kCoordinates * columns_);
   HoldRows(row_count_);
   if (starts_.IsEmpty() && numbers.size() < kCoordinates * columns_) KeepStarts();
+  if (!starts_.IsEmpty()) numbers = WithoutDropoutsBehind(numbers, is_position);
   const std::size_t first = SampleCount();
   const std::size_t end = first + numbers.size() / kCoordinates;
   MakeRoom(end);
@@ -153,10 +163,42 @@ void TRCSampleBlock::HoldRows(std::size_t count) {
   for (; held_rows_ < count; ++held_rows_) starts_.Append(SampleCount());
 }
 
+// Whole rows until now, they end with their last positions from now on.
 void TRCSampleBlock::KeepStarts() {
   TRCRowStarts starts;
-  for (std::size_t row = 0; row <= held_rows_; ++row) starts.Append(row * columns_);
+  std::size_t end = 0;
+  starts.Append(end);
+  for (std::size_t row = 0; row < held_rows_; ++row) {
+    std::size_t width = columns_;
+    while (width > 0 && !IsMeasured(row * columns_ + width - 1)) --width;
+    end += width;
+    starts.Append(end);
+  }
+  MoveRowsTo(starts);
   std::swap(starts, starts_);
+}
+
+// Whole rows, to where they begin in `starts`, and as far as the next one's begin.
+void TRCSampleBlock::MoveRowsTo(const TRCRowStarts& starts) {
+  const std::size_t end = starts[held_rows_];
+  if (end == SampleCount()) return;
+  for (std::size_t row = 0; row < held_rows_; ++row) {
+    const std::size_t from = row * columns_;
+    const std::size_t width = starts[row + 1] - starts[row];
+    for (std::size_t column = 0; column < width; ++column) {
+      const std::size_t sample = starts[row] + column;
+      if (IsMeasured(from + column)) {
+        Mark(sample);
+      } else {
+        measured_[sample / kBits] &= ~(std::uint64_t{1} << (sample % kBits));
+      }
+    }
+    const double* const numbers = numbers_.data() + kCoordinates * from;
+    std::copy_n(numbers, kCoordinates * width, numbers_.data() + kCoordinates * starts[row]);
+  }
+  numbers_.resize(kCoordinates * end);
+  measured_.resize((end + kBits - 1) / kBits);
+  if (end % kBits != 0) measured_.back() &= (std::uint64_t{1} << (end % kBits)) - 1;
 }
 
 bool TRCSampleBlock::SetPosition(std::size_t row, std::size_t column, double x, double y,
@@ -205,14 +247,9 @@ void TRCSampleBlock::Scale(double factor) {
   }
 }
 
-// Not for a few rows that were announced and did not come: that would copy all others.
 void TRCSampleBlock::ShrinkToFit() {
-  constexpr std::size_t kSmallPart = 8;
-  if (numbers_.capacity() - numbers_.size() > numbers_.size() / kSmallPart) {
-    numbers_.shrink_to_fit();
-    measured_.shrink_to_fit();
-  }
-  starts_.ShrinkToFit();
+  numbers_.shrink_to_fit();
+  measured_.shrink_to_fit();
 }
 
 std::size_t TRCSampleBlock::Bytes() const {

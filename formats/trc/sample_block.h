@@ -8,11 +8,11 @@
 #include "formats/trc/row_starts.h"
 
 // The samples of markers in one block of numbers: a row for each frame, in it a column for each
-// marker, in that x, y and z. Rows and columns count from 0. A row ends where its line in a file
-// ends: samples behind that are dropouts, and take no room. Which of the others are positions, a
-// bit for each tells. So a short file whose lines are blank for a thousand markers takes no more
-// memory than its bytes suggest. What fails for want of memory, by std::bad_alloc or
-// std::length_error, changes nothing.
+// marker, in that x, y and z. Rows and columns count from 0. Once there is a row that is shorter
+// than the columns, as lines of a file may be, no row holds the dropouts behind its last position:
+// they take no room. Which of the others are positions, a bit for each tells. So a short file whose
+// lines are blank for a thousand markers takes no more memory than its bytes suggest. What fails
+// for want of memory, by std::bad_alloc or std::length_error, changes nothing.
 namespace orvane {
 
 class TRCSampleBlock {
@@ -41,6 +41,8 @@ class TRCSampleBlock {
 
   [[nodiscard]] std::size_t ColumnCount() const { return columns_; }
   [[nodiscard]] std::size_t RowCount() const { return row_count_; }
+  // The rows before those of dropouts alone that end the block.
+  [[nodiscard]] std::size_t HeldRowCount() const { return held_rows_; }
 
   // The x, y and z of a position; null for a dropout, and past the end.
   [[nodiscard]] const double* PositionAt(std::size_t row, std::size_t column) const {
@@ -71,8 +73,14 @@ class TRCSampleBlock {
   // The gaps of each column, in order; no two of one touch.
   [[nodiscard]] std::vector<std::vector<Gap>> Gaps() const;
 
-  // Makes room for `count` whole rows in all.
-  void ReserveRows(std::size_t count);
+  // Those that are held: positions, and the dropouts that take room.
+  [[nodiscard]] std::size_t SampleCount() const { return numbers_.size() / kCoordinates; }
+  // How many more there is room for.
+  [[nodiscard]] std::size_t Room() const {
+    return numbers_.capacity() / kCoordinates - SampleCount();
+  }
+  // Makes room for `samples` in all.
+  void Reserve(std::size_t samples);
   // Appends a row: three numbers for each of the first columns, x, y and z, all NaN for a dropout.
   // Samples behind them are dropouts too. REQUIRES: there are no more than the columns.
   void AppendRow(std::span<const double> numbers);
@@ -89,13 +97,12 @@ class TRCSampleBlock {
   // Multiplies the numbers of all positions, and puts the dropouts that are held at the origin.
   void Scale(double factor);
 
-  // Gives back room that is not used, unless it is little.
+  // Gives back room that is not used. All samples are copied for that.
   void ShrinkToFit();
   // Bytes that are taken, used or not.
   [[nodiscard]] std::size_t Bytes() const;
 
  private:
-  [[nodiscard]] std::size_t SampleCount() const { return numbers_.size() / kCoordinates; }
   [[nodiscard]] std::size_t StartOf(std::size_t row) const {
     return starts_.IsEmpty() ? row * columns_ : starts_[row];
   }
@@ -110,10 +117,14 @@ class TRCSampleBlock {
     measured_[sample / kBits] |= std::uint64_t{1} << (sample % kBits);
   }
   template <typename IsPosition>
+  [[nodiscard]] static std::span<const double> WithoutDropoutsBehind(
+      std::span<const double> numbers, IsPosition is_position);
+  template <typename IsPosition>
   void AppendHeldRow(std::span<const double> numbers, IsPosition is_position);
   void MakeRoom(std::size_t samples);
   void HoldRows(std::size_t count);
   void KeepStarts();
+  void MoveRowsTo(const TRCRowStarts& starts);
   void InsertSample(std::size_t row);
   void InsertMark(std::size_t sample);
   [[nodiscard]] std::uint64_t MarksFrom(std::size_t sample, std::size_t count) const;

@@ -114,9 +114,9 @@ class TrcPrinter {
   void PrintFrame(std::size_t frame) {
     line_ += FormatInt(document_.FirstFrame() + static_cast<std::int64_t>(frame));
     line_ += '\t';
-    const bool is_timed = frames_per_second_ > 0;
-    line_ += FormatDouble(is_timed ? static_cast<double>(frame) / frames_per_second_ : 0.0,
-                          kTimeDecimals);
+    const double later =
+        frames_per_second_ > 0 ? static_cast<double>(frame) / frames_per_second_ : 0.0;
+    line_ += FormatDouble(manner_.first_time + later, kTimeDecimals);
     for (const TRCMarker* marker : markers_) AddSample(*marker, frame);
     EndLine();
   }

@@ -18,13 +18,13 @@ struct TrcManner {
   std::string data_rate{};
   std::string camera_rate{};
   std::string original_rate{};
+  double first_time = 0.0;  // of the first frame, in seconds
   std::string name{};  // of the file, which its first line tells; tabs and line ends become blanks
 };
 
 // Hands the bytes of the file to `take`, in order and in pieces of limited size: the markers that
 // are enabled, and their samples, a dropout as three empty cells. The frames follow each other from
-// the document's first, and are as many as the longest marker has samples; the time of the first is
-// 0.
+// the document's first, and are as many as the longest marker has samples; so do their times.
 //
 // Returns an empty text, or why the file could not be read back, as a text about it: there is no
 // marker, a name cannot stand in the file, a marker is there twice, or a line is longer than the

@@ -77,6 +77,16 @@ bool IsBeginningOf(std::string_view word, std::string_view meant) {
   return word != meant && 2 * word.size() >= meant.size() && meant.substr(0, word.size()) == word;
 }
 
+// Behind the subject of a marker's name, as in "walker:LFHD".
+std::string_view WithoutSubject(std::string_view name) { return name.substr(name.rfind(':') + 1); }
+
+bool DifferInSubject(std::string_view word, std::string_view meant) {
+  const std::string_view left = WithoutSubject(word);
+  const std::string_view right = WithoutSubject(meant);
+  return word != meant && !left.empty() &&
+         std::equal(left.begin(), left.end(), right.begin(), right.end(), Matches);
+}
+
 }  // namespace
 
 bool LooksLike(std::string_view word, std::string_view meant) {
@@ -84,7 +94,14 @@ bool LooksLike(std::string_view word, std::string_view meant) {
 }
 
 std::string_view MostSimilar(std::string_view word, const std::vector<std::string>& words) {
-  std::string_view best;
+  const auto first_of = [word, &words](const auto& is_meant) -> std::string_view {
+    const auto found =
+        std::find_if(words.begin(), words.end(),
+                     [word, &is_meant](const std::string& meant) { return is_meant(word, meant); });
+    return found == words.end() ? std::string_view() : *found;
+  };
+  std::string_view best = first_of(DifferInSubject);
+  if (!best.empty()) return best;
   std::size_t fewest = kMostMistakes + 1;
   for (const std::string& meant : words) {
     const std::size_t mistakes = MistakesIn(word, meant).value_or(fewest);
@@ -92,11 +109,7 @@ std::string_view MostSimilar(std::string_view word, const std::vector<std::strin
     fewest = mistakes;
     best = meant;
   }
-  if (!best.empty()) return best;
-  const auto longer = std::find_if(words.begin(), words.end(), [word](const std::string& meant) {
-    return IsBeginningOf(word, meant);
-  });
-  return longer == words.end() ? std::string_view() : *longer;
+  return best.empty() ? first_of(IsBeginningOf) : best;
 }
 
 }  // namespace orvane

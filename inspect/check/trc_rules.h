@@ -74,6 +74,7 @@ inline constexpr auto kRules = std::to_array<FindingRule>({
     {"trc-sample-without-x", FindingSeverity::kWarning},
     {"trc-first-frame", FindingSeverity::kWarning},
     {"trc-frame-number", FindingSeverity::kWarning},
+    {"trc-time-unreadable", FindingSeverity::kNote},
     {"trc-time-differs", FindingSeverity::kNote},
     {"trc-frame-count", FindingSeverity::kWarning},
     {"trc-frames-unannounced", FindingSeverity::kError},

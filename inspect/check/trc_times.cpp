@@ -4,6 +4,7 @@
 #include <string>
 
 #include "formats/text/numbers.h"
+#include "formats/text/tokens.h"
 #include "inspect/check/trc_rules.h"
 
 namespace orvane::trc {
@@ -17,7 +18,16 @@ std::string InSeconds(double seconds) { return FormatDouble(seconds, 3) + " s"; 
 
 }  // namespace
 
+void TimeColumn::TakeFirst(std::string_view rest, const FindingPlace& place) {
+  const std::string_view cell =
+      TrimTrailingSeparators(SkipSeparators(rest.substr(0, rest.find('\t'))));
+  const LeadingDouble time = ReadDouble(cell.data(), cell.data() + cell.size());
+  const bool is_number = time.end == cell.data() + cell.size() && std::isfinite(time.value);
+  if (!cell.empty() && !is_number) no_number_ = {place, std::string(cell)};
+}
+
 void TimeColumn::Take(std::string_view rest, std::size_t frame, const FindingPlace& place) {
+  if (frame == 0) TakeFirst(rest, place);
   if (rate_ <= 0.0 || (contradiction_ && changes_)) return;
   const LeadingDouble time = ReadDouble(rest.data(), rest.data() + rest.size());
   if (time.end == rest.data()) return;
@@ -31,6 +41,11 @@ void TimeColumn::Take(std::string_view rest, std::size_t frame, const FindingPla
 }
 
 void TimeColumn::AddTo(FindingList& findings) const {
+  if (no_number_) {
+    return findings.Add(
+        Rule("trc-time-unreadable"), no_number_->place,
+        {Quote(no_number_->text), "a number of seconds", "The time column is not read."});
+  }
   if (!contradiction_ || !changes_) return;
   findings.Add(Rule("trc-time-differs"), contradiction_->place,
                {InSeconds(contradiction_->seconds),

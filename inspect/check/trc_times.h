@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <string>
 #include <string_view>
 
 #include "inspect/check/findings.h"
@@ -19,10 +20,11 @@ class TimeColumn {
   void SetRate(double rate) { rate_ = rate; }
 
   // `rest` is the line of `frame`, behind the tab before its time, or longer. What is no number
-  // is passed over.
+  // is passed over, but in the first frame.
   void Take(std::string_view rest, std::size_t frame, const FindingPlace& place);
 
-  // Adds where the column is first too far from the rate; nothing when it says the same time in all
+  // Adds what the first frame has in the place of a number of seconds, such as a time code; or else
+  // where the column is first too far from the rate, but nothing when it says the same time in all
   // frames, as if it was never filled in.
   void AddTo(FindingList& findings) const;
 
@@ -37,7 +39,15 @@ class TimeColumn {
     double by_rate = 0.0;
   };
 
+  struct NoNumber {
+    FindingPlace place;
+    std::string text;
+  };
+
+  void TakeFirst(std::string_view rest, const FindingPlace& place);
+
   double rate_ = 0.0;
+  std::optional<NoNumber> no_number_;
   std::optional<Moment> first_;
   bool changes_ = false;
   std::optional<Contradiction> contradiction_;

@@ -17,6 +17,7 @@ bool IsOne(const FrameSpan& frames) { return frames.first == frames.last; }
 
 std::string NumbersOf(const FrameSpan& frames) {
   const std::string first = FormatInt(frames.first);
+  if (frames.last == kToLast) return first + " to the last";
   return IsOne(frames) ? first : first + " to " + FormatInt(frames.last);
 }
 
@@ -25,6 +26,7 @@ std::string FramesText(const FrameSpan& frames) {
 }
 
 std::string TheFrames(const FrameSpan& frames) {
+  if (frames.first == kFromFirst) return "the frames up to " + FormatInt(frames.last);
   return (IsOne(frames) ? "" : "the ") + FramesText(frames);
 }
 

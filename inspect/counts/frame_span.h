@@ -23,6 +23,16 @@ struct FrameSpan {
   [[nodiscard]] bool IsEmpty() const { return last < first; }
 };
 
+// The ends of spans that are asked for from the first frame on that there is, or to the last.
+inline constexpr std::int64_t kFromFirst = -(std::int64_t{1} << 62U);
+inline constexpr std::int64_t kToLast = std::int64_t{1} << 62U;
+
+// `asked`, which begins or ends where `held` does when it says no frame there.
+[[nodiscard]] inline FrameSpan Closed(const FrameSpan& asked, const FrameSpan& held) {
+  return {asked.first == kFromFirst ? held.first : asked.first,
+          asked.last == kToLast ? held.last : asked.last};
+}
+
 // The frames that are in both.
 [[nodiscard]] inline FrameSpan Overlap(const FrameSpan& left, const FrameSpan& right) {
   return {std::max(left.first, right.first), std::min(left.last, right.last)};
@@ -34,7 +44,7 @@ struct FrameSpan {
 // "frames 5 to 12", and of one "frame 5".
 [[nodiscard]] std::string FramesText(const FrameSpan& frames);
 
-// "the frames 5 to 12", and of one "frame 5".
+// "the frames 5 to 12", and of one "frame 5"; "the frames 5 to the last".
 [[nodiscard]] std::string TheFrames(const FrameSpan& frames);
 
 // Where frames have been named before: "5 to 12", and of one "frame 5".

@@ -17,9 +17,10 @@ void CheckCut(const FrameSpan& asked, const FrameSpan& held, CheckedFile& checke
                                 {TheFrames(asked), held.IsEmpty() ? "none" : RangeText(held),
                                  "Nothing is made of the file."});
   }
-  if (both.Count() == asked.Count()) return;
+  const std::int64_t count = Closed(asked, held).Count();
+  if (both.Count() == count) return;
   checked.findings.Add(FindRule(cutting::kRules, "cut-range-partly"), kNoPlace,
-                       {FormatInt(asked.Count() - both.Count()), FormatInt(asked.Count()),
+                       {FormatInt(count - both.Count()), FormatInt(count),
                         both.Count() == 1 ? "Frame " + FormatInt(both.first) + " is taken."
                                           : "The frames " + NumbersOf(both) + " are taken."});
 }

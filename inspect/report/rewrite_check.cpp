@@ -4,6 +4,7 @@
 #include <cassert>
 
 #include "formats/text/numbers.h"
+#include "inspect/check/trc_rules.h"
 #include "inspect/report/rewrite_rules.h"
 
 namespace orvane {
@@ -34,13 +35,13 @@ void AddNames(const FindingRule& rule, const std::vector<std::string>& names,
   for (const std::string& name : names) findings.Add(rule, kNoPlace, {Quote(name), "", ""});
 }
 
-void AddResampled(const ResampledFrames& frames, FindingList& findings) {
+void AddResampled(const ResampledFrames& frames, bool has_rotations, FindingList& findings) {
+  const std::string gaps =
+      has_rotations ? "." : "; where a marker has a gap at either side, it has one there.";
   findings.Add(
       Rule("rewrite-resampled"), kNoPlace,
       {CountOf(frames.count, "frame"), FormatInt(static_cast<std::int64_t>(frames.between)),
-       "They are interpolated " + frames.manner +
-           "; where a marker has a gap at either "
-           "side, it has one there."});
+       "They are interpolated " + frames.manner + gaps});
 }
 
 const FindingRule& RuleOf(std::string_view code) {
@@ -67,13 +68,17 @@ CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
   AddUnselected(circumstances.unselected, findings);
   AddNames(Rule("rewrite-rename-unknown"), circumstances.unrenamed, findings);
   AddNames(Rule("rewrite-select-ancestors"), circumstances.ancestors, findings);
+  AddNames(trc::Rule("trc-marker-gaps"), circumstances.with_gaps, findings);
+  AddNames(trc::Rule("trc-marker-never-seen"), circumstances.never_seen, findings);
+  if (circumstances.stands_along_y) findings.Add(Rule("rewrite-up-doubtful"), kNoPlace, {});
   if (!circumstances.feet.empty()) {
     findings.Add(Rule("rewrite-feet"), kNoPlace,
                  {circumstances.feet, "",
                   "A foot is taken as 304.8 mm and a yard as 914.4 mm; an import takes 2.1167 mm "
                   "and 0.7056 mm."});
   }
-  if (circumstances.resampled) AddResampled(*circumstances.resampled, findings);
+  if (circumstances.resampled)
+    AddResampled(*circumstances.resampled, circumstances.has_rotations, findings);
   for (const RewriteLoss& loss : circumstances.losses) AddLoss(loss, findings);
   return checked;
 }

@@ -34,12 +34,17 @@ struct RewriteCircumstances {
   std::vector<UnknownName> unselected{};  // names that are selected, and nothing has
   std::vector<std::string> unrenamed{};   // names that get others, and nothing has
   std::vector<std::string> ancestors{};   // of segments that are kept for those that are selected
+  std::vector<std::string> with_gaps{};   // of markers that are written
+  std::vector<std::string> never_seen{};  // likewise, without any position
+  bool stands_along_y = false;            // as it seems, what is turned from Z up to Y up
+  bool has_rotations = false;             // what is resampled
   std::string feet{};                     // "from feet to mm"; empty when there are none
   std::optional<ResampledFrames> resampled{};
   std::vector<RewriteLoss> losses{};
 };
 
-// The findings of the codes "rewrite-..." of the file known as `name` of that `kind`.
+// The findings of the codes "rewrite-...", and of gaps that are written, of the file known as
+// `name` of that `kind`.
 [[nodiscard]] CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
                                        const RewriteCircumstances& circumstances);
 

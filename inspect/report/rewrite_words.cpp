@@ -36,6 +36,8 @@ constexpr FindingMeaning kWords[] = {
     {"rewrite-select-ancestors", "A segment is not selected that others hang from",
      "{count} segments are not selected that others hang from",
      Rewritten(kNote, "They are kept, too: without them the others would not be where they are.")},
+    {"rewrite-up-doubtful", "The file seems to have its heights along Y", nullptr,
+     Rewritten(kNote, "--up z takes them along Z and turns them: what stands lies on its side.")},
     {"rewrite-resampled", "Of {found} at the new rate, {expected} lie between those of the file",
      nullptr, Rewritten(kNote)},
     {"rewrite-skeleton-lost", "The file holds which segment hangs from which, and how long each is",
@@ -50,6 +52,12 @@ constexpr FindingMeaning kWords[] = {
                "Other programs take them for lengths in their own unit; --unit converts them.")},
     {"rewrite-start-frame-lost", "The first frame has the number {found}", nullptr,
      Rewritten(kNote)},
+    {"rewrite-time-lost", "The first frame has the time {found}, which goes by no frame number",
+     nullptr,
+     Rewritten(
+         kWarning,
+         "The new file holds no times: other programs count them by its frame numbers and its "
+         "rate.")},
     {"rewrite-frames-uncounted",
      "The last frame has the number {found}, and the header of the new file counts to 65535",
      nullptr, Rewritten(kNote, "Its parameters tell the frames, which some programs do not read.")},

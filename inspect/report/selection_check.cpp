@@ -1,8 +1,5 @@
 #include "inspect/report/selection_check.h"
 
-#include <algorithm>
-
-#include "inspect/check/similar_words.h"
 #include "inspect/report/apply_rules.h"
 #include "inspect/report/export_rules.h"
 
@@ -25,13 +22,6 @@ std::string EffectOn(Action action, bool is_any_selected) {
 }
 
 }  // namespace
-
-std::string FindSimilar(std::string_view name, const std::vector<std::string>& names) {
-  const auto similar = std::find_if(names.begin(), names.end(), [name](const std::string& each) {
-    return LooksLike(name, each);
-  });
-  return similar == names.end() ? "" : *similar;
-}
 
 CheckedFile CheckSelection(const std::string& name, std::string_view kind, Action action,
                            const std::vector<UnknownName>& unknown, bool is_any_selected) {

@@ -18,9 +18,6 @@ struct UnknownName {
   std::string similar;  // that of a node, of which it may be misspelt; empty for none
 };
 
-// The first of `names` that `name` looks like, mistyped; empty when there is none.
-[[nodiscard]] std::string FindSimilar(std::string_view name, const std::vector<std::string>& names);
-
 // The findings of the codes "...-select-...", of the file or the scene known as `name` of that
 // `kind`. `is_any_selected`: other names are in the scene.
 [[nodiscard]] CheckedFile CheckSelection(const std::string& name, std::string_view kind,

@@ -195,12 +195,17 @@ constexpr FindingMeaning kWords[] = {
     {"trc-frame-number", "A frame's number is not the next one",
      "The numbers of {count} frames are not the next ones",
      InMarkers(kWarning, "Frames follow each other as their lines do.")},
+    {"trc-time-unreadable", "The time of the first frame is {found}, not {expected}", nullptr,
+     InMarkers(kNote, "The column is not read: frames follow each other at the frame rate.")
+         .But(Action::kRewrite, kWarning,
+              "Times begin at 0 in the new file; --start-time gives another one.")},
     {"trc-time-differs", "The time column says {found} where the frame rate gives {expected}",
      nullptr,
      InMarkers(kWarning, "The column is not read: frames follow each other at the frame rate.")
          .But(Action::kInspect, kNote,
               "The column is not read: frames follow each other at the frame rate.")
-         .But(Action::kRewrite, kWarning, "Times are written as the frame rate gives them."),
+         .But(Action::kRewrite, kWarning,
+              "From that of the first frame on, times are written as the frame rate gives them."),
      Concern::kRate},
     {"trc-frame-count", "NumFrames announces {found}, and the file holds {expected}", nullptr,
      InMarkers(kWarning)

@@ -19,18 +19,23 @@ bool StandsOnFloor(const Subject& subject, std::size_t axis, double height) {
          subject.floor_change[axis] <= kSteady * height;
 }
 
-}  // namespace
-
-bool SeemsToStandAlongZ(const Subject& subject) {
+// Whether it seems to stand along `axis`, and not along the `other` of Y and Z.
+bool SeemsToStandAlong(const Subject& subject, std::size_t axis, std::size_t other) {
   constexpr std::size_t kPointsOfABody = 8;
   constexpr double kLongerThanAlongX = 1.2;
-  constexpr double kLongerThanAlongY = 1.5;
-  const double height = subject.extent[kZ];
+  constexpr double kLongerThanAlongOther = 1.5;
+  const double height = subject.extent[axis];
   return subject.points >= kPointsOfABody && height > 0.0 &&
          height >= kLongerThanAlongX * subject.extent[0] &&
-         height >= kLongerThanAlongY * subject.extent[kY] && StandsOnFloor(subject, kZ, height) &&
-         !StandsOnFloor(subject, kY, height);
+         height >= kLongerThanAlongOther * subject.extent[other] &&
+         StandsOnFloor(subject, axis, height) && !StandsOnFloor(subject, other, height);
 }
+
+}  // namespace
+
+bool SeemsToStandAlongZ(const Subject& subject) { return SeemsToStandAlong(subject, kZ, kY); }
+
+bool SeemsToStandAlongY(const Subject& subject) { return SeemsToStandAlong(subject, kY, kZ); }
 
 double HeightOf(const Subject& subject) {
   return subject.extent[SeemsToStandAlongZ(subject) ? kZ : kY];

@@ -35,6 +35,9 @@ struct Subject {
 // prop is no body. A body that stands still at Y = 0 cannot be told from a lying one, and is not.
 [[nodiscard]] bool SeemsToStandAlongZ(const Subject& subject);
 
+// The same the other way round: along Y, and not along Z.
+[[nodiscard]] bool SeemsToStandAlongY(const Subject& subject);
+
 // Along the axis that it seems to stand along.
 [[nodiscard]] double HeightOf(const Subject& subject);
 

@@ -4,10 +4,9 @@
 #include <stdexcept>
 
 namespace orvane {
-namespace {
 
-// Of the exception that is being handled. A size that no container takes is a want of memory, too.
-const char* TextFor(const FailureTexts& texts) noexcept {
+// A size that no container takes is a want of memory, too.
+const char* FailureText(const FailureTexts& texts) noexcept {
   try {
     throw;
   } catch (const std::bad_alloc&) {
@@ -17,12 +16,6 @@ const char* TextFor(const FailureTexts& texts) noexcept {
   } catch (...) {
     return texts.otherwise;
   }
-}
-
-}  // namespace
-
-void ReportFailure(MessageSink& messages, const FailureTexts& texts) noexcept {
-  messages.Report(TextFor(texts), texts.title);
 }
 
 }  // namespace orvane

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "plugin/services/message_sink.h"
-
 // What the user is told about work that an exception has ended.
 namespace orvane {
 
@@ -12,8 +10,20 @@ struct FailureTexts {
   const char* otherwise;
 };
 
-// Tells it by `messages`. To be called where the exception is caught, when all that the work had
-// begun is taken back.
-void ReportFailure(MessageSink& messages, const FailureTexts& texts) noexcept;
+// What of `texts` tells of the exception that is being handled.
+[[nodiscard]] const char* FailureText(const FailureTexts& texts) noexcept;
+
+// Does `work`. Returns what is to be told when it throws, and otherwise null. It is told when the
+// exception is over, and all that the work had begun is taken back: a message waits for its user,
+// and within a page nothing can wait while an exception is being handled.
+template <typename Work>
+[[nodiscard]] const char* FailureOf(const Work& work, const FailureTexts& texts) noexcept {
+  try {
+    work();
+    return nullptr;
+  } catch (...) {
+    return FailureText(texts);
+  }
+}
 
 }  // namespace orvane

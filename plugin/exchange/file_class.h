@@ -50,16 +50,19 @@ class FileClass : public Role {
   // progress bar; `quiet` shows no options dialog. What is thrown is reported, and a failure.
   // Intended: a failure keeps the document, and only work that is done resumes the host's modes.
   [[nodiscard]] Outcome Run(const char* name, Interface& interface, bool quiet) noexcept {
-    try {
-      file_name_ = name;
-      interface_ = &interface;
-      quiet_ = quiet;
-      return WorkInHost();
-    } catch (...) {
-      Attempt([this] { ForgetDocument(); });
-      ReportFailure(messages_, texts_.failure);
-      return Outcome::kFailed;
-    }
+    Outcome outcome = Outcome::kFailed;
+    const char* const failure = FailureOf(
+        [&] {
+          file_name_ = name;
+          interface_ = &interface;
+          quiet_ = quiet;
+          outcome = WorkInHost();
+        },
+        texts_.failure);
+    if (failure == nullptr) return outcome;
+    Attempt([this] { ForgetDocument(); });
+    messages_.Report(failure, texts_.failure.title);
+    return Outcome::kFailed;
   }
 
   // Of the run that is at work.

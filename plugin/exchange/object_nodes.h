@@ -38,10 +38,4 @@ template <typename Instance>
 // units) on every axis. Returns null when the host cannot create it.
 [[nodiscard]] INode* CreateDummyNode(Interface& interface, float half_extent);
 
-// The color that a node of these parts is drawn in, of each of which the lowest 8 bits count:
-// red | green << 8 | blue << 16.
-constexpr WireColor WireColorOf(unsigned red, unsigned green, unsigned blue) {
-  return (red & 0xFFU) | (green & 0xFFU) << 8U | (blue & 0xFFU) << 16U;
-}
-
 }  // namespace orvane

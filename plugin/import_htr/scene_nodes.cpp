@@ -17,7 +17,7 @@ unsigned ColorByte(float part) { return static_cast<unsigned>(static_cast<int>(p
 
 WireColor NewObjectColor() {
   const Color color = GetUIColor(kNewObjectColorIndex);
-  return WireColorOf(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
+  return PackWireColor(ColorByte(color.r), ColorByte(color.g), ColorByte(color.b));
 }
 
 void SetBoneSize(Object& bone, const BoneDimensions& size, TimeValue time) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "plugin/exchange/marker_colors.h"
 #include "plugin/exchange/object_nodes.h"
 #include "sdk/core/cstr.h"
 #include "sdk/core/object.h"
@@ -11,7 +12,6 @@ namespace orvane {
 namespace {
 
 constexpr char kCloudName[] = "TRCCloud";
-constexpr WireColor kMarkerColor = WireColorOf(204, 51, 51);
 
 constexpr float kSphereRadiusOfSize = 0.5F;
 constexpr float kPointScaleOfSize = 0.25F;

@@ -50,15 +50,13 @@ std::optional<std::string> WithBvkLetters(std::string path) {
 
 // What was read goes first: there may be no memory to tell of its want.
 bool ConversionRun::Run() noexcept {
-  try {
-    return Work();
-  } catch (...) {
-    if (host_ == nullptr) return false;
-    Attempt([this] { parts_.document.Reset(); });
-    End();
-    ReportFailure(parts_.messages, kFailure);
-    return false;
-  }
+  bool is_done = false;
+  const char* const failure = FailureOf([&] { is_done = Work(); }, kFailure);
+  if (failure == nullptr || host_ == nullptr) return is_done;
+  Attempt([this] { parts_.document.Reset(); });
+  End();
+  parts_.messages.Report(failure, kFailure.title);
+  return false;
 }
 
 // Intended: a mapping file is needed even when the mapping is not used, and its absence is not

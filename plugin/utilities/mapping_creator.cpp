@@ -3,16 +3,13 @@
 #include "platform/file_dialog.h"
 #include "plugin/exchange/attempt.h"
 #include "plugin/exchange/failure_report.h"
-#include "plugin/exchange/object_nodes.h"
+#include "plugin/exchange/marker_colors.h"
 #include "plugin/utilities/file_dialogs.h"
 
 namespace orvane {
 namespace {
 
 using Button = MarkerSelectionDialog::Button;
-
-constexpr WireColor kMarkerColor = WireColorOf(204, 51, 51);
-constexpr WireColor kPickedColor = WireColorOf(25, 25, 204);
 
 constexpr char kStatus[] = "MNM File Creation Status";
 constexpr FailureTexts kFailure{kStatus, "There is not enough memory to create the mapping file.",
@@ -32,14 +29,12 @@ std::size_t StepAfter(std::size_t index, std::size_t backs, bool again) {
 bool MappingCreator::CreateMNM(Interface* interface) {
   if (interface == nullptr) return false;
   interface_ = interface;
-  try {
-    return Create();
-  } catch (...) {
-    if (ended_) return false;
-    End();
-    ReportFailure(services_.messages, kFailure);
-    return false;
-  }
+  bool is_created = false;
+  const char* const failure = FailureOf([&] { is_created = Create(); }, kFailure);
+  if (failure == nullptr || ended_) return is_created;
+  End();
+  services_.messages.Report(failure, kFailure.title);
+  return false;
 }
 
 // What is left of it is done by whoever comes second, in the middle of a call of the first.
@@ -132,7 +127,7 @@ bool MappingCreator::WaitForPick() {
 
 void MappingCreator::AddPicked(const StandardMarker& marker, INode& node) {
   converter_.mapping.Add(marker.name, node.GetName(), node.GetHandle());
-  node.SetWireColor(kPickedColor);
+  node.SetWireColor(kPickedMarkerColor);
   Redraw();
 }
 

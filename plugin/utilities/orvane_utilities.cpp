@@ -181,11 +181,8 @@ void OrvaneUtilities::Command(platform::Dialog& dialog, int control) {
   if (interface_ == nullptr) return;  // the page is being deleted
   const std::shared_ptr<Work> work = work_;
   const OpenPanel panel(*work);
-  try {
-    Answer(dialog, control);
-  } catch (...) {
-    if (panel.IsOpen()) ReportFailure(work->messages, kFailure);
-  }
+  const char* const failure = FailureOf([&] { Answer(dialog, control); }, kFailure);
+  if (failure != nullptr && panel.IsOpen()) work->messages.Report(failure, kFailure.title);
 }
 
 void OrvaneUtilities::FillOffset(platform::Dialog& dialog, const Work& work) {

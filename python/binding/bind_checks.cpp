@@ -1,15 +1,18 @@
 #include <nanobind/nanobind.h>
 #include <nanobind/stl/optional.h>
 #include <nanobind/stl/string.h>
+#include <nanobind/stl/vector.h>
 
 #include <array>
 #include <iterator>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 #include "inspect/check/content_kind.h"
 #include "inspect/check/htr_check.h"
 #include "inspect/check/mnm_check.h"
+#include "inspect/check/similar_words.h"
 #include "inspect/check/trc_check.h"
 #include "python/binding/bindings.h"
 #include "python/binding/common_members.h"
@@ -108,12 +111,22 @@ std::optional<std::string> FormatOf(const nb::bytes& data) {
   return std::nullopt;
 }
 
+// The one of `names` that `name` is likely to be, misspelt.
+std::optional<nb::str> SimilarTo(const nb::str& name, const std::vector<nb::str>& names) {
+  std::vector<std::string> words;
+  words.reserve(names.size());
+  for (const nb::str& each : names) words.push_back(BytesOf(each));
+  const std::string_view similar = orvane::MostSimilar(BytesOf(name), words);
+  return similar.empty() ? std::nullopt : std::optional(TextOf(similar));
+}
+
 }  // namespace
 
 void BindChecks(nb::module_& module) {
   module.def("check", CheckFile, nb::arg("name"), nb::arg("data").none(), nb::arg("format"),
              nb::arg("action"));
   module.def("format_of", FormatOf, nb::arg("data"));
+  module.def("similar_to", SimilarTo, nb::arg("name"), nb::arg("names"));
 }
 
 }  // namespace binding

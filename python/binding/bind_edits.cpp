@@ -62,6 +62,7 @@ std::unique_ptr<Take> Made(const Take& take, const Make& make) {
   const nb::gil_scoped_release unlocked;
   auto made = std::make_unique<Take>();
   made->reading().rate = take.reading().rate;
+  made->reading().first_time = take.reading().first_time;
   make(take.document(), made->document());
   made->Settle("<edited>");
   return made;
@@ -79,9 +80,15 @@ std::unique_ptr<Take> Changed(const Take& take, const Change& change) {
 template <typename Take>
 std::unique_ptr<Take> Cut(const Take& take, std::size_t begin, std::size_t end) {
   if (begin >= end) throw std::invalid_argument("there are no such frames");
-  return Made(take, [begin, end](const auto& source, auto& target) {
+  auto made = Made(take, [begin, end](const auto& source, auto& target) {
     CutFrames(source, begin, end, target);
   });
+  if (const auto rate = take.reading().rate) {
+    made->reading().first_time += static_cast<double>(begin) *
+                                  static_cast<double>(rate->denominator) /
+                                  static_cast<double>(rate->numerator);
+  }
+  return made;
 }
 
 template <typename Take>

@@ -122,6 +122,7 @@ void BindMarkers(nb::module_& module) {
                    [](const MarkerTake& take) { return take.document().NumFrames(); })
       .def_prop_ro("first_frame",
                    [](const MarkerTake& take) { return take.document().FirstFrame(); })
+      .def_prop_ro("first_time", [](const MarkerTake& take) { return take.reading().first_time; })
       .def_prop_ro("rate", [](const MarkerTake& take) { return RateOf(take.reading()); })
       .def_prop_ro("rate_taken", [](const MarkerTake& take) { return take.document().DataRate(); })
       .def_prop_ro("camera_rate",
@@ -130,7 +131,8 @@ void BindMarkers(nb::module_& module) {
                    [](const MarkerTake& take) {
                      return UnitOf(static_cast<std::uint32_t>(take.document().Units()));
                    })
-      .def_prop_ro("findings", [](const MarkerTake& take) { return FindingsOf(take.reading()); });
+      .def_prop_ro("findings", [](const MarkerTake& take) { return FindingsOf(take.reading()); })
+      .def("set_times", SetTimes<MarkerTake>, nb::arg("rate").none(), nb::arg("first_time"));
   module.def("read_markers", ReadMarkers, nb::arg("name"), nb::arg("data").none(), nb::arg("check"),
              nb::arg("unit").none());
   module.def("make_markers", MakeMarkers, nb::arg("points"), nb::arg("names"), nb::arg("unit"),

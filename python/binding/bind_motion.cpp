@@ -98,13 +98,15 @@ void BindMotion(nb::module_& module) {
                    [](const MotionTake& take) { return take.document().GetNumFrames(); })
       .def_prop_ro("first_frame",
                    [](const MotionTake& take) { return take.document().GetStartFrame(); })
+      .def_prop_ro("first_time", [](const MotionTake& take) { return take.reading().first_time; })
       .def_prop_ro("rate", [](const MotionTake& take) { return RateOf(take.reading()); })
       .def_prop_ro("rate_taken",
                    [](const MotionTake& take) { return take.document().GetDataFrameRate(); })
       .def_prop_ro(
           "unit",
           [](const MotionTake& take) { return UnitOf(take.document().GetCalibrationUnits()); })
-      .def_prop_ro("findings", [](const MotionTake& take) { return FindingsOf(take.reading()); });
+      .def_prop_ro("findings", [](const MotionTake& take) { return FindingsOf(take.reading()); })
+      .def("set_times", SetTimes<MotionTake>, nb::arg("rate").none(), nb::arg("first_time"));
   module.def("read_motion", ReadMotion, nb::arg("name"), nb::arg("data").none(), nb::arg("check"),
              nb::arg("unit").none());
 }

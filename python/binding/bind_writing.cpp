@@ -54,6 +54,7 @@ nb::bytes PrintMarkers(const MarkerTake& take, const std::optional<int>& decimal
   orvane::TrcManner manner;
   manner.numbers = FormOf(decimals);
   manner.data_rate = rate;
+  manner.first_time = take.reading().first_time;
   manner.name = name;
   Collector collector;
   std::string why;

@@ -31,6 +31,14 @@ using Rate = std::pair<std::int64_t, std::int64_t>;
   return std::string(orvane::CalibrationUnitsName(code));
 }
 
+// Of who makes the take, before anybody else has it: what its file does not say of times.
+template <typename Take>
+void SetTimes(Take& take, const std::optional<Rate>& rate, double first_time) {
+  take.reading().rate.reset();
+  if (rate) take.reading().rate = orvane::FrameRate{rate->first, rate->second};
+  take.reading().first_time = first_time;
+}
+
 // Nothing when nobody has looked for findings.
 [[nodiscard]] inline std::optional<FindingList> FindingsOf(const Reading& reading) {
   if (!reading.report) return std::nullopt;

@@ -68,14 +68,15 @@ ProgramRun RunProgram(const std::vector<std::string>& arguments) {
 
 void RequireGoodArguments(const std::vector<std::string>& arguments) { (void)WorkOf(arguments); }
 
-std::vector<std::string> FlagsOf(const std::string& verb) {
+std::map<std::string, bool> FlagsOf(const std::string& verb) {
   cli::Work work;
   const std::unique_ptr<CLI::App> parser = cli::MakeParser(work);
-  std::vector<std::string> flags;
+  std::map<std::string, bool> flags;
   const auto is_meant = [&verb](const CLI::App* each) { return each->get_name() == verb; };
   for (const CLI::App* found : parser->get_subcommands(is_meant)) {
     for (const CLI::Option* option : found->get_options()) {
-      for (const std::string& name : option->get_lnames()) flags.push_back("--" + name);
+      const bool takes_value = option->get_expected_min() > 0;
+      for (const std::string& name : option->get_lnames()) flags.emplace("--" + name, takes_value);
     }
   }
   return flags;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <map>
 #include <string>
 #include <vector>
 
@@ -24,8 +25,8 @@ struct ProgramRun {
 // Throws a cli::Failure when the program would not take them.
 void RequireGoodArguments(const std::vector<std::string>& arguments);
 
-// The long names of the flags of `verb`, such as "--no-animation"; none of a verb that there is
-// not.
-[[nodiscard]] std::vector<std::string> FlagsOf(const std::string& verb);
+// The long names of the flags of `verb`, such as "--no-animation", and whether a value goes with
+// each; none of a verb that there is not.
+[[nodiscard]] std::map<std::string, bool> FlagsOf(const std::string& verb);
 
 }  // namespace binding

@@ -9,6 +9,7 @@
 #include "inspect/check/htr_check.h"
 #include "inspect/check/trc_check.h"
 #include "inspect/counts/frame_span.h"
+#include "inspect/summary/first_time.h"
 
 namespace binding {
 namespace {
@@ -44,6 +45,11 @@ std::optional<orvane::FrameRate> RateOf(ByteSource& source, const TRCDocument& /
 std::optional<orvane::FrameRate> RateOf(ByteSource& source, const HtrDocument& /*document*/) {
   return FrameRateOfHtr(source);
 }
+
+double FirstTimeOf(ByteSource& source, const TRCDocument& /*document*/) {
+  return FirstTimeOfTrc(source);
+}
+double FirstTimeOf(ByteSource& /*source*/, const HtrDocument& /*document*/) { return 0.0; }
 
 std::string WhyEmpty(const TRCDocument& document) {
   return document.MarkerCount() == 0 ? "The file holds no markers" : "";
@@ -116,6 +122,7 @@ Reading ReadInto(const Input& input, bool check, Document& document) {
   const auto source = input.Open();
   RequireProportion(input, source->Size(), document);
   reading.rate = RateOf(*source, document);
+  reading.first_time = FirstTimeOf(*input.Open(), document);
   return reading;
 }
 

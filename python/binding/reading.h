@@ -20,6 +20,7 @@ namespace binding {
 struct Reading {
   std::optional<orvane::FileReport> report;  // nothing when nobody has looked for findings
   std::optional<orvane::FrameRate> rate;     // that the text says
+  double first_time = 0.0;                   // of the first frame, in seconds
 };
 
 // Reads `input` into `document`, which is empty. Throws a FileRefusal when the file cannot be read,

@@ -6,7 +6,7 @@ import os
 from abc import abstractmethod
 from collections.abc import Iterable, Iterator, Mapping
 from fractions import Fraction
-from typing import ClassVar, Generic, Literal, Self, TypeVar, Union
+from typing import ClassVar, Generic, Literal, Self, TypeVar, Union, cast
 
 import numpy as np
 from numpy.typing import NDArray
@@ -19,13 +19,19 @@ Floats = NDArray[np.float64]
 Path = Union[str, "os.PathLike[str]"]
 Rate = Union[Fraction, float, str]
 Unit = Literal["mm", "cm", "m", "in", "ft", "yd"]
-
+# Path, bytes of the file, rate, time of the first frame, findings.
+State = tuple[str, bytes, Union[tuple[int, int], None], float, Union[tuple[Finding, ...], None]]
 
 H = TypeVar("H", _orvane.Markers, _orvane.Motion)
 
 
 class FramedTake(Generic[H]):
-    """Frames at a rate, counted by numbers, with lengths in one unit. Nothing of it changes."""
+    """Frames at a rate, counted by numbers, with lengths in one unit. Nothing of it changes.
+
+    So ``copy.copy`` and ``copy.deepcopy`` give the very take. A pickle holds the bytes of its file,
+    and fails with a ValueError where no file can hold the take; what comes of it has the same
+    numbers, but for angles made of arrays, of which the last bit may be another.
+    """
 
     path: str
     """The file that it comes from, as it was named."""
@@ -86,33 +92,59 @@ class FramedTake(Generic[H]):
 
     @property
     def times(self) -> Floats:
-        """Seconds from the first frame to each, by ``rate``: (frames,)."""
+        """Seconds of each frame: (frames,).
+
+        They go by ``rate`` from the time of the first row of a TRC file, or from 0 where no number
+        of seconds stands there (the finding trc-time-unreadable), and from 0 of an HTR file, which
+        holds no times; a take that is cut keeps those of its frames.
+
+        >>> import orvane
+        >>> orvane.read("walk.trc").cut(31, 60).times[:2].round(4).tolist()
+        [0.5, 0.5167]
+        """
         if self.rate <= 0:
             return np.full(self.frame_count, np.nan)
         step = self.rate.denominator / self.rate.numerator
-        return np.arange(self.frame_count, dtype=np.float64) * step
+        return self._held.first_time + np.arange(self.frame_count, dtype=np.float64) * step
 
     @property
     def findings(self) -> tuple[Finding, ...] | None:
-        """What is odd in the file, the worst first; ``None`` when nobody has looked for it."""
+        """What is odd in the file at ``path`` as it was read, the worst first.
+
+        ``None`` when nobody has looked for it: of a take made of arrays, or read with
+        ``check=False``. What is made of a take, such as its ``cut``, keeps the findings of the file
+        that both come from; ``orvane.check`` tells what is odd in a take as it is now.
+
+        >>> import orvane
+        >>> part = orvane.read("walk.trc").select("walker:LFHD")
+        >>> [finding.code for finding in part.findings], orvane.check(part).findings
+        (['trc-marker-gaps'], ())
+        """
         return self._findings
 
-    def cut(self, first: int, last: int) -> Self:
+    def cut(self, first: int | None = None, last: int | None = None) -> Self:
         """The frames from number ``first`` to ``last`` alone, which keep their numbers.
 
-        Raises a ValueError when the take does not hold all of these.
+        Without one of them they go from the first frame, or to the last. Raises a ValueError when
+        the take does not hold all of these.
 
         >>> import orvane
         >>> orvane.read("walk.trc").cut(10, 19).points.shape
         (10, 41, 3)
+        >>> orvane.read("walk.trc").cut(first=10).points.shape
+        (111, 41, 3)
         """
-        if first > last:
+        begin = self.first_frame if first is None else first
+        end = self.last_frame if last is None else last
+        if first is not None and last is not None and first > last:
             raise ValueError(f"frames {first} to {last} are none: the first comes behind the last")
-        if not self.first_frame <= first <= last <= self.last_frame:
-            raise ValueError(f"frames {first} to {last} are asked for, and {self.path} holds "
+        if not self.first_frame <= begin <= end <= self.last_frame:
+            asked = (f"{'the first' if first is None else first} to "
+                     f"{'the last' if last is None else last}")
+            raise ValueError(f"frames {asked} are asked for, and {self.path} holds "
                              f"{self.first_frame} to {self.last_frame}")
-        return self._made(_orvane.cut(self._held, first - self.first_frame,
-                                      last - self.first_frame + 1))
+        return self._made(_orvane.cut(self._held, begin - self.first_frame,
+                                      end - self.first_frame + 1))
 
     def select(self, names: Iterable[str] | str) -> Self:
         """Those of these names alone, in the order of the file; of segments with all they hang from.
@@ -184,8 +216,32 @@ class FramedTake(Generic[H]):
     def index(self, name: str) -> int:
         """Which is called so; raises a KeyError when none is."""
 
+    def __copy__(self) -> Self:
+        """Itself, as nothing of it changes."""
+        return self
+
+    def __deepcopy__(self, memo: object) -> Self:
+        return self
+
+    def __getstate__(self) -> State:
+        """What pickles hold: the bytes of its file, and what they do not say."""
+        return self.path, self.to_bytes(), self._held.rate, self._held.first_time, self._findings
+
+    def __setstate__(self, state: State) -> None:
+        self.path, data, rate, first_time, self._findings = state
+        read = _orvane.read_markers if self.extension == ".trc" else _orvane.read_motion
+        self._held = cast(H, read(os.fsencode(self.path), data, False, None))
+        self._held.set_times(rate, first_time)
+
+    def _unknown(self, thing: str, name: str) -> KeyError:
+        similar = _orvane.similar_to(name, self.names) if isinstance(name, str) else None
+        question = "" if similar is None else f"; did you mean {similar!r}?"
+        return KeyError(f"{self.path} has no {thing} {name!r}{question}")
+
     def _made(self, held: H) -> Self:
-        return type(self)(self.path, held)
+        made = type(self)(self.path, held)
+        made._findings = self._findings
+        return made
 
     def _step_to(self, rate: Rate) -> tuple[tuple[int, int], tuple[int, int]]:
         """How many frames lie between two at ``rate``, and that, as fractions."""

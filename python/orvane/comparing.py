@@ -4,7 +4,6 @@ from __future__ import annotations
 
 from collections.abc import Mapping
 from dataclasses import dataclass
-from types import MappingProxyType
 from typing import Any
 
 from orvane import _orvane
@@ -104,8 +103,7 @@ def _take_of(source: Take | Motion | Source) -> Take | Motion:
 def _comparison(told: dict[str, Any]) -> Comparison:
     return Comparison(
         overall=_difference(told["overall"]),
-        by_name=MappingProxyType({name: _difference(each)
-                                  for name, each in told["by_name"].items()}),
+        by_name={name: _difference(each) for name, each in told["by_name"].items()},
         frames=told["frames"],
         only_names=tuple(told["only_names"]),
         only_frames=tuple(told["only_frames"]),

@@ -198,7 +198,7 @@ class Motion(FramedTake[_orvane.Motion]):
         try:
             return self._indices[name]
         except KeyError:
-            raise KeyError(f"{self.path} has no segment {name!r}") from None
+            raise self._unknown("segment", name) from None
 
     @cached_property
     def _indices(self) -> dict[str, int]:

@@ -14,10 +14,11 @@ if TYPE_CHECKING:
 def plot_gaps(take: Take, axes: Any) -> Any:
     axes = axes if axes is not None else _new_axes((8.0, 1.0 + 0.2 * len(take.names)))
     step = float(1 / take.rate)
+    begin = float(take.times[0]) if take.frame_count else 0.0
     for row, name in enumerate(take.names):
-        axes.broken_barh([(0.0, take.frame_count * step)], (row - 0.4, 0.8), color="#4c78a8",
+        axes.broken_barh([(begin, take.frame_count * step)], (row - 0.4, 0.8), color="#4c78a8",
                          label="measured" if row == 0 else None)
-        bars = [((first - take.first_frame) * step, (last - first + 1) * step)
+        bars = [(begin + (first - take.first_frame) * step, (last - first + 1) * step)
                 for first, last in take.gaps[name]]
         axes.broken_barh(bars, (row - 0.4, 0.8), color="#e45756", label="gap" if row == 0 else None)
     axes.set_yticks(range(len(take.names)), take.names)

@@ -4,6 +4,7 @@ from __future__ import annotations
 
 import json
 import os
+import re
 from dataclasses import dataclass
 from typing import Any
 
@@ -49,6 +50,19 @@ class Scene:
         return f"<Scene of {self.path!r}>"
 
 
+# Numbers that the plug-in's dialog reads from what is typed into it; what is none it takes for 0.
+FACTORS = ("segment_size", "size", "scale")
+NUMBER = re.compile(r"[+-]?(?:\d+\.?\d*|\.\d+)(?:[eE][+-]?\d+)?")
+
+
+def _require_factors(options: dict[str, Any]) -> None:
+    for name in FACTORS:
+        value = options.get(name)
+        found = NUMBER.match(str(value))
+        if value is not None and not (found and float(found[0])):
+            raise ValueError(f"{name} is {value!r}; it is a number that is not 0, such as 1.5")
+
+
 def to_scene(path: Path, **options: Any) -> Scene:
     """A scene of a motion or marker file, made by the plug-in's own dialog when it is saved.
 
@@ -62,6 +76,7 @@ def to_scene(path: Path, **options: Any) -> Scene:
     >>> findings = scene.save("made.glb", force=True)
     """
     arguments = arguments_of("import", options)
+    _require_factors(options)
     file = os.fspath(path)
     require_good(["import", *arguments, "--output=scene.glb", "--", file])
     return Scene(file, arguments)

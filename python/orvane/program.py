@@ -42,10 +42,11 @@ def arguments_of(verb: str, options: Mapping[str, object]) -> list[str]:
 
     ``segment_size=2`` is ``--segment-size 2``, ``end_effectors=True`` is ``--end-effectors`` and
     ``False`` is ``--no-end-effectors``; ``None`` leaves a flag out, and so does ``False`` where
-    there is no such flag. Two numbers are a range, three a position, a list is a flag for each,
-    and so is a mapping: ``rename={"A": "B"}`` is ``--rename A=B``.
+    there is no such flag. Two numbers are a range, of which ``None`` is an open end, three a position, a list is a flag for each,
+    and so is a mapping: ``rename={"A": "B"}`` is ``--rename A=B``. ``True`` of a flag that takes a
+    value is for the program to refuse.
     """
-    known = set(_orvane.flags_of(verb))
+    known = _orvane.flags_of(verb)
     arguments: list[str] = []
     for name, value in options.items():
         flag = "--" + name.rstrip("_").replace("_", "-")
@@ -55,10 +56,10 @@ def arguments_of(verb: str, options: Mapping[str, object]) -> list[str]:
     return arguments
 
 
-def _words(flag: str, value: object, known: set[str]) -> list[str]:
+def _words(flag: str, value: object, known: Mapping[str, bool]) -> list[str]:
     if value is None:
         return []
-    if isinstance(value, bool):
+    if isinstance(value, bool) and not (value and known[flag]):
         opposite = "--no-" + flag[2:]
         return [flag] if value else [opposite] if opposite in known else []
     if isinstance(value, Mapping):
@@ -66,12 +67,15 @@ def _words(flag: str, value: object, known: set[str]) -> list[str]:
     if isinstance(value, list):
         return [word for each in value for word in _words(flag, each, known)]
     if isinstance(value, tuple):
-        return [flag + "=" + (":" if len(value) == 2 else ",").join(map(_text, value))]
+        if all(each is None for each in value):
+            return []
+        separator = ":" if len(value) == 2 else ","
+        return [flag + "=" + separator.join("" if each is None else _text(each) for each in value)]
     return [flag + "=" + _text(value)]
 
 
 def _text(value: object) -> str:
-    return repr(value) if isinstance(value, float) else os.fspath(value) if isinstance(
+    return repr(float(value)) if isinstance(value, float) else os.fspath(value) if isinstance(
         value, os.PathLike) else str(value)
 
 

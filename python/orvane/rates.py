@@ -3,13 +3,14 @@
 from __future__ import annotations
 
 from fractions import Fraction
+from numbers import Rational
 
 LARGEST = 2**53
 
 
 def rate_pair(rate: Fraction | float | str) -> tuple[int, int]:
     """Numerator and denominator; of a float, those of its shortest text."""
-    fraction = Fraction(repr(rate)) if isinstance(rate, float) else Fraction(rate)
+    fraction = Fraction(rate if isinstance(rate, Rational) else str(rate))
     if not 1 <= fraction or max(fraction.numerator, fraction.denominator) > LARGEST:
         raise ValueError(f"rate is {rate}; it is a number of frames per second, 1 or more")
     if fraction >= 2**31:

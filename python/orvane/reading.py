@@ -9,7 +9,7 @@ from orvane.checked import CheckedFile
 from orvane.common import Unit
 from orvane.findings import findings_of, warn_of
 from orvane.motion import Motion
-from orvane.sources import Source, format_of, open_input
+from orvane.sources import Input, Source, format_of, open_input
 from orvane.take import Take
 
 
@@ -60,7 +60,7 @@ def read(source: Source, *, format: str | None = None, unit: Unit | None = None,
     return take
 
 
-def check(source: Source, *, format: str | None = None,
+def check(source: Source | Take | Motion, *, format: str | None = None,
           action: Literal["inspect", "import", "apply", "convert"] = "inspect") -> CheckedFile:
     """Everything that is odd in a marker, motion or mapping file (``"trc"``, ``"htr"``, ``"mnm"``).
 
@@ -68,14 +68,25 @@ def check(source: Source, *, format: str | None = None,
     spoil what comes out of another. A file that its reader refuses has an error among its findings.
     Raises a FileError when the file cannot be read at all.
 
+    Of a take it tells what is odd in the file that ``to_bytes`` makes of it, and lines are those of
+    that file: what the reader of another file has found is in the ``findings`` of the take. Raises a
+    ValueError when no file can hold it.
+
     >>> import orvane
     >>> checked = orvane.check("walk.trc", action="convert")
     >>> checked.contents
     '41 markers, 120 frames'
     >>> [finding.code for finding in checked.findings]
     ['trc-marker-gaps']
+    >>> orvane.check(orvane.read("walk.trc").cut(21, 43)).findings[0].count
+    9
     """
-    file = open_input(source)
-    kind = format_of(file, format, ("trc", "htr", "mnm"))
+    if isinstance(source, (Take, Motion)):
+        own = source.extension[1:]
+        file = Input(source.path, source.to_bytes())
+        kind = format_of(file, format or own, (own,))
+    else:
+        file = open_input(source)
+        kind = format_of(file, format, ("trc", "htr", "mnm"))
     contents, rows = _orvane.check(file.encoded_name, file.data, kind, action)
     return CheckedFile(file.name, kind, contents, findings_of(rows) or ())

@@ -14,7 +14,8 @@ def rewrite(path: Path, output: Path, *, force: bool = False, warn: bool = True,
             **options: Any) -> tuple[Finding, ...]:
     """Makes a file of another, as ``orvane rewrite`` does: its format is that of ``output``'s name.
 
-    The options are the flags of that, as in ``to_scene``: ``cut=(10, 60)``, ``unit="m"``,
+    The options are the flags of that, as in ``to_scene``: ``cut=(10, 60)`` or ``(10, None)``,
+    ``unit="m"``,
     ``select=["LASI", "RASI"]``, ``rename={"LASI": "L"}``. ``force``
     replaces a file that is there. The file appears whole or not at all. Returns what is odd in the
     file, and what the new one cannot hold; each of that which is no note is a FindingWarning unless

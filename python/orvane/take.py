@@ -98,7 +98,7 @@ class Take(FramedTake[_orvane.Markers]):
         try:
             return self._indices[name]
         except KeyError:
-            raise KeyError(f"{self.path} has no marker {name!r}") from None
+            raise self._unknown("marker", name) from None
 
     @cached_property
     def _indices(self) -> dict[str, int]:

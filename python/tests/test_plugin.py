@@ -8,6 +8,7 @@ import subprocess
 import sys
 import threading
 
+import numpy
 import orvane
 import pytest
 
@@ -47,10 +48,20 @@ def test_findings_come_with_the_scene(folder):
     ({"segmentsize": 2}, TypeError, "segmentsize"),
     ({"gaps": "filled"}, ValueError, "gaps"),
     ({"euler": True, "tcb": True}, ValueError, "tcb"),
+    ({"gaps": True}, ValueError, "--gaps: True is not one of"),
+    ({"segment_size": "a"}, ValueError, "segment_size is 'a'; it is a number that is not 0"),
+    ({"segment_size": True}, ValueError, "segment_size is True"),
+    ({"size": 0}, ValueError, "size is 0"),
+    ({"scale": ""}, ValueError, "scale is ''"),
 ])
 def test_wrong_options_are_told_at_once(options, kind, what):
     with pytest.raises(kind, match=what):
         orvane.to_scene("nowhere.htr", **options)
+
+
+def test_sizes_are_numbers_and_may_have_a_unit(folder):
+    for size in (2, 1.5, "25mm", "2 cm", ".5", numpy.float64(3)):
+        orvane.to_scene("walk.trc", size=size).save("markers.glb", force=True)
 
 
 def test_a_missing_file_is_missing(folder):

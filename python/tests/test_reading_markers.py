@@ -33,6 +33,7 @@ def test_the_header_is_told():
     assert (take.rate, take.rate_taken) == (Fraction("59.94"), 59)
     assert (take.first_frame, take.last_frame, take.frame_count) == (1, 3, 3)
     np.testing.assert_allclose(take.times, [0, 1 / 59.94, 2 / 59.94])
+    np.testing.assert_allclose(take.cut(take.last_frame, take.last_frame).times, [2 / 59.94])
 
 
 def test_gaps_are_told_by_the_numbers_of_their_frames():

@@ -31,9 +31,22 @@ def test_names_are_lists_and_mappings(folder):
     assert set(orvane.read("two.trc").names) == {"C7", "LFHD"}
 
 
+def test_a_cut_may_have_an_open_end(folder):
+    orvane.rewrite("walk.trc", "end.trc", cut=(111, None), warn=False)
+    end = orvane.read("end.trc", warn=False)
+    assert (end.first_frame, end.last_frame) == (111, 120)
+    orvane.rewrite("walk.trc", "all.trc", cut=(None, None), warn=False)
+    assert orvane.compare("walk.trc", "all.trc")
+
+
 def test_an_option_that_there_is_not_is_an_error(folder):
     with pytest.raises(TypeError, match="cutt"):
         orvane.rewrite("walk.trc", "part.trc", cutt=(1, 2))
+
+
+def test_true_is_no_choice(folder):
+    with pytest.raises(ValueError, match="--resample: True is not one of linear, slerp"):
+        orvane.rewrite("walk.trc", "fast.trc", rate=90, resample=True)
 
 
 def test_a_refusal_tells_of_the_file_and_what_was_found(folder):

@@ -45,3 +45,11 @@ def test_gaps_and_positions_are_drawn(folder):
     assert len(axes.get_yticklabels()) == 41
     lines = orvane.read("walk.htr").plot_positions("Hips").get_lines()
     assert [line.get_label() for line in lines] == ["x", "y", "z"]
+
+
+def test_what_is_drawn_of_a_cut_begins_at_its_time(folder):
+    pytest.importorskip("matplotlib")
+    axes = orvane.read("walk.trc").cut(31, 60).plot_gaps()
+    boxes = [each.get_datalim(axes.transData) for each in axes.collections]
+    assert min(box.x0 for box in boxes if box.width > 0) == pytest.approx(0.5)
+    assert max(box.x1 for box in boxes if box.width > 0) == pytest.approx(1.0)

@@ -73,6 +73,20 @@ def test_a_cut_keeps_the_numbers_of_its_frames(folder):
             orvane.read(name).cut(100, 121)
     take = orvane.read("walk.trc")
     np.testing.assert_array_equal(take.cut(11, 20).points, take.points[10:20])
+    np.testing.assert_array_equal(take.cut(first=111).points, take.points[110:])
+    np.testing.assert_array_equal(take.cut(last=10).points, take.points[:10])
+    assert take.cut().frame_count == 120
+    with pytest.raises(ValueError, match="frames 121 to the last are .* holds 1 to 120"):
+        take.cut(first=121)
+    with pytest.raises(ValueError, match="frames the first to 0 are .* holds 1 to 120"):
+        take.cut(last=0)
+
+
+def test_a_name_of_another_subject_is_told(folder):
+    with pytest.raises(KeyError, match="'LFHD'; did you mean 'walker:LFHD'"):
+        orvane.read("walk.trc").select("LFHD")
+    with pytest.raises(KeyError, match=r"no segment 'nobody'\""):
+        orvane.read("walk.htr").index("nobody")
 
 
 def test_a_selection_holds_what_is_named(folder):
@@ -113,6 +127,9 @@ def test_heights_along_z_are_turned():
 def test_another_rate_takes_every_other_frame(folder):
     take = orvane.read("walk.trc")
     half = take.resample(30)
+    assert take.resample(np.float64(30)).rate == 30
+    assert take.resample(np.float32(59.94)).rate == Fraction("59.94")
+    assert take.resample(np.int64(30)).rate == 30
     np.testing.assert_array_equal(half.points, take.points[::2])
     assert half.rate == 30
     motion = orvane.read("walk.htr").resample(90, rotations="linear")

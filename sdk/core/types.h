@@ -16,6 +16,7 @@ using NodeHandle = std::uint32_t;
 // A wire colour: red | green << 8 | blue << 16, each 0 to 255.
 using WireColor = std::uint32_t;
 
+// Of each part the lowest 8 bits count.
 constexpr WireColor PackWireColor(unsigned red, unsigned green, unsigned blue) {
   return (red & 0xFFU) | (green & 0xFFU) << 8U | (blue & 0xFFU) << 16U;
 }

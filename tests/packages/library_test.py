@@ -50,6 +50,11 @@ class LibraryTest(PackageTest):
         self.assertGreater(len(frames[0]), 100_000)
         self.assertEqual(*frames)
 
+        motion = str(self.prefix / "share/doc/orvane/examples/walk.htr")
+        places = self.run_in_folder(f"{programs}/positions", motion, "LeftHand").splitlines()
+        self.assertEqual(len(places), 120)
+        self.assertEqual(places[0].split("\t"), ["1", "246.988", "838.402", "-87.8175"])
+
         self.run_in_folder(f"{programs}/write", "pendulum.htr")
         self.assertIn("clean: 1 segment, 120 frames",
                       self.run_in_folder(orvane, "check", "pendulum.htr"))
@@ -62,7 +67,8 @@ class LibraryTest(PackageTest):
         self.check_examples("build")
 
     def test_pkg_config_builds_the_examples(self):
-        for name, library in (("gaps", "formats"), ("convert", "inspect"), ("write", "formats")):
+        for name, library in (("gaps", "formats"), ("convert", "inspect"),
+                              ("positions", "formats"), ("write", "formats")):
             flags = self.pkg_config("--cflags", "--libs", f"orvane-{library}")
             self.assertIn("-std=c++20", flags)
             self.run_in_folder("g++", *WARNINGS, str(self.examples / f"{name}.cpp"), *flags,
@@ -72,7 +78,7 @@ class LibraryTest(PackageTest):
     def test_the_examples_are_short(self):
         sizes = {path.name: len(path.read_text().splitlines())
                  for path in self.examples.glob("*.cpp")}
-        self.assertEqual({"convert.cpp", "gaps.cpp", "write.cpp"}, set(sizes))
+        self.assertEqual({"convert.cpp", "gaps.cpp", "positions.cpp", "write.cpp"}, set(sizes))
         self.assertLess(max(sizes.values()), 40, sizes)
 
     def test_the_page_s_example_prints_what_the_page_says(self):

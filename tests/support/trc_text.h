@@ -18,8 +18,9 @@ struct TrcText {
   std::string units = "mm";
   int path_type = 4;
   std::int64_t first_frame = 1;
-  int frame_count = -1;   // as the header says; -1: as many as there are
-  int marker_count = -1;  // likewise
+  std::string time = "0.000";  // of every frame
+  int frame_count = -1;        // as the header says; -1: as many as there are
+  int marker_count = -1;       // likewise
   std::string line_end = "\n";
 
   std::string Text() const {
@@ -55,7 +56,7 @@ struct TrcText {
   }
 
   std::string FrameLine(std::size_t index) const {
-    std::string text = std::to_string(first_frame + static_cast<std::int64_t>(index)) + "\t0.000";
+    std::string text = std::to_string(first_frame + static_cast<std::int64_t>(index)) + "\t" + time;
     for (const std::string& sample : frames[index]) {
       text += "\t" + (sample.empty() ? "\t\t" : sample);
     }

@@ -1,6 +1,7 @@
+#include "web/core/linked_module.h"
+
 #include <array>
 
-#include "host/desktop/settings.h"
 #include "platform/web/linked_library.h"
 #include "sdk/core/library.h"
 
@@ -23,8 +24,10 @@ class LinkedModule {
  public:
   LinkedModule() { platform::OfferLinkedLibrary(ORVANE_MODULE_NAME, entry_points_); }
 
+  LinkedSettings& Settings() { return settings_; }
+
  private:
-  host::FreshSettings settings_;
+  LinkedSettings settings_;
   std::array<platform::LinkedFunction, 4> entry_points_ = {{
       {"LibDescription", reinterpret_cast<void*>(LibDescription)},
       {"LibNumberClasses", reinterpret_cast<void*>(LibNumberClasses)},
@@ -37,4 +40,7 @@ constexpr int kBeforeOthers = 101;  // the first that is not the compiler's own
 __attribute__((init_priority(kBeforeOthers))) LinkedModule linked_module;
 
 }  // namespace
+
+LinkedSettings& SettingsOfModule() { return linked_module.Settings(); }
+
 }  // namespace web

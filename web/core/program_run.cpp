@@ -1,5 +1,6 @@
 #include "web/core/program_run.h"
 
+#include <exception>
 #include <iostream>
 
 #include "cli/common/progress_watch.h"
@@ -26,6 +27,7 @@ class PageProgress {
     if (progress.is_over) return orvane_end_progress();
     const Clock::time_point now = Clock::now();
     if (now - last_ < pause_) return;
+    if (std::current_exception()) return;  // nothing can sleep where one is being handled
     if (orvane_show_progress(progress.what.c_str(), progress.percent) != 0) {
       platform::RequestInterrupt();
     }

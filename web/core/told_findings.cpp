@@ -8,7 +8,7 @@
 #include "cli/common/json_writer.h"
 #include "cli/common/report.h"
 #include "inspect/report/report.h"
-#include "web/core/file_lines.h"
+#include "web/core/places.h"
 
 namespace web {
 namespace {
@@ -24,10 +24,10 @@ class FindingsWriter {
   FindingsWriter(const Take& take, JsonWriter& json)
       : json_(json), contents_(take.GetContents()), kept_(take.Checked().findings.Sorted()) {
     for (const std::string& name : contents_.objects) index_of_.emplace(name, index_of_.size());
-    std::vector<LinePlace> places;
+    std::vector<orvane::LinePlace> places;
     places.reserve(kept_.size());
     for (const Finding& finding : kept_) places.push_back({finding.line, finding.column});
-    places_ = FindPlaces(take, take.GetHeader(), contents_, places);
+    places_ = FindPlaces(take, contents_, places);
   }
 
   void Write(const ReportedFinding& finding) {

@@ -6,6 +6,7 @@ import { keysShown } from "./state/layout";
 import { deselect, lastSelected } from "./state/selection";
 import { activeTake } from "./state/takes";
 import * as time from "./state/time";
+import { takeSuggestion } from "./state/work";
 import { follow, labels, nextTrails, toggleProjection } from "./state/view_options";
 import { stage } from "./viewport/current_stage";
 
@@ -55,6 +56,7 @@ export const COMMANDS: Readonly<Record<Command, () => void>> = {
   "view-closer": () => stage.value?.eye.zoom(1.25),
   "view-wider": () => stage.value?.eye.zoom(1 / 1.25),
   deselect,
+  "take-suggestion": takeSuggestion,
   search: () => document.getElementById(SEARCH_ID)?.focus(),
   open: openChosen,
   keys: () => (keysShown.value = true),

@@ -30,7 +30,7 @@ function keepFocus(): void {
 export function listenToKeys(): void {
   keepFocus();
   addEventListener("keydown", (event) => {
-    if (event.defaultPrevented || document.querySelector("dialog[open]")) return;
+    if (event.defaultPrevented || document.querySelector("dialog[open], [aria-modal=true]")) return;
     if (typesText(event.target)) {
       if (event.key === "Escape") (event.target as HTMLElement).blur();
       return;

@@ -7,22 +7,16 @@ import type {
   Description,
   Findings,
   LineText,
-  OutFile,
   RunResult,
   Tracks,
 } from "./protocol";
+import { WorkFolder, type InFile } from "./work_folder";
 
 /** The page's side of the plug-in's progress bar. */
 export interface BarWatcher {
   /** Promises whether the user has cancelled. */
   show(what: string, percent: number): Promise<boolean>;
   end(): void;
-}
-
-/** A file in an instance: its bytes are not copied, and nobody changes them. */
-export interface InFile {
-  path: string;
-  bytes: Uint8Array<ArrayBuffer>;
 }
 
 /** Why the core could not do something. */
@@ -38,12 +32,15 @@ export class CoreError extends Error {
   }
 }
 
-const FOLDER = "/work";
 const CURVES: CurveOf[] = ["position", "localPosition", "rotation"];
 const NO_BAR: BarWatcher = { show: () => Promise.resolve(false), end: () => {} };
 
 export class CoreInstance {
-  private constructor(private readonly module: CoreModule) {}
+  private readonly folder: WorkFolder;
+
+  private constructor(private readonly module: CoreModule) {
+    this.folder = new WorkFolder(module);
+  }
 
   static async make(compiled: WebAssembly.Module, bar: BarWatcher = NO_BAR): Promise<CoreInstance> {
     const module = await createCore({
@@ -54,8 +51,6 @@ export class CoreInstance {
       showProgress: (what, percent) => bar.show(what, percent),
       endProgress: () => bar.end(),
     });
-    module.FS.mkdirTree(FOLDER);
-    module.FS.chdir(FOLDER);
     return new CoreInstance(module);
   }
 
@@ -64,14 +59,12 @@ export class CoreInstance {
     return this.module.HEAPU8.length;
   }
 
-  put({ path, bytes }: InFile): void {
-    const folder = path.lastIndexOf("/");
-    if (folder > 0) this.module.FS.mkdirTree(`${FOLDER}/${path.slice(0, folder)}`);
-    this.module.FS.writeFile(`${FOLDER}/${path}`, bytes, { canOwn: true });
+  put(file: InFile): void {
+    this.folder.put(file);
   }
 
   remove(path: string): void {
-    this.module.FS.unlink(`${FOLDER}/${path}`);
+    this.folder.remove(path);
   }
 
   open(id: number, path: string): { info: Description; tracks: Tracks } {
@@ -129,7 +122,7 @@ export class CoreInstance {
       status: Number(this.text()),
       out: this.stream("/out"),
       err: this.stream("/err"),
-      files: this.made(files),
+      files: this.folder.takeMade(),
     };
   }
 
@@ -145,26 +138,6 @@ export class CoreInstance {
 
   private stream(path: string): string {
     return new TextDecoder().decode(this.module.FS.readFile(path));
-  }
-
-  // All files that the program has made or replaced.
-  private made(given: InFile[]): OutFile[] {
-    const { FS } = this.module;
-    const bytesOf = new Map(given.map(({ path, bytes }) => [path, bytes]));
-    const found: OutFile[] = [];
-    const look = (folder: string): void => {
-      for (const entry of FS.readdir(`${FOLDER}/${folder}`)) {
-        if (entry === "." || entry === "..") continue;
-        const name = folder + entry;
-        const { node } = FS.lookupPath(`${FOLDER}/${name}`);
-        if (FS.isDir(node.mode)) look(`${name}/`);
-        else if (!sharesBytes(node.contents, bytesOf.get(name))) {
-          found.push({ name, bytes: FS.readFile(`${FOLDER}/${name}`) });
-        }
-      }
-    };
-    look("");
-    return found;
   }
 
   private require(result: number): void {
@@ -222,13 +195,4 @@ export class CoreInstance {
     });
     return { address, pointers };
   }
-}
-
-function sharesBytes(contents: unknown, bytes: Uint8Array<ArrayBuffer> | undefined): boolean {
-  return (
-    bytes !== undefined &&
-    contents instanceof Uint8Array &&
-    contents.buffer === bytes.buffer &&
-    contents.byteOffset === bytes.byteOffset
-  );
 }

@@ -32,6 +32,7 @@ declare module "orvane-core" {
     _orvane_line(id: number, line: number, column: number): number;
     _orvane_close(id: number): void;
     _orvane_run(count: number, texts: number, pause: number): number;
+    _orvane_desk_run(): void;
     _orvane_text(): number;
     _orvane_text_size(): number;
     _orvane_block(index: number): number;
@@ -44,8 +45,12 @@ declare module "orvane-core" {
       imports: WebAssembly.Imports,
       take: (instance: WebAssembly.Instance, module: WebAssembly.Module) => void,
     ): object;
-    showProgress(what: string, percent: number): Promise<boolean>;
-    endProgress(): void;
+    showProgress?(what: string, percent: number): Promise<boolean>;
+    endProgress?(): void;
+    /** Of a desk. */
+    addNumbers?(numbers: Float32Array<ArrayBuffer>): void;
+    tell?(json: string): void;
+    nextEvent?(awaited: boolean): Promise<string | null>;
   }
 
   export default function createCore(options: CoreOptions): Promise<CoreModule>;

@@ -1,12 +1,15 @@
 // The worker that owns the core: it answers one question after the other, and listens for a Cancel meanwhile.
 
-import { CoreError, CoreInstance, type BarWatcher, type InFile } from "./core_instance";
+import { CoreError, CoreInstance, type BarWatcher } from "./core_instance";
+import type { DeskAnswer, DeskOrder } from "./desk_protocol";
+import { beginDesk } from "./desk_worker";
 import type { Answer, CoreFailure, Question, Request } from "./protocol";
 import { failureForSize } from "./size_limit";
+import type { InFile } from "./work_folder";
 
 declare const self: {
-  onmessage: ((event: MessageEvent<Request>) => void) | null;
-  postMessage(answer: Answer, transfer: ArrayBuffer[]): void;
+  onmessage: ((event: MessageEvent<Request | DeskOrder>) => void) | null;
+  postMessage(answer: Answer | DeskAnswer, transfer: ArrayBuffer[]): void;
 };
 
 interface Kept {
@@ -142,14 +145,25 @@ async function reply(request: Question & { call: number }): Promise<void> {
 
 let turn = Promise.resolve();
 
-self.onmessage = ({ data }) => {
-  if ("call" in data) {
-    turn = turn.then(() => reply(data));
-  } else if (data.do === "start") {
-    compiled = data.module;
-  } else if (data.do === "keep") {
-    takes.set(data.take, { path: data.path, file: data.file });
+function take(request: Request): void {
+  if ("call" in request) {
+    turn = turn.then(() => reply(request));
+  } else if (request.do === "start") {
+    compiled = request.module;
+  } else if (request.do === "keep") {
+    takes.set(request.take, { path: request.path, file: request.file });
   } else {
     cancelAsked = true;
   }
+}
+
+// The first order says what this worker is.
+let takeForDesk: ((order: DeskOrder) => void) | undefined;
+
+self.onmessage = ({ data }) => {
+  if (!takeForDesk && "do" in data && data.do === "start-desk") {
+    takeForDesk = beginDesk((answer, transfer) => self.postMessage(answer, transfer));
+  }
+  if (takeForDesk) takeForDesk(data as DeskOrder);
+  else take(data as Request);
 };

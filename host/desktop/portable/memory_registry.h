@@ -20,6 +20,10 @@ class SKELDER_API MemoryRegistry final : public KeyedRegistry {
   // Whether the key with the full path `path` exists.
   [[nodiscard]] bool HasKey(const std::string& path) const;
 
+  // The values of all keys, by the keys' full paths and by their own names.
+  using Keys = std::map<std::string, std::map<std::string, RegistryValue>>;
+  [[nodiscard]] const Keys& AllKeys() const { return keys_; }
+
   // From now on the key with the full path `path`, and what lies beneath it, cannot be opened.
   void RefuseKey(const std::string& path);
 
@@ -31,7 +35,7 @@ class SKELDER_API MemoryRegistry final : public KeyedRegistry {
   [[nodiscard]] bool StoreValue(const std::string& path, const std::string& name,
                                 RegistryValue value) override;
 
-  std::map<std::string, std::map<std::string, RegistryValue>> keys_;  // by full path
+  Keys keys_;
   std::set<std::string> refused_;
 };
 

@@ -10,6 +10,7 @@
 #include "host/desktop/scripted_dialog.h"
 #include "platform/dialog.h"
 #include "platform/dialog_template.h"
+#include "platform/export.h"
 
 // A dialog that is open on a desktop without screen: the state of its controls, built from the
 // template and changed by the dialog's handler. What the user does stands in open_dialog_user.h.
@@ -21,13 +22,20 @@ struct OpenControl {
   DialogControl state;
   HWND__ window{};
 
+  // Whether the user can click it, if it is not disabled.
+  bool IsClickable() const {
+    return state.kind == platform::ControlKind::kPushButton ||
+           state.kind == platform::ControlKind::kCheckBox ||
+           state.kind == platform::ControlKind::kRadioButton;
+  }
+
   // Whether the user can type into it, if it is neither disabled nor read-only.
   bool IsTypable() const {
     return state.kind == platform::ControlKind::kEdit || window.custom_edit != nullptr;
   }
 };
 
-class OpenDialog final : public platform::Dialog {
+class SKELDER_API OpenDialog final : public platform::Dialog {
  public:
   // Builds the controls of `dialog`, unchecked and empty but for their texts. `parent` may be null.
   // A `modal` dialog ends when its handler says so, another one when it is closed.

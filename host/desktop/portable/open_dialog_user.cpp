@@ -4,16 +4,6 @@
 #include <iterator>
 
 namespace host {
-namespace {
-
-using platform::ControlKind;
-
-bool IsClickable(ControlKind kind) {
-  return kind == ControlKind::kPushButton || kind == ControlKind::kCheckBox ||
-         kind == ControlKind::kRadioButton;
-}
-
-}  // namespace
 
 OpenDialogUser::OpenDialogUser(int id, OpenDialog& dialog, platform::DialogHandler& handler,
                                const ScriptFailure& failure)
@@ -48,9 +38,10 @@ void OpenDialogUser::Type(int control, std::string_view text) {
 }
 
 void OpenDialogUser::Click(int control) {
-  DialogControl& button = Usable(control).state;
-  if (!IsClickable(button.kind)) Refuse(control, "is nothing to click");
-  if (button.kind == ControlKind::kCheckBox) button.checked = !button.checked;
+  OpenControl& button = Usable(control);
+  if (!button.IsClickable()) Refuse(control, "is nothing to click");
+  const bool is_check_box = button.state.kind == platform::ControlKind::kCheckBox;
+  if (is_check_box) button.state.checked = !button.state.checked;
   Send(control);
 }
 

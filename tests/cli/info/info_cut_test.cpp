@@ -167,6 +167,36 @@ TEST_F(InfoCutTest, TellsOfFramesThatAreNotThere) {
   }
 }
 
+TEST_F(InfoCutTest, BeginsAndEndsWhereTheFileDoesWhenOneNumberIsLeftOut) {
+  const std::vector<std::pair<std::string, std::string>> cuts = {{"230:", "numbered 230 to 231\n"},
+                                                                 {":229", "numbered 228 to 229\n"},
+                                                                 {":500", "numbered 228 to 231\n"},
+                                                                 {"5:", "numbered 228 to 231\n"}};
+  for (const std::string file : {"take0.trc", "take1.htr"}) {
+    for (const auto& [range, numbers] : cuts) {
+      const ProgramResult result = Orvane({"info", file, "--cut", range});
+      EXPECT_THAT(result.output, HasSubstr(numbers)) << range;
+      const bool lacks_some = range == ":500" || range == "5:";
+      EXPECT_EQ(result.error.find("[cut-range-partly]") != std::string::npos, lacks_some) << range;
+    }
+    EXPECT_THAT(Orvane({"info", file, "--cut", ":500"}).error,
+                HasSubstr("--cut asks for 273 frames, and the file lacks 269 of them. The frames "
+                          "228 to 231 are taken."));
+    EXPECT_THAT(
+        Orvane({"info", file, "--cut", "300:"}).error,
+        HasSubstr("--cut asks for the frames 300 to the last, and the file has 228 to 231"));
+    EXPECT_THAT(Orvane({"info", file, "--cut", ":3"}).error,
+                HasSubstr("--cut asks for the frames up to 3, and the file has 228 to 231"));
+  }
+  for (const std::string wrong : {":", "5", "x:", ":x", ""}) {
+    const ProgramResult result = Orvane({"info", "take0.trc", "--cut", wrong});
+    EXPECT_EQ(result.status, 2) << wrong;
+  }
+  EXPECT_THAT(Orvane({"info", "take0.trc", "--cut", ":"}).error,
+              HasSubstr("--cut: two frame numbers, FROM:TO, or one of them, FROM: or :TO, are "
+                        "expected, not :\n"));
+}
+
 TEST_F(InfoCutTest, ShowsManyByTheNumbersOfEach) {
   Write("late.trc", test::Replaced(kMarkers, "\t60\t228\t", "\t60\t300\t"));
   const ProgramResult result = Orvane({"info", "take0.trc", "late.trc", "--cut", "230:300"});

@@ -56,7 +56,7 @@ TEST_F(CsvReadingTest, ByPandasGivesEveryNumberAndGap) {
       "long = read('long.csv')\n"
       "for name, samples in wanted.items():\n"
       "  assert told(wide, name + '.x', name + '.y', name + '.z') == samples, name\n"
-      "  assert told(long[long.Marker == name], 'x', 'y', 'z') == samples, name\n"
+      "  assert told(long[long.marker == name], 'x', 'y', 'z') == samples, name\n"
       "print(len(wide), len(long))\n");
   EXPECT_EQ(result.status, 0) << result.error;
   EXPECT_EQ(result.output, "120 4920\n");

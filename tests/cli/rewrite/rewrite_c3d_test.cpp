@@ -11,6 +11,7 @@ using test::ProgramResult;
 using test::TrcText;
 using testing::ElementsAre;
 using testing::HasSubstr;
+using testing::Not;
 
 using Flags = std::vector<std::string>;
 
@@ -85,6 +86,10 @@ TEST_F(RewriteC3dTest, TellsWhatAC3dFileDoesNotHold) {
   TrcText of_camera = Take();
   of_camera.camera_rate = "120";
   const std::string long_name(300, 'a');
+  TrcText early = Take();
+  early.time = "2.27";
+  TrcText in_time = Take();
+  in_time.time = "0.167";
   const std::vector<Loss> losses = {
       {precise,
        {},
@@ -98,6 +103,11 @@ TEST_F(RewriteC3dTest, TellsWhatAC3dFileDoesNotHold) {
       {of_camera,
        {"--rate", "30"},
        "note: The file says a camera rate of 120 and an original rate of 60, too. The new file"},
+      {early,
+       {},
+       "warning: The first frame has the time 2.270 s, which goes by no frame number. The new file "
+       "holds no times: other programs count them by its frame numbers and its rate. "
+       "[rewrite-time-lost]\n"},
       {Take(),
        {"--start-frame", "-3"},
        "note: The first frame has the number -3. The frames of the new file are numbered from 1. "
@@ -120,6 +130,13 @@ TEST_F(RewriteC3dTest, TellsWhatAC3dFileDoesNotHold) {
     EXPECT_EQ(result.status, 0) << loss.told;
     EXPECT_THAT(result.error, HasSubstr(loss.told));
   }
+  const std::string told = RewriteOf(in_time).error;
+  EXPECT_THAT(told, Not(HasSubstr("[rewrite-time-lost]"))) << "frame 11 at 60 frames per second";
+}
+
+TEST_F(RewriteC3dTest, TellsTheNumbersThatTheFramesGet) {
+  EXPECT_THAT(RewriteOf(Take(), {"--start-frame", "-3"}).output,
+              HasSubstr("  Frames    1 to 2 at "));
 }
 
 TEST_F(RewriteC3dTest, RefusesWhatNoC3dFileHolds) {

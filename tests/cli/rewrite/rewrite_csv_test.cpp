@@ -25,13 +25,13 @@ class RewriteCsvTest : public test::OrvaneTest {
 TEST_F(RewriteCsvTest, MakesTablesOfMarkers) {
   EXPECT_EQ(Orvane({"rewrite", "take.trc", "-o", "wide.csv"}).status, 0);
   EXPECT_EQ(Read("wide.csv"),
-            "Frame,Time,A.x,A.y,A.z,b c.x,b c.y,b c.z\r\n,s,mm,mm,mm,mm,mm,mm\r\n"
+            "frame,time,A.x,A.y,A.z,b c.x,b c.y,b c.z\r\n,s,mm,mm,mm,mm,mm,mm\r\n"
             "1,0.000000,1,2,3.5,,,\r\n2,0.016683,4,5,6,7,8,9\r\n");
   test::ProgramRun run =
       Command({"rewrite", "take.trc", "-o", "-", "--to", "csv", "--layout", "long", "--quiet"});
   run.writes_bytes = true;
   EXPECT_EQ(RunProgram(run).output,
-            "Frame,Time,Marker,x,y,z\r\n,s,,mm,mm,mm\r\n1,0.000000,A,1,2,3.5\r\n"
+            "frame,time,marker,x,y,z\r\n,s,,mm,mm,mm\r\n1,0.000000,A,1,2,3.5\r\n"
             "1,0.000000,b c,,,\r\n2,0.016683,A,4,5,6\r\n2,0.016683,b c,7,8,9\r\n");
 }
 
@@ -40,7 +40,7 @@ TEST_F(RewriteCsvTest, MakesTablesOfMotionAndTellsWhatTheyDoNotHold) {
   const ProgramResult world = Orvane({"rewrite", "take.htr", "-o", "w.csv", "--decimals", "1"});
   EXPECT_EQ(world.status, 0);
   EXPECT_THAT(CodesIn(world.error), ElementsAre("rewrite-scale-lost", "rewrite-skeleton-lost"));
-  EXPECT_THAT(Read("w.csv"), StartsWith("Frame,Time,Hips.x,Hips.y,Hips.z,Hips.rx,"));
+  EXPECT_THAT(Read("w.csv"), StartsWith("frame,time,Hips.x,Hips.y,Hips.z,Hips.rx,"));
   EXPECT_THAT(
       Read("w.csv"),
       HasSubstr("\r\n2,0.016667,10.0,900.0,0.0,0.0,0.0,90.0,-90.0,900.0,0.0,0.0,0.0,90.0\r\n"));

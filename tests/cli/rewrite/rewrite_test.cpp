@@ -70,6 +70,58 @@ TEST_F(RewriteTest, OfMarkersKeepsEveryNumberGapAndRate) {
   EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t0.016683\t10\t171\t0.1\t\t\t\r\n"));
 }
 
+// The rate of the file is 59.94, of which readers keep 59.
+TEST_F(RewriteTest, KeepsTheTimesOfFrames) {
+  Write("late.trc", Replaced(Read("take.trc"), "101\t0.000\t", "101\t2.270\t"));
+  struct Edit {
+    Flags flags;
+    std::string row;  // the beginning of the first
+  };
+  const std::vector<Edit> edits = {{{}, "101\t2.270000\t"},
+                                   {{"--cut", "103:103"}, "103\t2.303367\t"},
+                                   {{"--rate", "29.97"}, "101\t2.270000\t"},
+                                   {{"--start-frame", "1"}, "1\t2.270000\t"},
+                                   {{"--start-time", "-0.5"}, "101\t-0.500000\t"},
+                                   {{"--cut", "102:103", "--start-time", "7"}, "102\t7.000000\t"}};
+  for (const Edit& edit : edits) {
+    Flags flags = edit.flags;
+    flags.emplace_back("--force");
+    ASSERT_EQ(Rewrite("late.trc", "new.trc", flags).status, 0);
+    EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n\r\n" + edit.row));
+  }
+  ASSERT_EQ(Rewrite("take.htr", "motion.csv", {"--cut", "2:2"}).status, 0);
+  EXPECT_THAT(Read("motion.csv"), HasSubstr("\r\n2,0.016667,")) << "counted from the first frame";
+  ASSERT_EQ(Rewrite("late.trc", "new.csv", {"--cut", "102:103"}).status, 0);
+  EXPECT_THAT(Read("new.csv"), HasSubstr("\r\n102,2.286683,"));
+}
+
+TEST_F(RewriteTest, TakesTimesThatAreNumbersAlone) {
+  for (const std::string time : {"", "00:00:02:10", "x", "1e999", "2,27"}) {
+    Write("odd.trc", Replaced(Read("take.trc"), "101\t0.000\t", "101\t" + time + "\t"));
+    ASSERT_EQ(Rewrite("odd.trc", "new.trc", {"--force", "--no-report"}).status, 0);
+    EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n101\t0.000000\t")) << time;
+  }
+}
+
+TEST_F(RewriteTest, TellsOfATimeThatIsNoNumberWhereTimesAreWritten) {
+  Write("code.trc", Replaced(Read("take.trc"), "101\t0.000\t", "101\t10:22:07:05\t"));
+  const auto told = [this](const std::string& output, const Flags& flags) {
+    Flags all = {"--force"};
+    all.insert(all.end(), flags.begin(), flags.end());
+    return Rewrite("code.trc", output, all).error;
+  };
+  const std::string text =
+      "warning: The time of the first frame is \"10:22:07:05\", not a number of seconds (line 7, "
+      "column 1). Times begin at 0 in the new file; --start-time gives another one. "
+      "[trc-time-unreadable]\n";
+  EXPECT_THAT(told("new.trc", {}), HasSubstr(text));
+  EXPECT_THAT(told("new.csv", {}), HasSubstr(text));
+  EXPECT_THAT(told("new.c3d", {}),
+              HasSubstr("The new file holds no times: frames follow each other at its rate. "
+                        "[trc-time-unreadable]\n"));
+  EXPECT_THAT(told("new.trc", {"--start-time", "2.5"}), Not(HasSubstr("trc-time")));
+}
+
 TEST_F(RewriteTest, OfMotionKeepsEveryNumberAndTheRate) {
   Write("take.htr", Replaced(SmallMotion(), "Rate 60", "Rate 29.97"));
   EXPECT_EQ(Rewrite("take.htr", "new.htr").status, 0);
@@ -121,7 +173,17 @@ TEST_F(RewriteTest, SaysWhatBecomesOfWhichFile) {
       {"take.trc", "new", {}, "orvane: new: says by no extension what is to be written\n"},
       {"take.trc", "new.htr", {}, "orvane: new.htr: of TRC files no .htr is made\n"},
       {"take.htr", "new.trc", {}, "orvane: new.trc: of HTR files no .trc is made\n"},
+      {"take.txt",
+       "new.trc",
+       {},
+       "orvane: take.txt: is taken for an HTR file, and of those no .trc is made\n"
+       "  --as says what it is.\n"},
       {"take.trc", "-", {"--json"}, "orvane: --json: is written to standard output"},
+      {"take.htr",
+       "new.bvh",
+       {"--start-time", "1"},
+       "orvane: --start-time: is for TRC and CSV files\n"},
+      {"take.trc", "new.csv", {"--start-time", "1s"}, "a number of seconds is expected"},
       {"take.trc", "new.csv", {"--space", "local"}, "orvane: --space: is for HTR files\n"},
       {"take.trc", "new.csv", {"--rotations", "euler"}, "orvane: --rotations: is for HTR files\n"},
       {"take.trc", "new.trc", {"--rename", "A"}, "takes OLD=NEW, or a mapping"},
@@ -144,7 +206,7 @@ TEST_F(RewriteTest, TakesSomeFramesAndMarkersUnderOtherNames) {
   EXPECT_THAT(result.error, HasSubstr("[cut-range-partly]"));
   EXPECT_THAT(Read("new.trc"), HasSubstr("\t2\t1\tcm\t59.94\t102\t2\r\n"));
   EXPECT_THAT(Read("new.trc"), HasSubstr("Frame#\tTime\tRFHD\t\t\t\r\n"));
-  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t0.000000\t\t\t\r\n103\t0.016683\t1\t2\t3\r\n"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t0.016683\t\t\t\r\n103\t0.033367\t1\t2\t3\r\n"));
 }
 
 TEST_F(RewriteTest, TakesNamesOfAMapping) {
@@ -164,10 +226,65 @@ TEST_F(RewriteTest, RefusesNamesThatNothingHasAndSuchAsNoFileHolds) {
                         "[rewrite-select-unknown]\n"));
   EXPECT_THAT(unknown.error,
               HasSubstr("orvane: take.trc: nothing was written because of rewrite-select-unknown"));
+  EXPECT_THAT(Rewrite("take.trc", "new.trc", {"--select", "walker:LFHD"}).error,
+              HasSubstr("did you mean \"LFHD\"? [rewrite-select-unknown]\n"));
   const ProgramResult twice = Rewrite("take.trc", "new.trc", {"--rename", "LFHD=right head"});
   EXPECT_EQ(twice.status, 1);
   EXPECT_THAT(twice.error, HasSubstr("\"right head\" would be there twice"));
   EXPECT_FALSE(Exists("new.trc"));
+}
+
+TEST_F(RewriteTest, CutsFromTheFirstFrameOrToTheLast) {
+  EXPECT_EQ(Rewrite("take.trc", "new.trc", {"--cut", "102:"}).status, 0);
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n102\t"));
+  EXPECT_THAT(Read("new.trc"), HasSubstr("\r\n103\t"));
+  EXPECT_THAT(Read("new.trc"), Not(HasSubstr("\r\n101\t")));
+}
+
+// "right head" is missing in frame 102.
+TEST_F(RewriteTest, TellsOfGapsThatAreWrittenAlone) {
+  const std::vector<std::pair<Flags, std::string>> told = {
+      {{"--select", "LFHD"}, ""},
+      {{"--cut", "103:103"}, ""},
+      {{"--cut", "101:102"}, "orvane: take.trc: note: A marker has gaps: \"right head\". "},
+      {{"--cut", "102:102"},
+       "orvane: take.trc: warning: A marker has no position in any frame: \"right head\". "},
+  };
+  for (const auto& [flags, start] : told) {
+    Flags all = flags;
+    all.insert(all.end(), {"--force"});
+    const std::string error = Rewrite("take.trc", "new.trc", all).error;
+    EXPECT_EQ(
+        error.find("gaps") != std::string::npos || error.find("no position") != std::string::npos,
+        !start.empty())
+        << error;
+    EXPECT_THAT(error, HasSubstr(start));
+  }
+  EXPECT_EQ(Rewrite("take.trc", "new.trc",
+                    {"--select", "LFHD", "--strict", "--force", "--allow", "trc-rate-cut"})
+                .status,
+            0);
+}
+
+TEST_F(RewriteTest, SaysWhatBecomesOfOdditiesInTheFormatThatIsWritten) {
+  struct Case {
+    std::string output;
+    std::string told;
+  };
+  Write("odd.htr", Replaced(SmallMotion(), "ScaleFactor 1.0", "ScaleFactor 2.0"));
+  const std::vector<Case> cases = {
+      {"new.htr", "It is written as it is; nothing is multiplied by it. [htr-scale-factor]"},
+      {"new.csv",
+       "Nothing is multiplied by it, and the new file does not say it. [htr-scale-factor]"},
+      {"new.bvh",
+       "Nothing is multiplied by it, and the new file does not say it. [htr-scale-factor]"}};
+  for (const Case& each : cases) {
+    EXPECT_THAT(Rewrite("odd.htr", each.output).error, HasSubstr(each.told));
+  }
+  const std::string resampled =
+      Rewrite("take.htr", "fast.htr", {"--rate", "90", "--resample", "slerp"}).error;
+  EXPECT_THAT(resampled,
+              HasSubstr("interpolated linearly, rotations by slerp. [rewrite-resampled]"));
 }
 
 TEST_F(RewriteTest, TakesNamesOneByOneOrSeveralAtOnce) {
@@ -206,6 +323,23 @@ TEST_F(RewriteTest, ConvertsUnitsAndTurnsHeights) {
   EXPECT_EQ(turned.error, "");
   EXPECT_THAT(Read("turned.htr"), HasSubstr("GlobalAxisofGravity Y\r\n"));
   EXPECT_THAT(Read("turned.htr"), HasSubstr("\r\nHips\t0\t0\t-900\t-90\t0\t0\t100\r\n"));
+}
+
+TEST_F(RewriteTest, DoubtsThatHeightsAreTurnedThatLieAlongY) {
+  const std::string told =
+      "note: The file seems to have its heights along Y. --up z takes them along Z and turns them: "
+      "what stands lies on its side. [rewrite-up-doubtful]\n";
+  for (const std::string walk : {"/examples/walk.trc", "/examples/walk.htr"}) {
+    const std::string kind = walk.substr(walk.size() - 4);
+    const std::string source = ORVANE_SOURCE_DIR + walk;
+    EXPECT_THAT(Rewrite(source, "lying" + kind, {"--up", "z"}).error, HasSubstr(told));
+    EXPECT_THAT(Rewrite(source, "same" + kind, {"--up", "y"}).error, Not(HasSubstr("doubtful")));
+    EXPECT_THAT(Rewrite("lying" + kind, "other" + kind, {"--up", "z"}).error,
+                Not(HasSubstr("doubtful")));
+  }
+  Write("said.htr",
+        Replaced(test::ReadFile(ORVANE_SOURCE_DIR "/examples/walk.htr"), "Gravity Y", "Gravity Z"));
+  EXPECT_THAT(Rewrite("said.htr", "turned.htr", {"--up", "z"}).error, Not(HasSubstr("doubtful")));
 }
 
 TEST_F(RewriteTest, SaysWhatAFootIs) {

@@ -63,7 +63,7 @@ TEST(CsvWriter, WritesARowAFrameWithEmptyCellsInGaps) {
   CsvManner manner;
   manner.frames_per_second = 59.94;
   EXPECT_THAT(Lines(document, manner),
-              ElementsAre("Frame,Time,A.x,A.y,A.z,\"the \"\"left\"\", one.x\",\"the \"\"left\"\", "
+              ElementsAre("frame,time,A.x,A.y,A.z,\"the \"\"left\"\", one.x\",\"the \"\"left\"\", "
                           "one.y\",\"the \"\"left\"\", one.z\"",
                           ",s,cm,cm,cm,cm,cm,cm", "101,0.000000,1,2.5,-0.1,,,",
                           "102,0.016683,1e-07,2,3,4,5,6"));
@@ -76,7 +76,7 @@ TEST(CsvWriter, WritesARowAMarkerInTheLongLayout) {
   manner.layout = CsvLayout::kLong;
   manner.numbers = orvane::NumberForm::Decimals(1);
   EXPECT_THAT(Lines(document, manner),
-              ElementsAre("Frame,Time,Marker,x,y,z", ",s,,cm,cm,cm", "101,,A,1.0,2.5,-0.1",
+              ElementsAre("frame,time,marker,x,y,z", ",s,,cm,cm,cm", "101,,A,1.0,2.5,-0.1",
                           "101,,\"the \"\"left\"\", one\",,,", "102,,A,0.0,2.0,3.0",
                           "102,,\"the \"\"left\"\", one\",4.0,5.0,6.0"));
 }
@@ -97,7 +97,7 @@ TEST(CsvWriter, TellsWhereSegmentsAreInTheWorld) {
   FillTwoSegments(document);
   const auto lines = Lines(document, {});
   EXPECT_EQ(lines[0],
-            "Frame,Time,Hips.x,Hips.y,Hips.z,Hips.rx,Hips.ry,Hips.rz,"
+            "frame,time,Hips.x,Hips.y,Hips.z,Hips.rx,Hips.ry,Hips.rz,"
             "Spine.x,Spine.y,Spine.z,Spine.rx,Spine.ry,Spine.rz");
   EXPECT_EQ(lines[1], ",s,mm,mm,mm,deg,deg,deg,mm,mm,mm,deg,deg,deg");
   const std::vector<double> wanted = {1, 0, 11, 2, 3, 0, 0, 90, 6, 2, 3, 0, 0, 135};
@@ -125,7 +125,7 @@ TEST(CsvWriter, TellsRotationsAsQuaternions) {
   manner.rotations = CsvRotations::kQuaternion;
   manner.layout = CsvLayout::kLong;
   const auto lines = Lines(document, manner);
-  EXPECT_EQ(lines[0], "Frame,Time,Segment,x,y,z,qx,qy,qz,qw");
+  EXPECT_EQ(lines[0], "frame,time,segment,x,y,z,qx,qy,qz,qw");
   EXPECT_EQ(lines[1], ",s,,mm,mm,mm,,,,");
   const std::vector<double> wanted = {
       1, 0, 0, 11, 2, 3, 0, 0, 0.7071067811865476, 0.7071067811865476};

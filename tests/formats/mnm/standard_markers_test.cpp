@@ -118,5 +118,16 @@ TEST(StandardMarkers, AreKnownByName) {
   }
 }
 
+TEST(StandardMarkers, AreKnownByWhatTheUserReads) {
+  for (const bool sticks : {false, true}) {
+    for (const Row& row : Expected({sticks, sticks})) {
+      EXPECT_EQ(StandardNameOf(row.description), row.name);
+    }
+  }
+  for (const char* description : {"", "LFHD", "Left front head marker", "Create a mapping"}) {
+    EXPECT_EQ(StandardNameOf(description), "") << description;
+  }
+}
+
 }  // namespace
 }  // namespace orvane

@@ -104,5 +104,80 @@ TEST(TRCMemoryTest, SetsASampleOrChangesNothingWhenMemoryRunsOut) {
   }
 }
 
+TEST(TRCMemoryTest, AddsAMarkerOrChangesNothingWhenMemoryRunsOut) {
+  TRCDocument document;
+  for (unsigned marker = 0; marker < 100; ++marker) {
+    const TRCMarker added("a name that is long enough for a block " + std::to_string(marker));
+    bool has_failed = true;
+    for (int count = 0; has_failed; ++count) {
+      SCOPED_TRACE(count);
+      test::FailAllocationAfter(count);
+      try {
+        static_cast<void>(document.AddMarker(added));
+      } catch (const std::bad_alloc&) {
+      }
+      has_failed = test::StopFailingAllocations();
+      EXPECT_EQ(document.MarkerCount(), has_failed ? marker : marker + 1);
+    }
+    EXPECT_EQ(document.AddMarker(added), nullptr);
+  }
+}
+
+struct FileForm {
+  const char* name;
+  std::size_t markers;
+  std::string line;   // which is repeated
+  std::size_t count;  // of these
+};
+
+class TRCFileSizeTest : public testing::TestWithParam<FileForm> {};
+
+// Eight bytes for each of the file, and 64 KiB a marker: while it is read, and for what stays.
+TEST_P(TRCFileSizeTest, LimitsTheMemoryOfItsSamples) {
+  const std::size_t markers = GetParam().markers;
+  for (const int announced : {0, 1, static_cast<int>(GetParam().count), 1'000'000'000}) {
+    SCOPED_TRACE(announced);
+    test::TrcText text;
+    text.frame_count = announced;
+    for (std::size_t marker = 0; marker < markers; ++marker) {
+      text.markers.push_back(std::to_string(marker));
+    }
+    std::string bytes = text.Text();
+    for (std::size_t line = 0; line < GetParam().count; ++line) bytes += GetParam().line;
+    // The whole row that shows whether room was made for all of the others.
+    bytes += "1\t0";
+    for (std::size_t marker = 0; marker < markers; ++marker) bytes += "\t1\t1\t1";
+    TRCDocument document;
+    static_cast<void>(test::TakePeakOfBytes());
+    ASSERT_EQ(document.ReadBytes(bytes, false), "");
+    const std::size_t peak = test::TakePeakOfBytes();
+    ASSERT_EQ(document.MarkerCount(), markers);
+    EXPECT_LE(peak, 8 * bytes.size() + 65'536 * markers);
+    EXPECT_LE(document.ShareBlock().Bytes(), 8 * bytes.size() + 65'536 * markers);
+    const TRCMarker& last = document.markers().back();
+    EXPECT_NE(SampleAt(last, last.SampleCount() - 1), std::nullopt);
+    EXPECT_EQ(FindFault(document), "");
+  }
+}
+
+std::string Dropouts(std::size_t markers) { return std::string(3 * markers - 1, '\t') + "\n"; }
+
+INSTANTIATE_TEST_SUITE_P(
+    Forms, TRCFileSizeTest,
+    testing::Values(FileForm{"EmptyRows", 1414, "\n", 1'000'000},
+                    FileForm{"EmptyAndShortRows", 1414, "\n\t\t1\n", 200'000},
+                    FileForm{"ShortRows", 1414, "\t\t1\n", 200'000},
+                    FileForm{"EmptyAndWholeRows", 1, "\n\t\t1\n", 200'000},
+                    FileForm{"WholeRows", 1, "\t\t1\n", 200'000},
+                    FileForm{"EmptyRowsBetweenDropouts", 1, Dropouts(1) + Dropouts(1) + "\n",
+                             300'000},
+                    FileForm{"ShortRowsOfDropouts", 2, Dropouts(1), 600'000},
+                    FileForm{"EmptyRowsBetweenPairs", 2, Dropouts(2) + "\n", 300'000},
+                    FileForm{"LateValues", 30, std::string(89, '\t') + "1\n", 60'000},
+                    FileForm{"LateValuesOfMany", 300, std::string(899, '\t') + "1\n", 6'000},
+                    FileForm{"TabsAlone", 30, std::string(91, '\t') + "\n", 66'500},
+                    FileForm{"Halves", 30, std::string(45, '\t') + "1\n", 100'000}),
+    [](const auto& each) { return std::string(each.param.name); });
+
 }  // namespace
 }  // namespace orvane

@@ -112,6 +112,18 @@ TEST(TRCOutlinerTest, TakesNoMoreForTheHeaderThanAllOfTheFileShows) {
   }
 }
 
+TEST(TRCOutlinerTest, FindsTheFirstFrameHoweverFarItIs) {
+  for (const std::size_t blocks : {0U, 1U, 5U}) {
+    const std::string far(blocks * 16 * 1024, '#');
+    const std::string bytes =
+        far + (far.empty() ? "" : "\nlost\n") + kHeader + "\n7\t0.5\t1\n8\t1\n";
+    MemorySource source(bytes);
+    EXPECT_EQ(TrcFirstFrameOf(source), OutlineOf(bytes).FirstFrame());
+  }
+  MemorySource none(kHeader);
+  EXPECT_EQ(TrcFirstFrameOf(none), "");
+}
+
 TEST(TRCOutlinerTest, HeaderMakesADocumentWithMarkersAndWithoutFrames) {
   const std::string bytes = kHeader + "\n1\t0\t1\t2\t3\n";
   TRCDocument document;

@@ -128,6 +128,18 @@ TEST(TRCPointsViewTest, IsEmptyWithoutFramesOrMarkers) {
   EXPECT_EQ(view.markers, 1U);
 }
 
+// At once, though they are as many frames as a number of this machine holds.
+TEST(TRCPointsViewTest, IsRefusedForDropoutsWithoutEnd) {
+  TRCDocument document;
+  for (const char* name : {"a", "b", "c"}) {
+    TRCMarker* const marker = document.AddMarker(TRCMarker(name));
+    marker->AppendPosition(1, 2, 3);
+    marker->AppendDropouts(std::numeric_limits<std::size_t>::max() / 4);
+    EXPECT_EQ(marker->Gaps().size(), 1U);
+  }
+  EXPECT_THROW(static_cast<void>(document.PointsView()), ArrayTooLarge);
+}
+
 TEST(TRCPointsViewTest, IsRefusedWhenHardlyAnythingIsInIt) {
   TrcText text;
   for (int marker = 0; marker < 500; ++marker) text.markers.push_back(std::to_string(marker));

@@ -177,49 +177,30 @@ TEST(TRCSampleBlockTest, GivesACopyOfAMarkerSamplesOfItsOwn) {
   EXPECT_EQ(SamplesOf(copy).front(), (Sample{{1, 2, 3}}));
 }
 
-struct FileForm {
-  const char* name;
-  std::size_t markers;
-  std::string line;   // which is repeated
-  std::size_t count;  // of these
-};
-
-class TRCBlockSizeTest : public testing::TestWithParam<FileForm> {};
-
-// Eight bytes for each of the file, and 64 KiB a marker.
-TEST_P(TRCBlockSizeTest, GoesWithTheBytesOfTheFile) {
-  test::TrcText text;
-  for (std::size_t marker = 0; marker < GetParam().markers; ++marker) {
-    text.markers.push_back(std::to_string(marker));
+// A row of 130 samples, of which one in the middle is the last position, where rows end with those
+// once there is a shorter one.
+TEST(TRCSampleBlockTest, HoldsNoDropoutsBehindPositionsOnceARowIsShort) {
+  for (const std::size_t last : {0U, 63U, 64U, 100U, 129U}) {
+    TRCDocument document;
+    TRCSampleBlock& block = WithMarkers(document, 130).ShareBlock();
+    std::vector<double> row(std::size_t{3} * 130, kNaN);
+    for (int row_number = 1; row_number <= 3; ++row_number) {
+      for (std::size_t axis = 0; axis < 3; ++axis) row[3 * last + axis] = row_number;
+      block.AppendRow(row);
+      if (row_number < 3) continue;
+      EXPECT_EQ(block.SampleCount(), 390U);
+      block.AppendRow({});
+      block.AppendRow(row);
+      block.AppendRow(std::vector<double>{7, 8, 9, kNaN, kNaN, kNaN});
+    }
+    EXPECT_EQ(block.SampleCount(), 4 * (last + 1) + 1);
+    std::vector<Sample> samples = {{{1, 1, 1}}, {{2, 2, 2}}, {{3, 3, 3}}, {}, {{3, 3, 3}}, {}};
+    if (last == 0) samples.back() = {{7, 8, 9}};
+    EXPECT_EQ(SamplesOf(*document.MarkerAt(last)), samples);
+    ExpectGaps(document);
+    EXPECT_EQ(FindFault(document), "");
   }
-  std::string bytes = text.Text();
-  for (std::size_t line = 0; line < GetParam().count; ++line) bytes += GetParam().line;
-  // The whole row that shows whether room was made for all of the others.
-  bytes += "1\t0";
-  for (std::size_t marker = 0; marker < GetParam().markers; ++marker) bytes += "\t1\t1\t1";
-  TRCDocument document;
-  ASSERT_EQ(document.ReadBytes(bytes, false), "");
-  ASSERT_EQ(document.MarkerCount(), GetParam().markers);
-  EXPECT_LE(document.ShareBlock().Bytes(), 8 * bytes.size() + 65'536 * GetParam().markers);
-  EXPECT_LE(document.ShareBlock().Bytes(), 8 * bytes.size());
-  double x = 0;
-  double y = 0;
-  double z = 0;
-  const TRCMarker& last = document.markers().back();
-  EXPECT_TRUE(last.GetSample(last.SampleCount() - 1, x, y, z));
-  EXPECT_EQ(FindFault(document), "");
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Forms, TRCBlockSizeTest,
-    testing::Values(FileForm{"EmptyRows", 1414, "\n", 1'000'000},
-                    FileForm{"EmptyAndShortRows", 1414, "\n\t\t1\n", 200'000},
-                    FileForm{"ShortRows", 1414, "\t\t1\n", 200'000},
-                    FileForm{"EmptyAndWholeRows", 1, "\n\t\t1\n", 200'000},
-                    FileForm{"WholeRows", 1, "\t\t1\n", 200'000},
-                    FileForm{"LateValues", 30, std::string(89, '\t') + "1\n", 10'000},
-                    FileForm{"TabsAlone", 30, std::string(91, '\t') + "\n", 10'000}),
-    [](const auto& each) { return std::string(each.param.name); });
 
 }  // namespace
 }  // namespace orvane

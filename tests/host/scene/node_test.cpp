@@ -143,5 +143,16 @@ TEST_F(NodeTest, DoesNothingOnceItIsDeleted) {
   EXPECT_EQ(scene_.Misuse().Messages().back(), "SetBoneEnabled called on deleted node \"Hips\"");
 }
 
+TEST(PackWireColorTest, HasRedInItsLowestByteAndBlueInItsThird) {
+  EXPECT_EQ(PackWireColor(204, 51, 25), 0x1933CCU);
+  EXPECT_EQ(PackWireColor(255, 0, 0), 0x0000FFU);
+  EXPECT_EQ(PackWireColor(0, 255, 0), 0x00FF00U);
+  EXPECT_EQ(PackWireColor(0, 0, 255), 0xFF0000U);
+}
+
+TEST(PackWireColorTest, TakesTheLowestEightBitsOfEachPart) {
+  EXPECT_EQ(PackWireColor(0x1FF, 0x302, static_cast<unsigned>(-1)), 0xFF02FFU);
+}
+
 }  // namespace
 }  // namespace host

@@ -66,6 +66,16 @@ TEST(SimilarWords, ABeginningStandsForTheFirstWordThatHasIt) {
   EXPECT_EQ(MostSimilar("--o", flags), "");
 }
 
+TEST(SimilarWords, MarkersOfAnotherSubjectAreMeantBeforeOthers) {
+  const std::vector<std::string> markers = {"walker:LFWT", "walker:LFHD", "RANK"};
+  EXPECT_EQ(MostSimilar("LFHD", markers), "walker:LFHD");
+  EXPECT_EQ(MostSimilar("lfhd", markers), "walker:LFHD");
+  EXPECT_EQ(MostSimilar("runner:LFHD", markers), "walker:LFHD");
+  EXPECT_EQ(MostSimilar("walker:RANK", markers), "RANK");
+  EXPECT_EQ(MostSimilar("HD", markers), "");
+  EXPECT_EQ(MostSimilar("walker:", {"runner:"}), "");
+}
+
 TEST(SimilarWords, TheWordItselfIsNotMeant) { EXPECT_EQ(MostSimilar("import", {"import"}), ""); }
 
 }  // namespace

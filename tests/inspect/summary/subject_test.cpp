@@ -14,6 +14,7 @@ using orvane::DescribeSubject;
 using orvane::HtrDocument;
 using orvane::MeasureSubject;
 using orvane::Point;
+using orvane::SeemsToStandAlongY;
 using orvane::SeemsToStandAlongZ;
 using orvane::Subject;
 using orvane::TRCDocument;
@@ -124,6 +125,15 @@ TEST(Subject, DoesNotSeemToStandAlongZOtherwise) {
   Subject prop = MeasuredBody(ZUp);
   prop.points = 7;
   EXPECT_FALSE(SeemsToStandAlongZ(prop)) << "a prop";
+}
+
+TEST(Subject, SeemsToStandAlongYByTheSameSigns) {
+  const auto walks_along_z = [](const Point& point) { return Point{point[2], point[1], point[0]}; };
+  EXPECT_TRUE(SeemsToStandAlongY(MeasuredBody(walks_along_z)));
+  EXPECT_FALSE(SeemsToStandAlongY(MeasuredBody(ZUp)));
+  Subject prop = MeasuredBody(walks_along_z);
+  prop.points = 7;
+  EXPECT_FALSE(SeemsToStandAlongY(prop)) << "a prop";
 }
 
 // Each marker is seen in 30 frames of the 100, in which it gets 580 far.

@@ -6,6 +6,7 @@
 #include <array>
 #include <list>
 #include <stdexcept>
+#include <string>
 #include <thread>
 
 #include "tests/support/environment_variable.h"
@@ -121,9 +122,19 @@ HANDLE Start(const ProgramRun& run, const Input& input, const Stream& output, co
   startup.hStdOutput = output.WriteEnd();
   startup.hStdError = error.WriteEnd();
   PROCESS_INFORMATION process{};
-  if (!CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
-                      folder.empty() ? nullptr : folder.c_str(), &startup, &process)) {
-    throw std::runtime_error(run.command.front() + " does not start");
+  const auto starts = [&] {
+    return CreateProcessW(nullptr, line.data(), nullptr, nullptr, TRUE, CREATE_NO_WINDOW, nullptr,
+                          folder.empty() ? nullptr : folder.c_str(), &startup, &process) != 0;
+  };
+  // Wine refuses one in some hundreds where several tests start programs at once.
+  constexpr int kTries = 5;
+  for (int tries = 1; !starts(); ++tries) {
+    const DWORD reason = GetLastError();
+    if (tries == kTries) {
+      throw std::runtime_error(run.command.front() + " does not start: error " +
+                               std::to_string(reason));
+    }
+    Sleep(100);
   }
   CloseHandle(process.hThread);
   return process.hProcess;

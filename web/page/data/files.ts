@@ -11,10 +11,10 @@ export function droppedFiles(transfer: DataTransfer | null): SourceFile[] {
 }
 
 /** Lets the person choose files. */
-export function chooseFiles(chosen: (files: SourceFile[]) => void): void {
+export function chooseFiles(chosen: (files: SourceFile[]) => void, many = true): void {
   const input = document.createElement("input");
   input.type = "file";
-  input.multiple = true;
+  input.multiple = many;
   input.addEventListener("change", () => chosen(Array.from(input.files ?? [], sourceOf)));
   input.click();
 }

@@ -15,6 +15,18 @@ export function curveColumns(values: Float64Array): CurveColumns {
   return columns;
 }
 
+/** The same, with places and values in other units. */
+export function scaledColumns(
+  [places, ...values]: CurveColumns,
+  placeOf: (place: number) => number,
+  factor: number,
+): CurveColumns {
+  const scaled = values.map((column) =>
+    factor === 1 ? column : column.map((value) => (value === null ? null : value * factor)),
+  );
+  return [places.map(placeOf), ...scaled];
+}
+
 /** What the three curves are at a frame. */
 export function valuesAt(columns: CurveColumns, frame: number): (number | null)[] {
   return [1, 2, 3].map((column) => columns[column][frame] ?? null);

@@ -35,6 +35,7 @@ export type Command =
   | "view-wider"
   | "deselect"
   | "search"
+  | "take-suggestion"
   | "open"
   | "keys";
 
@@ -106,6 +107,7 @@ export const SECTIONS: readonly Section[] = [
     bindings: [
       { command: "open", keys: ["Ctrl+o"], what: "Open files" },
       { command: "search", keys: ["/"], what: "Search for a name" },
+      { command: "take-suggestion", keys: ["Enter"], what: "Pick the marker that is suggested, or in the list" },
       { command: "deselect", keys: ["Escape"], what: "Select nothing" },
       { command: "keys", keys: ["?"], what: "Show these keys" },
     ],
@@ -127,7 +129,9 @@ const COMMANDS = new Map(
 );
 
 export function commandOf(press: KeyPress): Command | null {
-  if (press.altKey) return null;
+  // Brackets are written with Option, or with AltGr, which is Ctrl and Alt, on many keyboards.
+  if (press.altKey && !["[", "]"].includes(press.key)) return null;
+  if (press.altKey) return COMMANDS.get(press.key) ?? null;
   return COMMANDS.get(pressed(press)) ?? null;
 }
 

@@ -19,6 +19,12 @@ export function frameIn(other: Clock, active: Clock, frame: number): number {
   return found >= 0 && found < other.frames ? found : -1;
 }
 
+/** Where on the frames of `active` a place on those of `other` lies, which may be before, behind and between them. */
+export function placeIn(active: Clock, other: Clock, place: number): number {
+  if (!(active.rate > 0) || !(other.rate > 0)) return place;
+  return (secondsOf(other, place) + other.offset - active.offset) * active.rate;
+}
+
 export function clampFrame(frame: number, frames: number): number {
   if (!Number.isFinite(frame)) return 0;
   return Math.min(Math.max(Math.round(frame), 0), Math.max(frames - 1, 0));

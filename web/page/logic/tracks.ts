@@ -33,6 +33,13 @@ export function enclose(box: Box, x: number, y: number, z: number): void {
   }
 }
 
+/** Whether a box holds a point, which is nowhere where a number is missing. */
+export function isWithin({ min, max }: Box, [x, y, z]: Point): boolean {
+  return (
+    min[0] <= x && x <= max[0] && min[1] <= y && y <= max[1] && min[2] <= z && z <= max[2]
+  );
+}
+
 /** The values of all objects in one frame, without a copy. */
 export function frameValues(track: Float32Array, objects: number, frame: number): Float32Array {
   return track.subarray(frame * objects * 3, (frame + 1) * objects * 3);
@@ -53,31 +60,53 @@ export function pointAt(
   return Number.isNaN(x + y + z) ? null : [x, y, z];
 }
 
-/** The box around the points of one frame. */
-export function frameBox(track: Float32Array, objects: number, frame: number): Box {
+const EVERYWHERE: Box = {
+  min: [-Infinity, -Infinity, -Infinity],
+  max: [Infinity, Infinity, Infinity],
+};
+
+/** The box around the points of one frame, but for those that are not `within` another. */
+export function frameBox(
+  track: Float32Array,
+  objects: number,
+  frame: number,
+  within = EVERYWHERE,
+): Box {
   const box = emptyBox();
   const values = frameValues(track, objects, frame);
   for (let at = 0; at + 2 < values.length; at += 3) {
-    enclose(box, values[at], values[at + 1], values[at + 2]);
+    const point: Point = [values[at], values[at + 1], values[at + 2]];
+    if (isWithin(within, point)) enclose(box, ...point);
   }
   return box;
 }
 
-/** How large the data is in a moment: the largest diagonal of the boxes of a few frames spread over the take. */
-export function momentExtent(track: Float32Array, objects: number, frames: number): number {
+/**
+ * How large the data is in a moment: the largest diagonal of the boxes of a few frames spread over the take, of what is
+ * `within` a box.
+ */
+export function momentExtent(
+  track: Float32Array,
+  objects: number,
+  frames: number,
+  within = EVERYWHERE,
+): number {
   const samples = Math.min(frames, 8);
   let extent = 0;
   for (let sample = 0; sample < samples; ++sample) {
     const frame = Math.floor(((sample + 0.5) / samples) * frames);
-    extent = Math.max(extent, diagonal(frameBox(track, objects, frame)));
+    extent = Math.max(extent, diagonal(frameBox(track, objects, frame, within)));
   }
   return extent;
 }
 
+/** What a take is taken to be large that has no extent: one marker that stands still. */
+const MILLIMETRES_OF_NOTHING = 1000;
+
 /** The radius of balls that are seen and do not hide each other, in the unit of the extent. */
-export function ballRadius(extent: number, objects: number): number {
+export function ballRadius(extent: number, objects: number, millimetresPerUnit: number): number {
   const share = Math.min(0.011, 0.3 / Math.sqrt(Math.max(objects, 1)));
-  return (extent > 0 ? extent : 1) * share;
+  return (extent > 0 ? extent : MILLIMETRES_OF_NOTHING / millimetresPerUnit) * share;
 }
 
 /** Copies the values of a frame, and puts where there are none, or no finite ones, what is drawn nowhere. */

@@ -1,7 +1,9 @@
 import { chooseFiles } from "../data/files";
-import { openFiles } from "../state/core";
+import { openFiles, ready } from "../state/core";
 import { keysShown } from "../state/layout";
+import { working } from "../state/takes";
 import { toggleTheme } from "../state/theme";
+import { setWorking } from "../state/work";
 import { OutMenu } from "./out_menu";
 
 export function openChosen(): void {
@@ -15,7 +17,15 @@ export function Header() {
       <button class="primary" onClick={openChosen} title="Open HTR and TRC files (Ctrl O)">
         Open…
       </button>
-      <OutMenu />
+      {!working.value && <OutMenu />}
+      <button
+        aria-pressed={working.value}
+        disabled={!ready.value}
+        title="Work on a scene with the plug-in"
+        onClick={() => setWorking(!working.value)}
+      >
+        Work
+      </button>
       <span class="spring" />
       <span class="quiet local">Nothing leaves this machine</span>
       <button onClick={toggleTheme} title="Dark or light">

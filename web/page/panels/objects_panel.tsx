@@ -3,7 +3,10 @@ import { shown } from "../logic/names";
 import { depths } from "../logic/object_search";
 import { gapCount } from "../logic/gaps";
 import { hovered, lastSelected, select, selectAll, selectedInActive } from "../state/selection";
-import { activeTake, colorOf, type Take } from "../state/takes";
+import { colorOf } from "../state/take_color";
+import { activeTake, type Take } from "../state/takes";
+import { pickMode, pickNode } from "../state/desk";
+import { nodeOf } from "../state/scene";
 import { coarsePointer } from "../state/pointer";
 import { foundObjects, search } from "../state/rows";
 import { VirtualList } from "../widgets/virtual_list";
@@ -17,7 +20,7 @@ const indents = computed(() => depths(activeTake.value?.info.parents ?? []));
 export function ObjectsPanel() {
   const take = activeTake.value;
   if (!take) return null;
-  const kind = take.info.kind === "motion" ? "Segments" : "Markers";
+  const kind = take.nodes ? "Nodes" : take.info.kind === "motion" ? "Segments" : "Markers";
   const rows = foundObjects.value;
   const current = rows.indexOf(
     lastSelected.value?.take === take.key ? lastSelected.value.object : -1,
@@ -47,6 +50,7 @@ export function ObjectsPanel() {
         rowHeight={coarsePointer.value ? 34 : 24}
         current={current}
         move={(row, extend) => select(take, rows[row], extend)}
+        enter={pickMode.value.on ? (row) => pickNode(nodeOf(rows[row])) : undefined}
         row={(row, id) => (
           <ObjectRow take={take} object={rows[row]} id={id} row={row} of={rows.length} />
         )}

@@ -1,7 +1,7 @@
 import { cancelTask } from "../state/core";
 import { dismiss, notices } from "../state/notices";
-import { rightWidth } from "../state/layout";
-import { takes } from "../state/takes";
+import { rightWidth, workWidth } from "../state/layout";
+import { takes, working } from "../state/takes";
 import { canceling, task } from "../state/tasks";
 
 /** What is going on, with a way to end it; and what went wrong. */
@@ -27,6 +27,7 @@ export function Busy() {
 
 /** Notices stand beside the findings, which may be what they are about. */
 function besideFindings(): number {
+  if (working.value) return workWidth.value;
   return takes.value.length > 0 ? rightWidth.value : 0;
 }
 

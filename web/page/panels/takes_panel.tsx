@@ -1,6 +1,7 @@
 import { shown } from "../logic/names";
 import { closeTake } from "../state/core";
-import { activeTake, colorOf, takes, type Take } from "../state/takes";
+import { colorOf } from "../state/take_color";
+import { activeTake, takes, type Take } from "../state/takes";
 import { activate } from "../state/time";
 
 /** The takes that are open. */

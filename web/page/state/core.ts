@@ -10,7 +10,7 @@ import type {
 import { shown } from "../logic/names";
 import { isCanceled, notifyFailure } from "./notices";
 import { deselect } from "./selection";
-import { activeKey, activeTake, addTake, removeTake, takes, type Take } from "./takes";
+import { activeFile, activeKey, addTake, removeTake, takes, type Take } from "./takes";
 import { canceling, runTask, task, tellProgress } from "./tasks";
 import { activate, clearSpan, goTo, stop } from "./time";
 
@@ -55,13 +55,14 @@ export async function openFiles(files: readonly SourceFile[]): Promise<void> {
 
 async function openFile(file: SourceFile): Promise<void> {
   const content = await file.content();
-  const { info, tracks } = await (await core).open(file.name, content);
-  const take = addTake(info, tracks);
-  if (!activeTake.value) activate(take);
+  const kept = content instanceof Blob ? content : new Blob([content]);
+  const { info, tracks } = await (await core).open(file.name, kept);
+  const take = addTake(info, tracks, kept);
+  if (!activeFile.value) activate(take);
 }
 
 export async function closeTake(take: Take): Promise<void> {
-  const wasActive = activeTake.value === take;
+  const wasActive = activeFile.value === take;
   removeTake(take);
   if (wasActive) {
     stop();

@@ -2,7 +2,7 @@ import { computed, effect, signal } from "@preact/signals";
 import type { Action, Finding } from "../../worker/protocol";
 import { askFindings } from "./core";
 import { wordsOf } from "./notices";
-import { activeTake, type Take } from "./takes";
+import { activeFile, working, type Take } from "./takes";
 
 /** What is odd in the take that is worked on, for what is to be done with it. */
 
@@ -19,10 +19,10 @@ export const action = signal<Action>("import");
 const kept = new WeakMap<Take, Map<Action, Report>>();
 const arrived = signal(0);
 
-/** Nothing while it is being made. */
+/** Nothing while it is being made, and while the scene is seen. */
 export const report = computed<Report | null>(() => {
   void arrived.value;
-  const take = activeTake.value;
+  const take = working.value ? null : activeFile.value;
   return (take && kept.get(take)?.get(action.value)) ?? null;
 });
 
@@ -49,7 +49,7 @@ export function actionsOf(take: Take): readonly Action[] {
 const asked = new WeakMap<Take, Set<Action>>();
 
 effect(() => {
-  const take = activeTake.value;
+  const take = activeFile.value;
   if (!take) return;
   if (!actionsOf(take).includes(action.value)) action.value = "import";
   const wanted = action.value;

@@ -13,3 +13,5 @@ export const bottomTab = setting<BottomTab>(
   oneOf<BottomTab>("tracks", "curves"),
 );
 export const keysShown = signal(false);
+export const settingsShown = signal(false);
+export const workWidth = setting("work-width", 430, isNumberIn(300, 800));

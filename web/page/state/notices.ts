@@ -8,14 +8,12 @@ export interface Notice {
   readonly text: string;
 }
 
-const MOST = 5;
-
 export const notices = signal<readonly Notice[]>([]);
 
 let lastKey = 0;
 
 export function notify(kind: Notice["kind"], title: string, text = ""): void {
-  notices.value = [...notices.value, { key: ++lastKey, kind, title, text }].slice(-MOST);
+  notices.value = [...notices.value, { key: ++lastKey, kind, title, text }];
 }
 
 export function dismiss(key: number): void {

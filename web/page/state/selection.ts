@@ -1,5 +1,5 @@
 import { computed, signal } from "@preact/signals";
-import { activeTake, takes, type Take } from "./takes";
+import { activeTake, seenTakes, type Take } from "./takes";
 
 /** The objects that are selected, of all takes; the one chosen last is what curves are shown of. */
 export interface ObjectReference {
@@ -12,7 +12,7 @@ export const hovered = signal<ObjectReference | null>(null);
 
 /** What is selected of takes that are still open. */
 export const selected = computed(() => {
-  const open = new Set(takes.value.map((take) => take.key));
+  const open = new Set(seenTakes.value.map((take) => take.key));
   return selection.value.filter((reference) => open.has(reference.take));
 });
 

@@ -20,6 +20,23 @@ function remember(name: string, value: unknown): void {
   }
 }
 
+/** All that the browser keeps of this page. */
+export function keptKeys(): { name: string; text: string }[] {
+  try {
+    const names = Object.keys(localStorage).filter((name) => name.startsWith(PREFIX));
+    return names.sort().map((name) => ({
+      name: name.slice(PREFIX.length),
+      text: localStorage.getItem(name) ?? "",
+    }));
+  } catch {
+    return [];
+  }
+}
+
+export function clearKept(): void {
+  for (const { name } of keptKeys()) localStorage.removeItem(PREFIX + name);
+}
+
 /** A signal whose value is taken over to the next visit, if `accepts` says that what was kept is one. */
 export function setting<Value>(
   name: string,

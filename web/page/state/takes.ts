@@ -1,4 +1,5 @@
 import { computed, signal, type Signal } from "@preact/signals";
+import type { SceneNode } from "../../worker/desk_protocol";
 import type { TakeInfo, Tracks } from "../../worker/protocol";
 import { indexGaps, type GapIndex } from "../logic/gaps";
 import type { Clock } from "../logic/take_time";
@@ -15,28 +16,35 @@ export interface Take {
   /** Seconds that it begins later than the others. */
   readonly offset: Signal<number>;
   readonly shown: Signal<boolean>;
+  /** What the core was given, and the desk may be. */
+  readonly file: Blob;
+  /** Of the scene on the desk: what its objects are. */
+  readonly nodes?: readonly SceneNode[];
+  /** Of the scene: red, green and blue of each object, 0 to 1. */
+  readonly colors?: Signal<Float32Array>;
 }
 
 export const takes = signal<readonly Take[]>([]);
 export const activeKey = signal(0);
 
-export const activeTake = computed(
+/** Whether the scene of the desk is seen, and not the takes. */
+export const working = signal(false);
+export const scene = signal<Take | null>(null);
+export const SCENE_KEY = -1;
+
+/** The file that is worked on. */
+export const activeFile = computed(
   () => takes.value.find((take) => take.key === activeKey.value) ?? null,
 );
 
-/** By number: first the two that are told apart best by all eyes. */
-export const TAKE_COLORS: readonly string[] = [
-  "#58a6e8",
-  "#f0a04b",
-  "#c58cf2",
-  "#d8cc5a",
-  "#ef7fa0",
-  "#9fb0c6",
-];
+/** What the view and the timeline show. */
+export const seenTakes = computed<readonly Take[]>(() => {
+  if (!working.value) return takes.value;
+  return scene.value ? [scene.value] : [];
+});
 
-export function colorOf(take: Take): string {
-  return TAKE_COLORS[take.color % TAKE_COLORS.length];
-}
+/** What time and the lists are of. */
+export const activeTake = computed(() => (working.value ? scene.value : activeFile.value));
 
 function freeColor(): number {
   const used = new Set(takes.value.map((take) => take.color));
@@ -47,7 +55,7 @@ function freeColor(): number {
 
 let lastKey = 0;
 
-export function addTake(info: TakeInfo, tracks: Tracks): Take {
+export function addTake(info: TakeInfo, tracks: Tracks, file = new Blob()): Take {
   const take: Take = {
     key: ++lastKey,
     info,
@@ -56,6 +64,7 @@ export function addTake(info: TakeInfo, tracks: Tracks): Take {
     color: freeColor(),
     offset: signal(0),
     shown: signal(true),
+    file,
   };
   takes.value = [...takes.value, take];
   return take;
@@ -66,7 +75,7 @@ export function removeTake(take: Take): void {
 }
 
 export function takeByKey(key: number): Take | null {
-  return takes.value.find((take) => take.key === key) ?? null;
+  return seenTakes.value.find((take) => take.key === key) ?? null;
 }
 
 export function clockOf(take: Take): Clock {

@@ -35,9 +35,15 @@ export interface Palette {
   warning: string;
   note: string;
   label: string;
+  /** Of takes, one behind the other: first the two that are told apart best by all eyes. */
+  takes: readonly string[];
+  /** Of x, y and z. */
+  axes: readonly string[];
 }
 
-const NAMES: Readonly<Record<keyof Palette, string>> = {
+type Lists = "takes" | "axes";
+
+const NAMES: Readonly<Record<Exclude<keyof Palette, Lists>, string>> = {
   background: "--panel",
   viewTop: "--view",
   viewBottom: "--view-low",
@@ -56,11 +62,10 @@ const NAMES: Readonly<Record<keyof Palette, string>> = {
 
 function readPalette(): Palette {
   const styles = getComputedStyle(document.documentElement);
-  const entries = Object.entries(NAMES).map(([key, name]) => [
-    key,
-    styles.getPropertyValue(name).trim(),
-  ]);
-  return Object.fromEntries(entries) as Palette;
+  const valueOf = (name: string): string => styles.getPropertyValue(name).trim();
+  const entries = Object.entries(NAMES).map(([key, name]) => [key, valueOf(name)]);
+  const listOf = (name: string): string[] => valueOf(name).split(" ");
+  return { ...Object.fromEntries(entries), takes: listOf("--takes"), axes: listOf("--axes") } as Palette;
 }
 
 export const palette = signal<Palette>(readPalette());

@@ -1,6 +1,6 @@
 import { batch, computed, signal } from "@preact/signals";
 import { advance, shuttle, type Span } from "../logic/playback";
-import { clampFrame, frameIn } from "../logic/take_time";
+import { clampFrame, frameIn, placeIn } from "../logic/take_time";
 import {
   panned,
   revealing,
@@ -10,7 +10,7 @@ import {
   type View,
 } from "../logic/timeline_geometry";
 import { isBoolean, oneOf, setting } from "./settings";
-import { activeKey, activeTake, clockOf, type Take } from "./takes";
+import { activeKey, activeTake, clockOf, working, type Take } from "./takes";
 
 /** The frame that is shown, of the take that is worked on, counted from 0; and how it goes on. */
 export const frame = signal(0);
@@ -127,6 +127,28 @@ export function clearSpan(): void {
   outPoint.value = null;
 }
 
+/** Where somebody is in time, to come back there. */
+export interface TimePlace {
+  readonly frame: number;
+  readonly inPoint: number | null;
+  readonly outPoint: number | null;
+}
+
+export const FIRST_PLACE: TimePlace = { frame: 0, inPoint: null, outPoint: null };
+
+export function timePlace(): TimePlace {
+  return { frame: frame.value, inPoint: inPoint.value, outPoint: outPoint.value };
+}
+
+/** Comes back to a place, as far as what is seen now reaches there. */
+export function returnTo(place: TimePlace): void {
+  playing.value = false;
+  inPoint.value = place.inPoint;
+  outPoint.value = place.outPoint;
+  timelineView.value = wholeView(frames.value);
+  goTo(place.frame);
+}
+
 export function zoomTimeline(factor: number, around = frame.value + 0.5): void {
   timelineView.value = zoomed(timelineView.value, factor, around, frames.value);
 }
@@ -139,18 +161,47 @@ export function showAllFrames(): void {
   timelineView.value = wholeView(frames.value);
 }
 
-/** Works on another take; the moment that is seen stays, where that take has it. */
+/**
+ * Works on another take; the moment that is seen stays, where that take has it, and so do points and zoom. While the
+ * scene is seen, so does time.
+ */
 export function activate(take: Take): void {
   const before = activeTake.value;
   if (before === take) return;
+  if (working.value) {
+    activeKey.value = take.key;
+    return;
+  }
+  const { frames: count } = take.info;
   const there = before ? frameIn(clockOf(take), clockOf(before), frame.value) : 0;
   batch(() => {
+    if (before) moveSpan(before, take);
+    else clearSpan();
+    const view = before ? movedView(before, take) : wholeView(count);
     activeKey.value = take.key;
-    clearSpan();
-    timelineView.value = withinFrames(wholeView(take.info.frames), take.info.frames);
     goTo(Math.max(there, 0));
-    if (take.info.frames < 2) playing.value = false;
+    timelineView.value = revealing(withinFrames(view, count), frame.value, count);
+    if (count < 2) playing.value = false;
   });
+}
+
+/** In and out points go along, if anything between them is in the other take. */
+function moveSpan(from: Take, to: Take): void {
+  const moved = (point: number): number =>
+    Math.round(placeIn(clockOf(to), clockOf(from), point));
+  const last = to.info.frames - 1;
+  const begin = inPoint.value === null ? null : moved(inPoint.value);
+  const end = outPoint.value === null ? null : moved(outPoint.value);
+  const isApart = (begin ?? 0) > last || (end ?? last) < 0;
+  inPoint.value = begin === null || isApart ? null : clampFrame(begin, to.info.frames);
+  outPoint.value = end === null || isApart ? null : clampFrame(end, to.info.frames);
+}
+
+function movedView(from: Take, to: Take): View {
+  const { first, end } = timelineView.value;
+  if (end - first >= from.info.frames) return wholeView(to.info.frames);
+  const moved = (place: number): number => placeIn(clockOf(to), clockOf(from), place);
+  return { first: moved(first), end: moved(end) };
 }
 
 /** The frame of a take at the moment that is seen; -1 where it has none. */

@@ -2,6 +2,7 @@ import { frameOfX, type Area } from "../logic/timeline_geometry";
 import { namesWidth } from "../state/layout";
 import { activeTake } from "../state/takes";
 import { frame, goTo, panTimeline, stop, timelineView, zoomTimeline } from "../state/time";
+import { followPointer } from "../widgets/drag";
 
 /** The part of the timeline that frames lie in, and how the pointer works there. */
 
@@ -32,13 +33,7 @@ export function scrub(event: PointerEvent): void {
   };
   stop();
   show(event);
-  element.setPointerCapture(event.pointerId);
-  element.addEventListener("pointermove", show);
-  element.addEventListener(
-    "lostpointercapture",
-    () => element.removeEventListener("pointermove", show),
-    { once: true },
-  );
+  followPointer(element, event, show);
 }
 
 const ZOOM_OF_PIXEL = 1.0015;

@@ -1,13 +1,12 @@
 import { useEffect, useRef } from "preact/hooks";
 import type { CurveOf } from "../../worker/protocol";
-import { valuesAt } from "../logic/curve_columns";
 import { shown } from "../logic/names";
 import { Choice } from "../widgets/choice";
-import { curve, curveOf, curvesOf, type Curve } from "../state/curves";
-import { frame } from "../state/time";
+import { curve, curveOf, curvesOf, curveTexts, type Curve } from "../state/curves";
+import { palette } from "../state/theme";
 import { wheel } from "./area";
 import { useWheel } from "../widgets/wheel";
-import { CURVE_COLORS, Plot } from "./plot";
+import { Plot } from "./plot";
 
 /** How the object that was selected last moves over time. */
 
@@ -49,8 +48,6 @@ function plotLabel(of: Curve | null): string {
 
 function Legend({ of }: { of: Curve }) {
   const { info } = of.take;
-  const unit = of.of === "rotation" ? "°" : ` ${info.unit}`;
-  const values = valuesAt(of.columns, frame.value);
   return (
     <div class="legend">
       <bdi class="name">{shown(info.objects[of.object], 60)}</bdi>
@@ -60,10 +57,10 @@ function Legend({ of }: { of: Curve }) {
         options={curvesOf(of.take).map((key) => [key, WORDS[key]])}
         set={(value) => (curveOf.value = value)}
       />
-      {values.map((value, axis) => (
+      {curveTexts(of).map((text, axis) => (
         <span key={axis} class="numbers">
-          <span class="swatch" style={{ background: CURVE_COLORS[axis] }} />
-          {"XYZ"[axis]} {value === null ? "–" : value.toFixed(2) + unit}
+          <span class="swatch" style={{ background: palette.value.axes[axis] }} />
+          {"XYZ"[axis]} {text ?? "–"}
         </span>
       ))}
     </div>

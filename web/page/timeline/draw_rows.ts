@@ -5,7 +5,8 @@ import { visibleRows, xOfFrame, type Area } from "../logic/timeline_geometry";
 import { report } from "../state/findings";
 import { foundObjects } from "../state/rows";
 import { selectedInActive } from "../state/selection";
-import { activeTake, colorOf, type Take } from "../state/takes";
+import { colorOf } from "../state/take_color";
+import { activeTake, type Take } from "../state/takes";
 import { palette, type Palette } from "../state/theme";
 import { frame, hasSpan, span, timelineView } from "../state/time";
 import { areaOf } from "./area";
@@ -13,6 +14,8 @@ import { areaOf } from "./area";
 /** A row for each object: a bar over the frames that hold it, holes where they do not. */
 
 const LONGEST_NAME = 60;
+/** How much of its color the bar of an object has that is not selected. */
+const QUIET_BAR = 0.8;
 
 interface Picture {
   context: CanvasRenderingContext2D;
@@ -118,7 +121,7 @@ function drawBar(
   const left = xOfFrame(0, view, area);
   const right = xOfFrame(take.info.frames, view, area);
   context.fillStyle = colorOf(take);
-  context.globalAlpha = selectedInActive.value.has(object) ? 1 : 0.62;
+  context.globalAlpha = selectedInActive.value.has(object) ? 1 : QUIET_BAR;
   context.fillRect(left, barTop, right - left, barHeight);
   context.globalAlpha = 1;
   let drawnTo = -Infinity;

@@ -1,15 +1,16 @@
 import { effect, untracked } from "@preact/signals";
 import uPlot from "uplot";
-import type { CurveColumns } from "../logic/curve_columns";
+import { scaledColumns, type CurveColumns } from "../logic/curve_columns";
+import { placeIn } from "../logic/take_time";
 import { frameOfX, xOfFrame, type Area } from "../logic/timeline_geometry";
-import { curve } from "../state/curves";
+import { curve, shownLength, type Curve } from "../state/curves";
 import { namesWidth } from "../state/layout";
+import { activeTake, clockOf } from "../state/takes";
 import { palette } from "../state/theme";
 import { frame, goTo, stop, timelineView } from "../state/time";
+import { followPointer } from "../widgets/drag";
 
 /** A plot of curves that shares frames and place with the ruler above it. */
-
-export const CURVE_COLORS: readonly string[] = ["#e2574c", "#58b158", "#7d83ee"];
 
 const RIGHT_EDGE = 12;
 const NO_CURVES: CurveColumns = [[], [], [], []];
@@ -36,9 +37,20 @@ function options(width: number, height: number): uPlot.Options {
     ],
     series: [
       {},
-      ...CURVE_COLORS.map((color) => ({ stroke: color, width: 1.25, points: { show: false } })),
+      ...[0, 1, 2].map((axis) => ({
+        stroke: (): string => palette.peek().axes[axis],
+        width: 1.25,
+        points: { show: false },
+      })),
     ],
   };
+}
+
+/** Over the frames of the take that is worked on, whose take the curves may not be. */
+function columnsOf(of: Curve): CurveColumns {
+  const active = clockOf(activeTake.value ?? of.take);
+  const own = clockOf(of.take);
+  return scaledColumns(of.columns, (place) => placeIn(active, own, place), shownLength(of).factor);
 }
 
 export class Plot {
@@ -61,7 +73,7 @@ export class Plot {
   }
 
   private showCurves(): void {
-    const columns = curve.value?.columns ?? NO_CURVES;
+    const columns = curve.value ? columnsOf(curve.value) : NO_CURVES;
     this.plot.batch(() => {
       this.plot.setData(columns);
       untracked(() => this.showView());
@@ -105,15 +117,7 @@ export class Plot {
     };
     stop();
     show(event);
-    over.setPointerCapture(event.pointerId);
-    over.addEventListener("pointermove", show);
-    over.addEventListener(
-      "lostpointercapture",
-      () => over.removeEventListener("pointermove", show),
-      {
-        once: true,
-      },
-    );
+    followPointer(over, event, show);
   }
 
   dispose(): void {

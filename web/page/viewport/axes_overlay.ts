@@ -4,7 +4,6 @@ import type { Screen } from "../logic/projection";
 /** The directions of the file's axes, small in a corner. */
 
 const LENGTH = 26;
-const COLORS = ["#e2574c", "#58b158", "#7d83ee"];
 const NAMES = ["X", "Y", "Z"];
 
 function directions(up: "y" | "z"): Vector3[] {
@@ -18,6 +17,7 @@ export function drawAxes(
   camera: Camera,
   up: "y" | "z",
   screen: Screen,
+  colors: readonly string[],
 ): void {
   const turn = camera.getWorldQuaternion(new Quaternion()).invert();
   const x = 44;
@@ -29,8 +29,8 @@ export function drawAxes(
   context.textBaseline = "middle";
   context.lineWidth = 2;
   for (const { axis, index } of seen) {
-    context.strokeStyle = COLORS[index];
-    context.fillStyle = COLORS[index];
+    context.strokeStyle = colors[index];
+    context.fillStyle = colors[index];
     context.beginPath();
     context.moveTo(x, y);
     context.lineTo(x + axis.x * LENGTH, y - axis.y * LENGTH);

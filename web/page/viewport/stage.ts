@@ -4,15 +4,19 @@ import { Nearest } from "../logic/picking";
 import { isOnScreen, type Screen } from "../logic/projection";
 import { diagonal, emptyBox, isEmpty, type Box } from "../logic/tracks";
 import { gridStep, metersOf } from "../logic/units";
+import { isTelling } from "../logic/usual_box";
+import { objectOfNode } from "../state/scene";
 import { hovered, selected, selectedOf, type ObjectReference } from "../state/selection";
-import { activeTake, takes } from "../state/takes";
+import { activeTake, SCENE_KEY, seenTakes, working } from "../state/takes";
 import { palette } from "../state/theme";
 import { frameOf } from "../state/time";
 import { follow, grid, labels, projection, trails, unit, upAxis } from "../state/view_options";
+import { suggestion } from "../state/work";
 import { drawAxes } from "./axes_overlay";
 import { Eye } from "./eye";
 import { Floor } from "./floor";
 import { NamesOverlay } from "./names_overlay";
+import { drawRing } from "./ring";
 import { TakeDrawing } from "./take_drawing";
 
 /** The length between two lines of the floor, in the unit that is shown. */
@@ -54,21 +58,21 @@ export class Stage {
       effect(() => this.paint()),
       effect(() => this.orient()),
       effect(() => this.markSelected()),
-      effect(() => this.eye.project(projection.value)),
+      effect(() => this.project()),
       effect(() => this.watchTime()),
     );
   }
 
   private takeDrawings(): void {
     const before = new Map(this.drawings.map((drawing) => [drawing.take, drawing]));
-    const wasEmpty = before.size === 0;
-    this.drawings = takes.value.map((take) => before.get(take) ?? new TakeDrawing(take));
+    this.drawings = seenTakes.value.map((take) => before.get(take) ?? new TakeDrawing(take));
+    const areAllNew = !this.drawings.some(({ take }) => before.has(take));
     for (const drawing of this.drawings) {
       if (!before.delete(drawing.take)) this.scene.add(drawing.group);
     }
     for (const drawing of before.values()) drawing.dispose();
     untracked(() => this.prepare());
-    if (wasEmpty && this.drawings.length > 0) queueMicrotask(() => this.lookAtFirst());
+    if (areAllNew && this.drawings.length > 0) queueMicrotask(() => this.lookAtFirst());
   }
 
   // What changes with other signals is made ready for new takes here, in whatever order effects run.
@@ -79,6 +83,7 @@ export class Stage {
   }
 
   private paint(): void {
+    void seenTakes.value;
     this.floor.paint(palette.value);
     for (const drawing of this.drawings) drawing.paint(palette.value);
     this.invalidate();
@@ -105,6 +110,11 @@ export class Stage {
     this.floor.lay(middle[0] / 2, middle[1] / 2, step * metersOf(inUnit));
   }
 
+  private project(): void {
+    this.eye.project(projection.value);
+    this.invalidate();
+  }
+
   private markSelected(): void {
     void selected.value;
     for (const drawing of this.drawings) {
@@ -116,10 +126,11 @@ export class Stage {
   }
 
   private watchTime(): void {
-    for (const take of takes.value) {
+    for (const take of seenTakes.value) {
       frameOf(take);
       void take.shown.value;
     }
+    void suggestion.value;
     void [labels.value, grid.value, trails.value, hovered.value];
     if (!follow.value) this.followed = null;
     this.invalidate();
@@ -179,8 +190,19 @@ export class Stage {
       this.projectAll();
       this.names.draw(this.drawings, marked, this.screen, palette.value);
     }
+    this.markSuggested();
     const up = upAxis.value === "file" ? (activeTake.value?.info.upAxis ?? "y") : upAxis.value;
-    drawAxes(this.context, this.eye.camera, up, this.screen);
+    drawAxes(this.context, this.eye.camera, up, this.screen, palette.value.axes);
+  }
+
+  private markSuggested(): void {
+    const object = objectOfNode.value.get(suggestion.value?.node ?? 0);
+    const drawing = this.drawings.find(({ take }) => take.key === SCENE_KEY);
+    if (object === undefined || !drawing?.group.visible) return;
+    this.projectAll();
+    if (!isOnScreen(drawing.screenPlaces, object, this.screen)) return;
+    const [x, y] = drawing.screenPlaces.subarray(object * 3);
+    drawRing(this.context, x, y, palette.value.quiet);
   }
 
   private projectAll(): void {
@@ -211,13 +233,17 @@ export class Stage {
     return box;
   }
 
-  /** Shows all of the first take, or one moment of it where it goes so far that nothing would be seen. */
+  /** Shows all of the first take, or a moment of it: of a scene, and where it goes so far that nothing would be seen. */
   private lookAtFirst(): void {
     for (const drawing of this.drawings) drawing.show(frameOf(drawing.take));
     const whole = this.wholeBox();
     const moment = this.shownBox(false);
-    const isFar = !isEmpty(moment) && diagonal(whole) > FAR * diagonal(moment);
-    this.eye.fit(isFar ? moment : whole, whole);
+    const drawn = this.drawings.reduce((sum, drawing) => sum + drawing.drawn, 0);
+    const objects = this.drawings.reduce((sum, drawing) => sum + drawing.count, 0);
+    const tells = isTelling(drawn, objects, diagonal(moment), diagonal(whole));
+    const isFar = tells && diagonal(whole) > FAR * diagonal(moment);
+    const isPicked = working.value && !isEmpty(moment);
+    this.eye.fit(isFar || isPicked ? moment : whole, whole);
     this.invalidate();
   }
 

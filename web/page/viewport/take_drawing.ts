@@ -3,13 +3,16 @@ import { projectAll, type Screen, type ScreenPlaces } from "../logic/projection"
 import {
   ballRadius,
   copyFrame,
+  diagonal,
   emptyBox,
   enclose,
   momentExtent,
   NOWHERE,
   type Box,
 } from "../logic/tracks";
-import { colorOf, type Take } from "../state/takes";
+import { usualBox } from "../logic/usual_box";
+import { colorOf } from "../state/take_color";
+import type { Take } from "../state/takes";
 import type { Palette } from "../state/theme";
 import { Balls } from "./balls";
 import { Bones } from "./bones";
@@ -28,17 +31,21 @@ export class TakeDrawing {
   private readonly balls: Balls;
   private readonly bones: Bones | null;
   private readonly links: Links | null;
+  private readonly usualBox: Box;
   private shownFrame = -2;
 
   constructor(readonly take: Take) {
     const { info, tracks } = take;
     const count = info.objects.length;
-    const extent = momentExtent(tracks.positions, count, info.frames);
+    const whole = { min: info.boxMin, max: info.boxMax };
+    this.usualBox = usualBox(tracks.positions, count, info.frames, whole);
+    const extent =
+      momentExtent(tracks.positions, count, info.frames, this.usualBox) || diagonal(this.usualBox);
     const isMotion = info.kind === "motion";
-    this.radius = ballRadius(extent, count) * (isMotion ? 0.7 : 1);
+    this.radius = ballRadius(extent, count, this.metersPerUnit * 1000) * (isMotion ? 0.7 : 1);
     this.balls = new Balls(count, this.radius);
     this.bones = tracks.ends ? new Bones(count, this.radius * 3.5) : null;
-    this.links = tracks.ends ? new Links(info.parents) : null;
+    this.links = tracks.ends ? new Links(joinedParents(take)) : null;
     this.places = this.balls.places;
     this.tips = this.bones?.tips ?? null;
     this.screenPlaces = new Float32Array(count * 3);
@@ -48,12 +55,18 @@ export class TakeDrawing {
     if (this.links) this.group.add(this.links.body);
   }
 
+  private get metersPerUnit(): number {
+    const scale = this.take.info.millimetresPerUnit / 1000;
+    return scale > 0 && Number.isFinite(scale) ? scale : 0.001;
+  }
+
   get count(): number {
     return this.take.info.objects.length;
   }
 
   paint(palette: Palette): void {
     this.balls.paint(colorOf(this.take), palette.accent);
+    if (this.take.colors) this.balls.paintEach(this.take.colors.value);
     this.bones?.paint(colorOf(this.take), palette.accent);
     this.links?.paint(colorOf(this.take));
     this.trails.paint(colorOf(this.take));
@@ -61,8 +74,7 @@ export class TakeDrawing {
 
   /** Which axis of the file points up there: "y" or "z". */
   orient(up: "y" | "z"): void {
-    const scale = this.take.info.millimetresPerUnit / 1000;
-    this.group.scale.setScalar(scale > 0 && Number.isFinite(scale) ? scale : 0.001);
+    this.group.scale.setScalar(this.metersPerUnit);
     this.group.rotation.x = up === "z" ? -Math.PI / 2 : 0;
     this.group.updateMatrixWorld(true);
   }
@@ -115,9 +127,9 @@ export class TakeDrawing {
     projectAll(this.places, this.count, matrix.elements, screen, this.screenPlaces);
   }
 
-  /** The box in the scene around all that the take ever shows. */
+  /** The box in the scene around all that the take ever shows, but for what is far off from all else. */
   wholeBox(): Box {
-    const { boxMin, boxMax } = this.take.info;
+    const { min: boxMin, max: boxMax } = this.usualBox;
     const box = emptyBox();
     const corner = new Vector3();
     for (let bits = 0; bits < 8; ++bits) {
@@ -169,4 +181,12 @@ export class TakeDrawing {
     this.trails.dispose();
     this.group.removeFromParent();
   }
+}
+
+/** In a scene bones alone are joined to what is above them. */
+function joinedParents({ info, nodes }: Take): readonly number[] {
+  const isBone = (object: number): boolean => !nodes || nodes[object]?.kind === "bone";
+  return info.parents.map((parent, object) =>
+    parent >= 0 && isBone(object) && isBone(parent) ? parent : -1,
+  );
 }

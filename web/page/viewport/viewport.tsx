@@ -1,7 +1,10 @@
+import { computed } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
 import { notify, wordsOf } from "../state/notices";
-import { deselect, hovered, isSame, select } from "../state/selection";
-import { activeTake, takeByKey, takes } from "../state/takes";
+import { asked, pickMode, pickNode, tell } from "../state/desk";
+import { nodeOf } from "../state/scene";
+import { deselect, hovered, isSame, select, type ObjectReference } from "../state/selection";
+import { activeTake, scene, seenTakes, takeByKey, working } from "../state/takes";
 import { activate, frame } from "../state/time";
 import { stage } from "./current_stage";
 import { drawnCount, Stage } from "./stage";
@@ -32,8 +35,16 @@ function placeIn(canvas: HTMLElement, event: PointerEvent): [number, number] {
   return [event.clientX - box.left, event.clientY - box.top];
 }
 
+function isPickable({ object }: ObjectReference): boolean {
+  return pickMode.value.pickable.has(nodeOf(object));
+}
+
 function choose(canvas: HTMLElement, event: PointerEvent): void {
   const picked = stage.value?.pick(...placeIn(canvas, event)) ?? null;
+  if (pickMode.value.on) {
+    pickNode(picked ? nodeOf(picked.object) : 0);
+    return;
+  }
   const extend = event.ctrlKey || event.metaKey || event.shiftKey;
   if (!picked) {
     if (!extend) deselect();
@@ -47,20 +58,25 @@ function choose(canvas: HTMLElement, event: PointerEvent): void {
 
 /** Tells clicks from drags, and what lies under the pointer. */
 function watchPointer(canvas: HTMLElement): () => void {
-  let down: [number, number] | null = null;
+  let down: { x: number; y: number; button: number } | null = null;
   const onDown = (event: PointerEvent): void => {
-    down = event.isPrimary && event.button === 0 ? [event.clientX, event.clientY] : null;
+    const { clientX: x, clientY: y, button } = event;
+    down = event.isPrimary && (button === 0 || button === 2) ? { x, y, button } : null;
   };
   const onUp = (event: PointerEvent): void => {
-    const moved = down ? Math.hypot(event.clientX - down[0], event.clientY - down[1]) : Infinity;
-    if (moved < STILL_PIXELS) choose(canvas, event);
+    const moved = down ? Math.hypot(event.clientX - down.x, event.clientY - down.y) : Infinity;
+    if (moved < STILL_PIXELS && down?.button === 0) choose(canvas, event);
+    if (moved < STILL_PIXELS && down?.button === 2 && pickMode.value.on) {
+      tell({ did: "right-click" });
+    }
     down = null;
   };
   const onMove = (event: PointerEvent): void => {
     if (event.pointerType !== "mouse" || event.buttons !== 0) return;
     const over = stage.value?.pick(...placeIn(canvas, event)) ?? null;
     if (!isSame(over, hovered.value)) hovered.value = over;
-    canvas.classList.toggle("over", over !== null);
+    canvas.dataset.over = over ? String(over.object) : "";
+    canvas.classList.toggle("over", over !== null && (!pickMode.value.on || isPickable(over)));
   };
   const onLeave = (): void => void (hovered.value = null);
   const stop = new AbortController();
@@ -97,7 +113,13 @@ export function Viewport() {
     <section class="viewport" aria-label="View">
       <ViewBar />
       <div class="view-frame" ref={frameElement} {...handles()}>
-        <canvas ref={canvas} class="view-scene" tabIndex={0} role="img" aria-label={summary()} />
+        <canvas
+          ref={canvas}
+          class={pickMode.value.on ? "view-scene picking" : "view-scene"}
+          tabIndex={0}
+          role="img"
+          aria-label={summary()}
+        />
         <canvas ref={overlay} class="view-overlay" aria-hidden="true" />
         <Readout />
       </div>
@@ -105,19 +127,32 @@ export function Viewport() {
   );
 }
 
-function handles(): Record<string, string | number> {
-  const objects = takes.value.reduce((sum, take) => sum + take.info.objects.length, 0);
+function handles(): Record<string, string | number | undefined> {
+  const objects = seenTakes.value.reduce((sum, take) => sum + take.info.objects.length, 0);
   return {
     "data-view": "",
     "data-frame": frame.value,
     "data-objects": objects,
     "data-drawn": drawnCount.value,
+    "data-colors": colorsText.value,
+    "data-picking": pickMode.value.on ? asked.value : undefined,
   };
 }
+
+/** The colors of the nodes, as style sheets write them. */
+const colorsText = computed<string | undefined>(() => {
+  const colors = scene.value?.colors?.value;
+  if (!colors || !working.value) return undefined;
+  const parts = Array.from(colors, (part) => Math.round(part * 255));
+  const texts = Array.from({ length: parts.length / 3 }, (_, index) =>
+    parts.slice(index * 3, index * 3 + 3).join(", "),
+  );
+  return texts.map((text) => `rgb(${text})`).join(";");
+});
 
 function summary(): string {
   const take = activeTake.value;
   if (!take) return "The view: no take is open";
   const kind = take.info.kind === "motion" ? "segments" : "markers";
-  return `The view: ${takes.value.length} open, ${drawnCount.value} ${kind} and others seen`;
+  return `The view: ${seenTakes.value.length} open, ${drawnCount.value} ${kind} and others seen`;
 }

@@ -1,4 +1,5 @@
 import type { Signal } from "@preact/signals";
+import { followPointer } from "./drag";
 
 interface SplitterProperties {
   label: string;
@@ -16,23 +17,16 @@ const KEY_STEP = 16;
 /** The line between two panels, dragged or moved by arrows. */
 export function Splitter({ label, size, least, most, between, before }: SplitterProperties) {
   const sign = before ? 1 : -1;
-  const resize = (by: number): void => {
-    size.value = Math.min(Math.max(size.value + by * sign, least), most);
+  const resize = (from: number, by: number): void => {
+    size.value = Math.min(Math.max(from + by * sign, least), most);
   };
+  const along = (event: PointerEvent): number =>
+    between === "columns" ? event.clientX : event.clientY;
   const drag = (event: PointerEvent): void => {
-    const handle = event.currentTarget as HTMLElement;
-    handle.setPointerCapture(event.pointerId);
-    const begin = between === "columns" ? event.clientX : event.clientY;
+    const begin = along(event);
     const sizeThen = size.value;
-    const move = (moved: PointerEvent): void => {
-      const by = (between === "columns" ? moved.clientX : moved.clientY) - begin;
-      size.value = Math.min(Math.max(sizeThen + by * sign, least), most);
-    };
-    handle.addEventListener("pointermove", move);
-    handle.addEventListener(
-      "lostpointercapture",
-      () => handle.removeEventListener("pointermove", move),
-      { once: true },
+    followPointer(event.currentTarget as HTMLElement, event, (moved) =>
+      resize(sizeThen, along(moved) - begin),
     );
     event.preventDefault();
   };
@@ -40,7 +34,7 @@ export function Splitter({ label, size, least, most, between, before }: Splitter
     const keys = between === "columns" ? ["ArrowLeft", "ArrowRight"] : ["ArrowUp", "ArrowDown"];
     const direction = keys.indexOf(event.key);
     if (direction < 0) return;
-    resize(direction === 0 ? -KEY_STEP : KEY_STEP);
+    resize(size.value, direction === 0 ? -KEY_STEP : KEY_STEP);
     event.preventDefault();
     event.stopPropagation();
   };

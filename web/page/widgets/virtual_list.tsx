@@ -9,6 +9,8 @@ interface VirtualListProperties {
   /** The row that the arrows move, always in sight; -1: none. */
   current: number;
   move: (row: number, extend: boolean) => void;
+  /** What Enter does with the current row, where it does anything. */
+  enter?: (row: number) => void;
   row: (index: number, id: string) => ComponentChild;
   id: string;
 }
@@ -65,7 +67,13 @@ function useHeight(box: RefObject<HTMLElement>): number {
   return height;
 }
 
-function press(event: KeyboardEvent, { count, current, move }: VirtualListProperties): void {
+function press(event: KeyboardEvent, properties: VirtualListProperties): void {
+  const { count, current, move, enter } = properties;
+  if (event.key === "Enter" && enter && current >= 0) {
+    enter(current);
+    event.preventDefault();
+    event.stopPropagation();
+  }
   const page = 10;
   const steps: Readonly<Record<string, number>> = {
     ArrowUp: -1,

@@ -5,6 +5,7 @@ import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import path from "node:path";
 import { test } from "node:test";
+import { atWork } from "./desk.mjs";
 import { EXAMPLES, inWorkbench, ROOT, useBrowser } from "./workbench.mjs";
 
 useBrowser();
@@ -39,6 +40,47 @@ for (const look of ["dark", "light"]) {
       assert.deepEqual(await seriousFaults(workbench), []);
     }));
 }
+
+for (const look of ["dark", "light"]) {
+  test(`dialogs, panel and mapping have no serious fault, ${look}`, () =>
+    atWork([path.join(EXAMPLES, "walk.htr"), path.join(EXAMPLES, "walk.trc")], async (desk) => {
+      const { workbench } = desk;
+      if (look === "light") await workbench.button("Dark / light").click();
+      assert.deepEqual(await seriousFaults(workbench), []);
+      for (const [name, title] of [["walk.htr", "ImportHTR"], ["walk.trc", "ImportTRC"]]) {
+        await desk.importFile(name);
+        await desk.dialog(title).waitFor();
+        assert.deepEqual(await seriousFaults(workbench), [], title);
+        await desk.dialog(title).getByRole("button", { name: "OK", exact: true }).click();
+        await desk.waitForRest();
+      }
+      await desk.button("Settings…").click();
+      assert.deepEqual(await seriousFaults(workbench), [], "settings");
+      await workbench.page.keyboard.press("Escape");
+      await desk.openPanel();
+      await desk.panel.getByRole("button", { name: "Create", exact: true }).click();
+      await desk.message("Pick optional markers?").waitFor();
+      assert.deepEqual(await seriousFaults(workbench), [], "a question");
+      for (const side of ["left", "right"]) {
+        await desk.answer("Pick optional markers?", `Are you using a ${side} wrist stick?`, "No");
+      }
+      await desk.waitForAsked("LFHD");
+      await workbench.page.keyboard.press("Enter");
+      await desk.waitForAsked("LBHD");
+      assert.deepEqual(await seriousFaults(workbench), [], "a mapping");
+    }));
+}
+
+test("the view is there beside the work on a small screen", () =>
+  atWork(path.join(EXAMPLES, "walk.trc"), async (desk) => {
+    await desk.openPanel();
+    const box = await desk.workbench.view.boundingBox();
+    assert.ok(box.width > 180 && box.height > 150, `${box.width} by ${box.height}`);
+    assert.ok(await desk.page.evaluate(() => document.documentElement.scrollWidth <= innerWidth));
+    await desk.importFile("walk.trc");
+    const dialog = await desk.dialog("ImportTRC").boundingBox();
+    assert.ok(dialog.x >= 0 && dialog.x + dialog.width <= 820, `${dialog.x} ${dialog.width}`);
+  }, { size: { width: 820, height: 1180 } }));
 
 test("an example is opened and played by keys alone", () =>
   inWorkbench(async (workbench) => {

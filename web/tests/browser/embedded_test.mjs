@@ -7,11 +7,10 @@ import { tmpdir } from "node:os";
 import path from "node:path";
 import { after, before, test } from "node:test";
 import { markerFile } from "./takes.mjs";
-import { EXAMPLES, inWorkbench, PAGE, ROOT, useBrowser } from "./workbench.mjs";
+import { PROGRAM, WITH_PROGRAM } from "../program.mjs";
+import { EXAMPLES, inWorkbench, PAGE, useBrowser } from "./workbench.mjs";
 
 useBrowser();
-
-const ORVANE = path.join(ROOT, "build/bin/orvane");
 
 let folder;
 
@@ -23,14 +22,14 @@ after(() => rmSync(folder, { recursive: true }));
 
 function pageOf(...takes) {
   const page = path.join(folder, "page.html");
-  execFileSync(ORVANE, ["view", ...takes, "-o", page, "--no-open", "--force"], {
+  execFileSync(PROGRAM, ["view", ...takes, "-o", page, "--no-open", "--force"], {
     env: { ...process.env, ORVANE_WORKBENCH: PAGE },
     stdio: ["ignore", "ignore", "ignore"],
   });
   return page;
 }
 
-test("takes in a page are open when it is", () =>
+test("takes in a page are open when it is", WITH_PROGRAM, () =>
   inWorkbench(
     async (workbench) => {
       await workbench.waitForTakes(2);
@@ -41,7 +40,7 @@ test("takes in a page are open when it is", () =>
     { file: () => pageOf(path.join(EXAMPLES, "walk.htr"), path.join(EXAMPLES, "walk.trc")) },
   ));
 
-test("the name of a take in a page stays a name", () => {
+test("the name of a take in a page stays a name", WITH_PROGRAM, () => {
   const take = path.join(folder, "<img src=x onerror=alert(1)><!--<script>.trc");
   writeFileSync(take, markerFile(["</script><script>alert(2)</script>"], 5, () => [1, 2, 3]));
   return inWorkbench(

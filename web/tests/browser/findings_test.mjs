@@ -2,7 +2,7 @@
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { asFile, WALK_HTR, WALK_TRC } from "./takes.mjs";
+import { asFile, markerFile, WALK_HTR, WALK_TRC } from "./takes.mjs";
 import { inWorkbench, useBrowser } from "./workbench.mjs";
 
 useBrowser();
@@ -18,6 +18,17 @@ test("a finding is gone to, and its line is shown with the place in it", () =>
     await finding.getByRole("button", { name: new RegExp(`^line ${frame + 1}, column`) }).first().click();
     const line = workbench.page.getByRole("group", { name: `Line ${frame + 1} of the file` });
     assert.match(await line.locator("mark").textContent(), /x|bad/);
+  }));
+
+test("a place leads to its marker and frame, whatever number the frame has", () =>
+  inWorkbench(async (workbench) => {
+    const text = markerFile(["A", "B"], 10, (frame, marker) => [frame, marker, frame === 7 && marker === 1 ? "bad" : 0]);
+    await workbench.open([asFile("repeated.trc", text.replace("\n6\t", "\n5\t").replace("\n8\t", "\n4\t"))]);
+    await workbench.waitForTakes(1);
+    const finding = workbench.finding("trc-number-unreadable");
+    await finding.getByRole("button", { name: / · B · frame 8$/ }).click();
+    await workbench.waitForFrame(7);
+    assert.match(await workbench.page.locator('[data-object][aria-selected="true"]').textContent(), /^B/);
   }));
 
 test("what a finding means depends on what is to be done", () =>

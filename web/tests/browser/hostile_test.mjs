@@ -2,6 +2,7 @@
 
 import assert from "node:assert/strict";
 import { test } from "node:test";
+import { atWork } from "./desk.mjs";
 import { asFile, markerFile } from "./takes.mjs";
 import { inWorkbench, useBrowser } from "./workbench.mjs";
 
@@ -34,7 +35,7 @@ async function clickEverything(workbench) {
   for (let at = 0; at < (await buttons.count()); ++at) {
     const button = buttons.nth(at);
     const name = `${await button.getAttribute("aria-label")} ${await button.textContent()}`;
-    if (/Open|Close|Picture|GLB|HTR|BVK|TRC|C3D|CSV|BVH|Report/.test(name) && name.length < 200) continue;
+    if (/Open|Close|Picture|GLB|HTR|BVK|TRC|C3D|CSV|BVH|Report|Work/.test(name) && name.length < 200) continue;
     await button.click({ timeout: 2000, force: true }).catch(() => {});
     await workbench.page.keyboard.press("Escape");
   }
@@ -105,4 +106,24 @@ test("what a page is let to do is nothing but to run itself", () =>
     assert.ok(workbench.faults.every((fault) => /Content Security Policy/.test(fault)), workbench.faults.join("\n"));
     workbench.faults.length = 0;
     workbench.requested.delete("https://elsewhere.example/a.png");
+  }));
+
+test("names of nodes, and of files that are chosen, are names", () =>
+  atWork([asFile("<img src=x onerror=alert(7)>.trc", hostileTake())], async (desk) => {
+    await desk.page.getByRole("button", { name: /^Import <img/ }).click();
+    await desk.dialog("ImportTRC").getByRole("button", { name: "OK", exact: true }).click();
+    await desk.waitForNodes(NAMES.length);
+    await desk.openPanel();
+    await desk.beginMapping();
+    await desk.page.getByRole("listbox", { name: "Nodes" }).focus();
+    for (const standard of ["LBHD", "RBHD", "RFHD"]) {
+      await desk.page.keyboard.press("ArrowDown");
+      await desk.page.keyboard.press("Enter");
+      await desk.waitForAsked(standard);
+    }
+    assert.equal((await desk.mapping()).LFHD, NAMES[0]);
+    await desk.creator.getByRole("button", { name: "Abort" }).click();
+    await desk.creator.waitFor({ state: "hidden" });
+    await desk.panel.getByRole("button", { name: "Convert TRC to BVK" }).click();
+    assert.equal(await desk.page.locator("img, svg[onload], iframe, object, embed").count(), 0);
   }));

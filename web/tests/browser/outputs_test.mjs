@@ -3,9 +3,9 @@
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import { test } from "node:test";
-import { decodePng } from "./png.mjs";
+import { countColor, decodePng } from "./png.mjs";
 import { asFile, WALK_HTR, WALK_TRC } from "./takes.mjs";
-import { inWorkbench, useBrowser } from "./workbench.mjs";
+import { COLORS, inWorkbench, useBrowser } from "./workbench.mjs";
 
 useBrowser();
 
@@ -23,7 +23,11 @@ const OUTPUTS = [
   ["walk.trc", WALK_TRC, "BVK", "walk.bvk", (bytes) => assert.ok(bytes.length > 100_000)],
   ["walk.trc", WALK_TRC, "Report", "walk-import.json", (bytes) =>
     assert.equal(JSON.parse(bytes.toString()).files[0].findings[0].code, "trc-marker-gaps")],
-  ["walk.htr", WALK_HTR, "Picture", "walk.png", (bytes) => assert.ok(decodePng(bytes).width > 400)],
+  ["walk.htr", WALK_HTR, "Picture", "walk.png", (bytes) => {
+    const picture = decodePng(bytes);
+    assert.ok(picture.width > 400);
+    assert.ok(countColor(picture, COLORS[0]) > 300);
+  }],
 ];
 
 for (const [take, text, what, name, check] of OUTPUTS) {

@@ -5,6 +5,7 @@
 
 import { writeFileSync } from "node:fs";
 import path from "node:path";
+import { Work } from "./desk.mjs";
 import { asFile, WALK_HTR, WALK_TRC } from "./takes.mjs";
 import { closeBrowser, inWorkbench, launchBrowser, ROOT } from "./workbench.mjs";
 
@@ -49,7 +50,66 @@ function damaged() {
   return asFile("damaged.trc", lines.join("\n"));
 }
 
+/** A mapping that is made by picking, as far as its panel. */
+async function mappingBegun(workbench) {
+  await opened(workbench, [MARKERS]);
+  await workbench.button("Work").click();
+  const desk = new Work(workbench);
+  await desk.waitForRest();
+  await desk.importAsItComes("walk.trc", "ImportTRC", 41);
+  await press(workbench, "6", "6", "6");
+  await desk.openPanel();
+  return desk;
+}
+
+/** Takes what is suggested until the standard marker is asked for. */
+async function pickedUntil(desk, standard) {
+  for (let asked = await desk.asked(); asked !== standard; asked = await desk.asked()) {
+    await desk.page.keyboard.press("Enter");
+    await desk.page.waitForFunction(
+      (before) => document.querySelector("[data-view]").dataset.picking !== before, asked);
+  }
+}
+
+async function lastStep(desk) {
+  await pickedUntil(desk, "LPRPB");
+  for (const prop of ["LPRPB", "LPRPM", "LPRPT", "RPRPB", "RPRPM", "RPRPT"]) {
+    await desk.waitForAsked(prop);
+    await desk.creator.getByRole("button", { name: "Skip" }).click();
+  }
+}
+
 const PICTURES = {
+  async "mapping-1"(workbench) {
+    await mappingBegun(workbench);
+  },
+  async "mapping-2"(workbench) {
+    const desk = await mappingBegun(workbench);
+    await desk.panel.getByRole("button", { name: "Create" }).click();
+    await desk.message("Pick optional markers?").waitFor();
+  },
+  async "mapping-3"(workbench) {
+    const desk = await mappingBegun(workbench);
+    await desk.beginMapping();
+    await desk.page.mouse.move(...(await desk.places()).get(0));
+    return { pointerStays: true };
+  },
+  async "mapping-4"(workbench) {
+    const desk = await mappingBegun(workbench);
+    await desk.beginMapping();
+    await pickedUntil(desk, "LSHO");
+  },
+  async "mapping-5"(workbench) {
+    const desk = await mappingBegun(workbench);
+    await desk.beginMapping();
+    await pickedUntil(desk, "LHEL");
+  },
+  async "mapping-6"(workbench) {
+    const desk = await mappingBegun(workbench);
+    await desk.beginMapping();
+    await lastStep(desk);
+    await desk.dialog("Select Mapping File...").getByLabel("Name of the file").fill("walk");
+  },
   async walk(workbench) {
     await opened(workbench, [MOTION, MARKERS]);
     await goTo(workbench, 45);
@@ -102,8 +162,8 @@ async function pictureAtRest(page) {
 async function makePicture(name) {
   await inWorkbench(
     async (workbench) => {
-      await PICTURES[name](workbench);
-      await workbench.page.mouse.move(640, 20); // over nothing
+      const made = await PICTURES[name](workbench);
+      if (!made?.pointerStays) await workbench.page.mouse.move(640, 20); // over nothing
       const file = path.join(ROOT, `docs/images/workbench-${name}.png`);
       const bytes = await pictureAtRest(workbench.page);
       writeFileSync(file, bytes);

@@ -56,17 +56,44 @@ export function decodePng(bytes) {
   return { width, height, channels, pixels: unfiltered(inflateSync(packed), width, height, channels) };
 }
 
-/** How many pixels of the picture have a hue within 12 degrees of that of `color` ("#58a6e8"), and are no gray. */
-export function countColor(picture, color) {
+/** Whether each pixel, by rows, has a hue within 12 degrees of that of `color` ("#58a6e8"), and is no gray. */
+function matching(picture, color) {
   const wanted = hueOf(...[1, 3, 5].map((at) => parseInt(color.slice(at, at + 2), 16)));
-  let count = 0;
-  for (let at = 0; at < picture.pixels.length; at += picture.channels) {
+  return Array.from({ length: picture.width * picture.height }, (_, pixel) => {
+    const at = pixel * picture.channels;
     const [red, green, blue] = picture.pixels.subarray(at, at + 3);
-    if (Math.max(red, green, blue) - Math.min(red, green, blue) < 60) continue;
+    if (Math.max(red, green, blue) - Math.min(red, green, blue) < 60) return false;
     const apart = Math.abs(hueOf(red, green, blue) - wanted);
-    if (Math.min(apart, 360 - apart) < 12) ++count;
-  }
-  return count;
+    return Math.min(apart, 360 - apart) < 12;
+  });
+}
+
+/** How many pixels of the picture are of the hue of `color`. */
+export function countColor(picture, color) {
+  return matching(picture, color).filter(Boolean).length;
+}
+
+// The beginning and end of each stretch of what is true.
+function stretches(flags) {
+  const found = [];
+  flags.forEach((flag, at) => {
+    if (flag && !flags[at - 1]) found.push([at, at]);
+    if (flag) found[found.length - 1][1] = at;
+  });
+  return found;
+}
+
+/** The stretches of columns, and those of rows, that have a pixel of the hue: [first, last] of each. */
+export function colorStretches(picture, color, { left = 0, top = 0, bottom = picture.height - 1 } = {}) {
+  const columns = new Array(picture.width).fill(false);
+  const rows = new Array(picture.height).fill(false);
+  matching(picture, color).forEach((matches, pixel) => {
+    const row = Math.floor(pixel / picture.width);
+    if (!matches || row < top || row > bottom || pixel % picture.width < left) return;
+    columns[pixel % picture.width] = true;
+    rows[row] = true;
+  });
+  return { columns: stretches(columns), rows: stretches(rows) };
 }
 
 function hueOf(red, green, blue) {

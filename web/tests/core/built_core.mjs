@@ -86,6 +86,13 @@ export async function startClient() {
   return new Core(await bundled("worker.ts", "cjs", SELF), await compiledCore());
 }
 
+/** A desk in a worker of its own. */
+export async function startDesk(settings) {
+  globalThis.Worker = PageWorker;
+  const { Desk } = await workerModule("desk_client.ts");
+  return new Desk(await bundled("worker.ts", "cjs", SELF), await compiledCore(), settings);
+}
+
 /** How many workers there have been. */
 export const workersBegun = () => PageWorker.begun;
 

@@ -7,12 +7,10 @@ import { tmpdir } from "node:os";
 import path from "node:path";
 import { after, test } from "node:test";
 import { compiledCore, ROOT, workerModule } from "./built_core.mjs";
+import { HAS_PROGRAM, PROGRAM, WITH_PROGRAM } from "../program.mjs";
 import { sceneDifference } from "./same_scene.mjs";
 
 process.env.TZ = "UTC";
-const PROGRAM = path.join(ROOT, "build/bin/orvane");
-const isThere = existsSync(PROGRAM);
-const options = { skip: isThere ? false : "build/bin/orvane is not there: ./dev build makes it" };
 
 // The core sleeps wherever it can.
 const EVERY_STEP = 0;
@@ -69,7 +67,7 @@ async function differences(take) {
   return found;
 }
 
-test("the core says and makes what the program does", options, async () => {
+test("the core says and makes what the program does", WITH_PROGRAM, async () => {
   const takes = programResults();
   assert.ok(takes.length > 40, "all files were looked at");
   const found = [];

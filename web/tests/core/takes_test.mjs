@@ -64,6 +64,41 @@ test("a finding leads to marker and frame, and to the line with its column", asy
   assert.equal(text[unread.column - 1], "x");
 });
 
+const DAMAGED = MARKERS.replace("4.0\tx\t", "4.0\t5.0\t");
+
+for (const [what, text, code, place] of [
+  ["a frame number that is repeated", DAMAGED.replace("14\t0.050050\t1.5", "13\t0.050050\tbad"), "trc-number-unreadable", { line: 10, object: 0, frame: 3 }],
+  ["frame numbers that are skipped", DAMAGED.replace("14\t0.050050\t1.5", "114\t0.050050\tbad"), "trc-number-unreadable", { line: 10, object: 0, frame: 3 }],
+  ["a comment that takes a frame's place", DAMAGED.replace("13\t0", "#13\t0").replace("14\t0.050050\t1.5", "x\n14\t0.050050\tbad"), "trc-number-unreadable", { line: 11, object: 0, frame: 3 }],
+  ["a repeated name", DAMAGED.replace("\tA\t\t\tB\t\t", "\tA\t\t\tA\t\t\tB\t\t").replace("4.0\t5.0\t6.0\r\n12", "bad\t5.0\t6.0\r\n12"), "trc-number-unreadable", { line: 7, object: 1, frame: 0 }],
+  ["a value behind the last marker's", DAMAGED.replace("5.0\t6.0\r\n12", "5.0\t6.0\t7.0\r\n12"), "trc-value-extra", { line: 7, frame: 0 }],
+  ["a marker without a name", DAMAGED.replace("\tB\t", "\t\t"), "trc-name-empty", { line: 4, object: 1 }],
+]) {
+  test(`with ${what} a finding leads to the marker and frame that were read`, async () => {
+    const { instance } = await opened("two.trc", bytesOf(text));
+    const { findings } = instance.findings(1, "import");
+    const { places } = findings.find((each) => each.code === code) ?? assert.fail(findings.map((each) => each.code).join());
+    const { column, ...found } = places.find(({ line }) => line === place.line);
+    assert.ok(column > 0);
+    assert.deepEqual(found, place);
+  });
+}
+
+const WALK_LINES = Buffer.from(example("walk.htr")).toString("latin1").split("\n");
+
+test("a finding in a motion leads to the segment and frame that were read, whatever the frame's number", async () => {
+  const spine = WALK_LINES.findIndex((line) => line.startsWith("[Spine]"));
+  const rows = WALK_LINES.map((line, at) => ({ line, at })).filter(({ line, at }) => at > spine && /^\d/.test(line));
+  const lines = [...WALK_LINES];
+  lines[rows[60].at] = lines[rows[60].at].replace(/^\d+(\s+)\S+/, "60$1bad");
+  const { instance, info } = await opened("walk.htr", bytesOf(lines.join("\n")));
+  const { findings } = instance.findings(1, "import");
+  const { places } = findings.find(({ code }) => code === "htr-number-unreadable");
+  assert.equal(places[0].line, rows[60].at + 1);
+  assert.equal(places[0].object, info.objects.indexOf("Spine"));
+  assert.equal(places[0].frame, 60);
+});
+
 test("a motion has joints, the ends of bones, and parents", async () => {
   const { info, tracks, instance } = await opened("walk.htr", example("walk.htr"));
   assert.equal(info.kind, "motion");

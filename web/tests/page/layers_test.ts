@@ -9,11 +9,12 @@ declare const PAGE_FOLDER: string;
 const LAYERS: Readonly<Record<string, readonly string[]>> = {
   logic: ["../worker"],
   state: ["logic", "../worker"],
-  data: ["state"],
+  data: ["logic", "state"],
   widgets: ["logic"],
   viewport: ["logic", "state", "widgets"],
   timeline: ["logic", "state", "widgets", "../worker"],
   panels: ["data", "logic", "state", "viewport", "widgets", "../worker", "../build"],
+  desk: ["data", "logic", "panels", "state", "../worker"],
 };
 
 function importsOf(file: string): string[] {

@@ -1,9 +1,12 @@
 import assert from "node:assert/strict";
 import { beforeEach, test } from "node:test";
+import { curveTexts, shownLength, type Curve } from "../../page/state/curves";
+import { dismiss, notices, notify } from "../../page/state/notices";
 import * as selection from "../../page/state/selection";
 import { setting } from "../../page/state/settings";
 import { activeKey, addTake, removeTake, takes, type Take } from "../../page/state/takes";
 import * as time from "../../page/state/time";
+import { unit } from "../../page/state/view_options";
 import type { TakeInfo } from "../../worker/protocol";
 
 function take(frames: number, rate: number): Take {
@@ -34,6 +37,62 @@ test("another take goes on at the same moment, where it has that", () => {
   assert.equal(time.frameOf(film), -1);
   time.activate(film);
   assert.equal(time.frame.value, 0);
+});
+
+test("in and out points and the zoom stay at their moments when another take is worked on", () => {
+  const film = take(48, 24);
+  const fast = take(480, 240);
+  time.activate(film);
+  time.jumpTo(12);
+  time.setIn();
+  time.jumpTo(24);
+  time.setOut();
+  time.zoomTimeline(4);
+  const { first, end } = time.timelineView.value;
+  time.activate(fast);
+  assert.deepEqual(time.span.value, { first: 120, last: 240 });
+  assert.deepEqual(time.timelineView.value, { first: 10 * first, end: 10 * end });
+  time.activate(film);
+  assert.deepEqual(time.span.value, { first: 12, last: 24 });
+  fast.offset.value = 0.75;
+  time.activate(fast);
+  assert.deepEqual(time.span.value, { first: 0, last: 60 });
+});
+
+test("in and out points go where the other take has none of what is between them", () => {
+  const film = take(48, 24);
+  const late = take(48, 24);
+  late.offset.value = 5;
+  time.activate(film);
+  time.jumpTo(12);
+  time.setIn();
+  time.activate(late);
+  assert.equal(time.hasSpan.value, true);
+  time.activate(film);
+  time.clearSpan();
+  time.jumpTo(24);
+  time.setOut();
+  time.activate(late);
+  assert.equal(time.hasSpan.value, false);
+});
+
+test("a curve is told at the frame of its own take, in the unit that is chosen", () => {
+  const film = take(48, 24);
+  const fast = take(480, 240);
+  const info = { ...fast.info, millimetresPerUnit: 10 };
+  const value = (frame: number): number => frame;
+  const column = Array.from({ length: 480 }, (_, frame) => value(frame));
+  const curve = { take: { ...fast, info }, object: 0, of: "position", columns: [column, column, column, column] };
+  time.activate(film);
+  time.jumpTo(3);
+  unit.value = "mm";
+  assert.deepEqual(curveTexts(curve as Curve), ["300.0 mm", "300.0 mm", "300.0 mm"]);
+  assert.deepEqual(shownLength(curve as Curve), { unit: " mm", factor: 10 });
+  unit.value = "m";
+  assert.equal(curveTexts(curve as Curve)[0], "0.3000 m");
+  assert.equal(curveTexts({ ...curve, of: "rotation" } as Curve)[0], "30.00°");
+  time.jumpTo(47);
+  assert.equal(curveTexts({ ...curve, take: { ...curve.take, offset: { value: 9 } } } as Curve)[0], null);
 });
 
 test("it plays by the file's rate to the out point, and stops there", () => {
@@ -117,6 +176,14 @@ test("what is selected of a take goes with it", () => {
   assert.deepEqual([...selection.selectedOf(one)], []);
   removeTake(other);
   assert.equal(selection.lastSelected.value, null);
+});
+
+test("of many files that fail each is told", () => {
+  for (let file = 0; file < 30; ++file) notify("error", `${file}.htr was not opened`);
+  assert.equal(notices.value.length, 30);
+  assert.equal(notices.value[0].title, "0.htr was not opened");
+  for (const { key } of notices.value) dismiss(key);
+  assert.equal(notices.value.length, 0);
 });
 
 test("a color that became free is given again", () => {

@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { advance, shuttle } from "../../page/logic/playback";
-import { clampFrame, frameIn, secondsOf } from "../../page/logic/take_time";
+import { clampFrame, frameIn, placeIn, secondsOf } from "../../page/logic/take_time";
 
 const SPAN = { first: 10, last: 19 };
 
@@ -40,6 +40,15 @@ test("takes of other rates and beginnings show the same moment", () => {
   assert.equal(frameIn(fast, { ...film, offset: 1 }, 0), 240);
   assert.equal(frameIn(film, fast, 479), -1);
   assert.equal(secondsOf({ frames: 1, rate: 0, offset: 0 }, 30), 0);
+});
+
+test("a place on the frames of one take lies on those of another", () => {
+  const film = { frames: 48, rate: 24, offset: 0 };
+  const fast = { frames: 480, rate: 240, offset: 0.5 };
+  assert.equal(placeIn(film, fast, 0), 12);
+  assert.equal(placeIn(film, fast, 5), 12.5);
+  assert.equal(placeIn(fast, film, 0), -120);
+  assert.equal(placeIn(film, { ...fast, rate: 0 }, 7), 7);
 });
 
 test("frames stay within the take", () => {

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { curveColumns, valuesAt } from "../../page/logic/curve_columns";
+import { curveColumns, scaledColumns, valuesAt } from "../../page/logic/curve_columns";
 import { eachGap, gapCount, indexGaps, neighborGap } from "../../page/logic/gaps";
 import {
   ballRadius,
@@ -12,6 +12,7 @@ import {
   NOWHERE,
   pointAt,
 } from "../../page/logic/tracks";
+import { isTelling, usualBox } from "../../page/logic/usual_box";
 import { fillLinks, linkedObjects } from "../../page/logic/links";
 import { fillTrails, trailBuffers, trailFrames } from "../../page/logic/trail";
 
@@ -53,8 +54,61 @@ test("a value too large to be drawn is left out like a gap", () => {
 });
 
 test("balls are smaller the more of them there are, and never without size", () => {
-  assert.ok(ballRadius(2, 40) > ballRadius(2, 10_000));
-  assert.ok(ballRadius(0, 1) > 0);
+  assert.ok(ballRadius(2, 40, 1) > ballRadius(2, 10_000, 1));
+});
+
+test("the ball of a take without extent is as large in any unit", () => {
+  for (const millimetresPerUnit of [1, 10, 25.4, 1000]) {
+    const millimetres = ballRadius(0, 1, millimetresPerUnit) * millimetresPerUnit;
+    assert.ok(millimetres > 5 && millimetres < 20, `${millimetres}`);
+  }
+});
+
+// A body of five markers, 1600 by 400 by 200, that goes 3000 along x in so many frames.
+function walk(frames: number): Float32Array {
+  const body = [[0, 0, 0], [400, 0, 0], [0, 800, 100], [200, 1600, 200], [400, 800, 100]];
+  const at = (frame: number): number[] =>
+    body.flatMap(([x, y, z]) => [x + (3000 * frame) / Math.max(frames - 1, 1), y, z]);
+  return Float32Array.from(Array.from({ length: frames }, (_, frame) => at(frame)).flat());
+}
+
+const wholeBox = (track: Float32Array) => frameBox(track, track.length / 3, 0);
+
+test("where a take is usually seen, single values that are far off say nothing of", () => {
+  for (const frames of [1, 2, 120, 3000]) {
+    const sound = walk(frames);
+    assert.deepEqual(usualBox(sound, 5, frames, wholeBox(sound)), wholeBox(sound));
+    for (const wrong of [1e9, -3e5, 3e38, Infinity]) {
+      const spike = sound.slice();
+      spike[15 * Math.floor(frames / 2) + 6] = wrong;
+      const { min, max } = usualBox(spike, 5, frames, wholeBox(spike));
+      assert.deepEqual(min, wholeBox(sound).min, `${wrong} in ${frames}`);
+      assert.deepEqual(max, wholeBox(sound).max, `${wrong} in ${frames}`);
+    }
+  }
+});
+
+test("what moves after long standing, and what never has an extent, is seen whole", () => {
+  const stands = walk(1000);
+  for (let frame = 100; frame < 900; ++frame) stands.copyWithin(frame * 15, 0, 15);
+  assert.deepEqual(usualBox(stands, 5, 1000, wholeBox(stands)), wholeBox(stands));
+  const point = new Float32Array([7, 7, 7, 7, 7, 7]);
+  assert.deepEqual(usualBox(point, 1, 2, wholeBox(point)), { min: [7, 7, 7], max: [7, 7, 7] });
+  assert.ok(isEmpty(usualBox(new Float32Array([...HOLE]), 1, 1, wholeBox(new Float32Array([...HOLE])))));
+});
+
+test("a frame of a few markers, or of all in one place, does not tell where the take is seen", () => {
+  assert.ok(isTelling(41, 41, 1.7, 20));
+  assert.ok(!isTelling(1, 41, 0, 20));
+  assert.ok(!isTelling(41, 41, 0, 20));
+  assert.ok(!isTelling(20, 41, 1.7, 20));
+});
+
+test("balls take no part in a value that is far off", () => {
+  const spike = walk(16);
+  spike[15 * 3 + 6] = 1e9;
+  const box = usualBox(spike, 5, 16, wholeBox(spike));
+  assert.ok(momentExtent(spike, 5, 16, box) < 3000);
 });
 
 test("gaps are found by object, and those that reach into a part of the frames", () => {
@@ -99,6 +153,16 @@ test("trails go as far as there are frames, and no piece leads over a gap", () =
   assert.deepEqual([...buffers.points.slice(0, 12)], [0, 0, 0, 1, 0, 0, 1, 0, 0, 2, 0, 0]);
   assert.equal(buffers.strengths[1], 1);
   assert.ok(buffers.strengths[3] < buffers.strengths[0]);
+});
+
+test("curves are told at other places and in other units, holes staying holes", () => {
+  const columns = curveColumns(Float64Array.from([1, 2, 3, NaN, NaN, NaN]));
+  assert.deepEqual(scaledColumns(columns, (place) => place + 60, 10), [
+    [60.5, 61.5],
+    [10, null],
+    [20, null],
+    [30, null],
+  ]);
 });
 
 test("curves have a column an axis and holes where there are gaps", () => {

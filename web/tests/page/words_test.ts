@@ -143,3 +143,10 @@ test("files are made by the program's verbs, under names of their own", () => {
   assert.equal(outputName(htr, info), "my walk-rewritten.htr");
   assert.deepEqual(outputVerb(bvk, info), ["convert", "2/my walk.htr", "-o", "my walk.bvk"]);
 });
+
+test("brackets mean gaps also where they are written with AltGr or Option", () => {
+  const press = { key: "]", shiftKey: false, ctrlKey: true, metaKey: false, altKey: true };
+  assert.equal(commandOf(press), "next-gap");
+  assert.equal(commandOf({ ...press, key: "[", ctrlKey: false }), "previous-gap");
+  assert.equal(commandOf({ ...press, key: "o" }), null);
+});

@@ -1,0 +1,24 @@
+#include "web/desk/told_report.h"
+
+#include "cli/common/report.h"
+#include "web/desk/told.h"
+
+namespace web {
+
+void TellReport(std::string_view what, const orvane::FileReport& report) {
+  Telling telling(what);
+  cli::JsonWriter& json = telling.Json();
+  json.Key("findings");
+  json.BeginArray(cli::JsonWriter::Layout::kLines);
+  for (const orvane::ReportedFinding& finding : report.findings) {
+    json.BeginObject();
+    cli::WriteText(json, "code", finding.code);
+    cli::WriteText(json, "severity", SeverityName(finding.severity));
+    cli::WriteText(json, "text", cli::TextOf(finding));
+    json.EndObject();
+  }
+  json.EndArray();
+  telling.Send();
+}
+
+}  // namespace web

@@ -1,0 +1,44 @@
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <vector>
+
+#include "host/application/application.h"
+#include "host/scene/scene.h"
+
+// What the page has been told of the scene and of what is done in it.
+
+namespace web {
+
+// Tells all of the scene: its nodes, and where they are in every frame of its range.
+void TellScene(const host::Scene& scene);
+
+// Tells which nodes play the roles of standard markers, as far as their names say so; nothing of a
+// scene of which no name does.
+void TellSuggestions(const host::Scene& scene);
+
+// What changes while the scene stays.
+class ToldScene {
+ public:
+  // Tells what has changed since the last time.
+  void Update(host::Application& application);
+
+  // The page has been told of the scene as it is.
+  void TakeOver(const host::Scene& scene);
+
+ private:
+  void TellColors(const host::Scene& scene);
+  void TellSelection(const host::Scene& scene);
+  void TellPickMode(host::Application& application);
+
+  std::map<std::uint32_t, std::uint32_t> colors_;  // by handle
+  std::vector<std::uint32_t> selection_;
+  bool is_picking_ = false;
+};
+
+// Whether the pick mode lets `node` be picked; not without one.
+[[nodiscard]] bool IsPickable(host::Application& application, host::Node& node);
+
+}  // namespace web

@@ -1,0 +1,64 @@
+import { useMemo } from "preact/hooks";
+import type { ShownDialog } from "../../worker/desk_protocol";
+import {
+  CLOSE_CONTROL,
+  controlOfMnemonic,
+  defaultControl,
+  placeControls,
+  sizeOf,
+} from "../logic/dialog_layout";
+import { tell } from "../state/desk";
+import { Control } from "./control";
+import { Window } from "./window";
+
+/** A dialog of the plug-in. Nothing but the plug-in closes it. */
+
+interface DialogProperties {
+  dialog: ShownDialog;
+}
+
+export function DialogWindow({ dialog }: DialogProperties) {
+  return (
+    <Window title={dialog.title} cross={dialog.closeBox} close={() => useControl(dialog, CLOSE_CONTROL)}>
+      <DialogBody dialog={dialog} />
+    </Window>
+  );
+}
+
+export function useControl({ dialog }: ShownDialog, control: number | null): void {
+  if (control !== null) tell({ did: "command", dialog, control });
+}
+
+export function DialogBody({ dialog }: DialogProperties) {
+  const { controls, width, height } = dialog;
+  const placed = useMemo(() => placeControls(controls), [controls]);
+  const size = sizeOf(width, height);
+  return (
+    <div
+      class="desk-dialog"
+      style={{ width: `${size.width}em`, height: `${size.height}em` }}
+      data-dialog={dialog.template}
+      onKeyDown={(event) => press(event, dialog)}
+    >
+      {placed.map((each) => (
+        <Control key={each.index} dialog={dialog} placed={each} />
+      ))}
+    </div>
+  );
+}
+
+function controlFor(event: KeyboardEvent, dialog: ShownDialog): number | null {
+  if (event.altKey && event.key.length === 1) {
+    return controlOfMnemonic(dialog.controls, event.key);
+  }
+  const isOnButton = event.target instanceof HTMLButtonElement;
+  return event.key === "Enter" && !isOnButton ? defaultControl(dialog.controls) : null;
+}
+
+function press(event: KeyboardEvent, dialog: ShownDialog): void {
+  const control = controlFor(event, dialog);
+  if (control === null) return;
+  useControl(dialog, control);
+  event.preventDefault();
+  event.stopPropagation();
+}

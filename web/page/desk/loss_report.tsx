@@ -1,0 +1,69 @@
+import { useEffect, useState } from "preact/hooks";
+import type { ShownDialog } from "../../worker/desk_protocol";
+import type { Action, Finding } from "../../worker/protocol";
+import { worstFirst } from "../logic/finding_groups";
+import { shown } from "../logic/names";
+import { askFindings } from "../state/core";
+import { notifyFailure } from "../state/notices";
+import { importedTake } from "../state/work";
+import { takes, type Take } from "../state/takes";
+
+/** What becomes of what is odd in a file, beside the dialog that asks how it is imported. */
+
+const IMPORTS: readonly number[] = [107, 108];
+
+/** The radio button of both. */
+const APPLY = 1086;
+
+export function LossReport({ dialog }: { dialog: ShownDialog }) {
+  const take = importedTake.value;
+  if (!take || !IMPORTS.includes(dialog.template)) return null;
+  const applies = dialog.controls.some(({ id, checked }) => id === APPLY && checked);
+  return <Losses take={take} action={applies ? "apply" : "import"} />;
+}
+
+const MOST_REPORTS = 8;
+
+/** What becomes of the files that are chosen for a conversion. */
+export function ConversionLosses({ files }: { files: readonly Blob[] }) {
+  const chosen = takes.value.filter((take) => files.includes(take.file));
+  const unread = chosen.length - MOST_REPORTS;
+  return (
+    <>
+      {chosen.slice(0, MOST_REPORTS).map((take) => (
+        <Losses key={take.key} take={take} action="convert" />
+      ))}
+      {unread > 0 && <p class="quiet">{unread} more: see the findings of each.</p>}
+    </>
+  );
+}
+
+function Losses({ take, action }: { take: Take; action: Action }) {
+  const [findings, setFindings] = useState<readonly Finding[] | null>(null);
+  useEffect(() => {
+    askFindings(take, action).then(
+      (found) => setFindings(found.findings),
+      (reason) => notifyFailure("There is no report", reason),
+    );
+  }, [take, action]);
+  return (
+    <section class="losses" aria-label={`What becomes of ${shown(take.info.name, 60)}`} tabIndex={0}>
+      <h2>What becomes of {shown(take.info.name, 60)}</h2>
+      {findings === null && <p class="quiet">Looking…</p>}
+      {findings?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
+      {findings && worstFirst(findings).map((finding) => <Loss key={finding.code} {...finding} />)}
+    </section>
+  );
+}
+
+function Loss({ code, severity, cause, consequence }: Finding) {
+  return (
+    <article class={`finding ${severity}`}>
+      <h3>
+        <span class="severity">{severity}</span> <code>{code}</code>
+      </h3>
+      <p>{shown(cause, 2000)}.</p>
+      <p class="quiet">{shown(consequence, 2000)}</p>
+    </article>
+  );
+}

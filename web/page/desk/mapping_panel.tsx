@@ -1,0 +1,109 @@
+import { useEffect, useRef } from "preact/hooks";
+import { CREATOR, modelessDialog } from "../logic/desk_things";
+import { CLOSE_CONTROL } from "../logic/dialog_layout";
+import { mappingRows, REASONS } from "../logic/mapping";
+import { shown } from "../logic/names";
+import { asked, lint, mapping, pickMode, things } from "../state/desk";
+import { scene } from "../state/takes";
+import { suggestion, takeSuggestion } from "../state/work";
+import { BodyPicture } from "./body_picture";
+import { DialogBody, useControl } from "./dialog_window";
+
+/** Making a mapping: what is asked for, where it sits, what is suggested, and what there is so far. */
+export function MappingPanel() {
+  const dialog = modelessDialog(things.value, CREATOR);
+  const isMaking = dialog !== null || mapping.value.length > 0;
+  if (!isMaking) return null;
+  const found = new Set(mapping.value.map(({ standard }) => standard));
+  return (
+    <section class="panel mapping" aria-label={dialog?.title ?? "Mapping"}>
+      <h2>
+        {dialog?.title ?? "Mapping"}
+        {dialog?.closeBox && (
+          <button
+            class="icon"
+            aria-label="Close the mapping"
+            onClick={() => useControl(dialog, CLOSE_CONTROL)}
+          >
+            ×
+          </button>
+        )}
+      </h2>
+      {dialog && <DialogBody dialog={dialog} />}
+      {pickMode.value.on && <StepHint />}
+      {dialog && <BodyPicture asked={asked.value} found={found} />}
+      <MappingTable />
+      <LintList />
+    </section>
+  );
+}
+
+function StepHint() {
+  const suggested = suggestion.value;
+  const name = scene.value?.nodes?.find(({ node }) => node === suggested?.node)?.name;
+  return (
+    <div class="step-hint">
+      <p>Click the marker in the view. A right click asks again.</p>
+      {suggested && name !== undefined ? (
+        <p class="suggestion" data-suggested={name}>
+          <button onClick={takeSuggestion} title={REASONS[suggested.reason]}>
+            <bdi class="name">{shown(name, 60)}</bdi>
+          </button>{" "}
+          {REASONS[suggested.reason]}; <kbd>Enter</kbd> takes it
+        </p>
+      ) : (
+        <p class="quiet">Nothing is suggested for {asked.value}.</p>
+      )}
+    </div>
+  );
+}
+
+function MappingTable() {
+  const rows = mappingRows(mapping.value, scene.value?.nodes ?? []);
+  const box = useRef<HTMLDivElement>(null);
+  useEffect(() => {
+    if (box.current) box.current.scrollTop = box.current.scrollHeight;
+  }, [rows.length]);
+  return (
+    <div class="mapping-table" ref={box} tabIndex={0} role="group" aria-label="The mapping so far">
+      <table>
+        <caption>
+          {rows.length} {rows.length === 1 ? "marker" : "markers"} so far
+        </caption>
+        <thead>
+          <tr>
+            <th scope="col">Standard</th>
+            <th scope="col">Marker</th>
+          </tr>
+        </thead>
+        <tbody>
+          {rows.map(({ standard, marker }, index) => (
+            <tr key={index} data-standard={standard}>
+              <td>{shown(standard, 60)}</td>
+              <td>
+                <bdi class="name">{shown(marker, 60)}</bdi>
+              </td>
+            </tr>
+          ))}
+        </tbody>
+      </table>
+    </div>
+  );
+}
+
+function LintList() {
+  const found = lint.value;
+  return (
+    <div class="lint" role="status" aria-label="What is odd in the mapping">
+      {found.length === 0 ? (
+        <p class="quiet">{mapping.value.length > 0 ? "Nothing is odd in it." : ""}</p>
+      ) : (
+        found.map(({ code, severity, text }, index) => (
+          <p key={index} class={`finding ${severity}`} data-lint={code}>
+            <span class="severity">{severity}</span> {shown(text, 400)}
+          </p>
+        ))
+      )}
+    </div>
+  );
+}

@@ -1,0 +1,92 @@
+import type { ControlChange, ShownDialog, Told } from "../../worker/desk_protocol";
+
+/** What is open on the desk: dialogs, message boxes and choices, in the order in which they were opened. */
+
+export type MessageBox = Extract<Told, { tell: "message" }>;
+export type FileChoice = Extract<Told, { tell: "choose-files" }>;
+export type FolderChoice = Extract<Told, { tell: "choose-folder" }>;
+
+export type Thing =
+  | { kind: "dialog"; number: number; dialog: ShownDialog }
+  | { kind: "message"; number: number; message: MessageBox }
+  | { kind: "files"; number: number; choice: FileChoice }
+  | { kind: "folder"; number: number; choice: FolderChoice };
+
+/** The panel of the plug-in, and its creator of mappings. */
+export const PANEL = 116;
+export const CREATOR = 117;
+
+function withChanges(dialog: ShownDialog, changed: readonly ControlChange[]): ShownDialog {
+  const controls = [...dialog.controls];
+  for (const { index, ...values } of changed) controls[index] = { ...controls[index], ...values };
+  return { ...dialog, controls };
+}
+
+function changeDialog(
+  things: readonly Thing[],
+  number: number,
+  change: (dialog: ShownDialog) => ShownDialog,
+): readonly Thing[] {
+  return things.map((thing) =>
+    thing.kind === "dialog" && thing.number === number
+      ? { ...thing, dialog: change(thing.dialog) }
+      : thing,
+  );
+}
+
+function without(
+  things: readonly Thing[],
+  number: number,
+  ...kinds: readonly Thing["kind"][]
+): readonly Thing[] {
+  return things.filter((thing) => thing.number !== number || !kinds.includes(thing.kind));
+}
+
+/** What is open after the desk has told something. */
+export function thingsAfter(things: readonly Thing[], told: Told): readonly Thing[] {
+  switch (told.tell) {
+    case "dialog":
+      return [...things, { kind: "dialog", number: told.shown.dialog, dialog: told.shown }];
+    case "controls":
+      return changeDialog(things, told.dialog, (dialog) => withChanges(dialog, told.changed));
+    case "dialog-gone":
+      return without(things, told.dialog, "dialog");
+    case "message":
+      return [...things, { kind: "message", number: told.box, message: told }];
+    case "message-gone":
+      return without(things, told.box, "message");
+    case "choose-files":
+      return [...things, { kind: "files", number: told.choice, choice: told }];
+    case "choose-folder":
+      return [...things, { kind: "folder", number: told.choice, choice: told }];
+    case "choice-gone":
+      return without(things, told.choice, "files", "folder");
+    case "failed":
+      return [];
+    default:
+      return things;
+  }
+}
+
+/** What a person has typed or checked, before the plug-in says anything to it. */
+export function thingsWithText(
+  things: readonly Thing[],
+  dialog: number,
+  index: number,
+  text: string,
+): readonly Thing[] {
+  return changeDialog(things, dialog, (shown) => withChanges(shown, [{ index, text }]));
+}
+
+export function isModal(thing: Thing): boolean {
+  return thing.kind !== "dialog" || thing.dialog.modal;
+}
+
+export function modelessDialog(things: readonly Thing[], template: number): ShownDialog | null {
+  for (const thing of things) {
+    if (thing.kind === "dialog" && !thing.dialog.modal && thing.dialog.template === template) {
+      return thing.dialog;
+    }
+  }
+  return null;
+}

@@ -1,0 +1,41 @@
+import type { MappingEntry, SceneNode, Suggestion } from "../../worker/desk_protocol";
+
+/** A mapping while it is made: what was picked so far, and what could be picked next. */
+
+export interface MappingRow {
+  standard: string;
+  node: number;
+  marker: string;
+}
+
+/** Entries of files that were read before the picking began have no node. */
+export function mappingRows(
+  entries: readonly MappingEntry[],
+  nodes: readonly SceneNode[],
+): MappingRow[] {
+  const names = new Map(nodes.map(({ node, name }) => [node, name]));
+  return entries.map(({ standard, node }) => ({
+    standard,
+    node,
+    marker: names.get(node) ?? "read from a file",
+  }));
+}
+
+/** What is suggested for a standard marker, if it can be picked and was not yet. */
+export function suggestionFor(
+  asked: string,
+  suggested: readonly Suggestion[],
+  entries: readonly MappingEntry[],
+  pickable: ReadonlySet<number>,
+): Suggestion | null {
+  const found = suggested.find(({ standard }) => standard === asked);
+  if (!found || !pickable.has(found.node)) return null;
+  return entries.some(({ node }) => node === found.node) ? null : found;
+}
+
+export const REASONS: Readonly<Record<Suggestion["reason"], string>> = {
+  same: "the same name",
+  subject: "the same name behind that of the subject",
+  case: "the same name but for capital letters",
+  synonym: "a usual name of the same place",
+};

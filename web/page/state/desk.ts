@@ -1,0 +1,203 @@
+import { batch, computed, signal } from "@preact/signals";
+import type {
+  Did,
+  MappingEntry,
+  StoredValue,
+  Suggestion,
+  Task,
+  Told,
+  ToldFinding,
+} from "../../worker/desk_protocol";
+import { pathFor } from "../../worker/file_paths";
+import { isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
+import type { WrittenFile } from "../logic/handed_out";
+import { keptSettings, storeSettings } from "./kept_settings";
+import { notify } from "./notices";
+import { paintScene, selectNodes, showScene } from "./scene";
+
+/** What the desk has told, and what it is told that the person did. */
+
+export interface DeskApi {
+  put(path: string, file: Blob): void;
+  do(did: Did): void;
+  onTold(listener: (told: Told) => void): void;
+  end(): void;
+}
+
+export interface PickMode {
+  readonly on: boolean;
+  readonly pickable: ReadonlySet<number>;
+}
+
+const NO_PICKING: PickMode = { on: false, pickable: new Set() };
+
+/** What is open, in the order in which it was opened. */
+export const things = signal<readonly Thing[]>([]);
+export const modalThings = computed(() => things.value.filter(isModal));
+export const idle = signal(false);
+export const failure = signal<string | null>(null);
+export const pickMode = signal<PickMode>(NO_PICKING);
+export const mapping = signal<readonly MappingEntry[]>([]);
+export const asked = signal("");
+export const suggestions = signal<readonly Suggestion[]>([]);
+/** What the import that was agreed to last makes of its file. */
+export const report = signal<readonly ToldFinding[]>([]);
+export const lint = signal<readonly ToldFinding[]>([]);
+export const deskProgress = signal<{ what: string; percent: number } | null>(null);
+/** Files that can be chosen on the desk, by their paths there. */
+export const deskFiles = signal<ReadonlyMap<string, Blob>>(new Map());
+
+type Maker = (settings: StoredValue[]) => Promise<DeskApi>;
+type HandOut = (files: readonly WrittenFile[]) => void;
+
+let makeDesk: Maker = () => Promise.reject(new Error("There is no desk."));
+let handOut: HandOut = () => {};
+let desk: DeskApi | null = null;
+let beginning: Promise<void> | null = null;
+let written: WrittenFile[] = [];
+let lastTask: Task["did"] | null = null;
+
+export function useDesks(maker: Maker, handingOut: HandOut): void {
+  makeDesk = maker;
+  handOut = handingOut;
+}
+
+/** Begins the desk when it is first worked on. */
+export function beginDesk(): Promise<void> {
+  return (beginning ??= begin());
+}
+
+async function begin(): Promise<void> {
+  const begun = await makeDesk(keptSettings());
+  desk = begun;
+  begun.onTold((told) => {
+    if (desk === begun) batch(() => take(told));
+  });
+}
+
+/** Takes a new desk, with nothing on it, and the settings that are kept. */
+export async function beginAnew(): Promise<void> {
+  desk?.end();
+  desk = null;
+  batch(forgetAll);
+  beginning = null;
+  await beginDesk();
+}
+
+function forgetAll(): void {
+  things.value = [];
+  idle.value = false;
+  failure.value = null;
+  deskProgress.value = null;
+  deskFiles.value = new Map();
+  written = [];
+  endPicking();
+  mapping.value = [];
+  lint.value = [];
+  report.value = [];
+  suggestions.value = [];
+  showScene(null);
+}
+
+export function tell(did: Did): void {
+  desk?.do(did);
+}
+
+/** Gives the desk something to do from its top. */
+export function giveTask(task: Task): void {
+  idle.value = false;
+  report.value = [];
+  lastTask = task.did;
+  tell(task);
+}
+
+/** Picks a node, or nothing where it cannot be picked. */
+export function pickNode(node: number): void {
+  tell({ did: "pick", node: pickMode.value.pickable.has(node) ? node : null });
+}
+
+/** Puts a file on the desk, and says what it is called there. */
+export function putFile(name: string, file: Blob): string {
+  for (const [path, there] of deskFiles.value) if (there === file) return path;
+  const path = pathFor(name, deskFiles.value.keys());
+  remember(path, file);
+  desk?.put(path, file);
+  return path;
+}
+
+function remember(path: string, file: Blob): void {
+  deskFiles.value = new Map(deskFiles.value).set(path, file);
+}
+
+/** What is typed is there at once; the plug-in reads it when it wants to. */
+export function type(dialog: number, index: number, control: number, text: string): void {
+  things.value = thingsWithText(things.value, dialog, index, text);
+  tell({ did: "text", dialog, control, text });
+}
+
+function endPicking(): void {
+  pickMode.value = NO_PICKING;
+  asked.value = "";
+}
+
+function takeFile({ name, bytes }: WrittenFile): void {
+  written.push({ name, bytes });
+  remember(name, new Blob([bytes]));
+}
+
+function handOutWritten(): void {
+  if (written.length > 0) handOut(written);
+  written = [];
+}
+
+function takeMapping(entries: readonly MappingEntry[], standard: string): void {
+  mapping.value = entries;
+  asked.value = standard;
+  if (entries.length === 0) lint.value = [];
+  else tell({ did: "ask-lint" });
+}
+
+function take(told: Told): void {
+  things.value = thingsAfter(things.value, told);
+  takeWork(told);
+  takeScene(told);
+}
+
+function takeWork(told: Told): void {
+  if (told.tell === "idle") {
+    idle.value = true;
+    deskProgress.value = null;
+    handOutWritten();
+  } else if (told.tell === "file") takeFile(told);
+  else if (told.tell === "progress") deskProgress.value = told;
+  else if (told.tell === "progress-gone") deskProgress.value = null;
+  else if (told.tell === "settings") storeSettings(told.values);
+  else if (told.tell === "refused") notify("error", told.words);
+  else if (told.tell === "done" && !told.completed) tellFailed(told.task);
+  else if (told.tell === "failed") takeFailure(told.words);
+}
+
+function takeScene(told: Told): void {
+  if (told.tell === "scene") showScene(told.scene);
+  else if (told.tell === "colors") paintScene(told.changed);
+  else if (told.tell === "selection") selectNodes(told.nodes);
+  else if (told.tell === "pick-mode") takePickMode(told.on, told.pickable);
+  else if (told.tell === "mapping") takeMapping(told.entries, told.asked);
+  else if (told.tell === "suggestions") suggestions.value = told.suggested;
+  else if (told.tell === "report") report.value = told.findings;
+  else if (told.tell === "lint") lint.value = told.findings;
+}
+
+function takePickMode(on: boolean, pickable: readonly number[]): void {
+  pickMode.value = on ? { on, pickable: new Set(pickable) } : NO_PICKING;
+}
+
+function takeFailure(words: string): void {
+  forgetAll();
+  failure.value = words;
+}
+
+/** The plug-in has told why in its own boxes, but of scenes it knows nothing. */
+function tellFailed(task: Task["did"]): void {
+  if (task === lastTask && task.endsWith("scene")) notify("error", "The scene stays as it was");
+}

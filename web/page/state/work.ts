@@ -1,0 +1,77 @@
+import { batch, computed, effect, signal } from "@preact/signals";
+import { rangeOf } from "../logic/frame_range";
+import { suggestionFor } from "../logic/mapping";
+import {
+  asked,
+  beginDesk,
+  giveTask,
+  idle,
+  mapping,
+  modalThings,
+  pickMode,
+  putFile,
+  suggestions,
+  tell,
+} from "./desk";
+import { notifyFailure } from "./notices";
+import { selectedNodes } from "./scene";
+import { activeFile, scene, takes, working, type Take } from "./takes";
+import { FIRST_PLACE, frame, playing, returnTo, timePlace, type TimePlace } from "./time";
+
+/** Working on a scene: what is done from outside of the plug-in's dialogs. */
+
+let elsewhere: TimePlace = FIRST_PLACE;
+
+/** Goes from the takes to the scene or back; each has its own place in time. */
+export function setWorking(on: boolean): void {
+  if (working.value === on) return;
+  batch(() => {
+    const here = timePlace();
+    working.value = on;
+    returnTo(elsewhere);
+    elsewhere = here;
+  });
+  if (on) void beginDesk().catch((reason) => notifyFailure("The desk did not start", reason));
+}
+
+/** Whether a task can be given: nothing is open or at work. */
+export const free = computed(() => idle.value && modalThings.value.length === 0);
+
+/** The file whose import was begun last. */
+export const importedTake = signal<Take | null>(null);
+
+export function importFile(take: Take): void {
+  importedTake.value = take;
+  const { frames, firstFrame } = take.info;
+  const range = take === activeFile.value ? rangeOf(elsewhere, frames, firstFrame) : undefined;
+  giveTask({ did: "import", path: putFile(take.info.path, take.file), range });
+}
+
+export function exportScene(name: string): void {
+  const info = scene.value?.info;
+  const range = info && rangeOf(timePlace(), info.frames, info.firstFrame);
+  giveTask({ did: "export", path: name, range });
+}
+
+/** All files that are open can be chosen on the desk. */
+export function putTakes(): void {
+  for (const take of takes.value) putFile(take.info.path, take.file);
+}
+
+export const suggestion = computed(() =>
+  suggestionFor(asked.value, suggestions.value, mapping.value, pickMode.value.pickable),
+);
+
+export function takeSuggestion(): void {
+  if (pickMode.value.on && suggestion.value) tell({ did: "pick", node: suggestion.value.node });
+}
+
+effect(() => {
+  const nodes = selectedNodes.value;
+  if (working.peek() && scene.peek()) tell({ did: "select", nodes: [...nodes] });
+});
+
+effect(() => {
+  const take = working.value ? scene.value : null;
+  if (take && !playing.value) tell({ did: "time", frame: frame.value + take.info.firstFrame });
+});

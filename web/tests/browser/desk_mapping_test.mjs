@@ -1,0 +1,175 @@
+// A mapping made by clicking markers, as the plug-in's creator asks for them.
+
+import assert from "node:assert/strict";
+import { readFileSync } from "node:fs";
+import path from "node:path";
+import { test } from "node:test";
+import { atWork } from "./desk.mjs";
+import { EXAMPLES, useBrowser } from "./workbench.mjs";
+
+useBrowser();
+
+const TRC = path.join(EXAMPLES, "walk.trc");
+const NAMES = readFileSync(TRC, "latin1").split("\n")[3].split("\t").slice(2).filter((name) => name.trim());
+
+// In the order in which the creator asks without sticks: what is for no body comes last.
+const ASKED = (
+  "LFHD LBHD RBHD RFHD C7 CLAV STRN LSHO LELB LILB LWRA LWRB LFIN RSHO RELB RILB RWRA RWRB RFIN T10 SACR " +
+  "LFWT LBWT RBWT RFWT LKNE LKNI LANK LHEL LMT5 LMTI LTOE RKNE RKNI RANK RHEL RMT5 RMTI RTOE"
+).split(" ");
+const PROPS = "LPRPB LPRPM LPRPT RPRPB RPRPM RPRPT".split(" ");
+
+const OWN_COLOR = "rgb(204, 51, 51)";
+
+const node = (standard) => NAMES.indexOf(`walker:${standard}`);
+
+/** A frame that has all markers. */
+const IN_NO_GAP = 35;
+
+const fileOf = (standards) =>
+  standards.map((standard) => `${standard}\twalker:${standard}\t\n`).join("");
+
+function atMapping(work) {
+  return atWork(TRC, async (desk) => {
+    await desk.importAsItComes("walk.trc", "ImportTRC", 41);
+    await desk.goTo(IN_NO_GAP);
+    await desk.openPanel();
+    await desk.beginMapping();
+    await work(desk);
+  }, { size: { width: 1600, height: 1000 } });
+}
+
+async function pick(desk, standard) {
+  await desk.waitForAsked(standard);
+  await desk.click(node(standard));
+}
+
+async function skipProps(desk) {
+  for (const prop of PROPS) {
+    await desk.waitForAsked(prop);
+    await desk.creator.getByRole("button", { name: "Skip" }).click();
+  }
+}
+
+async function save(desk) {
+  const choice = desk.dialog("Select Mapping File...");
+  await choice.getByLabel("Name of the file").fill("walk");
+  const { name, bytes } = await desk.download(async () => {
+    await choice.getByRole("button", { name: "OK" }).click();
+    await desk.answer("MNM File Creation Status", "MNM File Creation Successful");
+  });
+  return { name, text: bytes.toString("latin1") };
+}
+
+test("39 markers are mapped by clicking, with a wrong pick, Back and Skip", () =>
+  atMapping(async (desk) => {
+    const back = desk.creator.getByRole("button", { name: "Back" });
+    assert.ok(await back.isDisabled());
+    for (const standard of ASKED) {
+      await desk.waitForAsked(standard);
+      assert.equal(
+        await desk.page.locator(".body-picture .asked").getAttribute("data-place"), standard);
+      if (standard === "RFHD") {
+        await desk.click(node("C7"));
+        await desk.waitForAsked("C7");
+        assert.equal((await desk.mapping()).RFHD, "walker:C7");
+        await back.click();
+        await desk.waitForAsked("RFHD");
+        assert.equal((await desk.mapping()).RFHD, undefined);
+      }
+      await desk.click(node(standard));
+    }
+    await skipProps(desk);
+    const { name, text } = await save(desk);
+    assert.equal(name, "walk.mnm");
+    assert.equal(text, fileOf(ASKED));
+  }));
+
+test("a step is skipped where that may be, and asked again after a right click", () =>
+  atMapping(async (desk) => {
+    const skip = desk.creator.getByRole("button", { name: "Skip" });
+    assert.ok(await skip.isDisabled());
+    await desk.clickNowhere();
+    await desk.click(node("LFHD"), "right");
+    assert.equal(await desk.asked(), "LFHD");
+    for (const standard of ASKED) {
+      await desk.waitForAsked(standard);
+      if (standard !== "LILB") {
+        await desk.page.keyboard.press("Enter");
+        continue;
+      }
+      await skip.click();
+    }
+    await skipProps(desk);
+    assert.equal((await save(desk)).text, fileOf(ASKED.filter((standard) => standard !== "LILB")));
+  }));
+
+const colors = async (desk) => (await desk.workbench.view.getAttribute("data-colors")).split(";");
+
+test("Abort leaves the scene as it was, at any step, and nothing is saved", () =>
+  atMapping(async (desk) => {
+    for (const picked of [0, 1, 10, 11, 25, 39]) {
+      if (picked > 0) await desk.beginMapping();
+      for (const standard of ASKED.slice(0, picked)) {
+        await desk.waitForAsked(standard);
+        await desk.page.keyboard.press("Enter");
+      }
+      await desk.waitForAsked([...ASKED, ...PROPS][picked]);
+      assert.equal((await colors(desk)).filter((color) => color !== OWN_COLOR).length, picked);
+      await desk.creator.getByRole("button", { name: "Abort" }).click();
+      await desk.creator.waitFor({ state: "hidden" });
+      assert.ok((await colors(desk)).every((color) => color === OWN_COLOR), `after ${picked}`);
+      assert.equal(await desk.asked(), null);
+    }
+  }));
+
+test("what is odd in the mapping is told while it is made", () =>
+  atMapping(async (desk) => {
+    await desk.click(node("LFHD"));
+    await desk.waitForAsked("LBHD");
+    await desk.creator.getByText("Nothing is odd in it.").waitFor();
+    await desk.click(node("LFHD"));
+    await desk.waitForAsked("RBHD");
+    await desk.creator.locator("[data-lint]").first().waitFor();
+    await desk.creator.getByRole("button", { name: "Back" }).click();
+    await desk.waitForAsked("LBHD");
+    await desk.creator.getByText("Nothing is odd in it.").waitFor();
+  }));
+
+test("a marker is picked by keys alone", () =>
+  atMapping(async (desk) => {
+    const { keyboard } = desk.page;
+    await keyboard.press("/");
+    await keyboard.type("RTOE");
+    await keyboard.press("Escape");
+    await desk.page.getByRole("listbox", { name: "Nodes" }).focus();
+    await keyboard.press("ArrowDown");
+    await keyboard.press("Enter");
+    await desk.waitForAsked("LBHD");
+    assert.deepEqual(await desk.mapping(), { LFHD: "walker:RTOE" });
+  }));
+
+test("the panel is closed while a marker is asked for", () =>
+  atMapping(async (desk) => {
+    for (const standard of ASKED.slice(0, 3)) await pick(desk, standard);
+    await desk.waitForAsked(ASKED[3]);
+    await desk.page.getByRole("button", { name: "Close the panel" }).click();
+    await desk.creator.waitFor({ state: "hidden" });
+    await desk.panel.waitFor({ state: "hidden" });
+    await desk.waitForRest();
+    await desk.importFile("walk.trc");
+    await desk.dialog("ImportTRC").getByRole("button", { name: "Cancel" }).click();
+    await desk.openPanel();
+    await desk.beginMapping();
+  }));
+
+test("the pointer over a marker says its name", () =>
+  atMapping(async (desk) => {
+    const places = await desk.places();
+    await desk.page.mouse.move(...places.get(node("RTOE")));
+    await desk.page.locator(".object-readout").getByText("walker:RTOE").waitFor();
+    const cursor = await desk.page.locator("canvas.view-scene").evaluate(
+      (canvas) => getComputedStyle(canvas).cursor);
+    assert.equal(cursor, "cell");
+    await desk.page.mouse.move(0, 0);
+  }));

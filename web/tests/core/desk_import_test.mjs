@@ -1,0 +1,133 @@
+import assert from "node:assert/strict";
+import { test } from "node:test";
+import { example } from "./built_core.mjs";
+import { CONTROL, DIALOG, Person, programFile } from "./desk_person.mjs";
+
+const walk = { path: "walk.htr", bytes: example("walk.htr") };
+const markers = { path: "walk.trc", bytes: example("walk.trc") };
+
+async function opened(path, bytes) {
+  const person = await Person.sit();
+  person.put(path, bytes);
+  const { shown } = await person.doUntil({ did: "import", path }, "dialog");
+  return { person, shown };
+}
+
+test("the dialog of an import is as the module's template has it", async () => {
+  const { shown } = await opened(walk.path, walk.bytes);
+  assert.deepEqual(
+    { ...shown, controls: shown.controls.length, dialog: 0 },
+    { dialog: 0, template: DIALOG.importHtr, title: "ImportHTR", width: 262, height: 164, modal: true, closeBox: false, controls: 27 },
+  );
+  assert.deepEqual(shown.controls[1], {
+    id: 1085, kind: "radio-button", text: "Create", x: 16, y: 18, width: 60, height: 10,
+    enabled: true, checked: true, readOnly: false, isDefault: false, tabStop: true, groupStart: true,
+  });
+  const defaults = shown.controls.filter(({ isDefault }) => isDefault).map(({ id, text }) => [id, text]);
+  assert.deepEqual(defaults, [[CONTROL.ok, "&OK"]]);
+});
+
+test("what a control does to others is told", async () => {
+  const { person } = await opened(walk.path, walk.bytes);
+  const enabled = (id) => person.control(DIALOG.importHtr, id).enabled;
+  await person.press(DIALOG.importHtr, CONTROL.range, "controls");
+  assert.ok(enabled(CONTROL.from) && enabled(CONTROL.to));
+  await person.press(DIALOG.importHtr, CONTROL.apply, "controls");
+  assert.ok(!enabled(CONTROL.size) && !enabled(CONTROL.endEffectors));
+  assert.ok(person.control(DIALOG.importHtr, CONTROL.apply).checked);
+});
+
+const REFUSALS = [
+  { file: walk, template: DIALOG.importHtr, control: CONTROL.size, text: "0", caption: "ImportHTR Error", words: "Please choose a non-zero size." },
+  { file: markers, template: DIALOG.importTrc, control: CONTROL.scale, text: "0", caption: "ImportTRC Error", words: "Please choose a non-zero scale factor." },
+];
+for (const { file, template, control, text, caption, words } of REFUSALS) {
+  test(`${file.path}: the plug-in refuses in its own words, and its dialog stays`, async () => {
+    const { person } = await opened(file.path, file.bytes);
+    person.type(template, control, text);
+    const box = await person.press(template, CONTROL.ok, "message");
+    assert.deepEqual([box.caption, box.text, box.buttons], [caption, words, ["ok"]]);
+    const held = await person.press(template, CONTROL.cancel, "refused");
+    assert.equal(held.words, "A message waits for its answer");
+    await person.answer("ok", "message-gone");
+    assert.ok(person.dialogs.has(template));
+    const done = await person.press(template, CONTROL.cancel, "done");
+    assert.equal(done.completed, false);
+    assert.equal(person.scene.nodes.length, 0);
+  });
+}
+
+test("Esc and the frame's cross do nothing to a dialog that has none, and close the one that has", async () => {
+  const { person } = await opened(walk.path, walk.bytes);
+  person.do({ did: "command", dialog: person.dialogs.get(DIALOG.importHtr).dialog, control: CONTROL.esc });
+  await person.doUntil({ did: "hover", node: 99 }, "refused");
+  assert.ok(person.dialogs.has(DIALOG.importHtr));
+  await person.press(DIALOG.importHtr, CONTROL.cancel, "idle");
+  const { shown } = await person.doUntil({ did: "about" }, "dialog");
+  assert.deepEqual([shown.template, shown.closeBox], [DIALOG.about, true]);
+  assert.ok(shown.controls.some(({ kind }) => kind === "image"));
+  await person.press(DIALOG.about, CONTROL.esc, "idle");
+  assert.ok(!person.dialogs.has(DIALOG.about));
+});
+
+test("while a dialog is open another task is refused, and questions are answered", async () => {
+  const { person } = await opened(walk.path, walk.bytes);
+  const refused = await person.doUntil({ did: "import", path: "walk.htr" }, "refused");
+  assert.deepEqual([refused.did, refused.words], ["import", "A dialog is open"]);
+  const { scene } = await person.doUntil({ did: "ask-scene" }, "scene");
+  assert.deepEqual(scene.nodes, []);
+  await person.press(DIALOG.importHtr, CONTROL.ok, "done");
+  assert.ok(person.scene.nodes.length > 10);
+});
+
+const IMPORTS = [
+  { file: walk, flags: ["--frame-rate", "keep"], use: () => {} },
+  {
+    file: walk,
+    flags: ["--range", "10:30", "--offset", "5", "--end-effectors", "--scale", "2"],
+    async use(person) {
+      const template = DIALOG.importHtr;
+      for (const control of [CONTROL.range, CONTROL.endEffectors, CONTROL.frameRate]) await person.press(template, control, "controls");
+      const typed = { [CONTROL.from]: "10", [CONTROL.to]: "30", [CONTROL.offset]: "5", [CONTROL.scale]: "2" };
+      for (const [control, text] of Object.entries(typed)) person.type(template, Number(control), text);
+    },
+  },
+  {
+    file: markers,
+    flags: ["--size", "12"],
+    async use(person) {
+      await person.press(DIALOG.importTrc, CONTROL.frameRate, "controls");
+      person.type(DIALOG.importTrc, CONTROL.size, "12");
+    },
+  },
+];
+for (const { file, flags, use } of IMPORTS) {
+  test(`a scene is that of import ${file.path} ${flags.join(" ")}`, async () => {
+    const person = await Person.sit();
+    const done = await person.import(file.path, file.bytes, () => use(person));
+    assert.deepEqual([done.task, done.completed], ["import", true]);
+    const expected = await programFile(["import", file.path, "-o", "scene.glb", ...flags], [file]);
+    assert.deepEqual(await person.save("scene.glb"), expected);
+  });
+}
+
+test("in and out points are typed into the dialog", async () => {
+  const person = await Person.sit();
+  person.put(walk.path, walk.bytes);
+  await person.doUntil({ did: "import", path: walk.path, range: [7, 9] }, "dialog");
+  const text = (id) => person.control(DIALOG.importHtr, id).text;
+  assert.ok(person.control(DIALOG.importHtr, CONTROL.range).checked);
+  assert.deepEqual([text(CONTROL.from), text(CONTROL.to)], ["7", "9"]);
+});
+
+test("a scene is told with the places of its nodes", async () => {
+  const person = await Person.sit();
+  await person.import(walk.path, walk.bytes);
+  const { nodes, frames, positions, ends } = person.scene;
+  assert.equal(positions.length, 3 * frames * nodes.length);
+  assert.equal(ends.length, positions.length);
+  assert.ok(frames > 10 && positions.every(Number.isFinite));
+  const bone = nodes.findIndex(({ kind, size }) => kind === "bone" && size > 0);
+  const way = [0, 1, 2].map((axis) => ends[3 * bone + axis] - positions[3 * bone + axis]);
+  assert.ok(Math.abs(Math.hypot(...way) / nodes[bone].size - 1) < 1e-3);
+});

@@ -1,0 +1,216 @@
+import assert from "node:assert/strict";
+import { beforeEach, test } from "node:test";
+import * as desk from "../../page/state/desk";
+import { keep, stored } from "../../page/state/kept_settings";
+import { notices } from "../../page/state/notices";
+import { select } from "../../page/state/selection";
+import { activeKey, addTake, scene, takes, working } from "../../page/state/takes";
+import * as time from "../../page/state/time";
+import * as work from "../../page/state/work";
+import type { Did, SceneNode, ShownScene, StoredValue, Told } from "../../worker/desk_protocol";
+import type { TakeInfo } from "../../worker/protocol";
+
+/** A desk that does nothing: it is told what to tell. */
+class StandIn implements desk.DeskApi {
+  readonly done: Did[] = [];
+  readonly files: string[] = [];
+  ended = false;
+  private listener: (told: Told) => void = () => {};
+
+  constructor(readonly settings: StoredValue[]) {}
+
+  put(path: string): void {
+    this.files.push(path);
+  }
+
+  do(did: Did): void {
+    this.done.push(did);
+  }
+
+  onTold(listener: (told: Told) => void): void {
+    this.listener = listener;
+  }
+
+  end(): void {
+    this.ended = true;
+  }
+
+  tell(...tellings: Told[]): void {
+    for (const told of tellings) this.listener(told);
+  }
+
+  last<Kind extends Did["did"]>(kind: Kind): Extract<Did, { did: Kind }> | undefined {
+    return this.done.filter(({ did }) => did === kind).pop() as never;
+  }
+}
+
+let stands: StandIn[] = [];
+let handedOut: string[][] = [];
+
+const current = (): StandIn => stands[stands.length - 1];
+
+beforeEach(async () => {
+  stands = [];
+  handedOut = [];
+  notices.value = [];
+  takes.value = [];
+  activeKey.value = 0;
+  work.setWorking(false);
+  time.clearSpan();
+  keep.value = false;
+  stored.value = [];
+  desk.useDesks(
+    async (settings) => {
+      stands.push(new StandIn(settings));
+      return current();
+    },
+    (files) => handedOut.push(files.map(({ name }) => name)),
+  );
+  await desk.beginAnew();
+  work.setWorking(true);
+  current().tell({ tell: "idle" });
+});
+
+function node(number: number, name: string): SceneNode {
+  return { node: number, name, parent: 0, kind: "marker", color: [204, 51, 51], size: 1 };
+}
+
+function sceneOf(...nodes: SceneNode[]): ShownScene {
+  const numbers = () => new Float32Array(nodes.length * 3 * 10);
+  const rest = { firstFrame: 0, frames: 10, rate: 60, millimetresPerUnit: 1 };
+  return { nodes, positions: numbers(), ends: numbers(), ...rest };
+}
+
+function openFile(name: string, frames = 100) {
+  const info = { name, path: name, frames, firstFrame: 1, rate: 60, objects: ["a"] };
+  const take = addTake(
+    { ...info, gaps: new Int32Array() } as unknown as TakeInfo,
+    { positions: new Float32Array() },
+    new Blob([name]),
+  );
+  return take;
+}
+
+const file = (name: string): Told => ({ tell: "file", name, bytes: new Uint8Array(1) });
+
+test("what was written is handed out when the desk is at rest again", () => {
+  current().tell(file("out/a.bvk"), file("out/b.bvk"));
+  assert.deepEqual(handedOut, []);
+  current().tell({ tell: "idle" });
+  assert.deepEqual(handedOut, [["out/a.bvk", "out/b.bvk"]]);
+  current().tell({ tell: "idle" });
+  assert.equal(handedOut.length, 1);
+  assert.deepEqual([...desk.deskFiles.value.keys()], ["out/a.bvk", "out/b.bvk"]);
+});
+
+test("a file is put once, and under a name of its own", () => {
+  const first = new Blob(["1"]);
+  assert.equal(desk.putFile("walk.trc", first), "walk.trc");
+  assert.equal(desk.putFile("walk.trc", first), "walk.trc");
+  assert.equal(desk.putFile("walk.trc", new Blob(["2"])), "2/walk.trc");
+  assert.deepEqual(current().files, ["walk.trc", "2/walk.trc"]);
+});
+
+test("in and out points of the file that is worked on are the range of its import", () => {
+  work.setWorking(false);
+  const [take, other] = [openFile("a.trc"), openFile("b.trc")];
+  time.activate(take);
+  time.jumpTo(9);
+  time.setIn();
+  work.setWorking(true);
+  work.importFile(take);
+  assert.deepEqual(current().last("import")?.range, [10, 100]);
+  assert.equal(desk.idle.value, false);
+  work.importFile(other);
+  assert.equal(current().last("import")?.range, undefined);
+  work.setWorking(false);
+  assert.equal(time.span.value.first, 9);
+});
+
+test("a file that is opened while the scene is seen leaves its time alone", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A")) });
+  time.jumpTo(7);
+  time.activate(openFile("a.trc"));
+  assert.equal(time.frame.value, 7);
+  assert.equal(time.frames.value, 10);
+  assert.deepEqual(current().last("time"), { did: "time", frame: 7 });
+});
+
+test("what is selected here is selected there, and the other way around", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
+  select(scene.value!, 1, false);
+  assert.deepEqual(current().last("select")?.nodes, [9]);
+  current().tell({ tell: "selection", nodes: [4] });
+  assert.deepEqual(current().last("select")?.nodes, [4]);
+  const count = current().done.length;
+  current().tell({ tell: "selection", nodes: [4] });
+  assert.equal(current().done.length, count);
+});
+
+test("what is suggested is taken while it can be picked", () => {
+  current().tell(
+    { tell: "scene", scene: sceneOf(node(4, "LFHD"), node(9, "B")) },
+    { tell: "suggestions", suggested: [{ standard: "LFHD", node: 4, reason: "same" }] },
+    { tell: "mapping", entries: [], asked: "LFHD" },
+  );
+  work.takeSuggestion();
+  assert.equal(current().last("pick"), undefined);
+  current().tell({ tell: "pick-mode", on: true, pickable: [4, 9] });
+  work.takeSuggestion();
+  assert.deepEqual(current().last("pick"), { did: "pick", node: 4 });
+  desk.pickNode(12);
+  assert.deepEqual(current().last("pick"), { did: "pick", node: null });
+  current().tell({ tell: "colors", changed: [{ node: 4, color: [0, 51, 255] }] });
+  const colors = [...scene.value!.colors!.value].map((part) => part.toFixed(1));
+  assert.deepEqual(colors, ["0.0", "0.2", "1.0", "0.8", "0.2", "0.2"]);
+  current().tell({ tell: "pick-mode", on: false, pickable: [] });
+  assert.equal(work.suggestion.value, null);
+});
+
+test("what is odd in the mapping is asked for as it grows", () => {
+  current().tell({ tell: "mapping", entries: [{ standard: "LFHD", node: 4 }], asked: "LBHD" });
+  assert.ok(current().last("ask-lint"));
+  current().tell({ tell: "lint", findings: [{ code: "x", severity: "note", text: "Odd." }] });
+  assert.equal(desk.lint.value.length, 1);
+  current().tell({ tell: "mapping", entries: [], asked: "" });
+  assert.equal(desk.lint.value.length, 0);
+});
+
+test("a desk that has ended is told of, and begun anew on what is open", async () => {
+  const take = openFile("a.trc");
+  work.importFile(take);
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A")) });
+  current().tell({ tell: "message", box: 1, text: "t", caption: "c", buttons: ["ok"] });
+  current().tell({ tell: "failed", words: "memory" });
+  assert.equal(desk.failure.value, "memory");
+  assert.deepEqual([desk.things.value, scene.value], [[], null]);
+  const before = current();
+  await desk.beginAnew();
+  assert.ok(before.ended && current() !== before);
+  before.tell({ tell: "failed", words: "late" });
+  assert.equal(desk.failure.value, null);
+  current().tell({ tell: "idle" });
+  work.importFile(take);
+  assert.deepEqual(current().files, ["a.trc"]);
+});
+
+test("a refusal is told in words, and a scene that is none", () => {
+  current().tell({ tell: "refused", did: "about", words: "A dialog is open." });
+  desk.giveTask({ did: "open-scene", path: "no.glb" });
+  current().tell({ tell: "done", task: "open-scene", completed: false });
+  assert.deepEqual(notices.value.map(({ title }) => title), [
+    "A dialog is open.",
+    "The scene stays as it was",
+  ]);
+});
+
+test("settings are handed to the next desk when they are kept", async () => {
+  const value = (name: string): StoredValue => ({ key: "k", name, type: "int32", bytes: [1, 0, 0, 0] });
+  current().tell({ tell: "settings", values: [value("Size"), value("MNMPath")] });
+  await desk.beginAnew();
+  assert.deepEqual(current().settings, []);
+  keep.value = true;
+  await desk.beginAnew();
+  assert.deepEqual(current().settings, [value("Size")]);
+  assert.equal(working.value, true);
+});
