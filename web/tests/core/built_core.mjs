@@ -9,12 +9,13 @@ import { build } from "esbuild";
 export const ROOT = path.resolve(path.dirname(fileURLToPath(import.meta.url)), "../../..");
 export const BUILD = path.resolve(process.env.ORVANE_WEB_BUILD ?? path.join(ROOT, "build-web"));
 
-const GENERATED = path.join(BUILD, "orvane-core.js");
+// Its name can be that of a core that is built otherwise.
+const CORE = path.join(BUILD, process.env.ORVANE_WEB_CORE ?? "orvane-core");
 
 const generatedScript = {
   name: "generated-script",
   setup(bundler) {
-    bundler.onResolve({ filter: /^orvane-core$/ }, () => ({ path: GENERATED }));
+    bundler.onResolve({ filter: /^orvane-core$/ }, () => ({ path: `${CORE}.js` }));
   },
 };
 
@@ -52,15 +53,24 @@ const __dirname = __filename.replace(/[^/]*$/, "");`;
 let compiled;
 
 export async function compiledCore() {
-  compiled ??= WebAssembly.compile(readFileSync(path.join(BUILD, "orvane-core.wasm")));
+  compiled ??= WebAssembly.compile(readFileSync(`${CORE}.wasm`));
   return compiled;
 }
 
-/** A worker of a page, as a thread: what it knows as `self` is made of what threads know. */
+/**
+ * A worker of a page, as a thread: what it knows as `self` is made of what threads know. While its progress is
+ * heard it stands still, so that a Cancel is on its way when it goes on, however busy the machine is.
+ */
 class PageWorker {
   constructor(script) {
-    this.thread = new Thread(script);
-    this.thread.on("message", (data) => this.onmessage?.({ data }));
+    const heard = new Int32Array(new SharedArrayBuffer(4));
+    this.thread = new Thread(script, { workerData: heard });
+    this.thread.on("message", (data) => {
+      this.onmessage?.({ data });
+      if (!data.progress) return;
+      Atomics.store(heard, 0, 1);
+      Atomics.notify(heard, 0);
+    });
     this.thread.on("error", (error) => this.onerror?.({ message: error.message }));
     PageWorker.begun += 1;
   }
@@ -75,8 +85,13 @@ class PageWorker {
 }
 PageWorker.begun = 0;
 
-const SELF = `const { parentPort } = require("node:worker_threads");
-globalThis.self = { onmessage: null, postMessage: (answer, transfer) => parentPort.postMessage(answer, transfer) };
+const SELF = `const { parentPort, workerData: heard } = require("node:worker_threads");
+const postMessage = (answer, transfer) => {
+  Atomics.store(heard, 0, 0);
+  parentPort.postMessage(answer, transfer);
+  if (answer.progress) Atomics.wait(heard, 0, 0);
+};
+globalThis.self = { onmessage: null, postMessage };
 parentPort.on("message", (data) => self.onmessage({ data }));`;
 
 /** A client with its worker. */

@@ -55,7 +55,7 @@ test("what is cancelled without a bar ends with the worker, and takes stay open"
 
 // Frames of one marker that take the plug-in many times as long to import as a Cancel is on its way.
 function longTake() {
-  const frames = 60_000;
+  const frames = 200_000;
   const header = [
     "PathFileType\t4\t(X/Y/Z)\tlong.trc",
     "DataRate\tCameraRate\tNumFrames\tNumMarkers\tUnits\tOrigDataRate\tOrigDataStartFrame\tOrigNumFrames",

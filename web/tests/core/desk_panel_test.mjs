@@ -110,10 +110,9 @@ test("progress is shown, and its Cancel is the plug-in's own", async () => {
   person.replies.set("progress", { did: "about" });
   person.replies.set("refused", { did: "cancel" });
   await person.choose(names, "idle");
-  const told = (tell) => person.told.find((each) => each.tell === tell);
-  assert.equal(told("progress").what, "Orvane ConvertBVK");
-  assert.equal(told("refused").words, "The plug-in is at work");
-  assert.ok(told("progress-gone"));
+  assert.equal(person.told.find(({ tell }) => tell === "progress").what, "Orvane ConvertBVK");
+  assert.equal(person.told.find(({ did }) => did === "about").words, "The plug-in is at work");
+  assert.ok(person.told.some(({ tell }) => tell === "progress-gone"));
   const converted = [...person.files.keys()].filter((name) => name.endsWith(".bvk")).length;
   assert.ok(converted > 0 && converted < names.length, String(converted));
   await person.press(PANEL, CONTROL.convert, "choose-files");
