@@ -305,10 +305,9 @@ class Editing {
                                     static_cast<std::size_t>(step.denominator);
     const bool is_slerp = order_.resampling == orvane::RotationPath::kSlerp;
     constexpr bool kHasRotations = std::is_same_v<Document, HtrDocument>;
-    file_.circumstances.has_rotations = kHasRotations;
     file_.circumstances.resampled = orvane::ResampledFrames{
         count, count - of_the_file,
-        kHasRotations && is_slerp ? "linearly, rotations by slerp" : "linearly"};
+        kHasRotations && is_slerp ? "linearly, rotations by slerp" : "linearly", kHasRotations};
   }
 
   // Frames of a file have numbers of 32 bits.

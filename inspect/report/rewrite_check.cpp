@@ -35,9 +35,9 @@ void AddNames(const FindingRule& rule, const std::vector<std::string>& names,
   for (const std::string& name : names) findings.Add(rule, kNoPlace, {Quote(name), "", ""});
 }
 
-void AddResampled(const ResampledFrames& frames, bool has_rotations, FindingList& findings) {
+void AddResampled(const ResampledFrames& frames, FindingList& findings) {
   const std::string gaps =
-      has_rotations ? "." : "; where a marker has a gap at either side, it has one there.";
+      frames.has_rotations ? "." : "; where a marker has a gap at either side, it has one there.";
   findings.Add(
       Rule("rewrite-resampled"), kNoPlace,
       {CountOf(frames.count, "frame"), FormatInt(static_cast<std::int64_t>(frames.between)),
@@ -77,8 +77,7 @@ CheckedFile CheckRewrite(const std::string& name, std::string_view kind,
                   "A foot is taken as 304.8 mm and a yard as 914.4 mm; an import takes 2.1167 mm "
                   "and 0.7056 mm."});
   }
-  if (circumstances.resampled)
-    AddResampled(*circumstances.resampled, circumstances.has_rotations, findings);
+  if (circumstances.resampled) AddResampled(*circumstances.resampled, findings);
   for (const RewriteLoss& loss : circumstances.losses) AddLoss(loss, findings);
   return checked;
 }

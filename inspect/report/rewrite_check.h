@@ -18,8 +18,9 @@ namespace orvane {
 // What becomes of the frames at another rate.
 struct ResampledFrames {
   std::size_t count = 0;
-  std::size_t between = 0;  // those that lie between two of the file
-  std::string manner;       // "linearly"
+  std::size_t between = 0;     // those that lie between two of the file
+  std::string manner;          // "linearly"
+  bool has_rotations = false;  // a file of segments, which has no gaps
 };
 
 // What the other file does not hold.
@@ -36,9 +37,8 @@ struct RewriteCircumstances {
   std::vector<std::string> ancestors{};   // of segments that are kept for those that are selected
   std::vector<std::string> with_gaps{};   // of markers that are written
   std::vector<std::string> never_seen{};  // likewise, without any position
-  bool stands_along_y = false;            // as it seems, what is turned from Z up to Y up
-  bool has_rotations = false;             // what is resampled
-  std::string feet{};                     // "from feet to mm"; empty when there are none
+  bool stands_along_y = false;  // what is to be turned from Z up to Y up seems to stand so already
+  std::string feet{};           // "from feet to mm"; empty when there are none
   std::optional<ResampledFrames> resampled{};
   std::vector<RewriteLoss> losses{};
 };

@@ -78,16 +78,12 @@ std::unique_ptr<Take> Changed(const Take& take, const Change& change) {
 }
 
 template <typename Take>
-std::unique_ptr<Take> Cut(const Take& take, std::size_t begin, std::size_t end) {
+std::unique_ptr<Take> Cut(const Take& take, std::size_t begin, std::size_t end, double first_time) {
   if (begin >= end) throw std::invalid_argument("there are no such frames");
   auto made = Made(take, [begin, end](const auto& source, auto& target) {
     CutFrames(source, begin, end, target);
   });
-  if (const auto rate = take.reading().rate) {
-    made->reading().first_time += static_cast<double>(begin) *
-                                  static_cast<double>(rate->denominator) /
-                                  static_cast<double>(rate->numerator);
-  }
+  made->reading().first_time = first_time;
   return made;
 }
 
@@ -148,7 +144,8 @@ std::unique_ptr<MotionTake> ResampledMotion(const MotionTake& take, const Fracti
 
 template <typename Take>
 void BindEditsOf(nb::module_& module) {
-  module.def("cut", Cut<Take>, nb::arg("take"), nb::arg("begin"), nb::arg("end"));
+  module.def("cut", Cut<Take>, nb::arg("take"), nb::arg("begin"), nb::arg("end"),
+             nb::arg("first_time"));
   module.def("select", Selected<Take>, nb::arg("take"), nb::arg("names"));
   module.def("rename", Renamed<Take>, nb::arg("take"), nb::arg("names"));
   module.def("convert_lengths", Converted<Take>, nb::arg("take"), nb::arg("unit"));

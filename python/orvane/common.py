@@ -143,8 +143,9 @@ class FramedTake(Generic[H]):
                      f"{'the last' if last is None else last}")
             raise ValueError(f"frames {asked} are asked for, and {self.path} holds "
                              f"{self.first_frame} to {self.last_frame}")
-        return self._made(_orvane.cut(self._held, begin - self.first_frame,
-                                      end - self.first_frame + 1))
+        place = begin - self.first_frame
+        return self._made(_orvane.cut(self._held, place, end - self.first_frame + 1,
+                                      float(self.times[place])))
 
     def select(self, names: Iterable[str] | str) -> Self:
         """Those of these names alone, in the order of the file; of segments with all they hang from.

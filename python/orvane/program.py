@@ -42,9 +42,9 @@ def arguments_of(verb: str, options: Mapping[str, object]) -> list[str]:
 
     ``segment_size=2`` is ``--segment-size 2``, ``end_effectors=True`` is ``--end-effectors`` and
     ``False`` is ``--no-end-effectors``; ``None`` leaves a flag out, and so does ``False`` where
-    there is no such flag. Two numbers are a range, of which ``None`` is an open end, three a position, a list is a flag for each,
-    and so is a mapping: ``rename={"A": "B"}`` is ``--rename A=B``. ``True`` of a flag that takes a
-    value is for the program to refuse.
+    there is no such flag. Two numbers are a range, of which ``None`` is an open end, three a
+    position, a list is a flag for each, and so is a mapping: ``rename={"A": "B"}`` is
+    ``--rename A=B``. ``True`` of a flag that takes a value is for the program to refuse.
     """
     known = _orvane.flags_of(verb)
     arguments: list[str] = []

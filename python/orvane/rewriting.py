@@ -15,11 +15,10 @@ def rewrite(path: Path, output: Path, *, force: bool = False, warn: bool = True,
     """Makes a file of another, as ``orvane rewrite`` does: its format is that of ``output``'s name.
 
     The options are the flags of that, as in ``to_scene``: ``cut=(10, 60)`` or ``(10, None)``,
-    ``unit="m"``,
-    ``select=["LASI", "RASI"]``, ``rename={"LASI": "L"}``. ``force``
-    replaces a file that is there. The file appears whole or not at all. Returns what is odd in the
-    file, and what the new one cannot hold; each of that which is no note is a FindingWarning unless
-    ``warn`` is false. Raises a FileError when nothing comes of it. One is done at a time.
+    ``unit="m"``, ``select=["LASI", "RASI"]``, ``rename={"LASI": "L"}``. ``force`` replaces a file
+    that is there. The file appears whole or not at all. Returns what is odd in the file, and what
+    the new one cannot hold; each of that which is no note is a FindingWarning unless ``warn`` is
+    false. Raises a FileError when nothing comes of it. One is done at a time.
 
     >>> import orvane
     >>> findings = orvane.rewrite("walk.trc", "rewritten.trc", cut=(10, 60), force=True)

@@ -3,6 +3,7 @@
 from __future__ import annotations
 
 import pathlib
+import re
 from fractions import Fraction
 
 import numpy as np
@@ -80,6 +81,13 @@ def test_a_cut_keeps_the_numbers_of_its_frames(folder):
         take.cut(first=121)
     with pytest.raises(ValueError, match="frames the first to 0 are .* holds 1 to 120"):
         take.cut(last=0)
+
+
+@pytest.mark.parametrize("rate", [b"DataFrameRate 60\n", b"DataFrameRate sixty\n", b""])
+def test_a_cut_keeps_the_times_of_its_frames_whatever_the_text_says_of_its_rate(folder, rate):
+    text = pathlib.Path("walk.htr").read_bytes().replace(b"\r\n", b"\n")
+    motion = orvane.read(re.sub(rb"DataFrameRate.*\n", rate, text), format="htr", warn=False)
+    np.testing.assert_array_equal(motion.cut(31, 60).times, motion.times[30:60])
 
 
 def test_a_name_of_another_subject_is_told(folder):

@@ -53,26 +53,11 @@ test("what is cancelled without a bar ends with the worker, and takes stay open"
   await core.close(info.id);
 });
 
-// Frames of one marker that take the plug-in many times as long to import as a Cancel is on its way.
-function longTake() {
-  const frames = 200_000;
-  const header = [
-    "PathFileType\t4\t(X/Y/Z)\tlong.trc",
-    "DataRate\tCameraRate\tNumFrames\tNumMarkers\tUnits\tOrigDataRate\tOrigDataStartFrame\tOrigNumFrames",
-    `60\t60\t${frames}\t1\tmm\t60\t1\t${frames}`,
-    "Frame#\tTime\tA\t\t",
-    "\t\tX1\tY1\tZ1",
-    "",
-  ];
-  const rows = Array.from({ length: frames }, (_, at) => `${at + 1}\t${(at / 60).toFixed(6)}\t1\t${at % 99}\t3`);
-  return new Blob([[...header, ...rows, ""].join("\r\n")]);
-}
-
 test("while the plug-in shows its bar, its own Cancel is pressed", async () => {
-  const { info } = await core.open("long.trc", longTake());
+  const { info } = await core.open("walk.trc", markers());
   const begun = workersBegun();
   core.onProgress(() => core.cancel());
-  const { status, files } = await core.run(["import", "long.trc", "-o", "new.glb"], [info.id]);
+  const { status, files } = await core.run(["import", "walk.trc", "-o", "new.glb"], [info.id]);
   assert.deepEqual([status, files], [130, []]);
   assert.equal(workersBegun(), begun);
   await core.close(info.id);
