@@ -23,6 +23,8 @@ struct ExportChoices {
   bool parent_transforms = true;           // keep what the nodes above the root do
   std::optional<orvane::FrameSpan> range;  // as typed; nothing for the scene's animation range
   std::int32_t offset = 0;                 // added to the numbers of frames
+
+  friend bool operator==(const ExportChoices&, const ExportChoices&) = default;
 };
 
 // What comes of `wishes`, and without one of what the dialog finds in `settings`.

@@ -21,6 +21,8 @@ struct FrameSpan {
 
   [[nodiscard]] std::int64_t Count() const { return std::max<std::int64_t>(last - first + 1, 0); }
   [[nodiscard]] bool IsEmpty() const { return last < first; }
+
+  friend bool operator==(const FrameSpan&, const FrameSpan&) = default;
 };
 
 // The ends of spans that are asked for from the first frame on that there is, or to the last.

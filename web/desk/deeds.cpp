@@ -64,7 +64,7 @@ std::string Desk::OpenScene(const PersonEvent& event) {
     host::Scene tried;
     static_cast<void>(cli::ReadSceneOrSkins(event.path, {}, tried));
     StartScene();
-    static_cast<void>(cli::ReadSceneOrSkins(event.path, {}, application_->scene()));
+    reading_ = cli::ReadSceneOrSkins(event.path, {}, application_->scene());
   } catch (const cli::Failure& failure) {
     return WordsOf(failure);
   }
@@ -227,6 +227,7 @@ std::string Desk::StoreSettings(const PersonEvent& event) {
 // The panel that was open is open again.
 void Desk::StartScene() {
   NewApplication();
+  reading_ = {};
   if (std::exchange(is_panel_open_, false)) static_cast<void>(OpenPanel({}));
 }
 

@@ -114,6 +114,7 @@ void Desk::TellChanges() {
   told_desktop_.Update(desktop_, application_->rollup_pages());
   told_scene_.Update(*application_);
   told_mapping_.Update(desktop_, application_->scene());
+  told_losses_.Update(desktop_, SettingsOfModule(), application_->scene(), reading_);
 }
 
 const Desk::KnownDeed* Desk::FindDeed(const std::string& did) {

@@ -11,8 +11,10 @@
 #include "host/application/module.h"
 #include "host/application/utility_panel.h"
 #include "host/desktop/portable/live_desktop.h"
+#include "host/gltf/reader.h"
 #include "web/desk/person_event.h"
 #include "web/desk/told_desktop.h"
+#include "web/desk/told_losses.h"
 #include "web/desk/told_mapping.h"
 #include "web/desk/told_scene.h"
 #include "web/desk/told_settings.h"
@@ -90,10 +92,12 @@ class Desk final : private host::LivePerson {
   std::unique_ptr<host::Module> module_;
   std::unique_ptr<host::UtilityPanel> panel_;
   bool is_panel_open_ = false;
+  host::gltf::SkinReading reading_;  // of the file that the scene is from
 
   ToldDesktop told_desktop_;
   ToldScene told_scene_;
   ToldMapping told_mapping_;
+  ToldLosses told_losses_;
   ToldSettings told_settings_;
 
   std::optional<WatchedImport> importing_;

@@ -10,6 +10,7 @@
 #include "platform/scratch_folder.h"
 #include "plugin/exchange/marker_colors.h"
 #include "plugin/resources/resource.h"
+#include "web/desk/shown_dialog.h"
 #include "web/desk/told.h"
 #include "web/desk/told_report.h"
 
@@ -19,13 +20,6 @@ namespace {
 using host::LiveDesktop;
 using host::LiveDialog;
 using Layout = cli::JsonWriter::Layout;
-
-LiveDialog* FindCreator(const LiveDesktop& desktop) {
-  for (LiveDialog* const dialog : desktop.Dialogs()) {
-    if (dialog->id == IDD_MAPPING_CREATOR) return dialog;
-  }
-  return nullptr;
-}
 
 // Whether a node of the entries has the color of what was picked.
 bool IsAnyPicked(const std::vector<MappingEntry>& entries, const host::Scene& scene) {
@@ -50,7 +44,7 @@ std::string BytesOf(const std::vector<MappingEntry>& entries, const host::Scene&
 }  // namespace
 
 void ToldMapping::Update(const LiveDesktop& desktop, const host::Scene& scene) {
-  const bool is_made = FindCreator(desktop) != nullptr;
+  const bool is_made = FindShown(desktop, IDD_MAPPING_CREATOR) != nullptr;
   if (!is_made && !IsAnyPicked(entries_, scene)) entries_.clear();
   const std::string asked = Asked(desktop);
   if (entries_ == told_ && asked == told_asked_) return;
@@ -72,7 +66,7 @@ void ToldMapping::Update(const LiveDesktop& desktop, const host::Scene& scene) {
 }
 
 std::string ToldMapping::Asked(const LiveDesktop& desktop) {
-  LiveDialog* const creator = FindCreator(desktop);
+  LiveDialog* const creator = FindShown(desktop, IDD_MAPPING_CREATOR);
   if (creator == nullptr) return "";
   const host::OpenControl* const shown = creator->dialog.Find(IDC_MARKER_DESCRIPTION);
   return shown == nullptr ? "" : std::string(orvane::StandardNameOf(shown->state.text));

@@ -5,9 +5,7 @@
 
 namespace web {
 
-void TellReport(std::string_view what, const orvane::FileReport& report) {
-  Telling telling(what);
-  cli::JsonWriter& json = telling.Json();
+void WriteToldFindings(cli::JsonWriter& json, const orvane::FileReport& report) {
   json.Key("findings");
   json.BeginArray(cli::JsonWriter::Layout::kLines);
   for (const orvane::ReportedFinding& finding : report.findings) {
@@ -18,6 +16,11 @@ void TellReport(std::string_view what, const orvane::FileReport& report) {
     json.EndObject();
   }
   json.EndArray();
+}
+
+void TellReport(std::string_view what, const orvane::FileReport& report) {
+  Telling telling(what);
+  WriteToldFindings(telling.Json(), report);
   telling.Send();
 }
 

@@ -142,6 +142,11 @@ export type Told =
   | { tell: "report"; findings: ToldFinding[] }
   | { tell: "scene"; scene: ShownScene }
   | { tell: "colors"; changed: { node: number; color: Color }[] }
+  /**
+   * What the motion file will not hold of the skeleton that is selected, by what the dialog ExportHTR shows: when it
+   * is opened and whenever a choice has changed. `refusal` is why the program would not export it so, or empty.
+   */
+  | { tell: "losses"; findings: ToldFinding[]; refusal: string }
   | { tell: "selection"; nodes: number[] }
   | { tell: "hover"; node: number; name: string; pickable: boolean }
   | { tell: "progress"; what: string; percent: number }

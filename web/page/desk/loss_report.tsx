@@ -1,25 +1,46 @@
 import { useEffect, useState } from "preact/hooks";
 import type { ShownDialog } from "../../worker/desk_protocol";
 import type { Action, Finding } from "../../worker/protocol";
+import { EXPORT, IMPORTS } from "../logic/desk_things";
 import { worstFirst } from "../logic/finding_groups";
 import { shown } from "../logic/names";
 import { askFindings } from "../state/core";
+import { losses } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { importedTake } from "../state/work";
 import { takes, type Take } from "../state/takes";
+import { ToldFindings } from "./told_findings";
 
-/** What becomes of what is odd in a file, beside the dialog that asks how it is imported. */
-
-const IMPORTS: readonly number[] = [107, 108];
+/** What becomes of what is odd in a file, or of a skeleton, beside the dialog that asks how. */
 
 /** The radio button of both. */
 const APPLY = 1086;
 
 export function LossReport({ dialog }: { dialog: ShownDialog }) {
   const take = importedTake.value;
+  if (dialog.template === EXPORT) return <ExportLosses />;
   if (!take || !IMPORTS.includes(dialog.template)) return null;
   const applies = dialog.controls.some(({ id, checked }) => id === APPLY && checked);
   return <Losses take={take} action={applies ? "apply" : "import"} />;
+}
+
+function ExportLosses() {
+  const told = losses.value;
+  return (
+    <section class="losses" aria-label="What the motion file will not hold" aria-live="polite" tabIndex={0}>
+      <h2>What the motion file will not hold</h2>
+      {told === null && <p class="quiet">Looking…</p>}
+      {told?.refusal && (
+        <p class="finding error">
+          <span class="severity">error</span> {shown(told.refusal, 2000)}
+        </p>
+      )}
+      {told?.refusal === "" && told.findings.length === 0 && (
+        <p>Nothing of the skeleton is lost.</p>
+      )}
+      {told && <ToldFindings findings={told.findings} />}
+    </section>
+  );
 }
 
 const MOST_REPORTS = 8;

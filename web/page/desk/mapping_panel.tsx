@@ -8,6 +8,7 @@ import { scene } from "../state/takes";
 import { suggestion, takeSuggestion } from "../state/work";
 import { BodyPicture } from "./body_picture";
 import { DialogBody, useControl } from "./dialog_window";
+import { ToldFindings } from "./told_findings";
 
 /** Making a mapping: what is asked for, where it sits, what is suggested, and what there is so far. */
 export function MappingPanel() {
@@ -98,11 +99,7 @@ function LintList() {
       {found.length === 0 ? (
         <p class="quiet">{mapping.value.length > 0 ? "Nothing is odd in it." : ""}</p>
       ) : (
-        found.map(({ code, severity, text }, index) => (
-          <p key={index} class={`finding ${severity}`} data-lint={code}>
-            <span class="severity">{severity}</span> {shown(text, 400)}
-          </p>
-        ))
+        <ToldFindings findings={found} />
       )}
     </div>
   );

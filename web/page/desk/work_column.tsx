@@ -12,7 +12,6 @@ import {
   tell,
   things,
 } from "../state/desk";
-import { shown } from "../logic/names";
 import { notifyFailure } from "../state/notices";
 import { scene } from "../state/takes";
 import { exportScene, free, putTakes } from "../state/work";
@@ -20,6 +19,7 @@ import { settingsShown } from "../state/layout";
 import { DialogBody } from "./dialog_window";
 import { MappingPanel } from "./mapping_panel";
 import { NameWindow } from "./choice_window";
+import { ToldFindings } from "./told_findings";
 import { Veil } from "./window";
 
 /** What is done with the scene, and the plug-in's panel. */
@@ -162,11 +162,7 @@ function Report() {
   if (report.value.length === 0) return null;
   return (
     <div class="import-report" role="group" aria-label="What the import made of the file" tabIndex={0}>
-      {report.value.map(({ code, severity, text }) => (
-        <p key={code} class={`finding ${severity}`}>
-          <span class="severity">{severity}</span> {shown(text, 1000)}
-        </p>
-      ))}
+      <ToldFindings findings={report.value} />
     </div>
   );
 }

@@ -16,6 +16,10 @@ export type Thing =
 export const PANEL = 116;
 export const CREATOR = 117;
 
+/** The dialogs that ask how a file is imported, and how a skeleton is exported. */
+export const IMPORTS: readonly number[] = [107, 108];
+export const EXPORT = 126;
+
 function withChanges(dialog: ShownDialog, changed: readonly ControlChange[]): ShownDialog {
   const controls = [...dialog.controls];
   for (const { index, ...values } of changed) controls[index] = { ...controls[index], ...values };

@@ -24,6 +24,8 @@ export interface DeskApi {
   end(): void;
 }
 
+export type Losses = Extract<Told, { tell: "losses" }>;
+
 export interface PickMode {
   readonly on: boolean;
   readonly pickable: ReadonlySet<number>;
@@ -43,6 +45,8 @@ export const suggestions = signal<readonly Suggestion[]>([]);
 /** What the import that was agreed to last makes of its file. */
 export const report = signal<readonly ToldFinding[]>([]);
 export const lint = signal<readonly ToldFinding[]>([]);
+/** What an export would lose as its dialog stands; nothing while that is being found out. */
+export const losses = signal<Losses | null>(null);
 export const deskProgress = signal<{ what: string; percent: number } | null>(null);
 /** Files that can be chosen on the desk, by their paths there. */
 export const deskFiles = signal<ReadonlyMap<string, Blob>>(new Map());
@@ -95,6 +99,7 @@ function forgetAll(): void {
   mapping.value = [];
   lint.value = [];
   report.value = [];
+  losses.value = null;
   suggestions.value = [];
   showScene(null);
 }
@@ -107,6 +112,7 @@ export function tell(did: Did): void {
 export function giveTask(task: Task): void {
   idle.value = false;
   report.value = [];
+  losses.value = null;
   lastTask = task.did;
   tell(task);
 }
@@ -185,6 +191,7 @@ function takeScene(told: Told): void {
   else if (told.tell === "mapping") takeMapping(told.entries, told.asked);
   else if (told.tell === "suggestions") suggestions.value = told.suggested;
   else if (told.tell === "report") report.value = told.findings;
+  else if (told.tell === "losses") losses.value = told;
   else if (told.tell === "lint") lint.value = told.findings;
 }
 

@@ -130,16 +130,23 @@ test("in and out points become the range", () =>
     assert.equal(await dialog.getByLabel("To", { exact: true }).inputValue(), "20");
   }));
 
+/** The dialog ExportHTR, for the skeleton of the hips, and what it says is lost. */
+async function askExport(desk) {
+  await desk.page.locator("[data-object]").filter({ hasText: "Hips" }).first().click();
+  await desk.button("Export HTR…").click();
+  await desk.page.getByRole("dialog").getByRole("button", { name: "OK" }).click();
+  const losses = desk.page.getByRole("region", { name: "What the motion file will not hold" });
+  return { dialog: desk.dialog("ExportHTR"), losses };
+}
+
 test("ExportHTR refuses, and hands out what the program writes", () =>
   atWork(HTR, async (desk) => {
     await desk.importFile("walk.htr");
     await desk.dialog("ImportHTR").getByRole("button", { name: "OK", exact: true }).click();
     await desk.page.locator("[data-object]").first().waitFor();
     await desk.waitForRest();
-    await desk.page.locator("[data-object]").filter({ hasText: "Hips" }).first().click();
-    await desk.button("Export HTR…").click();
-    await desk.page.getByRole("dialog").getByRole("button", { name: "OK" }).click();
-    const dialog = desk.dialog("ExportHTR");
+    const { dialog, losses } = await askExport(desk);
+    await losses.getByText("Nothing of the skeleton is lost.").waitFor();
     await dialog.getByLabel("Global").fill("0");
     await dialog.getByRole("button", { name: "OK", exact: true }).click();
     await desk.answer("ExportHTR Error", "Please choose a non-zero scale factor.");
@@ -148,6 +155,27 @@ test("ExportHTR refuses, and hands out what the program writes", () =>
       dialog.getByRole("button", { name: "OK", exact: true }).click());
     assert.equal(name, "export.htr");
     assert.match(bytes.toString("latin1"), /\[SegmentNames&Hierarchy\][^[]*Hips/);
+  }));
+
+test("what an export loses stands beside its dialog, by what is chosen in it", () =>
+  atWork(HTR, async (desk) => {
+    await desk.importFile("walk.htr");
+    const importing = desk.dialog("ImportHTR");
+    await importing.getByLabel("End Effectors").click();
+    await desk.waitUntil(importing, "End Effectors", ":checked");
+    await importing.getByRole("button", { name: "OK", exact: true }).click();
+    await desk.page.locator("[data-object]").filter({ hasText: "Effector" }).first().waitFor();
+    await desk.waitForRest();
+    const { dialog, losses } = await askExport(desk);
+    const effectors = losses.locator('[data-finding="export-effector"]');
+    await effectors.getByText("effectors end chains").waitFor();
+    await dialog.getByLabel("Offset", { exact: true }).fill("2147483640");
+    await losses.getByText("is the last that a file can have").waitFor();
+    assert.equal(await effectors.count(), 0);
+    await dialog.getByLabel("Offset", { exact: true }).fill("0");
+    await effectors.waitFor();
+    await dialog.getByRole("button", { name: "Cancel" }).click();
+    await losses.waitFor({ state: "hidden" });
   }));
 
 test("a scene is saved and opened again", () =>

@@ -130,7 +130,7 @@ test("what is odd in the mapping is told while it is made", () =>
     await desk.creator.getByText("Nothing is odd in it.").waitFor();
     await desk.click(node("LFHD"));
     await desk.waitForAsked("RBHD");
-    await desk.creator.locator("[data-lint]").first().waitFor();
+    await desk.creator.locator("[data-finding]").first().waitFor();
     await desk.creator.getByRole("button", { name: "Back" }).click();
     await desk.waitForAsked("LBHD");
     await desk.creator.getByText("Nothing is odd in it.").waitFor();

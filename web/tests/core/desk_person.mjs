@@ -17,6 +17,12 @@ export async function programFiles(verb, files) {
   return new Map(result.files.map(({ name, bytes }) => [name, bytes]));
 }
 
+/** What it writes to standard output as JSON, however that ends. */
+export async function programJson(verb, files) {
+  const instance = await CoreInstance.make(await compiledCore());
+  return JSON.parse((await instance.run([...verb, "--json"], files, NEVER)).out);
+}
+
 /** The bytes of the one file that it makes. */
 export async function programFile(verb, files) {
   return [...(await programFiles(verb, files)).values()][0];
@@ -46,6 +52,7 @@ export const CONTROL = {
   rootNode: 1144,
   point: 1142,
   currentPose: 1107,
+  exportAnimation: 1105,
   createMapping: 1203,
   browseMapping: 1132,
   browseOutput: 1134,

@@ -176,6 +176,15 @@ test("what is odd in the mapping is asked for as it grows", () => {
   assert.equal(desk.lint.value.length, 0);
 });
 
+test("what an export loses is told of the dialog that is open", () => {
+  const losses = { findings: [{ code: "x", severity: "note" as const, text: "Odd." }], refusal: "" };
+  desk.giveTask({ did: "export", path: "new.htr" });
+  current().tell({ tell: "losses", ...losses });
+  assert.deepEqual(desk.losses.value?.findings, losses.findings);
+  desk.giveTask({ did: "export", path: "new.htr" });
+  assert.equal(desk.losses.value, null);
+});
+
 test("a desk that has ended is told of, and begun anew on what is open", async () => {
   const take = openFile("a.trc");
   work.importFile(take);
