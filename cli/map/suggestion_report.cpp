@@ -4,8 +4,8 @@
 #include <utility>
 
 #include "cli/common/messages.h"
-#include "formats/mnm/mapping_lines.h"
 #include "inspect/mapping/geometry_suggestion.h"
+#include "inspect/mapping/mappable_marker.h"
 
 namespace cli {
 namespace {
@@ -32,13 +32,6 @@ const char* WordFor(NameReason reason) {
   return kWords[static_cast<std::size_t>(reason)];
 }
 
-// Whether an entry of a mapping is of this marker, and of no other.
-bool CanBeMapped(const SuggestionReport& report, std::size_t marker) {
-  const std::string& name = report.markers[marker];
-  return !orvane::CannotBeMapped(name) &&
-         std::count(report.markers.begin(), report.markers.end(), name) == 1;
-}
-
 }  // namespace
 
 void SuggestByNames(SuggestionReport& report, const std::string& subject) {
@@ -58,7 +51,7 @@ std::string SuggestByGeometry(SuggestionReport& report, const orvane::TRCDocumen
   orvane::GeometrySuggestion suggestion = orvane::SuggestByGeometry(document);
   report.is_by_geometry = true;
   for (const orvane::PlacedMarker& sure : suggestion.sure) {
-    if (CanBeMapped(report, sure.marker)) {
+    if (orvane::CanBeMapped(report.markers, sure.marker)) {
       report.suggested.push_back({sure.standard, sure.marker, "geometry", sure.place});
     } else {
       report.unmappable.push_back(sure.marker);

@@ -7,6 +7,7 @@
 #include "plugin/resources/resource.h"
 #include "web/desk/desk.h"
 #include "web/desk/told.h"
+#include "web/desk/told_suggestions.h"
 
 // What the person can do.
 
@@ -232,9 +233,11 @@ void Desk::StartScene() {
 }
 
 void Desk::TellWholeScene() {
-  TellScene(application_->scene());
-  told_scene_.TakeOver(application_->scene());
-  TellSuggestions(application_->scene());
+  const host::Scene& scene = application_->scene();
+  const ScenePlaces places(scene);
+  TellScene(scene, places);
+  told_scene_.TakeOver(scene);
+  TellSuggestions(scene, places);
 }
 
 }  // namespace web

@@ -7,17 +7,15 @@
 
 #include "host/application/application.h"
 #include "host/scene/scene.h"
+#include "web/desk/scene_places.h"
 
 // What the page has been told of the scene and of what is done in it.
 
 namespace web {
 
-// Tells all of the scene: its nodes, and where they are in every frame of its range.
-void TellScene(const host::Scene& scene);
-
-// Tells which nodes play the roles of standard markers, as far as their names say so; nothing of a
-// scene of which no name does.
-void TellSuggestions(const host::Scene& scene);
+// Tells all of the scene: its nodes, and where they are in every frame of its range, which is
+// `places`.
+void TellScene(const host::Scene& scene, const ScenePlaces& places);
 
 // What changes while the scene stays.
 class ToldScene {

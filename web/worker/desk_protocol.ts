@@ -92,8 +92,10 @@ export interface MappingEntry {
 export interface Suggestion {
   standard: string;
   node: number;
-  /** How the name says so. */
-  reason: "same" | "subject" | "case" | "synonym";
+  /** How the name says so; or that it is where the node sits on the body, of which no name says anything. */
+  reason: "same" | "subject" | "case" | "synonym" | "geometry";
+  /** Where that is, in words; empty when the name says so. */
+  place: string;
 }
 
 export interface ToldFinding {
@@ -140,13 +142,13 @@ export type Told =
   | { tell: "lint"; findings: ToldFinding[] }
   /** What an import makes of its file, before it does, when the person has agreed to the dialog. */
   | { tell: "report"; findings: ToldFinding[] }
-  | { tell: "scene"; scene: ShownScene }
-  | { tell: "colors"; changed: { node: number; color: Color }[] }
   /**
    * What the motion file will not hold of the skeleton that is selected, by what the dialog ExportHTR shows: when it
    * is opened and whenever a choice has changed. `refusal` is why the program would not export it so, or empty.
    */
   | { tell: "losses"; findings: ToldFinding[]; refusal: string }
+  | { tell: "scene"; scene: ShownScene }
+  | { tell: "colors"; changed: { node: number; color: Color }[] }
   | { tell: "selection"; nodes: number[] }
   | { tell: "hover"; node: number; name: string; pickable: boolean }
   | { tell: "progress"; what: string; percent: number }

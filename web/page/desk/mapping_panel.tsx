@@ -1,7 +1,7 @@
 import { useEffect, useRef } from "preact/hooks";
 import { CREATOR, modelessDialog } from "../logic/desk_things";
 import { CLOSE_CONTROL } from "../logic/dialog_layout";
-import { mappingRows, REASONS } from "../logic/mapping";
+import { mappingRows, reasonText } from "../logic/mapping";
 import { shown } from "../logic/names";
 import { asked, lint, mapping, pickMode, things } from "../state/desk";
 import { scene } from "../state/takes";
@@ -46,11 +46,11 @@ function StepHint() {
     <div class="step-hint">
       <p>Click the marker in the view. A right click asks again.</p>
       {suggested && name !== undefined ? (
-        <p class="suggestion" data-suggested={name}>
-          <button onClick={takeSuggestion} title={REASONS[suggested.reason]}>
+        <p class="suggestion" data-suggested={name} data-reason={suggested.reason}>
+          <button onClick={takeSuggestion} title={reasonText(suggested)}>
             <bdi class="name">{shown(name, 60)}</bdi>
           </button>{" "}
-          {REASONS[suggested.reason]}; <kbd>Enter</kbd> takes it
+          {reasonText(suggested)}; <kbd>Enter</kbd> takes it
         </p>
       ) : (
         <p class="quiet">Nothing is suggested for {asked.value}.</p>

@@ -33,9 +33,15 @@ export function suggestionFor(
   return entries.some(({ node }) => node === found.node) ? null : found;
 }
 
-export const REASONS: Readonly<Record<Suggestion["reason"], string>> = {
+const REASONS: Readonly<Record<Suggestion["reason"], string>> = {
   same: "the same name",
   subject: "the same name behind that of the subject",
   case: "the same name but for capital letters",
   synonym: "a usual name of the same place",
+  geometry: "by its position alone",
 };
+
+/** What a suggestion rests on. */
+export function reasonText({ reason, place }: Suggestion): string {
+  return place === "" ? REASONS[reason] : `${REASONS[reason]}: ${place}`;
+}

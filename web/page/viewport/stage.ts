@@ -16,7 +16,7 @@ import { drawAxes } from "./axes_overlay";
 import { Eye } from "./eye";
 import { Floor } from "./floor";
 import { NamesOverlay } from "./names_overlay";
-import { drawRing } from "./ring";
+import { DASHES, drawRing } from "./ring";
 import { TakeDrawing } from "./take_drawing";
 
 /** The length between two lines of the floor, in the unit that is shown. */
@@ -196,13 +196,15 @@ export class Stage {
   }
 
   private markSuggested(): void {
-    const object = objectOfNode.value.get(suggestion.value?.node ?? 0);
+    const suggested = suggestion.value;
+    const object = objectOfNode.value.get(suggested?.node ?? 0);
     const drawing = this.drawings.find(({ take }) => take.key === SCENE_KEY);
     if (object === undefined || !drawing?.group.visible) return;
     this.projectAll();
     if (!isOnScreen(drawing.screenPlaces, object, this.screen)) return;
     const [x, y] = drawing.screenPlaces.subarray(object * 3);
-    drawRing(this.context, x, y, palette.value.quiet);
+    const dashes = suggested?.reason === "geometry" ? DASHES.position : DASHES.name;
+    drawRing(this.context, x, y, palette.value.quiet, dashes);
   }
 
   private projectAll(): void {

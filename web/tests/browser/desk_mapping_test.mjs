@@ -5,6 +5,7 @@ import { readFileSync } from "node:fs";
 import path from "node:path";
 import { test } from "node:test";
 import { atWork } from "./desk.mjs";
+import { asFile, WALK_TRC } from "./takes.mjs";
 import { EXAMPLES, useBrowser } from "./workbench.mjs";
 
 useBrowser();
@@ -23,15 +24,21 @@ const OWN_COLOR = "rgb(204, 51, 51)";
 
 const node = (standard) => NAMES.indexOf(`walker:${standard}`);
 
+/** The capture with names that say nothing: the markers by their numbers. */
+const NAMELESS = asFile(
+  "nameless.trc",
+  WALK_TRC.replace(/walker:\w+/g, (name) => `m${NAMES.indexOf(name) + 1}`),
+);
+
 /** A frame that has all markers. */
 const IN_NO_GAP = 35;
 
 const fileOf = (standards) =>
   standards.map((standard) => `${standard}\twalker:${standard}\t\n`).join("");
 
-function atMapping(work) {
-  return atWork(TRC, async (desk) => {
-    await desk.importAsItComes("walk.trc", "ImportTRC", 41);
+function atMapping(work, file = TRC) {
+  return atWork(file, async (desk) => {
+    await desk.importAsItComes(file.name ?? "walk.trc", "ImportTRC", 41);
     await desk.goTo(IN_NO_GAP);
     await desk.openPanel();
     await desk.beginMapping();
@@ -135,6 +142,16 @@ test("what is odd in the mapping is told while it is made", () =>
     await desk.waitForAsked("LBHD");
     await desk.creator.getByText("Nothing is odd in it.").waitFor();
   }));
+
+test("where names say nothing a marker is suggested by its position, and it is said so", () =>
+  atMapping(async (desk) => {
+    const suggestion = desk.creator.locator('[data-reason="geometry"]');
+    await suggestion.getByText("by its position alone: front left of the four markers of the head").waitFor();
+    assert.equal(await suggestion.getAttribute("data-suggested"), "m1");
+    await desk.page.keyboard.press("Enter");
+    await desk.waitForAsked("LBHD");
+    assert.deepEqual(await desk.mapping(), { LFHD: "m1" });
+  }, NAMELESS));
 
 test("a marker is picked by keys alone", () =>
   atMapping(async (desk) => {

@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { example } from "./built_core.mjs";
-import { CONTROL, DIALOG, Person, programFile } from "./desk_person.mjs";
+import { CONTROL, DIALOG, Person, programFile, programJson } from "./desk_person.mjs";
 
 const markers = { path: "walk.trc", bytes: example("walk.trc") };
 const picks = { path: "picks.mnm", bytes: example("walk.mnm") };
@@ -128,9 +128,46 @@ test("questions are answered while a pick waits, and tasks are refused", async (
 test("names that say which markers they are make suggestions", async () => {
   const person = await Person.sit();
   await person.import(markers.path, markers.bytes);
-  const { suggested } = person.told.find(({ tell }) => tell === "suggestions");
+  const suggested = suggestedTo(person);
   assert.equal(suggested.length, 39);
-  assert.deepEqual(suggested[0], { standard: "LFHD", node: person.node("walker:LFHD"), reason: "subject" });
+  assert.deepEqual(suggested[0], { standard: "LFHD", node: person.node("walker:LFHD"), reason: "subject", place: "" });
+  await person.doUntil({ did: "new-scene" }, "idle");
+  assert.deepEqual(suggestedTo(person), []);
+});
+
+const suggestedTo = (person) => person.told.findLast(({ tell }) => tell === "suggestions").suggested;
+
+/** The walk with other names of its markers. */
+function renamed(nameFor) {
+  const lines = Buffer.from(markers.bytes).toString("latin1").split("\n");
+  let count = 0;
+  lines[3] = lines[3].replace(/walker:\w+/g, (name) => nameFor(name, ++count));
+  return { path: "walk.trc", bytes: new TextEncoder().encode(lines.join("\n")) };
+}
+
+test("where no name says anything, places make the suggestions of map suggest --by-geometry", async () => {
+  const file = renamed((_, count) => `m${count}`);
+  const person = await Person.sit();
+  await person.import(file.path, file.bytes.slice());
+  const { suggested } = await programJson(["map", "suggest", "walk.trc", "--by-geometry"], [file]);
+  assert.ok(suggested.length > 30);
+  assert.deepEqual(
+    suggestedTo(person),
+    suggested.map(({ standard, marker, words }) => ({ standard, node: person.node(marker), reason: "geometry", place: words })),
+  );
+});
+
+test("a place is asked where a name is not, and never against one", async () => {
+  // The marker of a shoulder has no name that says so, and one of the head has that of the shoulder.
+  const names = { "walker:LSHO": "walker:a", "walker:LFHD": "walker:LSHO", "walker:RFHD": "walker:b" };
+  const file = renamed((name) => names[name] ?? name);
+  const person = await Person.sit();
+  await person.import(file.path, file.bytes);
+  const suggested = suggestedTo(person);
+  const byPlace = suggested.filter(({ reason }) => reason === "geometry");
+  assert.deepEqual(byPlace.map(({ standard, node }) => [standard, node]), [["RFHD", person.node("walker:b")]]);
+  assert.equal(suggested.find(({ standard }) => standard === "LSHO").node, person.node("walker:LSHO"));
+  assert.equal(suggested.find(({ standard }) => standard === "LFHD"), undefined);
 });
 
 test("a mapping that is not saved stays in the plug-in, and the next goes behind it", async () => {

@@ -150,7 +150,7 @@ test("what is selected here is selected there, and the other way around", () => 
 test("what is suggested is taken while it can be picked", () => {
   current().tell(
     { tell: "scene", scene: sceneOf(node(4, "LFHD"), node(9, "B")) },
-    { tell: "suggestions", suggested: [{ standard: "LFHD", node: 4, reason: "same" }] },
+    { tell: "suggestions", suggested: [{ standard: "LFHD", node: 4, reason: "same", place: "" }] },
     { tell: "mapping", entries: [], asked: "LFHD" },
   );
   work.takeSuggestion();

@@ -5,9 +5,9 @@ import { fitsPattern, withExtension } from "../../page/logic/file_pattern";
 import { rangeOf } from "../../page/logic/frame_range";
 import { archiveName, archivePaths, newestOfEach } from "../../page/logic/handed_out";
 import { areStoredValues, settingsToKeep, valueText } from "../../page/logic/kept_settings";
-import { mappingRows, suggestionFor } from "../../page/logic/mapping";
+import { mappingRows, reasonText, suggestionFor } from "../../page/logic/mapping";
 import { objectValues, sceneInfo, sceneTracks } from "../../page/logic/scene_take";
-import type { SceneNode, ShownScene, StoredValue } from "../../worker/desk_protocol";
+import type { SceneNode, ShownScene, StoredValue, Suggestion } from "../../worker/desk_protocol";
 
 const SIDELESS =
   "FHD BHD SHO ELB ILB WRE WRI WRA WRB FIN FWT BWT KNE KNI ANK HEL MT5 MTI TOE PRPB PRPM PRPT";
@@ -70,12 +70,19 @@ test("a mapping so far tells nodes by their names", () => {
 });
 
 test("what is suggested can be picked, and was not", () => {
-  const suggested = [{ standard: "LFHD", node: 4, reason: "same" as const }];
+  const suggested = [{ standard: "LFHD", node: 4, reason: "same" as const, place: "" }];
   const pickable = new Set([4, 5]);
   assert.equal(suggestionFor("LFHD", suggested, [], pickable)?.node, 4);
   assert.equal(suggestionFor("LBHD", suggested, [], pickable), null);
   assert.equal(suggestionFor("LFHD", suggested, [], new Set([5])), null);
   assert.equal(suggestionFor("LFHD", suggested, [{ standard: "C7", node: 4 }], pickable), null);
+});
+
+test("it is told what a suggestion rests on", () => {
+  const by = (reason: Suggestion["reason"], place = "") =>
+    reasonText({ standard: "LFHD", node: 4, reason, place });
+  assert.equal(by("synonym"), "a usual name of the same place");
+  assert.equal(by("geometry", "front left of the head"), "by its position alone: front left of the head");
 });
 
 test("in and out points are told in the file's own numbers", () => {
