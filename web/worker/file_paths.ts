@@ -24,3 +24,16 @@ export function pathFor(name: string, taken: Iterable<string>): string {
   for (let number = 2; paths.has(path); ++number) path = `${number}/${file}`;
   return path;
 }
+
+/**
+ * The name, or with a number behind its stem where that is taken in any case of its letters: files that are made of
+ * files of one folder are called like these, and may go where cases are the same.
+ */
+export function ownNameFor(name: string, taken: Iterable<string>): string {
+  const file = fileNameFor(name);
+  const names = new Set([...taken].map((other) => other.toLowerCase()));
+  const [stem, ending] = file.split(/(\.[^.]*)$/);
+  let own = file;
+  for (let number = 2; names.has(own.toLowerCase()); ++number) own = `${stem}-${number}${ending ?? ""}`;
+  return own;
+}

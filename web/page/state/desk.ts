@@ -8,7 +8,7 @@ import type {
   Told,
   ToldFinding,
 } from "../../worker/desk_protocol";
-import { pathFor } from "../../worker/file_paths";
+import { ownNameFor } from "../../worker/file_paths";
 import { isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
 import type { WrittenFile } from "../logic/handed_out";
 import { keptSettings, storeSettings } from "./kept_settings";
@@ -122,10 +122,13 @@ export function pickNode(node: number): void {
   tell({ did: "pick", node: pickMode.value.pickable.has(node) ? node : null });
 }
 
-/** Puts a file on the desk, and says what it is called there. */
+/**
+ * Puts a file on the desk, and says what it is called there: like no other, so that nothing that is made of it takes
+ * the place of what is made of another.
+ */
 export function putFile(name: string, file: Blob): string {
   for (const [path, there] of deskFiles.value) if (there === file) return path;
-  const path = pathFor(name, deskFiles.value.keys());
+  const path = ownNameFor(name, deskFiles.value.keys());
   remember(path, file);
   desk?.put(path, file);
   return path;

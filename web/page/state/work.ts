@@ -44,7 +44,7 @@ export function importFile(take: Take): void {
   importedTake.value = take;
   const { frames, firstFrame } = take.info;
   const range = take === activeFile.value ? rangeOf(elsewhere, frames, firstFrame) : undefined;
-  giveTask({ did: "import", path: putFile(take.info.path, take.file), range });
+  giveTask({ did: "import", path: putFile(take.info.name, take.file), range });
 }
 
 export function exportScene(name: string): void {
@@ -55,7 +55,7 @@ export function exportScene(name: string): void {
 
 /** All files that are open can be chosen on the desk. */
 export function putTakes(): void {
-  for (const take of takes.value) putFile(take.info.path, take.file);
+  for (const take of takes.value) putFile(take.info.name, take.file);
 }
 
 export const suggestion = computed(() =>

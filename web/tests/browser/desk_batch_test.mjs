@@ -62,6 +62,23 @@ test("many takes are converted, and handed out as one archive with the log", () 
     }
   }));
 
+test("of two takes of one name both are converted, each to a file of its own", () => {
+  const shorter = WALK_TRC.split("\n").slice(0, -20).join("\n") + "\n";
+  return atWork([asFile("walk.trc", WALK_TRC), asFile("walk.trc", shorter)], async (desk) => {
+    await desk.openPanel();
+    await chooseMapping(desk);
+    await chooseFolder(desk, "both");
+    await desk.panel.getByLabel("Batch File Conversion").click();
+    await desk.waitUntil(desk.panel, "Use TRC Filename", ":disabled");
+    const { bytes } = await desk.download(() =>
+      chooseTakes(desk, (choice) => choice.getByRole("button", { name: "All" }).click()));
+    const files = unzipSync(bytes);
+    assert.deepEqual(Object.keys(files).sort(), ["ConvertBVKLog.txt", "walk-2.bvk", "walk.bvk"]);
+    assert.match(text(files["ConvertBVKLog.txt"]), /walk\.trc done\.[^]*walk-2\.trc done\./);
+    assert.ok(files["walk-2.bvk"].length < files["walk.bvk"].length);
+  });
+});
+
 test("one take is converted as itself, and what is none is refused by the plug-in", () =>
   atWork(TAKES[0], async (desk) => {
     await desk.openPanel();

@@ -89,11 +89,19 @@ test("a file that no page can show is refused with both sizes", async () => {
 });
 
 test("any name becomes a file's name", async () => {
-  const { fileNameFor, pathFor } = await workerModule("file_paths.ts");
+  const { fileNameFor, ownNameFor, pathFor } = await workerModule("file_paths.ts");
   assert.equal(fileNameFor("../walk.htr"), ".._walk.htr");
   assert.equal(fileNameFor(".."), "_..");
   assert.equal(fileNameFor(""), "_");
   const long = fileNameFor(`${"\u{1f600}".repeat(10000)}.trc`);
   assert.ok(new TextEncoder().encode(long).length <= 204 && long.endsWith(".trc"), long);
   assert.equal(pathFor("a.trc", ["a.trc", "2/a.trc"]), "3/a.trc");
+  const cases = [
+    ["a.b.trc", ["a.b.TRC"], "a.b-2.trc"],
+    ["a.trc", ["a.trc", "a-2.trc", "out/a-3.trc"], "a-3.trc"],
+    ["a", ["a"], "a-2"],
+    [".trc", [".trc"], "-2.trc"],
+    ["2/a.trc", [], "2_a.trc"],
+  ];
+  for (const [name, taken, own] of cases) assert.equal(ownNameFor(name, taken), own);
 });

@@ -107,8 +107,9 @@ test("a file is put once, and under a name of its own", () => {
   const first = new Blob(["1"]);
   assert.equal(desk.putFile("walk.trc", first), "walk.trc");
   assert.equal(desk.putFile("walk.trc", first), "walk.trc");
-  assert.equal(desk.putFile("walk.trc", new Blob(["2"])), "2/walk.trc");
-  assert.deepEqual(current().files, ["walk.trc", "2/walk.trc"]);
+  assert.equal(desk.putFile("walk.trc", new Blob(["2"])), "walk-2.trc");
+  assert.equal(desk.putFile("Walk.TRC", new Blob(["3"])), "Walk-3.TRC");
+  assert.deepEqual(current().files, ["walk.trc", "walk-2.trc", "Walk-3.TRC"]);
 });
 
 test("in and out points of the file that is worked on are the range of its import", () => {
