@@ -51,6 +51,7 @@ function controlFor(event: KeyboardEvent, dialog: ShownDialog): number | null {
   if (event.altKey && event.key.length === 1) {
     return controlOfMnemonic(dialog.controls, event.key);
   }
+  if (event.key === "Escape" && dialog.closeBox) return CLOSE_CONTROL;
   const isOnButton = event.target instanceof HTMLButtonElement;
   return event.key === "Enter" && !isOnButton ? defaultControl(dialog.controls) : null;
 }

@@ -84,16 +84,29 @@ test("Esc is the dialog's to answer, and no browser closes it", () =>
     await desk.importFile("walk.trc");
     const dialog = desk.dialog("ImportTRC");
     await dialog.waitFor();
+    assert.equal(await dialog.getByRole("button", { name: "Close", exact: true }).count(), 0);
     for (let count = 0; count < 3; ++count) await desk.page.keyboard.press("Escape");
     await dialog.getByLabel("Root Node").click();
     await desk.waitUntil(dialog, "Root Node", ":checked");
     await dialog.getByRole("button", { name: "OK", exact: true }).click();
     await desk.waitForNodes(42);
-    await desk.button("About…").click();
-    await desk.dialog("About...").getByText("OrvaneFileIO for Skelder").waitFor();
-    await desk.page.keyboard.press("Escape");
-    await desk.dialog("About...").waitFor({ state: "hidden" });
   }));
+
+const LEAVINGS = {
+  "its cross": (about) => about.getByRole("button", { name: "Close", exact: true }).click(),
+  Esc: (about) => about.press("Escape"),
+};
+for (const [how, leave] of Object.entries(LEAVINGS)) {
+  test(`About is left by ${how}, which it answers itself`, () =>
+    atWork(TRC, async (desk) => {
+      const about = desk.dialog("About...");
+      await desk.button("About…").click();
+      await about.getByText("OrvaneFileIO for Skelder").waitFor();
+      await leave(about);
+      await about.waitFor({ state: "hidden" });
+      await desk.waitForRest();
+    }));
+}
 
 test("a file that is dropped while a dialog is open is opened, and the dialog stays", () =>
   atWork(TRC, async (desk) => {

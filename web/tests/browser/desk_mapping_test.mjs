@@ -92,13 +92,11 @@ test("39 markers are mapped by clicking, with a wrong pick, Back and Skip", () =
     assert.equal(text, fileOf(ASKED));
   }));
 
-test("a step is skipped where that may be, and asked again after a right click", () =>
+test("a step is skipped where that may be", () =>
   atMapping(async (desk) => {
     const skip = desk.creator.getByRole("button", { name: "Skip" });
     assert.ok(await skip.isDisabled());
     await desk.clickNowhere();
-    await desk.click(node("LFHD"), "right");
-    assert.equal(await desk.asked(), "LFHD");
     for (const standard of ASKED) {
       await desk.waitForAsked(standard);
       if (standard !== "LILB") {
@@ -109,6 +107,19 @@ test("a step is skipped where that may be, and asked again after a right click",
     }
     await skipProps(desk);
     assert.equal((await save(desk)).text, fileOf(ASKED.filter((standard) => standard !== "LILB")));
+  }));
+
+test("a right click at the second marker of a step asks for both again", () =>
+  atMapping(async (desk) => {
+    const before = ASKED.slice(0, ASKED.indexOf("LWRB"));
+    for (const standard of before) {
+      await desk.waitForAsked(standard);
+      await desk.page.keyboard.press("Enter");
+    }
+    await desk.waitForAsked("LWRB");
+    await desk.click(node("LWRB"), "right");
+    await desk.waitForAsked("LWRA");
+    assert.deepEqual(Object.keys(await desk.mapping()), before);
   }));
 
 const colors = async (desk) => (await desk.workbench.view.getAttribute("data-colors")).split(";");
@@ -129,6 +140,27 @@ test("Abort leaves the scene as it was, at any step, and nothing is saved", () =
       assert.equal(await desk.asked(), null);
     }
   }));
+
+const LEAVINGS = {
+  "its cross": (creator) => creator.getByRole("button", { name: "Close the mapping" }).click(),
+  Esc: (creator) => creator.getByRole("button", { name: "Skip" }).press("Escape"),
+};
+for (const [how, leave] of Object.entries(LEAVINGS)) {
+  test(`the creator is left by ${how}, as by Abort`, () =>
+    atMapping(async (desk) => {
+      for (const standard of ASKED.slice(0, 9)) {
+        await desk.waitForAsked(standard);
+        await desk.page.keyboard.press("Enter");
+      }
+      await desk.waitForAsked("LILB");
+      await leave(desk.creator);
+      await desk.creator.waitFor({ state: "hidden" });
+      assert.ok((await colors(desk)).every((color) => color === OWN_COLOR));
+      assert.equal(await desk.asked(), null);
+      await desk.waitForRest();
+      await desk.beginMapping();
+    }));
+}
 
 test("what is odd in the mapping is told while it is made", () =>
   atMapping(async (desk) => {

@@ -77,6 +77,14 @@ test("a stick is asked for when there is one", async () => {
   assert.equal(person.mapping.asked, "LWRE");
 });
 
+test("a right click at the second marker of a step asks for both again", async () => {
+  const person = await asked();
+  while (person.mapping.asked !== "LWRB") await pickOn(person, 1);
+  await person.step({ did: "right-click" });
+  assert.equal(person.mapping.asked, "LWRA");
+  assert.equal(person.mapping.entries.at(-1).standard, "LWRA");
+});
+
 test("Abort at each step leaves the colors as they were", async () => {
   const person = await asked();
   const before = new Map(person.colors);
