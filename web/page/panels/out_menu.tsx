@@ -2,6 +2,7 @@ import type { RefObject } from "preact";
 import { useEffect, useRef } from "preact/hooks";
 import { download } from "../data/download";
 import { fileStem, shown } from "../logic/names";
+import { linesOfRun } from "../logic/page_words";
 import { OUTPUTS, outputName, outputVerb, type Output } from "../logic/outputs";
 import { askFindings, runVerb } from "../state/core";
 import { action } from "../state/findings";
@@ -71,7 +72,8 @@ async function makeOutput(output: Output, take: Take): Promise<void> {
     const content = new Blob([file.bytes as Uint8Array<ArrayBuffer>]);
     download(file.name.replace(/^.*\//, ""), content);
   }
-  const words = shown(result.err.trim(), 4000);
+  const told = linesOfRun(result.err, take.info.path, take.info.name);
+  const words = told.split("\n").map((line) => shown(line, 1000)).join("\n");
   if (result.files.length === 0) notify("error", `${shown(name, 80)} was not made`, words);
   else if (result.status !== 0) notify("note", `${shown(name, 80)} was saved, with doubts`, words);
 }

@@ -8,6 +8,7 @@ import type {
   RunResult,
 } from "../../worker/protocol";
 import { shown } from "../logic/names";
+import { pageWords } from "../logic/page_words";
 import { isCanceled, notifyFailure } from "./notices";
 import { deselect } from "./selection";
 import { activeFile, activeKey, addTake, removeTake, takes, type Take } from "./takes";
@@ -80,10 +81,18 @@ function resetTime(): void {
   deselect();
 }
 
+/** The report is the program's own; findings are told in words of the page. */
 export async function askFindings(take: Take, action: Action): Promise<Findings> {
-  return runTask("Looking for what is odd", async () =>
+  const { findings, json } = await runTask("Looking for what is odd", async () =>
     (await core).findings(take.info.id, action),
   );
+  const told = findings.map((finding) => ({
+    ...finding,
+    text: pageWords(finding.text),
+    cause: pageWords(finding.cause),
+    consequence: pageWords(finding.consequence),
+  }));
+  return { findings: told, json };
 }
 
 export async function askLine(take: Take, line: number, column: number): Promise<LineText> {

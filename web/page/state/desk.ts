@@ -11,6 +11,7 @@ import type {
 import { ownNameFor } from "../../worker/file_paths";
 import { isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
 import type { WrittenFile } from "../logic/handed_out";
+import { pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
 import { paintScene, selectNodes, showScene } from "./scene";
@@ -181,7 +182,7 @@ function takeWork(told: Told): void {
   else if (told.tell === "progress") deskProgress.value = told;
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);
-  else if (told.tell === "refused") notify("error", told.words);
+  else if (told.tell === "refused") notify("error", pageWords(told.words));
   else if (told.tell === "done" && !told.completed) tellFailed(told.task);
   else if (told.tell === "failed") takeFailure(told.words);
 }
@@ -193,9 +194,17 @@ function takeScene(told: Told): void {
   else if (told.tell === "pick-mode") takePickMode(told.on, told.pickable);
   else if (told.tell === "mapping") takeMapping(told.entries, told.asked);
   else if (told.tell === "suggestions") suggestions.value = told.suggested;
-  else if (told.tell === "report") report.value = told.findings;
-  else if (told.tell === "losses") losses.value = told;
-  else if (told.tell === "lint") lint.value = told.findings;
+  else if (told.tell === "report") report.value = inPageWords(told.findings);
+  else if (told.tell === "losses") takeLosses(told);
+  else if (told.tell === "lint") lint.value = inPageWords(told.findings);
+}
+
+function inPageWords(findings: readonly ToldFinding[]): ToldFinding[] {
+  return findings.map((finding) => ({ ...finding, text: pageWords(finding.text) }));
+}
+
+function takeLosses(told: Losses): void {
+  losses.value = { ...told, findings: inPageWords(told.findings), refusal: pageWords(told.refusal) };
 }
 
 function takePickMode(on: boolean, pickable: readonly number[]): void {

@@ -1,4 +1,5 @@
 import { signal } from "@preact/signals";
+import { pageWords } from "../logic/page_words";
 
 /** What went wrong, or what came of something, until it is put away. */
 export interface Notice {
@@ -31,6 +32,6 @@ export function isCanceled(reason: unknown): boolean {
 
 /** The words of whatever was thrown. */
 export function wordsOf(reason: unknown): string {
-  if (reason && typeof reason === "object" && "message" in reason) return String(reason.message);
-  return String(reason);
+  const isError = reason && typeof reason === "object" && "message" in reason;
+  return pageWords(String(isError ? reason.message : reason));
 }
