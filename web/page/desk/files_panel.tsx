@@ -1,6 +1,5 @@
-import { shown } from "../logic/names";
 import { openChosen } from "../panels/header";
-import { takes, type Take } from "../state/takes";
+import { labelOf, takes, type Take } from "../state/takes";
 import { free, importFile } from "../state/work";
 
 /** The files that are open, to be brought into the scene. */
@@ -25,7 +24,7 @@ export function FilesPanel() {
 }
 
 function FileRow({ take }: { take: Take }) {
-  const name = shown(take.info.name, 120);
+  const name = labelOf(take);
   return (
     <li class="work-file">
       <bdi class="name">{name}</bdi>

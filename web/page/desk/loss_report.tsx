@@ -8,7 +8,7 @@ import { askFindings } from "../state/core";
 import { losses } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { importedTake } from "../state/work";
-import { takes, type Take } from "../state/takes";
+import { labelOf, takes, type Take } from "../state/takes";
 import { ToldFindings } from "./told_findings";
 
 /** What becomes of what is odd in a file, or of a skeleton, beside the dialog that asks how. */
@@ -67,9 +67,10 @@ function Losses({ take, action }: { take: Take; action: Action }) {
       (reason) => notifyFailure("There is no report", reason),
     );
   }, [take, action]);
+  const title = `What becomes of ${labelOf(take, 60)}`;
   return (
-    <section class="losses" aria-label={`What becomes of ${shown(take.info.name, 60)}`} tabIndex={0}>
-      <h2>What becomes of {shown(take.info.name, 60)}</h2>
+    <section class="losses" aria-label={title} tabIndex={0}>
+      <h2>{title}</h2>
       {findings === null && <p class="quiet">Looking…</p>}
       {findings?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
       {findings && worstFirst(findings).map((finding) => <Loss key={finding.code} {...finding} />)}

@@ -24,6 +24,11 @@ export function shown(text: string, length = 200): string {
   return cut(text, length).replace(UNSEEN, visible);
 }
 
+/** The same of a name that several have, of which the second is told with a 2. */
+export function numbered(name: string, number: number, length?: number): string {
+  return shown(name, length) + (number > 1 ? ` (${number})` : "");
+}
+
 /** The name of a file without its ending, safe as the name of a download. */
 export function fileStem(name: string): string {
   const stem = name.replace(/\.[^.]*$/, "");

@@ -6,7 +6,7 @@ import { askLine } from "../state/core";
 import { action, actionsOf, report, retry, type Report } from "../state/findings";
 import { notifyFailure } from "../state/notices";
 import { select } from "../state/selection";
-import { activeTake, type Take } from "../state/takes";
+import { activeTake, areSeveral, labelOf, type Take } from "../state/takes";
 import { jumpTo } from "../state/time";
 import { Choice } from "../widgets/choice";
 import { FileLine, type ShownLine } from "./file_line";
@@ -33,6 +33,7 @@ export function FindingsPanel() {
     <section class="panel grow findings" aria-label="Findings">
       <h2>
         Findings <span class="quiet">{made ? countText(made.findings) : "…"}</span>
+        {areSeveral.value && <bdi class="of-take quiet small">{labelOf(take)}</bdi>}
       </h2>
       <Choice<Action>
         label="For"

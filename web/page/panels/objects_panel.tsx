@@ -4,7 +4,7 @@ import { depths } from "../logic/object_search";
 import { gapCount } from "../logic/gaps";
 import { hovered, lastSelected, select, selectAll, selectedInActive } from "../state/selection";
 import { colorOf } from "../state/take_color";
-import { activeTake, type Take } from "../state/takes";
+import { activeTake, areSeveral, labelOf, type Take } from "../state/takes";
 import { pickMode, pickNode } from "../state/desk";
 import { nodeOf } from "../state/scene";
 import { coarsePointer } from "../state/pointer";
@@ -29,6 +29,7 @@ export function ObjectsPanel() {
     <section class="panel grow" aria-label={kind}>
       <h2>
         {kind} <span class="quiet">{countText(rows.length, take)}</span>
+        {areSeveral.value && <bdi class="of-take quiet small">{labelOf(take)}</bdi>}
       </h2>
       <div class="search">
         <input

@@ -7,7 +7,7 @@ import { OUTPUTS, outputName, outputVerb, type Output } from "../logic/outputs";
 import { askFindings, runVerb } from "../state/core";
 import { action } from "../state/findings";
 import { notify, notifyFailure } from "../state/notices";
-import { activeTake, type Take } from "../state/takes";
+import { activeTake, labelOf, type Take } from "../state/takes";
 import { palette } from "../state/theme";
 import { stage } from "../viewport/current_stage";
 
@@ -61,7 +61,7 @@ async function guarded(take: Take, work: (from: Take) => Promise<void>): Promise
   try {
     await work(take);
   } catch (reason) {
-    notifyFailure(`Nothing was saved of ${shown(take.info.name, 80)}`, reason);
+    notifyFailure(`Nothing was saved of ${labelOf(take, 80)}`, reason);
   }
 }
 
@@ -72,7 +72,7 @@ async function makeOutput(output: Output, take: Take): Promise<void> {
     const content = new Blob([file.bytes as Uint8Array<ArrayBuffer>]);
     download(file.name.replace(/^.*\//, ""), content);
   }
-  const told = linesOfRun(result.err, take.info.path, take.info.name);
+  const told = linesOfRun(result.err, take.info.path, labelOf(take));
   const words = told.split("\n").map((line) => shown(line, 1000)).join("\n");
   if (result.files.length === 0) notify("error", `${shown(name, 80)} was not made`, words);
   else if (result.status !== 0) notify("note", `${shown(name, 80)} was saved, with doubts`, words);

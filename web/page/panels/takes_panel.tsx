@@ -1,7 +1,7 @@
 import { shown } from "../logic/names";
 import { closeTake } from "../state/core";
 import { colorOf } from "../state/take_color";
-import { activeTake, takes, type Take } from "../state/takes";
+import { activeTake, labelOf, takes, type Take } from "../state/takes";
 import { activate } from "../state/time";
 
 /** The takes that are open. */
@@ -22,7 +22,7 @@ export function TakesPanel() {
 
 function TakeRow({ take }: { take: Take }) {
   const isActive = activeTake.value === take;
-  const name = shown(take.info.name, 120);
+  const name = labelOf(take);
   const { frames, rate, objects, kind, unit } = take.info;
   const told = `${objects.length} ${kind === "motion" ? "segments" : "markers"}, ${frames} frames`;
   return (

@@ -17,6 +17,7 @@ function takeOf(shown: ShownScene): Take {
   return {
     key: SCENE_KEY,
     info,
+    number: 1,
     tracks: sceneTracks(shown),
     gaps: indexGaps(info.gaps, info.objects.length),
     color: 0,

@@ -2,6 +2,7 @@ import { computed, signal, type Signal } from "@preact/signals";
 import type { SceneNode } from "../../worker/desk_protocol";
 import type { TakeInfo, Tracks } from "../../worker/protocol";
 import { indexGaps, type GapIndex } from "../logic/gaps";
+import { numbered } from "../logic/names";
 import type { Clock } from "../logic/take_time";
 
 /** The takes that are open, in the order in which they were opened; one of them is worked on. */
@@ -9,6 +10,8 @@ export interface Take {
   /** The page's own number of it, which stays when the core begins anew. */
   readonly key: number;
   readonly info: TakeInfo;
+  /** Which it is of those that are called alike. */
+  readonly number: number;
   readonly tracks: Tracks;
   readonly gaps: GapIndex;
   /** Which of the takes' colors it has. */
@@ -53,12 +56,30 @@ function freeColor(): number {
   return color;
 }
 
+const SHORTEST = 40;
+
+/** What a take is called wherever it is told of: by no name that another one has, in so many characters at least. */
+export function labelOf({ info, number }: Take, length = 120): string {
+  return numbered(info.name, number, Math.max(length, SHORTEST));
+}
+
+function freeNumber({ name }: TakeInfo): number {
+  const labels = new Set(takes.value.map((take) => labelOf(take, SHORTEST)));
+  let number = 1;
+  while (labels.has(numbered(name, number, SHORTEST))) number += 1;
+  return number;
+}
+
+/** Whether it has to be said which take something is of. */
+export const areSeveral = computed(() => seenTakes.value.length > 1);
+
 let lastKey = 0;
 
 export function addTake(info: TakeInfo, tracks: Tracks, file = new Blob()): Take {
   const take: Take = {
     key: ++lastKey,
     info,
+    number: freeNumber(info),
     tracks,
     gaps: indexGaps(info.gaps, info.objects.length),
     color: freeColor(),

@@ -3,6 +3,7 @@ import type { CurveOf } from "../../worker/protocol";
 import { shown } from "../logic/names";
 import { Choice } from "../widgets/choice";
 import { curve, curveOf, curvesOf, curveTexts, type Curve } from "../state/curves";
+import { areSeveral, labelOf } from "../state/takes";
 import { palette } from "../state/theme";
 import { wheel } from "./area";
 import { useWheel } from "../widgets/wheel";
@@ -43,7 +44,8 @@ export function Curves() {
 
 function plotLabel(of: Curve | null): string {
   if (!of) return "Curves: nothing is selected";
-  return `Curves of the ${WORDS[of.of]} of ${shown(of.take.info.objects[of.object], 80)}`;
+  const object = shown(of.take.info.objects[of.object], 80);
+  return `Curves of the ${WORDS[of.of]} of ${object}${areSeveral.value ? ` in ${labelOf(of.take, 80)}` : ""}`;
 }
 
 function Legend({ of }: { of: Curve }) {
@@ -51,6 +53,7 @@ function Legend({ of }: { of: Curve }) {
   return (
     <div class="legend">
       <bdi class="name">{shown(info.objects[of.object], 60)}</bdi>
+      {areSeveral.value && <bdi class="of-take quiet small">{labelOf(of.take, 60)}</bdi>}
       <Choice<CurveOf>
         label="Curves"
         value={of.of}

@@ -4,7 +4,7 @@ import { scrollToRow } from "../logic/timeline_geometry";
 import { coarsePointer } from "../state/pointer";
 import { foundObjects } from "../state/rows";
 import { lastSelected, select } from "../state/selection";
-import { activeTake } from "../state/takes";
+import { activeTake, areSeveral, labelOf } from "../state/takes";
 import { scrub, wheel } from "./area";
 import { drawRows } from "./draw_rows";
 import { useDrawing } from "../widgets/drawing";
@@ -36,7 +36,9 @@ export function Rows() {
   useWheel(canvas, wheel);
   useEffect(() => effect(() => reveal(box.current)), []);
   const total = foundObjects.value.length * rowHeight();
-  const kind = activeTake.value?.info.kind === "motion" ? "segments" : "markers";
+  const take = activeTake.value;
+  const kind = take?.info.kind === "motion" ? "segments" : "markers";
+  const whose = take && areSeveral.value ? ` of ${labelOf(take, 80)}` : "";
   return (
     <div
       class="timeline-rows"
@@ -51,7 +53,7 @@ export function Rows() {
           ref={canvas}
           class="rows-canvas"
           role="img"
-          aria-label={`Frames that hold the ${foundObjects.value.length} ${kind}`}
+          aria-label={`Frames that hold the ${foundObjects.value.length} ${kind}${whose}`}
           onPointerDown={(event) => {
             choose(event);
             scrub(event);

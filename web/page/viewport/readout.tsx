@@ -2,7 +2,7 @@ import { shown } from "../logic/names";
 import { pointAt } from "../logic/tracks";
 import { lengthText, stepText } from "../logic/units";
 import { hovered, lastSelected } from "../state/selection";
-import { activeTake, takeByKey } from "../state/takes";
+import { activeTake, areSeveral, labelOf, takeByKey } from "../state/takes";
 import { frameOf } from "../state/time";
 import { grid, unit } from "../state/view_options";
 import { floorStep } from "./stage";
@@ -32,6 +32,7 @@ function ObjectReadout() {
   return (
     <p class="object-readout">
       <bdi class="name">{shown(objects[reference.object], 80)}</bdi>
+      {areSeveral.value && <bdi class="of-take quiet">{labelOf(take, 60)}</bdi>}
       <span class="numbers">
         {numbers ? `${numbers.join("  ")} ${unit.value}` : "no position in this frame"}
       </span>

@@ -49,6 +49,24 @@ test("two takes lie over each other in two colors, apart in time on asking", () 
     assert.equal(await offset.inputValue(), "30");
   }));
 
+test("two takes of one name are told apart wherever one is told of", () =>
+  inWorkbench(async (workbench) => {
+    const { page, takes } = workbench;
+    await workbench.drop([{ name: "walk.trc", text: WALK_TRC }, { name: "walk.trc", text: WALK_TRC }]);
+    await workbench.waitForTakes(2);
+    await takes.getByRole("button", { name: /^walk\.trc \(2\)/ }).click();
+    for (const name of ["Markers", "Findings"]) {
+      await page.getByRole("region", { name, exact: true }).getByText("walk.trc (2)", { exact: true }).waitFor();
+    }
+    await page.getByLabel("Show walk.trc (2)", { exact: true }).uncheck();
+    await page.getByRole("img", { name: "of walk.trc (2)" }).waitFor();
+    await workbench.objects.first().click();
+    await page.locator(".object-readout").getByText("walk.trc (2)").waitFor();
+    await page.getByRole("button", { name: "Close walk.trc", exact: true }).click();
+    await workbench.waitForTakes(1);
+    await takes.getByText("walk.trc (2)").waitFor();
+  }));
+
 test("files are opened by dropping them", () =>
   inWorkbench(async (workbench) => {
     await workbench.drop([{ name: "dropped.trc", text: WALK_TRC }]);

@@ -4,13 +4,13 @@ import { curveTexts, shownLength, type Curve } from "../../page/state/curves";
 import { dismiss, notices, notify } from "../../page/state/notices";
 import * as selection from "../../page/state/selection";
 import { setting } from "../../page/state/settings";
-import { activeKey, addTake, removeTake, takes, type Take } from "../../page/state/takes";
+import { activeKey, addTake, labelOf, removeTake, takes, type Take } from "../../page/state/takes";
 import * as time from "../../page/state/time";
 import { unit } from "../../page/state/view_options";
 import type { TakeInfo } from "../../worker/protocol";
 
 function take(frames: number, rate: number): Take {
-  const info = { frames, rate, objects: ["a", "b", "c"], gaps: new Int32Array() };
+  const info = { name: "take.trc", frames, rate, objects: ["a", "b", "c"], gaps: new Int32Array() };
   return addTake(info as unknown as TakeInfo, { positions: new Float32Array() });
 }
 
@@ -184,6 +184,23 @@ test("of many files that fail each is told", () => {
   assert.equal(notices.value[0].title, "0.htr was not opened");
   for (const { key } of notices.value) dismiss(key);
   assert.equal(notices.value.length, 0);
+});
+
+test("takes of one name are told apart, however often one is closed and opened", () => {
+  const named = (name: string): Take =>
+    addTake({ name, objects: [], gaps: new Int32Array() } as unknown as TakeInfo, { positions: new Float32Array() });
+  const first = named("walk.trc");
+  const second = named("walk.trc");
+  const third = named("walk.trc");
+  assert.deepEqual([first, second, third].map((each) => labelOf(each)),
+    ["walk.trc", "walk.trc (2)", "walk.trc (3)"]);
+  removeTake(second);
+  assert.equal(labelOf(third), "walk.trc (3)");
+  assert.deepEqual([named("walk.trc"), named("walk.trc (2)")].map((each) => labelOf(each)),
+    ["walk.trc (2)", "walk.trc (2) (2)"]);
+  const long = "w".repeat(200);
+  assert.deepEqual([named(`${long}1.trc`), named(`${long}2.trc`)].map((each) => labelOf(each, 60)),
+    [`${"w".repeat(60)}…`, `${"w".repeat(60)}… (2)`]);
 });
 
 test("a color that became free is given again", () => {
