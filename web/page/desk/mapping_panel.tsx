@@ -1,4 +1,5 @@
 import { useEffect, useRef } from "preact/hooks";
+import { counted } from "../logic/counted";
 import { CREATOR, modelessDialog } from "../logic/desk_things";
 import { CLOSE_CONTROL } from "../logic/dialog_layout";
 import { mappingRows, reasonText } from "../logic/mapping";
@@ -69,7 +70,7 @@ function MappingTable() {
     <div class="mapping-table" ref={box} tabIndex={0} role="group" aria-label="The mapping so far">
       <table>
         <caption>
-          {rows.length} {rows.length === 1 ? "marker" : "markers"} so far
+          {counted(rows.length, "marker")} so far
         </caption>
         <thead>
           <tr>

@@ -1,4 +1,5 @@
 import { useState } from "preact/hooks";
+import { counted } from "../logic/counted";
 import { PANEL, modelessDialog } from "../logic/desk_things";
 import { chooseFiles } from "../data/files";
 import {
@@ -96,7 +97,7 @@ function SceneTasks() {
 
 function countText(): string {
   const count = scene.value?.nodes?.length ?? 0;
-  return count === 0 ? "empty" : `${count} ${count === 1 ? "node" : "nodes"}`;
+  return count === 0 ? "empty" : counted(count, "node");
 }
 
 function openScene(): void {

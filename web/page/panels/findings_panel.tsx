@@ -1,5 +1,6 @@
 import { signal } from "@preact/signals";
 import type { Action, Finding, Place } from "../../worker/protocol";
+import { counted } from "../logic/counted";
 import { countBySeverity, distinctPlaces, placeText, worstFirst } from "../logic/finding_groups";
 import { shown } from "../logic/names";
 import { askLine } from "../state/core";
@@ -57,7 +58,7 @@ function countText(findings: readonly Finding[]): string {
   const counts = countBySeverity(findings);
   const parts = (["error", "warning", "note"] as const)
     .filter((severity) => counts[severity] > 0)
-    .map((severity) => `${counts[severity]} ${severity}${counts[severity] === 1 ? "" : "s"}`);
+    .map((severity) => counted(counts[severity], severity));
   return parts.join(", ") || "none";
 }
 

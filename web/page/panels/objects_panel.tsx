@@ -1,4 +1,5 @@
 import { computed } from "@preact/signals";
+import { counted } from "../logic/counted";
 import { shown } from "../logic/names";
 import { depths } from "../logic/object_search";
 import { gapCount } from "../logic/gaps";
@@ -90,7 +91,7 @@ function ObjectRow({ take, object, id, row, of }: RowProperties) {
       aria-posinset={row + 1}
       aria-label={`${name}, ${told} of the frames`}
       data-object={object}
-      title={`${name}\n${told} of the frames, ${gaps} gaps`}
+      title={`${name}\n${told} of the frames, ${counted(gaps, "gap")}`}
       onClick={(event) => select(take, object, event.ctrlKey || event.metaKey || event.shiftKey)}
       onPointerEnter={() => (hovered.value = { take: take.key, object })}
       onPointerLeave={() => (hovered.value = null)}

@@ -1,3 +1,4 @@
+import { counted, countedObjects, nounOf } from "../logic/counted";
 import { shown } from "../logic/names";
 import { closeTake } from "../state/core";
 import { colorOf } from "../state/take_color";
@@ -24,7 +25,7 @@ function TakeRow({ take }: { take: Take }) {
   const isActive = activeTake.value === take;
   const name = labelOf(take);
   const { frames, rate, objects, kind, unit } = take.info;
-  const told = `${objects.length} ${kind === "motion" ? "segments" : "markers"}, ${frames} frames`;
+  const told = `${countedObjects(objects.length, kind)}, ${counted(frames, "frame")}`;
   return (
     <li class={isActive ? "take active" : "take"}>
       <input
@@ -64,6 +65,7 @@ function rateText(rate: number): string {
 function OffsetField({ take, name }: { take: Take; name: string }) {
   const { rate } = take.info;
   if (!(rate > 0)) return null;
+  const later = Math.round(take.offset.value * rate);
   return (
     <label class="offset small quiet" title={`${take.offset.value.toFixed(3)} s later`}>
       begins
@@ -71,13 +73,13 @@ function OffsetField({ take, name }: { take: Take; name: string }) {
         type="number"
         step="1"
         aria-label={`Frames that ${name} begins later`}
-        value={Math.round(take.offset.value * rate)}
+        value={later}
         onInput={(event) => {
           const frames = event.currentTarget.valueAsNumber;
           if (Number.isFinite(frames)) take.offset.value = frames / rate;
         }}
       />
-      frames later
+      {nounOf(later, "frame")} later
     </label>
   );
 }

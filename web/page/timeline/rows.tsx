@@ -1,5 +1,6 @@
 import { effect, signal } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
+import { countedObjects } from "../logic/counted";
 import { scrollToRow } from "../logic/timeline_geometry";
 import { coarsePointer } from "../state/pointer";
 import { foundObjects } from "../state/rows";
@@ -37,7 +38,7 @@ export function Rows() {
   useEffect(() => effect(() => reveal(box.current)), []);
   const total = foundObjects.value.length * rowHeight();
   const take = activeTake.value;
-  const kind = take?.info.kind === "motion" ? "segments" : "markers";
+  const rows = countedObjects(foundObjects.value.length, take?.info.kind ?? "markers");
   const whose = take && areSeveral.value ? ` of ${labelOf(take, 80)}` : "";
   return (
     <div
@@ -53,7 +54,7 @@ export function Rows() {
           ref={canvas}
           class="rows-canvas"
           role="img"
-          aria-label={`Frames that hold the ${foundObjects.value.length} ${kind}${whose}`}
+          aria-label={`Frames that hold the ${rows}${whose}`}
           onPointerDown={(event) => {
             choose(event);
             scrub(event);

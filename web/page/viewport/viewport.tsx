@@ -1,10 +1,11 @@
 import { computed } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
+import { counted, countedObjects } from "../logic/counted";
 import { notify, wordsOf } from "../state/notices";
 import { asked, pickMode, pickNode, tell } from "../state/desk";
 import { nodeOf } from "../state/scene";
 import { deselect, hovered, isSame, select, type ObjectReference } from "../state/selection";
-import { activeTake, scene, seenTakes, takeByKey, working } from "../state/takes";
+import { activeTake, areSeveral, scene, seenTakes, takeByKey, working } from "../state/takes";
 import { activate, frame } from "../state/time";
 import { stage } from "./current_stage";
 import { drawnCount, Stage } from "./stage";
@@ -153,6 +154,8 @@ const colorsText = computed<string | undefined>(() => {
 function summary(): string {
   const take = activeTake.value;
   if (!take) return "The view: no take is open";
-  const kind = take.info.kind === "motion" ? "segments" : "markers";
-  return `The view: ${seenTakes.value.length} open, ${drawnCount.value} ${kind} and others seen`;
+  if (take.nodes) return `The view: ${counted(drawnCount.value, "node")} of the scene seen`;
+  const count = drawnCount.value;
+  const seen = areSeveral.value ? counted(count, "object") : countedObjects(count, take.info.kind);
+  return `The view: ${counted(seenTakes.value.length, "take")} open, ${seen} seen`;
 }

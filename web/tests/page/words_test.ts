@@ -1,5 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
+import { counted, countedObjects, nounOf } from "../../page/logic/counted";
 import {
   countBySeverity,
   distinctPlaces,
@@ -63,6 +64,12 @@ test("no key does two things, and each is told", () => {
 function finding(code: string, severity: Finding["severity"], places: Finding["places"]): Finding {
   return { code, severity, count: 1, text: "", cause: "", consequence: "", places };
 }
+
+test("what is one is told as one", () => {
+  assert.deepEqual([0, 1, 2].map((count) => counted(count, "gap")), ["0 gaps", "1 gap", "2 gaps"]);
+  assert.deepEqual([countedObjects(1, "motion"), countedObjects(41, "markers")], ["1 segment", "41 markers"]);
+  assert.equal(nounOf(-1, "frame"), "frames");
+});
 
 test("the worst findings come first, those of one weight in their order", () => {
   const findings = [
