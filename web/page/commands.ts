@@ -1,10 +1,9 @@
 import type { Command } from "./logic/key_map";
-import { neighborGap } from "./logic/gaps";
 import { openChosen } from "./panels/header";
 import { SEARCH_ID } from "./panels/objects_panel";
 import { keysShown } from "./state/layout";
-import { deselect, lastSelected } from "./state/selection";
-import { activeTake } from "./state/takes";
+import { goToFinding, goToGap } from "./state/places";
+import { deselect } from "./state/selection";
 import * as time from "./state/time";
 import { takeSuggestion } from "./state/work";
 import { follow, labels, nextTrails, toggleProjection } from "./state/view_options";
@@ -14,12 +13,13 @@ import { stage } from "./viewport/current_stage";
 
 const ORBIT_DEGREES = 15;
 
-function goToGap(direction: 1 | -1): void {
-  const take = activeTake.value;
-  const object = lastSelected.value;
-  if (!take || object?.take !== take.key) return;
-  const there = neighborGap(take.gaps, object.object, time.frame.value, direction);
-  if (there !== null) time.jumpTo(there);
+/** How much of what is seen, of its height or its frames, goes out of sight. */
+const VIEW_STEP = 0.1;
+const TIMELINE_STEP = 0.25;
+
+function panTimeline(steps: number): void {
+  const { first, end } = time.timelineView.value;
+  time.panTimeline(steps * TIMELINE_STEP * (end - first));
 }
 
 export const COMMANDS: Readonly<Record<Command, () => void>> = {
@@ -39,8 +39,12 @@ export const COMMANDS: Readonly<Record<Command, () => void>> = {
   "toggle-loop": () => (time.loop.value = !time.loop.value),
   "previous-gap": () => goToGap(-1),
   "next-gap": () => goToGap(1),
+  "previous-finding": () => goToFinding(-1),
+  "next-finding": () => goToFinding(1),
   "zoom-in": () => time.zoomTimeline(1.5),
   "zoom-out": () => time.zoomTimeline(1 / 1.5),
+  "timeline-back": () => panTimeline(-1),
+  "timeline-on": () => panTimeline(1),
   fit: () => stage.value?.fit(),
   follow: () => (follow.value = !follow.value),
   projection: toggleProjection,
@@ -55,6 +59,10 @@ export const COMMANDS: Readonly<Record<Command, () => void>> = {
   "orbit-down": () => stage.value?.eye.orbit(0, -ORBIT_DEGREES),
   "view-closer": () => stage.value?.eye.zoom(1.25),
   "view-wider": () => stage.value?.eye.zoom(1 / 1.25),
+  "shift-left": () => stage.value?.eye.pan(-VIEW_STEP, 0),
+  "shift-right": () => stage.value?.eye.pan(VIEW_STEP, 0),
+  "shift-up": () => stage.value?.eye.pan(0, VIEW_STEP),
+  "shift-down": () => stage.value?.eye.pan(0, -VIEW_STEP),
   deselect,
   "take-suggestion": takeSuggestion,
   search: () => document.getElementById(SEARCH_ID)?.focus(),

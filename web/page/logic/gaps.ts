@@ -1,3 +1,5 @@
+import type { Direction } from "./take_time";
+
 /** Gaps of many objects: triples (object, first, last frame), rising by object and then by frame. */
 
 export interface GapIndex {
@@ -48,7 +50,7 @@ export function neighborGap(
   index: GapIndex,
   object: number,
   frame: number,
-  direction: 1 | -1,
+  direction: Direction,
 ): number | null {
   let found: number | null = null;
   const end = index.starts[object + 1] ?? 0;

@@ -17,6 +17,10 @@ export type Command =
   | "toggle-loop"
   | "previous-gap"
   | "next-gap"
+  | "previous-finding"
+  | "next-finding"
+  | "timeline-back"
+  | "timeline-on"
   | "fit"
   | "follow"
   | "projection"
@@ -33,6 +37,10 @@ export type Command =
   | "orbit-down"
   | "view-closer"
   | "view-wider"
+  | "shift-left"
+  | "shift-right"
+  | "shift-up"
+  | "shift-down"
   | "deselect"
   | "search"
   | "take-suggestion"
@@ -77,10 +85,14 @@ export const SECTIONS: readonly Section[] = [
       { command: "set-out", keys: ["o"], what: "Out point here" },
       { command: "clear-span", keys: ["x"], what: "No in and out points" },
       { command: "toggle-loop", keys: ["r"], what: "Loop or play once" },
-      { command: "previous-gap", keys: ["["], what: "To the gap before" },
-      { command: "next-gap", keys: ["]"], what: "To the next gap" },
+      { command: "previous-gap", keys: ["["], what: "To the gap before, of what is selected or of all" },
+      { command: "next-gap", keys: ["]"], what: "To the next gap, of what is selected or of all" },
+      { command: "previous-finding", keys: ["q"], what: "To the finding before" },
+      { command: "next-finding", keys: ["e"], what: "To the next finding" },
       { command: "zoom-in", keys: ["+", "="], what: "Timeline closer" },
       { command: "zoom-out", keys: ["-"], what: "Timeline wider" },
+      { command: "timeline-back", keys: ["Ctrl+ArrowLeft"], what: "Timeline back" },
+      { command: "timeline-on", keys: ["Ctrl+ArrowRight"], what: "Timeline on" },
     ],
   },
   {
@@ -100,6 +112,10 @@ export const SECTIONS: readonly Section[] = [
       { command: "orbit-down", keys: ["2"], what: "Around, lower" },
       { command: "view-closer", keys: ["PageUp"], what: "Closer" },
       { command: "view-wider", keys: ["PageDown"], what: "Farther away" },
+      { command: "shift-left", keys: ["a"], what: "Shift to the left" },
+      { command: "shift-right", keys: ["d"], what: "Shift to the right" },
+      { command: "shift-up", keys: ["w"], what: "Shift up" },
+      { command: "shift-down", keys: ["s"], what: "Shift down" },
     ],
   },
   {
@@ -139,17 +155,17 @@ const SHOWN: Readonly<Record<string, string>> = {
   " ": "Space",
   ArrowLeft: "←",
   ArrowRight: "→",
-  "Shift+ArrowLeft": "Shift ←",
-  "Shift+ArrowRight": "Shift →",
   Escape: "Esc",
 };
 
 export function keyText(key: string): string {
-  return (
-    SHOWN[key] ?? key.replace("+", key.length > 1 ? " " : "+").replace(/^[a-z]$| [a-z]$/, upper)
-  );
+  const [, held = "", last] = /^(?:(.+)\+)?(.+)$/.exec(key) ?? ["", "", key];
+  const text = SHOWN[last] ?? (last.length === 1 ? last.toUpperCase() : last);
+  return held ? `${held} ${text}` : text;
 }
 
-function upper(text: string): string {
-  return text.toUpperCase();
+/** What a command does and its key, as buttons tell it. */
+export function titleOf(command: Command): string {
+  const binding = SECTIONS.flatMap(({ bindings }) => bindings).find((each) => each.command === command);
+  return binding ? `${binding.what} (${keyText(binding.keys[0])})` : "";
 }

@@ -30,6 +30,19 @@ export function clampFrame(frame: number, frames: number): number {
   return Math.min(Math.max(Math.round(frame), 0), Math.max(frames - 1, 0));
 }
 
+/** Backward or forward. */
+export type Direction = -1 | 1;
+
+/** Of some frames the nearest one before or after a frame; nothing where there is none. */
+export function neighborOf(frames: readonly number[], frame: number, direction: Direction): number | null {
+  let nearest: number | null = null;
+  for (const other of frames) {
+    const isBeyond = (other - frame) * direction > 0;
+    if (isBeyond && (nearest === null || (nearest - other) * direction > 0)) nearest = other;
+  }
+  return nearest;
+}
+
 /** Seconds with as many digits as tell neighboring frames apart. */
 export function secondsText(seconds: number): string {
   return `${seconds.toFixed(3)} s`;

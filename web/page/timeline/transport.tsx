@@ -1,8 +1,10 @@
+import { titleOf } from "../logic/key_map";
 import { SPEEDS } from "../logic/playback";
 import { secondsText } from "../logic/take_time";
 import { Choice } from "../widgets/choice";
 import { Icon, type IconName } from "../widgets/icon";
 import { bottomTab, type BottomTab } from "../state/layout";
+import { goToFinding, goToGap, hasGaps, hasMarks } from "../state/places";
 import { activeTake } from "../state/takes";
 import * as time from "../state/time";
 
@@ -41,6 +43,7 @@ export function Transport() {
       <SpeedChoice />
       <FrameField />
       <SpanButtons />
+      <PlaceButtons />
       <span class="spring" />
       <Choice<"frames" | "seconds">
         label="Scale"
@@ -63,13 +66,38 @@ interface ButtonProperties {
   icon: IconName;
   title: string;
   press: () => void;
+  disabled?: boolean;
 }
 
-function Button({ icon, title, press }: ButtonProperties) {
+function Button({ icon, title, press, disabled }: ButtonProperties) {
+  const name = title.replace(/ \(.*/, "");
   return (
-    <button class="icon" title={title} aria-label={title.replace(/ \(.*/, "")} onClick={press}>
+    <button class="icon" title={title} aria-label={name} disabled={disabled} onClick={press}>
       <Icon name={icon} />
     </button>
+  );
+}
+
+function PlaceButtons() {
+  const areNoGaps = !hasGaps.value;
+  const areNoMarks = !hasMarks.value;
+  return (
+    <span class="group">
+      <Button icon="gapBefore" title={titleOf("previous-gap")} disabled={areNoGaps} press={() => goToGap(-1)} />
+      <Button icon="gapAfter" title={titleOf("next-gap")} disabled={areNoGaps} press={() => goToGap(1)} />
+      <Button
+        icon="findingBefore"
+        title={titleOf("previous-finding")}
+        disabled={areNoMarks}
+        press={() => goToFinding(-1)}
+      />
+      <Button
+        icon="findingAfter"
+        title={titleOf("next-finding")}
+        disabled={areNoMarks}
+        press={() => goToFinding(1)}
+      />
+    </span>
   );
 }
 

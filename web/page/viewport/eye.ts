@@ -99,6 +99,21 @@ export class Eye {
     this.place(direction, this.distance / factor);
   }
 
+  /** Goes along to the right and up, by parts of the height that is seen. */
+  pan(across: number, upward: number): void {
+    const height = this.seenHeight();
+    const right = new Vector3().setFromMatrixColumn(this.camera.matrixWorld, 0);
+    const up = new Vector3().setFromMatrixColumn(this.camera.matrixWorld, 1);
+    const by = right.multiplyScalar(across * height).addScaledVector(up, upward * height);
+    this.shift(by.x, by.y, by.z);
+  }
+
+  private seenHeight(): number {
+    const { camera } = this;
+    if (camera instanceof OrthographicCamera) return (camera.top - camera.bottom) / camera.zoom;
+    return 2 * this.distance * Math.tan((FIELD_DEGREES / 2) * (Math.PI / 180));
+  }
+
   private place(direction: Vector3, distance: number): void {
     this.camera.position.copy(this.target).addScaledVector(direction, distance);
     this.orthogonal.zoom = 1;

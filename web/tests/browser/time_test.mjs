@@ -3,6 +3,7 @@
 import assert from "node:assert/strict";
 import path from "node:path";
 import { test } from "node:test";
+import { asFile, markerFile } from "./takes.mjs";
 import { EXAMPLES, inWorkbench, useBrowser } from "./workbench.mjs";
 
 useBrowser();
@@ -111,4 +112,60 @@ test("all keys are shown on ?", () =>
     await dialog.getByText("Play or stop").waitFor();
     await press("Escape");
     await dialog.waitFor({ state: "hidden" });
+  }));
+
+// Of 60 frames: `one` has gaps from 10 and 30 on, `two` from 20 on, and is unreadable in frame 40.
+const GAPPY = markerFile(["one", "two", "three"], 60, (frame, marker) => {
+  const isGap = marker === 0 ? frame % 20 === 10 : marker === 1 && frame === 20;
+  if (isGap && frame < 40) return ["", "", ""];
+  return marker === 1 && frame === 40 ? ["bad", 1, 0] : [frame, 100 * marker, 0];
+});
+
+test("buttons go to gaps and findings", () =>
+  inWorkbench(async (workbench) => {
+    await workbench.open(asFile("gappy.trc", GAPPY));
+    await workbench.waitForTakes(1);
+    await workbench.finding("trc-number-unreadable").waitFor();
+    const next = workbench.button("To the next gap, of what is selected or of all");
+    for (const frame of [10, 20, 30]) {
+      await next.click();
+      await workbench.waitForFrame(frame);
+    }
+    await workbench.objects.filter({ hasText: "two" }).click();
+    await workbench.button("To the gap before, of what is selected or of all").click();
+    await workbench.waitForFrame(20);
+    await workbench.objects.filter({ hasText: "three" }).click();
+    assert.ok(await next.isDisabled());
+    await workbench.button("To the next finding").click();
+    await workbench.waitForFrame(40);
+    const marked = workbench.objects.filter({ hasText: "two" });
+    assert.equal(await marked.getAttribute("aria-selected"), "true");
+    await workbench.page.keyboard.press("End");
+    await workbench.page.keyboard.press("q");
+    await workbench.waitForFrame(40);
+  }));
+
+test("without a finding there is none to go to", () =>
+  withWalk((workbench) => workbench.page.locator('[aria-label="To the next finding"]:disabled').waitFor()));
+
+test("keys shift the view, and the timeline when that is closer", () =>
+  withWalk(async (workbench, press) => {
+    const pixels = async (element) => Buffer.from(await element.screenshot()).toString("base64");
+    const begin = await pixels(workbench.view);
+    await press("d");
+    await workbench.drawn();
+    assert.notEqual(await pixels(workbench.view), begin);
+    await press("a");
+    await workbench.drawn();
+    const ruler = workbench.page.getByRole("slider", { name: "Time" });
+    for (let times = 0; times < 4; ++times) await press("+");
+    const closer = await pixels(ruler);
+    await press("Control+ArrowRight");
+    await workbench.drawn();
+    const along = await pixels(ruler);
+    assert.notEqual(along, closer);
+    await press("Control+ArrowLeft");
+    await workbench.drawn();
+    assert.equal(await pixels(ruler), closer);
+    assert.equal(await workbench.frame(), 0);
   }));

@@ -8,7 +8,7 @@ import {
   placeText,
   worstFirst,
 } from "../../page/logic/finding_groups";
-import { commandOf, keyText, SECTIONS } from "../../page/logic/key_map";
+import { commandOf, keyText, SECTIONS, titleOf } from "../../page/logic/key_map";
 import { markColumn } from "../../page/logic/line_parts";
 import { depths, searchNames } from "../../page/logic/object_search";
 import { OUTPUTS, outputName, outputVerb } from "../../page/logic/outputs";
@@ -41,7 +41,10 @@ test("keys do what animators expect of them", () => {
     [press("o", { metaKey: true }), "open"],
     [press("f", { ctrlKey: true }), null],
     [press("f", { altKey: true }), null],
-    [press("q"), null],
+    [press("q"), "previous-finding"],
+    [press("ArrowRight", { ctrlKey: true }), "timeline-on"],
+    [press("W", { shiftKey: true }), "shift-up"],
+    [press("z"), null],
   ];
   for (const [event, expected] of cases) assert.equal(commandOf(event), expected, event.key);
 });
@@ -51,14 +54,17 @@ test("no key does two things, and each is told", () => {
   const keys = bindings.flatMap((binding) => binding.keys);
   assert.equal(new Set(keys).size, keys.length);
   assert.ok(bindings.every(({ what }) => what.length > 0));
-  assert.deepEqual([" ", "f", "ArrowLeft", "Ctrl+o", "+", "Shift+ArrowRight"].map(keyText), [
+  assert.deepEqual([" ", "f", "ArrowLeft", "Ctrl+o", "+", "Shift+ArrowRight", "Ctrl+ArrowLeft", "PageUp"].map(keyText), [
     "Space",
     "F",
     "←",
     "Ctrl O",
     "+",
     "Shift →",
+    "Ctrl ←",
+    "PageUp",
   ]);
+  assert.equal(titleOf("next-finding"), "To the next finding (E)");
 });
 
 function finding(code: string, severity: Finding["severity"], places: Finding["places"]): Finding {
