@@ -1,18 +1,23 @@
 #include "cli/common/file_kind.h"
 
 #include <CLI/CLI.hpp>
+#include <string_view>
 
 #include "cli/common/choice.h"
 #include "host/application/extension_match.h"
 
 namespace cli {
 
-FileKind KindOf(const std::string& name) {
+std::optional<FileKind> FindNamedKind(const std::string& name) {
   constexpr std::size_t kLength = 4;
-  if (name.size() < kLength) return FileKind::kHtr;
+  if (name.size() < kLength) return std::nullopt;
   const std::string_view ending = std::string_view(name).substr(name.size() - kLength);
-  return host::SameButForCase(ending, ".trc") ? FileKind::kTrc : FileKind::kHtr;
+  if (host::SameButForCase(ending, ".trc")) return FileKind::kTrc;
+  if (host::SameButForCase(ending, ".htr")) return FileKind::kHtr;
+  return std::nullopt;
 }
+
+FileKind KindOf(const std::string& name) { return FindNamedKind(name).value_or(FileKind::kHtr); }
 
 const char* ExtensionOf(FileKind kind) { return kind == FileKind::kTrc ? "TRC" : "HTR"; }
 

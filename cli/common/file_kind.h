@@ -13,7 +13,10 @@ namespace cli {
 
 enum class FileKind { kHtr, kTrc };
 
-// The kind of the file `name`: TRC by its extension in either case, otherwise HTR.
+// The kind that the extension of the file `name` says, in either case; nothing for any other.
+[[nodiscard]] std::optional<FileKind> FindNamedKind(const std::string& name);
+
+// The same, and HTR for any other.
 [[nodiscard]] FileKind KindOf(const std::string& name);
 
 // The extension as classes of the plug-in give it: "HTR".

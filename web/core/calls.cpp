@@ -18,6 +18,7 @@
 #include "web/core/file_lines.h"
 #include "web/core/program_run.h"
 #include "web/core/take.h"
+#include "web/core/take_kind.h"
 #include "web/core/told_findings.h"
 
 // What JavaScript calls. Each call but the last ones returns 1, or 0 when it failed, and leaves its
@@ -88,6 +89,14 @@ Answer TellLine(int id, int number, int column) {
 // The names are those in JavaScript.
 // NOLINTBEGIN(readability-identifier-naming)
 extern "C" {
+
+// What the file `path` is: the answer is "htr" or "trc".
+EMSCRIPTEN_KEEPALIVE int orvane_kind(const char* path) {
+  return web::AnswerBy([path] {
+    const bool is_trc = web::FindTakeKind(path) == cli::FileKind::kTrc;
+    return web::Answer{false, is_trc ? "trc" : "htr", {}};
+  });
+}
 
 // Opens the file `path` as take `id`, in place of the one that has that number.
 EMSCRIPTEN_KEEPALIVE int orvane_open(int id, const char* path) {

@@ -10,6 +10,7 @@ import type {
   CoreFailure,
   CurveOf,
   Description,
+  Ending,
   Findings,
   LineText,
   Opened,
@@ -39,6 +40,11 @@ function errorFor(failure: CoreFailure): Error & CoreFailure {
   return Object.assign(new Error(failure.message), failure);
 }
 
+/** The name, with what tells the program and the plug-in what the file is. */
+function nameWithEnding(name: string, ending: Ending): string {
+  return name.toLowerCase().endsWith(`.${ending}`) ? name : `${name}.${ending}`;
+}
+
 export class Core implements CoreApi {
   private worker: Worker;
   private readonly calls = new Map<number, Call>();
@@ -62,10 +68,10 @@ export class Core implements CoreApi {
     const file = bytes instanceof Blob ? bytes : new Blob([bytes]);
     requireRoom(file.size);
     const id = ++this.lastTake;
-    const path = pathFor(name, [...this.files.values()].map((each) => each.path));
-    this.files.set(id, { path, file });
-    this.post({ do: "keep", take: id, path, file });
+    this.keep(id, name, file);
     try {
+      const ending = (await this.ask({ do: "kind", take: id })) as Ending;
+      const path = this.keep(id, nameWithEnding(name, ending), file);
       const asked = await this.ask({ do: "open", take: id });
       const { info, tracks } = asked as { info: Description; tracks: Tracks };
       return { info: { ...info, id, name, path, bytes: file.size }, tracks };
@@ -117,6 +123,15 @@ export class Core implements CoreApi {
   end(): void {
     this.worker.terminate();
     this.rejectAll();
+  }
+
+  /** Has the worker know a take's file by this name, or a path that ends with it. */
+  private keep(take: number, name: string, file: Blob): string {
+    const others = [...this.files].filter(([id]) => id !== take);
+    const path = pathFor(name, others.map(([, other]) => other.path));
+    this.files.set(take, { path, file });
+    this.post({ do: "keep", take, path, file });
+    return path;
   }
 
   private begin(): Worker {

@@ -5,6 +5,7 @@ import type {
   Action,
   CurveOf,
   Description,
+  Ending,
   Findings,
   LineText,
   RunResult,
@@ -65,6 +66,12 @@ export class CoreInstance {
 
   remove(path: string): void {
     this.folder.remove(path);
+  }
+
+  /** What the file is by its first lines, or else by its name. */
+  kindOf(path: string): Ending {
+    this.withTexts([path], (first) => this.require(this.module._orvane_kind(first)));
+    return this.text() as Ending;
   }
 
   open(id: number, path: string): { info: Description; tracks: Tracks } {

@@ -26,6 +26,7 @@ declare module "orvane-core" {
     Asyncify: { currData: number | null; whenDone(): Promise<number> };
     _malloc(size: number): number;
     _free(address: number): void;
+    _orvane_kind(path: number): number;
     _orvane_open(id: number, path: number): number;
     _orvane_curve(id: number, object: number, what: number): number;
     _orvane_findings(id: number, action: number): number;

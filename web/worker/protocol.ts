@@ -6,12 +6,15 @@
 
 export type Kind = "motion" | "markers";
 
+/** How the names of files end that hold the one or the other. */
+export type Ending = "htr" | "trc";
+
 export interface TakeInfo {
   id: number;
   kind: Kind;
   /** The file's name as it was given. */
   name: string;
-  /** What the program's verbs call it: the name, or with a folder before it where another has that name. */
+  /** What the program's verbs call it: the name, with an ending that says what the file is, and with a folder before it where another has that name. */
   path: string;
   bytes: number;
   objects: string[];
@@ -131,7 +134,7 @@ export interface CoreFailure {
 
 export interface CoreApi {
   /**
-   * Opens the file `name`. Bytes are given away; a file of the page is read when it is needed. Calls may be
+   * Opens the file `name` as what its first lines show it to be, or else its name. Bytes are given away; a file of the page is read when it is needed. Calls may be
    * made at any time: they are answered one after the other.
    */
   open(name: string, bytes: ArrayBuffer | Blob): Promise<Opened>;
@@ -162,6 +165,7 @@ export type Order =
 
 /** What it is asked, one thing after the other. */
 export type Question =
+  | { do: "kind"; take: number }
   | { do: "open"; take: number }
   | { do: "curve"; take: number; object: number; of: CurveOf }
   | { do: "findings"; take: number; action: Action }

@@ -61,15 +61,31 @@ async function theCore(): Promise<CoreInstance> {
   return (core ??= await CoreInstance.make(compiled));
 }
 
-async function open(take: number): Promise<Reply> {
+async function kindOf(take: number): Promise<Reply> {
+  const { path, bytes } = await fileOf(take);
+  const instance = await theCore();
+  instance.put({ path, bytes });
   try {
-    const file = await fileOf(take);
-    const instance = await theCore();
-    instance.put(file);
-    const { info, tracks } = instance.open(take, file.path);
-    opened.add(take);
-    const arrays = [info.coverage, info.gaps, tracks.positions, ...(tracks.ends ? [tracks.ends] : [])];
-    return { value: { info, tracks }, transfer: arrays.map(({ buffer }) => buffer as ArrayBuffer) };
+    return { value: instance.kindOf(path), transfer: [] };
+  } finally {
+    instance.remove(path);
+  }
+}
+
+async function open(take: number): Promise<Reply> {
+  const file = await fileOf(take);
+  const instance = await theCore();
+  instance.put(file);
+  const { info, tracks } = instance.open(take, file.path);
+  opened.add(take);
+  const arrays = [info.coverage, info.gaps, tracks.positions, ...(tracks.ends ? [tracks.ends] : [])];
+  return { value: { info, tracks }, transfer: arrays.map(({ buffer }) => buffer as ArrayBuffer) };
+}
+
+/** What takes more memory than there is, is told with the size of the file. */
+async function sized(take: number, reading: Promise<Reply>): Promise<Reply> {
+  try {
+    return await reading;
   } catch (error) {
     throw failureForSize(error, keptOf(take).file.size);
   }
@@ -78,7 +94,7 @@ async function open(take: number): Promise<Reply> {
 // Takes of a worker that was begun anew are opened when they are asked about.
 async function coreWith(take: number): Promise<CoreInstance> {
   keptOf(take);
-  if (!opened.has(take)) await open(take);
+  if (!opened.has(take)) await sized(take, open(take));
   return theCore();
 }
 
@@ -102,8 +118,10 @@ async function run(verb: string[], inputs: number[]): Promise<Reply> {
 
 async function answer(question: Question): Promise<Reply> {
   switch (question.do) {
+    case "kind":
+      return sized(question.take, kindOf(question.take));
     case "open":
-      return open(question.take);
+      return sized(question.take, open(question.take));
     case "curve": {
       const { take, object, of } = question;
       const curve = (await coreWith(take)).curve(take, object, of);
@@ -151,7 +169,7 @@ function take(request: Request): void {
   } else if (request.do === "start") {
     compiled = request.module;
   } else if (request.do === "keep") {
-    takes.set(request.take, { path: request.path, file: request.file });
+    takes.set(request.take, { ...takes.get(request.take), path: request.path, file: request.file });
   } else {
     cancelAsked = true;
   }

@@ -42,6 +42,36 @@ test("two takes of one name are told apart by their paths", async () => {
   await core.close(second.info.id);
 });
 
+for (const [name, content, kind, path] of [
+  ["marks.txt", "walk.trc", "markers", "marks.txt.trc"],
+  ["marks", "walk.trc", "markers", "marks.trc"],
+  ["MARKS.TRC", "walk.trc", "markers", "MARKS.TRC"],
+  ["marks.htr", "walk.trc", "markers", "marks.htr.trc"],
+  ["bones.txt", "walk.htr", "motion", "bones.txt.htr"],
+  ["bones.trc", "walk.htr", "motion", "bones.trc.htr"],
+]) {
+  test(`${content} is read as what it is under the name ${name}, and taken so by the program`, async () => {
+    const { info } = await core.open(name, new Blob([example(content)]));
+    assert.deepEqual([info.name, info.kind, info.path], [name, kind, path]);
+    const told = await core.findings(info.id, "import");
+    assert.equal(JSON.parse(told.json).files[0].file, path);
+    const { status, err, files } = await core.run(["import", path, "-o", "made.glb"], [info.id]);
+    assert.deepEqual([status, files.map((file) => file.name)], [0, ["made.glb"]], err);
+    await core.close(info.id);
+  });
+}
+
+for (const [name, text, message] of [
+  ["notes.txt", "some notes\n", /^Neither its name nor its first lines say what it is/],
+  ["notes", "", /^The file is empty/],
+  ["takes.txt", "PK\x03\x04 and more", /^The file is a zip archive, not an HTR file\. Unpack it first\.$/],
+  ["takes.trc", "HIERARCHY\nROOT Hips\n", /^The file is a BVH file, not a TRC file\./],
+]) {
+  test(`${name} is refused in words that say why`, async () => {
+    await assert.rejects(core.open(name, new Blob([text])), { name: "CoreError", message });
+  });
+}
+
 test("what is cancelled without a bar ends with the worker, and takes stay open", async () => {
   const { info } = await core.open("walk.htr", walk());
   const begun = workersBegun();
