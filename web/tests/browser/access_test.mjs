@@ -5,7 +5,7 @@ import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
 import path from "node:path";
 import { test } from "node:test";
-import { atWork } from "./desk.mjs";
+import { atWork, chooseMapping } from "./desk.mjs";
 import { EXAMPLES, inWorkbench, ROOT, useBrowser } from "./workbench.mjs";
 
 useBrowser();
@@ -68,6 +68,47 @@ for (const look of ["dark", "light"]) {
       await workbench.page.keyboard.press("Enter");
       await desk.waitForAsked("LBHD");
       assert.deepEqual(await seriousFaults(workbench), [], "a mapping");
+    }));
+}
+
+for (const look of ["dark", "light"]) {
+  test(`an export, what the plug-in is, and choices of files have no serious fault, ${look}`, () =>
+    atWork([path.join(EXAMPLES, "walk.htr"), path.join(EXAMPLES, "walk.trc")], async (desk) => {
+      const { workbench, page } = desk;
+      const requireNone = async (what) => assert.deepEqual(await seriousFaults(workbench), [], what);
+      if (look === "light") await workbench.button("Dark / light").click();
+      await desk.button("About…").click();
+      await desk.dialog("About...").waitFor();
+      await requireNone("About");
+      await page.keyboard.press("Escape");
+      await desk.dialog("About...").waitFor({ state: "hidden" });
+      await desk.importAsItComes("walk.htr", "ImportHTR", 22);
+      await desk.button("Export HTR…").click();
+      await requireNone("the name of a file");
+      await desk.dialog("Export the selected skeleton").getByRole("button", { name: "OK" }).click();
+      await desk.dialog("ExportHTR").waitFor();
+      await requireNone("ExportHTR");
+      await desk.dialog("ExportHTR").getByRole("button", { name: "OK", exact: true }).click();
+      await desk.message("Export Error").waitFor();
+      await requireNone("a message");
+      await desk.message("Export Error").getByRole("button", { name: "OK" }).click();
+      await desk.waitForRest();
+      await desk.openPanel();
+      await requireNone("the panel");
+      await desk.panel.getByRole("button", { name: "Browse... BVK Output Folder" }).click();
+      await desk.dialog("Choose BVK Files Destination Folder...").waitFor();
+      await requireNone("a choice of a folder");
+      await page.keyboard.press("Escape");
+      await desk.panel.getByRole("button", { name: "Browse... MNM Mapping File" }).click();
+      await desk.dialog("Select Mapping File...").waitFor();
+      await requireNone("a choice without files");
+      await page.keyboard.press("Escape");
+      await chooseMapping(desk, path.join(EXAMPLES, "walk.mnm"));
+      await desk.panel.getByRole("button", { name: "Convert TRC to BVK" }).click();
+      const choice = desk.dialog("Select Source TRC Files...");
+      await choice.getByLabel("walk.trc", { exact: true }).click();
+      await choice.getByRole("region", { name: "What becomes of walk.trc" }).getByText("trc-marker-gaps").waitFor();
+      await requireNone("a choice of files");
     }));
 }
 

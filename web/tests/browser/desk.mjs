@@ -2,6 +2,7 @@
 
 import assert from "node:assert/strict";
 import { readFileSync } from "node:fs";
+import path from "node:path";
 import { inWorkbench } from "./workbench.mjs";
 
 const LONG = 60_000;
@@ -179,4 +180,18 @@ export function atWork(files, work, options) {
     await desk.waitForRest();
     await work(desk);
   }, options);
+}
+
+/** Chooses the mapping of this path on the panel. */
+export async function chooseMapping(desk, file) {
+  await desk.panel.getByRole("button", { name: "Browse... MNM Mapping File" }).click();
+  const choice = desk.dialog("Select Mapping File...");
+  const chosen = desk.page.waitForEvent("filechooser");
+  await choice.getByRole("button", { name: "From this machine…" }).click();
+  await (await chosen).setFiles(file);
+  await choice.getByRole("button", { name: "Choose" }).and(choice.locator(":enabled")).click();
+  await desk.page.waitForFunction(
+    (name) => document.querySelector('[data-control="1137"]')?.value.endsWith(name),
+    path.basename(file),
+  );
 }

@@ -4,7 +4,7 @@ import assert from "node:assert/strict";
 import path from "node:path";
 import { test } from "node:test";
 import { unzipSync } from "fflate";
-import { atWork } from "./desk.mjs";
+import { atWork, chooseMapping } from "./desk.mjs";
 import { asFile, WALK_TRC } from "./takes.mjs";
 import { EXAMPLES, useBrowser } from "./workbench.mjs";
 
@@ -14,17 +14,6 @@ const MAPPING = path.join(EXAMPLES, "walk.mnm");
 const TAKES = ["a", "b", "c"].map((name) => asFile(`${name}.trc`, WALK_TRC));
 
 const text = (bytes) => Buffer.from(bytes).toString("latin1");
-
-async function chooseMapping(desk) {
-  await desk.panel.getByRole("button", { name: "Browse... MNM Mapping File" }).click();
-  const choice = desk.dialog("Select Mapping File...");
-  const chosen = desk.page.waitForEvent("filechooser");
-  await choice.getByRole("button", { name: "From this machine…" }).click();
-  await (await chosen).setFiles(MAPPING);
-  await choice.getByRole("button", { name: "Choose" }).and(choice.locator(":enabled")).click();
-  await desk.page.waitForFunction(
-    () => document.querySelector('[data-control="1137"]')?.value.endsWith("walk.mnm"));
-}
 
 async function chooseFolder(desk, name) {
   await desk.panel.getByRole("button", { name: "Browse... BVK Output Folder" }).click();
@@ -44,7 +33,7 @@ async function chooseTakes(desk, choose) {
 test("many takes are converted, and handed out as one archive with the log", () =>
   atWork(TAKES, async (desk) => {
     await desk.openPanel();
-    await chooseMapping(desk);
+    await chooseMapping(desk, MAPPING);
     await chooseFolder(desk, "monday");
     await desk.panel.getByLabel("Batch File Conversion").click();
     await desk.waitUntil(desk.panel, "Use TRC Filename", ":disabled");
@@ -82,7 +71,7 @@ test("of two takes of one name both are converted, each to a file of its own", (
 test("one take is converted as itself, and what is none is refused by the plug-in", () =>
   atWork(TAKES[0], async (desk) => {
     await desk.openPanel();
-    await chooseMapping(desk);
+    await chooseMapping(desk, MAPPING);
     await chooseTakes(desk, async (choice) => {
       const chosen = desk.page.waitForEvent("filechooser");
       await choice.getByRole("button", { name: "From this machine…" }).click();

@@ -44,12 +44,16 @@ function differenceOf(first, second, place) {
   return "";
 }
 
-function recordsDiffer(first, second) {
-  const lines = (bytes) => new TextDecoder().decode(bytes).trimEnd().split("\n");
-  const [ours, theirs] = [lines(first), lines(second)];
+function recordsOf(bytes, ignored) {
+  const lines = new TextDecoder().decode(bytes).trimEnd().split("\n");
+  return lines.map((line) => JSON.parse(line, (name, value) => (ignored.includes(name) ? undefined : value)));
+}
+
+function recordsDiffer(first, second, ignored) {
+  const [ours, theirs] = [recordsOf(first, ignored), recordsOf(second, ignored)];
   if (ours.length !== theirs.length) return "the record has other lines";
-  for (const [index, line] of ours.entries()) {
-    const found = differenceOf(JSON.parse(line), JSON.parse(theirs[index]), `record ${index}`);
+  for (const [index, record] of ours.entries()) {
+    const found = differenceOf(record, theirs[index], `record ${index}`);
     if (found) return found;
   }
   return "";
@@ -72,10 +76,11 @@ function withoutPlaces(json) {
   return copy;
 }
 
-/** Why two files are not the same scene; an empty text when they are. */
-export function sceneDifference(first, second) {
+/** Why two files are not the same scene, but for members of the record; an empty text when they are. */
+export function sceneDifference(first, second, ignored = []) {
   if (Buffer.compare(first, second) === 0) return "";
-  const [ours, theirs] = [partsOf(first), partsOf(second)];
+  // Slices of a Buffer are none of their own.
+  const [ours, theirs] = [first, second].map((bytes) => partsOf(new Uint8Array(bytes)));
   if (JSON.stringify(withoutPlaces(ours.json)) !== JSON.stringify(withoutPlaces(theirs.json))) {
     return differenceOf(withoutPlaces(ours.json), withoutPlaces(theirs.json), "json") || "the JSON differs";
   }
@@ -84,7 +89,7 @@ export function sceneDifference(first, second) {
   for (const index of (ours.json.bufferViews ?? []).keys()) {
     const pair = [viewOf(ours, index), viewOf(theirs, index)];
     const differ = index === kept.scene ? recordsDiffer : index === angles ? anglesDiffer : bytesDiffer;
-    const found = differ(...pair);
+    const found = differ(...pair, ignored);
     if (found) return `view ${index}: ${found}`;
   }
   return "";
