@@ -5,7 +5,7 @@ export interface Points {
   readonly outPoint: number | null;
 }
 
-/** Nothing where there are no points. */
+/** Nothing where there are no points, or none of the frames lies between them. */
 export function rangeOf(
   { inPoint, outPoint }: Points,
   frames: number,
@@ -13,7 +13,8 @@ export function rangeOf(
 ): [number, number] | undefined {
   if (frames < 1 || (inPoint === null && outPoint === null)) return undefined;
   const last = frames - 1;
-  const from = Math.min(inPoint ?? 0, last);
+  if ((inPoint ?? 0) > last || (outPoint ?? last) < 0) return undefined;
+  const from = Math.max(inPoint ?? 0, 0);
   const to = Math.max(from, Math.min(outPoint ?? last, last));
   return [from + firstFrame, to + firstFrame];
 }

@@ -1,3 +1,5 @@
+import type { View } from "./timeline_geometry";
+
 /** How the frames of several takes lie over each other: each has its own rate, and may begin later. */
 
 export interface Clock {
@@ -25,9 +27,26 @@ export function placeIn(active: Clock, other: Clock, place: number): number {
   return (secondsOf(other, place) + other.offset - active.offset) * active.rate;
 }
 
-export function clampFrame(frame: number, frames: number): number {
-  if (!Number.isFinite(frame)) return 0;
-  return Math.min(Math.max(Math.round(frame), 0), Math.max(frames - 1, 0));
+const ROUNDING = 1e-6;
+
+/**
+ * The frames of `active` from the first to the last moment of all takes, at least one: those before its own are
+ * negative. A take without a rate has no moments but its own.
+ */
+export function reachOf(active: Clock, takes: readonly Clock[]): View {
+  let first = 0;
+  let end = Math.max(active.frames, 1);
+  for (const take of takes) {
+    if (!(active.rate > 0 && take.rate > 0 && take.frames > 0)) continue;
+    first = Math.min(first, Math.floor(placeIn(active, take, 0) + 1 - ROUNDING));
+    end = Math.max(end, Math.floor(placeIn(active, take, take.frames - 1) + 1 + ROUNDING));
+  }
+  return { first, end };
+}
+
+export function clampFrame(frame: number, { first, end }: View): number {
+  if (!Number.isFinite(frame)) return Math.max(first, 0);
+  return Math.min(Math.max(Math.round(frame), first), end - 1);
 }
 
 /** Backward or forward. */

@@ -16,8 +16,8 @@ export interface Area {
 
 const FEWEST_FRAMES = 4;
 
-export function wholeView(frames: number): View {
-  return { first: 0, end: Math.max(frames, 1) };
+export function lengthOf({ first, end }: View): number {
+  return end - first;
 }
 
 export function xOfFrame(frame: number, view: View, area: Area): number {
@@ -29,33 +29,35 @@ export function frameOfX(x: number, view: View, area: Area): number {
   return view.first + ((x - area.left) / area.width) * (view.end - view.first);
 }
 
-/** Keeps a view within the frames, at its length where that fits. */
-export function withinFrames(view: View, frames: number): View {
-  const all = Math.max(frames, 1);
-  const length = Math.min(Math.max(view.end - view.first, Math.min(FEWEST_FRAMES, all)), all);
-  const first = Math.min(Math.max(view.first, 0), all - length);
+function allowedLength(wanted: number, all: View): number {
+  const most = lengthOf(all);
+  return Math.min(Math.max(wanted, Math.min(FEWEST_FRAMES, most)), most);
+}
+
+/** Keeps a view within all frames, at its length where that fits. */
+export function within(view: View, all: View): View {
+  const length = allowedLength(lengthOf(view), all);
+  const first = Math.min(Math.max(view.first, all.first), all.end - length);
   return { first, end: first + length };
 }
 
 /** The view with 1 / factor as many frames, in which `frame` stays where it is. */
-export function zoomed(view: View, factor: number, frame: number, frames: number): View {
-  const all = Math.max(frames, 1);
-  const wanted = (view.end - view.first) / factor;
-  const length = Math.min(Math.max(wanted, Math.min(FEWEST_FRAMES, all)), all);
-  const share = (frame - view.first) / (view.end - view.first);
+export function zoomed(view: View, factor: number, frame: number, all: View): View {
+  const length = allowedLength(lengthOf(view) / factor, all);
+  const share = (frame - view.first) / lengthOf(view);
   const first = frame - share * length;
-  return withinFrames({ first, end: first + length }, frames);
+  return within({ first, end: first + length }, all);
 }
 
-export function panned(view: View, by: number, frames: number): View {
-  return withinFrames({ first: view.first + by, end: view.end + by }, frames);
+export function panned(view: View, by: number, all: View): View {
+  return within({ first: view.first + by, end: view.end + by }, all);
 }
 
 /** The view itself where it shows the frame, else one of the same length around it. */
-export function revealing(view: View, frame: number, frames: number): View {
+export function revealing(view: View, frame: number, all: View): View {
   if (frame >= view.first && frame + 1 <= view.end) return view;
-  const length = view.end - view.first;
-  return withinFrames({ first: frame - length / 2, end: frame + length / 2 }, frames);
+  const length = lengthOf(view);
+  return within({ first: frame - length / 2, end: frame + length / 2 }, all);
 }
 
 export interface Tick {

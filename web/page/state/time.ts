@@ -1,19 +1,22 @@
-import { batch, computed, signal } from "@preact/signals";
+import { batch, computed, effect, signal } from "@preact/signals";
 import { advance, shuttle, type Span } from "../logic/playback";
-import { clampFrame, frameIn, placeIn } from "../logic/take_time";
-import {
-  panned,
-  revealing,
-  wholeView,
-  withinFrames,
-  zoomed,
-  type View,
-} from "../logic/timeline_geometry";
+import { clampFrame, frameIn, placeIn, reachOf } from "../logic/take_time";
+import { lengthOf, panned, revealing, within, zoomed, type View } from "../logic/timeline_geometry";
 import { isBoolean, oneOf, setting } from "./settings";
-import { activeKey, activeTake, clockOf, working, type Take } from "./takes";
+import { activeKey, activeTake, clockOf, seenTakes, working, type Take } from "./takes";
 
-/** The frame that is shown, of the take that is worked on, counted from 0; and how it goes on. */
-export const frame = signal(0);
+/** The frames from the first to the last moment of all takes, as the take that is worked on counts them, from 0. */
+export const reach = computed<View>(() => {
+  const active = activeTake.value;
+  if (!active) return { first: 0, end: 1 };
+  return reachOf(clockOf(active), seenTakes.value.map(clockOf));
+});
+
+const wantedFrame = signal(0);
+/** The frame that is shown, of the same; and how it goes on. */
+export const frame = computed(() => clampFrame(wantedFrame.value, reach.value));
+// Time that has ended with a take does not go on with the next one that is opened.
+effect(() => void (wantedFrame.value = frame.value));
 export const playing = signal(false);
 /** What it plays at unless J and L say something else; 1 is the rate of the file. */
 export const usualSpeed = signal(1);
@@ -27,17 +30,29 @@ export const rulerIn = setting<"frames" | "seconds">(
 );
 const inPoint = signal<number | null>(null);
 const outPoint = signal<number | null>(null);
+/** Nothing for all frames. */
+const closerView = signal<View | null>(null);
 /** The part of the frames that the timeline and the curves show. */
-export const timelineView = signal<View>({ first: 0, end: 1 });
+export const timelineView = computed<View>(() =>
+  closerView.value ? within(closerView.value, reach.value) : reach.value,
+);
 
-export const frames = computed(() => activeTake.value?.info.frames ?? 0);
+function showFrames(view: View): void {
+  if (view === timelineView.value) return;
+  closerView.value = lengthOf(view) < lengthOf(reach.value) ? view : null;
+}
+
+function reveal(): void {
+  showFrames(revealing(timelineView.value, frame.value, reach.value));
+}
+
 export const hasSpan = computed(() => inPoint.value !== null || outPoint.value !== null);
 
 /** Between the in and the out point; without them all frames. */
 export const span = computed<Span>(() => {
-  const last = Math.max(frames.value - 1, 0);
-  const first = Math.min(inPoint.value ?? 0, last);
-  return { first, last: Math.max(first, Math.min(outPoint.value ?? last, last)) };
+  const first = clampFrame(inPoint.value ?? reach.value.first, reach.value);
+  const last = clampFrame(outPoint.value ?? reach.value.end - 1, reach.value);
+  return { first, last: Math.max(first, last) };
 });
 
 /** Frames per second that a take is played at whose file tells no rate. */
@@ -47,9 +62,8 @@ const RATE_OF_NONE = 30;
 let position = 0;
 
 export function goTo(target: number): void {
-  const next = clampFrame(target, frames.value);
-  position = next;
-  frame.value = next;
+  position = clampFrame(target, reach.value);
+  wantedFrame.value = position;
 }
 
 /** Goes to a frame that may lie outside of what the timeline shows. */
@@ -57,20 +71,20 @@ export function jumpTo(target: number): void {
   batch(() => {
     playing.value = false;
     goTo(target);
-    timelineView.value = revealing(timelineView.value, frame.value, frames.value);
+    reveal();
   });
 }
 
 export function goToStart(): void {
-  jumpTo(frame.value === span.value.first ? 0 : span.value.first);
+  jumpTo(frame.value === span.value.first ? reach.value.first : span.value.first);
 }
 
 export function goToEnd(): void {
-  jumpTo(frame.value === span.value.last ? frames.value - 1 : span.value.last);
+  jumpTo(frame.value === span.value.last ? reach.value.end - 1 : span.value.last);
 }
 
 export function play(newSpeed: number): void {
-  if (frames.value < 2) return;
+  if (lengthOf(reach.value) < 2) return;
   const { first, last } = span.value;
   batch(() => {
     if (newSpeed > 0 && frame.value >= last) goTo(first);
@@ -106,8 +120,8 @@ export function passTime(seconds: number): void {
   const step = advance(position, seconds * rate * speed.value, span.value, loop.value);
   batch(() => {
     position = step.position;
-    frame.value = clampFrame(Math.floor(step.position), frames.value);
-    timelineView.value = revealing(timelineView.value, frame.value, frames.value);
+    wantedFrame.value = Math.floor(step.position);
+    reveal();
     if (step.ended) playing.value = false;
   });
 }
@@ -145,25 +159,25 @@ export function returnTo(place: TimePlace): void {
   playing.value = false;
   inPoint.value = place.inPoint;
   outPoint.value = place.outPoint;
-  timelineView.value = wholeView(frames.value);
+  closerView.value = null;
   goTo(place.frame);
 }
 
 export function zoomTimeline(factor: number, around = frame.value + 0.5): void {
-  timelineView.value = zoomed(timelineView.value, factor, around, frames.value);
+  showFrames(zoomed(timelineView.value, factor, around, reach.value));
 }
 
 export function panTimeline(by: number): void {
-  timelineView.value = panned(timelineView.value, by, frames.value);
+  showFrames(panned(timelineView.value, by, reach.value));
 }
 
 export function showAllFrames(): void {
-  timelineView.value = wholeView(frames.value);
+  closerView.value = null;
 }
 
 /**
- * Works on another take; the moment that is seen stays, where that take has it, and so do points and zoom. While the
- * scene is seen, so does time.
+ * Works on another take, at the moment that is seen; points and zoom stay at their moments, too. While the scene is
+ * seen, so does time.
  */
 export function activate(take: Take): void {
   const before = activeTake.value;
@@ -172,42 +186,27 @@ export function activate(take: Take): void {
     activeKey.value = take.key;
     return;
   }
-  const { frames: count } = take.info;
-  const there = before ? frameIn(clockOf(take), clockOf(before), frame.value) : 0;
+  const moved = (place: number): number =>
+    before ? placeIn(clockOf(take), clockOf(before), place) : place;
+  const there = before ? Math.round(moved(frame.value)) : 0;
   batch(() => {
-    if (before) moveSpan(before, take);
-    else clearSpan();
-    const view = before ? movedView(before, take) : wholeView(count);
+    if (!before) clearSpan();
+    for (const point of [inPoint, outPoint]) {
+      if (point.value !== null) point.value = Math.round(moved(point.value));
+    }
+    const closer = closerView.value;
+    closerView.value = before && closer && { first: moved(closer.first), end: moved(closer.end) };
     activeKey.value = take.key;
-    goTo(Math.max(there, 0));
-    timelineView.value = revealing(withinFrames(view, count), frame.value, count);
-    if (count < 2) playing.value = false;
+    goTo(there);
+    reveal();
+    if (lengthOf(reach.value) < 2) playing.value = false;
   });
-}
-
-/** In and out points go along, if anything between them is in the other take. */
-function moveSpan(from: Take, to: Take): void {
-  const moved = (point: number): number =>
-    Math.round(placeIn(clockOf(to), clockOf(from), point));
-  const last = to.info.frames - 1;
-  const begin = inPoint.value === null ? null : moved(inPoint.value);
-  const end = outPoint.value === null ? null : moved(outPoint.value);
-  const isApart = (begin ?? 0) > last || (end ?? last) < 0;
-  inPoint.value = begin === null || isApart ? null : clampFrame(begin, to.info.frames);
-  outPoint.value = end === null || isApart ? null : clampFrame(end, to.info.frames);
-}
-
-function movedView(from: Take, to: Take): View {
-  const { first, end } = timelineView.value;
-  if (end - first >= from.info.frames) return wholeView(to.info.frames);
-  const moved = (place: number): number => placeIn(clockOf(to), clockOf(from), place);
-  return { first: moved(first), end: moved(end) };
 }
 
 /** The frame of a take at the moment that is seen; -1 where it has none. */
 export function frameOf(take: Take): number {
   const active = activeTake.value;
   if (!active) return -1;
-  if (active === take) return take.info.frames > 0 ? frame.value : -1;
+  if (active === take) return frame.value >= 0 && frame.value < take.info.frames ? frame.value : -1;
   return frameIn(clockOf(take), clockOf(active), frame.value);
 }

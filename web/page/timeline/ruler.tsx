@@ -4,7 +4,7 @@ import { secondsText } from "../logic/take_time";
 import { report } from "../state/findings";
 import { activeTake } from "../state/takes";
 import { palette, type Palette } from "../state/theme";
-import { frame, frames, hasSpan, rulerIn, span, timelineView } from "../state/time";
+import { frame, hasSpan, reach, rulerIn, span, timelineView } from "../state/time";
 import { areaOf, scrub, wheel } from "./area";
 import { useDrawing } from "../widgets/drawing";
 import { useWheel } from "../widgets/wheel";
@@ -100,7 +100,8 @@ export function Ruler() {
   const canvas = useDrawing(drawRuler);
   useWheel(canvas, wheel);
   const take = activeTake.value;
-  const number = frame.value + (take?.info.firstFrame ?? 0);
+  const firstNumber = take?.info.firstFrame ?? 0;
+  const number = frame.value + firstNumber;
   const seconds = take && take.info.rate > 0 ? frame.value / take.info.rate : 0;
   return (
     <canvas
@@ -109,8 +110,8 @@ export function Ruler() {
       tabIndex={0}
       role="slider"
       aria-label="Time"
-      aria-valuemin={take?.info.firstFrame ?? 0}
-      aria-valuemax={Math.max(frames.value - 1, 0) + (take?.info.firstFrame ?? 0)}
+      aria-valuemin={reach.value.first + firstNumber}
+      aria-valuemax={reach.value.end - 1 + firstNumber}
       aria-valuenow={number}
       aria-valuetext={`Frame ${number}, ${secondsText(seconds)}`}
       onPointerDown={scrub}

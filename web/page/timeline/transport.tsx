@@ -125,8 +125,8 @@ function FrameField() {
         <input
           type="number"
           value={time.frame.value + firstFrame}
-          min={firstFrame}
-          max={firstFrame + frames - 1}
+          min={firstFrame + time.reach.value.first}
+          max={firstFrame + time.reach.value.end - 1}
           onChange={(event) => time.jumpTo(event.currentTarget.valueAsNumber - firstFrame)}
         />
       </label>

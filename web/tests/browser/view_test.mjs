@@ -82,6 +82,16 @@ test("a take that begins later is seen later", () =>
     await workbench.waitForFrame(30);
     await isDrawn(2 * NAMES.length);
     assert.ok((await seen(workbench, 1)).height > 60);
+    await workbench.page.keyboard.press("End");
+    await workbench.waitForFrame(FRAMES + 29);
+    await isDrawn(NAMES.length);
+    assert.equal((await seen(workbench, 0)).width, 0);
+    await workbench.takes.getByRole("button", { name: /^take2/ }).click();
+    await workbench.waitForFrame(FRAMES - 1);
+    await workbench.page.keyboard.press("Home");
+    await workbench.waitForFrame(-30);
+    await isDrawn(NAMES.length);
+    assert.equal((await seen(workbench, 1)).width, 0);
   }));
 
 test("things of one size are as large far away where the view is orthogonal", () =>

@@ -24,7 +24,7 @@ beforeEach(() => {
   time.loop.value = false;
 });
 
-test("another take goes on at the same moment, where it has that", () => {
+test("another take goes on at the same moment, also where it has none", () => {
   const film = take(48, 24);
   const fast = take(240, 240);
   time.activate(film);
@@ -32,11 +32,45 @@ test("another take goes on at the same moment, where it has that", () => {
   assert.equal(time.frameOf(fast), 120);
   time.activate(fast);
   assert.equal(time.frame.value, 120);
-  assert.deepEqual(time.timelineView.value, { first: 0, end: 240 });
+  assert.deepEqual(time.timelineView.value, { first: 0, end: 471 });
   fast.offset.value = 10;
   assert.equal(time.frameOf(film), -1);
   time.activate(film);
-  assert.equal(time.frame.value, 0);
+  assert.equal(time.frame.value, 252);
+  assert.deepEqual([time.frameOf(film), time.frameOf(fast)], [-1, 120]);
+});
+
+test("it plays from the beginning of the first take to the end of the last", () => {
+  const first = take(30, 30);
+  const later = take(30, 30);
+  later.offset.value = 2;
+  time.activate(later);
+  time.goToStart();
+  assert.equal(time.frame.value, -60);
+  time.togglePlay();
+  const seen = Array.from({ length: 4 }, () => {
+    time.passTime(0.9);
+    return [time.frame.value, time.frameOf(first), time.frameOf(later)];
+  });
+  assert.deepEqual(seen, [[-33, 27, -1], [-6, -1, -1], [21, -1, 21], [29, -1, 29]]);
+  assert.equal(time.playing.value, false);
+  time.activate(first);
+  assert.deepEqual([time.frame.value, time.timelineView.value], [89, { first: 0, end: 90 }]);
+});
+
+test("time ends with what is still open", () => {
+  const first = take(30, 30);
+  const later = take(30, 30);
+  time.activate(first);
+  later.offset.value = 2;
+  time.goToEnd();
+  time.zoomTimeline(2, 90);
+  later.offset.value = 1;
+  assert.deepEqual([time.frame.value, time.timelineView.value], [59, { first: 15, end: 60 }]);
+  removeTake(later);
+  assert.deepEqual([time.frame.value, time.timelineView.value], [29, { first: 0, end: 30 }]);
+  take(90, 30);
+  assert.deepEqual([time.frame.value, time.reach.value], [29, { first: 0, end: 90 }]);
 });
 
 test("in and out points and the zoom stay at their moments when another take is worked on", () => {
@@ -56,24 +90,7 @@ test("in and out points and the zoom stay at their moments when another take is 
   assert.deepEqual(time.span.value, { first: 12, last: 24 });
   fast.offset.value = 0.75;
   time.activate(fast);
-  assert.deepEqual(time.span.value, { first: 0, last: 60 });
-});
-
-test("in and out points go where the other take has none of what is between them", () => {
-  const film = take(48, 24);
-  const late = take(48, 24);
-  late.offset.value = 5;
-  time.activate(film);
-  time.jumpTo(12);
-  time.setIn();
-  time.activate(late);
-  assert.equal(time.hasSpan.value, true);
-  time.activate(film);
-  time.clearSpan();
-  time.jumpTo(24);
-  time.setOut();
-  time.activate(late);
-  assert.equal(time.hasSpan.value, false);
+  assert.deepEqual(time.span.value, { first: -60, last: 60 });
 });
 
 test("a curve is told at the frame of its own take, in the unit that is chosen", () => {

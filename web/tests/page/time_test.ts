@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { advance, shuttle } from "../../page/logic/playback";
-import { clampFrame, frameIn, placeIn, secondsOf } from "../../page/logic/take_time";
+import { clampFrame, frameIn, placeIn, reachOf, secondsOf } from "../../page/logic/take_time";
 
 const SPAN = { first: 10, last: 19 };
 
@@ -51,9 +51,24 @@ test("a place on the frames of one take lies on those of another", () => {
   assert.equal(placeIn(film, { ...fast, rate: 0 }, 7), 7);
 });
 
-test("frames stay within the take", () => {
-  assert.equal(clampFrame(-3, 10), 0);
-  assert.equal(clampFrame(30, 10), 9);
-  assert.equal(clampFrame(NaN, 10), 0);
-  assert.equal(clampFrame(3, 0), 0);
+test("time reaches from the first frame of all takes to the last", () => {
+  const film = { frames: 48, rate: 24, offset: 0 };
+  const fast = { frames: 480, rate: 240, offset: 0 };
+  assert.deepEqual(reachOf(film, [film, fast]), { first: 0, end: 48 });
+  assert.deepEqual(reachOf(fast, [film, fast]), { first: 0, end: 480 });
+  assert.deepEqual(reachOf(film, [film, { ...fast, offset: 0.5 }]), { first: 0, end: 60 });
+  assert.deepEqual(reachOf({ ...fast, offset: 0.5 }, [film]), { first: -120, end: 480 });
+  assert.deepEqual(reachOf(film, [{ ...fast, rate: 0, offset: 9 }, { ...fast, frames: 0, offset: 9 }]), {
+    first: 0,
+    end: 48,
+  });
+  assert.deepEqual(reachOf({ ...film, frames: 0 }, []), { first: 0, end: 1 });
+});
+
+test("frames stay where there are some", () => {
+  const reach = { first: -4, end: 10 };
+  assert.equal(clampFrame(-3, reach), -3);
+  assert.equal(clampFrame(-30, reach), -4);
+  assert.equal(clampFrame(30, reach), 9);
+  assert.equal(clampFrame(NaN, reach), 0);
 });

@@ -8,11 +8,12 @@ import {
   scrollToRow,
   secondTicks,
   visibleRows,
-  wholeView,
-  withinFrames,
+  within,
   xOfFrame,
   zoomed,
 } from "../../page/logic/timeline_geometry";
+
+const all = (end: number) => ({ first: 0, end });
 
 const AREA = { left: 100, width: 600 };
 
@@ -26,28 +27,28 @@ test("frames and places on the timeline lead to each other", () => {
 });
 
 test("zooming keeps the frame under the pointer, and ends at the frames that there are", () => {
-  const view = zoomed(wholeView(1000), 4, 400, 1000);
+  const view = zoomed(all(1000), 4, 400, all(1000));
   assert.deepEqual(view, { first: 300, end: 550 });
-  assert.deepEqual(zoomed(view, 1 / 100, 400, 1000), { first: 0, end: 1000 });
-  const closest = zoomed(view, 1e9, 400, 1000);
+  assert.deepEqual(zoomed(view, 1 / 100, 400, all(1000)), { first: 0, end: 1000 });
+  const closest = zoomed(view, 1e9, 400, all(1000));
   assert.equal(closest.end - closest.first, 4);
   assert.ok(closest.first <= 400 && closest.end >= 400);
-  assert.deepEqual(zoomed(wholeView(2), 10, 1, 2), { first: 0, end: 2 });
+  assert.deepEqual(zoomed(all(2), 10, 1, all(2)), { first: 0, end: 2 });
 });
 
 test("a view stays within the frames", () => {
-  assert.deepEqual(panned({ first: 10, end: 30 }, -50, 100), { first: 0, end: 20 });
-  assert.deepEqual(panned({ first: 10, end: 30 }, 500, 100), { first: 80, end: 100 });
-  assert.deepEqual(withinFrames({ first: -5, end: 900 }, 100), { first: 0, end: 100 });
-  assert.deepEqual(wholeView(0), { first: 0, end: 1 });
+  assert.deepEqual(panned({ first: 10, end: 30 }, -50, all(100)), { first: 0, end: 20 });
+  assert.deepEqual(panned({ first: 10, end: 30 }, 500, all(100)), { first: 80, end: 100 });
+  assert.deepEqual(within({ first: -5, end: 900 }, all(100)), { first: 0, end: 100 });
+  assert.deepEqual(within({ first: -25, end: -5 }, { first: -20, end: 100 }), { first: -20, end: 0 });
 });
 
 test("a view moves only for a frame that it does not show", () => {
   const view = { first: 10, end: 30 };
-  assert.equal(revealing(view, 10, 100), view);
-  assert.equal(revealing(view, 29, 100), view);
-  assert.deepEqual(revealing(view, 60, 100), { first: 50, end: 70 });
-  assert.deepEqual(revealing(view, 99, 100), { first: 80, end: 100 });
+  assert.equal(revealing(view, 10, all(100)), view);
+  assert.equal(revealing(view, 29, all(100)), view);
+  assert.deepEqual(revealing(view, 60, all(100)), { first: 50, end: 70 });
+  assert.deepEqual(revealing(view, 99, all(100)), { first: 80, end: 100 });
 });
 
 test("the ruler counts as the file does", () => {

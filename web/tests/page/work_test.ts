@@ -91,7 +91,10 @@ test("in and out points are told in the file's own numbers", () => {
     [2, null, [12, 19]],
     [null, 3, [10, 13]],
     [2, 3, [12, 13]],
-    [50, 60, [19, 19]],
+    [2, 60, [12, 19]],
+    [-5, 3, [10, 13]],
+    [50, 60, undefined],
+    [-9, -1, undefined],
   ];
   for (const [inPoint, outPoint, range] of cases) {
     assert.deepEqual(rangeOf({ inPoint, outPoint }, 10, 10), range);
