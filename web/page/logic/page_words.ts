@@ -1,21 +1,24 @@
 /** Sentences of the program as the page tells them: where they name a flag or a verb, it names its own controls. */
 
-const RANGE = `"Range" in the import's dialog`;
-const RATE = `"Set Frame Rate" in the import's dialog`;
+/** Which the page leaves out beside a dialog that has these controls itself. */
+const WHERE = " in the import's dialog";
+
+const RANGE = `"Range"${WHERE}`;
+const RATE = `"Set Frame Rate"${WHERE}`;
 const NODES = `the list "Nodes" under "Work"`;
 const MAPPING = `"Create" on the utility panel`;
 
 const CONTROLS: ReadonlyMap<string, string> = new Map([
   ["--range FROM:TO", RANGE],
   ["--range", RANGE],
-  ["--scale", `"Scale" in the import's dialog`],
+  ["--scale", `"Scale"${WHERE}`],
   ["--size", `"Size"`],
   ["--segment-size", `"Segment Size"`],
-  ["--create", `"Create" in the import's dialog`],
+  ["--create", `"Create"${WHERE}`],
   ["--apply", `"Apply"`],
   ["--animation", `"Animation"`],
   ["--base-position", `"Base Position"`],
-  ["--offset", `"Offset" in the import's dialog`],
+  ["--offset", `"Offset"${WHERE}`],
   ["--frame-rate file", RATE],
   ["unless --frame-rate keep is given", `unless ${RATE} is off`],
   ["--into SCENE --select NAME", NODES],
@@ -45,9 +48,9 @@ const NAMED = new RegExp(
 /** In the place of what the page has no control for. */
 const NOT_HERE = "\0";
 
-function controlOf(name: string): string {
+function controlOf(name: string, where: string): string {
   const isOfFile = name.startsWith('"') && !name.startsWith('"orvane ');
-  return CONTROLS.get(name) ?? (isOfFile ? name : NOT_HERE);
+  return CONTROLS.get(name)?.replace(WHERE, where) ?? (isOfFile ? name : NOT_HERE);
 }
 
 /** A sentence without the parts that help nobody here. */
@@ -61,10 +64,15 @@ function capital(sentence: string): string {
   return sentence.charAt(0).toUpperCase() + sentence.slice(1);
 }
 
-export function pageWords(text: string): string {
-  const named = text.replaceAll(NOT_HERE, "�").replace(NAMED, controlOf);
+export function pageWords(text: string, where = WHERE): string {
+  const named = text.replaceAll(NOT_HERE, "�").replace(NAMED, (name) => controlOf(name, where));
   if (named === text) return text;
   return named.split(/(?<=[.?]) /).map(helpful).filter(Boolean).map(capital).join(" ");
+}
+
+/** The same beside the dialog that it is about. */
+export function dialogWords(text: string): string {
+  return pageWords(text, "");
 }
 
 /** What a run has written on lines of its own: of a file, which it knows by its path, and what can be done. */

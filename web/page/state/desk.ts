@@ -11,7 +11,7 @@ import type {
 import { ownNameFor } from "../../worker/file_paths";
 import { isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
 import type { WrittenFile } from "../logic/handed_out";
-import { pageWords } from "../logic/page_words";
+import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
 import { paintScene, selectNodes, showScene } from "./scene";
@@ -199,12 +199,13 @@ function takeScene(told: Told): void {
   else if (told.tell === "lint") lint.value = inPageWords(told.findings);
 }
 
-function inPageWords(findings: readonly ToldFinding[]): ToldFinding[] {
-  return findings.map((finding) => ({ ...finding, text: pageWords(finding.text) }));
+function inPageWords(findings: readonly ToldFinding[], words: (text: string) => string = pageWords): ToldFinding[] {
+  return findings.map((finding) => ({ ...finding, text: words(finding.text) }));
 }
 
 function takeLosses(told: Losses): void {
-  losses.value = { ...told, findings: inPageWords(told.findings), refusal: pageWords(told.refusal) };
+  const findings = inPageWords(told.findings, dialogWords);
+  losses.value = { ...told, findings, refusal: dialogWords(told.refusal) };
 }
 
 function takePickMode(on: boolean, pickable: readonly number[]): void {

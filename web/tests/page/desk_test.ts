@@ -178,10 +178,12 @@ test("what is odd in the mapping is asked for as it grows", () => {
 });
 
 test("what an export loses is told of the dialog that is open", () => {
-  const losses = { findings: [{ code: "x", severity: "note" as const, text: "Odd." }], refusal: "" };
+  const text = "It stands still; --range FROM:TO leaves that out.";
+  const losses = { findings: [{ code: "x", severity: "note" as const, text }], refusal: text };
   desk.giveTask({ did: "export", path: "new.htr" });
   current().tell({ tell: "losses", ...losses });
-  assert.deepEqual(desk.losses.value?.findings, losses.findings);
+  const words = 'It stands still; "Range" leaves that out.';
+  assert.deepEqual([desk.losses.value?.findings[0].text, desk.losses.value?.refusal], [words, words]);
   desk.giveTask({ did: "export", path: "new.htr" });
   assert.equal(desk.losses.value, null);
 });

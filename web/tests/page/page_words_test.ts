@@ -2,7 +2,7 @@ import assert from "node:assert/strict";
 import { readdirSync, readFileSync } from "node:fs";
 import path from "node:path";
 import { test } from "node:test";
-import { linesOfRun, pageWords } from "../../page/logic/page_words";
+import { dialogWords, linesOfRun, pageWords } from "../../page/logic/page_words";
 import { askFindings, connect, openFiles } from "../../page/state/core";
 import { notices } from "../../page/state/notices";
 import type { Take } from "../../page/state/takes";
@@ -11,7 +11,7 @@ import type { CoreApi, Finding } from "../../worker/protocol";
 declare const PAGE_FOLDER: string;
 
 const SOURCES = path.resolve(PAGE_FOLDER, "../..");
-const TELLING = ["inspect/check", "inspect/report", "cli/common", "cli/import", "cli/convert", "cli/rewrite"];
+const TELLING = ["inspect/check", "inspect/report", "cli/common", "cli/import", "cli/export", "cli/convert", "cli/rewrite"];
 
 // What a file of C++ says: literals, joined where several make one text.
 function textsOf(file: string): string[] {
@@ -37,6 +37,13 @@ test("what the page can do is told by its own controls", () => {
       'The list "Nodes" under "Work" selects a bone; the list "Nodes" under "Work" lists the names.'],
   ];
   for (const [theirs, ours] of cases) assert.equal(pageWords(theirs), ours);
+});
+
+test("beside a dialog its own controls are told", () => {
+  assert.equal(
+    dialogWords("In the others it stands still; --range FROM:TO leaves them out."),
+    'In the others it stands still; "Range" leaves them out.',
+  );
 });
 
 test("what it cannot do is left out", () => {
