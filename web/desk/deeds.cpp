@@ -186,6 +186,7 @@ std::string Desk::Hover(const PersonEvent& event) {
 std::string Desk::Select(const PersonEvent& event) {
   std::string held = desktop_.WhyHeld();
   if (!held.empty()) return held;
+  told_scene_.TakeSelect(event.number);
   host::Scene& scene = application_->scene();
   for (const std::uint32_t handle : event.nodes) {
     const host::Node* const node = scene.FindByHandle(handle);

@@ -73,7 +73,7 @@ std::optional<PersonEvent> ParseEvent(std::string_view text) {
   if (!object.is_object()) return std::nullopt;
   PersonEvent event;
   event.did = TextIn(object, "did");
-  for (const char* const name : {"dialog", "box", "choice"}) {
+  for (const char* const name : {"dialog", "box", "choice", "number"}) {
     event.number = std::max(event.number, NumberIn(object, name));
   }
   event.control = NumberIn(object, "control");

@@ -24,7 +24,7 @@ struct StoredValue {
 // What is not told of a deed is as below.
 struct PersonEvent {
   std::string did;
-  int number = 0;  // of the dialog, the box or the choice
+  int number = 0;  // of the dialog, the box or the choice; or its own
   int control = 0;
   std::string text;        // that was typed; or the button of the answer
   std::uint32_t node = 0;  // 0: none

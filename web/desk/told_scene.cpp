@@ -112,10 +112,12 @@ void ToldScene::TellSelection(const host::Scene& scene) {
   std::vector<std::uint32_t> selection;
   selection.reserve(scene.Selection().size());
   for (const Node* const node : scene.Selection()) selection.push_back(node->Handle());
-  if (selection == selection_) return;
+  if (selection == selection_ && select_ == told_select_) return;
   selection_ = std::move(selection);
+  told_select_ = select_;
   Telling telling("selection");
   WriteHandles(telling.Json(), "nodes", selection_);
+  cli::WriteInteger(telling.Json(), "number", select_);
   telling.Send();
 }
 

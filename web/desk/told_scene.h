@@ -23,6 +23,9 @@ class ToldScene {
   // Tells what has changed since the last time.
   void Update(host::Application& application);
 
+  // The person has done the selecting of that number, and is to be told what is selected.
+  void TakeSelect(int number) { select_ = number; }
+
   // The page has been told of the scene as it is.
   void TakeOver(const host::Scene& scene);
 
@@ -33,6 +36,8 @@ class ToldScene {
 
   std::map<std::uint32_t, std::uint32_t> colors_;  // by handle
   std::vector<std::uint32_t> selection_;
+  int select_ = 0;
+  int told_select_ = 0;
   bool is_picking_ = false;
 };
 

@@ -149,7 +149,8 @@ export type Told =
   | { tell: "losses"; findings: ToldFinding[]; refusal: string }
   | { tell: "scene"; scene: ShownScene }
   | { tell: "colors"; changed: { node: number; color: Color }[] }
-  | { tell: "selection"; nodes: number[] }
+  /** Whenever it has changed, and after each `select`: its number is that of the last one that was done, or 0. */
+  | { tell: "selection"; nodes: number[]; number: number }
   | { tell: "hover"; node: number; name: string; pickable: boolean }
   | { tell: "progress"; what: string; percent: number }
   | { tell: "progress-gone" }
@@ -189,7 +190,8 @@ export type Did =
   | { did: "pick"; node: number | null }
   | { did: "right-click" }
   | { did: "hover"; node: number }
-  | { did: "select"; nodes: number[] }
+  /** Each has a number above those before it. */
+  | { did: "select"; nodes: number[]; number: number }
   | { did: "time"; frame: number }
   /** The plug-in's own Cancel, while progress is shown. */
   | { did: "cancel" }

@@ -61,6 +61,7 @@ let desk: DeskApi | null = null;
 let beginning: Promise<void> | null = null;
 let written: WrittenFile[] = [];
 let lastTask: Task["did"] | null = null;
+let selects = 0;
 
 export function useDesks(maker: Maker, handingOut: HandOut): void {
   makeDesk = maker;
@@ -96,6 +97,7 @@ function forgetAll(): void {
   deskProgress.value = null;
   deskFiles.value = new Map();
   written = [];
+  selects = 0;
   endPicking();
   mapping.value = [];
   lint.value = [];
@@ -116,6 +118,11 @@ export function giveTask(task: Task): void {
   losses.value = null;
   lastTask = task.did;
   tell(task);
+}
+
+/** Selects nodes there. What the desk tells of its selection before it has done so is over. */
+export function tellSelected(nodes: number[]): void {
+  tell({ did: "select", nodes, number: ++selects });
 }
 
 /** Picks a node, or nothing where it cannot be picked. */
@@ -190,7 +197,7 @@ function takeWork(told: Told): void {
 function takeScene(told: Told): void {
   if (told.tell === "scene") showScene(told.scene);
   else if (told.tell === "colors") paintScene(told.changed);
-  else if (told.tell === "selection") selectNodes(told.nodes);
+  else if (told.tell === "selection") takeSelection(told.nodes, told.number);
   else if (told.tell === "pick-mode") takePickMode(told.on, told.pickable);
   else if (told.tell === "mapping") takeMapping(told.entries, told.asked);
   else if (told.tell === "suggestions") suggestions.value = told.suggested;
@@ -206,6 +213,10 @@ function inPageWords(findings: readonly ToldFinding[], words: (text: string) => 
 function takeLosses(told: Losses): void {
   const findings = inPageWords(told.findings, dialogWords);
   losses.value = { ...told, findings, refusal: dialogWords(told.refusal) };
+}
+
+function takeSelection(nodes: readonly number[], number: number): void {
+  if (number === selects) selectNodes(nodes);
 }
 
 function takePickMode(on: boolean, pickable: readonly number[]): void {

@@ -58,15 +58,8 @@ export function paintScene(changed: readonly { node: number; color: Color }[]): 
   colors.value = next;
 }
 
-/** The nodes that are selected in the page, as the host has them. */
-export const selectedNodes = computed(() =>
-  selection.value.filter(({ take }) => take === SCENE_KEY).map(({ object }) => nodeOf(object)),
-);
-
+/** The desk tells which nodes are selected. */
 export function selectNodes(nodes: readonly number[]): void {
   const objects = nodes.flatMap((node) => objectOfNode.value.get(node) ?? []);
-  const there = selectedNodes.value;
-  const isSame = there.length === nodes.length && nodes.every((node) => there.includes(node));
-  if (isSame) return;
   selection.value = objects.map((object) => ({ take: SCENE_KEY, object }));
 }

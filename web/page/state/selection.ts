@@ -1,4 +1,4 @@
-import { computed, signal } from "@preact/signals";
+import { batch, computed, signal } from "@preact/signals";
 import { activeTake, seenTakes, type Take } from "./takes";
 
 /** The objects that are selected, of all takes; the one chosen last is what curves are shown of. */
@@ -8,6 +8,8 @@ export interface ObjectReference {
 }
 
 export const selection = signal<readonly ObjectReference[]>([]);
+/** What the person has selected last, himself: what is selected may have been told by the desk since. */
+export const chosen = signal<readonly ObjectReference[]>([]);
 export const hovered = signal<ObjectReference | null>(null);
 
 /** What is selected of takes that are still open. */
@@ -44,18 +46,25 @@ export function isSame(one: ObjectReference | null, other: ObjectReference | nul
   return one?.take === other?.take && one?.object === other?.object;
 }
 
+function choose(objects: readonly ObjectReference[]): void {
+  batch(() => {
+    selection.value = objects;
+    chosen.value = objects;
+  });
+}
+
 export function select(take: Take, object: number, extend: boolean): void {
   const reference = { take: take.key, object };
   const there = selected.value.some((other) => isSame(other, reference));
   const others = selected.value.filter((other) => !isSame(other, reference));
-  if (!extend) selection.value = [reference];
-  else selection.value = there ? others : [...others, reference];
+  if (!extend) choose([reference]);
+  else choose(there ? others : [...others, reference]);
 }
 
 export function selectAll(take: Take, objects: readonly number[]): void {
-  selection.value = objects.map((object) => ({ take: take.key, object }));
+  choose(objects.map((object) => ({ take: take.key, object })));
 }
 
 export function deselect(): void {
-  selection.value = [];
+  choose([]);
 }

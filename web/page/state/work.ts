@@ -12,9 +12,11 @@ import {
   putFile,
   suggestions,
   tell,
+  tellSelected,
 } from "./desk";
 import { notifyFailure } from "./notices";
-import { selectedNodes } from "./scene";
+import { nodeOf } from "./scene";
+import { chosen } from "./selection";
 import { activeFile, scene, takes, working, type Take } from "./takes";
 import { FIRST_PLACE, frame, playing, returnTo, timePlace, type TimePlace } from "./time";
 
@@ -67,8 +69,8 @@ export function takeSuggestion(): void {
 }
 
 effect(() => {
-  const nodes = selectedNodes.value;
-  if (working.peek() && scene.peek()) tell({ did: "select", nodes: [...nodes] });
+  const objects = chosen.value;
+  if (working.peek() && scene.peek()) tellSelected(objects.map(({ object }) => nodeOf(object)));
 });
 
 effect(() => {

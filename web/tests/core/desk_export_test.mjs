@@ -10,7 +10,7 @@ const walk = { path: "walk.htr", bytes: example("walk.htr") };
 async function withSkeleton() {
   const person = await Person.sit();
   await person.import(walk.path, walk.bytes);
-  await person.doUntil({ did: "select", nodes: [person.node("Hips")] }, "selection");
+  await person.doUntil({ did: "select", nodes: [person.node("Hips")], number: 1 }, "selection");
   return person;
 }
 

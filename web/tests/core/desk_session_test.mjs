@@ -50,7 +50,7 @@ test("a motion is applied to what is selected, as the program applies it", async
   const person = await Person.sit();
   await person.import(walk.path, walk.bytes);
   const scene = { path: "scene.glb", bytes: await person.save("scene.glb") };
-  await person.doUntil({ did: "select", nodes: [person.node("Hips")] }, "selection");
+  await person.doUntil({ did: "select", nodes: [person.node("Hips")], number: 1 }, "selection");
   assert.deepEqual(person.selection, [person.node("Hips")]);
   await person.import(walk.path, undefined, async () => {
     await person.click(DIALOG.importHtr, CONTROL.apply);
@@ -58,6 +58,19 @@ test("a motion is applied to what is selected, as the program applies it", async
   });
   const verb = ["import", walk.path, "-o", "again.glb", "--into", "scene.glb", "--apply", "--select", "Hips", "--offset", "40"];
   assert.deepEqual(await person.save("again.glb"), await programFile(verb, [walk, scene]));
+});
+
+test("each selection is answered with its number, whatever became of it", async () => {
+  const person = await Person.sit();
+  await person.import(walk.path, walk.bytes);
+  const node = person.node("Hips");
+  const select = async (nodes, number) => {
+    const { tell: _, ...told } = await person.doUntil({ did: "select", nodes, number }, "selection");
+    return told;
+  };
+  assert.deepEqual(await select([node], 1), { nodes: [node], number: 1 });
+  assert.deepEqual(await select([node], 2), { nodes: [node], number: 2 });
+  assert.deepEqual(await select([9999], 3), { nodes: [node], number: 3 });
 });
 
 test("an import adds to the scene that is there", async () => {

@@ -3,7 +3,7 @@ import { beforeEach, test } from "node:test";
 import * as desk from "../../page/state/desk";
 import { keep, stored } from "../../page/state/kept_settings";
 import { notices } from "../../page/state/notices";
-import { select } from "../../page/state/selection";
+import { select, selectedInActive } from "../../page/state/selection";
 import { activeKey, addTake, scene, takes, working } from "../../page/state/takes";
 import * as time from "../../page/state/time";
 import * as work from "../../page/state/work";
@@ -140,12 +140,25 @@ test("a file that is opened while the scene is seen leaves its time alone", () =
 test("what is selected here is selected there, and the other way around", () => {
   current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
   select(scene.value!, 1, false);
-  assert.deepEqual(current().last("select")?.nodes, [9]);
-  current().tell({ tell: "selection", nodes: [4] });
-  assert.deepEqual(current().last("select")?.nodes, [4]);
+  const { nodes, number } = current().last("select")!;
+  assert.deepEqual(nodes, [9]);
   const count = current().done.length;
-  current().tell({ tell: "selection", nodes: [4] });
+  current().tell({ tell: "selection", nodes: [4], number });
+  assert.deepEqual([...selectedInActive.value], [0]);
   assert.equal(current().done.length, count);
+});
+
+test("what the desk tells of a selection that is over changes nothing", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
+  select(scene.value!, 0, false);
+  select(scene.value!, 1, false);
+  const selects = current().done.filter((did) => did.did === "select");
+  assert.equal(selects.length, 2);
+  for (const { nodes, number } of selects) {
+    current().tell({ tell: "selection", nodes, number });
+    assert.deepEqual([...selectedInActive.value], [1]);
+  }
+  assert.equal(current().done.filter(({ did }) => did === "select").length, 2);
 });
 
 test("what is suggested is taken while it can be picked", () => {
