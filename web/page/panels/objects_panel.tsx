@@ -6,7 +6,7 @@ import { gapCount } from "../logic/gaps";
 import { hovered, lastSelected, select, selectAll, selectedInActive } from "../state/selection";
 import { colorOf } from "../state/take_color";
 import { activeTake, areSeveral, labelOf, type Take } from "../state/takes";
-import { pickMode, pickNode } from "../state/desk";
+import { picking, pickNode } from "../state/desk";
 import { nodeOf } from "../state/scene";
 import { coarsePointer } from "../state/pointer";
 import { foundObjects, search } from "../state/rows";
@@ -52,7 +52,7 @@ export function ObjectsPanel() {
         rowHeight={coarsePointer.value ? 34 : 24}
         current={current}
         move={(row, extend) => select(take, rows[row], extend)}
-        enter={pickMode.value.on ? (row) => pickNode(nodeOf(rows[row])) : undefined}
+        enter={picking.value ? (row) => pickNode(nodeOf(rows[row])) : undefined}
         row={(row, id) => (
           <ObjectRow take={take} object={rows[row]} id={id} row={row} of={rows.length} />
         )}

@@ -15,6 +15,7 @@ import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
 import { paintScene, selectNodes, showScene } from "./scene";
+import { working } from "./takes";
 
 /** What the desk has told, and what it is told that the person did. */
 
@@ -40,6 +41,8 @@ export const modalThings = computed(() => things.value.filter(isModal));
 export const idle = signal(false);
 export const failure = signal<string | null>(null);
 export const pickMode = signal<PickMode>(NO_PICKING);
+/** Whether what is pointed at is picked: of takes nothing ever is. */
+export const picking = computed(() => pickMode.value.on && working.value);
 export const mapping = signal<readonly MappingEntry[]>([]);
 export const asked = signal("");
 export const suggestions = signal<readonly Suggestion[]>([]);
@@ -127,6 +130,7 @@ export function tellSelected(nodes: number[]): void {
 
 /** Picks a node, or nothing where it cannot be picked. */
 export function pickNode(node: number): void {
+  if (!picking.value) return;
   tell({ did: "pick", node: pickMode.value.pickable.has(node) ? node : null });
 }
 

@@ -9,6 +9,7 @@ import {
   mapping,
   modalThings,
   pickMode,
+  pickNode,
   putFile,
   suggestions,
   tell,
@@ -65,7 +66,7 @@ export const suggestion = computed(() =>
 );
 
 export function takeSuggestion(): void {
-  if (pickMode.value.on && suggestion.value) tell({ did: "pick", node: suggestion.value.node });
+  if (suggestion.value) pickNode(suggestion.value.node);
 }
 
 effect(() => {

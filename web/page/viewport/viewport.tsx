@@ -2,7 +2,7 @@ import { computed } from "@preact/signals";
 import { useEffect, useRef } from "preact/hooks";
 import { counted, countedObjects } from "../logic/counted";
 import { notify, wordsOf } from "../state/notices";
-import { asked, pickMode, pickNode, tell } from "../state/desk";
+import { asked, picking, pickMode, pickNode, tell } from "../state/desk";
 import { nodeOf } from "../state/scene";
 import { deselect, hovered, isSame, select, type ObjectReference } from "../state/selection";
 import { activeTake, areSeveral, scene, seenTakes, takeByKey, working } from "../state/takes";
@@ -42,7 +42,7 @@ function isPickable({ object }: ObjectReference): boolean {
 
 function choose(canvas: HTMLElement, event: PointerEvent): void {
   const picked = stage.value?.pick(...placeIn(canvas, event)) ?? null;
-  if (pickMode.value.on) {
+  if (picking.value) {
     pickNode(picked ? nodeOf(picked.object) : 0);
     return;
   }
@@ -67,7 +67,7 @@ function watchPointer(canvas: HTMLElement): () => void {
   const onUp = (event: PointerEvent): void => {
     const moved = down ? Math.hypot(event.clientX - down.x, event.clientY - down.y) : Infinity;
     if (moved < STILL_PIXELS && down?.button === 0) choose(canvas, event);
-    if (moved < STILL_PIXELS && down?.button === 2 && pickMode.value.on) {
+    if (moved < STILL_PIXELS && down?.button === 2 && picking.value) {
       tell({ did: "right-click" });
     }
     down = null;
@@ -77,7 +77,7 @@ function watchPointer(canvas: HTMLElement): () => void {
     const over = stage.value?.pick(...placeIn(canvas, event)) ?? null;
     if (!isSame(over, hovered.value)) hovered.value = over;
     canvas.dataset.over = over ? String(over.object) : "";
-    canvas.classList.toggle("over", over !== null && (!pickMode.value.on || isPickable(over)));
+    canvas.classList.toggle("over", over !== null && (!picking.value || isPickable(over)));
   };
   const onLeave = (): void => void (hovered.value = null);
   const stop = new AbortController();
@@ -116,7 +116,7 @@ export function Viewport() {
       <div class="view-frame" ref={frameElement} {...handles()}>
         <canvas
           ref={canvas}
-          class={pickMode.value.on ? "view-scene picking" : "view-scene"}
+          class={picking.value ? "view-scene picking" : "view-scene"}
           tabIndex={0}
           role="img"
           aria-label={summary()}
@@ -136,7 +136,7 @@ function handles(): Record<string, string | number | undefined> {
     "data-objects": objects,
     "data-drawn": drawnCount.value,
     "data-colors": colorsText.value,
-    "data-picking": pickMode.value.on ? asked.value : undefined,
+    "data-picking": picking.value ? asked.value : undefined,
   };
 }
 

@@ -198,6 +198,25 @@ test("a marker is picked by keys alone", () =>
     assert.deepEqual(await desk.mapping(), { LFHD: "walker:RTOE" });
   }));
 
+test("takes that are looked at meanwhile are not picked", () =>
+  atMapping(async (desk) => {
+    const { keyboard } = desk.page;
+    const inFirstRow = async (list) => {
+      await desk.page.getByRole("listbox", { name: list }).focus();
+      await keyboard.press("ArrowDown");
+      await keyboard.press("Enter");
+    };
+    await desk.workbench.button("Work").click();
+    await inFirstRow("Markers");
+    await desk.click(3);
+    assert.equal(await desk.asked(), null);
+    await desk.workbench.button("Work").click();
+    await desk.waitForAsked("LFHD");
+    await inFirstRow("Nodes");
+    await desk.waitForAsked("LBHD");
+    assert.deepEqual(Object.keys(await desk.mapping()), ["LFHD"]);
+  }));
+
 test("the panel is closed while a marker is asked for", () =>
   atMapping(async (desk) => {
     for (const standard of ASKED.slice(0, 3)) await pick(desk, standard);

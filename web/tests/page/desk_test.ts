@@ -181,6 +181,23 @@ test("what is suggested is taken while it can be picked", () => {
   assert.equal(work.suggestion.value, null);
 });
 
+test("nothing is picked while takes are looked at", () => {
+  current().tell(
+    { tell: "scene", scene: sceneOf(node(4, "LFHD"), node(9, "B")) },
+    { tell: "suggestions", suggested: [{ standard: "LFHD", node: 4, reason: "same", place: "" }] },
+    { tell: "mapping", entries: [], asked: "LFHD" },
+    { tell: "pick-mode", on: true, pickable: [4, 9] },
+  );
+  work.setWorking(false);
+  assert.equal(desk.picking.value, false);
+  work.takeSuggestion();
+  desk.pickNode(9);
+  assert.equal(current().last("pick"), undefined);
+  work.setWorking(true);
+  desk.pickNode(9);
+  assert.equal(current().last("pick")?.node, 9);
+});
+
 test("what is odd in the mapping is asked for as it grows", () => {
   current().tell({ tell: "mapping", entries: [{ standard: "LFHD", node: 4 }], asked: "LBHD" });
   assert.ok(current().last("ask-lint"));
