@@ -10,7 +10,6 @@ import type {
 import { shown } from "../logic/names";
 import { pageWords } from "../logic/page_words";
 import { isCanceled, notifyFailure } from "./notices";
-import { deselect } from "./selection";
 import { activeFile, activeKey, addTake, removeTake, takes, type Take } from "./takes";
 import { canceling, runTask, task, tellProgress } from "./tasks";
 import { activate, clearSpan, goTo, stop } from "./time";
@@ -78,7 +77,6 @@ export async function closeTake(take: Take): Promise<void> {
 function resetTime(): void {
   clearSpan();
   goTo(0);
-  deselect();
 }
 
 /** The report is the program's own; findings are told in words of the page. */

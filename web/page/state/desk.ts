@@ -14,7 +14,8 @@ import type { WrittenFile } from "../logic/handed_out";
 import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
-import { paintScene, selectNodes, showScene } from "./scene";
+import { paintScene, showScene } from "./scene";
+import { showSelected } from "./selection";
 import { working } from "./takes";
 
 /** What the desk has told, and what it is told that the person did. */
@@ -108,6 +109,7 @@ function forgetAll(): void {
   losses.value = null;
   suggestions.value = [];
   showScene(null);
+  showSelected([]);
 }
 
 export function tell(did: Did): void {
@@ -124,8 +126,8 @@ export function giveTask(task: Task): void {
 }
 
 /** Selects nodes there. What the desk tells of its selection before it has done so is over. */
-export function tellSelected(nodes: number[]): void {
-  tell({ did: "select", nodes, number: ++selects });
+export function tellSelected(nodes: readonly number[]): void {
+  tell({ did: "select", nodes: [...nodes], number: ++selects });
 }
 
 /** Picks a node, or nothing where it cannot be picked. */
@@ -220,7 +222,7 @@ function takeLosses(told: Losses): void {
 }
 
 function takeSelection(nodes: readonly number[], number: number): void {
-  if (number === selects) selectNodes(nodes);
+  if (number === selects) showSelected(nodes);
 }
 
 function takePickMode(on: boolean, pickable: readonly number[]): void {

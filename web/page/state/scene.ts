@@ -2,7 +2,6 @@ import { batch, computed, signal } from "@preact/signals";
 import type { Color, ShownScene } from "../../worker/desk_protocol";
 import { indexGaps } from "../logic/gaps";
 import { sceneInfo, sceneTracks } from "../logic/scene_take";
-import { selection } from "./selection";
 import { scene, SCENE_KEY, working, type Take } from "./takes";
 import { FIRST_PLACE, frame, returnTo, timePlace } from "./time";
 
@@ -56,10 +55,4 @@ export function paintScene(changed: readonly { node: number; color: Color }[]): 
     if (object !== undefined) next.set(color.map((part) => part / 255), object * 3);
   }
   colors.value = next;
-}
-
-/** The desk tells which nodes are selected. */
-export function selectNodes(nodes: readonly number[]): void {
-  const objects = nodes.flatMap((node) => objectOfNode.value.get(node) ?? []);
-  selection.value = objects.map((object) => ({ take: SCENE_KEY, object }));
 }

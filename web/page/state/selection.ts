@@ -1,5 +1,6 @@
 import { batch, computed, signal } from "@preact/signals";
-import { activeTake, seenTakes, type Take } from "./takes";
+import { nodeOf, objectOfNode } from "./scene";
+import { activeTake, SCENE_KEY, takes, working, type Take } from "./takes";
 
 /** The objects that are selected, of all takes; the one chosen last is what curves are shown of. */
 export interface ObjectReference {
@@ -7,16 +8,24 @@ export interface ObjectReference {
   readonly object: number;
 }
 
-export const selection = signal<readonly ObjectReference[]>([]);
-/** What the person has selected last, himself: what is selected may have been told by the desk since. */
-export const chosen = signal<readonly ObjectReference[]>([]);
+const inTakes = signal<readonly ObjectReference[]>([]);
+/** The nodes that are selected in the scene, as the host has them; takes have a selection of their own. */
+const inScene = signal<readonly number[]>([]);
+/** The nodes that the person has selected last, himself: the desk may have told of others since. */
+export const chosenNodes = signal<readonly number[]>([]);
 export const hovered = signal<ObjectReference | null>(null);
 
-/** What is selected of takes that are still open. */
-export const selected = computed(() => {
-  const open = new Set(seenTakes.value.map((take) => take.key));
-  return selection.value.filter((reference) => open.has(reference.take));
+/** What is selected of what is seen. */
+export const selected = computed<readonly ObjectReference[]>(() => {
+  if (working.value) return objectsOf(inScene.value);
+  const open = new Set(takes.value.map((take) => take.key));
+  return inTakes.value.filter((reference) => open.has(reference.take));
 });
+
+function objectsOf(nodes: readonly number[]): ObjectReference[] {
+  const objects = nodes.flatMap((node) => objectOfNode.value.get(node) ?? []);
+  return objects.map((object) => ({ take: SCENE_KEY, object }));
+}
 
 const NONE: ReadonlySet<number> = new Set();
 
@@ -46,10 +55,20 @@ export function isSame(one: ObjectReference | null, other: ObjectReference | nul
   return one?.take === other?.take && one?.object === other?.object;
 }
 
+/** The desk tells which nodes are selected. */
+export function showSelected(nodes: readonly number[]): void {
+  inScene.value = nodes;
+}
+
 function choose(objects: readonly ObjectReference[]): void {
+  if (!working.value) {
+    inTakes.value = objects;
+    return;
+  }
+  const nodes = objects.map(({ object }) => nodeOf(object));
   batch(() => {
-    selection.value = objects;
-    chosen.value = objects;
+    inScene.value = nodes;
+    chosenNodes.value = nodes;
   });
 }
 

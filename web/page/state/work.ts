@@ -16,8 +16,7 @@ import {
   tellSelected,
 } from "./desk";
 import { notifyFailure } from "./notices";
-import { nodeOf } from "./scene";
-import { chosen } from "./selection";
+import { chosenNodes } from "./selection";
 import { activeFile, scene, takes, working, type Take } from "./takes";
 import { FIRST_PLACE, frame, playing, returnTo, timePlace, type TimePlace } from "./time";
 
@@ -70,8 +69,8 @@ export function takeSuggestion(): void {
 }
 
 effect(() => {
-  const objects = chosen.value;
-  if (working.peek() && scene.peek()) tellSelected(objects.map(({ object }) => nodeOf(object)));
+  const nodes = chosenNodes.value;
+  if (scene.peek()) tellSelected(nodes);
 });
 
 effect(() => {

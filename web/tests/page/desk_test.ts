@@ -3,7 +3,7 @@ import { beforeEach, test } from "node:test";
 import * as desk from "../../page/state/desk";
 import { keep, stored } from "../../page/state/kept_settings";
 import { notices } from "../../page/state/notices";
-import { select, selectedInActive } from "../../page/state/selection";
+import { deselect, lastSelected, select, selectedInActive } from "../../page/state/selection";
 import { activeKey, addTake, scene, takes, working } from "../../page/state/takes";
 import * as time from "../../page/state/time";
 import * as work from "../../page/state/work";
@@ -159,6 +159,31 @@ test("what the desk tells of a selection that is over changes nothing", () => {
     assert.deepEqual([...selectedInActive.value], [1]);
   }
   assert.equal(current().done.filter(({ did }) => did === "select").length, 2);
+});
+
+test("takes and the scene have selections of their own", () => {
+  const take = openFile("a.trc");
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
+  select(scene.value!, 1, false);
+  const told = current().done.length;
+  work.setWorking(false);
+  select(take, 0, false);
+  deselect();
+  assert.equal(selectedInActive.value.size, 0);
+  current().tell({ tell: "selection", nodes: [4, 9], number: current().last("select")!.number });
+  select(take, 0, false);
+  assert.equal(current().done.length, told);
+  work.setWorking(true);
+  assert.deepEqual([...selectedInActive.value], [0, 1]);
+  work.setWorking(false);
+  assert.deepEqual(lastSelected.value, { take: take.key, object: 0 });
+});
+
+test("what is selected stays so while the scene grows", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
+  select(scene.value!, 1, false);
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(12, "C"), node(9, "B")) });
+  assert.deepEqual([...selectedInActive.value], [2]);
 });
 
 test("what is suggested is taken while it can be picked", () => {
