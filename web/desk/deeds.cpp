@@ -159,6 +159,7 @@ std::string Desk::Pick(const PersonEvent& event) {
   if (!held.empty()) return held;
   if (!application_->picking().IsActive()) return "Nothing is to be picked";
   const std::string asked = ToldMapping::Asked(desktop_);
+  if (event.standard != asked) return "Another marker is asked for by now";
   host::Node* const node = application_->scene().FindByHandle(event.node);
   if (!application_->picking().Click(node)) return "There is nothing that can be picked";
   if (!asked.empty()) told_mapping_.Add(asked, event.node);

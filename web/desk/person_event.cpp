@@ -79,6 +79,7 @@ std::optional<PersonEvent> ParseEvent(std::string_view text) {
   event.control = NumberIn(object, "control");
   event.text = TextIn(object, event.did == "answer" ? "button" : "text");
   event.node = static_cast<std::uint32_t>(NumberIn(object, "node"));
+  event.standard = TextIn(object, "standard");
   event.frame = NumberIn(object, "frame");
   event.path = TextIn(object, "path");
   ReadLists(object, event);

@@ -28,6 +28,7 @@ struct PersonEvent {
   int control = 0;
   std::string text;        // that was typed; or the button of the answer
   std::uint32_t node = 0;  // 0: none
+  std::string standard;    // the standard marker that the node was picked for
   int frame = 0;
   std::string path;
   std::vector<std::string> paths;

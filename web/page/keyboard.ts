@@ -17,6 +17,11 @@ function pressesTarget(event: KeyboardEvent): boolean {
   return target instanceof Element && target.closest("button, summary, input, a") !== null;
 }
 
+/** What Enter agrees to, it agrees to once. */
+function isHeld({ key, repeat }: KeyboardEvent): boolean {
+  return repeat && key === "Enter";
+}
+
 /** Buttons that are clicked do not keep the focus, so that Space plays after a click as before it. */
 function keepFocus(): void {
   addEventListener("mousedown", (event) => {
@@ -39,6 +44,6 @@ export function listenToKeys(): void {
     const command = commandOf(event);
     if (!command) return;
     event.preventDefault();
-    COMMANDS[command]();
+    if (!isHeld(event)) COMMANDS[command]();
   });
 }

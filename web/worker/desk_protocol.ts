@@ -186,8 +186,8 @@ export type Did =
   | { did: "answer"; box: number; button: "ok" | "yes" | "no" }
   /** Names of files that were put on the desk, or of the one to write; none cancels. Of a folder one name. */
   | { did: "chosen"; choice: number; paths: string[] }
-  /** Null clicks where nothing is. */
-  | { did: "pick"; node: number | null }
+  /** Null clicks where nothing is. Passed over when `standard` is asked for no more: a second click came too late. */
+  | { did: "pick"; node: number | null; standard: string }
   | { did: "right-click" }
   | { did: "hover"; node: number }
   /** Each has a number above those before it. */

@@ -130,10 +130,11 @@ export function tellSelected(nodes: readonly number[]): void {
   tell({ did: "select", nodes: [...nodes], number: ++selects });
 }
 
-/** Picks a node, or nothing where it cannot be picked. */
+/** Picks a node for what is asked, or nothing where it cannot be picked. */
 export function pickNode(node: number): void {
   if (!picking.value) return;
-  tell({ did: "pick", node: pickMode.value.pickable.has(node) ? node : null });
+  const picked = pickMode.value.pickable.has(node) ? node : null;
+  tell({ did: "pick", node: picked, standard: asked.value });
 }
 
 /**

@@ -70,7 +70,7 @@ function useHeight(box: RefObject<HTMLElement>): number {
 function press(event: KeyboardEvent, properties: VirtualListProperties): void {
   const { count, current, move, enter } = properties;
   if (event.key === "Enter" && enter && current >= 0) {
-    enter(current);
+    if (!event.repeat) enter(current);
     event.preventDefault();
     event.stopPropagation();
   }

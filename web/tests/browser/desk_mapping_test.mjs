@@ -198,6 +198,17 @@ test("a marker is picked by keys alone", () =>
     assert.deepEqual(await desk.mapping(), { LFHD: "walker:RTOE" });
   }));
 
+test("a held key picks once", () =>
+  atMapping(async (desk) => {
+    const { keyboard } = desk.page;
+    for (let repeats = 0; repeats < 5; ++repeats) await keyboard.down("Enter");
+    await keyboard.up("Enter");
+    await desk.waitForAsked("LBHD");
+    await keyboard.press("Enter");
+    await desk.waitForAsked("RBHD");
+    assert.deepEqual(Object.keys(await desk.mapping()), ["LFHD", "LBHD"]);
+  }));
+
 test("takes that are looked at meanwhile are not picked", () =>
   atMapping(async (desk) => {
     const { keyboard } = desk.page;

@@ -22,7 +22,8 @@ async function asked(sticks = ["no", "no"]) {
   return person;
 }
 
-const pick = (person, name) => person.step({ did: "pick", node: person.node(name) });
+const pickFor = (person, standard, node) => person.step({ did: "pick", node, standard });
+const pick = (person, name) => pickFor(person, person.mapping.asked, person.node(name));
 const press = (person, control) => person.click(DIALOG.creator, control);
 const isMarker = (person, standard) => person.scene.nodes.some(({ name }) => name === `walker:${standard}`);
 
@@ -50,7 +51,7 @@ test("a mapping that was picked is the one of map create, whatever went wrong on
   assert.ok(!person.control(DIALOG.creator, CONTROL.back).enabled);
   await pickOn(person, 5);
   // Nothing is there, and a wrong one that is taken back.
-  const [nothing] = await person.step({ did: "pick", node: null });
+  const [nothing] = await pickFor(person, person.mapping.asked, null);
   assert.deepEqual([nothing.tell, nothing.words], ["refused", "There is nothing that can be picked"]);
   await pick(person, "walker:RTOE");
   assert.deepEqual(person.colors.get(person.node("walker:RTOE")), PICKED);
@@ -69,6 +70,15 @@ test("a mapping that was picked is the one of map create, whatever went wrong on
   const expected = await programFile(["map", "create", markers.path, "-o", "made.mnm", "--picks", picks.path], [markers, picks]);
   assert.deepEqual(person.files.get("made.mnm"), expected);
   assert.match(person.control(DIALOG.panel, 1137).text, /made\.mnm$/);
+});
+
+test("a second pick of a step that is over is none of the next", async () => {
+  const person = await asked();
+  const node = person.node("walker:LFHD");
+  person.desk.do({ did: "pick", node, standard: "LFHD" });
+  await pickFor(person, "LFHD", node);
+  assert.deepEqual(person.mapping.entries, [{ standard: "LFHD", node }]);
+  assert.equal(person.mapping.asked, "LBHD");
 });
 
 test("a stick is asked for when there is one", async () => {

@@ -196,9 +196,9 @@ test("what is suggested is taken while it can be picked", () => {
   assert.equal(current().last("pick"), undefined);
   current().tell({ tell: "pick-mode", on: true, pickable: [4, 9] });
   work.takeSuggestion();
-  assert.deepEqual(current().last("pick"), { did: "pick", node: 4 });
+  assert.deepEqual(current().last("pick"), { did: "pick", node: 4, standard: "LFHD" });
   desk.pickNode(12);
-  assert.deepEqual(current().last("pick"), { did: "pick", node: null });
+  assert.deepEqual(current().last("pick"), { did: "pick", node: null, standard: "LFHD" });
   current().tell({ tell: "colors", changed: [{ node: 4, color: [0, 51, 255] }] });
   const colors = [...scene.value!.colors!.value].map((part) => part.toFixed(1));
   assert.deepEqual(colors, ["0.0", "0.2", "1.0", "0.8", "0.2", "0.2"]);
