@@ -74,6 +74,7 @@ void Desk::Run() {
     TellChanges();
     told_settings_.Update(SettingsOfModule());
     Telling("idle").Send();
+    is_told_idle_ = true;
     now_ = When::kAtTop;
     Act(true);
   }
@@ -83,9 +84,10 @@ void Desk::Run() {
 void Desk::Act(bool awaited) {
   const bool is_soon = Clock::now() - last_glance_ < kPause;
   if (!awaited && is_soon && put_off_.empty()) return;
+  const When now = std::exchange(now_, When::kWaiting);
+  if (now != When::kAtTop) TellBusy();
   TypeRange();
   TellChanges();
-  const When now = std::exchange(now_, When::kWaiting);
   PersonEvent event;
   if (!put_off_.empty()) {
     event = std::move(put_off_.front());
@@ -117,6 +119,11 @@ void Desk::TellChanges() {
   told_losses_.Update(desktop_, SettingsOfModule(), application_->scene(), reading_);
 }
 
+// What was done is still under way, and lets the person act meanwhile.
+void Desk::TellBusy() {
+  if (std::exchange(is_told_idle_, false)) Telling("busy").Send();
+}
+
 const Desk::KnownDeed* Desk::FindDeed(const std::string& did) {
   const auto known = std::find_if(std::begin(kDeeds), std::end(kDeeds),
                                   [&did](const auto& each) { return did == each.did; });
@@ -142,6 +149,7 @@ void Desk::Watch(const host::ProgressEvent& progress) {
   if (progress.kind == Kind::kStart) last_glance_ = Clock::now();
   if (progress.kind == Kind::kEnd) return Telling("progress-gone").Send();
   if (Clock::now() - last_glance_ < kPause) return;
+  TellBusy();
   Telling telling("progress");
   cli::WriteText(telling.Json(), "what", progress.title);
   cli::WriteInteger(telling.Json(), "percent", progress.percent);

@@ -55,6 +55,7 @@ class Desk final : private host::LivePerson {
   void Act(bool awaited) override;
   void TypeRange();
   void TellChanges();
+  void TellBusy();
   void Take(const PersonEvent& event, When now);
   // While the plug-in shows how far it is.
   void Watch(const host::ProgressEvent& progress);
@@ -105,6 +106,7 @@ class Desk final : private host::LivePerson {
   std::optional<std::pair<int, int>> range_;  // to be typed into the next dialog
   std::chrono::steady_clock::time_point last_glance_;
   When now_ = When::kWaiting;
+  bool is_told_idle_ = false;
 };
 
 }  // namespace web

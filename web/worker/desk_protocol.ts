@@ -115,6 +115,8 @@ export interface StoredValue {
 export type Told =
   /** The desk stands at the top: no dialog is asked, and the next task can be given. */
   | { tell: "idle" }
+  /** What was done then goes on, and waits for the person or shows how far it is; behind its end comes `idle`. */
+  | { tell: "busy" }
   | { tell: "dialog"; shown: ShownDialog }
   | { tell: "controls"; dialog: number; changed: ControlChange[] }
   | { tell: "dialog-gone"; dialog: number }

@@ -192,7 +192,8 @@ function takeWork(told: Told): void {
     idle.value = true;
     deskProgress.value = null;
     handOutWritten();
-  } else if (told.tell === "file") takeFile(told);
+  } else if (told.tell === "busy") idle.value = false;
+  else if (told.tell === "file") takeFile(told);
   else if (told.tell === "progress") deskProgress.value = told;
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);

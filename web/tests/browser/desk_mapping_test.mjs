@@ -198,6 +198,16 @@ test("a marker is picked by keys alone", () =>
     assert.deepEqual(await desk.mapping(), { LFHD: "walker:RTOE" });
   }));
 
+test("no task can be given while a marker is asked for", () =>
+  atMapping(async (desk) => {
+    for (const name of ["Open scene…", "Save scene…", "New scene", "Export HTR…", "About…"]) {
+      assert.ok(await desk.button(name).isDisabled(), name);
+    }
+    assert.ok(await desk.page.getByRole("button", { name: "Import walk.trc" }).isDisabled());
+    await desk.creator.getByRole("button", { name: "Abort" }).click();
+    await desk.waitForRest();
+  }));
+
 test("a held key picks once", () =>
   atMapping(async (desk) => {
     const { keyboard } = desk.page;

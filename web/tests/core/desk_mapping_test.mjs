@@ -81,6 +81,21 @@ test("a second pick of a step that is over is none of the next", async () => {
   assert.equal(person.mapping.asked, "LBHD");
 });
 
+test("the desk is busy until the creation has ended", async () => {
+  const person = await Person.sit();
+  await person.import(markers.path, markers.bytes);
+  await person.doUntil({ did: "open-panel" }, "dialog");
+  await person.until("idle");
+  await person.press(DIALOG.panel, CONTROL.createMapping, "busy");
+  await person.until("message");
+  await person.answer("no", "message");
+  await person.answer("no", "pick-mode");
+  await pickOn(person, 2);
+  const last = person.told.findLast(({ tell }) => tell === "idle" || tell === "busy");
+  assert.equal(last.tell, "busy");
+  await person.press(DIALOG.creator, CONTROL.abort, "idle");
+});
+
 test("a stick is asked for when there is one", async () => {
   const person = await asked(["yes", "no"]);
   await pickOn(person, 10);

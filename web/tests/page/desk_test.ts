@@ -103,6 +103,16 @@ test("what was written is handed out when the desk is at rest again", () => {
   assert.deepEqual([...desk.deskFiles.value.keys()], ["out/a.bvk", "out/b.bvk"]);
 });
 
+test("a task can be given at rest alone", () => {
+  assert.equal(work.free.value, true);
+  current().tell({ tell: "busy" });
+  assert.equal(work.free.value, false);
+  current().tell({ tell: "idle" });
+  assert.equal(work.free.value, true);
+  desk.giveTask({ did: "about" });
+  assert.equal(work.free.value, false);
+});
+
 test("a file is put once, and under a name of its own", () => {
   const first = new Blob(["1"]);
   assert.equal(desk.putFile("walk.trc", first), "walk.trc");
