@@ -4,15 +4,21 @@ import type { FileChoice, FolderChoice } from "../logic/desk_things";
 import { fitsPattern, withExtension } from "../logic/file_pattern";
 import { baseName } from "../logic/handed_out";
 import { shown } from "../logic/names";
-import { deskFiles, putFile, tell } from "../state/desk";
+import { choiceRefusal, choose, deskFiles, putFile } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { ConversionLosses } from "./loss_report";
 import { Window } from "./window";
 
 /** Choices of files and folders: among those that are open here, or from this machine. */
 
-function choose(choice: number, paths: string[]): void {
-  tell({ did: "chosen", choice, paths });
+/** Why what was chosen is not accepted. */
+function Refusal() {
+  const words = choiceRefusal.value;
+  return words === "" ? null : (
+    <p class="refusal" role="alert">
+      {shown(words, 1000)}
+    </p>
+  );
 }
 
 /** The plug-in asks for marker files to convert them. */
@@ -54,6 +60,7 @@ export function OpenWindow({ choice }: { choice: FileChoice }) {
           <ConversionLosses files={chosen.flatMap((path) => deskFiles.value.get(path) ?? [])} />
         </div>
       )}
+      <Refusal />
       <div class="window-buttons">
         <button onClick={() => void fetchFiles(choice.many, add)}>From this machine…</button>
         <span class="spring" />
@@ -148,6 +155,7 @@ export function NameWindow({ title, hint, label, first, accept, cancel }: NamePr
           />
         </label>
         <p class="quiet">{hint}</p>
+        <Refusal />
         <div class="window-buttons">
           <button class="primary" disabled={!name.trim()}>
             {"OK"}

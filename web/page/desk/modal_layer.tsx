@@ -7,14 +7,15 @@ import { LossReport } from "./loss_report";
 import { MessageWindow } from "./message_window";
 import { keepFocus } from "./window";
 
-/** What the plug-in waits for: one window over the other, of which the last can be used. */
+/** What the plug-in waits for: one window over the other, of which the last can be used; and notices, as always. */
 export function ModalLayer() {
   const things = modalThings.value;
   const layer = useRef<HTMLDivElement>(null);
   useLayoutEffect(() => {
     const page = [...(layer.current?.parentElement?.children ?? [])];
     for (const part of page) {
-      if (part !== layer.current) part.toggleAttribute("inert", things.length > 0);
+      const stays = part === layer.current || part.matches(".notices");
+      if (!stays) part.toggleAttribute("inert", things.length > 0);
     }
   }, [things.length > 0]);
   return (

@@ -86,6 +86,10 @@ export function isModal(thing: Thing): boolean {
   return thing.kind !== "dialog" || thing.dialog.modal;
 }
 
+export function isChoice({ kind }: Thing): boolean {
+  return kind === "files" || kind === "folder";
+}
+
 export function modelessDialog(things: readonly Thing[], template: number): ShownDialog | null {
   for (const thing of things) {
     if (thing.kind === "dialog" && !thing.dialog.modal && thing.dialog.template === template) {

@@ -9,7 +9,7 @@ import type {
   ToldFinding,
 } from "../../worker/desk_protocol";
 import { ownNameFor } from "../../worker/file_paths";
-import { isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
+import { isChoice, isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
 import type { WrittenFile } from "../logic/handed_out";
 import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
@@ -34,11 +34,24 @@ export interface PickMode {
   readonly pickable: ReadonlySet<number>;
 }
 
+const TASKS: ReadonlySet<Did["did"]> = new Set<Did["did"]>([
+  "import",
+  "export",
+  "about",
+  "open-scene",
+  "new-scene",
+  "save-scene",
+  "open-panel",
+]);
+
 const NO_PICKING: PickMode = { on: false, pickable: new Set() };
 
 /** What is open, in the order in which it was opened. */
 export const things = signal<readonly Thing[]>([]);
 export const modalThings = computed(() => things.value.filter(isModal));
+/** Why the choice that is open is not accepted. */
+export const choiceRefusal = signal("");
+const choosing = computed(() => things.value.some(isChoice));
 export const idle = signal(false);
 export const failure = signal<string | null>(null);
 export const pickMode = signal<PickMode>(NO_PICKING);
@@ -97,6 +110,7 @@ export async function beginAnew(): Promise<void> {
 function forgetAll(): void {
   things.value = [];
   idle.value = false;
+  choiceRefusal.value = "";
   failure.value = null;
   deskProgress.value = null;
   deskFiles.value = new Map();
@@ -114,6 +128,12 @@ function forgetAll(): void {
 
 export function tell(did: Did): void {
   desk?.do(did);
+}
+
+/** No path leaves the choice. */
+export function choose(choice: number, paths: string[]): void {
+  choiceRefusal.value = "";
+  tell({ did: "chosen", choice, paths });
 }
 
 /** Gives the desk something to do from its top. */
@@ -188,7 +208,8 @@ function take(told: Told): void {
 }
 
 function takeWork(told: Told): void {
-  if (told.tell === "idle") {
+  if (told.tell === "choice-gone") choiceRefusal.value = "";
+  else if (told.tell === "idle") {
     idle.value = true;
     deskProgress.value = null;
     handOutWritten();
@@ -197,7 +218,7 @@ function takeWork(told: Told): void {
   else if (told.tell === "progress") deskProgress.value = told;
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);
-  else if (told.tell === "refused") notify("error", pageWords(told.words));
+  else if (told.tell === "refused") takeRefusal(told.did, told.words);
   else if (told.tell === "done" && !told.completed) tellFailed(told.task);
   else if (told.tell === "failed") takeFailure(told.words);
 }
@@ -234,6 +255,12 @@ function takePickMode(on: boolean, pickable: readonly number[]): void {
 function takeFailure(words: string): void {
   forgetAll();
   failure.value = words;
+}
+
+/** Tasks are refused in words. Anything else came too late for what it was meant for, or met nothing. */
+function takeRefusal(did: Did["did"], words: string): void {
+  if (did === "chosen" && choosing.value) choiceRefusal.value = pageWords(words);
+  else if (TASKS.has(did)) notify("error", pageWords(words));
 }
 
 /** The plug-in has told why in its own boxes, but of scenes it knows nothing. */

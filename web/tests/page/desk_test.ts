@@ -281,6 +281,26 @@ test("a refusal is told in words, and a scene that is none", () => {
   ]);
 });
 
+test("what comes too late, or meets nothing, is passed over in silence", () => {
+  for (const did of ["command", "text", "answer", "pick", "right-click", "select"] as const) {
+    current().tell({ tell: "refused", did, words: "It is not there any more." });
+  }
+  assert.deepEqual(notices.value, []);
+});
+
+test("why a choice is not accepted is told with it, until another is made", () => {
+  const refused: Told = { tell: "refused", did: "chosen", words: "It is too long." };
+  current().tell({ tell: "choose-folder", choice: 7, title: "t" });
+  desk.choose(7, ["a"]);
+  current().tell(refused);
+  assert.equal(desk.choiceRefusal.value, "It is too long.");
+  desk.choose(7, ["b"]);
+  assert.equal(desk.choiceRefusal.value, "");
+  current().tell(refused, { tell: "choice-gone", choice: 7 }, refused);
+  assert.equal(desk.choiceRefusal.value, "");
+  assert.deepEqual(notices.value, []);
+});
+
 test("settings are handed to the next desk when they are kept", async () => {
   const value = (name: string): StoredValue => ({ key: "k", name, type: "int32", bytes: [1, 0, 0, 0] });
   current().tell({ tell: "settings", values: [value("Size"), value("MNMPath")] });
