@@ -128,9 +128,8 @@ std::string Desk::Use(const PersonEvent& event) {
 }
 
 std::string Desk::Type(const PersonEvent& event) {
-  std::string refusal = desktop_.Type(event.number, event.control, event.text);
-  if (refusal.empty()) told_desktop_.TakeTyped(event.number, event.control, event.text);
-  return refusal;
+  told_desktop_.TakeTyped(event.number, event.control, event.text);
+  return desktop_.Type(event.number, event.control, event.text);
 }
 
 std::string Desk::Answer(const PersonEvent& event) {
@@ -185,8 +184,6 @@ std::string Desk::Hover(const PersonEvent& event) {
 }
 
 std::string Desk::Select(const PersonEvent& event) {
-  std::string held = desktop_.WhyHeld();
-  if (!held.empty()) return held;
   told_scene_.TakeSelect(event.number);
   host::Scene& scene = application_->scene();
   for (const std::uint32_t handle : event.nodes) {
@@ -199,8 +196,6 @@ std::string Desk::Select(const PersonEvent& event) {
 }
 
 std::string Desk::SetTime(const PersonEvent& event) {
-  std::string held = desktop_.WhyHeld();
-  if (!held.empty()) return held;
   host::AnimationState& animation = application_->scene().Animation();
   animation.SetTime(event.frame * animation.TicksPerFrame());
   return "";

@@ -34,8 +34,8 @@ const Desk::KnownDeed Desk::kDeeds[] = {{"command", When::kWaiting, &Desk::Use},
                                         {"chosen", When::kWaiting, &Desk::Choose},
                                         {"pick", When::kWaiting, &Desk::Pick},
                                         {"right-click", When::kWaiting, &Desk::RightClick},
-                                        {"select", When::kWaiting, &Desk::Select},
-                                        {"time", When::kWaiting, &Desk::SetTime},
+                                        {"select", When::kUnheld, &Desk::Select},
+                                        {"time", When::kUnheld, &Desk::SetTime},
                                         {"open-panel", When::kAtTop, &Desk::OpenPanel},
                                         {"close-panel", When::kWaiting, &Desk::ClosePanel},
                                         {"hover", When::kAlways, &Desk::Hover},
@@ -83,22 +83,31 @@ void Desk::Run() {
 // A plug-in that goes on by itself looks for messages far more often than a page has to.
 void Desk::Act(bool awaited) {
   const bool is_soon = Clock::now() - last_glance_ < kPause;
-  if (!awaited && is_soon && put_off_.empty()) return;
+  if (!awaited && is_soon && !IsAnythingPutOff()) return;
   const When now = std::exchange(now_, When::kWaiting);
   if (now != When::kAtTop) TellBusy();
   TypeRange();
   TellChanges();
-  PersonEvent event;
-  if (!put_off_.empty()) {
-    event = std::move(put_off_.front());
-    put_off_.pop_front();
-  } else {
-    const std::optional<std::string> words = NextEvent(awaited);
-    last_glance_ = Clock::now();
-    if (!words) return;
-    event = ParseEvent(*words).value_or(PersonEvent());
+  const std::optional<PersonEvent> event = NextDeed(awaited);
+  if (event) Take(*event, now);
+}
+
+bool Desk::IsAnythingPutOff() const {
+  return !put_off_.empty() || (!held_.empty() && desktop_.WhyHeld().empty());
+}
+
+std::optional<PersonEvent> Desk::NextDeed(bool awaited) {
+  const bool is_held = !desktop_.WhyHeld().empty();
+  std::deque<PersonEvent>& first = is_held || held_.empty() ? put_off_ : held_;
+  if (!first.empty()) {
+    PersonEvent event = std::move(first.front());
+    first.pop_front();
+    return event;
   }
-  Take(event, now);
+  const std::optional<std::string> words = NextEvent(awaited);
+  last_glance_ = Clock::now();
+  if (!words) return std::nullopt;
+  return ParseEvent(*words).value_or(PersonEvent());
 }
 
 // As a person would who knows which frames he wants.
@@ -133,6 +142,7 @@ const Desk::KnownDeed* Desk::FindDeed(const std::string& did) {
 void Desk::Take(const PersonEvent& event, When now) {
   const KnownDeed* const known = FindDeed(event.did);
   if (known == nullptr) return Refuse(event.did, "Nobody can do that");
+  if (known->when == When::kUnheld && !desktop_.WhyHeld().empty()) return held_.push_back(event);
   std::string refusal;
   if (known->when == When::kAtTop && now != When::kAtTop) {
     refusal = desktop_.WhyHeld();

@@ -42,6 +42,7 @@ class Desk final : private host::LivePerson {
   enum class When {
     kAlways,   // it is a question
     kWaiting,  // the plug-in lets the person act
+    kUnheld,   // nothing modal is open; what is done before that is over waits
     kAtTop     // nothing is under way
   };
   struct KnownDeed {
@@ -56,6 +57,8 @@ class Desk final : private host::LivePerson {
   void TypeRange();
   void TellChanges();
   void TellBusy();
+  [[nodiscard]] bool IsAnythingPutOff() const;
+  std::optional<PersonEvent> NextDeed(bool awaited);
   void Take(const PersonEvent& event, When now);
   // While the plug-in shows how far it is.
   void Watch(const host::ProgressEvent& progress);
@@ -103,6 +106,7 @@ class Desk final : private host::LivePerson {
 
   std::optional<WatchedImport> importing_;
   std::deque<PersonEvent> put_off_;           // done while the plug-in did not let the person act
+  std::deque<PersonEvent> held_;              // done while something modal was open
   std::optional<std::pair<int, int>> range_;  // to be typed into the next dialog
   std::chrono::steady_clock::time_point last_glance_;
   When now_ = When::kWaiting;

@@ -73,6 +73,22 @@ test("each selection is answered with its number, whatever became of it", async 
   assert.deepEqual(await select([9999], 3), { nodes: [node], number: 3 });
 });
 
+test("what is selected while a dialog is open, or on its way, is selected when that is gone", async () => {
+  const person = await Person.sit();
+  await person.import(walk.path, walk.bytes);
+  const [node, other] = [person.node("Hips"), person.node("Spine")];
+  person.desk.do({ did: "import", path: walk.path });
+  person.desk.do({ did: "select", nodes: [node], number: 1 });
+  person.desk.do({ did: "time", frame: 7 });
+  await person.until("dialog");
+  const told = await person.step({ did: "select", nodes: [other], number: 2 });
+  assert.deepEqual(told, []);
+  await person.press(DIALOG.importHtr, CONTROL.cancel, "idle");
+  const answers = [await person.until("selection"), await person.until("selection")];
+  assert.deepEqual(answers.map(({ nodes, number }) => [nodes, number]), [[[node], 1], [[other], 2]]);
+  assert.ok(!person.told.some(({ tell, did }) => tell === "refused" && did !== "hover"));
+});
+
 test("an import adds to the scene that is there", async () => {
   const person = await Person.sit();
   await person.import(walk.path, walk.bytes);
