@@ -226,6 +226,7 @@ std::string Desk::StoreSettings(const PersonEvent& event) {
 void Desk::StartScene() {
   NewApplication();
   reading_ = {};
+  Telling("scene-gone").Send();
   if (std::exchange(is_panel_open_, false)) static_cast<void>(OpenPanel({}));
 }
 

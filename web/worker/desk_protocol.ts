@@ -149,6 +149,8 @@ export type Told =
    * is opened and whenever a choice has changed. `refusal` is why the program would not export it so, or empty.
    */
   | { tell: "losses"; findings: ToldFinding[]; refusal: string }
+  /** What is told next is another one. */
+  | { tell: "scene-gone" }
   | { tell: "scene"; scene: ShownScene }
   | { tell: "colors"; changed: { node: number; color: Color }[] }
   /** Whenever it has changed, and after each `select`: its number is that of the last one that was done, or 0. */

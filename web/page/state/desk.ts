@@ -122,6 +122,10 @@ function forgetAll(): void {
   report.value = [];
   losses.value = null;
   suggestions.value = [];
+  forgetScene();
+}
+
+function forgetScene(): void {
   showScene(null);
   showSelected([]);
 }
@@ -224,7 +228,8 @@ function takeWork(told: Told): void {
 }
 
 function takeScene(told: Told): void {
-  if (told.tell === "scene") showScene(told.scene);
+  if (told.tell === "scene-gone") forgetScene();
+  else if (told.tell === "scene") showScene(told.scene);
   else if (told.tell === "colors") paintScene(told.changed);
   else if (told.tell === "selection") takeSelection(told.nodes, told.number);
   else if (told.tell === "pick-mode") takePickMode(told.on, told.pickable);

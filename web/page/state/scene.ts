@@ -3,7 +3,7 @@ import type { Color, ShownScene } from "../../worker/desk_protocol";
 import { indexGaps } from "../logic/gaps";
 import { sceneInfo, sceneTracks } from "../logic/scene_take";
 import { scene, SCENE_KEY, working, type Take } from "./takes";
-import { FIRST_PLACE, frame, returnTo, timePlace } from "./time";
+import { FIRST_PLACE, forgetPlaceInScene, returnTo, timePlace } from "./time";
 
 /** The scene of the desk, which is seen as takes are. */
 
@@ -39,10 +39,11 @@ export function nodeOf(object: number): number {
 /** Shows the scene, at the frame that is shown as far as it has that. */
 export function showScene(shown: ShownScene | null): void {
   const isEmpty = !shown || shown.nodes.length === 0;
-  const place = scene.value ? timePlace() : { ...FIRST_PLACE, frame: 0 };
+  const place = scene.value ? timePlace() : FIRST_PLACE;
   batch(() => {
     scene.value = isEmpty ? null : takeOf(shown);
-    if (working.value) returnTo(scene.value ? { ...place, frame: frame.value } : FIRST_PLACE);
+    if (isEmpty) forgetPlaceInScene();
+    else if (working.value) returnTo(place);
   });
 }
 

@@ -163,6 +163,26 @@ export function returnTo(place: TimePlace): void {
   goTo(place.frame);
 }
 
+/** Where somebody was in what is not seen now: the scene, or the takes. */
+let elsewhere: TimePlace = FIRST_PLACE;
+
+export function placeElsewhere(): TimePlace {
+  return elsewhere;
+}
+
+/** Goes where somebody was in what is seen from now on. */
+export function goElsewhere(): void {
+  const here = timePlace();
+  returnTo(elsewhere);
+  elsewhere = here;
+}
+
+/** Another scene begins at its start, whether it is seen or not. */
+export function forgetPlaceInScene(): void {
+  if (working.value) returnTo(FIRST_PLACE);
+  else elsewhere = FIRST_PLACE;
+}
+
 export function zoomTimeline(factor: number, around = frame.value + 0.5): void {
   showFrames(zoomed(timelineView.value, factor, around, reach.value));
 }

@@ -18,20 +18,16 @@ import {
 import { notifyFailure } from "./notices";
 import { chosenNodes } from "./selection";
 import { activeFile, scene, takes, working, type Take } from "./takes";
-import { FIRST_PLACE, frame, playing, returnTo, timePlace, type TimePlace } from "./time";
+import { frame, goElsewhere, placeElsewhere, playing, timePlace } from "./time";
 
 /** Working on a scene: what is done from outside of the plug-in's dialogs. */
-
-let elsewhere: TimePlace = FIRST_PLACE;
 
 /** Goes from the takes to the scene or back; each has its own place in time. */
 export function setWorking(on: boolean): void {
   if (working.value === on) return;
   batch(() => {
-    const here = timePlace();
     working.value = on;
-    returnTo(elsewhere);
-    elsewhere = here;
+    goElsewhere();
   });
   if (on) void beginDesk().catch((reason) => notifyFailure("The desk did not start", reason));
 }
@@ -45,7 +41,7 @@ export const importedTake = signal<Take | null>(null);
 export function importFile(take: Take): void {
   importedTake.value = take;
   const { frames, firstFrame } = take.info;
-  const range = take === activeFile.value ? rangeOf(elsewhere, frames, firstFrame) : undefined;
+  const range = take === activeFile.value ? rangeOf(placeElsewhere(), frames, firstFrame) : undefined;
   giveTask({ did: "import", path: putFile(take.info.name, take.file), range });
 }
 

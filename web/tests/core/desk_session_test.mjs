@@ -42,7 +42,8 @@ test("a scene is opened, and what is no scene leaves the one that is there", asy
   const opened = next.scene;
   assert.deepEqual((await next.doUntil({ did: "ask-scene" }, "scene")).scene, opened);
   assert.deepEqual(await next.save("kept.glb"), bytes);
-  await next.doUntil({ did: "new-scene" }, "done");
+  await next.doUntil({ did: "new-scene" }, "scene-gone");
+  await next.until("done");
   assert.deepEqual(next.scene.nodes, []);
 });
 

@@ -196,6 +196,31 @@ test("what is selected stays so while the scene grows", () => {
   assert.deepEqual([...selectedInActive.value], [2]);
 });
 
+for (const seen of [true, false]) {
+  test(`another scene has nothing of the one before, ${seen ? "" : "not "}seen`, () => {
+    current().tell({ tell: "scene", scene: sceneOf(node(1, "A"), node(2, "B")) });
+    select(scene.value!, 1, false);
+    time.jumpTo(9);
+    time.setIn();
+    work.setWorking(seen);
+    current().tell(
+      { tell: "scene-gone" },
+      { tell: "scene", scene: sceneOf(node(1, "C"), node(2, "D")) },
+    );
+    work.setWorking(true);
+    assert.equal(selectedInActive.value.size, 0);
+    assert.deepEqual(time.timePlace(), time.FIRST_PLACE);
+  });
+}
+
+test("a scene that grows stays at its place in time", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(1, "A")) });
+  time.jumpTo(4);
+  time.setIn();
+  current().tell({ tell: "scene", scene: sceneOf(node(1, "A"), node(2, "B")) });
+  assert.deepEqual(time.timePlace(), { frame: 4, inPoint: 4, outPoint: null });
+});
+
 test("what is suggested is taken while it can be picked", () => {
   current().tell(
     { tell: "scene", scene: sceneOf(node(4, "LFHD"), node(9, "B")) },
