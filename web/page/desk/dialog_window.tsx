@@ -1,4 +1,4 @@
-import { useMemo } from "preact/hooks";
+import { useLayoutEffect, useMemo, useRef } from "preact/hooks";
 import type { ShownDialog } from "../../worker/desk_protocol";
 import {
   CLOSE_CONTROL,
@@ -9,6 +9,8 @@ import {
 } from "../logic/dialog_layout";
 import { tell } from "../state/desk";
 import { Control } from "./control";
+import { LossReport } from "./loss_report";
+import { passFocusOn } from "./stops";
 import { Window } from "./window";
 
 /** A dialog of the plug-in. Nothing but the plug-in closes it. */
@@ -19,7 +21,13 @@ interface DialogProperties {
 
 export function DialogWindow({ dialog }: DialogProperties) {
   return (
-    <Window title={dialog.title} cross={dialog.closeBox} close={() => useControl(dialog, CLOSE_CONTROL)}>
+    <Window
+      title={dialog.title}
+      cross={dialog.closeBox}
+      close={() => useControl(dialog, CLOSE_CONTROL)}
+      press={(event) => press(event, dialog)}
+      beside={<LossReport dialog={dialog} />}
+    >
       <DialogBody dialog={dialog} />
     </Window>
   );
@@ -33,9 +41,12 @@ export function DialogBody({ dialog }: DialogProperties) {
   const { controls, width, height } = dialog;
   const placed = useMemo(() => placeControls(controls), [controls]);
   const size = sizeOf(width, height);
+  const body = useRef<HTMLDivElement>(null);
+  useLayoutEffect(() => passFocusOn(body.current!));
   return (
     <div
       class="desk-dialog"
+      ref={body}
       style={{ width: `${size.width}em`, height: `${size.height}em` }}
       data-dialog={dialog.template}
       onKeyDown={(event) => press(event, dialog)}

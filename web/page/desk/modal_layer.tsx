@@ -3,9 +3,8 @@ import type { Thing } from "../logic/desk_things";
 import { modalThings } from "../state/desk";
 import { FolderWindow, OpenWindow, SaveWindow } from "./choice_window";
 import { DialogWindow } from "./dialog_window";
-import { LossReport } from "./loss_report";
 import { MessageWindow } from "./message_window";
-import { keepFocus } from "./window";
+import { keepFocus } from "./stops";
 
 /** What the plug-in waits for: one window over the other, of which the last can be used; and notices, as always. */
 export function ModalLayer() {
@@ -40,12 +39,7 @@ export function ModalLayer() {
 function ThingWindow({ thing }: { thing: Thing }) {
   switch (thing.kind) {
     case "dialog":
-      return (
-        <>
-          <DialogWindow dialog={thing.dialog} />
-          <LossReport dialog={thing.dialog} />
-        </>
-      );
+      return <DialogWindow dialog={thing.dialog} />;
     case "message":
       return <MessageWindow message={thing.message} />;
     case "files":
