@@ -1,11 +1,12 @@
 import { useEffect, useRef } from "preact/hooks";
 import { keyText, SECTIONS } from "../logic/key_map";
+import { modalThings } from "../state/desk";
 import { keysShown } from "../state/layout";
 
-/** All keys, on `?`. */
+/** All keys, on `?`. What the plug-in asks takes their place, for nothing can lie over them. */
 export function KeysDialog() {
   const dialog = useRef<HTMLDialogElement>(null);
-  const shown = keysShown.value;
+  const shown = keysShown.value && modalThings.value.length === 0;
   useEffect(() => {
     if (shown) dialog.current?.showModal();
     else dialog.current?.close();

@@ -80,3 +80,15 @@ test("a button that cannot be used any more hands the focus on", () =>
     await desk.waitForAsked("LFHD");
     await desk.creator.getByRole("button", { name: "Abort" }).and(focused(desk)).waitFor();
   }));
+
+test("the list of keys makes room for what the plug-in asks", () =>
+  atWork(TRC, async (desk) => {
+    const keys = desk.dialog("Keys");
+    await desk.page.keyboard.press("?");
+    await keys.waitFor();
+    await desk.page.getByRole("button", { name: "Import walk.trc" }).dispatchEvent("click");
+    const dialog = desk.dialog("ImportTRC");
+    await dialog.getByRole("button", { name: "Cancel" }).click();
+    await desk.waitForRest();
+    await keys.waitFor({ state: "hidden" });
+  }));
