@@ -1,5 +1,5 @@
 import type { MessageBox } from "../logic/desk_things";
-import { shown } from "../logic/names";
+import { shownLines } from "../logic/names";
 import { tell } from "../state/desk";
 import { Window } from "./window";
 
@@ -17,7 +17,7 @@ export function MessageWindow({ message }: { message: MessageBox }) {
   };
   return (
     <Window title={message.caption} close={leave} alert cross={message.buttons.length === 1}>
-      <p class="message-text">{shown(message.text, LONGEST)}</p>
+      <p class="message-text">{shownLines(message.text, LONGEST)}</p>
       <div class="window-buttons">
         {message.buttons.map((button, index) => (
           <button key={button} class={index === 0 ? "primary" : ""} onClick={() => answer(button)}>

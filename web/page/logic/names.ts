@@ -29,6 +29,12 @@ export function numbered(name: string, number: number, length?: number): string 
   return shown(name, length) + (number > 1 ? ` (${number})` : "");
 }
 
+/** A text of several lines, each as it may be shown, without those at the ends that are empty. */
+export function shownLines(text: string, length: number): string {
+  const lines = cut(text.trim(), length).split(/\r?\n/);
+  return lines.map((line) => shown(line, length)).join("\n");
+}
+
 /** The name of a file without its ending, safe as the name of a download. */
 export function fileStem(name: string): string {
   const stem = name.replace(/\.[^.]*$/, "");

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { cut, fileStem, shown } from "../../page/logic/names";
+import { cut, fileStem, shown, shownLines } from "../../page/logic/names";
 
 test("names are shown as they are, and what cannot be seen by its code", () => {
   const cases: [string, string][] = [
@@ -23,6 +23,11 @@ test("long names are cut, no character torn", () => {
   assert.equal(cut("abcdef", 5), "abcde…");
   assert.equal(cut("ab\u{1f600}cd", 3), "ab…");
   assert.equal(shown("x".repeat(10_000)).length, 201);
+});
+
+test("lines of a message stay lines, and what ends it is no line of its own", () => {
+  assert.equal(shownLines("one\u0000\r\n\ntwo\n", 100), "one[U+0000]\n\ntwo");
+  assert.equal(shownLines("x".repeat(50), 10), `${"x".repeat(10)}…`);
 });
 
 test("names of downloads hold nothing that leads elsewhere", () => {
