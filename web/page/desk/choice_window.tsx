@@ -1,10 +1,10 @@
 import { useState } from "preact/hooks";
 import { chooseFiles } from "../data/files";
 import type { FileChoice, FolderChoice } from "../logic/desk_things";
-import { fitsPattern, withExtension } from "../logic/file_pattern";
+import { fitsPattern, nameOfMade, withExtension } from "../logic/file_pattern";
 import { baseName } from "../logic/handed_out";
 import { shown } from "../logic/names";
-import { choiceRefusal, choose, deskFiles, putFile } from "../state/desk";
+import { choiceRefusal, choose, chosenLast, deskFiles, putFile } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { ConversionLosses } from "./loss_report";
 import { Window } from "./window";
@@ -104,7 +104,7 @@ export function SaveWindow({ choice }: { choice: FileChoice }) {
       title={title}
       hint={filter}
       label="Name of the file"
-      first={withExtension("mapping", extension)}
+      first={nameOfMade(chosenLast.value, extension)}
       accept={accept}
       cancel={() => choose(choice.choice, [])}
     />

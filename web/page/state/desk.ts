@@ -51,6 +51,8 @@ export const things = signal<readonly Thing[]>([]);
 export const modalThings = computed(() => things.value.filter(isModal));
 /** Why the choice that is open is not accepted. */
 export const choiceRefusal = signal("");
+/** The file that was chosen last for what the desk does now, or nothing. */
+export const chosenLast = signal("");
 const choosing = computed(() => things.value.some(isChoice));
 export const idle = signal(false);
 export const failure = signal<string | null>(null);
@@ -137,6 +139,7 @@ export function tell(did: Did): void {
 /** No path leaves the choice. */
 export function choose(choice: number, paths: string[]): void {
   choiceRefusal.value = "";
+  chosenLast.value = paths[paths.length - 1] ?? "";
   tell({ did: "chosen", choice, paths });
 }
 
@@ -215,6 +218,7 @@ function takeWork(told: Told): void {
   if (told.tell === "choice-gone") choiceRefusal.value = "";
   else if (told.tell === "idle") {
     idle.value = true;
+    chosenLast.value = "";
     deskProgress.value = null;
     handOutWritten();
   } else if (told.tell === "busy") idle.value = false;

@@ -326,6 +326,13 @@ test("why a choice is not accepted is told with it, until another is made", () =
   assert.deepEqual(notices.value, []);
 });
 
+test("what was chosen last is known for as long as the desk is at it", () => {
+  desk.choose(7, ["a.trc", "b.trc"]);
+  assert.equal(desk.chosenLast.value, "b.trc");
+  current().tell({ tell: "idle" });
+  assert.equal(desk.chosenLast.value, "");
+});
+
 test("settings are handed to the next desk when they are kept", async () => {
   const value = (name: string): StoredValue => ({ key: "k", name, type: "int32", bytes: [1, 0, 0, 0] });
   current().tell({ tell: "settings", values: [value("Size"), value("MNMPath")] });
