@@ -235,7 +235,7 @@ export class Stage {
     return box;
   }
 
-  /** Shows all of the first take, or a moment of it: of a scene, and where it goes so far that nothing would be seen. */
+  /** Shows all that the first takes ever show; of a scene, and of takes that go so far that nothing would be seen, this moment alone. */
   private lookAtFirst(): void {
     for (const drawing of this.drawings) drawing.show(frameOf(drawing.take));
     const whole = this.wholeBox();
@@ -244,8 +244,8 @@ export class Stage {
     const objects = this.drawings.reduce((sum, drawing) => sum + drawing.count, 0);
     const tells = isTelling(drawn, objects, diagonal(moment), diagonal(whole));
     const isFar = tells && diagonal(whole) > FAR * diagonal(moment);
-    const isPicked = working.value && !isEmpty(moment);
-    this.eye.fit(isFar || isPicked ? moment : whole, whole);
+    const isScene = working.value && !isEmpty(moment);
+    this.eye.fit(isFar || isScene ? moment : whole, whole);
     this.invalidate();
   }
 
