@@ -48,18 +48,32 @@ test("ImportTRC refuses in its own words, stays, and imports what is right", () 
     await desk.waitForNodes(41);
   }));
 
+/** Where the first node is in the frame that is shown. */
+async function placeOfFirst(desk) {
+  await desk.page.mouse.move(0, 0);
+  await desk.page.locator("[data-object]").first().hover();
+  const text = await desk.page.locator(".object-readout .numbers").textContent();
+  return text.split(/\s+/).slice(0, 3).map(Number);
+}
+
 test("motion is applied to what is selected", () =>
   atWork(TRC, async (desk) => {
     await desk.importAsItComes("walk.trc", "ImportTRC", 41);
+    await desk.goTo(35);
     await desk.page.getByTitle("Select all that are found").click();
+    const before = await placeOfFirst(desk);
     await desk.importFile("walk.trc");
     const dialog = desk.dialog("ImportTRC");
     await dialog.getByLabel("Apply").click();
     await desk.waitUntil(dialog, "Apply", ":checked");
+    await dialog.getByLabel("Global", { exact: true }).fill("2");
     await dialog.getByRole("button", { name: "OK", exact: true }).click();
     await dialog.waitFor({ state: "hidden" });
-    await desk.waitForNodes(41);
+    await desk.waitForRest();
     await desk.page.getByText("41 nodes").waitFor();
+    const after = await placeOfFirst(desk);
+    const farthest = before.findIndex((part) => Math.abs(part) === Math.max(...before.map(Math.abs)));
+    assert.ok(Math.abs(after[farthest] / before[farthest] - 2) < 0.05, `${before} ${after}`);
   }));
 
 test("ImportHTR refuses a scale factor that is no number, and can be canceled", () =>
