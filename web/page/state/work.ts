@@ -1,5 +1,6 @@
 import { batch, computed, effect, signal } from "@preact/signals";
 import { rangeOf } from "../logic/frame_range";
+import { baseName } from "../logic/handed_out";
 import { suggestionFor } from "../logic/mapping";
 import {
   asked,
@@ -38,11 +39,16 @@ export const free = computed(() => idle.value && modalThings.value.length === 0)
 /** The file whose import was begun last. */
 export const importedTake = signal<Take | null>(null);
 
+/** Under its own name, with an ending that says what it is: the plug-in goes by that. */
+function putTake(take: Take): string {
+  return putFile(baseName(take.info.path), take.file);
+}
+
 export function importFile(take: Take): void {
   importedTake.value = take;
   const { frames, firstFrame } = take.info;
   const range = take === activeFile.value ? rangeOf(placeElsewhere(), frames, firstFrame) : undefined;
-  giveTask({ did: "import", path: putFile(take.info.name, take.file), range });
+  giveTask({ did: "import", path: putTake(take), range });
 }
 
 export function exportScene(name: string): void {
@@ -53,7 +59,7 @@ export function exportScene(name: string): void {
 
 /** All files that are open can be chosen on the desk. */
 export function putTakes(): void {
-  for (const take of takes.value) putFile(take.info.name, take.file);
+  for (const take of takes.value) putTake(take);
 }
 
 export const suggestion = computed(() =>

@@ -81,8 +81,8 @@ function sceneOf(...nodes: SceneNode[]): ShownScene {
   return { nodes, positions: numbers(), ends: numbers(), ...rest };
 }
 
-function openFile(name: string, frames = 100) {
-  const info = { name, path: name, frames, firstFrame: 1, rate: 60, objects: ["a"] };
+function openFile(name: string, frames = 100, path = name) {
+  const info = { name, path, frames, firstFrame: 1, rate: 60, objects: ["a"] };
   const take = addTake(
     { ...info, gaps: new Int32Array() } as unknown as TakeInfo,
     { positions: new Float32Array() },
@@ -136,6 +136,11 @@ test("in and out points of the file that is worked on are the range of its impor
   assert.equal(current().last("import")?.range, undefined);
   work.setWorking(false);
   assert.equal(time.span.value.first, 9);
+});
+
+test("a file has a name on the desk that says what it is", () => {
+  work.importFile(openFile("take.txt", 100, "2/take.txt.trc"));
+  assert.equal(current().last("import")?.path, "take.txt.trc");
 });
 
 test("a file that is opened while the scene is seen leaves its time alone", () => {
