@@ -55,7 +55,7 @@ test("of two takes of one name both are converted, each to a file of its own", (
   const shorter = WALK_TRC.split("\n").slice(0, -20).join("\n") + "\n";
   return atWork([asFile("walk.trc", WALK_TRC), asFile("walk.trc", shorter)], async (desk) => {
     await desk.openPanel();
-    await chooseMapping(desk);
+    await chooseMapping(desk, MAPPING);
     await chooseFolder(desk, "both");
     await desk.panel.getByLabel("Batch File Conversion").click();
     await desk.waitUntil(desk.panel, "Use TRC Filename", ":disabled");
