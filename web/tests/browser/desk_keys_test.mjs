@@ -81,6 +81,18 @@ test("a button that cannot be used any more hands the focus on", () =>
     await desk.creator.getByRole("button", { name: "Abort" }).and(focused(desk)).waitFor();
   }));
 
+test("a field that cannot be typed into any more hands the focus on", () =>
+  atImport(async (desk, dialog) => {
+    const from = dialog.getByLabel("From", { exact: true });
+    await dialog.getByLabel("Range").click();
+    await from.fill("2");
+    await dialog.getByText("All", { exact: true }).click();
+    await desk.waitUntil(dialog, "From", ":disabled");
+    await dialog.locator(":focus:enabled").waitFor();
+    await desk.page.keyboard.press("Enter");
+    await desk.waitForNodes(41);
+  }));
+
 test("the list of keys makes room for what the plug-in asks", () =>
   atWork(TRC, async (desk) => {
     const keys = desk.dialog("Keys");

@@ -113,14 +113,12 @@ for (const { file, flags, use } of IMPORTS) {
 
 test("a text that is typed while a message waits is taken back", async () => {
   const { person } = await opened(markers.path, markers.bytes);
-  const size = () => person.control(DIALOG.importTrc, CONTROL.size).text;
   person.type(DIALOG.importTrc, CONTROL.size, "0");
   await person.press(DIALOG.importTrc, CONTROL.ok, "message");
-  const before = size();
   const { dialog } = person.dialogs.get(DIALOG.importTrc);
   await person.doUntil({ did: "text", dialog, control: CONTROL.size, text: "7" }, "refused");
   const { changed } = await person.until("controls");
-  assert.deepEqual(changed.map(({ text }) => text), [before]);
+  assert.deepEqual(changed.map(({ text }) => text), ["0"]);
 });
 
 test("in and out points are typed into the dialog", async () => {
