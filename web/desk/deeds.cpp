@@ -36,7 +36,9 @@ std::string Desk::Finish(const PersonEvent& event, const std::optional<host::Fil
   return "";
 }
 
+// Of a file that did not come to the desk its person knows.
 std::string Desk::Import(const PersonEvent& event) {
+  if (!std::filesystem::exists(event.path)) return Finish(event, host::FileResult());
   range_ = event.range;
   importing_.emplace(event.path, application_->scene(), SettingsOfModule());
   const std::optional<host::FileResult> result = module_->Import(event.path, false);

@@ -162,6 +162,8 @@ export type Told =
   | { tell: "done"; task: Task["did"]; completed: boolean }
   /** A file that was written on the desk; behind it comes the end of what has written it. */
   | { tell: "file"; name: string; bytes: Uint8Array<ArrayBuffer> }
+  /** A file that was put but could not be read any more: it is not on the desk. */
+  | { tell: "unread"; path: string }
   /** All values that are stored, whenever one has changed. */
   | { tell: "settings"; values: StoredValue[] }
   /** What cannot be done now, or at all; nothing has changed. */

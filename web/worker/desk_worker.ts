@@ -11,9 +11,19 @@ export function beginDesk(post: (answer: DeskAnswer, transfer: ArrayBuffer[]) =>
   // What the core throws behind a sleep has nobody else who catches it.
   globalThis.addEventListener?.("unhandledrejection", ({ reason }) => fail(reason));
   let desk: DeskInstance | undefined;
+  // Files may have changed or gone since the page was given them.
+  const put = async (path: string, file: Blob): Promise<void> => {
+    let bytes: ArrayBuffer;
+    try {
+      bytes = await file.arrayBuffer();
+    } catch {
+      return tell({ tell: "unread", path });
+    }
+    desk?.put(path, new Uint8Array(bytes));
+  };
   const carryOut = async (order: DeskOrder): Promise<void> => {
     if (order.do === "start-desk") desk = await DeskInstance.begin(order.module, order.settings, tell);
-    else if (order.do === "put") desk?.put(order.path, new Uint8Array(await order.file.arrayBuffer()));
+    else if (order.do === "put") await put(order.path, order.file);
     else desk?.do(order.did);
   };
   let turn = Promise.resolve();

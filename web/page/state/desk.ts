@@ -11,6 +11,7 @@ import type {
 import { ownNameFor } from "../../worker/file_paths";
 import { isChoice, isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
 import type { WrittenFile } from "../logic/handed_out";
+import { shown } from "../logic/names";
 import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
@@ -180,6 +181,12 @@ function remember(path: string, file: Blob): void {
   deskFiles.value = new Map(deskFiles.value).set(path, file);
 }
 
+/** Of no use to the desk any more: who opens it again has it as it is now. */
+function forgetUnread(path: string): void {
+  deskFiles.value = new Map([...deskFiles.value].filter(([there]) => there !== path));
+  notify("error", `${shown(path, 120)} has changed or gone since it was opened. Open it again.`);
+}
+
 /** What is typed is there at once; the plug-in reads it when it wants to. */
 export function type(dialog: number, index: number, control: number, text: string): void {
   things.value = thingsWithText(things.value, dialog, index, text);
@@ -223,6 +230,7 @@ function takeWork(told: Told): void {
     handOutWritten();
   } else if (told.tell === "busy") idle.value = false;
   else if (told.tell === "file") takeFile(told);
+  else if (told.tell === "unread") forgetUnread(told.path);
   else if (told.tell === "progress") deskProgress.value = told;
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);

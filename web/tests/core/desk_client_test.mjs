@@ -38,10 +38,24 @@ test("files that the desk has made are told with their bytes, and the next task 
   desk.end();
 });
 
-test("what a desk cannot do is told as a failure", async () => {
+test("a file that cannot be read any more is told, and leaves the desk and its scene as they are", async () => {
+  const desk = await startDesk();
+  const unread = told(desk, "unread");
+  const done = told(desk, "done", "import");
+  desk.put("gone.trc", { arrayBuffer: "it has changed" });
+  desk.do({ did: "import", path: "gone.trc" });
+  assert.equal((await unread).path, "gone.trc");
+  assert.equal((await done).completed, false);
+  const saved = told(desk, "done", "save-scene");
+  desk.do({ did: "save-scene", path: "empty.glb" });
+  assert.equal((await saved).completed, true);
+  desk.end();
+});
+
+test("a desk that cannot go on is told as a failure", async () => {
   const desk = await startDesk();
   const failed = told(desk, "failed");
-  desk.put("a file that is none", {});
-  assert.match((await failed).words, /arrayBuffer/);
+  desk.do({ did: "select", nodes: 7n });
+  assert.match((await failed).words, /BigInt/);
   desk.end();
 });

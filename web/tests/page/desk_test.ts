@@ -122,6 +122,16 @@ test("a file is put once, and under a name of its own", () => {
   assert.deepEqual(current().files, ["walk.trc", "walk-2.trc", "Walk-3.TRC"]);
 });
 
+test("a file that could not be read is forgotten, and can be put again", () => {
+  const file = new Blob(["1"]);
+  desk.putFile("walk.trc", file);
+  current().tell({ tell: "unread", path: "walk.trc" });
+  assert.deepEqual([...desk.deskFiles.value.keys()], []);
+  assert.match(notices.value[0].title, /^walk\.trc has changed or gone/);
+  assert.equal(desk.putFile("walk.trc", file), "walk.trc");
+  assert.equal(current().files.length, 2);
+});
+
 test("in and out points of the file that is worked on are the range of its import", () => {
   work.setWorking(false);
   const [take, other] = [openFile("a.trc"), openFile("b.trc")];
