@@ -160,6 +160,7 @@ void Desk::Watch(const host::ProgressEvent& progress) {
   if (progress.kind == Kind::kEnd) return Telling("progress-gone").Send();
   if (Clock::now() - last_glance_ < kPause) return;
   TellBusy();
+  told_desktop_.Update(desktop_, application_->rollup_pages());
   Telling telling("progress");
   cli::WriteText(telling.Json(), "what", progress.title);
   cli::WriteInteger(telling.Json(), "percent", progress.percent);

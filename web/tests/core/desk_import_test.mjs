@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
-import { example } from "./built_core.mjs";
+import { example, hurryClock } from "./built_core.mjs";
 import { CONTROL, DIALOG, Person, programFile } from "./desk_person.mjs";
 
 const walk = { path: "walk.htr", bytes: example("walk.htr") };
@@ -140,4 +140,17 @@ test("a scene is told with the places of its nodes", async () => {
   const bone = nodes.findIndex(({ kind, size }) => kind === "bone" && size > 0);
   const way = [0, 1, 2].map((axis) => ends[3 * bone + axis] - positions[3 * bone + axis]);
   assert.ok(Math.abs(Math.hypot(...way) / nodes[bone].size - 1) < 1e-3);
+});
+
+test("an import that shows its progress has left its dialog, and can be cancelled", async (t) => {
+  const { person } = await opened(markers.path, markers.bytes);
+  const { hrtime } = process;
+  t.after(() => (process.hrtime = hrtime));
+  hurryClock();
+  person.replies.set("progress", { did: "cancel" });
+  const done = await person.press(DIALOG.importTrc, CONTROL.ok, "done");
+  const order = person.told.map(({ tell }) => tell);
+  assert.ok(order.indexOf("dialog-gone") < order.indexOf("progress"), order.join(" "));
+  assert.equal(done.completed, false);
+  assert.ok(person.scene.nodes.length < 41, String(person.scene.nodes.length));
 });
