@@ -43,8 +43,8 @@ std::string Desk::Import(const PersonEvent& event) {
   importing_.emplace(event.path, application_->scene(), SettingsOfModule());
   const std::optional<host::FileResult> result = module_->Import(event.path, false);
   if (result && result->completed) importing_->Finish();
+  if (importing_->IsAgreed()) TellWholeScene();
   importing_.reset();
-  if (result) TellWholeScene();
   return Finish(event, result);
 }
 

@@ -17,6 +17,7 @@ WatchedImport::WatchedImport(const std::string& path, host::Scene& scene,
 
 // What the program would refuse is left to the plug-in, which has its own words for it.
 void WatchedImport::Agree() {
+  is_agreed_ = true;
   choices_ = cli::ChoicesOf({}, kind_, settings_);
   std::vector<orvane::FileReport> reports;
   cli::ImportManner manner;

@@ -24,6 +24,7 @@ class WatchedImport {
   // The person has agreed to what the dialog has stored in the settings, and nothing is imported
   // yet. Tells the report.
   void Agree();
+  [[nodiscard]] bool IsAgreed() const { return is_agreed_; }
 
   // The plug-in has done its work.
   void Finish();
@@ -36,6 +37,7 @@ class WatchedImport {
   cli::MeasuredNodes measured_;
   cli::ImportChoices choices_;
   std::optional<cli::ToldImport> told_;
+  bool is_agreed_ = false;
 };
 
 }  // namespace web

@@ -66,7 +66,8 @@ export class Stage {
   private takeDrawings(): void {
     const before = new Map(this.drawings.map((drawing) => [drawing.take, drawing]));
     this.drawings = seenTakes.value.map((take) => before.get(take) ?? new TakeDrawing(take));
-    const areAllNew = !this.drawings.some(({ take }) => before.has(take));
+    const keys = new Set([...before.keys()].map(({ key }) => key));
+    const areAllNew = !this.drawings.some(({ take }) => keys.has(take.key));
     for (const drawing of this.drawings) {
       if (!before.delete(drawing.take)) this.scene.add(drawing.group);
     }

@@ -53,7 +53,7 @@ for (const { file, template, control, text, caption, words } of REFUSALS) {
     assert.ok(person.dialogs.has(template));
     const done = await person.press(template, CONTROL.cancel, "done");
     assert.equal(done.completed, false);
-    assert.equal(person.scene.nodes.length, 0);
+    assert.equal(person.scene, undefined);
   });
 }
 
@@ -153,4 +153,10 @@ test("an import that shows its progress has left its dialog, and can be cancelle
   assert.ok(order.indexOf("dialog-gone") < order.indexOf("progress"), order.join(" "));
   assert.equal(done.completed, false);
   assert.ok(person.scene.nodes.length < 41, String(person.scene.nodes.length));
+});
+
+test("an import that is left at its dialog does not tell the scene again", async () => {
+  const { person } = await opened(walk.path, walk.bytes);
+  await person.press(DIALOG.importHtr, CONTROL.cancel, "idle");
+  assert.ok(!person.told.some(({ tell }) => tell === "scene"));
 });

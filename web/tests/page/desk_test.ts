@@ -122,6 +122,17 @@ test("a file is put once, and under a name of its own", () => {
   assert.deepEqual(current().files, ["walk.trc", "walk-2.trc", "Walk-3.TRC"]);
 });
 
+test("a scene that is told again is seen as closely as before, and plays on", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A")) });
+  time.zoomTimeline(2);
+  time.playing.value = true;
+  const view = time.timelineView.value;
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A"), node(9, "B")) });
+  assert.deepEqual(time.timelineView.value, view);
+  assert.equal(time.playing.value, true);
+  time.stop();
+});
+
 test("a file that could not be read is forgotten, and can be put again", () => {
   const file = new Blob(["1"]);
   desk.putFile("walk.trc", file);
