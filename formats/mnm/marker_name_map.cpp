@@ -8,6 +8,11 @@
 
 namespace orvane {
 
+MarkerNameMap::Pair MarkerNameMap::At(std::size_t index) const {
+  const Entry& entry = entries_[index];
+  return {texts_[entry.standard_name], texts_[entry.trc_name], entry.node};
+}
+
 void MarkerNameMap::Add(std::string_view standard_name, std::string_view trc_name,
                         std::uint32_t node) {
   const TextNumber standard = NumberOf(standard_name);

@@ -23,6 +23,16 @@ class MarkerNameMap {
 
   std::size_t Count() const { return entries_.size(); }
 
+  struct Pair {
+    std::string_view standard_name;
+    std::string_view trc_name;
+    std::uint32_t node;  // 0 for none
+  };
+
+  // The entry of that place; its names are there until an entry is added or removed.
+  // REQUIRES: `index` is below Count().
+  [[nodiscard]] Pair At(std::size_t index) const;
+
   // Appends an entry. `node` is the handle of the scene's node that it was picked from, 0 for none.
   void Add(std::string_view standard_name, std::string_view trc_name, std::uint32_t node);
 

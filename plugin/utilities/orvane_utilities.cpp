@@ -143,6 +143,8 @@ void OrvaneUtilities::BeginEditParams(Interface* interface, IUtil* utility) {
 
 void OrvaneUtilities::EndEditParams(Interface* /*interface*/, IUtil* /*utility*/) { Close(); }
 
+const MarkerNameMap& OrvaneUtilities::Mapping() const { return work_->converter.mapping; }
+
 // The pointers are forgotten first: the host may close the panel, or delete it, once more in the
 // middle of any of these calls.
 void OrvaneUtilities::Close() noexcept {

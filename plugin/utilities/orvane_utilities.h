@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "formats/mnm/marker_name_map.h"
 #include "platform/dialog.h"
 #include "plugin/services/message_sink.h"
 #include "plugin/services/string_table.h"
@@ -33,6 +34,9 @@ class OrvaneUtilities final : public UtilityObj, private platform::DialogHandler
 
   // Ends the command that is at work, saves the settings and closes the panel.
   void EndEditParams(Interface* interface, IUtil* utility) override;
+
+  // What conversions rename markers by, and what the mapping creator makes.
+  [[nodiscard]] const MarkerNameMap& Mapping() const;
 
  private:
   struct Work;

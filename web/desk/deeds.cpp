@@ -5,6 +5,7 @@
 #include "cli/common/scene_input.h"
 #include "cli/import/scene_output.h"
 #include "plugin/resources/resource.h"
+#include "plugin/utilities/orvane_utilities.h"
 #include "web/desk/desk.h"
 #include "web/desk/told.h"
 #include "web/desk/told_suggestions.h"
@@ -103,6 +104,8 @@ std::string Desk::OpenPanel(const PersonEvent& /*event*/) {
   }
   std::unique_ptr<UtilityObj> utility = module_->CreateUtility(cli::PluginText(IDS_UTILITIES));
   if (utility == nullptr) return "The plug-in has no panel";
+  const auto* const utilities = dynamic_cast<const orvane::OrvaneUtilities*>(utility.get());
+  if (utilities != nullptr) told_mapping_.Watch(&utilities->Mapping());
   panel_ = std::make_unique<host::UtilityPanel>(std::move(utility), *application_);
   return "";
 }
@@ -117,13 +120,7 @@ std::string Desk::ClosePanel(const PersonEvent& /*event*/) {
 }
 
 std::string Desk::Use(const PersonEvent& event) {
-  bool goes_back = false;
-  for (const host::LiveDialog* const dialog : desktop_.Dialogs()) {
-    const bool is_meant = dialog->number == event.number && dialog->id == IDD_MAPPING_CREATOR;
-    goes_back = goes_back || (is_meant && event.control == IDC_BACK);
-  }
   std::string refusal = desktop_.Use(event.number, event.control);
-  if (goes_back && refusal.empty()) told_mapping_.RemoveLast();
   const bool agrees = importing_ && event.control == IDC_OK && desktop_.WhyHeld().empty();
   if (agrees && refusal.empty()) importing_->Agree();
   return refusal;
@@ -159,11 +156,9 @@ std::string Desk::Pick(const PersonEvent& event) {
   std::string held = desktop_.WhyHeld();
   if (!held.empty()) return held;
   if (!application_->picking().IsActive()) return "Nothing is to be picked";
-  const std::string asked = ToldMapping::Asked(desktop_);
-  if (event.standard != asked) return "Another marker is asked for by now";
+  if (event.standard != ToldMapping::Asked(desktop_)) return "Another marker is asked for by now";
   host::Node* const node = application_->scene().FindByHandle(event.node);
   if (!application_->picking().Click(node)) return "There is nothing that can be picked";
-  if (!asked.empty()) told_mapping_.Add(asked, event.node);
   return "";
 }
 
@@ -215,7 +210,7 @@ std::string Desk::AskScene(const PersonEvent& /*event*/) {
 }
 
 std::string Desk::AskLint(const PersonEvent& /*event*/) {
-  told_mapping_.TellLint(application_->scene());
+  told_mapping_.TellLint();
   return "";
 }
 

@@ -55,6 +55,7 @@ Desk::Desk() { NewApplication(); }
 Desk::~Desk() = default;
 
 void Desk::NewApplication() {
+  told_mapping_.Watch(nullptr);
   panel_.reset();
   module_.reset();
   application_.reset();
@@ -124,7 +125,7 @@ void Desk::TypeRange() {
 void Desk::TellChanges() {
   told_desktop_.Update(desktop_, application_->rollup_pages());
   told_scene_.Update(*application_);
-  told_mapping_.Update(desktop_, application_->scene());
+  told_mapping_.Update(desktop_);
   told_losses_.Update(desktop_, SettingsOfModule(), application_->scene(), reading_);
 }
 

@@ -1,14 +1,12 @@
 #include "web/desk/told_mapping.h"
 
-#include <algorithm>
+#include <utility>
 
-#include "formats/mnm/marker_name_map.h"
 #include "formats/mnm/standard_markers.h"
 #include "formats/text/files.h"
 #include "inspect/check/mnm_check.h"
 #include "inspect/report/report.h"
 #include "platform/scratch_folder.h"
-#include "plugin/exchange/marker_colors.h"
 #include "plugin/resources/resource.h"
 #include "web/desk/shown_dialog.h"
 #include "web/desk/told.h"
@@ -21,21 +19,8 @@ using host::LiveDesktop;
 using host::LiveDialog;
 using Layout = cli::JsonWriter::Layout;
 
-// Whether a node of the entries has the color of what was picked.
-bool IsAnyPicked(const std::vector<MappingEntry>& entries, const host::Scene& scene) {
-  return std::any_of(entries.begin(), entries.end(), [&scene](const MappingEntry& entry) {
-    const host::Node* const node = scene.FindByHandle(entry.node);
-    return node != nullptr && node->WireColor() == orvane::kPickedMarkerColor;
-  });
-}
-
 // The bytes of the file that the creator would write.
-std::string BytesOf(const std::vector<MappingEntry>& entries, const host::Scene& scene) {
-  orvane::MarkerNameMap mapping;
-  for (const MappingEntry& entry : entries) {
-    const host::Node* const node = scene.FindByHandle(entry.node);
-    if (node != nullptr) mapping.Add(entry.standard, node->Name(), entry.node);
-  }
+std::string BytesOf(const orvane::MarkerNameMap& mapping) {
   const platform::ScratchFolder scratch("/tmp");
   const std::string path = scratch.Path() + "/mapping.mnm";
   return mapping.Save(path) ? orvane::ReadFileBytes(path).value_or("") : "";
@@ -43,21 +28,21 @@ std::string BytesOf(const std::vector<MappingEntry>& entries, const host::Scene&
 
 }  // namespace
 
-void ToldMapping::Update(const LiveDesktop& desktop, const host::Scene& scene) {
-  const bool is_made = FindShown(desktop, IDD_MAPPING_CREATOR) != nullptr;
-  if (!is_made && !IsAnyPicked(entries_, scene)) entries_.clear();
+void ToldMapping::Update(const LiveDesktop& desktop) {
+  std::vector<Entry> entries = Entries();
   const std::string asked = Asked(desktop);
-  if (entries_ == told_ && asked == told_asked_) return;
-  told_ = entries_;
+  if (entries == told_ && asked == told_asked_) return;
+  told_ = std::move(entries);
   told_asked_ = asked;
   Telling telling("mapping");
   cli::JsonWriter& json = telling.Json();
   cli::WriteText(json, "asked", asked);
   json.Key("entries");
   json.BeginArray(Layout::kLines);
-  for (const MappingEntry& entry : entries_) {
+  for (const Entry& entry : told_) {
     json.BeginObject();
     cli::WriteText(json, "standard", entry.standard);
+    cli::WriteText(json, "marker", entry.marker);
     cli::WriteInteger(json, "node", entry.node);
     json.EndObject();
   }
@@ -72,17 +57,19 @@ std::string ToldMapping::Asked(const LiveDesktop& desktop) {
   return shown == nullptr ? "" : std::string(orvane::StandardNameOf(shown->state.text));
 }
 
-void ToldMapping::Add(const std::string& standard, std::uint32_t node) {
-  entries_.push_back({standard, node});
-}
-
-void ToldMapping::RemoveLast() {
-  if (!entries_.empty()) entries_.pop_back();
-}
-
-void ToldMapping::TellLint(const host::Scene& scene) const {
-  const auto checked = orvane::CheckMapping("mapping.mnm", BytesOf(entries_, scene));
+void ToldMapping::TellLint() const {
+  if (mapping_ == nullptr) return;
+  const auto checked = orvane::CheckMapping("mapping.mnm", BytesOf(*mapping_));
   TellReport("lint", ReportOn(checked, orvane::Action::kInspect));
+}
+
+std::vector<ToldMapping::Entry> ToldMapping::Entries() const {
+  std::vector<Entry> entries;
+  for (std::size_t i = 0; mapping_ != nullptr && i < mapping_->Count(); ++i) {
+    const orvane::MarkerNameMap::Pair pair = mapping_->At(i);
+    entries.push_back({std::string(pair.standard_name), std::string(pair.trc_name), pair.node});
+  }
+  return entries;
 }
 
 }  // namespace web

@@ -4,40 +4,41 @@
 #include <string>
 #include <vector>
 
+#include "formats/mnm/marker_name_map.h"
 #include "host/desktop/portable/live_desktop.h"
-#include "host/scene/scene.h"
 
-// The mapping that the person makes with the plug-in's mapping creator, which tells nobody but the
-// person: its entries, of what was asked when something was picked.
+// The mapping of the plug-in's panel: what the person picks with the mapping creator, behind what
+// conversions have read from files.
 
 namespace web {
 
-struct MappingEntry {
-  std::string standard;  // the standard marker's name
-  std::uint32_t node = 0;
-
-  friend bool operator==(const MappingEntry&, const MappingEntry&) = default;
-};
-
 class ToldMapping {
  public:
+  // The one to tell of from now on, null for none. It is there until another one is watched.
+  void Watch(const orvane::MarkerNameMap* mapping) { mapping_ = mapping; }
+
   // Tells what has changed since the last time.
-  void Update(const host::LiveDesktop& desktop, const host::Scene& scene);
+  void Update(const host::LiveDesktop& desktop);
 
   // The standard marker that is asked for now; empty when none is.
   [[nodiscard]] static std::string Asked(const host::LiveDesktop& desktop);
 
-  // The person has picked a node when `standard` was asked for.
-  void Add(const std::string& standard, std::uint32_t node);
-  // The person has gone back.
-  void RemoveLast();
-
   // Tells what is odd in the mapping so far.
-  void TellLint(const host::Scene& scene) const;
+  void TellLint() const;
 
  private:
-  std::vector<MappingEntry> entries_;
-  std::vector<MappingEntry> told_;
+  struct Entry {
+    std::string standard;  // the standard marker's name
+    std::string marker;
+    std::uint32_t node = 0;  // that it was picked from; 0 for none
+
+    friend bool operator==(const Entry&, const Entry&) = default;
+  };
+
+  [[nodiscard]] std::vector<Entry> Entries() const;
+
+  const orvane::MarkerNameMap* mapping_ = nullptr;
+  std::vector<Entry> told_;
   std::string told_asked_;
 };
 

@@ -86,6 +86,8 @@ export interface ShownScene {
 export interface MappingEntry {
   /** The standard marker's name. */
   standard: string;
+  marker: string;
+  /** That it was picked from; 0 for an entry of a file that a conversion has read. */
   node: number;
 }
 

@@ -35,6 +35,18 @@ TEST_F(MarkerNameMapTest, IsEmptyAtFirst) {
   EXPECT_EQ(map_.RemoveLast(), 0U);
 }
 
+TEST_F(MarkerNameMapTest, TellsEntriesInTheirOrder) {
+  ASSERT_TRUE(LoadBytes("LFHD\tHead1\t\n"));
+  map_.Add("C7", "Back", 5);
+  ASSERT_EQ(map_.Count(), 2U);
+  EXPECT_EQ(map_.At(0).standard_name, "LFHD");
+  EXPECT_EQ(map_.At(0).trc_name, "Head1");
+  EXPECT_EQ(map_.At(0).node, 0U);
+  EXPECT_EQ(map_.At(1).standard_name, "C7");
+  EXPECT_EQ(map_.At(1).trc_name, "Back");
+  EXPECT_EQ(map_.At(1).node, 5U);
+}
+
 TEST_F(MarkerNameMapTest, MapsTheMarkersOfAFile) {
   ASSERT_TRUE(LoadBytes("LFHD\tHead1\t\nC7\tBack\t\n"));
   EXPECT_EQ(map_.Count(), 2U);

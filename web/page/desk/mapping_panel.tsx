@@ -2,7 +2,7 @@ import { useEffect, useRef } from "preact/hooks";
 import { counted } from "../logic/counted";
 import { CREATOR, modelessDialog } from "../logic/desk_things";
 import { CLOSE_CONTROL } from "../logic/dialog_layout";
-import { mappingRows, reasonText } from "../logic/mapping";
+import { reasonText } from "../logic/mapping";
 import { shown } from "../logic/names";
 import { asked, lint, mapping, pickMode, things } from "../state/desk";
 import { scene } from "../state/takes";
@@ -16,7 +16,8 @@ export function MappingPanel() {
   const dialog = modelessDialog(things.value, CREATOR);
   const isMaking = dialog !== null || mapping.value.length > 0;
   if (!isMaking) return null;
-  const found = new Set(mapping.value.map(({ standard }) => standard));
+  const picked = mapping.value.filter(({ node }) => node !== 0);
+  const found = new Set(picked.map(({ standard }) => standard));
   return (
     <section class="panel mapping" aria-label={dialog?.title ?? "Mapping"}>
       <h2>
@@ -61,7 +62,7 @@ function StepHint() {
 }
 
 function MappingTable() {
-  const rows = mappingRows(mapping.value, scene.value?.nodes ?? []);
+  const rows = mapping.value;
   const box = useRef<HTMLDivElement>(null);
   useEffect(() => {
     if (box.current) box.current.scrollTop = box.current.scrollHeight;

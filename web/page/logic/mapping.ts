@@ -1,25 +1,6 @@
-import type { MappingEntry, SceneNode, Suggestion } from "../../worker/desk_protocol";
+import type { MappingEntry, Suggestion } from "../../worker/desk_protocol";
 
 /** A mapping while it is made: what was picked so far, and what could be picked next. */
-
-export interface MappingRow {
-  standard: string;
-  node: number;
-  marker: string;
-}
-
-/** Entries of files that were read before the picking began have no node. */
-export function mappingRows(
-  entries: readonly MappingEntry[],
-  nodes: readonly SceneNode[],
-): MappingRow[] {
-  const names = new Map(nodes.map(({ node, name }) => [node, name]));
-  return entries.map(({ standard, node }) => ({
-    standard,
-    node,
-    marker: names.get(node) ?? "read from a file",
-  }));
-}
 
 /** What is suggested for a standard marker, if it can be picked and was not yet. */
 export function suggestionFor(

@@ -59,6 +59,35 @@ test("a file that it converts is the program's", async () => {
   assert.equal(withoutDate(person.files.get("new.bvk")), withoutDate(expected));
 });
 
+test("what a conversion has read of its file is in the mapping, and stays before what is picked", async () => {
+  const person = await withMapping();
+  await person.import(markers.path);
+  await person.press(PANEL, CONTROL.convert, "choose-files");
+  await person.choose([], "idle");
+  assert.equal(person.mapping.entries.length, 39);
+  assert.deepEqual(person.mapping.entries[0], { standard: "LFHD", marker: "walker:LFHD", node: 0 });
+  await person.press(PANEL, CONTROL.createMapping, "message");
+  await person.answer("no", "message");
+  await person.answer("no", "pick-mode");
+  const node = person.node("walker:LFHD");
+  person.do({ did: "pick", node, standard: "LFHD" });
+  await person.until("mapping");
+  assert.equal(person.mapping.entries.length, 40);
+  assert.deepEqual(person.mapping.entries[39], { standard: "LFHD", marker: "walker:LFHD", node });
+  const lint = await person.doUntil({ did: "ask-lint" }, "lint");
+  assert.ok(lint.findings.some(({ code }) => code === "mnm-entry-doubled"), JSON.stringify(lint.findings));
+  await person.click(DIALOG.creator, CONTROL.abort);
+  assert.equal(person.mapping.entries.length, 0);
+});
+
+test("a new scene has a plug-in without a mapping", async () => {
+  const person = await withMapping();
+  await person.press(PANEL, CONTROL.convert, "choose-files");
+  await person.choose([], "idle");
+  await person.doUntil({ did: "new-scene" }, "idle");
+  assert.equal(person.mapping.entries.length, 0);
+});
+
 test("a batch goes into a folder, with its log", async () => {
   const person = await withMapping();
   person.put("other.trc", example("walk.trc"));

@@ -285,7 +285,7 @@ test("nothing is picked while takes are looked at", () => {
 });
 
 test("what is odd in the mapping is asked for as it grows", () => {
-  current().tell({ tell: "mapping", entries: [{ standard: "LFHD", node: 4 }], asked: "LBHD" });
+  current().tell({ tell: "mapping", entries: [{ standard: "LFHD", marker: "a", node: 4 }], asked: "LBHD" });
   assert.ok(current().last("ask-lint"));
   current().tell({ tell: "lint", findings: [{ code: "x", severity: "note", text: "Odd." }] });
   assert.equal(desk.lint.value.length, 1);

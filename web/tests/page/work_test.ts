@@ -5,7 +5,7 @@ import { fitsPattern, nameOfMade, withExtension } from "../../page/logic/file_pa
 import { rangeOf } from "../../page/logic/frame_range";
 import { archiveName, archivePaths, newestOfEach } from "../../page/logic/handed_out";
 import { areStoredValues, settingsToKeep, valueText } from "../../page/logic/kept_settings";
-import { mappingRows, reasonText, suggestionFor } from "../../page/logic/mapping";
+import { reasonText, suggestionFor } from "../../page/logic/mapping";
 import { objectValues, sceneInfo, sceneTracks } from "../../page/logic/scene_take";
 import type { SceneNode, ShownScene, StoredValue, Suggestion } from "../../worker/desk_protocol";
 
@@ -58,24 +58,13 @@ test("a scene is shown as a take is", () => {
   assert.equal(sceneInfo({ ...scene, nodes: [node(1, "Hips", "bone")] }).kind, "motion");
 });
 
-test("a mapping so far tells nodes by their names", () => {
-  const entries = [
-    { standard: "LFHD", node: 0 },
-    { standard: "LBHD", node: 9 },
-  ];
-  assert.deepEqual(
-    mappingRows(entries, [node(9, "head 2", "marker")]).map(({ marker }) => marker),
-    ["read from a file", "head 2"],
-  );
-});
-
 test("what is suggested can be picked, and was not", () => {
   const suggested = [{ standard: "LFHD", node: 4, reason: "same" as const, place: "" }];
   const pickable = new Set([4, 5]);
   assert.equal(suggestionFor("LFHD", suggested, [], pickable)?.node, 4);
   assert.equal(suggestionFor("LBHD", suggested, [], pickable), null);
   assert.equal(suggestionFor("LFHD", suggested, [], new Set([5])), null);
-  assert.equal(suggestionFor("LFHD", suggested, [{ standard: "C7", node: 4 }], pickable), null);
+  assert.equal(suggestionFor("LFHD", suggested, [{ standard: "C7", marker: "a", node: 4 }], pickable), null);
 });
 
 test("it is told what a suggestion rests on", () => {
