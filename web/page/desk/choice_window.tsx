@@ -1,8 +1,7 @@
 import { useState } from "preact/hooks";
 import { chooseFiles } from "../data/files";
 import type { FileChoice, FolderChoice } from "../logic/desk_things";
-import { fitsPattern, nameOfMade, withExtension } from "../logic/file_pattern";
-import { baseName } from "../logic/handed_out";
+import { fitsPattern, nameOfMade, nameToWrite } from "../logic/file_pattern";
 import { shown } from "../logic/names";
 import { choiceRefusal, choose, chosenLast, deskFiles, putFile } from "../state/desk";
 import { notifyFailure } from "../state/notices";
@@ -98,7 +97,7 @@ async function putAll(
 export function SaveWindow({ choice }: { choice: FileChoice }) {
   const { title, filter, extension } = choice;
   const accept = (name: string): void =>
-    choose(choice.choice, [withExtension(baseName(name), extension)]);
+    choose(choice.choice, [nameToWrite(name, extension)]);
   return (
     <NameWindow
       title={title}
@@ -119,7 +118,7 @@ export function FolderWindow({ choice }: { choice: FolderChoice }) {
       hint="Several files are handed out as one zip archive of this name."
       label="Name of the folder"
       first="converted"
-      accept={(name) => choose(choice.choice, [baseName(name)])}
+      accept={(name) => choose(choice.choice, [nameToWrite(name, "")])}
       cancel={() => choose(choice.choice, [])}
     />
   );

@@ -15,7 +15,7 @@ import {
 } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { scene } from "../state/takes";
-import { exportScene, free, putTakes } from "../state/work";
+import { exportScene, free, putTakes, saveScene } from "../state/work";
 import { settingsShown } from "../state/layout";
 import { DialogBody } from "./dialog_window";
 import { MappingPanel } from "./mapping_panel";
@@ -130,7 +130,7 @@ function Naming({ what, close }: { what: "export" | "save"; close: () => void })
   const accept = (name: string): void => {
     close();
     if (what === "export") exportScene(name);
-    else giveTask({ did: "save-scene", path: name });
+    else saveScene(name);
   };
   return (
     <Veil>

@@ -1,3 +1,4 @@
+import { fileNameFor } from "../../worker/file_paths";
 import { baseName } from "./handed_out";
 import { fileStem } from "./names";
 
@@ -12,12 +13,10 @@ export function fitsPattern(name: string, pattern: string): boolean {
   return new RegExp(`^${source}$`, "i").test(name);
 }
 
-/** A name that was typed, with the extension that it is to have. */
-export function withExtension(name: string, extension: string): string {
-  const trimmed = name.trim();
-  return trimmed === "" || extension === "" || /\.[^./\\]+$/.test(trimmed)
-    ? trimmed
-    : `${trimmed}.${extension}`;
+/** A name that was typed, as that of a file of the desk's own folder: with the extension that it lacks. */
+export function nameToWrite(typed: string, extension: string): string {
+  const name = fileNameFor(baseName(typed.trim()));
+  return extension === "" || /\.[^.]+$/.test(name) ? name : `${name}.${extension}`;
 }
 
 /** What a file is called that is made of another one, or of nothing that has a name. */

@@ -1,4 +1,5 @@
 import { batch, computed, effect, signal } from "@preact/signals";
+import { nameToWrite } from "../logic/file_pattern";
 import { rangeOf } from "../logic/frame_range";
 import { baseName } from "../logic/handed_out";
 import { suggestionFor } from "../logic/mapping";
@@ -54,7 +55,11 @@ export function importFile(take: Take): void {
 export function exportScene(name: string): void {
   const info = scene.value?.info;
   const range = info && rangeOf(timePlace(), info.frames, info.firstFrame);
-  giveTask({ did: "export", path: name, range });
+  giveTask({ did: "export", path: nameToWrite(name, "htr"), range });
+}
+
+export function saveScene(name: string): void {
+  giveTask({ did: "save-scene", path: nameToWrite(name, "glb") });
 }
 
 /** All files that are open can be chosen on the desk. */

@@ -164,6 +164,16 @@ test("a file has a name on the desk that says what it is", () => {
   assert.equal(current().last("import")?.path, "take.txt.trc");
 });
 
+test("what is written lies in the folder of the desk, and has the extension of its kind", () => {
+  current().tell({ tell: "scene", scene: sceneOf(node(4, "A")) });
+  time.jumpTo(3);
+  time.setIn();
+  work.exportScene("../walk");
+  assert.deepEqual(current().last("export"), { did: "export", path: "walk.htr", range: [3, 9] });
+  work.saveScene("walk");
+  assert.deepEqual(current().last("save-scene"), { did: "save-scene", path: "walk.glb" });
+});
+
 test("a file that is opened while the scene is seen leaves its time alone", () => {
   current().tell({ tell: "scene", scene: sceneOf(node(4, "A")) });
   time.jumpTo(7);

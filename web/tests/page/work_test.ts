@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { BODY_PLACES, pictured, PICTURE } from "../../page/logic/body_places";
-import { fitsPattern, nameOfMade, withExtension } from "../../page/logic/file_pattern";
+import { fitsPattern, nameOfMade, nameToWrite } from "../../page/logic/file_pattern";
 import { rangeOf } from "../../page/logic/frame_range";
 import { archiveName, archivePaths, newestOfEach } from "../../page/logic/handed_out";
 import { areStoredValues, settingsToKeep, valueText } from "../../page/logic/kept_settings";
@@ -149,9 +149,12 @@ test("choices treat names as the system's dialogs do", () => {
   assert.ok(fitsPattern("Walk.TRC", "*.trc"));
   assert.ok(!fitsPattern("walk.trc.txt", "*.trc"));
   assert.ok(!fitsPattern("walktrc", "*.trc"));
-  assert.equal(withExtension("anna", "mnm"), "anna.mnm");
-  assert.equal(withExtension(" anna.txt ", "mnm"), "anna.txt");
-  assert.equal(withExtension("anna", ""), "anna");
+  assert.equal(nameToWrite("anna", "mnm"), "anna.mnm");
+  assert.equal(nameToWrite(" anna.txt ", "mnm"), "anna.txt");
+  assert.equal(nameToWrite("anna", ""), "anna");
+  assert.equal(nameToWrite("../../anna", "mnm"), "anna.mnm");
+  assert.equal(nameToWrite("..", ""), "_..");
+  assert.equal(nameToWrite("anna/", "mnm"), "_.mnm");
   assert.equal(nameOfMade("2/walk.slow.trc", "bvk"), "walk.slow.bvk");
   assert.equal(nameOfMade("", "mnm"), "mapping.mnm");
 });
