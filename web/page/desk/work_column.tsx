@@ -15,7 +15,7 @@ import {
 } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { scene } from "../state/takes";
-import { exportScene, free, putTakes, saveScene } from "../state/work";
+import { exportScene, free, saveScene } from "../state/work";
 import { settingsShown } from "../state/layout";
 import { DialogBody } from "./dialog_window";
 import { MappingPanel } from "./mapping_panel";
@@ -170,10 +170,7 @@ function Report() {
 
 function PanelButton() {
   const isOpen = modelessDialog(things.value, PANEL) !== null;
-  const toggle = (): void => {
-    putTakes();
-    tell({ did: isOpen ? "close-panel" : "open-panel" });
-  };
+  const toggle = (): void => tell({ did: isOpen ? "close-panel" : "open-panel" });
   return (
     <button aria-pressed={isOpen} disabled={!isOpen && !free.value} onClick={toggle}>
       Utility panel

@@ -86,6 +86,12 @@ export function isModal(thing: Thing): boolean {
   return thing.kind !== "dialog" || thing.dialog.modal;
 }
 
+/** What asks for files that are there. */
+export function openChoice(things: readonly Thing[]): FileChoice | null {
+  for (const thing of things) if (thing.kind === "files" && !thing.choice.save) return thing.choice;
+  return null;
+}
+
 export function isChoice({ kind }: Thing): boolean {
   return kind === "files" || kind === "folder";
 }

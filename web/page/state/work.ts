@@ -1,5 +1,6 @@
-import { batch, computed, effect, signal } from "@preact/signals";
-import { nameToWrite } from "../logic/file_pattern";
+import { batch, computed, effect, signal, untracked } from "@preact/signals";
+import { openChoice } from "../logic/desk_things";
+import { fitsPattern, nameToWrite } from "../logic/file_pattern";
 import { rangeOf } from "../logic/frame_range";
 import { baseName } from "../logic/handed_out";
 import { suggestionFor } from "../logic/mapping";
@@ -16,6 +17,7 @@ import {
   suggestions,
   tell,
   tellSelected,
+  things,
 } from "./desk";
 import { notifyFailure } from "./notices";
 import { chosenNodes } from "./selection";
@@ -62,11 +64,6 @@ export function saveScene(name: string): void {
   giveTask({ did: "save-scene", path: nameToWrite(name, "glb") });
 }
 
-/** All files that are open can be chosen on the desk. */
-export function putTakes(): void {
-  for (const take of takes.value) putTake(take);
-}
-
 export const suggestion = computed(() =>
   suggestionFor(asked.value, suggestions.value, mapping.value, pickMode.value.pickable),
 );
@@ -74,6 +71,14 @@ export const suggestion = computed(() =>
 export function takeSuggestion(): void {
   if (suggestion.value) pickNode(suggestion.value.node);
 }
+
+// What is open, or is opened meanwhile, can be chosen on the desk when it asks for files.
+effect(() => {
+  const choice = openChoice(things.value);
+  if (!choice) return;
+  const fitting = takes.value.filter(({ info }) => fitsPattern(info.path, choice.pattern));
+  untracked(() => fitting.forEach(putTake));
+});
 
 effect(() => {
   const nodes = chosenNodes.value;

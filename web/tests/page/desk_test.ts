@@ -143,6 +143,20 @@ test("a file that could not be read is forgotten, and can be put again", () => {
   assert.equal(current().files.length, 2);
 });
 
+test("what is open can be chosen when files are asked for, and what is opened meanwhile", () => {
+  openFile("a.trc");
+  openFile("a.htr");
+  assert.deepEqual(current().files, []);
+  const asked = { filter: "", pattern: "*.trc", extension: "trc", many: true };
+  current().tell({ tell: "choose-files", choice: 1, title: "", ...asked, save: false });
+  assert.deepEqual(current().files, ["a.trc"]);
+  openFile("b.trc");
+  assert.deepEqual(current().files, ["a.trc", "b.trc"]);
+  current().tell({ tell: "choice-gone", choice: 1 });
+  openFile("c.trc");
+  assert.deepEqual(current().files, ["a.trc", "b.trc"]);
+});
+
 test("in and out points of the file that is worked on are the range of its import", () => {
   work.setWorking(false);
   const [take, other] = [openFile("a.trc"), openFile("b.trc")];
