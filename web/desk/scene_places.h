@@ -5,7 +5,8 @@
 
 #include "host/scene/scene.h"
 
-// Where the nodes of a scene are in every frame of its range.
+// Where the nodes of a scene are in the frames of its range: in every frame, but of a scene of very
+// many in every second, third and so on, so that neither time nor memory is without bounds.
 
 namespace web {
 
@@ -21,9 +22,10 @@ struct ScenePlaces {
 
   std::vector<const host::Node*> nodes;  // in the order of `orvane scene`
   int first_frame = 0;
+  int step = 1;  // from one frame that is here to the next
   std::size_t frames = 0;
   std::vector<float> positions;  // three numbers at [frame][node]; NaN where none was measured
-  std::vector<float> ends;       // the same of where bones end; NaN of all other nodes
+  std::vector<float> ends;       // the same of where bones end, or none without bones
 
  private:
   void Fill(const host::AnimationState& animation, std::size_t index);

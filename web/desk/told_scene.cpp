@@ -60,6 +60,7 @@ void TellScene(const host::Scene& scene, const ScenePlaces& places) {
   json.Key("scene");
   json.BeginObject();
   cli::WriteInteger(json, "firstFrame", places.first_frame);
+  cli::WriteInteger(json, "step", places.step);
   cli::WriteCount(json, "frames", places.frames);
   cli::WriteNumber(json, "rate",
                    static_cast<double>(kTicksPerSecond) / scene.Animation().TicksPerFrame());

@@ -49,7 +49,7 @@ std::vector<Suggestion> SuggestByNames(const std::vector<std::string>& names) {
 class SceneCapture {
  public:
   SceneCapture(const host::Scene& scene, const ScenePlaces& places) {
-    document_.SetDataRate(kTicksPerSecond / scene.Animation().TicksPerFrame());
+    document_.SetDataRate(kTicksPerSecond / scene.Animation().TicksPerFrame() / places.step);
     for (std::size_t node = 0; node < places.nodes.size(); ++node) {
       if (LookOf(*places.nodes[node]).kind == NodeKind::kMarker) Add(places, node);
     }

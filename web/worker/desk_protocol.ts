@@ -73,13 +73,16 @@ export type Color = [number, number, number];
 export interface ShownScene {
   nodes: SceneNode[];
   firstFrame: number;
+  /** From one frame that is told to the next: 1, unless the scene has too many to tell all. */
+  step: number;
+  /** Those that are told. */
   frames: number;
-  /** Frames in a second. */
+  /** All frames in a second. */
   rate: number;
   millimetresPerUnit: number;
   /** Three numbers at [frame][node], one frame behind the other. */
   positions: Float32Array<ArrayBuffer>;
-  /** Where bones end; NaN for all other nodes. */
+  /** Where bones end; NaN for all other nodes, and empty without bones. */
   ends: Float32Array<ArrayBuffer>;
 }
 

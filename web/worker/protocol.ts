@@ -23,6 +23,8 @@ export interface TakeInfo {
   frames: number;
   /** The number that the file gives its first frame. */
   firstFrame: number;
+  /** From the number of one frame to that of the next, where that is not 1: of scenes that are very long. */
+  frameStep?: number;
   /** Frames per second as the file's text says; 0 when it says none that is positive. */
   rate: number;
   rateText: string;

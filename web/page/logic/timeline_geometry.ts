@@ -1,3 +1,4 @@
+import { numberOf, type Numbering } from "./frame_range";
 import { roundStep } from "./units";
 
 /** Where frames and rows lie on the timeline. A view is the part of the frames that is seen. */
@@ -67,13 +68,14 @@ export interface Tick {
 }
 
 /** Marks of the ruler, at least `apart` pixels from each other, told as frame numbers. */
-export function frameTicks(view: View, area: Area, apart: number, firstFrame: number): Tick[] {
-  const perPixel = (view.end - view.first) / Math.max(area.width, 1);
+export function frameTicks(view: View, area: Area, apart: number, numbering: Numbering): Tick[] {
+  const { firstFrame, frameStep = 1 } = numbering;
+  const perPixel = ((view.end - view.first) * frameStep) / Math.max(area.width, 1);
   const step = Math.max(1, roundStep(perPixel * apart));
-  const begin = Math.ceil((view.first + firstFrame) / step) * step;
+  const begin = Math.ceil(numberOf(numbering, view.first) / step) * step;
   const ticks: Tick[] = [];
-  for (let number = begin; number < view.end + firstFrame; number += step) {
-    ticks.push({ at: number - firstFrame, text: String(number) });
+  for (let number = begin; number < numberOf(numbering, view.end); number += step) {
+    ticks.push({ at: (number - firstFrame) / frameStep, text: String(number) });
   }
   return ticks;
 }

@@ -1,7 +1,7 @@
 import { batch, computed, effect, signal, untracked } from "@preact/signals";
 import { openChoice } from "../logic/desk_things";
 import { fitsPattern, nameToWrite } from "../logic/file_pattern";
-import { rangeOf } from "../logic/frame_range";
+import { numberOf, rangeOf } from "../logic/frame_range";
 import { baseName } from "../logic/handed_out";
 import { suggestionFor } from "../logic/mapping";
 import {
@@ -49,14 +49,13 @@ function putTake(take: Take): string {
 
 export function importFile(take: Take): void {
   importedTake.value = take;
-  const { frames, firstFrame } = take.info;
-  const range = take === activeFile.value ? rangeOf(placeElsewhere(), frames, firstFrame) : undefined;
+  const range = take === activeFile.value ? rangeOf(placeElsewhere(), take.info) : undefined;
   giveTask({ did: "import", path: putTake(take), range });
 }
 
 export function exportScene(name: string): void {
   const info = scene.value?.info;
-  const range = info && rangeOf(timePlace(), info.frames, info.firstFrame);
+  const range = info && rangeOf(timePlace(), info);
   giveTask({ did: "export", path: nameToWrite(name, "htr"), range });
 }
 
@@ -87,5 +86,5 @@ effect(() => {
 
 effect(() => {
   const take = working.value ? scene.value : null;
-  if (take && !playing.value) tell({ did: "time", frame: frame.value + take.info.firstFrame });
+  if (take && !playing.value) tell({ did: "time", frame: numberOf(take.info, frame.value) });
 });

@@ -1,4 +1,5 @@
 import { frameTicks, secondTicks, xOfFrame, type Area } from "../logic/timeline_geometry";
+import { numberOf } from "../logic/frame_range";
 import { marksOf } from "../logic/finding_groups";
 import { secondsText } from "../logic/take_time";
 import { report } from "../state/findings";
@@ -26,7 +27,7 @@ function drawRuler(context: CanvasRenderingContext2D, width: number, height: num
   drawSpan(context, area, height, colors);
   const ticks =
     rulerIn.value === "frames"
-      ? frameTicks(view, area, APART, take.info.firstFrame)
+      ? frameTicks(view, area, APART, take.info)
       : secondTicks(view, area, APART, take.info.rate);
   context.font = "11px system-ui, sans-serif";
   context.textBaseline = "middle";
@@ -100,8 +101,8 @@ export function Ruler() {
   const canvas = useDrawing(drawRuler);
   useWheel(canvas, wheel);
   const take = activeTake.value;
-  const firstNumber = take?.info.firstFrame ?? 0;
-  const number = frame.value + firstNumber;
+  const numbering = take?.info ?? { firstFrame: 0 };
+  const number = numberOf(numbering, frame.value);
   const seconds = take && take.info.rate > 0 ? frame.value / take.info.rate : 0;
   return (
     <canvas
@@ -110,8 +111,8 @@ export function Ruler() {
       tabIndex={0}
       role="slider"
       aria-label="Time"
-      aria-valuemin={reach.value.first + firstNumber}
-      aria-valuemax={reach.value.end - 1 + firstNumber}
+      aria-valuemin={numberOf(numbering, reach.value.first)}
+      aria-valuemax={numberOf(numbering, reach.value.end - 1)}
       aria-valuenow={number}
       aria-valuetext={`Frame ${number}, ${secondsText(seconds)}`}
       onPointerDown={scrub}

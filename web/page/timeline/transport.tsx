@@ -1,3 +1,4 @@
+import { frameOf, numberOf } from "../logic/frame_range";
 import { titleOf } from "../logic/key_map";
 import { SPEEDS } from "../logic/playback";
 import { secondsText } from "../logic/take_time";
@@ -116,7 +117,8 @@ function SpeedChoice() {
 function FrameField() {
   const take = activeTake.value;
   if (!take) return null;
-  const { firstFrame, frames, rate } = take.info;
+  const { info } = take;
+  const { frames, rate } = info;
   const seconds = rate > 0 ? secondsText(time.frame.value / rate) : "no rate";
   return (
     <span class="frame-field">
@@ -124,14 +126,14 @@ function FrameField() {
         Frame{" "}
         <input
           type="number"
-          value={time.frame.value + firstFrame}
-          min={firstFrame + time.reach.value.first}
-          max={firstFrame + time.reach.value.end - 1}
-          onChange={(event) => time.jumpTo(event.currentTarget.valueAsNumber - firstFrame)}
+          value={numberOf(info, time.frame.value)}
+          min={numberOf(info, time.reach.value.first)}
+          max={numberOf(info, time.reach.value.end - 1)}
+          onChange={(event) => time.jumpTo(frameOf(info, event.currentTarget.valueAsNumber))}
         />
       </label>
       <span class="numbers quiet">
-        {frames > 0 ? `of ${firstFrame}–${firstFrame + frames - 1}` : "of none"} · {seconds}
+        {frames > 0 ? `of ${numberOf(info, 0)}–${numberOf(info, frames - 1)}` : "of none"} · {seconds}
       </span>
     </span>
   );

@@ -160,3 +160,12 @@ test("an import that is left at its dialog does not tell the scene again", async
   await person.press(DIALOG.importHtr, CONTROL.cancel, "idle");
   assert.ok(!person.told.some(({ tell }) => tell === "scene"));
 });
+
+test("a scene of very many frames is told at some of them", async () => {
+  const person = await Person.sit();
+  await person.import(walk.path, walk.bytes, () => person.type(DIALOG.importHtr, CONTROL.offset, "300000"));
+  const { nodes, firstFrame, step, frames, positions } = person.scene;
+  assert.ok(step > 1 && firstFrame + (frames - 1) * step > 299990, `${frames} frames, one of ${step}`);
+  assert.ok(frames * nodes.length <= 2e6);
+  assert.equal(positions.length, 3 * frames * nodes.length);
+});

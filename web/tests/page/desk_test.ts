@@ -1,5 +1,7 @@
 import assert from "node:assert/strict";
 import { beforeEach, test } from "node:test";
+import { frameOf } from "../../page/logic/frame_range";
+import { frameTicks } from "../../page/logic/timeline_geometry";
 import * as desk from "../../page/state/desk";
 import { keep, stored } from "../../page/state/kept_settings";
 import { notices } from "../../page/state/notices";
@@ -77,7 +79,7 @@ function node(number: number, name: string): SceneNode {
 
 function sceneOf(...nodes: SceneNode[]): ShownScene {
   const numbers = () => new Float32Array(nodes.length * 3 * 10);
-  const rest = { firstFrame: 0, frames: 10, rate: 60, millimetresPerUnit: 1 };
+  const rest = { firstFrame: 0, step: 1, frames: 10, rate: 60, millimetresPerUnit: 1 };
   return { nodes, positions: numbers(), ends: numbers(), ...rest };
 }
 
@@ -176,6 +178,19 @@ test("in and out points of the file that is worked on are the range of its impor
 test("a file has a name on the desk that says what it is", () => {
   work.importFile(openFile("take.txt", 100, "2/take.txt.trc"));
   assert.equal(current().last("import")?.path, "take.txt.trc");
+});
+
+test("a scene that is told at every third frame has the numbers of all its frames", () => {
+  current().tell({ tell: "scene", scene: { ...sceneOf(node(4, "A")), firstFrame: 5, step: 3 } });
+  assert.equal(scene.value!.info.rate, 20);
+  time.jumpTo(2);
+  time.setIn();
+  assert.deepEqual(current().last("time"), { did: "time", frame: 11 });
+  work.exportScene("walk.htr");
+  assert.deepEqual(current().last("export")?.range, [11, 32]);
+  assert.equal(frameOf(scene.value!.info, 12), 2);
+  const ticks = frameTicks({ first: 0, end: 10 }, { left: 0, width: 300 }, 74, scene.value!.info);
+  assert.deepEqual(ticks.map(({ at, text }) => [Number(at.toFixed(2)), text]), [[1.67, "10"], [5, "20"], [8.33, "30"]]);
 });
 
 test("what is written lies in the folder of the desk, and has the extension of its kind", () => {

@@ -52,7 +52,7 @@ test("a view moves only for a frame that it does not show", () => {
 });
 
 test("the ruler counts as the file does", () => {
-  const ticks = frameTicks({ first: 0, end: 120 }, AREA, 74, 1);
+  const ticks = frameTicks({ first: 0, end: 120 }, AREA, 74, { firstFrame: 1 });
   assert.deepEqual(
     ticks.map(({ at, text }) => [at, text]),
     [19, 39, 59, 79, 99, 119].map((at) => [at, String(at + 1)]),

@@ -40,6 +40,7 @@ test("a scene is shown as a take is", () => {
   const scene: ShownScene = {
     nodes: [node(7, "Root", "group"), node(9, "A", "marker", 7)],
     firstFrame: 5,
+    step: 1,
     frames: 3,
     rate: 60,
     millimetresPerUnit: 25.4,
@@ -86,9 +87,9 @@ test("in and out points are told in the file's own numbers", () => {
     [-9, -1, undefined],
   ];
   for (const [inPoint, outPoint, range] of cases) {
-    assert.deepEqual(rangeOf({ inPoint, outPoint }, 10, 10), range);
+    assert.deepEqual(rangeOf({ inPoint, outPoint }, { frames: 10, firstFrame: 10 }), range);
   }
-  assert.equal(rangeOf({ inPoint: 0, outPoint: 0 }, 0, 1), undefined);
+  assert.equal(rangeOf({ inPoint: 0, outPoint: 0 }, { frames: 0, firstFrame: 1 }), undefined);
 });
 
 function written(...names: string[]) {
