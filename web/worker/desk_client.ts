@@ -19,6 +19,11 @@ export class Desk {
     this.post({ do: "put", path, file });
   }
 
+  /** Takes a file off the desk, if it is there. */
+  remove(path: string): void {
+    this.post({ do: "remove", path });
+  }
+
   /** What the person does; it is done after what was done before. */
   do(did: Did): void {
     this.post({ do: "did", did });

@@ -38,6 +38,10 @@ export class DeskInstance {
     this.folder.put({ path, bytes });
   }
 
+  remove(path: string): void {
+    this.folder.remove(path);
+  }
+
   do(did: Did): void {
     this.say(did);
   }

@@ -214,6 +214,7 @@ export type Did =
 export type DeskOrder =
   | { do: "start-desk"; module: WebAssembly.Module; settings: StoredValue[] }
   | { do: "put"; path: string; file: Blob }
+  | { do: "remove"; path: string }
   | { do: "did"; did: Did };
 
 /** What the worker answers. */

@@ -24,6 +24,7 @@ export function beginDesk(post: (answer: DeskAnswer, transfer: ArrayBuffer[]) =>
   const carryOut = async (order: DeskOrder): Promise<void> => {
     if (order.do === "start-desk") desk = await DeskInstance.begin(order.module, order.settings, tell);
     else if (order.do === "put") await put(order.path, order.file);
+    else if (order.do === "remove") desk?.remove(order.path);
     else desk?.do(order.did);
   };
   let turn = Promise.resolve();

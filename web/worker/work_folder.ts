@@ -29,9 +29,9 @@ export class WorkFolder {
     this.known.set(path, this.contentsOf(path));
   }
 
+  /** Takes away what was put or made, if it is there. */
   remove(path: string): void {
-    this.FS.unlink(`${FOLDER}/${path}`);
-    this.known.delete(path);
+    if (this.known.delete(path)) this.FS.unlink(`${FOLDER}/${path}`);
   }
 
   /** All files that were made or replaced since the last time; they are known from now on. */

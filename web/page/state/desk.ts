@@ -10,6 +10,7 @@ import type {
 } from "../../worker/desk_protocol";
 import { ownNameFor } from "../../worker/file_paths";
 import { isChoice, isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
+import { fitsPattern } from "../logic/file_pattern";
 import type { WrittenFile } from "../logic/handed_out";
 import { shown } from "../logic/names";
 import { dialogWords, pageWords } from "../logic/page_words";
@@ -23,6 +24,7 @@ import { working } from "./takes";
 
 export interface DeskApi {
   put(path: string, file: Blob): void;
+  remove(path: string): void;
   do(did: Did): void;
   onTold(listener: (told: Told) => void): void;
   end(): void;
@@ -79,6 +81,7 @@ let makeDesk: Maker = () => Promise.reject(new Error("There is no desk."));
 let handOut: HandOut = () => {};
 let desk: DeskApi | null = null;
 let beginning: Promise<void> | null = null;
+let begins = 0;
 let written: WrittenFile[] = [];
 let lastTask: Task["did"] | null = null;
 let selects = 0;
@@ -94,7 +97,9 @@ export function beginDesk(): Promise<void> {
 }
 
 async function begin(): Promise<void> {
+  const number = ++begins;
   const begun = await makeDesk(keptSettings());
+  if (number !== begins) return begun.end();
   desk = begun;
   begun.onTold((told) => {
     if (desk === begun) batch(() => take(told));
@@ -181,9 +186,23 @@ function remember(path: string, file: Blob): void {
   deskFiles.value = new Map(deskFiles.value).set(path, file);
 }
 
+function forget(path: string): void {
+  deskFiles.value = new Map([...deskFiles.value].filter(([there]) => there !== path));
+}
+
+/** Takes a file away that is open no more, unless the plug-in may be at it. */
+export function removeFile(file: Blob): void {
+  if (!idle.value) return;
+  for (const [path, there] of deskFiles.value) {
+    if (there !== file) continue;
+    forget(path);
+    desk?.remove(path);
+  }
+}
+
 /** Of no use to the desk any more: who opens it again has it as it is now. */
 function forgetUnread(path: string): void {
-  deskFiles.value = new Map([...deskFiles.value].filter(([there]) => there !== path));
+  forget(path);
   notify("error", `${shown(path, 120)} has changed or gone since it was opened. Open it again.`);
 }
 
@@ -198,9 +217,12 @@ function endPicking(): void {
   asked.value = "";
 }
 
+// Of what the plug-in writes it asks for mappings again. What has the name of another file has replaced it.
 function takeFile({ name, bytes }: WrittenFile): void {
   written.push({ name, bytes });
-  remember(name, new Blob([bytes]));
+  if (fitsPattern(name, "*.mnm")) return remember(name, new Blob([bytes]));
+  forget(name);
+  desk?.remove(name);
 }
 
 function handOutWritten(): void {

@@ -14,6 +14,7 @@ import {
   pickMode,
   pickNode,
   putFile,
+  removeFile,
   suggestions,
   tell,
   tellSelected,
@@ -70,6 +71,14 @@ export const suggestion = computed(() =>
 export function takeSuggestion(): void {
   if (suggestion.value) pickNode(suggestion.value.node);
 }
+
+let open: readonly Take[] = [];
+
+effect(() => {
+  const closed = open.filter((take) => !takes.value.includes(take));
+  open = takes.value;
+  untracked(() => closed.forEach(({ file }) => removeFile(file)));
+});
 
 // What is open, or is opened meanwhile, can be chosen on the desk when it asks for files.
 effect(() => {

@@ -16,6 +16,7 @@ import type { TakeInfo } from "../../worker/protocol";
 class StandIn implements desk.DeskApi {
   readonly done: Did[] = [];
   readonly files: string[] = [];
+  readonly removed: string[] = [];
   ended = false;
   private listener: (told: Told) => void = () => {};
 
@@ -23,6 +24,10 @@ class StandIn implements desk.DeskApi {
 
   put(path: string): void {
     this.files.push(path);
+  }
+
+  remove(path: string): void {
+    this.removed.push(path);
   }
 
   do(did: Did): void {
@@ -102,7 +107,36 @@ test("what was written is handed out when the desk is at rest again", () => {
   assert.deepEqual(handedOut, [["out/a.bvk", "out/b.bvk"]]);
   current().tell({ tell: "idle" });
   assert.equal(handedOut.length, 1);
-  assert.deepEqual([...desk.deskFiles.value.keys()], ["out/a.bvk", "out/b.bvk"]);
+});
+
+test("of what was written mappings alone stay on the desk", () => {
+  const walk = new Blob(["1"]);
+  desk.putFile("walk.htr", walk);
+  current().tell(file("walk.htr"), file("made.mnm"));
+  assert.deepEqual([...desk.deskFiles.value.keys()], ["made.mnm"]);
+  assert.deepEqual(current().removed, ["walk.htr"]);
+  assert.equal(desk.putFile("walk.htr", walk), "walk.htr");
+  assert.deepEqual(current().files, ["walk.htr", "walk.htr"]);
+});
+
+test("a file that is closed leaves the desk, unless the plug-in may be at it", () => {
+  const [first, second] = [openFile("a.trc"), openFile("b.trc")];
+  work.importFile(second);
+  takes.value = [first];
+  assert.deepEqual(current().removed, []);
+  current().tell({ tell: "idle" });
+  work.importFile(first);
+  current().tell({ tell: "idle" });
+  takes.value = [];
+  assert.deepEqual(current().removed, ["a.trc"]);
+  assert.deepEqual([...desk.deskFiles.value.keys()], ["b.trc"]);
+});
+
+test("of two desks that are begun at once one is ended", async () => {
+  await Promise.all([desk.beginAnew(), desk.beginAnew()]);
+  assert.deepEqual(stands.slice(1).map(({ ended }) => ended), [true, false]);
+  desk.tell({ did: "about" });
+  assert.ok(current().last("about"));
 });
 
 test("a task can be given at rest alone", () => {
