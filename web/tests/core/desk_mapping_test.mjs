@@ -77,7 +77,7 @@ test("a second pick of a step that is over is none of the next", async () => {
   const node = person.node("walker:LFHD");
   person.desk.do({ did: "pick", node, standard: "LFHD" });
   await pickFor(person, "LFHD", node);
-  assert.deepEqual(person.mapping.entries, [{ standard: "LFHD", node }]);
+  assert.deepEqual(person.mapping.entries, [{ standard: "LFHD", marker: "walker:LFHD", node }]);
   assert.equal(person.mapping.asked, "LBHD");
 });
 
