@@ -61,8 +61,7 @@ class Keys {
       buffer_[Slot(i)].value = value;
       return;
     }
-    OpenGapAt(i);
-    buffer_[gap_begin_++] = Key{tick, value};
+    Insert(i, Key{tick, value});
     ForgetEmptyStretch();
   }
 
@@ -86,10 +85,10 @@ class Keys {
   }
 
  private:
-  static constexpr std::size_t kFirstCapacity = 2;
   static constexpr std::int64_t kBeforeAllTicks = std::numeric_limits<std::int64_t>::min();
   static constexpr std::int64_t kAfterAllTicks = std::numeric_limits<std::int64_t>::max();
 
+  bool IsGapClosed() const { return gap_begin_ == gap_end_; }
   std::size_t Slot(std::size_t i) const { return i < gap_begin_ ? i : i + (gap_end_ - gap_begin_); }
   bool HasTick(std::size_t i, TimeValue tick) const {
     return i < Size() && (*this)[i].tick == tick;
@@ -104,7 +103,7 @@ class Keys {
   // Moves the gap, which may be closed, to before key number `i`.
   void MoveGapTo(std::size_t i) {
     if (gap_begin_ == i) return;
-    if (gap_begin_ == gap_end_) {
+    if (IsGapClosed()) {
       gap_begin_ = gap_end_ = i;
       return;
     }
@@ -123,12 +122,24 @@ class Keys {
   // The same, with room for a key in the gap. A closed gap is reopened at the end of the buffer,
   // as wide as there are keys.
   void OpenGapAt(std::size_t i) {
-    if (gap_begin_ == gap_end_) {
+    if (IsGapClosed()) {
       gap_begin_ = buffer_.size();
-      gap_end_ = std::max(kFirstCapacity, 2 * buffer_.size());
+      gap_end_ = 2 * buffer_.size();
       buffer_.resize(gap_end_);
     }
     MoveGapTo(i);
+  }
+
+  // Makes `key` number `i`. Behind all others it needs no gap, whose memory would be written to
+  // before there are keys for it.
+  void Insert(std::size_t i, const Key& key) {
+    if (IsGapClosed() && i == buffer_.size()) {
+      buffer_.push_back(key);
+      gap_begin_ = gap_end_ = buffer_.size();
+      return;
+    }
+    OpenGapAt(i);
+    buffer_[gap_begin_++] = key;
   }
 
   // Never a part of Delete(): the calls that end there would save registers for this.
