@@ -19,6 +19,7 @@
 #include "cli/common/messages.h"
 #include "cli/common/outputs.h"
 #include "cli/common/plugin_session.h"
+#include "cli/common/reading_memory.h"
 #include "cli/common/report_flags.h"
 #include "cli/common/scene_input.h"
 #include "cli/common/scratch_copy.h"
@@ -163,6 +164,7 @@ class Importing {
         wishes_(AllWishes(arguments)) {}
 
   ExitStatus Run() {
+    ExpectReading(input_.path);
     host::Scene& scene = session_.scene();
     PrepareScene(arguments_, scene);
     const SelectionMade selection = Select(scene, arguments_.selection);
