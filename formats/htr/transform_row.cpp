@@ -5,12 +5,6 @@ namespace {
 
 constexpr std::size_t kLongest = 1024;  // of the characters of a line that is worth it
 
-// The size of a line whose text ends at `end`; 0 unless there is a line break.
-std::size_t SizeWithBreak(std::string_view ahead, std::size_t end) {
-  const std::size_t feed = end + (ahead[end] == '\r' ? 1 : 0);
-  return feed < ahead.size() && ahead[feed] == '\n' ? feed + 1 : 0;
-}
-
 }  // namespace
 
 std::size_t TransformRow::ReadFrame(std::string_view ahead) {

@@ -9,7 +9,6 @@
 #include "formats/text/aligned_cells.h"
 #include "formats/text/number_row.h"
 #include "formats/text/tokens.h"
-#include "formats/text/words.h"
 
 // The numbers of a line that places a bone, behind the name of a segment or the number of a frame:
 // a translation, three angles, and the length of the bone or its scale. Belongs to the readers.
@@ -57,14 +56,6 @@ class TransformRow {
     return Vector3(values_[first] * factor, values_[first + 1] * factor,
                    values_[first + 2] * factor);
   }
-
-  // What separates and ends the cells of a line, all of which comes before what is in a number.
-  struct BelowNumbers {
-    static constexpr bool Separates(char character) {
-      return static_cast<unsigned char>(character) < '+';
-    }
-    static constexpr Word MarksIn(Word word) { return MarksBelow('+', word); }
-  };
 
   NumberRow<BlanksAndTabs> numbers_;
   std::array<double, kNumbers> values_{};

@@ -24,6 +24,22 @@ inline constexpr double kNoNumber = std::numeric_limits<double>::quiet_NaN();
   return IsNoNumber(number) ? 0.0 : number;
 }
 
+// What separates and ends the cells of a line, all of which comes before what is in a number.
+struct BelowNumbers {
+  static constexpr bool Separates(char character) {
+    return static_cast<unsigned char>(character) < '+';
+  }
+  static constexpr Word MarksIn(Word word) { return MarksBelow('+', word); }
+};
+
+// The size of the line that `ahead` begins with, whose cells are its first `length` bytes, with its
+// line feed and the one carriage return that may stand before that; 0 unless these follow.
+[[nodiscard]] constexpr std::size_t SizeWithBreak(std::string_view ahead, std::size_t length) {
+  const bool has_return = length < ahead.size() && ahead[length] == '\r';
+  const std::size_t feed = length + (has_return ? 1 : 0);
+  return feed < ahead.size() && ahead[feed] == '\n' ? feed + 1 : 0;
+}
+
 // The first character that `Separators` mark from `begin` up to `end`, or else `end`.
 template <typename Separators>
 [[nodiscard]] const char* FindSeparator(const char* begin, const char* end) {

@@ -68,9 +68,12 @@ class TRCReader {
   void ThrowLineAway(bool is_watched);
   std::string ReadLine(const Line& line, std::size_t number);
   std::string ReadColumns(const Line& line);
+  bool ReadFrameAhead();
   void ReadFrame(const Line& line);
+  void TakeFrame(const Line& line, bool is_all);
   void TellFrame(const Line& line, bool is_ordinary);
-  bool ReadSamples(const Line& line);
+  std::size_t MostNumbers() const { return kCoordinates * document_.markers().size(); }
+  bool TakeSamples(bool are_all);
   void ReadFirstFrameNumber(const Line& line);
   void ReserveFrames();
   void MakeRoom(std::size_t samples);
@@ -96,7 +99,9 @@ class TRCReader {
 std::string TRCReader::Read() {
   document_.Reset();
   Line line;
-  for (std::size_t number = 0; lines_.Next(line); ++number) {
+  for (std::size_t number = 0;; ++number) {
+    if (ReadFrameAhead()) continue;
+    if (!lines_.Next(line)) break;
     const bool is_watched = watches_frames_ || !IsFrame(line, number);
     const bool replaces_next = ReplacesNextLine(line);
     if (number <= kPerhapsBlankLine) oddities_.TellHeaderLine(number, line);
@@ -175,12 +180,32 @@ void TRCReader::MakeRoom(std::size_t samples) {
   samples_->Reserve(likely < size_ / kUsualSample ? likely : most);
 }
 
+// Reads the next line and returns true, if it is a frame behind the first one and nothing about its
+// cells is odd. All others are left where they are.
+bool TRCReader::ReadFrameAhead() {
+  if (frames_read_ == 0) return false;
+  const std::string_view ahead = lines_.Ahead().substr(0, kLongestPiece);
+  const std::size_t size = numbers_.ReadAhead(ahead, kCellsBeforeSamples, MostNumbers());
+  if (size == 0) return false;
+  Line line;
+  lines_.Take(size, line);
+  oddities_.StartLine(line);
+  TakeFrame(line, true);
+  return true;
+}
+
 // Intended: columns are given to the markers as they come, so that a column whose name made no
 // marker shifts those behind it.
 void TRCReader::ReadFrame(const Line& line) {
   if (frames_read_ == 0) ReadFirstFrameNumber(line);
+  const std::string_view rest = numbers_.Read(line.text, kCellsBeforeSamples, MostNumbers());
+  TakeFrame(line, rest.empty());
+}
+
+// Takes what was read of `line`, which is all of it or not.
+void TRCReader::TakeFrame(const Line& line, bool is_all) {
   bytes_of_frames_ += line.text.size() + 1;
-  const bool is_ordinary = ReadSamples(line);
+  const bool is_ordinary = TakeSamples(is_all);
   if (watches_frames_) TellFrame(line, is_ordinary);
   ++frames_read_;
 }
@@ -195,11 +220,9 @@ void TRCReader::TellFrame(const Line& line, bool is_ordinary) {
 }
 
 // Returns true when nothing about the samples is odd. False says nothing.
-bool TRCReader::ReadSamples(const Line& line) {
-  const std::size_t most = kCoordinates * document_.markers().size();
-  const std::string_view rest = numbers_.Read(line.text, kCellsBeforeSamples, most);
+bool TRCReader::TakeSamples(bool are_all) {
   const std::size_t count = numbers_.Count();
-  bool is_ordinary = count > 0 && count + 1 >= most && rest.empty() && numbers_.AreOrdinary();
+  bool is_ordinary = count > 0 && count + 1 >= MostNumbers() && are_all && numbers_.AreOrdinary();
   const std::size_t samples = (count + kCoordinates - 1) / kCoordinates;
   const std::span<double> row = numbers_.First(kCoordinates * samples);
   for (std::size_t at = 0; at < row.size(); at += kCoordinates) {

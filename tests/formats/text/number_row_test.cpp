@@ -204,6 +204,75 @@ TEST(NumberRow, TakesTheLongestPieceOfALine) {
   EXPECT_EQ(row.Count(), kLongestPiece);
 }
 
+// Behind a line, so that there is enough to look at.
+std::string WithMore(const std::string& line) { return line + std::string(200, '7') + "\n"; }
+
+TEST(NumberRow, ReadsLinesAheadAsItReadsOthers) {
+  const std::vector<std::string> lines = {
+      "1\t0.5\t-12.250\t3.125\t1234.567",
+      "2\t0.5\t12.250\t-3.125\t1234.567\t",
+      "3\t\t\t\t",
+      "4\t1.5\t2.5\t\t4.5",
+      "5\t\t2\t3",
+      "-6:0/x\t1.5\t1e3\t.5\t12345678901234567890",
+      "\t\t1000.000000\t1000.000000\t-1000.000000",
+      "7\t0.5\t",
+  };
+  for (const std::string& above : lines) {
+    for (const std::string& line : lines) {
+      for (const std::string end : {"\n", "\r\n"}) {
+        NumberRow<SingleTabs> alone;
+        EXPECT_EQ(ReadRow(alone, line, 2, 3), "");
+        NumberRow<SingleTabs> row;
+        EXPECT_EQ(row.ReadAhead(WithMore(above + end), 2, 3), above.size() + end.size());
+        const std::string bytes = WithMore(line + end);
+        EXPECT_EQ(row.ReadAhead(bytes, 2, 3), line.size() + end.size()) << line;
+        ExpectSame(NumbersOf(row), NumbersOf(alone), above + " above " + line);
+        EXPECT_TRUE(IsNoNumber(row[row.Count()]));
+        EXPECT_TRUE(row.AreOrdinary());
+        const auto tabs = std::count(line.begin(), line.end(), '\t');
+        EXPECT_EQ(row.CellsOfLine(), static_cast<std::size_t>(tabs) + 1) << line;
+      }
+    }
+  }
+}
+
+TEST(NumberRow, LeavesLinesAheadThatAreOdd) {
+  using namespace std::string_literals;
+  for (const std::string& line : {""s,
+                                  "\n"s,
+                                  "\r\n"s,
+                                  "1\n"s,
+                                  "1\t2\n"s,
+                                  "#\t0.5\t1\t2\t3\n"s,
+                                  "1\t \t1\t2\t3\n"s,
+                                  "1\t0.5\t1\t2\t3\t4\n"s,
+                                  "1\t0.5\t1\t2\t3\t\t\n"s,
+                                  "1\t0.5\t1\t2\t3 \n"s,
+                                  "1\t0.5\t1 \t2\t3\n"s,
+                                  "1\t0.5\t 1\t2\t3\n"s,
+                                  "1\t0.5\t1\tx\t3\n"s,
+                                  "1\t0.5\t1\t2x\t3\n"s,
+                                  "1\t0.5\t1\t1e39\t3\n"s,
+                                  "1\t0.5\t1\t-\t3\n"s,
+                                  "1\t0.5\t1\t2\t3\r\r\n"s,
+                                  "1\t0.5\t1\t\r2\t3\n"s,
+                                  "1\t0.5\t1\t2\t3\r"s,
+                                  "1\t0.5\t1\t2\t3"s,
+                                  "1\t0.5\t1\t2\t"s,
+                                  "1\t0.5\t1\t2\0\t3\n"s,
+                                  "1\0\t0.5\t1\t2\t3\n"s,
+                                  "1\t0.5\t1\t2\t3\0\n"s,
+                                  "1\r\t0.5\t1\t2\t3\n"s}) {
+    NumberRow<SingleTabs> row;
+    const std::vector<char> bytes(line.begin(), line.end());
+    EXPECT_EQ(row.ReadAhead({bytes.data(), bytes.size()}, 2, 3), 0U) << line;
+    const std::string above = "1\t0.5\t1\t2\t3\n";
+    EXPECT_EQ(row.ReadAhead(above, 2, 3), above.size());
+    EXPECT_EQ(row.ReadAhead({bytes.data(), bytes.size()}, 2, 3), 0U) << line;
+  }
+}
+
 // Numbers of up to nineteen digits, each with as many decimals as the one before, or others.
 TEST(NumberRow, ReadsWhatParseDoubleReads) {
   std::mt19937_64 random(20261122);
