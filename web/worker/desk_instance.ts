@@ -2,7 +2,7 @@
 
 import createCore from "orvane-core";
 import type { Did, ShownScene, StoredValue, Told } from "./desk_protocol";
-import { WorkFolder } from "./work_folder";
+import { withoutFolder, WorkFolder } from "./work_folder";
 
 type Words = Did | { did: "store-settings"; values: StoredValue[] };
 
@@ -70,6 +70,13 @@ export class DeskInstance {
     if (told.tell === "idle" || told.tell === "done") {
       for (const file of this.folder.takeMade()) this.tell({ tell: "file", ...file }, [file.bytes.buffer]);
     }
-    this.tell(told, []);
+    this.tell(readable(told), []);
   }
+}
+
+/** Sentences as somebody reads them who knows of no folder. */
+function readable(told: Told): Told {
+  if (told.tell === "message") return { ...told, text: withoutFolder(told.text) };
+  if (told.tell === "refused") return { ...told, words: withoutFolder(told.words) };
+  return told;
 }

@@ -11,6 +11,11 @@ export interface InFile {
   bytes: Uint8Array<ArrayBuffer>;
 }
 
+/** A text in which files are called as they were put, and not by where they lie. */
+export function withoutFolder(text: string): string {
+  return text.replaceAll(`${FOLDER}/`, "");
+}
+
 export class WorkFolder {
   private readonly FS: FileSystem;
   /** What lies in the files that are known. */

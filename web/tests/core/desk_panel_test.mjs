@@ -114,8 +114,11 @@ test("a file that the reader refuses is told, and one that is not there cannot b
   await person.press(PANEL, CONTROL.convert, "choose-files");
   const refused = await person.choose(["absent.trc"], "refused");
   assert.match(refused.words, /absent\.trc does not exist/);
+  assert.doesNotMatch(refused.words, /\/files/);
   const box = await person.choose(["bad.trc"], "message");
   assert.equal(box.caption, "ConvertBVK Error");
+  assert.match(box.text, /\bbad\.trc\b/);
+  assert.doesNotMatch(box.text, /\/files/);
   await person.answer("ok", "idle");
 });
 
