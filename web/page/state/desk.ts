@@ -83,7 +83,6 @@ let desk: DeskApi | null = null;
 let beginning: Promise<void> | null = null;
 let begins = 0;
 let written: WrittenFile[] = [];
-let lastTask: Task["did"] | null = null;
 let selects = 0;
 
 export function useDesks(maker: Maker, handingOut: HandOut): void {
@@ -154,7 +153,6 @@ export function giveTask(task: Task): void {
   idle.value = false;
   report.value = [];
   losses.value = null;
-  lastTask = task.did;
   tell(task);
 }
 
@@ -257,7 +255,6 @@ function takeWork(told: Told): void {
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);
   else if (told.tell === "refused") takeRefusal(told.did, told.words);
-  else if (told.tell === "done" && !told.completed) tellFailed(told.task);
   else if (told.tell === "failed") takeFailure(told.words);
 }
 
@@ -300,9 +297,4 @@ function takeFailure(words: string): void {
 function takeRefusal(did: Did["did"], words: string): void {
   if (did === "chosen" && choosing.value) choiceRefusal.value = pageWords(words);
   else if (TASKS.has(did)) notify("error", pageWords(words));
-}
-
-/** The plug-in has told why in its own boxes, but of scenes it knows nothing. */
-function tellFailed(task: Task["did"]): void {
-  if (task === lastTask && task.endsWith("scene")) notify("error", "The scene stays as it was");
 }

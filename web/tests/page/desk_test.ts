@@ -395,14 +395,9 @@ test("a desk that has ended is told of, and begun anew on what is open", async (
   assert.deepEqual(current().files, ["a.trc"]);
 });
 
-test("a refusal is told in words, and a scene that is none", () => {
+test("a task that is refused is told in words", () => {
   current().tell({ tell: "refused", did: "about", words: "A dialog is open." });
-  desk.giveTask({ did: "open-scene", path: "no.glb" });
-  current().tell({ tell: "done", task: "open-scene", completed: false });
-  assert.deepEqual(notices.value.map(({ title }) => title), [
-    "A dialog is open.",
-    "The scene stays as it was",
-  ]);
+  assert.deepEqual(notices.value.map(({ title }) => title), ["A dialog is open."]);
 });
 
 test("what comes too late, or meets nothing, is passed over in silence", () => {
