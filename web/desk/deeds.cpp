@@ -97,8 +97,8 @@ std::string Desk::SaveScene(const PersonEvent& event) {
 
 std::string Desk::OpenPanel(const PersonEvent& /*event*/) {
   if (is_panel_open_) return "The panel is open";
-  is_panel_open_ = true;
   if (panel_ != nullptr) {
+    is_panel_open_ = true;
     panel_->Open();
     return "";
   }
@@ -106,6 +106,7 @@ std::string Desk::OpenPanel(const PersonEvent& /*event*/) {
   if (utility == nullptr) return "The plug-in has no panel";
   const auto* const utilities = dynamic_cast<const orvane::OrvaneUtilities*>(utility.get());
   if (utilities != nullptr) told_mapping_.Watch(&utilities->Mapping());
+  is_panel_open_ = true;
   panel_ = std::make_unique<host::UtilityPanel>(std::move(utility), *application_);
   return "";
 }

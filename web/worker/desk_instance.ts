@@ -6,6 +6,11 @@ import { withoutFolder, WorkFolder } from "./work_folder";
 
 type Words = Did | { did: "store-settings"; values: StoredValue[] };
 
+/** Halves of characters, which can be typed, have no bytes. */
+function wellFormed(text: string): string {
+  return new TextDecoder().decode(new TextEncoder().encode(text));
+}
+
 /** Tells what is to be seen, with the arrays that may be given away. */
 export type Teller = (told: Told, transfer: ArrayBuffer[]) => void;
 
@@ -47,7 +52,7 @@ export class DeskInstance {
   }
 
   private say(words: Words): void {
-    this.words.push(JSON.stringify(words));
+    this.words.push(JSON.stringify(words, (_, value: unknown) => (typeof value === "string" ? wellFormed(value) : value)));
     this.wake?.();
   }
 

@@ -58,8 +58,9 @@ export function DialogBody({ dialog }: DialogProperties) {
   );
 }
 
+// Keyboards with AltGr tell that as Ctrl and Alt, and type with it.
 function controlFor(event: KeyboardEvent, dialog: ShownDialog): number | null {
-  if (event.altKey && event.key.length === 1) {
+  if (event.altKey && !event.ctrlKey && event.key.length === 1) {
     return controlOfMnemonic(dialog.controls, event.key);
   }
   if (event.key === "Escape" && dialog.closeBox) return CLOSE_CONTROL;

@@ -62,10 +62,13 @@ export function ConversionLosses({ files }: { files: readonly Blob[] }) {
 function Losses({ take, action }: { take: Take; action: Action }) {
   const [findings, setFindings] = useState<readonly Finding[] | null>(null);
   useEffect(() => {
+    let isOver = false;
+    setFindings(null);
     askFindings(take, action).then(
-      (found) => setFindings(found.findings),
+      (found) => isOver || setFindings(found.findings),
       (reason) => notifyFailure("There is no report", reason),
     );
+    return () => void (isOver = true);
   }, [take, action]);
   const title = `What becomes of ${labelOf(take, 60)}`;
   return (

@@ -169,3 +169,9 @@ test("a scene of very many frames is told at some of them", async () => {
   assert.ok(frames * nodes.length <= 2e6);
   assert.equal(positions.length, 3 * frames * nodes.length);
 });
+
+test("half a character that is typed is a character that nobody can read", async () => {
+  const { person, shown } = await opened(walk.path, walk.bytes);
+  const text = { did: "text", dialog: shown.dialog, control: CONTROL.size, text: "1\ud800" };
+  assert.deepEqual(await person.step(text), []);
+});
