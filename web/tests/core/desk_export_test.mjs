@@ -24,6 +24,7 @@ const EXPORTS = [
       for (const [control, text] of Object.entries(typed)) person.type(DIALOG.exportHtr, Number(control), text);
     },
   },
+  { flags: ["--current-pose"], use: (person) => person.click(DIALOG.exportHtr, CONTROL.currentPose) },
 ];
 for (const { flags, use } of EXPORTS) {
   test(`a file is that of export ${flags.join(" ")}`, async () => {

@@ -27,6 +27,16 @@ test("the dialog of an import is as the module's template has it", async () => {
   assert.deepEqual(defaults, [[CONTROL.ok, "&OK"]]);
 });
 
+for (const { file, stops } of [
+  { file: walk, stops: [1085, 1104, 1019, 1017, 1063, 1051, 1067, 1065, 1066, 1089, 1140, 1088, 1097, 1098] },
+  { file: markers, stops: [1085, 1143, 1144, 1141, 1104, 1067, 1065, 1066, 1089, 1140, 1088, 1097, 1098] },
+]) {
+  test(`${file.path}: the keyboard goes through the dialog in the module's order`, async () => {
+    const { shown } = await opened(file.path, file.bytes);
+    assert.deepEqual(shown.controls.filter(({ tabStop }) => tabStop).map(({ id }) => id), stops);
+  });
+}
+
 test("what a control does to others is told", async () => {
   const { person } = await opened(walk.path, walk.bytes);
   const enabled = (id) => person.control(DIALOG.importHtr, id).enabled;
@@ -97,6 +107,15 @@ const IMPORTS = [
     flags: ["--size", "12"],
     async use(person) {
       await person.press(DIALOG.importTrc, CONTROL.frameRate, "controls");
+      person.type(DIALOG.importTrc, CONTROL.size, "12");
+    },
+  },
+  { file: walk, flags: ["--tcb", "--frame-rate", "keep"], use: (person) => person.click(DIALOG.importHtr, CONTROL.tcb) },
+  {
+    file: markers,
+    flags: ["--point", "--root-node", "--size", "12", "--frame-rate", "keep"],
+    async use(person) {
+      for (const control of [CONTROL.point, CONTROL.rootNode]) await person.click(DIALOG.importTrc, control);
       person.type(DIALOG.importTrc, CONTROL.size, "12");
     },
   },

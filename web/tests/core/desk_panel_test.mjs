@@ -43,18 +43,19 @@ test("the panel stays open beside all else, under its title", async () => {
   assert.ok(person.dialogs.has(PANEL));
 });
 
-test("a file that it converts is the program's", async () => {
+for (const space of ["trc", "skelder"]) test(`a file that it converts with an offset in ${space} space is the program's`, async () => {
   const person = await withMapping();
   await set(person, CONTROL.batch, false);
   await set(person, CONTROL.trcName, false);
   await set(person, CONTROL.offsetEnabled, true);
+  if (space === "skelder") await person.click(PANEL, CONTROL.skelderSpace);
   person.type(PANEL, CONTROL.offsetX, "12.5");
   const source = await person.press(PANEL, CONTROL.convert, "choose-files");
   assert.deepEqual([source.title, source.many, source.save], ["Select Source TRC Files...", false, false]);
   const target = await person.choose([markers.path], "choose-files");
   assert.deepEqual([target.title, target.save, target.extension], ["Select Target BVK File...", true, "bvk"]);
   await person.choose(["new.bvk"], "idle");
-  const verb = ["convert", markers.path, "-o", "new.bvk", "--mapping", mapping.path, "--offset", "12.5,0,0"];
+  const verb = ["convert", markers.path, "-o", "new.bvk", "--mapping", mapping.path, "--offset", "12.5,0,0", "--offset-space", space];
   const expected = await programFile(verb, [markers, mapping]);
   assert.equal(withoutDate(person.files.get("new.bvk")), withoutDate(expected));
 });

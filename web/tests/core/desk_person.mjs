@@ -52,6 +52,8 @@ export const CONTROL = {
   rootNode: 1144,
   point: 1142,
   currentPose: 1107,
+  tcb: 1052,
+  skelderSpace: 1125,
   exportAnimation: 1105,
   createMapping: 1203,
   browseMapping: 1132,
