@@ -170,17 +170,6 @@ std::string Desk::RightClick(const PersonEvent& /*event*/) {
   return "";
 }
 
-std::string Desk::Hover(const PersonEvent& event) {
-  host::Node* const node = application_->scene().FindByHandle(event.node);
-  if (node == nullptr) return kNoNode;
-  Telling telling("hover");
-  cli::WriteInteger(telling.Json(), "node", event.node);
-  cli::WriteText(telling.Json(), "name", node->Name());
-  WriteBool(telling.Json(), "pickable", IsPickable(*application_, *node));
-  telling.Send();
-  return "";
-}
-
 std::string Desk::Select(const PersonEvent& event) {
   told_scene_.TakeSelect(event.number);
   host::Scene& scene = application_->scene();
@@ -202,11 +191,6 @@ std::string Desk::SetTime(const PersonEvent& event) {
 std::string Desk::Cancel(const PersonEvent& /*event*/) {
   if (!application_->progress().IsOpen()) return "Nothing is shown that could be cancelled";
   application_->cancellation().Request();
-  return "";
-}
-
-std::string Desk::AskScene(const PersonEvent& /*event*/) {
-  TellWholeScene();
   return "";
 }
 

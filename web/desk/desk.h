@@ -83,11 +83,9 @@ class Desk final : private host::LivePerson {
   std::string Choose(const PersonEvent& event);
   std::string Pick(const PersonEvent& event);
   std::string RightClick(const PersonEvent& event);
-  std::string Hover(const PersonEvent& event);
   std::string Select(const PersonEvent& event);
   std::string SetTime(const PersonEvent& event);
   std::string Cancel(const PersonEvent& event);
-  std::string AskScene(const PersonEvent& event);
   std::string AskLint(const PersonEvent& event);
   std::string StoreSettings(const PersonEvent& event);
 

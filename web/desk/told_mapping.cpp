@@ -58,8 +58,8 @@ std::string ToldMapping::Asked(const LiveDesktop& desktop) {
 }
 
 void ToldMapping::TellLint() const {
-  if (mapping_ == nullptr) return;
-  const auto checked = orvane::CheckMapping("mapping.mnm", BytesOf(*mapping_));
+  const std::string bytes = mapping_ == nullptr ? "" : BytesOf(*mapping_);
+  const auto checked = orvane::CheckMapping("mapping.mnm", bytes);
   TellReport("lint", ReportOn(checked, orvane::Action::kInspect));
 }
 

@@ -52,6 +52,14 @@ void WriteHandles(JsonWriter& json, const char* key, const std::vector<std::uint
   json.EndArray();
 }
 
+// Whether the pick mode lets `node` be picked.
+bool IsPickable(host::Application& application, host::Node& node) {
+  PickModeCallback* const mode = application.callbacks().PickMode();
+  if (mode == nullptr) return false;
+  PickNodeCallback* const filter = mode->GetFilter();
+  return filter == nullptr || filter->Filter(&node);
+}
+
 }  // namespace
 
 void TellScene(const host::Scene& scene, const ScenePlaces& places) {
@@ -136,13 +144,6 @@ void ToldScene::TellPickMode(host::Application& application) {
   WriteBool(telling.Json(), "on", is_picking_);
   WriteHandles(telling.Json(), "pickable", pickable);
   telling.Send();
-}
-
-bool IsPickable(host::Application& application, host::Node& node) {
-  PickModeCallback* const mode = application.callbacks().PickMode();
-  if (mode == nullptr) return false;
-  PickNodeCallback* const filter = mode->GetFilter();
-  return filter == nullptr || filter->Filter(&node);
 }
 
 }  // namespace web

@@ -41,7 +41,4 @@ class ToldScene {
   bool is_picking_ = false;
 };
 
-// Whether the pick mode lets `node` be picked; not without one.
-[[nodiscard]] bool IsPickable(host::Application& application, host::Node& node);
-
 }  // namespace web

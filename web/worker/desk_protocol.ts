@@ -160,7 +160,6 @@ export type Told =
   | { tell: "colors"; changed: { node: number; color: Color }[] }
   /** Whenever it has changed, and after each `select`: its number is that of the last one that was done, or 0. */
   | { tell: "selection"; nodes: number[]; number: number }
-  | { tell: "hover"; node: number; name: string; pickable: boolean }
   | { tell: "progress"; what: string; percent: number }
   | { tell: "progress-gone" }
   /** How a task ended: whether the plug-in carried it out. */
@@ -200,14 +199,12 @@ export type Did =
   /** Null clicks where nothing is. Passed over when `standard` is asked for no more: a second click came too late. */
   | { did: "pick"; node: number | null; standard: string }
   | { did: "right-click" }
-  | { did: "hover"; node: number }
   /** Each has a number above those before it. */
   | { did: "select"; nodes: number[]; number: number }
   | { did: "time"; frame: number }
   /** The plug-in's own Cancel, while progress is shown. */
   | { did: "cancel" }
-  /** Questions, which are answered at any time. */
-  | { did: "ask-scene" }
+  /** What is odd in the mapping so far, which is answered at any time. */
   | { did: "ask-lint" };
 
 /** The worker's orders: first of all the compiled core, with the settings that the plug-in is to find. */

@@ -18,7 +18,7 @@ async function asked(sticks = ["no", "no"]) {
   const right = await person.answer(sticks[0], "message");
   assert.equal(right.text, "Are you using a right wrist stick?");
   await person.answer(sticks[1], "pick-mode");
-  await person.step({ did: "hover", node: 1 });
+  await person.doUntil({ did: "ask-lint" }, "lint");
   return person;
 }
 
@@ -127,7 +127,7 @@ test("Abort at each step leaves the colors as they were", async () => {
     await person.press(DIALOG.panel, CONTROL.createMapping, "message");
     await person.answer("no", "message");
     await person.answer("no", "pick-mode");
-    await person.step({ did: "hover", node: 1 });
+    await person.doUntil({ did: "ask-lint" }, "lint");
   }
 });
 
@@ -148,10 +148,8 @@ test("questions are answered while a pick waits, and tasks are refused", async (
   const lint = await person.doUntil({ did: "ask-lint" }, "lint");
   assert.ok(lint.findings.every(({ code, text }) => code.startsWith("mnm-") && text !== ""));
   const node = person.node("walker:C7");
-  assert.deepEqual(await person.doUntil({ did: "hover", node }, "hover"), { tell: "hover", node, name: "walker:C7", pickable: true });
   assert.ok(person.pickMode.pickable.includes(node));
-  const { scene } = await person.doUntil({ did: "ask-scene" }, "scene");
-  assert.equal(scene.nodes.find((each) => each.name === "walker:LFHD").color.join(), PICKED.join());
+  assert.deepEqual(person.colors.get(person.node("walker:LFHD")), PICKED);
   const refused = await person.doUntil({ did: "import", path: markers.path }, "refused");
   assert.equal(refused.words, "The plug-in is at work");
   await pickOn(person, 1);

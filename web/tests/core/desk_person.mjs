@@ -172,9 +172,9 @@ export class Person {
   /** Does it, and promises what was told of it until the desk waits again. */
   async step(did) {
     this.do(did);
-    this.desk.do({ did: "hover", node: 0 });
+    this.desk.do({ did: "ask-lint" });
     for (;;) {
-      const at = this.unread.findIndex((told) => told.tell === "refused" && told.did === "hover");
+      const at = this.unread.findIndex(({ tell }) => tell === "lint");
       if (at >= 0) return this.unread.splice(0, at + 1).slice(0, -1);
       await new Promise((resolve) => (this.wake = resolve));
     }
