@@ -11,6 +11,7 @@ import { connect, openFiles } from "./state/core";
 import { useDesks, type DeskApi } from "./state/desk";
 import { notify, wordsOf } from "./state/notices";
 import { startPlayer } from "./state/player";
+import { guardLeaving } from "./state/unsaved";
 import "./style.css";
 import "./desk/desk.css";
 
@@ -51,4 +52,5 @@ render(<App />, document.getElementById("app")!);
 listenToKeys();
 listenToDrops();
 startPlayer();
+guardLeaving(globalThis);
 void start();

@@ -17,10 +17,12 @@ import { notifyFailure } from "../state/notices";
 import { scene } from "../state/takes";
 import { exportScene, free, saveScene } from "../state/work";
 import { settingsShown } from "../state/layout";
+import { replaceScene } from "../state/unsaved";
 import { DialogBody } from "./dialog_window";
 import { MappingPanel } from "./mapping_panel";
 import { NameWindow } from "./choice_window";
 import { ToldFindings } from "./told_findings";
+import { UnsavedWindow } from "./unsaved_window";
 import { Veil } from "./window";
 
 /** What is done with the scene, and the plug-in's panel. */
@@ -60,13 +62,13 @@ function SceneTasks() {
         Scene <span class="quiet">{idle.value ? countText() : "…"}</span>
       </h2>
       <div class="task-buttons">
-        <button disabled={!ready} onClick={openScene}>
+        <button disabled={!ready} onClick={() => replaceScene(openScene)}>
           Open scene…
         </button>
         <button disabled={!ready || !hasScene} onClick={() => setNaming("save")}>
           Save scene…
         </button>
-        <button disabled={!ready || !hasScene} onClick={() => giveTask({ did: "new-scene" })}>
+        <button disabled={!ready || !hasScene} onClick={() => replaceScene(() => giveTask({ did: "new-scene" }))}>
           New scene
         </button>
         <button
@@ -89,6 +91,7 @@ function SceneTasks() {
         </p>
       )}
       {naming && <Naming what={naming} close={() => setNaming(null)} />}
+      <UnsavedWindow />
       <DeskProgress />
       <Report />
     </section>

@@ -2,6 +2,7 @@ import { batch, computed, signal } from "@preact/signals";
 import type {
   Did,
   MappingEntry,
+  ShownScene,
   StoredValue,
   Suggestion,
   Task,
@@ -19,6 +20,7 @@ import { notify } from "./notices";
 import { paintScene, showScene } from "./scene";
 import { showSelected } from "./selection";
 import { working } from "./takes";
+import { noteDone, noteNodes } from "./unsaved";
 
 /** What the desk has told, and what it is told that the person did. */
 
@@ -255,12 +257,13 @@ function takeWork(told: Told): void {
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);
   else if (told.tell === "refused") takeRefusal(told.did, told.words);
+  else if (told.tell === "done" && told.completed) noteDone(told.task);
   else if (told.tell === "failed") takeFailure(told.words);
 }
 
 function takeScene(told: Told): void {
   if (told.tell === "scene-gone") forgetScene();
-  else if (told.tell === "scene") showScene(told.scene);
+  else if (told.tell === "scene") takeShown(told.scene);
   else if (told.tell === "colors") paintScene(told.changed);
   else if (told.tell === "selection") takeSelection(told.nodes, told.number);
   else if (told.tell === "pick-mode") takePickMode(told.on, told.pickable);
@@ -297,4 +300,9 @@ function takeFailure(words: string): void {
 function takeRefusal(did: Did["did"], words: string): void {
   if (did === "chosen" && choosing.value) choiceRefusal.value = pageWords(words);
   else if (TASKS.has(did)) notify("error", pageWords(words));
+}
+
+function takeShown(shown: ShownScene): void {
+  noteNodes(shown.nodes.length);
+  showScene(shown);
 }

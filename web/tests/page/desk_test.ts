@@ -3,100 +3,16 @@ import { beforeEach, test } from "node:test";
 import { frameOf } from "../../page/logic/frame_range";
 import { frameTicks } from "../../page/logic/timeline_geometry";
 import * as desk from "../../page/state/desk";
-import { keep, stored } from "../../page/state/kept_settings";
+import { keep } from "../../page/state/kept_settings";
 import { notices } from "../../page/state/notices";
 import { deselect, lastSelected, select, selectedInActive } from "../../page/state/selection";
-import { activeKey, addTake, scene, takes, working } from "../../page/state/takes";
+import { scene, takes, working } from "../../page/state/takes";
 import * as time from "../../page/state/time";
 import * as work from "../../page/state/work";
-import type { Did, SceneNode, ShownScene, StoredValue, Told } from "../../worker/desk_protocol";
-import type { TakeInfo } from "../../worker/protocol";
+import type { StoredValue, Told } from "../../worker/desk_protocol";
+import { current, handedOut, node, openFile, sceneOf, sitDown, stands } from "./desk_stand_in";
 
-/** A desk that does nothing: it is told what to tell. */
-class StandIn implements desk.DeskApi {
-  readonly done: Did[] = [];
-  readonly files: string[] = [];
-  readonly removed: string[] = [];
-  ended = false;
-  private listener: (told: Told) => void = () => {};
-
-  constructor(readonly settings: StoredValue[]) {}
-
-  put(path: string): void {
-    this.files.push(path);
-  }
-
-  remove(path: string): void {
-    this.removed.push(path);
-  }
-
-  do(did: Did): void {
-    this.done.push(did);
-  }
-
-  onTold(listener: (told: Told) => void): void {
-    this.listener = listener;
-  }
-
-  end(): void {
-    this.ended = true;
-  }
-
-  tell(...tellings: Told[]): void {
-    for (const told of tellings) this.listener(told);
-  }
-
-  last<Kind extends Did["did"]>(kind: Kind): Extract<Did, { did: Kind }> | undefined {
-    return this.done.filter(({ did }) => did === kind).pop() as never;
-  }
-}
-
-let stands: StandIn[] = [];
-let handedOut: string[][] = [];
-
-const current = (): StandIn => stands[stands.length - 1];
-
-beforeEach(async () => {
-  stands = [];
-  handedOut = [];
-  notices.value = [];
-  takes.value = [];
-  activeKey.value = 0;
-  work.setWorking(false);
-  time.clearSpan();
-  keep.value = false;
-  stored.value = [];
-  desk.useDesks(
-    async (settings) => {
-      stands.push(new StandIn(settings));
-      return current();
-    },
-    (files) => handedOut.push(files.map(({ name }) => name)),
-  );
-  await desk.beginAnew();
-  work.setWorking(true);
-  current().tell({ tell: "idle" });
-});
-
-function node(number: number, name: string): SceneNode {
-  return { node: number, name, parent: 0, kind: "marker", color: [204, 51, 51], size: 1 };
-}
-
-function sceneOf(...nodes: SceneNode[]): ShownScene {
-  const numbers = () => new Float32Array(nodes.length * 3 * 10);
-  const rest = { firstFrame: 0, step: 1, frames: 10, rate: 60, millimetresPerUnit: 1 };
-  return { nodes, positions: numbers(), ends: numbers(), ...rest };
-}
-
-function openFile(name: string, frames = 100, path = name) {
-  const info = { name, path, frames, firstFrame: 1, rate: 60, objects: ["a"] };
-  const take = addTake(
-    { ...info, gaps: new Int32Array() } as unknown as TakeInfo,
-    { positions: new Float32Array() },
-    new Blob([name]),
-  );
-  return take;
-}
+beforeEach(sitDown);
 
 const file = (name: string): Told => ({ tell: "file", name, bytes: new Uint8Array(1) });
 
