@@ -1,10 +1,11 @@
 import { useState } from "preact/hooks";
 import { chooseFiles } from "../data/files";
-import type { FileChoice, FolderChoice } from "../logic/desk_things";
+import { lacksFolder, type FileChoice, type FolderChoice } from "../logic/desk_things";
 import { fitsPattern, nameOfMade, nameToWrite } from "../logic/file_pattern";
 import { shown } from "../logic/names";
-import { choiceRefusal, choose, chosenLast, deskFiles, putFile } from "../state/desk";
+import { choiceRefusal, choose, chosenLast, deskFiles, putFile, things } from "../state/desk";
 import { notifyFailure } from "../state/notices";
+import { FolderNeed } from "./folder_need";
 import { ConversionLosses } from "./loss_report";
 import { Window } from "./window";
 
@@ -54,6 +55,7 @@ export function OpenWindow({ choice }: { choice: FileChoice }) {
         ))}
         {offered.length === 0 && <li class="quiet">No such file is open here.</li>}
       </ul>
+      {choice.many && lacksFolder(things.value) && <FolderNeed />}
       {isOfMarkers(choice) && (
         <div class="choice-losses">
           <ConversionLosses files={chosen.flatMap((path) => deskFiles.value.get(path) ?? [])} />

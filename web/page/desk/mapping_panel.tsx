@@ -1,10 +1,10 @@
 import { useEffect, useRef } from "preact/hooks";
 import { counted } from "../logic/counted";
-import { CREATOR, modelessDialog } from "../logic/desk_things";
+import { canSkip, CREATOR, modelessDialog } from "../logic/desk_things";
 import { CLOSE_CONTROL } from "../logic/dialog_layout";
 import { reasonText } from "../logic/mapping";
 import { shown } from "../logic/names";
-import { asked, lint, mapping, pickMode, things } from "../state/desk";
+import { asked, isMappingLeft, lint, mapping, pickMode, things } from "../state/desk";
 import { scene } from "../state/takes";
 import { suggestion, takeSuggestion } from "../state/work";
 import { BodyPicture } from "./body_picture";
@@ -33,7 +33,8 @@ export function MappingPanel() {
         )}
       </h2>
       {dialog && <DialogBody dialog={dialog} />}
-      {pickMode.value.on && <StepHint />}
+      {dialog && pickMode.value.on && <StepHint canSkip={canSkip(dialog)} />}
+      {isMappingLeft.value && <LeftUnsaved />}
       {dialog && <BodyPicture asked={asked.value} found={found} />}
       <MappingTable />
       <LintList />
@@ -41,12 +42,21 @@ export function MappingPanel() {
   );
 }
 
-function StepHint() {
+function StepHint({ canSkip }: { canSkip: boolean }) {
   const suggested = suggestion.value;
   const name = scene.value?.nodes?.find(({ node }) => node === suggested?.node)?.name;
   return (
     <div class="step-hint">
-      <p>Click the marker in the view. A right click asks again.</p>
+      <p>
+        Click the marker in the view, or choose it in Nodes and press <kbd>Enter</kbd>. A right click
+        asks for the same one again.
+      </p>
+      {!canSkip && (
+        <p class="quiet">
+          {asked.value} cannot be skipped. Where the recording has no such marker: Abort, and convert
+          without "Use MNM Filter File".
+        </p>
+      )}
       {suggested && name !== undefined ? (
         <p class="suggestion" data-suggested={name} data-reason={suggested.reason}>
           <button onClick={takeSuggestion} title={reasonText(suggested)}>
@@ -55,9 +65,18 @@ function StepHint() {
           {reasonText(suggested)}; <kbd>Enter</kbd> takes it
         </p>
       ) : (
-        <p class="quiet">Nothing is suggested for {asked.value}.</p>
+        <p class="quiet">No suggestion for {asked.value}.</p>
       )}
     </div>
+  );
+}
+
+function LeftUnsaved() {
+  return (
+    <p class="finding warning" role="status">
+      <span class="severity">warning</span> Nothing was saved. "Create" on the utility panel begins a
+      new mapping.
+    </p>
   );
 }
 

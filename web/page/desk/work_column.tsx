@@ -1,6 +1,6 @@
 import { useState } from "preact/hooks";
-import { counted } from "../logic/counted";
-import { PANEL, modelessDialog } from "../logic/desk_things";
+import { CREATOR, PANEL, lacksFolder, modelessDialog } from "../logic/desk_things";
+import { sceneText } from "../logic/scene_take";
 import { chooseFiles } from "../data/files";
 import {
   beginAnew,
@@ -8,6 +8,7 @@ import {
   deskProgress,
   failure,
   idle,
+  outcome,
   putFile,
   report,
   tell,
@@ -19,6 +20,7 @@ import { exportScene, free, saveScene } from "../state/work";
 import { settingsShown } from "../state/layout";
 import { replaceScene } from "../state/unsaved";
 import { DialogBody } from "./dialog_window";
+import { FolderNeed } from "./folder_need";
 import { MappingPanel } from "./mapping_panel";
 import { NameWindow } from "./choice_window";
 import { ToldFindings } from "./told_findings";
@@ -93,14 +95,18 @@ function SceneTasks() {
       {naming && <Naming what={naming} close={() => setNaming(null)} />}
       <UnsavedWindow />
       <DeskProgress />
+      {outcome.value && (
+        <p class="quiet outcome" role="status">
+          {outcome.value}
+        </p>
+      )}
       <Report />
     </section>
   );
 }
 
 function countText(): string {
-  const count = scene.value?.nodes?.length ?? 0;
-  return count === 0 ? "empty" : counted(count, "node");
+  return scene.value ? sceneText(scene.value.info) : "empty";
 }
 
 function openScene(): void {
@@ -161,9 +167,10 @@ function DeskProgress() {
   );
 }
 
-/** What the plug-in was told to do with a file, and what that came to. */
+/** What the plug-in was told to do with a file, and what that came to; while a mapping is made, that has the room. */
 function Report() {
-  if (report.value.length === 0) return null;
+  const isMapping = modelessDialog(things.value, CREATOR) !== null;
+  if (report.value.length === 0 || isMapping) return null;
   return (
     <div class="import-report" role="group" aria-label="What the import made of the file" tabIndex={0}>
       <ToldFindings findings={report.value} />
@@ -197,6 +204,7 @@ function UtilityPanel() {
         </button>
       </h2>
       <DialogBody dialog={dialog} />
+      {lacksFolder(things.value) && <FolderNeed />}
     </section>
   );
 }

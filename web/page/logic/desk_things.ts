@@ -16,6 +16,11 @@ export type Thing =
 export const PANEL = 116;
 export const CREATOR = 117;
 
+const SKIP = 1153;
+const BATCH = 1201;
+const OUTPUT_FOLDER = 1138;
+const NO_PATH = "<none>";
+
 /** The dialogs that ask how a file is imported, and how a skeleton is exported. */
 export const IMPORTS: readonly number[] = [107, 108];
 export const EXPORT = 126;
@@ -103,4 +108,16 @@ export function modelessDialog(things: readonly Thing[], template: number): Show
     }
   }
   return null;
+}
+
+/** Whether the panel would convert several files, and has no folder for them. */
+export function lacksFolder(things: readonly Thing[]): boolean {
+  const controls = modelessDialog(things, PANEL)?.controls ?? [];
+  const isBatch = controls.some(({ id, checked }) => id === BATCH && checked);
+  return isBatch && controls.some(({ id, text }) => id === OUTPUT_FOLDER && text === NO_PATH);
+}
+
+/** Whether the marker that the creator asks for may be left out. */
+export function canSkip({ controls }: ShownDialog): boolean {
+  return controls.some(({ id, enabled }) => id === SKIP && enabled);
 }

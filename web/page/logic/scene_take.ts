@@ -1,6 +1,8 @@
 import type { ShownScene } from "../../worker/desk_protocol";
 import type { TakeInfo, Tracks } from "../../worker/protocol";
+import { counted } from "./counted";
 import { emptyBox, enclose, isEmpty } from "./tracks";
+import { rateText } from "./units";
 
 /** The scene of the desk as the page shows takes: its nodes are the objects. */
 
@@ -66,6 +68,14 @@ export function sceneInfo(scene: ShownScene): TakeInfo {
     gaps,
     ...boxOf(positions),
   };
+}
+
+/** How much is in a scene, and over which time it plays. */
+export function sceneText({ objects, rate, firstFrame, frameStep = 1, frames }: TakeInfo): string {
+  const nodes = counted(objects.length, "node");
+  if (frames < 1) return nodes;
+  const last = firstFrame + (frames - 1) * frameStep;
+  return `${nodes}, ${rateText(rate * frameStep)} fps, frames ${firstFrame} to ${last}`;
 }
 
 export function sceneTracks({ positions, ends, nodes }: ShownScene): Tracks {

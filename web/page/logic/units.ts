@@ -24,6 +24,11 @@ export function lengthText(meters: number, unit: Unit): string {
   return (meters / METERS[unit]).toFixed(DECIMALS[unit]);
 }
 
+/** Frames per second, without digits that say nothing. */
+export function rateText(rate: number): string {
+  return String(Number(rate.toFixed(3)));
+}
+
 /** The smallest of 1, 2 and 5 times a power of ten that is at least `value`. */
 export function roundStep(value: number): number {
   if (!(value > 0) || !Number.isFinite(value)) return 1;

@@ -1,5 +1,6 @@
 import { counted, countedObjects, nounOf } from "../logic/counted";
 import { shown } from "../logic/names";
+import { rateText } from "../logic/units";
 import { closeTake } from "../state/core";
 import { colorOf } from "../state/take_color";
 import { activeTake, labelOf, takes, type Take } from "../state/takes";
@@ -55,10 +56,6 @@ function TakeRow({ take }: { take: Take }) {
       {takes.value.length > 1 && <OffsetField take={take} name={name} />}
     </li>
   );
-}
-
-function rateText(rate: number): string {
-  return String(Number(rate.toFixed(3)));
 }
 
 /** How many of its own frames a take begins later than the others. */

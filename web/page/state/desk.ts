@@ -10,16 +10,25 @@ import type {
   ToldFinding,
 } from "../../worker/desk_protocol";
 import { ownNameFor } from "../../worker/file_paths";
-import { isChoice, isModal, thingsAfter, thingsWithText, type Thing } from "../logic/desk_things";
+import {
+  CREATOR,
+  isChoice,
+  isModal,
+  modelessDialog,
+  thingsAfter,
+  thingsWithText,
+  type Thing,
+} from "../logic/desk_things";
 import { fitsPattern } from "../logic/file_pattern";
-import type { WrittenFile } from "../logic/handed_out";
+import { newestOfEach, type WrittenFile } from "../logic/handed_out";
 import { shown } from "../logic/names";
+import { importedText, writtenText } from "../logic/outcome";
 import { dialogWords, pageWords } from "../logic/page_words";
 import { keptSettings, storeSettings } from "./kept_settings";
 import { notify } from "./notices";
 import { paintScene, showScene } from "./scene";
 import { showSelected } from "./selection";
-import { working } from "./takes";
+import { scene, working } from "./takes";
 import { noteDone, noteNodes } from "./unsaved";
 
 /** What the desk has told, and what it is told that the person did. */
@@ -60,12 +69,19 @@ export const choiceRefusal = signal("");
 export const chosenLast = signal("");
 const choosing = computed(() => things.value.some(isChoice));
 export const idle = signal(false);
+/** What came of what was done last, or nothing. */
+export const outcome = signal("");
 export const failure = signal<string | null>(null);
 export const pickMode = signal<PickMode>(NO_PICKING);
 /** Whether what is pointed at is picked: of takes nothing ever is. */
 export const picking = computed(() => pickMode.value.on && working.value);
 export const mapping = signal<readonly MappingEntry[]>([]);
 export const asked = signal("");
+/** Whether a mapping stays that nobody makes any more: it was not saved. */
+export const isMappingLeft = computed(() => {
+  const isAnyPicked = mapping.value.some(({ node }) => node !== 0);
+  return idle.value && isAnyPicked && !modelessDialog(things.value, CREATOR);
+});
 export const suggestions = signal<readonly Suggestion[]>([]);
 /** What the import that was agreed to last makes of its file. */
 export const report = signal<readonly ToldFinding[]>([]);
@@ -85,6 +101,8 @@ let desk: DeskApi | null = null;
 let beginning: Promise<void> | null = null;
 let begins = 0;
 let written: WrittenFile[] = [];
+let lastTask: Task | null = null;
+let nodesBefore = 0;
 let selects = 0;
 
 export function useDesks(maker: Maker, handingOut: HandOut): void {
@@ -128,6 +146,7 @@ function forgetAll(): void {
   endPicking();
   mapping.value = [];
   lint.value = [];
+  outcome.value = "";
   report.value = [];
   losses.value = null;
   suggestions.value = [];
@@ -155,6 +174,9 @@ export function giveTask(task: Task): void {
   idle.value = false;
   report.value = [];
   losses.value = null;
+  outcome.value = "";
+  lastTask = task;
+  nodesBefore = nodeCount();
   tell(task);
 }
 
@@ -226,7 +248,10 @@ function takeFile({ name, bytes }: WrittenFile): void {
 }
 
 function handOutWritten(): void {
-  if (written.length > 0) handOut(written);
+  if (written.length > 0) {
+    handOut(written);
+    outcome.value = writtenText(newestOfEach(written));
+  }
   written = [];
 }
 
@@ -257,7 +282,7 @@ function takeWork(told: Told): void {
   else if (told.tell === "progress-gone") deskProgress.value = null;
   else if (told.tell === "settings") storeSettings(told.values);
   else if (told.tell === "refused") takeRefusal(told.did, told.words);
-  else if (told.tell === "done" && told.completed) noteDone(told.task);
+  else if (told.tell === "done") takeDone(told.task, told.completed);
   else if (told.tell === "failed") takeFailure(told.words);
 }
 
@@ -302,7 +327,19 @@ function takeRefusal(did: Did["did"], words: string): void {
   else if (TASKS.has(did)) notify("error", pageWords(words));
 }
 
-function takeShown(shown: ShownScene): void {
-  noteNodes(shown.nodes.length);
-  showScene(shown);
+function takeShown(told: ShownScene): void {
+  noteNodes(told.nodes.length);
+  showScene(told);
+}
+
+function takeDone(task: Task["did"], completed: boolean): void {
+  if (!completed) return;
+  noteDone(task);
+  if (task === "import" && lastTask?.did === task) {
+    outcome.value = importedText(lastTask.path, nodesBefore, nodeCount());
+  }
+}
+
+function nodeCount(): number {
+  return scene.value?.nodes?.length ?? 0;
 }
