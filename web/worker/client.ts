@@ -14,6 +14,7 @@ import type {
   Findings,
   LineText,
   Opened,
+  OtherFile,
   Progress,
   Question,
   Request,
@@ -93,8 +94,8 @@ export class Core implements CoreApi {
     return (await this.ask({ do: "line", take, line, column })) as LineText;
   }
 
-  async run(verb: string[], takes: number[]): Promise<RunResult> {
-    return (await this.ask({ do: "run", verb, takes })) as RunResult;
+  async run(verb: string[], takes: number[], others: OtherFile[] = []): Promise<RunResult> {
+    return (await this.ask({ do: "run", verb, takes, others })) as RunResult;
   }
 
   async close(take: number): Promise<void> {

@@ -90,6 +90,12 @@ export interface Findings {
   json: string;
 }
 
+/** A file that is no take. */
+export interface OtherFile {
+  path: string;
+  file: Blob;
+}
+
 export interface OutFile {
   name: string;
   bytes: Uint8Array<ArrayBuffer>;
@@ -145,10 +151,10 @@ export interface CoreApi {
   findings(take: number, action: Action): Promise<Findings>;
   line(take: number, line: number, column?: number): Promise<LineText>;
   /**
-   * Runs the program with these arguments over the files of `takes`, by their paths, with settings that
-   * nobody has changed: ["import", "walk.htr", "-o", "walk.glb"].
+   * Runs the program with these arguments over the files of `takes`, by their paths, and over `others`, with settings
+   * that nobody has changed: ["import", "walk.htr", "-o", "walk.glb"].
    */
-  run(verb: string[], takes: number[]): Promise<RunResult>;
+  run(verb: string[], takes: number[], others?: OtherFile[]): Promise<RunResult>;
   close(take: number): Promise<void>;
   onProgress(listener: (progress: Progress) => void): void;
   /**
@@ -172,7 +178,7 @@ export type Question =
   | { do: "curve"; take: number; object: number; of: CurveOf }
   | { do: "findings"; take: number; action: Action }
   | { do: "line"; take: number; line: number; column: number }
-  | { do: "run"; verb: string[]; takes: number[] }
+  | { do: "run"; verb: string[]; takes: number[]; others: OtherFile[] }
   | { do: "close"; take: number };
 
 export type Request = Order | (Question & { call: number });

@@ -3,7 +3,7 @@
 import { CoreError, CoreInstance, type BarWatcher } from "./core_instance";
 import type { DeskAnswer, DeskOrder } from "./desk_protocol";
 import { beginDesk } from "./desk_worker";
-import type { Answer, CoreFailure, Question, Request } from "./protocol";
+import type { Answer, CoreFailure, OtherFile, Question, Request } from "./protocol";
 import { failureForSize } from "./size_limit";
 import type { InFile } from "./work_folder";
 
@@ -108,9 +108,13 @@ async function close(take: number): Promise<Reply> {
   return { value: { held: core?.held ?? 0 }, transfer: [] };
 }
 
-async function run(verb: string[], inputs: number[]): Promise<Reply> {
+async function contentOf({ path, file }: OtherFile): Promise<InFile> {
+  return { path, bytes: new Uint8Array(await file.arrayBuffer()) };
+}
+
+async function run(verb: string[], inputs: number[], others: OtherFile[]): Promise<Reply> {
   cancelAsked = cancelTaken = false;
-  const files = await Promise.all(inputs.map(fileOf));
+  const files = await Promise.all([...inputs.map(fileOf), ...others.map(contentOf)]);
   const instance = await CoreInstance.make(compiled, bar);
   const result = await instance.run(verb, files);
   return { value: result, transfer: result.files.map(({ bytes }) => bytes.buffer) };
@@ -138,7 +142,7 @@ async function answer(question: Question): Promise<Reply> {
         transfer: [],
       };
     case "run":
-      return run(question.verb, question.takes);
+      return run(question.verb, question.takes, question.others);
     case "close":
       return close(question.take);
   }

@@ -1,11 +1,12 @@
 import { useEffect, useState } from "preact/hooks";
-import type { ShownDialog } from "../../worker/desk_protocol";
+import type { ShownDialog, ToldFinding } from "../../worker/desk_protocol";
 import type { Action, Finding } from "../../worker/protocol";
-import { EXPORT, IMPORTS } from "../logic/desk_things";
+import { EXPORT, IMPORTS, mappingPath } from "../logic/desk_things";
 import { worstFirst } from "../logic/finding_groups";
+import { mappingFile } from "../logic/mapping_fit";
 import { shown } from "../logic/names";
-import { askFindings } from "../state/core";
-import { losses } from "../state/desk";
+import { askFindings, askFit } from "../state/core";
+import { deskFiles, losses, things } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { importedTake } from "../state/work";
 import { labelOf, takes, type Take } from "../state/takes";
@@ -48,18 +49,38 @@ const MOST_REPORTS = 8;
 /** What becomes of the files that are chosen for a conversion. */
 export function ConversionLosses({ files }: { files: readonly Blob[] }) {
   const chosen = takes.value.filter((take) => files.includes(take.file));
+  const mapping = mappingFile(mappingPath(things.value), deskFiles.value);
   const unread = chosen.length - MOST_REPORTS;
   return (
     <>
       {chosen.slice(0, MOST_REPORTS).map((take) => (
-        <Losses key={take.key} take={take} action="convert" />
+        <Losses key={take.key} take={take} action="convert" mapping={mapping} />
       ))}
       {unread > 0 && <p class="quiet">{unread} more: see the findings of each.</p>}
     </>
   );
 }
 
-function Losses({ take, action }: { take: Take; action: Action }) {
+interface LossesProperties {
+  take: Take;
+  action: Action;
+  /** The mapping that says which of its markers are taken. */
+  mapping?: Blob;
+}
+
+/** What becomes of the markers by the mapping; nothing while that is being found out. */
+function useFit(take: Take, mapping: Blob | undefined): readonly ToldFinding[] | null {
+  const [fit, setFit] = useState<readonly ToldFinding[] | null>(null);
+  useEffect(() => {
+    setFit(mapping ? null : []);
+    if (!mapping) return;
+    askFit(take, mapping).then(setFit, (reason) => notifyFailure("There is no report", reason));
+  }, [take, mapping]);
+  return fit;
+}
+
+function Losses({ take, action, mapping }: LossesProperties) {
+  const fit = useFit(take, mapping);
   const [findings, setFindings] = useState<readonly Finding[] | null>(null);
   useEffect(() => {
     let isOver = false;
@@ -74,8 +95,9 @@ function Losses({ take, action }: { take: Take; action: Action }) {
   return (
     <section class="losses" aria-label={title} tabIndex={0}>
       <h2>{title}</h2>
-      {findings === null && <p class="quiet">Looking…</p>}
-      {findings?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
+      {(findings === null || fit === null) && <p class="quiet">Looking…</p>}
+      {fit && <ToldFindings findings={fit} />}
+      {findings?.length === 0 && fit?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
       {findings && worstFirst(findings).map((finding) => <Loss key={finding.code} {...finding} />)}
     </section>
   );

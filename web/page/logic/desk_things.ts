@@ -18,6 +18,8 @@ export const CREATOR = 117;
 
 const SKIP = 1153;
 const BATCH = 1201;
+const MAPPING_FILE = 1137;
+const MAPPING_USED = 1204;
 const OUTPUT_FOLDER = 1138;
 const NO_PATH = "<none>";
 
@@ -120,4 +122,12 @@ export function lacksFolder(things: readonly Thing[]): boolean {
 /** Whether the marker that the creator asks for may be left out. */
 export function canSkip({ controls }: ShownDialog): boolean {
   return controls.some(({ id, enabled }) => id === SKIP && enabled);
+}
+
+/** The path of the mapping that a conversion goes by; empty when there is none. */
+export function mappingPath(things: readonly Thing[]): string {
+  const controls = modelessDialog(things, PANEL)?.controls ?? [];
+  const isUsed = controls.some(({ id, checked }) => id === MAPPING_USED && checked);
+  const path = controls.find(({ id }) => id === MAPPING_FILE)?.text ?? "";
+  return isUsed && path !== NO_PATH ? path : "";
 }

@@ -5,8 +5,11 @@ import type {
   CurveOf,
   Findings,
   LineText,
+  OtherFile,
   RunResult,
 } from "../../worker/protocol";
+import type { ToldFinding } from "../../worker/desk_protocol";
+import { fitFindings } from "../logic/mapping_fit";
 import { shown } from "../logic/names";
 import { pageWords } from "../logic/page_words";
 import { isCanceled, notifyFailure } from "./notices";
@@ -101,6 +104,19 @@ export async function askCurve(take: Take, object: number, of: CurveOf): Promise
   return runTask("Reading curves", async () => (await core).curve(take.info.id, object, of));
 }
 
-export async function runVerb(what: string, verb: string[], take: Take): Promise<RunResult> {
-  return runTask(what, async () => (await core).run(verb, [take.info.id]));
+export async function runVerb(
+  what: string,
+  verb: string[],
+  take: Take,
+  others: OtherFile[] = [],
+): Promise<RunResult> {
+  return runTask(what, async () => (await core).run(verb, [take.info.id], others));
+}
+
+/** What becomes of a take's markers by a mapping. */
+export async function askFit(take: Take, mapping: Blob): Promise<ToldFinding[]> {
+  const file = { path: "chosen.mnm", file: mapping };
+  const verb = ["map", "lint", file.path, take.info.path, "--json"];
+  const { out } = await runVerb("Looking at the mapping", verb, take, [file]);
+  return fitFindings(out);
 }

@@ -1,6 +1,6 @@
 import assert from "node:assert/strict";
 import { beforeEach, test } from "node:test";
-import { canSkip, CREATOR, lacksFolder, PANEL } from "../../page/logic/desk_things";
+import { canSkip, CREATOR, lacksFolder, mappingPath, PANEL } from "../../page/logic/desk_things";
 import { importedText, writtenText } from "../../page/logic/outcome";
 import { sceneInfo, sceneText } from "../../page/logic/scene_take";
 import * as desk from "../../page/state/desk";
@@ -66,6 +66,17 @@ test("a batch lacks a folder until one is named", () => {
   assert.deepEqual(
     [lacks(true, "<none>"), lacks(false, "<none>"), lacks(true, "/files/day1"), lacksFolder([])],
     [true, false, false, false],
+  );
+});
+
+test("a conversion goes by the mapping that the panel names, if it is used", () => {
+  const path = (used: boolean, text: string) => {
+    const controls = [control(1204, { checked: used }), control(1137, { text })];
+    return mappingPath([{ kind: "dialog", number: 3, dialog: dialogOf(PANEL, ...controls) }]);
+  };
+  assert.deepEqual(
+    [path(true, "/files/my.mnm"), path(false, "/files/my.mnm"), path(true, "<none>")],
+    ["/files/my.mnm", "", ""],
   );
 });
 
