@@ -5,14 +5,19 @@ import { EXPORT, IMPORTS, mappingPath } from "../logic/desk_things";
 import { worstFirst } from "../logic/finding_groups";
 import { mappingFile } from "../logic/mapping_fit";
 import { shown } from "../logic/names";
+import { rateNote } from "../logic/rate_note";
 import { askFindings, askFit } from "../state/core";
 import { deskFiles, losses, things } from "../state/desk";
 import { notifyFailure } from "../state/notices";
 import { importedTake } from "../state/work";
+import { sceneRate } from "../state/scene";
 import { labelOf, takes, type Take } from "../state/takes";
 import { ToldFindings } from "./told_findings";
 
 /** What becomes of what is odd in a file, or of a skeleton, beside the dialog that asks how. */
+
+const NOTHING_BUT_NAMES =
+  "Nothing is odd in the file itself. What of it fits nothing that is selected is left out, and told when it is done.";
 
 /** The radio button of both. */
 const APPLY = 1086;
@@ -22,7 +27,14 @@ export function LossReport({ dialog }: { dialog: ShownDialog }) {
   if (dialog.template === EXPORT) return <ExportLosses />;
   if (!take || !IMPORTS.includes(dialog.template)) return null;
   const applies = dialog.controls.some(({ id, checked }) => id === APPLY && checked);
-  return <Losses take={take} action={applies ? "apply" : "import"} />;
+  return (
+    <Losses
+      take={take}
+      action={applies ? "apply" : "import"}
+      none={applies ? NOTHING_BUT_NAMES : "Nothing is odd in this file."}
+      note={rateNote(dialog, take.info.rateTaken, sceneRate.value)}
+    />
+  );
 }
 
 function ExportLosses() {
@@ -66,7 +78,13 @@ interface LossesProperties {
   action: Action;
   /** The mapping that says which of its markers are taken. */
   mapping?: Blob;
+  /** What is said of a file in which nothing is odd. */
+  none?: string;
+  /** What the scene makes of it. */
+  note?: ToldFinding | null;
 }
+
+const NOTHING_LOST = "Nothing is odd in this file, and nothing of it is lost.";
 
 /** What becomes of the markers by the mapping; nothing while that is being found out. */
 function useFit(take: Take, mapping: Blob | undefined): readonly ToldFinding[] | null {
@@ -79,7 +97,7 @@ function useFit(take: Take, mapping: Blob | undefined): readonly ToldFinding[] |
   return fit;
 }
 
-function Losses({ take, action, mapping }: LossesProperties) {
+function Losses({ take, action, mapping, none = NOTHING_LOST, note }: LossesProperties) {
   const fit = useFit(take, mapping);
   const [findings, setFindings] = useState<readonly Finding[] | null>(null);
   useEffect(() => {
@@ -96,8 +114,9 @@ function Losses({ take, action, mapping }: LossesProperties) {
     <section class="losses" aria-label={title} tabIndex={0}>
       <h2>{title}</h2>
       {(findings === null || fit === null) && <p class="quiet">Looking…</p>}
+      {note && <ToldFindings findings={[note]} />}
       {fit && <ToldFindings findings={fit} />}
-      {findings?.length === 0 && fit?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
+      {findings?.length === 0 && fit?.length === 0 && <p>{none}</p>}
       {findings && worstFirst(findings).map((finding) => <Loss key={finding.code} {...finding} />)}
     </section>
   );

@@ -36,12 +36,16 @@ export function nodeOf(object: number): number {
   return scene.value?.nodes?.[object]?.node ?? 0;
 }
 
+/** Frames per second of the scene, of one without nodes, too; nothing before it is told. */
+export const sceneRate = signal<number | null>(null);
+
 /** Shows the scene, at the frame that is shown as far as it has that, and as closely while it is as long. */
 export function showScene(shown: ShownScene | null): void {
   const isEmpty = !shown || shown.nodes.length === 0;
   const place = scene.value ? timePlace() : FIRST_PLACE;
   const framesBefore = scene.value?.info.frames;
   batch(() => {
+    sceneRate.value = shown?.rate ?? null;
     scene.value = isEmpty ? null : takeOf(shown);
     if (isEmpty) forgetPlaceInScene();
     else if (working.value && shown.frames !== framesBefore) returnTo(place);

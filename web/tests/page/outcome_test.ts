@@ -3,7 +3,9 @@ import { beforeEach, test } from "node:test";
 import { canSkip, CREATOR, lacksFolder, mappingPath, PANEL } from "../../page/logic/desk_things";
 import { importedText, writtenText } from "../../page/logic/outcome";
 import { sceneInfo, sceneText } from "../../page/logic/scene_take";
+import { rateNote } from "../../page/logic/rate_note";
 import * as desk from "../../page/state/desk";
+import { sceneRate } from "../../page/state/scene";
 import type { ControlState, ShownDialog } from "../../worker/desk_protocol";
 import { current, node, sceneOf, sitDown } from "./desk_stand_in";
 
@@ -57,6 +59,27 @@ function control(id: number, more: Partial<ControlState>): ControlState {
 function dialogOf(template: number, ...controls: ControlState[]): ShownDialog {
   return { dialog: 3, template, title: "t", width: 1, height: 1, modal: false, closeBox: true, controls };
 }
+
+test("a file that would play at another speed is told of before it is imported", () => {
+  const asks = (setsRate: boolean, ...more: ControlState[]) =>
+    dialogOf(108, control(1140, { checked: setsRate }), ...more);
+  const note = rateNote(asks(false), 60, 30)!;
+  assert.deepEqual([note.severity, note.code], ["warning", "scene-rate-kept"]);
+  assert.match(note.text, /60 frames a second, the scene 30: it plays at half speed unless "Set Frame Rate" is on/);
+  assert.match(rateNote(asks(false), 25, 30)!.text, /at 1.2 times its speed/);
+  assert.equal(rateNote(asks(true), 60, 30), null);
+  assert.equal(rateNote(asks(false), 60, 60), null);
+  assert.equal(rateNote(asks(false), 59, 4800 / 81), null);
+  assert.equal(rateNote(asks(false), 0, 30), null);
+  assert.equal(rateNote(asks(false), 60, null), null);
+  assert.equal(rateNote(asks(false, control(1063, { checked: false })), 60, 30), null);
+});
+
+test("the rate of a scene without nodes is known", () => {
+  assert.ok(current().last("ask-scene"));
+  current().tell({ tell: "scene", scene: { ...sceneOf(), rate: 30 } });
+  assert.equal(sceneRate.value, 30);
+});
 
 test("a batch lacks a folder until one is named", () => {
   const lacks = (batch: boolean, folder: string) => {
