@@ -104,3 +104,20 @@ test("a choice that is left changes nothing", () =>
     await desk.button("Utility panel").click();
     await desk.panel.waitFor({ state: "hidden" });
   }));
+
+test("what a batch lacks, and which files its mapping does not fit, is told before they are chosen", () =>
+  atWork(asFile("other.trc", WALK_TRC.replaceAll("walker:", "runner:")), async (desk) => {
+    await desk.openPanel();
+    await chooseMapping(desk, MAPPING);
+    await desk.panel.getByLabel("Batch File Conversion").click();
+    const need = "A batch needs a BVK output folder";
+    await desk.panel.getByText(need).waitFor();
+    await desk.panel.getByRole("button", { name: "Convert TRC to BVK" }).click();
+    const choice = desk.dialog("Select Source TRC Files...");
+    await choice.getByText(need).waitFor();
+    await choice.getByLabel("other.trc").click();
+    await choice.locator('[data-finding="mnm-fits-nothing"]').waitFor();
+    await choice.getByRole("button", { name: "Cancel" }).click();
+    await chooseFolder(desk, "monday");
+    await desk.panel.getByText(need).waitFor({ state: "hidden" });
+  }));
