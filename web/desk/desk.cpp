@@ -66,6 +66,7 @@ void Desk::NewApplication() {
 }
 
 void Desk::Run() {
+  TellWholeScene();
   for (;;) {
     desktop_.ForgetEnded();
     // A conversion that was cancelled leaves its bar open.

@@ -123,7 +123,6 @@ async function begin(): Promise<void> {
   begun.onTold((told) => {
     if (desk === begun) batch(() => take(told));
   });
-  tell({ did: "ask-scene" });
 }
 
 /** Takes a new desk, with nothing on it, and the settings that are kept. */

@@ -6,6 +6,12 @@ import { CONTROL, DIALOG, Person, programFile } from "./desk_person.mjs";
 const walk = { path: "walk.htr", bytes: example("walk.htr") };
 const markers = { path: "walk.trc", bytes: example("walk.trc") };
 
+test("a desk tells of its scene, in which nothing is yet, as it begins", async () => {
+  const person = await Person.sit();
+  assert.deepEqual(person.scene.nodes, []);
+  assert.equal(person.scene.rate, 30);
+});
+
 test("settings are fresh, are told when they change, and are found by the next desk", async () => {
   const person = await Person.sit();
   assert.ok(!person.told.some(({ tell }) => tell === "settings"));

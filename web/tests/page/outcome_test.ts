@@ -76,7 +76,6 @@ test("a file that would play at another speed is told of before it is imported",
 });
 
 test("the rate of a scene without nodes is known", () => {
-  assert.ok(current().last("ask-scene"));
   current().tell({ tell: "scene", scene: { ...sceneOf(), rate: 30 } });
   assert.equal(sceneRate.value, 30);
 });
