@@ -258,6 +258,7 @@ test("settings are fresh at each visit unless they are kept, and are shown and c
     assert.equal(await importWith("5"), "1.000000");
     assert.equal(await importWith("5"), "5.000000");
     await visitAgain();
+    assert.equal(desk.workbench.askedToLeave, 1);
     assert.equal(await importWith("7"), "1.000000");
     await desk.button("Settings…").click();
     const settings = desk.dialog("Settings");

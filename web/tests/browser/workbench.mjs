@@ -60,9 +60,17 @@ export class Workbench {
     context.on("request", (request) => this.requested.add(request.url()));
     context.on("page", () => this.faults.push("a window was opened"));
     page.on("pageerror", (error) => this.faults.push(`error: ${error}`));
+    this.askedToLeave = 0;
     page.on("console", (message) => this.hear(message));
     page.on("framenavigated", (frame) => this.visit(frame.url()));
-    page.on("dialog", (dialog) => this.faults.push(`dialog: ${dialog.message()}`));
+    page.on("dialog", (dialog) => this.leave(dialog));
+  }
+
+  /** The browser asks before a scene is lost; the page itself never does so. */
+  leave(dialog) {
+    if (dialog.type() === "beforeunload") this.askedToLeave += 1;
+    else this.faults.push(`dialog: ${dialog.message()}`);
+    void dialog.accept();
   }
 
   hear(message) {
