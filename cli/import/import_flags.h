@@ -45,6 +45,8 @@ struct ImportChoices {
   // The frames that get keys when the file announces `announced`: none beside those, because the
   // dialog takes no others.
   [[nodiscard]] orvane::FrameSpan Keyed(const orvane::FrameSpan& announced) const;
+
+  friend bool operator==(const ImportChoices&, const ImportChoices&) = default;
 };
 
 // What comes of `wishes`, and without one of what the dialog for files of that `kind` finds in

@@ -125,6 +125,7 @@ void Desk::TellChanges() {
   told_desktop_.Update(desktop_, application_->rollup_pages());
   told_scene_.Update(*application_);
   told_mapping_.Update(desktop_);
+  if (importing_) importing_->Look(desktop_);
   told_losses_.Update(desktop_, SettingsOfModule(), application_->scene(), reading_);
 }
 

@@ -24,4 +24,20 @@ void TellReport(std::string_view what, const orvane::FileReport& report) {
   telling.Send();
 }
 
+std::string RefusalOf(const cli::Failure& failure) {
+  std::string words;
+  for (const cli::Complaint& complaint : failure.complaints) {
+    words += (words.empty() ? "" : " ") + complaint.text + ".";
+    if (!complaint.advice.empty()) words += " " + complaint.advice;
+  }
+  return words;
+}
+
+void TellLosses(const orvane::FileReport& report, const std::string& refusal) {
+  Telling telling("losses");
+  WriteToldFindings(telling.Json(), report);
+  cli::WriteText(telling.Json(), "refusal", refusal);
+  telling.Send();
+}
+
 }  // namespace web

@@ -147,11 +147,12 @@ export type Told =
   | { tell: "suggestions"; suggested: Suggestion[] }
   /** What is odd in the mapping so far. */
   | { tell: "lint"; findings: ToldFinding[] }
-  /** What an import makes of its file, before it does, when the person has agreed to the dialog. */
+  /** The same of an import, when the person has agreed to it. */
   | { tell: "report"; findings: ToldFinding[] }
   /**
-   * What the motion file will not hold of the skeleton that is selected, by what the dialog ExportHTR shows: when it
-   * is opened and whenever a choice has changed. `refusal` is why the program would not export it so, or empty.
+   * What the import will make of its file, or what the motion file will not hold of the skeleton that is selected, by
+   * what the dialog shows that asks how: when it is opened and whenever a choice has changed. `refusal` is why the
+   * program would not do it so, or empty.
    */
   | { tell: "losses"; findings: ToldFinding[]; refusal: string }
   /** What is told next is another one. */

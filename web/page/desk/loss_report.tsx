@@ -16,42 +16,45 @@ import { ToldFindings } from "./told_findings";
 
 /** What becomes of what is odd in a file, or of a skeleton, beside the dialog that asks how. */
 
-const NOTHING_BUT_NAMES =
-  "Nothing is odd in the file itself. What of it fits nothing that is selected is left out, and told when it is done.";
-
-/** The radio button of both. */
-const APPLY = 1086;
-
 export function LossReport({ dialog }: { dialog: ShownDialog }) {
   const take = importedTake.value;
-  if (dialog.template === EXPORT) return <ExportLosses />;
+  if (dialog.template === EXPORT) {
+    return <DeskLosses title="What the motion file will not hold" none="Nothing of the skeleton is lost." />;
+  }
   if (!take || !IMPORTS.includes(dialog.template)) return null;
-  const applies = dialog.controls.some(({ id, checked }) => id === APPLY && checked);
   return (
-    <Losses
-      take={take}
-      action={applies ? "apply" : "import"}
-      none={applies ? NOTHING_BUT_NAMES : "Nothing is odd in this file."}
+    <DeskLosses
+      title={`What becomes of ${labelOf(take, 60)}`}
+      none="Nothing is odd in this file, for what is chosen here."
       note={rateNote(dialog, take.info.rateTaken, sceneRate.value)}
     />
   );
 }
 
-function ExportLosses() {
+interface DeskLossesProperties {
+  title: string;
+  /** What is said when nothing is lost. */
+  none: string;
+  /** What the page itself knows of it. */
+  note?: ToldFinding | null;
+}
+
+/** By what the dialog shows, as the desk tells it. */
+function DeskLosses({ title, none, note }: DeskLossesProperties) {
   const told = losses.value;
+  const isRateTold = told?.findings.some(({ code }) => code === "apply-rate-differs");
+  const notes = note && !isRateTold ? [note] : [];
   return (
-    <section class="losses" aria-label="What the motion file will not hold" aria-live="polite" tabIndex={0}>
-      <h2>What the motion file will not hold</h2>
+    <section class="losses" aria-label={title} aria-live="polite" tabIndex={0}>
+      <h2>{title}</h2>
       {told === null && <p class="quiet">Looking…</p>}
       {told?.refusal && (
         <p class="finding error">
           <span class="severity">error</span> {shown(told.refusal, 2000)}
         </p>
       )}
-      {told?.refusal === "" && told.findings.length === 0 && (
-        <p>Nothing of the skeleton is lost.</p>
-      )}
-      {told && <ToldFindings findings={told.findings} />}
+      {told?.refusal === "" && told.findings.length + notes.length === 0 && <p>{none}</p>}
+      {told && <ToldFindings findings={[...notes, ...told.findings]} />}
     </section>
   );
 }
@@ -78,13 +81,7 @@ interface LossesProperties {
   action: Action;
   /** The mapping that says which of its markers are taken. */
   mapping?: Blob;
-  /** What is said of a file in which nothing is odd. */
-  none?: string;
-  /** What the scene makes of it. */
-  note?: ToldFinding | null;
 }
-
-const NOTHING_LOST = "Nothing is odd in this file, and nothing of it is lost.";
 
 /** What becomes of the markers by the mapping; nothing while that is being found out. */
 function useFit(take: Take, mapping: Blob | undefined): readonly ToldFinding[] | null {
@@ -97,7 +94,7 @@ function useFit(take: Take, mapping: Blob | undefined): readonly ToldFinding[] |
   return fit;
 }
 
-function Losses({ take, action, mapping, none = NOTHING_LOST, note }: LossesProperties) {
+function Losses({ take, action, mapping }: LossesProperties) {
   const fit = useFit(take, mapping);
   const [findings, setFindings] = useState<readonly Finding[] | null>(null);
   useEffect(() => {
@@ -114,9 +111,8 @@ function Losses({ take, action, mapping, none = NOTHING_LOST, note }: LossesProp
     <section class="losses" aria-label={title} tabIndex={0}>
       <h2>{title}</h2>
       {(findings === null || fit === null) && <p class="quiet">Looking…</p>}
-      {note && <ToldFindings findings={[note]} />}
       {fit && <ToldFindings findings={fit} />}
-      {findings?.length === 0 && fit?.length === 0 && <p>{none}</p>}
+      {findings?.length === 0 && fit?.length === 0 && <p>Nothing is odd in this file, and nothing of it is lost.</p>}
       {findings && worstFirst(findings).map((finding) => <Loss key={finding.code} {...finding} />)}
     </section>
   );

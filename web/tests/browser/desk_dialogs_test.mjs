@@ -30,7 +30,7 @@ test("ImportTRC refuses in its own words, stays, and imports what is right", () 
     const dialog = desk.dialog("ImportTRC");
     await desk.waitUntil(dialog, "From", ":disabled");
     const losses = desk.page.getByRole("region", { name: "What becomes of walk.trc" });
-    await losses.getByText("trc-marker-gaps").waitFor();
+    await losses.locator('[data-finding="trc-marker-gaps"]').waitFor();
     await dialog.getByLabel("Range").click();
     await dialog.getByLabel("From", { exact: true }).fill("0");
     await dialog.getByLabel("From", { exact: true }).press("Enter");

@@ -16,7 +16,7 @@ function atImport(work) {
     await desk.importFile("walk.trc");
     const dialog = desk.dialog("ImportTRC");
     const losses = desk.page.getByRole("region", { name: "What becomes of walk.trc" });
-    await losses.getByText("trc-marker-gaps").waitFor();
+    await losses.locator('[data-finding="trc-marker-gaps"]').waitFor();
     await work(desk, dialog, losses);
   });
 }

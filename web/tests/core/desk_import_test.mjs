@@ -1,7 +1,7 @@
 import assert from "node:assert/strict";
 import { test } from "node:test";
 import { example, hurryClock } from "./built_core.mjs";
-import { CONTROL, DIALOG, Person, programFile } from "./desk_person.mjs";
+import { CONTROL, DIALOG, Person, programFile, programJson } from "./desk_person.mjs";
 
 const walk = { path: "walk.htr", bytes: example("walk.htr") };
 const markers = { path: "walk.trc", bytes: example("walk.trc") };
@@ -128,6 +128,42 @@ for (const { file, flags, use } of IMPORTS) {
     assert.deepEqual(await person.save("scene.glb"), expected);
   });
 }
+
+/** What is told when "other.htr", one of whose segments the scene calls otherwise, is imported into a scene that has another rate. */
+async function besideOther() {
+  const person = await Person.sit();
+  await person.import(walk.path, walk.bytes);
+  const scene = { path: "scene.glb", bytes: await person.save("scene.glb") };
+  const text = Buffer.from(walk.bytes).toString("latin1").replaceAll("Chest", "Chess");
+  const other = { path: "other.htr", bytes: new Uint8Array(Buffer.from(text, "latin1")) };
+  person.put(other.path, other.bytes.slice());
+  await person.doUntil({ did: "select", nodes: [person.node("Hips")], number: 1 }, "selection");
+  const losses = await person.doUntil({ did: "import", path: other.path }, "losses");
+  const byProgram = async (...flags) => {
+    const verb = ["import", other.path, "--into", scene.path, "-o", "new.glb", "--frame-rate", "keep", ...flags];
+    return codesOf(await programJson(verb, [scene, other]));
+  };
+  return { person, losses, byProgram };
+}
+
+const codesOf = ({ findings }) => findings.map(({ code, severity }) => `${severity} ${code}`);
+
+test("what an import makes of its file is told before, as the program tells it, by what the dialog shows", async () => {
+  const { person, losses, byProgram } = await besideOther();
+  assert.deepEqual(codesOf(losses), await byProgram("--create"));
+  assert.deepEqual(codesOf(losses), ["warning apply-rate-differs"]);
+  const applied = await person.press(DIALOG.importHtr, CONTROL.apply, "losses");
+  assert.deepEqual(codesOf(applied), await byProgram("--apply", "--select", "Hips"));
+  assert.ok(applied.findings.some(({ text }) => text.startsWith("11 names of the file are not among")));
+  await person.press(DIALOG.importHtr, CONTROL.frameRate, "losses");
+  await person.click(DIALOG.importHtr, CONTROL.range);
+  person.type(DIALOG.importHtr, CONTROL.from, "10");
+  const moved = await person.until("losses");
+  assert.ok(codesOf(moved).some((code) => code.endsWith(" apply-range-moves")));
+  const report = await person.press(DIALOG.importHtr, CONTROL.ok, "report");
+  assert.deepEqual(report.findings, moved.findings);
+  await person.until("done");
+});
 
 test("a text that is typed while a message waits is taken back", async () => {
   const { person } = await opened(markers.path, markers.bytes);
